@@ -1,0 +1,58 @@
+# What every target of this project has in common.
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+endif()
+
+# gesturewidget_defaults(TARGET): language, warnings, Qt's generators and the rules that
+# this project's sources keep. Files are included by their path from the project's root.
+function(gesturewidget_defaults target)
+  set_target_properties(${target} PROPERTIES
+    CXX_STANDARD 17
+    CXX_STANDARD_REQUIRED ON
+    CXX_EXTENSIONS OFF
+    CXX_VISIBILITY_PRESET hidden
+    VISIBILITY_INLINES_HIDDEN ON
+    POSITION_INDEPENDENT_CODE ON
+    AUTOMOC ON
+    AUTORCC ON
+    BUILD_RPATH_USE_ORIGIN ON)
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wshadow -Wconversion -Wno-sign-conversion)
+  target_compile_definitions(${target} PRIVATE
+    QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
+    QT_DISABLE_DEPRECATED_BEFORE=0x050d00)
+  if(GESTUREWIDGET_SANITIZE)
+    target_compile_options(${target} PRIVATE -fsanitize=address,undefined
+                                             -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    target_link_options(${target} PRIVATE -fsanitize=address,undefined)
+  endif()
+endfunction()
+
+# gesturewidget_library(NAME ALIAS SOURCES... [LIBRARIES...]): a static library that ends
+# up inside the module; ALIAS is its name behind "GestureWidget::".
+function(gesturewidget_library name alias)
+  cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
+  add_library(${name} STATIC ${arg_SOURCES})
+  add_library(GestureWidget::${alias} ALIAS ${name})
+  gesturewidget_defaults(${name})
+  target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}")
+  target_link_libraries(${name} PUBLIC ${arg_LIBRARIES})
+endfunction()
+
+# gesturewidget_test(NAME SOURCES... [LIBRARIES...] [LABELS...]): a Qt test program that
+# runs offscreen. An unexpected Qt warning fails it, see tests/support/FatalWarnings.h.
+function(gesturewidget_test name)
+  cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES;LABELS" ${ARGN})
+  add_executable(${name} ${arg_SOURCES})
+  gesturewidget_defaults(${name})
+  target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}")
+  target_compile_definitions(${name} PRIVATE TESTS_SOURCE_DIR="${PROJECT_SOURCE_DIR}/tests")
+  target_link_libraries(${name} PRIVATE ${arg_LIBRARIES} Qt${GESTUREWIDGET_QT}::Widgets
+                                        Qt${GESTUREWIDGET_QT}::Test)
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LANG=C.UTF-8;QT_QPA_PLATFORMTHEME=;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp"
+    TIMEOUT 120
+    LABELS "${arg_LABELS}")
+endfunction()

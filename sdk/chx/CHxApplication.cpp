@@ -1,0 +1,3 @@
+#include "sdk/chx/CHxApplication.h"
+
+CHxApplication::~CHxApplication() = default;

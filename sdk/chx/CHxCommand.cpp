@@ -1,0 +1,28 @@
+#include "sdk/chx/CHxCommand.h"
+
+#include "sdk/chx/CHxSystemServices.h"
+
+CHxCommandContext::~CHxCommandContext() = default;
+
+CHxCommand::~CHxCommand() = default;
+
+OdString CHxCommand::groupName() const
+{
+    return OdString("HX_COMMANDS", kOdAnsiCodePage);
+}
+
+void CHxCommand::execute(OdEdCommandContext *context)
+{
+    Execute(dynamic_cast<CHxCommandContext *>(context));
+}
+
+void CHxCommand::Help() const
+{
+    if (CHxSystemServices *services = GetHxSystemServices())
+        services->ShowHelp(GetHelpId());
+}
+
+int CHxCommand::GetHelpId() const
+{
+    return 0;
+}

@@ -1,0 +1,3 @@
+#include "sdk/chx/CHxDocument.h"
+
+CHxDocument::~CHxDocument() = default;

@@ -1,0 +1,5 @@
+#include "sdk/chx/CHxDocumentManager.h"
+
+CHxDocumentIterator::~CHxDocumentIterator() = default;
+
+CHxDocumentManager::~CHxDocumentManager() = default;

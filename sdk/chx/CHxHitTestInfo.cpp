@@ -1,0 +1,3 @@
+#include "sdk/chx/CHxHitTestInfo.h"
+
+CHxHitTestInfo::~CHxHitTestInfo() = default;

@@ -1,0 +1,3 @@
+#include "sdk/chx/CHxInputPointManager.h"
+
+CHxInputPointManager::~CHxInputPointManager() = default;

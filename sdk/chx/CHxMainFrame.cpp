@@ -1,0 +1,3 @@
+#include "sdk/chx/CHxMainFrame.h"
+
+CHxMainFrame::~CHxMainFrame() = default;

@@ -1,0 +1,3 @@
+#include "sdk/chx/CHxProfileStore.h"
+
+CHxProfileStore::~CHxProfileStore() = default;

@@ -1,0 +1,28 @@
+#include "sdk/chx/CHxSystemServices.h"
+
+#include "sdk/chx/CHxDocument.h"
+#include "sdk/chx/CHxDocumentManager.h"
+
+namespace {
+CHxSystemServices *currentServices = nullptr;
+}
+
+CHxCommandResult::~CHxCommandResult() = default;
+
+CHxSystemServices::~CHxSystemServices() = default;
+
+CHxSystemServices *GetHxSystemServices()
+{
+    return currentServices;
+}
+
+void SetHxSystemServices(CHxSystemServices *services)
+{
+    currentServices = services;
+}
+
+CHxDocument *ACTIVE_DOCUMENT()
+{
+    CHxDocumentManager *manager = currentServices ? currentServices->GetDocumentManager() : nullptr;
+    return manager ? manager->GetActiveDocument() : nullptr;
+}

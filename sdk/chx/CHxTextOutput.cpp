@@ -1,0 +1,3 @@
+#include "sdk/chx/CHxTextOutput.h"
+
+CHxTextOutput::~CHxTextOutput() = default;

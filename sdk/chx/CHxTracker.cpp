@@ -1,0 +1,15 @@
+#include "sdk/chx/CHxTracker.h"
+
+CHxTracker::~CHxTracker() = default;
+
+bool CHxTracker::CheckRegenAbort(const CHxInputPointManager *) const
+{
+    return false;
+}
+
+CHxString CHxTracker::GetName() const
+{
+    return {};
+}
+
+void CHxTracker::OnMainSelectionSetChanged(const CHxHitTestInfo *) { }

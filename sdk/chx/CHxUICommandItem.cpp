@@ -1,0 +1,3 @@
+#include "sdk/chx/CHxUICommandItem.h"
+
+CHxUICommandItem::~CHxUICommandItem() = default;

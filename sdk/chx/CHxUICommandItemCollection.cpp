@@ -1,0 +1,3 @@
+#include "sdk/chx/CHxUICommandItemCollection.h"
+
+CHxUICommandItemCollection::~CHxUICommandItemCollection() = default;

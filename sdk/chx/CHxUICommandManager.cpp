@@ -1,0 +1,5 @@
+#include "sdk/chx/CHxUICommandManager.h"
+
+CHxUICommandGroup::~CHxUICommandGroup() = default;
+
+CHxUICommandManager::~CHxUICommandManager() = default;

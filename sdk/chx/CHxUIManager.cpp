@@ -1,0 +1,3 @@
+#include "sdk/chx/CHxUIManager.h"
+
+CHxUIManager::~CHxUIManager() = default;

@@ -1,0 +1,3 @@
+#include "sdk/chx/CHxUIMenu.h"
+
+CHxUIMenu::~CHxUIMenu() = default;

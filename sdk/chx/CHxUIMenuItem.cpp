@@ -1,0 +1,3 @@
+#include "sdk/chx/CHxUIMenuItem.h"
+
+CHxUIMenuItem::~CHxUIMenuItem() = default;

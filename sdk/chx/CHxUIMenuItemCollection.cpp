@@ -1,0 +1,3 @@
+#include "sdk/chx/CHxUIMenuItemCollection.h"
+
+CHxUIMenuItemCollection::~CHxUIMenuItemCollection() = default;

@@ -1,0 +1,3 @@
+#include "sdk/chx/CHxUIWorkspace.h"
+
+CHxUIWorkspace::~CHxUIWorkspace() = default;

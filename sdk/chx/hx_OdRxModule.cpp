@@ -1,0 +1,3 @@
+#include "sdk/chx/hx_OdRxModule.h"
+
+hx_OdRxModule::~hx_OdRxModule() = default;

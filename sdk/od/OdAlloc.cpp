@@ -1,0 +1,13 @@
+#include "sdk/od/OdAlloc.h"
+
+#include <cstdlib>
+
+void *odrxAlloc(std::size_t bytes)
+{
+    return std::malloc(bytes);
+}
+
+void odrxFree(void *memory)
+{
+    std::free(memory);
+}

@@ -1,0 +1,17 @@
+#include "sdk/od/OdEdCommand.h"
+
+OdEdCommandContext::~OdEdCommandContext() = default;
+
+OdEdCommand::~OdEdCommand() = default;
+
+OdRxModule *OdEdCommand::module() const
+{
+    return nullptr;
+}
+
+void OdEdCommand::undefine(bool) { }
+
+long OdEdCommand::flags() const
+{
+    return 0;
+}

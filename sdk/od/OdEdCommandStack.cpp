@@ -1,0 +1,17 @@
+#include "sdk/od/OdEdCommandStack.h"
+
+namespace {
+OdEdCommandStack *currentStack = nullptr;
+}
+
+OdEdCommandStack::~OdEdCommandStack() = default;
+
+OdEdCommandStackPtr odedRegCmds()
+{
+    return OdEdCommandStackPtr(currentStack);
+}
+
+void odedSetCommandStack(OdEdCommandStack *stack)
+{
+    currentStack = stack;
+}

@@ -1,0 +1,17 @@
+#include "sdk/od/OdEditor.h"
+
+namespace {
+OdEditor *currentEditor = nullptr;
+}
+
+OdEditor::~OdEditor() = default;
+
+OdEditorPtr odedEditor()
+{
+    return OdEditorPtr(currentEditor);
+}
+
+void odedSetEditor(OdEditor *editor)
+{
+    currentEditor = editor;
+}

@@ -1,0 +1,18 @@
+#include "sdk/od/OdResBuf.h"
+
+#include "sdk/od/OdRxObjectImpl.h"
+
+OdResBuf::~OdResBuf() = default;
+
+OdResBufPtr OdResBuf::newString(const OdString &text)
+{
+    OdResBufPtr buffer(new OdRxObjectImpl<OdResBuf>, kOdRxAttach);
+    buffer->setString(text);
+    return buffer;
+}
+
+void OdResBuf::setString(const OdString &text)
+{
+    m_type = kString;
+    m_string = text;
+}

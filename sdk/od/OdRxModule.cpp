@@ -1,0 +1,3 @@
+#include "sdk/od/OdRxModule.h"
+
+OdRxModule::~OdRxModule() = default;

@@ -1,0 +1,3 @@
+#include "sdk/od/OdRxObject.h"
+
+OdRxObject::~OdRxObject() = default;

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <atomic>
+
+// Gives `Base` a heap life: it starts with one reference, which the creator hands to an
+// OdSmartPtr with kOdRxAttach, and deletes itself with the last.
+//
+//     return OdSmartPtr<OdResBuf>(new OdRxObjectImpl<OdResBuf>, kOdRxAttach);
+template <class Base> class OdRxObjectImpl : public Base
+{
+public:
+    using Base::Base;
+
+    void addRef() override { m_references.fetch_add(1, std::memory_order_relaxed); }
+    void release() override
+    {
+        if (m_references.fetch_sub(1, std::memory_order_acq_rel) == 1)
+            delete this;
+    }
+    [[nodiscard]] long numRefs() const override { return m_references.load(); }
+
+private:
+    std::atomic<long> m_references{1};
+};

@@ -1,0 +1,46 @@
+#include "tests/support/FatalWarnings.h"
+
+#include <QStringList>
+#include <QtGlobal>
+
+namespace tests {
+namespace {
+
+QStringList &collected()
+{
+    static QStringList list;
+    return list;
+}
+
+QtMessageHandler previousHandler = nullptr;
+
+void collect(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    // The offscreen platform says this of every window that has a parent on it.
+    const bool known = text.startsWith(QLatin1String("This plugin does not support"));
+    if ((type == QtWarningMsg || type == QtCriticalMsg) && !known)
+        collected().append(text);
+    if (previousHandler)
+        previousHandler(type, context, text);
+}
+
+} // namespace
+
+void failOnWarnings()
+{
+    const QtMessageHandler previous = qInstallMessageHandler(collect);
+    if (previous != collect)
+        previousHandler = previous;
+}
+
+void resetWarnings()
+{
+    collected().clear();
+}
+
+QString warnings()
+{
+    return collected().join(QLatin1Char('\n'));
+}
+
+} // namespace tests
