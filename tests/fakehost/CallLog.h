@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QStringList>
+
+#include <stdexcept>
+
+namespace tests {
+
+// What the module asked of the fake host, in order. A call named in `throwOn` throws
+// std::runtime_error after it has been noted.
+class CallLog
+{
+public:
+    void add(const QString &call)
+    {
+        calls.append(call);
+        if (!throwOn.isEmpty() && call.startsWith(throwOn))
+            throw std::runtime_error("the fake host was told to throw");
+    }
+    void clear() { calls.clear(); }
+    // The noted calls that begin with `prefix`.
+    [[nodiscard]] QStringList startingWith(const QString &prefix) const
+    {
+        QStringList found;
+        for (const QString &call : calls) {
+            if (call.startsWith(prefix))
+                found.append(call);
+        }
+        return found;
+    }
+
+    QStringList calls;
+    // Beginning of the calls that throw; empty for none.
+    QString throwOn;
+};
+
+} // namespace tests

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "sdk/chx/CHxIterator.h"
+
+#include <vector>
+
+namespace tests {
+
+// Walks a copy of a list and counts, in `alive`, the iterators that nobody deleted yet.
+template <class T> class FakeIterator : public CHxIterator<T>
+{
+public:
+    FakeIterator(std::vector<T *> items, int *alive)
+        : m_items(std::move(items))
+        , m_alive(alive)
+    {
+        ++*m_alive;
+    }
+    ~FakeIterator() override { --*m_alive; }
+
+    [[nodiscard]] bool Done() const override { return m_index >= m_items.size(); }
+    void Next() override { ++m_index; }
+    [[nodiscard]] T *Current() const override { return m_items.at(m_index); }
+
+private:
+    std::vector<T *> m_items;
+    std::size_t m_index = 0;
+    int *m_alive;
+};
+
+} // namespace tests

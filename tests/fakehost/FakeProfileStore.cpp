@@ -1,0 +1,40 @@
+#include "tests/fakehost/FakeProfileStore.h"
+
+namespace tests {
+
+QString FakeProfileStore::nameOf(const CHxString &section, const CHxString &key)
+{
+    if (section == CHxString("GestureWidget"))
+        return key.toQString();
+    return section.toQString() + QLatin1Char('/') + key.toQString();
+}
+
+bool FakeProfileStore::Exists(const CHxString &section, const CHxString &key)
+{
+    const QString name = nameOf(section, key);
+    m_log->add(QStringLiteral("store.exists ") + name);
+    return values.contains(name);
+}
+
+OdResBufPtr FakeProfileStore::Get(const CHxString &section, const CHxString &key, int source)
+{
+    const QString name = nameOf(section, key);
+    m_log->add(QStringLiteral("store.get %1 %2").arg(name).arg(source));
+    if (getFails || !values.contains(name))
+        return {};
+    return OdResBuf::newString(OdString(values.value(name)));
+}
+
+bool FakeProfileStore::Set(const CHxString &section, const CHxString &key, const OdResBuf *value)
+{
+    const QString name = nameOf(section, key);
+    const QString text = value->getString().toQString();
+    lastType = value->restype();
+    m_log->add(QStringLiteral("store.set %1=%2").arg(name, text));
+    if (setFails)
+        return false;
+    values.insert(name, text);
+    return true;
+}
+
+} // namespace tests

@@ -1,0 +1,189 @@
+#pragma once
+
+#include "sdk/chx/CHxUICommandItem.h"
+#include "sdk/chx/CHxUICommandItemCollection.h"
+#include "sdk/chx/CHxUICommandManager.h"
+#include "sdk/chx/CHxUIManager.h"
+#include "sdk/chx/CHxUIMenu.h"
+#include "sdk/chx/CHxUIMenuItem.h"
+#include "sdk/chx/CHxUIMenuItemCollection.h"
+#include "sdk/chx/CHxUIWorkspace.h"
+#include "tests/fakehost/CallLog.h"
+
+#include <memory>
+#include <vector>
+
+namespace tests {
+
+// A command item whose texts are plain members.
+class FakeCommandItem : public CHxUICommandItem
+{
+public:
+    [[nodiscard]] CHxString GetIdentifier() const override { return identifier; }
+    [[nodiscard]] CHxString GetCommandString() const override { return command; }
+    [[nodiscard]] CHxString GetCaption() const override { return caption; }
+    [[nodiscard]] CHxString GetTip() const override { return tip; }
+    [[nodiscard]] QIcon GetSmallIcon() const override { return smallIcon; }
+    [[nodiscard]] QIcon GetLargeIcon() const override { return largeIcon; }
+    void SetName(const CHxString &name) override { caption = name.toQString(); }
+    void SetMacro(const CHxString &macro) override { command = macro.toQString(); }
+    void SetStatusText(const CHxString &text) override { tip = text.toQString(); }
+
+    QString identifier;
+    QString command;
+    QString caption;
+    QString tip;
+    QIcon smallIcon;
+    QIcon largeIcon;
+};
+
+class FakeMenuItemCollection : public CHxUIMenuItemCollection
+{
+public:
+    [[nodiscard]] int GetCount() const override { return static_cast<int>(items.size()); }
+    [[nodiscard]] CHxUIMenuItem *GetItem(int index) const override;
+    void Append(CHxUIMenuItem *item) override { items.push_back(item); }
+    void Remove(CHxUIMenuItem *item) override;
+
+    // May hold nulls.
+    std::vector<CHxUIMenuItem *> items;
+};
+
+class FakeMenuItem : public CHxUIMenuItem
+{
+public:
+    [[nodiscard]] CHxString GetIdentifier() const override { return identifier; }
+    [[nodiscard]] CHxString GetText() const override { return text; }
+    void SetText(const CHxString &newText) override { text = newText.toQString(); }
+    [[nodiscard]] CHxUICommandItem *GetCommandItem() const override { return command; }
+    void SetCommandItem(CHxUICommandItem *item) override { command = item; }
+    [[nodiscard]] CHxUIMenuItemCollection *GetSubItems() const override { return subItems.get(); }
+
+    QString identifier;
+    QString text;
+    CHxUICommandItem *command = nullptr;
+    // Null for an entry that opens no menu.
+    std::unique_ptr<FakeMenuItemCollection> subItems;
+};
+
+class FakeMenu : public CHxUIMenu
+{
+public:
+    [[nodiscard]] CHxUIMenuItemCollection *GetItems() override { return hasItems ? &items : nullptr; }
+
+    bool hasItems = true;
+    FakeMenuItemCollection items;
+};
+
+// Notes "workspace.addCommandItem IDENTIFIER".
+class FakeWorkspace : public CHxUIWorkspace, public CHxUICommandItemCollection
+{
+public:
+    explicit FakeWorkspace(CallLog *log)
+        : m_log(log)
+    {
+    }
+
+    [[nodiscard]] CHxString GetName() const override { return name; }
+    [[nodiscard]] bool IsCurrent() const override { return current; }
+    [[nodiscard]] CHxUICommandItemCollection *GetCommandItems() override { return this; }
+    [[nodiscard]] CHxUIMenuItemCollection *GetMenuItems() override { return &menus; }
+    void Add(CHxUICommandItem *item) override;
+
+    QString name;
+    bool current = false;
+    // The workspace's top-level menus.
+    FakeMenuItemCollection menus;
+    std::vector<CHxUICommandItem *> commandItems;
+
+private:
+    CallLog *m_log;
+};
+
+// Notes "ui.workspaces", "ui.menus", "ui.find WORKSPACE IDENTIFIER", "ui.createCommandItem
+// IDENTIFIER FLAGS", "ui.removeCommandItem IDENTIFIER", "ui.createMenuItem FLAGS",
+// "ui.destroyMenuItem TEXT", "ui.refresh REBUILD".
+class FakeUIManager : public CHxUIManager
+{
+public:
+    explicit FakeUIManager(CallLog *log)
+        : m_log(log)
+    {
+    }
+
+    [[nodiscard]] std::unique_ptr<CHxIterator<CHxUIWorkspace>> NewWorkspaceIterator() override;
+    [[nodiscard]] std::unique_ptr<CHxIterator<CHxUIMenu>> NewMenuIterator() override;
+    [[nodiscard]] CHxUICommandItem *FindCommandItem(const CHxString &workspace,
+                                                    const CHxString &identifier) override;
+    [[nodiscard]] CHxUICommandItem *CreateCommandItem(const CHxString &identifier, int flags) override;
+    [[nodiscard]] bool Contains(const CHxUICommandItem *item) const override;
+    void RemoveCommandItem(CHxUICommandItem *item) override;
+    [[nodiscard]] CHxUIMenuItem *CreateMenuItem(int flags, const CHxString &identifier,
+                                                const CHxString &text, const CHxString &tip) override;
+    void DestroyMenuItem(CHxUIMenuItem *item) override;
+    void Refresh(bool rebuild) override;
+
+    // A workspace without menus; null ones are added to `workspaces` by hand.
+    FakeWorkspace *addWorkspace(const QString &name, bool current);
+    // A menu bar, and the top-level item below.
+    FakeMenu *addMenu();
+    // An entry appended to `parent` (null: owned, but in no collection). `isMenu` gives it
+    // sub-items of its own.
+    FakeMenuItem *addItem(FakeMenuItemCollection *parent, const QString &text, bool isMenu,
+                          const QString &identifier = {}, CHxUICommandItem *command = nullptr);
+
+    std::vector<CHxUIWorkspace *> workspaces;
+    std::vector<CHxUIMenu *> menus;
+    // Command items created by modules.
+    std::vector<std::unique_ptr<FakeCommandItem>> commandItems;
+    // Menu items created by modules or by addItem and not destroyed.
+    std::vector<std::unique_ptr<FakeMenuItem>> menuItems;
+    // Iterators that nobody deleted yet.
+    int iteratorsAlive = 0;
+
+private:
+    CallLog *m_log;
+    std::vector<std::unique_ptr<FakeWorkspace>> m_workspaces;
+    std::vector<std::unique_ptr<FakeMenu>> m_menus;
+};
+
+class FakeCommandGroup : public CHxUICommandGroup
+{
+public:
+    explicit FakeCommandGroup(int *iteratorsAlive)
+        : m_iteratorsAlive(iteratorsAlive)
+    {
+    }
+
+    [[nodiscard]] CHxString GetName() const override { return name; }
+    [[nodiscard]] std::unique_ptr<CHxIterator<CHxUICommandItem>> NewCommandIterator() override;
+
+    QString name;
+    // May hold nulls.
+    std::vector<CHxUICommandItem *> commands;
+
+private:
+    int *m_iteratorsAlive;
+};
+
+class FakeCommandManager : public CHxUICommandManager
+{
+public:
+    [[nodiscard]] std::unique_ptr<CHxIterator<CHxUICommandGroup>> NewGroupIterator() override;
+
+    // A group; null ones are added to `groups` by hand.
+    FakeCommandGroup *addGroup(const QString &name);
+    // A command in the last group (one is made if there is none).
+    FakeCommandItem *addCommand(const QString &identifier, const QString &command,
+                                const QString &caption, const QString &tip = {});
+
+    std::vector<CHxUICommandGroup *> groups;
+    // Iterators that nobody deleted yet.
+    int iteratorsAlive = 0;
+
+private:
+    std::vector<std::unique_ptr<FakeCommandGroup>> m_groups;
+    std::vector<std::unique_ptr<FakeCommandItem>> m_commands;
+};
+
+} // namespace tests
