@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+#include <QVariant>
+
+#include <map>
+#include <utility>
+
+// What the donut shows, by direction: sectors counter-clockwise from the top, from 0. Both
+// maps hold every direction below sectorCount.
+struct DonutHelperData
+{
+    // What the first half of a sector's pair says of the second.
+    static constexpr int kIcon = 0; // a QIcon to draw in the sector
+    static constexpr int kText = 1; // a QString to write in the sector; empty when unbound
+
+    int sectorCount = 0; // 4 or 8
+    std::map<int, std::pair<int, QVariant>> sectorVisuals;
+    std::map<int, QString> sectorTooltips;
+};

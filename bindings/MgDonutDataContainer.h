@@ -1,0 +1,100 @@
+#pragma once
+
+#include "bindings/DonutHelperData.h"
+#include "bindings/DonutScheme.h"
+#include "bindings/MgCommandDS.h"
+
+#include <QMap>
+#include <QString>
+#include <QtGlobal>
+
+#include <vector>
+
+class CHxUIMenuItemCollection;
+
+// The process's one set of gesture bindings: every command that the host offers, which of
+// them each direction runs, the scheme in use and whether gestures are on. Filled from the
+// host and the settings, which it repairs while reading them.
+//
+//     const QString command = MgDonutDataContainer::instance()->getCommandNameFromIndex(2);
+//
+// A direction index counts sectors counter-clockwise from the top, from 0. For the
+// user-interface thread only.
+class MgDonutDataContainer
+{
+public:
+    Q_DISABLE_COPY_MOVE(MgDonutDataContainer)
+
+    // The one object, created on first use; never null.
+    [[nodiscard]] static MgDonutDataContainer *instance();
+
+    [[nodiscard]] bool getGestureEnabled() const { return gestureEnabled; }
+    [[nodiscard]] DonutScheme getScheme() const { return scheme; }
+    // A copy of all records, in the host's order.
+    [[nodiscard]] std::vector<MgCommandDS> getCommandsDS() const { return commands; }
+
+    // The command string that a direction of the scheme in use runs; empty when the
+    // direction is unbound or there is no such direction. A pointer on a sector's border can
+    // really yield the sector count as its index.
+    [[nodiscard]] QString getCommandNameFromIndex(int direction) const;
+    // What the donut shows in each sector. Calls init() first, so that it shows what the
+    // host and the settings hold now.
+    [[nodiscard]] DonutHelperData getDonutHelperData();
+
+    // Reads the host's commands and all settings anew.
+    void init();
+    // The enable flag and the scheme from the settings; what is missing or malformed is
+    // written anew.
+    void applyCommonSettings();
+    // The directions of one scheme from the settings. Afterwards all keys of the scheme
+    // exist, and one whose command the host does not offer is empty.
+    void applyFourSettings();
+    void applyEightSettings();
+
+    // Takes over and keeps the bindings that `records` hold in their direction bytes. When
+    // two records name one direction the later one gets it, and the earlier keeps its byte
+    // until the next init(). A byte above the scheme's last direction binds nothing.
+    void update(const std::vector<MgCommandDS> &records, bool enabled, DonutScheme activeScheme);
+    // Writes the factory defaults and reads them back.
+    void applyDefaultSettings();
+    // Whether the eight scheme's directions are the factory defaults. Deliberately asks
+    // nothing else: neither the four scheme nor the flag nor the scheme in use.
+    [[nodiscard]] bool isDefaultSettingsEnabled() const;
+
+    // Walks all of the host's menus, see fcParseRecursive().
+    void fillCommandCategoryMap();
+    // Files every command below `items` in categoryMap: under `parentCategory` or, when that
+    // is empty, under the caption of the entry that leads to it. A later place replaces an
+    // earlier one.
+    void fcParseRecursive(QString parentCategory, CHxUIMenuItemCollection *items);
+    // The category of a command string: the translated "Others" when no menu holds it.
+    [[nodiscard]] QString getCategory(QString command) const;
+
+protected:
+    // Reads everything at once, by init(). Only instance() and tests make one.
+    MgDonutDataContainer();
+    ~MgDonutDataContainer();
+
+    std::vector<MgCommandDS> commands;
+    // By direction index: the place in `commands` of the bound record, or -1. Always of
+    // these lengths.
+    std::vector<int> fourTable; // 4
+    std::vector<int> eightTable; // 8
+    bool gestureEnabled = true;
+    DonutScheme scheme = DonutScheme::Eight;
+    QMap<QString, QString> categoryMap; // command string to category
+    bool largeIcons = false; // the host's setting as of the last init()
+
+    // What instance() gave out last; null before its first call.
+    static MgDonutDataContainer *_pinstance;
+
+private:
+    void readCommands();
+    void applyDirections(DonutScheme directionScheme);
+    [[nodiscard]] const std::vector<int> &activeTable() const;
+    // Null for a place where no record is.
+    [[nodiscard]] const MgCommandDS *recordAt(int place) const;
+
+    // The collections that fcParseRecursive() is inside of, outermost first.
+    std::vector<const CHxUIMenuItemCollection *> m_openMenus;
+};

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QString>
+#include <QtGlobal>
+
+// Keeps the settings: strings under the keys of SettingsKeys.h, in the section
+// "GestureWidget" of the host's profile store. Programs of older days kept them in
+// QSettings; what is found only there is copied over the first time it is read.
+//
+// Without a profile store all of this does nothing: writes vanish, no key exists and reading
+// leaves the value as it was.
+class MgDonutSettings
+{
+public:
+    Q_DISABLE_COPY_MOVE(MgDonutSettings)
+
+    // The one object; never null.
+    [[nodiscard]] static MgDonutSettings *instance();
+
+    // What a key holds at first; empty for a key that is none of the fourteen.
+    [[nodiscard]] QString getInitialValue(const QString &key) const;
+
+    // Always true: what the host makes of it is not looked at.
+    bool write(const QString &key, const QString &value);
+    // Fills `value` from the profile store, else from the older settings, else with the
+    // initial value, and keeps in the profile store what was not there yet. False, with
+    // `value` as it was and nothing kept, when the older settings hold a null value.
+    bool read(const QString &key, QString &value);
+    // Whether the profile store or the older settings hold the key.
+    [[nodiscard]] bool keyExists(const QString &key) const;
+
+    // Empties the older settings and writes the initial value of all fourteen keys. The
+    // name notwithstanding, the profile store is full afterwards: the container reads the
+    // defaults back from it.
+    void deleteAllKeys();
+
+    // Whether none of "41" to "44" exists.
+    [[nodiscard]] bool noFourKeyExists() const;
+    // Whether none of "81" to "88" exists.
+    [[nodiscard]] bool noEightKeyExists() const;
+
+protected:
+    MgDonutSettings() = default;
+    ~MgDonutSettings() = default;
+};
