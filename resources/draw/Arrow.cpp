@@ -3,25 +3,30 @@
 #include "resources/draw/Palette.h"
 
 #include <QPainter>
+#include <QPen>
 #include <QPolygonF>
 
 namespace draw {
 namespace {
 
-// Both shapes keep to even coordinates where their edges run along the pixels, so they
-// stay sharp when they are shown at half their size. Their heads are right-angled, which
-// makes the slanting one's edges run along the pixels too.
+// A dark rim around a light filling is seen on light, dark and coloured rows alike.
+constexpr double kRimWidth = 2.0;
+
+// The middle of the rim. Both shapes keep to odd coordinates where their edges run along
+// the pixels, so that the rim's own edges are even and stay sharp when the image is shown
+// at half its size. The heads are right-angled, which makes the slanting one's edges run
+// along the pixels too.
 const QPolygonF &upShape()
 {
     static const QPolygonF shape{
-        {{16, 2}, {28, 14}, {28, 16}, {20, 16}, {20, 30}, {12, 30}, {12, 16}, {4, 16}, {4, 14}}};
+        {{16, 2.5}, {29, 15.5}, {29, 17}, {21, 17}, {21, 29}, {11, 29}, {11, 17}, {3, 17}, {3, 15.5}}};
     return shape;
 }
 
 const QPolygonF &upLeftShape()
 {
     static const QPolygonF shape{
-        {{4, 4}, {22, 4}, {22, 6}, {17, 11}, {28, 22}, {22, 28}, {11, 17}, {6, 22}, {4, 22}}};
+        {{3, 3}, {23, 3}, {23, 6}, {18, 11}, {28, 21}, {21, 28}, {11, 18}, {6, 23}, {3, 23}}};
     return shape;
 }
 
@@ -33,8 +38,8 @@ QImage arrow(int index)
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(palette::kArrow);
+    painter.setPen(QPen(palette::kArrowRim, kRimWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.setBrush(palette::kHighlightEdge);
     // Each pair of directions is the pair before it, a quarter turn counter-clockwise.
     painter.translate(kArrowSize / 2.0, kArrowSize / 2.0);
     painter.rotate(-90.0 * (index / 2));

@@ -8,20 +8,23 @@
 // darker edges show where it is.
 namespace draw::palette {
 
-constexpr QColor kBandMiddle{255, 255, 255};
-constexpr QColor kBandEdge{216, 226, 236};
+constexpr QColor kBandMiddle{250, 252, 255};
+constexpr QColor kBandEdge{222, 231, 242};
 constexpr QColor kRim{22, 34, 48};
-constexpr QColor kShadow{10, 18, 28, 120};
+constexpr QColor kGleam{255, 255, 255};
+constexpr QColor kMark{70, 92, 116};
+constexpr QColor kShadow{10, 18, 28, 150};
 
 // The one strong colour, light enough for black text and for icons of any colour.
 constexpr QColor kHighlightMiddle{255, 206, 92};
 constexpr QColor kHighlightEdge{255, 176, 32};
-constexpr QColor kHighlightRim{168, 96, 0};
+constexpr QColor kHighlightRim{160, 88, 0};
+constexpr QColor kHighlightGleam{255, 232, 168};
 
 // A sector that is chosen but not pointed at.
 constexpr QColor kCheckedMiddle{255, 243, 214};
 constexpr QColor kCheckedEdge{255, 228, 168};
 
-constexpr QColor kArrow{28, 104, 178};
+constexpr QColor kArrowRim{58, 40, 8};
 
 } // namespace draw::palette

@@ -7,12 +7,13 @@
 #include <QPen>
 #include <QRadialGradient>
 
-#include <cmath>
-
 namespace draw {
 namespace {
 
 constexpr double kRimWidth = 1.2;
+constexpr double kGleamWidth = 1.0;
+// Where the marks that point outwards lie: between the inner rim and the labels.
+constexpr double kMarkRadius = 72.5;
 
 [[nodiscard]] QImage emptyImage()
 {
@@ -65,18 +66,67 @@ void paintShadow(QPainter &painter)
     painter.fillPath(bandPath(kInnerRadius - kShadowWidth, kOuterRadius + kShadowWidth), gradient);
 }
 
+// A thin bright line along the inside of both rims, which lifts the band off a dark drawing.
+void paintGleam(QPainter &painter, const QColor &color)
+{
+    painter.setPen(QPen(color, kGleamWidth));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(circle(kInnerRadius + kRimWidth + kGleamWidth / 2.0));
+    painter.drawEllipse(circle(kOuterRadius - kRimWidth - kGleamWidth / 2.0));
+}
+
+// Turns the painter so that the direction `angle` is up and the mark's place is the origin.
+void moveToMark(QPainter &painter, double angle)
+{
+    painter.translate(kCentre, kCentre);
+    painter.rotate(90.0 - angle);
+    painter.translate(0.0, -kMarkRadius);
+}
+
+// A small angle that points outwards.
+void paintChevron(QPainter &painter, double angle, const QColor &color)
+{
+    painter.save();
+    moveToMark(painter, angle);
+    painter.setPen(QPen(color, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const QPointF chevron[] = {{-3.5, 1.5}, {0.0, -2.0}, {3.5, 1.5}};
+    painter.drawPolyline(chevron, 3);
+    painter.restore();
+}
+
+void paintDot(QPainter &painter, double angle, const QColor &color)
+{
+    painter.save();
+    moveToMark(painter, angle);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawEllipse(QPointF(0.0, 0.0), 1.3, 1.3);
+    painter.restore();
+}
+
 [[nodiscard]] QImage sector(int count, int index, const QColor &middle, const QColor &edge,
-                            const QColor &rim)
+                            const QColor &rim, const QColor &gleam)
 {
     QImage image = emptyImage();
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     const QPainterPath path = sectorPath(count, index, kInnerRadius, kOuterRadius);
     painter.fillPath(path, bandGradient(middle, edge));
+    painter.setBrush(Qt::NoBrush);
+    painter.setClipPath(path);
+    paintGleam(painter, gleam);
     // Clipped to the sector, the inner half of a line of twice the width remains: no
     // pixel of the rim falls into a neighbour.
-    painter.setClipPath(path);
     painter.strokePath(path, QPen(rim, 2.0 * kRimWidth));
+    return image;
+}
+
+[[nodiscard]] QImage withChevron(QImage image, int count, int index, const QColor &color)
+{
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintChevron(painter, sectorCentre(count, index), color);
+    painter.end();
     return image;
 }
 
@@ -94,34 +144,44 @@ QImage ringBackground()
     painter.setBrush(Qt::NoBrush);
     painter.drawEllipse(circle(kInnerRadius + kRimWidth / 2.0));
     painter.drawEllipse(circle(kOuterRadius - kRimWidth / 2.0));
+    paintGleam(painter, palette::kGleam);
+    // Four and eight sectors share the directions along the axes; the diagonals between
+    // them are sectors of eight and the borders of four.
+    for (int i = 0; i < 8; ++i) {
+        if (i % 2 == 0)
+            paintChevron(painter, sectorCentre(8, i), palette::kMark);
+        else
+            paintDot(painter, sectorCentre(8, i), palette::kMark);
+    }
     return image;
 }
 
 QImage sectorHighlight(int count, int index)
 {
-    return sector(count, index, palette::kHighlightMiddle, palette::kHighlightEdge,
-                  palette::kHighlightRim);
+    return withChevron(sector(count, index, palette::kHighlightMiddle, palette::kHighlightEdge,
+                              palette::kHighlightRim, palette::kHighlightGleam),
+                       count, index, palette::kHighlightRim);
 }
 
 QImage sectorChecked(int count, int index)
 {
-    QImage image =
-        sector(count, index, palette::kCheckedMiddle, palette::kCheckedEdge, palette::kHighlightRim);
+    QImage image = sector(count, index, palette::kCheckedMiddle, palette::kCheckedEdge,
+                          palette::kHighlightRim, palette::kGleam);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    // Upright in every sector, between the inner rim and the label.
-    constexpr double kMarkRadius = 75.0;
-    const double angle = sectorCentre(count, index) * std::acos(-1.0) / 180.0;
-    painter.translate(kCentre + std::cos(angle) * kMarkRadius, kCentre - std::sin(angle) * kMarkRadius);
+    moveToMark(painter, sectorCentre(count, index));
+    painter.rotate(sectorCentre(count, index) - 90.0); // the mark stands upright everywhere
     painter.setPen(QPen(palette::kHighlightRim, 2.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    const QPointF mark[] = {{-4.0, 0.0}, {-1.0, 3.0}, {4.5, -3.5}};
+    const QPointF mark[] = {{-3.5, 0.5}, {-1.0, 3.0}, {4.0, -3.0}};
     painter.drawPolyline(mark, 3);
     return image;
 }
 
 QImage sectorPlain(int count, int index)
 {
-    return sector(count, index, palette::kBandMiddle, palette::kBandEdge, palette::kRim);
+    return withChevron(
+        sector(count, index, palette::kBandMiddle, palette::kBandEdge, palette::kRim, palette::kGleam),
+        count, index, palette::kMark);
 }
 
 } // namespace draw

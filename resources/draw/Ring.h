@@ -12,7 +12,7 @@ namespace draw {
 // A sector as it looks when the pointer is in it.
 [[nodiscard]] QImage sectorHighlight(int count, int index);
 
-// A sector that is chosen, with a check mark inside the circle of the labels.
+// A sector that is chosen, with a check mark between the inner edge and the label.
 [[nodiscard]] QImage sectorChecked(int count, int index);
 
 // A sector at rest.
