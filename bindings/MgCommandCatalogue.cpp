@@ -1,0 +1,58 @@
+// The part of the binding container that files the host's commands under its menus.
+
+#include "bindings/MgDonutDataContainer.h"
+#include "sdk/chx/CHxSystemServices.h"
+#include "sdk/chx/CHxUICommandItem.h"
+#include "sdk/chx/CHxUIManager.h"
+#include "sdk/chx/CHxUIMenu.h"
+#include "sdk/chx/CHxUIMenuItem.h"
+#include "sdk/chx/CHxUIMenuItemCollection.h"
+
+#include <QObject>
+
+#include <algorithm>
+
+void MgDonutDataContainer::fillCommandCategoryMap()
+{
+    CHxSystemServices *services = GetHxSystemServices();
+    CHxUIManager *manager = services ? services->GetUIManager() : nullptr;
+    if (!manager)
+        return;
+
+    const auto menu = manager->NewMenuIterator();
+    if (!menu)
+        return;
+    for (; !menu->Done(); menu->Next()) {
+        if (CHxUIMenu *current = menu->Current())
+            fcParseRecursive({}, current->GetItems());
+    }
+}
+
+void MgDonutDataContainer::fcParseRecursive(QString parentCategory, CHxUIMenuItemCollection *items)
+{
+    if (!items)
+        return;
+    // A menu that contains itself must not run the host out of stack.
+    if (std::find(m_openMenus.begin(), m_openMenus.end(), items) != m_openMenus.end())
+        return;
+
+    m_openMenus.push_back(items);
+    // Reading an entry may change the menu that it is in: the count is asked for every time.
+    for (int i = 0; i < items->GetCount(); ++i) {
+        const CHxUIMenuItem *item = items->GetItem(i);
+        if (!item)
+            continue;
+        QString category = parentCategory.isEmpty() ? item->GetText().toQString() : parentCategory;
+        category.remove(QLatin1Char('&'));
+        if (const CHxUICommandItem *command = item->GetCommandItem())
+            categoryMap.insert(command->GetCommandString().toQString(), category);
+        fcParseRecursive(category, item->GetSubItems());
+    }
+    m_openMenus.pop_back();
+}
+
+QString MgDonutDataContainer::getCategory(QString command) const
+{
+    const auto found = categoryMap.constFind(command);
+    return found == categoryMap.constEnd() ? QObject::tr("Others") : found.value();
+}
