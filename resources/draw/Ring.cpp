@@ -34,7 +34,7 @@ constexpr double kMarkRadius = 72.5;
 
 [[nodiscard]] QColor faded(QColor color, double factor)
 {
-    color.setAlphaF(color.alphaF() * factor);
+    color.setAlpha(qRound(color.alpha() * factor));
     return color;
 }
 
@@ -53,7 +53,7 @@ constexpr double kMarkRadius = 72.5;
 // The soft dark edge outside and inside the band, which sets it off from a light drawing.
 void paintShadow(QPainter &painter)
 {
-    // A quarter of the strength at half the way looks like a blur.
+    // Less than half the strength at half the way looks like a blur.
     constexpr double kHalfway = 0.3;
     const QColor dark = palette::kShadow;
     QRadialGradient gradient = gradientFromCentre();
@@ -107,17 +107,24 @@ void paintDot(QPainter &painter, double angle, const QColor &color)
 [[nodiscard]] QImage sector(int count, int index, const QColor &middle, const QColor &edge,
                             const QColor &rim, const QColor &gleam)
 {
+    const QPainterPath path = sectorPath(count, index, kInnerRadius, kOuterRadius);
+    QImage mask = emptyImage();
+    QPainter maskPainter(&mask);
+    maskPainter.setRenderHint(QPainter::Antialiasing);
+    maskPainter.fillPath(path, Qt::black);
+    maskPainter.end();
+
     QImage image = emptyImage();
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QPainterPath path = sectorPath(count, index, kInnerRadius, kOuterRadius);
-    painter.fillPath(path, bandGradient(middle, edge));
-    painter.setBrush(Qt::NoBrush);
-    painter.setClipPath(path);
+    painter.fillRect(image.rect(), bandGradient(middle, edge));
     paintGleam(painter, gleam);
-    // Clipped to the sector, the inner half of a line of twice the width remains: no
-    // pixel of the rim falls into a neighbour.
+    // Of a line along the border the mask leaves the inner half, hence twice the width.
     painter.strokePath(path, QPen(rim, 2.0 * kRimWidth));
+    // Cut out once and at the end: the edges are as opaque as the sector covers them, so
+    // neighbours together are exactly the ring.
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    painter.drawImage(0, 0, mask);
     return image;
 }
 

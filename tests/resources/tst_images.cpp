@@ -1,0 +1,537 @@
+// The embedded images: all there, of the right size, and each highlight in its own sector.
+
+#include "tests/support/FatalWarnings.h"
+
+#include <QDir>
+#include <QImage>
+#include <QtTest>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+const QString kFolder = QStringLiteral(":/gesturewidgetimages/Resources/");
+const QString kRoot = QStringLiteral(":/gesturewidgetimages/");
+
+constexpr int kSize = 250;
+constexpr double kCentre = 125.0;
+constexpr double kLabelRadius = 93.0;
+constexpr double kAcceptRadius = 69.0;
+// The overlay's opacity for the ring.
+constexpr double kRingOpacity = 120.0 / 255.0;
+
+// How far in pixels an antialiased edge may reach to either side of a sector's border:
+// half a pixel's diagonal is 0.71. The band's own radii are read off the pixels of the
+// ring, which adds as much once more.
+constexpr double kEdge = 1.0;
+constexpr double kRadialEdge = 1.5;
+
+const QStringList &fourNames()
+{
+    static const QStringList names{
+        QStringLiteral("gestureregion_top"), QStringLiteral("gestureregion_left"),
+        QStringLiteral("gestureregion_bottom"), QStringLiteral("gestureregion_right")};
+    return names;
+}
+
+// In the order of the sectors: 0 is up, then counter-clockwise.
+const QStringList &eightNames()
+{
+    static const QStringList names{QStringLiteral("gestureregion3"), QStringLiteral("gestureregion4"),
+                                   QStringLiteral("gestureregion5"), QStringLiteral("gestureregion6"),
+                                   QStringLiteral("gestureregion7"), QStringLiteral("gestureregion8"),
+                                   QStringLiteral("gestureregion1"), QStringLiteral("gestureregion2")};
+    return names;
+}
+
+const QStringList &arrowNames()
+{
+    static const QStringList names{QStringLiteral("up"),    QStringLiteral("up_left"),
+                                   QStringLiteral("left"),  QStringLiteral("down_left"),
+                                   QStringLiteral("down"),  QStringLiteral("down_right"),
+                                   QStringLiteral("right"), QStringLiteral("up_right")};
+    return names;
+}
+
+QStringList numbers()
+{
+    QStringList result;
+    for (int i = 0; i < 4; ++i)
+        result << QString::number(40 + i);
+    for (int i = 0; i < 8; ++i)
+        result << QString::number(80 + i);
+    return result;
+}
+
+QImage load(const QString &path)
+{
+    return QImage(path).convertToFormat(QImage::Format_ARGB32);
+}
+
+struct Place
+{
+    double radius;
+    double angle; // degrees in [0, 360), counter-clockwise from right
+};
+
+// Of the middle of a pixel.
+Place placeOf(int x, int y)
+{
+    const double dx = x + 0.5 - kCentre;
+    const double dy = kCentre - (y + 0.5);
+    const double angle = std::atan2(dy, dx) * 180.0 / M_PI;
+    return {std::hypot(dx, dy), angle < 0.0 ? angle + 360.0 : angle};
+}
+
+// Signed distance in pixels, along the circle, of a place from the nearer border of a
+// sector; positive inside.
+double depthInSector(const Place &place, int count, int index)
+{
+    const double centre = 90.0 + index * 360.0 / count;
+    const double off = std::abs(std::remainder(place.angle - centre, 360.0));
+    return (180.0 / count - off) * M_PI / 180.0 * place.radius;
+}
+
+// The band, as the ring's own opaque pixels show it.
+struct Band
+{
+    double inner = kSize;
+    double outer = 0.0;
+};
+
+Band bandOf(const QImage &ring)
+{
+    Band band;
+    for (int y = 0; y < kSize; ++y) {
+        for (int x = 0; x < kSize; ++x) {
+            if (qAlpha(ring.pixel(x, y)) < 255)
+                continue;
+            const double radius = placeOf(x, y).radius;
+            band.inner = std::min(band.inner, radius);
+            band.outer = std::max(band.outer, radius);
+        }
+    }
+    return band;
+}
+
+double linear(int channel)
+{
+    const double value = channel / 255.0;
+    return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+}
+
+double luminance(QRgb color)
+{
+    return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) + 0.0722 * linear(qBlue(color));
+}
+
+// Contrast of two luminances, 1 to 21.
+double contrast(double a, double b)
+{
+    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+// `top` at `opacity` over an opaque ground.
+QRgb blend(QRgb top, double opacity, QRgb ground)
+{
+    const double alpha = qAlpha(top) / 255.0 * opacity;
+    const auto mix = [alpha](int a, int b) { return qRound(a * alpha + b * (1.0 - alpha)); };
+    return qRgb(mix(qRed(top), qRed(ground)), mix(qGreen(top), qGreen(ground)),
+                mix(qBlue(top), qBlue(ground)));
+}
+
+} // namespace
+
+class tst_Images : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { tests::failOnWarnings(); }
+    void init() { tests::resetWarnings(); }
+    void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
+
+    void sizes_data();
+    void sizes();
+    void nothingElseIsEmbedded();
+
+    void ringHasAHoleAndRoomForLabels();
+    void ringIsTheSameInEverySector();
+    void labelsAreReadable_data();
+    void labelsAreReadable();
+    void ringShowsOnEveryDrawing_data();
+    void ringShowsOnEveryDrawing();
+
+    void sectorKeepsToItself_data();
+    void sectorKeepsToItself();
+    void sectorsCoverTheRing_data();
+    void sectorsCoverTheRing();
+    void variantsDiffer_data();
+    void variantsDiffer();
+
+    void arrowsAreAllDifferent();
+    void arrowPointsItsWay_data();
+    void arrowPointsItsWay();
+    void arrowsAreTurnsOfEachOther();
+    void arrowShowsOnEveryRow_data();
+    void arrowShowsOnEveryRow();
+};
+
+void tst_Images::sizes_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QSize>("size");
+
+    const QSize ring(250, 250);
+    const QSize arrow(32, 32);
+    const auto add = [](const QString &path, const QSize &size) {
+        QTest::newRow(qPrintable(path)) << path << size;
+    };
+    add(kFolder + QStringLiteral("gesture_widget.png"), ring);
+    for (const QString &name : fourNames() + eightNames()) {
+        add(kFolder + name + QStringLiteral(".png"), ring);
+        add(kFolder + name + QStringLiteral("_text_checked.png"), ring);
+    }
+    for (const QString &name : arrowNames())
+        add(kFolder + name + QStringLiteral(".png"), arrow);
+    add(kRoot + QStringLiteral("backgroundDonut.png"), ring);
+    for (const QString &number : numbers()) {
+        add(kRoot + QStringLiteral("targetDonut_%1.png").arg(number), ring);
+        add(kRoot + QStringLiteral("targetDonutOver_%1.png").arg(number), ring);
+    }
+}
+
+void tst_Images::sizes()
+{
+    QFETCH(QString, path);
+    QFETCH(QSize, size);
+
+    const QImage image(path);
+    QVERIFY(!image.isNull());
+    QCOMPARE(image.size(), size);
+    QVERIFY(image.hasAlphaChannel());
+    QCOMPARE(qAlpha(image.pixel(0, 0)), 0);
+}
+
+void tst_Images::nothingElseIsEmbedded()
+{
+    // The ring, 12 regions twice, 8 arrows.
+    QCOMPARE(QDir(kFolder).entryList(QDir::Files).size(), 33);
+    // The ring once more, 12 numbered sectors twice.
+    QCOMPARE(QDir(kRoot).entryList(QDir::Files).size(), 25);
+}
+
+void tst_Images::ringHasAHoleAndRoomForLabels()
+{
+    const QImage ring = load(kFolder + QStringLiteral("gesture_widget.png"));
+    const Band band = bandOf(ring);
+
+    // Entering the band runs the command: its edge lies within the accepting distance,
+    // and not far within.
+    QVERIFY2(band.inner < kAcceptRadius, qPrintable(QString::number(band.inner)));
+    QVERIFY2(band.inner > kAcceptRadius - 8.0, qPrintable(QString::number(band.inner)));
+    // An icon of 20 pixels, turned by any angle, fits into the band around radius 93.
+    QVERIFY(band.inner < kLabelRadius - 15.0);
+    QVERIFY(band.outer > kLabelRadius + 15.0);
+    // The labels run along the band's middle.
+    QVERIFY(std::abs((band.inner + band.outer) / 2.0 - kLabelRadius) < 1.0);
+
+    for (int y = 0; y < kSize; ++y) {
+        for (int x = 0; x < kSize; ++x) {
+            const double radius = placeOf(x, y).radius;
+            if (radius < 55.0)
+                QCOMPARE(qAlpha(ring.pixel(x, y)), 0); // the drawing shows
+            else if (radius > band.inner + kRadialEdge && radius < band.outer - kRadialEdge)
+                QCOMPARE(qAlpha(ring.pixel(x, y)), 255);
+            else if (radius > kCentre)
+                QCOMPARE(qAlpha(ring.pixel(x, y)), 0); // a soft edge that ends in the image
+        }
+    }
+}
+
+void tst_Images::ringIsTheSameInEverySector()
+{
+    const QImage ring = load(kFolder + QStringLiteral("gesture_widget.png"));
+    const QImage turned = ring.transformed(QTransform().rotate(90.0)).convertToFormat(ring.format());
+    int worst = 0;
+    for (int y = 0; y < kSize; ++y) {
+        for (int x = 0; x < kSize; ++x) {
+            const QRgb a = ring.pixel(x, y);
+            const QRgb b = turned.pixel(x, y);
+            worst = std::max(worst, std::abs(qAlpha(a) - qAlpha(b)));
+            if (qAlpha(a) == 255 && qAlpha(b) == 255)
+                worst = std::max(worst, std::abs(qGreen(a) - qGreen(b)));
+        }
+    }
+    QVERIFY2(worst <= 12, qPrintable(QString::number(worst)));
+}
+
+void tst_Images::labelsAreReadable_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<double>("opacity");
+    QTest::addColumn<double>("wanted");
+
+    // 4.5 to 1 is what small text needs; a black drawing is the worst there is.
+    QTest::newRow("ring") << QStringLiteral("gesture_widget") << kRingOpacity << 4.5;
+    for (const QString &name : fourNames() + eightNames()) {
+        QTest::newRow(qPrintable(name)) << name << 1.0 << 7.0;
+        const QString checked = name + QStringLiteral("_text_checked");
+        QTest::newRow(qPrintable(checked)) << checked << 1.0 << 7.0;
+    }
+}
+
+void tst_Images::labelsAreReadable()
+{
+    QFETCH(QString, name);
+    QFETCH(double, opacity);
+    QFETCH(double, wanted);
+
+    const QImage image = load(kFolder + name + QStringLiteral(".png"));
+    int seen = 0;
+    for (int y = 0; y < kSize; ++y) {
+        for (int x = 0; x < kSize; ++x) {
+            const Place place = placeOf(x, y);
+            // The strip that texts and icons lie on, away from the borders of sectors.
+            const double border = std::abs(std::remainder(place.angle, 22.5));
+            if (std::abs(place.radius - kLabelRadius) > 10.0 || border < 2.0
+                || qAlpha(image.pixel(x, y)) < 255)
+                continue;
+            ++seen;
+            const double behind = luminance(blend(image.pixel(x, y), opacity, qRgb(0, 0, 0)));
+            QVERIFY2(contrast(behind, 0.0) >= wanted,
+                     qPrintable(QString::number(contrast(behind, 0.0))));
+        }
+    }
+    QVERIFY2(seen > 500, qPrintable(QString::number(seen)));
+}
+
+void tst_Images::ringShowsOnEveryDrawing_data()
+{
+    QTest::addColumn<int>("gray");
+    for (const int gray : {0, 64, 128, 192, 255})
+        QTest::newRow(qPrintable(QString::number(gray))) << gray;
+}
+
+void tst_Images::ringShowsOnEveryDrawing()
+{
+    QFETCH(int, gray);
+    const QRgb ground = qRgb(gray, gray, gray);
+    const QImage ring = load(kFolder + QStringLiteral("gesture_widget.png"));
+    // In every direction something in the ring stands out from the drawing.
+    for (int degrees = 0; degrees < 360; degrees += 5) {
+        double best = 1.0;
+        for (double radius = 60.0; radius < kCentre; radius += 0.5) {
+            const double angle = degrees * M_PI / 180.0;
+            const int x = static_cast<int>(kCentre + std::cos(angle) * radius);
+            const int y = static_cast<int>(kCentre - std::sin(angle) * radius);
+            best = std::max(best, contrast(luminance(blend(ring.pixel(x, y), kRingOpacity, ground)),
+                                           luminance(ground)));
+        }
+        QVERIFY2(best > 1.4, qPrintable(QStringLiteral("%1 at %2 degrees").arg(best).arg(degrees)));
+    }
+}
+
+void tst_Images::sectorKeepsToItself_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<int>("count");
+    QTest::addColumn<int>("index");
+
+    const auto add = [](const QString &path, int count, int index) {
+        QTest::newRow(qPrintable(path)) << path << count << index;
+    };
+    for (const int count : {4, 8}) {
+        const QStringList names = count == 4 ? fourNames() : eightNames();
+        for (int i = 0; i < count; ++i) {
+            add(kFolder + names.at(i) + QStringLiteral(".png"), count, i);
+            add(kFolder + names.at(i) + QStringLiteral("_text_checked.png"), count, i);
+            add(kRoot + QStringLiteral("targetDonut_%1%2.png").arg(count).arg(i), count, i);
+            add(kRoot + QStringLiteral("targetDonutOver_%1%2.png").arg(count).arg(i), count, i);
+        }
+    }
+}
+
+void tst_Images::sectorKeepsToItself()
+{
+    QFETCH(QString, path);
+    QFETCH(int, count);
+    QFETCH(int, index);
+
+    const QImage image = load(path);
+    const Band band = bandOf(load(kFolder + QStringLiteral("gesture_widget.png")));
+    int covered = 0;
+    for (int y = 0; y < kSize; ++y) {
+        for (int x = 0; x < kSize; ++x) {
+            const Place place = placeOf(x, y);
+            const double depth = depthInSector(place, count, index);
+            const int alpha = qAlpha(image.pixel(x, y));
+            const QString where = QStringLiteral("(%1, %2): radius %3, depth %4, alpha %5")
+                                      .arg(x)
+                                      .arg(y)
+                                      .arg(place.radius)
+                                      .arg(depth)
+                                      .arg(alpha);
+            if (depth < -kEdge || place.radius < band.inner - kRadialEdge
+                || place.radius > band.outer + kRadialEdge)
+                QVERIFY2(alpha == 0, qPrintable(where));
+            else if (depth > kEdge && place.radius > band.inner + kRadialEdge
+                     && place.radius < band.outer - kRadialEdge)
+                QVERIFY2(alpha == 255, qPrintable(where));
+            covered += alpha == 255 ? 1 : 0;
+        }
+    }
+    // Its share of the ring, the edges' pixels apart.
+    const double share = M_PI * (band.outer * band.outer - band.inner * band.inner) / count;
+    QVERIFY2(covered > share * 0.9 && covered < share * 1.02,
+             qPrintable(QString::number(covered / share)));
+}
+
+void tst_Images::sectorsCoverTheRing_data()
+{
+    QTest::addColumn<QStringList>("names");
+    QTest::newRow("four") << fourNames();
+    QTest::newRow("eight") << eightNames();
+}
+
+void tst_Images::sectorsCoverTheRing()
+{
+    QFETCH(QStringList, names);
+
+    const QImage ring = load(kFolder + QStringLiteral("gesture_widget.png"));
+    const Band band = bandOf(ring);
+    QVector<QImage> images;
+    for (const QString &name : names)
+        images << load(kFolder + name + QStringLiteral(".png"));
+    for (int y = 0; y < kSize; ++y) {
+        for (int x = 0; x < kSize; ++x) {
+            const double radius = placeOf(x, y).radius;
+            if (radius < band.inner + kRadialEdge || radius > band.outer - kRadialEdge)
+                continue;
+            // On a border the pixel belongs to two sectors, a share to each.
+            int sum = 0;
+            for (const QImage &image : qAsConst(images))
+                sum += qAlpha(image.pixel(x, y));
+            QVERIFY2(sum >= 250 && sum <= 262,
+                     qPrintable(QStringLiteral("(%1, %2): %3").arg(x).arg(y).arg(sum)));
+        }
+    }
+}
+
+void tst_Images::variantsDiffer_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const QString &name : fourNames() + eightNames())
+        QTest::newRow(qPrintable(name)) << name;
+}
+
+void tst_Images::variantsDiffer()
+{
+    QFETCH(QString, name);
+    QVERIFY(load(kFolder + name + QStringLiteral(".png"))
+            != load(kFolder + name + QStringLiteral("_text_checked.png")));
+}
+
+void tst_Images::arrowsAreAllDifferent()
+{
+    for (int i = 0; i < 8; ++i) {
+        const QImage a = load(kFolder + arrowNames().at(i) + QStringLiteral(".png"));
+        int opaque = 0;
+        for (int y = 0; y < a.height(); ++y) {
+            for (int x = 0; x < a.width(); ++x)
+                opaque += qAlpha(a.pixel(x, y)) == 255 ? 1 : 0;
+        }
+        QVERIFY2(opaque > 200, qPrintable(QString::number(opaque)));
+        for (int j = i + 1; j < 8; ++j)
+            QVERIFY(a != load(kFolder + arrowNames().at(j) + QStringLiteral(".png")));
+    }
+}
+
+void tst_Images::arrowPointsItsWay_data()
+{
+    QTest::addColumn<int>("index");
+    for (int i = 0; i < 8; ++i)
+        QTest::newRow(qPrintable(arrowNames().at(i))) << i;
+}
+
+void tst_Images::arrowPointsItsWay()
+{
+    QFETCH(int, index);
+
+    // Looked at along its direction an arrow is the same on both sides, broad where its
+    // head is and narrow behind.
+    const QImage image = load(kFolder + arrowNames().at(index) + QStringLiteral(".png"));
+    const double angle = (90.0 + 45.0 * index) * M_PI / 180.0;
+    const auto coverage = [&](double along, double across) {
+        const int x = static_cast<int>(16.0 + along * std::cos(angle) - across * std::sin(angle));
+        const int y = static_cast<int>(16.0 - along * std::sin(angle) - across * std::cos(angle));
+        return image.valid(x, y) ? qAlpha(image.pixel(x, y)) / 255.0 : 0.0;
+    };
+    double front = 0.0;
+    double behind = 0.0;
+    double both = 0.0;
+    double unequal = 0.0;
+    for (double along = -15.75; along < 16.0; along += 0.5) {
+        double breadth = 0.0;
+        for (double across = 0.25; across < 16.0; across += 0.5) {
+            breadth += 0.5 * (coverage(along, across) + coverage(along, -across));
+            both += coverage(along, across) + coverage(along, -across);
+            unequal += std::abs(coverage(along, across) - coverage(along, -across));
+        }
+        if (along > 0.0)
+            front = std::max(front, breadth);
+        else if (along < -4.0) // the head's back lies a little behind the middle
+            behind = std::max(behind, breadth);
+    }
+    QVERIFY2(front > 1.5 * behind, qPrintable(QStringLiteral("%1, %2").arg(front).arg(behind)));
+    QVERIFY2(unequal < 0.08 * both, qPrintable(QString::number(unequal / both)));
+}
+
+void tst_Images::arrowsAreTurnsOfEachOther()
+{
+    for (int i = 0; i < 8; ++i) {
+        const QImage arrow = load(kFolder + arrowNames().at(i) + QStringLiteral(".png"));
+        const QImage next = load(kFolder + arrowNames().at((i + 2) % 8) + QStringLiteral(".png"));
+        const QImage turned =
+            arrow.transformed(QTransform().rotate(-90.0)).convertToFormat(next.format());
+        int worst = 0;
+        for (int y = 0; y < next.height(); ++y) {
+            for (int x = 0; x < next.width(); ++x)
+                worst = std::max(worst, std::abs(qAlpha(next.pixel(x, y)) - qAlpha(turned.pixel(x, y))));
+        }
+        QVERIFY2(worst <= 24, qPrintable(QStringLiteral("%1: %2").arg(arrowNames().at(i)).arg(worst)));
+    }
+}
+
+void tst_Images::arrowShowsOnEveryRow_data()
+{
+    QTest::addColumn<QRgb>("row");
+    QTest::newRow("white") << qRgb(255, 255, 255);
+    QTest::newRow("selected") << qRgb(220, 220, 220);
+    QTest::newRow("under the pointer") << qRgb(48, 140, 198);
+    QTest::newRow("dark") << qRgb(43, 43, 43);
+    QTest::newRow("black") << qRgb(0, 0, 0);
+}
+
+void tst_Images::arrowShowsOnEveryRow()
+{
+    QFETCH(QRgb, row);
+    for (const QString &name : arrowNames()) {
+        // As an ordinary table row shows it.
+        const QImage image = load(kFolder + name + QStringLiteral(".png"))
+                                 .scaled(16, 16, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                                 .convertToFormat(QImage::Format_ARGB32);
+        int standingOut = 0;
+        for (int y = 0; y < 16; ++y) {
+            for (int x = 0; x < 16; ++x) {
+                if (contrast(luminance(blend(image.pixel(x, y), 1.0, row)), luminance(row)) >= 3.0)
+                    ++standingOut;
+            }
+        }
+        QVERIFY2(standingOut >= 24, qPrintable(QStringLiteral("%1: %2").arg(name).arg(standingOut)));
+    }
+}
+
+QTEST_MAIN(tst_Images)
+#include "tst_images.moc"
