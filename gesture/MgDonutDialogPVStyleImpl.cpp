@@ -1,0 +1,269 @@
+#include "gesture/MgDonutDialogPVStyleImpl.h"
+
+#include "bindings/DonutHelperData.h"
+#include "bindings/MgDonutDataContainer.h"
+#include "gesture/MgGrabKeeper.h"
+#include "sdk/chx/CHxApplication.h"
+#include "sdk/chx/CHxDocument.h"
+#include "sdk/chx/CHxSystemServices.h"
+#include "sdk/chx/CHxTextOutput.h"
+#include "sdk/QtBridge.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QImage>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+#include <cmath>
+
+namespace {
+
+// The pointer chooses its sector once it is farther out than this, straight, in pixels.
+constexpr double kAcceptDistance = 69.0;
+// Moves that stay below this, in pixels across plus down, are ignored.
+constexpr int kLeastMove = 21;
+// How long the last frame stays, in milliseconds.
+constexpr int kFadeTime = 250;
+// What the host's mode is set to while a gesture is armed or on.
+constexpr qint16 kFollowsPointer = 1;
+
+CHxApplication *hostApplication()
+{
+    CHxSystemServices *services = GetHxSystemServices();
+    return services ? services->GetApplication() : nullptr;
+}
+
+// The view that pointer positions are measured in; null when no drawing is open.
+QWidget *activeView()
+{
+    CHxDocument *active = ACTIVE_DOCUMENT();
+    return active ? active->GetViewWidget() : nullptr;
+}
+
+// Sends everything painted so far to the display, which otherwise would wait for the event
+// loop. Asking for the pointer has to wait for the display's answer; sync() would process
+// events.
+void flushToDisplay()
+{
+    static_cast<void>(QCursor::pos());
+}
+
+} // namespace
+
+MgDonutDialogPVStyleImpl::MgDonutDialogPVStyleImpl(QWidget *parent, Qt::WindowFlags flags)
+    : MgDonutDialog(parent, flags)
+    , m_grabKeeper(new MgGrabKeeper(this))
+{
+    donutSize = QImage(QStringLiteral(":/gesturewidgetimages/Resources/gesture_widget.png")).size();
+    installEventFilter(this);
+}
+
+MgDonutDialogPVStyleImpl::~MgDonutDialogPVStyleImpl()
+{
+    // The main window may take the ring with it in the middle of a gesture.
+    if (gesturing)
+        StopGesturing(false);
+    giveBackHost();
+
+    CHxSystemServices *services = GetHxSystemServices();
+    if (CHxTextOutput *output = services ? services->GetTextOutput() : nullptr)
+        output->SetText(CHxString(QString()), true);
+}
+
+void MgDonutDialogPVStyleImpl::WindUp(CHxDocument *doc)
+{
+    if (!doc || armed || gesturing)
+        return;
+
+    windUpPos = QCursor::pos();
+    document = doc;
+    m_holdsHost = true;
+    if (CHxApplication *application = hostApplication()) {
+        savedHostMode = application->GetMode();
+        application->SetMode(kFollowsPointer);
+    }
+    if (QWidget *view = documentView()) {
+        savedCursor = view->cursor();
+        view->setCursor(QCursor(Qt::ArrowCursor));
+    }
+    armed = true;
+}
+
+void MgDonutDialogPVStyleImpl::TryStart(const QPoint &)
+{
+    if (!armed || gesturing)
+        return;
+    const QWidget *view = activeView();
+    if (!view)
+        return;
+
+    sectorVisuals.clear();
+    sectorTooltips.clear();
+    activeArc = -1;
+    const QPoint pointer = view->mapFromGlobal(QCursor::pos());
+
+    const DonutHelperData shown = MgDonutDataContainer::instance()->getDonutHelperData();
+    arcCount = static_cast<quint16>(shown.sectorCount);
+    if (arcCount == 4)
+        keepSpan = 130.0;
+    else if (arcCount == 8)
+        keepSpan = 65.0;
+    for (int i = 0; i < arcCount; ++i) {
+        const auto visual = shown.sectorVisuals.find(i);
+        const auto tooltip = shown.sectorTooltips.find(i);
+        sectorVisuals.push_back(visual != shown.sectorVisuals.end()
+                                    ? visual->second
+                                    : std::make_pair(DonutHelperData::kText, QVariant(QString())));
+        sectorTooltips.push_back(tooltip != shown.sectorTooltips.end() ? tooltip->second : QString());
+    }
+
+    // The first choice is made from where the pointer is already. Is that far out, the fading
+    // runs here, before there is anything to see; the next move then ends the gesture.
+    mousePositionChanged(pointer.x() - origin.x(), origin.y() - pointer.y());
+    setVisible(true);
+    m_grabKeeper->watch(windowHandle());
+    if (isVisible()) {
+        grabMouse();
+        grabKeyboard();
+    }
+    gesturing = true;
+    armed = false;
+}
+
+void MgDonutDialogPVStyleImpl::StopGesturing(bool sectorChosen)
+{
+    gesturing = false;
+    justStopped = true;
+    fading = false;
+    accepted = sectorChosen;
+    giveBackHost();
+    releaseMouse();
+    releaseKeyboard();
+    setVisible(false);
+}
+
+bool MgDonutDialogPVStyleImpl::JustStopped()
+{
+    const bool stopped = justStopped;
+    justStopped = false;
+    return stopped;
+}
+
+void MgDonutDialogPVStyleImpl::doFading()
+{
+    fading = true;
+    repaint();
+    flushToDisplay();
+    // Meant to be busy: the frame stands still, and no event gets in between the choice and
+    // the end of the gesture.
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < kFadeTime) { }
+}
+
+void MgDonutDialogPVStyleImpl::mousePositionChanged(double x, double y)
+{
+    setActiveArc(x, y);
+    distance = std::sqrt(x * x + y * y);
+    if (distance > kAcceptDistance)
+        doFading();
+    else
+        update();
+}
+
+void MgDonutDialogPVStyleImpl::mouseMoveEvent(QMouseEvent *)
+{
+    // Moves that were under way when the gesture ended still arrive. They must not end it a
+    // second time, or the command would run twice.
+    const QWidget *view = activeView();
+    if (!gesturing || !view)
+        return;
+
+    const QPoint offset = view->mapFromGlobal(QCursor::pos()) - origin;
+    if (offset.manhattanLength() < kLeastMove)
+        return;
+    mousePositionChanged(offset.x(), -offset.y());
+    if (fading)
+        StopGesturing(true);
+}
+
+void MgDonutDialogPVStyleImpl::mouseReleaseEvent(QMouseEvent *event)
+{
+    // A quick hand lets go during the fading. That release arrives after the end and leaves
+    // the choice alone, but the view is told where the pointer is.
+    if (!gesturing) {
+        postMoveToView(*event);
+        return;
+    }
+    if (fading) {
+        StopGesturing(true);
+        return;
+    }
+    // Set and cleared again at once; without effect, and kept.
+    fading = true;
+    StopGesturing(false);
+    postMoveToView(*event);
+}
+
+void MgDonutDialogPVStyleImpl::mousePressEvent(QMouseEvent *) { }
+
+void MgDonutDialogPVStyleImpl::keyPressEvent(QKeyEvent *event)
+{
+    // No key ends a gesture, Escape included.
+    event->accept();
+}
+
+bool MgDonutDialogPVStyleImpl::eventFilter(QObject *watched, QEvent *event)
+{
+    // Accepted here, the key is no shortcut of the host.
+    if (watched == this && event->type() == QEvent::ShortcutOverride) {
+        event->accept();
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+bool MgDonutDialogPVStyleImpl::event(QEvent *event)
+{
+    // Behind a modal window no release would ever come, and nobody could press the modal
+    // window's buttons while the ring holds the mouse.
+    if (event->type() == QEvent::WindowBlocked && gesturing)
+        StopGesturing(false);
+    return MgDonutDialog::event(event);
+}
+
+void MgDonutDialogPVStyleImpl::hideEvent(QHideEvent *event)
+{
+    MgDonutDialog::hideEvent(event);
+    // Hidden or closed by somebody else: nothing may stay grabbed.
+    if (gesturing)
+        StopGesturing(false);
+}
+
+QWidget *MgDonutDialogPVStyleImpl::documentView() const
+{
+    return document ? document->GetViewWidget() : nullptr;
+}
+
+void MgDonutDialogPVStyleImpl::giveBackHost()
+{
+    if (!m_holdsHost)
+        return;
+    m_holdsHost = false;
+    if (CHxApplication *application = hostApplication())
+        application->SetMode(savedHostMode);
+    if (QWidget *view = documentView())
+        view->setCursor(savedCursor);
+}
+
+void MgDonutDialogPVStyleImpl::postMoveToView(const QMouseEvent &release)
+{
+    QWidget *view = documentView();
+    if (!view)
+        return;
+    const QPoint global = qtbridge::globalPosition(release);
+    QCoreApplication::postEvent(view,
+                                new QMouseEvent(QEvent::MouseMove, view->mapFromGlobal(global), global,
+                                                Qt::NoButton, release.buttons(), release.modifiers()));
+}

@@ -1,0 +1,227 @@
+// How the ring looks: the painting half of MgDonutDialogPVStyleImpl.
+
+#include "bindings/DonutHelperData.h"
+#include "gesture/MgDonutDialogPVStyleImpl.h"
+
+#include <QFont>
+#include <QFontMetrics>
+#include <QIcon>
+#include <QImage>
+#include <QPainter>
+#include <QPaintEvent>
+#include <QPen>
+#include <QPixmap>
+
+#include <cmath>
+
+namespace {
+
+// From the window's edge to the circle that the labels are centred on, in pixels.
+constexpr double kLabelInset = 32.0;
+// A full turn in radians with pi as 22/7, like the angles of MgDonutDialog.
+constexpr double kFullTurn = 6.285714285714286;
+// The ring itself; highlight and active label stand on it undimmed.
+constexpr double kRingOpacity = 120.0 / 255.0;
+
+// Wider texts are cut, in pixels.
+constexpr int kTextLimit = 50;
+// Characters left of a text that is cut. Deliberately one fewer in the active sector.
+constexpr int kCutLength = 8;
+constexpr int kActiveCutLength = 7;
+// From the label's point down to the text's baseline, in pixels.
+constexpr double kBaseline = 3.0;
+constexpr int kIconSize = 20;
+
+QImage loadImage(const QString &name)
+{
+    return QImage(QLatin1String(":/gesturewidgetimages/Resources/") + name + QLatin1String(".png"));
+}
+
+// From "targetDonut_" with number of sectors and index, one digit each, to the highlight's
+// name; empty when there is no such sector.
+QString regionName(const QString &composedName)
+{
+    const auto digits = composedName.indexOf(QLatin1Char('_')) + 1;
+    if (composedName.size() < digits + 2)
+        return {};
+    const int scheme = composedName.at(digits).digitValue();
+    const int index = composedName.at(digits + 1).digitValue();
+    if (scheme == 4) {
+        switch (index) {
+        case 0:
+            return QStringLiteral("gestureregion_top");
+        case 1:
+            return QStringLiteral("gestureregion_left");
+        case 2:
+            return QStringLiteral("gestureregion_bottom");
+        case 3:
+            return QStringLiteral("gestureregion_right");
+        default:
+            return {};
+        }
+    }
+    // The images are numbered from the right.
+    if (scheme == 8 && index >= 0 && index < 8)
+        return QStringLiteral("gestureregion%1").arg((index + 2) % 8 + 1);
+    return {};
+}
+
+// Null, and then drawn as nothing, for an index that is no sector.
+QImage highlightOf(int sectorCount, int index)
+{
+    return loadImage(regionName(QStringLiteral("targetDonut_%1%2").arg(sectorCount).arg(index)));
+}
+
+// Logical (0, 0) becomes the window's centre.
+void centrePainter(QPainter *painter, int width, int height)
+{
+    painter->setViewport(0, 0, width, height);
+    painter->setWindow(-(width / 2), -(height / 2), width, height);
+}
+
+// The painter's origin is where the label goes.
+void drawText(QPainter *painter, const QString &whole, double rotation, int cutLength)
+{
+    painter->setPen(QPen(Qt::SolidLine));
+    const QFont font(QStringLiteral("TAHOMA"), 10);
+    painter->setFont(font);
+    const QFontMetrics metrics(font);
+    QString text = whole;
+    int width = metrics.horizontalAdvance(text);
+    if (width > kTextLimit) {
+        text = text.left(cutLength) + QLatin1String("..");
+        width = metrics.horizontalAdvance(text);
+    }
+    painter->rotate(rotation);
+    painter->drawText(QPointF(-(width / 2), kBaseline), text);
+}
+
+void drawIcon(QPainter *painter, const QIcon &icon)
+{
+    const QPixmap pixmap = icon.pixmap(QSize(kIconSize, kIconSize), QIcon::Normal, QIcon::Off);
+    if (pixmap.isNull())
+        return;
+    const QSize size = pixmap.size() / pixmap.devicePixelRatio();
+    painter->drawPixmap(QPoint(-(size.width() / 2), -(size.height() / 2)), pixmap);
+}
+
+} // namespace
+
+void MgDonutDialogPVStyleImpl::paint(QPaintEvent *event)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setClipRect(event->rect());
+    // Without effect, and kept.
+    painter.save();
+    painter.restore();
+
+    if (fading) {
+        // A widget takes one painter at a time.
+        painter.end();
+        doFadingPaint();
+        return;
+    }
+
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::NoBrush);
+    painter.save();
+    painter.setOpacity(kRingOpacity);
+    painter.drawImage(QPoint(0, 0), loadImage(QStringLiteral("gesture_widget")));
+    painter.restore();
+
+    if (activeArc == -1)
+        return;
+
+    painter.save();
+    centrePainter(&painter, width(), height());
+    const int sectors = static_cast<int>(sectorVisuals.size());
+    for (int i = 0; i < sectors; ++i) {
+        if (i == activeArc)
+            continue;
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing);
+        drawLabelOf(&painter, i, kCutLength);
+        painter.restore();
+    }
+    painter.restore();
+
+    painter.drawImage(QPoint(0, 0), highlightOf(arcCount, activeArc));
+    centrePainter(&painter, width(), height());
+    drawLabelOf(&painter, activeArc, kActiveCutLength);
+}
+
+void MgDonutDialogPVStyleImpl::doFadingPaint()
+{
+    const QImage highlight = highlightOf(arcCount, activeArc);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawImage(QPoint(0, 0), highlight);
+    painter.save();
+    centrePainter(&painter, width(), height());
+    drawLabelOf(&painter, activeArc, kActiveCutLength);
+    painter.restore();
+}
+
+double MgDonutDialogPVStyleImpl::setPainterOrigin(QPainter *painter, int sectorCount, int index,
+                                                  bool &lowerHalf) const
+{
+    lowerHalf = true;
+    const double radius = width() * 0.5 - kLabelInset;
+    const int sectorWidth = sectorCount == 8 ? 45 : 90;
+    const int degrees = index * sectorWidth + 90;
+    // Taken from a full turn, since the screen's y axis points down.
+    const double angle = kFullTurn - (degrees * 22.0) / 1260.0;
+    painter->translate(std::cos(angle) * radius, std::sin(angle) * radius);
+
+    // Along the ring, and never upside down.
+    if (sectorCount == 8) {
+        switch (index) {
+        case 1:
+            return -45.0;
+        case 2:
+            return -90.0;
+        case 3:
+            lowerHalf = false;
+            return 45.0;
+        case 4:
+            lowerHalf = false;
+            return 0.0;
+        case 5:
+            lowerHalf = false;
+            return -45.0;
+        case 6:
+            return 90.0;
+        case 7:
+            return 45.0;
+        default:
+            return 0.0;
+        }
+    }
+    switch (index) {
+    case 0:
+        return 0.0;
+    case 2:
+        lowerHalf = false;
+        return 0.0;
+    case 3:
+        return 90.0;
+    default:
+        return -90.0;
+    }
+}
+
+void MgDonutDialogPVStyleImpl::drawLabelOf(QPainter *painter, int index, int cutLength) const
+{
+    bool lowerHalf = true;
+    const double rotation = setPainterOrigin(painter, arcCount, index, lowerHalf);
+    if (index < 0 || index >= static_cast<int>(sectorVisuals.size()))
+        return;
+    const auto &[kind, value] = sectorVisuals[static_cast<std::size_t>(index)];
+    if (kind == DonutHelperData::kIcon)
+        drawIcon(painter, value.value<QIcon>());
+    else
+        drawText(painter, value.toString(), rotation, cutLength);
+}

@@ -1,0 +1,128 @@
+#include "gesture/MgMouseGestureTracker.h"
+
+#include "bindings/MgDonutDataContainer.h"
+#include "gesture/MgDonutDialogPVStyleImpl.h"
+#include "sdk/chx/CHxDocument.h"
+#include "sdk/chx/CHxHitTestInfo.h"
+#include "sdk/chx/CHxMainFrame.h"
+#include "sdk/chx/CHxSystemServices.h"
+#include "sdk/QtBridge.h"
+
+#include <QCursor>
+
+namespace {
+
+// A drag is longer than this, in pixels across plus down.
+constexpr int kDragThreshold = 20;
+
+// Asked in this order, and no further than the first that says so.
+bool isSuppressed(const CHxHitTestInfo &hit)
+{
+    return hit.IsModalWindowOpen() || hit.IsPopupOpen() || hit.IsMouseGrabbed()
+        || hit.IsOtherButtonDown() || hit.IsModifierMismatch() || hit.IsOverControl()
+        || hit.IsViewBlocked();
+}
+
+// The main window, or the desktop in its place.
+QWidget *overlayParent()
+{
+    CHxSystemServices *services = GetHxSystemServices();
+    const CHxMainFrame *frame = services ? services->GetMainFrame() : nullptr;
+    QWidget *window = frame ? frame->GetMainWindow() : nullptr;
+    return window ? window : qtbridge::desktopWidget();
+}
+
+} // namespace
+
+MgMouseGestureTracker::MgMouseGestureTracker() = default;
+
+MgMouseGestureTracker::~MgMouseGestureTracker() = default;
+
+bool MgMouseGestureTracker::IsEager(const CHxHitTestInfo *) const
+{
+    return !pendingCommand.isEmpty();
+}
+
+bool MgMouseGestureTracker::DoAction(const CHxHitTestInfo *)
+{
+    if (CHxSystemServices *services = GetHxSystemServices())
+        services->RunCommand(pendingCommand, false);
+    pendingCommand = CHxString();
+    return true;
+}
+
+void MgMouseGestureTracker::Update(CHxTrackerContext *, CHxHitTestInfo *hit)
+{
+    if (!MgDonutDataContainer::instance()->getGestureEnabled())
+        return;
+    if (!hit || isSuppressed(*hit))
+        return;
+
+    if (hit->IsPress()) {
+        pressPoint = hit->GetPosition();
+        pressGlobalPoint = QCursor::pos();
+        tracking = true;
+    } else if (!tracking) {
+        return;
+    }
+
+    const QPoint delta = hit->GetPosition() - pressPoint;
+    if (hit->IsMotion() && hit->IsButtonHeld() && delta.manhattanLength() > kDragThreshold) {
+        if (!donut)
+            createOverlay();
+        hit->NotifyDrag();
+        if (!donut)
+            return;
+        if (!overlay()->armed && !overlay()->justStopped) {
+            windUpOverlay(*hit);
+            return;
+        }
+    }
+    if (!donut)
+        return;
+
+    overlay()->TryStart(pressGlobalPoint);
+    if (!overlay()->JustStopped())
+        return;
+    // Read before the host is told of the end, in case it takes the ring away then.
+    const bool accepted = overlay()->accepted;
+    const qint16 sector = overlay()->getActiveArc();
+    tracking = false;
+    if (hit->IsButtonHeld())
+        hit->NotifyEnd();
+    if (!accepted || sector < 0)
+        return;
+    pendingCommand = CHxString(MgDonutDataContainer::instance()->getCommandNameFromIndex(sector));
+}
+
+void MgMouseGestureTracker::DrawTracker(CHxTrackerContext *, const CHxHitTestInfo *) const { }
+
+void MgMouseGestureTracker::DrawDDTracker(CHxTrackerContext *, const CHxHitTestInfo *) const { }
+
+MgDonutDialogPVStyleImpl *MgMouseGestureTracker::overlay() const
+{
+    return qobject_cast<MgDonutDialogPVStyleImpl *>(donut.data());
+}
+
+void MgMouseGestureTracker::createOverlay()
+{
+    donut = new MgDonutDialogPVStyleImpl(overlayParent(), Qt::WindowFlags());
+    donut->setVisible(false);
+}
+
+void MgMouseGestureTracker::windUpOverlay(const CHxHitTestInfo &hit)
+{
+    MgDonutDialogPVStyleImpl *ring = overlay();
+    ring->origin = pressPoint;
+    CHxDocument *document = hit.GetDocument();
+    const QPoint corner(pressPoint.x() - ring->getSize().width() / 2,
+                        pressPoint.y() - ring->getSize().height() / 2);
+    // The active document's view, although another document may be handed on: meant.
+    CHxDocument *active = ACTIVE_DOCUMENT();
+    const QWidget *view = active ? active->GetViewWidget() : nullptr;
+    // Without a view there is no place to open at; a later drag may find one.
+    if (!view)
+        return;
+    ring->move(view->mapToGlobal(corner));
+    ring->WindUp(document);
+}
