@@ -1,0 +1,8 @@
+#include "host/HostApplication.h"
+
+namespace host {
+
+HostApplication::HostApplication() = default;
+HostApplication::~HostApplication() = default;
+
+} // namespace host

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "sdk/chx/CHxMainFrame.h"
+
+#include <QMainWindow>
+#include <QPointer>
+
+namespace host {
+
+// The program's main window as the host's main frame.
+class MainFrame : public CHxMainFrame
+{
+public:
+    // Not owned; may go away before this.
+    explicit MainFrame(QMainWindow *window);
+    ~MainFrame() override;
+
+    [[nodiscard]] QWidget *GetMainWindow() const override { return m_window; }
+
+private:
+    QPointer<QMainWindow> m_window;
+};
+
+} // namespace host
