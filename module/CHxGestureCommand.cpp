@@ -1,0 +1,56 @@
+#include "module/CHxGestureCommand.h"
+
+#include "module/HostCall.h"
+#include "sdk/chx/CHxMainFrame.h"
+#include "sdk/chx/CHxSystemServices.h"
+#include "sdk/QtBridge.h"
+
+#ifdef GESTUREWIDGET_HAS_DIALOG
+#    include "dialog/MgDonutDialogManager.h"
+#endif
+
+#include <QPointer>
+
+namespace {
+
+[[nodiscard]] QWidget *dialogParent()
+{
+    CHxSystemServices *services = GetHxSystemServices();
+    const CHxMainFrame *frame = services ? services->GetMainFrame() : nullptr;
+    QWidget *window = frame ? frame->GetMainWindow() : nullptr;
+    return window ? window : qtbridge::desktopWidget();
+}
+
+void runDialog()
+{
+#ifdef GESTUREWIDGET_HAS_DIALOG
+    // On the heap and watched, where a local object would do: the main window may be
+    // destroyed while the dialog is open, and takes its children with it.
+    const QPointer<MgDonutDialogManager> dialog(
+        new MgDonutDialogManager(dialogParent(), Qt::WindowFlags()));
+    dialog->exec();
+    delete dialog.data();
+#else
+    Q_UNUSED(dialogParent)
+#endif
+}
+
+} // namespace
+
+CHxGestureCommand::~CHxGestureCommand() = default;
+
+OdString CHxGestureCommand::globalName() const
+{
+    return OdString("_GESTURE", kOdAnsiCodePage);
+}
+
+OdString CHxGestureCommand::localName() const
+{
+    return OdString("GESTURE", kOdAnsiCodePage);
+}
+
+int CHxGestureCommand::Execute(CHxCommandContext *)
+{
+    hostCall(runDialog);
+    return kNormal;
+}

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "gesture/MgMouseGestureTracker.h"
+#include "module/CHxGestureCommand.h"
+#include "sdk/chx/CHxDocumentManagerReactor.h"
+#include "sdk/chx/CHxEditorReactor.h"
+#include "sdk/chx/hx_OdRxModule.h"
+#include "sdk/od/OdStaticRxObject.h"
+
+class CHxDocument;
+class CHxString;
+class CHxUIMenuItem;
+class QWidget;
+
+// The module's one object. It hooks the tracker and the configuration command into the
+// host, follows the host's documents and main frame, and takes everything back when the
+// main frame goes.
+//
+// Where a host object is missing, what needs it is left out silently. Nothing that a host
+// throws gets out of these operations; what it was thrown in is left undone.
+class MgGestureWidget : public hx_OdRxModule, public CHxDocumentManagerReactor, public CHxEditorReactor
+{
+public:
+    // Touches no host service and registers nothing.
+    MgGestureWidget();
+    // Unregisters nothing: that has happened in mainFrameDestroyed().
+    ~MgGestureWidget() override;
+
+    // Registers the command, this object as reactor, and the tracker with every open
+    // document.
+    void initApp() override;
+    // Empty; mainFrameDestroyed() undoes what initApp() did.
+    void uninitApp() override;
+
+    // A new document gets the tracker.
+    void DocumentCreated(CHxDocument *document) override;
+    // It loses it here, and not in any of the notifications of its end.
+    void DatabaseDetached(CHxDocument *document) override;
+
+    // The menus are complete: adds the menu entry. `frame` is not used.
+    void mainFrameCreated(QWidget *frame) override;
+    // Takes back everything but the editor reactor. `frame` is not used.
+    void mainFrameDestroyed(QWidget *frame) override;
+
+    // The first top-level menu of any workspace with that identifier, letter case
+    // respected; null when there is none. Sub-menus are not searched.
+    [[nodiscard]] CHxUIMenuItem *GetMenuItem(const CHxString &id);
+    // Appends the entry to the Tools menu, and makes its command item if there is none.
+    // Appends another one at every call. Without a current workspace it does nothing.
+    void LoadMenu();
+    // Removes one entry and its command item: the first whose text is the entry's, letter
+    // case ignored.
+    void UnLoadMenu();
+
+protected:
+    // Both live and die with this object; the host is only lent them.
+    MgMouseGestureTracker tracker;
+    OdStaticRxObject<CHxGestureCommand> command;
+
+private:
+    void addTracker(CHxDocument *document);
+    void removeTracker(CHxDocument *document);
+    void addMenuEntry();
+    void removeMenuEntry();
+};

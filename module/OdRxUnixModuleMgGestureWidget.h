@@ -1,0 +1,12 @@
+#pragma once
+
+#include "module/MgGestureWidget.h"
+#include "sdk/od/OdRxUnixModule.h"
+
+// The class that is really created: the module with its reference count, the data given at
+// creation and deleteModule().
+class OdRxUnixModuleMgGestureWidget final : public OdRxUnixModule<MgGestureWidget, MgGestureWidget>
+{
+public:
+    using OdRxUnixModule::OdRxUnixModule;
+};
