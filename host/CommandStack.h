@@ -1,6 +1,5 @@
 #pragma once
 
-#include "host/HostExport.h"
 #include "sdk/od/OdEdCommandStack.h"
 #include "sdk/od/OdStaticRxObject.h"
 
@@ -9,7 +8,7 @@
 namespace host {
 
 // The commands that modules have registered, by name. Holds one reference on each.
-class HOST_EXPORT CommandStack : public OdStaticRxObject<OdEdCommandStack>
+class CommandStack : public OdStaticRxObject<OdEdCommandStack>
 {
 public:
     CommandStack();

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "host/HostExport.h"
 #include "sdk/od/OdEditor.h"
 #include "sdk/od/OdStaticRxObject.h"
 
@@ -10,12 +9,14 @@
 
 #include <vector>
 
+class CHxEditorReactor;
+
 namespace host {
 
 // Tells its reactors about the main window. Reactors that are CHxEditorReactor hear of it
 // also when they are added after it came up: from the event loop, so that whoever adds
 // one has finished doing so.
-class HOST_EXPORT HostEditor : public OdStaticRxObject<OdEditor>
+class HostEditor : public OdStaticRxObject<OdEditor>
 {
 public:
     HostEditor();
@@ -27,17 +28,20 @@ public:
     // The main window's menus are complete. A second call before notifyMainFrameDestroyed()
     // does nothing.
     void notifyMainFrameCreated(QWidget *frame);
-    // The main window goes away. Reactors that never heard of it do not hear of this.
+    // The main window goes away; `frame` may be half destroyed and is only handed on.
+    // Reactors that never heard of it do not hear of this.
     void notifyMainFrameDestroyed(QWidget *frame);
 
 private:
-    void notifyLate();
-
     struct Entry
     {
         OdEditorReactor *reactor;
         bool knowsFrame;
     };
+
+    void tellUninformed();
+    CHxEditorReactor *frameReactor(OdEditorReactor *reactor) const;
+
     std::vector<Entry> m_reactors;
     QPointer<QWidget> m_frame;
     bool m_frameCreated = false;

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "host/HostExport.h"
-
 #include <QHash>
 #include <QString>
 #include <QStringList>
@@ -13,7 +11,7 @@ namespace host {
 //
 // A profile is data only: a program without one gets the defaults below, which suit most
 // programs whose drawing view the person picks by hand.
-struct HOST_EXPORT ProgramProfile
+struct ProgramProfile
 {
     // The executable's name, such as the first word that a person types to start it.
     QString program;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "host/HostExport.h"
 #include "sdk/chx/CHxSystemServices.h"
 
 #include <QString>
@@ -25,7 +24,7 @@ struct ProgramProfile;
 //
 // Takes down nothing of that itself: who set it takes it away before this is destroyed.
 // The window may go first.
-class HOST_EXPORT SystemServices : public CHxSystemServices
+class SystemServices : public CHxSystemServices
 {
 public:
     // `documents` may be null and must outlive this. `settingsFile` is the program's own
