@@ -9,6 +9,7 @@
 #include "sdk/chx/CHxUIMenuItemCollection.h"
 
 #include <QObject>
+#include <QScopeGuard>
 
 #include <algorithm>
 
@@ -37,6 +38,7 @@ void MgDonutDataContainer::fcParseRecursive(QString parentCategory, CHxUIMenuIte
         return;
 
     m_openMenus.push_back(items);
+    const auto close = qScopeGuard([this] { m_openMenus.pop_back(); });
     // Reading an entry may change the menu that it is in: the count is asked for every time.
     for (int i = 0; i < items->GetCount(); ++i) {
         const CHxUIMenuItem *item = items->GetItem(i);
@@ -48,7 +50,6 @@ void MgDonutDataContainer::fcParseRecursive(QString parentCategory, CHxUIMenuIte
             categoryMap.insert(command->GetCommandString().toQString(), category);
         fcParseRecursive(category, item->GetSubItems());
     }
-    m_openMenus.pop_back();
 }
 
 QString MgDonutDataContainer::getCategory(QString command) const

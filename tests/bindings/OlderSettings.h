@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QVariant>
+
+namespace tests {
+
+// A folder of its own for QSettings, so that no test sees or touches the user's. In force
+// from construction on; the next one takes over.
+class OlderSettings
+{
+public:
+    OlderSettings();
+
+    // Stores an entry the way an older program did, in group "Gesture".
+    void set(const QString &entry, const QVariant &value,
+             const QString &application = QStringLiteral("fakehost"));
+    // What an entry of group "Gesture" holds on disk now; invalid when it is not there.
+    [[nodiscard]] QVariant value(const QString &entry) const;
+    // Entry names of group "Gesture" as they are on disk now.
+    [[nodiscard]] QStringList entries() const;
+    // The file itself, to be read by whoever opens the settings next.
+    void writeFile(const QByteArray &contents);
+    [[nodiscard]] QByteArray readFile() const;
+
+private:
+    void writeFile(const QByteArray &contents, const QString &application);
+    [[nodiscard]] QString fileName(const QString &application) const;
+
+    QTemporaryDir m_folder;
+    int m_writerFiles = 0;
+};
+
+} // namespace tests

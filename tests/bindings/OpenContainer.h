@@ -1,0 +1,21 @@
+#pragma once
+
+#include "bindings/MgDonutDataContainer.h"
+
+namespace tests {
+
+// A binding container of a test's own, its members in reach.
+class OpenContainer : public MgDonutDataContainer
+{
+public:
+    using MgDonutDataContainer::_pinstance;
+    using MgDonutDataContainer::categoryMap;
+    using MgDonutDataContainer::commands;
+    using MgDonutDataContainer::eightTable;
+    using MgDonutDataContainer::fourTable;
+    using MgDonutDataContainer::gestureEnabled;
+    using MgDonutDataContainer::largeIcons;
+    using MgDonutDataContainer::scheme;
+};
+
+} // namespace tests
