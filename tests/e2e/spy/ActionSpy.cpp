@@ -1,0 +1,187 @@
+#include "tests/e2e/spy/ActionSpy.h"
+
+#include <QAction>
+#include <QActionEvent>
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QKeySequence>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QWidget>
+
+#include <cstdio>
+#include <utility>
+
+namespace {
+
+QString className(const QObject *object)
+{
+    return QString::fromLatin1(object->metaObject()->className());
+}
+
+QString text(const QRect &rect)
+{
+    return QStringLiteral("%1,%2,%3,%4")
+        .arg(rect.x())
+        .arg(rect.y())
+        .arg(rect.width())
+        .arg(rect.height());
+}
+
+// A caption without mnemonics and without what would break a line.
+QString plain(QString caption)
+{
+    caption.remove(QLatin1Char('&'));
+    return caption.simplified();
+}
+
+QRect globalGeometry(const QWidget *widget)
+{
+    return {widget->mapToGlobal(QPoint(0, 0)), widget->size()};
+}
+
+} // namespace
+
+ActionSpy::ActionSpy()
+    : m_log(qEnvironmentVariable("ACTIONSPY_LOG"))
+    , m_viewClasses(qEnvironmentVariable("ACTIONSPY_VIEW").split(QLatin1Char(',')))
+    , m_entry(qEnvironmentVariable("ACTIONSPY_ENTRY"))
+{
+    if (!m_log.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+        std::fprintf(stderr, "actionspy: cannot write \"%s\"\n", qPrintable(m_log.fileName()));
+        return;
+    }
+    write({QStringLiteral("started"), QString::number(QCoreApplication::applicationPid())});
+    m_lookAround.setSingleShot(true);
+    m_lookAround.setInterval(0);
+    connect(&m_lookAround, &QTimer::timeout, this, &ActionSpy::lookAround);
+    qApp->installEventFilter(this);
+    connect(qApp, &QCoreApplication::aboutToQuit, this, [this] { write({QStringLiteral("quit")}); });
+}
+
+bool ActionSpy::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::ActionAdded:
+        watchAction(static_cast<QActionEvent *>(event)->action());
+        m_lookAround.start();
+        break;
+    case QEvent::ChildAdded:
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::Hide:
+    case QEvent::ParentChange:
+        m_lookAround.start();
+        break;
+    default:
+        break;
+    }
+    if (watched->isWidgetType())
+        watchWidgetEvent(static_cast<QWidget *>(watched), event);
+    return false;
+}
+
+void ActionSpy::watchWidgetEvent(QWidget *widget, QEvent *event)
+{
+    const auto mouse = [&](const char *what) {
+        const auto *mouseEvent = static_cast<QMouseEvent *>(event);
+        const QPoint at = QCursor::pos();
+        write({QLatin1String(what), QString::number(mouseEvent->button()), className(widget),
+               QStringLiteral("%1,%2").arg(at.x()).arg(at.y())});
+    };
+    switch (event->type()) {
+    case QEvent::Show:
+        if (qobject_cast<QMenu *>(widget))
+            write({QStringLiteral("menu"), className(widget), widget->objectName()});
+        else if (widget->isWindow())
+            write({QStringLiteral("window"), className(widget), text(globalGeometry(widget)),
+                   plain(widget->windowTitle())});
+        m_lookAround.start();
+        break;
+    case QEvent::MouseButtonPress:
+        mouse("press");
+        break;
+    case QEvent::MouseButtonRelease:
+        mouse("release");
+        break;
+    case QEvent::MouseButtonDblClick:
+        mouse("doubleclick");
+        break;
+    case QEvent::ContextMenu:
+        write({QStringLiteral("contextmenu"), className(widget),
+               QString::number(static_cast<QContextMenuEvent *>(event)->reason())});
+        break;
+    case QEvent::KeyPress:
+        write({QStringLiteral("key"), QKeySequence(static_cast<QKeyEvent *>(event)->key()).toString(),
+               className(widget)});
+        break;
+    default:
+        break;
+    }
+}
+
+void ActionSpy::watchAction(QAction *action)
+{
+    if (m_actions.contains(action))
+        return;
+    m_actions.insert(action);
+    connect(action, &QObject::destroyed, this, [this, action] { m_actions.remove(action); });
+    connect(action, &QAction::triggered, this, [this, action] {
+        write({QStringLiteral("triggered"), action->objectName(), plain(action->text())});
+    });
+}
+
+void ActionSpy::lookAround()
+{
+    // An action need not be in any menu, so the objects are searched as well as the events.
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (const QWidget *window : windows) {
+        const QList<QAction *> actions = window->findChildren<QAction *>();
+        for (QAction *action : actions)
+            watchAction(action);
+    }
+    const QList<QAction *> own = qApp->findChildren<QAction *>();
+    for (QAction *action : own)
+        watchAction(action);
+
+    reportViews();
+    if (!m_isReady && !m_views.empty() && hasEntry()) {
+        m_isReady = true;
+        write({QStringLiteral("ready")});
+    }
+}
+
+void ActionSpy::reportViews()
+{
+    std::map<const QWidget *, QRect> views;
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (const QWidget *widget : widgets) {
+        for (const QString &name : std::as_const(m_viewClasses)) {
+            if (!name.isEmpty() && widget->inherits(name.toLatin1().constData()) && widget->isVisible())
+                views[widget] = globalGeometry(widget);
+        }
+    }
+    for (const auto &[widget, geometry] : views) {
+        const auto known = m_views.find(widget);
+        if (known == m_views.end() || known->second != geometry)
+            write({QStringLiteral("view"), className(widget), text(geometry)});
+    }
+    m_views = std::move(views);
+}
+
+bool ActionSpy::hasEntry() const
+{
+    if (m_entry.isEmpty())
+        return true;
+    for (const QAction *action : m_actions) {
+        if (plain(action->text()) == m_entry)
+            return true;
+    }
+    return false;
+}
+
+void ActionSpy::write(const QStringList &fields)
+{
+    m_log.write(fields.join(QLatin1Char('\t')).toUtf8() + '\n');
+}

@@ -1,0 +1,18 @@
+#include "tests/e2e/spy/ActionSpy.h"
+
+#include <QGenericPlugin>
+
+// Qt's door to the spy: QT_QPA_GENERIC_PLUGINS=actionspy.
+class ActionSpyPlugin : public QGenericPlugin
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "actionspy.json")
+
+public:
+    QObject *create(const QString &name, const QString &) override
+    {
+        return name == QLatin1String("actionspy") ? new ActionSpy : nullptr;
+    }
+};
+
+#include "ActionSpyPlugin.moc"

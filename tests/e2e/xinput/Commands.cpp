@@ -1,0 +1,232 @@
+#include "tests/e2e/xinput/Commands.h"
+
+#include "tests/e2e/xinput/XDesktop.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace {
+
+constexpr int kSteadyMs = 40;
+// A person's pointer reports about 125 times a second.
+constexpr int kMsPerStep = 8;
+
+const QString kOk = QStringLiteral("ok");
+
+QString refuse(const QString &reason)
+{
+    return QStringLiteral("error ") + reason;
+}
+
+QStringList wordsOf(const QString &line)
+{
+    QStringList words;
+    QString word;
+    bool quoted = false;
+    bool started = false;
+    for (const QChar character : line) {
+        if (character == QLatin1Char('"')) {
+            quoted = !quoted;
+            started = true;
+        } else if (character.isSpace() && !quoted) {
+            if (started)
+                words.append(word);
+            word.clear();
+            started = false;
+        } else {
+            word.append(character);
+            started = true;
+        }
+    }
+    if (started)
+        words.append(word);
+    return words;
+}
+
+// The words from `first` on as numbers; nothing when one of them is none.
+std::optional<QList<int>> numbers(const QStringList &words, int first)
+{
+    QList<int> result;
+    for (int i = first; i < words.size(); ++i) {
+        bool isNumber = false;
+        result.append(words.at(i).toInt(&isNumber));
+        if (!isNumber)
+            return {};
+    }
+    return result;
+}
+
+QString describe(const XDesktop::Window &window)
+{
+    return QStringLiteral("0x%1 %2 %3 %4 %5")
+        .arg(window.id, 0, 16)
+        .arg(window.geometry.x())
+        .arg(window.geometry.y())
+        .arg(window.geometry.width())
+        .arg(window.geometry.height());
+}
+
+std::optional<XDesktop::Window> titled(const XDesktop &desktop, const QString &title)
+{
+    const QList<XDesktop::Window> windows = desktop.windows();
+    for (auto it = windows.rbegin(); it != windows.rend(); ++it) {
+        if (it->title.contains(title))
+            return *it;
+    }
+    return {};
+}
+
+} // namespace
+
+Commands::Commands(XDesktop &desktop)
+    : m_desktop(desktop)
+{
+}
+
+QString Commands::run(const QString &line)
+{
+    QStringList words = wordsOf(line);
+    if (words.isEmpty())
+        return refuse(QStringLiteral("empty command"));
+    const QString name = words.takeFirst();
+    for (const auto group : {&Commands::input, &Commands::windows, &Commands::picture}) {
+        const QString answer = (this->*group)(name, words);
+        if (!answer.isEmpty())
+            return answer;
+    }
+    return refuse(QStringLiteral("not understood: ") + line);
+}
+
+QString Commands::input(const QString &name, const QStringList &words)
+{
+    if (name == QLatin1String("key") && words.size() == 1)
+        return m_desktop.tapKey(words.first()) ? kOk : refuse(QStringLiteral("no such key"));
+    if (name == QLatin1String("type") && words.size() == 1)
+        return m_desktop.typeText(words.first()) ? kOk : refuse(QStringLiteral("no key for it"));
+    if (name == QLatin1String("pointer") && words.isEmpty()) {
+        const QPoint at = m_desktop.pointer();
+        return QStringLiteral("ok %1 %2").arg(at.x()).arg(at.y());
+    }
+    if (name == QLatin1String("grabs") && words.isEmpty()) {
+        const auto state = [](bool taken) {
+            return taken ? QStringLiteral("taken") : QStringLiteral("free");
+        };
+        const QString pointer = state(m_desktop.isPointerTaken());
+        return QStringLiteral("ok pointer %1 keyboard %2")
+            .arg(pointer, state(m_desktop.isKeyboardTaken()));
+    }
+
+    const auto given = numbers(words, 0);
+    if (!given)
+        return {};
+    if (name == QLatin1String("move") && given->size() == 2) {
+        m_desktop.movePointer({given->at(0), given->at(1)});
+        return kOk;
+    }
+    if (given->size() == 1 && given->first() >= 1 && given->first() <= 9) {
+        const bool click = name == QLatin1String("click");
+        const bool press = name == QLatin1String("press");
+        const bool release = name == QLatin1String("release");
+        if (click || press)
+            m_desktop.setButton(given->first(), true);
+        if (click || release)
+            m_desktop.setButton(given->first(), false);
+        return click || press || release ? kOk : QString();
+    }
+    if (name == QLatin1String("drag") && (given->size() == 3 || given->size() == 4)) {
+        const int milliseconds = given->at(2);
+        const int steps = given->size() == 4 ? given->at(3) : std::max(8, milliseconds / kMsPerStep);
+        if (milliseconds < 0 || steps < 1)
+            return refuse(QStringLiteral("a drag takes time and steps"));
+        m_desktop.glide({given->at(0), given->at(1)}, milliseconds, steps);
+        return kOk;
+    }
+    return {};
+}
+
+QString Commands::windows(const QString &name, const QStringList &words)
+{
+    if (name == QLatin1String("windows") && words.isEmpty()) {
+        QStringList found;
+        const QList<XDesktop::Window> windows = m_desktop.windows();
+        for (const XDesktop::Window &window : windows)
+            found.append(describe(window) + QLatin1Char(' ') + window.title);
+        return QStringLiteral("ok ") + found.join(QLatin1Char('\t'));
+    }
+    if ((name == QLatin1String("close") || name == QLatin1String("activate")) && words.size() == 1) {
+        const auto window = titled(m_desktop, words.first());
+        if (!window)
+            return refuse(QStringLiteral("no such window"));
+        if (name == QLatin1String("close"))
+            m_desktop.closeWindow(window->id);
+        else
+            m_desktop.activateWindow(window->id);
+        return kOk;
+    }
+
+    const bool absent = name.startsWith(QLatin1String("wait-no-"));
+    const QString what = name.mid(absent ? 8 : 5);
+    if (!name.startsWith(QLatin1String("wait-")))
+        return {};
+    std::optional<XDesktop::Window> window;
+    std::function<bool()> look;
+    int milliseconds = 0;
+    if (what == QLatin1String("window") && words.size() == 2) {
+        look = [&] { return (window = titled(m_desktop, words.first())).has_value() != absent; };
+        milliseconds = words.at(1).toInt();
+    } else if (const auto given = numbers(words, 0);
+               what == QLatin1String("size") && given && given->size() == 3) {
+        const QSize size(given->at(0), given->at(1));
+        look = [&, size] { return (window = m_desktop.windowOfSize(size)).has_value() != absent; };
+        milliseconds = given->at(2);
+    } else {
+        return {};
+    }
+    if (!m_desktop.waitFor(look, milliseconds))
+        return refuse(QStringLiteral("timeout"));
+    return window ? QStringLiteral("ok ") + describe(*window) : kOk;
+}
+
+QString Commands::picture(const QString &name, const QStringList &words)
+{
+    if (name == QLatin1String("screenshot") && (words.size() == 1 || words.size() == 5)) {
+        const auto given = numbers(words, 1);
+        if (!given)
+            return {};
+        const QRect area = given->isEmpty()
+                             ? m_desktop.screen()
+                             : QRect(given->at(0), given->at(1), given->at(2), given->at(3));
+        const QImage image = m_desktop.look(area);
+        if (image.isNull())
+            return refuse(QStringLiteral("that is not on the screen"));
+        return image.save(words.first(), "PNG") ? kOk : refuse(QStringLiteral("cannot write the file"));
+    }
+
+    const auto given = numbers(words, 0);
+    if (!given)
+        return {};
+    if (name == QLatin1String("remember") && given->size() == 4) {
+        m_area = QRect(given->at(0), given->at(1), given->at(2), given->at(3));
+        m_seen = m_desktop.look(m_area);
+        return m_seen.isNull() ? refuse(QStringLiteral("that is not on the screen")) : kOk;
+    }
+    if (name == QLatin1String("wait-change") && given->size() == 1 && !m_seen.isNull()) {
+        const auto changed = [this] { return m_desktop.look(m_area) != m_seen; };
+        return m_desktop.waitFor(changed, given->first()) ? kOk : refuse(QStringLiteral("timeout"));
+    }
+    if (name == QLatin1String("wait-steady") && given->size() == 1 && !m_seen.isNull()) {
+        QImage last;
+        int times = 0;
+        const auto steady = [&] {
+            const QImage current = m_desktop.look(m_area);
+            times = current == last ? times + 1 : 0;
+            last = current;
+            return times * 10 >= kSteadyMs; // waitFor() asks every 10 ms
+        };
+        if (!m_desktop.waitFor(steady, given->first()))
+            return refuse(QStringLiteral("timeout"));
+        m_seen = last;
+        return kOk;
+    }
+    return {};
+}

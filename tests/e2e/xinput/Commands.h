@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+#include <QRect>
+#include <QString>
+#include <QStringList>
+
+class XDesktop;
+
+// The driver's language: one command a line, one line of answer, "ok" with what was asked
+// for or "error" with the reason.
+//
+//     move X Y               press N     release N     click N     pointer -> X Y
+//     drag DX DY MS [STEPS]  moves by that much in MS milliseconds
+//     key NAME               such as Return or ctrl+s
+//     type TEXT
+//     windows                -> "ID X Y W H TITLE", separated by tabs
+//     wait-window TITLE MS   a window whose title contains TITLE -> ID X Y W H
+//     wait-no-window TITLE MS
+//     wait-size W H MS       a window of that size -> ID X Y W H
+//     wait-no-size W H MS
+//     close TITLE            activate TITLE
+//     screenshot FILE [X Y W H]
+//     remember X Y W H       what the screen shows there
+//     wait-change MS         it shows something else there
+//     wait-steady MS         it shows there the same 40 ms apart, and is remembered so
+//     grabs                  -> "pointer free|taken keyboard free|taken"
+//
+// A word with spaces stands in double quotes.
+class Commands
+{
+public:
+    explicit Commands(XDesktop &desktop);
+
+    // Carries out one line. The answer has no line end.
+    [[nodiscard]] QString run(const QString &line);
+
+private:
+    QString input(const QString &name, const QStringList &words);
+    QString windows(const QString &name, const QStringList &words);
+    QString picture(const QString &name, const QStringList &words);
+
+    XDesktop &m_desktop;
+    QRect m_area;
+    QImage m_seen;
+};
