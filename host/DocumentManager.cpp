@@ -113,12 +113,12 @@ void DocumentManager::close(Document *document)
 {
     if (!document->isOpen())
         return;
+    Q_EMIT documentAboutToClose(document);
     notify([document](CHxDocumentManagerReactor &r) { r.DocumentToBeDestroyed(document); });
     notify([document](CHxDocumentManagerReactor &r) { r.DatabaseDetached(document); });
     m_byView.remove(m_byView.key(document));
     m_activated.removeAll(document);
     document->close();
-    Q_EMIT documentClosed(document);
     notify([document](CHxDocumentManagerReactor &r) { r.DocumentDestroyed(document, CHxString()); });
     if (document == m_active && !m_activated.isEmpty())
         activate(m_activated.last());

@@ -52,8 +52,8 @@ public:
     [[nodiscard]] bool isEmpty() const { return m_byView.isEmpty(); }
 
 Q_SIGNALS:
-    // The document's view is gone; `document` itself stays.
-    void documentClosed(host::Document *document);
+    // The document's view is gone or going, its trackers are still there.
+    void documentAboutToClose(host::Document *document);
 
 private:
     class Iterator;

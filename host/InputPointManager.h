@@ -4,6 +4,8 @@
 
 #include <QVector>
 
+class CHxHitTestInfo;
+
 namespace host {
 
 // The trackers of one document.

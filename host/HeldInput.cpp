@@ -1,0 +1,76 @@
+#include "host/HeldInput.h"
+
+#include "sdk/QtBridge.h"
+
+#include <QApplication>
+#include <QtTest/qtestspontaneevent.h>
+
+#include <utility>
+
+namespace host {
+namespace {
+
+// Whether Qt would keep input from the window because of a modal one, see the same
+// question in its own handling of mouse events from the window system.
+bool isBlockedByModal(const QWindow *window)
+{
+    const QWindow *modal = QGuiApplication::modalWindow();
+    if (!modal || modal == window || QApplication::activePopupWidget()
+        || modal->isAncestorOf(window, QWindow::IncludeTransients))
+        return false;
+    if (modal->modality() == Qt::ApplicationModal)
+        return true;
+    const QWindow *top = window;
+    while (top->parent())
+        top = top->parent();
+    return top->isAncestorOf(modal, QWindow::IncludeTransients);
+}
+
+} // namespace
+
+HeldInput::HeldInput() = default;
+HeldInput::~HeldInput() = default;
+
+void HeldInput::hold(QWindow *window, const QMouseEvent &event)
+{
+    const bool replacesLast = m_held.size() > kMostMovements && event.type() == QEvent::MouseMove
+                           && m_held.back().event->type() == QEvent::MouseMove;
+    if (replacesLast)
+        m_held.pop_back();
+    m_held.push_back({window, qtbridge::copyOf(event)});
+}
+
+void HeldInput::drop()
+{
+    m_held.clear();
+}
+
+void HeldInput::replay()
+{
+    for (Item &item : m_held)
+        m_outgoing.push_back(std::move(item));
+    m_held.clear();
+    if (m_outgoing.empty())
+        return;
+    QMetaObject::invokeMethod(this, &HeldInput::sendRest, Qt::QueuedConnection);
+    sendRest();
+}
+
+void HeldInput::sendRest()
+{
+    const QPointer<HeldInput> self = this;
+    while (self && !m_outgoing.empty()) {
+        const Item item = std::move(m_outgoing.front());
+        m_outgoing.pop_front();
+        if (!item.window || isBlockedByModal(item.window))
+            continue;
+        const QEvent *outer = std::exchange(m_sending, item.event.get());
+        QSpontaneKeyEvent::setSpontaneous(item.event.get());
+        // Not sendEvent(), which would make it an event of the program's own again.
+        qApp->notify(item.window, item.event.get());
+        if (self)
+            m_sending = outer;
+    }
+}
+
+} // namespace host

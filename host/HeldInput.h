@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QMouseEvent>
+#include <QObject>
+#include <QPointer>
+#include <QWindow>
+
+#include <deque>
+#include <memory>
+
+namespace host {
+
+// Mouse events of windows that were kept from the program, in their order, until it is
+// known whether they become a gesture.
+//
+// They are either dropped or sent to the same windows again, as if they came from the
+// window system just then. The program may enter an event loop inside one of them, as it
+// does for a context menu; what is left is then sent from within that loop, so that the
+// menu sees the release of the button that opened it.
+class HeldInput : public QObject
+{
+    Q_OBJECT
+
+public:
+    HeldInput();
+    ~HeldInput() override;
+
+    // Keeps a copy.
+    void hold(QWindow *window, const QMouseEvent &event);
+    [[nodiscard]] bool isEmpty() const { return m_held.empty(); }
+    void drop();
+    // Sends everything that is held. May run event loops, and this may be gone afterwards.
+    void replay();
+    // Sends what a replay, stuck in an event loop, has not come to yet. To be called before
+    // the program gets anything newer. The same caution as with replay().
+    void sendRest();
+    [[nodiscard]] bool hasRest() const { return !m_outgoing.empty(); }
+
+    // Whether this very event is one that is being sent again.
+    [[nodiscard]] bool isSending(const QEvent *event) const { return event == m_sending; }
+
+    // With more movements than this the newest takes the place of the one before it, as
+    // with movements that a program is too slow for.
+    static constexpr std::size_t kMostMovements = 512;
+
+private:
+    struct Item
+    {
+        QPointer<QWindow> window;
+        std::unique_ptr<QMouseEvent> event;
+    };
+
+    std::deque<Item> m_held;
+    std::deque<Item> m_outgoing;
+    const QEvent *m_sending = nullptr;
+};
+
+} // namespace host

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+
+namespace host {
+
+// Waits until a program's menus are complete: its main window is shown, the menu bar holds
+// something, and nothing was added to any menu for a moment.
+class MenuWatch : public QObject
+{
+    Q_OBJECT
+
+public:
+    // `window` is not owned and may go away.
+    explicit MenuWatch(QMainWindow *window);
+    ~MenuWatch() override;
+
+    void start();
+    void stop();
+
+    bool eventFilter(QObject *receiver, QEvent *event) override;
+
+    // Milliseconds without a new menu entry. Long enough for programs that fill their menus
+    // in several steps while they start, short enough that nobody misses an entry meanwhile.
+    static constexpr int kQuietTime = 250;
+
+Q_SIGNALS:
+    // Given once.
+    void settled();
+
+private:
+    void look();
+
+    QPointer<QMainWindow> m_window;
+    QTimer m_quiet;
+};
+
+} // namespace host

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QByteArray>
+#include <QObject>
+#include <QStringList>
+#include <QVector>
+
+QT_BEGIN_NAMESPACE
+class QWidget;
+QT_END_NAMESPACE
+
+namespace host {
+
+// Finds the widgets of a program that show drawings: those of certain classes, the ones
+// that are there and the ones that come up later.
+class ViewFinder : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Names of classes of which a view is one, or is derived from one.
+    explicit ViewFinder(const QStringList &viewClasses);
+    ~ViewFinder() override;
+
+    // Reports every view that is there and watches for more. Called once.
+    void start();
+    void stop();
+
+    // The widget that takes the pointer for `widget`: of a scroll area its viewport, else
+    // itself.
+    [[nodiscard]] static QWidget *pointerWidget(QWidget *widget);
+
+    bool eventFilter(QObject *receiver, QEvent *event) override;
+
+Q_SIGNALS:
+    // The widget that takes the pointer in a view. May come more than once for one view.
+    void viewFound(QWidget *view);
+
+private:
+    void look(QWidget *widget);
+    [[nodiscard]] bool isView(const QWidget *widget) const;
+
+    QVector<QByteArray> m_viewClasses;
+};
+
+} // namespace host
