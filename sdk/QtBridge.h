@@ -3,9 +3,11 @@
 // The one place where Qt 5 and Qt 6 differ: everything else includes this header and
 // never asks for a Qt version.
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QEnterEvent>
 #include <QMouseEvent>
+#include <QStyleOptionViewItem>
 #include <QWidget>
 
 #include <memory>
@@ -58,6 +60,30 @@ constexpr int kQtMajor = QT_VERSION_MAJOR;
 #else
     return std::unique_ptr<QMouseEvent>(event.clone());
 #endif
+}
+
+namespace detail {
+// Only names the protected function below; there is never an object of it.
+class ItemViewAccess : public QAbstractItemView
+{
+public:
+    static QStyleOptionViewItem optionsOf(const QAbstractItemView &view)
+    {
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+        return (view.*(&ItemViewAccess::viewOptions))();
+#else
+        QStyleOptionViewItem option;
+        (view.*(&ItemViewAccess::initViewItemOption))(&option);
+        return option;
+#endif
+    }
+};
+} // namespace detail
+
+// What a view tells its delegates of every item alike.
+[[nodiscard]] inline QStyleOptionViewItem viewOptions(const QAbstractItemView &view)
+{
+    return detail::ItemViewAccess::optionsOf(view);
 }
 
 } // namespace qtbridge
