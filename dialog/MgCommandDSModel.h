@@ -1,0 +1,76 @@
+#pragma once
+
+#include "bindings/MgCommandDS.h"
+
+#include <QAbstractTableModel>
+#include <QString>
+
+#include <vector>
+
+class MgDonutDialogManager;
+
+// The dialog's working copy of all commands, a row each: category, command, direction. It
+// takes the bindings from the binding container and never writes them back: the dialog does
+// so with getCommands().
+//
+// "The current direction" is the one of the scheme that the dialog shows. Without a dialog
+// no row passes the filter, nothing has a direction and nothing can be changed.
+//
+// rowCount() and columnCount() answer the same for every parent, also for a cell.
+class MgCommandDSModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    static constexpr int kCategoryColumn = 0;
+    static constexpr int kCommandColumn = 1;
+    static constexpr int kDirectionColumn = 2;
+    static constexpr int kColumnCount = 3;
+
+    // `dialog` is the MgDonutDialogManager that the model works for. It does not become the
+    // parent and must live as long as the model is used.
+    explicit MgCommandDSModel(QObject *dialog);
+
+    [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    // Gives a record a direction (Qt::EditRole, the last column; 0 for none) and takes it
+    // away from the record that has it. Emits no dataChanged(): views show the change when
+    // the editor closes, and the filter and the order stay as they are until they are asked
+    // for anew.
+    bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
+                                      int role = Qt::DisplayRole) const override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex &index) const override;
+
+    // Of a row that does not exist: an empty string, direction 0.
+    [[nodiscard]] QString getCommandDisplayName(int row) const;
+    [[nodiscard]] QString getCategory(int row) const;
+    [[nodiscard]] unsigned char getInvokerType(int row) const;
+    // The current direction in words, for screen readers; empty for none.
+    [[nodiscard]] QString getDirectionName(int row) const;
+
+    // Whether a row with these values passes the dialog's filter controls as they are now.
+    [[nodiscard]] bool checkFilterCondition(const QString &displayName, const QString &category,
+                                            unsigned char direction) const;
+
+    // A copy of all records.
+    [[nodiscard]] std::vector<MgCommandDS> getCommands() const { return records; }
+    // Reads the records from the container again.
+    void resetToDefault();
+
+    // Always true.
+    bool operator()(const MgCommandDS &command, unsigned char direction) const;
+
+protected:
+    std::vector<MgCommandDS> records;
+    QObject *dialog;
+
+private:
+    // Null when the dialog is not one that this model can work for.
+    [[nodiscard]] MgDonutDialogManager *dialogManager() const;
+    // Null for a row that does not exist.
+    [[nodiscard]] const MgCommandDS *recordAt(int row) const;
+    void assignInFourScheme(MgCommandDS &record, unsigned char direction);
+    void assignInEightScheme(MgCommandDS &record, unsigned char direction);
+};

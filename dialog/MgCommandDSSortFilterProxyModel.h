@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QSortFilterProxyModel>
+#include <QString>
+
+// Shows the rows of an MgCommandDSModel that pass the dialog's filter controls, in the order
+// that the user chose.
+class MgCommandDSSortFilterProxyModel : public QSortFilterProxyModel
+{
+    Q_OBJECT
+
+public:
+    MgCommandDSSortFilterProxyModel();
+
+    // Filters again: to be called when a filter control or the scheme has changed.
+    void applyFilter();
+
+    // As the source model, and for screen readers the direction in words.
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+
+protected:
+    // Accepts every row of any other model.
+    [[nodiscard]] bool filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const override;
+    // Directions by number, so that commands without one come first; texts as the base class
+    // compares them.
+    [[nodiscard]] bool lessThan(const QModelIndex &left, const QModelIndex &right) const override;
+
+    // Always empty; kept for who derives from this class.
+    QString filterText;
+};

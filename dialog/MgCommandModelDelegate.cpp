@@ -1,0 +1,73 @@
+#include "dialog/MgCommandModelDelegate.h"
+
+#include "dialog/MgCommandDSModel.h"
+
+#include <QComboBox>
+#include <QStandardItemModel>
+
+MgCommandModelDelegate::MgCommandModelDelegate(QStandardItemModel *directions, QObject *parent)
+    : QItemDelegate(parent)
+    , m_directions(directions)
+{
+}
+
+QWidget *MgCommandModelDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                                              const QModelIndex &index) const
+{
+    if (index.column() != MgCommandDSModel::kDirectionColumn)
+        return QItemDelegate::createEditor(parent, option, index);
+
+    auto *editor = new QComboBox(parent);
+    editor->setModel(m_directions);
+    editor->setAccessibleName(tr("Gesture direction"));
+    connect(editor, QOverload<int>::of(&QComboBox::activated), this,
+            &MgCommandModelDelegate::commitAndCloseEditor);
+    return editor;
+}
+
+void MgCommandModelDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
+{
+    auto *directions = qobject_cast<QComboBox *>(editor);
+    if (index.column() != MgCommandDSModel::kDirectionColumn || !directions) {
+        QItemDelegate::setEditorData(editor, index);
+        return;
+    }
+    directions->setCurrentIndex(static_cast<unsigned char>(index.data(Qt::EditRole).toInt()));
+    // The arrows have no text that could be read out.
+    directions->setAccessibleDescription(directions->currentData(Qt::AccessibleTextRole).toString());
+}
+
+void MgCommandModelDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
+                                          const QModelIndex &index) const
+{
+    if (index.column() != MgCommandDSModel::kDirectionColumn)
+        return;
+    const auto *directions = qobject_cast<QComboBox *>(editor);
+    if (!directions || directions->currentIndex() < 0)
+        return;
+    model->setData(index, directions->currentIndex(), Qt::EditRole);
+}
+
+void MgCommandModelDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
+                                                  const QModelIndex & /*index*/) const
+{
+    editor->setGeometry(option.rect);
+}
+
+QSize MgCommandModelDelegate::sizeHint(const QStyleOptionViewItem &option,
+                                       const QModelIndex &index) const
+{
+    // The last column takes whatever width remains, so it asks for next to nothing.
+    return index.column() == MgCommandDSModel::kDirectionColumn ? QSize(10, 10)
+                                                                : QItemDelegate::sizeHint(option, index);
+}
+
+void MgCommandModelDelegate::commitAndCloseEditor(int /*row*/)
+{
+    // One slot for the drop-downs of all cells: only the sender says which of them it was.
+    auto *editor = qobject_cast<QComboBox *>(sender());
+    if (!editor)
+        return;
+    Q_EMIT commitData(editor);
+    Q_EMIT closeEditor(editor, QAbstractItemDelegate::NoHint);
+}

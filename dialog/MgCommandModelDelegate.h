@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QItemDelegate>
+
+class QStandardItemModel;
+
+// Edits the direction of a command with a drop-down of direction icons. The drop-down's rows
+// are the directions themselves: row 0 is "none".
+class MgCommandModelDelegate : public QItemDelegate
+{
+    Q_OBJECT
+
+public:
+    // `directions` lists the choices. It is not taken over, is shared by all editors and must
+    // outlive them.
+    MgCommandModelDelegate(QStandardItemModel *directions, QObject *parent);
+
+    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
+                          const QModelIndex &index) const override;
+    void setEditorData(QWidget *editor, const QModelIndex &index) const override;
+    // Writes nothing for any other column than the directions', and nothing for an editor
+    // whose choice has gone with its list.
+    void setModelData(QWidget *editor, QAbstractItemModel *model,
+                      const QModelIndex &index) const override;
+    void updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
+                              const QModelIndex &index) const override;
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem &option,
+                                 const QModelIndex &index) const override;
+
+public Q_SLOTS:
+    // Commits and closes the drop-down that sent the signal; does nothing when called
+    // directly.
+    void commitAndCloseEditor(int row);
+
+private:
+    QStandardItemModel *m_directions;
+};

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QTableView>
+
+// The table of commands: an editor that closes while it has the focus is opened again at
+// once, so that the user can go on choosing without another click.
+class MgCommandTableView : public QTableView
+{
+    Q_OBJECT
+
+public:
+    explicit MgCommandTableView(QWidget *parent);
+
+    // Opens the editor of a cell. Does nothing for a cell that cannot be edited or is being
+    // edited already; QAbstractItemView's own edit() writes a warning then.
+    void beginEditing(const QModelIndex &index);
+
+protected Q_SLOTS:
+    void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
+};

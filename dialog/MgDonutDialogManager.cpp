@@ -1,0 +1,415 @@
+#include "dialog/MgDonutDialogManager.h"
+
+#include "bindings/MgDonutDataContainer.h"
+#include "dialog/BindingListDocument.h"
+#include "dialog/MgCommandDSModel.h"
+#include "dialog/MgCommandDSSortFilterProxyModel.h"
+#include "dialog/MgCommandModelDelegate.h"
+#include "dialog/MgCommandTableView.h"
+#include "dialog/MyStyle.h"
+#include "sdk/chx/CHxSystemServices.h"
+#include "sdk/chx/CHxUIMenuItem.h"
+#include "sdk/chx/CHxUIMenuItemCollection.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFile>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTextDocument>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <iterator>
+#include <memory>
+
+namespace {
+
+constexpr int kHelpTopic = 9000;
+
+struct Direction
+{
+    const char *image;
+    const char *name;
+};
+
+// By direction number - 1 in the eight scheme. The four scheme has every other one.
+constexpr Direction kDirections[] = {
+    {"up.png", QT_TRANSLATE_NOOP("MgDonutDialogManager", "Up")},
+    {"up_left.png", QT_TRANSLATE_NOOP("MgDonutDialogManager", "Up left")},
+    {"left.png", QT_TRANSLATE_NOOP("MgDonutDialogManager", "Left")},
+    {"down_left.png", QT_TRANSLATE_NOOP("MgDonutDialogManager", "Down left")},
+    {"down.png", QT_TRANSLATE_NOOP("MgDonutDialogManager", "Down")},
+    {"down_right.png", QT_TRANSLATE_NOOP("MgDonutDialogManager", "Down right")},
+    {"right.png", QT_TRANSLATE_NOOP("MgDonutDialogManager", "Right")},
+    {"up_right.png", QT_TRANSLATE_NOOP("MgDonutDialogManager", "Up right")},
+};
+
+// Null for no direction and for one that the scheme does not have.
+const Direction *findDirection(DonutScheme scheme, unsigned char number)
+{
+    const std::size_t place = scheme == DonutScheme::Eight ? number : 2U * number - 1U;
+    return number > 0 && place <= std::size(kDirections) ? &kDirections[place - 1] : nullptr;
+}
+
+// The captions of the host's top-level menus without their mnemonic marks, in its order: the
+// categories that commands are filed under.
+QStringList menuCaptions(const CHxUIMenuItemCollection &menuBars)
+{
+    QStringList captions;
+    for (int bar = 0; bar < menuBars.GetCount(); ++bar) {
+        const CHxUIMenuItem *entry = menuBars.GetItem(bar);
+        const CHxUIMenuItemCollection *menus = entry ? entry->GetSubItems() : nullptr;
+        for (int menu = 0; menus && menu < menus->GetCount(); ++menu) {
+            if (const CHxUIMenuItem *item = menus->GetItem(menu)) {
+                QString caption = item->GetText().toQString();
+                captions.append(caption.remove(QLatin1Char('&')));
+            }
+        }
+    }
+    return captions;
+}
+
+// Stands in for the menus where the host does not tell of any.
+QStringList usedCategories(const QString &others)
+{
+    QStringList categories;
+    for (const MgCommandDS &command : MgDonutDataContainer::instance()->getCommandsDS())
+        categories.append(command.category);
+    categories.removeAll(others);
+    categories.removeDuplicates();
+    return categories;
+}
+
+} // namespace
+
+MgDonutDialogManager::MgDonutDialogManager(QWidget *parent, Qt::WindowFlags flags)
+    : CHxDialog(parent, flags != Qt::WindowFlags(), Qt::WindowTitleHint | Qt::WindowSystemMenuHint)
+{
+    ui.setupUi(this);
+    setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
+    fixWidth();
+    fillCategories();
+    setButtonIcons();
+    connectControls();
+    model = new MgCommandDSModel(this);
+    // Made without a parent by design, then given one: model, proxy, delegate and style die
+    // with the dialog, after the widgets that use them, which are older children.
+    model->setParent(this);
+    setUpTable();
+    initDialogState();
+    setUpRowsAndColumns();
+    ui.description_label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+}
+
+MgDonutDialogManager::~MgDonutDialogManager() = default;
+
+// The width is laid out for a small font. Where the texts need more, in a larger font or
+// another language, the dialog is as much wider, and so is the description.
+void MgDonutDialogManager::fixWidth()
+{
+    const QMargins margins = ui.verticalLayout_5->contentsMargins();
+    const int needed = std::max(ui.verticalLayout_4->minimumSize().width(),
+                                ui.horizontalLayout_6->minimumSize().width())
+                     + margins.left() + margins.right();
+    const int extra = needed - width();
+    if (extra > 0) {
+        resize(needed, height());
+        QGroupBox *box = ui.description_groupBox;
+        box->setMinimumWidth(box->minimumWidth() + extra);
+        ui.description_label->resize(ui.description_label->width() + extra,
+                                     ui.description_label->height());
+    }
+    setMinimumWidth(width());
+    setMaximumWidth(width());
+}
+
+void MgDonutDialogManager::fillCategories()
+{
+    // Kept, so that a language that changes while the dialog is open cannot make the box's
+    // own entry unknown to the filter.
+    m_allCommands = tr("All Commands");
+    // As the catalogue files commands that are in no menu.
+    const QString others = QObject::tr("Others");
+
+    CHxSystemServices *services = GetHxSystemServices();
+    const CHxUIMenuItemCollection *menuBars = services ? services->GetMenuItems() : nullptr;
+    ui.category_comboBox->addItem(m_allCommands);
+    ui.category_comboBox->addItems(menuBars ? menuCaptions(*menuBars) : usedCategories(others));
+    ui.category_comboBox->addItem(others);
+    ui.category_comboBox->setCurrentIndex(0);
+}
+
+// The host's images; a host that has none leaves the buttons as the style draws them.
+void MgDonutDialogManager::setButtonIcons()
+{
+    const auto setIcon = [this](QDialogButtonBox::StandardButton button, const QString &image) {
+        if (QFile::exists(image))
+            ui.buttonBox->button(button)->setIcon(QIcon(image));
+    };
+    setIcon(QDialogButtonBox::Ok, QStringLiteral(":/images/shared/ok.png"));
+    setIcon(QDialogButtonBox::Cancel, QStringLiteral(":/images/shared/cancel.png"));
+    setIcon(QDialogButtonBox::Help, QStringLiteral(":/images/shared/help.png"));
+}
+
+void MgDonutDialogManager::connectControls()
+{
+    using Self = MgDonutDialogManager;
+    const auto filterByState = QOverload<int>::of(&Self::applyFilter);
+    const auto filterByText = QOverload<const QString &>::of(&Self::applyFilter);
+
+    connect(ui.buttonBox->button(QDialogButtonBox::Help), &QPushButton::clicked, this, &Self::Help);
+    // The box's accepted() stays unconnected on purpose: OK saves before it accepts.
+    connect(ui.buttonBox->button(QDialogButtonBox::Ok), &QPushButton::clicked, this, &Self::okPressed);
+    connect(ui.reset_pushButton, &QPushButton::clicked, this, &Self::applyDefaultSettings);
+    connect(ui.category_comboBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            filterByState);
+    connect(ui.search_lineEdit, &QLineEdit::textChanged, this, filterByText);
+    connect(ui.filter_checkBox, &QCheckBox::stateChanged, this, filterByState);
+    connect(ui.enableGesture_checkBox, &QCheckBox::stateChanged, this, &Self::checkBoxStateChanged);
+    connect(ui.four_radioButton, &QRadioButton::toggled, this, &Self::radioButtonStateChanged);
+    connect(ui.eight_radioButton, &QRadioButton::toggled, this, &Self::radioButtonStateChanged);
+    connect(ui.print_pushButton, &QPushButton::clicked, this, &Self::printList);
+}
+
+void MgDonutDialogManager::setUpTable()
+{
+    MgCommandTableView *table = ui.command_tableView;
+    auto *style = new MyStyle;
+    style->setParent(this);
+    table->setStyle(style);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->resizeColumnToContents(MgCommandDSModel::kCommandColumn);
+    table->horizontalHeader()->setStretchLastSection(true);
+    table->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    table->setEditTriggers(QAbstractItemView::AllEditTriggers);
+    table->setSortingEnabled(true);
+
+    proxy = new MgCommandDSSortFilterProxyModel;
+    proxy->setParent(this);
+    proxy->setSourceModel(model);
+    table->setStyleSheet(
+        QStringLiteral("*{selection-color:rgb(0,0,0);selection-background-color:rgb(220,220,220);}"));
+    table->setModel(proxy);
+    table->setItemDelegate(new MgCommandModelDelegate(&directionList, this));
+    table->sortByColumn(MgCommandDSModel::kCategoryColumn, Qt::AscendingOrder);
+    connect(table, &MgCommandTableView::pressed, this, &MgDonutDialogManager::openEditor);
+}
+
+void MgDonutDialogManager::setUpRowsAndColumns()
+{
+    MgCommandTableView *table = ui.command_tableView;
+    QHeaderView *columns = table->horizontalHeader();
+    columns->resizeSection(MgCommandDSModel::kCommandColumn,
+                           static_cast<int>(columns->defaultSectionSize() * 2.1));
+    // Only asked for: the last section takes the width that is left.
+    columns->resizeSection(MgCommandDSModel::kDirectionColumn, 10);
+    QHeaderView *rows = table->verticalHeader();
+    rows->setDefaultSectionSize(table->fontMetrics().height() + 8);
+    rows->setStyleSheet(
+        QStringLiteral("QHeaderView::section {padding-bottom: 0px;padding-top: 0px;padding-left: 0px;"
+                       "padding-right: 0px;margin: 0px;}"));
+}
+
+bool MgDonutDialogManager::isDefaultSettingsEnabled() const
+{
+    return !ui.four_radioButton->isChecked()
+        && MgDonutDataContainer::instance()->isDefaultSettingsEnabled();
+}
+
+void MgDonutDialogManager::initDialogState()
+{
+    const MgDonutDataContainer *container = MgDonutDataContainer::instance();
+    const bool four = container->getScheme() == Four;
+    (four ? ui.four_radioButton : ui.eight_radioButton)->setChecked(true);
+    (four ? ui.eight_radioButton : ui.four_radioButton)->setChecked(false);
+
+    if (container->getGestureEnabled())
+        ui.reset_pushButton->setEnabled(!isDefaultSettingsEnabled());
+    else
+        disableControls(false);
+    // Checking the box enables all controls, "Reset to Defaults" included.
+    ui.enableGesture_checkBox->setChecked(container->getGestureEnabled());
+}
+
+QIcon MgDonutDialogManager::getDirectionIcon(unsigned char direction,
+                                             DonutScheme /*ignoredScheme*/) const
+{
+    const Direction *found = findDirection(scheme, direction);
+    return found ? QIcon(QLatin1String(":/gesturewidgetimages/Resources/") + QLatin1String(found->image))
+                 : QIcon();
+}
+
+QString MgDonutDialogManager::getDirectionName(unsigned char direction) const
+{
+    const Direction *found = findDirection(scheme, direction);
+    return found ? tr(found->name) : QString();
+}
+
+int MgDonutDialogManager::GetHelpId() const
+{
+    return kHelpTopic;
+}
+
+QString MgDonutDialogManager::searchText() const
+{
+    return ui.search_lineEdit->text();
+}
+
+QString MgDonutDialogManager::categoryText() const
+{
+    return ui.category_comboBox->currentText();
+}
+
+bool MgDonutDialogManager::showsAssignedOnly() const
+{
+    return ui.filter_checkBox->isChecked();
+}
+
+void MgDonutDialogManager::enableReset()
+{
+    ui.reset_pushButton->setEnabled(true);
+}
+
+// Also enables "Reset to Defaults" when the bindings are the defaults; meant.
+void MgDonutDialogManager::checkBoxStateChanged(int state)
+{
+    disableControls(state == Qt::Checked);
+}
+
+void MgDonutDialogManager::radioButtonStateChanged(bool /*checked*/)
+{
+    int count = 8;
+    scheme = Eight;
+    if (ui.four_radioButton->isChecked()) {
+        scheme = Four;
+        ui.reset_pushButton->setEnabled(true);
+        count = 4;
+    }
+
+    // One row more than this comes of the rows that are put in: "none" and each direction.
+    directionList.setRowCount(count);
+    directionList.setColumnCount(1);
+    directionList.setItem(0, new QStandardItem(tr("None")));
+    for (int row = 1; row <= count; ++row) {
+        const auto direction = static_cast<unsigned char>(row);
+        auto *item = new QStandardItem;
+        item->setIcon(getDirectionIcon(direction, Eight));
+        item->setData(getDirectionName(direction), Qt::AccessibleTextRole);
+        directionList.setItem(row, item);
+    }
+    applyFilter();
+}
+
+void MgDonutDialogManager::applyFilter(const QString & /*text*/)
+{
+    applyFilter();
+}
+
+void MgDonutDialogManager::applyFilter(int /*state*/)
+{
+    applyFilter();
+}
+
+void MgDonutDialogManager::applyFilter()
+{
+    if (auto *shown = qobject_cast<MgCommandDSSortFilterProxyModel *>(ui.command_tableView->model()))
+        shown->applyFilter();
+}
+
+void MgDonutDialogManager::okPressed()
+{
+    MgDonutDataContainer::instance()->update(model->getCommands(),
+                                             ui.enableGesture_checkBox->isChecked(), scheme);
+    accept();
+}
+
+void MgDonutDialogManager::disableControls(bool enable)
+{
+    QWidget *const controls[] = {ui.category_comboBox, ui.search_lineEdit,   ui.filter_checkBox,
+                                 ui.four_radioButton,  ui.eight_radioButton, ui.print_pushButton,
+                                 ui.reset_pushButton,  ui.command_tableView};
+    for (QWidget *control : controls)
+        control->setEnabled(enable);
+}
+
+void MgDonutDialogManager::viewSelectionChanged(const QItemSelection & /*selected*/,
+                                                const QItemSelection & /*deselected*/)
+{
+    showSelectedCommand();
+}
+
+void MgDonutDialogManager::openEditor(const QModelIndex & /*index*/)
+{
+    showSelectedCommand();
+}
+
+// Shows what the one selected command does and opens the editor of its direction, whichever
+// cell of the row was pressed.
+void MgDonutDialogManager::showSelectedCommand()
+{
+    MgCommandTableView *table = ui.command_tableView;
+    const QModelIndexList rows = table->selectionModel()->selectedRows();
+    const bool single = rows.size() <= 1;
+    ui.description_groupBox->setEnabled(single);
+    ui.description_label->setEnabled(single);
+    if (rows.size() != 1) {
+        ui.description_label->clear();
+        return;
+    }
+
+    const QModelIndex shown = rows.front();
+    const std::vector<MgCommandDS> commands = model->getCommands();
+    const int row = proxy->mapToSource(shown).row();
+    if (row < 0 || row >= static_cast<int>(commands.size()))
+        return;
+    ui.description_label->setText(commands[row].tooltip);
+    table->beginEditing(shown.sibling(shown.row(), MgCommandDSModel::kDirectionColumn));
+}
+
+bool MgDonutDialogManager::isResetConfirmed()
+{
+    const QString question = tr("This will delete all of the user defined mouse gestures and reset to "
+                                "the factory defaults. Do you want to continue?");
+    if (CHxSystemServices *services = GetHxSystemServices()) {
+        return services->ShowMessage(question, services->GetMessageCaption(),
+                                     CHxSystemServices::kMessageOkCancelWarning)
+            == CHxSystemServices::kMessageOk;
+    }
+    return QMessageBox::warning(this, windowTitle(), question, QMessageBox::Ok | QMessageBox::Cancel)
+        == QMessageBox::Ok;
+}
+
+void MgDonutDialogManager::applyDefaultSettings()
+{
+    if (!isResetConfirmed())
+        return;
+    MgDonutDataContainer::instance()->applyDefaultSettings();
+    model->resetToDefault();
+    ui.eight_radioButton->setChecked(true);
+    ui.reset_pushButton->setEnabled(!isDefaultSettingsEnabled());
+}
+
+int MgDonutDialogManager::runPrintDialog(QPrinter &printer)
+{
+    QPrintDialog dialog(&printer, this);
+    return dialog.exec();
+}
+
+void MgDonutDialogManager::printList()
+{
+    QPrinter printer(QPrinter::HighResolution);
+    if (runPrintDialog(printer) != QDialog::Accepted)
+        return;
+    const std::unique_ptr<QTextDocument> document(
+        createBindingListDocument(ui.command_tableView->model()));
+    document->print(&printer);
+}

@@ -1,0 +1,97 @@
+#pragma once
+
+#include "bindings/DonutScheme.h"
+#include "dialog/Ui_MgDonutDialogManagerClass.h"
+#include "sdk/chx/CHxDialog.h"
+
+#include <QIcon>
+#include <QStandardItemModel>
+#include <QString>
+
+class MgCommandDSModel;
+class MgCommandDSSortFilterProxyModel;
+class QItemSelection;
+class QModelIndex;
+class QPrinter;
+
+// The "Mouse Gestures" dialog: gestures on or off, four or eight of them, and which command
+// each direction runs.
+//
+//     MgDonutDialogManager dialog(mainWindow, {});
+//     dialog.exec();
+//
+// It works on a copy of the bindings. OK hands the copy to the binding container, Cancel
+// drops it; "Reset to Defaults" alone takes effect at once, whatever ends the dialog.
+class MgDonutDialogManager : public CHxDialog
+{
+    Q_OBJECT
+
+public:
+    using DonutScheme = DonutSchemes::DonutScheme;
+    static constexpr DonutScheme Four = DonutSchemes::Four;
+    static constexpr DonutScheme Eight = DonutSchemes::Eight;
+
+    // `flags` only decides whether the host's dialog is told to keep the window flags: it is
+    // when any is set. The window flags themselves are the dialog's own.
+    MgDonutDialogManager(QWidget *parent, Qt::WindowFlags flags);
+    ~MgDonutDialogManager() override;
+
+    // The scheme that the dialog shows.
+    [[nodiscard]] DonutScheme getScheme() const { return scheme; }
+    // Whether the container, not the dialog's copy, holds the factory bindings. Never in the
+    // four scheme: the factory's is the eight scheme.
+    [[nodiscard]] bool isDefaultSettingsEnabled() const;
+    // Shows the container's scheme and enable flag.
+    void initDialogState();
+    // The arrow of a direction (1 to 4 or 1 to 8); an empty icon for any other. The scheme
+    // argument is not looked at: the scheme that the dialog shows decides.
+    [[nodiscard]] QIcon getDirectionIcon(unsigned char direction, DonutScheme ignoredScheme) const;
+    // The same in words.
+    [[nodiscard]] QString getDirectionName(unsigned char direction) const;
+    // The topic of the dialog's help, 9000.
+    [[nodiscard]] int GetHelpId() const override;
+
+    // What the filter controls say now.
+    [[nodiscard]] QString searchText() const;
+    [[nodiscard]] QString categoryText() const;
+    [[nodiscard]] bool showsAssignedOnly() const;
+    // The category that stands for all of them, as the category box has it.
+    [[nodiscard]] const QString &allCommandsText() const { return m_allCommands; }
+    // For the model: there are bindings now that could be reset.
+    void enableReset();
+
+public Q_SLOTS:
+    void checkBoxStateChanged(int state);
+    void radioButtonStateChanged(bool checked);
+    void applyFilter(const QString &text);
+    void applyFilter(int state);
+    void applyFilter();
+    void okPressed();
+    void disableControls(bool enable = false);
+    void viewSelectionChanged(const QItemSelection &selected, const QItemSelection &deselected);
+    void applyDefaultSettings();
+    void printList();
+    void openEditor(const QModelIndex &index);
+
+protected:
+    // Asks the user where to print to; QDialog::Accepted says that the printer is set up.
+    virtual int runPrintDialog(QPrinter &printer);
+
+    Ui::MgDonutDialogManagerClass ui;
+    QStandardItemModel directionList; // the choices of the direction editor
+    DonutScheme scheme = Eight; // as the radio buttons say
+    MgCommandDSModel *model = nullptr; // a child of the dialog
+    MgCommandDSSortFilterProxyModel *proxy = nullptr; // a child of the dialog
+
+private:
+    void fixWidth();
+    void fillCategories();
+    void setButtonIcons();
+    void connectControls();
+    void setUpTable();
+    void setUpRowsAndColumns();
+    void showSelectedCommand();
+    [[nodiscard]] bool isResetConfirmed();
+
+    QString m_allCommands;
+};

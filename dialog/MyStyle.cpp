@@ -1,0 +1,28 @@
+#include "dialog/MyStyle.h"
+
+#include <QStyleFactory>
+
+namespace {
+
+// The proxy takes the style over. Null, for neither being there, makes it use the
+// program's own.
+QStyle *createBaseStyle()
+{
+    QStyle *plastique = QStyleFactory::create(QStringLiteral("Plastique"));
+    return plastique ? plastique : QStyleFactory::create(QStringLiteral("Fusion"));
+}
+
+} // namespace
+
+MyStyle::MyStyle()
+    : QProxyStyle(createBaseStyle())
+{
+}
+
+void MyStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                            const QWidget *widget) const
+{
+    if (element == PE_FrameFocusRect)
+        return;
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+}

