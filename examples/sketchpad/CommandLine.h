@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QPointF>
+#include <QWidget>
+
+QT_BEGIN_NAMESPACE
+class QLabel;
+class QLineEdit;
+QT_END_NAMESPACE
+
+// The line at the bottom, where commands and coordinates are typed.
+class CommandLine : public QWidget
+{
+    Q_OBJECT
+
+public:
+    struct Input
+    {
+        enum class Kind { Nothing, Point, Number, Words };
+        Kind kind = Kind::Nothing;
+        QPointF point;
+        double number = 0;
+    };
+    // "3,4" is a point, "@3,4" one that far from `last`, "5<90" and "@5<90" the same by
+    // distance and angle in degrees, "3.5" a number, anything else words.
+    [[nodiscard]] static Input parse(const QString &text, const QPointF &last);
+
+    explicit CommandLine(QWidget *parent = nullptr);
+    void setPrompt(const QString &prompt);
+    [[nodiscard]] QString text() const;
+    // Takes a key that was pressed elsewhere in the window.
+    void takeKey(QKeyEvent *event);
+
+Q_SIGNALS:
+    // Enter was pressed; the line is empty again.
+    void entered(const QString &text);
+    void textChanged(const QString &text);
+
+private:
+    QLabel *m_prompt;
+    QLineEdit *m_edit;
+};

@@ -1,0 +1,179 @@
+#include "examples/sketchpad/DxfFile.h"
+
+#include "examples/sketchpad/DxfFilter.h"
+#include "examples/sketchpad/DxfReader.h"
+
+#include <dxflib/dl_dxf.h>
+#include <QFile>
+#include <QSaveFile>
+#include <QTemporaryDir>
+#include <QtMath>
+
+#include <exception>
+#include <memory>
+#include <sstream>
+
+namespace dxf {
+namespace {
+
+QString tr(const char *sentence)
+{
+    return QCoreApplication::translate("dxf", sentence);
+}
+
+// ASCII, with everything else as \U+XXXX, which readers of all ages understand.
+std::string encoded(const QString &text)
+{
+    std::string bytes;
+    for (const QChar character : text) {
+        if (character.unicode() >= 32 && character.unicode() < 127)
+            bytes += character.toLatin1();
+        else
+            bytes += QStringLiteral("\\U+%1")
+                         .arg(character.unicode(), 4, 16, QLatin1Char('0'))
+                         .toUpper()
+                         .toStdString();
+    }
+    return bytes;
+}
+
+void writeTables(DL_Dxf &dxf, DL_WriterA &out, const Sheet &sheet)
+{
+    out.sectionTables();
+    dxf.writeVPort(out);
+    // Each table announces its size; a line type's first two entries stand for themselves.
+    out.tableLinetypes(int(sheet.lineTypes.size()) + 2);
+    for (const char *name : {"BYBLOCK", "BYLAYER"})
+        dxf.writeLinetype(out, DL_LinetypeData(name, "", 0, 0, 0));
+    for (auto type = sheet.lineTypes.begin(); type != sheet.lineTypes.end(); ++type) {
+        if (type.key().startsWith(QLatin1String("BY"), Qt::CaseInsensitive))
+            continue;
+        QVector<double> dashes = type.value();
+        double length = 0;
+        for (const double dash : dashes)
+            length += std::abs(dash);
+        dxf.writeLinetype(
+            out, DL_LinetypeData(encoded(type.key()), "", 0, int(dashes.size()), length, dashes.data()));
+    }
+    out.tableEnd();
+    out.tableLayers(int(sheet.layers.size()));
+    for (auto layer = sheet.layers.begin(); layer != sheet.layers.end(); ++layer)
+        dxf.writeLayer(out, DL_LayerData(encoded(layer.key()), layer->flags, layer->off),
+                       DL_Attributes("", layer->color, layer->width, encoded(layer->lineType), 1.0));
+    out.tableEnd();
+    out.tableStyle(1);
+    dxf.writeStyle(out, DL_StyleData("STANDARD", 0, 0, 1, 0, 0, 2.5, "txt", ""));
+    out.tableEnd();
+    dxf.writeView(out);
+    dxf.writeUcs(out);
+    out.tableAppid(1);
+    dxf.writeAppid(out, "ACAD");
+    out.tableEnd();
+    dxf.writeDimStyle(out, 2.5, 1.25, 0.625, 0.625, 2.5);
+    dxf.writeBlockRecord(out);
+    out.tableEnd();
+    out.sectionEnd();
+    out.sectionBlocks();
+    for (const char *name : {"*Model_Space", "*Paper_Space", "*Paper_Space0"}) {
+        dxf.writeBlock(out, DL_BlockData(name, 0, 0, 0, 0));
+        dxf.writeEndBlock(out, name);
+    }
+    out.sectionEnd();
+}
+
+void writeEntity(DL_Dxf &dxf, DL_WriterA &out, const Entity &entity)
+{
+    const DL_Attributes attributes(encoded(entity.layer), entity.color, entity.width,
+                                   encoded(entity.lineType), 1.0);
+    const QPointF &at = entity.origin;
+    if (entity.kind == Entity::Kind::Line)
+        dxf.writeLine(out, DL_LineData(at.x(), at.y(), 0, entity.end.x(), entity.end.y(), 0),
+                      attributes);
+    else if (entity.kind == Entity::Kind::Text)
+        dxf.writeText(out,
+                      DL_TextData(at.x(), at.y(), 0, at.x(), at.y(), 0, entity.height, 1, 0,
+                                  entity.across, entity.upright, encoded(entity.words), "STANDARD",
+                                  qDegreesToRadians(entity.angle)),
+                      attributes);
+    else if (entity.isCircle())
+        dxf.writeCircle(out, DL_CircleData(at.x(), at.y(), 0, entity.radius), attributes);
+    else
+        dxf.writeArc(
+            out, DL_ArcData(at.x(), at.y(), 0, entity.radius, entity.angle, entity.angle + entity.sweep),
+            attributes);
+}
+
+} // namespace
+
+bool isSupported()
+{
+    return true;
+}
+
+std::optional<Sheet> read(const QString &path, QString *error)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        *error = file.errorString();
+        return std::nullopt;
+    }
+    const DxfFilter filter(file.readAll());
+    if (!filter.error().isEmpty()) {
+        *error = filter.error();
+        return std::nullopt;
+    }
+    try {
+        DxfReader reader;
+        std::istringstream known(filter.known());
+        DL_Dxf().in(known, &reader);
+        Sheet sheet = reader.sheet();
+        sheet.units = filter.units();
+        sheet.unread = filter.unread();
+        return sheet;
+    } catch (const std::exception &) {
+        *error = tr("It is damaged.");
+        return std::nullopt;
+    }
+}
+
+bool write(const Sheet &sheet, const QString &path, QString *error)
+{
+    // dxflib writes to a named file and does not say when the disk is full. So it writes
+    // aside, and only a file that has its end replaces what was there.
+    QTemporaryDir aside;
+    const QString name = aside.filePath(QStringLiteral("drawing.dxf"));
+    DL_Dxf dxf;
+    const std::unique_ptr<DL_WriterA> out(
+        dxf.out(QFile::encodeName(name).constData(), DL_Codes::AC1015));
+    if (!aside.isValid() || !out) {
+        *error = tr("The folder for temporary files cannot be written to.");
+        return false;
+    }
+    dxf.writeHeader(*out);
+    out->dxfString(9, "$INSUNITS");
+    out->dxfInt(70, sheet.units);
+    out->sectionEnd();
+    writeTables(dxf, *out, sheet);
+    out->sectionEntities();
+    for (const Entity &entity : sheet.entities)
+        writeEntity(dxf, *out, entity);
+    out->sectionEnd();
+    dxf.writeObjects(*out);
+    dxf.writeObjectsEnd(*out);
+    out->dxfEOF();
+    out->close();
+
+    QFile written(name);
+    const QByteArray bytes = written.open(QIODevice::ReadOnly) ? written.readAll() : QByteArray();
+    if (!bytes.trimmed().endsWith("EOF")) {
+        *error = tr("The folder for temporary files is full.");
+        return false;
+    }
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
+        return true;
+    *error = file.errorString();
+    return false;
+}
+
+} // namespace dxf

@@ -1,0 +1,126 @@
+#include "examples/sketchpad/DxfReader.h"
+
+#include <QLineF>
+#include <QRegularExpression>
+#include <QtMath>
+
+#include <cmath>
+
+namespace {
+
+// Newer files are UTF-8, older ones Windows-1252 with \U+XXXX for the rest.
+QString decoded(const std::string &bytes)
+{
+    QString text = QString::fromUtf8(bytes.c_str());
+    if (text.contains(QChar::ReplacementCharacter))
+        text = QString::fromLatin1(bytes.c_str());
+    static const QRegularExpression coded(QStringLiteral("\\\\U\\+([0-9A-Fa-f]{4})"));
+    for (auto match = coded.match(text); match.hasMatch();
+         match = coded.match(text, match.capturedStart() + 1))
+        text.replace(match.capturedStart(), match.capturedLength(),
+                     QChar(match.captured(1).toUShort(nullptr, 16)));
+    text.replace(QLatin1String("%%d"), QStringLiteral("\u00b0"), Qt::CaseInsensitive);
+    text.replace(QLatin1String("%%p"), QStringLiteral("\u00b1"), Qt::CaseInsensitive);
+    text.replace(QLatin1String("%%c"), QStringLiteral("\u2300"), Qt::CaseInsensitive);
+    return text;
+}
+
+// The side of a polyline between two vertices; `bulge` is the tangent of a quarter of the
+// angle that it turns by, 0 for a straight one.
+Entity side(const QPointF &from, const QPointF &to, double bulge)
+{
+    const QLineF chord(from, to);
+    if (std::abs(bulge) < 1e-9 || chord.length() <= 0)
+        return Entity::line(from, to);
+    const QPointF normal = QPointF(-chord.dy(), chord.dx()) / 2;
+    const QPointF centre = chord.center() + normal * (1 - bulge * bulge) / (2 * bulge);
+    const QPointF start = bulge > 0 ? from : to;
+    const double radius = chord.length() * (1 + bulge * bulge) / (4 * std::abs(bulge));
+    const double angle = qRadiansToDegrees(std::atan2(start.y() - centre.y(), start.x() - centre.x()));
+    return Entity::arc(centre, radius, angle, qRadiansToDegrees(4 * std::atan(std::abs(bulge))));
+}
+
+} // namespace
+
+void DxfReader::addLayer(const DL_LayerData &data)
+{
+    Sheet::Layer layer;
+    layer.color = attributes.getColor();
+    layer.lineType = decoded(attributes.getLinetype());
+    layer.width = attributes.getWidth();
+    layer.flags = data.flags;
+    layer.off = data.off;
+    m_sheet.layers[decoded(data.name)] = layer;
+}
+
+void DxfReader::addLinetypeDash(double length)
+{
+    m_dashes.append(length);
+}
+
+void DxfReader::addLinetype(const DL_LinetypeData &data)
+{
+    m_sheet.lineTypes[decoded(data.name)] = m_dashes;
+    m_dashes.clear();
+}
+
+void DxfReader::add(Entity entity)
+{
+    entity.layer = decoded(attributes.getLayer());
+    entity.color = attributes.getColor();
+    entity.lineType = decoded(attributes.getLinetype());
+    entity.width = attributes.getWidth();
+    m_sheet.entities.push_back(entity);
+}
+
+void DxfReader::addLine(const DL_LineData &data)
+{
+    add(Entity::line({data.x1, data.y1}, {data.x2, data.y2}));
+}
+
+void DxfReader::addArc(const DL_ArcData &data)
+{
+    const double sweep = std::fmod(std::fmod(data.angle2 - data.angle1, 360) + 360, 360);
+    add(Entity::arc({data.cx, data.cy}, data.radius, data.angle1, sweep > 0 ? sweep : 360));
+}
+
+void DxfReader::addCircle(const DL_CircleData &data)
+{
+    add(Entity::circle({data.cx, data.cy}, data.radius));
+}
+
+void DxfReader::addText(const DL_TextData &data)
+{
+    // 4 is one word for the middle both ways. An aligned text hangs on its second point.
+    const bool middle = data.hJustification == 4;
+    const bool aligned = data.hJustification || data.vJustification;
+    Entity text = Entity::label(aligned ? QPointF(data.apx, data.apy) : QPointF(data.ipx, data.ipy),
+                                data.height, decoded(data.text));
+    text.angle = qRadiansToDegrees(data.angle); // of all angles only this one is in radians
+    text.across = middle ? 1 : data.hJustification;
+    text.upright = middle ? 2 : data.vJustification;
+    add(text);
+}
+
+void DxfReader::addPolyline(const DL_PolylineData &data)
+{
+    endSequence();
+    m_isClosed = data.flags & 1;
+    ++m_sheet.polylines;
+}
+
+void DxfReader::addVertex(const DL_VertexData &data)
+{
+    m_vertices.push_back(data);
+}
+
+void DxfReader::endSequence()
+{
+    const std::size_t sides = m_vertices.size() < 2 ? 0 : m_vertices.size() - (m_isClosed ? 0 : 1);
+    for (std::size_t i = 0; i < sides; ++i) {
+        const DL_VertexData &from = m_vertices[i];
+        const DL_VertexData &to = m_vertices[(i + 1) % m_vertices.size()];
+        add(side({from.x, from.y}, {to.x, to.y}, from.bulge));
+    }
+    m_vertices.clear();
+}

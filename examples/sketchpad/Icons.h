@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QIcon>
+
+// The program's own icons, drawn here so that they look the same whatever theme is set.
+namespace icons {
+
+// The icon of the action or window with this object name; null if it has none.
+[[nodiscard]] QIcon named(const QString &name);
+
+} // namespace icons

@@ -1,0 +1,31 @@
+#include "examples/sketchpad/Canvas.h"
+#include "examples/sketchpad/MainWindow.h"
+#include "host/GestureHost.h"
+
+#include <QApplication>
+
+#include <iostream>
+
+int main(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("sketchpad"));
+    QApplication::setApplicationDisplayName(QString());
+    MainWindow window;
+
+    // All that a program does to have mouse gestures. The profile, which is built into this
+    // program, says which of its actions are the well-known commands.
+    GestureHost::Options options;
+    options.program = QStringLiteral("sketchpad");
+    options.profileFolders = {QStringLiteral(":/profiles")};
+    GestureHost gestures(&window, options);
+    gestures.addView(window.canvas());
+    QString error;
+    if (!gestures.start(&error))
+        std::cerr << "sketchpad: " << qPrintable(error) << '\n';
+
+    window.show();
+    if (QApplication::arguments().size() > 1)
+        window.openFile(QApplication::arguments().at(1));
+    return QApplication::exec();
+}
