@@ -411,7 +411,7 @@ void tst_Images::sectorsCoverTheRing()
                 continue;
             // On a border the pixel belongs to two sectors, a share to each.
             int sum = 0;
-            for (const QImage &image : qAsConst(images))
+            for (const QImage &image : std::as_const(images))
                 sum += qAlpha(image.pixel(x, y));
             QVERIFY2(sum >= 250 && sum <= 262,
                      qPrintable(QStringLiteral("(%1, %2): %3").arg(x).arg(y).arg(sum)));

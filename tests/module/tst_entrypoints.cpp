@@ -1,0 +1,249 @@
+// The entry points: one module object, the memory it lives in, and the version it declares.
+// This program stands in for the platform's allocator and for operator new.
+
+#include "module/EntryPoints.h"
+#include "sdk/od/OdAlloc.h"
+#include "sdk/od/OdRxModule.h"
+#include "tests/fakehost/FakeHost.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QtTest>
+
+#include <cstdlib>
+#include <memory>
+#include <new>
+#include <vector>
+
+namespace {
+
+// What odrxAlloc does next, and what went through it.
+bool memoryIsShort = false;
+std::vector<void *> allocated;
+std::vector<void *> freed;
+std::size_t lastSize = 0;
+
+// Counts down with every operator new; the one that reaches 0 fails. Negative: none does.
+int newsUntilFailure = -1;
+
+} // namespace
+
+void *odrxAlloc(std::size_t bytes)
+{
+    lastSize = bytes;
+    if (memoryIsShort)
+        return nullptr;
+    void *memory = std::malloc(bytes);
+    allocated.push_back(memory);
+    return memory;
+}
+
+void odrxFree(void *memory)
+{
+    freed.push_back(memory);
+    std::free(memory);
+}
+
+void *operator new(std::size_t bytes)
+{
+    if (newsUntilFailure >= 0 && newsUntilFailure-- == 0)
+        throw std::bad_alloc();
+    if (void *memory = std::malloc(bytes))
+        return memory;
+    throw std::bad_alloc();
+}
+
+void operator delete(void *memory) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete(void *memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
+
+class tst_EntryPoints : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { tests::failOnWarnings(); }
+    void init()
+    {
+        tests::resetWarnings();
+        allocated.clear();
+        freed.clear();
+    }
+    void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
+
+    void versionIs3810();
+    void creationFillsTheWrapper();
+    void creationTouchesNoHost();
+    void secondCallReturnsTheSameObject();
+    void missingNameAndDataAreTaken();
+    void shortMemoryThrowsAndIsTriedAgain();
+    void constructorFailureFreesAndLetsThrough();
+    void deleteModuleFreesAndForgets();
+    void deleteModuleObjectForgetsAndNothingElse();
+    void releaseNeverFrees();
+};
+
+void tst_EntryPoints::versionIs3810()
+{
+    int major = -1;
+    int minor = -1;
+    int majorBuild = -1;
+    int minorBuild = -1;
+    odrxGetAPIVersion(major, minor, majorBuild, minorBuild);
+    QCOMPARE(major, 3);
+    QCOMPARE(minor, 8);
+    QCOMPARE(majorBuild, 1);
+    QCOMPARE(minorBuild, 0);
+}
+
+void tst_EntryPoints::creationFillsTheWrapper()
+{
+    int handle = 0;
+    std::wstring name = L"gestures";
+    OdRxModule *module = odrxCreateModuleObject(&handle, name.c_str());
+    name.assign(L"xxxxxxxx"); // the name was copied
+
+    QVERIFY(module);
+    QCOMPARE(module->numRefs(), 0L);
+    QCOMPARE(module->sysData(), static_cast<void *>(&handle));
+    QCOMPARE(module->moduleName().toQString(), QStringLiteral("gestures"));
+    QCOMPARE(allocated.size(), std::size_t(1));
+    module->deleteModule();
+}
+
+void tst_EntryPoints::creationTouchesNoHost()
+{
+    tests::FakeHost host;
+    host.documents.open();
+    OdRxModule *module = odrxCreateModuleObject(nullptr, L"gestures");
+    QCOMPARE(host.log.calls, QStringList());
+    module->deleteModule();
+    QCOMPARE(host.log.calls, QStringList());
+}
+
+void tst_EntryPoints::secondCallReturnsTheSameObject()
+{
+    int first = 0;
+    int second = 0;
+    OdRxModule *module = odrxCreateModuleObject(&first, L"first");
+
+    QCOMPARE(odrxCreateModuleObject(&second, L"second"), module);
+    QCOMPARE(odrxCreateModuleObject(nullptr, nullptr), module);
+
+    QCOMPARE(module->sysData(), static_cast<void *>(&first));
+    QCOMPARE(module->moduleName().toQString(), QStringLiteral("first"));
+    QCOMPARE(allocated.size(), std::size_t(1));
+    module->deleteModule();
+}
+
+void tst_EntryPoints::missingNameAndDataAreTaken()
+{
+    OdRxModule *module = odrxCreateModuleObject(nullptr, nullptr);
+    QVERIFY(module);
+    QCOMPARE(module->sysData(), static_cast<void *>(nullptr));
+    QVERIFY(module->moduleName().isEmpty());
+    module->deleteModule();
+}
+
+void tst_EntryPoints::shortMemoryThrowsAndIsTriedAgain()
+{
+    memoryIsShort = true;
+    QVERIFY_EXCEPTION_THROWN(static_cast<void>(odrxCreateModuleObject(nullptr, L"gestures")),
+                             std::bad_alloc);
+    QVERIFY_EXCEPTION_THROWN(static_cast<void>(odrxCreateModuleObject(nullptr, L"gestures")),
+                             std::bad_alloc);
+    QVERIFY(freed.empty());
+
+    memoryIsShort = false;
+    OdRxModule *module = odrxCreateModuleObject(nullptr, L"gestures");
+    QVERIFY(module);
+    QCOMPARE(module->moduleName().toQString(), QStringLiteral("gestures"));
+    module->deleteModule();
+}
+
+void tst_EntryPoints::constructorFailureFreesAndLetsThrough()
+{
+    bool thrown = false;
+    newsUntilFailure = 0; // the first thing that the tracker's base asks for
+    try {
+        static_cast<void>(odrxCreateModuleObject(nullptr, L"gestures"));
+    } catch (const std::bad_alloc &) {
+        thrown = true;
+    }
+    const bool failed = newsUntilFailure < 0;
+    newsUntilFailure = -1;
+
+    QVERIFY(failed);
+    QVERIFY(thrown);
+    QCOMPARE(allocated.size(), std::size_t(1));
+    QCOMPARE(freed, allocated);
+
+    // The pointer stayed null: the next call makes one.
+    OdRxModule *module = odrxCreateModuleObject(nullptr, L"gestures");
+    QVERIFY(module);
+    QCOMPARE(allocated.size(), std::size_t(2));
+    module->deleteModule();
+}
+
+void tst_EntryPoints::deleteModuleFreesAndForgets()
+{
+    OdRxModule *module = odrxCreateModuleObject(nullptr, L"gestures");
+    QVERIFY(freed.empty());
+
+    module->deleteModule();
+
+    // The whole object, and as one piece: what was allocated is what was freed.
+    QVERIFY(lastSize > 0);
+    QCOMPARE(freed, allocated);
+    OdRxModule *next = odrxCreateModuleObject(nullptr, L"next");
+    QCOMPARE(allocated.size(), std::size_t(2));
+    QCOMPARE(next->moduleName().toQString(), QStringLiteral("next"));
+    next->deleteModule();
+}
+
+void tst_EntryPoints::deleteModuleObjectForgetsAndNothingElse()
+{
+    tests::FakeHost host;
+    OdRxModule *module = odrxCreateModuleObject(nullptr, L"first");
+    module->initApp();
+    host.log.clear();
+
+    deleteModuleObject();
+
+    QVERIFY(freed.empty());
+    QCOMPARE(host.log.calls, QStringList());
+    QCOMPARE(module->moduleName().toQString(), QStringLiteral("first"));
+    QCOMPARE(host.stack.commands.size(), std::size_t(1));
+
+    OdRxModule *next = odrxCreateModuleObject(nullptr, L"second");
+    QVERIFY(next != module);
+    // The host's own deletion of the one that was forgotten.
+    delete module;
+    QCOMPARE(freed.size(), std::size_t(1));
+    next->deleteModule();
+    QCOMPARE(freed.size(), std::size_t(2));
+    // A second time there is nothing to forget.
+    deleteModuleObject();
+    deleteModuleObject();
+}
+
+void tst_EntryPoints::releaseNeverFrees()
+{
+    OdRxModule *module = odrxCreateModuleObject(nullptr, L"gestures");
+    module->addRef();
+    module->release();
+    module->release();
+    module->release();
+    QCOMPARE(module->numRefs(), -2L);
+    QVERIFY(freed.empty());
+    QCOMPARE(odrxCreateModuleObject(nullptr, L"other"), module);
+    module->deleteModule();
+}
+
+QTEST_MAIN(tst_EntryPoints)
+#include "tst_entrypoints.moc"

@@ -1,0 +1,252 @@
+// The module as hosts meet it: a file that is loaded, asked for its entry points, used and
+// closed again.
+
+#include "sdk/chx/CHxEditorReactor.h"
+#include "sdk/chx/CHxTracker.h"
+#include "sdk/od/OdRxModule.h"
+#include "sdk/QtBridge.h"
+#include "tests/bindings/OlderSettings.h"
+#include "tests/fakehost/FakeHitTest.h"
+#include "tests/fakehost/FakeHost.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QDialog>
+#include <QFileInfo>
+#include <QImage>
+#include <QPointer>
+#include <QProcess>
+#include <QtTest>
+
+#include <memory>
+
+#include <dlfcn.h>
+#include <link.h>
+
+namespace {
+
+using tests::FakeHost;
+
+const QString kFile = QStringLiteral(MODULE_FILE);
+
+// Counts the memory that the module's file takes in the process, all its segments together.
+int addSegments(dl_phdr_info *info, std::size_t, void *sum)
+{
+    if (QString::fromLocal8Bit(info->dlpi_name) != kFile)
+        return 0;
+    for (int i = 0; i < info->dlpi_phnum; ++i) {
+        if (info->dlpi_phdr[i].p_type == PT_LOAD)
+            *static_cast<std::size_t *>(sum) += info->dlpi_phdr[i].p_memsz;
+    }
+    return 1;
+}
+
+class Library
+{
+public:
+    Library()
+        : m_handle(dlopen(MODULE_FILE, RTLD_NOW | RTLD_LOCAL))
+    {
+    }
+    ~Library() { close(); }
+    Q_DISABLE_COPY_MOVE(Library)
+
+    void close()
+    {
+        if (m_handle)
+            dlclose(m_handle);
+        m_handle = nullptr;
+    }
+    [[nodiscard]] bool isOpen() const { return m_handle != nullptr; }
+    template <class Function> [[nodiscard]] Function resolve(const char *name) const
+    {
+        return reinterpret_cast<Function>(dlsym(m_handle, name));
+    }
+    [[nodiscard]] OdRxModule *create(const wchar_t *name = L"gestures") const
+    {
+        return resolve<OdCreateModuleObject>("odrxCreateModuleObject")(nullptr, name);
+    }
+
+private:
+    void *m_handle;
+};
+
+// Press and drag in a document, the way a host reports it.
+void drag(tests::FakeDocument &document)
+{
+    tests::FakeHitTest hit;
+    hit.document = &document;
+    hit.press = true;
+    hit.buttonHeld = true;
+    for (CHxTracker *tracker : document.input.trackers)
+        tracker->Update(nullptr, &hit);
+    hit.press = false;
+    hit.motion = true;
+    hit.position = QPoint(30, 0);
+    for (CHxTracker *tracker : document.input.trackers)
+        tracker->Update(nullptr, &hit);
+}
+
+} // namespace
+
+class tst_ModuleFile : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { tests::failOnWarnings(); }
+    void init() { tests::resetWarnings(); }
+    void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
+
+    void fileIsNamedAfterItsQt();
+    void exportsExactlyTheEntryPoints();
+    void declaresItsVersion();
+    void livesAWholeLife();
+    void ringOutlivesTheClosedFile();
+    void secondLoadStartsAnew();
+    void carriesItsImages();
+    void sizeIsModest();
+
+private:
+    tests::OlderSettings m_settings;
+};
+
+void tst_ModuleFile::fileIsNamedAfterItsQt()
+{
+    QCOMPARE(QFileInfo(kFile).fileName(),
+             QStringLiteral("gesturewidget-module-qt%1.so").arg(qtbridge::kQtMajor));
+    QVERIFY(QFileInfo::exists(kFile));
+}
+
+void tst_ModuleFile::exportsExactlyTheEntryPoints()
+{
+    QProcess nm;
+    nm.start(QStringLiteral(NM_PROGRAM), {QStringLiteral("-D"), QStringLiteral("--defined-only"),
+                                          QStringLiteral("--format=posix"), kFile});
+    QVERIFY(nm.waitForFinished());
+    QCOMPARE(nm.exitCode(), 0);
+
+    QStringList symbols;
+    const QStringList lines =
+        QString::fromLocal8Bit(nm.readAllStandardOutput()).split(QLatin1Char('\n'));
+    for (const QString &line : lines) {
+        if (!line.isEmpty())
+            symbols << line.section(QLatin1Char(' '), 0, 1);
+    }
+    symbols.sort();
+    // T: functions, and neither weak nor unique.
+    const QStringList expected{QStringLiteral("deleteModuleObject T"),
+                               QStringLiteral("odrxCreateModuleObject T"),
+                               QStringLiteral("odrxGetAPIVersion T")};
+    QCOMPARE(symbols, expected);
+}
+
+void tst_ModuleFile::declaresItsVersion()
+{
+    Library library;
+    QVERIFY2(library.isOpen(), dlerror());
+    const auto version = library.resolve<OdGetApiVersion>("odrxGetAPIVersion");
+    QVERIFY(version);
+
+    int numbers[4] = {-1, -1, -1, -1};
+    version(numbers[0], numbers[1], numbers[2], numbers[3]);
+
+    QCOMPARE(numbers[0], 3);
+    QCOMPARE(numbers[1], 8);
+    QCOMPARE(numbers[2], 1);
+    QCOMPARE(numbers[3], 0);
+    QVERIFY(library.resolve<OdDeleteModuleObject>("deleteModuleObject"));
+}
+
+void tst_ModuleFile::livesAWholeLife()
+{
+    FakeHost host;
+    tests::FakeMenuItem *tools =
+        host.addTopLevelMenu(QStringLiteral("&Tools"), QStringLiteral("ID_MnTools"));
+    tests::FakeDocument *document = host.documents.open();
+    QWidget window;
+    host.mainWindow = &window;
+    Library library;
+    QVERIFY2(library.isOpen(), dlerror());
+
+    OdRxModule *module = library.create();
+    QCOMPARE(library.create(L"again"), module);
+    QCOMPARE(host.log.calls, QStringList());
+    module->initApp();
+    QVERIFY(host.stack.lookupCommand(OdString(QStringLiteral("gesture"))));
+    // The host reaches it through the interfaces of the shared library between them.
+    auto *reactor = dynamic_cast<CHxEditorReactor *>(host.editor.reactors.front());
+    QVERIFY(reactor);
+    reactor->mainFrameCreated(&window);
+    QCOMPARE(tools->subItems->GetCount(), 1);
+    drag(*document);
+    reactor->mainFrameDestroyed(&window);
+    QVERIFY(!host.stack.lookupCommand(OdString(QStringLiteral("gesture"))));
+    QCOMPARE(tools->subItems->GetCount(), 0);
+    QVERIFY(document->input.trackers.empty());
+    module->uninitApp();
+    host.editor.reactors.clear();
+    module->deleteModule();
+}
+
+void tst_ModuleFile::ringOutlivesTheClosedFile()
+{
+    FakeHost host;
+    tests::FakeDocument *document = host.documents.open();
+    auto window = std::make_unique<QWidget>();
+    host.mainWindow = window.get();
+    {
+        Library library;
+        QVERIFY2(library.isOpen(), dlerror());
+        OdRxModule *module = library.create();
+        module->initApp();
+        drag(*document);
+        host.editor.reactors.clear();
+        document->input.trackers.clear();
+        host.stack.commands.clear();
+        module->deleteModule();
+    }
+    const QList<QDialog *> rings = window->findChildren<QDialog *>();
+    QCOMPARE(rings.size(), 1);
+    // Its code is still there, so the window can take it along.
+    const QPointer<QDialog> ring = rings.front();
+    window.reset();
+    QVERIFY(ring.isNull());
+}
+
+void tst_ModuleFile::secondLoadStartsAnew()
+{
+    FakeHost host;
+    for (int round = 0; round < 3; ++round) {
+        Library library;
+        QVERIFY2(library.isOpen(), dlerror());
+        OdRxModule *module = library.create();
+        QCOMPARE(module->numRefs(), 0L);
+        module->initApp();
+        module->deleteModule();
+        host.stack.commands.clear();
+        host.documents.reactors.clear();
+        host.editor.reactors.clear();
+    }
+}
+
+void tst_ModuleFile::carriesItsImages()
+{
+    Library library;
+    QVERIFY2(library.isOpen(), dlerror());
+    QCOMPARE(QImage(QStringLiteral(":/gesturewidgetimages/Resources/gesture_widget.png")).size(),
+             QSize(250, 250));
+}
+
+void tst_ModuleFile::sizeIsModest()
+{
+    Library library;
+    QVERIFY2(library.isOpen(), dlerror());
+    std::size_t bytes = 0;
+    dl_iterate_phdr(addSegments, &bytes);
+    qInfo("the module takes %zu KiB of memory", bytes / 1024);
+    QVERIFY(bytes > 100u * 1024u); // it was found
+    QVERIFY2(bytes < MODULE_SIZE_LIMIT, qPrintable(QString::number(bytes)));
+}
+
+QTEST_MAIN(tst_ModuleFile)
+#include "tst_modulefile.moc"
