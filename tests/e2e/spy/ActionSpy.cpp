@@ -1,12 +1,14 @@
 #include "tests/e2e/spy/ActionSpy.h"
 
+#include "sdk/QtBridge.h"
+
 #include <QAction>
 #include <QActionEvent>
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
-#include <QKeySequence>
 #include <QMenu>
+#include <QMetaEnum>
 #include <QMouseEvent>
 #include <QWidget>
 
@@ -34,6 +36,12 @@ QString plain(QString caption)
 {
     caption.remove(QLatin1Char('&'));
     return caption.simplified();
+}
+
+// Such as "Escape".
+QString keyName(int key)
+{
+    return QString::fromLatin1(QMetaEnum::fromType<Qt::Key>().valueToKey(key)).mid(4);
 }
 
 QRect globalGeometry(const QWidget *widget)
@@ -70,7 +78,6 @@ bool ActionSpy::eventFilter(QObject *watched, QEvent *event)
     case QEvent::ChildAdded:
     case QEvent::Move:
     case QEvent::Resize:
-    case QEvent::Hide:
     case QEvent::ParentChange:
         m_lookAround.start();
         break;
@@ -86,7 +93,7 @@ void ActionSpy::watchWidgetEvent(QWidget *widget, QEvent *event)
 {
     const auto mouse = [&](const char *what) {
         const auto *mouseEvent = static_cast<QMouseEvent *>(event);
-        const QPoint at = QCursor::pos();
+        const QPoint at = qtbridge::globalPosition(*mouseEvent);
         write({QLatin1String(what), QString::number(mouseEvent->button()), className(widget),
                QStringLiteral("%1,%2").arg(at.x()).arg(at.y())});
     };
@@ -97,6 +104,11 @@ void ActionSpy::watchWidgetEvent(QWidget *widget, QEvent *event)
         else if (widget->isWindow())
             write({QStringLiteral("window"), className(widget), text(globalGeometry(widget)),
                    plain(widget->windowTitle())});
+        m_lookAround.start();
+        break;
+    case QEvent::Hide:
+        if (widget->isWindow())
+            write({QStringLiteral("gone"), className(widget)});
         m_lookAround.start();
         break;
     case QEvent::MouseButtonPress:
@@ -113,8 +125,8 @@ void ActionSpy::watchWidgetEvent(QWidget *widget, QEvent *event)
                QString::number(static_cast<QContextMenuEvent *>(event)->reason())});
         break;
     case QEvent::KeyPress:
-        write({QStringLiteral("key"), QKeySequence(static_cast<QKeyEvent *>(event)->key()).toString(),
-               className(widget)});
+        write(
+            {QStringLiteral("key"), keyName(static_cast<QKeyEvent *>(event)->key()), className(widget)});
         break;
     default:
         break;

@@ -23,6 +23,7 @@ QT_END_NAMESPACE
 //     started    PID
 //     window     CLASS  X,Y,W,H  TITLE      a window came up
 //     menu       CLASS  OBJECTNAME          a menu opened
+//     gone       CLASS                      a window or menu was closed
 //     view       CLASS  X,Y,W,H             a drawing view is there, in global pixels
 //     ready                                 view and menu entry are there, see below
 //     triggered  OBJECTNAME  CAPTION        an action ran

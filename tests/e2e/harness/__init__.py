@@ -1,0 +1,1 @@
+"""What the tests in real programs, and perform-gestures, are made of."""

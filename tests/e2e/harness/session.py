@@ -1,0 +1,258 @@
+"""One program on the desktop, started, watched and ended by a test."""
+
+import os
+import resource
+import shutil
+import signal
+import subprocess
+import sys
+from pathlib import Path
+
+from .driver import Driver, DriverError
+from .programs import STEPS
+from .spylog import SpyLog
+
+TESTS = Path(__file__).resolve().parents[2]
+
+START_SECONDS = 60  # a cold start on a busy machine
+ANSWER_SECONDS = 15
+RING_SIZE = (250, 250)
+# Well beyond the 69 pixels at which a direction is chosen, diagonals included.
+FAR = 110
+
+# A drawing of two lines, enough to be opened, zoomed and saved.
+DRAWING = "".join(
+    f"{code}\n{value}\n"
+    for code, value in [
+        (0, "SECTION"), (2, "ENTITIES"),
+        (0, "LINE"), (8, "0"), (10, 0.0), (20, 0.0), (30, 0.0), (11, 100.0), (21, 0.0), (31, 0.0),
+        (0, "LINE"), (8, "0"), (10, 0.0), (20, 0.0), (30, 0.0), (11, 0.0), (21, 60.0), (31, 0.0),
+        (0, "ENDSEC"), (0, "EOF"),
+    ])
+
+
+class Failure(AssertionError):
+    """Something that should have happened did not."""
+
+
+class Session:
+    """Use as a context manager. On the way out of a test that failed, it leaves a picture of
+    the screen, the spy's log and the program's output in `folder`."""
+
+    def __init__(self, program, build, folder, gestures=True, settings=None, drawing=None,
+                 through_launcher=None):
+        self.program = program
+        self.build = Path(build).resolve()
+        self.folder = Path(folder).resolve()
+        self.gestures = gestures
+        self._settings = settings or {}
+        self._drawing = drawing
+        self._through_launcher = gestures and not program.links_host \
+            if through_launcher is None else through_launcher
+        self.driver = None
+        self.spy = None
+        self.process = None
+        self.view = None
+
+    # --- starting and ending
+
+    def __enter__(self):
+        shutil.rmtree(self.folder, ignore_errors=True)
+        for name in ("home", "config", "data", "cache", "runtime"):
+            (self.folder / name).mkdir(parents=True)
+        (self.folder / "runtime").chmod(0o700)
+        for name, text in self.program.configuration.items():
+            self._write(self.folder / "config" / name, text)
+        if self._settings:
+            self._write(self.settings_file, "[GestureWidget]\n" + "".join(
+                f"{key}={value}\n" for key, value in self._settings.items()))
+        self.drawing = self.folder / "drawing.dxf"
+        if self._drawing:
+            shutil.copyfile(self._drawing, self.drawing)
+        else:
+            self.drawing.write_text(DRAWING)
+        self.driver = Driver(self.build)
+        self.spy = SpyLog(self.folder / "spy.pipe", self.folder / "spy.log")
+        self._start()
+        try:
+            self._wait_until_ready()
+        except BaseException:
+            self.__exit__(*sys.exc_info())
+            raise
+        return self
+
+    def __exit__(self, kind, error, trace):
+        if kind is not None:
+            self.driver.succeeds("screenshot", self.folder / "failure.png")
+            if isinstance(error, AssertionError):
+                sys.stderr.write(f"evidence: {self.folder}\n{self._tail()}\n")
+        if self.process.poll() is None:
+            self.process.kill()
+        self.process.wait(timeout=ANSWER_SECONDS)
+        self.driver.close()
+        self.spy.close()
+        return False
+
+    @property
+    def settings_file(self):
+        return self.folder / "config" / "gesturewidget" / f"{self.program.name}.ini"
+
+    def executable(self):
+        if "/" in self.program.executable:
+            return str(self.build / self.program.executable)
+        return self.program.executable
+
+    def _start(self):
+        environment = dict(
+            os.environ,
+            HOME=str(self.folder / "home"),
+            XDG_CONFIG_HOME=str(self.folder / "config"),
+            XDG_DATA_HOME=str(self.folder / "data"),
+            XDG_CACHE_HOME=str(self.folder / "cache"),
+            XDG_RUNTIME_DIR=str(self.folder / "runtime"),
+            QT_QPA_GENERIC_PLUGINS="actionspy",
+            QT_PLUGIN_PATH=str(self.build / "tests" / "plugins"),
+            ACTIONSPY_LOG=str(self.spy.path),
+            ACTIONSPY_VIEW=self.program.view,
+            ACTIONSPY_ENTRY="Mouse Gestures..." if self.gestures else "",
+            LANG="C.UTF-8",
+        )
+        command = [self.executable(), str(self.drawing)]
+        if self._through_launcher:
+            command.insert(0, str(self.build / "bin" / "mouse-gestures"))
+        with open(self.folder / "stderr.log", "wb") as errors, \
+                open(self.folder / "stdout.log", "wb") as output:
+            self.process = subprocess.Popen(
+                command, env=environment, cwd=self.folder, stdin=subprocess.DEVNULL,
+                stdout=output, stderr=errors,
+                preexec_fn=lambda: resource.setrlimit(
+                    resource.RLIMIT_CORE, (resource.RLIM_INFINITY, resource.RLIM_INFINITY)))
+
+    def _wait_until_ready(self):
+        self.expect(0, lambda line: line[0] == "ready", "the view and the menu entry", START_SECONDS)
+        if any("Splash" in line[1] for line in self.spy.since(0, "window")):
+            self.expect(0, lambda line: line[0] == "gone" and "Splash" in line[1],
+                        "the splash screen to go", START_SECONDS)
+        # Windows still move and grow after they have come up: the view's place counts once
+        # the window manager has placed the main window and the screen shows no change.
+        self.driver.ask("wait-window", self.program.title, START_SECONDS * 1000)
+        screen = (0, 0, *self._screen_size())
+        self.driver.ask("remember", *screen)
+        self.driver.ask("wait-steady", START_SECONDS * 1000)
+        self.locate_view()
+
+    def _screen_size(self):
+        width, height = os.environ.get("DESKTOP_SCREEN", "1600x1000x24").split("x")[:2]
+        return int(width), int(height)
+
+    def locate_view(self):
+        """Takes the view's last known geometry from the spy; returns its middle."""
+        views = self.spy.since(0, "view")
+        self.view = tuple(int(number) for number in views[-1][2].split(","))
+        return self.middle()
+
+    def middle(self):
+        x, y, width, height = self.view
+        return x + width // 2, y + height // 2
+
+    def quit(self):
+        """Closes the main window as a person does. Returns the exit status, negative for a
+        signal."""
+        mark = self.spy.mark()
+        self.driver.ask("close", self.program.title)
+        self.expect(mark, lambda line: line[0] == "quit", "the program's end")
+        try:
+            return self.process.wait(timeout=ANSWER_SECONDS)
+        except subprocess.TimeoutExpired:
+            raise Failure("the program said that it quits, and did not end") from None
+
+    # --- gestures
+
+    def move_to_middle(self):
+        self.driver.ask("move", *self.middle())
+
+    def offset(self, direction, length):
+        step = STEPS[direction]
+        scale = 0.7071 if all(step) else 1.0
+        return tuple(round(part * length * scale) for part in step)
+
+    def drag(self, direction, length=FAR, milliseconds=300):
+        self.driver.ask("drag", *self.offset(direction, length), milliseconds)
+
+    def gesture(self, direction, length=FAR, milliseconds=300):
+        """A whole gesture, from the middle of the view."""
+        self.move_to_middle()
+        self.driver.ask("press", 3)
+        self.drag(direction, length, milliseconds)
+        self.driver.ask("release", 3)
+
+    def gesture_runs(self, direction, action, **how):
+        """Performs a gesture and waits for the action; nothing else may have run."""
+        mark = self.spy.mark()
+        self.gesture(direction, **how)
+        self.expect(mark, lambda line: line[0] == "triggered", f'"{action}" by a gesture {direction}')
+        self.ring_is_gone()
+        if direction in self.program.dialogs:
+            self.dismiss_dialog(mark)
+        ran = [line[1] for line in self.spy.since(mark, "triggered")]
+        if ran != [action]:
+            raise Failure(f"a gesture {direction} ran {ran}, not [{action!r}]")
+
+    def wait_for_ring(self):
+        answer = self.driver.ask("wait-size", *RING_SIZE, ANSWER_SECONDS * 1000)
+        return tuple(int(number) for number in answer.split()[1:])
+
+    def ring_is_gone(self):
+        self.driver.ask("wait-no-size", *RING_SIZE, ANSWER_SECONDS * 1000)
+
+    def dismiss_dialog(self, mark):
+        """Waits for a dialog that came up after `mark` and closes it."""
+        opened = self.expect(mark, lambda line: line[0] == "window" and "Dialog" in line[1], "a dialog")
+        self.driver.ask("wait-window", opened[3], ANSWER_SECONDS * 1000)
+        self.driver.ask("activate", opened[3])
+        self.driver.ask("key", "Escape")
+        self.expect(mark, lambda line: line[:2] == ["gone", opened[1]], "the dialog to close")
+
+    def cancel_tool(self):
+        """Ends what a command left running in the view."""
+        mark = self.spy.mark()
+        self.driver.ask("key", "Escape")
+        self.expect(mark, lambda line: line[:2] == ["key", "Escape"], "Escape to arrive")
+
+    # --- watching
+
+    def expect(self, mark, wanted, what, timeout=ANSWER_SECONDS):
+        line = self.spy.wait(mark, wanted, timeout, lambda: self.process.poll() is None)
+        if line is None:
+            # Its last words may still be in the pipe when it has ended.
+            line = self.spy.wait(mark, wanted, 0.5)
+        if line is None:
+            status = self.process.poll()
+            ended = "" if status is None else f"; it ended with {describe_status(status)}"
+            raise Failure(f"{self.program.name}: waited in vain for {what}{ended}")
+        return line
+
+    def complaints(self):
+        """What the program wrote to standard error."""
+        return (self.folder / "stderr.log").read_text(errors="replace").splitlines()
+
+    def cores(self):
+        return sorted(path.name for path in self.folder.glob("core*"))
+
+    def _tail(self):
+        def last(name):
+            lines = (self.folder / name).read_text(errors="replace").splitlines()[-15:]
+            return "".join(f"  {line}\n" for line in lines)
+        return f"spy:\n{last('spy.log')}stderr:\n{last('stderr.log')}"
+
+    @staticmethod
+    def _write(path, text):
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_text(text)
+
+
+def describe_status(status):
+    return f"status {status}" if status >= 0 else signal.Signals(-status).name
+
+
+__all__ = ["ANSWER_SECONDS", "DriverError", "FAR", "Failure", "RING_SIZE", "Session", "describe_status"]

@@ -1,0 +1,75 @@
+"""The eyes inside the program: what the spy writes, see spy/ActionSpy.h."""
+
+import os
+import select
+import threading
+import time
+
+
+class SpyLog:
+    """Reads a named pipe in a thread of its own, so that the program never waits for it.
+
+    Lines are lists of fields. Positions in the log are what the tests hold on to: take
+    mark() before doing something, then wait for what happens after it.
+    """
+
+    def __init__(self, pipe, copy):
+        self.path = pipe
+        self._lines = []
+        self._changed = threading.Condition()
+        os.mkfifo(pipe)
+        # Read and write, so that the pipe stays open whatever the program does.
+        self._descriptor = os.open(pipe, os.O_RDWR | os.O_NONBLOCK)
+        self._copy = open(copy, "w", encoding="utf-8", buffering=1)
+        self._closing = os.pipe()
+        self._thread = threading.Thread(target=self._read, daemon=True)
+        self._thread.start()
+
+    def mark(self):
+        with self._changed:
+            return len(self._lines)
+
+    def since(self, mark, *names):
+        """The lines after `mark`, of the kinds named or of all."""
+        with self._changed:
+            return [line for line in self._lines[mark:] if not names or line[0] in names]
+
+    def wait(self, mark, wanted, timeout, alive=lambda: True):
+        """Waits for a line after `mark` that `wanted` accepts; returns it, or None when
+        `timeout` seconds are over or `alive` says that no more will come."""
+        end = time.monotonic() + timeout
+        with self._changed:
+            while True:
+                for line in self._lines[mark:]:
+                    if wanted(line):
+                        return line
+                mark = len(self._lines)
+                left = end - time.monotonic()
+                if left <= 0 or not alive():
+                    return None
+                self._changed.wait(min(left, 0.5))
+
+    def close(self):
+        os.write(self._closing[1], b"x")
+        self._thread.join(timeout=10)
+        for descriptor in (self._descriptor, *self._closing):
+            os.close(descriptor)
+        self._copy.close()
+
+    def _read(self):
+        rest = b""
+        while True:
+            readable, _, _ = select.select([self._descriptor, self._closing[0]], [], [])
+            if self._descriptor in readable:
+                rest += os.read(self._descriptor, 65536)
+                *lines, rest = rest.split(b"\n")
+                self._add([line.decode("utf-8", "replace") for line in lines])
+            elif self._closing[0] in readable:
+                return
+
+    def _add(self, lines):
+        for line in lines:
+            self._copy.write(line + "\n")
+        with self._changed:
+            self._lines.extend(line.split("\t") for line in lines)
+            self._changed.notify_all()

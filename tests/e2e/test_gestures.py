@@ -1,0 +1,340 @@
+"""Gestures in real programs, with real input, judged by what the programs did.
+
+    with-desktop.sh python3 test_gestures.py --build DIR --program NAME [TEST...]
+
+Every test starts the program anew, in folders of its own below DIR/e2e. What must not
+happen is never waited for: the test goes on to something that must happen after it, and
+then looks at all that happened up to there.
+"""
+
+import argparse
+import configparser
+import re
+import sys
+import unittest
+from pathlib import Path
+
+from harness.programs import EIGHT, FOUR, PROGRAMS
+from harness.session import ANSWER_SECONDS, RING_SIZE, Session
+
+BUILD = None
+PROGRAM = None
+
+# What reaches the program by mouse and keyboard, and what it makes of it.
+INPUT = ("press", "release", "doubleclick", "contextmenu", "key", "menu", "triggered")
+
+ALL_KEYS = ["enablemousegesture", "activescheme", *(f"4{n}" for n in range(1, 5)),
+            *(f"8{n}" for n in range(1, 9))]
+
+
+def without_numbers(line):
+    return re.sub(r"0x[0-9a-f]+|\d+", "#", line)
+
+
+class Gestures(unittest.TestCase):
+    def session(self, name=None, **how):
+        folder = BUILD / "e2e" / PROGRAM.name / (name or self._testMethodName)
+        return Session(PROGRAM, BUILD, folder, **how)
+
+    def end(self, session):
+        """Ends the program as a person does; it must be in good health to its last line."""
+        self.assertEqual(session.quit(), 0)
+        self.assertEqual(session.cores(), [])
+
+    # --- the instruments themselves
+
+    def test_instruments(self):
+        """What the driver does, the spy sees, in a program without gestures or with them
+        switched off: to be looked at first when other tests fail."""
+        how = {"settings": {"EnableMouseGesture": "0"}} if PROGRAM.links_host else {"gestures": False}
+        with self.session(**how) as session:
+            x, y = session.middle()
+            session.driver.ask("move", x + 10, y - 20)
+            self.assertEqual(session.driver.ask("pointer"), f"{x + 10} {y - 20}")
+            self.assertEqual(session.driver.ask("grabs"), "pointer free keyboard free")
+            mark = session.spy.mark()
+            session.driver.ask("press", 1)
+            session.driver.ask("drag", -30, 15, 100, 5)
+            session.driver.ask("release", 1)
+            session.expect(mark, lambda line: line[0] == "release", "the release")
+            self.assertEqual(session.spy.since(mark, "press", "release"), [
+                ["press", "1", PROGRAM.view, f"{x + 10},{y - 20}"],
+                ["release", "1", PROGRAM.view, f"{x - 20},{y - 5}"]])
+            session.driver.ask("key", "alt+f")
+            session.expect(mark, lambda line: line[0] == "menu", "the File menu")
+            session.driver.ask("key", "Escape")
+            session.driver.ask("key", "Escape")
+            self.end(session)
+
+    # --- directions
+
+    def test_eight_directions(self):
+        with self.session() as session:
+            for direction in EIGHT:
+                session.gesture_runs(direction, PROGRAM.eight[direction])
+                session.cancel_tool()
+            self.end(session)
+
+    def test_four_directions(self):
+        with self.session(settings={"ActiveScheme": "4"}) as session:
+            for direction in FOUR:
+                session.gesture_runs(direction, PROGRAM.four[direction])
+                session.cancel_tool()
+            self.end(session)
+
+    def test_bindings_come_from_the_settings(self):
+        bindings = {"ActiveScheme": "4", "41": "ID_LINE", "42": "", "43": "ID_ZOOM_BOUNDS", "44": "ID_LINE"}
+        with self.session(settings=bindings) as session:
+            session.gesture_runs("up", PROGRAM.eight["right"])
+            session.cancel_tool()
+            mark = session.spy.mark()
+            session.gesture("left")
+            session.ring_is_gone()
+            session.gesture_runs("down", PROGRAM.eight["up"])
+            self.assertEqual([line[1] for line in session.spy.since(mark, "triggered")],
+                             [PROGRAM.eight["up"]], "an unbound direction ran something")
+            self.end(session)
+
+    def test_first_gesture_fills_the_settings(self):
+        with self.session() as session:
+            session.gesture_runs("up", PROGRAM.eight["up"])
+            self.end(session)
+            settings = configparser.ConfigParser(interpolation=None)
+            settings.read(session.settings_file)
+            self.assertEqual(sorted(settings["GestureWidget"]), sorted(ALL_KEYS))
+            self.assertEqual(settings["GestureWidget"]["ActiveScheme"].strip('"'), "8")
+            self.assertEqual(settings["GestureWidget"]["87"], "ID_LINE")
+
+    # --- how a gesture is made
+
+    def test_release_inside_the_ring_cancels(self):
+        with self.session() as session:
+            mark = session.spy.mark()
+            session.move_to_middle()
+            session.driver.ask("press", 3)
+            session.drag("right", 50)
+            session.wait_for_ring()
+            session.driver.ask("release", 3)
+            session.ring_is_gone()
+            session.gesture_runs("up", PROGRAM.eight["up"])
+            self.assertEqual([line[1] for line in session.spy.since(mark, "triggered")],
+                             [PROGRAM.eight["up"]])
+            self.assertEqual(session.spy.since(mark, "press", "contextmenu", "menu"), [],
+                             "the program saw something of a gesture")
+            self.end(session)
+
+    def test_flick(self):
+        """The button is up again before the ring can be seen."""
+        with self.session() as session:
+            for direction in FOUR:
+                session.gesture_runs(direction, PROGRAM.eight[direction], milliseconds=150)
+                session.cancel_tool()
+            self.end(session)
+
+    def test_going_round_chooses_the_last_direction(self):
+        with self.session() as session:
+            mark = session.spy.mark()
+            session.move_to_middle()
+            session.driver.ask("press", 3)
+            session.drag("left", 50)
+            session.wait_for_ring()
+            session.driver.ask("drag", 50, -50, 150)  # up
+            session.driver.ask("drag", 50, 50, 150)  # right
+            session.driver.ask("drag", 60, 0, 150)
+            session.driver.ask("release", 3)
+            session.expect(mark, lambda line: line[0] == "triggered", "a command")
+            self.assertEqual([line[1] for line in session.spy.since(mark, "triggered")],
+                             [PROGRAM.eight["right"]])
+            self.end(session)
+
+    def test_ten_in_a_row(self):
+        with self.session() as session:
+            for _ in range(5):
+                session.gesture_runs("up", PROGRAM.eight["up"])
+                session.gesture_runs("right", PROGRAM.eight["right"])
+                session.cancel_tool()
+            self.end(session)
+
+    def test_the_ring_lies_around_the_press(self):
+        with self.session() as session:
+            session.move_to_middle()
+            session.driver.ask("press", 3)
+            session.drag("down", 40)
+            ring = session.wait_for_ring()
+            session.driver.ask("release", 3)
+            session.ring_is_gone()
+            x, y = session.middle()
+            self.assertEqual(ring, (x - RING_SIZE[0] // 2, y - RING_SIZE[1] // 2, *RING_SIZE))
+            self.end(session)
+
+    def test_grabs_are_held_and_given_back(self):
+        with self.session() as session:
+            for round_ in range(20):
+                session.move_to_middle()
+                session.driver.ask("press", 3)
+                session.drag("up", 45, milliseconds=80)
+                session.wait_for_ring()
+                # The ring grabs once it is on screen; asking at once would ask too early.
+                held = self.grabs_become(session, "pointer taken keyboard taken")
+                self.assertTrue(held, f"round {round_}: the grabs are not held")
+                session.driver.ask("release", 3)
+                session.ring_is_gone()
+                free = self.grabs_become(session, "pointer free keyboard free")
+                self.assertTrue(free, f"round {round_}: the grabs are not given back")
+            self.end(session)
+
+    @staticmethod
+    def grabs_become(session, wanted):
+        return any(session.driver.ask("grabs") == wanted for _ in range(500))
+
+    def test_keys_during_a_gesture_go_nowhere(self):
+        with self.session() as session:
+            session.move_to_middle()
+            session.driver.ask("press", 3)
+            session.drag("up", 45)
+            session.wait_for_ring()
+            self.assertTrue(self.grabs_become(session, "pointer taken keyboard taken"))
+            mark = session.spy.mark()
+            session.driver.ask("key", "ctrl+q")
+            session.driver.ask("key", "Escape")
+            session.drag("up", 60)
+            session.driver.ask("release", 3)
+            session.expect(mark, lambda line: line[0] == "triggered", "the command")
+            seen = [line for line in session.spy.since(mark, "key", "quit")
+                    if line[0] == "quit" or "DonutDialog" not in line[-1]]
+            self.assertEqual(seen, [])
+            self.assertEqual([line[1] for line in session.spy.since(mark, "triggered")],
+                             [PROGRAM.eight["up"]])
+            self.end(session)
+
+    # --- what is not a gesture
+
+    def compare_with_the_bare_program(self, act, **how):
+        """Does the same in the program without gestures and in the one with them; both must
+        have seen the same."""
+        if PROGRAM.links_host:
+            # It is never without them; switched off, they leave everything to the program.
+            bare = {"settings": {"EnableMouseGesture": "0"}}
+        else:
+            bare = {"gestures": False}
+        seen = []
+        for name, options in (("bare", bare), ("gestures", how)):
+            with self.session(f"{self._testMethodName}-{name}", **options) as session:
+                session.move_to_middle()
+                mark = session.spy.mark()
+                act(session)
+                session.driver.ask("key", "F9")
+                session.expect(mark, lambda line: line[:2] == ["key", "F9"], "a last key")
+                seen.append(["\t".join(line) for line in session.spy.since(mark, *INPUT)])
+                self.end(session)
+        self.assertTrue(any(line.startswith("press") for line in seen[0]))
+        self.assertEqual(seen[0], seen[1])
+
+    def test_right_click_is_unchanged(self):
+        def act(session):
+            session.driver.ask("click", 3)
+            session.driver.ask("key", "Escape")
+        self.compare_with_the_bare_program(act)
+
+    def test_right_click_with_an_unsteady_hand_is_unchanged(self):
+        def act(session):
+            session.driver.ask("press", 3)
+            session.driver.ask("drag", 12, 8, 100)  # 20 pixels, one short of a gesture
+            session.driver.ask("release", 3)
+            session.driver.ask("key", "Escape")
+        self.compare_with_the_bare_program(act)
+
+    def test_left_button_is_unchanged(self):
+        def act(session):
+            session.driver.ask("press", 1)
+            session.driver.ask("drag", 90, 60, 200)
+            session.driver.ask("release", 1)
+            session.driver.ask("click", 1)
+            session.driver.ask("click", 1)
+        self.compare_with_the_bare_program(act)
+
+    def test_right_clicks_in_a_running_tool_are_unchanged(self):
+        def act(session):
+            session.driver.ask("type", "line")
+            session.driver.ask("key", "Return")
+            session.driver.ask("click", 1)
+            session.driver.ask("drag", 40, 30, 50)
+            session.driver.ask("click", 3)
+            session.driver.ask("click", 3)
+            session.driver.ask("key", "Escape")
+        self.compare_with_the_bare_program(act)
+
+    def test_switched_off(self):
+        def act(session):
+            session.gesture("right")
+            session.driver.ask("key", "Escape")
+        self.compare_with_the_bare_program(act, settings={"EnableMouseGesture": "0"})
+
+    # --- the dialog
+
+    def test_dialog_from_the_menu(self):
+        with self.session() as session:
+            mark = session.spy.mark()
+            session.driver.ask("key", "alt+t")
+            session.expect(mark, lambda line: line[0] == "menu", "the Tools menu")
+            session.driver.ask("key", "Up")  # from the top to the last entry
+            session.driver.ask("key", "Return")
+            session.driver.ask("wait-window", "Mouse Gestures", ANSWER_SECONDS * 1000)
+            ran = [line[2] for line in session.spy.since(mark, "triggered")]
+            self.assertEqual(ran, ["Mouse Gestures..."])
+            session.driver.ask("key", "Escape")
+            session.driver.ask("wait-no-window", "Mouse Gestures", ANSWER_SECONDS * 1000)
+            session.gesture_runs("up", PROGRAM.eight["up"])
+            self.end(session)
+
+    # --- the end
+
+    def test_no_complaints(self):
+        """Nothing on standard error that the program does not say by itself."""
+        complaints = []
+        for name, gestures in (("bare", False), ("gestures", True)):
+            with self.session(f"{self._testMethodName}-{name}", gestures=gestures) as session:
+                if gestures:
+                    session.gesture_runs("right", PROGRAM.eight["right"])
+                session.cancel_tool()
+                self.end(session)
+                complaints.append({without_numbers(line) for line in session.complaints()})
+        self.assertEqual(complaints[1] - complaints[0], set())
+
+    def test_quit_while_the_ring_is_open(self):
+        with self.session() as session:
+            session.move_to_middle()
+            session.driver.ask("press", 3)
+            session.drag("right", 45)
+            session.wait_for_ring()
+            self.end(session)
+            session.driver.ask("release", 3)
+            self.assertTrue(self.grabs_become(session, "pointer free keyboard free"))
+
+    def test_killed_while_the_ring_is_open(self):
+        with self.session() as session:
+            session.move_to_middle()
+            session.driver.ask("press", 3)
+            session.drag("right", 45)
+            session.wait_for_ring()
+            session.process.kill()
+            session.process.wait(timeout=ANSWER_SECONDS)
+            session.driver.ask("release", 3)
+            self.assertTrue(self.grabs_become(session, "pointer free keyboard free"))
+
+
+def main():
+    global BUILD, PROGRAM
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser.add_argument("--build", type=Path, required=True)
+    parser.add_argument("--program", choices=sorted(PROGRAMS), required=True)
+    parser.add_argument("tests", nargs="*", help="names without \"test_\"; all when none is given")
+    options = parser.parse_args()
+    BUILD = options.build.resolve()
+    PROGRAM = PROGRAMS[options.program]
+    names = [f"Gestures.test_{name}" for name in options.tests] or None
+    unittest.main(argv=[sys.argv[0]], defaultTest=names, verbosity=2)
+
+
+if __name__ == "__main__":
+    main()
