@@ -1,15 +1,13 @@
 #include "module/CHxGestureCommand.h"
 
+#include "dialog/MgDonutDialogManager.h"
 #include "module/HostCall.h"
 #include "sdk/chx/CHxMainFrame.h"
 #include "sdk/chx/CHxSystemServices.h"
 #include "sdk/QtBridge.h"
 
-#ifdef GESTUREWIDGET_HAS_DIALOG
-#    include "dialog/MgDonutDialogManager.h"
-#endif
-
 #include <QPointer>
+#include <QScopeGuard>
 
 namespace {
 
@@ -23,16 +21,12 @@ namespace {
 
 void runDialog()
 {
-#ifdef GESTUREWIDGET_HAS_DIALOG
     // On the heap and watched, where a local object would do: the main window may be
     // destroyed while the dialog is open, and takes its children with it.
     const QPointer<MgDonutDialogManager> dialog(
         new MgDonutDialogManager(dialogParent(), Qt::WindowFlags()));
+    const auto closing = qScopeGuard([&dialog] { delete dialog.data(); });
     dialog->exec();
-    delete dialog.data();
-#else
-    Q_UNUSED(dialogParent)
-#endif
 }
 
 } // namespace

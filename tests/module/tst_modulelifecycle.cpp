@@ -594,6 +594,11 @@ void tst_ModuleLifecycle::mainWindowGoesBeforeTheModule()
         // A straggling event finds no ring and opens another, without a window to open it over.
         dragInView(module, *document);
     }
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *left : windows) {
+        if (qobject_cast<QDialog *>(left))
+            delete left;
+    }
     QVERIFY(document->input.trackers.empty());
 }
 
