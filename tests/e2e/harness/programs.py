@@ -27,6 +27,11 @@ class Program:
     eight: dict
     # Directions whose command opens a dialog, which Escape closes.
     dialogs: tuple = ()
+    # What the driver does to start the line tool, and to get to the command line.
+    start_line: tuple = ()
+    command_line: tuple = ()
+    # Whether a right click in the view opens a menu.
+    context_menu: bool = False
     # Files of its configuration folder, so that it starts without questions.
     configuration: dict = field(default_factory=dict)
     # Whether it has gestures without being started through mouse-gestures.
@@ -56,6 +61,8 @@ PROGRAMS = {
                 "up-right": "ModifyTrim",
             },
             dialogs=("left",),
+            start_line=("key ctrl+m", "type line", "key Return"),
+            command_line=("key ctrl+m",),
             configuration={
                 "LibreCAD/LibreCAD.conf":
                     "[Appearance]\nLanguage=en\nLanguageCmd=en\n"
@@ -80,6 +87,9 @@ PROGRAMS = {
                 "up-right": "modifyTrim",
             },
             dialogs=("left",),
+            start_line=("key alt+d", "key l"),
+            command_line=("key Tab",),
+            context_menu=True,
             links_host=True,
         ),
     )

@@ -117,6 +117,8 @@ class Session:
             ACTIONSPY_ENTRY="Mouse Gestures..." if self.gestures else "",
             LANG="C.UTF-8",
         )
+        if not self.gestures and self.program.links_host:
+            environment["LD_LIBRARY_PATH"] = str(self._libraries_without_module())
         command = [self.executable(), str(self.drawing)]
         if self._through_launcher:
             command.insert(0, str(self.build / "bin" / "mouse-gestures"))
@@ -127,6 +129,16 @@ class Session:
                 stdout=output, stderr=errors,
                 preexec_fn=lambda: resource.setrlimit(
                     resource.RLIMIT_CORE, (resource.RLIM_INFINITY, resource.RLIM_INFINITY)))
+
+    def _libraries_without_module(self):
+        """A program that links the host library goes on without gestures when there is no
+        module beside that library."""
+        folder = self.folder / "lib"
+        folder.mkdir()
+        for name in ("host", "sdk"):
+            for path in (self.build / "lib").glob(f"libgesturewidget-{name}-qt*.so*"):
+                shutil.copy(path, folder, follow_symlinks=True)
+        return folder
 
     def _wait_until_ready(self):
         self.expect(0, lambda line: line[0] == "ready", "the view and the menu entry", START_SECONDS)
@@ -217,7 +229,26 @@ class Session:
         """Ends what a command left running in the view."""
         mark = self.spy.mark()
         self.driver.ask("key", "Escape")
-        self.expect(mark, lambda line: line[:2] == ["key", "Escape"], "Escape to arrive")
+        # Where Escape is a shortcut it runs an action and reaches no widget.
+        self.expect(mark, lambda line: line[:2] == ["key", "Escape"] or line[0] == "triggered",
+                    "Escape to arrive")
+
+    def right_click(self):
+        """Clicks, and closes the menu if the program has one for it."""
+        mark = self.spy.mark()
+        self.driver.ask("click", 3)
+        self.close_context_menu(mark)
+
+    def close_context_menu(self, mark):
+        if self.program.context_menu:
+            self.expect(mark, lambda line: line[0] == "menu", "the menu of a right click")
+            self.driver.ask("key", "Escape")
+            self.expect(mark, lambda line: line[:2] == ["gone", "QMenu"], "the menu to close")
+
+    def carry_out(self, commands):
+        """Commands of the driver as whole lines."""
+        for command in commands:
+            self.driver.ask(*command.split())
 
     # --- watching
 
