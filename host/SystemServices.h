@@ -11,6 +11,7 @@ class QMainWindow;
 namespace host {
 
 class CommandStack;
+class HelpGuide;
 class HostEditor;
 struct ProgramProfile;
 
@@ -35,6 +36,7 @@ public:
 
     [[nodiscard]] CommandStack &commandStack();
     [[nodiscard]] HostEditor &editor();
+    [[nodiscard]] HelpGuide &helpGuide();
     // Not owned; null until set.
     void setApplication(CHxApplication *application);
     void setMainFrame(CHxMainFrame *mainFrame);

@@ -1,0 +1,59 @@
+#include "host/ActionItem.h"
+
+#include "host/Captions.h"
+#include "host/EntryAction.h"
+
+#include <QMenu>
+#include <QWidgetAction>
+
+namespace host {
+namespace {
+
+QString tipOf(const QAction *action)
+{
+    const QString status = plainTip(action->statusTip());
+    return status.isEmpty() ? plainTip(action->toolTip()) : status;
+}
+
+} // namespace
+
+ActionItem::ActionItem(const QString &identifier, const QString &key)
+    : m_identifier(identifier)
+    , m_key(key)
+{
+}
+
+ActionItem::~ActionItem() = default;
+
+void ActionItem::setAction(QAction *action)
+{
+    m_action = action;
+    m_address = action;
+    read();
+}
+
+void ActionItem::read()
+{
+    if (!m_action)
+        return;
+    m_caption = captionOf(m_action);
+    if (m_caption.isEmpty())
+        m_caption = m_key;
+    m_tip = tipOf(m_action);
+    m_icon = m_action->icon();
+}
+
+bool ActionItem::isCommand(const QAction *action)
+{
+    return !action->isSeparator() && action->isVisible() && !action->menu()
+        && !qobject_cast<const QWidgetAction *>(action) && !qobject_cast<const EntryAction *>(action)
+        && !(action->objectName().isEmpty() && captionOf(action).isEmpty());
+}
+
+QString ActionItem::captionOf(const QAction *action)
+{
+    const QString caption = plainCaption(action->text());
+    return caption.isEmpty() ? plainTip(action->toolTip()) : caption;
+}
+
+} // namespace host

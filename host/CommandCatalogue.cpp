@@ -1,0 +1,228 @@
+#include "host/CommandCatalogue.h"
+
+#include "host/Captions.h"
+#include "host/EntryAction.h"
+
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+
+#include <algorithm>
+#include <utility>
+
+namespace host {
+namespace {
+
+QString joined(const QString &path, const QString &caption)
+{
+    return path.isEmpty() ? caption : path + QLatin1Char('/') + caption;
+}
+
+} // namespace
+
+CommandCatalogue::CommandCatalogue(QMainWindow *window, const QHash<QString, QString> &wellKnown)
+    : m_watcher(window)
+    , m_wellKnown(wellKnown)
+{
+    QStringList identifiers = wellKnown.keys();
+    std::sort(identifiers.begin(), identifiers.end());
+    for (const QString &identifier : std::as_const(identifiers)) {
+        if (!m_identifiers.contains(wellKnown.value(identifier)))
+            m_identifiers.insert(wellKnown.value(identifier), identifier);
+    }
+    connect(&m_watcher, &MenuWatcher::structureChanged, this, [this] {
+        m_stale = true;
+        Q_EMIT menusChanged();
+    });
+    connect(&m_watcher, &MenuWatcher::actionChanged, this, &CommandCatalogue::onActionChanged);
+}
+
+CommandCatalogue::~CommandCatalogue() = default;
+
+const std::vector<std::unique_ptr<CommandGroup>> &CommandCatalogue::groups()
+{
+    update();
+    return m_groups;
+}
+
+ActionItem *CommandCatalogue::find(const QString &name)
+{
+    update();
+    return m_byName.value(name);
+}
+
+ActionItem *CommandCatalogue::itemOf(const QAction *action)
+{
+    update();
+    ActionItem *item = m_byAction.value(action);
+    return item && item->action() == action && item->isPresent ? item : nullptr;
+}
+
+bool CommandCatalogue::contains(const CHxUICommandItem *item) const
+{
+    return m_known.contains(item);
+}
+
+void CommandCatalogue::onActionChanged(QAction *action)
+{
+    if (qobject_cast<EntryAction *>(action))
+        return;
+    const ActionItem *item = m_byAction.value(action);
+    if (item && item->isPresent && ActionItem::isCommand(action)) {
+        m_changedActions.insert(action);
+        return;
+    }
+    // A separator, a menu, or something that has just become a command or ceased to be one.
+    m_stale = true;
+    Q_EMIT menusChanged();
+}
+
+void CommandCatalogue::update()
+{
+    if (m_stale)
+        scan();
+    if (m_changedActions.isEmpty())
+        return;
+    for (const QAction *action : std::as_const(m_changedActions)) {
+        ActionItem *item = m_byAction.value(action);
+        if (item && item->action() == action)
+            item->read();
+    }
+    m_changedActions.clear();
+}
+
+void CommandCatalogue::scan()
+{
+    m_stale = false;
+    ++m_scans;
+    for (const auto &item : m_items)
+        item->wasPresent = std::exchange(item->isPresent, false);
+    m_met.reserve(m_items.size());
+    const QVector<QMenuBar *> menuBars = m_watcher.menuBars();
+    for (QMenuBar *bar : menuBars)
+        walk(bar, QString(), QString());
+    const QVector<QToolBar *> toolBars = m_watcher.toolBars();
+    for (QToolBar *bar : toolBars) {
+        const QString title = plainCaption(bar->windowTitle());
+        walk(bar, title, title);
+    }
+    // After all that are known: only now is it clear which of their keys are free.
+    for (const Newcomer &newcomer : m_newcomers)
+        admit(newcomer);
+    arrangeGroups();
+    m_visited.clear();
+    m_met.clear();
+    m_newcomers.clear();
+}
+
+void CommandCatalogue::walk(QWidget *place, const QString &group, const QString &path)
+{
+    if (m_visited.contains(place))
+        return;
+    m_visited.insert(place);
+    m_watcher.watch(place);
+    const QList<QAction *> actions = place->actions();
+    for (QAction *action : actions) {
+        if (ActionItem::isCommand(action)) {
+            meet(action, group, path);
+        } else if (QMenu *menu = action->menu(); menu && action->isVisible()) {
+            const QString title = ActionItem::captionOf(action);
+            walk(menu, group.isEmpty() ? title : group, joined(path, title));
+        }
+    }
+}
+
+void CommandCatalogue::meet(QAction *action, const QString &group, const QString &path)
+{
+    ActionItem *item = m_byAction.value(action);
+    // The address may be that of an action which is gone, taken by a new one.
+    if (!item || item->action() != action) {
+        const QString caption = ActionItem::captionOf(action);
+        m_newcomers.push_back({action, group.isEmpty() ? caption : group, joined(path, caption)});
+        return;
+    }
+    if (item->isPresent)
+        return;
+    item->isPresent = true;
+    if (!item->wasPresent)
+        item->read(); // nobody told of its changes while it was in no menu
+    item->group = group.isEmpty() ? ActionItem::captionOf(action) : group;
+    m_met.push_back(item);
+}
+
+// Gives a command to an action that has none: the one that an action with this key had
+// before, or a new one.
+void CommandCatalogue::admit(const Newcomer &newcomer)
+{
+    if (const ActionItem *item = m_byAction.value(newcomer.action);
+        item && item->action() == newcomer.action && item->isPresent)
+        return; // it is in two places, and was admitted at the first
+    const QString name = newcomer.action->objectName();
+    QString key = name.isEmpty() ? newcomer.path : name;
+    bool isTaken = false;
+    ActionItem *item = reusable(key, &isTaken);
+    for (int number = 1; !item && isTaken; ++number) {
+        key = number == 1 ? newcomer.path : QStringLiteral("%1 (%2)").arg(newcomer.path).arg(number);
+        item = reusable(key, &isTaken);
+    }
+    if (item) {
+        if (m_byAction.value(item->address()) == item)
+            m_byAction.remove(item->address());
+    } else {
+        const QString identifier = identifierFor(key, newcomer.path);
+        m_items.push_back(std::make_unique<ActionItem>(identifier, key));
+        item = m_items.back().get();
+        m_known.insert(item);
+        m_byName.insert(key, item);
+        m_byName.insert(identifier, item);
+    }
+    item->setAction(newcomer.action);
+    item->isPresent = true;
+    item->group = newcomer.group;
+    m_byAction.insert(newcomer.action, item);
+    m_met.push_back(item);
+}
+
+// The command of that key whose action is not there; null when there is none, and then
+// `isTaken` says whether the key is in use.
+ActionItem *CommandCatalogue::reusable(const QString &key, bool *isTaken) const
+{
+    const QString reservedFor = m_wellKnown.value(key, key);
+    if (key.isEmpty() || reservedFor != key) {
+        *isTaken = true; // the profile means another action by this identifier
+        return nullptr;
+    }
+    ActionItem *item = m_byName.value(key);
+    *isTaken = item != nullptr;
+    return item && item->key() == key && !item->isPresent ? item : nullptr;
+}
+
+QString CommandCatalogue::identifierFor(const QString &key, const QString &path) const
+{
+    const QString identifier = m_identifiers.value(key, m_identifiers.value(path));
+    return identifier.isEmpty() || m_byName.contains(identifier) ? key : identifier;
+}
+
+void CommandCatalogue::arrangeGroups()
+{
+    for (const auto &group : m_groups)
+        group->items.clear();
+    for (ActionItem *item : m_met)
+        groupNamed(item->group).items.push_back(item);
+    for (const auto &item : m_items) {
+        if (!item->isPresent)
+            groupNamed(item->group).items.push_back(item.get());
+    }
+}
+
+CommandGroup &CommandCatalogue::groupNamed(const QString &name)
+{
+    CommandGroup *&group = m_groupsByName[name];
+    if (!group) {
+        m_groups.push_back(std::make_unique<CommandGroup>(name));
+        group = m_groups.back().get();
+    }
+    return *group;
+}
+
+} // namespace host

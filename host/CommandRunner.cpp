@@ -1,0 +1,155 @@
+#include "host/CommandRunner.h"
+
+#include "host/CommandCatalogue.h"
+#include "host/CommandStack.h"
+#include "host/TextOutput.h"
+#include "sdk/chx/CHxDocument.h"
+#include "sdk/chx/CHxDocumentManager.h"
+#include "sdk/od/OdEdCommand.h"
+#include "sdk/od/OdRxObjectImpl.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QWidget>
+
+namespace host {
+namespace {
+
+const QLatin1String kCancel("^C");
+
+class CommandResult : public CHxCommandResult
+{
+public:
+    explicit CommandResult(bool isFound)
+        : m_isFound(isFound)
+    {
+    }
+
+    [[nodiscard]] bool IsFound() const override { return m_isFound; }
+
+private:
+    bool m_isFound;
+};
+
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("host", text);
+}
+
+void pressEscape(QWidget *view)
+{
+    const QPointer<QWidget> guard(view);
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, Qt::Key_Escape, Qt::NoModifier);
+        if (guard)
+            QCoreApplication::sendEvent(guard, &event);
+    }
+}
+
+} // namespace
+
+CommandRunner::CommandRunner(CommandStack &stack, CommandCatalogue &catalogue, TextOutput &output,
+                             CHxDocumentManager *documents)
+    : m_stack(stack)
+    , m_catalogue(catalogue)
+    , m_output(output)
+    , m_documents(documents)
+{
+}
+
+CommandRunner::~CommandRunner() = default;
+
+CHxCommandResultPtr CommandRunner::run(const QString &command, bool wait)
+{
+    CHxCommandResultPtr result(new OdRxObjectImpl<CommandResult>(isFound(command)), kOdRxAttach);
+    if (wait)
+        execute(command);
+    else
+        QMetaObject::invokeMethod(
+            this, [this, command] { execute(command); }, Qt::QueuedConnection);
+    return result;
+}
+
+void CommandRunner::runStackCommand(const QString &name)
+{
+    QMetaObject::invokeMethod(
+        this, [this, name] { executeStackCommand(name); }, Qt::QueuedConnection);
+}
+
+CommandRunner::Macro CommandRunner::parsed(const QString &command)
+{
+    Macro macro;
+    macro.rest = command.trimmed();
+    while (macro.rest.startsWith(kCancel, Qt::CaseInsensitive)) {
+        macro.rest = macro.rest.mid(kCancel.size()).trimmed();
+        ++macro.cancels;
+    }
+    while (macro.rest.endsWith(QLatin1Char(';')) || macro.rest.endsWith(QLatin1Char(' ')))
+        macro.rest.chop(1);
+    return macro;
+}
+
+bool CommandRunner::isFound(const QString &command) const
+{
+    const Macro macro = parsed(command);
+    if (macro.cancels > 0)
+        return macro.rest.isEmpty() || m_stack.lookupCommand(OdString(macro.rest));
+    const ActionItem *item = m_catalogue.find(command);
+    return item && item->isPresent && item->action() && item->action()->isEnabled();
+}
+
+void CommandRunner::execute(const QString &command)
+{
+    const Macro macro = parsed(command);
+    if (macro.cancels > 0)
+        executeMacro(macro);
+    else
+        trigger(command);
+}
+
+void CommandRunner::executeMacro(const Macro &macro)
+{
+    const QPointer<CommandRunner> self(this);
+    for (int i = 0; i < macro.cancels && self; ++i)
+        cancel();
+    if (self && !macro.rest.isEmpty())
+        executeStackCommand(macro.rest);
+}
+
+void CommandRunner::executeStackCommand(const QString &name)
+{
+    // The pointer keeps the command while it runs, also when it is removed meanwhile.
+    const OdSmartPtr<OdEdCommand> command = m_stack.lookupCommand(OdString(name));
+    if (command)
+        command->execute(nullptr);
+    else
+        m_output.showForAWhile(translated("There is no command \"%1\".").arg(name));
+}
+
+void CommandRunner::trigger(const QString &name)
+{
+    const ActionItem *item = m_catalogue.find(name);
+    if (!item) {
+        m_output.showForAWhile(translated("There is no command \"%1\".").arg(name));
+    } else if (!item->isPresent || !item->action()) {
+        m_output.showForAWhile(
+            translated("%1: not available at the moment.").arg(item->GetCaption().toQString()));
+    } else if (!item->action()->isEnabled()) {
+        m_output.showForAWhile(
+            translated("%1: cannot be used at the moment.").arg(item->GetCaption().toQString()));
+    } else {
+        item->action()->trigger();
+    }
+}
+
+// Cancels what runs in the drawing, the way a person does.
+void CommandRunner::cancel() const
+{
+    CHxDocument *document = m_documents ? m_documents->GetActiveDocument() : nullptr;
+    QWidget *view = document ? document->GetViewWidget() : nullptr;
+    if (view && view->isVisible()) // a document that is closed has a stand-in
+        pressEscape(view);
+}
+
+} // namespace host

@@ -1,0 +1,197 @@
+#include "host/SettingsFile.h"
+
+#include "host/Complaint.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QSettings>
+
+#include <sys/stat.h>
+
+namespace host {
+namespace {
+
+// Far more than all bindings need. What is longer is some other file.
+constexpr qint64 kMaximalSize = 4 * 1024 * 1024;
+
+// Only printable ASCII goes into the file, the rest as "%u" and four digits: the two Qt
+// versions read anything else differently, and some characters not at all.
+QString encoded(const QString &text, const QString &alsoEncode = {})
+{
+    QString result;
+    for (const QChar letter : text) {
+        const ushort code = letter.unicode();
+        if (code < 0x20 || code > 0x7e || letter == QLatin1Char('%') || alsoEncode.contains(letter))
+            result += QStringLiteral("%u%1").arg(code, 4, 16, QLatin1Char('0'));
+        else
+            result += letter;
+    }
+    return result;
+}
+
+// Undoes encoded(); a "%" that it did not make stays.
+QString decoded(const QString &text)
+{
+    QString result;
+    for (int i = 0; i < text.size(); ++i) {
+        bool isCode = false;
+        if (text.at(i) == QLatin1Char('%') && text.mid(i + 1, 1) == QLatin1String("u")) {
+            const QString digits = text.mid(i + 2, 4);
+            const ushort code = digits.size() == 4 ? digits.toUShort(&isCode, 16) : ushort(0);
+            if (isCode)
+                result += QChar(code);
+        }
+        if (isCode)
+            i += 5;
+        else
+            result += text.at(i);
+    }
+    return result;
+}
+
+QByteArray contentOf(const QString &path, bool *isReadable = nullptr)
+{
+    QFile file(path);
+    const bool isOpen = file.open(QIODevice::ReadOnly);
+    if (isReadable)
+        *isReadable = isOpen;
+    return isOpen ? file.read(kMaximalSize) : QByteArray();
+}
+
+bool store(const QString &path, const QByteArray &content)
+{
+    QSaveFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
+}
+
+// Whether each line is one that an INI file can have.
+bool isWellFormed(const QByteArray &content)
+{
+    if (content.contains('\0'))
+        return false;
+    const QList<QByteArray> lines = content.split('\n');
+    for (const QByteArray &line : lines) {
+        const QByteArray text = line.trimmed();
+        const bool isSection = text.startsWith('[') && text.endsWith(']');
+        if (!text.isEmpty() && !isSection && !text.startsWith(';') && !text.startsWith('#')
+            && !text.contains('='))
+            return false;
+    }
+    return true;
+}
+
+bool isDamaged(const QByteArray &content, const QByteArray &backup)
+{
+    const bool isCutOff = content.size() < backup.size() && backup.startsWith(content);
+    return isCutOff || !isWellFormed(content);
+}
+
+SettingsFile::Values valuesIn(const QString &path)
+{
+    SettingsFile::Values values;
+    const QSettings settings(path, QSettings::IniFormat);
+    const QStringList names = settings.allKeys();
+    for (const QString &name : names) {
+        const QVariant value = settings.value(name);
+        // A value with a comma that somebody wrote by hand reads as a list.
+        const bool isList = value.userType() == QMetaType::QStringList;
+        const QString text = isList ? value.toStringList().join(QLatin1String(", ")) : value.toString();
+        values.insert(name, decoded(text));
+    }
+    return values;
+}
+
+} // namespace
+
+SettingsFile::SettingsFile(const QString &path)
+    : m_path(path)
+{
+}
+
+bool SettingsFile::hasChanged() const
+{
+    return !m_wasRead || !(currentStamp() == m_stamp);
+}
+
+SettingsFile::Values SettingsFile::read()
+{
+    m_wasRead = true;
+    m_stamp = currentStamp();
+    if (!m_stamp.exists)
+        return {};
+    bool isReadable = m_stamp.isFile && m_stamp.size <= kMaximalSize;
+    const QByteArray content = isReadable ? contentOf(m_path, &isReadable) : QByteArray();
+    if (!isReadable) {
+        if (!m_hasComplained)
+            complain(QStringLiteral("%1 cannot be read, its bindings are not used").arg(m_path));
+        m_hasComplained = true;
+        return {};
+    }
+    const QByteArray backup = contentOf(backupPath());
+    if (isDamaged(content, backup))
+        return restore(content, backup);
+    if (content != backup)
+        store(backupPath(), content);
+    return valuesIn(m_path);
+}
+
+SettingsFile::Values SettingsFile::restore(const QByteArray &damaged, const QByteArray &backup)
+{
+    store(m_path + QLatin1String(".damaged"), damaged);
+    if (backup.isEmpty() || !isWellFormed(backup)) {
+        complain(QStringLiteral("%1 is damaged, and there is no good copy of it").arg(m_path));
+        return valuesIn(m_path);
+    }
+    complain(QStringLiteral("%1 was damaged and is restored from %2").arg(m_path, backupPath()));
+    if (!store(m_path, backup))
+        return valuesIn(backupPath());
+    m_stamp = currentStamp();
+    return valuesIn(m_path);
+}
+
+bool SettingsFile::write(const Values &values)
+{
+    QDir().mkpath(QFileInfo(m_path).absolutePath());
+    const Stamp before = currentStamp();
+    if (before.exists && (!before.isFile || before.size > kMaximalSize))
+        return false;
+    QSettings settings(m_path, QSettings::IniFormat);
+    for (auto it = values.cbegin(); it != values.cend(); ++it)
+        settings.setValue(it.key(), encoded(it.value()));
+    settings.sync();
+    return settings.status() == QSettings::NoError;
+}
+
+QString SettingsFile::nameOf(const QString &section, const QString &key)
+{
+    const QString special = QStringLiteral("/\\");
+    const auto part = [&special](const QString &text) {
+        return text.isEmpty() ? QStringLiteral("%") : encoded(text, special);
+    };
+    return part(section) + QLatin1Char('/') + part(key);
+}
+
+QString SettingsFile::backupPath() const
+{
+    return m_path + QLatin1String(".bak");
+}
+
+SettingsFile::Stamp SettingsFile::currentStamp() const
+{
+    struct stat status = {};
+    if (::stat(QFile::encodeName(m_path).constData(), &status) != 0)
+        return {};
+    Stamp stamp;
+    stamp.exists = true;
+    stamp.isFile = S_ISREG(status.st_mode);
+    stamp.device = status.st_dev;
+    stamp.node = status.st_ino;
+    stamp.size = status.st_size;
+    stamp.seconds = status.st_mtim.tv_sec;
+    stamp.nanoseconds = status.st_mtim.tv_nsec;
+    return stamp;
+}
+
+} // namespace host

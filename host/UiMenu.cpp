@@ -1,0 +1,20 @@
+#include "host/UiMenu.h"
+
+#include "host/MenuMirror.h"
+
+namespace host {
+
+UiMenu::UiMenu(MenuMirror &mirror, QMenuBar *bar)
+    : m_mirror(mirror)
+    , m_bar(bar)
+{
+}
+
+UiMenu::~UiMenu() = default;
+
+CHxUIMenuItemCollection *UiMenu::GetItems()
+{
+    return m_mirror.itemsOf(m_bar);
+}
+
+} // namespace host
