@@ -49,8 +49,13 @@ public:
         QString settingsFile;
     };
 
+    // Everything filled in for the running program as it is: its name, and as profile
+    // folders those of GESTUREWIDGET_PROFILES, the user's and the installed ones. To be
+    // called once the application object exists.
+    [[nodiscard]] static Options optionsForThisProgram();
+
     explicit GestureHost(QMainWindow *window, const Options &options = {});
-    // Stops.
+    // Stops. What the module was given stays until the application ends.
     ~GestureHost();
     Q_DISABLE_COPY_MOVE(GestureHost)
 

@@ -48,9 +48,9 @@ void HeldInput::drop()
 void HeldInput::replay()
 {
     for (Item &item : m_held)
-        m_outgoing.push_back(std::move(item));
+        m_outgoing->push_back(std::move(item));
     m_held.clear();
-    if (m_outgoing.empty())
+    if (m_outgoing->empty())
         return;
     QMetaObject::invokeMethod(this, &HeldInput::sendRest, Qt::QueuedConnection);
     sendRest();
@@ -59,15 +59,19 @@ void HeldInput::replay()
 void HeldInput::sendRest()
 {
     const QPointer<HeldInput> self = this;
-    while (self && !m_outgoing.empty()) {
-        const Item item = std::move(m_outgoing.front());
-        m_outgoing.pop_front();
-        if (!item.window || isBlockedByModal(item.window))
-            continue;
-        const QEvent *outer = std::exchange(m_sending, item.event.get());
-        QSpontaneKeyEvent::setSpontaneous(item.event.get());
-        // Not sendEvent(), which would make it an event of the program's own again.
-        qApp->notify(item.window, item.event.get());
+    const std::shared_ptr<std::deque<Item>> outgoing = m_outgoing;
+    while (!outgoing->empty() && qApp) {
+        const Item item = std::move(outgoing->front());
+        outgoing->pop_front();
+        QMouseEvent *event = item.event.get();
+        const QEvent *outer = self ? std::exchange(m_sending, event) : nullptr;
+        // Not sendEvent(), which would make it an event of the program's own again. And of
+        // one from the window system Qt notes which buttons are down; so also those that
+        // the program must not get go through there, to an object that makes nothing of it.
+        QSpontaneKeyEvent::setSpontaneous(event);
+        QObject nobody;
+        const bool isLost = !item.window || isBlockedByModal(item.window);
+        qApp->notify(isLost ? &nobody : item.window.data(), event);
         if (self)
             m_sending = outer;
     }

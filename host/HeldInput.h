@@ -27,14 +27,13 @@ public:
 
     // Keeps a copy.
     void hold(QWindow *window, const QMouseEvent &event);
-    [[nodiscard]] bool isEmpty() const { return m_held.empty(); }
     void drop();
     // Sends everything that is held. May run event loops, and this may be gone afterwards.
     void replay();
     // Sends what a replay, stuck in an event loop, has not come to yet. To be called before
     // the program gets anything newer. The same caution as with replay().
     void sendRest();
-    [[nodiscard]] bool hasRest() const { return !m_outgoing.empty(); }
+    [[nodiscard]] bool hasRest() const { return !m_outgoing->empty(); }
 
     // Whether this very event is one that is being sent again.
     [[nodiscard]] bool isSending(const QEvent *event) const { return event == m_sending; }
@@ -51,7 +50,8 @@ private:
     };
 
     std::deque<Item> m_held;
-    std::deque<Item> m_outgoing;
+    // Shared with a replay that is under way, which ends what it began though this is gone.
+    std::shared_ptr<std::deque<Item>> m_outgoing = std::make_shared<std::deque<Item>>();
     const QEvent *m_sending = nullptr;
 };
 

@@ -3,7 +3,9 @@
 #include <QFileInfo>
 #include <QLibrary>
 
+#include <algorithm>
 #include <exception>
+#include <utility>
 
 namespace host {
 namespace {
@@ -87,15 +89,18 @@ bool ModuleLoader::initialize(QString *error)
     return false;
 }
 
+void ModuleLoader::uninitialize()
+{
+    QString what;
+    if (m_module)
+        runGuarded([this] { m_module->uninitApp(); }, &what);
+}
+
 void ModuleLoader::destroy()
 {
-    if (!m_module)
-        return;
-    OdRxModule *module = m_module;
-    m_module = nullptr;
     QString what;
-    runGuarded([module] { module->uninitApp(); }, &what);
-    runGuarded([module] { module->deleteModule(); }, &what);
+    if (OdRxModule *module = std::exchange(m_module, nullptr))
+        runGuarded([module] { module->deleteModule(); }, &what);
 }
 
 } // namespace host

@@ -26,8 +26,9 @@ public:
 
     // Calls the module's initApp(). Returns false, with one line in `error`, if it throws.
     bool initialize(QString *error);
-    // Calls uninitApp() and destroys the module object; does nothing without one. What it
-    // throws is swallowed.
+    // Calls uninitApp(), or destroys the module object; both do nothing without one, and
+    // swallow what the module throws.
+    void uninitialize();
     void destroy();
 
 private:

@@ -1,0 +1,196 @@
+#include "host/HostSession.h"
+
+#include "host/CommandStack.h"
+#include "host/HostEditor.h"
+#include "host/ProgramProfile.h"
+#include "host/SystemServices.h"
+#include "sdk/chx/CHxProfileStore.h"
+#include "sdk/od/OdEdCommandStack.h"
+#include "sdk/od/OdEditor.h"
+
+#include <QApplication>
+#include <QEvent>
+
+#include <cstdio>
+
+namespace host {
+namespace {
+
+// Plain pointers: nothing of this may run when the process ends by exit(), at a time when
+// Qt is half gone.
+HostSession *running = nullptr;
+HostSession *firstStarted = nullptr;
+
+} // namespace
+
+HostSession::HostSession(QMainWindow *window, const GestureHost::Options &options)
+    : m_options(options)
+    , m_window(window)
+    , m_mainFrame(window)
+    , m_menuWatch(window)
+{
+}
+
+HostSession::~HostSession()
+{
+    for (HostSession **link = &firstStarted; *link; link = &(*link)->m_next) {
+        if (*link == this) {
+            *link = m_next;
+            break;
+        }
+    }
+}
+
+bool HostSession::start(QString *error)
+{
+    QString why;
+    QString *reason = error ? error : &why;
+    if (m_isRunning)
+        return true;
+    if (m_wasStarted || running || !m_window || !qobject_cast<QApplication *>(qApp)) {
+        *reason = m_wasStarted ? QStringLiteral("a host that was stopped cannot start again")
+                : running      ? QStringLiteral("this program has a host already")
+                               : QStringLiteral("there is no main window to host");
+        return false;
+    }
+    m_wasStarted = true;
+    m_isRunning = true;
+    running = this;
+    if (!firstStarted)
+        qAddPostRoutine(&HostSession::finishAll);
+    m_next = firstStarted;
+    firstStarted = this;
+
+    QString message;
+    const ProgramProfile profile =
+        ProgramProfile::forProgram(m_options.program, m_options.profileFolders, &message);
+    if (!message.isEmpty())
+        std::fprintf(stderr, "mouse gestures: %s\n", qPrintable(message));
+
+    m_services =
+        std::make_unique<SystemServices>(m_window, profile, &m_documents, m_options.settingsFile);
+    m_services->setApplication(&m_application);
+    m_services->setMainFrame(&m_mainFrame);
+    SetHxSystemServices(m_services.get());
+    odedSetCommandStack(&m_services->commandStack());
+    odedSetEditor(&m_services->editor());
+
+    m_pointerFilter = std::make_unique<PointerFilter>(
+        m_documents, Trigger{profile.triggerButton, profile.triggerModifiers},
+        [this] { return gesturesAreEnabled(); });
+    m_viewFinder = std::make_unique<ViewFinder>(profile.viewClasses);
+    connect(m_viewFinder.get(), &ViewFinder::viewFound, this, &HostSession::openView);
+    connect(&m_menuWatch, &MenuWatch::settled, this,
+            [this] { m_services->editor().notifyMainFrameCreated(m_window); });
+    connect(m_window, &QObject::destroyed, this, &HostSession::stop);
+    connect(qApp, &QCoreApplication::aboutToQuit, this, &HostSession::finish);
+    m_window->installEventFilter(this);
+
+    if (!m_loader.load(m_options.moduleFile, reason) || !m_loader.initialize(reason)) {
+        stop();
+        return false;
+    }
+    for (const QPointer<QWidget> &view : std::as_const(m_addedViews)) {
+        if (view)
+            openView(ViewFinder::pointerWidget(view));
+    }
+    m_addedViews.clear();
+    m_viewFinder->start();
+    qApp->installEventFilter(m_pointerFilter.get());
+    m_menuWatch.start();
+    return true;
+}
+
+void HostSession::stop()
+{
+    if (!m_isRunning)
+        return;
+    m_isRunning = false;
+    running = nullptr;
+    m_menuWatch.stop();
+    m_viewFinder->stop();
+    m_pointerFilter->cancel();
+    if (qApp)
+        qApp->removeEventFilter(m_pointerFilter.get());
+    if (m_window)
+        m_window->removeEventFilter(this);
+
+    m_services->editor().notifyMainFrameDestroyed(m_window);
+    m_loader.uninitialize();
+    odedSetEditor(nullptr);
+    odedSetCommandStack(nullptr);
+    SetHxSystemServices(nullptr);
+}
+
+void HostSession::finish()
+{
+    stop();
+    if (m_isFinished)
+        return;
+    m_isFinished = true;
+    // The command stack lets go of the module's command before that goes with the module.
+    m_pointerFilter.reset();
+    m_services.reset();
+    // A library has one module object, however many hosts have loaded it in turn.
+    bool isShared = false;
+    for (const HostSession *other = firstStarted; other; other = other->m_next)
+        isShared |= !other->m_isFinished && other->m_loader.module() == m_loader.module();
+    if (!isShared)
+        m_loader.destroy();
+    m_documents.releaseStandIn();
+}
+
+void HostSession::finishAll()
+{
+    while (HostSession *session = firstStarted) {
+        firstStarted = session->m_next;
+        session->m_next = nullptr;
+        session->finish();
+        if (session->m_isRetired)
+            delete session;
+    }
+}
+
+void HostSession::retire(std::unique_ptr<HostSession> session)
+{
+    session->stop();
+    if (!session->m_wasStarted || session->m_isFinished)
+        return; // nothing of it is in use
+    session->m_isRetired = true;
+    session.release();
+}
+
+void HostSession::addView(QWidget *view)
+{
+    if (!view)
+        return;
+    if (m_isRunning)
+        openView(ViewFinder::pointerWidget(view));
+    else if (!m_wasStarted)
+        m_addedViews.append(view);
+}
+
+void HostSession::openView(QWidget *view)
+{
+    m_documents.open(view);
+}
+
+bool HostSession::gesturesAreEnabled() const
+{
+    CHxProfileStore *store = m_services->GetProfileStore();
+    if (!store)
+        return true;
+    const OdResBufPtr value =
+        store->Get("GestureWidget", "EnableMouseGesture", CHxProfileStore::kProfile);
+    return !value || value->getString().toQString() != QLatin1String("0");
+}
+
+bool HostSession::eventFilter(QObject *, QEvent *event)
+{
+    // The last moment at which the main window is still whole.
+    if (event->type() == QEvent::DeferredDelete)
+        stop();
+    return false;
+}
+
+} // namespace host

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "host/DocumentManager.h"
+#include "host/GestureHost.h"
+#include "host/HostApplication.h"
+#include "host/MainFrame.h"
+#include "host/MenuWatch.h"
+#include "host/ModuleLoader.h"
+#include "host/PointerFilter.h"
+#include "host/ViewFinder.h"
+
+#include <QMainWindow>
+#include <QObject>
+#include <QPointer>
+#include <QVector>
+
+#include <memory>
+
+namespace host {
+
+class SystemServices;
+struct ProgramProfile;
+
+// One life of the host: puts the parts together, starts the module over them and takes
+// everything out again.
+//
+// It ends in two steps. stop() takes the module out of the program, at any time. The module
+// object and what it was given are destroyed only when the application has left its event
+// loop: stop() may come from deep inside the module's own code, from a dialog of it for
+// instance that was open while the main window was destroyed.
+class HostSession : public QObject
+{
+    Q_OBJECT
+
+public:
+    HostSession(QMainWindow *window, const GestureHost::Options &options);
+    ~HostSession() override;
+
+    bool start(QString *error);
+    void stop();
+    [[nodiscard]] bool isRunning() const { return m_isRunning; }
+    void addView(QWidget *view);
+
+    // Stops a session and destroys it as soon as that is safe.
+    static void retire(std::unique_ptr<HostSession> session);
+
+    bool eventFilter(QObject *receiver, QEvent *event) override;
+
+private:
+    void openView(QWidget *view);
+    [[nodiscard]] bool gesturesAreEnabled() const;
+    // The application is over.
+    static void finishAll();
+    void finish();
+
+    const GestureHost::Options m_options;
+    QPointer<QMainWindow> m_window;
+    QVector<QPointer<QWidget>> m_addedViews; // until start()
+    bool m_isRunning = false;
+    bool m_wasStarted = false;
+    bool m_isFinished = false;
+    bool m_isRetired = false; // whoever owned it is gone
+    HostSession *m_next = nullptr; // of those that were started
+
+    // In the order in which one needs the other.
+    DocumentManager m_documents;
+    HostApplication m_application;
+    MainFrame m_mainFrame;
+    std::unique_ptr<SystemServices> m_services;
+    ModuleLoader m_loader;
+    std::unique_ptr<PointerFilter> m_pointerFilter;
+    std::unique_ptr<ViewFinder> m_viewFinder;
+    MenuWatch m_menuWatch;
+};
+
+} // namespace host

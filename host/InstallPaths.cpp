@@ -1,0 +1,65 @@
+#include "host/InstallPaths.h"
+
+#include "sdk/QtBridge.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+#include <dlfcn.h>
+
+namespace host {
+namespace {
+
+// The folder of the file that this code was loaded from.
+QDir libraryFolder()
+{
+    Dl_info info = {};
+    static const char inThisFile = 0;
+    if (!dladdr(&inThisFile, &info) || !info.dli_fname)
+        return QDir(QCoreApplication::applicationDirPath());
+    return QFileInfo(QFile::decodeName(info.dli_fname)).absoluteDir();
+}
+
+QString configFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
+         + QLatin1String("/gesturewidget");
+}
+
+} // namespace
+
+QString programName()
+{
+    return QFileInfo(QCoreApplication::applicationFilePath()).fileName().toLower();
+}
+
+QString moduleFile()
+{
+    return libraryFolder().filePath(
+        QStringLiteral("gesturewidget-module-qt%1.so").arg(qtbridge::kQtMajor));
+}
+
+QString settingsFile(const QString &program)
+{
+    return QStringLiteral("%1/%2.ini").arg(configFolder(), program);
+}
+
+QStringList profileFolders()
+{
+    QStringList folders = qEnvironmentVariable("GESTUREWIDGET_PROFILES").split(QLatin1Char(':'));
+    folders.removeAll(QString());
+    folders.append(configFolder() + QLatin1String("/profiles"));
+    // The library is in lib/ or, by the host's architecture, one folder below it.
+    for (const char *up : {"..", "../.."}) {
+        const QString path =
+            libraryFolder().filePath(QLatin1String(up) + QLatin1String("/share/gesturewidget/profiles"));
+        if (QFileInfo(path).isDir())
+            folders.append(QDir::cleanPath(path));
+    }
+    return folders;
+}
+
+} // namespace host

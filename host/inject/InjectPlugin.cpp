@@ -1,0 +1,25 @@
+#include "host/inject/InjectPlugin.h"
+
+#include "host/inject/Injector.h"
+#include "host/inject/PluginEnvironment.h"
+
+#include <QApplication>
+
+InjectPlugin::InjectPlugin(QObject *parent)
+    : QGenericPlugin(parent)
+{
+}
+
+InjectPlugin::~InjectPlugin() = default;
+
+QObject *InjectPlugin::create(const QString &, const QString &)
+{
+    try {
+        inject::cleanEnvironment();
+        if (qobject_cast<QApplication *>(QCoreApplication::instance()))
+            return new inject::Injector;
+    } catch (...) {
+        // The program does without gestures.
+    }
+    return nullptr;
+}

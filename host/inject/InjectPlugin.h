@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QGenericPlugin>
+
+// What Qt looks for when QT_QPA_GENERIC_PLUGINS names "mousegestures".
+class InjectPlugin : public QGenericPlugin
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "mousegestures.json")
+
+public:
+    explicit InjectPlugin(QObject *parent = nullptr);
+    ~InjectPlugin() override;
+
+    // Called while the application object is being constructed. Never throws; null means
+    // that there is nothing to do in this program.
+    QObject *create(const QString &key, const QString &specification) override;
+};

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+
+#include <memory>
+
+class GestureHost;
+
+QT_BEGIN_NAMESPACE
+class QMainWindow;
+QT_END_NAMESPACE
+
+namespace inject {
+
+// Waits for the program's main window, the first visible one with a menu bar, and gives it
+// a host. Owned by the application object.
+class Injector : public QObject
+{
+    Q_OBJECT
+
+public:
+    // To be made as early as the application object exists; does nothing before the event
+    // loop runs.
+    Injector();
+    ~Injector() override;
+
+    bool eventFilter(QObject *receiver, QEvent *event) override;
+
+private:
+    // Looks for a main window from the event loop, once for any number of calls.
+    void lookSoon();
+    void look();
+    void startHost(QMainWindow *window);
+
+    std::unique_ptr<GestureHost> m_host;
+    bool m_isLookQueued = false;
+};
+
+} // namespace inject

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QByteArray>
+
+// What made Qt load the plug-in, and how it is taken out of the environment again, so that
+// programs started from this one do not load it as well.
+namespace inject {
+
+// The plug-in's key among Qt's generic plug-ins.
+inline constexpr char kPluginKey[] = "mousegestures";
+
+// `plugins` is the value of QT_QPA_GENERIC_PLUGINS, entries "key" or "key:arguments"
+// separated by commas. Returns it without every entry of `key`, letter case ignored as Qt
+// does; the rest is unchanged.
+[[nodiscard]] QByteArray withoutPlugin(const QByteArray &plugins, const QByteArray &key);
+
+// `path` is the value of QT_PLUGIN_PATH, folders separated by colons. Returns it without
+// those that hold nothing but this plug-in, for whatever Qt version; the rest is unchanged.
+[[nodiscard]] QByteArray withoutOwnFolders(const QByteArray &path);
+
+// Applies both to this process's environment. A variable that is left empty is removed.
+void cleanEnvironment();
+
+} // namespace inject

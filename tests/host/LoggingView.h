@@ -1,0 +1,110 @@
+#pragma once
+
+#include "sdk/QtBridge.h"
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMetaEnum>
+#include <QMouseEvent>
+#include <QStringList>
+#include <QWidget>
+
+#include <functional>
+
+namespace tests {
+
+// Writes down what a program's view gets to see of its input, one line an event.
+class LoggingView : public QWidget
+{
+public:
+    explicit LoggingView(QWidget *parent = nullptr)
+        : QWidget(parent)
+    {
+        setFocusPolicy(Qt::ClickFocus);
+        setMouseTracking(true);
+    }
+
+    QStringList log;
+    std::function<void()> onPress;
+    std::function<void(QPoint global)> onContextMenu;
+
+    [[nodiscard]] static QString describe(const QEvent &event)
+    {
+        const QMetaEnum types = QMetaEnum::fromType<QEvent::Type>();
+        QString line = QString::fromLatin1(types.valueToKey(event.type()));
+        if (event.spontaneous())
+            line += QStringLiteral(" spontaneous");
+        switch (event.type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::MouseMove: {
+            const auto &mouse = static_cast<const QMouseEvent &>(event);
+            line += QStringLiteral(" at %1,%2 global %3,%4 button %5 buttons %6 modifiers %7 flags %8")
+                        .arg(qtbridge::localPosition(mouse).x())
+                        .arg(qtbridge::localPosition(mouse).y())
+                        .arg(qtbridge::globalPosition(mouse).x())
+                        .arg(qtbridge::globalPosition(mouse).y())
+                        .arg(mouse.button())
+                        .arg(mouse.buttons())
+                        .arg(mouse.modifiers())
+                        .arg(mouse.flags());
+            break;
+        }
+        case QEvent::ContextMenu: {
+            const auto &menu = static_cast<const QContextMenuEvent &>(event);
+            line += QStringLiteral(" at %1,%2 reason %3")
+                        .arg(menu.pos().x())
+                        .arg(menu.pos().y())
+                        .arg(menu.reason());
+            break;
+        }
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+            line += QStringLiteral(" key %1").arg(static_cast<const QKeyEvent &>(event).key());
+            break;
+        default:
+            break;
+        }
+        return line;
+    }
+
+protected:
+    bool event(QEvent *event) override
+    {
+        switch (event->type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::MouseMove:
+        case QEvent::ContextMenu:
+        case QEvent::Wheel:
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+        case QEvent::Enter:
+        case QEvent::Leave:
+        case QEvent::FocusIn:
+            log << describe(*event);
+            break;
+        default:
+            break;
+        }
+        return QWidget::event(event);
+    }
+    void mousePressEvent(QMouseEvent *) override
+    {
+        if (onPress)
+            onPress();
+    }
+    void mouseReleaseEvent(QMouseEvent *) override { }
+    void mouseMoveEvent(QMouseEvent *) override { }
+    void mouseDoubleClickEvent(QMouseEvent *) override { }
+    void contextMenuEvent(QContextMenuEvent *event) override
+    {
+        if (onContextMenu)
+            onContextMenu(event->globalPos());
+    }
+};
+
+} // namespace tests
