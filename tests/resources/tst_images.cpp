@@ -237,17 +237,19 @@ void tst_Images::ringHasAHoleAndRoomForLabels()
     // The labels run along the band's middle.
     QVERIFY(std::abs((band.inner + band.outer) / 2.0 - kLabelRadius) < 1.0);
 
+    QStringList offending;
     for (int y = 0; y < kSize; ++y) {
         for (int x = 0; x < kSize; ++x) {
             const double radius = placeOf(x, y).radius;
-            if (radius < 55.0)
-                QCOMPARE(qAlpha(ring.pixel(x, y)), 0); // the drawing shows
-            else if (radius > band.inner + kRadialEdge && radius < band.outer - kRadialEdge)
-                QCOMPARE(qAlpha(ring.pixel(x, y)), 255);
-            else if (radius > kCentre)
-                QCOMPARE(qAlpha(ring.pixel(x, y)), 0); // a soft edge that ends in the image
+            const int alpha = qAlpha(ring.pixel(x, y));
+            // The drawing shows in the hole, and the soft edge ends within the image.
+            const bool outside = radius < 55.0 || radius > kCentre;
+            const bool inside = radius > band.inner + kRadialEdge && radius < band.outer - kRadialEdge;
+            if ((outside && alpha != 0) || (inside && alpha != 255))
+                offending << QStringLiteral("(%1, %2): %3").arg(x).arg(y).arg(alpha);
         }
     }
+    QVERIFY2(offending.isEmpty(), qPrintable(offending.mid(0, 5).join(QLatin1Char('\n'))));
 }
 
 void tst_Images::ringIsTheSameInEverySector()
@@ -290,6 +292,7 @@ void tst_Images::labelsAreReadable()
 
     const QImage image = load(kFolder + name + QStringLiteral(".png"));
     int seen = 0;
+    double worst = 21.0;
     for (int y = 0; y < kSize; ++y) {
         for (int x = 0; x < kSize; ++x) {
             const Place place = placeOf(x, y);
@@ -299,12 +302,12 @@ void tst_Images::labelsAreReadable()
                 || qAlpha(image.pixel(x, y)) < 255)
                 continue;
             ++seen;
-            const double behind = luminance(blend(image.pixel(x, y), opacity, qRgb(0, 0, 0)));
-            QVERIFY2(contrast(behind, 0.0) >= wanted,
-                     qPrintable(QString::number(contrast(behind, 0.0))));
+            worst = std::min(worst,
+                             contrast(luminance(blend(image.pixel(x, y), opacity, qRgb(0, 0, 0))), 0.0));
         }
     }
     QVERIFY2(seen > 500, qPrintable(QString::number(seen)));
+    QVERIFY2(worst >= wanted, qPrintable(QString::number(worst)));
 }
 
 void tst_Images::ringShowsOnEveryDrawing_data()
@@ -362,26 +365,28 @@ void tst_Images::sectorKeepsToItself()
     const QImage image = load(path);
     const Band band = bandOf(load(kFolder + QStringLiteral("gesture_widget.png")));
     int covered = 0;
+    QStringList offending;
     for (int y = 0; y < kSize; ++y) {
         for (int x = 0; x < kSize; ++x) {
             const Place place = placeOf(x, y);
             const double depth = depthInSector(place, count, index);
             const int alpha = qAlpha(image.pixel(x, y));
-            const QString where = QStringLiteral("(%1, %2): radius %3, depth %4, alpha %5")
-                                      .arg(x)
-                                      .arg(y)
-                                      .arg(place.radius)
-                                      .arg(depth)
-                                      .arg(alpha);
-            if (depth < -kEdge || place.radius < band.inner - kRadialEdge
-                || place.radius > band.outer + kRadialEdge)
-                QVERIFY2(alpha == 0, qPrintable(where));
-            else if (depth > kEdge && place.radius > band.inner + kRadialEdge
-                     && place.radius < band.outer - kRadialEdge)
-                QVERIFY2(alpha == 255, qPrintable(where));
+            const bool outside = depth < -kEdge || place.radius < band.inner - kRadialEdge
+                              || place.radius > band.outer + kRadialEdge;
+            const bool inside = depth > kEdge && place.radius > band.inner + kRadialEdge
+                             && place.radius < band.outer - kRadialEdge;
+            if ((outside && alpha != 0) || (inside && alpha != 255)) {
+                offending << QStringLiteral("(%1, %2): radius %3, depth %4, alpha %5")
+                                 .arg(x)
+                                 .arg(y)
+                                 .arg(place.radius)
+                                 .arg(depth)
+                                 .arg(alpha);
+            }
             covered += alpha == 255 ? 1 : 0;
         }
     }
+    QVERIFY2(offending.isEmpty(), qPrintable(offending.mid(0, 5).join(QLatin1Char('\n'))));
     // Its share of the ring, the edges' pixels apart.
     const double share = M_PI * (band.outer * band.outer - band.inner * band.inner) / count;
     QVERIFY2(covered > share * 0.9 && covered < share * 1.02,
@@ -401,6 +406,7 @@ void tst_Images::sectorsCoverTheRing()
 
     const QImage ring = load(kFolder + QStringLiteral("gesture_widget.png"));
     const Band band = bandOf(ring);
+    QStringList offending;
     QVector<QImage> images;
     for (const QString &name : names)
         images << load(kFolder + name + QStringLiteral(".png"));
@@ -413,10 +419,11 @@ void tst_Images::sectorsCoverTheRing()
             int sum = 0;
             for (const QImage &image : std::as_const(images))
                 sum += qAlpha(image.pixel(x, y));
-            QVERIFY2(sum >= 250 && sum <= 262,
-                     qPrintable(QStringLiteral("(%1, %2): %3").arg(x).arg(y).arg(sum)));
+            if (sum < 250 || sum > 262)
+                offending << QStringLiteral("(%1, %2): %3").arg(x).arg(y).arg(sum);
         }
     }
+    QVERIFY2(offending.isEmpty(), qPrintable(offending.mid(0, 5).join(QLatin1Char('\n'))));
 }
 
 void tst_Images::variantsDiffer_data()
