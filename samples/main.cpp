@@ -1,14 +1,14 @@
 #include "examples/sketchpad/DxfFile.h"
 #include "samples/Drawings.h"
 
-#include <QGuiApplication>
+#include <QCoreApplication>
 
 #include <iostream>
 
 // Writes the sample drawings anew: draw-samples FOLDER
 int main(int argc, char **argv)
 {
-    const QGuiApplication app(argc, argv);
+    const QCoreApplication app(argc, argv);
     if (argc != 2) {
         std::cerr << "usage: draw-samples FOLDER\n";
         return 2;

@@ -39,6 +39,8 @@ public:
 Q_SIGNALS:
     void cursorMoved(const QPointF &point);
     void toolChanged();
+    // What is typed over the canvas is meant for the command line.
+    void keyPressed(QKeyEvent *event);
     // Something to tell the person in the status bar.
     void hint(const QString &text);
 
@@ -49,6 +51,7 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override { Q_EMIT keyPressed(event); }
     void leaveEvent(QEvent *event) override;
 
 private:

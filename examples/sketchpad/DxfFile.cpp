@@ -37,6 +37,14 @@ std::string encoded(const QString &text)
     return bytes;
 }
 
+// The name of a line type that the file will define.
+std::string defined(const QString &lineType, const Sheet &sheet)
+{
+    const bool isKnown = sheet.lineTypes.contains(lineType) || lineType == QLatin1String("BYLAYER")
+                      || lineType == QLatin1String("BYBLOCK");
+    return isKnown ? encoded(lineType) : "CONTINUOUS";
+}
+
 void writeTables(DL_Dxf &dxf, DL_WriterA &out, const Sheet &sheet)
 {
     out.sectionTables();
@@ -58,11 +66,12 @@ void writeTables(DL_Dxf &dxf, DL_WriterA &out, const Sheet &sheet)
     out.tableEnd();
     out.tableLayers(int(sheet.layers.size()));
     for (auto layer = sheet.layers.begin(); layer != sheet.layers.end(); ++layer)
-        dxf.writeLayer(out, DL_LayerData(encoded(layer.key()), layer->flags, layer->off),
-                       DL_Attributes("", layer->color, layer->width, encoded(layer->lineType), 1.0));
+        dxf.writeLayer(
+            out, DL_LayerData(encoded(layer.key()), layer->flags, layer->off),
+            DL_Attributes("", layer->color, layer->width, defined(layer->lineType, sheet), 1.0));
     out.tableEnd();
     out.tableStyle(1);
-    dxf.writeStyle(out, DL_StyleData("STANDARD", 0, 0, 1, 0, 0, 2.5, "txt", ""));
+    dxf.writeStyle(out, DL_StyleData("Standard", 0, 0, 1, 0, 0, 2.5, "txt", ""));
     out.tableEnd();
     dxf.writeView(out);
     dxf.writeUcs(out);
@@ -81,10 +90,10 @@ void writeTables(DL_Dxf &dxf, DL_WriterA &out, const Sheet &sheet)
     out.sectionEnd();
 }
 
-void writeEntity(DL_Dxf &dxf, DL_WriterA &out, const Entity &entity)
+void writeEntity(DL_Dxf &dxf, DL_WriterA &out, const Sheet &sheet, const Entity &entity)
 {
     const DL_Attributes attributes(encoded(entity.layer), entity.color, entity.width,
-                                   encoded(entity.lineType), 1.0);
+                                   defined(entity.lineType, sheet), 1.0);
     const QPointF &at = entity.origin;
     if (entity.kind == Entity::Kind::Line)
         dxf.writeLine(out, DL_LineData(at.x(), at.y(), 0, entity.end.x(), entity.end.y(), 0),
@@ -92,7 +101,7 @@ void writeEntity(DL_Dxf &dxf, DL_WriterA &out, const Entity &entity)
     else if (entity.kind == Entity::Kind::Text)
         dxf.writeText(out,
                       DL_TextData(at.x(), at.y(), 0, at.x(), at.y(), 0, entity.height, 1, 0,
-                                  entity.across, entity.upright, encoded(entity.words), "STANDARD",
+                                  entity.across, entity.upright, encoded(entity.words), "Standard",
                                   qDegreesToRadians(entity.angle)),
                       attributes);
     else if (entity.isCircle())
@@ -156,7 +165,7 @@ bool write(const Sheet &sheet, const QString &path, QString *error)
     writeTables(dxf, *out, sheet);
     out->sectionEntities();
     for (const Entity &entity : sheet.entities)
-        writeEntity(dxf, *out, entity);
+        writeEntity(dxf, *out, sheet, entity);
     out->sectionEnd();
     dxf.writeObjects(*out);
     dxf.writeObjectsEnd(*out);

@@ -35,6 +35,20 @@ QList<int> keptCodes(const QByteArray &name)
     return found == codes.constEnd() ? QList<int>() : QList<int>{8, 6, 62, 370} + *found;
 }
 
+// Whether the reader can take a value. It does not check numbers, nor can its writer put
+// down very large ones.
+bool isSound(int code, const QByteArray &value)
+{
+    bool sound = true;
+    if (isWhole(code)) {
+        value.toInt(&sound);
+    } else if (isReal(code)) {
+        const double number = value.toDouble(&sound);
+        sound = sound && std::isfinite(number) && std::abs(number) <= kFarthest;
+    }
+    return sound && value.size() <= kLongestValue;
+}
+
 // Whether nothing is lost with a group that is not kept: it is about the file's own order,
 // or it only says what would hold anyway.
 bool isNothing(int code, const QByteArray &value)
@@ -135,13 +149,15 @@ void DxfFilter::take(const Record &record)
     } else if (m_section == "BLOCKS") {
         // The model and its layouts are blocks too. Empty ones are in every file.
         if (record.name != "BLOCK" && record.name != "ENDBLK")
-            ++m_unread[tr("%1 in a block").arg(QString::fromLatin1(record.name))];
+            ++m_unread[tr("%1 in a block").arg(QString::fromLatin1(record.name.left(40)))];
     } else if (m_section == "TABLES") {
+        // An overlong name would keep the reader busy for ever, so only these pass.
         if (record.name == "TABLE")
             m_table = record.value(2).toUpper();
-        if (m_table == "LAYER")
+        const bool isFrame = record.name == "TABLE" || record.name == "ENDTAB";
+        if (m_table == "LAYER" && (isFrame || record.name == "LAYER"))
             write(record, {2, 70, 62, 6, 370});
-        else if (m_table == "LTYPE")
+        else if (m_table == "LTYPE" && (isFrame || record.name == "LTYPE"))
             write(record, {2, 3, 70, 72, 73, 40, 49});
     }
 }
@@ -161,17 +177,10 @@ void DxfFilter::takeEntity(const Record &record)
     bool readable = !kept.isEmpty();
     bool whole = true;
     for (const Pair &pair : record.pairs) {
-        bool sound = pair.value.size() <= kLongestValue;
-        if (isReal(pair.code)) {
-            const double value = pair.value.toDouble(&sound);
-            sound = sound && std::isfinite(value) && std::abs(value) <= kFarthest;
-        } else if (isWhole(pair.code)) {
-            pair.value.toInt(&sound);
-        }
         // Invisible, on a sheet of paper, in a plane of its own.
         const bool elsewhere =
             pair.code == 60 || pair.code == 67 || (pair.code >= 210 && pair.code <= 230);
-        if (!sound || (elsewhere && !isNothing(pair.code, pair.value)))
+        if (!isSound(pair.code, pair.value) || (elsewhere && !isNothing(pair.code, pair.value)))
             readable = false;
         else if (!kept.contains(pair.code) && !isNothing(pair.code, pair.value))
             whole = false;
@@ -212,7 +221,7 @@ void DxfFilter::write(const Record &record, const QList<int> &codes)
         put(90, QByteArray::number(vertices));
     }
     for (const Pair &pair : record.pairs) {
-        if (codes.contains(pair.code) && pair.value.size() <= kLongestValue)
+        if (codes.contains(pair.code) && isSound(pair.code, pair.value))
             put(pair.code, pair.value);
     }
 }

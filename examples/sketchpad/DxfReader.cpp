@@ -44,12 +44,16 @@ Entity side(const QPointF &from, const QPointF &to, double bulge)
 
 void DxfReader::addLayer(const DL_LayerData &data)
 {
+    if (data.name.empty())
+        return;
+    // A layer that is off has a negative colour in the file.
+    const int color = std::abs(attributes.getColor());
     Sheet::Layer layer;
-    layer.color = attributes.getColor();
-    layer.lineType = decoded(attributes.getLinetype());
+    layer.color = color > 0 && color < 256 ? color : 7;
+    layer.lineType = decoded(attributes.getLinetype()).toUpper();
     layer.width = attributes.getWidth();
     layer.flags = data.flags;
-    layer.off = data.off;
+    layer.off = data.off || attributes.getColor() < 0;
     m_sheet.layers[decoded(data.name)] = layer;
 }
 
@@ -60,16 +64,20 @@ void DxfReader::addLinetypeDash(double length)
 
 void DxfReader::addLinetype(const DL_LinetypeData &data)
 {
-    m_sheet.lineTypes[decoded(data.name)] = m_dashes;
+    // Names of line types are the same in small letters.
+    m_sheet.lineTypes[decoded(data.name).toUpper()] = m_dashes;
     m_dashes.clear();
 }
 
 void DxfReader::add(Entity entity)
 {
-    entity.layer = decoded(attributes.getLayer());
-    entity.color = attributes.getColor();
-    entity.lineType = decoded(attributes.getLinetype());
+    const QString layer = decoded(attributes.getLayer());
+    entity.layer = layer.isEmpty() ? QStringLiteral("0") : layer;
+    entity.color =
+        attributes.getColor() >= 0 && attributes.getColor() < 256 ? attributes.getColor() : 256;
+    entity.lineType = decoded(attributes.getLinetype()).toUpper();
     entity.width = attributes.getWidth();
+    m_sheet.layers[entity.layer]; // each has an entry, also where the file forgot it
     m_sheet.entities.push_back(entity);
 }
 

@@ -22,6 +22,21 @@
 
 #include <numeric>
 
+namespace {
+
+// "2 x ELLIPSE", a line each; a long list is cut.
+QString listed(const QMap<QString, int> &unread)
+{
+    QStringList lines;
+    for (auto kind = unread.begin(); kind != unread.end(); ++kind)
+        lines += QStringLiteral("%1 \u00d7 %2").arg(kind.value()).arg(kind.key());
+    if (lines.size() > 10)
+        lines = lines.mid(0, 10) + QStringList{QStringLiteral("\u2026")};
+    return lines.join(QLatin1Char('\n'));
+}
+
+} // namespace
+
 // One line a command: from it come the action, its place in the menus and tool bars, and
 // the words that can be typed for it.
 struct MainWindow::Command
@@ -104,6 +119,7 @@ MainWindow::MainWindow(QWidget *parent)
             QStringLiteral("%1, %2").arg(point.x(), 0, 'f', 2).arg(point.y(), 0, 'f', 2));
     });
     connect(m_canvas, &QWidget::customContextMenuRequested, this, &MainWindow::showContextMenu);
+    connect(m_canvas, &Canvas::keyPressed, m_commandLine, &CommandLine::takeKey);
     connect(m_commandLine, &CommandLine::entered, this, &MainWindow::run);
     connect(m_commandLine, &CommandLine::textChanged, m_canvas, &Canvas::setTyped);
     resize(1200, 800);
@@ -214,12 +230,6 @@ void MainWindow::run(const QString &typed)
         statusBar()->showMessage(tr("There is no command \u201c%1\u201d.").arg(typed.trimmed()), 5000);
 }
 
-void MainWindow::keyPressEvent(QKeyEvent *event)
-{
-    // What is typed over the canvas is meant for the command line.
-    m_commandLine->takeKey(event);
-}
-
 bool MainWindow::openFile(const QString &path)
 {
     QString error;
@@ -245,33 +255,31 @@ bool MainWindow::openFile(const QString &path)
 
 bool MainWindow::saveFile(const QString &path)
 {
-    const auto &unread = m_drawing.sheet().unread;
-    if (!unread.isEmpty()) {
-        QStringList missing;
-        for (auto kind = unread.begin(); kind != unread.end(); ++kind)
-            missing += QStringLiteral("%1 \u00d7 %2").arg(kind.value()).arg(kind.key());
-        const QString list = missing.mid(0, 10).join(QLatin1String("\n"))
-                           + (missing.size() > 10 ? tr("\n...") : QString());
-        if (QFileInfo(path) == QFileInfo(m_path)) {
+    const QString name = QFileInfo(path).fileName();
+    QString error;
+    // Whatever is there now counts, also if it is not the file that was opened.
+    if (QFileInfo(path).size() > 0) {
+        const auto there = dxf::read(path, &error);
+        if (!there || !there->unread.isEmpty()) {
             QMessageBox::warning(
                 this, tr("Sketchpad"),
-                tr("\u201c%1\u201d holds what Sketchpad could not read and would lose:\n\n%2\n\n"
+                tr("\u201c%1\u201d holds what Sketchpad cannot read and would lose:\n\n%2\n\n"
                    "So it is not replaced. Use Save As to save under another name.")
-                    .arg(QFileInfo(path).fileName(), list));
+                    .arg(name, there ? listed(there->unread) : error));
             return false;
         }
-        const auto answer = QMessageBox::warning(
-            this, tr("Sketchpad"),
-            tr("The new file will be without what Sketchpad could not read:\n\n%1").arg(list),
-            QMessageBox::Save | QMessageBox::Cancel, QMessageBox::Cancel);
-        if (answer != QMessageBox::Save)
-            return false;
     }
-    QString error;
+    const auto &unread = m_drawing.sheet().unread;
+    if (!unread.isEmpty()
+        && QMessageBox::warning(this, tr("Sketchpad"),
+                                tr("\u201c%1\u201d will be without what Sketchpad could not read:\n\n%2")
+                                    .arg(name, listed(unread)),
+                                QMessageBox::Save | QMessageBox::Cancel, QMessageBox::Cancel)
+               != QMessageBox::Save)
+        return false;
     if (!dxf::write(m_drawing.sheet(), path, &error)) {
-        QMessageBox::warning(
-            this, tr("Sketchpad"),
-            tr("\u201c%1\u201d cannot be saved.\n\n%2").arg(QFileInfo(path).fileName(), error));
+        QMessageBox::warning(this, tr("Sketchpad"),
+                             tr("\u201c%1\u201d cannot be saved.\n\n%2").arg(name, error));
         return false;
     }
     m_path = path;
