@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QSaveFile>
 #include <QSettings>
 
@@ -15,6 +16,8 @@ namespace {
 
 // Far more than all bindings need. What is longer is some other file.
 constexpr qint64 kMaximalSize = 4 * 1024 * 1024;
+
+constexpr int kLockPatience = 2000; // milliseconds
 
 // Only printable ASCII goes into the file, the rest as "%u" and four digits: the two Qt
 // versions read anything else differently, and some characters not at all.
@@ -121,6 +124,9 @@ SettingsFile::Values SettingsFile::read()
     m_stamp = currentStamp();
     if (!m_stamp.exists)
         return {};
+    // The copy first: read the other way round, a copy of what somebody has just added to
+    // the file would make the file seem cut off.
+    const QByteArray backup = contentOf(backupPath());
     bool isReadable = m_stamp.isFile && m_stamp.size <= kMaximalSize;
     const QByteArray content = isReadable ? contentOf(m_path, &isReadable) : QByteArray();
     if (!isReadable) {
@@ -129,17 +135,26 @@ SettingsFile::Values SettingsFile::read()
         m_hasComplained = true;
         return {};
     }
-    const QByteArray backup = contentOf(backupPath());
     if (isDamaged(content, backup))
-        return restore(content, backup);
+        return restore();
     if (content != backup)
         store(backupPath(), content);
     return valuesIn(m_path);
 }
 
-SettingsFile::Values SettingsFile::restore(const QByteArray &damaged, const QByteArray &backup)
+SettingsFile::Values SettingsFile::restore()
 {
-    store(m_path + QLatin1String(".damaged"), damaged);
+    // The lock that QSettings takes while it writes. In a folder that cannot be written
+    // there is none to be had, and nobody to be kept out.
+    QLockFile lock(m_path + QLatin1String(".lock"));
+    lock.tryLock(kLockPatience);
+    const QByteArray backup = contentOf(backupPath());
+    const QByteArray content = contentOf(m_path);
+    if (!isDamaged(content, backup)) {
+        m_stamp = currentStamp(); // somebody else was faster
+        return valuesIn(m_path);
+    }
+    store(m_path + QLatin1String(".damaged"), content);
     if (backup.isEmpty() || !isWellFormed(backup)) {
         complain(QStringLiteral("%1 is damaged, and there is no good copy of it").arg(m_path));
         return valuesIn(m_path);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QByteArray>
 #include <QMap>
 #include <QString>
 
@@ -56,7 +55,7 @@ private:
 
     [[nodiscard]] Stamp currentStamp() const;
     [[nodiscard]] QString backupPath() const;
-    Values restore(const QByteArray &damaged, const QByteArray &backup);
+    Values restore();
 
     QString m_path;
     Stamp m_stamp;
