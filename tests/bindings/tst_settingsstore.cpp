@@ -376,15 +376,9 @@ private Q_SLOTS:
 
     void valuesPassUnchanged_data()
     {
-        QTest::addColumn<QString>("value");
-        QTest::newRow("empty") << "";
-        QTest::newRow("blank") << " \t\n";
-        QTest::newRow("huge") << QString(4 * 1024 * 1024, QLatin1Char('x'));
-        QTest::newRow("null characters") << QString(3, QChar(QChar::Null));
+        someValues();
+        // No text in any encoding, which is why QSettings does not keep it.
         QTest::newRow("lone surrogate") << QString(QChar(0xd800));
-        QTest::newRow("beyond Latin") << QString::fromUtf8("Линия 線 \xf0\x9f\x96\x8a");
-        QTest::newRow("settings syntax") << "@Invalid()";
-        QTest::newRow("percent") << "%1%5C%%";
     }
 
     void valuesPassUnchanged()
@@ -396,7 +390,7 @@ private Q_SLOTS:
         QCOMPARE(found, value);
     }
 
-    void olderValuesPassUnchanged_data() { valuesPassUnchanged_data(); }
+    void olderValuesPassUnchanged_data() { someValues(); }
 
     void olderValuesPassUnchanged()
     {
@@ -409,6 +403,18 @@ private Q_SLOTS:
     }
 
 private:
+    static void someValues()
+    {
+        QTest::addColumn<QString>("value");
+        QTest::newRow("empty") << "";
+        QTest::newRow("blank") << " \t\n";
+        QTest::newRow("huge") << QString(4 * 1024 * 1024, QLatin1Char('x'));
+        QTest::newRow("null characters") << QString(3, QChar(QChar::Null));
+        QTest::newRow("beyond Latin") << QString::fromUtf8("Линия 線 \xf0\x9f\x96\x8a");
+        QTest::newRow("settings syntax") << "@Invalid()";
+        QTest::newRow("percent") << "%1%5C%%";
+    }
+
     MgDonutSettings *settings = MgDonutSettings::instance();
     std::unique_ptr<tests::OlderSettings> older;
     std::unique_ptr<tests::FakeHost> host;
