@@ -7,15 +7,6 @@
 #include <QWidgetAction>
 
 namespace host {
-namespace {
-
-QString tipOf(const QAction *action)
-{
-    const QString status = plainTip(action->statusTip());
-    return status.isEmpty() ? plainTip(action->toolTip()) : status;
-}
-
-} // namespace
 
 ActionItem::ActionItem(const QString &identifier, const QString &key)
     : m_identifier(identifier)
@@ -39,7 +30,11 @@ void ActionItem::read()
     m_caption = captionOf(m_action);
     if (m_caption.isEmpty())
         m_caption = m_key;
-    m_tip = tipOf(m_action);
+    const QString tip = m_action->statusTip().isEmpty() ? m_action->toolTip() : m_action->statusTip();
+    if (tip != m_tipSource) { // markup is slow to read, and most changes are of the state
+        m_tipSource = tip;
+        m_tip = plainTip(tip);
+    }
     m_icon = m_action->icon();
 }
 

@@ -61,6 +61,7 @@ private:
     const QAction *m_address = nullptr;
     QString m_caption;
     QString m_tip;
+    QString m_tipSource; // what m_tip was made from
     QIcon m_icon;
 };
 
