@@ -332,7 +332,7 @@ void tst_Images::ringShowsOnEveryDrawing()
             best = std::max(best, contrast(luminance(blend(ring.pixel(x, y), kRingOpacity, ground)),
                                            luminance(ground)));
         }
-        QVERIFY2(best > 1.4, qPrintable(QStringLiteral("%1 at %2 degrees").arg(best).arg(degrees)));
+        QVERIFY2(best > 1.8, qPrintable(QStringLiteral("%1 at %2 degrees").arg(best).arg(degrees)));
     }
 }
 
