@@ -1,0 +1,49 @@
+#pragma once
+
+#include "sdk/chx/CHxCommand.h"
+#include "sdk/od/OdRxObjectImpl.h"
+#include "sdk/od/OdSmartPtr.h"
+
+#include <QString>
+
+#include <functional>
+
+namespace tests {
+
+// A command of the stack that does what the test says.
+class ScriptedCommand : public CHxCommand
+{
+public:
+    explicit ScriptedCommand(const QString &name)
+        : m_name(name)
+    {
+        ++alive;
+    }
+    ~ScriptedCommand() override { --alive; }
+
+    // Commands of this kind that are not destroyed yet.
+    static inline int alive = 0;
+
+    [[nodiscard]] static OdSmartPtr<ScriptedCommand> make(const char *name)
+    {
+        return {new OdRxObjectImpl<ScriptedCommand>(QString::fromUtf8(name)), kOdRxAttach};
+    }
+
+    [[nodiscard]] OdString globalName() const override { return OdString(QLatin1Char('_') + m_name); }
+    [[nodiscard]] OdString localName() const override { return OdString(m_name); }
+    int Execute(CHxCommandContext *) override
+    {
+        ++runs;
+        if (body)
+            body();
+        return kNormal;
+    }
+
+    int runs = 0;
+    std::function<void()> body;
+
+private:
+    QString m_name;
+};
+
+} // namespace tests
