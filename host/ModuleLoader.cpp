@@ -1,5 +1,7 @@
 #include "host/ModuleLoader.h"
 
+#include "host/LibraryFile.h"
+
 #include <QFileInfo>
 #include <QLibrary>
 
@@ -42,6 +44,11 @@ bool ModuleLoader::load(const QString &file, QString *error)
     m_file = file;
     if (!QFileInfo::exists(file)) {
         *error = QStringLiteral("there is no module '%1'").arg(file);
+        return false;
+    }
+    const QString problem = problemOfLibraryFile(file);
+    if (!problem.isEmpty()) {
+        *error = QStringLiteral("the module '%1' cannot be loaded: %2").arg(file, problem);
         return false;
     }
     QLibrary library(file);
