@@ -22,7 +22,6 @@ class Program:
     name: str
     executable: str  # found on PATH; relative to the build folder when it has a slash
     view: str  # class name of its drawing view
-    title: str  # part of its main window's title
     # Object name of the action that each direction runs with the first bindings.
     eight: dict
     # Directions whose command opens a dialog, which Escape closes.
@@ -30,6 +29,8 @@ class Program:
     # What the driver does to start the line tool, and to get to the command line.
     start_line: tuple = ()
     command_line: tuple = ()
+    # What the driver does where the program asks whether to save, to lose the changes.
+    discard: tuple = ()
     # Whether a right click in the view opens a menu.
     context_menu: bool = False
     # Files of its configuration folder, so that it starts without questions.
@@ -49,7 +50,6 @@ PROGRAMS = {
             name="librecad",
             executable="librecad",
             view="QG_GraphicView",
-            title="LibreCAD",
             eight={
                 "up": "ZoomAuto",
                 "up-left": "ModifyOffset",
@@ -60,9 +60,10 @@ PROGRAMS = {
                 "right": "DrawLine",
                 "up-right": "ModifyTrim",
             },
-            dialogs=("left",),
+            dialogs=("left", "down-right"),
             start_line=("key ctrl+m", "type line", "key Return"),
             command_line=("key ctrl+m",),
+            discard=("key Tab", "key Return"),
             configuration={
                 "LibreCAD/LibreCAD.conf":
                     "[Appearance]\nLanguage=en\nLanguageCmd=en\n"
@@ -75,7 +76,6 @@ PROGRAMS = {
             name="sketchpad",
             executable="bin/sketchpad",
             view="Canvas",
-            title="Sketchpad",
             eight={
                 "up": "viewZoomBounds",
                 "up-left": "modifyOffset",

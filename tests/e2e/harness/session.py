@@ -20,6 +20,9 @@ RING_SIZE = (250, 250)
 # Well beyond the 69 pixels at which a direction is chosen, diagonals included.
 FAR = 110
 
+# Every drafting program shows its drawing's name in the main window's title, and no other
+# window's title has it: a window without a title of its own is given the program's name.
+DRAWING_NAME = "drawing.dxf"
 # A drawing of two lines, enough to be opened, zoomed and saved.
 DRAWING = "".join(
     f"{code}\n{value}\n"
@@ -66,7 +69,7 @@ class Session:
         if self._settings:
             self._write(self.settings_file, "[GestureWidget]\n" + "".join(
                 f"{key}={value}\n" for key, value in self._settings.items()))
-        self.drawing = self.folder / "drawing.dxf"
+        self.drawing = self.folder / DRAWING_NAME
         if self._drawing:
             shutil.copyfile(self._drawing, self.drawing)
         else:
@@ -147,7 +150,7 @@ class Session:
                         "the splash screen to go", START_SECONDS)
         # Windows still move and grow after they have come up: the view's place counts once
         # the window manager has placed the main window and the screen shows no change.
-        self.driver.ask("wait-window", self.program.title, START_SECONDS * 1000)
+        self.driver.ask("wait-window", DRAWING_NAME, START_SECONDS * 1000)
         screen = (0, 0, *self._screen_size())
         self.driver.ask("remember", *screen)
         self.driver.ask("wait-steady", START_SECONDS * 1000)
@@ -171,8 +174,12 @@ class Session:
         """Closes the main window as a person does. Returns the exit status, negative for a
         signal."""
         mark = self.spy.mark()
-        self.driver.ask("close", self.program.title)
-        self.expect(mark, lambda line: line[0] == "quit", "the program's end")
+        self.driver.ask("close", DRAWING_NAME)
+        seen = self.expect(mark, lambda line: line[0] in ("quit", "dialog"), "the program's end")
+        if seen[0] == "dialog":
+            self.focus(seen[3])
+            self.carry_out(self.program.discard)
+            self.expect(mark, lambda line: line[0] == "quit", "the program's end")
         try:
             return self.process.wait(timeout=ANSWER_SECONDS)
         except subprocess.TimeoutExpired:
@@ -202,10 +209,11 @@ class Session:
         """Performs a gesture and waits for the action; nothing else may have run."""
         mark = self.spy.mark()
         self.gesture(direction, **how)
-        self.expect(mark, lambda line: line[0] == "triggered", f'"{action}" by a gesture {direction}')
-        self.ring_is_gone()
+        # The spy hears of an action when the program has dealt with it, so after its dialog.
         if direction in self.program.dialogs:
             self.dismiss_dialog(mark)
+        self.expect(mark, lambda line: line[0] == "triggered", f'"{action}" by a gesture {direction}')
+        self.ring_is_gone()
         ran = [line[1] for line in self.spy.since(mark, "triggered")]
         if ran != [action]:
             raise Failure(f"a gesture {direction} ran {ran}, not [{action!r}]")
@@ -219,19 +227,22 @@ class Session:
 
     def dismiss_dialog(self, mark):
         """Waits for a dialog that came up after `mark` and closes it."""
-        opened = self.expect(mark, lambda line: line[0] == "window" and "Dialog" in line[1], "a dialog")
-        self.driver.ask("wait-window", opened[3], ANSWER_SECONDS * 1000)
-        self.driver.ask("activate", opened[3])
+        opened = self.expect(mark, lambda line: line[0] == "dialog", "a dialog")
+        self.focus(opened[3])
         self.driver.ask("key", "Escape")
         self.expect(mark, lambda line: line[:2] == ["gone", opened[1]], "the dialog to close")
 
     def cancel_tool(self):
         """Ends what a command left running in the view."""
         mark = self.spy.mark()
+        self.focus(DRAWING_NAME)
         self.driver.ask("key", "Escape")
         # Where Escape is a shortcut it runs an action and reaches no widget.
         self.expect(mark, lambda line: line[:2] == ["key", "Escape"] or line[0] == "triggered",
                     "Escape to arrive")
+
+    def focus(self, title):
+        self.driver.ask("wait-focus", title, ANSWER_SECONDS * 1000)
 
     def right_click(self):
         """Clicks, and closes the menu if the program has one for it."""

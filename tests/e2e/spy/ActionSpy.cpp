@@ -102,8 +102,8 @@ void ActionSpy::watchWidgetEvent(QWidget *widget, QEvent *event)
         if (qobject_cast<QMenu *>(widget))
             write({QStringLiteral("menu"), className(widget), widget->objectName()});
         else if (widget->isWindow())
-            write({QStringLiteral("window"), className(widget), text(globalGeometry(widget)),
-                   plain(widget->windowTitle())});
+            write({widget->isModal() ? QStringLiteral("dialog") : QStringLiteral("window"),
+                   className(widget), text(globalGeometry(widget)), plain(widget->windowTitle())});
         m_lookAround.start();
         break;
     case QEvent::Hide:

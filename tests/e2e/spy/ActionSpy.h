@@ -22,11 +22,13 @@ QT_END_NAMESPACE
 //
 //     started    PID
 //     window     CLASS  X,Y,W,H  TITLE      a window came up
+//     dialog     CLASS  X,Y,W,H  TITLE      the same, and it blocks others: it is modal
 //     menu       CLASS  OBJECTNAME          a menu opened
 //     gone       CLASS                      a window or menu was closed
 //     view       CLASS  X,Y,W,H             a drawing view is there, in global pixels
 //     ready                                 view and menu entry are there, see below
-//     triggered  OBJECTNAME  CAPTION        an action ran
+//     triggered  OBJECTNAME  CAPTION        an action ran; comes when the program has dealt
+//                                           with it, so after a modal dialog that it opened
 //     press      BUTTON  CLASS  X,Y         a mouse event reached a widget; also "release"
 //                                           and "doubleclick"
 //     contextmenu  CLASS  REASON            a context-menu event reached a widget

@@ -8,6 +8,8 @@
 namespace {
 
 constexpr int kSteadyMs = 40;
+// A person holds a button for a moment.
+constexpr int kClickMs = 30;
 // A person's pointer reports about 125 times a second.
 constexpr int kMsPerStep = 8;
 
@@ -129,6 +131,8 @@ QString Commands::input(const QString &name, const QStringList &words)
         const bool release = name == QLatin1String("release");
         if (click || press)
             m_desktop.setButton(given->first(), true);
+        if (click)
+            m_desktop.glide({}, kClickMs, 1);
         if (click || release)
             m_desktop.setButton(given->first(), false);
         return click || press || release ? kOk : QString();
@@ -173,6 +177,12 @@ QString Commands::windows(const QString &name, const QStringList &words)
     int milliseconds = 0;
     if (what == QLatin1String("window") && words.size() == 2) {
         look = [&] { return (window = titled(m_desktop, words.first())).has_value() != absent; };
+        milliseconds = words.at(1).toInt();
+    } else if (what == QLatin1String("focus") && words.size() == 2) {
+        look = [&] {
+            window = titled(m_desktop, words.first());
+            return window && m_desktop.hasFocus(window->id);
+        };
         milliseconds = words.at(1).toInt();
     } else if (const auto given = numbers(words, 0);
                what == QLatin1String("size") && given && given->size() == 3) {

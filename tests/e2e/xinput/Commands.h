@@ -18,6 +18,7 @@ class XDesktop;
 //     windows                -> "ID X Y W H TITLE", separated by tabs
 //     wait-window TITLE MS   a window whose title contains TITLE -> ID X Y W H
 //     wait-no-window TITLE MS
+//     wait-focus TITLE MS    keys go to a window whose title contains TITLE
 //     wait-size W H MS       a window of that size -> ID X Y W H
 //     wait-no-size W H MS
 //     close TITLE            activate TITLE

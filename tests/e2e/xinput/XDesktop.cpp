@@ -205,6 +205,28 @@ std::optional<XDesktop::Window> XDesktop::findBySize(unsigned long below, QSize 
     return found;
 }
 
+bool XDesktop::hasFocus(unsigned long id) const
+{
+    ::Window focus = 0;
+    int revert = 0;
+    XGetInputFocus(m_display, &focus, &revert);
+    // A program may give the focus to a window inside of its own.
+    while (focus != None && focus != PointerRoot && focus != m_root) {
+        if (focus == id)
+            return true;
+        ::Window root = 0;
+        ::Window parent = 0;
+        ::Window *children = nullptr;
+        unsigned int count = 0;
+        if (!XQueryTree(m_display, focus, &root, &parent, &children, &count))
+            return false;
+        if (children)
+            XFree(children);
+        focus = parent;
+    }
+    return false;
+}
+
 void XDesktop::closeWindow(unsigned long id)
 {
     sendToManager(id, "_NET_CLOSE_WINDOW", CurrentTime);

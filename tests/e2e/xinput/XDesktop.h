@@ -48,6 +48,8 @@ public:
     [[nodiscard]] QList<Window> windows() const;
     // A window of exactly that size that is on screen, managed or not.
     [[nodiscard]] std::optional<Window> windowOfSize(QSize size) const;
+    // Whether keys go to that window.
+    [[nodiscard]] bool hasFocus(unsigned long id) const;
     // Asks a window to close, as its close button does.
     void closeWindow(unsigned long id);
     // Asks the window manager to raise a window and give it the keyboard.
