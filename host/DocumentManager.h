@@ -39,6 +39,8 @@ public:
     // the active one.
     Document *open(QWidget *view);
     void activate(Document *document);
+    // Tells nobody anything from now on.
+    void dropReactors() { m_reactors.clear(); }
     // Lets go of the stand-in widget. To be called while widgets may still be destroyed.
     void releaseStandIn();
 

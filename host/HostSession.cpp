@@ -82,7 +82,7 @@ bool HostSession::start(QString *error)
     connect(m_viewFinder.get(), &ViewFinder::viewFound, this, &HostSession::openView);
     connect(&m_menuWatch, &MenuWatch::settled, this,
             [this] { m_services->editor().notifyMainFrameCreated(m_window); });
-    connect(m_window, &QObject::destroyed, this, &HostSession::stop);
+    connect(m_window, &QObject::destroyed, this, &HostSession::stopWithoutWindow);
     connect(qApp, &QCoreApplication::aboutToQuit, this, &HostSession::finish);
     m_window->installEventFilter(this);
 
@@ -115,11 +115,23 @@ void HostSession::stop()
     if (m_window)
         m_window->removeEventFilter(this);
 
-    m_services->editor().notifyMainFrameDestroyed(m_window);
+    if (m_windowIsGone)
+        SetHxSystemServices(nullptr);
+    m_services->editor().notifyMainFrameDestroyed(m_windowIsGone ? nullptr : m_window.data());
     m_loader.uninitialize();
+    m_documents.dropReactors();
     odedSetEditor(nullptr);
     odedSetCommandStack(nullptr);
     SetHxSystemServices(nullptr);
+}
+
+void HostSession::stopWithoutWindow()
+{
+    // The window is no main window any more, only what is left of it, though pointers to it
+    // still say that it is there. There are no menus to take the module's entry out of; a
+    // module that finds no services leaves that be.
+    m_windowIsGone = true;
+    stop();
 }
 
 void HostSession::finish()

@@ -47,6 +47,7 @@ public:
     bool eventFilter(QObject *receiver, QEvent *event) override;
 
 private:
+    void stopWithoutWindow();
     void openView(QWidget *view);
     [[nodiscard]] bool gesturesAreEnabled() const;
     // The application is over.
@@ -58,6 +59,7 @@ private:
     QVector<QPointer<QWidget>> m_addedViews; // until start()
     bool m_isRunning = false;
     bool m_wasStarted = false;
+    bool m_windowIsGone = false;
     bool m_isFinished = false;
     bool m_isRetired = false; // whoever owned it is gone
     HostSession *m_next = nullptr; // of those that were started

@@ -18,8 +18,8 @@ QObject *InjectPlugin::create(const QString &, const QString &)
         inject::cleanEnvironment();
         if (qobject_cast<QApplication *>(QCoreApplication::instance()))
             return new inject::Injector;
+        return new QObject; // of null, Qt would complain
     } catch (...) {
-        // The program does without gestures.
+        return nullptr; // the program does without gestures
     }
-    return nullptr;
 }

@@ -12,7 +12,7 @@ public:
     explicit InjectPlugin(QObject *parent = nullptr);
     ~InjectPlugin() override;
 
-    // Called while the application object is being constructed. Never throws; null means
-    // that there is nothing to do in this program.
+    // Called while the application object is being constructed. Never throws. In a program
+    // without widgets the object that it returns does nothing.
     QObject *create(const QString &key, const QString &specification) override;
 };

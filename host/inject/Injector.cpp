@@ -1,6 +1,7 @@
 #include "host/inject/Injector.h"
 
 #include "host/GestureHost.h"
+#include "sdk/chx/CHxSystemServices.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -53,14 +54,13 @@ void Injector::lookSoon()
 void Injector::look()
 {
     m_isLookQueued = false;
-    if (m_host)
-        return;
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget *widget : windows) {
         auto *window = qobject_cast<QMainWindow *>(widget);
         if (window && window->isVisible() && hasMenuBar(window)) {
             QCoreApplication::instance()->removeEventFilter(this);
-            startHost(window);
+            if (!GetHxSystemServices()) // a program may have a host of its own
+                startHost(window);
             return;
         }
     }

@@ -1,0 +1,320 @@
+#include "tests/host/guest/GuestWindow.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QPointer>
+#include <QTimer>
+
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <memory>
+
+// A program that ends in the way its first argument says. Writes one line on standard
+// output for each thing that it saw.
+namespace {
+
+constexpr int kNoEntry = 90; // the exit status when the module's entry never came
+constexpr int kPatience = 20000; // milliseconds
+
+void say(const char *text)
+{
+    std::printf("%s\n", text);
+    std::fflush(stdout);
+}
+
+void sayWhether(const char *text, bool holds)
+{
+    std::printf("%s: %s\n", text, holds ? "yes" : "no");
+    std::fflush(stdout);
+}
+
+// Calls `then` from the event loop once `holds`, gives up after kPatience.
+void when(const std::function<bool()> &holds, const std::function<void()> &then)
+{
+    auto *timer = new QTimer(qApp);
+    auto *elapsed = new QElapsedTimer;
+    elapsed->start();
+    QObject::connect(timer, &QObject::destroyed, [elapsed] { delete elapsed; });
+    QObject::connect(timer, &QTimer::timeout, timer, [=] {
+        if (!holds() && elapsed->elapsed() < kPatience)
+            return;
+        timer->stop();
+        timer->deleteLater();
+        if (!holds())
+            std::exit(kNoEntry);
+        then();
+    });
+    timer->start(5);
+}
+
+bool ringIsOpen()
+{
+    const QWidget *grabber = QWidget::mouseGrabber();
+    return grabber && grabber->inherits("MgDonutDialog");
+}
+
+void openRing(GuestWindow &window)
+{
+    window.press();
+    window.dragTo(25);
+    window.dragTo(40);
+    sayWhether("ring", ringIsOpen());
+}
+
+void runGesture(GuestWindow &window)
+{
+    openRing(window);
+    window.dragTo(90);
+    window.release(90);
+}
+
+QString environmentText()
+{
+    return QStringLiteral("%1|%2").arg(
+        qEnvironmentVariable("QT_QPA_GENERIC_PLUGINS", QStringLiteral("unset")),
+        qEnvironmentVariable("QT_PLUGIN_PATH", QStringLiteral("unset")));
+}
+
+int runWithoutWidgets(int argc, char **argv)
+{
+    QGuiApplication app(argc, argv);
+    say(qPrintable(environmentText()));
+    QTimer::singleShot(0, &app, &QCoreApplication::quit);
+    return QGuiApplication::exec();
+}
+
+// The window is a local of main() and goes after the event loop, before the application.
+int runWith(int argc, char **argv, const std::function<void(GuestWindow &)> &script)
+{
+    QApplication app(argc, argv);
+    GuestWindow window;
+    window.show();
+    when([&] { return window.hasEntry(); },
+         [&] {
+             say("entry");
+             script(window);
+         });
+    const int status = QApplication::exec();
+    sayWhether("entry after the event loop", window.hasEntry());
+    return status;
+}
+
+int runWindowFirst(int argc, char **argv, bool isLater)
+{
+    QApplication app(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    QPointer<GuestWindow> window = new GuestWindow;
+    window->show();
+    when([&] { return window->hasEntry(); },
+         [&] {
+             runGesture(*window);
+             when([&] { return window->lines == 1; },
+                  [&] {
+                      if (isLater)
+                          window->deleteLater();
+                      else
+                          delete window.data();
+                      when([&] { return !window; },
+                           [] {
+                               say("window gone");
+                               QTimer::singleShot(50, qApp, &QCoreApplication::quit);
+                           });
+                  });
+         });
+    return QApplication::exec();
+}
+
+// The dialog runs an event loop inside the module, and the window is destroyed from within it.
+int runWindowGoneWithDialog(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    QPointer<GuestWindow> window = new GuestWindow;
+    window->show();
+    when([&] { return window->hasEntry(); },
+         [&] {
+             QMetaObject::invokeMethod(window->entry(), &QAction::trigger, Qt::QueuedConnection);
+             when([] { return QApplication::activeModalWidget(); },
+                  [&] {
+                      say("dialog");
+                      delete window.data();
+                      say("window gone");
+                      QTimer::singleShot(50, qApp, &QCoreApplication::quit);
+                  });
+         });
+    return QApplication::exec();
+}
+
+int runSecondWindow(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    auto first = std::make_unique<GuestWindow>();
+    first->show();
+    std::unique_ptr<GuestWindow> second;
+    when([&] { return first->hasEntry(); },
+         [&] {
+             first.reset();
+             second = std::make_unique<GuestWindow>();
+             second->show();
+             QTimer::singleShot(600, qApp, [&] {
+                 sayWhether("entry in the second window", second->hasEntry());
+                 QCoreApplication::quit();
+             });
+         });
+    return QApplication::exec();
+}
+
+int runWithoutEventLoop(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    GuestWindow window;
+    window.show();
+    QElapsedTimer elapsed;
+    elapsed.start();
+    while (!window.hasEntry() && elapsed.elapsed() < kPatience)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+    sayWhether("entry", window.hasEntry());
+    openRing(window);
+    return 0;
+}
+
+// Waits for what the host says in place of an entry, as long as a module would have taken.
+int runWithoutModule(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    GuestWindow window;
+    window.show();
+    int clicks = 0;
+    window.view->setContextMenuPolicy(Qt::CustomContextMenu);
+    QObject::connect(window.view, &QWidget::customContextMenuRequested, qApp, [&] { ++clicks; });
+    QTimer::singleShot(400, qApp, [&] {
+        window.press();
+        window.release(0);
+        std::printf("clicks: %d\n", clicks);
+        QCoreApplication::quit();
+    });
+    return QApplication::exec();
+}
+
+int runHeap(int argc, char **argv)
+{
+    auto *app = new QApplication(argc, argv);
+    auto *window = new GuestWindow; // neither is ever destroyed
+    window->show();
+    when([=] { return window->hasEntry(); }, [] { QCoreApplication::quit(); });
+    return app->exec();
+}
+
+int runApplicationFirst(int argc, char **argv)
+{
+    auto app = std::make_unique<QApplication>(argc, argv);
+    auto *window = new GuestWindow; // outlives the application object, as statics do
+    window->show();
+    when([=] { return window->hasEntry(); }, [] { QCoreApplication::quit(); });
+    const int status = QApplication::exec();
+    app.reset();
+    say("application gone");
+    return status;
+}
+
+int runStatic(int argc, char **argv)
+{
+    static QApplication app(argc, argv);
+    static GuestWindow window;
+    window.show();
+    when([] { return window.hasEntry(); }, [] { QCoreApplication::quit(); });
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QByteArray mode = argc > 1 ? argv[1] : "quit";
+    const auto with = [&](const std::function<void(GuestWindow &)> &script) {
+        return runWith(argc, argv, script);
+    };
+    const auto quit = [] { QCoreApplication::quit(); };
+
+    if (mode == "without-widgets")
+        return runWithoutWidgets(argc, argv);
+    if (mode == "environment")
+        return with([=](GuestWindow &) {
+            say(qPrintable(environmentText()));
+            quit();
+        });
+    if (mode == "quit")
+        return with([=](GuestWindow &) { quit(); });
+    if (mode == "gesture")
+        return with([=](GuestWindow &window) {
+            runGesture(window);
+            when([&] { return window.lines > 0; },
+                 [&] {
+                     std::printf("lines: %d\n", window.lines);
+                     quit();
+                 });
+        });
+    if (mode == "close")
+        return with([](GuestWindow &window) { window.close(); });
+    if (mode == "exit")
+        return with([](GuestWindow &) { std::exit(7); });
+    if (mode == "exit-with-ring")
+        return with([](GuestWindow &window) {
+            openRing(window);
+            std::exit(7);
+        });
+    if (mode == "quit-with-ring")
+        return with([=](GuestWindow &window) {
+            openRing(window);
+            quit();
+        });
+    if (mode == "close-with-ring")
+        return with([](GuestWindow &window) {
+            openRing(window);
+            window.close();
+        });
+    if (mode == "quit-while-holding")
+        return with([=](GuestWindow &window) {
+            window.press();
+            quit();
+        });
+    if (mode == "view-gone-with-ring")
+        return with([=](GuestWindow &window) {
+            openRing(window);
+            delete window.view;
+            sayWhether("ring after the view", ringIsOpen());
+            when([] { return !QWidget::mouseGrabber(); }, quit);
+        });
+    if (mode == "quit-with-dialog")
+        return with([=](GuestWindow &window) {
+            QMetaObject::invokeMethod(window.entry(), &QAction::trigger, Qt::QueuedConnection);
+            when([] { return QApplication::activeModalWidget(); },
+                 [=] {
+                     say("dialog");
+                     quit();
+                 });
+        });
+    if (mode == "window-gone-with-dialog")
+        return runWindowGoneWithDialog(argc, argv);
+    if (mode == "window-first")
+        return runWindowFirst(argc, argv, false);
+    if (mode == "window-later")
+        return runWindowFirst(argc, argv, true);
+    if (mode == "second-window")
+        return runSecondWindow(argc, argv);
+    if (mode == "without-event-loop")
+        return runWithoutEventLoop(argc, argv);
+    if (mode == "without-module")
+        return runWithoutModule(argc, argv);
+    if (mode == "heap")
+        return runHeap(argc, argv);
+    if (mode == "application-first")
+        return runApplicationFirst(argc, argv);
+    if (mode == "static")
+        return runStatic(argc, argv);
+    return 99;
+}
