@@ -29,7 +29,8 @@ void MgDonutDataContainer::fillCommandCategoryMap()
     }
 }
 
-void MgDonutDataContainer::fcParseRecursive(QString parentCategory, CHxUIMenuItemCollection *items)
+void MgDonutDataContainer::fcParseRecursive(const QString &parentCategory,
+                                            CHxUIMenuItemCollection *items)
 {
     if (!items)
         return;
@@ -52,7 +53,7 @@ void MgDonutDataContainer::fcParseRecursive(QString parentCategory, CHxUIMenuIte
     }
 }
 
-QString MgDonutDataContainer::getCategory(QString command) const
+QString MgDonutDataContainer::getCategory(const QString &command) const
 {
     const auto found = categoryMap.constFind(command);
     return found == categoryMap.constEnd() ? QObject::tr("Others") : found.value();

@@ -170,7 +170,7 @@ void MgDonutDataContainer::applyDirections(DonutScheme directionScheme)
             id.isEmpty() ? commands.end() : std::find(commands.begin(), commands.end(), id);
         if (record == commands.end()) {
             table[number - 1] = -1;
-            settings->write(key, QStringLiteral(""));
+            settings->write(key, QLatin1String(""));
         } else {
             (*record).*directionByte = static_cast<unsigned char>(number);
             table[number - 1] = static_cast<int>(record - commands.begin());
@@ -202,7 +202,7 @@ void MgDonutDataContainer::update(const std::vector<MgCommandDS> &records, bool 
             if (used[number - 1])
                 continue;
             table[number - 1] = -1;
-            settings->write(settingskeys::directionKey(directionScheme, number), QStringLiteral(""));
+            settings->write(settingskeys::directionKey(directionScheme, number), QLatin1String(""));
         }
     };
 

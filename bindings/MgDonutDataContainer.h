@@ -66,9 +66,9 @@ public:
     // Files every command below `items` in categoryMap: under `parentCategory` or, when that
     // is empty, under the caption of the entry that leads to it. A later place replaces an
     // earlier one.
-    void fcParseRecursive(QString parentCategory, CHxUIMenuItemCollection *items);
+    void fcParseRecursive(const QString &parentCategory, CHxUIMenuItemCollection *items);
     // The category of a command string: the translated "Others" when no menu holds it.
-    [[nodiscard]] QString getCategory(QString command) const;
+    [[nodiscard]] QString getCategory(const QString &command) const;
 
 protected:
     // Reads everything at once, by init(). Only instance() and tests make one.

@@ -15,7 +15,7 @@ void addStandardCommands(FakeHost &host)
     const QStringList identifiers = standardIdentifiers();
     for (const QString &identifier : identifiers) {
         const QString name = identifier.mid(3).toLower();
-        const QString caption = name.left(1).toUpper() + name.mid(1);
+        const QString caption = name.at(0).toUpper() + name.mid(1);
         host.commands.addCommand(identifier, name, caption, QLatin1String("Tip of ") + caption);
     }
 }

@@ -12,7 +12,6 @@
 namespace {
 
 using Table = std::vector<int>;
-using Values = QMap<QString, QString>;
 
 QString text(const char *latin1)
 {
@@ -20,8 +19,14 @@ QString text(const char *latin1)
 }
 
 // Places of the factory defaults among the standard commands.
-const Table kDefaultFour = {7, 4, 5, 2};
-const Table kDefaultEight = {7, 3, 4, 0, 5, 1, 2, 6};
+Table defaultFour()
+{
+    return {7, 4, 5, 2};
+}
+Table defaultEight()
+{
+    return {7, 3, 4, 0, 5, 1, 2, 6};
+}
 
 } // namespace
 
@@ -52,8 +57,8 @@ private Q_SLOTS:
         const tests::OpenContainer container;
         QVERIFY(container.getGestureEnabled());
         QCOMPARE(container.getScheme(), DonutScheme::Eight);
-        QCOMPARE(container.fourTable, kDefaultFour);
-        QCOMPARE(container.eightTable, kDefaultEight);
+        QCOMPARE(container.fourTable, defaultFour());
+        QCOMPARE(container.eightTable, defaultEight());
         QCOMPARE(tests::writes(*host).join(QLatin1Char(' ')),
                  text("EnableMouseGesture=1 ActiveScheme=8 41=ID_ZOOM_BOUNDS 42=ID_OPEN 43=ID_SAVE "
                       "44=ID_LINE 81=ID_ZOOM_BOUNDS 82=ID_OFFSET 83=ID_OPEN 84=ID_COPY 85=ID_SAVE "
@@ -149,7 +154,7 @@ private Q_SLOTS:
         host->store.values = {{text("44"), QString()}};
         const tests::OpenContainer container;
         QCOMPARE(container.fourTable, (Table{-1, -1, -1, -1}));
-        QCOMPARE(container.eightTable, kDefaultEight);
+        QCOMPARE(container.eightTable, defaultEight());
     }
 
     void unknownIdentifiersAreErased_data()
@@ -227,8 +232,8 @@ private Q_SLOTS:
     {
         host->store.setFails = true;
         const tests::OpenContainer container;
-        QCOMPARE(container.fourTable, kDefaultFour);
-        QCOMPARE(container.eightTable, kDefaultEight);
+        QCOMPARE(container.fourTable, defaultFour());
+        QCOMPARE(container.eightTable, defaultEight());
         QVERIFY(host->store.values.isEmpty());
     }
 
@@ -247,8 +252,8 @@ private Q_SLOTS:
         const tests::OpenContainer container;
         QVERIFY(container.getGestureEnabled());
         QCOMPARE(container.getScheme(), DonutScheme::Eight);
-        QCOMPARE(container.fourTable, kDefaultFour);
-        QCOMPARE(container.eightTable, kDefaultEight);
+        QCOMPARE(container.fourTable, defaultFour());
+        QCOMPARE(container.eightTable, defaultEight());
     }
 
     void withoutCommandsNothingIsBound_data()

@@ -81,7 +81,8 @@ private Q_SLOTS:
     void initialValues()
     {
         QStringList values;
-        for (const QString &key : tests::allKeys())
+        const QStringList keys = tests::allKeys();
+        for (const QString &key : keys)
             values.append(settings->getInitialValue(key));
         QCOMPARE(values.join(QLatin1Char(' ')),
                  text("1 8 ID_ZOOM_BOUNDS ID_OPEN ID_SAVE ID_LINE ID_ZOOM_BOUNDS ID_OFFSET ID_OPEN "
@@ -268,7 +269,8 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("key");
         QTest::addColumn<bool>("inOlder");
-        for (const QString &key : tests::allKeys()) {
+        const QStringList keys = tests::allKeys();
+        for (const QString &key : keys) {
             QTest::addRow("%s", qPrintable(key)) << key << false;
             QTest::addRow("older %s", qPrintable(key)) << key << true;
         }
