@@ -1,0 +1,375 @@
+#include "host/GestureHost.h"
+#include "host/MenuWatch.h"
+#include "sdk/chx/CHxDocument.h"
+#include "sdk/chx/CHxDocumentManager.h"
+#include "sdk/chx/CHxEditorReactor.h"
+#include "sdk/chx/CHxInputPointManager.h"
+#include "sdk/chx/CHxMainFrame.h"
+#include "sdk/chx/CHxProfileStore.h"
+#include "sdk/chx/CHxSystemServices.h"
+#include "sdk/od/OdEdCommandStack.h"
+#include "sdk/od/OdEditor.h"
+#include "tests/host/FakeTracker.h"
+#include "tests/host/modules/StubModule.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QElapsedTimer>
+#include <QLibrary>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+QString stub(const QString &name)
+{
+    return QStringLiteral(STUB_MODULES_DIR "/%1.so").arg(name);
+}
+
+StubModule::Calls callsOf(const QString &name)
+{
+    using Function = StubModule::Calls *(*)();
+    const auto function = reinterpret_cast<Function>(QLibrary::resolve(stub(name), "stubCalls"));
+    return function ? *function() : StubModule::Calls{};
+}
+
+class FrameReactor : public CHxEditorReactor
+{
+public:
+    void mainFrameCreated(QWidget *) override { ++created; }
+    void mainFrameDestroyed(QWidget *) override { ++destroyed; }
+    int created = 0;
+    int destroyed = 0;
+};
+
+} // namespace
+
+class tst_GestureHost : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { tests::failOnWarnings(); }
+    void init()
+    {
+        tests::resetWarnings();
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_options = {};
+        m_options.program = QStringLiteral("program");
+        m_options.moduleFile = stub(QStringLiteral("good"));
+        m_options.settingsFile = m_folder->filePath(QStringLiteral("program.ini"));
+    }
+    void cleanup()
+    {
+        QCOMPARE(GetHxSystemServices(), nullptr);
+        QVERIFY(!odedEditor());
+        QVERIFY(!odedRegCmds());
+        QCOMPARE(ACTIVE_DOCUMENT(), nullptr);
+        QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
+    }
+
+    void startGivesThePlatform();
+    void startAndStopOnce();
+    void oneHostAtATime();
+    void startWithoutWindow();
+    void startWithBrokenModule_data();
+    void startWithBrokenModule();
+    void errorIsOptional();
+    void addedViewsBecomeDocuments();
+    void profileNamesViews();
+    void enableFlagIsRead();
+    void frameIsCreatedOnceMenusAreQuiet();
+    void menusMayComeAfterTheWindow();
+    void windowWithoutMenuBarGetsNone();
+    void destroyedWindowStopsTheHost();
+    void hostMayOutliveTheWindowAndItsViews();
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+    GestureHost::Options m_options;
+};
+
+void tst_GestureHost::startGivesThePlatform()
+{
+    QMainWindow window;
+    GestureHost host(&window, m_options);
+    QVERIFY(!host.isRunning());
+    QString error;
+    QVERIFY2(host.start(&error), qPrintable(error));
+    QVERIFY(host.isRunning());
+    CHxSystemServices *services = GetHxSystemServices();
+    QVERIFY(services);
+    QVERIFY(services->GetMainFrame());
+    QCOMPARE(services->GetMainFrame()->GetMainWindow(), &window);
+    QVERIFY(services->GetApplication());
+    QVERIFY(services->GetDocumentManager());
+    QVERIFY(odedEditor());
+    QVERIFY(odedRegCmds());
+}
+
+void tst_GestureHost::startAndStopOnce()
+{
+    const StubModule::Calls before = callsOf(QStringLiteral("good"));
+    QMainWindow window;
+    GestureHost host(&window, m_options);
+    host.stop();
+    QVERIFY(host.start());
+    QVERIFY(host.start()); // it runs already
+    host.stop();
+    host.stop();
+    QVERIFY(!host.isRunning());
+    const StubModule::Calls after = callsOf(QStringLiteral("good"));
+    QCOMPARE(after.initializations, before.initializations + 1);
+    QCOMPARE(after.endings, before.endings + 1);
+    // The module object goes only when nothing of it can be running any more.
+    QCOMPARE(after.deletions, before.deletions);
+    QString error;
+    QVERIFY(!host.start(&error));
+    QCOMPARE(error, QStringLiteral("a host that was stopped cannot start again"));
+}
+
+void tst_GestureHost::oneHostAtATime()
+{
+    QMainWindow window;
+    auto first = std::make_unique<GestureHost>(&window, m_options);
+    GestureHost second(&window, m_options);
+    QVERIFY(first->start());
+    CHxSystemServices *services = GetHxSystemServices();
+    QString error;
+    QVERIFY(!second.start(&error));
+    QCOMPARE(error, QStringLiteral("this program has a host already"));
+    QCOMPARE(GetHxSystemServices(), services);
+    first.reset();
+    QVERIFY(second.start(&error));
+    QVERIFY(GetHxSystemServices() != services);
+}
+
+void tst_GestureHost::startWithoutWindow()
+{
+    GestureHost host(nullptr, m_options);
+    QString error;
+    QVERIFY(!host.start(&error));
+    QCOMPARE(error, QStringLiteral("there is no main window to host"));
+
+    auto window = std::make_unique<QMainWindow>();
+    GestureHost late(window.get(), m_options);
+    window.reset();
+    QVERIFY(!late.start(&error));
+}
+
+void tst_GestureHost::startWithBrokenModule_data()
+{
+    QTest::addColumn<QString>("module");
+    for (const char *name : {"missing", "empty", "newer", "null", "create_throws", "init_throws"})
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+void tst_GestureHost::startWithBrokenModule()
+{
+    QFETCH(QString, module);
+    m_options.moduleFile = stub(module);
+    QMainWindow window;
+    QWidget view(&window);
+    GestureHost host(&window, m_options);
+    host.addView(&view);
+    QString error;
+    QVERIFY(!host.start(&error));
+    QVERIFY2(error.contains(module), qPrintable(error));
+    QVERIFY(!host.isRunning());
+    window.show();
+    QTest::mouseClick(&view, Qt::RightButton);
+}
+
+void tst_GestureHost::errorIsOptional()
+{
+    m_options.moduleFile = stub(QStringLiteral("missing"));
+    QMainWindow window;
+    GestureHost host(&window, m_options);
+    QVERIFY(!host.start());
+    QVERIFY(!host.start(nullptr));
+}
+
+void tst_GestureHost::addedViewsBecomeDocuments()
+{
+    QMainWindow window;
+    QWidget before(&window);
+    QPlainTextEdit scrolled(&window);
+    QWidget after(&window);
+    GestureHost host(&window, m_options);
+    host.addView(nullptr);
+    host.addView(&before);
+    host.addView(&before);
+    host.addView(&scrolled);
+    {
+        QWidget gone;
+        host.addView(&gone);
+    }
+    QVERIFY(host.start());
+    host.addView(&after);
+    QList<QWidget *> views;
+    CHxDocumentManager *documents = GetHxSystemServices()->GetDocumentManager();
+    for (CHxDocumentIteratorPtr it = documents->NewIterator(); !it->done(); it->next())
+        views << it->object()->GetViewWidget();
+    const QList<QWidget *> expected{&before, scrolled.viewport(), &after};
+    QCOMPARE(views, expected);
+    QVERIFY(ACTIVE_DOCUMENT());
+    QCOMPARE(ACTIVE_DOCUMENT()->GetViewWidget(), &before);
+    host.stop();
+    host.addView(&window); // no more
+}
+
+void tst_GestureHost::profileNamesViews()
+{
+    QFile profile(m_folder->filePath(QStringLiteral("program.json")));
+    QVERIFY(profile.open(QIODevice::WriteOnly));
+    profile.write(R"({"version": 1, "program": "program", "viewClasses": ["QPlainTextEdit"]})");
+    profile.close();
+    m_options.profileFolders << m_folder->path();
+    QMainWindow window;
+    auto *view = new QPlainTextEdit(&window);
+    GestureHost host(&window, m_options);
+    QVERIFY(host.start());
+    QVERIFY(ACTIVE_DOCUMENT());
+    QCOMPARE(ACTIVE_DOCUMENT()->GetViewWidget(), view->viewport());
+}
+
+// A press is held back only while gestures are enabled in the program's own settings.
+void tst_GestureHost::enableFlagIsRead()
+{
+    QMainWindow window;
+    window.resize(300, 300);
+    auto *view = new QWidget;
+    window.setCentralWidget(view);
+    int menus = 0;
+    view->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(view, &QWidget::customContextMenuRequested, this, [&menus] { ++menus; });
+    GestureHost host(&window, m_options);
+    host.addView(view);
+    QVERIFY(host.start());
+    tests::FakeTracker tracker;
+    ACTIVE_DOCUMENT()->GetInputPointManager()->AddTracker(&tracker, 0);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const auto menusOpenedByThePress = [&] {
+        menus = 0;
+        QTest::mousePress(window.windowHandle(), Qt::RightButton, {}, QPoint(150, 150));
+        const int opened = menus;
+        QTest::mouseRelease(window.windowHandle(), Qt::RightButton, {}, QPoint(150, 150));
+        return opened;
+    };
+    CHxProfileStore *store = GetHxSystemServices()->GetProfileStore();
+    const auto set = [store](const char *value) {
+        const OdResBufPtr buffer = OdResBuf::newString(OdString(QString::fromLatin1(value)));
+        store->Set("GestureWidget", "EnableMouseGesture", buffer.get());
+    };
+    QCOMPARE(menusOpenedByThePress(), 0);
+    QCOMPARE(menus, 1);
+    set("0");
+    QCOMPARE(menusOpenedByThePress(), 1);
+    set("1");
+    QCOMPARE(menusOpenedByThePress(), 0);
+    QCOMPARE(menus, 1);
+}
+
+void tst_GestureHost::frameIsCreatedOnceMenusAreQuiet()
+{
+    QMainWindow window;
+    QMenu *menu = window.menuBar()->addMenu(QStringLiteral("Tools"));
+    GestureHost host(&window, m_options);
+    QVERIFY(host.start());
+    FrameReactor reactor;
+    odedEditor()->addReactor(&reactor);
+    window.show();
+    QElapsedTimer elapsed;
+    elapsed.start();
+    // A program that fills its menus for a while.
+    qint64 lastAdded = 0;
+    QTimer filling;
+    connect(&filling, &QTimer::timeout, this, [&] {
+        menu->addAction(QStringLiteral("entry"));
+        lastAdded = elapsed.elapsed();
+        if (menu->actions().size() == 5)
+            filling.stop();
+    });
+    filling.start(host::MenuWatch::kQuietTime / 2);
+    QTRY_COMPARE(reactor.created, 1);
+    QCOMPARE(menu->actions().size(), 5);
+    QVERIFY(elapsed.elapsed() - lastAdded >= host::MenuWatch::kQuietTime * 9 / 10);
+    menu->addAction(QStringLiteral("later"));
+    host.stop();
+    QCOMPARE(reactor.created, 1);
+    QCOMPARE(reactor.destroyed, 1);
+}
+
+void tst_GestureHost::menusMayComeAfterTheWindow()
+{
+    QMainWindow window;
+    window.show();
+    GestureHost host(&window, m_options);
+    QVERIFY(host.start());
+    FrameReactor reactor;
+    odedEditor()->addReactor(&reactor);
+    host::MenuWatch other(&window); // settles when the host's own does
+    QSignalSpy settled(&other, &host::MenuWatch::settled);
+    other.start();
+    window.menuBar()->addMenu(QStringLiteral("Tools"));
+    QTRY_COMPARE(settled.count(), 1);
+    QTRY_COMPARE(reactor.created, 1);
+    host.stop();
+    QCOMPARE(reactor.destroyed, 1);
+}
+
+void tst_GestureHost::windowWithoutMenuBarGetsNone()
+{
+    QMainWindow window;
+    window.show();
+    host::MenuWatch watch(&window);
+    QSignalSpy settled(&watch, &host::MenuWatch::settled);
+    watch.start();
+    QTimer patience;
+    patience.setSingleShot(true);
+    patience.start(host::MenuWatch::kQuietTime * 2);
+    QTRY_VERIFY(!patience.isActive());
+    QCOMPARE(settled.count(), 0);
+    QCOMPARE(window.menuWidget(), nullptr);
+}
+
+void tst_GestureHost::destroyedWindowStopsTheHost()
+{
+    auto window = std::make_unique<QMainWindow>();
+    window->menuBar()->addMenu(QStringLiteral("Tools"));
+    GestureHost host(window.get(), m_options);
+    QVERIFY(host.start());
+    window.reset();
+    QVERIFY(!host.isRunning());
+    QCOMPARE(GetHxSystemServices(), nullptr);
+
+    auto *later = new QMainWindow;
+    GestureHost second(later, m_options);
+    QVERIFY(second.start());
+    later->deleteLater();
+    QTRY_VERIFY(!second.isRunning());
+}
+
+void tst_GestureHost::hostMayOutliveTheWindowAndItsViews()
+{
+    auto window = std::make_unique<QMainWindow>();
+    auto *view = new QWidget(window.get());
+    auto host = std::make_unique<GestureHost>(window.get(), m_options);
+    host->addView(view);
+    QVERIFY(host->start());
+    CHxDocument *document = ACTIVE_DOCUMENT();
+    delete view;
+    QVERIFY(document->GetViewWidget());
+    QCOMPARE(ACTIVE_DOCUMENT(), document);
+    host.reset();
+    window.reset();
+}
+
+QTEST_MAIN(tst_GestureHost)
+#include "tst_gesturehost.moc"
