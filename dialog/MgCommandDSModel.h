@@ -54,6 +54,8 @@ public:
     [[nodiscard]] bool checkFilterCondition(const QString &displayName, const QString &category,
                                             unsigned char direction) const;
 
+    // The record of a row, until the records change; null for a row that does not exist.
+    [[nodiscard]] const MgCommandDS *recordAt(int row) const;
     // A copy of all records.
     [[nodiscard]] std::vector<MgCommandDS> getCommands() const { return records; }
     // Reads the records from the container again.
@@ -69,8 +71,6 @@ protected:
 private:
     // Null when the dialog is not one that this model can work for.
     [[nodiscard]] MgDonutDialogManager *dialogManager() const;
-    // Null for a row that does not exist.
-    [[nodiscard]] const MgCommandDS *recordAt(int row) const;
     void assignInFourScheme(MgCommandDS &record, unsigned char direction);
     void assignInEightScheme(MgCommandDS &record, unsigned char direction);
 };

@@ -6,7 +6,18 @@ MgCommandDSSortFilterProxyModel::MgCommandDSSortFilterProxyModel() = default;
 
 void MgCommandDSSortFilterProxyModel::applyFilter()
 {
-    invalidateFilter();
+    // Not only the filter: the model does not tell of new directions, so the order may be
+    // wrong, and invalidateFilter() would put rows that come back behind their equals. It
+    // would also take thousands of rows out one by one, each at the cost of all.
+    invalidate();
+}
+
+void MgCommandDSSortFilterProxyModel::sort(int column, Qt::SortOrder order)
+{
+    // The base class leaves equal rows in the order shown, and does nothing at all when it
+    // has sorted by this column last.
+    QSortFilterProxyModel::sort(-1, Qt::AscendingOrder);
+    QSortFilterProxyModel::sort(column, order);
 }
 
 QVariant MgCommandDSSortFilterProxyModel::data(const QModelIndex &index, int role) const
@@ -30,10 +41,22 @@ bool MgCommandDSSortFilterProxyModel::filterAcceptsRow(int sourceRow,
 
 bool MgCommandDSSortFilterProxyModel::lessThan(const QModelIndex &left, const QModelIndex &right) const
 {
-    if (left.isValid() && right.isValid() && left.column() == MgCommandDSModel::kDirectionColumn
-        && right.column() == MgCommandDSModel::kDirectionColumn) {
-        if (const auto *commands = qobject_cast<const MgCommandDSModel *>(sourceModel()))
-            return commands->getInvokerType(left.row()) < commands->getInvokerType(right.row());
+    const auto *commands = qobject_cast<const MgCommandDSModel *>(sourceModel());
+    if (!commands || !left.isValid() || !right.isValid() || left.column() != right.column())
+        return QSortFilterProxyModel::lessThan(left, right);
+    if (left.column() == MgCommandDSModel::kDirectionColumn)
+        return commands->getInvokerType(left.row()) < commands->getInvokerType(right.row());
+
+    // What the base class would find with these settings, the ones it starts with, without
+    // wrapping every text in a variant: thousands of commands are sorted when the dialog opens.
+    const MgCommandDS *first = commands->recordAt(left.row());
+    const MgCommandDS *second = commands->recordAt(right.row());
+    if (first && second && sortRole() == Qt::DisplayRole && sortCaseSensitivity() == Qt::CaseSensitive
+        && !isSortLocaleAware()) {
+        if (left.column() == MgCommandDSModel::kCategoryColumn)
+            return first->category < second->category;
+        if (left.column() == MgCommandDSModel::kCommandColumn)
+            return first->displayName < second->displayName;
     }
     return QSortFilterProxyModel::lessThan(left, right);
 }

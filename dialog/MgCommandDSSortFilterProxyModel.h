@@ -12,8 +12,12 @@ class MgCommandDSSortFilterProxyModel : public QSortFilterProxyModel
 public:
     MgCommandDSSortFilterProxyModel();
 
-    // Filters again: to be called when a filter control or the scheme has changed.
+    // Filters and sorts again: to be called when a filter control or the scheme has changed.
     void applyFilter();
+
+    // Rows that compare equal keep the order of the source model, whatever was sorted by
+    // before. A column below 0 gives that order back.
+    void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
 
     // As the source model, and for screen readers the direction in words.
     [[nodiscard]] QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;

@@ -62,6 +62,14 @@ QSize MgCommandModelDelegate::sizeHint(const QStyleOptionViewItem &option,
                                                                 : QItemDelegate::sizeHint(option, index);
 }
 
+void MgCommandModelDelegate::drawDisplay(QPainter *painter, const QStyleOptionViewItem &option,
+                                         const QRect &rect, const QString &text) const
+{
+    QString line = text;
+    line.replace(QChar::LineSeparator, QLatin1Char(' '));
+    QItemDelegate::drawDisplay(painter, option, rect, line);
+}
+
 void MgCommandModelDelegate::commitAndCloseEditor(int /*row*/)
 {
     // One slot for the drop-downs of all cells: only the sender says which of them it was.

@@ -27,6 +27,11 @@ public:
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem &option,
                                  const QModelIndex &index) const override;
 
+protected:
+    // On one line, whatever line breaks the text has: a row is one line high.
+    void drawDisplay(QPainter *painter, const QStyleOptionViewItem &option, const QRect &rect,
+                     const QString &text) const override;
+
 public Q_SLOTS:
     // Commits and closes the drop-down that sent the signal; does nothing when called
     // directly.

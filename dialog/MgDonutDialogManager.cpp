@@ -120,13 +120,13 @@ void MgDonutDialogManager::fixWidth()
     const int needed = std::max(ui.verticalLayout_4->minimumSize().width(),
                                 ui.horizontalLayout_6->minimumSize().width())
                      + margins.left() + margins.right();
-    const int extra = needed - width();
-    if (extra > 0) {
+    if (needed > width()) {
         resize(needed, height());
         QGroupBox *box = ui.description_groupBox;
-        box->setMinimumWidth(box->minimumWidth() + extra);
-        ui.description_label->resize(ui.description_label->width() + extra,
-                                     ui.description_label->height());
+        QLabel *label = ui.description_label;
+        const int beside = box->minimumWidth() - label->width();
+        box->setMinimumWidth(std::max(box->minimumWidth(), needed - margins.left() - margins.right()));
+        label->resize(box->minimumWidth() - beside, label->height());
     }
     setMinimumWidth(width());
     setMaximumWidth(width());
@@ -304,6 +304,8 @@ void MgDonutDialogManager::radioButtonStateChanged(bool /*checked*/)
         auto *item = new QStandardItem;
         item->setIcon(getDirectionIcon(direction, Eight));
         item->setData(getDirectionName(direction), Qt::AccessibleTextRole);
+        // As high as a row of text with room around it; arrows alone would touch each other.
+        item->setSizeHint(QSize(1, 1) * (fontMetrics().height() + 4));
         directionList.setItem(row, item);
     }
     applyFilter();

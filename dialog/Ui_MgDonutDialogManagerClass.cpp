@@ -89,7 +89,7 @@ void Ui_MgDonutDialogManagerClass::createFilters(QDialog *dialog)
     category_comboBox->setSizePolicy(comboPolicy);
     // The dialog's width is fixed: a menu with a very long caption must not push the rest out.
     category_comboBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    horizontalLayout_5->addWidget(category_comboBox);
+    horizontalLayout_5->addWidget(category_comboBox, 1);
     verticalLayout_2->addLayout(horizontalLayout_5);
 
     filter_checkBox = newWidget<QCheckBox>("filter_checkBox", dialog);
@@ -163,6 +163,8 @@ void Ui_MgDonutDialogManagerClass::createDescription(QDialog *dialog)
     description_groupBox->setMinimumSize(396, 91);
     description_label = newWidget<QLabel>("description_label", description_groupBox);
     description_label->setGeometry(10, 20, 371, 61);
+    // Clear of the frame, which is drawn where the label begins.
+    description_label->setContentsMargins(0, 4, 0, 0);
     description_label->setWordWrap(true);
     // A tip comes from the program's menus: whatever looks like markup in it is text.
     description_label->setTextFormat(Qt::PlainText);

@@ -1,0 +1,223 @@
+// What the configuration dialog costs beside the plainest Qt classes that show the same rows.
+// Each pair of benchmarks does the same with either; bars.md says what they may differ by.
+
+#include "bindings/MgDonutDataContainer.h"
+#include "dialog/BindingListDocument.h"
+#include "dialog/MgCommandDSSortFilterProxyModel.h"
+#include "dialog/MgDonutDialogManager.h"
+#include "tests/dialog/DraftingCommands.h"
+#include "tests/fakehost/FakeHost.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QSortFilterProxyModel>
+#include <QStandardItemModel>
+#include <QTableView>
+#include <QTextDocument>
+
+#include <memory>
+
+namespace {
+
+constexpr int kCommandColumn = 1;
+
+// The host that the process's one binding container reads.
+tests::FakeHost *offerCommands(int count)
+{
+    static std::unique_ptr<tests::FakeHost> host;
+    static int offered = -1;
+    if (offered != count) {
+        host.reset();
+        host = std::make_unique<tests::FakeHost>();
+        tests::addDraftingCommands(*host, count, true);
+        MgDonutDataContainer::instance()->init();
+        offered = count;
+    }
+    return host.get();
+}
+
+std::unique_ptr<QStandardItemModel> plainModel()
+{
+    const std::vector<MgCommandDS> commands = MgDonutDataContainer::instance()->getCommandsDS();
+    auto model = std::make_unique<QStandardItemModel>(static_cast<int>(commands.size()), 3);
+    for (int row = 0; row < model->rowCount(); ++row) {
+        model->setItem(row, 0, new QStandardItem(commands[row].category));
+        model->setItem(row, 1, new QStandardItem(commands[row].icon, commands[row].displayName));
+        model->setItem(row, 2, new QStandardItem);
+    }
+    return model;
+}
+
+// Up to the moment when the window has painted itself.
+void showAndPaint(QWidget &window)
+{
+    window.show();
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents();
+}
+
+// What somebody types who looks for "Polyline", and deletes again.
+const QString &typed(int step)
+{
+    static const QStringList texts{QStringLiteral("p"),
+                                   QStringLiteral("po"),
+                                   QStringLiteral("pol"),
+                                   QStringLiteral("pol"),
+                                   QStringLiteral("po"),
+                                   QStringLiteral("p"),
+                                   QString()};
+    return texts[step % texts.size()];
+}
+
+void openDialog(benchmark::State &state)
+{
+    offerCommands(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        MgDonutDialogManager dialog(nullptr, {});
+        showAndPaint(dialog);
+    }
+}
+
+void openPlainView(benchmark::State &state)
+{
+    offerCommands(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        const auto model = plainModel();
+        QTableView view;
+        view.resize(414, 576);
+        view.setModel(model.get());
+        showAndPaint(view);
+    }
+}
+
+// Beside the bar: a view that sorts as the dialog does when it opens.
+void openPlainSortedView(benchmark::State &state)
+{
+    offerCommands(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        const auto model = plainModel();
+        QSortFilterProxyModel proxy;
+        proxy.setSourceModel(model.get());
+        QTableView view;
+        view.resize(414, 576);
+        view.setSortingEnabled(true);
+        view.setModel(&proxy);
+        view.sortByColumn(0, Qt::AscendingOrder);
+        showAndPaint(view);
+    }
+}
+
+void typeInDialog(benchmark::State &state)
+{
+    offerCommands(static_cast<int>(state.range(0)));
+    MgDonutDialogManager dialog(nullptr, {});
+    showAndPaint(dialog);
+    auto *search = dialog.findChild<QLineEdit *>(QStringLiteral("search_lineEdit"));
+    int step = 0;
+    for (auto _ : state) {
+        search->setText(typed(step++));
+        QCoreApplication::processEvents();
+    }
+}
+
+void typeInPlainView(benchmark::State &state)
+{
+    offerCommands(static_cast<int>(state.range(0)));
+    const auto model = plainModel();
+    QSortFilterProxyModel proxy;
+    proxy.setFilterKeyColumn(kCommandColumn);
+    proxy.setFilterCaseSensitivity(Qt::CaseInsensitive);
+    proxy.setSourceModel(model.get());
+    QTableView view;
+    view.resize(414, 576);
+    view.setSortingEnabled(true);
+    view.setModel(&proxy);
+    view.sortByColumn(0, Qt::AscendingOrder);
+    showAndPaint(view);
+    int step = 0;
+    for (auto _ : state) {
+        proxy.setFilterFixedString(typed(step++));
+        QCoreApplication::processEvents();
+    }
+}
+
+// The proxies by themselves, no view asking them anything.
+void filterDialogProxy(benchmark::State &state)
+{
+    offerCommands(static_cast<int>(state.range(0)));
+    MgDonutDialogManager dialog(nullptr, {});
+    auto *table = dialog.findChild<QTableView *>(QStringLiteral("command_tableView"));
+    auto *proxy = qobject_cast<MgCommandDSSortFilterProxyModel *>(table->model());
+    auto *search = dialog.findChild<QLineEdit *>(QStringLiteral("search_lineEdit"));
+    search->blockSignals(true);
+    table->setModel(nullptr);
+    // The dialog finds its proxy as the table's model, so here it is asked directly.
+    int step = 0;
+    for (auto _ : state) {
+        search->setText(typed(step++));
+        proxy->applyFilter();
+        benchmark::DoNotOptimize(proxy->rowCount());
+    }
+}
+
+void filterPlainProxy(benchmark::State &state)
+{
+    offerCommands(static_cast<int>(state.range(0)));
+    const auto model = plainModel();
+    QSortFilterProxyModel proxy;
+    proxy.setFilterKeyColumn(kCommandColumn);
+    proxy.setFilterCaseSensitivity(Qt::CaseInsensitive);
+    proxy.setSourceModel(model.get());
+    proxy.sort(0);
+    int step = 0;
+    for (auto _ : state) {
+        proxy.setFilterFixedString(typed(step++));
+        benchmark::DoNotOptimize(proxy.rowCount());
+    }
+}
+
+void buildPrintedDocument(benchmark::State &state)
+{
+    offerCommands(static_cast<int>(state.range(0)));
+    MgDonutDialogManager dialog(nullptr, {});
+    auto *table = dialog.findChild<QTableView *>(QStringLiteral("command_tableView"));
+    for (auto _ : state) {
+        const std::unique_ptr<QTextDocument> document(createBindingListDocument(table->model()));
+        benchmark::DoNotOptimize(document->isEmpty());
+    }
+}
+
+// A menu of a usual size and one far above.
+void sizes(benchmark::internal::Benchmark *benchmark)
+{
+    benchmark->Arg(250)->Arg(10000)->Unit(benchmark::kMillisecond);
+}
+
+BENCHMARK(openDialog)->Apply(sizes);
+BENCHMARK(openPlainView)->Apply(sizes);
+BENCHMARK(openPlainSortedView)->Apply(sizes);
+BENCHMARK(typeInDialog)->Apply(sizes);
+BENCHMARK(typeInPlainView)->Apply(sizes);
+BENCHMARK(filterDialogProxy)->Apply(sizes);
+BENCHMARK(filterPlainProxy)->Apply(sizes);
+BENCHMARK(buildPrintedDocument)->Apply(sizes);
+
+} // namespace
+
+// The offscreen platform says of every window that it does not support size hints.
+void beQuiet(QtMsgType /*type*/, const QMessageLogContext & /*context*/, const QString & /*text*/) { }
+
+int main(int argc, char **argv)
+{
+    qInstallMessageHandler(beQuiet);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

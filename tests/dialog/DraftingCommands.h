@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QColor>
+#include <QIcon>
+#include <QString>
+
+namespace tests {
+
+class FakeHost;
+
+// An icon of one colour that has pictures for screens of one and of two pixels a point.
+[[nodiscard]] QIcon squareIcon(const QColor &color);
+
+// Gives a host the menus of a drafting program ("&File", "&Edit", "&Draw", "&Modify",
+// "&Tools") and `count` commands in them, the commands of the factory bindings first. Every
+// command has a tip and, with `icons`, a picture. The last of every ten is in no menu.
+void addDraftingCommands(FakeHost &host, int count, bool icons);
+
+} // namespace tests

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "bindings/MgCommandDS.h"
+#include "dialog/MgCommandDSModel.h"
+#include "dialog/MgCommandDSSortFilterProxyModel.h"
+#include "dialog/MgCommandTableView.h"
+#include "dialog/MgDonutDialogManager.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStringList>
+
+#include <functional>
+
+class QPrinter;
+
+namespace tests {
+
+// The dialog with all of its parts in reach.
+class TestDialog : public MgDonutDialogManager
+{
+public:
+    explicit TestDialog(QWidget *parent = nullptr)
+        : MgDonutDialogManager(parent, {})
+    {
+    }
+
+    using MgDonutDialogManager::directionList;
+    using MgDonutDialogManager::model;
+    using MgDonutDialogManager::proxy;
+    using MgDonutDialogManager::scheme;
+    using MgDonutDialogManager::ui;
+
+    // Answers in place of the print dialog when it is set.
+    std::function<int(QPrinter &)> printDialog;
+
+    // The cells of one column that the table shows, from the top.
+    [[nodiscard]] QStringList shown(int column = MgCommandDSModel::kCommandColumn) const
+    {
+        QStringList texts;
+        for (int row = 0; row < proxy->rowCount(); ++row)
+            texts.append(proxy->index(row, column).data().toString());
+        return texts;
+    }
+    // The directions that the table shows, from the top.
+    [[nodiscard]] QList<int> shownDirections() const
+    {
+        QList<int> directions;
+        for (int row = 0; row < proxy->rowCount(); ++row)
+            directions.append(cell(row, MgCommandDSModel::kDirectionColumn).data(Qt::EditRole).toInt());
+        return directions;
+    }
+    // A cell as the table has it.
+    [[nodiscard]] QModelIndex cell(int row, int column) const { return proxy->index(row, column); }
+    // The row that shows a command; -1 when none does.
+    [[nodiscard]] int rowOf(const QString &displayName) const { return shown().indexOf(displayName); }
+    // The working copy's record of an identifier.
+    [[nodiscard]] MgCommandDS record(const QString &id) const
+    {
+        for (const MgCommandDS &command : model->getCommands()) {
+            if (command.id == id)
+                return command;
+        }
+        return {{}, {}, {}, {}, {}, {}, 0xff, 0xff};
+    }
+    // The drop-down that is open in the table; null for none.
+    [[nodiscard]] QComboBox *editor() const
+    {
+        const auto editors = ui.command_tableView->viewport()->findChildren<QComboBox *>();
+        for (QComboBox *found : editors) {
+            if (found->isVisible())
+                return found;
+        }
+        return nullptr;
+    }
+    [[nodiscard]] QPushButton *button(QDialogButtonBox::StandardButton which) const
+    {
+        return ui.buttonBox->button(which);
+    }
+
+protected:
+    int runPrintDialog(QPrinter &printer) override
+    {
+        return printDialog ? printDialog(printer) : MgDonutDialogManager::runPrintDialog(printer);
+    }
+};
+
+} // namespace tests
