@@ -9,11 +9,13 @@
 namespace icons {
 namespace {
 
-// Colours that stand out from a light ground and from a dark one.
-const QColor kInk(0x6b, 0x7b, 0x91);
-const QColor kBlue(0x2f, 0x86, 0xd6);
+// On a light ground the colours stand out by themselves, on a dark or grey one, such as the
+// ring of a gesture, by the rim of paper around each stroke.
+const QColor kInk(0x4d, 0x5d, 0x74);
+const QColor kBlue(0x1f, 0x76, 0xcc);
 const QColor kOrange(0xf0, 0x8a, 0x24);
 const QColor kPaper(0xf7, 0xf9, 0xfc);
+const QColor kRim(0xff, 0xff, 0xff, 0xd0);
 
 // The icons on a square of 24 units, y downwards, as strokes separated by semicolons. The
 // first letter is the ink: i grey, b blue, o orange, a small f after it fills with paper,
@@ -69,13 +71,15 @@ QString strokes(const QString &name)
     return all.value(name);
 }
 
-void draw(QPainter &painter, const QString &stroke)
+void draw(QPainter &painter, const QString &stroke, bool rim)
 {
     const QStringList words = stroke.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     const QString &style = words.first();
     const auto number = [&words](int index) { return words.value(index).toDouble(); };
     if (style == QLatin1String("g")) {
-        painter.fillRect(QRectF(number(1) - 2, number(2) - 2, 4, 4), kOrange);
+        const double half = rim ? 3 : 2;
+        painter.fillRect(QRectF(number(1) - half, number(2) - half, 2 * half, 2 * half),
+                         rim ? kRim : kOrange);
         return;
     }
     const QColor ink = style.startsWith(QLatin1Char('i')) ? kInk
@@ -97,8 +101,8 @@ void draw(QPainter &painter, const QString &stroke)
     }
     if (style.endsWith(QLatin1Char('f')))
         painter.fillPath(path, kPaper);
-    QPen pen(ink, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
-    if (style.endsWith(QLatin1Char('-'))) {
+    QPen pen(rim ? kRim : ink, rim ? 4 : 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    if (style.endsWith(QLatin1Char('-')) && !rim) {
         pen.setCapStyle(Qt::FlatCap);
         pen.setDashPattern({1.25, 1});
     }
@@ -117,8 +121,10 @@ QIcon named(const QString &name)
         QPainter painter(&pixmap);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.scale(size / 24.0, size / 24.0);
-        for (const QString &stroke : list)
-            draw(painter, stroke);
+        for (const bool rim : {true, false}) {
+            for (const QString &stroke : list)
+                draw(painter, stroke, rim);
+        }
         painter.end();
         if (!list.isEmpty())
             icon.addPixmap(pixmap);

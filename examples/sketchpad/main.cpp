@@ -17,7 +17,7 @@ int main(int argc, char **argv)
     // program, says which of its actions are the well-known commands.
     GestureHost::Options options;
     options.program = QStringLiteral("sketchpad");
-    options.profileFolders = {QStringLiteral(":/profiles")};
+    options.profileFolders = QStringList{QStringLiteral(":/profiles")};
     GestureHost gestures(&window, options);
     gestures.addView(window.canvas());
     QString error;

@@ -196,7 +196,7 @@ private Q_SLOTS:
         QVERIFY(dxf::write({}, path("empty.dxf"), &error));
         const QByteArray text = contents(path("empty.dxf"));
         const QByteArray style = text.mid(text.indexOf("\nAcDbTextStyleTableRecord") - 40, 40);
-        const int handle = style.indexOf("\n  5\n") + 5;
+        const auto handle = style.indexOf("\n  5\n") + 5;
         const QByteArray own = style.mid(handle, style.indexOf('\n', handle) - handle);
         QVERIFY(!own.isEmpty());
         QVERIFY(text.mid(text.indexOf("\nAcDbDimStyleTableRecord")).contains("\n340\n" + own + "\n"));
@@ -289,7 +289,7 @@ private Q_SLOTS:
     {
         const QByteArray whole = contents(sample("bracket.dxf"));
         QVERIFY(whole.size() > 10000);
-        const int end = whole.lastIndexOf("EOF");
+        const auto end = whole.lastIndexOf("EOF");
         for (int size = 0; size < end; size += 97) {
             QVERIFY(put(path("cut.dxf"), whole.left(size)));
             QString error;

@@ -87,16 +87,26 @@ class TestSketchpad : public QObject
     {
         return m_window->canvas()->toPixels({x, y}).toPoint();
     }
-    // QTest::mouseMove() of a widget moves the real pointer, which nothing offscreen has.
+    // The window's pointer, over pixels of the canvas: a widget's own has no way to move.
+    void press(Qt::MouseButton button, const QPoint &at, Qt::KeyboardModifiers keys = {}) const
+    {
+        QTest::mousePress(m_window->windowHandle(), button, keys,
+                          m_window->canvas()->mapTo(m_window.get(), at));
+    }
     void move(const QPoint &to) const
     {
         QTest::mouseMove(m_window->windowHandle(), m_window->canvas()->mapTo(m_window.get(), to));
-        QCoreApplication::processEvents();
+    }
+    void release(Qt::MouseButton button, const QPoint &at, Qt::KeyboardModifiers keys = {}) const
+    {
+        QTest::mouseRelease(m_window->windowHandle(), button, keys,
+                            m_window->canvas()->mapTo(m_window.get(), at));
     }
     void click(double x, double y, Qt::KeyboardModifiers keys = {}) const
     {
         move(pixels(x, y));
-        QTest::mouseClick(m_window->canvas(), Qt::LeftButton, keys, pixels(x, y));
+        press(Qt::LeftButton, pixels(x, y), keys);
+        release(Qt::LeftButton, pixels(x, y), keys);
     }
     // A drawing that holds something that cannot be read.
     [[nodiscard]] QString foreignFile() const
@@ -302,9 +312,9 @@ private Q_SLOTS:
         click(0, -30);
         QVERIFY(canvas->selection().empty());
         const auto frame = [&](const QPoint &from, const QPoint &to) {
-            QTest::mousePress(canvas, Qt::LeftButton, {}, from);
+            press(Qt::LeftButton, from);
             move(to);
-            QTest::mouseRelease(canvas, Qt::LeftButton, {}, to);
+            release(Qt::LeftButton, to);
         };
         // To the right only what is inside, to the left also what is touched.
         frame(pixels(-20, 45), pixels(20, -5));
@@ -333,9 +343,9 @@ private Q_SLOTS:
         QVERIFY(QLineF(canvas->toDrawing(here), before).length() < 1e-9);
         const double narrow = canvas->toDrawing({100, 0}).x() - canvas->toDrawing({0, 0}).x();
         QVERIFY(std::abs(wide / narrow - 1.2) < 1e-9);
-        QTest::mousePress(canvas, Qt::MiddleButton, {}, here);
+        press(Qt::MiddleButton, here);
         move(here + QPoint(40, 10));
-        QTest::mouseRelease(canvas, Qt::MiddleButton, {}, here + QPoint(40, 10));
+        release(Qt::MiddleButton, here + QPoint(40, 10));
         QVERIFY(QLineF(canvas->toDrawing(here + QPoint(40, 10)), before).length() < 1e-9);
     }
 
