@@ -1,0 +1,118 @@
+#include "tests/gesture/GestureBench.h"
+
+#include "bindings/MgDonutDataContainer.h"
+#include "sdk/QtBridge.h"
+
+#include <QCoreApplication>
+#include <QCursor>
+#include <QTest>
+
+namespace tests {
+
+void NotingView::mouseMoveEvent(QMouseEvent *event)
+{
+    moves.push_back({qtbridge::localPosition(*event), qtbridge::globalPosition(*event), event->button(),
+                     event->buttons(), event->modifiers()});
+}
+
+void NotingView::mousePressEvent(QMouseEvent *)
+{
+    ++presses;
+}
+
+void NotingView::mouseReleaseEvent(QMouseEvent *)
+{
+    ++releases;
+}
+
+void CountingDonut::paint(QPaintEvent *event)
+{
+    ++paints;
+    if (fading)
+        ++fadingPaints;
+    MgDonutDialogPVStyleImpl::paint(event);
+}
+
+GestureBench::GestureBench()
+{
+    for (const char *name : {"ZOOM_BOUNDS", "OPEN", "SAVE", "LINE", "OFFSET", "COPY", "DTEXT", "TRIM"}) {
+        const QString upper = QString::fromLatin1(name);
+        host.commands.addCommand(QStringLiteral("ID_") + upper, upper.toLower(), upper,
+                                 QStringLiteral("Tip of ") + upper);
+    }
+    document = host.documents.open();
+    delete document->view;
+    view = new NotingView;
+    // As drawing views have it; Qt drops moves without a button otherwise.
+    view->setMouseTracking(true);
+    document->view = view;
+    view->setGeometry(150, 150, 400, 400);
+    view->show();
+    if (!QTest::qWaitForWindowExposed(view))
+        qFatal("the view does not appear");
+    setScheme(4);
+    setEnabled(true);
+}
+
+GestureBench::~GestureBench()
+{
+    // Qt keeps count of the buttons over all tests.
+    if (m_pressed && view)
+        release(QPoint(200, 200));
+}
+
+void GestureBench::setScheme(int sectors)
+{
+    host.store.values.insert(QStringLiteral("ActiveScheme"), QString::number(sectors));
+    MgDonutDataContainer::instance()->init();
+    host.log.clear();
+}
+
+void GestureBench::setEnabled(bool enabled)
+{
+    host.store.values.insert(QStringLiteral("EnableMouseGesture"), QString::number(enabled ? 1 : 0));
+    MgDonutDataContainer::instance()->init();
+    host.log.clear();
+}
+
+FakeDocument *GestureBench::openDocument()
+{
+    FakeDocument *another = host.documents.open();
+    another->view->setGeometry(20, 40, 400, 400);
+    return another;
+}
+
+void GestureBench::pointTo(const QPoint &viewPosition)
+{
+    QCursor::setPos(view->mapToGlobal(viewPosition));
+    QCoreApplication::processEvents();
+}
+
+void GestureBench::pointTo(const MgDonutDialogPVStyleImpl &donut, int x, int y)
+{
+    pointTo(donut.origin + QPoint(x, -y));
+}
+
+void GestureBench::press(const QPoint &viewPosition)
+{
+    m_pressed = true;
+    QTest::mousePress(view->windowHandle(), Qt::RightButton, Qt::KeyboardModifiers(), viewPosition);
+}
+
+void GestureBench::release(const QPoint &viewPosition, Qt::KeyboardModifiers modifiers)
+{
+    m_pressed = false;
+    QTest::mouseRelease(view->windowHandle(), Qt::RightButton, modifiers, viewPosition);
+}
+
+void GestureBench::start(MgDonutDialogPVStyleImpl &donut, const QPoint &centre)
+{
+    pointTo(centre);
+    press(centre);
+    donut.origin = centre;
+    donut.move(view->mapToGlobal(centre) - QPoint(125, 125));
+    donut.WindUp(document);
+    donut.TryStart(QCursor::pos());
+}
+
+} // namespace tests

@@ -1,0 +1,924 @@
+#include "bindings/MgDonutDataContainer.h"
+#include "gesture/MgDonutDialogPVStyleImpl.h"
+#include "tests/gesture/GestureBench.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QDialog>
+#include <QElapsedTimer>
+#include <QPointer>
+#include <QRegularExpression>
+#include <QShortcut>
+#include <QTest>
+#include <QTimer>
+
+#include <cmath>
+#include <memory>
+#include <vector>
+
+using tests::CountingDonut;
+using tests::GestureBench;
+
+namespace {
+
+// The states of a ring by its flags, as one text to compare.
+QString stateOf(const MgDonutDialogPVStyleImpl &donut)
+{
+    QStringList flags;
+    if (donut.armed)
+        flags += QStringLiteral("armed");
+    if (donut.gesturing)
+        flags += QStringLiteral("gesturing");
+    if (donut.fading)
+        flags += QStringLiteral("fading");
+    if (donut.justStopped)
+        flags += QStringLiteral("stopped");
+    if (donut.isVisible())
+        flags += QStringLiteral("shown");
+    if (QWidget::mouseGrabber() == &donut)
+        flags += QStringLiteral("mouse");
+    if (QWidget::keyboardGrabber() == &donut)
+        flags += QStringLiteral("keyboard");
+    return flags.join(QLatin1Char(' '));
+}
+
+const QString kIdle;
+const QString kArmed = QStringLiteral("armed");
+const QString kGesturing = QStringLiteral("gesturing shown mouse keyboard");
+const QString kStopped = QStringLiteral("stopped");
+
+} // namespace
+
+class tst_OverlayLifecycle : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { tests::failOnWarnings(); }
+    void init();
+    void cleanup();
+
+    void startsIdle();
+    void windUpTakesCursorAndMode();
+    void windUpOfNothingIsIgnored();
+    void secondWindUpKeepsTheFirst();
+    void windUpIsIgnoredWhileGesturing();
+    void startIsIgnoredWhenNotArmed();
+    void startIsIgnoredWhileGesturing();
+    void startFillsSectors_data();
+    void startFillsSectors();
+    void startChoosesFromWhereThePointerIs();
+    void startForgetsTheLastGesture();
+    void startFarOutFadesBeforeShowing();
+    void releaseAfterAFarStartAccepts();
+    void armedIsLeftByStartingOnly();
+
+    void smallMovesChangeNothing_data();
+    void smallMovesChangeNothing();
+    void longerMovesChooseASector();
+    void moveIgnoresTheEventsOwnPosition();
+    void fadesBeyond69Pixels_data();
+    void fadesBeyond69Pixels();
+    void farMoveAccepts();
+    void releaseCancels();
+    void releasePostsAMoveToTheView();
+    void pressesAreSwallowed();
+    void keysAreSwallowed();
+    void shortcutsOfTheHostAreHeldBack();
+    void otherFilteredEventsPass();
+
+    void justStoppedIsReportedOnce();
+    void fadingBlocksForAQuarterOfASecond();
+    void stoppingGivesEverythingBack();
+    void stoppingTwiceTouchesTheHostOnce();
+    void lateEventsChangeNothing();
+    void anotherGestureFollows();
+
+    void hidingCancels();
+    void closingCancels();
+    void modalWindowCancels();
+    void destroyedWhileGesturing();
+    void destroyedWhileArmed();
+    void destroyingClearsTheHostsText();
+    void destroyedWithItsMainWindow();
+
+    void withoutActiveDocument();
+    void withoutActiveView();
+    void viewDestroyedWhileArmed();
+    void viewDestroyedWhileGesturing();
+    void withoutServices();
+    void withoutApplication();
+    void withoutTextOutput();
+
+private:
+    std::unique_ptr<GestureBench> m_bench;
+};
+
+void tst_OverlayLifecycle::init()
+{
+    tests::resetWarnings();
+    m_bench = std::make_unique<GestureBench>();
+}
+
+void tst_OverlayLifecycle::cleanup()
+{
+    m_bench.reset();
+    QCOMPARE(QWidget::mouseGrabber(), nullptr);
+    QCOMPARE(QWidget::keyboardGrabber(), nullptr);
+    QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
+}
+
+void tst_OverlayLifecycle::startsIdle()
+{
+    const CountingDonut donut;
+    QCOMPARE(stateOf(donut), kIdle);
+    QVERIFY(!donut.accepted);
+    QVERIFY(donut.document == nullptr);
+    QCOMPARE(donut.origin, QPoint(0, 0));
+    QCOMPARE(donut.windUpPos, QPoint(0, 0));
+    QCOMPARE(donut.getSize(), QSize(250, 250));
+    QCOMPARE(donut.sizeHint(), QSize(250, 250));
+    QCOMPARE(donut.getActiveArc(), qint16(-1));
+    QCOMPARE(static_cast<int>(donut.windowFlags()), 0x80B);
+    QVERIFY(donut.testAttribute(Qt::WA_TranslucentBackground));
+    QCOMPARE(m_bench->host.log.calls, QStringList());
+}
+
+void tst_OverlayLifecycle::windUpTakesCursorAndMode()
+{
+    CountingDonut donut;
+    m_bench->host.mode = 7;
+    m_bench->view->setCursor(Qt::CrossCursor);
+    m_bench->pointTo(QPoint(30, 40));
+    donut.WindUp(m_bench->document);
+
+    QCOMPARE(stateOf(donut), kArmed);
+    QVERIFY(donut.document == m_bench->document);
+    QCOMPARE(donut.windUpPos, m_bench->view->mapToGlobal(QPoint(30, 40)));
+    QCOMPARE(donut.savedHostMode, qint16(7));
+    QCOMPARE(m_bench->host.mode, qint16(1));
+    QCOMPARE(donut.savedCursor.shape(), Qt::CrossCursor);
+    QCOMPARE(m_bench->view->cursor().shape(), Qt::ArrowCursor);
+    QCOMPARE(m_bench->host.log.calls, QStringList(QStringLiteral("mode 1")));
+}
+
+void tst_OverlayLifecycle::windUpOfNothingIsIgnored()
+{
+    CountingDonut donut;
+    donut.WindUp(nullptr);
+    QCOMPARE(stateOf(donut), kIdle);
+    QCOMPARE(m_bench->host.log.calls, QStringList());
+}
+
+void tst_OverlayLifecycle::secondWindUpKeepsTheFirst()
+{
+    CountingDonut donut;
+    tests::FakeDocument *other = m_bench->openDocument();
+    other->view->setCursor(Qt::WaitCursor);
+    m_bench->view->setCursor(Qt::CrossCursor);
+    m_bench->host.mode = 7;
+    m_bench->pointTo(QPoint(30, 40));
+    donut.WindUp(m_bench->document);
+    m_bench->pointTo(QPoint(50, 60));
+    donut.WindUp(other);
+
+    QCOMPARE(stateOf(donut), kArmed);
+    QVERIFY(donut.document == m_bench->document);
+    QCOMPARE(donut.savedHostMode, qint16(7));
+    QCOMPARE(donut.savedCursor.shape(), Qt::CrossCursor);
+    QCOMPARE(donut.windUpPos, m_bench->view->mapToGlobal(QPoint(30, 40)));
+    QCOMPARE(other->view->cursor().shape(), Qt::WaitCursor);
+    QCOMPARE(m_bench->host.log.calls, QStringList(QStringLiteral("mode 1")));
+}
+
+void tst_OverlayLifecycle::windUpIsIgnoredWhileGesturing()
+{
+    CountingDonut donut;
+    tests::FakeDocument *other = m_bench->openDocument();
+    m_bench->start(donut);
+    donut.WindUp(other);
+    QCOMPARE(stateOf(donut), kGesturing);
+    QVERIFY(donut.document == m_bench->document);
+    m_bench->release(donut.origin);
+}
+
+void tst_OverlayLifecycle::startIsIgnoredWhenNotArmed()
+{
+    CountingDonut donut;
+    donut.TryStart(QPoint(1, 2));
+    QCOMPARE(stateOf(donut), kIdle);
+    QCOMPARE(m_bench->host.log.calls, QStringList());
+
+    m_bench->start(donut);
+    m_bench->release(donut.origin);
+    QCOMPARE(stateOf(donut), kStopped);
+    donut.TryStart(QPoint(1, 2));
+    QCOMPARE(stateOf(donut), kStopped);
+}
+
+void tst_OverlayLifecycle::startIsIgnoredWhileGesturing()
+{
+    CountingDonut donut;
+    m_bench->start(donut);
+    m_bench->pointTo(donut, -30, 0);
+    m_bench->host.log.clear();
+    donut.armed = true; // even then
+    donut.TryStart(QPoint(1, 2));
+    donut.armed = false;
+    QCOMPARE(donut.getActiveArc(), qint16(1));
+    QCOMPARE(m_bench->host.log.calls, QStringList());
+    m_bench->release(donut.origin);
+}
+
+void tst_OverlayLifecycle::startFillsSectors_data()
+{
+    QTest::addColumn<int>("sectors");
+    QTest::addColumn<double>("keepSpan");
+    QTest::addColumn<QStringList>("names");
+    QTest::newRow("four") << 4 << 130.0
+                          << QStringList{QStringLiteral("ZOOM_BOUNDS"), QStringLiteral("OPEN"),
+                                         QStringLiteral("SAVE"), QStringLiteral("LINE")};
+    QTest::newRow("eight") << 8 << 65.0
+                           << QStringList{QStringLiteral("ZOOM_BOUNDS"), QStringLiteral("OFFSET"),
+                                          QStringLiteral("OPEN"),        QStringLiteral("COPY"),
+                                          QStringLiteral("SAVE"),        QStringLiteral("DTEXT"),
+                                          QStringLiteral("LINE"),        QStringLiteral("TRIM")};
+}
+
+void tst_OverlayLifecycle::startFillsSectors()
+{
+    QFETCH(int, sectors);
+    QFETCH(double, keepSpan);
+    QFETCH(QStringList, names);
+    m_bench->setScheme(sectors);
+    CountingDonut donut;
+    m_bench->start(donut);
+
+    QCOMPARE(stateOf(donut), kGesturing);
+    QCOMPARE(static_cast<int>(donut.arcCount), sectors);
+    QCOMPARE(donut.keepSpan, keepSpan);
+    QStringList shown;
+    QStringList tips;
+    for (const auto &[kind, value] : donut.sectorVisuals) {
+        QCOMPARE(kind, 1);
+        shown += value.toString();
+    }
+    for (const QString &tip : donut.sectorTooltips)
+        tips += tip;
+    QCOMPARE(shown, names);
+    QCOMPARE(tips,
+             names.replaceInStrings(QRegularExpression(QStringLiteral("^")), QStringLiteral("Tip of ")));
+    QCOMPARE(donut.size(), QSize(250, 250));
+    QCOMPARE(donut.geometry().center(), m_bench->view->mapToGlobal(donut.origin) - QPoint(1, 1));
+    m_bench->release(donut.origin);
+}
+
+void tst_OverlayLifecycle::startChoosesFromWhereThePointerIs()
+{
+    CountingDonut donut;
+    donut.origin = QPoint(200, 200);
+    m_bench->pointTo(donut, -13, 2); // nearer than a move has to be
+    donut.WindUp(m_bench->document);
+    donut.TryStart(QPoint(0, 0));
+    QCOMPARE(donut.getActiveArc(), qint16(1));
+    QCOMPARE(donut.distance, std::sqrt(13.0 * 13.0 + 2.0 * 2.0));
+    donut.StopGesturing(false);
+}
+
+void tst_OverlayLifecycle::startForgetsTheLastGesture()
+{
+    CountingDonut donut;
+    m_bench->start(donut);
+    m_bench->pointTo(donut, 30, 0);
+    QCOMPARE(donut.getActiveArc(), qint16(3));
+    m_bench->release(donut.origin);
+    // Kept for whoever looks at how it ended ...
+    QCOMPARE(donut.getActiveArc(), qint16(3));
+    QVERIFY(donut.JustStopped());
+    // ... and not kept by the wider range of the next gesture's first choice.
+    donut.origin = QPoint(200, 200);
+    m_bench->pointTo(donut, 10, 12);
+    donut.WindUp(m_bench->document);
+    donut.TryStart(QPoint());
+    QCOMPARE(donut.getActiveArc(), qint16(0));
+    QCOMPARE(donut.sectorVisuals.size(), std::size_t(4));
+    QCOMPARE(donut.sectorTooltips.size(), std::size_t(4));
+    donut.StopGesturing(false);
+}
+
+void tst_OverlayLifecycle::startFarOutFadesBeforeShowing()
+{
+    CountingDonut donut;
+    donut.origin = QPoint(200, 200);
+    m_bench->press(donut.origin);
+    m_bench->pointTo(donut, 0, -70);
+    donut.WindUp(m_bench->document);
+    QElapsedTimer timer;
+    timer.start();
+    donut.TryStart(QPoint());
+    QVERIFY(timer.elapsed() >= 250);
+    QCOMPARE(stateOf(donut), QStringLiteral("gesturing fading shown mouse keyboard"));
+    QCOMPARE(donut.getActiveArc(), qint16(2));
+
+    m_bench->pointTo(donut, 0, -20);
+    QCOMPARE(stateOf(donut), QStringLiteral("gesturing fading shown mouse keyboard"));
+    m_bench->pointTo(donut, 0, -21);
+    QCOMPARE(stateOf(donut), kStopped);
+    QVERIFY(donut.accepted);
+    QCOMPARE(donut.getActiveArc(), qint16(2));
+}
+
+void tst_OverlayLifecycle::releaseAfterAFarStartAccepts()
+{
+    CountingDonut donut;
+    donut.origin = QPoint(200, 200);
+    m_bench->press(donut.origin);
+    m_bench->pointTo(donut, 90, 0);
+    donut.WindUp(m_bench->document);
+    donut.TryStart(QPoint());
+    m_bench->view->moves.clear();
+    m_bench->release(donut.origin + QPoint(90, 0));
+    QCOMPARE(stateOf(donut), kStopped);
+    QVERIFY(donut.accepted);
+    QCoreApplication::processEvents();
+    QCOMPARE(m_bench->view->moves.size(), std::size_t(0));
+}
+
+void tst_OverlayLifecycle::armedIsLeftByStartingOnly()
+{
+    CountingDonut donut;
+    donut.origin = QPoint(200, 200);
+    donut.WindUp(m_bench->document);
+    donut.show();
+    const QPoint here = donut.rect().center();
+    QTest::mouseMove(donut.windowHandle(), here + QPoint(40, 0));
+    QTest::mousePress(donut.windowHandle(), Qt::LeftButton, {}, here);
+    QTest::mouseRelease(donut.windowHandle(), Qt::LeftButton, {}, here);
+    QTest::keyClick(donut.windowHandle(), Qt::Key_Escape);
+    m_bench->pointTo(donut, 100, 0);
+    donut.hide();
+    QCOMPARE(stateOf(donut), kArmed);
+    QCOMPARE(m_bench->host.mode, qint16(1));
+    QCOMPARE(m_bench->view->cursor().shape(), Qt::ArrowCursor);
+    donut.StopGesturing(false);
+    QCOMPARE(m_bench->host.mode, qint16(0));
+}
+
+void tst_OverlayLifecycle::smallMovesChangeNothing_data()
+{
+    QTest::addColumn<QPoint>("offset");
+    QTest::newRow("20 left") << QPoint(-20, 0);
+    QTest::newRow("20 down") << QPoint(0, -20);
+    QTest::newRow("20 across and down") << QPoint(-10, -10);
+    QTest::newRow("centre") << QPoint(0, 0);
+}
+
+void tst_OverlayLifecycle::smallMovesChangeNothing()
+{
+    QFETCH(QPoint, offset);
+    CountingDonut donut;
+    m_bench->start(donut);
+    QTRY_VERIFY(donut.paints > 0);
+    QCoreApplication::processEvents();
+    const int paints = donut.paints;
+    m_bench->pointTo(donut, offset.x(), offset.y());
+    QCoreApplication::processEvents();
+    QCOMPARE(donut.getActiveArc(), qint16(0));
+    QCOMPARE(donut.distance, 0.0);
+    QCOMPARE(donut.paints, paints);
+    QCOMPARE(stateOf(donut), kGesturing);
+    m_bench->release(donut.origin);
+}
+
+void tst_OverlayLifecycle::longerMovesChooseASector()
+{
+    CountingDonut donut;
+    m_bench->start(donut);
+    QTRY_VERIFY(donut.paints > 0);
+    QCoreApplication::processEvents();
+    const int paints = donut.paints;
+    m_bench->pointTo(donut, -20, -1);
+    QCOMPARE(donut.getActiveArc(), qint16(1));
+    QCOMPARE(donut.distance, std::sqrt(401.0));
+    QTRY_VERIFY(donut.paints > paints);
+    m_bench->pointTo(donut, 0, -21);
+    QCOMPARE(donut.getActiveArc(), qint16(2));
+    m_bench->pointTo(donut, 21, 0);
+    QCOMPARE(donut.getActiveArc(), qint16(3));
+    QCOMPARE(donut.fadingPaints, 0);
+    m_bench->release(donut.origin);
+}
+
+void tst_OverlayLifecycle::moveIgnoresTheEventsOwnPosition()
+{
+    CountingDonut donut;
+    m_bench->start(donut);
+    m_bench->pointTo(donut, -30, 0);
+    // Says right, while the pointer is on the left.
+    QTest::mouseMove(donut.windowHandle(), QPoint(125 + 40, 125));
+    QCOMPARE(donut.getActiveArc(), qint16(1));
+    QCOMPARE(donut.distance, 30.0);
+    m_bench->release(donut.origin);
+}
+
+void tst_OverlayLifecycle::fadesBeyond69Pixels_data()
+{
+    QTest::addColumn<double>("x");
+    QTest::addColumn<double>("y");
+    QTest::addColumn<bool>("fades");
+    QTest::newRow("69") << 69.0 << 0.0 << false;
+    QTest::newRow("69 up") << 0.0 << 69.0 << false;
+    QTest::newRow("69.01") << 69.01 << 0.0 << true;
+    QTest::newRow("the next double") << std::nextafter(69.0, 70.0) << 0.0 << true;
+    QTest::newRow("97 across and down, 68.6 straight") << -48.0 << -49.0 << false;
+    QTest::newRow("70 across, down and straight") << -42.0 << -56.0 << true;
+}
+
+void tst_OverlayLifecycle::fadesBeyond69Pixels()
+{
+    QFETCH(double, x);
+    QFETCH(double, y);
+    QFETCH(bool, fades);
+    CountingDonut donut;
+    m_bench->start(donut);
+    donut.mousePositionChanged(x, y);
+    QCOMPARE(donut.distance, std::sqrt(x * x + y * y));
+    QCOMPARE(donut.fading, fades);
+    QCOMPARE(donut.gesturing, true);
+    QCOMPARE(donut.justStopped, false);
+    donut.StopGesturing(false);
+}
+
+void tst_OverlayLifecycle::farMoveAccepts()
+{
+    CountingDonut donut;
+    m_bench->view->setCursor(Qt::CrossCursor);
+    m_bench->host.mode = 3;
+    m_bench->start(donut);
+    m_bench->pointTo(donut, 69, 0);
+    QCOMPARE(stateOf(donut), kGesturing);
+    m_bench->view->moves.clear();
+    m_bench->pointTo(donut, 69, 2);
+    QCOMPARE(stateOf(donut), kStopped);
+    QVERIFY(donut.accepted);
+    QCOMPARE(donut.getActiveArc(), qint16(3));
+    QCOMPARE(m_bench->host.mode, qint16(3));
+    QCOMPARE(m_bench->view->cursor().shape(), Qt::CrossCursor);
+    QCoreApplication::processEvents();
+    QCOMPARE(m_bench->view->moves.size(), std::size_t(0));
+}
+
+void tst_OverlayLifecycle::releaseCancels()
+{
+    CountingDonut donut;
+    m_bench->view->setCursor(Qt::CrossCursor);
+    m_bench->host.mode = 3;
+    m_bench->start(donut);
+    m_bench->pointTo(donut, -60, 0);
+    QCOMPARE(donut.getActiveArc(), qint16(1));
+    m_bench->release(donut.origin + QPoint(-60, 0));
+    QCOMPARE(stateOf(donut), kStopped);
+    QVERIFY(!donut.accepted);
+    QCOMPARE(donut.fadingPaints, 0);
+    QCOMPARE(m_bench->view->releases, 0);
+    QCOMPARE(m_bench->host.mode, qint16(3));
+    QCOMPARE(m_bench->view->cursor().shape(), Qt::CrossCursor);
+}
+
+void tst_OverlayLifecycle::releasePostsAMoveToTheView()
+{
+    CountingDonut donut;
+    m_bench->start(donut);
+    m_bench->view->moves.clear();
+
+    const QPoint global = m_bench->view->mapToGlobal(QPoint(190, 170));
+    QMouseEvent release(QEvent::MouseButtonRelease, donut.mapFromGlobal(global), global, Qt::RightButton,
+                        Qt::MiddleButton, Qt::ControlModifier | Qt::ShiftModifier);
+    QCoreApplication::sendEvent(&donut, &release);
+    QCOMPARE(stateOf(donut), kStopped);
+    // Posted, not sent.
+    QCOMPARE(m_bench->view->moves.size(), std::size_t(0));
+    QCoreApplication::sendPostedEvents(m_bench->view, QEvent::MouseMove);
+    QCOMPARE(m_bench->view->moves.size(), std::size_t(1));
+    const tests::NotingView::Move move = m_bench->view->moves.front();
+    QCOMPARE(move.position, QPoint(190, 170));
+    QCOMPARE(move.global, global);
+    QCOMPARE(move.button, Qt::NoButton);
+    QCOMPARE(move.buttons, Qt::MouseButtons(Qt::MiddleButton));
+    QCOMPARE(move.modifiers, Qt::ControlModifier | Qt::ShiftModifier);
+}
+
+void tst_OverlayLifecycle::pressesAreSwallowed()
+{
+    CountingDonut donut;
+    m_bench->start(donut);
+    QTest::mousePress(m_bench->view->windowHandle(), Qt::LeftButton, {}, QPoint(5, 5));
+    QCOMPARE(stateOf(donut), kGesturing);
+    QCOMPARE(m_bench->view->presses, 1); // the one that began it
+    QTest::mouseRelease(m_bench->view->windowHandle(), Qt::LeftButton, {}, QPoint(5, 5));
+    QCOMPARE(stateOf(donut), kStopped);
+}
+
+void tst_OverlayLifecycle::keysAreSwallowed()
+{
+    CountingDonut donut;
+    m_bench->start(donut);
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_A, Qt::Key_Tab, Qt::Key_F4}) {
+        QTest::keyClick(donut.windowHandle(), key);
+        QCOMPARE(stateOf(donut), kGesturing);
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+        event.ignore();
+        QCoreApplication::sendEvent(&donut, &event);
+        QVERIFY(event.isAccepted());
+    }
+    QCOMPARE(stateOf(donut), kGesturing);
+    m_bench->release(donut.origin);
+}
+
+void tst_OverlayLifecycle::shortcutsOfTheHostAreHeldBack()
+{
+    int activations = 0;
+    QShortcut shortcut(QKeySequence(Qt::CTRL | Qt::Key_S), m_bench->view);
+    shortcut.setContext(Qt::ApplicationShortcut);
+    connect(&shortcut, &QShortcut::activated, this, [&activations] { ++activations; });
+    CountingDonut donut;
+
+    m_bench->view->activateWindow();
+    QTRY_VERIFY(m_bench->view->isActiveWindow());
+    QTest::keyClick(m_bench->view->windowHandle(), Qt::Key_S, Qt::ControlModifier);
+    QCOMPARE(activations, 1);
+
+    m_bench->start(donut);
+    QTest::keyClick(donut.windowHandle(), Qt::Key_S, Qt::ControlModifier);
+    QCOMPARE(activations, 1);
+    m_bench->release(donut.origin);
+
+    QKeyEvent event(QEvent::ShortcutOverride, Qt::Key_S, Qt::ControlModifier);
+    event.ignore();
+    QVERIFY(QCoreApplication::sendEvent(&donut, &event));
+    QVERIFY(event.isAccepted());
+}
+
+void tst_OverlayLifecycle::otherFilteredEventsPass()
+{
+    CountingDonut donut;
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_S, Qt::NoModifier);
+    QVERIFY(!donut.eventFilter(&donut, &press));
+    QKeyEvent override(QEvent::ShortcutOverride, Qt::Key_S, Qt::NoModifier);
+    override.ignore();
+    QVERIFY(!donut.eventFilter(m_bench->view, &override));
+    QVERIFY(!override.isAccepted());
+    QVERIFY(donut.eventFilter(&donut, &override));
+    QVERIFY(override.isAccepted());
+}
+
+void tst_OverlayLifecycle::justStoppedIsReportedOnce()
+{
+    CountingDonut donut;
+    QVERIFY(!donut.JustStopped());
+    for (int gesture = 0; gesture < 2; ++gesture) {
+        m_bench->start(donut);
+        QVERIFY(!donut.JustStopped());
+        m_bench->release(donut.origin);
+        QVERIFY(donut.JustStopped());
+        QCOMPARE(stateOf(donut), kIdle);
+        QVERIFY(!donut.JustStopped());
+    }
+}
+
+void tst_OverlayLifecycle::fadingBlocksForAQuarterOfASecond()
+{
+    CountingDonut donut;
+    m_bench->start(donut);
+    QTRY_VERIFY(donut.paints > 0);
+    bool processed = false;
+    QTimer::singleShot(0, &donut, [&processed] { processed = true; });
+    QMetaObject::invokeMethod(
+        &donut, [&processed] { processed = true; }, Qt::QueuedConnection);
+
+    const int paints = donut.paints;
+    QElapsedTimer timer;
+    timer.start();
+    donut.doFading();
+    QVERIFY2(timer.elapsed() >= 250, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY(!processed);
+    // Painted at once, and only the last frame.
+    QCOMPARE(donut.paints, paints + 1);
+    QCOMPARE(donut.fadingPaints, 1);
+    QCOMPARE(stateOf(donut), QStringLiteral("gesturing fading shown mouse keyboard"));
+    QTRY_VERIFY(processed);
+    m_bench->release(donut.origin);
+    QVERIFY(donut.accepted);
+}
+
+void tst_OverlayLifecycle::stoppingGivesEverythingBack()
+{
+    for (const bool accepted : {false, true}) {
+        CountingDonut donut;
+        m_bench->view->setCursor(Qt::CrossCursor);
+        m_bench->host.mode = 5;
+        m_bench->start(donut);
+        donut.fading = true;
+        m_bench->host.log.clear();
+        donut.StopGesturing(accepted);
+        QCOMPARE(stateOf(donut), kStopped);
+        QCOMPARE(donut.accepted, accepted);
+        QCOMPARE(m_bench->host.log.calls, QStringList(QStringLiteral("mode 5")));
+        QCOMPARE(m_bench->view->cursor().shape(), Qt::CrossCursor);
+        m_bench->release(donut.origin);
+    }
+}
+
+void tst_OverlayLifecycle::stoppingTwiceTouchesTheHostOnce()
+{
+    CountingDonut donut;
+    m_bench->start(donut);
+    donut.StopGesturing(true);
+    QVERIFY(donut.JustStopped());
+    m_bench->host.mode = 9;
+    m_bench->view->setCursor(Qt::WaitCursor);
+    donut.StopGesturing(false);
+    QVERIFY(!donut.accepted);
+    QCOMPARE(m_bench->host.mode, qint16(9));
+    QCOMPARE(m_bench->view->cursor().shape(), Qt::WaitCursor);
+    QCOMPARE(stateOf(donut), kStopped);
+
+    CountingDonut never;
+    never.StopGesturing(true);
+    QCOMPARE(stateOf(never), kStopped);
+    QCOMPARE(m_bench->host.mode, qint16(9));
+}
+
+// Moves and the release are often under way when a quick gesture has ended already.
+void tst_OverlayLifecycle::lateEventsChangeNothing()
+{
+    CountingDonut donut;
+    m_bench->start(donut);
+    m_bench->pointTo(donut, 0, 80);
+    QVERIFY(donut.accepted);
+    QVERIFY(donut.justStopped);
+    m_bench->view->moves.clear();
+
+    const QPoint global = m_bench->view->mapToGlobal(donut.origin + QPoint(0, -95));
+    QMouseEvent move(QEvent::MouseMove, donut.mapFromGlobal(global), global, Qt::NoButton,
+                     Qt::RightButton, Qt::NoModifier);
+    QMouseEvent release(QEvent::MouseButtonRelease, donut.mapFromGlobal(global), global, Qt::RightButton,
+                        Qt::NoButton, Qt::NoModifier);
+    QElapsedTimer timer;
+    timer.start();
+    QCoreApplication::sendEvent(&donut, &move);
+    QCoreApplication::sendEvent(&donut, &release);
+    QVERIFY(timer.elapsed() < 250);
+    QCOMPARE(stateOf(donut), kStopped);
+    QVERIFY(donut.accepted);
+    // The view learns where the button was let go, and its tracker of the end.
+    QCoreApplication::sendPostedEvents(m_bench->view, QEvent::MouseMove);
+    QCOMPARE(m_bench->view->moves.size(), std::size_t(1));
+    QCOMPARE(m_bench->view->moves.front().position, donut.origin + QPoint(0, -95));
+
+    // The same once the end has been reported.
+    QVERIFY(donut.JustStopped());
+    QCoreApplication::sendEvent(&donut, &move);
+    QCoreApplication::sendEvent(&donut, &release);
+    QVERIFY(!donut.JustStopped());
+}
+
+void tst_OverlayLifecycle::anotherGestureFollows()
+{
+    CountingDonut donut;
+    for (int gesture = 0; gesture < 3; ++gesture) {
+        m_bench->setScheme(gesture % 2 ? 4 : 8);
+        m_bench->host.mode = static_cast<qint16>(gesture);
+        m_bench->start(donut, QPoint(150 + gesture, 160));
+        QCOMPARE(stateOf(donut), kGesturing);
+        QCOMPARE(static_cast<int>(donut.arcCount), gesture % 2 ? 4 : 8);
+        QCOMPARE(donut.sectorVisuals.size(), std::size_t(gesture % 2 ? 4 : 8));
+        m_bench->release(donut.origin);
+        QVERIFY(donut.JustStopped());
+        QCOMPARE(m_bench->host.mode, static_cast<qint16>(gesture));
+    }
+}
+
+void tst_OverlayLifecycle::hidingCancels()
+{
+    CountingDonut donut;
+    m_bench->view->setCursor(Qt::CrossCursor);
+    m_bench->start(donut);
+    donut.hide();
+    QCOMPARE(stateOf(donut), kStopped);
+    QVERIFY(!donut.accepted);
+    QCOMPARE(m_bench->host.mode, qint16(0));
+    QCOMPARE(m_bench->view->cursor().shape(), Qt::CrossCursor);
+}
+
+void tst_OverlayLifecycle::closingCancels()
+{
+    CountingDonut donut;
+    m_bench->view->setCursor(Qt::CrossCursor);
+    m_bench->start(donut);
+    donut.close();
+    QCOMPARE(stateOf(donut), kStopped);
+    QVERIFY(!donut.accepted);
+    QCOMPARE(m_bench->view->cursor().shape(), Qt::CrossCursor);
+
+    QVERIFY(donut.JustStopped());
+    m_bench->start(donut);
+    donut.windowHandle()->close();
+    QTRY_COMPARE(stateOf(donut), kStopped);
+
+    QVERIFY(donut.JustStopped());
+    m_bench->start(donut);
+    donut.reject();
+    QCOMPARE(stateOf(donut), kStopped);
+    QVERIFY(!donut.accepted);
+}
+
+void tst_OverlayLifecycle::modalWindowCancels()
+{
+    CountingDonut donut;
+    m_bench->view->setCursor(Qt::CrossCursor);
+    m_bench->start(donut);
+    QDialog message;
+    message.setModal(true);
+    message.show();
+    QCOMPARE(stateOf(donut), kStopped);
+    QVERIFY(!donut.accepted);
+    QCOMPARE(m_bench->view->cursor().shape(), Qt::CrossCursor);
+    QCOMPARE(m_bench->host.mode, qint16(0));
+    message.close();
+    m_bench->release(donut.origin);
+}
+
+void tst_OverlayLifecycle::destroyedWhileGesturing()
+{
+    auto donut = std::make_unique<CountingDonut>();
+    m_bench->view->setCursor(Qt::CrossCursor);
+    m_bench->host.mode = 6;
+    m_bench->start(*donut);
+    m_bench->host.log.clear();
+    donut.reset();
+    QCOMPARE(QWidget::mouseGrabber(), nullptr);
+    QCOMPARE(QWidget::keyboardGrabber(), nullptr);
+    QCOMPARE(m_bench->host.mode, qint16(6));
+    QCOMPARE(m_bench->view->cursor().shape(), Qt::CrossCursor);
+    QCOMPARE(m_bench->host.log.calls,
+             (QStringList{QStringLiteral("mode 6"), QStringLiteral("text  true")}));
+}
+
+void tst_OverlayLifecycle::destroyedWhileArmed()
+{
+    auto donut = std::make_unique<CountingDonut>();
+    m_bench->view->setCursor(Qt::CrossCursor);
+    m_bench->host.mode = 6;
+    donut->WindUp(m_bench->document);
+    donut.reset();
+    QCOMPARE(m_bench->host.mode, qint16(6));
+    QCOMPARE(m_bench->view->cursor().shape(), Qt::CrossCursor);
+}
+
+void tst_OverlayLifecycle::destroyingClearsTheHostsText()
+{
+    auto donut = std::make_unique<CountingDonut>();
+    m_bench->host.text = QStringLiteral("a hint");
+    donut.reset();
+    QCOMPARE(m_bench->host.text, QString());
+    QCOMPARE(m_bench->host.log.calls, QStringList(QStringLiteral("text  true")));
+}
+
+void tst_OverlayLifecycle::destroyedWithItsMainWindow()
+{
+    // The view goes before the ring, as children do.
+    auto window = std::make_unique<QWidget>();
+    auto *view = new tests::NotingView;
+    view->setParent(window.get());
+    delete m_bench->document->view;
+    m_bench->document->view = view;
+    m_bench->view = view;
+    view->setGeometry(0, 0, 400, 400);
+    window->setGeometry(150, 150, 400, 400);
+    window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+
+    QPointer<CountingDonut> donut = new CountingDonut(window.get());
+    donut->origin = QPoint(200, 200);
+    QCursor::setPos(view->mapToGlobal(donut->origin));
+    donut->WindUp(m_bench->document);
+    donut->TryStart(QPoint());
+    QCOMPARE(stateOf(*donut), kGesturing);
+    window.reset();
+    QVERIFY(donut.isNull());
+    m_bench->view = nullptr;
+    QCOMPARE(QWidget::mouseGrabber(), nullptr);
+    QCOMPARE(QWidget::keyboardGrabber(), nullptr);
+    QCOMPARE(m_bench->host.mode, qint16(0));
+}
+
+void tst_OverlayLifecycle::withoutActiveDocument()
+{
+    CountingDonut donut;
+    donut.origin = QPoint(200, 200);
+    m_bench->pointTo(donut, 0, 0);
+    donut.WindUp(m_bench->document);
+    m_bench->host.documents.active = nullptr;
+    donut.TryStart(QPoint());
+    QCOMPARE(stateOf(donut), kArmed);
+
+    m_bench->host.documents.active = m_bench->document;
+    donut.TryStart(QPoint());
+    QCOMPARE(stateOf(donut), kGesturing);
+
+    m_bench->host.hasDocumentManager = false;
+    m_bench->pointTo(donut, 90, 0);
+    QCOMPARE(stateOf(donut), kGesturing);
+    QCOMPARE(donut.getActiveArc(), qint16(0));
+    donut.StopGesturing(false);
+}
+
+void tst_OverlayLifecycle::withoutActiveView()
+{
+    CountingDonut donut;
+    tests::FakeDocument *other = m_bench->openDocument();
+    delete other->view;
+    m_bench->host.documents.active = other;
+    donut.WindUp(m_bench->document);
+    donut.TryStart(QPoint());
+    QCOMPARE(stateOf(donut), kArmed);
+    donut.StopGesturing(false);
+
+    // A document without a view can be wound up: nothing is taken from a view then.
+    CountingDonut second;
+    m_bench->host.documents.active = m_bench->document;
+    second.WindUp(other);
+    QCOMPARE(stateOf(second), kArmed);
+    m_bench->start(second);
+    QCOMPARE(stateOf(second), kGesturing);
+    m_bench->release(second.origin);
+    QCOMPARE(stateOf(second), kStopped);
+}
+
+void tst_OverlayLifecycle::viewDestroyedWhileArmed()
+{
+    CountingDonut donut;
+    donut.WindUp(m_bench->document);
+    delete m_bench->view;
+    m_bench->view = nullptr;
+    donut.TryStart(QPoint());
+    QCOMPARE(stateOf(donut), kArmed);
+    donut.StopGesturing(false);
+    QCOMPARE(m_bench->host.mode, qint16(0));
+}
+
+void tst_OverlayLifecycle::viewDestroyedWhileGesturing()
+{
+    CountingDonut donut;
+    m_bench->start(donut);
+    m_bench->release(QPoint(5, 5)); // so that Qt sees the button up
+    QVERIFY(donut.JustStopped());
+    donut.WindUp(m_bench->document);
+    donut.TryStart(QPoint());
+    QCOMPARE(stateOf(donut), kGesturing);
+    delete m_bench->view;
+    m_bench->view = nullptr;
+    QTest::mouseMove(donut.windowHandle(), QPoint(3, 3));
+    QCOMPARE(stateOf(donut), kGesturing);
+    QTest::mouseRelease(donut.windowHandle(), Qt::RightButton, {}, QPoint(3, 3));
+    QCOMPARE(stateOf(donut), kStopped);
+    QVERIFY(!donut.accepted);
+    QCOMPARE(m_bench->host.mode, qint16(0));
+}
+
+void tst_OverlayLifecycle::withoutServices()
+{
+    auto donut = std::make_unique<CountingDonut>();
+    m_bench->host.setPresent(false);
+    donut->WindUp(m_bench->document);
+    QCOMPARE(stateOf(*donut), kArmed);
+    donut->TryStart(QPoint());
+    QCOMPARE(stateOf(*donut), kArmed); // no active document without services
+    donut->StopGesturing(false);
+    donut.reset();
+    QCOMPARE(m_bench->host.log.calls, QStringList());
+    m_bench->host.setPresent(true);
+}
+
+void tst_OverlayLifecycle::withoutApplication()
+{
+    CountingDonut donut;
+    m_bench->host.hasApplication = false;
+    m_bench->start(donut);
+    QCOMPARE(stateOf(donut), kGesturing);
+    m_bench->release(donut.origin);
+    QCOMPARE(stateOf(donut), kStopped);
+    QCOMPARE(m_bench->host.log.startingWith(QStringLiteral("mode")), QStringList());
+}
+
+void tst_OverlayLifecycle::withoutTextOutput()
+{
+    auto donut = std::make_unique<CountingDonut>();
+    m_bench->host.hasTextOutput = false;
+    donut.reset();
+    QCOMPARE(m_bench->host.log.calls, QStringList());
+}
+
+QTEST_MAIN(tst_OverlayLifecycle)
+#include "tst_overlaylifecycle.moc"
