@@ -1,0 +1,761 @@
+#include "bindings/MgDonutDataContainer.h"
+#include "gesture/MgMouseGestureTracker.h"
+#include "tests/fakehost/FakeHitTest.h"
+#include "tests/gesture/GestureBench.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QPointer>
+#include <QTest>
+
+#include <memory>
+
+using tests::FakeHitTest;
+using tests::GestureBench;
+
+namespace {
+
+// The tracker with its members in reach.
+class OpenTracker : public MgMouseGestureTracker
+{
+public:
+    using MgMouseGestureTracker::donut;
+    using MgMouseGestureTracker::menu;
+    using MgMouseGestureTracker::pendingCommand;
+    using MgMouseGestureTracker::pressGlobalPoint;
+    using MgMouseGestureTracker::pressPoint;
+    using MgMouseGestureTracker::tracking;
+
+    [[nodiscard]] MgDonutDialogPVStyleImpl *ring() const
+    {
+        return qobject_cast<MgDonutDialogPVStyleImpl *>(donut.data());
+    }
+};
+
+const QStringList kSuppression{
+    QStringLiteral("ModalWindowOpen"),  QStringLiteral("PopupOpen"),
+    QStringLiteral("MouseGrabbed"),     QStringLiteral("OtherButtonDown"),
+    QStringLiteral("ModifierMismatch"), QStringLiteral("OverControl"),
+    QStringLiteral("ViewBlocked"),
+};
+
+} // namespace
+
+class tst_Tracker : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { tests::failOnWarnings(); }
+    void init();
+    void cleanup();
+
+    void startsEmptyAndAsksNothing();
+    void castsByName();
+    void drawsNothing();
+
+    void disabledDoesNothing();
+    void suppressionIsAskedInOrder_data();
+    void suppressionIsAskedInOrder();
+    void suppressedUpdateIsIgnored_data();
+    void suppressedUpdateIsIgnored();
+    void suppressedUpdateKeepsTheStop();
+    void idleCostsEightQueries();
+    void pressIsRecorded();
+    void dragTestStopsAtTheFirstFailure();
+    void dragThreshold_data();
+    void dragThreshold();
+
+    void windsUpAroundThePressPoint();
+    void cornerIsInTheActiveDocumentsView();
+    void showsOnTheFollowingUpdate_data();
+    void showsOnTheFollowingUpdate();
+    void dragIsNotifiedOnEachQualifyingUpdate();
+    void overlayBelongsToTheMainWindow();
+    void overlayBelongsToTheDesktop_data();
+    void overlayBelongsToTheDesktop();
+    void oneOverlayServesAll();
+    void overlayDiesWithTheMainWindow();
+    void overlayOutlivesTheTracker();
+    void stoppedIsReportedBeforeWindingUpAgain();
+
+    void acceptedSectorBecomesTheCommand_data();
+    void acceptedSectorBecomesTheCommand();
+    void cancelledLeavesNothing();
+    void unboundSectorLeavesNothing();
+    void indexPastTheLastSectorLeavesNothing();
+    void endIsNotifiedWhileTheButtonIsHeld();
+    void noSectorLeavesNothing();
+    void doActionHandsOverAndForgets();
+    void wholeGesture();
+    void newPressMovesThePressPoint();
+    void trackingStaysAfterAReleaseWithoutDrag();
+
+    void withoutServices();
+    void withoutActiveView_data();
+    void withoutActiveView();
+    void withoutDocument();
+    void withoutHitTest();
+
+private:
+    // One update with what the event is; the log holds its queries afterwards.
+    void press(const QPoint &position);
+    void drag(const QPoint &position);
+    void look(const QPoint &position);
+    void update();
+    // A gesture up to the ring being open.
+    void open(const QPoint &position = QPoint(200, 200));
+
+    std::unique_ptr<GestureBench> m_bench;
+    std::unique_ptr<OpenTracker> m_tracker;
+    std::unique_ptr<FakeHitTest> m_hit;
+    QPointer<QWidget> m_mainWindow;
+};
+
+void tst_Tracker::init()
+{
+    tests::resetWarnings();
+    m_bench = std::make_unique<GestureBench>();
+    m_mainWindow = new QWidget;
+    m_bench->host.mainWindow = m_mainWindow;
+    m_tracker = std::make_unique<OpenTracker>();
+    m_hit = std::make_unique<FakeHitTest>();
+    m_hit->document = m_bench->document;
+}
+
+void tst_Tracker::cleanup()
+{
+    m_tracker.reset();
+    delete m_mainWindow;
+    m_bench.reset();
+    QCOMPARE(QWidget::mouseGrabber(), nullptr);
+    QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
+}
+
+void tst_Tracker::update()
+{
+    m_hit->log.clear();
+    m_tracker->Update(nullptr, m_hit.get());
+}
+
+void tst_Tracker::press(const QPoint &position)
+{
+    m_hit->position = position;
+    m_hit->press = m_hit->buttonHeld = true;
+    m_hit->motion = false;
+    update();
+}
+
+void tst_Tracker::drag(const QPoint &position)
+{
+    m_hit->position = position;
+    m_hit->motion = m_hit->buttonHeld = true;
+    m_hit->press = false;
+    update();
+}
+
+void tst_Tracker::look(const QPoint &position)
+{
+    m_hit->position = position;
+    m_hit->motion = m_hit->buttonHeld = m_hit->press = false;
+    update();
+}
+
+void tst_Tracker::open(const QPoint &position)
+{
+    m_bench->pointTo(position);
+    m_bench->press(position);
+    press(position);
+    m_bench->pointTo(position + QPoint(21, 0));
+    drag(position + QPoint(21, 0));
+    drag(position + QPoint(22, 0));
+    QVERIFY(m_tracker->ring() && m_tracker->ring()->gesturing);
+}
+
+void tst_Tracker::startsEmptyAndAsksNothing()
+{
+    m_bench->host.log.clear();
+    const OpenTracker tracker;
+    QVERIFY(tracker.donut.isNull());
+    QVERIFY(!tracker.tracking);
+    QVERIFY(tracker.pendingCommand.isEmpty());
+    QCOMPARE(tracker.pressPoint, QPoint(0, 0));
+    QCOMPARE(tracker.pressGlobalPoint, QPoint(0, 0));
+    QVERIFY(tracker.QObject::parent() == nullptr);
+    QVERIFY(tracker.menu.parent() == nullptr);
+    QVERIFY(tracker.menu.isEmpty());
+    QVERIFY(!tracker.IsEager(nullptr));
+    QVERIFY(!tracker.CheckRegenAbort(nullptr));
+    QVERIFY(tracker.GetName().isEmpty());
+    QCOMPARE(m_bench->host.log.calls, QStringList());
+}
+
+void tst_Tracker::castsByName()
+{
+    MgMouseGestureTracker *tracker = m_tracker.get();
+    QCOMPARE(QLatin1String(tracker->metaObject()->className()), QLatin1String("MgMouseGestureTracker"));
+    QVERIFY(tracker->qt_metacast("MgMouseGestureTracker") == static_cast<void *>(tracker));
+    QVERIFY(tracker->qt_metacast("CHxTracker")
+            == static_cast<void *>(static_cast<CHxTracker *>(tracker)));
+    QVERIFY(tracker->qt_metacast("QObject") == static_cast<void *>(static_cast<QObject *>(tracker)));
+    QVERIFY(tracker->qt_metacast("QWidget") == nullptr);
+    // No signals, slots or properties of its own.
+    QCOMPARE(tracker->metaObject()->methodCount(), tracker->metaObject()->methodOffset());
+}
+
+void tst_Tracker::drawsNothing()
+{
+    m_bench->host.log.clear();
+    m_tracker->DrawTracker(nullptr, m_hit.get());
+    m_tracker->DrawDDTracker(nullptr, m_hit.get());
+    QCOMPARE(m_hit->log.calls, QStringList());
+    QCOMPARE(m_bench->host.log.calls, QStringList());
+}
+
+void tst_Tracker::disabledDoesNothing()
+{
+    m_bench->setEnabled(false);
+    press(QPoint(10, 10));
+    QCOMPARE(m_hit->log.calls, QStringList());
+    QVERIFY(!m_tracker->tracking);
+    QCOMPARE(m_tracker->pressPoint, QPoint(0, 0));
+    drag(QPoint(100, 100));
+    QCOMPARE(m_hit->log.calls, QStringList());
+    QVERIFY(m_tracker->donut.isNull());
+    QCOMPARE(m_bench->host.log.calls, QStringList());
+}
+
+void tst_Tracker::suppressionIsAskedInOrder_data()
+{
+    QTest::addColumn<int>("reason");
+    for (int reason = 0; reason < kSuppression.size(); ++reason)
+        QTest::newRow(qPrintable(kSuppression.at(reason))) << reason;
+}
+
+void tst_Tracker::suppressionIsAskedInOrder()
+{
+    QFETCH(int, reason);
+    m_hit->suppressed[reason] = true;
+    press(QPoint(10, 10));
+    QCOMPARE(m_hit->log.calls, QStringList(kSuppression.mid(0, reason + 1)));
+}
+
+void tst_Tracker::suppressedUpdateIsIgnored_data()
+{
+    suppressionIsAskedInOrder_data();
+}
+
+void tst_Tracker::suppressedUpdateIsIgnored()
+{
+    QFETCH(int, reason);
+    m_hit->suppressed[reason] = true;
+    press(QPoint(10, 10));
+    QVERIFY(!m_tracker->tracking);
+    QCOMPARE(m_tracker->pressPoint, QPoint(0, 0));
+
+    m_hit->suppressed[reason] = false;
+    press(QPoint(10, 10));
+    m_hit->suppressed[reason] = true;
+    drag(QPoint(90, 90));
+    QVERIFY(m_tracker->donut.isNull());
+    QVERIFY(m_tracker->tracking);
+    m_hit->suppressed[reason] = false;
+    drag(QPoint(90, 90));
+    QVERIFY(!m_tracker->donut.isNull());
+    QVERIFY(m_tracker->ring()->armed);
+    m_hit->suppressed[reason] = true;
+    look(QPoint(90, 90));
+    QVERIFY(m_tracker->ring()->armed);
+    QVERIFY(!m_tracker->ring()->isVisible());
+}
+
+void tst_Tracker::suppressedUpdateKeepsTheStop()
+{
+    open();
+    m_bench->pointTo(*m_tracker->ring(), 80, 0);
+    QVERIFY(m_tracker->ring()->justStopped);
+    m_hit->suppressed[6] = true;
+    look(QPoint(280, 200));
+    QVERIFY(m_tracker->ring()->justStopped);
+    QVERIFY(m_tracker->tracking);
+    QVERIFY(!m_tracker->IsEager(nullptr));
+    m_hit->suppressed[6] = false;
+    look(QPoint(280, 200));
+    QVERIFY(!m_tracker->ring()->justStopped);
+    QVERIFY(!m_tracker->tracking);
+    QVERIFY(m_tracker->IsEager(nullptr));
+}
+
+void tst_Tracker::idleCostsEightQueries()
+{
+    const QStringList eight = QStringList(kSuppression) << QStringLiteral("Press");
+    m_bench->host.log.clear();
+    drag(QPoint(100, 100));
+    QCOMPARE(m_hit->log.calls, eight);
+    look(QPoint(100, 100));
+    QCOMPARE(m_hit->log.calls, eight);
+    // Also between gestures, with the ring there.
+    open();
+    m_bench->release(QPoint(200, 200));
+    look(QPoint(200, 200));
+    m_bench->host.log.clear();
+    drag(QPoint(300, 300));
+    QCOMPARE(m_hit->log.calls, eight);
+    QCOMPARE(m_bench->host.log.calls, QStringList());
+}
+
+void tst_Tracker::pressIsRecorded()
+{
+    m_bench->pointTo(QPoint(33, 44));
+    press(QPoint(31, 41));
+    QVERIFY(m_tracker->tracking);
+    QCOMPARE(m_tracker->pressPoint, QPoint(31, 41));
+    QCOMPARE(m_tracker->pressGlobalPoint, m_bench->view->mapToGlobal(QPoint(33, 44)));
+    QVERIFY(m_tracker->donut.isNull());
+}
+
+void tst_Tracker::dragTestStopsAtTheFirstFailure()
+{
+    const auto queriesAfterPress = [this] {
+        QStringList calls = m_hit->log.calls.mid(kSuppression.size() + 1);
+        calls.removeAll(QStringLiteral("Position"));
+        return calls;
+    };
+    press(QPoint(10, 10));
+    QCOMPARE(queriesAfterPress(), QStringList(QStringLiteral("Motion")));
+
+    m_hit->position = QPoint(90, 90);
+    m_hit->press = false;
+    m_hit->motion = false;
+    m_hit->buttonHeld = true;
+    update();
+    QCOMPARE(queriesAfterPress(), QStringList(QStringLiteral("Motion")));
+    QVERIFY(m_tracker->donut.isNull());
+
+    m_hit->motion = true;
+    m_hit->buttonHeld = false;
+    update();
+    QCOMPARE(queriesAfterPress(), (QStringList{QStringLiteral("Motion"), QStringLiteral("ButtonHeld")}));
+    QVERIFY(m_tracker->donut.isNull());
+
+    drag(QPoint(10, 30));
+    QCOMPARE(queriesAfterPress(), (QStringList{QStringLiteral("Motion"), QStringLiteral("ButtonHeld")}));
+    QVERIFY(m_tracker->donut.isNull());
+
+    drag(QPoint(10, 31));
+    QCOMPARE(queriesAfterPress(),
+             (QStringList{QStringLiteral("Motion"), QStringLiteral("ButtonHeld"),
+                          QStringLiteral("NotifyDrag"), QStringLiteral("Document")}));
+    QVERIFY(!m_tracker->donut.isNull());
+}
+
+void tst_Tracker::dragThreshold_data()
+{
+    QTest::addColumn<QPoint>("delta");
+    QTest::addColumn<bool>("opens");
+    QTest::newRow("20 right") << QPoint(20, 0) << false;
+    QTest::newRow("20 up") << QPoint(0, -20) << false;
+    QTest::newRow("10 and 10") << QPoint(-10, 10) << false;
+    QTest::newRow("21 right") << QPoint(21, 0) << true;
+    QTest::newRow("21 up") << QPoint(0, -21) << true;
+    QTest::newRow("10 and 11") << QPoint(-10, 11) << true;
+}
+
+void tst_Tracker::dragThreshold()
+{
+    QFETCH(QPoint, delta);
+    QFETCH(bool, opens);
+    press(QPoint(150, 150));
+    drag(QPoint(150, 150) + delta);
+    QCOMPARE(!m_tracker->donut.isNull(), opens);
+    QCOMPARE(m_hit->log.calls.contains(QStringLiteral("NotifyDrag")), opens);
+    if (opens) {
+        QVERIFY(m_tracker->ring()->armed);
+        QVERIFY(!m_tracker->ring()->isVisible());
+    }
+}
+
+void tst_Tracker::windsUpAroundThePressPoint()
+{
+    press(QPoint(180, 190));
+    drag(QPoint(150, 190));
+    const MgDonutDialogPVStyleImpl *ring = m_tracker->ring();
+    QVERIFY(ring->armed);
+    QCOMPARE(ring->origin, QPoint(180, 190));
+    QVERIFY(ring->document == m_bench->document);
+    QCOMPARE(ring->pos(), m_bench->view->mapToGlobal(QPoint(180 - 125, 190 - 125)));
+    look(QPoint(150, 190));
+    QCOMPARE(ring->pos(), m_bench->view->mapToGlobal(QPoint(180 - 125, 190 - 125)));
+    QCOMPARE(ring->size(), QSize(250, 250));
+    m_tracker->ring()->StopGesturing(false);
+}
+
+void tst_Tracker::cornerIsInTheActiveDocumentsView()
+{
+    tests::FakeDocument *other = m_bench->openDocument();
+    m_hit->document = other; // while the first is active
+    press(QPoint(180, 190));
+    drag(QPoint(150, 190));
+    QVERIFY(m_tracker->ring()->document == other);
+    QCOMPARE(m_tracker->ring()->pos(), m_bench->view->mapToGlobal(QPoint(55, 65)));
+    QVERIFY(m_tracker->ring()->pos() != other->view->mapToGlobal(QPoint(55, 65)));
+}
+
+void tst_Tracker::showsOnTheFollowingUpdate_data()
+{
+    QTest::addColumn<bool>("motion");
+    QTest::addColumn<bool>("held");
+    QTest::newRow("drag") << true << true;
+    QTest::newRow("move") << true << false;
+    QTest::newRow("release") << false << false;
+}
+
+void tst_Tracker::showsOnTheFollowingUpdate()
+{
+    QFETCH(bool, motion);
+    QFETCH(bool, held);
+    m_bench->pointTo(QPoint(200, 200));
+    press(QPoint(200, 200));
+    drag(QPoint(221, 200));
+    QVERIFY(!m_tracker->ring()->isVisible());
+    QVERIFY(!m_tracker->ring()->gesturing);
+    m_hit->motion = motion;
+    m_hit->buttonHeld = held;
+    update();
+    QVERIFY(m_tracker->ring()->isVisible());
+    QVERIFY(m_tracker->ring()->gesturing);
+    QVERIFY(!m_tracker->ring()->armed);
+    m_tracker->ring()->StopGesturing(false);
+}
+
+void tst_Tracker::dragIsNotifiedOnEachQualifyingUpdate()
+{
+    press(QPoint(100, 100));
+    for (int i = 0; i < 3; ++i) {
+        drag(QPoint(121 + i, 100));
+        QCOMPARE(m_hit->log.startingWith(QStringLiteral("NotifyDrag")).size(), 1);
+    }
+    drag(QPoint(120, 100));
+    QCOMPARE(m_hit->log.startingWith(QStringLiteral("NotifyDrag")).size(), 0);
+    look(QPoint(150, 100));
+    QCOMPARE(m_hit->log.startingWith(QStringLiteral("NotifyDrag")).size(), 0);
+    m_tracker->ring()->StopGesturing(false);
+}
+
+void tst_Tracker::overlayBelongsToTheMainWindow()
+{
+    press(QPoint(100, 100));
+    drag(QPoint(130, 100));
+    QVERIFY(m_tracker->donut->parentWidget() == m_mainWindow);
+    QVERIFY(m_tracker->ring() != nullptr);
+    QCOMPARE(static_cast<int>(m_tracker->donut->windowFlags()), 0x80B);
+}
+
+void tst_Tracker::overlayBelongsToTheDesktop_data()
+{
+    QTest::addColumn<QString>("missing");
+    QTest::newRow("main frame") << QStringLiteral("frame");
+    QTest::newRow("main window") << QStringLiteral("window");
+}
+
+void tst_Tracker::overlayBelongsToTheDesktop()
+{
+    QFETCH(QString, missing);
+    if (missing == QLatin1String("frame"))
+        m_bench->host.hasMainFrame = false;
+    else
+        m_bench->host.mainWindow = nullptr;
+    press(QPoint(100, 100));
+    drag(QPoint(130, 100));
+    QVERIFY(m_tracker->donut);
+    // Qt keeps no window below the desktop: it is nobody's then.
+    QVERIFY(m_tracker->donut->parentWidget() == nullptr);
+    delete m_tracker->donut;
+}
+
+void tst_Tracker::oneOverlayServesAll()
+{
+    open();
+    const MgDonutDialog *first = m_tracker->donut;
+    m_bench->release(QPoint(200, 200));
+    look(QPoint(200, 200));
+    QVERIFY(!m_tracker->tracking);
+
+    tests::FakeDocument *other = m_bench->openDocument();
+    m_bench->host.documents.active = other;
+    m_hit->document = other;
+    press(QPoint(100, 100));
+    drag(QPoint(130, 100));
+    QVERIFY(m_tracker->donut == first);
+    QVERIFY(m_tracker->ring()->armed);
+    QVERIFY(m_tracker->ring()->document == other);
+    QCOMPARE(m_tracker->ring()->pos(), other->view->mapToGlobal(QPoint(-25, -25)));
+}
+
+void tst_Tracker::overlayDiesWithTheMainWindow()
+{
+    open();
+    m_bench->release(QPoint(200, 200));
+    look(QPoint(200, 200));
+    open();
+    QWidget *next = new QWidget;
+    delete m_mainWindow;
+    QVERIFY(m_tracker->donut.isNull());
+    QVERIFY(m_tracker->tracking);
+    // Updates without a ring do no harm ...
+    look(QPoint(200, 200));
+    drag(QPoint(205, 200));
+    QVERIFY(m_tracker->donut.isNull());
+    m_bench->release(QPoint(200, 200));
+    // ... and the next drag makes another.
+    m_mainWindow = next;
+    m_bench->host.mainWindow = next;
+    open();
+    QVERIFY(m_tracker->donut->parentWidget() == next);
+    m_bench->release(QPoint(200, 200));
+}
+
+void tst_Tracker::overlayOutlivesTheTracker()
+{
+    open();
+    const QPointer<MgDonutDialog> ring = m_tracker->donut;
+    m_bench->release(QPoint(200, 200));
+    m_tracker.reset();
+    QVERIFY(!ring.isNull());
+}
+
+void tst_Tracker::stoppedIsReportedBeforeWindingUpAgain()
+{
+    open();
+    m_bench->pointTo(*m_tracker->ring(), 0, 80);
+    QVERIFY(m_tracker->ring()->justStopped);
+    // Still far from the press point and held: yet this update reports the stop.
+    drag(QPoint(200, 120));
+    QVERIFY(!m_tracker->ring()->armed);
+    QVERIFY(!m_tracker->tracking);
+    QVERIFY(m_tracker->IsEager(nullptr));
+    // Without a new press nothing opens.
+    drag(QPoint(200, 100));
+    QVERIFY(!m_tracker->ring()->armed);
+}
+
+void tst_Tracker::acceptedSectorBecomesTheCommand_data()
+{
+    QTest::addColumn<int>("sectors");
+    QTest::addColumn<int>("x");
+    QTest::addColumn<int>("y");
+    QTest::addColumn<QString>("command");
+    const auto text = [](const char *name) { return QString::fromLatin1(name); };
+    QTest::newRow("four up") << 4 << 0 << 80 << text("zoom_bounds");
+    QTest::newRow("four left") << 4 << -80 << 0 << text("open");
+    QTest::newRow("four down") << 4 << 0 << -80 << text("save");
+    QTest::newRow("four right") << 4 << 80 << 0 << text("line");
+    QTest::newRow("eight up") << 8 << 0 << 80 << text("zoom_bounds");
+    QTest::newRow("eight up-left") << 8 << -60 << 60 << text("offset");
+    QTest::newRow("eight left") << 8 << -80 << 0 << text("open");
+    QTest::newRow("eight down-left") << 8 << -60 << -60 << text("copy");
+    QTest::newRow("eight down") << 8 << 0 << -80 << text("save");
+    QTest::newRow("eight down-right") << 8 << 60 << -60 << text("dtext");
+    QTest::newRow("eight right") << 8 << 80 << 0 << text("line");
+    QTest::newRow("eight up-right") << 8 << 60 << 60 << text("trim");
+}
+
+void tst_Tracker::acceptedSectorBecomesTheCommand()
+{
+    QFETCH(int, sectors);
+    QFETCH(int, x);
+    QFETCH(int, y);
+    QFETCH(QString, command);
+    m_bench->setScheme(sectors);
+    open();
+    m_bench->pointTo(*m_tracker->ring(), x, y);
+    QVERIFY(!m_tracker->IsEager(nullptr));
+    look(QPoint(200, 200));
+    QVERIFY(m_tracker->IsEager(m_hit.get()));
+    QCOMPARE(m_tracker->pendingCommand.toQString(), command);
+}
+
+void tst_Tracker::cancelledLeavesNothing()
+{
+    open();
+    m_bench->pointTo(*m_tracker->ring(), 60, 0);
+    QCOMPARE(m_tracker->ring()->getActiveArc(), qint16(3));
+    m_bench->release(QPoint(260, 200));
+    look(QPoint(260, 200));
+    QVERIFY(!m_tracker->tracking);
+    QVERIFY(!m_tracker->IsEager(nullptr));
+    QVERIFY(m_tracker->pendingCommand.isEmpty());
+}
+
+void tst_Tracker::unboundSectorLeavesNothing()
+{
+    m_bench->host.store.values.insert(QStringLiteral("44"), QString());
+    open();
+    m_bench->pointTo(*m_tracker->ring(), 80, 0);
+    QVERIFY(m_tracker->ring()->accepted);
+    QCOMPARE(m_tracker->ring()->getActiveArc(), qint16(3));
+    look(QPoint(280, 200));
+    QVERIFY(!m_tracker->tracking);
+    QVERIFY(!m_tracker->IsEager(nullptr));
+}
+
+void tst_Tracker::indexPastTheLastSectorLeavesNothing()
+{
+    open();
+    m_bench->pointTo(*m_tracker->ring(), 80, 0);
+    m_tracker->ring()->activeArc = 4;
+    look(QPoint(280, 200));
+    QVERIFY(!m_tracker->IsEager(nullptr));
+}
+
+void tst_Tracker::noSectorLeavesNothing()
+{
+    open();
+    m_bench->pointTo(*m_tracker->ring(), 80, 0);
+    m_tracker->ring()->activeArc = -1;
+    look(QPoint(280, 200));
+    QVERIFY(!m_tracker->tracking);
+    QVERIFY(!m_tracker->IsEager(nullptr));
+}
+
+void tst_Tracker::endIsNotifiedWhileTheButtonIsHeld()
+{
+    open();
+    m_bench->pointTo(*m_tracker->ring(), 80, 0);
+    drag(QPoint(280, 200));
+    QCOMPARE(m_hit->log.startingWith(QStringLiteral("NotifyEnd")).size(), 1);
+    drag(QPoint(281, 200));
+    QCOMPARE(m_hit->log.startingWith(QStringLiteral("NotifyEnd")).size(), 0);
+    m_bench->release(QPoint(281, 200));
+
+    // Cancelled with another button still held counts as well.
+    open();
+    m_tracker->ring()->StopGesturing(false);
+    drag(QPoint(200, 200));
+    QCOMPARE(m_hit->log.startingWith(QStringLiteral("NotifyEnd")).size(), 1);
+    m_bench->release(QPoint(200, 200));
+
+    open();
+    m_bench->release(QPoint(200, 200));
+    look(QPoint(200, 200));
+    QCOMPARE(m_hit->log.calls.last(), QStringLiteral("ButtonHeld"));
+    QVERIFY(!m_tracker->tracking);
+}
+
+void tst_Tracker::doActionHandsOverAndForgets()
+{
+    m_tracker->pendingCommand = CHxString("^C^C_Mixed Case  ");
+    m_bench->host.log.clear();
+    QVERIFY(m_tracker->IsEager(m_hit.get()));
+    QVERIFY(m_tracker->DoAction(m_hit.get()));
+    QCOMPARE(m_bench->host.log.calls, QStringList(QStringLiteral("run ^C^C_Mixed Case   false")));
+    QCOMPARE(m_bench->host.resultsAlive, 0);
+    QVERIFY(!m_tracker->IsEager(nullptr));
+    QVERIFY(m_tracker->pendingCommand.isEmpty());
+    QCOMPARE(m_hit->log.calls, QStringList());
+
+    // It does not look whether there is a command, and a result may be missing.
+    m_bench->host.hasCommandResult = false;
+    m_bench->host.log.clear();
+    QVERIFY(m_tracker->DoAction(nullptr));
+    QCOMPARE(m_bench->host.log.calls, QStringList(QStringLiteral("run  false")));
+}
+
+void tst_Tracker::wholeGesture()
+{
+    for (int gesture = 0; gesture < 2; ++gesture) {
+        open();
+        m_bench->pointTo(*m_tracker->ring(), -80, 0);
+        m_bench->release(QPoint(120, 200));
+        look(QPoint(120, 200));
+        m_bench->host.log.clear();
+        QVERIFY(m_tracker->IsEager(m_hit.get()));
+        QVERIFY(m_tracker->DoAction(m_hit.get()));
+        QCOMPARE(m_bench->host.log.calls, QStringList(QStringLiteral("run open false")));
+        QVERIFY(!m_tracker->IsEager(m_hit.get()));
+        look(QPoint(120, 200));
+        QVERIFY(!m_tracker->IsEager(m_hit.get()));
+    }
+}
+
+void tst_Tracker::newPressMovesThePressPoint()
+{
+    press(QPoint(100, 100));
+    press(QPoint(300, 300));
+    QCOMPARE(m_tracker->pressPoint, QPoint(300, 300));
+    drag(QPoint(310, 300));
+    QVERIFY(m_tracker->donut.isNull());
+    drag(QPoint(330, 300));
+    QCOMPARE(m_tracker->ring()->origin, QPoint(300, 300));
+}
+
+void tst_Tracker::trackingStaysAfterAReleaseWithoutDrag()
+{
+    press(QPoint(100, 100));
+    look(QPoint(100, 100)); // let go
+    QVERIFY(m_tracker->tracking);
+    m_hit->motion = true;
+    m_hit->position = QPoint(200, 200);
+    update(); // a move without the button
+    QVERIFY(m_tracker->donut.isNull());
+    QVERIFY(m_tracker->tracking);
+    press(QPoint(150, 150));
+    QCOMPARE(m_tracker->pressPoint, QPoint(150, 150));
+}
+
+void tst_Tracker::withoutServices()
+{
+    m_tracker->pendingCommand = CHxString("line");
+    m_bench->host.setPresent(false);
+    QVERIFY(m_tracker->DoAction(nullptr));
+    QVERIFY(!m_tracker->IsEager(nullptr));
+    press(QPoint(100, 100));
+    drag(QPoint(150, 100));
+    QVERIFY(m_tracker->donut);
+    QVERIFY(m_tracker->donut->parentWidget() == nullptr);
+    QVERIFY(!m_tracker->ring()->armed); // no view to open it in
+    delete m_tracker->donut;
+    m_bench->host.setPresent(true);
+}
+
+void tst_Tracker::withoutActiveView_data()
+{
+    QTest::addColumn<bool>("document");
+    QTest::newRow("no active document") << false;
+    QTest::newRow("active document without view") << true;
+}
+
+void tst_Tracker::withoutActiveView()
+{
+    QFETCH(bool, document);
+    tests::FakeDocument *blind = m_bench->openDocument();
+    delete blind->view;
+    m_bench->host.documents.active = document ? blind : nullptr;
+    press(QPoint(100, 100));
+    drag(QPoint(150, 100));
+    QVERIFY(!m_tracker->ring()->armed);
+    QCOMPARE(m_bench->host.mode, qint16(0));
+    // The same drag opens it once there is a view.
+    m_bench->host.documents.active = m_bench->document;
+    drag(QPoint(151, 100));
+    QVERIFY(m_tracker->ring()->armed);
+}
+
+void tst_Tracker::withoutDocument()
+{
+    m_hit->document = nullptr;
+    press(QPoint(100, 100));
+    drag(QPoint(150, 100));
+    QVERIFY(!m_tracker->ring()->armed);
+    look(QPoint(150, 100));
+    QVERIFY(!m_tracker->ring()->isVisible());
+    QCOMPARE(m_bench->host.mode, qint16(0));
+}
+
+void tst_Tracker::withoutHitTest()
+{
+    m_tracker->Update(nullptr, nullptr);
+    QVERIFY(!m_tracker->tracking);
+}
+
+QTEST_MAIN(tst_Tracker)
+#include "tst_tracker.moc"
