@@ -10,6 +10,10 @@ void MgCommandDSSortFilterProxyModel::applyFilter()
     // wrong, and invalidateFilter() would put rows that come back behind their equals. It
     // would also take thousands of rows out one by one, each at the cost of all.
     invalidate();
+    // An open editor shows what its command has in the scheme shown now.
+    if (rowCount() > 0)
+        Q_EMIT dataChanged(index(0, MgCommandDSModel::kDirectionColumn),
+                           index(rowCount() - 1, MgCommandDSModel::kDirectionColumn));
 }
 
 void MgCommandDSSortFilterProxyModel::sort(int column, Qt::SortOrder order)

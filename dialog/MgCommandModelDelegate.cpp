@@ -65,9 +65,19 @@ QSize MgCommandModelDelegate::sizeHint(const QStyleOptionViewItem &option,
 void MgCommandModelDelegate::drawDisplay(QPainter *painter, const QStyleOptionViewItem &option,
                                          const QRect &rect, const QString &text) const
 {
+    if (!text.contains(QChar::LineSeparator)) {
+        QItemDelegate::drawDisplay(painter, option, rect, text);
+        return;
+    }
     QString line = text;
     line.replace(QChar::LineSeparator, QLatin1Char(' '));
-    QItemDelegate::drawDisplay(painter, option, rect, line);
+    // The rectangle is as narrow as the longest of the lines was.
+    QRect rest = option.rect;
+    if (option.direction == Qt::RightToLeft)
+        rest.setRight(rect.right());
+    else
+        rest.setLeft(rect.left());
+    QItemDelegate::drawDisplay(painter, option, rest, line);
 }
 
 void MgCommandModelDelegate::commitAndCloseEditor(int /*row*/)

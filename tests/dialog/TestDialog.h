@@ -59,7 +59,10 @@ public:
     // A cell as the table has it.
     [[nodiscard]] QModelIndex cell(int row, int column) const { return proxy->index(row, column); }
     // The row that shows a command; -1 when none does.
-    [[nodiscard]] int rowOf(const QString &displayName) const { return shown().indexOf(displayName); }
+    [[nodiscard]] int rowOf(const QString &displayName) const
+    {
+        return static_cast<int>(shown().indexOf(displayName));
+    }
     // The working copy's record of an identifier.
     [[nodiscard]] MgCommandDS record(const QString &id) const
     {

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QPointer>
+#include <QTest>
+#include <QWindow>
+
+// Mouse and keys as a window gets them, so that grabs, focus and popups play their parts.
+namespace tests {
+
+// Shows a window and waits until it has the keyboard.
+[[nodiscard]] inline bool showActive(QWidget &window)
+{
+    window.show();
+    window.activateWindow();
+    return QTest::qWaitForWindowActive(&window);
+}
+
+inline void click(QWidget *widget, const QPoint &position, Qt::KeyboardModifiers modifiers = {})
+{
+    QWidget *window = widget->window();
+    QTest::mouseClick(window->windowHandle(), Qt::LeftButton, modifiers,
+                      widget->mapTo(window, position));
+}
+
+// On the left edge of a button, where check boxes and radio buttons have their mark.
+inline void click(QAbstractButton *button)
+{
+    click(button, QPoint(8, button->height() / 2));
+}
+
+// In the middle of an item.
+inline void click(QAbstractItemView *view, const QModelIndex &index,
+                  Qt::KeyboardModifiers modifiers = {})
+{
+    click(view->viewport(), view->visualRect(index).center(), modifiers);
+}
+
+// The window that keys go to: an open popup takes them from any other.
+[[nodiscard]] inline QWindow *keyWindow(QWidget *widget)
+{
+    QWidget *popup = QApplication::activePopupWidget();
+    return (popup ? popup : widget->window())->windowHandle();
+}
+
+// Asked for once more in between, as the press may have closed a popup for good.
+inline void key(QWidget *widget, Qt::Key which, Qt::KeyboardModifiers modifiers = {})
+{
+    QTest::keyPress(keyWindow(widget), which, modifiers);
+    QTest::keyRelease(keyWindow(widget), which, modifiers);
+}
+
+inline void type(QWidget *widget, const QString &text)
+{
+    for (const QChar character : text)
+        QTest::keyClick(widget->window()->windowHandle(), character.toLatin1());
+}
+
+// Points at an entry of an open drop-down and clicks it. True once it has closed: right after
+// it was opened with the mouse a drop-down takes no click, so this is tried again.
+[[nodiscard]] inline bool chooseWithMouse(QComboBox *box, int row)
+{
+    // The choice may end the drop-down and its list.
+    const QPointer<QAbstractItemView> list = box->view();
+    if (!list->isVisible())
+        return true;
+    const QModelIndex index = box->model()->index(row, 0);
+    QWidget *window = list->window();
+    QTest::mouseMove(window->windowHandle(),
+                     list->viewport()->mapTo(window, list->visualRect(index).center()));
+    click(list, index);
+    return !list || !list->isVisible();
+}
+
+} // namespace tests

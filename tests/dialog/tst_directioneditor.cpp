@@ -1,0 +1,568 @@
+#include "bindings/MgDonutDataContainer.h"
+#include "dialog/MgCommandModelDelegate.h"
+#include "dialog/MgCommandTableView.h"
+#include "dialog/MyStyle.h"
+#include "tests/dialog/Input.h"
+#include "tests/dialog/TestDialog.h"
+#include "tests/fakehost/FakeHost.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QLineEdit>
+#include <QPainter>
+#include <QSignalSpy>
+#include <QStandardItemModel>
+#include <QStyleFactory>
+#include <QStyleOption>
+#include <QTest>
+
+#include <memory>
+
+using tests::TestDialog;
+
+namespace {
+
+constexpr int kCategory = 0;
+constexpr int kCommand = 1;
+constexpr int kDirection = 2;
+
+QImage drawn(const QStyle &style, QStyle::PrimitiveElement element)
+{
+    QImage image(60, 30, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    QStyleOptionFocusRect focus;
+    QStyleOptionButton button;
+    QStyleOption &option = element == QStyle::PE_FrameFocusRect ? static_cast<QStyleOption &>(focus)
+                                                                : static_cast<QStyleOption &>(button);
+    option.rect = QRect(2, 2, 50, 20);
+    option.state = QStyle::State_Enabled | QStyle::State_On | QStyle::State_Raised
+                 | QStyle::State_KeyboardFocusChange;
+    QPainter painter(&image);
+    style.drawPrimitive(element, &option, &painter);
+    return image;
+}
+
+} // namespace
+
+class tst_directioneditor : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { tests::failOnWarnings(); }
+    void init();
+    void cleanup();
+
+    void editorShowsTheCurrentDirection_data();
+    void editorShowsTheCurrentDirection();
+    void fiveChoicesInFourSchemeNineInEight();
+    void choosingTheSelectedEntryStillCommits();
+    void choosingWithTheMouse();
+    void choosingWithTheKeyboard();
+    void arrowKeysChooseAtOnce();
+    void editorComesBackOnlyInTheCurrentCell();
+    void escapeKeepsTheDirection();
+    void editorLeftByClickingElsewhereStaysAway();
+    void closeEditorAsksForFocusFirst();
+    void otherColumnsAreNotEdited();
+    void onlyTheDirectionIsWritten();
+    void editorWithoutChoiceWritesNothing();
+    void openEditorFollowsTheScheme();
+    void commitSlotCalledDirectlyDoesNothing();
+    void editorCoversTheCell();
+    void sizeHints();
+    void lineBreaksAreDrawnOnOneLine();
+    void editorsHaveAccessibleTexts();
+
+    void styleIsPlastiqueWhereThereIsOne();
+    void styleDrawsNoFocusRectangle();
+    void styleDrawsEverythingElse_data();
+    void styleDrawsEverythingElse();
+    void tableShowsNoFocusRectangle();
+
+private:
+    void open(const char *scheme);
+    void openEditor(const QString &name);
+    QComboBox *editor() const { return m_dialog->editor(); }
+    QModelIndex directionCell(const QString &name) const
+    {
+        return m_dialog->cell(m_dialog->rowOf(name), kDirection);
+    }
+
+    std::unique_ptr<tests::FakeHost> m_host;
+    std::unique_ptr<TestDialog> m_dialog;
+};
+
+void tst_directioneditor::init()
+{
+    tests::resetWarnings();
+    m_host = std::make_unique<tests::FakeHost>();
+    for (const char *id : {"A", "B", "C", "D", "E"})
+        m_host->commands.addCommand(QLatin1String(id), QLatin1String(id), QLatin1String(id));
+    m_host->store.values = {{QStringLiteral("83"), QStringLiteral("A")},
+                            {QStringLiteral("43"), QStringLiteral("A")}};
+}
+
+void tst_directioneditor::cleanup()
+{
+    m_dialog.reset();
+    m_host.reset();
+    QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
+}
+
+void tst_directioneditor::open(const char *scheme)
+{
+    m_host->store.values.insert(QStringLiteral("ActiveScheme"), QLatin1String(scheme));
+    MgDonutDataContainer::instance()->init();
+    m_dialog = std::make_unique<TestDialog>();
+    QVERIFY(tests::showActive(*m_dialog));
+    m_dialog->ui.reset_pushButton->setEnabled(false);
+}
+
+void tst_directioneditor::openEditor(const QString &name)
+{
+    tests::click(m_dialog->ui.command_tableView, directionCell(name));
+    QVERIFY(editor());
+    QVERIFY(editor()->hasFocus());
+}
+
+void tst_directioneditor::editorShowsTheCurrentDirection_data()
+{
+    QTest::addColumn<QString>("scheme");
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<int>("row");
+    QTest::newRow("none") << QStringLiteral("8") << QStringLiteral("B") << 0;
+    QTest::newRow("third of eight") << QStringLiteral("8") << QStringLiteral("A") << 3;
+    QTest::newRow("third of four") << QStringLiteral("4") << QStringLiteral("A") << 3;
+}
+
+void tst_directioneditor::editorShowsTheCurrentDirection()
+{
+    QFETCH(QString, scheme);
+    QFETCH(QString, command);
+    QFETCH(int, row);
+    open(qPrintable(scheme));
+    openEditor(command);
+    QCOMPARE(editor()->currentIndex(), row);
+    QCOMPARE(editor()->currentText(), row == 0 ? QStringLiteral("None") : QString());
+    QCOMPARE(editor()->itemIcon(row).isNull(), row == 0);
+}
+
+void tst_directioneditor::fiveChoicesInFourSchemeNineInEight()
+{
+    for (const int count : {4, 8}) {
+        open(count == 4 ? "4" : "8");
+        openEditor(QStringLiteral("B"));
+        QCOMPARE(editor()->model(), &m_dialog->directionList);
+        QCOMPARE(editor()->count(), count + 1);
+        QCOMPARE(m_dialog->directionList.columnCount(), 1);
+        QCOMPARE(editor()->itemText(0), QStringLiteral("None"));
+        QVERIFY(editor()->itemIcon(0).isNull());
+        for (int row = 1; row <= count; ++row) {
+            QCOMPARE(editor()->itemText(row), QString());
+            QCOMPARE(editor()->itemIcon(row).pixmap(16).toImage(),
+                     m_dialog->getDirectionIcon(static_cast<unsigned char>(row), TestDialog::Eight)
+                         .pixmap(16)
+                         .toImage());
+            QVERIFY(!editor()->itemIcon(row).isNull());
+        }
+    }
+}
+
+void tst_directioneditor::choosingTheSelectedEntryStillCommits()
+{
+    open("8");
+    openEditor(QStringLiteral("A"));
+    const QPointer<QComboBox> first = editor();
+    QAbstractItemDelegate *delegate = m_dialog->ui.command_tableView->itemDelegate();
+    QSignalSpy committed(delegate, &QAbstractItemDelegate::commitData);
+    QList<QAbstractItemDelegate::EndEditHint> closed;
+    const QObject listener;
+    connect(delegate, &QAbstractItemDelegate::closeEditor, &listener,
+            [&closed](QWidget *, QAbstractItemDelegate::EndEditHint hint) { closed.append(hint); });
+    tests::key(m_dialog.get(), Qt::Key_F4);
+    QVERIFY(first->view()->isVisible());
+    tests::key(m_dialog.get(), Qt::Key_Return);
+    QCOMPARE(committed.count(), 1);
+    QVERIFY(closed == QList<QAbstractItemDelegate::EndEditHint>{QAbstractItemDelegate::NoHint});
+    QCOMPARE(int(m_dialog->record(QStringLiteral("A")).eightDirection), 3);
+    QVERIFY(!m_dialog->ui.reset_pushButton->isEnabled());
+    QTRY_VERIFY(first.isNull());
+    // Another one is there already, not popped up.
+    QVERIFY(editor());
+    QVERIFY(editor()->hasFocus());
+    QVERIFY(!editor()->view()->isVisible());
+}
+
+void tst_directioneditor::choosingWithTheMouse()
+{
+    open("8");
+    openEditor(QStringLiteral("B"));
+    const QPointer<QComboBox> first = editor();
+    tests::click(first, first->rect().center());
+    QVERIFY(first->view()->isVisible());
+    QTRY_VERIFY(!first || tests::chooseWithMouse(first, 3));
+
+    // It was A's, and both schemes know of it.
+    QCOMPARE(int(m_dialog->record(QStringLiteral("B")).eightDirection), 3);
+    QCOMPARE(int(m_dialog->record(QStringLiteral("B")).fourDirection), 2);
+    QCOMPARE(int(m_dialog->record(QStringLiteral("A")).eightDirection), 0);
+    QVERIFY(m_dialog->ui.reset_pushButton->isEnabled());
+    QTRY_VERIFY(first.isNull());
+    QVERIFY(editor());
+    QCOMPARE(editor()->currentIndex(), 3);
+}
+
+void tst_directioneditor::choosingWithTheKeyboard()
+{
+    open("4");
+    m_dialog->ui.command_tableView->setFocus();
+    m_dialog->ui.command_tableView->setCurrentIndex(m_dialog->cell(0, kCategory));
+    QVERIFY(!editor());
+    tests::key(m_dialog.get(), Qt::Key_Down);
+    tests::key(m_dialog.get(), Qt::Key_Right);
+    QVERIFY(!editor());
+    // Going to the cell is enough to edit it.
+    tests::key(m_dialog.get(), Qt::Key_Right);
+    QVERIFY(editor());
+    const QPointer<QComboBox> first = editor();
+    QCOMPARE(first->currentIndex(), 0);
+    tests::key(m_dialog.get(), Qt::Key_Space);
+    QVERIFY(first->view()->isVisible());
+    tests::key(m_dialog.get(), Qt::Key_Down);
+    tests::key(m_dialog.get(), Qt::Key_Down);
+    tests::key(m_dialog.get(), Qt::Key_Return);
+    QCOMPARE(int(m_dialog->record(QStringLiteral("B")).fourDirection), 2);
+    QCOMPARE(int(m_dialog->record(QStringLiteral("B")).eightDirection), 3);
+    QTRY_VERIFY(first.isNull());
+    QVERIFY(editor());
+    QVERIFY(editor()->hasFocus());
+}
+
+void tst_directioneditor::arrowKeysChooseAtOnce()
+{
+    open("8");
+    openEditor(QStringLiteral("B"));
+    for (int direction = 1; direction <= 8; ++direction) {
+        tests::key(m_dialog.get(), Qt::Key_Down);
+        QCOMPARE(int(m_dialog->record(QStringLiteral("B")).eightDirection), direction);
+        QVERIFY(editor());
+        QVERIFY(editor()->hasFocus());
+        QCOMPARE(editor()->currentIndex(), direction);
+    }
+}
+
+void tst_directioneditor::editorComesBackOnlyInTheCurrentCell()
+{
+    open("8");
+    // The row's editor opens, but the current cell is the one that was pressed.
+    tests::click(m_dialog->ui.command_tableView, m_dialog->cell(1, kCommand));
+    QVERIFY(editor());
+    tests::key(m_dialog.get(), Qt::Key_Down);
+    QCOMPARE(int(m_dialog->record(QStringLiteral("B")).eightDirection), 1);
+    QVERIFY(!editor());
+    QVERIFY(m_dialog->ui.command_tableView->hasFocus());
+}
+
+void tst_directioneditor::escapeKeepsTheDirection()
+{
+    open("8");
+    openEditor(QStringLiteral("A"));
+    const QPointer<QComboBox> first = editor();
+    tests::key(m_dialog.get(), Qt::Key_F4);
+    tests::key(m_dialog.get(), Qt::Key_Down);
+    tests::key(m_dialog.get(), Qt::Key_Escape);
+    QVERIFY(!first->view()->isVisible());
+    QCOMPARE(int(m_dialog->record(QStringLiteral("A")).eightDirection), 3);
+    QVERIFY(m_dialog->isVisible());
+}
+
+void tst_directioneditor::editorLeftByClickingElsewhereStaysAway()
+{
+    open("8");
+    openEditor(QStringLiteral("A"));
+    tests::click(m_dialog->ui.search_lineEdit, m_dialog->ui.search_lineEdit->rect().center());
+    QVERIFY(m_dialog->ui.search_lineEdit->hasFocus());
+    QTRY_VERIFY(!editor());
+    QCOMPARE(int(m_dialog->record(QStringLiteral("A")).eightDirection), 3);
+    // Into the cell of another command: only that one is edited.
+    openEditor(QStringLiteral("A"));
+    openEditor(QStringLiteral("D"));
+    QCOMPARE(editor()->geometry(),
+             m_dialog->ui.command_tableView->visualRect(directionCell(QStringLiteral("D"))));
+}
+
+void tst_directioneditor::closeEditorAsksForFocusFirst()
+{
+    QStandardItemModel model(3, 1);
+    MgCommandTableView table(nullptr);
+    table.setModel(&model);
+    table.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    QVERIFY(tests::showActive(table));
+    table.setCurrentIndex(model.index(1, 0));
+    table.beginEditing(model.index(1, 0));
+    const auto editors = [&table] { return table.viewport()->findChildren<QLineEdit *>(); };
+    QCOMPARE(editors().size(), 1);
+    QPointer<QWidget> first = editors().front();
+    QVERIFY(first->hasFocus());
+
+    // Closed by hand, it is back at once; closed by going to another cell, it is back there.
+    Q_EMIT table.itemDelegate()->closeEditor(first, QAbstractItemDelegate::NoHint);
+    QTRY_VERIFY(first.isNull());
+    QCOMPARE(editors().size(), 1);
+    first = editors().front();
+    QVERIFY(first->hasFocus());
+    QCOMPARE(first->geometry(), table.visualRect(model.index(1, 0)));
+    table.setCurrentIndex(model.index(2, 0));
+    QTRY_VERIFY(first.isNull());
+    QCOMPARE(editors().size(), 1);
+    QPointer<QWidget> second = editors().front();
+    QCOMPARE(second->geometry(), table.visualRect(model.index(2, 0)));
+    QVERIFY(second->hasFocus());
+
+    second->clearFocus();
+    QTRY_VERIFY(second.isNull());
+    QCOMPARE(editors().size(), 0);
+
+    // No current cell to come back to; nothing to close; nothing to edit.
+    table.beginEditing(model.index(0, 0));
+    first = editors().front();
+    table.setCurrentIndex(QModelIndex());
+    Q_EMIT table.itemDelegate()->closeEditor(first, QAbstractItemDelegate::NoHint);
+    QTRY_VERIFY(first.isNull());
+    QCOMPARE(editors().size(), 0);
+    table.beginEditing(QModelIndex());
+    QCOMPARE(editors().size(), 0);
+}
+
+void tst_directioneditor::otherColumnsAreNotEdited()
+{
+    open("8");
+    MgCommandTableView *table = m_dialog->ui.command_tableView;
+    for (const int column : {kCategory, kCommand}) {
+        table->setCurrentIndex(m_dialog->cell(2, column));
+        table->setFocus();
+        tests::key(m_dialog.get(), Qt::Key_F2);
+        QTest::mouseDClick(m_dialog->windowHandle(), Qt::LeftButton, {},
+                           table->viewport()->mapTo(
+                               m_dialog.get(), table->visualRect(m_dialog->cell(2, column)).center()));
+        QCOMPARE(table->viewport()->findChildren<QLineEdit *>().size(), 0);
+    }
+    const std::unique_ptr<QWidget> base(table->itemDelegate()->createEditor(
+        table->viewport(), QStyleOptionViewItem(), m_dialog->cell(0, kCommand)));
+    QVERIFY(!qobject_cast<QComboBox *>(base.get()));
+}
+
+void tst_directioneditor::onlyTheDirectionIsWritten()
+{
+    QStandardItemModel directions(9, 1);
+    QStandardItemModel model(1, 3);
+    QObject parent;
+    MgCommandModelDelegate delegate(&directions, &parent);
+    QCOMPARE(delegate.parent(), &parent);
+    QComboBox editor;
+    editor.setModel(&directions);
+    editor.setCurrentIndex(5);
+    QLineEdit text(QStringLiteral("written"));
+    for (const int column : {kCategory, kCommand}) {
+        delegate.setModelData(&editor, &model, model.index(0, column));
+        delegate.setModelData(&text, &model, model.index(0, column));
+        QVERIFY(!model.index(0, column).data(Qt::EditRole).isValid());
+    }
+    delegate.setModelData(&editor, &model, model.index(0, kDirection));
+    const QVariant written = model.index(0, kDirection).data(Qt::EditRole);
+    QCOMPARE(written, QVariant(5));
+    QCOMPARE(written.userType(), int(QMetaType::Int));
+
+    // The low byte is read back.
+    model.setData(model.index(0, kDirection), 0x102);
+    delegate.setEditorData(&editor, model.index(0, kDirection));
+    QCOMPARE(editor.currentIndex(), 2);
+    model.setData(model.index(0, kCommand), QStringLiteral("shown"));
+    delegate.setEditorData(&text, model.index(0, kCommand));
+    QCOMPARE(text.text(), QStringLiteral("shown"));
+}
+
+void tst_directioneditor::editorWithoutChoiceWritesNothing()
+{
+    QStandardItemModel directions(9, 1);
+    QStandardItemModel model(1, 3);
+    MgCommandModelDelegate delegate(&directions, nullptr);
+    QComboBox editor;
+    editor.setModel(&directions);
+    editor.setCurrentIndex(-1);
+    delegate.setModelData(&editor, &model, model.index(0, kDirection));
+    QVERIFY(!model.index(0, kDirection).data(Qt::EditRole).isValid());
+}
+
+// Only a program, such as a screen reader, switches without taking the focus away first.
+void tst_directioneditor::openEditorFollowsTheScheme()
+{
+    m_host->store.values.insert(QStringLiteral("88"), QStringLiteral("B"));
+    m_host->store.values.insert(QStringLiteral("42"), QStringLiteral("B"));
+    open("8");
+    openEditor(QStringLiteral("B"));
+    QCOMPARE(editor()->currentIndex(), 8);
+    m_dialog->ui.four_radioButton->setChecked(true);
+    QCOMPARE(editor()->count(), 5);
+    QCOMPARE(editor()->currentIndex(), 2);
+    m_dialog->ui.eight_radioButton->setChecked(true);
+    QCOMPARE(editor()->currentIndex(), 8);
+    m_dialog->ui.four_radioButton->setChecked(true);
+    // Leaving it commits what it shows, which is what the command has.
+    m_dialog->ui.reset_pushButton->setEnabled(false);
+    tests::click(m_dialog->ui.search_lineEdit, m_dialog->ui.search_lineEdit->rect().center());
+    QTRY_VERIFY(!editor());
+    QCOMPARE(int(m_dialog->record(QStringLiteral("B")).fourDirection), 2);
+    QVERIFY(!m_dialog->ui.reset_pushButton->isEnabled());
+}
+
+void tst_directioneditor::commitSlotCalledDirectlyDoesNothing()
+{
+    QStandardItemModel directions(9, 1);
+    MgCommandModelDelegate delegate(&directions, nullptr);
+    QSignalSpy committed(&delegate, &QAbstractItemDelegate::commitData);
+    int closed = 0;
+    connect(&delegate, &QAbstractItemDelegate::closeEditor, &delegate, [&closed] { ++closed; });
+    delegate.commitAndCloseEditor(3);
+    QCOMPARE(committed.count() + closed, 0);
+}
+
+void tst_directioneditor::editorCoversTheCell()
+{
+    open("8");
+    openEditor(QStringLiteral("B"));
+    QCOMPARE(editor()->geometry(),
+             m_dialog->ui.command_tableView->visualRect(directionCell(QStringLiteral("B"))));
+    QWidget widget;
+    QStyleOptionViewItem option;
+    option.rect = QRect(3, 4, 50, 60);
+    for (int column = 0; column < 3; ++column) {
+        widget.setGeometry(0, 0, 1, 1);
+        m_dialog->ui.command_tableView->itemDelegate()->updateEditorGeometry(&widget, option,
+                                                                             m_dialog->cell(0, column));
+        QCOMPARE(widget.geometry(), option.rect);
+    }
+}
+
+void tst_directioneditor::sizeHints()
+{
+    open("8");
+    const QAbstractItemDelegate *delegate = m_dialog->ui.command_tableView->itemDelegate();
+    const QItemDelegate base;
+    QStyleOptionViewItem option;
+    option.font = m_dialog->font();
+    QCOMPARE(delegate->sizeHint(option, m_dialog->cell(0, kDirection)), QSize(10, 10));
+    for (const int column : {kCategory, kCommand})
+        QCOMPARE(delegate->sizeHint(option, m_dialog->cell(0, column)),
+                 base.sizeHint(option, m_dialog->cell(0, column)));
+}
+
+void tst_directioneditor::lineBreaksAreDrawnOnOneLine()
+{
+    QStandardItemModel directions;
+    QStandardItemModel model(2, 2);
+    model.setData(model.index(0, 1), QStringLiteral("two\nlines"));
+    model.setData(model.index(1, 1), QStringLiteral("two lines"));
+    MgCommandModelDelegate delegate(&directions, nullptr);
+    QImage images[2];
+    for (int row = 0; row < 2; ++row) {
+        images[row] = QImage(150, 24, QImage::Format_ARGB32_Premultiplied);
+        images[row].fill(Qt::white);
+        QPainter painter(&images[row]);
+        QStyleOptionViewItem option;
+        option.rect = images[row].rect();
+        option.state = QStyle::State_Enabled;
+        option.displayAlignment = Qt::AlignLeft | Qt::AlignVCenter;
+        delegate.paint(&painter, option, model.index(row, 1));
+    }
+    QCOMPARE(images[0], images[1]);
+    QImage empty(150, 24, QImage::Format_ARGB32_Premultiplied);
+    empty.fill(Qt::white);
+    QVERIFY(images[0] != empty);
+}
+
+void tst_directioneditor::editorsHaveAccessibleTexts()
+{
+    open("8");
+    openEditor(QStringLiteral("A"));
+    QCOMPARE(editor()->accessibleName(), QStringLiteral("Gesture direction"));
+    QCOMPARE(editor()->accessibleDescription(), QStringLiteral("Left"));
+    QCOMPARE(editor()->itemData(8, Qt::AccessibleTextRole).toString(), QStringLiteral("Up right"));
+    open("4");
+    openEditor(QStringLiteral("A"));
+    QCOMPARE(editor()->accessibleDescription(), QStringLiteral("Down"));
+    QCOMPARE(editor()->itemData(4, Qt::AccessibleTextRole).toString(), QStringLiteral("Right"));
+}
+
+void tst_directioneditor::styleIsPlastiqueWhereThereIsOne()
+{
+    const bool plastique =
+        QStyleFactory::keys().contains(QLatin1String("Plastique"), Qt::CaseInsensitive);
+    const MyStyle style;
+    QCOMPARE(QLatin1String(style.baseStyle()->metaObject()->className()),
+             plastique ? QLatin1String("QPlastiqueStyle") : QLatin1String("QFusionStyle"));
+}
+
+void tst_directioneditor::styleDrawsNoFocusRectangle()
+{
+    const MyStyle style;
+    QImage empty(60, 30, QImage::Format_ARGB32_Premultiplied);
+    empty.fill(Qt::white);
+    QCOMPARE(drawn(style, QStyle::PE_FrameFocusRect), empty);
+    QVERIFY(drawn(*style.baseStyle(), QStyle::PE_FrameFocusRect) != empty);
+}
+
+void tst_directioneditor::styleDrawsEverythingElse_data()
+{
+    QTest::addColumn<int>("element");
+    QTest::newRow("button") << int(QStyle::PE_PanelButtonCommand);
+    QTest::newRow("check box") << int(QStyle::PE_IndicatorCheckBox);
+    QTest::newRow("radio button") << int(QStyle::PE_IndicatorRadioButton);
+    QTest::newRow("arrow") << int(QStyle::PE_IndicatorArrowDown);
+    QTest::newRow("frame") << int(QStyle::PE_FrameGroupBox);
+}
+
+void tst_directioneditor::styleDrawsEverythingElse()
+{
+    QFETCH(int, element);
+    const MyStyle style;
+    const auto primitive = static_cast<QStyle::PrimitiveElement>(element);
+    const std::unique_ptr<QStyle> base(QStyleFactory::create(
+        QLatin1String(style.baseStyle()->metaObject()->className()) == QLatin1String("QPlastiqueStyle")
+            ? QStringLiteral("Plastique")
+            : QStringLiteral("Fusion")));
+    QCOMPARE(drawn(style, primitive), drawn(*base, primitive));
+}
+
+void tst_directioneditor::tableShowsNoFocusRectangle()
+{
+    open("8");
+    MgCommandTableView *table = m_dialog->ui.command_tableView;
+    const auto cellPicture = [this, table] {
+        return table->viewport()->grab(table->visualRect(m_dialog->cell(1, kCommand))).toImage();
+    };
+    const auto makeCurrent = [this, table](bool current) {
+        table->setFocus();
+        table->selectionModel()->clear();
+        if (current)
+            table->selectionModel()->setCurrentIndex(m_dialog->cell(1, kCommand),
+                                                     QItemSelectionModel::NoUpdate);
+    };
+    makeCurrent(false);
+    const QImage plain = cellPicture();
+    makeCurrent(true);
+    QVERIFY(table->hasFocus());
+    QCOMPARE(cellPicture(), plain);
+
+    // The same table in the style without MyStyle draws one, so the pictures would tell.
+    const std::unique_ptr<QStyle> base(QStyleFactory::create(QStringLiteral("Fusion")));
+    table->setStyle(base.get());
+    makeCurrent(false);
+    const QImage basePlain = cellPicture();
+    makeCurrent(true);
+    QVERIFY(cellPicture() != basePlain);
+    m_dialog.reset();
+}
+
+QTEST_MAIN(tst_directioneditor)
+#include "tst_directioneditor.moc"
