@@ -1,0 +1,608 @@
+#include "gesture/MgDonutDialogPVStyleImpl.h"
+#include "sdk/QtBridge.h"
+#include "tests/gesture/GoldenImage.h"
+#include "tests/gesture/PaintRecorder.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QApplication>
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QFontMetrics>
+#include <QIcon>
+#include <QPainter>
+#include <QTest>
+
+#include <cmath>
+#include <utility>
+#include <vector>
+
+using tests::Painted;
+using tests::PaintRecorder;
+
+namespace {
+
+// Debian's fonts-wine; a Tahoma that may be handed on.
+const char kFontFile[] = "/usr/share/wine/fonts/tahoma.ttf";
+
+QImage resource(const QString &name)
+{
+    return QImage(QStringLiteral(":/gesturewidgetimages/Resources/%1.png").arg(name));
+}
+
+bool same(const QImage &a, const QImage &b)
+{
+    return !a.isNull()
+        && a.convertToFormat(QImage::Format_ARGB32) == b.convertToFormat(QImage::Format_ARGB32);
+}
+
+// An icon of one size with a shape that shows which way is up, without smooth edges.
+QIcon makeIcon(int hue, int size = 20)
+{
+    QPixmap pixmap(size, size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.fillRect(2, 2, size - 4, size - 4, QColor::fromHsv(hue, 170, 210));
+    painter.fillRect(5, 5, size - 10, 4, Qt::white);
+    painter.fillRect(5, 5, 4, size - 10, Qt::white);
+    return QIcon(pixmap);
+}
+
+class PaintedDonut : public MgDonutDialogPVStyleImpl
+{
+public:
+    PaintedDonut(int sectors, int active)
+        : MgDonutDialogPVStyleImpl(nullptr, Qt::WindowFlags())
+    {
+        resize(250, 250);
+        arcCount = static_cast<quint16>(sectors);
+        activeArc = static_cast<qint16>(active);
+    }
+
+    void addText(const QString &text) { sectorVisuals.emplace_back(1, QVariant(text)); }
+    void addIcon(const QIcon &icon) { sectorVisuals.emplace_back(0, QVariant(icon)); }
+    void addTexts()
+    {
+        for (int i = 0; i < arcCount; ++i)
+            addText(QStringLiteral("S%1").arg(i));
+    }
+    void addIcons()
+    {
+        for (int i = 0; i < arcCount; ++i)
+            addIcon(makeIcon(i * 43));
+    }
+
+    std::vector<Painted> record(const QRegion &part = {})
+    {
+        PaintRecorder recorder(size());
+        render(&recorder, part.boundingRect().topLeft(), part, DrawChildren);
+        return recorder.painted;
+    }
+    QImage picture()
+    {
+        QImage image(size(), QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        render(&image, QPoint(), QRegion(), DrawChildren);
+        return image;
+    }
+};
+
+// Where a label's origin is, from the ring's centre, y downward.
+QPointF labelPoint(const Painted &painted)
+{
+    return painted.transform.map(QPointF(0, 0)) - QPointF(125, 125);
+}
+
+double rotationOf(const Painted &painted)
+{
+    const double radians = std::atan2(painted.transform.m12(), painted.transform.m11());
+    return radians * 180.0 / 3.14159265358979323846;
+}
+
+bool isNear(const QPointF &a, const QPointF &b)
+{
+    return std::abs(a.x() - b.x()) <= 0.00005001 && std::abs(a.y() - b.y()) <= 0.00005001;
+}
+
+// The label points of a ring of 250 pixels, to four decimals.
+const std::vector<QPointF> kFourPoints{
+    {0.1764, -92.9998}, {-92.9999, -0.1176}, {-0.0588, 93.0}, {93.0, 0.0}};
+const std::vector<QPointF> kEightPoints{{0.1764, -92.9998},  {-65.6569, -65.8648}, {-92.9999, -0.1176},
+                                        {-65.8233, 65.6985}, {-0.0588, 93.0},      {65.7401, 65.7817},
+                                        {93.0, 0.0},         {65.7401, -65.7817}};
+const std::vector<double> kFourRotations{0, -90, 0, 90};
+const std::vector<double> kEightRotations{0, -45, -90, 45, 0, -45, 90, 45};
+const std::vector<QString> kFourRegions{
+    QStringLiteral("gestureregion_top"), QStringLiteral("gestureregion_left"),
+    QStringLiteral("gestureregion_bottom"), QStringLiteral("gestureregion_right")};
+const std::vector<QString> kEightRegions{
+    QStringLiteral("gestureregion3"), QStringLiteral("gestureregion4"), QStringLiteral("gestureregion5"),
+    QStringLiteral("gestureregion6"), QStringLiteral("gestureregion7"), QStringLiteral("gestureregion8"),
+    QStringLiteral("gestureregion1"), QStringLiteral("gestureregion2")};
+
+// A text of at least `length` characters that is exactly this wide; empty if there is none.
+QString textOfWidth(int width, int length)
+{
+    const QFontMetrics metrics(QFont(QStringLiteral("TAHOMA"), 10));
+    const QString letters = QStringLiteral("ilrtaemo");
+    for (const QChar first : letters) {
+        for (const QChar second : letters) {
+            for (int n = 0; n < 30; ++n) {
+                for (int m = 0; m < 30; ++m) {
+                    const QString text = QString(n, first) + QString(m, second);
+                    if (text.size() >= length && metrics.horizontalAdvance(text) == width)
+                        return text;
+                }
+            }
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+class tst_DonutPainting : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init() { tests::resetWarnings(); }
+    void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
+
+    void labelPointsAndRotations_data();
+    void labelPointsAndRotations();
+    void lowerHalfIsComputed();
+    void labelPointFollowsTheWidth();
+    void orderOfPainting_data();
+    void orderOfPainting();
+    void onlyTheRingWithoutSector();
+    void onlyTheEventsRectangle();
+    void fadingFrame_data();
+    void fadingFrame();
+    void indexPastTheLastSector_data();
+    void indexPastTheLastSector();
+    void otherSectorCountsAreDrawnLikeFour();
+    void textStyle();
+    void textIsCentred();
+    void longTextIsCut_data();
+    void longTextIsCut();
+    void emptyTextDrawsNothing();
+    void iconsAreNotRotated();
+    void iconsOfOtherSizes();
+    void wrongValuesDrawNothing();
+    void missingEntriesDrawNothing();
+    void goldenImage_data();
+    void goldenImage();
+    void goldenText_data();
+    void goldenText();
+};
+
+void tst_DonutPainting::initTestCase()
+{
+    tests::failOnWarnings();
+    QVERIFY2(QFontDatabase::addApplicationFont(QString::fromLatin1(kFontFile)) != -1,
+             "Tahoma is missing: install fonts-wine");
+    const QFontInfo info(QFont(QStringLiteral("TAHOMA"), 10));
+    QCOMPARE(info.family(), QStringLiteral("Tahoma"));
+    QVERIFY(tests::warnings().isEmpty());
+}
+
+void tst_DonutPainting::labelPointsAndRotations_data()
+{
+    QTest::addColumn<int>("sectors");
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QPointF>("point");
+    QTest::addColumn<double>("rotation");
+    for (int i = 0; i < 4; ++i) {
+        const auto at = static_cast<std::size_t>(i);
+        QTest::addRow("four %d", i) << 4 << i << kFourPoints[at] << kFourRotations[at];
+    }
+    for (int i = 0; i < 8; ++i) {
+        const auto at = static_cast<std::size_t>(i);
+        QTest::addRow("eight %d", i) << 8 << i << kEightPoints[at] << kEightRotations[at];
+    }
+}
+
+void tst_DonutPainting::labelPointsAndRotations()
+{
+    QFETCH(int, sectors);
+    QFETCH(int, index);
+    QFETCH(QPointF, point);
+    QFETCH(double, rotation);
+
+    // Asked directly ...
+    PaintedDonut donut(sectors, -1);
+    QImage image(250, 250, QImage::Format_ARGB32);
+    QPainter painter(&image);
+    bool lowerHalf = false;
+    QCOMPARE(donut.setPainterOrigin(&painter, sectors, index, lowerHalf), rotation);
+    QVERIFY(isNear(painter.transform().map(QPointF(0, 0)), point));
+    QVERIFY(qFuzzyCompare(painter.transform().m11(), 1.0));
+
+    // ... and as it is painted, active and not.
+    for (const int active : {index, (index + 1) % sectors}) {
+        PaintedDonut shown(sectors, active);
+        shown.addTexts();
+        const QString name = QStringLiteral("S%1").arg(index);
+        int found = 0;
+        for (const Painted &painted : shown.record()) {
+            if (painted.kind != Painted::Text || painted.text != name)
+                continue;
+            ++found;
+            QVERIFY(isNear(labelPoint(painted), point));
+            QVERIFY(std::abs(rotationOf(painted) - rotation) < 1e-9);
+        }
+        QCOMPARE(found, 1);
+    }
+}
+
+void tst_DonutPainting::lowerHalfIsComputed()
+{
+    PaintedDonut donut(8, -1);
+    QImage image(250, 250, QImage::Format_ARGB32);
+    QPainter painter(&image);
+    const auto lowerHalf = [&](int sectors, int index) {
+        bool lower = false;
+        donut.setPainterOrigin(&painter, sectors, index, lower);
+        return lower;
+    };
+    for (int i = 0; i < 4; ++i)
+        QCOMPARE(lowerHalf(4, i), i != 2);
+    for (int i = 0; i < 8; ++i)
+        QCOMPARE(lowerHalf(8, i), i < 3 || i > 5);
+}
+
+void tst_DonutPainting::labelPointFollowsTheWidth()
+{
+    PaintedDonut donut(4, -1);
+    donut.resize(300, 250);
+    QImage image(300, 250, QImage::Format_ARGB32);
+    QPainter painter(&image);
+    bool lowerHalf = false;
+    donut.setPainterOrigin(&painter, 4, 3, lowerHalf);
+    QVERIFY(isNear(painter.transform().map(QPointF(0, 0)), QPointF(118.0, 0.0)));
+}
+
+void tst_DonutPainting::orderOfPainting_data()
+{
+    QTest::addColumn<int>("sectors");
+    QTest::addColumn<int>("active");
+    for (int i = 0; i < 4; ++i)
+        QTest::addRow("four %d", i) << 4 << i;
+    for (int i = 0; i < 8; ++i)
+        QTest::addRow("eight %d", i) << 8 << i;
+}
+
+void tst_DonutPainting::orderOfPainting()
+{
+    QFETCH(int, sectors);
+    QFETCH(int, active);
+    PaintedDonut donut(sectors, active);
+    donut.addTexts();
+    const std::vector<Painted> painted = donut.record();
+    QCOMPARE(painted.size(), static_cast<std::size_t>(sectors) + 2);
+
+    std::size_t at = 0;
+    QCOMPARE(painted[at].kind, Painted::Image);
+    QVERIFY(same(painted[at].image, resource(QStringLiteral("gesture_widget"))));
+    QCOMPARE(painted[at].opacity, 0.47058823529411764);
+    QCOMPARE(painted[at].transform.map(painted[at].at), QPointF(0, 0));
+    for (int i = 0; i < sectors; ++i) {
+        if (i == active)
+            continue;
+        ++at;
+        QCOMPARE(painted[at].text, QStringLiteral("S%1").arg(i));
+        QCOMPARE(painted[at].opacity, 1.0);
+    }
+    ++at;
+    const auto &regions = sectors == 4 ? kFourRegions : kEightRegions;
+    QCOMPARE(painted[at].kind, Painted::Image);
+    QVERIFY(same(painted[at].image, resource(regions[static_cast<std::size_t>(active)])));
+    QCOMPARE(painted[at].opacity, 1.0);
+    QCOMPARE(painted[at].transform.map(painted[at].at), QPointF(0, 0));
+    ++at;
+    QCOMPARE(painted[at].text, QStringLiteral("S%1").arg(active));
+    for (const Painted &each : painted)
+        QVERIFY(each.antialiased);
+}
+
+void tst_DonutPainting::onlyTheRingWithoutSector()
+{
+    PaintedDonut donut(4, -1);
+    donut.addTexts();
+    const std::vector<Painted> painted = donut.record();
+    QCOMPARE(painted.size(), std::size_t(1));
+    QVERIFY(same(painted[0].image, resource(QStringLiteral("gesture_widget"))));
+    QCOMPARE(painted[0].opacity, 120.0 / 255.0);
+}
+
+void tst_DonutPainting::onlyTheEventsRectangle()
+{
+    PaintedDonut donut(4, 1);
+    donut.addTexts();
+    const QRect part(20, 30, 100, 50);
+    const std::vector<Painted> painted = donut.record(part);
+    QVERIFY(!painted.empty());
+    for (const Painted &each : painted)
+        QCOMPARE(each.clip, part);
+}
+
+void tst_DonutPainting::fadingFrame_data()
+{
+    orderOfPainting_data();
+}
+
+void tst_DonutPainting::fadingFrame()
+{
+    QFETCH(int, sectors);
+    QFETCH(int, active);
+    PaintedDonut donut(sectors, active);
+    donut.addTexts();
+    donut.fading = true;
+    const std::vector<Painted> painted = donut.record();
+    const auto at = static_cast<std::size_t>(active);
+    QCOMPARE(painted.size(), std::size_t(2));
+    QCOMPARE(painted[0].kind, Painted::Image);
+    QVERIFY(same(painted[0].image, resource((sectors == 4 ? kFourRegions : kEightRegions)[at])));
+    QCOMPARE(painted[0].opacity, 1.0);
+    QCOMPARE(painted[0].transform.map(painted[0].at), QPointF(0, 0));
+    QCOMPARE(painted[1].text, QStringLiteral("S%1").arg(active));
+    QVERIFY(isNear(labelPoint(painted[1]), (sectors == 4 ? kFourPoints : kEightPoints)[at]));
+    QVERIFY(std::abs(rotationOf(painted[1]) - (sectors == 4 ? kFourRotations : kEightRotations)[at])
+            < 1e-9);
+    QVERIFY(painted[0].antialiased && painted[1].antialiased);
+}
+
+void tst_DonutPainting::indexPastTheLastSector_data()
+{
+    QTest::addColumn<int>("sectors");
+    QTest::newRow("four") << 4;
+    QTest::newRow("eight") << 8;
+}
+
+void tst_DonutPainting::indexPastTheLastSector()
+{
+    QFETCH(int, sectors);
+    PaintedDonut donut(sectors, sectors);
+    donut.addTexts();
+    const std::vector<Painted> painted = donut.record();
+    // The ring and every label, no highlight.
+    QCOMPARE(painted.size(), static_cast<std::size_t>(sectors) + 1);
+    for (std::size_t i = 1; i < painted.size(); ++i)
+        QCOMPARE(painted[i].text, QStringLiteral("S%1").arg(i - 1));
+    donut.fading = true;
+    QCOMPARE(donut.record().size(), std::size_t(0));
+}
+
+void tst_DonutPainting::otherSectorCountsAreDrawnLikeFour()
+{
+    // Such a count has no highlights.
+    PaintedDonut donut(5, 4);
+    donut.addTexts();
+    const std::vector<Painted> painted = donut.record();
+    QCOMPARE(painted.size(), std::size_t(6));
+    for (std::size_t i = 0; i < 4; ++i)
+        QVERIFY(isNear(labelPoint(painted[i + 1]), kFourPoints[i]));
+    QCOMPARE(rotationOf(painted[5]), -90.0);
+}
+
+void tst_DonutPainting::textStyle()
+{
+    PaintedDonut donut(4, 0);
+    donut.addTexts();
+    int texts = 0;
+    for (const Painted &painted : donut.record()) {
+        if (painted.kind != Painted::Text)
+            continue;
+        ++texts;
+        QCOMPARE(painted.font.family(), QStringLiteral("TAHOMA"));
+        QCOMPARE(painted.font.pointSize(), 10);
+        QCOMPARE(static_cast<int>(painted.font.weight()), static_cast<int>(QFont::Normal));
+        QVERIFY(!painted.font.italic());
+        QCOMPARE(painted.pen.style(), Qt::SolidLine);
+        QCOMPARE(painted.pen.color(), QColor(Qt::black));
+    }
+    QCOMPARE(texts, 4);
+}
+
+void tst_DonutPainting::textIsCentred()
+{
+    const QFontMetrics metrics(QFont(QStringLiteral("TAHOMA"), 10));
+    for (const char *name : {"i", "Line", "Dtext", "Zoom"}) {
+        const QString text = QString::fromLatin1(name);
+        PaintedDonut donut(4, 0);
+        for (int i = 0; i < 4; ++i)
+            donut.addText(text);
+        for (const Painted &painted : donut.record()) {
+            if (painted.kind == Painted::Text)
+                QCOMPARE(painted.at, QPointF(-(metrics.horizontalAdvance(text) / 2), 3.0));
+        }
+    }
+}
+
+void tst_DonutPainting::longTextIsCut_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<bool>("isCut");
+    QTest::newRow("49 pixels") << 49 << false;
+    QTest::newRow("50 pixels") << 50 << false;
+    QTest::newRow("51 pixels") << 51 << true;
+    QTest::newRow("90 pixels") << 90 << true;
+}
+
+void tst_DonutPainting::longTextIsCut()
+{
+    QFETCH(int, width);
+    QFETCH(bool, isCut);
+    const QFontMetrics metrics(QFont(QStringLiteral("TAHOMA"), 10));
+    const QString text = textOfWidth(width, 9);
+    QVERIFY(!text.isEmpty());
+    QCOMPARE(metrics.horizontalAdvance(text), width);
+
+    const QString inactive = isCut ? text.left(8) + QStringLiteral("..") : text;
+    const QString active = isCut ? text.left(7) + QStringLiteral("..") : text;
+    for (const bool fading : {false, true}) {
+        PaintedDonut donut(4, 2);
+        for (int i = 0; i < 4; ++i)
+            donut.addText(text);
+        donut.fading = fading;
+        std::vector<QString> texts;
+        for (const Painted &painted : donut.record()) {
+            if (painted.kind != Painted::Text)
+                continue;
+            texts.push_back(painted.text);
+            // Centred by what is left of it.
+            QCOMPARE(painted.at, QPointF(-(metrics.horizontalAdvance(painted.text) / 2), 3.0));
+        }
+        if (fading)
+            QCOMPARE(texts, (std::vector<QString>{active}));
+        else
+            QCOMPARE(texts, (std::vector<QString>{inactive, inactive, inactive, active}));
+    }
+}
+
+void tst_DonutPainting::emptyTextDrawsNothing()
+{
+    PaintedDonut donut(4, 1);
+    donut.addText(QStringLiteral("up"));
+    donut.addText(QString());
+    donut.addText(QString());
+    donut.addText(QStringLiteral("right"));
+    const std::vector<Painted> painted = donut.record();
+    QCOMPARE(painted.size(), std::size_t(4));
+    QCOMPARE(painted[1].text, QStringLiteral("up"));
+    QCOMPARE(painted[2].text, QStringLiteral("right"));
+    QVERIFY(isNear(labelPoint(painted[2]), kFourPoints[3]));
+    QVERIFY(same(painted[3].image, resource(QStringLiteral("gestureregion_left"))));
+}
+
+void tst_DonutPainting::iconsAreNotRotated()
+{
+    PaintedDonut donut(8, 5);
+    donut.addIcons();
+    int icons = 0;
+    for (const Painted &painted : donut.record()) {
+        if (painted.kind != Painted::Pixmap)
+            continue;
+        const std::size_t index =
+            icons == 7 ? 5 : static_cast<std::size_t>(icons < 5 ? icons : icons + 1);
+        QCOMPARE(painted.image.size(), QSize(20, 20));
+        QVERIFY(same(painted.image, makeIcon(static_cast<int>(index) * 43).pixmap(20, 20).toImage()));
+        QCOMPARE(painted.at, QPointF(-10, -10));
+        QCOMPARE(rotationOf(painted), 0.0);
+        QVERIFY(isNear(labelPoint(painted), kEightPoints[index]));
+        ++icons;
+    }
+    QCOMPARE(icons, 8);
+}
+
+void tst_DonutPainting::iconsOfOtherSizes()
+{
+    PaintedDonut donut(4, 0);
+    donut.addIcon(makeIcon(10, 20));
+    donut.addIcon(makeIcon(10, 15)); // not enlarged
+    donut.addIcon(makeIcon(10, 64));
+    donut.addIcon(makeIcon(10, 20));
+    std::vector<QPointF> corners;
+    for (const Painted &painted : donut.record()) {
+        if (painted.kind == Painted::Pixmap)
+            corners.push_back(painted.at);
+    }
+    QCOMPARE(corners, (std::vector<QPointF>{{-7, -7}, {-10, -10}, {-10, -10}, {-10, -10}}));
+}
+
+void tst_DonutPainting::wrongValuesDrawNothing()
+{
+    PaintedDonut donut(4, 0);
+    donut.sectorVisuals = {{0, QVariant(QStringLiteral("no icon"))},
+                           {1, QVariant(makeIcon(10))},
+                           {0, QVariant()},
+                           {1, QVariant()}};
+    QCOMPARE(donut.record().size(), std::size_t(2)); // ring and highlight
+
+    // Every kind but that of icons is a text.
+    donut.sectorVisuals = {{7, QVariant(42)}, {-1, QVariant(QStringLiteral("text"))}};
+    const std::vector<Painted> painted = donut.record();
+    QCOMPARE(painted.size(), std::size_t(4));
+    QCOMPARE(painted[1].text, QStringLiteral("text"));
+    QCOMPARE(painted[3].text, QStringLiteral("42"));
+}
+
+void tst_DonutPainting::missingEntriesDrawNothing()
+{
+    PaintedDonut donut(8, 6);
+    donut.addText(QStringLiteral("only one"));
+    std::vector<Painted> painted = donut.record();
+    QCOMPARE(painted.size(), std::size_t(3));
+    QVERIFY(same(painted[2].image, resource(QStringLiteral("gestureregion1"))));
+    donut.fading = true;
+    painted = donut.record();
+    QCOMPARE(painted.size(), std::size_t(1));
+}
+
+void tst_DonutPainting::goldenImage_data()
+{
+    QTest::addColumn<int>("sectors");
+    QTest::addColumn<int>("active");
+    QTest::addColumn<bool>("fading");
+    QTest::newRow("four-none") << 4 << -1 << false;
+    QTest::newRow("four-left") << 4 << 1 << false;
+    QTest::newRow("four-past-the-last") << 4 << 4 << false;
+    QTest::newRow("four-left-fading") << 4 << 1 << true;
+    QTest::newRow("eight-right") << 8 << 6 << false;
+    QTest::newRow("eight-up") << 8 << 0 << false;
+    QTest::newRow("eight-past-the-last") << 8 << 8 << false;
+    QTest::newRow("eight-right-fading") << 8 << 6 << true;
+}
+
+void tst_DonutPainting::goldenImage()
+{
+    QFETCH(int, sectors);
+    QFETCH(int, active);
+    QFETCH(bool, fading);
+    PaintedDonut donut(sectors, active);
+    donut.addIcons();
+    donut.fading = fading;
+    const QString wrong =
+        tests::compareWithGolden(donut.picture(), QString::fromLatin1(QTest::currentDataTag()));
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
+}
+
+void tst_DonutPainting::goldenText_data()
+{
+    QTest::addColumn<int>("sectors");
+    QTest::addColumn<int>("active");
+    QTest::addColumn<bool>("fading");
+    QTest::newRow("four-text") << 4 << 1 << false;
+    QTest::newRow("eight-text") << 8 << 3 << false;
+    QTest::newRow("eight-text-fading") << 8 << 3 << true;
+}
+
+void tst_DonutPainting::goldenText()
+{
+    QFETCH(int, sectors);
+    QFETCH(int, active);
+    QFETCH(bool, fading);
+    PaintedDonut donut(sectors, active);
+    const char *const names[] = {"Zoom Bounds", "Offset", "Open", "Copy Objects",
+                                 "Save",        "Text",   "Line", "Trim"};
+    for (int i = 0; i < sectors; ++i)
+        donut.addText(QString::fromLatin1(names[i]));
+    donut.fading = fading;
+    const QString name = QStringLiteral("%1-qt%2")
+                             .arg(QString::fromLatin1(QTest::currentDataTag()))
+                             .arg(qtbridge::kQtMajor);
+    const QString wrong = tests::compareWithGolden(donut.picture(), name, {2, 0.001});
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
+}
+
+int main(int argc, char **argv)
+{
+    // Read by the first font.
+    qputenv("FONTCONFIG_FILE", TESTS_SOURCE_DIR "/gesture/fonts.conf");
+    const QApplication application(argc, argv);
+    tst_DonutPainting test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_donutpainting.moc"
