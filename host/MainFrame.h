@@ -18,7 +18,7 @@ public:
     [[nodiscard]] QWidget *GetMainWindow() const override { return m_window; }
 
 private:
-    QPointer<QMainWindow> m_window;
+    QPointer<QWidget> m_window; // while it is being destroyed it is no QMainWindow any more
 };
 
 } // namespace host

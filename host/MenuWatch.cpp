@@ -49,12 +49,13 @@ bool MenuWatch::eventFilter(QObject *receiver, QEvent *event)
 
 void MenuWatch::look()
 {
-    if (!m_window || !m_window->isVisible())
+    const auto *window = qobject_cast<QMainWindow *>(m_window.data());
+    if (!window || !window->isVisible())
         return; // showing it starts the wait again
     // menuBar() would make one in a window that has none.
-    const auto *bar = qobject_cast<QMenuBar *>(m_window->menuWidget());
+    const auto *bar = qobject_cast<QMenuBar *>(window->menuWidget());
     if (!bar)
-        bar = m_window->findChild<QMenuBar *>();
+        bar = window->findChild<QMenuBar *>();
     if (!bar || bar->actions().isEmpty())
         return; // so does filling it
     stop();

@@ -34,7 +34,7 @@ Q_SIGNALS:
 private:
     void look();
 
-    QPointer<QMainWindow> m_window;
+    QPointer<QWidget> m_window; // while it is being destroyed it is no QMainWindow any more
     QTimer m_quiet;
 };
 

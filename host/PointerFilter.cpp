@@ -256,6 +256,9 @@ void PointerFilter::endGestureIfStopped()
 
 void PointerFilter::endGesture(Qt::MouseButtons buttons)
 {
+    stopOverlay(); // something took the mouse away from it
+    if (m_state != State::Gesturing)
+        return;
     Document *document = m_document;
     m_document = nullptr;
     m_overlay.clear();
@@ -282,7 +285,7 @@ void PointerFilter::endGesture(Qt::MouseButtons buttons)
 
 void PointerFilter::stopOverlay()
 {
-    if (!m_overlay || QWidget::mouseGrabber() != m_overlay)
+    if (!m_overlay || (!m_overlay->isVisible() && QWidget::mouseGrabber() != m_overlay))
         return;
     const QPointer<QWidget> overlay = m_overlay;
     const QPoint global = QCursor::pos();
@@ -291,11 +294,13 @@ void PointerFilter::stopOverlay()
                         QGuiApplication::mouseButtons() & ~Qt::MouseButtons(m_trigger.button),
                         QGuiApplication::keyboardModifiers());
     QCoreApplication::sendEvent(overlay, &release);
-    // Whatever it made of that, nothing stays grabbed.
+    // Whatever it made of that, nothing stays grabbed or in the way.
     if (overlay && QWidget::mouseGrabber() == overlay)
         overlay->releaseMouse();
     if (overlay && QWidget::keyboardGrabber() == overlay)
         overlay->releaseKeyboard();
+    if (overlay)
+        overlay->hide();
 }
 
 bool PointerFilter::filterSwallowing(QWindow *window, const QMouseEvent &event)

@@ -118,8 +118,8 @@ private Q_SLOTS:
 
 void tst_Documents::openingTellsInOrder()
 {
-    DocumentManager manager;
     Reactor reactor;
+    DocumentManager manager;
     manager.AddReactor(&reactor);
     QCOMPARE(manager.GetActiveDocument(), nullptr);
     QWidget view;
@@ -142,10 +142,10 @@ void tst_Documents::openingTellsInOrder()
 
 void tst_Documents::openingTwiceGivesOneDocument()
 {
+    Reactor reactor;
     DocumentManager manager;
     QWidget view;
     Document *document = manager.open(&view);
-    Reactor reactor;
     manager.AddReactor(&reactor);
     QCOMPARE(manager.open(&view), document);
     QCOMPARE(reactor.takeLog(), QStringList());
@@ -154,12 +154,12 @@ void tst_Documents::openingTwiceGivesOneDocument()
 
 void tst_Documents::activationTellsInOrder()
 {
+    Reactor reactor;
     DocumentManager manager;
     QWidget first;
     QWidget second;
     Document *one = manager.open(&first);
     Document *two = manager.open(&second);
-    Reactor reactor;
     manager.AddReactor(&reactor);
     reactor.names = {{one, QStringLiteral("d1")}, {two, QStringLiteral("d2")}};
     manager.activate(two);
@@ -173,8 +173,8 @@ void tst_Documents::activationTellsInOrder()
 
 void tst_Documents::closingTellsInOrder()
 {
-    DocumentManager manager;
     Reactor reactor;
+    DocumentManager manager;
     auto view = std::make_unique<QWidget>();
     Document *document = manager.open(view.get());
     manager.AddReactor(&reactor);
@@ -307,8 +307,8 @@ void tst_Documents::closingWhileWalking()
 
 void tst_Documents::reactorsComeAndGo()
 {
-    DocumentManager manager;
     Reactor reactor;
+    DocumentManager manager;
     manager.AddReactor(nullptr);
     manager.AddReactor(&reactor);
     manager.AddReactor(&reactor);
@@ -324,9 +324,9 @@ void tst_Documents::reactorsComeAndGo()
 
 void tst_Documents::reactorThatGoesDuringANotification()
 {
-    DocumentManager manager;
     Reactor first;
     Reactor second;
+    DocumentManager manager;
     manager.AddReactor(&first);
     manager.AddReactor(&second);
     first.onCreated = [&](CHxDocument *) {

@@ -155,6 +155,7 @@ private Q_SLOTS:
     void dialogDuringTheGestureCancels();
     void cancelLeavesNothingGrabbed();
     void overlayThatIgnoresTheReleaseIsForcedToLetGo();
+    void overlayThatLosesTheMouseIsStopped();
     void filterDestroyedDuringTheReplay();
 
     void trackersSeeMovements();
@@ -845,6 +846,25 @@ void tst_PointerFilter::overlayThatIgnoresTheReleaseIsForcedToLetGo()
     desk.filter->cancel();
     QVERIFY(!QWidget::mouseGrabber());
     QVERIFY(!QWidget::keyboardGrabber());
+    QVERIFY(!desk.tracker.overlay->isVisible());
+    desk.release(kPress);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+void tst_PointerFilter::overlayThatLosesTheMouseIsStopped()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    desk.control->grabMouse(); // takes Qt's grab away
+    desk.move(kPress + QPoint(35, 0));
+    QVERIFY(!desk.tracker.overlay->isVisible());
+    QCOMPARE(desk.tracker.stops, 1);
+    QCOMPARE(desk.tracker.commands, 0);
+    QCOMPARE(QWidget::mouseGrabber(), desk.control);
+    desk.control->releaseMouse();
     desk.release(kPress);
     QCOMPARE(desk.state(), PointerFilter::State::Idle);
 }

@@ -1,0 +1,124 @@
+// What a movement of the mouse costs with the pointer filter, beside what Qt's own delivery
+// of it costs: in a view, in another widget, and what any other event pays.
+
+#include "host/DocumentManager.h"
+#include "host/PointerFilter.h"
+#include "sdk/chx/CHxTracker.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QWidget>
+#include <QWindow>
+
+#include <memory>
+
+namespace {
+
+// Asks what a tracker asks on each update while no gesture is under way.
+class IdleTracker : public CHxTracker
+{
+public:
+    void Update(CHxTrackerContext *, CHxHitTestInfo *hit) override
+    {
+        const bool isSuppressed = hit->IsModalWindowOpen() || hit->IsPopupOpen() || hit->IsMouseGrabbed()
+            || hit->IsOtherButtonDown() || hit->IsModifierMismatch() || hit->IsOverControl()
+            || hit->IsViewBlocked();
+        benchmark::DoNotOptimize(isSuppressed);
+        if (!isSuppressed)
+            benchmark::DoNotOptimize(hit->IsPress());
+    }
+    void DrawTracker(CHxTrackerContext *, const CHxHitTestInfo *) const override { }
+    void DrawDDTracker(CHxTrackerContext *, const CHxHitTestInfo *) const override { }
+    [[nodiscard]] bool IsEager(const CHxHitTestInfo *) const override { return false; }
+    bool DoAction(const CHxHitTestInfo *) override { return false; }
+};
+
+class Desk
+{
+public:
+    explicit Desk(bool hasFilter)
+    {
+        window.resize(400, 400);
+        view = new QWidget(&window);
+        view->setGeometry(0, 0, 200, 400);
+        view->setMouseTracking(true);
+        other = new QWidget(&window);
+        other->setGeometry(200, 0, 200, 400);
+        other->setMouseTracking(true);
+        window.show();
+        documents.open(view)->inputPoints().AddTracker(&tracker, 0);
+        filter = std::make_unique<host::PointerFilter>(documents, host::Trigger {}, [] { return true; });
+        if (hasFilter)
+            qApp->installEventFilter(filter.get());
+    }
+
+    // A movement as the platform hands it to the window.
+    void moveTo(QPoint position)
+    {
+        QMouseEvent move(QEvent::MouseMove, position, position, window.mapToGlobal(position), Qt::NoButton,
+                         Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(window.windowHandle(), &move);
+    }
+
+    QWidget window;
+    QWidget *view = nullptr;
+    QWidget *other = nullptr;
+    IdleTracker tracker;
+    host::DocumentManager documents;
+    std::unique_ptr<host::PointerFilter> filter;
+};
+
+void moveInView(benchmark::State &state)
+{
+    Desk desk(state.range(0));
+    int x = 0;
+    for (auto _ : state)
+        desk.moveTo({x++ & 127, 50});
+}
+
+void moveElsewhere(benchmark::State &state)
+{
+    Desk desk(state.range(0));
+    int x = 0;
+    for (auto _ : state)
+        desk.moveTo({250 + (x++ & 127), 50});
+}
+
+void otherEvent(benchmark::State &state)
+{
+    Desk desk(state.range(0));
+    for (auto _ : state) {
+        QEvent event(QEvent::User);
+        QCoreApplication::sendEvent(desk.other, &event);
+    }
+}
+
+// The filter's own work for one movement in a view, without Qt's.
+void filterAlone(benchmark::State &state)
+{
+    Desk desk(false);
+    QMouseEvent move(QEvent::MouseMove, QPointF(50, 50), QPointF(50, 50), Qt::NoButton, Qt::NoButton,
+                     Qt::NoModifier);
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(desk.filter->eventFilter(desk.window.windowHandle(), &move));
+        benchmark::DoNotOptimize(desk.filter->eventFilter(desk.view, &move));
+    }
+}
+
+} // namespace
+
+BENCHMARK(moveInView)->ArgName("filter")->Arg(0)->Arg(1);
+BENCHMARK(moveElsewhere)->ArgName("filter")->Arg(0)->Arg(1);
+BENCHMARK(otherEvent)->ArgName("filter")->Arg(0)->Arg(1);
+BENCHMARK(filterAlone);
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
