@@ -47,7 +47,8 @@ bool HostSession::start(QString *error)
     QString *reason = error ? error : &why;
     if (m_isRunning)
         return true;
-    if (m_wasStarted || running || !m_window || !qobject_cast<QApplication *>(qApp)) {
+    auto *window = qobject_cast<QMainWindow *>(m_window.data());
+    if (m_wasStarted || running || !window || !qobject_cast<QApplication *>(qApp)) {
         *reason = m_wasStarted ? QStringLiteral("a host that was stopped cannot start again")
                 : running      ? QStringLiteral("this program has a host already")
                                : QStringLiteral("there is no main window to host");
@@ -67,8 +68,7 @@ bool HostSession::start(QString *error)
     if (!message.isEmpty())
         std::fprintf(stderr, "mouse gestures: %s\n", qPrintable(message));
 
-    m_services =
-        std::make_unique<SystemServices>(m_window, profile, &m_documents, m_options.settingsFile);
+    m_services = std::make_unique<SystemServices>(window, profile, &m_documents, m_options.settingsFile);
     m_services->setApplication(&m_application);
     m_services->setMainFrame(&m_mainFrame);
     SetHxSystemServices(m_services.get());

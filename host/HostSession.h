@@ -55,7 +55,7 @@ private:
     void finish();
 
     const GestureHost::Options m_options;
-    QPointer<QMainWindow> m_window;
+    QPointer<QWidget> m_window; // while it is being destroyed it is no QMainWindow any more
     QVector<QPointer<QWidget>> m_addedViews; // until start()
     bool m_isRunning = false;
     bool m_wasStarted = false;
