@@ -47,6 +47,7 @@ CommandLine::CommandLine(QWidget *parent)
     m_edit->setPlaceholderText(
         tr("LINE, CIRCLE, TRIM, ZOOM, GESTURE \u2026 or a point such as 10,20 or @5<90"));
     m_edit->setClearButtonEnabled(true);
+    m_edit->installEventFilter(this);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(8, 4, 8, 4);
     row->addWidget(m_prompt);
@@ -57,6 +58,16 @@ CommandLine::CommandLine(QWidget *parent)
         m_edit->clear();
         Q_EMIT entered(typed);
     });
+}
+
+bool CommandLine::eventFilter(QObject *watched, QEvent *event)
+{
+    // While nothing is typed, Ctrl+Z, Del and the like are about the drawing.
+    if (event->type() == QEvent::ShortcutOverride && m_edit->text().isEmpty()) {
+        event->ignore();
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void CommandLine::setPrompt(const QString &prompt)

@@ -36,6 +36,9 @@ Q_SIGNALS:
     void entered(const QString &text);
     void textChanged(const QString &text);
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     QLabel *m_prompt;
     QLineEdit *m_edit;

@@ -295,6 +295,24 @@ private Q_SLOTS:
         QCOMPARE(line()->text(), QStringLiteral("L"));
     }
 
+    void keysInAnEmptyCommandLineAreAboutTheDrawing()
+    {
+        m_window->drawing().add(Entity::line({0, 0}, {10, 0}));
+        line()->setFocus();
+        QSignalSpy undo(action("editUndo"), &QAction::triggered);
+        QSignalSpy all(action("editSelectAll"), &QAction::triggered);
+        QTest::keyClicks(line(), QStringLiteral("li"));
+        QTest::keyClick(line(), Qt::Key_A, Qt::ControlModifier);
+        QCOMPARE(all.count(), 0);
+        QTest::keyClick(line(), Qt::Key_Backspace);
+        QTest::keyClick(line(), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(line(), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(all.count(), 1);
+        QCOMPARE(undo.count(), 1);
+        QVERIFY(entities().empty());
+        QVERIFY(line()->text().isEmpty());
+    }
+
     void clicksAndFramesSelect()
     {
         m_window->drawing().add(Entity::line({-40, 0}, {40, 0}));
