@@ -24,7 +24,7 @@ class Program:
     view: str  # class name of its drawing view
     # Object name of the action that each direction runs with the first bindings.
     eight: dict
-    # Directions whose command opens a dialog, which Escape closes.
+    # Actions that open a dialog, which Escape closes.
     dialogs: tuple = ()
     # What the driver does to start the line tool, and to get to the command line.
     start_line: tuple = ()
@@ -60,7 +60,7 @@ PROGRAMS = {
                 "right": "DrawLine",
                 "up-right": "ModifyTrim",
             },
-            dialogs=("left", "down-right"),
+            dialogs=("FileOpen", "DrawText"),
             start_line=("key ctrl+m", "type line", "key Return"),
             command_line=("key ctrl+m",),
             discard=("key Tab", "key Return"),
@@ -86,7 +86,7 @@ PROGRAMS = {
                 "right": "drawLine",
                 "up-right": "modifyTrim",
             },
-            dialogs=("left",),
+            dialogs=("fileOpen",),
             start_line=("key alt+d", "key l"),
             command_line=("key Tab",),
             context_menu=True,

@@ -6,6 +6,7 @@ import shutil
 import signal
 import subprocess
 import sys
+import time
 from pathlib import Path
 
 from .driver import Driver, DriverError
@@ -189,6 +190,8 @@ class Session:
 
     def move_to_middle(self):
         self.driver.ask("move", *self.middle())
+        # The frame of a window that has closed is there for a moment longer.
+        self.driver.ask("wait-pointer-in", DRAWING_NAME, ANSWER_SECONDS * 1000)
 
     def offset(self, direction, length):
         step = STEPS[direction]
@@ -210,7 +213,7 @@ class Session:
         mark = self.spy.mark()
         self.gesture(direction, **how)
         # The spy hears of an action when the program has dealt with it, so after its dialog.
-        if direction in self.program.dialogs:
+        if action in self.program.dialogs:
             self.dismiss_dialog(mark)
         self.expect(mark, lambda line: line[0] == "triggered", f'"{action}" by a gesture {direction}')
         self.ring_is_gone()
@@ -231,6 +234,7 @@ class Session:
         self.focus(opened[3])
         self.driver.ask("key", "Escape")
         self.expect(mark, lambda line: line[:2] == ["gone", opened[1]], "the dialog to close")
+        self.focus(DRAWING_NAME)
 
     def cancel_tool(self):
         """Ends what a command left running in the view."""
@@ -244,6 +248,15 @@ class Session:
     def focus(self, title):
         self.driver.ask("wait-focus", title, ANSWER_SECONDS * 1000)
 
+    def settle(self):
+        """Waits until the program has dealt with all input so far: it gets it in order, so a
+        key that has arrived was the last."""
+        mark = self.spy.mark()
+        self.driver.ask("key", "F9")
+        self.expect(mark, lambda line: line[:2] == ["key", "F9"], "a key to arrive")
+        self.ring_is_gone()
+        self.wait_for_no_grab()
+
     def right_click(self):
         """Clicks, and closes the menu if the program has one for it."""
         mark = self.spy.mark()
@@ -255,6 +268,19 @@ class Session:
             self.expect(mark, lambda line: line[0] == "menu", "the menu of a right click")
             self.driver.ask("key", "Escape")
             self.expect(mark, lambda line: line[:2] == ["gone", "QMenu"], "the menu to close")
+            self.wait_for_no_grab()
+
+    def wait_for_no_grab(self):
+        """A menu that has closed still has the keyboard for a moment, and loses what is typed."""
+        if not self.grabs_become("pointer free keyboard free"):
+            raise Failure(f"something holds on: {self.driver.ask('grabs')}")
+
+    def grabs_become(self, wanted):
+        end = time.monotonic() + ANSWER_SECONDS
+        while self.driver.ask("grabs") != wanted:
+            if time.monotonic() > end:
+                return False
+        return True
 
     def carry_out(self, commands):
         """Commands of the driver as whole lines."""
@@ -297,4 +323,4 @@ def describe_status(status):
     return f"status {status}" if status >= 0 else signal.Signals(-status).name
 
 
-__all__ = ["ANSWER_SECONDS", "DriverError", "FAR", "Failure", "RING_SIZE", "Session", "describe_status"]
+__all__ = ["ANSWER_SECONDS", "DRAWING_NAME", "DriverError", "FAR", "Failure", "RING_SIZE", "Session", "describe_status"]

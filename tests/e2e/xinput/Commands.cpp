@@ -184,6 +184,12 @@ QString Commands::windows(const QString &name, const QStringList &words)
             return window && m_desktop.hasFocus(window->id);
         };
         milliseconds = words.at(1).toInt();
+    } else if (what == QLatin1String("pointer-in") && words.size() == 2) {
+        look = [&] {
+            window = titled(m_desktop, words.first());
+            return window && m_desktop.isUnderPointer(window->id);
+        };
+        milliseconds = words.at(1).toInt();
     } else if (const auto given = numbers(words, 0);
                what == QLatin1String("size") && given && given->size() == 3) {
         const QSize size(given->at(0), given->at(1));

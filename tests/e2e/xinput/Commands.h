@@ -19,6 +19,7 @@ class XDesktop;
 //     wait-window TITLE MS   a window whose title contains TITLE -> ID X Y W H
 //     wait-no-window TITLE MS
 //     wait-focus TITLE MS    keys go to a window whose title contains TITLE
+//     wait-pointer-in TITLE MS   the pointer is in such a window, with nothing above it
 //     wait-size W H MS       a window of that size -> ID X Y W H
 //     wait-no-size W H MS
 //     close TITLE            activate TITLE

@@ -211,20 +211,20 @@ bool XDesktop::hasFocus(unsigned long id) const
     int revert = 0;
     XGetInputFocus(m_display, &focus, &revert);
     // A program may give the focus to a window inside of its own.
-    while (focus != None && focus != PointerRoot && focus != m_root) {
-        if (focus == id)
-            return true;
-        ::Window root = 0;
-        ::Window parent = 0;
-        ::Window *children = nullptr;
-        unsigned int count = 0;
-        if (!XQueryTree(m_display, focus, &root, &parent, &children, &count))
-            return false;
-        if (children)
-            XFree(children);
-        focus = parent;
-    }
-    return false;
+    return focus != None && focus != PointerRoot && topLevelOf(focus) == topLevelOf(id);
+}
+
+bool XDesktop::isUnderPointer(unsigned long id) const
+{
+    ::Window root = 0;
+    ::Window child = 0;
+    int x = 0;
+    int y = 0;
+    int localX = 0;
+    int localY = 0;
+    unsigned int mask = 0;
+    XQueryPointer(m_display, m_root, &root, &child, &x, &y, &localX, &localY, &mask);
+    return child != None && child == topLevelOf(id);
 }
 
 void XDesktop::closeWindow(unsigned long id)
@@ -309,6 +309,25 @@ bool XDesktop::waitFor(const std::function<bool()> &condition, int milliseconds)
 void XDesktop::sync()
 {
     XSync(m_display, True); // no event is selected; the few that come anyway are nobody's
+}
+
+// The root's child that `window` is in: its frame, if it has one.
+unsigned long XDesktop::topLevelOf(unsigned long window) const
+{
+    while (window != None) {
+        ::Window root = 0;
+        ::Window parent = 0;
+        ::Window *children = nullptr;
+        unsigned int count = 0;
+        if (!XQueryTree(m_display, window, &root, &parent, &children, &count))
+            return None;
+        if (children)
+            XFree(children);
+        if (parent == m_root)
+            return window;
+        window = parent;
+    }
+    return None;
 }
 
 QString XDesktop::titleOf(unsigned long window) const

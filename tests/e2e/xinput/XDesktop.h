@@ -50,6 +50,8 @@ public:
     [[nodiscard]] std::optional<Window> windowOfSize(QSize size) const;
     // Whether keys go to that window.
     [[nodiscard]] bool hasFocus(unsigned long id) const;
+    // Whether the pointer is in that window with nothing in between: input there goes to it.
+    [[nodiscard]] bool isUnderPointer(unsigned long id) const;
     // Asks a window to close, as its close button does.
     void closeWindow(unsigned long id);
     // Asks the window manager to raise a window and give it the keyboard.
@@ -71,6 +73,7 @@ public:
 private:
     void sync();
     void sendToManager(unsigned long window, const char *message, long first);
+    [[nodiscard]] unsigned long topLevelOf(unsigned long window) const;
     [[nodiscard]] QString titleOf(unsigned long window) const;
     [[nodiscard]] std::optional<QRect> visibleGeometry(unsigned long window) const;
     [[nodiscard]] std::optional<Window> findBySize(unsigned long below, QSize size, int depth) const;
