@@ -1,0 +1,32 @@
+# Completion of mouse-gestures for bash.
+_mouse_gestures() {
+    local current=${COMP_WORDS[COMP_CWORD]} option=${COMP_WORDS[1]-}
+    local directions="up up-left left down-left down down-right right up-right"
+    local triggers="right middle back forward ctrl+right shift+right alt+right ctrl+middle default"
+    COMPREPLY=()
+    if ((COMP_CWORD == 1)); then
+        if [[ $current == -* ]]; then
+            mapfile -t COMPREPLY < <(compgen -W "--bindings --bind --trigger --reset --export \
+                --import --doctor --help --version" -- "$current")
+        else
+            mapfile -t COMPREPLY < <(compgen -c -- "$current")
+        fi
+        return
+    fi
+    case $option in
+        -*)
+            if ((COMP_CWORD == 2)); then
+                mapfile -t COMPREPLY < <(compgen -c -- "$current")
+            elif ((COMP_CWORD == 3)); then
+                case $option in
+                    --bindings) mapfile -t COMPREPLY < <(compgen -W "--json" -- "$current") ;;
+                    --bind) mapfile -t COMPREPLY < <(compgen -W "$directions" -- "$current") ;;
+                    --trigger) mapfile -t COMPREPLY < <(compgen -W "$triggers" -- "$current") ;;
+                    --export | --import) mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
+                esac
+            fi
+            ;;
+        *) mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
+    esac
+}
+complete -o filenames -F _mouse_gestures mouse-gestures

@@ -1,0 +1,45 @@
+#include "host/GestureHost.h"
+#include "sdk/chx/CHxSystemServices.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QTimer>
+
+#include <cstdio>
+
+// Hosts gestures; with an argument it leaves that to whatever gets into it. Ends when the
+// module's entry is in its menu, and writes which files it has in memory.
+int main(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    QMainWindow window;
+    QMenu *tools = window.menuBar()->addMenu(QStringLiteral("Tools"));
+    tools->addAction(QStringLiteral("Options..."));
+    auto *drawing = new QWidget(&window);
+    window.setCentralWidget(drawing);
+
+    GestureHost gestures(&window);
+    gestures.addView(drawing);
+    QString error;
+    if (argc == 1 && (!gestures.start(&error) || !GetHxSystemServices())) {
+        std::fprintf(stderr, "consumer: %s\n", qPrintable(error));
+        return 2;
+    }
+    window.show();
+
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, tools, [tools] {
+        if (tools->actions().size() < 2 || !GetHxSystemServices())
+            return;
+        std::puts(qPrintable(tools->actions().last()->text()));
+        QFile memory(QStringLiteral("/proc/self/maps"));
+        if (memory.open(QIODevice::ReadOnly))
+            std::fputs(memory.readAll().constData(), stdout);
+        QCoreApplication::quit();
+    });
+    look.start(10);
+    QTimer::singleShot(60000, &app, [] { QCoreApplication::exit(3); });
+    return QApplication::exec();
+}
