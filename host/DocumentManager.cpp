@@ -83,6 +83,8 @@ Document *DocumentManager::open(QWidget *view)
     m_documents.push_back(std::make_unique<Document>(view, [this] { return standIn(); }));
     Document *document = m_documents.back().get();
     m_byView.insert(view, document);
+    m_lastAsked = nullptr;
+    m_lastAnswer = nullptr;
     m_activated.prepend(document);
     connect(view, &QObject::destroyed, this, [this, document] { close(document); });
 
@@ -117,6 +119,8 @@ void DocumentManager::close(Document *document)
     notify([document](CHxDocumentManagerReactor &r) { r.DocumentToBeDestroyed(document); });
     notify([document](CHxDocumentManagerReactor &r) { r.DatabaseDetached(document); });
     m_byView.remove(m_byView.key(document));
+    m_lastAsked = nullptr;
+    m_lastAnswer = nullptr;
     m_activated.removeAll(document);
     document->close();
     notify([document](CHxDocumentManagerReactor &r) { r.DocumentDestroyed(document, CHxString()); });

@@ -45,11 +45,14 @@ public:
     void releaseStandIn();
 
     // The open document of this very widget; null when it is no view. Called for every
-    // mouse event of the program.
+    // mouse event of the program, most often for the same widget as the last time.
     [[nodiscard]] Document *documentOf(const QObject *view) const
     {
-        const auto it = m_byView.constFind(view);
-        return it == m_byView.constEnd() ? nullptr : *it;
+        if (view != m_lastAsked) {
+            m_lastAsked = view;
+            m_lastAnswer = m_byView.value(view);
+        }
+        return m_lastAnswer;
     }
     [[nodiscard]] bool isEmpty() const { return m_byView.isEmpty(); }
 
@@ -66,6 +69,8 @@ private:
 
     std::vector<std::unique_ptr<Document>> m_documents; // in the order of opening
     QHash<const QObject *, Document *> m_byView; // the open ones
+    mutable const QObject *m_lastAsked = nullptr; // forgotten when m_byView changes
+    mutable Document *m_lastAnswer = nullptr;
     QVector<Document *> m_activated; // the open ones, the active one last
     QVector<CHxDocumentManagerReactor *> m_reactors;
     Document *m_active = nullptr;

@@ -34,7 +34,7 @@ CHxDocument *HitTest::GetDocument() const
 
 bool HitTest::IsModalWindowOpen() const
 {
-    return mayBeSuppressed() && QApplication::activeModalWidget();
+    return mayBeSuppressed() && QGuiApplication::modalWindow();
 }
 
 bool HitTest::IsPopupOpen() const

@@ -2,7 +2,7 @@
 
 #include "sdk/chx/CHxInputPointManager.h"
 
-#include <QVector>
+#include <vector>
 
 class CHxHitTestInfo;
 
@@ -19,14 +19,16 @@ public:
     void AddTracker(CHxTracker *tracker, int flags) override;
     void RemoveTracker(CHxTracker *tracker) override;
 
-    [[nodiscard]] bool hasTrackers() const { return !m_trackers.isEmpty(); }
+    [[nodiscard]] bool hasTrackers() const;
     // Shows the event to every tracker in turn and lets those that are eager act.
-    // Allocates nothing; trackers may come and go meanwhile, and one that went is not
-    // called any more.
-    void dispatch(CHxHitTestInfo &hit) const;
+    // Allocates nothing; trackers may come and go meanwhile: one that went is not called
+    // any more, one that came hears of the next event.
+    void dispatch(CHxHitTestInfo &hit);
 
 private:
-    QVector<CHxTracker *> m_trackers;
+    std::vector<CHxTracker *> m_trackers; // with null in place of those that go during a dispatch
+    int m_dispatches = 0; // that are under way
+    bool m_hasGaps = false;
 };
 
 } // namespace host

@@ -52,6 +52,9 @@ bool PointerFilter::eventFilter(QObject *receiver, QEvent *event)
                 showToTrackers(*document, *static_cast<QMouseEvent *>(event));
             return false;
         }
+        // Most of all are movements while nothing is under way.
+        if (event->type() == QEvent::MouseMove && m_state == State::Idle && !m_held.hasRest())
+            return false;
         return receiver->isWindowType()
             && filterWindow(static_cast<QWindow *>(receiver), *static_cast<QMouseEvent *>(event));
     case QEvent::Show:

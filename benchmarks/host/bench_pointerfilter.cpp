@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <QtTest/qtestmouse.h> // qt_handleMouseEvent
 #include <QWidget>
 #include <QWindow>
 
@@ -23,8 +24,8 @@ public:
     void Update(CHxTrackerContext *, CHxHitTestInfo *hit) override
     {
         const bool isSuppressed = hit->IsModalWindowOpen() || hit->IsPopupOpen() || hit->IsMouseGrabbed()
-            || hit->IsOtherButtonDown() || hit->IsModifierMismatch() || hit->IsOverControl()
-            || hit->IsViewBlocked();
+                               || hit->IsOtherButtonDown() || hit->IsModifierMismatch()
+                               || hit->IsOverControl() || hit->IsViewBlocked();
         benchmark::DoNotOptimize(isSuppressed);
         if (!isSuppressed)
             benchmark::DoNotOptimize(hit->IsPress());
@@ -49,19 +50,19 @@ public:
         other->setMouseTracking(true);
         window.show();
         documents.open(view)->inputPoints().AddTracker(&tracker, 0);
-        filter = std::make_unique<host::PointerFilter>(documents, host::Trigger {}, [] { return true; });
+        filter = std::make_unique<host::PointerFilter>(documents, host::Trigger{}, [] { return true; });
         if (hasFilter)
             qApp->installEventFilter(filter.get());
     }
 
-    // A movement as the platform hands it to the window.
+    // A movement as the platform reports it to Qt, delivered before this returns.
     void moveTo(QPoint position)
     {
-        QMouseEvent move(QEvent::MouseMove, position, position, window.mapToGlobal(position), Qt::NoButton,
-                         Qt::NoButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(window.windowHandle(), &move);
+        qt_handleMouseEvent(window.windowHandle(), position, window.mapToGlobal(position), Qt::NoButton,
+                            Qt::NoButton, QEvent::MouseMove, Qt::NoModifier, ++timestamp);
     }
 
+    int timestamp = 0;
     QWidget window;
     QWidget *view = nullptr;
     QWidget *other = nullptr;
