@@ -1,16 +1,29 @@
 #include "host/ViewFinder.h"
 
+#include "host/ViewGuess.h"
+
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QEvent>
+#include <QMainWindow>
 #include <QPointer>
 
 #include <algorithm>
 
 namespace host {
+namespace {
 
-ViewFinder::ViewFinder(const QStringList &viewClasses)
+// Milliseconds.
+constexpr int kQuietTime = 200;
+
+} // namespace
+
+ViewFinder::ViewFinder(const QStringList &viewClasses, bool mayGuess)
+    : m_guesses(mayGuess && viewClasses.isEmpty())
 {
+    m_quiet.setSingleShot(true);
+    m_quiet.setInterval(kQuietTime);
+    connect(&m_quiet, &QTimer::timeout, this, &ViewFinder::lookAround);
     for (const QString &name : viewClasses)
         m_viewClasses.append(name.toLatin1());
 }
@@ -19,8 +32,17 @@ ViewFinder::~ViewFinder() = default;
 
 void ViewFinder::start()
 {
-    if (m_viewClasses.isEmpty())
+    if (m_guesses)
+        m_quiet.start();
+    else if (!m_viewClasses.isEmpty())
+        lookAround();
+    else
         return;
+    qApp->installEventFilter(this);
+}
+
+void ViewFinder::lookAround()
+{
     const QWidgetList widgets = QApplication::allWidgets();
     QVector<QPointer<QWidget>> present;
     present.reserve(static_cast<int>(widgets.size()));
@@ -30,11 +52,11 @@ void ViewFinder::start()
         if (widget) // a listener may close one that comes later
             look(widget);
     }
-    qApp->installEventFilter(this);
 }
 
 void ViewFinder::stop()
 {
+    m_quiet.stop();
     if (QCoreApplication *application = QCoreApplication::instance())
         application->removeEventFilter(this);
 }
@@ -47,10 +69,25 @@ QWidget *ViewFinder::pointerWidget(QWidget *widget)
 
 bool ViewFinder::eventFilter(QObject *receiver, QEvent *event)
 {
+    if (m_guesses) {
+        noteChange(receiver, *event);
+        return false;
+    }
     // A widget has its final class from the first time that it is polished or shown on.
     if ((event->type() == QEvent::Show || event->type() == QEvent::Polish) && receiver->isWidgetType())
         look(static_cast<QWidget *>(receiver));
     return false;
+}
+
+void ViewFinder::noteChange(const QObject *receiver, const QEvent &event)
+{
+    const bool mayMatter = event.type() == QEvent::Show || event.type() == QEvent::Resize;
+    if (!mayMatter || !receiver->isWidgetType())
+        return;
+    // Menus, tips and dialogs come and go all the time.
+    const auto *widget = static_cast<const QWidget *>(receiver);
+    if (qobject_cast<const QMainWindow *>(widget->window()))
+        m_quiet.start();
 }
 
 void ViewFinder::look(QWidget *widget)
@@ -67,6 +104,8 @@ void ViewFinder::look(QWidget *widget)
 
 bool ViewFinder::isView(const QWidget *widget) const
 {
+    if (m_guesses)
+        return ViewGuess::of(widget).isView;
     return std::any_of(m_viewClasses.begin(), m_viewClasses.end(),
                        [widget](const QByteArray &name) { return widget->inherits(name.constData()); });
 }

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QObject>
 #include <QStringList>
+#include <QTimer>
 #include <QVector>
 
 QT_BEGIN_NAMESPACE
@@ -11,15 +12,17 @@ QT_END_NAMESPACE
 
 namespace host {
 
-// Finds the widgets of a program that show drawings: those of certain classes, the ones
-// that are there and the ones that come up later.
+// Finds the widgets of a program that show drawings: those of certain classes, or those
+// that look like it, see ViewGuess; the ones that are there and the ones that come up later.
 class ViewFinder : public QObject
 {
     Q_OBJECT
 
 public:
-    // Names of classes of which a view is one, or is derived from one.
-    explicit ViewFinder(const QStringList &viewClasses);
+    // Names of classes of which a view is one, or is derived from one. Where there are
+    // none, it may guess; it then looks once nothing has been shown or resized for a
+    // moment: a widget that is not laid out yet, or not filled, looks like something else.
+    explicit ViewFinder(const QStringList &viewClasses, bool mayGuess = false);
     ~ViewFinder() override;
 
     // Reports every view that is there and watches for more. Called once.
@@ -37,10 +40,14 @@ Q_SIGNALS:
     void viewFound(QWidget *view);
 
 private:
+    void lookAround();
     void look(QWidget *widget);
     [[nodiscard]] bool isView(const QWidget *widget) const;
+    void noteChange(const QObject *receiver, const QEvent &event);
 
     QVector<QByteArray> m_viewClasses;
+    bool m_guesses = false;
+    QTimer m_quiet;
 };
 
 } // namespace host
