@@ -33,11 +33,16 @@ public:
     void SetStatusText(const CHxString &) override { }
 
     [[nodiscard]] const QString &key() const { return m_key; }
+    void setKey(const QString &key) { m_key = key; }
+    // What it is called before it has ever had an action.
+    void setCaption(const QString &caption) { m_caption = caption; }
     // The action that it stood for last; null when that is destroyed.
     [[nodiscard]] QAction *action() const { return m_action; }
     // Where that action was, to be compared only: nothing may be there any more.
     [[nodiscard]] const QAction *address() const { return m_address; }
     void setAction(QAction *action);
+    // Whether running it would do something at the moment.
+    [[nodiscard]] bool isUsable() const { return isPresent && m_action && m_action->isEnabled(); }
     // Reads texts and icon anew.
     void read();
 

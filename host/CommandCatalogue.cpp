@@ -2,6 +2,7 @@
 
 #include "host/Captions.h"
 #include "host/EntryAction.h"
+#include "host/WellKnownGuess.h"
 
 #include <QMenu>
 #include <QMenuBar>
@@ -20,15 +21,18 @@ QString joined(const QString &path, const QString &caption)
 
 } // namespace
 
-CommandCatalogue::CommandCatalogue(QMainWindow *window, const QHash<QString, QString> &wellKnown)
+CommandCatalogue::CommandCatalogue(QMainWindow *window, const QHash<QString, QStringList> &wellKnown)
     : m_watcher(window)
     , m_wellKnown(wellKnown)
 {
     QStringList identifiers = wellKnown.keys();
     std::sort(identifiers.begin(), identifiers.end());
     for (const QString &identifier : std::as_const(identifiers)) {
-        if (!m_identifiers.contains(wellKnown.value(identifier)))
-            m_identifiers.insert(wellKnown.value(identifier), identifier);
+        const QStringList keys = wellKnown.value(identifier);
+        for (const QString &key : keys) {
+            if (!m_identifiers.contains(key))
+                m_identifiers.insert(key, identifier);
+        }
     }
     connect(&m_watcher, &MenuWatcher::structureChanged, this, [this] {
         m_stale = true;
@@ -49,6 +53,26 @@ ActionItem *CommandCatalogue::find(const QString &name)
 {
     update();
     return m_byName.value(name);
+}
+
+ActionItem *CommandCatalogue::findUsable(const QString &name)
+{
+    update();
+    const QStringList keys = m_wellKnown.value(name);
+    for (const QString &key : keys) {
+        ActionItem *item = m_byName.value(key);
+        if (item && item->isUsable())
+            return item;
+    }
+    return m_byName.value(name);
+}
+
+void CommandCatalogue::expect(const QString &identifier, const QString &caption)
+{
+    if (identifier.isEmpty() || m_byName.contains(identifier))
+        return;
+    add(identifier, m_wellKnown.value(identifier).value(0, identifier))->setCaption(caption);
+    m_stale = true; // the next reading gives it its place
 }
 
 ActionItem *CommandCatalogue::itemOf(const QAction *action)
@@ -107,12 +131,35 @@ void CommandCatalogue::scan()
         walk(bar, title, title);
     }
     // After all that are known: only now is it clear which of their keys are free.
+    if (m_guesses)
+        guess();
     for (const Newcomer &newcomer : m_newcomers)
         admit(newcomer);
     arrangeGroups();
     m_visited.clear();
     m_met.clear();
     m_newcomers.clear();
+    m_guessed.clear();
+}
+
+void CommandCatalogue::guess()
+{
+    QStringList wanted = WellKnownGuess::identifiers();
+    const auto isSettled = [this](const QString &identifier) {
+        return m_wellKnown.contains(identifier)
+            || (m_byName.contains(identifier) && !expectedFor(identifier));
+    };
+    wanted.erase(std::remove_if(wanted.begin(), wanted.end(), isSettled), wanted.end());
+    QVector<QAction *> actions;
+    for (const Newcomer &newcomer : m_newcomers) {
+        if (m_byName.value(newcomer.action->objectName()) == nullptr) // else it comes back
+            actions.append(newcomer.action);
+    }
+    const QVector<WellKnownGuess> guesses = WellKnownGuess::among(actions, wanted);
+    for (const WellKnownGuess &found : guesses) {
+        m_guessed.insert(found.action, found.identifier);
+        m_reasons.insert(found.identifier, found.reason);
+    }
 }
 
 void CommandCatalogue::walk(QWidget *place, const QString &group, const QString &path)
@@ -165,17 +212,20 @@ void CommandCatalogue::admit(const Newcomer &newcomer)
         key = number == 1 ? newcomer.path : QStringLiteral("%1 (%2)").arg(newcomer.path).arg(number);
         item = reusable(key, &isTaken);
     }
-    if (item) {
-        if (m_byAction.value(item->address()) == item)
-            m_byAction.remove(item->address());
-    } else {
-        const QString identifier = identifierFor(key, newcomer.path);
-        m_items.push_back(std::make_unique<ActionItem>(identifier, key));
-        item = m_items.back().get();
-        m_known.insert(item);
-        m_byName.insert(key, item);
-        m_byName.insert(identifier, item);
+    const QString wellKnown = wellKnownFor(newcomer, key);
+    if (!item) {
+        item = expectedFor(wellKnown);
+        if (item) {
+            if (item->key() != wellKnown)
+                m_byName.remove(item->key()); // which may turn up yet as another command
+            item->setKey(key);
+            m_byName.insert(key, item);
+        }
     }
+    if (!item)
+        item = add(wellKnown.isEmpty() || m_byName.contains(wellKnown) ? key : wellKnown, key);
+    else if (m_byAction.value(item->address()) == item)
+        m_byAction.remove(item->address());
     item->setAction(newcomer.action);
     item->isPresent = true;
     item->group = newcomer.group;
@@ -187,8 +237,7 @@ void CommandCatalogue::admit(const Newcomer &newcomer)
 // `isTaken` says whether the key is in use.
 ActionItem *CommandCatalogue::reusable(const QString &key, bool *isTaken) const
 {
-    const QString reservedFor = m_wellKnown.value(key, key);
-    if (key.isEmpty() || reservedFor != key) {
+    if (key.isEmpty() || !m_wellKnown.value(key, {key}).contains(key)) {
         *isTaken = true; // the profile means another action by this identifier
         return nullptr;
     }
@@ -197,10 +246,29 @@ ActionItem *CommandCatalogue::reusable(const QString &key, bool *isTaken) const
     return item && item->key() == key && !item->isPresent ? item : nullptr;
 }
 
-QString CommandCatalogue::identifierFor(const QString &key, const QString &path) const
+// The well-known identifier of an action by the profile, else as it was guessed; empty if
+// it has none.
+QString CommandCatalogue::wellKnownFor(const Newcomer &newcomer, const QString &key) const
 {
-    const QString identifier = m_identifiers.value(key, m_identifiers.value(path));
-    return identifier.isEmpty() || m_byName.contains(identifier) ? key : identifier;
+    const QString byPath = m_identifiers.value(newcomer.path, m_guessed.value(newcomer.action));
+    return m_identifiers.value(key, byPath);
+}
+
+// The command of that identifier while it is expected only; null otherwise.
+ActionItem *CommandCatalogue::expectedFor(const QString &identifier) const
+{
+    ActionItem *item = identifier.isEmpty() ? nullptr : m_byName.value(identifier);
+    return item && !item->address() && item->GetIdentifier() == CHxString(identifier) ? item : nullptr;
+}
+
+ActionItem *CommandCatalogue::add(const QString &identifier, const QString &key)
+{
+    m_items.push_back(std::make_unique<ActionItem>(identifier, key));
+    ActionItem *item = m_items.back().get();
+    m_known.insert(item);
+    m_byName.insert(key, item);
+    m_byName.insert(identifier, item);
+    return item;
 }
 
 void CommandCatalogue::arrangeGroups()

@@ -24,7 +24,8 @@ namespace host {
 // program's profile gives the action a well-known one.
 //
 // A command is kept when its action goes, and taken up again by an action with the same
-// key: programs rebuild their menus, and a binding must outlive that.
+// key: programs rebuild their menus, and a binding must outlive that. For the same reason
+// commands can be expected that no menu has had yet.
 //
 // Reading is cheap: the menus are walked again only after they have changed.
 class CommandCatalogue : public QObject
@@ -32,8 +33,8 @@ class CommandCatalogue : public QObject
     Q_OBJECT
 
 public:
-    // `wellKnown`: identifier to key, see ProgramProfile.
-    CommandCatalogue(QMainWindow *window, const QHash<QString, QString> &wellKnown);
+    // `wellKnown`: identifier to keys, see ProgramProfile.
+    CommandCatalogue(QMainWindow *window, const QHash<QString, QStringList> &wellKnown);
     ~CommandCatalogue() override;
 
     // The commands by top-level menu in the order of the menu bar, then by toolbar. Both
@@ -41,6 +42,21 @@ public:
     [[nodiscard]] const std::vector<std::unique_ptr<CommandGroup>> &groups();
     // The command with that identifier or key, also one that is gone; null if none.
     [[nodiscard]] ActionItem *find(const QString &name);
+    // The command to run for that identifier or key: the first of the keys of a well-known
+    // identifier whose action can be used at the moment; otherwise as find().
+    [[nodiscard]] ActionItem *findUsable(const QString &name);
+    // Offers a command from now on, also while no action stands for it. Does nothing when
+    // the identifier is known.
+    void expect(const QString &identifier, const QString &caption);
+    // From now on guesses which actions the well-known identifiers stand for that the
+    // profile leaves out. To be called before anything is read: a command keeps the
+    // identifier that it was first seen with.
+    void guessWellKnown() { m_guesses = true; }
+    // Why an action was taken for that identifier; empty unless it was guessed.
+    [[nodiscard]] QString reasonFor(const QString &identifier) const
+    {
+        return m_reasons.value(identifier);
+    }
     // The command that stands for the action; null for separators, menus and strangers.
     [[nodiscard]] ActionItem *itemOf(const QAction *action);
     [[nodiscard]] bool contains(const CHxUICommandItem *item) const;
@@ -72,12 +88,15 @@ private:
     void meet(QAction *action, const QString &group, const QString &path);
     void admit(const Newcomer &newcomer);
     ActionItem *reusable(const QString &key, bool *isTaken) const;
-    QString identifierFor(const QString &key, const QString &path) const;
+    void guess();
+    QString wellKnownFor(const Newcomer &newcomer, const QString &key) const;
+    ActionItem *expectedFor(const QString &identifier) const;
+    ActionItem *add(const QString &identifier, const QString &key);
     void arrangeGroups();
     CommandGroup &groupNamed(const QString &name);
 
     MenuWatcher m_watcher;
-    QHash<QString, QString> m_wellKnown; // identifier to key
+    QHash<QString, QStringList> m_wellKnown; // identifier to keys
     QHash<QString, QString> m_identifiers; // the other way round
     std::vector<std::unique_ptr<ActionItem>> m_items; // in the order of first sight
     QSet<const CHxUICommandItem *> m_known;
@@ -86,6 +105,8 @@ private:
     std::vector<std::unique_ptr<CommandGroup>> m_groups;
     QHash<QString, CommandGroup *> m_groupsByName;
     QSet<const QAction *> m_changedActions;
+    QHash<QString, QString> m_reasons; // of guesses, by identifier
+    bool m_guesses = false;
     bool m_stale = true;
     int m_scans = 0;
 
@@ -93,6 +114,7 @@ private:
     QSet<const QWidget *> m_visited;
     std::vector<ActionItem *> m_met; // in the order of the menus
     std::vector<Newcomer> m_newcomers;
+    QHash<const QAction *, QString> m_guessed; // newcomers, to identifier
 };
 
 } // namespace host

@@ -95,8 +95,8 @@ bool CommandRunner::isFound(const QString &command) const
     const Macro macro = parsed(command);
     if (macro.cancels > 0)
         return macro.rest.isEmpty() || m_stack.lookupCommand(OdString(macro.rest));
-    const ActionItem *item = m_catalogue.find(command);
-    return item && item->isPresent && item->action() && item->action()->isEnabled();
+    const ActionItem *item = m_catalogue.findUsable(command);
+    return item && item->isUsable();
 }
 
 void CommandRunner::execute(const QString &command)
@@ -129,7 +129,7 @@ void CommandRunner::executeStackCommand(const QString &name)
 
 void CommandRunner::trigger(const QString &name)
 {
-    const ActionItem *item = m_catalogue.find(name);
+    const ActionItem *item = m_catalogue.findUsable(name);
     if (!item) {
         m_output.showForAWhile(translated("There is no command \"%1\".").arg(name));
     } else if (!item->isPresent || !item->action()) {

@@ -22,7 +22,13 @@ GestureHost::Options GestureHost::optionsForThisProgram()
 {
     Options options;
     options.profileFolders = host::profileFolders();
+    options.guesses = true;
     return completed(options);
+}
+
+GestureHost::GestureHost(QMainWindow *window)
+    : GestureHost(window, Options())
+{
 }
 
 GestureHost::GestureHost(QMainWindow *window, const Options &options)

@@ -42,6 +42,9 @@ public:
         // Folders that are searched for "<program>.json", first match wins. Default: none,
         // a program without a profile names its views with addView().
         QStringList profileFolders;
+        // Whether what no profile says is guessed from what the program looks like: which
+        // widgets are its views, which actions its well-known commands.
+        bool guesses = false;
         // The module's file. Default: the one installed beside this library.
         QString moduleFile;
         // Where the bindings are kept. Default: a file of the program's name in the user's
@@ -49,12 +52,13 @@ public:
         QString settingsFile;
     };
 
-    // Everything filled in for the running program as it is: its name, and as profile
-    // folders those of GESTUREWIDGET_PROFILES, the user's and the installed ones. To be
-    // called once the application object exists.
+    // Everything filled in for the running program as it is: its name, as profile folders
+    // those of GESTUREWIDGET_PROFILES, the user's and the installed ones, and guesses for
+    // the rest. To be called once the application object exists.
     [[nodiscard]] static Options optionsForThisProgram();
 
-    explicit GestureHost(QMainWindow *window, const Options &options = {});
+    explicit GestureHost(QMainWindow *window);
+    GestureHost(QMainWindow *window, const Options &options);
     // Stops. What the module was given stays until the application ends.
     ~GestureHost();
     Q_DISABLE_COPY_MOVE(GestureHost)

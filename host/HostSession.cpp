@@ -1,5 +1,6 @@
 #include "host/HostSession.h"
 
+#include "host/CommandCatalogue.h"
 #include "host/CommandStack.h"
 #include "host/HostEditor.h"
 #include "host/ProgramProfile.h"
@@ -69,6 +70,8 @@ bool HostSession::start(QString *error)
         std::fprintf(stderr, "mouse gestures: %s\n", qPrintable(message));
 
     m_services = std::make_unique<SystemServices>(window, profile, &m_documents, m_options.settingsFile);
+    if (m_options.guesses)
+        m_services->catalogue().guessWellKnown();
     m_services->setApplication(&m_application);
     m_services->setMainFrame(&m_mainFrame);
     SetHxSystemServices(m_services.get());
@@ -78,7 +81,7 @@ bool HostSession::start(QString *error)
     m_pointerFilter = std::make_unique<PointerFilter>(
         m_documents, Trigger{profile.triggerButton, profile.triggerModifiers},
         [this] { return gesturesAreEnabled(); });
-    m_viewFinder = std::make_unique<ViewFinder>(profile.viewClasses);
+    m_viewFinder = std::make_unique<ViewFinder>(profile.viewClasses, m_options.guesses);
     connect(m_viewFinder.get(), &ViewFinder::viewFound, this, &HostSession::openView);
     connect(&m_menuWatch, &MenuWatch::settled, this,
             [this] { m_services->editor().notifyMainFrameCreated(m_window); });

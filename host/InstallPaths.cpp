@@ -31,9 +31,23 @@ QString configFolder()
 
 } // namespace
 
+QString chooseProgramName(const QString &typed, const QString &file, const QStringList &folders)
+{
+    const QStringList names{QFileInfo(typed).fileName().toLower(), QFileInfo(file).fileName().toLower()};
+    for (const QString &name : names) {
+        for (const QString &folder : folders) {
+            if (!name.isEmpty() && !folder.isEmpty()
+                && QFileInfo::exists(QDir(folder).filePath(name + QLatin1String(".json"))))
+                return name;
+        }
+    }
+    return names.last();
+}
+
 QString programName()
 {
-    return QFileInfo(QCoreApplication::applicationFilePath()).fileName().toLower();
+    return chooseProgramName(QCoreApplication::arguments().value(0),
+                             QCoreApplication::applicationFilePath(), profileFolders());
 }
 
 QString moduleFile()

@@ -7,8 +7,13 @@
 // tree and in an installation alike.
 namespace host {
 
-// The name of the running program's file, in lower case.
+// The running program's name in lower case, see chooseProgramName().
 [[nodiscard]] QString programName();
+// A program may be started by a link that is named as people know it, to a file that is
+// not. Of the name `typed` and that of the `file` it is the first that one of `folders`
+// has a profile for; without a profile, the file's.
+[[nodiscard]] QString chooseProgramName(const QString &typed, const QString &file,
+                                        const QStringList &folders);
 // The module of this Qt version, beside this library.
 [[nodiscard]] QString moduleFile();
 // Where the bindings for a program are kept.

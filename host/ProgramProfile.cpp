@@ -58,6 +58,12 @@ public:
         return value.toString();
     }
 
+    // A list of names, or one name alone.
+    QStringList namesOf(const QString &key)
+    {
+        return m_object.value(key).isArray() ? strings(key) : QStringList(string(key));
+    }
+
     QStringList strings(const QString &key)
     {
         const QJsonValue value = m_object.value(key);
@@ -125,10 +131,10 @@ void readCommands(Reader &profileReader, ProgramProfile &profile)
                   QStringLiteral("wellKnownCommands."));
     const QStringList identifiers = reader.keys();
     for (const QString &identifier : identifiers) {
-        const QString action = reader.string(identifier);
-        if (identifier.isEmpty() || action.isEmpty())
+        const QStringList actions = reader.namesOf(identifier);
+        if (identifier.isEmpty() || actions.isEmpty() || actions.contains(QString()))
             reader.fail(QStringLiteral("\"wellKnownCommands.%1\" names no action").arg(identifier));
-        profile.wellKnownCommands.insert(identifier, action);
+        profile.wellKnownCommands.insert(identifier, actions);
     }
     if (!reader.problem().isEmpty())
         profileReader.fail(reader.problem());
@@ -140,7 +146,10 @@ QString fill(ProgramProfile &profile, const QByteArray &text)
     Reader reader(text);
     reader.allow({QStringLiteral("version"), QStringLiteral("program"), QStringLiteral("viewClasses"),
                   QStringLiteral("trigger"), QStringLiteral("wellKnownCommands"),
-                  QStringLiteral("toolsMenu"), QStringLiteral("commandLineClass")});
+                  QStringLiteral("toolsMenu"), QStringLiteral("commandLineClass"),
+                  QStringLiteral("why")});
+    // For whoever reads the file: what the rest of it was concluded from.
+    static_cast<void>(reader.object(QStringLiteral("why")));
     const QJsonValue version = reader.value(QStringLiteral("version"));
     if (!version.isDouble())
         reader.fail(QStringLiteral("\"version\" is missing or not a number"));

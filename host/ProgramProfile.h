@@ -21,8 +21,10 @@ struct ProgramProfile
     Qt::MouseButton triggerButton = Qt::RightButton;
     Qt::KeyboardModifiers triggerModifiers = Qt::NoModifier;
     // Well-known identifier, such as "ID_LINE", to what names the program's own action:
-    // its object name, or its path of captions such as "File/Open...".
-    QHash<QString, QString> wellKnownCommands;
+    // its object name, or its path of captions such as "File/Open...". Of several names,
+    // for a program that changes its menus with the task, the first counts whose action
+    // can be used at the moment.
+    QHash<QString, QStringList> wellKnownCommands;
     // Object name or caption of the menu that gets the entry of the module; empty to look
     // for one called "Tools".
     QString toolsMenu;

@@ -5,6 +5,7 @@
 #include "host/CommandManager.h"
 #include "host/CommandRunner.h"
 #include "host/CommandStack.h"
+#include "host/ExpectedCommands.h"
 #include "host/HelpGuide.h"
 #include "host/HostEditor.h"
 #include "host/MessageBox.h"
@@ -45,6 +46,12 @@ public:
         , commandLine(profile.commandLineClass, stack,
                       [this](const QString &name) { runner.runStackCommand(name); })
     {
+        if (!mainWindow)
+            return; // no program to expect anything of
+        const QMap<QString, QString> expected =
+            expectedCommands(profile.wellKnownCommands, SettingsFile(settingsFile).read());
+        for (auto it = expected.begin(); it != expected.end(); ++it)
+            catalogue.expect(it.key(), it.value());
     }
 
     QPointer<QMainWindow> window;
@@ -80,6 +87,11 @@ CommandStack &SystemServices::commandStack()
 HostEditor &SystemServices::editor()
 {
     return m_d->editor;
+}
+
+CommandCatalogue &SystemServices::catalogue()
+{
+    return m_d->catalogue;
 }
 
 HelpGuide &SystemServices::helpGuide()

@@ -10,6 +10,7 @@ class QMainWindow;
 
 namespace host {
 
+class CommandCatalogue;
 class CommandStack;
 class HelpGuide;
 class HostEditor;
@@ -37,6 +38,7 @@ public:
     [[nodiscard]] CommandStack &commandStack();
     [[nodiscard]] HostEditor &editor();
     [[nodiscard]] HelpGuide &helpGuide();
+    [[nodiscard]] CommandCatalogue &catalogue();
     // Not owned; null until set.
     void setApplication(CHxApplication *application);
     void setMainFrame(CHxMainFrame *mainFrame);

@@ -63,7 +63,7 @@ private Q_SLOTS:
         m_stack = std::make_unique<host::CommandStack>();
         m_catalogue = std::make_unique<host::CommandCatalogue>(
             m_window.get(),
-            QHash<QString, QString>{{QStringLiteral("ID_LINE"), QStringLiteral("drawLine")}});
+            QHash<QString, QStringList>{{QStringLiteral("ID_LINE"), {QStringLiteral("drawLine")}}});
         m_output = std::make_unique<host::TextOutput>(m_window.get());
         m_runner = std::make_unique<CommandRunner>(*m_stack, *m_catalogue, *m_output, m_documents.get());
         m_command = ScriptedCommand::make("GESTURE");

@@ -137,10 +137,10 @@ void TestHostCommandCatalogue::commandsHaveTextsAndIcons()
 void TestHostCommandCatalogue::wellKnownIdentifiersComeFromTheProfile()
 {
     CommandCatalogue catalogue(m_window.get(),
-                               {{QStringLiteral("ID_LINE"), QStringLiteral("drawLine")},
-                                {QStringLiteral("ID_SAVE"), QStringLiteral("File/Export/Picture...")},
-                                {QStringLiteral("ID_OPEN"), QStringLiteral("File/Open...")},
-                                {QStringLiteral("ID_TRIM"), QStringLiteral("modifyTrim")}});
+                               {{QStringLiteral("ID_LINE"), {QStringLiteral("drawLine")}},
+                                {QStringLiteral("ID_SAVE"), {QStringLiteral("File/Export/Picture...")}},
+                                {QStringLiteral("ID_OPEN"), {QStringLiteral("File/Open...")}},
+                                {QStringLiteral("ID_TRIM"), {QStringLiteral("modifyTrim")}}});
     QCOMPARE(listing(catalogue).first(),
              QStringLiteral("File: fileNew | ID_OPEN | ID_SAVE | File/Export/Text & numbers..."));
     QCOMPARE(listing(catalogue).at(1), QStringLiteral("Draw: ID_LINE | drawCircle"));
@@ -156,7 +156,7 @@ void TestHostCommandCatalogue::aWellKnownIdentifierIsNotTakenByAnother()
 {
     m_window->fileNew->setObjectName(QStringLiteral("ID_LINE")); // comes before the line
     CommandCatalogue catalogue(m_window.get(),
-                               {{QStringLiteral("ID_LINE"), QStringLiteral("drawLine")}});
+                               {{QStringLiteral("ID_LINE"), {QStringLiteral("drawLine")}}});
     const ActionItem *line = catalogue.find(QStringLiteral("ID_LINE"));
     QVERIFY(line);
     QCOMPARE(line->action(), m_window->line);
@@ -376,7 +376,7 @@ void TestHostCommandCatalogue::commandsThatAreGoneAreKept()
 void TestHostCommandCatalogue::aCommandComesBackWithItsKey()
 {
     CommandCatalogue catalogue(m_window.get(),
-                               {{QStringLiteral("ID_LINE"), QStringLiteral("drawLine")}});
+                               {{QStringLiteral("ID_LINE"), {QStringLiteral("drawLine")}}});
     ActionItem *line = catalogue.find(QStringLiteral("ID_LINE"));
     QVERIFY(line);
     delete m_window->line;

@@ -79,8 +79,9 @@ void TestProgramProfile::readsEverything()
     write(QStringLiteral("drafter.json"), R"({
         "version": 1, "program": "drafter", "viewClasses": ["Canvas", "ns::View"],
         "trigger": { "button": "middle", "modifiers": ["control", "shift"] },
-        "wellKnownCommands": { "ID_LINE": "drawLine", "ID_OPEN": "File/Open..." },
-        "toolsMenu": "extras", "commandLineClass": "CommandEdit" })");
+        "wellKnownCommands": { "ID_LINE": "drawLine", "ID_OPEN": ["File/Open...", "fileOpen"] },
+        "toolsMenu": "extras", "commandLineClass": "CommandEdit",
+        "why": { "viewClasses": { "Canvas": "it is the largest" } } })");
     QString message;
     const ProgramProfile profile = read(&message);
     QCOMPARE(message, QString());
@@ -89,8 +90,10 @@ void TestProgramProfile::readsEverything()
     QCOMPARE(profile.triggerButton, Qt::MiddleButton);
     QCOMPARE(profile.triggerModifiers, Qt::ControlModifier | Qt::ShiftModifier);
     QCOMPARE(profile.wellKnownCommands.size(), 2);
-    QCOMPARE(profile.wellKnownCommands.value(QStringLiteral("ID_LINE")), QStringLiteral("drawLine"));
-    QCOMPARE(profile.wellKnownCommands.value(QStringLiteral("ID_OPEN")), QStringLiteral("File/Open..."));
+    QCOMPARE(profile.wellKnownCommands.value(QStringLiteral("ID_LINE")),
+             QStringList(QStringLiteral("drawLine")));
+    QCOMPARE(profile.wellKnownCommands.value(QStringLiteral("ID_OPEN")),
+             QStringList({QStringLiteral("File/Open..."), QStringLiteral("fileOpen")}));
     QCOMPARE(profile.toolsMenu, QStringLiteral("extras"));
     QCOMPARE(profile.commandLineClass, QStringLiteral("CommandEdit"));
 }
@@ -155,6 +158,12 @@ void TestProgramProfile::brokenProfileIsNamed_data()
     row("commands as list", R"("wellKnownCommands": [])", "\"wellKnownCommands\" is not an object");
     row("command as number", R"("wellKnownCommands": {"ID_LINE": 1})", "\"wellKnownCommands.ID_LINE\"");
     row("empty command", R"("wellKnownCommands": {"ID_LINE": ""})", "\"wellKnownCommands.ID_LINE\"");
+    row("no command", R"("wellKnownCommands": {"ID_LINE": []})", "\"wellKnownCommands.ID_LINE\"");
+    row("empty among commands", R"("wellKnownCommands": {"ID_LINE": ["a", ""]})",
+        "\"wellKnownCommands.ID_LINE\"");
+    row("number among commands", R"("wellKnownCommands": {"ID_LINE": ["a", 1]})",
+        "\"wellKnownCommands.ID_LINE\"");
+    row("reasons as text", R"("why": "because")", "\"why\" is not an object");
     row("menu as list", R"("toolsMenu": [])", "\"toolsMenu\" is not a string");
     row("class as null", R"("commandLineClass": null)", "\"commandLineClass\" is not a string");
 }

@@ -90,7 +90,7 @@ private:
     std::unique_ptr<SystemServices> make(QMainWindow *window)
     {
         host::ProgramProfile profile;
-        profile.wellKnownCommands.insert(QStringLiteral("ID_LINE"), QStringLiteral("drawLine"));
+        profile.wellKnownCommands.insert(QStringLiteral("ID_LINE"), {QStringLiteral("drawLine")});
         profile.toolsMenu = QStringLiteral("drawMenu");
         profile.commandLineClass = QStringLiteral("ServicesCommandEdit");
         return std::make_unique<SystemServices>(window, profile, &m_documents,

@@ -102,7 +102,7 @@ private:
     void start(const QString &toolsMenu = {})
     {
         m_manager.reset();
-        m_catalogue = std::make_unique<CommandCatalogue>(m_window.get(), QHash<QString, QString>());
+        m_catalogue = std::make_unique<CommandCatalogue>(m_window.get(), QHash<QString, QStringList>());
         m_manager = std::make_unique<UiManager>(
             *m_catalogue, toolsMenu, [this](const QString &command) { m_run.append(command); });
         m_run.clear();

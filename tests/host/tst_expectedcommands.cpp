@@ -1,0 +1,279 @@
+#include "host/ExpectedCommands.h"
+
+#include "host/ActionItem.h"
+#include "host/CommandCatalogue.h"
+#include "host/CommandRunner.h"
+#include "host/CommandStack.h"
+#include "host/InstallPaths.h"
+#include "host/TextOutput.h"
+#include "tests/host/DraftWindow.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+using host::ActionItem;
+using host::CommandCatalogue;
+using host::expectedCommands;
+using tests::DraftWindow;
+using WellKnown = QHash<QString, QStringList>;
+
+namespace {
+
+const QString kLine = QStringLiteral("ID_LINE");
+
+QString id(const ActionItem *item)
+{
+    return item ? item->GetIdentifier().toQString() : QString();
+}
+
+QString caption(const ActionItem *item)
+{
+    return item ? item->GetCaption().toQString() : QString();
+}
+
+} // namespace
+
+// Commands that are offered before any menu has them, those with several names, and those
+// that are guessed.
+class TestExpectedCommands : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { tests::failOnWarnings(); }
+    void init()
+    {
+        tests::resetWarnings();
+        m_window = std::make_unique<DraftWindow>();
+    }
+    void cleanup()
+    {
+        m_window.reset();
+        QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
+    }
+
+    void wellKnownAndBoundOnesAreExpected();
+    void anExpectedCommandIsOffered();
+    void itIsTakenUpByItsAction_data();
+    void itIsTakenUpByItsAction();
+    void whatIsThereIsNotExpected();
+    void anotherNameMayTurnUpLater();
+    void theFirstThatCanBeUsedRuns();
+    void guessesFillWhatTheProfileLeavesOut();
+    void aGuessTakesUpWhatIsExpected();
+    void withoutGuessesNothingIsGuessed();
+    void guessesStayWhenMenusAreRebuilt();
+    void theProgramsNameIsThatOfItsProfile_data();
+    void theProgramsNameIsThatOfItsProfile();
+
+private:
+    std::unique_ptr<DraftWindow> m_window;
+};
+
+void TestExpectedCommands::wellKnownAndBoundOnesAreExpected()
+{
+    const host::SettingsFile::Values settings{
+        {QStringLiteral("GestureWidget/41"), QStringLiteral("Draft_Circle")},
+        {QStringLiteral("GestureWidget/87"), QStringLiteral("Draw/Arcs/By centre")},
+        {QStringLiteral("GestureWidget/88"), QString()},
+        {QStringLiteral("GestureWidget/ActiveScheme"), QStringLiteral("8")},
+        {QStringLiteral("GestureWidget/EnableMouseGesture"), QStringLiteral("1")},
+        {QStringLiteral("Window/41"), QStringLiteral("large")},
+    };
+    const QMap<QString, QString> expected =
+        expectedCommands({{kLine, {QStringLiteral("Draft_Line")}}}, settings);
+    QCOMPARE(expected, (QMap<QString, QString>{
+                           {kLine, QStringLiteral("Line")},
+                           {QStringLiteral("Draft_Circle"), QStringLiteral("Draft_Circle")},
+                           {QStringLiteral("Draw/Arcs/By centre"), QStringLiteral("By centre")}}));
+}
+
+void TestExpectedCommands::anExpectedCommandIsOffered()
+{
+    CommandCatalogue catalogue(m_window.get(), {});
+    catalogue.expect(QStringLiteral("drawSpline"), QStringLiteral("Spline"));
+    catalogue.expect(QString(), QStringLiteral("Nothing"));
+    const ActionItem *item = catalogue.find(QStringLiteral("drawSpline"));
+    QVERIFY(item);
+    QCOMPARE(caption(item), QStringLiteral("Spline"));
+    QVERIFY(!item->isPresent);
+    QVERIFY(!item->isUsable());
+    int count = 0;
+    for (const auto &group : catalogue.groups())
+        count += static_cast<int>(std::count(group->items.begin(), group->items.end(), item));
+    QCOMPARE(count, 1);
+    // Also after the menus have been read.
+    catalogue.expect(QStringLiteral("drawHatch"), QStringLiteral("Hatch"));
+    QVERIFY(catalogue.find(QStringLiteral("drawHatch")));
+    QCOMPARE(catalogue.find(QString()), nullptr);
+}
+
+void TestExpectedCommands::itIsTakenUpByItsAction_data()
+{
+    QTest::addColumn<QString>("identifier");
+    QTest::addColumn<WellKnown>("wellKnown");
+    QTest::newRow("by object name") << QStringLiteral("drawSpline") << WellKnown();
+    QTest::newRow("well known, by object name")
+        << kLine << WellKnown{{kLine, {QStringLiteral("drawSpline")}}};
+    QTest::newRow("well known, by captions")
+        << kLine << WellKnown{{kLine, {QStringLiteral("Draw/Spline")}}};
+    QTest::newRow("well known, by its second name")
+        << kLine << WellKnown{{kLine, {QStringLiteral("none"), QStringLiteral("drawSpline")}}};
+}
+
+void TestExpectedCommands::itIsTakenUpByItsAction()
+{
+    QFETCH(QString, identifier);
+    QFETCH(WellKnown, wellKnown);
+    CommandCatalogue catalogue(m_window.get(), wellKnown);
+    catalogue.expect(identifier, QStringLiteral("Expected"));
+    ActionItem *item = catalogue.find(identifier);
+    QVERIFY(item);
+    QAction *spline = DraftWindow::addAction(m_window->draw, "&Spline", "drawSpline");
+    QCOMPARE(catalogue.find(identifier), item);
+    QCOMPARE(catalogue.find(QStringLiteral("drawSpline")), item);
+    QCOMPARE(catalogue.itemOf(spline), item);
+    QCOMPARE(id(item), identifier);
+    QCOMPARE(caption(item), QStringLiteral("Spline"));
+    QVERIFY(item->isUsable());
+}
+
+void TestExpectedCommands::whatIsThereIsNotExpected()
+{
+    CommandCatalogue catalogue(m_window.get(), {});
+    const ActionItem *line = catalogue.find(QStringLiteral("drawLine"));
+    catalogue.expect(QStringLiteral("drawLine"), QStringLiteral("Expected"));
+    QCOMPARE(catalogue.find(QStringLiteral("drawLine")), line);
+    QCOMPARE(caption(line), QStringLiteral("Line"));
+}
+
+// The second name takes the identifier, and the first is a command of its own when it comes.
+void TestExpectedCommands::anotherNameMayTurnUpLater()
+{
+    CommandCatalogue catalogue(m_window.get(),
+                               {{kLine, {QStringLiteral("sketchLine"), QStringLiteral("drawLine")}}});
+    catalogue.expect(kLine, QStringLiteral("Line"));
+    QCOMPARE(id(catalogue.itemOf(m_window->line)), kLine);
+    QAction *sketch = DraftWindow::addAction(m_window->file, "Sketch line", "sketchLine");
+    QCOMPARE(id(catalogue.itemOf(sketch)), QStringLiteral("sketchLine"));
+    QCOMPARE(catalogue.find(QStringLiteral("sketchLine")), catalogue.itemOf(sketch));
+    QCOMPARE(id(catalogue.itemOf(m_window->line)), kLine);
+}
+
+void TestExpectedCommands::theFirstThatCanBeUsedRuns()
+{
+    QAction *sketch = DraftWindow::addAction(m_window->file, "Sketch line", "sketchLine");
+    CommandCatalogue catalogue(m_window.get(),
+                               {{kLine, {QStringLiteral("sketchLine"), QStringLiteral("drawLine")}}});
+    host::CommandStack stack;
+    host::TextOutput output(m_window.get());
+    host::CommandRunner runner(stack, catalogue, output, nullptr);
+    QSignalSpy sketches(sketch, &QAction::triggered);
+    QSignalSpy lines(m_window->line, &QAction::triggered);
+    const auto ran = [&] { return qMakePair(int(sketches.count()), int(lines.count())); };
+
+    QVERIFY(runner.run(kLine, true)->IsFound());
+    QCOMPARE(ran(), qMakePair(1, 0));
+    sketch->setEnabled(false);
+    QVERIFY(runner.run(kLine, true)->IsFound());
+    QCOMPARE(ran(), qMakePair(1, 1));
+    sketch->setEnabled(true);
+    QVERIFY(runner.run(kLine, true)->IsFound());
+    QCOMPARE(ran(), qMakePair(2, 1));
+    m_window->file->removeAction(sketch);
+    QVERIFY(runner.run(kLine, true)->IsFound());
+    QCOMPARE(ran(), qMakePair(2, 2));
+    m_window->line->setEnabled(false);
+    QVERIFY(!runner.run(kLine, true)->IsFound());
+    QCOMPARE(ran(), qMakePair(2, 2));
+}
+
+void TestExpectedCommands::guessesFillWhatTheProfileLeavesOut()
+{
+    QAction *trim = DraftWindow::addAction(m_window->draw, "Trim", "cutOff");
+    CommandCatalogue catalogue(m_window.get(), {{kLine, {QStringLiteral("drawCircle")}}});
+    catalogue.guessWellKnown();
+    QCOMPARE(id(catalogue.itemOf(m_window->fileOpen)), QStringLiteral("ID_OPEN"));
+    QCOMPARE(id(catalogue.itemOf(trim)), QStringLiteral("ID_TRIM"));
+    QCOMPARE(catalogue.reasonFor(QStringLiteral("ID_TRIM")), QStringLiteral("caption \"Trim\""));
+    // What the profile says is not guessed.
+    QCOMPARE(id(catalogue.itemOf(m_window->circle)), kLine);
+    QCOMPARE(id(catalogue.itemOf(m_window->line)), QStringLiteral("drawLine"));
+    QCOMPARE(catalogue.reasonFor(kLine), QString());
+    QCOMPARE(catalogue.find(QStringLiteral("fileOpen")), catalogue.find(QStringLiteral("ID_OPEN")));
+}
+
+void TestExpectedCommands::aGuessTakesUpWhatIsExpected()
+{
+    CommandCatalogue catalogue(m_window.get(), {});
+    catalogue.guessWellKnown();
+    catalogue.expect(QStringLiteral("ID_TRIM"), QStringLiteral("Trim"));
+    const ActionItem *expected = catalogue.find(QStringLiteral("ID_TRIM"));
+    QVERIFY(expected && !expected->isPresent);
+    QAction *trim = DraftWindow::addAction(m_window->draw, "Trim", "cutOff");
+    QCOMPARE(catalogue.itemOf(trim), expected);
+    QAction *second = DraftWindow::addAction(m_window->draw, "Trim", "cutMore");
+    QCOMPARE(id(catalogue.itemOf(second)), QStringLiteral("cutMore"));
+}
+
+void TestExpectedCommands::withoutGuessesNothingIsGuessed()
+{
+    CommandCatalogue catalogue(m_window.get(), {});
+    QCOMPARE(id(catalogue.itemOf(m_window->line)), QStringLiteral("drawLine"));
+    QCOMPARE(catalogue.find(kLine), nullptr);
+}
+
+void TestExpectedCommands::guessesStayWhenMenusAreRebuilt()
+{
+    CommandCatalogue catalogue(m_window.get(), {});
+    catalogue.guessWellKnown();
+    const ActionItem *line = catalogue.find(kLine);
+    QVERIFY(line);
+    QCOMPARE(line->action(), m_window->line);
+    delete m_window->line;
+    m_window->line = nullptr;
+    QCOMPARE(catalogue.find(kLine), line);
+    QVERIFY(!line->isUsable());
+    QAction *again = DraftWindow::addAction(m_window->draw, "&Line", "drawLine");
+    QCOMPARE(catalogue.itemOf(again), line);
+    QCOMPARE(id(line), kLine);
+    QVERIFY(line->isUsable());
+}
+
+void TestExpectedCommands::theProgramsNameIsThatOfItsProfile_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("name");
+    const auto row = [](const char *title, const char *typed, const char *file, const char *name) {
+        QTest::newRow(title) << QString::fromLatin1(typed) << QString::fromLatin1(file)
+                             << QString::fromLatin1(name);
+    };
+    row("typed", "drafter", "/usr/lib/drafter/bin/drafter-5", "drafter");
+    row("typed with folder", "/usr/bin/Drafter", "/usr/lib/drafter/bin/drafter-5", "drafter");
+    row("file", "start", "/opt/Drafter", "drafter");
+    row("both", "sketcher", "/opt/drafter", "sketcher");
+    row("neither", "start", "/opt/Painter", "painter");
+    row("nothing typed", "", "/opt/drafter", "drafter");
+}
+
+void TestExpectedCommands::theProgramsNameIsThatOfItsProfile()
+{
+    QFETCH(QString, typed);
+    QFETCH(QString, file);
+    QFETCH(QString, name);
+    QTemporaryDir folder;
+    for (const char *profile : {"drafter.json", "sketcher.json"}) {
+        QFile stub(folder.filePath(QLatin1String(profile)));
+        QVERIFY(stub.open(QIODevice::WriteOnly));
+    }
+    QCOMPARE(host::chooseProgramName(typed, file, {QString(), folder.path()}), name);
+}
+
+QTEST_MAIN(TestExpectedCommands)
+#include "tst_expectedcommands.moc"
