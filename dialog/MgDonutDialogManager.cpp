@@ -34,6 +34,9 @@
 namespace {
 
 constexpr int kHelpTopic = 9000;
+// Characters of a description. The label has room for a few hundred; laying out a whole
+// million of them would stop the program for seconds.
+constexpr int kLongestDescription = 10000;
 
 struct Direction
 {
@@ -373,7 +376,7 @@ void MgDonutDialogManager::showSelectedCommand()
     const int row = proxy->mapToSource(shown).row();
     if (row < 0 || row >= static_cast<int>(commands.size()))
         return;
-    ui.description_label->setText(commands[row].tooltip);
+    ui.description_label->setText(commands[row].tooltip.left(kLongestDescription));
     table->beginEditing(shown.sibling(shown.row(), MgCommandDSModel::kDirectionColumn));
 }
 

@@ -754,7 +754,8 @@ void tst_configurationdialog::badTexts()
     const int row = m_dialog->rowOf(text);
     QVERIFY(row >= 0);
     tests::click(m_dialog->ui.command_tableView, m_dialog->cell(row, kCommand));
-    QCOMPARE(m_dialog->ui.description_label->text(), text);
+    // Of an enormous one as much as the label could not show in any case.
+    QCOMPARE(m_dialog->ui.description_label->text(), text.left(10000));
     QVERIFY(m_dialog->editor());
     bind(text, 5);
     QCOMPARE(int(m_dialog->record(QStringLiteral("ID_BAD")).eightDirection), 5);

@@ -1,0 +1,701 @@
+#include "bindings/MgDonutDataContainer.h"
+#include "dialog/BindingListDocument.h"
+#include "dialog/PrintTableView.h"
+#include "tests/dialog/DraftingCommands.h"
+#include "tests/dialog/Input.h"
+#include "tests/dialog/TestDialog.h"
+#include "tests/fakehost/FakeHost.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QHeaderView>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QProcess>
+#include <QStandardItemModel>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextTable>
+#include <QTimer>
+
+#include <cmath>
+#include <memory>
+
+using tests::TestDialog;
+
+namespace {
+
+constexpr int kCommand = 1;
+constexpr int kDirection = 2;
+
+std::unique_ptr<QTextDocument> documentOf(QAbstractItemModel *model)
+{
+    return std::unique_ptr<QTextDocument>(createBindingListDocument(model));
+}
+
+// The document's one table; null when there is none.
+QTextTable *tableOf(const QTextDocument &document)
+{
+    const QList<QTextFrame *> frames = document.rootFrame()->childFrames();
+    return frames.size() == 1 ? qobject_cast<QTextTable *>(frames.front()) : nullptr;
+}
+
+QString textOf(const QTextTableCell &cell)
+{
+    QTextCursor cursor = cell.firstCursorPosition();
+    cursor.setPosition(cell.lastCursorPosition().position(), QTextCursor::KeepAnchor);
+    return cursor.selectedText();
+}
+
+QStringList columnOf(const QTextTable &table, int column)
+{
+    QStringList texts;
+    for (int row = 0; row < table.rows(); ++row)
+        texts.append(textOf(table.cellAt(row, column)));
+    return texts;
+}
+
+QColor backgroundOf(const QTextTableCell &cell)
+{
+    return cell.format().background().color();
+}
+
+// A run of characters of a cell with one format.
+QTextFragment fragmentOf(const QTextTableCell &cell, int number)
+{
+    auto fragment = cell.firstCursorPosition().block().begin();
+    for (int skipped = 0; skipped < number; ++skipped)
+        ++fragment;
+    return fragment.fragment();
+}
+
+// What a tool says about a file; empty when it failed.
+QString run(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    if (!process.waitForFinished(60000) || process.exitCode() != 0)
+        return {};
+    return QString::fromUtf8(process.readAllStandardOutput());
+}
+
+// The words of a printed page, in reading order. Fonts print some pairs of letters as one.
+QStringList wordsOf(const QString &file)
+{
+    return run(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), file, QStringLiteral("-")})
+        .normalized(QString::NormalizationForm_KC)
+        .simplified()
+        .split(QLatin1Char(' '));
+}
+
+int pagesOf(const QString &file)
+{
+    const QString info = run(QStringLiteral("pdfinfo"), {file});
+    const QStringList words = info.simplified().split(QLatin1Char(' '));
+    const auto place = words.indexOf(QLatin1String("Pages:"));
+    return place < 0 ? 0 : words.value(place + 1).toInt();
+}
+
+} // namespace
+
+class tst_printing : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void headerOnlyWhenNothingMatches();
+    void rowsInTheOrderOfTheSelectColumn();
+    void filteredRowsOnly();
+    void cellWithIconAndNoTextHasMargins();
+    void rowsAlternate();
+    void leadingSpacesAreKept();
+    void tableFormat();
+    void headerCells();
+    void rolesOfTheModel();
+    void blocksTakeTheModelsAlignment();
+    void iconsAreThirtyTwoPixels();
+    void textIsNeverRendered_data();
+    void textIsNeverRendered();
+    void modelsWithoutATable();
+    void belongsToTheCaller();
+
+    void printsWhatTheTableShows();
+    void printedPagesLook();
+    void cancelledPrintsNothing();
+    void realPrintDialog_data();
+    void realPrintDialog();
+    void everyPrintStartsAfresh();
+    void documentIsFreed();
+    void tenThousandCommands();
+
+    void tableViewFillsTheArea();
+    void tableViewPaintsRowsThatAreScrolledAway();
+    void tableViewWithoutRows();
+    void tableViewWithoutModel();
+
+private:
+    void open(int commands);
+    void printToFile();
+
+    QTemporaryDir m_folder;
+    QString m_file;
+    std::unique_ptr<tests::FakeHost> m_host;
+    std::unique_ptr<TestDialog> m_dialog;
+};
+
+void tst_printing::initTestCase()
+{
+    tests::failOnWarnings();
+    QVERIFY(m_folder.isValid());
+    // The pages are read back with these.
+    QVERIFY(!run(QStringLiteral("which"),
+                 {QStringLiteral("pdftotext"), QStringLiteral("pdfinfo"), QStringLiteral("pdftoppm")})
+                 .isEmpty());
+}
+
+void tst_printing::init()
+{
+    tests::resetWarnings();
+    m_file = m_folder.filePath(QLatin1String(QTest::currentTestFunction()) + QLatin1String(".pdf"));
+    m_host = std::make_unique<tests::FakeHost>();
+}
+
+void tst_printing::cleanup()
+{
+    m_dialog.reset();
+    m_host.reset();
+    QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
+}
+
+void tst_printing::open(int commands)
+{
+    tests::addDraftingCommands(*m_host, commands, true);
+    MgDonutDataContainer::instance()->init();
+    m_dialog = std::make_unique<TestDialog>();
+    m_dialog->printDialog = [this](QPrinter &printer) {
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(m_file);
+        return static_cast<int>(QDialog::Accepted);
+    };
+    QVERIFY(tests::showActive(*m_dialog));
+}
+
+void tst_printing::printToFile()
+{
+    tests::click(m_dialog->ui.print_pushButton);
+    QVERIFY(QFile::exists(m_file));
+}
+
+void tst_printing::headerOnlyWhenNothingMatches()
+{
+    open(30);
+    m_dialog->ui.search_lineEdit->setText(QStringLiteral("no such command"));
+    const auto document = documentOf(m_dialog->proxy);
+    QCOMPARE(tableOf(*document)->rows(), 1);
+    QCOMPARE(tableOf(*document)->columns(), 3);
+    QCOMPARE(document->toPlainText().simplified(), QStringLiteral("Category Command Select"));
+    printToFile();
+    // The page number follows.
+    QCOMPARE(wordsOf(m_file), QStringList({QStringLiteral("Category"), QStringLiteral("Command"),
+                                           QStringLiteral("Select"), QStringLiteral("1")}));
+}
+
+void tst_printing::rowsInTheOrderOfTheSelectColumn()
+{
+    open(30);
+    m_dialog->ui.filter_checkBox->setChecked(true);
+    m_dialog->ui.command_tableView->sortByColumn(kDirection, Qt::AscendingOrder);
+    const QStringList names{QStringLiteral("Zoom Bounds"), QStringLiteral("Offset"),
+                            QStringLiteral("Open..."),     QStringLiteral("Copy"),
+                            QStringLiteral("Save"),        QStringLiteral("Text"),
+                            QStringLiteral("Line"),        QStringLiteral("Trim")};
+    QCOMPARE(m_dialog->shown(), names);
+    const auto document = documentOf(m_dialog->proxy);
+    const QStringList printed = columnOf(*tableOf(*document), kCommand);
+    for (int row = 0; row < names.size(); ++row)
+        QVERIFY(printed[row + 1].endsWith(QLatin1String("  ") + names[row]));
+
+    printToFile();
+    const QString words = wordsOf(m_file).join(QLatin1Char(' '));
+    qsizetype place = 0;
+    for (const QString &name : names) {
+        const qsizetype found = words.indexOf(name, static_cast<int>(place));
+        QVERIFY2(found > place, qPrintable(name + QLatin1String(" in ") + words));
+        place = found;
+    }
+}
+
+void tst_printing::filteredRowsOnly()
+{
+    open(30);
+    m_dialog->ui.category_comboBox->setCurrentIndex(4);
+    m_dialog->ui.search_lineEdit->setText(QStringLiteral("c"));
+    const int rows = m_dialog->proxy->rowCount();
+    QVERIFY(rows > 0 && rows < 30);
+    const auto document = documentOf(m_dialog->proxy);
+    QCOMPARE(tableOf(*document)->rows(), rows + 1);
+    printToFile();
+    const QStringList words = wordsOf(m_file);
+    QCOMPARE(words.count(QStringLiteral("Modify")), rows);
+    QVERIFY(!words.contains(QStringLiteral("File")));
+}
+
+void tst_printing::cellWithIconAndNoTextHasMargins()
+{
+    QStandardItemModel model(3, 1);
+    model.setItem(0, 0, new QStandardItem(tests::squareIcon(Qt::red), QString()));
+    model.setItem(1, 0, new QStandardItem(QStringLiteral(" \t ")));
+    model.setItem(2, 0, new QStandardItem(tests::squareIcon(Qt::red), QStringLiteral("text")));
+    const auto document = documentOf(&model);
+    const QTextTable *table = tableOf(*document);
+    const auto block = [table](int row) {
+        return table->cellAt(row, 0).firstCursorPosition().blockFormat();
+    };
+    // The image, and the two blanks that every image has behind it.
+    QCOMPARE(textOf(table->cellAt(1, 0)),
+             QString(QChar(QChar::ObjectReplacementCharacter)) + QLatin1String("  "));
+    for (const int row : {1, 2}) {
+        QCOMPARE(block(row).topMargin(), 8.0);
+        QCOMPARE(block(row).bottomMargin(), 8.0);
+        QVERIFY(!block(row).hasProperty(QTextFormat::BlockAlignment));
+    }
+    QCOMPARE(block(3).topMargin(), 0.0);
+    QCOMPARE(block(3).bottomMargin(), 0.0);
+    QVERIFY(block(3).hasProperty(QTextFormat::BlockAlignment));
+}
+
+void tst_printing::rowsAlternate()
+{
+    open(30);
+    const auto document = documentOf(m_dialog->proxy);
+    const QTextTable *table = tableOf(*document);
+    for (int column = 0; column < 3; ++column) {
+        QCOMPARE(backgroundOf(table->cellAt(0, column)), QColor(QStringLiteral("#dfdfdf")));
+        QCOMPARE(backgroundOf(table->cellAt(1, column)), QColor(QStringLiteral("#ffffff")));
+        QCOMPARE(backgroundOf(table->cellAt(2, column)), QColor(QStringLiteral("#e1e1e1")));
+        QCOMPARE(backgroundOf(table->cellAt(3, column)), QColor(QStringLiteral("#ffffff")));
+        QCOMPARE(backgroundOf(table->cellAt(30, column)), QColor(QStringLiteral("#e1e1e1")));
+    }
+}
+
+void tst_printing::leadingSpacesAreKept()
+{
+    QStandardItemModel model(2, 1);
+    model.setItem(0, 0, new QStandardItem(QStringLiteral("   three before, two behind  ")));
+    model.setItem(1, 0, new QStandardItem(tests::squareIcon(Qt::red), QStringLiteral(" one before")));
+    const auto document = documentOf(&model);
+    const QTextTable *table = tableOf(*document);
+    QCOMPARE(textOf(table->cellAt(1, 0)), QStringLiteral("   three before, two behind  "));
+    QCOMPARE(table->cellAt(1, 0).firstCursorPosition().blockFormat().topMargin(), 0.0);
+    QCOMPARE(textOf(table->cellAt(2, 0)).mid(1), QStringLiteral("   one before"));
+}
+
+void tst_printing::tableFormat()
+{
+    open(10);
+    const auto document = documentOf(m_dialog->proxy);
+    QCOMPARE(document->parent(), nullptr);
+    const QTextTableFormat format = tableOf(*document)->format();
+    QCOMPARE(format.width(), QTextLength(QTextLength::PercentageLength, 98));
+    QCOMPARE(format.background(), QBrush(Qt::white, Qt::SolidPattern));
+    QCOMPARE(format.border(), 0.0);
+    QCOMPARE(format.cellSpacing(), 2.0);
+    QCOMPARE(format.cellPadding(), 2.0);
+    QCOMPARE(format.alignment(), Qt::AlignLeft);
+}
+
+void tst_printing::headerCells()
+{
+    open(10);
+    const auto document = documentOf(m_dialog->proxy);
+    const QTextTable *table = tableOf(*document);
+    const QStringList texts{QStringLiteral("Category"), QStringLiteral("Command"),
+                            QStringLiteral("Select")};
+    for (int column = 0; column < 3; ++column) {
+        QCOMPARE(textOf(table->cellAt(0, column)), texts[column]);
+        const QTextCharFormat format = fragmentOf(table->cellAt(0, column), 0).charFormat();
+        QCOMPARE(format.font().family(), QStringLiteral("Tahoma"));
+        QCOMPARE(format.font().pointSize(), 8);
+        QCOMPARE(format.font().weight(), int(QFont::Bold));
+        QCOMPARE(format.foreground().style(), Qt::SolidPattern);
+    }
+
+    // A model with fonts and colours of its own, and one that answers nonsense.
+    QStandardItemModel model(0, 2);
+    const QFont font(QStringLiteral("Serif"), 20);
+    model.setHorizontalHeaderLabels({QStringLiteral("own"), QStringLiteral("plain")});
+    model.setHeaderData(0, Qt::Horizontal, font, Qt::FontRole);
+    model.setHeaderData(0, Qt::Horizontal, QColor(Qt::blue), Qt::ForegroundRole);
+    model.setHeaderData(1, Qt::Horizontal, QStringLiteral("no font"), Qt::FontRole);
+    model.setHeaderData(1, Qt::Horizontal, QStringLiteral("no colour"), Qt::ForegroundRole);
+    const auto other = documentOf(&model);
+    const QTextCharFormat own = fragmentOf(tableOf(*other)->cellAt(0, 0), 0).charFormat();
+    QCOMPARE(own.font(), font);
+    QCOMPARE(own.foreground(), QBrush(Qt::blue));
+    const QTextCharFormat plain = fragmentOf(tableOf(*other)->cellAt(0, 1), 0).charFormat();
+    QCOMPARE(plain.font(), QFont());
+    QVERIFY(!plain.foreground().color().isValid());
+}
+
+void tst_printing::rolesOfTheModel()
+{
+    QStandardItemModel model(2, 1);
+    const QFont font(QStringLiteral("Serif"), 20, QFont::Bold, true);
+    const QModelIndex cell = model.index(1, 0);
+    model.setData(cell, QStringLiteral("text"));
+    model.setData(cell, font, Qt::FontRole);
+    model.setData(cell, QColor(Qt::red), Qt::ForegroundRole);
+    model.setData(cell, QColor(Qt::yellow), Qt::BackgroundRole);
+    const auto document = documentOf(&model);
+    const QTextTableCell printed = tableOf(*document)->cellAt(2, 0);
+    QCOMPARE(backgroundOf(printed), QColor(Qt::yellow));
+    const QTextCharFormat format = fragmentOf(printed, 0).charFormat();
+    QCOMPARE(format.font(), font);
+    QCOMPARE(format.foreground(), QBrush(Qt::red, Qt::SolidPattern));
+
+    // Views take brushes for these roles, too.
+    model.setData(cell, QBrush(Qt::green), Qt::ForegroundRole);
+    model.setData(cell, QBrush(Qt::cyan), Qt::BackgroundRole);
+    const auto brushes = documentOf(&model);
+    QCOMPARE(backgroundOf(tableOf(*brushes)->cellAt(2, 0)), QColor(Qt::cyan));
+    QCOMPARE(fragmentOf(tableOf(*brushes)->cellAt(2, 0), 0).charFormat().foreground().color(),
+             QColor(Qt::green));
+}
+
+void tst_printing::blocksTakeTheModelsAlignment()
+{
+    open(10);
+    const auto document = documentOf(m_dialog->proxy);
+    const QTextTable *table = tableOf(*document);
+    for (int column = 0; column < 2; ++column) {
+        const QTextBlockFormat block = table->cellAt(1, column).firstCursorPosition().blockFormat();
+        QCOMPARE(block.alignment(), Qt::AlignLeft | Qt::AlignVCenter);
+        QCOMPARE(block.topMargin(), 0.0);
+        QCOMPARE(block.bottomMargin(), 0.0);
+    }
+    QStandardItemModel model(1, 1);
+    model.setData(model.index(0, 0), QStringLiteral("text"));
+    model.setData(model.index(0, 0), int(Qt::AlignRight), Qt::TextAlignmentRole);
+    const auto right = documentOf(&model);
+    QCOMPARE(tableOf(*right)->cellAt(1, 0).firstCursorPosition().blockFormat().alignment(),
+             Qt::AlignRight);
+}
+
+void tst_printing::iconsAreThirtyTwoPixels()
+{
+    open(10);
+    const auto document = documentOf(m_dialog->proxy);
+    const QTextTable *table = tableOf(*document);
+    for (int row = 1; row <= 10; ++row) {
+        QVERIFY(fragmentOf(table->cellAt(row, kCommand), 0).charFormat().isImageFormat());
+        const QTextImageFormat format =
+            fragmentOf(table->cellAt(row, kCommand), 0).charFormat().toImageFormat();
+        const auto image =
+            document->resource(QTextDocument::ImageResource, QUrl(format.name())).value<QImage>();
+        QCOMPARE(image.size(), QSize(32, 32));
+        QVERIFY(!image.allGray());
+        QCOMPARE(textOf(table->cellAt(row, kCommand)).mid(1, 2), QStringLiteral("  "));
+    }
+    // The direction: its icon where there is one, else nothing.
+    const int line = m_dialog->rowOf(QStringLiteral("Line"));
+    QVERIFY(fragmentOf(table->cellAt(line + 1, kDirection), 0).charFormat().isImageFormat());
+    const int unbound = m_dialog->shownDirections().indexOf(0);
+    QVERIFY(unbound >= 0);
+    QCOMPARE(textOf(table->cellAt(unbound + 1, kDirection)), QString());
+}
+
+void tst_printing::textIsNeverRendered_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("markup") << QStringLiteral("<h1>Line</h1><img src=\"/etc/hostname\">&amp;");
+    QTest::newRow("right to left") << QString::fromUtf8("ارسم خطًا (Line) شريط");
+    QTest::newRow("empty") << QString();
+    QTest::newRow("line breaks") << QStringLiteral("first\nsecond\r\nthird\u2028fourth\u2029fifth");
+    QTest::newRow("frame marks") << QString::fromUtf8("a\ufdd0b\ufdd1c");
+    QTest::newRow("object placeholder") << QString(3, QChar(QChar::ObjectReplacementCharacter));
+    QTest::newRow("null characters") << QString::fromLatin1("a\0b", 3);
+    QTest::newRow("half a character") << QString(QChar(0xd83d));
+    QTest::newRow("enormous") << QString(100000, QLatin1Char('W'));
+}
+
+void tst_printing::textIsNeverRendered()
+{
+    QFETCH(QString, text);
+    m_host->commands.addCommand(QStringLiteral("ID_BAD"), QStringLiteral("bad"), text, text);
+    open(3);
+    const int row = m_dialog->rowOf(text) + 1;
+    QVERIFY(row > 0);
+    const auto document = documentOf(m_dialog->proxy);
+    const QTextTable *table = tableOf(*document);
+    QVERIFY(table);
+    QCOMPARE(table->rows(), 5);
+    QCOMPARE(table->columns(), 3);
+    if (QLatin1String(QTest::currentDataTag()) == QLatin1String("markup")) {
+        QCOMPARE(textOf(table->cellAt(row, kCommand)), text);
+        printToFile();
+        QVERIFY(wordsOf(m_file).join(QString()).contains(QString(text).remove(QLatin1Char(' '))));
+    } else {
+        printToFile();
+    }
+    QVERIFY(pagesOf(m_file) >= 1);
+}
+
+void tst_printing::modelsWithoutATable()
+{
+    QStandardItemModel empty;
+    QVERIFY(!tableOf(*documentOf(&empty)));
+    QVERIFY(documentOf(&empty)->isEmpty());
+    QVERIFY(documentOf(nullptr)->isEmpty());
+    QStandardItemModel rowsOnly;
+    rowsOnly.setRowCount(3);
+    QVERIFY(!tableOf(*documentOf(&rowsOnly)));
+}
+
+void tst_printing::belongsToTheCaller()
+{
+    QStandardItemModel model(1, 1);
+    QPointer<QTextDocument> document = createBindingListDocument(&model);
+    QCOMPARE(document->parent(), nullptr);
+    delete document;
+    QVERIFY(!document);
+}
+
+void tst_printing::printsWhatTheTableShows()
+{
+    open(60);
+    printToFile();
+    const QStringList words = wordsOf(m_file);
+    QCOMPARE(words.mid(0, 3), QStringList({QStringLiteral("Category"), QStringLiteral("Command"),
+                                           QStringLiteral("Select")}));
+    const QString all = words.join(QLatin1Char(' '));
+    for (int row = 0; row < m_dialog->proxy->rowCount(); ++row) {
+        const QString line = m_dialog->shown(0).at(row) + QLatin1Char(' ') + m_dialog->shown().at(row);
+        QVERIFY2(all.contains(line), qPrintable(line));
+    }
+    QVERIFY(pagesOf(m_file) > 1);
+}
+
+// The colours of a printed page: the header, both kinds of rows, an icon and an arrow.
+void tst_printing::printedPagesLook()
+{
+    open(8);
+    m_dialog->ui.command_tableView->sortByColumn(kDirection, Qt::AscendingOrder);
+    printToFile();
+    const QString base = m_folder.filePath(QStringLiteral("page"));
+    run(QStringLiteral("pdftoppm"), {QStringLiteral("-r"), QStringLiteral("96"), QStringLiteral("-png"),
+                                     QStringLiteral("-singlefile"), m_file, base});
+    const QImage page(base + QLatin1String(".png"));
+    QVERIFY(!page.isNull());
+    QMap<QRgb, int> colors;
+    bool arrow = false;
+    bool icon = false;
+    for (int y = 0; y < page.height(); ++y) {
+        for (int x = 0; x < page.width(); ++x) {
+            const QColor color = page.pixelColor(x, y);
+            ++colors[color.rgb()];
+            const bool strong = color.saturation() > 100 && color.value() > 150;
+            icon = icon || (strong && x < page.width() * 2 / 3);
+            arrow = arrow || (strong && x > page.width() * 2 / 3);
+        }
+    }
+    QVERIFY(colors.value(qRgb(0xdf, 0xdf, 0xdf)) > 1000);
+    QVERIFY(colors.value(qRgb(0xe1, 0xe1, 0xe1)) > 10000);
+    QVERIFY(colors.value(qRgb(0xff, 0xff, 0xff)) > 10000);
+    QVERIFY(icon);
+    QVERIFY(arrow);
+}
+
+void tst_printing::cancelledPrintsNothing()
+{
+    open(10);
+    int asked = 0;
+    m_dialog->printDialog = [&asked, this](QPrinter &printer) {
+        ++asked;
+        printer.setOutputFileName(m_file);
+        return static_cast<int>(QDialog::Rejected);
+    };
+    m_dialog->ui.search_lineEdit->setText(QStringLiteral("line"));
+    const QStringList shown = m_dialog->shown();
+    tests::click(m_dialog->ui.print_pushButton);
+    QCOMPARE(asked, 1);
+    QVERIFY(!QFile::exists(m_file));
+    // Everything is as it was.
+    QVERIFY(m_dialog->isVisible());
+    QCOMPARE(m_dialog->ui.search_lineEdit->text(), QStringLiteral("line"));
+    QCOMPARE(m_dialog->shown(), shown);
+    QVERIFY(!shown.isEmpty());
+}
+
+void tst_printing::realPrintDialog_data()
+{
+    QTest::addColumn<bool>("printed");
+    QTest::newRow("cancelled") << false;
+    QTest::newRow("to a file") << true;
+}
+
+// Qt's own dialog, on a machine that may have no printer at all.
+void tst_printing::realPrintDialog()
+{
+    QFETCH(bool, printed);
+    open(10);
+    m_dialog->printDialog = nullptr;
+    QFile::remove(m_file);
+    int seen = 0;
+    QTimer driver;
+    connect(&driver, &QTimer::timeout, this, [&] {
+        auto *dialog = qobject_cast<QPrintDialog *>(QApplication::activeModalWidget());
+        if (!dialog || seen > 0)
+            return;
+        ++seen;
+        QCOMPARE(dialog->parentWidget(), m_dialog.get());
+        QCOMPARE(dialog->printer()->printerState(), QPrinter::Idle);
+        if (!printed) {
+            dialog->reject();
+            return;
+        }
+        dialog->printer()->setOutputFormat(QPrinter::PdfFormat);
+        dialog->printer()->setOutputFileName(m_file);
+        dialog->done(QDialog::Accepted);
+    });
+    driver.start(1);
+    tests::click(m_dialog->ui.print_pushButton);
+    QCOMPARE(seen, 1);
+    QCOMPARE(QFile::exists(m_file), printed);
+    if (printed)
+        QVERIFY(wordsOf(m_file).contains(QStringLiteral("Offset")));
+}
+
+void tst_printing::everyPrintStartsAfresh()
+{
+    open(10);
+    QStringList names;
+    QList<int> resolutions;
+    m_dialog->printDialog = [&](QPrinter &printer) {
+        names.append(printer.outputFileName());
+        resolutions.append(printer.resolution());
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(m_file);
+        printer.setResolution(72);
+        return static_cast<int>(QDialog::Accepted);
+    };
+    m_dialog->printList();
+    m_dialog->printList();
+    QCOMPARE(names, QStringList({QString(), QString()}));
+    QCOMPARE(resolutions[0], resolutions[1]);
+    QCOMPARE(resolutions[0], QPrinter(QPrinter::HighResolution).resolution());
+}
+
+// A document that outlived its printing would be the leak checker's to find; that it is
+// printed at all and again is seen here.
+void tst_printing::documentIsFreed()
+{
+    open(10);
+    for (int print = 0; print < 20; ++print)
+        m_dialog->printList();
+    QCOMPARE(pagesOf(m_file), 1);
+}
+
+void tst_printing::tenThousandCommands()
+{
+    open(10000);
+    m_dialog->ui.command_tableView->sortByColumn(kCommand, Qt::AscendingOrder);
+    printToFile();
+    QVERIFY(pagesOf(m_file) > 100);
+    const QStringList words = wordsOf(m_file);
+    QVERIFY(words.count(QStringLiteral("Others")) >= 1000);
+    const QString all = words.join(QLatin1Char(' '));
+    QVERIFY(all.contains(m_dialog->shown().front()));
+    QVERIFY(all.contains(m_dialog->shown().back()));
+}
+
+void tst_printing::tableViewFillsTheArea()
+{
+    QStandardItemModel model(2, 2);
+    for (int row = 0; row < 2; ++row) {
+        for (int column = 0; column < 2; ++column) {
+            model.setData(model.index(row, column), QColor::fromHsv(row * 180 + column * 60, 255, 255),
+                          Qt::BackgroundRole);
+        }
+    }
+    PrintTableView view;
+    view.setModel(&model);
+    view.horizontalHeader()->setMinimumSectionSize(1);
+    view.verticalHeader()->setMinimumSectionSize(1);
+    for (int section = 0; section < 2; ++section) {
+        view.setColumnWidth(section, 50);
+        view.setRowHeight(section, 25);
+    }
+    // Twice as wide and four times as high as the cells together.
+    QImage image(200, 200, QImage::Format_RGB32);
+    image.fill(Qt::black);
+    QPainter painter(&image);
+    view.printTable(&painter, QRect(QPoint(0, 0), QPoint(199, 199)));
+    QCOMPARE(painter.transform().m11(), 2.0);
+    QCOMPARE(painter.transform().m22(), 4.0);
+    painter.end();
+    for (int row = 0; row < 2; ++row) {
+        for (int column = 0; column < 2; ++column)
+            QCOMPARE(image.pixelColor(50 + column * 100, 50 + row * 100).hue(), row * 180 + column * 60);
+    }
+    QVERIFY(image.pixelColor(2, 2) != QColor(Qt::black));
+}
+
+void tst_printing::tableViewPaintsRowsThatAreScrolledAway()
+{
+    QStandardItemModel model(100, 1);
+    for (int row = 0; row < 100; ++row)
+        model.setData(model.index(row, 0), QColor::fromHsv(row * 3, 255, 255), Qt::BackgroundRole);
+    PrintTableView view;
+    view.resize(100, 60);
+    view.setModel(&model);
+    view.verticalHeader()->setMinimumSectionSize(1);
+    view.verticalHeader()->setDefaultSectionSize(10);
+    view.setColumnWidth(0, 50);
+    QImage image(50, 1000, QImage::Format_RGB32);
+    QPainter painter(&image);
+    view.printTable(&painter, image.rect());
+    painter.end();
+    for (const int row : {0, 50, 99})
+        QVERIFY(std::abs(image.pixelColor(25, row * 10 + 5).hue() - row * 3) <= 1);
+}
+
+// The vertical scale is left infinite.
+void tst_printing::tableViewWithoutRows()
+{
+    QStandardItemModel model(0, 2);
+    PrintTableView view;
+    view.setModel(&model);
+    view.setColumnWidth(0, 40);
+    view.setColumnWidth(1, 60);
+    QImage image(200, 100, QImage::Format_RGB32);
+    image.fill(Qt::black);
+    const QImage before = image;
+    QPainter painter(&image);
+    view.printTable(&painter, image.rect());
+    QCOMPARE(painter.worldTransform().m11(), 2.0);
+    QVERIFY(std::isinf(painter.worldTransform().m22()));
+    painter.end();
+    QCOMPARE(image, before);
+}
+
+void tst_printing::tableViewWithoutModel()
+{
+    PrintTableView view;
+    QImage image(20, 20, QImage::Format_RGB32);
+    image.fill(Qt::black);
+    const QImage before = image;
+    QPainter painter(&image);
+    view.printTable(&painter, image.rect());
+    painter.end();
+    QCOMPARE(image, before);
+}
+
+QTEST_MAIN(tst_printing)
+#include "tst_printing.moc"
