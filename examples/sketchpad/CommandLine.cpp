@@ -46,7 +46,6 @@ CommandLine::CommandLine(QWidget *parent)
     m_edit->setObjectName(QStringLiteral("commandLine"));
     m_edit->setPlaceholderText(
         tr("LINE, CIRCLE, TRIM, ZOOM, GESTURE \u2026 or a point such as 10,20 or @5<90"));
-    m_edit->setClearButtonEnabled(true);
     m_edit->installEventFilter(this);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(8, 4, 8, 4);

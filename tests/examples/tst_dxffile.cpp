@@ -290,7 +290,7 @@ private Q_SLOTS:
         const QByteArray whole = contents(sample("bracket.dxf"));
         QVERIFY(whole.size() > 10000);
         const auto end = whole.lastIndexOf("EOF");
-        for (int size = 0; size < end; size += 97) {
+        for (int size = 0; size < end; size += 401) {
             QVERIFY(put(path("cut.dxf"), whole.left(size)));
             QString error;
             QVERIFY2(!dxf::read(path("cut.dxf"), &error), qPrintable(QString::number(size)));

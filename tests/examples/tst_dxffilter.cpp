@@ -21,6 +21,12 @@ bool keeps(const DxfFilter &filter, const char *name)
     return filter.known().find(std::string("0\n") + name + "\n") != std::string::npos;
 }
 
+// A literal with zeros in it.
+template <std::size_t size> QByteArray bytes(const char (&literal)[size])
+{
+    return QByteArray(literal, int(size) - 1);
+}
+
 const char kLine[] = "0|LINE|8|0|10|1|20|2|11|3|21|4|";
 
 } // namespace
@@ -212,13 +218,13 @@ private Q_SLOTS:
         QTest::newRow("a letter") << QByteArray("Dear Sir,\nplease\nfind enclosed\n")
                                   << QStringLiteral("It is not a DXF file.");
         QTest::newRow("zeros") << QByteArray(5000, '\0') << QStringLiteral("It is not a DXF file.");
-        QTest::newRow("noise") << QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\n\xff\xfe\n", 25)
+        QTest::newRow("noise") << bytes("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\n\xff\xfe\n")
                                << QStringLiteral("It is not a DXF file.");
         QTest::newRow("numbers") << QByteArray("1\n2\n3\n4\n")
                                  << QStringLiteral("It is not a DXF file.");
-        QTest::newRow("binary DXF") << QByteArray(
-            "AutoCAD Binary DXF\r\n\x1a\0\0SECTION\0\2HEADER\0",
-            38) << QStringLiteral("It is a binary DXF file. Only text DXF files can be read.");
+        QTest::newRow("binary DXF") << bytes("AutoCAD Binary DXF\r\n\x1a\0\0SECTION\0\2HEADER\0")
+                                    << QStringLiteral(
+                                           "It is a binary DXF file. Only text DXF files can be read.");
         QTest::newRow("no end") << sound.left(sound.lastIndexOf("0\nEOF"))
                                 << QStringLiteral("It is cut short: the end of the drawing is missing.");
         QTest::newRow("cut in the middle")
