@@ -2,9 +2,11 @@
 
 #include "host/CommandCatalogue.h"
 #include "host/CommandStack.h"
+#include "host/Complaint.h"
 #include "host/HostEditor.h"
 #include "host/ProgramProfile.h"
 #include "host/SystemServices.h"
+#include "host/TriggerText.h"
 #include "sdk/chx/CHxProfileStore.h"
 #include "sdk/od/OdEdCommandStack.h"
 #include "sdk/od/OdEditor.h"
@@ -79,7 +81,7 @@ bool HostSession::start(QString *error)
     odedSetEditor(&m_services->editor());
 
     m_pointerFilter = std::make_unique<PointerFilter>(
-        m_documents, Trigger{profile.triggerButton, profile.triggerModifiers},
+        m_documents, chosenTrigger({profile.triggerButton, profile.triggerModifiers}),
         [this] { return gesturesAreEnabled(); });
     m_viewFinder = std::make_unique<ViewFinder>(profile.viewClasses, m_options.guesses);
     connect(m_viewFinder.get(), &ViewFinder::viewFound, this, &HostSession::openView);
@@ -188,6 +190,17 @@ void HostSession::addView(QWidget *view)
 void HostSession::openView(QWidget *view)
 {
     m_documents.open(view);
+}
+
+Trigger HostSession::chosenTrigger(Trigger trigger) const
+{
+    CHxProfileStore *store = m_services->GetProfileStore();
+    const OdResBufPtr value =
+        store ? store->Get(triggerSection(), triggerKey(), CHxProfileStore::kProfile) : OdResBufPtr();
+    const QString text = value ? value->getString().toQString() : QString();
+    if (!text.isEmpty() && !parseTrigger(text, trigger.button, trigger.modifiers))
+        complain(QStringLiteral("the settings name no trigger: \"%1\"").arg(text));
+    return trigger;
 }
 
 bool HostSession::gesturesAreEnabled() const

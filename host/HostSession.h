@@ -49,6 +49,8 @@ public:
 private:
     void stopWithoutWindow();
     void openView(QWidget *view);
+    // The one that the person chose in the settings, else the one given.
+    [[nodiscard]] Trigger chosenTrigger(Trigger trigger) const;
     [[nodiscard]] bool gesturesAreEnabled() const;
     // The application is over.
     static void finishAll();

@@ -1,7 +1,5 @@
 #include "host/InstallPaths.h"
 
-#include "sdk/QtBridge.h"
-
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -53,7 +51,7 @@ QString programName()
 QString moduleFile()
 {
     return libraryFolder().filePath(
-        QStringLiteral("gesturewidget-module-qt%1.so").arg(qtbridge::kQtMajor));
+        QStringLiteral("gesturewidget-module-qt%1.so").arg(QT_VERSION_MAJOR));
 }
 
 QString settingsFile(const QString &program)
@@ -63,13 +61,18 @@ QString settingsFile(const QString &program)
 
 QStringList profileFolders()
 {
+    return profileFolders(libraryFolder());
+}
+
+QStringList profileFolders(const QDir &folder)
+{
     QStringList folders = qEnvironmentVariable("GESTUREWIDGET_PROFILES").split(QLatin1Char(':'));
     folders.removeAll(QString());
     folders.append(configFolder() + QLatin1String("/profiles"));
-    // The library is in lib/ or, by the host's architecture, one folder below it.
+    // A library is in lib/ or, by its architecture, one folder below it; a program in bin/.
     for (const char *up : {"..", "../.."}) {
         const QString path =
-            libraryFolder().filePath(QLatin1String(up) + QLatin1String("/share/gesturewidget/profiles"));
+            folder.filePath(QLatin1String(up) + QLatin1String("/share/gesturewidget/profiles"));
         if (QFileInfo(path).isDir())
             folders.append(QDir::cleanPath(path));
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDir>
 #include <QString>
 #include <QStringList>
 
@@ -21,5 +22,7 @@ namespace host {
 // Folders with profiles, in the order in which they count: those of the environment
 // variable GESTUREWIDGET_PROFILES, separated by colons, the user's own, the installed ones.
 [[nodiscard]] QStringList profileFolders();
+// The same, seen from a library or program in `folder`.
+[[nodiscard]] QStringList profileFolders(const QDir &folder);
 
 } // namespace host
