@@ -1,6 +1,46 @@
 #include "launcher/CommandLine.h"
 
 namespace launcher {
+namespace {
+
+// A task about a program that is not started.
+struct TaskOption
+{
+    const char *name;
+    CommandLine::Task task;
+    int least; // of what follows the program
+    int most;
+    const char *usage;
+};
+
+constexpr TaskOption kTaskOptions[] = {
+    {"--bindings", CommandLine::Task::ShowBindings, 0, 1, "PROGRAM [--json]"},
+    {"--bind", CommandLine::Task::Bind, 2, 2, "PROGRAM DIRECTION COMMAND"},
+    {"--trigger", CommandLine::Task::SetTrigger, 1, 1, "PROGRAM TRIGGER"},
+    {"--reset", CommandLine::Task::Reset, 0, 0, "PROGRAM"},
+    {"--export", CommandLine::Task::Export, 0, 1, "PROGRAM [FILE]"},
+    {"--import", CommandLine::Task::Import, 1, 1, "PROGRAM FILE"},
+    {"--doctor", CommandLine::Task::Examine, 0, 0, "PROGRAM"},
+};
+
+CommandLine parseTask(const TaskOption &option, const QList<QByteArray> &words)
+{
+    CommandLine line;
+    const auto count = static_cast<int>(words.size()) - 1; // without the program
+    const bool isBindings = option.task == CommandLine::Task::ShowBindings;
+    if (count < option.least || count > option.most || words.first().isEmpty()
+        || (isBindings && count == 1 && words.last() != "--json")) {
+        line.complaint = QStringLiteral("usage: mouse-gestures %1 %2")
+                             .arg(QLatin1String(option.name), QLatin1String(option.usage));
+        return line;
+    }
+    line.task = isBindings && count == 1 ? CommandLine::Task::ShowBindingsAsJson : option.task;
+    line.program = words.first();
+    line.arguments = words.mid(1);
+    return line;
+}
+
+} // namespace
 
 CommandLine CommandLine::parse(const QList<QByteArray> &arguments)
 {
@@ -15,6 +55,10 @@ CommandLine CommandLine::parse(const QList<QByteArray> &arguments)
         if (option == "--version" || option == "-V") {
             line.task = Task::ShowVersion;
             return line;
+        }
+        for (const TaskOption &task : kTaskOptions) {
+            if (option == task.name)
+                return parseTask(task, arguments.mid(1));
         }
         if (option != "--") {
             line.complaint = QStringLiteral("unknown option %1, see mouse-gestures --help")
@@ -37,6 +81,7 @@ CommandLine CommandLine::parse(const QList<QByteArray> &arguments)
 QString helpText()
 {
     return QStringLiteral(R"(Usage: mouse-gestures PROGRAM [ARGUMENTS...]
+       mouse-gestures OPTION PROGRAM ...
 
 Starts a drafting program with mouse gestures: hold the right button in the drawing,
 drag, and move on towards the command you want. "Mouse Gestures..." in the program's
@@ -44,12 +89,24 @@ menus says which command lies in which direction.
 
 PROGRAM is any program made with Qt Widgets, 5 or 6. Nothing of it is changed.
 
+  --bindings PROGRAM [--json]       show which command lies in which direction
+  --bind PROGRAM DIRECTION COMMAND  put a command, or none, into a direction: up, left,
+                                    down, right; of eight also up-left, down-left,
+                                    down-right, up-right
+  --trigger PROGRAM TRIGGER         what starts a gesture: right, middle, ctrl+right,
+                                    and so on; default for what is usual
+  --reset PROGRAM                   bring the first bindings back
+  --export PROGRAM [FILE]           write all bindings as JSON
+  --import PROGRAM FILE             take such a file over, as a whole or not at all
+  --doctor PROGRAM                  say whether gestures can work in the program
+
   -h, --help     show this text
   -V, --version  show the version
   --             what follows is the program, even if it starts with "-"
 
 Exit status: the program's own; 127 when there is no such program, 126 when it cannot be
 run with gestures, 125 when mouse-gestures itself is not set up or not used correctly.
+With one of the upper options: 1 when it could not be done, and nothing is changed then.
 )");
 }
 

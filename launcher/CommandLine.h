@@ -13,7 +13,20 @@ namespace launcher {
 // locale.
 struct CommandLine
 {
-    enum class Task { Run, ShowHelp, ShowVersion, Complain };
+    enum class Task {
+        Run,
+        ShowHelp,
+        ShowVersion,
+        ShowBindings,
+        ShowBindingsAsJson,
+        Bind, // direction, command
+        SetTrigger, // trigger
+        Reset,
+        Export, // file, or nothing for standard output
+        Import, // file
+        Examine,
+        Complain
+    };
 
     // `arguments` without the launcher's own name.
     [[nodiscard]] static CommandLine parse(const QList<QByteArray> &arguments);
@@ -21,7 +34,8 @@ struct CommandLine
     Task task = Task::Complain;
     // One line that says what is wrong; only with Task::Complain.
     QString complaint;
-    // The program as typed and its arguments; only with Task::Run.
+    // The program as typed, and its arguments or, with one of the other tasks about a
+    // program, what was typed after it.
     QByteArray program;
     QList<QByteArray> arguments;
 };

@@ -1,11 +1,17 @@
 // mouse-gestures PROGRAM [ARGUMENTS...]: starts a program with mouse gestures.
 
+#include "host/InstallPaths.h"
 #include "launcher/CommandLine.h"
+#include "launcher/Doctor.h"
 #include "launcher/LaunchEnvironment.h"
 #include "launcher/PluginFolders.h"
 #include "launcher/ProgramLookup.h"
 #include "launcher/QtWidgetsUse.h"
+#include "launcher/SettingsTasks.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QString>
 
 #include <unistd.h>
@@ -22,6 +28,7 @@ namespace {
 using namespace launcher;
 
 // The statuses that env, nohup and timeout give for the same reasons.
+constexpr int kTaskFailed = 1;
 constexpr int kLauncherFailed = 125;
 constexpr int kCannotRun = 126;
 constexpr int kNotFound = 127;
@@ -113,6 +120,99 @@ int run(const CommandLine &line)
                     reason == ENOENT ? kNotFound : kCannotRun);
 }
 
+// What is known of a program that is not to be started.
+struct Subject
+{
+    QString name; // by which its host finds its profile and its settings
+    QByteArray path; // empty when there is no such program
+};
+
+Subject subjectOf(const CommandLine &line, const Environment &environment,
+                  const QStringList &profileFolders)
+{
+    const ProgramLookup lookup =
+        ProgramLookup::find(line.program, environment.value("PATH", kDefaultSearchPath));
+    const QString typed = QFile::decodeName(line.program);
+    Subject subject;
+    if (lookup.result == ProgramLookup::Result::Found) {
+        subject.path = lookup.path;
+        const QString file = QFileInfo(QFile::decodeName(lookup.path)).canonicalFilePath();
+        subject.name = host::chooseProgramName(typed, file, profileFolders);
+    } else {
+        subject.name = QFileInfo(typed).fileName().toLower();
+    }
+    return subject;
+}
+
+int examine(const Subject &subject, const CommandLine &line, const Environment &environment,
+            const QStringList &profileFolders)
+{
+    Symptoms symptoms;
+    symptoms.program = subject.name;
+    symptoms.path = subject.path;
+    if (!subject.path.isEmpty())
+        symptoms.use = qtWidgetsUse(subject.path, environment.value("LD_LIBRARY_PATH"),
+                                    systemLibraryFolders("/etc/ld.so.conf"));
+    symptoms.plugins = pluginFolders(executableFolder());
+    symptoms.environment = environment;
+    symptoms.compositor = findCompositor(environment.value("DISPLAY"));
+    symptoms.profileFolders = profileFolders;
+    symptoms.settingsFile = host::settingsFile(subject.name);
+    const Diagnosis diagnosis = diagnose(symptoms);
+    for (const QString &text : diagnosis.lines)
+        std::puts(qPrintable(text));
+    if (diagnosis.isHealthy)
+        return 0;
+    return complain(QStringLiteral("gestures cannot work well in %1, see above")
+                        .arg(QString::fromLocal8Bit(line.program)),
+                    kTaskFailed);
+}
+
+// Does what is about a program without starting it.
+int doTask(const CommandLine &line)
+{
+    const Environment environment = readEnvironment(::environ);
+    const QStringList profileFolders = host::profileFolders(QDir(QFile::decodeName(executableFolder())));
+    const Subject subject = subjectOf(line, environment, profileFolders);
+    if (line.task == CommandLine::Task::Examine)
+        return examine(subject, line, environment, profileFolders);
+    // A program that is gone may still have settings, which somebody wants to keep.
+    const QString file = host::settingsFile(subject.name);
+    if (subject.path.isEmpty() && !QFileInfo::exists(file))
+        return complain(
+            QStringLiteral("%1: there is no such program").arg(QString::fromLocal8Bit(line.program)),
+            kNotFound);
+
+    SettingsTasks tasks(subject.name, file);
+    const QByteArray first = line.arguments.value(0);
+    const auto outcome = [&]() -> Outcome {
+        switch (line.task) {
+        case CommandLine::Task::ShowBindings:
+            return tasks.showBindings();
+        case CommandLine::Task::Bind:
+            return tasks.bind(QString::fromLocal8Bit(first),
+                              QString::fromLocal8Bit(line.arguments.value(1)));
+        case CommandLine::Task::SetTrigger:
+            return tasks.setTrigger(QString::fromLocal8Bit(first));
+        case CommandLine::Task::Reset:
+            return tasks.reset();
+        case CommandLine::Task::Export:
+            return line.arguments.isEmpty() ? tasks.showBindingsAsJson()
+                                            : tasks.exportTo(QFile::decodeName(first));
+        case CommandLine::Task::Import:
+            return tasks.importFrom(QFile::decodeName(first));
+        default:
+            return tasks.showBindingsAsJson();
+        }
+    }();
+    if (!outcome.isDone())
+        return complain(outcome.complaint, kTaskFailed);
+    std::fputs(outcome.output.constData(), stdout);
+    if (std::fflush(stdout) != 0)
+        return complain(QStringLiteral("standard output cannot be written"), kTaskFailed);
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -132,7 +232,8 @@ int main(int argc, char **argv)
     case CommandLine::Task::Complain:
         return complain(line.complaint, kLauncherFailed);
     case CommandLine::Task::Run:
-        break;
+        return run(line);
+    default:
+        return doTask(line);
     }
-    return run(line);
 }

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace launcher {
+
+// What came of a task: what to print, or one line that says why it could not be done. A
+// task that could not be done has changed nothing.
+struct Outcome
+{
+    QByteArray output;
+    QString complaint;
+
+    [[nodiscard]] bool isDone() const { return complaint.isEmpty(); }
+};
+
+// Shows and changes what is kept for one program, in the file in which the host keeps it. A
+// program that is running sees it at its next gesture.
+class SettingsTasks
+{
+public:
+    // The program's name, by which its settings are found, and their file.
+    SettingsTasks(const QString &program, const QString &file);
+
+    // Both schemes, the one in use first.
+    [[nodiscard]] Outcome showBindings() const;
+    [[nodiscard]] Outcome showBindingsAsJson() const;
+    // Puts a command into a direction of the scheme in use; "" and "none" empty it. A
+    // command that had another direction of that scheme leaves it.
+    [[nodiscard]] Outcome bind(const QString &direction, const QString &command);
+    // All fourteen values as they are at first. What starts a gesture stays.
+    [[nodiscard]] Outcome reset();
+    // To a file, in one step.
+    [[nodiscard]] Outcome exportTo(const QString &path) const;
+    // Takes over a file that exportTo() wrote; the settings as they were are kept beside
+    // them as "<file>.before-import".
+    [[nodiscard]] Outcome importFrom(const QString &path);
+    // What starts a gesture, see host/TriggerText.h; "default" is the profile's. Not the
+    // left button alone, with which people draw.
+    [[nodiscard]] Outcome setTrigger(const QString &text);
+
+private:
+    QString m_program;
+    QString m_file;
+};
+
+} // namespace launcher
