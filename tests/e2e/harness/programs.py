@@ -37,11 +37,70 @@ class Program:
     configuration: dict = field(default_factory=dict)
     # Whether it has gestures without being started through mouse-gestures.
     links_host: bool = False
+    # The name's ending and the text of a file that makes the drawing when it is opened; empty
+    # for a program that opens the drawing itself. It must put the drawing's name into the
+    # main window's title.
+    macro: tuple = ()
+    # Class name of what takes the pointer in the view, where that is not the view itself.
+    viewport: str = ""
+    # What the driver does before Escape, to end a command that Escape does not reach.
+    cancel: tuple = ()
+    # What it needs in the environment.
+    environment: dict = field(default_factory=dict)
 
     @property
     def four(self):
         return {direction: self.eight[direction] for direction in FOUR}
 
+
+# The commands of the first bindings are those of this workbench; neither a start page nor a
+# splash screen.
+FREECAD_SETTINGS = """<?xml version="1.0" encoding="UTF-8" standalone="no" ?>
+<FCParameters><FCParamGroup Name="Root"><FCParamGroup Name="BaseApp">
+  <FCParamGroup Name="Preferences">
+    <FCParamGroup Name="General">
+      <FCText Name="AutoloadModule">DraftWorkbench</FCText>
+      <FCText Name="Language">English</FCText>
+      <FCBool Name="ShowSplasher" Value="0"/>
+    </FCParamGroup>
+    <FCParamGroup Name="Mod"><FCParamGroup Name="Start">
+      <FCBool Name="ShowOnStartup" Value="0"/>
+    </FCParamGroup></FCParamGroup>
+  </FCParamGroup>
+</FCParamGroup></FCParamGroup></FCParameters>
+"""
+# A selected line, saved, seen from above. F12 puts an end to a command whose panel takes the
+# keyboard a moment later, which Escape may be too early for, and selects the line again:
+# some commands can be used only while something is selected.
+FREECAD_MACRO = """
+import FreeCAD
+import FreeCADGui
+import Part
+from PySide2 import QtGui, QtWidgets
+
+document = FreeCAD.newDocument("drawing")
+line = document.addObject("Part::Feature", "Line")
+line.Shape = Part.makeLine((0, 0, 0), (100, 60, 0))
+document.recompute()
+document.saveAs("drawing.FCStd")
+FreeCADGui.activeView().viewTop()
+FreeCADGui.SendMsgToActiveView("ViewFit")
+FreeCADGui.Selection.addSelection(line)
+window = FreeCADGui.getMainWindow()
+window.setWindowTitle("drawing.dxf - FreeCAD")
+
+
+def begin_anew():
+    command = getattr(FreeCAD, "activeDraftCommand", None)
+    if command:
+        command.finish()
+    FreeCADGui.Control.closeDialog()
+    FreeCADGui.Selection.clearSelection()
+    FreeCADGui.Selection.addSelection(line)
+
+
+shortcut = QtWidgets.QShortcut(QtGui.QKeySequence("F12"), window, begin_anew)
+"""
 
 PROGRAMS = {
     program.name: program
@@ -91,6 +150,31 @@ PROGRAMS = {
             command_line=("key Tab",),
             context_menu=True,
             links_host=True,
+        ),
+        Program(
+            name="freecad",
+            executable="freecad",
+            view="SIM::Coin3D::Quarter::QuarterWidget",
+            viewport="QOpenGLWidget",
+            eight={
+                "up": "Std_ViewFitAll",
+                "up-left": "Draft_Offset",
+                "left": "Std_Open",
+                "down-left": "Std_Copy",
+                "down": "Std_Save",
+                "down-right": "Draft_Text",
+                "right": "Draft_Line",
+                "up-right": "Draft_Trimex",
+            },
+            dialogs=("Std_Open",),
+            start_line=("key l", "key i"),
+            discard=("key alt+d",),
+            context_menu=True,
+            macro=(".FCMacro", FREECAD_MACRO),
+            cancel=("key F12",),
+            configuration={"FreeCAD/user.cfg": FREECAD_SETTINGS},
+            # It scales itself by the screen's resolution; the tests count in pixels.
+            environment={"QT_FONT_DPI": "96"},
         ),
     )
 }

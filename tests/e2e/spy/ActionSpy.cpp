@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QActionEvent>
 #include <QApplication>
+#include <QComboBox>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMenu>
@@ -99,11 +100,14 @@ void ActionSpy::watchWidgetEvent(QWidget *widget, QEvent *event)
     };
     switch (event->type()) {
     case QEvent::Show:
-        if (qobject_cast<QMenu *>(widget))
+        if (qobject_cast<QMenu *>(widget)) {
             write({QStringLiteral("menu"), className(widget), widget->objectName()});
-        else if (widget->isWindow())
+            writeEntries(*widget);
+        } else if (widget->isWindow()) {
             write({widget->isModal() ? QStringLiteral("dialog") : QStringLiteral("window"),
                    className(widget), text(globalGeometry(widget)), plain(widget->windowTitle())});
+            writeChoices(*widget);
+        }
         m_lookAround.start();
         break;
     case QEvent::Hide:
@@ -130,6 +134,30 @@ void ActionSpy::watchWidgetEvent(QWidget *widget, QEvent *event)
         break;
     default:
         break;
+    }
+}
+
+void ActionSpy::writeEntries(const QWidget &menu)
+{
+    QStringList line{QStringLiteral("entries")};
+    const QList<QAction *> actions = menu.actions();
+    for (const QAction *action : actions) {
+        if (action->isVisible() && !action->isSeparator())
+            line.append(plain(action->text()));
+    }
+    write(line);
+}
+
+void ActionSpy::writeChoices(const QWidget &dialog)
+{
+    if (!dialog.isModal())
+        return;
+    const QList<QComboBox *> boxes = dialog.findChildren<QComboBox *>();
+    for (const QComboBox *box : boxes) {
+        QStringList line{QStringLiteral("choices")};
+        for (int i = 0; i < box->count(); ++i)
+            line.append(plain(box->itemText(i)));
+        write(line);
     }
 }
 

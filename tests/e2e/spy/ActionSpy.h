@@ -24,6 +24,8 @@ QT_END_NAMESPACE
 //     window     CLASS  X,Y,W,H  TITLE      a window came up
 //     dialog     CLASS  X,Y,W,H  TITLE      the same, and it blocks others: it is modal
 //     menu       CLASS  OBJECTNAME          a menu opened
+//     entries    CAPTION...                 what that menu shows, separators left out
+//     choices    TEXT...                    what a combo box of a dialog that came up offers
 //     gone       CLASS                      a window or menu was closed
 //     view       CLASS  X,Y,W,H             a drawing view is there, in global pixels
 //     ready                                 view and menu entry are there, see below
@@ -52,6 +54,8 @@ public:
 private:
     void write(const QStringList &fields);
     void watchWidgetEvent(QWidget *widget, QEvent *event);
+    void writeEntries(const QWidget &menu);
+    void writeChoices(const QWidget &dialog);
     void watchAction(QAction *action);
     void lookAround();
     void reportViews();

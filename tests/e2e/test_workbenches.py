@@ -1,0 +1,138 @@
+"""Gestures in a program that changes its menus with the task: FreeCAD and its workbenches.
+
+    with-desktop.sh python3 test_workbenches.py --build DIR [TEST...]
+
+See test_gestures.py for how a test is made.
+"""
+
+import argparse
+import configparser
+import dataclasses
+import sys
+import unittest
+from pathlib import Path
+
+from harness.programs import PROGRAMS
+from harness.session import ANSWER_SECONDS, Session
+
+BUILD = None
+PROGRAM = PROGRAMS["freecad"]
+ENTRY = "Mouse Gestures..."
+FIRST_SWITCH_SECONDS = 60  # the first time, a workbench is loaded
+
+# Workbench to the key that follows W, and a menu that no other of them has.
+WORKBENCHES = {
+    "DraftWorkbench": ("2", "Modification"),
+    "ImageWorkbench": ("5", "Image"),
+    "MeshWorkbench": ("7", "Meshes"),
+}
+TEN_SWITCHES = ("ImageWorkbench", "MeshWorkbench", "DraftWorkbench", "ImageWorkbench", "MeshWorkbench",
+                "DraftWorkbench", "MeshWorkbench", "DraftWorkbench", "ImageWorkbench", "MeshWorkbench")
+
+
+class Workbenches(unittest.TestCase):
+    def session(self, name=None, program=PROGRAM, **how):
+        folder = BUILD / "e2e" / "workbenches" / (name or self._testMethodName)
+        return Session(program, BUILD, folder, **how)
+
+    def end(self, session):
+        self.assertEqual(session.quit(), 0)
+        self.assertEqual(session.cores(), [])
+
+    def switch(self, session, workbench):
+        mark = session.spy.mark()
+        session.focus("drawing.dxf")
+        session.driver.ask("key", "w")
+        session.driver.ask("key", WORKBENCHES[workbench][0])
+        session.expect(mark, lambda line: line[:2] == ["triggered", workbench], workbench,
+                       FIRST_SWITCH_SECONDS)
+
+    def tools_menu(self, session):
+        """The captions in the Tools menu, as a person who opens it sees them."""
+        mark = session.spy.mark()
+        session.driver.ask("key", "alt+t")
+        entries = session.expect(mark, lambda line: line[0] == "entries", "the Tools menu")[1:]
+        session.driver.ask("key", "Escape")
+        session.expect(mark, lambda line: line[:2] == ["gone", "QMenu"], "the menu to close")
+        session.wait_for_no_grab()
+        session.driver.ask("key", "Escape")
+        return entries
+
+    def categories(self, session):
+        """What the dialog offers to choose from."""
+        mark = session.spy.mark()
+        session.driver.ask("key", "alt+t")
+        session.expect(mark, lambda line: line[0] == "menu", "the Tools menu")
+        session.driver.ask("key", "Up")
+        session.driver.ask("key", "Return")
+        session.focus("Mouse Gestures")
+        choices = session.expect(mark, lambda line: line[0] == "choices" and "File" in line,
+                                 "the dialog's categories")[1:]
+        session.driver.ask("key", "Escape")
+        session.driver.ask("wait-no-window", "Mouse Gestures", ANSWER_SECONDS * 1000)
+        return choices
+
+    def bindings(self, session):
+        settings = configparser.ConfigParser(interpolation=None)
+        settings.read(session.settings_file)
+        return {key: value.strip('"') for key, value in settings["GestureWidget"].items()}
+
+    def test_ten_switches(self):
+        with self.session() as session:
+            session.gesture_runs("up", PROGRAM.eight["up"])
+            before = self.bindings(session)
+            self.assertEqual(before["87"], "ID_LINE")
+            for workbench in TEN_SWITCHES:
+                self.switch(session, workbench)
+                entries = self.tools_menu(session)
+                self.assertEqual(entries.count(ENTRY), 1, f"in {workbench}: {entries}")
+                self.assertEqual(entries[-1], ENTRY, f"in {workbench}")
+            # A workbench that has no drawing commands.
+            session.gesture_runs("up", PROGRAM.eight["up"])
+            self.assertEqual(self.bindings(session), before)
+            self.switch(session, "DraftWorkbench")
+            session.gesture_runs("right", PROGRAM.eight["right"])
+            session.cancel_tool()
+            self.assertEqual(self.bindings(session), before)
+            self.end(session)
+
+    def test_categories_follow(self):
+        with self.session() as session:
+            for workbench in ("MeshWorkbench", "DraftWorkbench", "MeshWorkbench"):
+                self.switch(session, workbench)
+                categories = self.categories(session)
+                for name, (_, menu) in WORKBENCHES.items():
+                    if name == workbench:
+                        self.assertIn(menu, categories)
+                    elif name == "DraftWorkbench":
+                        self.assertNotIn(menu, categories)
+            self.end(session)
+
+    def test_a_workbench_that_was_never_loaded(self):
+        """Bindings to its commands outlive a gesture all the same."""
+        text = PROGRAM.configuration["FreeCAD/user.cfg"]
+        program = dataclasses.replace(PROGRAM, configuration={
+            "FreeCAD/user.cfg": text.replace("DraftWorkbench", "ImageWorkbench")})
+        given = {"ActiveScheme": "8", "81": "ID_ZOOM_BOUNDS", "82": "Draft_Circle", "83": "ID_OPEN",
+                 "84": "", "85": "ID_SAVE", "86": "ID_DTEXT", "87": "ID_LINE", "88": "Draft_Move"}
+        with self.session(program=program, settings=given) as session:
+            session.gesture_runs("up", PROGRAM.eight["up"])
+            self.end(session)
+            after = self.bindings(session)
+            self.assertEqual({key: after[key] for key in given if key != "ActiveScheme"},
+                             {key: value for key, value in given.items() if key != "ActiveScheme"})
+
+
+def main():
+    global BUILD
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser.add_argument("--build", type=Path, required=True)
+    parser.add_argument("tests", nargs="*", help="names without \"test_\"; all when none is given")
+    options = parser.parse_args()
+    BUILD = options.build.resolve()
+    names = [f"Workbenches.test_{name}" for name in options.tests] or None
+    unittest.main(argv=[sys.argv[0]], defaultTest=names, verbosity=2)
+
+
+if __name__ == "__main__":
+    main()
