@@ -168,6 +168,8 @@ SettingsFile::Values SettingsFile::restore()
 
 bool SettingsFile::write(const Values &values)
 {
+    if (m_path.isEmpty())
+        return false;
     QDir().mkpath(QFileInfo(m_path).absolutePath());
     const Stamp before = currentStamp();
     if (before.exists && (!before.isFile || before.size > kMaximalSize))

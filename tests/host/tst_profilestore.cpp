@@ -74,6 +74,7 @@ private Q_SLOTS:
     void theCopyFollowsAGoodFile();
     void aDamagedFileInAReadOnlyFolderIsReadFromItsCopy();
     void aFolderThatCannotBeWrittenKeepsChangesInMemory();
+    void withoutAFileChangesStayInMemory();
     void aFullDiskKeepsTheOldFile();
     void whatIsNoFileIsLeftAlone_data();
     void whatIsNoFileIsLeftAlone();
@@ -436,6 +437,8 @@ void TestProfileStore::aDamagedCopyIsNotUsed()
     ProfileStore store(m_path);
     QVERIFY(!store.Exists(kSection, "81"));
     QCOMPARE(errors.lines().size(), 1);
+    QVERIFY2(errors.lines().first().contains(QStringLiteral("no good copy")),
+             qPrintable(errors.lines().first()));
 }
 
 void TestProfileStore::theCopyFollowsAGoodFile()
@@ -497,6 +500,17 @@ void TestProfileStore::aFolderThatCannotBeWrittenKeepsChangesInMemory()
     QCOMPARE(lines.size(), 1);
     QVERIFY2(lines.first().contains(m_path), qPrintable(lines.first()));
     QVERIFY2(lines.first().contains(QStringLiteral("cannot be written")), qPrintable(lines.first()));
+}
+
+void TestProfileStore::withoutAFileChangesStayInMemory()
+{
+    tests::StandardErrorCapture errors;
+    ProfileStore store{QString()};
+    QVERIFY(!store.Exists(kSection, "41"));
+    QVERIFY(set(store, QStringLiteral("41"), QStringLiteral("a")));
+    QVERIFY(!store.flush());
+    QCOMPARE(get(store, QStringLiteral("41")), QStringLiteral("a"));
+    QCOMPARE(errors.lines().size(), 1);
 }
 
 // A file system of 16 kB, filled up by another file.
