@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QtTest/qtestspontaneevent.h>
 
+#include <optional>
 #include <utility>
 
 namespace host {
@@ -60,11 +61,9 @@ void HeldInput::sendRest()
 {
     const QPointer<HeldInput> self = this;
     const std::shared_ptr<std::deque<Item>> outgoing = m_outgoing;
-    while (!outgoing->empty() && qApp) {
-        const Item item = std::move(outgoing->front());
-        outgoing->pop_front();
+    const auto send = [&self](const Item &item) {
         QMouseEvent *event = item.event.get();
-        const QEvent *outer = self ? std::exchange(m_sending, event) : nullptr;
+        const QEvent *outer = self ? std::exchange(self->m_sending, event) : nullptr;
         // Not sendEvent(), which would make it an event of the program's own again. And of
         // one from the window system Qt notes which buttons are down; so also those that
         // the program must not get go through there, to an object that makes nothing of it.
@@ -73,7 +72,23 @@ void HeldInput::sendRest()
         const bool isLost = !item.window || isBlockedByModal(item.window);
         qApp->notify(isLost ? &nobody : item.window.data(), event);
         if (self)
-            m_sending = outer;
+            self->m_sending = outer;
+    };
+    while (!outgoing->empty() && qApp) {
+        const Item item = std::move(outgoing->front());
+        outgoing->pop_front();
+        // Of a double click Qt makes two events at once. A menu that the first one opens
+        // must not get the second: that one waits for it, as it does without us, while the
+        // release that follows is the menu's.
+        std::optional<Item> twin;
+        if (item.event->type() == QEvent::MouseButtonPress && !outgoing->empty()
+            && outgoing->front().event->type() == QEvent::MouseButtonDblClick) {
+            twin = std::move(outgoing->front());
+            outgoing->pop_front();
+        }
+        send(item);
+        if (twin && qApp)
+            send(*twin);
     }
 }
 

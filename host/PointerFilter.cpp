@@ -341,7 +341,10 @@ void PointerFilter::noteWindowEvent(QObject *receiver, QEvent::Type type)
     const bool isOfView = view && (widget == view || widget->isAncestorOf(view));
     const bool isPopup = type == QEvent::Show && widget->windowType() == Qt::Popup;
     if (m_state == State::Holding) {
-        if (isPopup || (isOfView && type != QEvent::Show))
+        // Deactivation says nothing: the button is down, so the window system goes on sending
+        // the pointer here. It may also be that of an overlay that has just gone, and come
+        // late; a press given back for it would open a menu under a drag.
+        if (isPopup || (isOfView && type != QEvent::Show && type != QEvent::WindowDeactivate))
             queue(&PointerFilter::giveBack);
     } else if (m_state == State::Gesturing) {
         // The overlay itself takes the activation from the view's window.
