@@ -228,6 +228,12 @@ class Session:
         answer = self.driver.ask("wait-size", *RING_SIZE, ANSWER_SECONDS * 1000)
         return tuple(int(number) for number in answer.split()[1:])
 
+    def wait_for_grabbing_ring(self, mark):
+        """The ring grabs when it gets on screen. Whoever asks for the grabs before that takes
+        them for a moment himself, and the ring would be refused."""
+        self.expect(mark, lambda line: line[0] == "exposed" and "DonutDialog" in line[1],
+                    "the ring to get on screen")
+
     def ring_is_gone(self):
         self.driver.ask("wait-no-size", *RING_SIZE, ANSWER_SECONDS * 1000)
 

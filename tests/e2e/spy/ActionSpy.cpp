@@ -11,7 +11,9 @@
 #include <QMenu>
 #include <QMetaEnum>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QWidget>
+#include <QWindow>
 
 #include <cstdio>
 #include <utility>
@@ -82,12 +84,30 @@ bool ActionSpy::eventFilter(QObject *watched, QEvent *event)
     case QEvent::ParentChange:
         m_lookAround.start();
         break;
+    case QEvent::Expose:
+        if (watched->isWindowType())
+            watchExposure(static_cast<QWindow *>(watched));
+        break;
     default:
         break;
     }
     if (watched->isWidgetType())
         watchWidgetEvent(static_cast<QWidget *>(watched), event);
     return false;
+}
+
+void ActionSpy::watchExposure(QWindow *window)
+{
+    const QPointer<QWidget> widget = window->isExposed() ? QWidget::find(window->winId()) : nullptr;
+    if (!widget)
+        return;
+    QMetaObject::invokeMethod(
+        this,
+        [this, widget] {
+            if (widget)
+                write({QStringLiteral("exposed"), className(widget)});
+        },
+        Qt::QueuedConnection);
 }
 
 void ActionSpy::watchWidgetEvent(QWidget *widget, QEvent *event)

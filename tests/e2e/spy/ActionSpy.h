@@ -13,6 +13,7 @@ QT_BEGIN_NAMESPACE
 class QAction;
 class QMenu;
 class QWidget;
+class QWindow;
 QT_END_NAMESPACE
 
 // Watches the program that it is loaded into and changes nothing.
@@ -27,6 +28,7 @@ QT_END_NAMESPACE
 //     entries    CAPTION...                 what that menu shows, separators left out
 //     choices    TEXT...                    what a combo box of a dialog that came up offers
 //     gone       CLASS                      a window or menu was closed
+//     exposed    CLASS                      a window is on screen, and all have dealt with that
 //     view       CLASS  X,Y,W,H             a drawing view is there, in global pixels
 //     ready                                 view and menu entry are there, see below
 //     triggered  OBJECTNAME  CAPTION        an action ran; comes when the program has dealt
@@ -53,6 +55,7 @@ public:
 
 private:
     void write(const QStringList &fields);
+    void watchExposure(QWindow *window);
     void watchWidgetEvent(QWidget *widget, QEvent *event);
     void writeEntries(const QWidget &menu);
     void writeChoices(const QWidget &dialog);
