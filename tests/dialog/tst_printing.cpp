@@ -13,6 +13,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QStandardItemModel>
 #include <QTemporaryDir>
 #include <QTest>
@@ -406,7 +407,7 @@ void tst_printing::iconsAreThirtyTwoPixels()
     // The direction: its icon where there is one, else nothing.
     const int line = m_dialog->rowOf(QStringLiteral("Line"));
     QVERIFY(fragmentOf(table->cellAt(line + 1, kDirection), 0).charFormat().isImageFormat());
-    const int unbound = m_dialog->shownDirections().indexOf(0);
+    const auto unbound = static_cast<int>(m_dialog->shownDirections().indexOf(0));
     QVERIFY(unbound >= 0);
     QCOMPARE(textOf(table->cellAt(unbound + 1, kDirection)), QString());
 }
@@ -476,8 +477,11 @@ void tst_printing::printsWhatTheTableShows()
                                            QStringLiteral("Select")}));
     const QString all = words.join(QLatin1Char(' '));
     for (int row = 0; row < m_dialog->proxy->rowCount(); ++row) {
-        const QString line = m_dialog->shown(0).at(row) + QLatin1Char(' ') + m_dialog->shown().at(row);
-        QVERIFY2(all.contains(line), qPrintable(line));
+        // The row at a page's end may have its text on the next: the page number is between.
+        const QRegularExpression line(QRegularExpression::escape(m_dialog->shown(0).at(row))
+                                      + QLatin1String("( \\d+)? ")
+                                      + QRegularExpression::escape(m_dialog->shown().at(row)));
+        QVERIFY2(line.match(all).hasMatch(), qPrintable(line.pattern()));
     }
     QVERIFY(pagesOf(m_file) > 1);
 }
