@@ -38,7 +38,9 @@ public:
         isOn = false;
         hasStopped = true;
         accepted = isAccepted;
-        releaseMouse();
+        // Qt 5 takes the grab from whoever has it.
+        if (QWidget::mouseGrabber() == this)
+            releaseMouse();
         hide();
     }
 
