@@ -1,0 +1,44 @@
+#pragma once
+
+#include "gesture/MgMouseGestureTracker.h"
+#include "tests/fakehost/FakeHitTest.h"
+#include "tests/gesture/GestureBench.h"
+
+#include <QObject>
+
+namespace tests {
+
+// Hands the pointer events of a view to a tracker, as hosts do it: an update that winds the
+// ring up is given once more, so that the ring is there before the button can be let go.
+class ViewInput : public QObject
+{
+public:
+    explicit ViewInput(GestureBench &bench);
+
+    // The tracker's ring; null before the first gesture.
+    [[nodiscard]] MgDonutDialogPVStyleImpl *ring() const { return m_tracker.ring(); }
+    // Forgets a gesture whose end nobody reported, as the next move in the view does.
+    void look();
+
+    int wheels = 0; // wheel events that the view got
+    int keys = 0; // key presses that the view got
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    class Tracker : public MgMouseGestureTracker
+    {
+    public:
+        [[nodiscard]] MgDonutDialogPVStyleImpl *ring() const
+        {
+            return qobject_cast<MgDonutDialogPVStyleImpl *>(donut.data());
+        }
+    };
+
+    void update(const QPoint &position, bool press, bool motion, bool held);
+
+    GestureBench &m_bench;
+    Tracker m_tracker;
+};
+
+} // namespace tests
