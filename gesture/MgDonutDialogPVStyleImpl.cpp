@@ -41,14 +41,6 @@ QWidget *activeView()
     return active ? active->GetViewWidget() : nullptr;
 }
 
-// Sends everything painted so far to the display, which otherwise would wait for the event
-// loop. Asking for the pointer has to wait for the display's answer; sync() would process
-// events.
-void flushToDisplay()
-{
-    static_cast<void>(QCursor::pos());
-}
-
 } // namespace
 
 MgDonutDialogPVStyleImpl::MgDonutDialogPVStyleImpl(QWidget *parent, Qt::WindowFlags flags)
@@ -153,8 +145,8 @@ bool MgDonutDialogPVStyleImpl::JustStopped()
 void MgDonutDialogPVStyleImpl::doFading()
 {
     fading = true;
+    // Paints at once, and Qt sends what it painted to the display by itself.
     repaint();
-    flushToDisplay();
     // Meant to be busy: the frame stands still, and no event gets in between the choice and
     // the end of the gesture.
     QElapsedTimer timer;
