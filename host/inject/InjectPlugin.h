@@ -14,5 +14,5 @@ public:
 
     // Called while the application object is being constructed. Never throws. In a program
     // without widgets the object that it returns does nothing.
-    QObject *create(const QString &key, const QString &specification) override;
+    QObject *create(const QString &key, const QString &arguments) override;
 };
