@@ -59,6 +59,18 @@ QString settingsFile(const QString &program)
     return QStringLiteral("%1/%2.ini").arg(configFolder(), program);
 }
 
+QString catalogueFile(const QString &program)
+{
+    return catalogueFileBeside(settingsFile(program));
+}
+
+QString catalogueFileBeside(const QString &settings)
+{
+    const QLatin1String suffix(".ini");
+    const QString stem = settings.endsWith(suffix) ? settings.chopped(suffix.size()) : settings;
+    return stem.isEmpty() ? QString() : stem + QLatin1String(".commands.json");
+}
+
 QStringList profileFolders()
 {
     return profileFolders(libraryFolder());

@@ -19,6 +19,11 @@ namespace host {
 [[nodiscard]] QString moduleFile();
 // Where the bindings for a program are kept.
 [[nodiscard]] QString settingsFile(const QString &program);
+// Where the commands that a program has ever shown are kept, see CatalogueFile.
+[[nodiscard]] QString catalogueFile(const QString &program);
+// The same for a program whose bindings are in the file `settings`: beside them. Empty when
+// that is.
+[[nodiscard]] QString catalogueFileBeside(const QString &settings);
 // Folders with profiles, in the order in which they count: those of the environment
 // variable GESTUREWIDGET_PROFILES, separated by colons, the user's own, the installed ones.
 [[nodiscard]] QStringList profileFolders();
