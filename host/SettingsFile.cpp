@@ -66,7 +66,9 @@ QByteArray contentOf(const QString &path, bool *isReadable = nullptr)
 bool store(const QString &path, const QByteArray &content)
 {
     QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
+    // commit() overlooks that what was left in the buffer did not fit on the disk.
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush()
+        && file.commit();
 }
 
 // Whether each line is one that an INI file can have.
