@@ -1,7 +1,5 @@
 #include "host/HeldInput.h"
 
-#include "sdk/QtBridge.h"
-
 #include <QApplication>
 #include <QtTest/qtestspontaneevent.h>
 
@@ -35,10 +33,10 @@ HeldInput::~HeldInput() = default;
 void HeldInput::hold(QWindow *window, const QMouseEvent &event)
 {
     const bool replacesLast = m_held.size() > kMostMovements && event.type() == QEvent::MouseMove
-                           && m_held.back().event->type() == QEvent::MouseMove;
+                           && m_held.back().event.type() == QEvent::MouseMove;
     if (replacesLast)
         m_held.pop_back();
-    m_held.push_back({window, qtbridge::copyOf(event)});
+    m_held.push_back({window, qtbridge::KeptMouseEvent(event)});
 }
 
 void HeldInput::drop()
@@ -62,15 +60,15 @@ void HeldInput::sendRest()
     const QPointer<HeldInput> self = this;
     const std::shared_ptr<std::deque<Item>> outgoing = m_outgoing;
     const auto send = [&self](const Item &item) {
-        QMouseEvent *event = item.event.get();
-        const QEvent *outer = self ? std::exchange(self->m_sending, event) : nullptr;
+        const std::unique_ptr<QMouseEvent> event = item.event.event();
+        const QEvent *outer = self ? std::exchange(self->m_sending, event.get()) : nullptr;
         // Not sendEvent(), which would make it an event of the program's own again. And of
         // one from the window system Qt notes which buttons are down; so also those that
         // the program must not get go through there, to an object that makes nothing of it.
-        QSpontaneKeyEvent::setSpontaneous(event);
+        QSpontaneKeyEvent::setSpontaneous(event.get());
         QObject nobody;
         const bool isLost = !item.window || isBlockedByModal(item.window);
-        qApp->notify(isLost ? &nobody : item.window.data(), event);
+        qApp->notify(isLost ? &nobody : item.window.data(), event.get());
         if (self)
             self->m_sending = outer;
     };
@@ -81,8 +79,8 @@ void HeldInput::sendRest()
         // must not get the second: that one waits for it, as it does without us, while the
         // release that follows is the menu's.
         std::optional<Item> twin;
-        if (item.event->type() == QEvent::MouseButtonPress && !outgoing->empty()
-            && outgoing->front().event->type() == QEvent::MouseButtonDblClick) {
+        if (item.event.type() == QEvent::MouseButtonPress && !outgoing->empty()
+            && outgoing->front().event.type() == QEvent::MouseButtonDblClick) {
             twin = std::move(outgoing->front());
             outgoing->pop_front();
         }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "sdk/QtBridge.h"
+
 #include <QMouseEvent>
 #include <QObject>
 #include <QPointer>
@@ -46,7 +48,7 @@ private:
     struct Item
     {
         QPointer<QWindow> window;
-        std::unique_ptr<QMouseEvent> event;
+        qtbridge::KeptMouseEvent event;
     };
 
     std::deque<Item> m_held;

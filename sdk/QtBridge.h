@@ -14,6 +14,9 @@
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 #    include <QDesktopWidget>
+#else
+#    include <QPointer>
+#    include <QPointingDevice>
 #endif
 
 namespace qtbridge {
@@ -52,15 +55,75 @@ constexpr int kQtMajor = QT_VERSION_MAJOR;
 #endif
 }
 
-// A copy of a mouse event that can be sent later.
-[[nodiscard]] inline std::unique_ptr<QMouseEvent> copyOf(const QMouseEvent &event)
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+namespace detail {
+// A mouse event with what only Qt itself may set. The first press of a double click carries
+// a mark, by which Qt's widgets tell it from a press of its own.
+class MouseEvent : public QMouseEvent
 {
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-    return std::make_unique<QMouseEvent>(event);
-#else
-    return std::unique_ptr<QMouseEvent>(event.clone());
+public:
+    MouseEvent(const QMouseEvent &event, const QPointF &position, const QPointF &scenePosition,
+               const QPointF &globalPosition, const QPointingDevice *device)
+        : QMouseEvent(event.type(), position, scenePosition, globalPosition, event.button(),
+                      event.buttons(), event.modifiers(), event.source(), device)
+    {
+        m_doubleClick = MouseEvent(event).m_doubleClick;
+        setTimestamp(event.timestamp());
+    }
+    explicit MouseEvent(const QMouseEvent &event)
+        : QMouseEvent(event)
+    {
+    }
+};
+} // namespace detail
 #endif
-}
+
+// A mouse event that is kept to be sent later.
+class KeptMouseEvent
+{
+public:
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    explicit KeptMouseEvent(const QMouseEvent &event)
+        : m_event(std::make_unique<QMouseEvent>(event))
+    {
+    }
+    [[nodiscard]] std::unique_ptr<QMouseEvent> event() const
+    {
+        return std::make_unique<QMouseEvent>(*m_event);
+    }
+#else
+    explicit KeptMouseEvent(const QMouseEvent &event)
+        : m_event(std::make_unique<detail::MouseEvent>(event))
+        , m_position(event.position())
+        , m_scenePosition(event.scenePosition())
+        , m_globalPosition(event.globalPosition())
+        , m_device(event.pointingDevice())
+    {
+    }
+    // Made anew: a copy shares its point with the pointing device, which moves it on with
+    // every further event.
+    [[nodiscard]] std::unique_ptr<QMouseEvent> event() const
+    {
+        const QPointingDevice *device =
+            m_device ? m_device.data() : QPointingDevice::primaryPointingDevice();
+        return std::make_unique<detail::MouseEvent>(*m_event, m_position, m_scenePosition,
+                                                    m_globalPosition, device);
+    }
+#endif
+    [[nodiscard]] QEvent::Type type() const
+    {
+        return m_event->type();
+    }
+
+private:
+    std::unique_ptr<QMouseEvent> m_event;
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    QPointF m_position;
+    QPointF m_scenePosition;
+    QPointF m_globalPosition;
+    QPointer<const QPointingDevice> m_device; // it may be unplugged meanwhile
+#endif
+};
 
 namespace detail {
 // Only names the protected function below; there is never an object of it.

@@ -563,8 +563,10 @@ void tst_DonutPainting::goldenImage()
     PaintedDonut donut(sectors, active);
     donut.addIcons();
     donut.fading = fading;
-    const QString wrong =
-        tests::compareWithGolden(donut.picture(), QString::fromLatin1(QTest::currentDataTag()));
+    // The images are drawn while building, and processors round differently: a few pixels at
+    // the edges come out 1 of 255 lighter or darker. Nothing may be farther off.
+    const QString wrong = tests::compareWithGolden(
+        donut.picture(), QString::fromLatin1(QTest::currentDataTag()), {2, 0.0});
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
 }
 
