@@ -303,17 +303,11 @@ class Gestures(unittest.TestCase):
 
     def test_dialog_from_the_menu(self):
         with self.session() as session:
-            mark = session.spy.mark()
-            session.driver.ask("key", "alt+t")
-            session.expect(mark, lambda line: line[0] == "menu", "the Tools menu")
-            session.driver.ask("key", "Up")  # from the top to the last entry
-            session.driver.ask("key", "Return")
-            session.focus("Mouse Gestures")
+            mark = session.open_dialog()
             ran = [line[2] for line in session.spy.since(mark, "triggered")]
             self.assertEqual(ran[0], "Mouse Gestures...")
             session.driver.ask("key", "Escape")
-            session.driver.ask("wait-no-window", "Mouse Gestures", ANSWER_SECONDS * 1000)
-            session.focus(DRAWING_NAME)
+            session.dialog_is_gone()
             session.gesture_runs("up", PROGRAM.eight["up"])
             self.end(session)
 
@@ -324,8 +318,21 @@ class Gestures(unittest.TestCase):
             session.driver.ask("key", "Return")
             session.focus("Mouse Gestures")
             session.driver.ask("key", "Escape")
-            session.driver.ask("wait-no-window", "Mouse Gestures", ANSWER_SECONDS * 1000)
-            session.focus(DRAWING_NAME)
+            session.dialog_is_gone()
+            session.gesture_runs("up", PROGRAM.eight["up"])
+            self.end(session)
+
+    def test_bound_in_the_dialog_and_kept(self):
+        caption, action = PROGRAM.unbound
+        with self.session() as session:
+            session.gesture_runs("right", PROGRAM.eight["right"])
+            session.cancel_tool()
+            session.bind(caption, EIGHT.index("right") + 1)
+            session.gesture_runs("right", action)
+            session.gesture_runs("up", PROGRAM.eight["up"])
+            self.end(session)
+            session.start_again()
+            session.gesture_runs("right", action)
             session.gesture_runs("up", PROGRAM.eight["up"])
             self.end(session)
 

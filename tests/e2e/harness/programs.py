@@ -24,6 +24,8 @@ class Program:
     view: str  # class name of its drawing view
     # Object name of the action that each direction runs with the first bindings.
     eight: dict
+    # What finds a command in the dialog that no direction has at first, and its action.
+    unbound: tuple = ()
     # Actions that open a dialog, which Escape closes.
     dialogs: tuple = ()
     # What the driver does to start the line tool, and to get to the command line.
@@ -119,6 +121,7 @@ PROGRAMS = {
                 "right": "DrawLine",
                 "up-right": "ModifyTrim",
             },
+            unbound=("zoom in", "ZoomIn"),
             dialogs=("FileOpen", "DrawText"),
             start_line=("key ctrl+m", "type line", "key Return"),
             command_line=("key ctrl+m",),
@@ -145,6 +148,7 @@ PROGRAMS = {
                 "right": "drawLine",
                 "up-right": "modifyTrim",
             },
+            unbound=("zoom in", "viewZoomIn"),
             dialogs=("fileOpen",),
             start_line=("key alt+d", "key l"),
             command_line=("key Tab",),
@@ -166,6 +170,7 @@ PROGRAMS = {
                 "right": "Draft_Line",
                 "up-right": "Draft_Trimex",
             },
+            unbound=("zoom in", "Std_ViewZoomIn"),
             dialogs=("Std_Open",),
             start_line=("key l", "key i"),
             discard=("key alt+d",),

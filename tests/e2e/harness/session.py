@@ -18,6 +18,8 @@ TESTS = Path(__file__).resolve().parents[2]
 START_SECONDS = 120  # a cold start on a busy machine
 ANSWER_SECONDS = 15
 RING_SIZE = (250, 250)
+# What tests click in the dialog, by object name.
+WIDGETS = ("search_lineEdit", "command_tableView", "buttonBox")
 # Well beyond the 69 pixels at which a direction is chosen, diagonals included.
 FAR = 110
 
@@ -107,7 +109,13 @@ class Session:
             return str(self.build / self.program.executable)
         return self.program.executable
 
+    def start_again(self):
+        """Starts the program once more after it has ended, with all that it has kept."""
+        self._start()
+        self._wait_until_ready()
+
     def _start(self):
+        self._born = self.spy.mark()
         environment = dict(
             os.environ,
             HOME=str(self.folder / "home"),
@@ -119,6 +127,7 @@ class Session:
             QT_PLUGIN_PATH=str(self.build / "tests" / "plugins"),
             ACTIONSPY_LOG=str(self.spy.path),
             ACTIONSPY_VIEW=self.program.view,
+            ACTIONSPY_WIDGETS=",".join(WIDGETS),
             ACTIONSPY_ENTRY="Mouse Gestures..." if self.gestures else "",
             LANG="C.UTF-8",
             QTWEBENGINE_DISABLE_SANDBOX="1",  # web views do not start for root otherwise
@@ -148,9 +157,10 @@ class Session:
         return folder
 
     def _wait_until_ready(self):
-        self.expect(0, lambda line: line[0] == "ready", "the view and the menu entry", START_SECONDS)
-        if any("Splash" in line[1] for line in self.spy.since(0, "window")):
-            self.expect(0, lambda line: line[0] == "gone" and "Splash" in line[1],
+        self.expect(self._born, lambda line: line[0] == "ready", "the view and the menu entry",
+                    START_SECONDS)
+        if any("Splash" in line[1] for line in self.spy.since(self._born, "window")):
+            self.expect(self._born, lambda line: line[0] == "gone" and "Splash" in line[1],
                         "the splash screen to go", START_SECONDS)
         # Windows still move and grow after they have come up: the view's place counts once
         # the window manager has placed the main window and the screen shows no change.
@@ -291,6 +301,52 @@ class Session:
             if time.monotonic() > end:
                 return False
         return True
+
+    # --- the dialog
+
+    def open_dialog(self):
+        """From the Tools menu, in which its entry is the last. Returns a mark from before."""
+        mark = self.spy.mark()
+        self.driver.ask("key", "alt+t")
+        self.expect(mark, lambda line: line[0] == "menu", "the Tools menu")
+        self.driver.ask("key", "Up")  # from the top to the last entry
+        self.driver.ask("key", "Return")
+        self.focus("Mouse Gestures")
+        return mark
+
+    def dialog_is_gone(self):
+        self.driver.ask("wait-no-window", "Mouse Gestures", ANSWER_SECONDS * 1000)
+        self.focus(DRAWING_NAME)
+
+    def place_of(self, widget, mark):
+        """Where a widget of the dialog is that was opened after `mark`."""
+        self.expect(mark, lambda line: line[:2] == ["widget", widget], f"the dialog's {widget}")
+        place = [line[2] for line in self.spy.since(mark, "widget") if line[1] == widget][-1]
+        return tuple(int(number) for number in place.split(","))
+
+    def click_at(self, x, y):
+        self.driver.ask("move", x, y)
+        self.driver.ask("click", 1)
+
+    def bind(self, caption, direction_number):
+        """Binds the first command that is found by its caption, as a person does: searches for
+        it, clicks it and chooses from the list of arrows; then presses OK."""
+        opened = self.open_dialog()
+        x, y, width, height = self.place_of("search_lineEdit", opened)
+        self.click_at(x + width // 2, y + height // 2)
+        self.driver.ask("type", caption)
+        # The first row, below the header.
+        x, y, width, height = self.place_of("command_tableView", opened)
+        self.click_at(x + 40, y + 40)
+        mark = self.spy.mark()
+        self.driver.ask("key", "F4")
+        self.expect(mark, lambda line: line[0] == "window" and "Combo" in line[1], "the list of arrows")
+        self.carry_out(("key Home",) + ("key Down",) * direction_number + ("key Return",))
+        self.expect(mark, lambda line: line[0] == "gone" and "Combo" in line[1], "the list to close")
+        # OK is the first of three.
+        x, y, width, height = self.place_of("buttonBox", opened)
+        self.click_at(x + width // 6, y + height // 2)
+        self.dialog_is_gone()
 
     def carry_out(self, commands):
         """Commands of the driver as whole lines."""

@@ -57,6 +57,7 @@ QRect globalGeometry(const QWidget *widget)
 ActionSpy::ActionSpy()
     : m_log(qEnvironmentVariable("ACTIONSPY_LOG"))
     , m_viewClasses(qEnvironmentVariable("ACTIONSPY_VIEW").split(QLatin1Char(',')))
+    , m_widgetNames(qEnvironmentVariable("ACTIONSPY_WIDGETS").split(QLatin1Char(',')))
     , m_entry(qEnvironmentVariable("ACTIONSPY_ENTRY"))
 {
     if (!m_log.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
@@ -205,29 +206,42 @@ void ActionSpy::lookAround()
     for (QAction *action : own)
         watchAction(action);
 
-    reportViews();
+    reportPlaces();
     if (!m_isReady && !m_views.empty() && hasEntry()) {
         m_isReady = true;
         write({QStringLiteral("ready")});
     }
 }
 
-void ActionSpy::reportViews()
+void ActionSpy::reportPlaces()
 {
-    std::map<const QWidget *, QRect> views;
+    Places views;
+    Places named;
     const QWidgetList widgets = QApplication::allWidgets();
     for (const QWidget *widget : widgets) {
+        if (!widget->isVisible())
+            continue;
         for (const QString &name : std::as_const(m_viewClasses)) {
-            if (!name.isEmpty() && widget->inherits(name.toLatin1().constData()) && widget->isVisible())
+            if (!name.isEmpty() && widget->inherits(name.toLatin1().constData()))
                 views[widget] = globalGeometry(widget);
         }
+        if (!widget->objectName().isEmpty() && m_widgetNames.contains(widget->objectName()))
+            named[widget] = globalGeometry(widget);
     }
-    for (const auto &[widget, geometry] : views) {
-        const auto known = m_views.find(widget);
-        if (known == m_views.end() || known->second != geometry)
-            write({QStringLiteral("view"), className(widget), text(geometry)});
+    const auto isNew = [](const Places &known, const Places::value_type &place) {
+        const auto found = known.find(place.first);
+        return found == known.end() || found->second != place.second;
+    };
+    for (const auto &place : views) {
+        if (isNew(m_views, place))
+            write({QStringLiteral("view"), className(place.first), text(place.second)});
+    }
+    for (const auto &place : named) {
+        if (isNew(m_widgets, place))
+            write({QStringLiteral("widget"), place.first->objectName(), text(place.second)});
     }
     m_views = std::move(views);
+    m_widgets = std::move(named);
 }
 
 bool ActionSpy::hasEntry() const

@@ -30,6 +30,7 @@ QT_END_NAMESPACE
 //     gone       CLASS                      a window or menu was closed
 //     exposed    CLASS                      a window is on screen, and all have dealt with that
 //     view       CLASS  X,Y,W,H             a drawing view is there, in global pixels
+//     widget     OBJECTNAME  X,Y,W,H        a widget to look for is there, in global pixels
 //     ready                                 view and menu entry are there, see below
 //     triggered  OBJECTNAME  CAPTION        an action ran; comes when the program has dealt
 //                                           with it, so after a modal dialog that it opened
@@ -39,8 +40,9 @@ QT_END_NAMESPACE
 //     key        NAME  CLASS                a key press reached a widget
 //     quit                                  the program is about to end
 //
-// ACTIONSPY_VIEW names the classes of drawing views, separated by commas; ACTIONSPY_ENTRY
-// the caption of the menu entry that "ready" waits for, if it shall wait for one.
+// ACTIONSPY_VIEW names the classes of drawing views, separated by commas, ACTIONSPY_WIDGETS
+// the object names of widgets to look for; ACTIONSPY_ENTRY is the caption of the menu entry
+// that "ready" waits for, if it shall wait for one.
 //
 // Its event filter is the application's: what a plug-in created after it holds back does
 // not reach it, as it does not reach the program.
@@ -61,14 +63,17 @@ private:
     void writeChoices(const QWidget &dialog);
     void watchAction(QAction *action);
     void lookAround();
-    void reportViews();
+    void reportPlaces();
     [[nodiscard]] bool hasEntry() const;
 
     QFile m_log;
     QStringList m_viewClasses;
+    QStringList m_widgetNames;
     QString m_entry;
     QTimer m_lookAround; // once for all events of one turn of the event loop
     QSet<const QAction *> m_actions;
-    std::map<const QWidget *, QRect> m_views;
+    using Places = std::map<const QWidget *, QRect>;
+    Places m_views;
+    Places m_widgets;
     bool m_isReady = false;
 };
