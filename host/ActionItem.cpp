@@ -2,6 +2,7 @@
 
 #include "host/Captions.h"
 #include "host/EntryAction.h"
+#include "host/RememberedIcon.h"
 
 #include <QMenu>
 #include <QWidgetAction>
@@ -16,10 +17,21 @@ ActionItem::ActionItem(const QString &identifier, const QString &key)
 
 ActionItem::~ActionItem() = default;
 
+void ActionItem::recall(const RememberedCommand &command)
+{
+    m_caption = command.caption.isEmpty() ? m_key : command.caption;
+    m_tip = command.tip;
+    m_icon = iconFromPng(command.icon);
+    group = command.group;
+    isInToolBar = command.isInToolBar;
+}
+
 void ActionItem::setAction(QAction *action)
 {
     m_action = action;
     m_address = action;
+    m_tip.clear(); // may be one of another start
+    m_tipSource.clear();
     read();
 }
 

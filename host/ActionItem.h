@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/RememberedCommand.h"
 #include "sdk/chx/CHxUICommandItem.h"
 
 #include <QAction>
@@ -36,6 +37,8 @@ public:
     void setKey(const QString &key) { m_key = key; }
     // What it is called before it has ever had an action.
     void setCaption(const QString &caption) { m_caption = caption; }
+    // The same with all that was known of it when the program ran last.
+    void recall(const RememberedCommand &command);
     // The action that it stood for last; null when that is destroyed.
     [[nodiscard]] QAction *action() const { return m_action; }
     // Where that action was, to be compared only: nothing may be there any more.
@@ -52,6 +55,12 @@ public:
     bool wasPresent = false;
     // The name of the group it was last seen in.
     QString group;
+    // Whether that is a toolbar, rather than a menu.
+    bool isInToolBar = false;
+    // Whether it is to be offered in any case: somebody has bound it, or may.
+    bool isExpected = false;
+    // Whether its key is that of an action which it had at an earlier start.
+    bool isRemembered = false;
 
     // Whether an action is a command that a person can see and run: separators, menus and
     // invisible ones are not.

@@ -6,6 +6,7 @@
 
 #include <QMenu>
 #include <QMenuBar>
+#include <QRegularExpression>
 #include <QToolBar>
 
 #include <algorithm>
@@ -69,10 +70,58 @@ ActionItem *CommandCatalogue::findUsable(const QString &name)
 
 void CommandCatalogue::expect(const QString &identifier, const QString &caption)
 {
-    if (identifier.isEmpty() || m_byName.contains(identifier))
+    if (identifier.isEmpty())
         return;
-    add(identifier, m_wellKnown.value(identifier).value(0, identifier))->setCaption(caption);
+    ActionItem *item = m_byName.value(identifier);
+    if (!item) {
+        item = add(identifier, m_wellKnown.value(identifier).value(0, identifier));
+        item->setCaption(caption);
+    }
+    item->isExpected = true;
     m_stale = true; // the next reading gives it its place
+}
+
+void CommandCatalogue::remember(const QVector<RememberedCommand> &commands)
+{
+    QHash<QString, QString> keys; // by identifier
+    for (const RememberedCommand &command : commands)
+        keys.insert(command.identifier,
+                    command.command.isEmpty() ? command.identifier : command.command);
+    for (const RememberedCommand &command : commands) {
+        QString key = keys.value(command.identifier);
+        // What the profile says may have changed since then, and counts.
+        const QStringList wellKnownKeys = m_wellKnown.value(command.identifier);
+        if (!wellKnownKeys.isEmpty() && !wellKnownKeys.contains(key))
+            key = wellKnownKeys.first();
+        const QString wellKnown = m_identifiers.value(key, command.identifier);
+        const bool isRenamed = wellKnown != command.identifier
+                            && !m_wellKnown.value(wellKnown).contains(keys.value(wellKnown));
+        if (isRenamed || m_byName.contains(command.identifier) || m_byName.contains(key))
+            continue;
+        ActionItem *item = add(command.identifier, key);
+        item->recall(command);
+        item->isRemembered = key == keys.value(command.identifier);
+    }
+    m_stale = true;
+}
+
+const std::vector<std::unique_ptr<ActionItem>> &CommandCatalogue::items()
+{
+    update();
+    return m_items;
+}
+
+bool CommandCatalogue::isOutlived(const ActionItem &item) const
+{
+    if (item.isExpected || item.address())
+        return false;
+    // A key that is a path ends with the caption, and with a number if there are several.
+    static const QRegularExpression number(QStringLiteral(" \\(\\d+\\)$"));
+    const QString caption = QLatin1Char('/') + item.GetCaption().toQString();
+    QString path = item.key();
+    if (!path.endsWith(caption))
+        path.remove(number);
+    return path.endsWith(caption) && m_places.contains(path.chopped(caption.size()));
 }
 
 ActionItem *CommandCatalogue::itemOf(const QAction *action)
@@ -122,13 +171,14 @@ void CommandCatalogue::scan()
     for (const auto &item : m_items)
         item->wasPresent = std::exchange(item->isPresent, false);
     m_met.reserve(m_items.size());
+    m_places.clear();
     const QVector<QMenuBar *> menuBars = m_watcher.menuBars();
     for (QMenuBar *bar : menuBars)
-        walk(bar, QString(), QString());
+        walk(bar, {});
     const QVector<QToolBar *> toolBars = m_watcher.toolBars();
     for (QToolBar *bar : toolBars) {
         const QString title = plainCaption(bar->windowTitle());
-        walk(bar, title, title);
+        walk(bar, {title, title, true});
     }
     // After all that are known: only now is it clear which of their keys are free.
     if (m_guesses)
@@ -162,30 +212,35 @@ void CommandCatalogue::guess()
     }
 }
 
-void CommandCatalogue::walk(QWidget *place, const QString &group, const QString &path)
+void CommandCatalogue::walk(QWidget *widget, const Place &place)
 {
-    if (m_visited.contains(place))
+    if (m_visited.contains(widget))
         return;
-    m_visited.insert(place);
-    m_watcher.watch(place);
-    const QList<QAction *> actions = place->actions();
+    m_visited.insert(widget);
+    m_places.insert(place.path);
+    m_watcher.watch(widget);
+    const QList<QAction *> actions = widget->actions();
     for (QAction *action : actions) {
         if (ActionItem::isCommand(action)) {
-            meet(action, group, path);
+            meet(action, place);
         } else if (QMenu *menu = action->menu(); menu && action->isVisible()) {
             const QString title = ActionItem::captionOf(action);
-            walk(menu, group.isEmpty() ? title : group, joined(path, title));
+            walk(menu, {place.group.isEmpty() ? title : place.group, joined(place.path, title),
+                        place.isInToolBar});
         }
     }
 }
 
-void CommandCatalogue::meet(QAction *action, const QString &group, const QString &path)
+void CommandCatalogue::meet(QAction *action, const Place &place)
 {
     ActionItem *item = m_byAction.value(action);
+    const auto groupOf = [action, &place] {
+        return place.group.isEmpty() ? ActionItem::captionOf(action) : place.group;
+    };
     // The address may be that of an action which is gone, taken by a new one.
     if (!item || item->action() != action) {
-        const QString caption = ActionItem::captionOf(action);
-        m_newcomers.push_back({action, group.isEmpty() ? caption : group, joined(path, caption)});
+        m_newcomers.push_back(
+            {action, groupOf(), joined(place.path, ActionItem::captionOf(action)), place.isInToolBar});
         return;
     }
     if (item->isPresent)
@@ -193,7 +248,8 @@ void CommandCatalogue::meet(QAction *action, const QString &group, const QString
     item->isPresent = true;
     if (!item->wasPresent)
         item->read(); // nobody told of its changes while it was in no menu
-    item->group = group.isEmpty() ? ActionItem::captionOf(action) : group;
+    item->group = groupOf();
+    item->isInToolBar = place.isInToolBar;
     m_met.push_back(item);
 }
 
@@ -229,6 +285,7 @@ void CommandCatalogue::admit(const Newcomer &newcomer)
     item->setAction(newcomer.action);
     item->isPresent = true;
     item->group = newcomer.group;
+    item->isInToolBar = newcomer.isInToolBar;
     m_byAction.insert(newcomer.action, item);
     m_met.push_back(item);
 }
@@ -254,11 +311,14 @@ QString CommandCatalogue::wellKnownFor(const Newcomer &newcomer, const QString &
     return m_identifiers.value(key, byPath);
 }
 
-// The command of that identifier while it is expected only; null otherwise.
+// The command of that identifier while it is expected only, of whatever action; null
+// otherwise.
 ActionItem *CommandCatalogue::expectedFor(const QString &identifier) const
 {
     ActionItem *item = identifier.isEmpty() ? nullptr : m_byName.value(identifier);
-    return item && !item->address() && item->GetIdentifier() == CHxString(identifier) ? item : nullptr;
+    const bool isExpectedOnly = item && !item->address() && !item->isRemembered
+                             && item->GetIdentifier() == CHxString(identifier);
+    return isExpectedOnly ? item : nullptr;
 }
 
 ActionItem *CommandCatalogue::add(const QString &identifier, const QString &key)
@@ -278,7 +338,7 @@ void CommandCatalogue::arrangeGroups()
     for (ActionItem *item : m_met)
         groupNamed(item->group).items.push_back(item);
     for (const auto &item : m_items) {
-        if (!item->isPresent)
+        if (!item->isPresent && !isOutlived(*item))
             groupNamed(item->group).items.push_back(item.get());
     }
 }

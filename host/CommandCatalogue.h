@@ -25,7 +25,11 @@ namespace host {
 //
 // A command is kept when its action goes, and taken up again by an action with the same
 // key: programs rebuild their menus, and a binding must outlive that. For the same reason
-// commands can be expected that no menu has had yet.
+// commands can be expected that no menu has had yet, and remembered from earlier starts.
+//
+// Of the remembered ones without an object name some are the entries of lists: documents
+// that were opened last, windows. They are not offered again while the menu that had them
+// is there without them.
 //
 // Reading is cheap: the menus are walked again only after they have changed.
 class CommandCatalogue : public QObject
@@ -45,9 +49,12 @@ public:
     // The command to run for that identifier or key: the first of the keys of a well-known
     // identifier whose action can be used at the moment; otherwise as find().
     [[nodiscard]] ActionItem *findUsable(const QString &name);
-    // Offers a command from now on, also while no action stands for it. Does nothing when
-    // the identifier is known.
+    // Offers a command from now on in any case, also while no action stands for it. The
+    // caption is for one that nothing is known of yet.
     void expect(const QString &identifier, const QString &caption);
+    // Offers the commands that the program had when it ran before; they keep the identifiers
+    // that they had. To be called before anything else is known.
+    void remember(const QVector<RememberedCommand> &commands);
     // From now on guesses which actions the well-known identifiers stand for that the
     // profile leaves out. To be called before anything is read: a command keeps the
     // identifier that it was first seen with.
@@ -60,6 +67,12 @@ public:
     // The command that stands for the action; null for separators, menus and strangers.
     [[nodiscard]] ActionItem *itemOf(const QAction *action);
     [[nodiscard]] bool contains(const CHxUICommandItem *item) const;
+    // All commands in the order of first sight, those that are not offered as well.
+    [[nodiscard]] const std::vector<std::unique_ptr<ActionItem>> &items();
+    // Whether a remembered command is taken for the entry of a list, which is gone.
+    [[nodiscard]] bool isOutlived(const ActionItem &item) const;
+    // Whether the top-level menu or the toolbar of that name is there at the moment.
+    [[nodiscard]] bool isShown(const QString &group) const { return m_places.contains(group); }
     [[nodiscard]] MenuWatcher &watcher() { return m_watcher; }
 
     // Walks the menus now if they have changed; every reading does so by itself.
@@ -74,18 +87,27 @@ Q_SIGNALS:
     void menusChanged();
 
 private:
+    // A menu, menu bar or toolbar.
+    struct Place
+    {
+        QString group; // empty in a menu bar
+        QString path; // the captions on the way to it
+        bool isInToolBar = false;
+    };
+
     // An action that a scan met and no command stands for yet, with its place.
     struct Newcomer
     {
         QAction *action;
         QString group;
-        QString path;
+        QString path; // with its own caption
+        bool isInToolBar;
     };
 
     void onActionChanged(QAction *action);
     void scan();
-    void walk(QWidget *place, const QString &group, const QString &path);
-    void meet(QAction *action, const QString &group, const QString &path);
+    void walk(QWidget *widget, const Place &place);
+    void meet(QAction *action, const Place &place);
     void admit(const Newcomer &newcomer);
     ActionItem *reusable(const QString &key, bool *isTaken) const;
     void guess();
@@ -104,6 +126,7 @@ private:
     QHash<QString, ActionItem *> m_byName; // identifiers and keys
     std::vector<std::unique_ptr<CommandGroup>> m_groups;
     QHash<QString, CommandGroup *> m_groupsByName;
+    QSet<QString> m_places; // the paths of the menus and toolbars that the last scan met
     QSet<const QAction *> m_changedActions;
     QHash<QString, QString> m_reasons; // of guesses, by identifier
     bool m_guesses = false;

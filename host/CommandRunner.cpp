@@ -133,14 +133,31 @@ void CommandRunner::trigger(const QString &name)
     if (!item) {
         m_output.showForAWhile(translated("There is no command \"%1\".").arg(name));
     } else if (!item->isPresent || !item->action()) {
-        m_output.showForAWhile(
-            translated("%1: not available at the moment.").arg(item->GetCaption().toQString()));
+        m_output.showForAWhile(absence(*item));
     } else if (!item->action()->isEnabled()) {
         m_output.showForAWhile(
             translated("%1: cannot be used at the moment.").arg(item->GetCaption().toQString()));
     } else {
         item->action()->trigger();
     }
+}
+
+// Why a command cannot be run whose action is not there, and where it lives.
+QString CommandRunner::absence(const ActionItem &item) const
+{
+    const QString line =
+        translated("%1: not available at the moment.").arg(item.GetCaption().toQString());
+    if (item.group.isEmpty())
+        return line;
+    const bool isShown = m_catalogue.isShown(item.group);
+    QString place;
+    if (item.isInToolBar)
+        place = isShown ? translated("The toolbar \"%1\" does not have it now.")
+                        : translated("It belongs to the toolbar \"%1\", which is not there now.");
+    else
+        place = isShown ? translated("The menu \"%1\" does not have it now.")
+                        : translated("It belongs to the menu \"%1\", which is not there now.");
+    return line + QLatin1Char(' ') + place.arg(item.group);
 }
 
 // Cancels what runs in the drawing, the way a person does.

@@ -9,6 +9,7 @@ class OdEdCommand;
 
 namespace host {
 
+class ActionItem;
 class CommandCatalogue;
 class CommandStack;
 class TextOutput;
@@ -48,6 +49,7 @@ private:
     void executeMacro(const Macro &macro);
     void executeStackCommand(const QString &name);
     void trigger(const QString &name);
+    [[nodiscard]] QString absence(const ActionItem &item) const;
     void cancel() const;
 
     CommandStack &m_stack;

@@ -85,8 +85,10 @@ bool HostSession::start(QString *error)
         [this] { return gesturesAreEnabled(); });
     m_viewFinder = std::make_unique<ViewFinder>(profile.viewClasses, m_options.guesses);
     connect(m_viewFinder.get(), &ViewFinder::viewFound, this, &HostSession::openView);
-    connect(&m_menuWatch, &MenuWatch::settled, this,
-            [this] { m_services->editor().notifyMainFrameCreated(m_window); });
+    connect(&m_menuWatch, &MenuWatch::settled, this, [this] {
+        m_services->startRemembering();
+        m_services->editor().notifyMainFrameCreated(m_window);
+    });
     connect(m_window, &QObject::destroyed, this, &HostSession::stopWithoutWindow);
     connect(qApp, &QCoreApplication::aboutToQuit, this, &HostSession::finish);
     m_window->installEventFilter(this);
@@ -113,6 +115,7 @@ void HostSession::stop()
     m_isRunning = false;
     running = nullptr;
     m_menuWatch.stop();
+    m_services->stopRemembering();
     m_viewFinder->stop();
     m_pointerFilter->cancel();
     if (qApp)

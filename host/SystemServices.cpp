@@ -1,5 +1,6 @@
 #include "host/SystemServices.h"
 
+#include "host/CatalogueMemory.h"
 #include "host/CommandCatalogue.h"
 #include "host/CommandLineWatcher.h"
 #include "host/CommandManager.h"
@@ -8,6 +9,7 @@
 #include "host/ExpectedCommands.h"
 #include "host/HelpGuide.h"
 #include "host/HostEditor.h"
+#include "host/InstallPaths.h"
 #include "host/MessageBox.h"
 #include "host/ProfileStore.h"
 #include "host/ProgramProfile.h"
@@ -48,6 +50,7 @@ public:
     {
         if (!mainWindow)
             return; // no program to expect anything of
+        memory = std::make_unique<CatalogueMemory>(catalogue, catalogueFileBeside(settingsFile));
         const QMap<QString, QString> expected =
             expectedCommands(profile.wellKnownCommands, SettingsFile(settingsFile).read());
         for (auto it = expected.begin(); it != expected.end(); ++it)
@@ -63,6 +66,7 @@ public:
     TextOutput textOutput;
     ProfileStore profileStore;
     CommandCatalogue catalogue;
+    std::unique_ptr<CatalogueMemory> memory; // null without a window
     CommandRunner runner;
     UiManager uiManager;
     CommandManager commandManager;
@@ -92,6 +96,18 @@ HostEditor &SystemServices::editor()
 CommandCatalogue &SystemServices::catalogue()
 {
     return m_d->catalogue;
+}
+
+void SystemServices::startRemembering()
+{
+    if (m_d->memory)
+        m_d->memory->start();
+}
+
+void SystemServices::stopRemembering()
+{
+    if (m_d->memory)
+        m_d->memory->stop();
 }
 
 HelpGuide &SystemServices::helpGuide()

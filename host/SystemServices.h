@@ -30,7 +30,7 @@ class SystemServices : public CHxSystemServices
 {
 public:
     // `documents` may be null and must outlive this. `settingsFile` is the program's own
-    // INI file, see ProfileStore.
+    // INI file, see ProfileStore; the commands are kept beside it.
     SystemServices(QMainWindow *window, const ProgramProfile &profile, CHxDocumentManager *documents,
                    const QString &settingsFile);
     ~SystemServices() override;
@@ -39,6 +39,10 @@ public:
     [[nodiscard]] HostEditor &editor();
     [[nodiscard]] HelpGuide &helpGuide();
     [[nodiscard]] CommandCatalogue &catalogue();
+    // The program's menus are complete: the commands in them are remembered for its next
+    // start, see CatalogueMemory.
+    void startRemembering();
+    void stopRemembering();
     // Not owned; null until set.
     void setApplication(CHxApplication *application);
     void setMainFrame(CHxMainFrame *mainFrame);

@@ -92,6 +92,8 @@ private Q_SLOTS:
     void anActionIsTriggered();
     void aDisabledActionIsSaid();
     void anActionThatIsGoneIsSaid();
+    void aRememberedCommandSaysWhereItLives_data();
+    void aRememberedCommandSaysWhereItLives();
     void anUnknownCommandIsSaid();
     void withoutWaitingItRunsFromTheEventLoop();
     void whatVanishesBeforeItRunsIsSaid();
@@ -222,6 +224,40 @@ void TestCommandRunner::anActionThatIsGoneIsSaid()
     delete m_window->line;
     QVERIFY(!run("ID_LINE"));
     QVERIFY2(said().contains(QStringLiteral("Line: not available")), qPrintable(said()));
+}
+
+void TestCommandRunner::aRememberedCommandSaysWhereItLives_data()
+{
+    QTest::addColumn<QString>("group");
+    QTest::addColumn<bool>("isInToolBar");
+    QTest::addColumn<QString>("line");
+    const auto row = [](const char *name, const char *group, bool isInToolBar, const char *line) {
+        QTest::newRow(name) << QString::fromLatin1(group) << isInToolBar << QString::fromLatin1(line);
+    };
+    const char *const plain = "Fillet 100%2: not available at the moment.";
+    row("nowhere", "", false, plain);
+    row("menu of another task", "Sketch %1", false,
+        "Fillet 100%2: not available at the moment. "
+        "It belongs to the menu \"Sketch %1\", which is not there now.");
+    row("menu that is there", "Draw", false,
+        "Fillet 100%2: not available at the moment. The menu \"Draw\" does not have it now.");
+    row("toolbar of another task", "Sketch tools", true,
+        "Fillet 100%2: not available at the moment. "
+        "It belongs to the toolbar \"Sketch tools\", which is not there now.");
+    row("toolbar that is there", "Drawing", true,
+        "Fillet 100%2: not available at the moment. The toolbar \"Drawing\" does not have it now.");
+}
+
+void TestCommandRunner::aRememberedCommandSaysWhereItLives()
+{
+    QFETCH(QString, group);
+    QFETCH(bool, isInToolBar);
+    QFETCH(QString, line);
+    m_catalogue->remember(
+        {{QStringLiteral("sketchFillet"), QStringLiteral("sketchFillet"), QStringLiteral("Fillet 100%2"),
+          QString(), group, QByteArray(), isInToolBar}});
+    QVERIFY(!run("sketchFillet"));
+    QCOMPARE(said(), line);
 }
 
 void TestCommandRunner::anUnknownCommandIsSaid()

@@ -1,4 +1,5 @@
 #include "host/GestureHost.h"
+#include "host/InstallPaths.h"
 #include "host/MenuWatch.h"
 #include "sdk/chx/CHxDocument.h"
 #include "sdk/chx/CHxDocumentManager.h"
@@ -7,6 +8,8 @@
 #include "sdk/chx/CHxMainFrame.h"
 #include "sdk/chx/CHxProfileStore.h"
 #include "sdk/chx/CHxSystemServices.h"
+#include "sdk/chx/CHxUICommandItem.h"
+#include "sdk/chx/CHxUICommandManager.h"
 #include "sdk/od/OdEdCommandStack.h"
 #include "sdk/od/OdEditor.h"
 #include "tests/host/FakeTracker.h"
@@ -14,11 +17,13 @@
 #include "tests/support/FatalWarnings.h"
 
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QLibrary>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QSignalSpy>
+#include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -83,6 +88,7 @@ private Q_SLOTS:
     void addedViewsBecomeDocuments();
     void profileNamesViews();
     void enableFlagIsRead();
+    void commandsAreRememberedForTheNextStart();
     void frameIsCreatedOnceMenusAreQuiet();
     void menusMayComeAfterTheWindow();
     void windowWithoutMenuBarGetsNone();
@@ -274,6 +280,42 @@ void tst_GestureHost::enableFlagIsRead()
     set("1");
     QCOMPARE(menusOpenedByThePress(), 0);
     QCOMPARE(menus, 1);
+}
+
+// A program that comes up with other menus than it had the last time.
+void tst_GestureHost::commandsAreRememberedForTheNextStart()
+{
+    const auto offered = [] {
+        QStringList commands;
+        CHxUICommandManager *manager = GetHxSystemServices()->GetUICommandManager();
+        for (const auto groups = manager->NewGroupIterator(); !groups->Done(); groups->Next()) {
+            for (const auto it = groups->Current()->NewCommandIterator(); !it->Done(); it->Next())
+                commands << it->Current()->GetIdentifier().toQString();
+        }
+        return commands;
+    };
+    const QString file = host::catalogueFileBeside(m_options.settingsFile);
+    {
+        QMainWindow window;
+        QMenu *menu = window.menuBar()->addMenu(QStringLiteral("Sketch"));
+        menu->addAction(QStringLiteral("Line"))->setObjectName(QStringLiteral("sketchLine"));
+        GestureHost host(&window, m_options);
+        QVERIFY(host.start());
+        QVERIFY(!QFileInfo::exists(file));
+        window.show();
+        QTRY_VERIFY(QFileInfo::exists(file));
+    }
+    QMainWindow window;
+    QMenu *menu = window.menuBar()->addMenu(QStringLiteral("Mesh"));
+    menu->addAction(QStringLiteral("Cut"))->setObjectName(QStringLiteral("meshCut"));
+    window.statusBar();
+    GestureHost host(&window, m_options);
+    QVERIFY(host.start());
+    QCOMPARE(offered(), QStringList({QStringLiteral("meshCut"), QStringLiteral("sketchLine")}));
+    QVERIFY(!GetHxSystemServices()->RunCommand("sketchLine", true)->IsFound());
+    QCOMPARE(window.statusBar()->currentMessage(),
+             QStringLiteral("Line: not available at the moment. "
+                            "It belongs to the menu \"Sketch\", which is not there now."));
 }
 
 void tst_GestureHost::frameIsCreatedOnceMenusAreQuiet()
