@@ -201,8 +201,13 @@ Trigger HostSession::chosenTrigger(Trigger trigger) const
     const OdResBufPtr value =
         store ? store->Get(triggerSection(), triggerKey(), CHxProfileStore::kProfile) : OdResBufPtr();
     const QString text = value ? value->getString().toQString() : QString();
-    if (!text.isEmpty() && !parseTrigger(text, trigger.button, trigger.modifiers))
-        complain(QStringLiteral("the settings name no trigger: \"%1\"").arg(text));
+    if (text.isEmpty())
+        return trigger;
+    Trigger chosen = trigger;
+    if (parseTrigger(text, chosen.button, chosen.modifiers)
+        && isUsableTrigger(chosen.button, chosen.modifiers))
+        return chosen;
+    complain(QStringLiteral("the settings name no trigger: \"%1\"").arg(text));
     return trigger;
 }
 

@@ -14,6 +14,7 @@
 #include "sdk/od/OdEditor.h"
 #include "tests/host/FakeTracker.h"
 #include "tests/host/modules/StubModule.h"
+#include "tests/host/StandardErrorCapture.h"
 #include "tests/support/FatalWarnings.h"
 
 #include <QElapsedTimer>
@@ -88,6 +89,9 @@ private Q_SLOTS:
     void addedViewsBecomeDocuments();
     void profileNamesViews();
     void enableFlagIsRead();
+    void theSettingsChooseTheTrigger_data();
+    void theSettingsChooseTheTrigger();
+    void aNewTriggerCountsFromTheNextStart();
     void commandsAreRememberedForTheNextStart();
     void frameIsCreatedOnceMenusAreQuiet();
     void menusMayComeAfterTheWindow();
@@ -280,6 +284,152 @@ void tst_GestureHost::enableFlagIsRead()
     set("1");
     QCOMPARE(menusOpenedByThePress(), 0);
     QCOMPARE(menus, 1);
+}
+
+namespace {
+
+// A program under way, with a view that a tracker watches.
+class Drawing
+{
+public:
+    explicit Drawing(const GestureHost::Options &options)
+        : m_host(&m_window, options)
+    {
+        m_window.resize(300, 300);
+        m_view = new PressCounter;
+        m_window.setCentralWidget(m_view);
+        m_host.addView(m_view);
+    }
+
+    bool start()
+    {
+        if (!m_host.start())
+            return false;
+        ACTIVE_DOCUMENT()->GetInputPointManager()->AddTracker(&m_tracker, 0);
+        m_window.show();
+        return QTest::qWaitForWindowExposed(&m_window);
+    }
+    // Whether a press is held back, to see whether it becomes a gesture.
+    bool isTrigger(Qt::MouseButton button, Qt::KeyboardModifiers modifiers = {})
+    {
+        m_view->presses = 0;
+        QTest::mousePress(m_window.windowHandle(), button, modifiers, QPoint(150, 150));
+        const bool isHeld = m_view->presses == 0;
+        QTest::mouseRelease(m_window.windowHandle(), button, modifiers, QPoint(150, 150));
+        if (m_view->presses != 1)
+            QTest::qFail("the press did not come through", __FILE__, __LINE__);
+        return isHeld;
+    }
+
+private:
+    class PressCounter : public QWidget
+    {
+    public:
+        int presses = 0;
+
+    protected:
+        void mousePressEvent(QMouseEvent *) override { ++presses; }
+    };
+
+    tests::FakeTracker m_tracker;
+    QMainWindow m_window;
+    PressCounter *m_view = nullptr;
+    GestureHost m_host;
+};
+
+void write(const QString &path, const QByteArray &text)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(text), text.size());
+}
+
+} // namespace
+
+void tst_GestureHost::theSettingsChooseTheTrigger_data()
+{
+    QTest::addColumn<QByteArray>("chosen"); // in the settings; empty for none
+    QTest::addColumn<QByteArray>("profile");
+    QTest::addColumn<int>("button"); // that starts gestures
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<bool>("isComplaint");
+    const QByteArray right = R"({"button": "right", "modifiers": []})";
+    const QByteArray middle = R"({"button": "middle", "modifiers": ["shift"]})";
+    const auto row = [](const char *name, const char *chosen, const QByteArray &profile,
+                        Qt::MouseButton button, Qt::KeyboardModifiers modifiers, bool isComplaint) {
+        QTest::newRow(name) << QByteArray(chosen) << profile << int(button) << int(modifiers)
+                            << isComplaint;
+    };
+    row("none", "", right, Qt::RightButton, {}, false);
+    row("none, other profile", "", middle, Qt::MiddleButton, Qt::ShiftModifier, false);
+    row("right", "right", middle, Qt::RightButton, {}, false);
+    row("middle", "middle", right, Qt::MiddleButton, {}, false);
+    row("back", "back", right, Qt::BackButton, {}, false);
+    row("ctrl+right", "ctrl+right", right, Qt::RightButton, Qt::ControlModifier, false);
+    row("shift+alt+left", "Shift+ALT+Left", right, Qt::LeftButton, Qt::ShiftModifier | Qt::AltModifier,
+        false);
+    row("no button", "ctrl", right, Qt::RightButton, {}, true);
+    row("unknown", "rihgt", middle, Qt::MiddleButton, Qt::ShiftModifier, true);
+    row("twice", "ctrl+ctrl+right", right, Qt::RightButton, {}, true);
+    row("spaces", "ctrl + right", right, Qt::RightButton, {}, true);
+    // People draw with it.
+    row("left alone", "left", right, Qt::RightButton, {}, true);
+}
+
+void tst_GestureHost::theSettingsChooseTheTrigger()
+{
+    QFETCH(QByteArray, chosen);
+    QFETCH(QByteArray, profile);
+    QFETCH(int, button);
+    QFETCH(int, modifiers);
+    QFETCH(bool, isComplaint);
+    write(m_folder->filePath(QStringLiteral("program.json")),
+          R"({"version": 1, "program": "program", "trigger": )" + profile + "}");
+    m_options.profileFolders << m_folder->path();
+    if (!chosen.isEmpty())
+        write(m_options.settingsFile, "[Host]\nTrigger=" + chosen + "\n");
+
+    tests::StandardErrorCapture errors;
+    Drawing drawing(m_options);
+    QVERIFY(drawing.start());
+    const QStringList lines = errors.lines().filter(QStringLiteral("mouse gestures: "));
+    QCOMPARE(lines.size(), isComplaint ? 1 : 0);
+    if (isComplaint)
+        QVERIFY2(lines.first().contains(QString::fromLatin1(chosen)), qPrintable(lines.first()));
+    const Qt::KeyboardModifiers all[] = {Qt::NoModifier, Qt::ControlModifier, Qt::ShiftModifier,
+                                         Qt::ShiftModifier | Qt::AltModifier};
+    for (const Qt::MouseButton each :
+         {Qt::LeftButton, Qt::MiddleButton, Qt::RightButton, Qt::BackButton}) {
+        for (const Qt::KeyboardModifiers keys : all)
+            QCOMPARE(drawing.isTrigger(each, keys), each == button && int(keys) == modifiers);
+    }
+}
+
+void tst_GestureHost::aNewTriggerCountsFromTheNextStart()
+{
+    {
+        Drawing drawing(m_options);
+        QVERIFY(drawing.start());
+        QVERIFY(drawing.isTrigger(Qt::RightButton));
+        const OdResBufPtr middle = OdResBuf::newString(OdString(QStringLiteral("middle")));
+        QVERIFY(GetHxSystemServices()->GetProfileStore()->Set("Host", "Trigger", middle.get()));
+        QVERIFY(drawing.isTrigger(Qt::RightButton));
+        QVERIFY(!drawing.isTrigger(Qt::MiddleButton));
+    }
+    QTRY_VERIFY(QFileInfo::exists(m_options.settingsFile));
+    {
+        Drawing drawing(m_options);
+        QVERIFY(drawing.start());
+        QVERIFY(drawing.isTrigger(Qt::MiddleButton));
+        QVERIFY(!drawing.isTrigger(Qt::RightButton));
+        // Taken back, as with "default".
+        write(m_options.settingsFile, "[Host]\nTrigger=\n");
+        QVERIFY(drawing.isTrigger(Qt::MiddleButton));
+    }
+    Drawing drawing(m_options);
+    QVERIFY(drawing.start());
+    QVERIFY(drawing.isTrigger(Qt::RightButton));
+    QVERIFY(!drawing.isTrigger(Qt::MiddleButton));
 }
 
 // A program that comes up with other menus than it had the last time.
