@@ -18,6 +18,13 @@ void MgCommandDSSortFilterProxyModel::applyFilter()
 
 void MgCommandDSSortFilterProxyModel::sort(int column, Qt::SortOrder order)
 {
+    // A table view asks twice for what it shows. Texts never change, so that order stands;
+    // directions do, without a word from the model.
+    const bool isByText =
+        column == MgCommandDSModel::kCategoryColumn || column == MgCommandDSModel::kCommandColumn;
+    if (isByText && column == sortColumn() && order == sortOrder()
+        && qobject_cast<const MgCommandDSModel *>(sourceModel()))
+        return;
     // The base class leaves equal rows in the order shown, and does nothing at all when it
     // has sorted by this column last.
     QSortFilterProxyModel::sort(-1, Qt::AscendingOrder);

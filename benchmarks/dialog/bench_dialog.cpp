@@ -1,5 +1,5 @@
 // What the configuration dialog costs beside the plainest Qt classes that show the same rows.
-// Each pair of benchmarks does the same with either; bars.md says what they may differ by.
+// Each pair of benchmarks does the same with either.
 
 #include "bindings/MgDonutDataContainer.h"
 #include "dialog/BindingListDocument.h"
