@@ -29,6 +29,8 @@ install(TARGETS mouse-gestures
 install(DIRECTORY host/profiles/
   DESTINATION "${CMAKE_INSTALL_DATADIR}/gesturewidget/profiles" COMPONENT Runtime${common_suffix}
   FILES_MATCHING PATTERN "*.json")
+install(FILES docs/bindings.schema.json
+  DESTINATION "${CMAKE_INSTALL_DATADIR}/gesturewidget" COMPONENT Runtime${common_suffix})
 install(FILES docs/user-guide.html
   DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/gesturewidget" COMPONENT Runtime${common_suffix})
 install(FILES docs/mouse-gestures.1

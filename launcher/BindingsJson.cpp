@@ -7,6 +7,8 @@
 #include <QJsonObject>
 #include <QMap>
 
+#include <algorithm>
+
 namespace launcher {
 namespace {
 
@@ -131,6 +133,9 @@ public:
             const QString command = object.value(direction).toString();
             if (!object.value(direction).isString())
                 fail(prefix + direction, QStringLiteral("is not a string"));
+            else if (std::any_of(command.begin(), command.end(),
+                                 [](QChar letter) { return letter.category() == QChar::Other_Control; }))
+                fail(prefix + direction, QStringLiteral("holds a control character"));
             else if (!command.isEmpty() && commands.contains(command))
                 fail(prefix + direction,
                      QStringLiteral("has \"%1\", which another direction has").arg(command));

@@ -12,7 +12,7 @@ desktop_packages=(
 )
 test_packages=(
   qt6-base-dev
-  librapidcheck-dev poppler-utils binutils dpkg-dev file fonts-wine
+  librapidcheck-dev poppler-utils binutils dpkg-dev file fonts-wine python3-jsonschema
 )
 
 # install_packages NAME...: installs those that are missing; asks nothing. Returns apt-get's

@@ -6,6 +6,7 @@
 #include "host/TriggerText.h"
 #include "launcher/Bindings.h"
 #include "launcher/BindingsJson.h"
+#include "tests/launcher/BindingCases.h"
 #include "tests/support/FatalWarnings.h"
 
 #include <QDir>
@@ -327,53 +328,20 @@ void TestSettingsTasks::importKeepsTheOldSettings()
 
 void TestSettingsTasks::importRefusesWithItsLine_data()
 {
-    QTest::addColumn<QByteArray>("what");
-    QTest::addColumn<QByteArray>("by");
+    QTest::addColumn<QByteArray>("json");
     QTest::addColumn<QString>("says");
-    const auto row = [](const char *name, const char *what, const char *by, const char *says) {
-        QTest::newRow(name) << QByteArray(what) << QByteArray(by) << text(says);
-    };
-    // The export has version in line 2, four from line 7 on, eight from line 13 on.
-    row("no JSON", "\"enabled\": true,", "\"enabled\": true", "line 5: ");
-    row("cut off", "    }\n}\n", "    }\n", "line 2");
-    row("version", "\"version\": 1", "\"version\": 2", "line 2: \"version\" is not 1");
-    row("version as text", "\"version\": 1", "\"version\": \"1\"", "line 2: \"version\" is not 1");
-    row("another program", "\"drafter\"", "\"other\"", "line 3: \"program\" is not \"drafter\"");
-    row("enabled", "true", "1", "line 4: \"enabled\" is neither true nor false");
-    row("trigger", "\"trigger\": \"\"", "\"trigger\": \"ctrl\"", "line 5: \"trigger\" names no button");
-    row("the left button alone", "\"trigger\": \"\"", "\"trigger\": \"left\"",
-        "line 5: \"trigger\" names no button");
-    row("scheme", "\"scheme\": 8", "\"scheme\": 6", "line 6: \"scheme\" is neither 4 nor 8");
-    row("scheme with a fraction", "\"scheme\": 8", "\"scheme\": 8.5",
-        "line 6: \"scheme\" is neither 4 nor 8");
-    row("a key too many", "\"scheme\": 8,", "\"scheme\": 8,\n    \"colour\": 1,",
-        "line 7: \"colour\" is no key");
-    row("a key too few", "    \"scheme\": 8,\n", "", "line 1: \"scheme\" is missing");
-    row("a direction too many", "\"down\": \"ID_SAVE\",\n        \"right\"",
-        "\"down\": \"ID_SAVE\",\n        \"north\": \"\",\n        \"right\"",
-        "line 11: \"four.north\" is no key");
-    row("a direction too few", "        \"up-left\": \"ID_OFFSET\",\n", "",
-        "line 13: \"eight.up-left\" is missing");
-    row("no string", "\"ID_OFFSET\"", "7", "line 15: \"eight.up-left\" is not a string");
-    row("null", "\"ID_OFFSET\"", "null", "line 15: \"eight.up-left\" is not a string");
-    row("a command twice", "\"ID_OFFSET\"", "\"ID_ZOOM_BOUNDS\"",
-        "line 15: \"eight.up-left\" has \"ID_ZOOM_BOUNDS\"");
-    row("a key twice", "\"up-left\": \"ID_OFFSET\",", "\"up-left\": \"\",\n\"up-left\": \"ID_OFFSET\",",
-        "line 16: \"eight.up-left\" stands twice");
-    row("a key twice, written differently", "\"scheme\": 8,", "\"scheme\": 8, \"\\u0073cheme\": 4,",
-        "line 6: \"scheme\" stands twice");
+    const QVector<tests::BindingCase> cases = tests::bindingCases();
+    for (const tests::BindingCase &row : cases) {
+        if (!row.says.isEmpty())
+            QTest::newRow(row.name.constData()) << row.text << row.says;
+    }
 }
 
 void TestSettingsTasks::importRefusesWithItsLine()
 {
-    QFETCH(QByteArray, what);
-    QFETCH(QByteArray, by);
+    QFETCH(QByteArray, json);
     QFETCH(QString, says);
-    QVERIFY(tasks().bind(text("up"), text("ID_ZOOM_BOUNDS")).isDone());
-    QByteArray json = tasks().showBindingsAsJson().output;
-    const auto place = json.indexOf(what);
-    QVERIFY(place >= 0);
-    json.replace(int(place), int(what.size()), by);
+    QVERIFY(tasks().bind(text("up"), text("DrawArc")).isDone());
     write(m_export, json);
 
     const QByteArray before = content(m_file);

@@ -57,6 +57,7 @@ def common_files():
         "share/applications/mouse-gestures.desktop",
         "share/bash-completion/completions/mouse-gestures",
         "share/doc/gesturewidget/user-guide.html",
+        "share/gesturewidget/bindings.schema.json",
         "share/man/man1/mouse-gestures.1"}
 
 
