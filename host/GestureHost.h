@@ -50,6 +50,9 @@ public:
         // Where the bindings are kept. Default: a file of the program's name in the user's
         // configuration folder.
         QString settingsFile;
+        // A socket that is told what was found in the program and why, for `mouse-gestures
+        // --explain`; stays the caller's. Default: nobody is told.
+        int explanation = -1;
     };
 
     // Everything filled in for the running program as it is: its name, as profile folders

@@ -89,6 +89,11 @@ bool HostSession::start(QString *error)
         m_services->startRemembering();
         m_services->editor().notifyMainFrameCreated(m_window);
     });
+    if (m_options.explanation >= 0) {
+        m_explanation =
+            std::make_unique<Explanation>(m_options.explanation, window, profile, *m_services);
+        connect(&m_menuWatch, &MenuWatch::settled, m_explanation.get(), &Explanation::menusSettled);
+    }
     connect(m_window, &QObject::destroyed, this, &HostSession::stopWithoutWindow);
     connect(qApp, &QCoreApplication::aboutToQuit, this, &HostSession::finish);
     m_window->installEventFilter(this);
@@ -114,6 +119,7 @@ void HostSession::stop()
         return;
     m_isRunning = false;
     running = nullptr;
+    m_explanation.reset();
     m_menuWatch.stop();
     m_services->stopRemembering();
     m_viewFinder->stop();
@@ -193,6 +199,8 @@ void HostSession::addView(QWidget *view)
 void HostSession::openView(QWidget *view)
 {
     m_documents.open(view);
+    if (m_explanation)
+        m_explanation->addView(view);
 }
 
 Trigger HostSession::chosenTrigger(Trigger trigger) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/DocumentManager.h"
+#include "host/Explanation.h"
 #include "host/GestureHost.h"
 #include "host/HostApplication.h"
 #include "host/MainFrame.h"
@@ -74,6 +75,7 @@ private:
     ModuleLoader m_loader;
     std::unique_ptr<PointerFilter> m_pointerFilter;
     std::unique_ptr<ViewFinder> m_viewFinder;
+    std::unique_ptr<Explanation> m_explanation; // null unless somebody asked for it
     MenuWatch m_menuWatch;
 };
 

@@ -71,6 +71,11 @@ QString catalogueFileBeside(const QString &settings)
     return stem.isEmpty() ? QString() : stem + QLatin1String(".commands.json");
 }
 
+QString ownProfileFile(const QString &program)
+{
+    return QStringLiteral("%1/profiles/%2.json").arg(configFolder(), program);
+}
+
 QStringList profileFolders()
 {
     return profileFolders(libraryFolder());

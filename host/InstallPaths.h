@@ -24,6 +24,8 @@ namespace host {
 // The same for a program whose bindings are in the file `settings`: beside them. Empty when
 // that is.
 [[nodiscard]] QString catalogueFileBeside(const QString &settings);
+// The profile of one's own for a program, whether or not there is one.
+[[nodiscard]] QString ownProfileFile(const QString &program);
 // Folders with profiles, in the order in which they count: those of the environment
 // variable GESTUREWIDGET_PROFILES, separated by colons, the user's own, the installed ones.
 [[nodiscard]] QStringList profileFolders();

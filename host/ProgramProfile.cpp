@@ -96,19 +96,31 @@ private:
     QString m_problem;
 };
 
-void readTrigger(Reader &profileReader, ProgramProfile &profile)
+const QHash<QString, Qt::MouseButton> &buttonNames()
 {
     static const QHash<QString, Qt::MouseButton> buttons{
         {QStringLiteral("left"), Qt::LeftButton},       {QStringLiteral("middle"), Qt::MiddleButton},
         {QStringLiteral("right"), Qt::RightButton},     {QStringLiteral("back"), Qt::BackButton},
         {QStringLiteral("forward"), Qt::ForwardButton},
     };
+    return buttons;
+}
+
+const QHash<QString, Qt::KeyboardModifier> &modifierNames()
+{
     static const QHash<QString, Qt::KeyboardModifier> modifiers{
         {QStringLiteral("shift"), Qt::ShiftModifier},
         {QStringLiteral("control"), Qt::ControlModifier},
         {QStringLiteral("alt"), Qt::AltModifier},
         {QStringLiteral("meta"), Qt::MetaModifier},
     };
+    return modifiers;
+}
+
+void readTrigger(Reader &profileReader, ProgramProfile &profile)
+{
+    const QHash<QString, Qt::MouseButton> &buttons = buttonNames();
+    const QHash<QString, Qt::KeyboardModifier> &modifiers = modifierNames();
     Reader reader(profileReader.object(QStringLiteral("trigger")), QStringLiteral("trigger."));
     reader.allow({QStringLiteral("button"), QStringLiteral("modifiers")});
     const QString button = reader.string(QStringLiteral("button"));
@@ -174,6 +186,34 @@ bool isFileName(const QString &program)
 }
 
 } // namespace
+
+QJsonObject ProgramProfile::toJson() const
+{
+    QStringList modifiers;
+    for (auto it = modifierNames().cbegin(); it != modifierNames().cend(); ++it) {
+        if (triggerModifiers.testFlag(it.value()))
+            modifiers.append(it.key());
+    }
+    modifiers.sort();
+    QJsonObject trigger;
+    trigger.insert(QStringLiteral("button"), buttonNames().key(triggerButton));
+    trigger.insert(QStringLiteral("modifiers"), QJsonArray::fromStringList(modifiers));
+
+    QJsonObject commands;
+    for (auto it = wellKnownCommands.cbegin(); it != wellKnownCommands.cend(); ++it) {
+        const QStringList &names = it.value();
+        commands.insert(it.key(), names.size() == 1 ? QJsonValue(names.first())
+                                                    : QJsonValue(QJsonArray::fromStringList(names)));
+    }
+
+    return {{QStringLiteral("version"), kVersion},
+            {QStringLiteral("program"), program},
+            {QStringLiteral("viewClasses"), QJsonArray::fromStringList(viewClasses)},
+            {QStringLiteral("trigger"), trigger},
+            {QStringLiteral("wellKnownCommands"), commands},
+            {QStringLiteral("toolsMenu"), toolsMenu},
+            {QStringLiteral("commandLineClass"), commandLineClass}};
+}
 
 ProgramProfile ProgramProfile::forProgram(const QString &program, const QStringList &folders,
                                           QString *message)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QHash>
+#include <QJsonObject>
 #include <QString>
 #include <QStringList>
 #include <Qt>
@@ -30,6 +31,9 @@ struct ProgramProfile
     QString toolsMenu;
     // Class name of the line edit in which commands are typed; empty when there is none.
     QString commandLineClass;
+
+    // As such a file has it.
+    [[nodiscard]] QJsonObject toJson() const;
 
     // The profile of `program` from the first of `folders` that holds one. Without one:
     // the defaults, and `message` stays empty. With one that cannot be read or is not

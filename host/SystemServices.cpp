@@ -115,6 +115,11 @@ HelpGuide &SystemServices::helpGuide()
     return m_d->guide;
 }
 
+const ToolsMenu &SystemServices::toolsMenu() const
+{
+    return m_d->uiManager.toolsMenu();
+}
+
 void SystemServices::setApplication(CHxApplication *application)
 {
     m_d->application = application;

@@ -14,6 +14,7 @@ class CommandCatalogue;
 class CommandStack;
 class HelpGuide;
 class HostEditor;
+class ToolsMenu;
 struct ProgramProfile;
 
 // Everything that a module can ask of its host, over one main window. Owns all of it but
@@ -43,6 +44,7 @@ public:
     // start, see CatalogueMemory.
     void startRemembering();
     void stopRemembering();
+    [[nodiscard]] const ToolsMenu &toolsMenu() const;
     // Not owned; null until set.
     void setApplication(CHxApplication *application);
     void setMainFrame(CHxMainFrame *mainFrame);

@@ -51,6 +51,7 @@ public:
     [[nodiscard]] UiMenuBars &menuBars() { return m_menuBars; }
     // The commands that modules have made, in that order.
     [[nodiscard]] std::vector<CHxUICommandItem *> moduleCommands() const;
+    [[nodiscard]] const ToolsMenu &toolsMenu() const { return m_tools; }
     [[nodiscard]] const MenuMirror &mirror() const { return m_mirror; }
 
 private:

@@ -1,5 +1,6 @@
 #include "host/inject/InjectPlugin.h"
 
+#include "host/ExplanationChannel.h"
 #include "host/inject/Injector.h"
 #include "host/inject/PluginEnvironment.h"
 
@@ -16,8 +17,11 @@ QObject *InjectPlugin::create(const QString &, const QString &)
 {
     try {
         inject::cleanEnvironment();
+        const int explanation = inject::takeExplanationSocket();
+        host::tell(explanation, {{QStringLiteral("process"), int(QCoreApplication::applicationPid())}});
         if (qobject_cast<QApplication *>(QCoreApplication::instance()))
-            return new inject::Injector;
+            return new inject::Injector(explanation);
+        host::tell(explanation, {{QStringLiteral("problem"), QStringLiteral("it has no widgets")}});
         return new QObject; // of null, Qt would complain
     } catch (...) {
         return nullptr; // the program does without gestures

@@ -1,5 +1,6 @@
 #include "host/inject/Injector.h"
 
+#include "host/ExplanationChannel.h"
 #include "host/GestureHost.h"
 #include "sdk/chx/CHxSystemServices.h"
 
@@ -7,6 +8,8 @@
 #include <QEvent>
 #include <QMainWindow>
 #include <QMenuBar>
+
+#include <sys/socket.h>
 
 #include <cstdio>
 #include <exception>
@@ -27,8 +30,13 @@ void report(const char *text)
 
 } // namespace
 
-Injector::Injector()
+Injector::Injector(int explanation)
+    : m_explanation(explanation)
 {
+    if (m_explanation >= 0) {
+        m_explanationEnd = std::make_unique<QSocketNotifier>(m_explanation, QSocketNotifier::Read);
+        connect(m_explanationEnd.get(), &QSocketNotifier::activated, this, &Injector::onExplanationRead);
+    }
     QCoreApplication::instance()->installEventFilter(this);
 }
 
@@ -61,6 +69,8 @@ void Injector::look()
             QCoreApplication::instance()->removeEventFilter(this);
             if (!GetHxSystemServices()) // a program may have a host of its own
                 startHost(window);
+            else
+                explainProblem(QStringLiteral("it brings gestures of its own"));
             return;
         }
     }
@@ -69,15 +79,34 @@ void Injector::look()
 void Injector::startHost(QMainWindow *window)
 {
     try {
-        m_host = std::make_unique<GestureHost>(window, GestureHost::optionsForThisProgram());
+        GestureHost::Options options = GestureHost::optionsForThisProgram();
+        options.explanation = m_explanation;
+        m_host = std::make_unique<GestureHost>(window, options);
         QString error;
-        if (!m_host->start(&error))
-            report(qPrintable(error));
+        if (m_host->start(&error))
+            return;
+        report(qPrintable(error));
+        explainProblem(error);
     } catch (const std::exception &exception) {
         report(exception.what());
     } catch (...) {
         report("the host could not be started");
     }
+}
+
+void Injector::explainProblem(const QString &text) const
+{
+    host::tell(m_explanation, {{QStringLiteral("problem"), text}});
+}
+
+void Injector::onExplanationRead()
+{
+    char ignored = 0;
+    if (::recv(m_explanation, &ignored, 1, MSG_DONTWAIT) > 0)
+        return;
+    m_explanationEnd->setEnabled(false);
+    // Not quit(), which asks windows and what they hold: nobody is there to answer.
+    QCoreApplication::exit(0);
 }
 
 } // namespace inject

@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QSocketNotifier>
 
 #include <memory>
 
@@ -22,7 +23,9 @@ class Injector : public QObject
 public:
     // To be made as early as the application object exists; does nothing before the event
     // loop runs.
-    Injector();
+    // `explanation` is the socket over which the program is explained, see
+    // host/ExplanationChannel.h; -1 for none.
+    explicit Injector(int explanation = -1);
     ~Injector() override;
 
     bool eventFilter(QObject *receiver, QEvent *event) override;
@@ -32,9 +35,14 @@ private:
     void lookSoon();
     void look();
     void startHost(QMainWindow *window);
+    void explainProblem(const QString &text) const;
+    // Ends the program when whoever had it explained has closed the other end.
+    void onExplanationRead();
 
     std::unique_ptr<GestureHost> m_host;
     bool m_isLookQueued = false;
+    int m_explanation;
+    std::unique_ptr<QSocketNotifier> m_explanationEnd;
 };
 
 } // namespace inject

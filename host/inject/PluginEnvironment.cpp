@@ -1,5 +1,7 @@
 #include "host/inject/PluginEnvironment.h"
 
+#include "host/ExplanationChannel.h"
+
 #include <QDir>
 #include <QFile>
 #include <QList>
@@ -65,6 +67,13 @@ void cleanEnvironment()
         setOrRemove(plugins, withoutPlugin(qgetenv(plugins), kPluginKey));
     if (qEnvironmentVariableIsSet(path))
         setOrRemove(path, withoutOwnFolders(qgetenv(path)));
+}
+
+int takeExplanationSocket()
+{
+    const QByteArray value = qgetenv(host::kExplanationVariable);
+    qunsetenv(host::kExplanationVariable);
+    return host::explanationSocket(value);
 }
 
 } // namespace inject

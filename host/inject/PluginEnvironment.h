@@ -21,4 +21,8 @@ inline constexpr char kPluginKey[] = "mousegestures";
 // Applies both to this process's environment. A variable that is left empty is removed.
 void cleanEnvironment();
 
+// Takes the socket out of the environment over which this program is to be explained, see
+// host/ExplanationChannel.h; -1 when it is not.
+[[nodiscard]] int takeExplanationSocket();
+
 } // namespace inject

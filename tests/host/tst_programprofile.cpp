@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QJsonDocument>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -37,6 +38,7 @@ private Q_SLOTS:
 
     void missingFileGivesDefaultsQuietly();
     void readsEverything();
+    void isWrittenAsItIsRead();
     void whatIsLeftOutIsDefault();
     void firstFolderWithAProfileCounts();
     void brokenProfileIsNamed_data();
@@ -96,6 +98,37 @@ void TestProgramProfile::readsEverything()
              QStringList({QStringLiteral("File/Open..."), QStringLiteral("fileOpen")}));
     QCOMPARE(profile.toolsMenu, QStringLiteral("extras"));
     QCOMPARE(profile.commandLineClass, QStringLiteral("CommandEdit"));
+}
+
+void TestProgramProfile::isWrittenAsItIsRead()
+{
+    ProgramProfile profile;
+    profile.program = QStringLiteral("drafter");
+    profile.viewClasses = QStringList{QStringLiteral("Canvas"), QStringLiteral("ns::View")};
+    profile.triggerButton = Qt::ForwardButton;
+    profile.triggerModifiers = Qt::ControlModifier | Qt::MetaModifier;
+    profile.wellKnownCommands.insert(QStringLiteral("ID_LINE"), {QStringLiteral("drawLine")});
+    profile.wellKnownCommands.insert(QStringLiteral("ID_OPEN"),
+                                     {QStringLiteral("File/Open..."), QStringLiteral("fileOpen")});
+    profile.toolsMenu = QStringLiteral("extras");
+    profile.commandLineClass = QStringLiteral("CommandEdit");
+    for (const bool isEmpty : {false, true}) {
+        if (isEmpty) {
+            profile = ProgramProfile();
+            profile.program = QStringLiteral("drafter");
+        }
+        write(QStringLiteral("drafter.json"), QJsonDocument(profile.toJson()).toJson());
+        QString message;
+        const ProgramProfile again = read(&message);
+        QCOMPARE(message, QString());
+        QCOMPARE(again.toJson(), profile.toJson());
+        QCOMPARE(again.viewClasses, profile.viewClasses);
+        QCOMPARE(again.triggerButton, profile.triggerButton);
+        QCOMPARE(again.triggerModifiers, profile.triggerModifiers);
+        QCOMPARE(again.wellKnownCommands, profile.wellKnownCommands);
+        QCOMPARE(again.toolsMenu, profile.toolsMenu);
+        QCOMPARE(again.commandLineClass, profile.commandLineClass);
+    }
 }
 
 void TestProgramProfile::whatIsLeftOutIsDefault()

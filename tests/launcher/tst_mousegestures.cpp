@@ -67,8 +67,8 @@ private Q_SLOTS:
             << list({"/nowhere/draw"}) << 127 << QByteArray("/nowhere/draw: there is no such program");
         QTest::newRow("a name with a line end")
             << list({"/nowhere/a\nb"}) << 127 << QByteArray("/nowhere/a?b");
-        QTest::newRow("not executable")
-            << list({__FILE__}) << 126 << QByteArray("the file may not be executed");
+        QTest::newRow("not executable") << list({TESTS_SOURCE_DIR "/launcher/tst_mousegestures.cpp"})
+                                        << 126 << QByteArray("the file may not be executed");
         QTest::newRow("folder") << list({"/"}) << 126 << QByteArray("/: this is a folder");
         QTest::newRow("no Qt Widgets") << list({FIXTURES "/launcher_fixture_core"}) << 126
                                        << QByteArray("gestures need a program made with Qt Widgets");

@@ -3,11 +3,15 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDialog>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QGuiApplication>
 #include <QPointer>
+#include <QProcessEnvironment>
 #include <QTimer>
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
@@ -201,6 +205,43 @@ int runWithoutModule(int argc, char **argv)
     return QApplication::exec();
 }
 
+// Stays until it is told to quit; its drawing opens after its menus are complete.
+int runLateView(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    GuestWindow window;
+    QWidget *view = window.takeCentralWidget();
+    view->hide();
+    window.show();
+    when([&] { return window.hasEntry(); },
+         [&] {
+             QTimer::singleShot(500, &window, [&] {
+                 window.setCentralWidget(view);
+                 view->show();
+             });
+         });
+    return QApplication::exec();
+}
+
+// Neither quits when it is asked to nor when it is told to.
+int runDeaf(int argc, char **argv)
+{
+    std::signal(SIGTERM, SIG_IGN);
+    QApplication app(argc, argv);
+    GuestWindow window;
+    window.show();
+    for (;;)
+        QApplication::exec();
+}
+
+// Shows a dialog that waits for an answer, and nothing else.
+int runWithoutWindow(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    QDialog question;
+    return question.exec();
+}
+
 int runHeap(int argc, char **argv)
 {
     auto *app = new QApplication(argc, argv);
@@ -304,6 +345,26 @@ int main(int argc, char **argv)
                      quit();
                  });
         });
+    if (mode == "environment-file")
+        return with([=](GuestWindow &) {
+            QFile file(QCoreApplication::arguments().value(2));
+            if (file.open(QIODevice::WriteOnly)) {
+                const QStringList entries = QProcessEnvironment::systemEnvironment().toStringList();
+                for (const QString &entry : entries)
+                    file.write(entry.toLocal8Bit() + '\n');
+            }
+            quit();
+        });
+    if (mode == "stay")
+        return with([](GuestWindow &) {});
+    if (mode == "late-view")
+        return runLateView(argc, argv);
+    if (mode == "deaf")
+        return runDeaf(argc, argv);
+    if (mode == "without-window")
+        return runWithoutWindow(argc, argv);
+    if (mode == "crash")
+        return with([](GuestWindow &) { std::raise(SIGKILL); });
     if (mode == "window-gone-with-dialog")
         return runWindowGoneWithDialog(argc, argv);
     if (mode == "window-first")
