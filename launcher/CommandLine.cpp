@@ -1,5 +1,7 @@
 #include "launcher/CommandLine.h"
 
+#include <limits>
+
 namespace launcher {
 namespace {
 
@@ -21,6 +23,10 @@ constexpr TaskOption kTaskOptions[] = {
     {"--export", CommandLine::Task::Export, 0, 1, "PROGRAM [FILE]"},
     {"--import", CommandLine::Task::Import, 1, 1, "PROGRAM FILE"},
     {"--doctor", CommandLine::Task::Examine, 0, 0, "PROGRAM"},
+    {"--explain", CommandLine::Task::Explain, 0, std::numeric_limits<int>::max(),
+     "PROGRAM [ARGUMENTS...]"},
+    {"--enable", CommandLine::Task::Enable, 0, 0, "PROGRAM"},
+    {"--disable", CommandLine::Task::Disable, 0, 0, "PROGRAM"},
 };
 
 CommandLine parseTask(const TaskOption &option, const QList<QByteArray> &words)
@@ -99,6 +105,10 @@ PROGRAM is any program made with Qt Widgets, 5 or 6. Nothing of it is changed.
   --export PROGRAM [FILE]           write all bindings as JSON
   --import PROGRAM FILE             take such a file over, as a whole or not at all
   --doctor PROGRAM                  say whether gestures can work in the program
+  --explain PROGRAM [ARGUMENTS...]  start it, say what in it is taken for what and why,
+                                    print that as a profile, and end it
+  --enable PROGRAM                  start it with gestures from the desktop's menus too
+  --disable PROGRAM                 start it from there as before
 
   -h, --help     show this text
   -V, --version  show the version

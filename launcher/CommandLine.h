@@ -25,6 +25,9 @@ struct CommandLine
         Export, // file, or nothing for standard output
         Import, // file
         Examine,
+        Explain, // the program's own arguments
+        Enable,
+        Disable,
         Complain
     };
 

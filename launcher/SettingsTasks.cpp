@@ -19,13 +19,6 @@ using host::SettingsFile;
 // Far more than any export has; what is longer is some other file.
 constexpr qint64 kMaximalSize = 1024 * 1024;
 
-Outcome complaint(const QString &text)
-{
-    Outcome outcome;
-    outcome.complaint = text;
-    return outcome;
-}
-
 Bindings read(const QString &path)
 {
     return Bindings::fromSettings(SettingsFile(path).read());
@@ -37,7 +30,7 @@ Outcome write(const QString &path, const SettingsFile::Values &values)
     // A damaged file is restored before anything is merged into it.
     static_cast<void>(file.read());
     if (!file.write(values))
-        return complaint(QStringLiteral("%1 cannot be written").arg(path));
+        return Outcome::failure(QStringLiteral("%1 cannot be written").arg(path));
     static_cast<void>(file.read()); // renews the copy of its last good state
     return {};
 }
@@ -101,13 +94,13 @@ Outcome SettingsTasks::bind(const QString &direction, const QString &command)
     const QStringList names = Bindings::directionNames(bindings.scheme);
     const auto index = names.indexOf(direction.toLower());
     if (index < 0)
-        return complaint(QStringLiteral("\"%1\" is none of the %2 directions: %3")
-                             .arg(direction)
-                             .arg(bindings.scheme)
-                             .arg(names.join(QStringLiteral(", "))));
+        return Outcome::failure(QStringLiteral("\"%1\" is none of the %2 directions: %3")
+                                    .arg(direction)
+                                    .arg(bindings.scheme)
+                                    .arg(names.join(QStringLiteral(", "))));
     const auto isControl = [](QChar letter) { return letter.category() == QChar::Other_Control; };
     if (std::any_of(command.begin(), command.end(), isControl))
-        return complaint(QStringLiteral("a command's identifier has no control characters"));
+        return Outcome::failure(QStringLiteral("a command's identifier has no control characters"));
     const QString wanted = command == QLatin1String("none") ? QString() : command;
 
     QStringList &commands = bindings.commands();
@@ -129,7 +122,7 @@ Outcome SettingsTasks::reset()
 Outcome SettingsTasks::exportTo(const QString &path) const
 {
     if (!save(path, showBindingsAsJson().output))
-        return complaint(QStringLiteral("%1 cannot be written").arg(path));
+        return Outcome::failure(QStringLiteral("%1 cannot be written").arg(path));
     return {};
 }
 
@@ -137,26 +130,27 @@ Outcome SettingsTasks::importFrom(const QString &path)
 {
     const QFileInfo info(path);
     if (!info.exists())
-        return complaint(QStringLiteral("%1: there is no such file").arg(path));
+        return Outcome::failure(QStringLiteral("%1: there is no such file").arg(path));
     if (!info.isFile()) // opening a pipe would wait for its writer
-        return complaint(QStringLiteral("%1: this is not a file").arg(path));
+        return Outcome::failure(QStringLiteral("%1: this is not a file").arg(path));
     if (info.size() > kMaximalSize)
-        return complaint(QStringLiteral("%1: this is too long for bindings").arg(path));
+        return Outcome::failure(QStringLiteral("%1: this is too long for bindings").arg(path));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return complaint(QStringLiteral("%1: %2").arg(path, file.errorString()));
+        return Outcome::failure(QStringLiteral("%1: %2").arg(path, file.errorString()));
 
     Bindings bindings;
     QString problem;
     if (!bindingsFromJson(file.read(kMaximalSize), m_program, bindings, problem))
-        return complaint(QStringLiteral("%1, %2").arg(path, problem));
+        return Outcome::failure(QStringLiteral("%1, %2").arg(path, problem));
 
     if (QFileInfo::exists(m_file)) {
         const QString backup = m_file + QLatin1String(".before-import");
         static_cast<void>(read(m_file)); // a damaged file is restored first
         QFile settings(m_file);
         if (!settings.open(QIODevice::ReadOnly) || !save(backup, settings.readAll()))
-            return complaint(QStringLiteral("%1 cannot be written, so nothing is imported").arg(backup));
+            return Outcome::failure(
+                QStringLiteral("%1 cannot be written, so nothing is imported").arg(backup));
     }
     return write(m_file, bindings.toSettings());
 }
@@ -170,12 +164,13 @@ Outcome SettingsTasks::setTrigger(const QString &text)
         Qt::MouseButton button = Qt::NoButton;
         Qt::KeyboardModifiers keys = Qt::NoModifier;
         if (!host::parseTrigger(text, button, keys))
-            return complaint(QStringLiteral("\"%1\" names no trigger, such as right, middle or "
-                                            "ctrl+right; \"default\" is the program's usual one")
-                                 .arg(text));
+            return Outcome::failure(QStringLiteral("\"%1\" names no trigger, such as right, middle or "
+                                                   "ctrl+right; \"default\" is the program's usual one")
+                                        .arg(text));
         if (!host::isUsableTrigger(button, keys))
-            return complaint(QStringLiteral("the left button alone is for drawing, add a key to it, "
-                                            "such as ctrl+left"));
+            return Outcome::failure(
+                QStringLiteral("the left button alone is for drawing, add a key to it, "
+                               "such as ctrl+left"));
         bindings.trigger = host::triggerText(button, keys);
     }
     SettingsFile::Values values;

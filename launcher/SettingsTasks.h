@@ -1,19 +1,10 @@
 #pragma once
 
-#include <QByteArray>
+#include "launcher/Outcome.h"
+
 #include <QString>
 
 namespace launcher {
-
-// What came of a task: what to print, or one line that says why it could not be done. A
-// task that could not be done has changed nothing.
-struct Outcome
-{
-    QByteArray output;
-    QString complaint;
-
-    [[nodiscard]] bool isDone() const { return complaint.isEmpty(); }
-};
 
 // Shows and changes what is kept for one program, in the file in which the host keeps it. A
 // program that is running sees it at its next gesture.

@@ -2,9 +2,12 @@
 
 #include "host/InstallPaths.h"
 #include "launcher/CommandLine.h"
+#include "launcher/DesktopMenu.h"
 #include "launcher/Doctor.h"
 #include "launcher/LaunchEnvironment.h"
 #include "launcher/PluginFolders.h"
+#include "launcher/ProgramCheck.h"
+#include "launcher/ProgramExplainer.h"
 #include "launcher/ProgramLookup.h"
 #include "launcher/QtWidgetsUse.h"
 #include "launcher/SettingsTasks.h"
@@ -12,12 +15,13 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonDocument>
 #include <QString>
 
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
@@ -27,14 +31,7 @@ namespace {
 
 using namespace launcher;
 
-// The statuses that env, nohup and timeout give for the same reasons.
 constexpr int kTaskFailed = 1;
-constexpr int kLauncherFailed = 125;
-constexpr int kCannotRun = 126;
-constexpr int kNotFound = 127;
-
-// Where execvp() looks when there is no PATH.
-constexpr char kDefaultSearchPath[] = "/bin:/usr/bin";
 
 int complain(QString text, int status)
 {
@@ -43,11 +40,16 @@ int complain(QString text, int status)
     return status;
 }
 
-QByteArray executableFolder()
+QByteArray executablePath()
 {
     std::error_code error;
-    const std::filesystem::path self = std::filesystem::read_symlink("/proc/self/exe", error);
-    return QByteArray::fromStdString(self.parent_path().string());
+    return QByteArray::fromStdString(std::filesystem::read_symlink("/proc/self/exe", error).string());
+}
+
+QByteArray executableFolder()
+{
+    const QByteArray path = executablePath();
+    return path.left(path.lastIndexOf('/'));
 }
 
 // Replaces this process, so that signals and the exit status need no passing on. Returns
@@ -73,40 +75,10 @@ int run(const CommandLine &line)
     const QString name = QString::fromLocal8Bit(line.program);
     const Environment environment = readEnvironment(::environ);
 
-    const ProgramLookup lookup =
-        ProgramLookup::find(line.program, environment.value("PATH", kDefaultSearchPath));
-    switch (lookup.result) {
-    case ProgramLookup::Result::Missing:
-        return complain(QStringLiteral("%1: there is no such program").arg(name), kNotFound);
-    case ProgramLookup::Result::NotExecutable:
-        return complain(QStringLiteral("%1: the file may not be executed").arg(name), kCannotRun);
-    case ProgramLookup::Result::IsFolder:
-        return complain(QStringLiteral("%1: this is a folder, not a program").arg(name), kCannotRun);
-    case ProgramLookup::Result::Found:
-        break;
-    }
-
-    const QtWidgetsUse use = qtWidgetsUse(lookup.path, environment.value("LD_LIBRARY_PATH"),
-                                          systemLibraryFolders("/etc/ld.so.conf"));
-    if (use == QtWidgetsUse::None)
-        return complain(QStringLiteral("%1: gestures need a program made with Qt Widgets, "
-                                       "which this one is not")
-                            .arg(name),
-                        kCannotRun);
-
     const QList<PluginFolder> folders = pluginFolders(executableFolder());
-    const int wanted = use == QtWidgetsUse::Qt5 ? 5 : use == QtWidgetsUse::Qt6 ? 6 : 0;
-    const bool isThere =
-        std::any_of(folders.begin(), folders.end(), [wanted](const PluginFolder &folder) {
-            return wanted == 0 || folder.qtMajor == wanted;
-        });
-    if (!isThere)
-        return complain(wanted == 0 ? QStringLiteral("the plug-in libmousegestures is not installed")
-                                    : QStringLiteral("%1 uses Qt %2, for which the plug-in "
-                                                     "libmousegestures-qt%2.so is not installed")
-                                          .arg(name)
-                                          .arg(wanted),
-                        kLauncherFailed);
+    const ProgramCheck check = ProgramCheck::of(line.program, environment, folders);
+    if (check.status != 0)
+        return complain(check.complaint, check.status);
 
     const Environment prepared = withGestures(environment, folders, ::geteuid() == 0);
     if (lacksX11(prepared))
@@ -114,7 +86,7 @@ int run(const CommandLine &line)
                                 "away from the pointer"),
                  0);
 
-    replaceBy(lookup.path, line, prepared);
+    replaceBy(check.path, line, prepared);
     const int reason = errno;
     return complain(QStringLiteral("%1: %2").arg(name, QString::fromLocal8Bit(std::strerror(reason))),
                     reason == ENOENT ? kNotFound : kCannotRun);
@@ -168,6 +140,61 @@ int examine(const Subject &subject, const CommandLine &line, const Environment &
                     kTaskFailed);
 }
 
+int report(const Outcome &outcome)
+{
+    if (!outcome.isDone())
+        return complain(outcome.complaint, kTaskFailed);
+    std::fputs(outcome.output.constData(), stdout);
+    if (std::fflush(stdout) != 0)
+        return complain(QStringLiteral("standard output cannot be written"), kTaskFailed);
+    return 0;
+}
+
+// What is taken for what in a program goes to standard output as a profile, and for the
+// person to standard error.
+int explain(const CommandLine &line)
+{
+    const QString name = QString::fromLocal8Bit(line.program);
+    const Environment environment = readEnvironment(::environ);
+    const QList<PluginFolder> folders = pluginFolders(executableFolder());
+    const ProgramCheck check = ProgramCheck::of(line.program, environment, folders);
+    if (check.status != 0)
+        return complain(check.complaint, check.status);
+
+    ProgramExplainer explainer(check.path, QList<QByteArray>{line.program} + line.arguments,
+                               withGestures(environment, folders, ::geteuid() == 0));
+    const ProgramExplanation found = explainer.run();
+    if (found.signal != 0)
+        return ::raise(found.signal); // ends this too, as it would have without a program
+    if (!found.complaint.isEmpty())
+        return complain(QStringLiteral("%1: %2").arg(name, found.complaint), kTaskFailed);
+    for (const QString &text : found.lines)
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+    const QString program = found.profile.value(QStringLiteral("program")).toString();
+    std::fprintf(stderr, "To change any of it, keep the profile, edited, as %s\n",
+                 qPrintable(host::ownProfileFile(program)));
+    return report({QJsonDocument(found.profile).toJson(), {}});
+}
+
+// Puts the program with gestures into the desktop's menus, or takes it out again.
+int changeMenus(const CommandLine &line)
+{
+    const Environment environment = readEnvironment(::environ);
+    const DesktopMenu menu(
+        DesktopMenu::usualPlaces(environment.value("PATH", kDefaultSearchPath), executablePath()));
+    if (line.task == CommandLine::Task::Disable) {
+        const ProgramLookup lookup =
+            ProgramLookup::find(line.program, environment.value("PATH", kDefaultSearchPath));
+        const bool isFound = lookup.result == ProgramLookup::Result::Found;
+        return report(menu.disable(line.program, isFound ? lookup.path : QByteArray()));
+    }
+    const ProgramCheck check =
+        ProgramCheck::of(line.program, environment, pluginFolders(executableFolder()));
+    if (check.status != 0)
+        return complain(check.complaint, check.status);
+    return report(menu.enable(line.program, check.path));
+}
+
 // Does what is about a program without starting it.
 int doTask(const CommandLine &line)
 {
@@ -185,7 +212,7 @@ int doTask(const CommandLine &line)
 
     SettingsTasks tasks(subject.name, file);
     const QByteArray first = line.arguments.value(0);
-    const auto outcome = [&]() -> Outcome {
+    return report([&]() -> Outcome {
         switch (line.task) {
         case CommandLine::Task::ShowBindings:
             return tasks.showBindings();
@@ -204,13 +231,7 @@ int doTask(const CommandLine &line)
         default:
             return tasks.showBindingsAsJson();
         }
-    }();
-    if (!outcome.isDone())
-        return complain(outcome.complaint, kTaskFailed);
-    std::fputs(outcome.output.constData(), stdout);
-    if (std::fflush(stdout) != 0)
-        return complain(QStringLiteral("standard output cannot be written"), kTaskFailed);
-    return 0;
+    }());
 }
 
 } // namespace
@@ -233,6 +254,11 @@ int main(int argc, char **argv)
         return complain(line.complaint, kLauncherFailed);
     case CommandLine::Task::Run:
         return run(line);
+    case CommandLine::Task::Explain:
+        return explain(line);
+    case CommandLine::Task::Enable:
+    case CommandLine::Task::Disable:
+        return changeMenus(line);
     default:
         return doTask(line);
     }

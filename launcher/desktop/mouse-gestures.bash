@@ -7,13 +7,20 @@ _mouse_gestures() {
     if ((COMP_CWORD == 1)); then
         if [[ $current == -* ]]; then
             mapfile -t COMPREPLY < <(compgen -W "--bindings --bind --trigger --reset --export \
-                --import --doctor --help --version" -- "$current")
+                --import --doctor --explain --enable --disable --help --version" -- "$current")
         else
             mapfile -t COMPREPLY < <(compgen -c -- "$current")
         fi
         return
     fi
     case $option in
+        --explain)
+            if ((COMP_CWORD == 2)); then
+                mapfile -t COMPREPLY < <(compgen -c -- "$current")
+            else
+                mapfile -t COMPREPLY < <(compgen -f -- "$current")
+            fi
+            ;;
         -*)
             if ((COMP_CWORD == 2)); then
                 mapfile -t COMPREPLY < <(compgen -c -- "$current")

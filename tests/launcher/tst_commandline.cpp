@@ -43,6 +43,12 @@ private Q_SLOTS:
         QTest::newRow("--version") << Arguments{"--version"} << Task::ShowVersion << nothing
                                    << Arguments{};
         QTest::newRow("-V") << Arguments{"-V"} << Task::ShowVersion << nothing << Arguments{};
+        QTest::newRow("--enable") << Arguments{"--enable", "draw"} << Task::Enable << QByteArray("draw")
+                                  << Arguments{};
+        QTest::newRow("--disable") << Arguments{"--disable", "draw"} << Task::Disable
+                                   << QByteArray("draw") << Arguments{};
+        QTest::newRow("--explain") << Arguments{"--explain", "draw", "--json", "a", ""} << Task::Explain
+                                   << QByteArray("draw") << Arguments{"--json", "a", ""};
         QTest::newRow("nothing") << Arguments{} << Task::Complain << nothing << Arguments{};
         QTest::newRow("only --") << Arguments{"--"} << Task::Complain << nothing << Arguments{};
         QTest::newRow("empty program") << Arguments{""} << Task::Complain << nothing << Arguments{};

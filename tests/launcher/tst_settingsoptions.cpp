@@ -75,8 +75,8 @@ private Q_SLOTS:
                             const char *says) {
             QTest::newRow(name) << arguments << status << QByteArray(says);
         };
-        for (const char *option :
-             {"--bindings", "--bind", "--trigger", "--reset", "--export", "--import", "--doctor"}) {
+        for (const char *option : {"--bindings", "--bind", "--trigger", "--reset", "--export",
+                                   "--import", "--doctor", "--enable", "--disable"}) {
             const QString typed = QLatin1String(option);
             row(qPrintable(typed + QStringLiteral(" alone")), {typed}, 125, "usage: mouse-gestures --");
             row(qPrintable(typed + QStringLiteral(" and too much")),
@@ -93,6 +93,15 @@ private Q_SLOTS:
         row("no such program on the path", {text("--reset"), text("no-such-program-here")}, 127,
             "no-such-program-here: there is no such program");
         row("a folder", {text("--bindings"), text("/")}, 127, "there is no such program");
+        row("no such program in the menus", {text("--enable"), text("/nowhere/draw")}, 127,
+            "/nowhere/draw: there is no such program");
+        row("a program without widgets in the menus", {text("--enable"), text("cat")}, 126,
+            "cat: gestures need a program made with Qt Widgets");
+        row("nothing to explain", {text("--explain"), text("/nowhere/draw")}, 127,
+            "/nowhere/draw: there is no such program");
+        row("--explain alone", {text("--explain")}, 125, "usage: mouse-gestures --explain PROGRAM");
+        row("no desktop entry", {text("--enable"), kProgram}, 1,
+            "the desktop has no entry that starts it");
         row("no such direction", {text("--bind"), kProgram, text("north"), text("x")}, 1,
             "\"north\" is none of the 8 directions");
         row("a line end in a direction", {text("--bind"), kProgram, text("a\nb"), text("x")}, 1,
@@ -173,6 +182,28 @@ private Q_SLOTS:
         QVERIFY(missing.output.contains("program:     no-such-program-here, not found\n"));
     }
 
+    void theDesktopsMenus()
+    {
+        const QString entries = m_home->filePath(QStringLiteral("usr/applications"));
+        QVERIFY(QDir().mkpath(entries));
+        QFile entry(entries + QStringLiteral("/draw.desktop"));
+        QVERIFY(entry.open(QIODevice::WriteOnly));
+        QVERIFY(entry.write("[Desktop Entry]\nType=Application\nExec=" + QFile::encodeName(kProgram)
+                            + " %F\n")
+                > 0);
+        entry.close();
+        const QString copy = m_home->filePath(QStringLiteral("data/applications/draw.desktop"));
+        for (int i = 0; i < 2; ++i) {
+            expect({text("--enable"), kProgram}, "starts with gestures: " + QFile::encodeName(copy));
+            QVERIFY2(content(copy).contains("\nExec=" + QFile::encodeName(QStringLiteral(MOUSE_GESTURES))
+                                            + ' ' + QFile::encodeName(kProgram) + " %F\n"),
+                     content(copy).constData());
+        }
+        expect({text("--disable"), kProgram}, "draw.desktop is removed\n");
+        QVERIFY(!QFile::exists(copy));
+        expect({text("--disable"), kProgram}, "nothing was there to remove\n");
+    }
+
     void helpNamesThemAll()
     {
         const Outcome help = run({text("--help")});
@@ -182,8 +213,9 @@ private Q_SLOTS:
         QFile file(QStringLiteral(TESTS_SOURCE_DIR "/../launcher/desktop/mouse-gestures.bash"));
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QByteArray completion = file.readAll();
-        for (const char *option : {"--bindings", "--json", "--bind ", "--trigger", "--reset", "--export",
-                                   "--import", "--doctor", "--help", "--version"}) {
+        for (const char *option :
+             {"--bindings", "--json", "--bind ", "--trigger", "--reset", "--export", "--import",
+              "--doctor", "--enable", "--disable", "--explain", "--help", "--version"}) {
             QVERIFY2(help.output.contains(option), option);
             QVERIFY2(manual.contains(option), option);
             QVERIFY2(completion.contains(option), option);
@@ -198,6 +230,8 @@ private:
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_home->path());
+        environment.insert(QStringLiteral("XDG_DATA_HOME"), m_home->filePath(QStringLiteral("data")));
+        environment.insert(QStringLiteral("XDG_DATA_DIRS"), m_home->filePath(QStringLiteral("usr")));
         for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "XDG_SESSION_TYPE"})
             environment.remove(QLatin1String(name));
         QProcess process;
