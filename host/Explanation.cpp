@@ -50,6 +50,17 @@ QString describe(const QString &className, const QString &name)
     return name.isEmpty() ? className : QStringLiteral("%1 \"%2\"").arg(className, name);
 }
 
+// Why an action was taken for a well-known one. A guess is made once: at later starts the
+// command is remembered, and has no reason.
+QString guessReason(const ActionItem &item, const QString &identifier, const QString &known)
+{
+    if (!known.isEmpty())
+        return known;
+    const QVector<WellKnownGuess> again = WellKnownGuess::among({item.action()}, {identifier});
+    return again.isEmpty() ? QStringLiteral("it was taken for it at an earlier start")
+                           : again.first().reason;
+}
+
 } // namespace
 
 void Explanation::Findings::add(const QString &what, const QString &text)
@@ -226,7 +237,7 @@ void Explanation::explainCommands(Findings &findings)
         else if (isThere && key == identifier)
             reason = QStringLiteral("the action itself is called so");
         else if (isThere)
-            reason = catalogue.reasonFor(identifier);
+            reason = guessReason(*item, identifier, catalogue.reasonFor(identifier));
         else
             reason = QStringLiteral("no shortcut, icon, object name or caption speaks for an action");
         if (named.isEmpty() && isThere && key != identifier)

@@ -152,6 +152,11 @@ void TestProgramExplainer::whatAGuessFinds()
           "ID_LINE: drawLine, since object name \"drawLine\", caption \"Line\"\n",
           "ID_TRIM: none, since no shortcut, icon, object name or caption speaks for an action\n"})
         QVERIFY2(lines.contains(QLatin1String(line)), qPrintable(lines));
+    // At the next start it has its commands from the first one.
+    const ProgramExplanation again = explainGuest("stay");
+    QCOMPARE(again.lines, found.lines);
+    QCOMPARE(again.profile, found.profile);
+
     const QJsonObject why = found.profile.value(QStringLiteral("why")).toObject();
     QVERIFY(why.value(QStringLiteral("views")).toObject().contains(QStringLiteral("GuestView")));
     QVERIFY(
