@@ -17,6 +17,7 @@ struct TaskOption
 
 constexpr TaskOption kTaskOptions[] = {
     {"--bindings", CommandLine::Task::ShowBindings, 0, 1, "PROGRAM [--json]"},
+    {"--list-commands", CommandLine::Task::ListCommands, 0, 1, "PROGRAM [--json]"},
     {"--bind", CommandLine::Task::Bind, 2, 2, "PROGRAM DIRECTION COMMAND"},
     {"--trigger", CommandLine::Task::SetTrigger, 1, 1, "PROGRAM TRIGGER"},
     {"--reset", CommandLine::Task::Reset, 0, 0, "PROGRAM"},
@@ -33,14 +34,19 @@ CommandLine parseTask(const TaskOption &option, const QList<QByteArray> &words)
 {
     CommandLine line;
     const auto count = static_cast<int>(words.size()) - 1; // without the program
-    const bool isBindings = option.task == CommandLine::Task::ShowBindings;
+    const bool mayBeJson =
+        option.task == CommandLine::Task::ShowBindings || option.task == CommandLine::Task::ListCommands;
     if (count < option.least || count > option.most || words.first().isEmpty()
-        || (isBindings && count == 1 && words.last() != "--json")) {
+        || (mayBeJson && count == 1 && words.last() != "--json")) {
         line.complaint = QStringLiteral("usage: mouse-gestures %1 %2")
                              .arg(QLatin1String(option.name), QLatin1String(option.usage));
         return line;
     }
-    line.task = isBindings && count == 1 ? CommandLine::Task::ShowBindingsAsJson : option.task;
+    line.task = option.task;
+    if (mayBeJson && count == 1)
+        line.task = option.task == CommandLine::Task::ShowBindings
+                      ? CommandLine::Task::ShowBindingsAsJson
+                      : CommandLine::Task::ListCommandsAsJson;
     line.program = words.first();
     line.arguments = words.mid(1);
     return line;
@@ -96,9 +102,10 @@ menus says which command lies in which direction.
 PROGRAM is any program made with Qt Widgets, 5 or 6. Nothing of it is changed.
 
   --bindings PROGRAM [--json]       show which command lies in which direction
-  --bind PROGRAM DIRECTION COMMAND  put a command, or none, into a direction: up, left,
-                                    down, right; of eight also up-left, down-left,
-                                    down-right, up-right
+  --list-commands PROGRAM [--json]  show the commands that the program has shown so far
+  --bind PROGRAM DIRECTION COMMAND  put a command, by identifier or caption, or none
+                                    into a direction: up, left, down, right; of eight
+                                    also up-left, down-left, down-right, up-right
   --trigger PROGRAM TRIGGER         what starts a gesture: right, middle, ctrl+right,
                                     and so on; default for what is usual
   --reset PROGRAM                   bring the first bindings back

@@ -19,6 +19,8 @@ struct CommandLine
         ShowVersion,
         ShowBindings,
         ShowBindingsAsJson,
+        ListCommands,
+        ListCommandsAsJson,
         Bind, // direction, command
         SetTrigger, // trigger
         Reset,

@@ -46,23 +46,32 @@ void append(QByteArray &text, const QString &line)
     text += line.toLocal8Bit() + '\n';
 }
 
-void appendScheme(QByteArray &text, int scheme, const QStringList &commands, bool isInUse)
+void appendScheme(QByteArray &text, int scheme, const QStringList &commands, bool isInUse,
+                  const KnownCommands &known)
 {
     append(text, QStringLiteral("%1 gestures%2")
                      .arg(scheme)
                      .arg(isInUse ? QStringLiteral(" (in use)") : QString()));
     const QStringList names = Bindings::directionNames(scheme);
+    QStringList shown;
+    int width = 0;
+    for (const QString &command : commands) {
+        shown.append(command.isEmpty() ? QStringLiteral("none") : command.simplified());
+        width = std::max(width, static_cast<int>(shown.last().size()));
+    }
     for (int i = 0; i < scheme; ++i) {
-        const QString command = commands.at(i).isEmpty() ? QStringLiteral("none") : commands.at(i);
-        append(text, QStringLiteral("  %1 %2").arg(names.at(i), -10).arg(command.simplified()));
+        const QString caption = known.captionOf(commands.at(i));
+        const QString command = caption.isEmpty() ? shown.at(i) : shown.at(i).leftJustified(width + 2);
+        append(text, QStringLiteral("  %1 %2%3").arg(names.at(i), -10).arg(command, caption));
     }
 }
 
 } // namespace
 
-SettingsTasks::SettingsTasks(const QString &program, const QString &file)
+SettingsTasks::SettingsTasks(const QString &program, const QString &file, const KnownCommands &commands)
     : m_program(program)
     , m_file(file)
+    , m_commands(commands)
 {
 }
 
@@ -76,8 +85,10 @@ Outcome SettingsTasks::showBindings() const
     if (!bindings.trigger.isEmpty())
         append(outcome.output, QStringLiteral("started with: %1").arg(bindings.trigger));
     const bool isFour = bindings.scheme == 4;
-    appendScheme(outcome.output, isFour ? 4 : 8, isFour ? bindings.four : bindings.eight, true);
-    appendScheme(outcome.output, isFour ? 8 : 4, isFour ? bindings.eight : bindings.four, false);
+    appendScheme(outcome.output, isFour ? 4 : 8, isFour ? bindings.four : bindings.eight, true,
+                 m_commands);
+    appendScheme(outcome.output, isFour ? 8 : 4, isFour ? bindings.eight : bindings.four, false,
+                 m_commands);
     return outcome;
 }
 
@@ -101,7 +112,12 @@ Outcome SettingsTasks::bind(const QString &direction, const QString &command)
     const auto isControl = [](QChar letter) { return letter.category() == QChar::Other_Control; };
     if (std::any_of(command.begin(), command.end(), isControl))
         return Outcome::failure(QStringLiteral("a command's identifier has no control characters"));
-    const QString wanted = command == QLatin1String("none") ? QString() : command;
+    QString wanted;
+    if (!command.isEmpty() && command != QLatin1String("none")) {
+        const QString complaint = m_commands.resolve(command, m_program, wanted);
+        if (!complaint.isEmpty())
+            return Outcome::failure(complaint);
+    }
 
     QStringList &commands = bindings.commands();
     for (QString &other : commands) {

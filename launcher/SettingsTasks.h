@@ -1,5 +1,6 @@
 #pragma once
 
+#include "launcher/KnownCommands.h"
 #include "launcher/Outcome.h"
 
 #include <QString>
@@ -11,14 +12,14 @@ namespace launcher {
 class SettingsTasks
 {
 public:
-    // The program's name, by which its settings are found, and their file.
-    SettingsTasks(const QString &program, const QString &file);
+    // The program's name, by which its settings are found, their file, and its commands.
+    SettingsTasks(const QString &program, const QString &file, const KnownCommands &commands = {});
 
-    // Both schemes, the one in use first.
+    // Both schemes, the one in use first, with the captions of the commands that are known.
     [[nodiscard]] Outcome showBindings() const;
     [[nodiscard]] Outcome showBindingsAsJson() const;
-    // Puts a command into a direction of the scheme in use; "" and "none" empty it. A
-    // command that had another direction of that scheme leaves it.
+    // Puts a command, named as KnownCommands has it, into a direction of the scheme in use;
+    // "" and "none" empty it. A command that had another direction of that scheme leaves it.
     [[nodiscard]] Outcome bind(const QString &direction, const QString &command);
     // All fourteen values as they are at first. What starts a gesture stays.
     [[nodiscard]] Outcome reset();
@@ -34,6 +35,7 @@ public:
 private:
     QString m_program;
     QString m_file;
+    KnownCommands m_commands;
 };
 
 } // namespace launcher

@@ -1,9 +1,13 @@
 // mouse-gestures PROGRAM [ARGUMENTS...]: starts a program with mouse gestures.
 
+#include "host/CatalogueFile.h"
 #include "host/InstallPaths.h"
+#include "host/ProgramProfile.h"
+#include "launcher/Bindings.h"
 #include "launcher/CommandLine.h"
 #include "launcher/DesktopMenu.h"
 #include "launcher/Doctor.h"
+#include "launcher/KnownCommands.h"
 #include "launcher/LaunchEnvironment.h"
 #include "launcher/PluginFolders.h"
 #include "launcher/ProgramCheck.h"
@@ -205,17 +209,27 @@ int doTask(const CommandLine &line)
         return examine(subject, line, environment, profileFolders);
     // A program that is gone may still have settings, which somebody wants to keep.
     const QString file = host::settingsFile(subject.name);
-    if (subject.path.isEmpty() && !QFileInfo::exists(file))
+    if (subject.path.isEmpty() && !QFileInfo::exists(file)
+        && !QFileInfo::exists(host::catalogueFile(subject.name)))
         return complain(
             QStringLiteral("%1: there is no such program").arg(QString::fromLocal8Bit(line.program)),
             kNotFound);
 
-    SettingsTasks tasks(subject.name, file);
+    const QStringList wellKnown =
+        host::ProgramProfile::forProgram(subject.name, profileFolders, nullptr).wellKnownCommands.keys()
+        + Bindings::initial().eight;
+    const KnownCommands commands(host::CatalogueFile(host::catalogueFile(subject.name)).read(),
+                                 wellKnown);
+    SettingsTasks tasks(subject.name, file, commands);
     const QByteArray first = line.arguments.value(0);
     return report([&]() -> Outcome {
         switch (line.task) {
         case CommandLine::Task::ShowBindings:
             return tasks.showBindings();
+        case CommandLine::Task::ListCommands:
+            return commands.list(subject.name);
+        case CommandLine::Task::ListCommandsAsJson:
+            return commands.listAsJson(subject.name);
         case CommandLine::Task::Bind:
             return tasks.bind(QString::fromLocal8Bit(first),
                               QString::fromLocal8Bit(line.arguments.value(1)));

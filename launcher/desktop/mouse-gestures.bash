@@ -6,7 +6,7 @@ _mouse_gestures() {
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then
         if [[ $current == -* ]]; then
-            mapfile -t COMPREPLY < <(compgen -W "--bindings --bind --trigger --reset --export \
+            mapfile -t COMPREPLY < <(compgen -W "--bindings --list-commands --bind --trigger --reset --export \
                 --import --doctor --explain --enable --disable --help --version" -- "$current")
         else
             mapfile -t COMPREPLY < <(compgen -c -- "$current")
@@ -26,11 +26,15 @@ _mouse_gestures() {
                 mapfile -t COMPREPLY < <(compgen -c -- "$current")
             elif ((COMP_CWORD == 3)); then
                 case $option in
-                    --bindings) mapfile -t COMPREPLY < <(compgen -W "--json" -- "$current") ;;
+                    --bindings | --list-commands) mapfile -t COMPREPLY < <(compgen -W "--json" -- "$current") ;;
                     --bind) mapfile -t COMPREPLY < <(compgen -W "$directions" -- "$current") ;;
                     --trigger) mapfile -t COMPREPLY < <(compgen -W "$triggers" -- "$current") ;;
                     --export | --import) mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
                 esac
+            elif ((COMP_CWORD == 4)) && [[ $option == --bind ]]; then
+                # Those of plain letters: compgen expands what it is given.
+                mapfile -t COMPREPLY < <(compgen -W "none $(mouse-gestures --list-commands \
+                    "${COMP_WORDS[2]}" 2>/dev/null | sed -n 's/^  \([[:alnum:]_.:-]*\)\(  .*\)*$/\1/p')" -- "$current")
             fi
             ;;
         *) mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;

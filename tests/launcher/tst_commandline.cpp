@@ -47,6 +47,11 @@ private Q_SLOTS:
                                   << Arguments{};
         QTest::newRow("--disable") << Arguments{"--disable", "draw"} << Task::Disable
                                    << QByteArray("draw") << Arguments{};
+        QTest::newRow("--list-commands") << Arguments{"--list-commands", "draw"} << Task::ListCommands
+                                         << QByteArray("draw") << Arguments{};
+        QTest::newRow("--list-commands as JSON")
+            << Arguments{"--list-commands", "draw", "--json"} << Task::ListCommandsAsJson
+            << QByteArray("draw") << Arguments{"--json"};
         QTest::newRow("--explain") << Arguments{"--explain", "draw", "--json", "a", ""} << Task::Explain
                                    << QByteArray("draw") << Arguments{"--json", "a", ""};
         QTest::newRow("nothing") << Arguments{} << Task::Complain << nothing << Arguments{};

@@ -1,5 +1,6 @@
 // The options about a program that is not started, as a person types them.
 
+#include "host/CatalogueFile.h"
 #include "tests/support/FatalWarnings.h"
 
 #include <QDir>
@@ -182,6 +183,29 @@ private Q_SLOTS:
         QVERIFY(missing.output.contains("program:     no-such-program-here, not found\n"));
     }
 
+    void commandsThatWereShown()
+    {
+        const Outcome before = run({text("--list-commands"), kProgram});
+        QCOMPARE(before.status, 1);
+        QVERIFY2(before.errors.contains("no command of launcher_fixture_direct is known before"),
+                 before.errors.constData());
+        QCOMPARE(before.errors.count('\n'), 1);
+
+        host::CatalogueFile file(
+            m_home->filePath(text("gesturewidget/launcher_fixture_direct.commands.json")));
+        QVERIFY(file.merge({{text("drawArc"), {}, text("Arc..."), {}, text("Draw"), {}, false}}));
+        expect({text("--list-commands"), kProgram}, "Draw\n  drawArc  Arc...\n");
+        expect({text("--list-commands"), kProgram, text("--json")}, "\"identifier\": \"drawArc\"");
+        expect({text("--bind"), kProgram, text("up-left"), text("arc")}, "");
+        expect({text("--bindings"), kProgram}, "  up-left    drawArc         Arc...\n");
+        const Outcome never = run({text("--bind"), kProgram, text("up"), text("Circle")});
+        QCOMPARE(never.status, 1);
+        QCOMPARE(never.errors.count('\n'), 1);
+        QVERIFY2(never.errors.contains("--list-commands launcher_fixture_direct"),
+                 never.errors.constData());
+        expect({text("--bind"), kProgram, text("up"), text("ID_TRIM")}, "");
+    }
+
     void theDesktopsMenus()
     {
         const QString entries = m_home->filePath(QStringLiteral("usr/applications"));
@@ -213,9 +237,9 @@ private Q_SLOTS:
         QFile file(QStringLiteral(TESTS_SOURCE_DIR "/../launcher/desktop/mouse-gestures.bash"));
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QByteArray completion = file.readAll();
-        for (const char *option :
-             {"--bindings", "--json", "--bind ", "--trigger", "--reset", "--export", "--import",
-              "--doctor", "--enable", "--disable", "--explain", "--help", "--version"}) {
+        for (const char *option : {"--bindings", "--json", "--bind ", "--trigger", "--reset", "--export",
+                                   "--import", "--doctor", "--enable", "--disable", "--explain",
+                                   "--list-commands", "--help", "--version"}) {
             QVERIFY2(help.output.contains(option), option);
             QVERIFY2(manual.contains(option), option);
             QVERIFY2(completion.contains(option), option);

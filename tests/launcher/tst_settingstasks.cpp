@@ -54,6 +54,7 @@ private Q_SLOTS:
     void aSchemeThatWasTouchedHasNothingWhereNothingStands();
     void bindsInTheSchemeInUse_data();
     void bindsInTheSchemeInUse();
+    void aCommandByItsCaption();
     void aCommandHasOneDirection();
     void otherProgramsValuesStay();
     void resetKeepsTheTrigger();
@@ -169,6 +170,33 @@ void TestSettingsTasks::bindsInTheSchemeInUse()
         QVERIFY(tasks().bind(direction, text(nothing)).isDone());
         QCOMPARE(SettingsFile(m_file).read().value(key, text("<missing>")), QString());
     }
+}
+
+void TestSettingsTasks::aCommandByItsCaption()
+{
+    const launcher::KnownCommands known(
+        {{text("drawArc"), {}, text("Arc..."), {}, text("Draw"), {}, false},
+         {text("ID_LINE"), text("drawLine"), text("Straight  line"), {}, text("Draw"), {}, false}},
+        {});
+    SettingsTasks named(kProgram, m_file, known);
+    QVERIFY(named.bind(text("up-left"), text("arc")).isDone());
+    QCOMPARE(kept().eight.at(1), text("drawArc"));
+    QVERIFY(named.bind(text("up"), text("drawLine")).isDone());
+    QCOMPARE(kept().eight.at(0), text("ID_LINE"));
+    QCOMPARE(kept().eight.at(6), QString()); // where it was before
+
+    const QByteArray before = content(m_file);
+    QVERIFY(named.bind(text("down"), text("Circle")).complaint.contains(text("never shown")));
+    QCOMPARE(content(m_file), before);
+    QVERIFY(named.bind(text("up-left"), text("none")).isDone());
+    QCOMPARE(kept().eight.at(1), QString());
+
+    QVERIFY(named.bind(text("up-left"), text("Arc...")).isDone());
+    const QByteArray output = named.showBindings().output;
+    QVERIFY2(output.contains("  up         ID_LINE   Straight line\n"
+                             "  up-left    drawArc   Arc...\n"
+                             "  left       ID_OPEN\n"),
+             output.constData());
 }
 
 void TestSettingsTasks::aCommandHasOneDirection()
