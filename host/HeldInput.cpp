@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QtTest/qtestspontaneevent.h>
 
-#include <optional>
 #include <utility>
 
 namespace host {
@@ -33,10 +32,20 @@ HeldInput::~HeldInput() = default;
 void HeldInput::hold(QWindow *window, const QMouseEvent &event)
 {
     const bool replacesLast = m_held.size() > kMostMovements && event.type() == QEvent::MouseMove
-                           && m_held.back().event.type() == QEvent::MouseMove;
+                           && m_held.back().isA(QEvent::MouseMove);
     if (replacesLast)
         m_held.pop_back();
-    m_held.push_back({window, qtbridge::KeptMouseEvent(event)});
+    m_held.push_back({window, qtbridge::KeptMouseEvent(event), nullptr});
+}
+
+void HeldInput::hold(QWindow *window, const QKeyEvent &event)
+{
+    m_held.push_back({window, std::nullopt, qtbridge::copyOf(event)});
+}
+
+void HeldInput::hold(QWindow *window, const QWheelEvent &event)
+{
+    m_held.push_back({window, std::nullopt, qtbridge::copyOf(event)});
 }
 
 void HeldInput::drop()
@@ -59,8 +68,10 @@ void HeldInput::sendRest()
 {
     const QPointer<HeldInput> self = this;
     const std::shared_ptr<std::deque<Item>> outgoing = m_outgoing;
-    const auto send = [&self](const Item &item) {
-        const std::unique_ptr<QMouseEvent> event = item.event.event();
+    const auto send = [&self](Item &item) {
+        std::unique_ptr<QInputEvent> event = std::move(item.other);
+        if (item.mouse)
+            event = item.mouse->event();
         const QEvent *outer = self ? std::exchange(self->m_sending, event.get()) : nullptr;
         // Not sendEvent(), which would make it an event of the program's own again. And of
         // one from the window system Qt notes which buttons are down; so also those that
@@ -73,14 +84,14 @@ void HeldInput::sendRest()
             self->m_sending = outer;
     };
     while (!outgoing->empty() && qApp) {
-        const Item item = std::move(outgoing->front());
+        Item item = std::move(outgoing->front());
         outgoing->pop_front();
         // Of a double click Qt makes two events at once. A menu that the first one opens
         // must not get the second: that one waits for it, as it does without us, while the
         // release that follows is the menu's.
         std::optional<Item> twin;
-        if (item.event.type() == QEvent::MouseButtonPress && !outgoing->empty()
-            && outgoing->front().event.type() == QEvent::MouseButtonDblClick) {
+        if (item.isA(QEvent::MouseButtonPress) && !outgoing->empty()
+            && outgoing->front().isA(QEvent::MouseButtonDblClick)) {
             twin = std::move(outgoing->front());
             outgoing->pop_front();
         }

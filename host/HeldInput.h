@@ -2,6 +2,7 @@
 
 #include "sdk/QtBridge.h"
 
+#include <QInputEvent>
 #include <QMouseEvent>
 #include <QObject>
 #include <QPointer>
@@ -9,11 +10,13 @@
 
 #include <deque>
 #include <memory>
+#include <optional>
 
 namespace host {
 
 // Mouse events of windows that were kept from the program, in their order, until it is
-// known whether they become a gesture.
+// known whether they become a gesture; and the key or the turn of the wheel that says that
+// they do not.
 //
 // They are either dropped or sent to the same windows again, as if they came from the
 // window system just then. The program may enter an event loop inside one of them, as it
@@ -29,6 +32,8 @@ public:
 
     // Keeps a copy.
     void hold(QWindow *window, const QMouseEvent &event);
+    void hold(QWindow *window, const QKeyEvent &event);
+    void hold(QWindow *window, const QWheelEvent &event);
     void drop();
     // Sends everything that is held. May run event loops, and this may be gone afterwards.
     void replay();
@@ -48,7 +53,10 @@ private:
     struct Item
     {
         QPointer<QWindow> window;
-        qtbridge::KeptMouseEvent event;
+        std::optional<qtbridge::KeptMouseEvent> mouse;
+        std::unique_ptr<QInputEvent> other; // when it is none of the mouse's buttons
+
+        [[nodiscard]] bool isA(QEvent::Type type) const { return mouse && mouse->type() == type; }
     };
 
     std::deque<Item> m_held;

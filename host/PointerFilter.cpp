@@ -57,6 +57,15 @@ bool PointerFilter::eventFilter(QObject *receiver, QEvent *event)
             return false;
         return receiver->isWindowType()
             && filterWindow(static_cast<QWindow *>(receiver), *static_cast<QMouseEvent *>(event));
+    case QEvent::KeyPress: {
+        const auto &key = *static_cast<QKeyEvent *>(event);
+        // A key that is held since before the press says nothing, nor does its release.
+        return m_state == State::Holding && receiver->isWindowType() && !key.isAutoRepeat()
+            && giveBackBefore(static_cast<QWindow *>(receiver), key);
+    }
+    case QEvent::Wheel:
+        return m_state == State::Holding && receiver->isWindowType()
+            && giveBackBefore(static_cast<QWindow *>(receiver), *static_cast<QWheelEvent *>(event));
     case QEvent::Show:
     case QEvent::Hide:
     case QEvent::Close:
@@ -196,6 +205,14 @@ bool PointerFilter::filterHolding(QWindow *window, const QMouseEvent &event)
         beginGesture(seen);
     else if (distance.manhattanLength() > kRefusedDistance)
         giveBack();
+    return true;
+}
+
+// Held as well, so that it reaches what the press opens, such as a menu.
+template <class Event> bool PointerFilter::giveBackBefore(QWindow *window, const Event &event)
+{
+    m_held.hold(window, event);
+    giveBack();
     return true;
 }
 

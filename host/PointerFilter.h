@@ -24,7 +24,7 @@ class DocumentManager;
 // back where Qt gets them, at the window, before Qt itself has taken note of them. They
 // are dropped when a tracker says that it is a gesture, and sent again when it is not one:
 // the button was let go, the pointer went too far without a tracker taking it, or something
-// came between. The program then sees what it always saw, only later.
+// came between, such as a key. The program then sees what it always saw, only later.
 //
 //     Idle --trigger pressed in a view--> Holding
 //     Holding --a tracker takes the drag--> Gesturing
@@ -68,6 +68,8 @@ private:
     bool filterHolding(QWindow *window, const QMouseEvent &event);
     bool filterGesturing(QWindow *window, const QMouseEvent &event);
     bool filterSwallowing(QWindow *window, const QMouseEvent &event);
+    // A key or the wheel, while Holding.
+    template <class Event> bool giveBackBefore(QWindow *window, const Event &event);
 
     // The drag is a gesture.
     void beginGesture(const HitTest::Event &motion);

@@ -125,6 +125,16 @@ private:
 #endif
 };
 
+// A copy of an event that can be sent later.
+template <class Event> [[nodiscard]] std::unique_ptr<Event> copyOf(const Event &event)
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return std::make_unique<Event>(event);
+#else
+    return std::unique_ptr<Event>(event.clone());
+#endif
+}
+
 namespace detail {
 // Only names the protected function below; there is never an object of it.
 class ItemViewAccess : public QAbstractItemView

@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QTest>
 #include <QTimer>
+#include <QtTest/qtestspontaneevent.h>
 #include <QWheelEvent>
 
 #include <functional>
@@ -51,6 +52,14 @@ public:
         QTest::mousePress(window.windowHandle(), button, modifiers, inWindow(position));
     }
     void move(QPoint position) { QTest::mouseMove(window.windowHandle(), inWindow(position)); }
+    void turnWheel(QPoint position)
+    {
+        const QPoint place = inWindow(position);
+        QWheelEvent wheel(place, window.mapToGlobal(place), {}, QPoint(0, 120),
+                          QGuiApplication::mouseButtons(), Qt::NoModifier, Qt::NoScrollPhase, false);
+        QSpontaneKeyEvent::setSpontaneous(&wheel);
+        qApp->notify(window.windowHandle(), &wheel);
+    }
     // From the press until the overlay has taken a direction; the button is still down.
     void chooseSector()
     {
@@ -132,6 +141,8 @@ private Q_SLOTS:
     void dialogOpenedByThePressBlocksTheRest();
 
     void pressIsHeldBack();
+    void keysOfBeforeLetTheGestureBe();
+    void keyGivesBackAPressThatClosesTheWindow();
     void pressIsNotHeldBack_data();
     void pressIsNotHeldBack();
     void twentyPixelsAreNoGesture();
@@ -251,13 +262,37 @@ void tst_PointerFilter::programSeesPlainUseUnchanged_data()
     row("wheel and keys", [](Desk &d) {
         d.view->setFocus();
         QTest::keyClick(d.window.windowHandle(), Qt::Key_A);
-        const QPoint position = d.inWindow(kPress);
-        QWheelEvent wheel(position, d.window.mapToGlobal(position), {}, QPoint(0, 120), Qt::NoButton,
-                          Qt::NoModifier, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(d.window.windowHandle(), &wheel);
+        d.turnWheel(kPress);
         d.press(kPress);
         d.release(kPress);
         QTest::keyClick(d.window.windowHandle(), Qt::Key_Escape);
+    });
+    row("key during the press", [](Desk &d) {
+        d.view->setFocus();
+        d.press(kPress);
+        QTest::keyClick(d.window.windowHandle(), Qt::Key_A);
+        d.release(kPress);
+    });
+    row("modifier during the press", [](Desk &d) {
+        d.view->setFocus();
+        d.press(kPress);
+        d.move(kPress + QPoint(5, 5));
+        QTest::keyPress(d.window.windowHandle(), Qt::Key_Control);
+        d.move(kPress + QPoint(60, 0));
+        d.release(kPress + QPoint(60, 0));
+        QTest::keyRelease(d.window.windowHandle(), Qt::Key_Control);
+    });
+    row("wheel during the press", [](Desk &d) {
+        d.press(kPress);
+        d.turnWheel(kPress);
+        d.release(kPress);
+    });
+    row("wheel during a short drag", [](Desk &d) {
+        d.press(kPress);
+        d.move(kPress + QPoint(6, 0));
+        d.turnWheel(kPress + QPoint(6, 0));
+        d.move(kPress + QPoint(70, 0));
+        d.release(kPress + QPoint(70, 0));
     });
     row("gestures disabled", [](Desk &d) {
         d.isEnabled = false;
@@ -447,6 +482,54 @@ void tst_PointerFilter::dialogOpenedByThePressBlocksTheRest()
     QCOMPARE(whileOpen, QStringList());
     QCOMPARE(desk.view->log.filter(QStringLiteral("Release")), QStringList());
     QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+// Who types fast has not let go of the last key yet when the drag begins.
+void tst_PointerFilter::keysOfBeforeLetTheGestureBe()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.view->setFocus();
+    QTest::keyPress(desk.window.windowHandle(), Qt::Key_L);
+    desk.press(kPress);
+    desk.view->log.clear();
+    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_L, Qt::NoModifier, QStringLiteral("l"), true);
+    QCoreApplication::sendEvent(desk.window.windowHandle(), &repeated);
+    QTest::keyRelease(desk.window.windowHandle(), Qt::Key_L);
+    QCOMPARE(desk.view->log.filter(QStringLiteral("Key")).size(), 2); // at once
+    QCOMPARE(desk.state(), PointerFilter::State::Holding);
+    desk.move(kPress + QPoint(30, 0));
+    QVERIFY(desk.tracker.overlay->isOn);
+    desk.release(kPress + QPoint(30, 0));
+    QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+// A key gives back the press, and the program does with that what it likes.
+void tst_PointerFilter::keyGivesBackAPressThatClosesTheWindow()
+{
+    Desk desk;
+    auto *window = new QWidget;
+    window->resize(300, 300);
+    auto *view = new tests::LoggingView(window);
+    view->resize(300, 300);
+    window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window));
+    desk.addFilter();
+    desk.documents.open(view)->inputPoints().AddTracker(&desk.tracker, 0);
+    const QPointer<QWidget> guard = window;
+    view->onPress = [window] {
+        window->hide();
+        window->deleteLater();
+    };
+    QTest::mousePress(window->windowHandle(), Qt::RightButton, {}, kPress);
+    QCOMPARE(desk.state(), PointerFilter::State::Holding);
+    QTest::keyPress(window->windowHandle(), Qt::Key_A);
+    QCoreApplication::processEvents();
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    QTRY_VERIFY(!guard);
+    desk.press(kPress); // which button is down is up to date again
+    desk.release(kPress);
 }
 
 void tst_PointerFilter::pressIsHeldBack()
