@@ -8,6 +8,8 @@
 #include <QMetaEnum>
 #include <QMouseEvent>
 #include <QStringList>
+#include <QTabletEvent>
+#include <QWheelEvent>
 #include <QWidget>
 
 #include <functional>
@@ -61,35 +63,67 @@ public:
             break;
         }
         case QEvent::KeyPress:
-        case QEvent::KeyRelease:
-            line += QStringLiteral(" key %1").arg(static_cast<const QKeyEvent &>(event).key());
+        case QEvent::KeyRelease: {
+            const auto &key = static_cast<const QKeyEvent &>(event);
+            line += QStringLiteral(" key %1 text \"%2\" modifiers %3")
+                        .arg(key.key())
+                        .arg(key.text())
+                        .arg(key.modifiers());
             break;
+        }
+        case QEvent::Wheel: {
+            const auto &wheel = static_cast<const QWheelEvent &>(event);
+            line += QStringLiteral(" at %1,%2 by %3 buttons %4")
+                        .arg(wheel.position().x())
+                        .arg(wheel.position().y())
+                        .arg(wheel.angleDelta().y())
+                        .arg(wheel.buttons());
+            break;
+        }
+        case QEvent::TabletPress:
+        case QEvent::TabletMove:
+        case QEvent::TabletRelease: {
+            const auto &tablet = static_cast<const QTabletEvent &>(event);
+            line += QStringLiteral(" pressure %1 button %2 buttons %3")
+                        .arg(tablet.pressure())
+                        .arg(tablet.button())
+                        .arg(tablet.buttons());
+            break;
+        }
         default:
             break;
         }
         return line;
     }
-
-protected:
-    bool event(QEvent *event) override
+    // Whether it is one of the events that are written down.
+    [[nodiscard]] static bool isInput(const QEvent &event)
     {
-        switch (event->type()) {
+        switch (event.type()) {
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonRelease:
         case QEvent::MouseButtonDblClick:
         case QEvent::MouseMove:
         case QEvent::ContextMenu:
         case QEvent::Wheel:
+        case QEvent::TabletPress:
+        case QEvent::TabletMove:
+        case QEvent::TabletRelease:
         case QEvent::KeyPress:
         case QEvent::KeyRelease:
         case QEvent::Enter:
         case QEvent::Leave:
         case QEvent::FocusIn:
-            log << describe(*event);
-            break;
+            return true;
         default:
-            break;
+            return false;
         }
+    }
+
+protected:
+    bool event(QEvent *event) override
+    {
+        if (isInput(*event))
+            log << describe(*event);
         return QWidget::event(event);
     }
     void mousePressEvent(QMouseEvent *) override

@@ -20,6 +20,8 @@ private Q_SLOTS:
 
     void programEndsAsItWould_data();
     void programEndsAsItWould();
+    void programSeesWhatItAlwaysSaw_data();
+    void programSeesWhatItAlwaysSaw();
     void environmentIsClean();
     void brokenModuleLeavesTheProgramAlone_data();
     void brokenModuleLeavesTheProgramAlone();
@@ -34,10 +36,16 @@ private:
         QStringList errors;
     };
     Result run(const QString &mode, const QString &plugins = QStringLiteral(PLUGINS_DIR),
+               const QString &keys = QStringLiteral("mousegestures"))
+    {
+        return run(QStringList(mode), plugins, keys);
+    }
+    Result run(const QStringList &arguments, const QString &plugins = QStringLiteral(PLUGINS_DIR),
                const QString &keys = QStringLiteral("mousegestures"));
 };
 
-tst_Inject::Result tst_Inject::run(const QString &mode, const QString &plugins, const QString &keys)
+tst_Inject::Result tst_Inject::run(const QStringList &arguments, const QString &plugins,
+                                   const QString &keys)
 {
     QTemporaryDir home;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -50,7 +58,7 @@ tst_Inject::Result tst_Inject::run(const QString &mode, const QString &plugins, 
         environment.insert(QLatin1String(name), home.path());
     QProcess process;
     process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(GUEST), {mode});
+    process.start(QStringLiteral(GUEST), arguments);
     Result result;
     result.ended = process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit;
     result.status = process.exitCode();
@@ -88,6 +96,18 @@ void tst_Inject::programEndsAsItWould_data()
     row("quit-while-holding", 0, "entry, entry after the event loop: no");
     row("view-gone-with-ring", 0,
         "entry, ring: yes, ring after the view: no, entry after the event loop: no");
+    const char *const next = "ring: yes, gesture in the next view, entry after the event loop: no";
+    const auto rowOfNext = [&](const char *mode, const QByteArray &before) {
+        row(mode, 0, QByteArray("entry, " + before + next).constData());
+    };
+    rowOfNext("view-gone-while-holding", "");
+    rowOfNext("view-gone-mid-fade", "ring: yes, view gone, ");
+    rowOfNext("view-gone-by-command", "ring: yes, view gone, ");
+    rowOfNext("window-hidden-with-ring", "ring: yes, let go, ");
+    rowOfNext("new-menu-bar", "entry in the new menu bar, ");
+    row("dialog-command", 0,
+        "entry, ring: yes, grab in the dialog: no, ring behind the dialog: no, dialog closed, "
+        "ring: yes, entry after the event loop: no");
     row("quit-with-dialog", 0, "entry, dialog, entry after the event loop: no");
     row("window-gone-with-dialog", 0, "dialog, window gone");
     row("window-first", 0, "ring: yes, window gone");
@@ -108,6 +128,40 @@ void tst_Inject::programEndsAsItWould()
     QCOMPARE(result.output.join(QStringLiteral(", ")), output);
     QVERIFY(result.ended);
     QCOMPARE(result.status, status);
+}
+
+void tst_Inject::programSeesWhatItAlwaysSaw_data()
+{
+    QTest::addColumn<int>("lines"); // that the program logs at least
+    QTest::newRow("hover") << 3;
+    QTest::newRow("clicks") << 11;
+    QTest::newRow("double-clicks") << 9;
+    QTest::newRow("drags") << 29;
+    QTest::newRow("several-buttons") << 10;
+    QTest::newRow("wheel") << 5;
+    QTest::newRow("keys") << 10;
+    QTest::newRow("pen") << 3;
+    QTest::newRow("control") << 3;
+    QTest::newRow("menu") << 8;
+    QTest::newRow("eating-view") << 5;
+    QTest::newRow("eating-application") << 10;
+    QTest::newRow("greedy-application") << 10;
+}
+
+// Event by event: a process with the plug-in and one without.
+void tst_Inject::programSeesWhatItAlwaysSaw()
+{
+    QFETCH(int, lines);
+    const QString script = QString::fromLatin1(QTest::currentDataTag());
+    const Result without =
+        run({QStringLiteral("events"), script, QStringLiteral("alone")}, QString(), QString());
+    QCOMPARE(without.errors, QStringList());
+    QCOMPARE(without.status, 0);
+    QVERIFY2(without.output.size() >= lines, qPrintable(without.output.join(QLatin1Char('\n'))));
+    const Result with = run({QStringLiteral("events"), script});
+    QCOMPARE(with.errors, QStringList());
+    QCOMPARE(with.status, 0);
+    QCOMPARE(with.output, without.output);
 }
 
 void tst_Inject::environmentIsClean()
@@ -179,6 +233,19 @@ void tst_Inject::anotherPluginIsStillLoaded()
                               QStringLiteral("unknownplugin,mousegestures"));
     QVERIFY(result.output.contains(QStringLiteral("entry")));
     QCOMPARE(result.status, 0);
+
+    // One that somebody had asked for before is loaded, and handed on to other programs.
+    for (const char *keys : {"otherplugin:left/a,mousegestures", "mousegestures,otherplugin:left/a"}) {
+        const Result both =
+            run(QStringLiteral("environment"), QStringLiteral(OTHER_PLUGINS_DIR ":" PLUGINS_DIR),
+                QString::fromLatin1(keys));
+        QCOMPARE(both.errors, QStringList());
+        QCOMPARE(both.output,
+                 QStringList({QStringLiteral("otherplugin: left/a"), QStringLiteral("entry"),
+                              QStringLiteral("otherplugin:left/a|" OTHER_PLUGINS_DIR),
+                              QStringLiteral("entry after the event loop: no")}));
+        QCOMPARE(both.status, 0);
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_Inject)

@@ -11,21 +11,38 @@
 GuestWindow::GuestWindow()
 {
     resize(600, 500);
+    openView();
+    fillMenuBar();
+}
+
+GuestWindow::~GuestWindow() = default;
+
+void GuestWindow::openView()
+{
     view = new GuestView(this);
     setCentralWidget(view);
+    view->show();
+}
 
+void GuestWindow::replaceMenuBar()
+{
+    setMenuBar(new QMenuBar);
+    fillMenuBar();
+    menuBar()->show();
+}
+
+void GuestWindow::fillMenuBar()
+{
     QMenu *file = menuBar()->addMenu(QStringLiteral("&File"));
     file->addAction(QStringLiteral("&Open..."))->setObjectName(QStringLiteral("fileOpen"));
     QMenu *draw = menuBar()->addMenu(QStringLiteral("&Draw"));
-    QAction *line = draw->addAction(QStringLiteral("&Line"));
+    line = draw->addAction(QStringLiteral("&Line"));
     line->setObjectName(QStringLiteral("drawLine"));
     connect(line, &QAction::triggered, this, [this] { ++lines; });
     tools = menuBar()->addMenu(QStringLiteral("&Tools"));
     tools->setObjectName(QStringLiteral("toolsMenu"));
     tools->addAction(QStringLiteral("Options..."));
 }
-
-GuestWindow::~GuestWindow() = default;
 
 QAction *GuestWindow::entry() const
 {

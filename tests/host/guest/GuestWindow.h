@@ -3,6 +3,7 @@
 #include <QMainWindow>
 #include <QWidget>
 
+class QAction;
 class QMenu;
 
 class GuestView : public QWidget
@@ -30,7 +31,16 @@ public:
     void dragTo(int distance);
     void release(int distance);
 
+    // A new view in place of the one that is there, if any.
+    void openView();
+    // A new menu bar with the same menus, as programs make one for another task.
+    void replaceMenuBar();
+
     GuestView *view = nullptr;
+    QAction *line = nullptr;
     QMenu *tools = nullptr;
     int lines = 0; // how often "drawLine" ran
+
+private:
+    void fillMenuBar();
 };

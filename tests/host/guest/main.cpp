@@ -1,4 +1,5 @@
 #include "sdk/QtBridge.h"
+#include "tests/host/guest/EventScripts.h"
 #include "tests/host/guest/GuestWindow.h"
 
 #include <QAction>
@@ -10,6 +11,7 @@
 #include <QPointer>
 #include <QProcessEnvironment>
 #include <QTimer>
+#include <QWindow>
 
 #include <csignal>
 #include <cstdio>
@@ -187,6 +189,66 @@ int runWithoutEventLoop(int argc, char **argv)
     return 0;
 }
 
+// Logs what it gets of a script. Without a plug-in there is no entry to wait for.
+int runEvents(int argc, char **argv)
+{
+    const QByteArray script = argc > 2 ? argv[2] : "";
+    const bool isAlone = argc > 3;
+    QApplication app(argc, argv);
+    GuestWindow window;
+    window.show();
+    const auto isReady = [&] {
+        return window.windowHandle()->isExposed() && (isAlone || window.hasEntry());
+    };
+    when(isReady, [&] { QCoreApplication::exit(playEvents(script.constData(), window) ? 0 : 98); });
+    return QApplication::exec();
+}
+
+// The command of a gesture opens a modal dialog, which is there until somebody closes it.
+void runDialogCommand(GuestWindow &window)
+{
+    auto *dialog = new QDialog(&window);
+    QObject::connect(window.line, &QAction::triggered, dialog, [&window, dialog] {
+        sayWhether("grab in the dialog", QWidget::mouseGrabber() || QWidget::keyboardGrabber());
+        dialog->exec();
+        say("dialog closed");
+        QObject::disconnect(window.line, nullptr, dialog, nullptr);
+        dialog->setProperty("isDone", true);
+    });
+    // Asked for before the gesture, which comes back when the dialog is closed.
+    when([dialog] { return dialog->isVisible(); },
+         [&window, dialog] {
+             // Behind the dialog nothing happens.
+             window.press();
+             window.dragTo(40);
+             sayWhether("ring behind the dialog", ringIsOpen());
+             window.release(40);
+             dialog->close();
+         });
+    when([dialog] { return dialog->property("isDone").toBool(); },
+         [&window] {
+             runGesture(window);
+             when([&window] { return window.lines == 2; }, [] { QCoreApplication::quit(); });
+         });
+    runGesture(window);
+}
+
+// The view goes, in some way, and another comes.
+void runInNextView(GuestWindow &window)
+{
+    window.openView();
+    when([&window] { return !QWidget::mouseGrabber() && window.view->isVisible(); },
+         [&window] {
+             const int before = window.lines;
+             runGesture(window);
+             when([&window, before] { return window.lines == before + 1; },
+                  [] {
+                      say("gesture in the next view");
+                      QCoreApplication::quit();
+                  });
+         });
+}
+
 // Waits for what the host says in place of an entry, as long as a module would have taken.
 int runWithoutModule(int argc, char **argv)
 {
@@ -336,6 +398,66 @@ int main(int argc, char **argv)
             sayWhether("ring after the view", ringIsOpen());
             when([] { return !QWidget::mouseGrabber(); }, quit);
         });
+    if (mode == "view-gone-while-holding")
+        return with([=](GuestWindow &window) {
+            window.press();
+            delete window.view;
+            window.openView();
+            window.release(0);
+            runInNextView(window);
+        });
+    if (mode == "view-gone-mid-fade")
+        return with([=](GuestWindow &window) {
+            openRing(window);
+            // The ring fades for a quarter of a second, from within the next movement on.
+            QTimer::singleShot(100, &window, [&window] {
+                delete window.view;
+                say("view gone");
+                window.openView();
+                window.release(90);
+                runInNextView(window);
+            });
+            window.dragTo(90);
+        });
+    if (mode == "view-gone-by-command")
+        return with([=](GuestWindow &window) {
+            QObject::connect(window.line, &QAction::triggered, &window, [&window] {
+                QObject::disconnect(window.line, nullptr, &window, nullptr);
+                QObject::connect(window.line, &QAction::triggered, &window,
+                                 [&window] { ++window.lines; });
+                delete window.view;
+                window.openView();
+                say("view gone");
+                QTimer::singleShot(0, &window, [&window] { runInNextView(window); });
+            });
+            runGesture(window);
+        });
+    if (mode == "window-hidden-with-ring")
+        return with([=](GuestWindow &window) {
+            QApplication::setQuitOnLastWindowClosed(false);
+            openRing(window);
+            window.hide();
+            when([] { return !QWidget::mouseGrabber(); },
+                 [&window] {
+                     say("let go");
+                     window.release(40);
+                     window.show();
+                     runInNextView(window);
+                 });
+        });
+    if (mode == "dialog-command")
+        return with([](GuestWindow &window) { runDialogCommand(window); });
+    if (mode == "new-menu-bar")
+        return with([=](GuestWindow &window) {
+            window.replaceMenuBar();
+            when([&window] { return window.hasEntry(); },
+                 [&window] {
+                     say("entry in the new menu bar");
+                     runInNextView(window);
+                 });
+        });
+    if (mode == "events")
+        return runEvents(argc, argv);
     if (mode == "quit-with-dialog")
         return with([=](GuestWindow &window) {
             QMetaObject::invokeMethod(window.entry(), &QAction::trigger, Qt::QueuedConnection);
