@@ -45,6 +45,12 @@ bool ProfileStore::Set(const CHxString &section, const CHxString &key, const OdR
     return true;
 }
 
+const SettingsFile::Values &ProfileStore::values()
+{
+    refresh();
+    return m_values;
+}
+
 bool ProfileStore::flush()
 {
     m_isScheduled = false;

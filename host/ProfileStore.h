@@ -28,6 +28,8 @@ public:
     // False for anything but a string.
     bool Set(const CHxString &section, const CHxString &key, const OdResBuf *value) override;
 
+    // All values that are in the file.
+    [[nodiscard]] const SettingsFile::Values &values();
     // Writes what is not written yet. Returns whether nothing is left to write.
     bool flush();
 

@@ -9,7 +9,12 @@
 #include <QSaveFile>
 #include <QSettings>
 
+#include <algorithm>
+#include <cstdio>
+
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace host {
 namespace {
@@ -85,6 +90,26 @@ bool isWellFormed(const QByteArray &content)
             return false;
     }
     return true;
+}
+
+// Whether the text of a file that QSettings has just written has a line for each of its keys.
+bool isWhole(const QByteArray &content, int keys)
+{
+    const QList<QByteArray> lines = content.split('\n');
+    const auto isKey = [](const QByteArray &line) {
+        return line.contains('=') && !line.startsWith(';') && !line.startsWith('#');
+    };
+    return content.endsWith('\n') && std::count_if(lines.begin(), lines.end(), isKey) >= keys;
+}
+
+// Gives a file a second name, which takes no room on the disk. Whether it now has it.
+bool giveSecondName(const QString &path, const QString &second)
+{
+    const QByteArray name = QFile::encodeName(second);
+    ::unlink(name.constData());
+    return ::linkat(AT_FDCWD, QFile::encodeName(path).constData(), AT_FDCWD, name.constData(),
+                    AT_SYMLINK_FOLLOW)
+        == 0;
 }
 
 bool isDamaged(const QByteArray &content, const QByteArray &backup)
@@ -176,11 +201,26 @@ bool SettingsFile::write(const Values &values)
     const Stamp before = currentStamp();
     if (before.exists && (!before.isFile || before.size > kMaximalSize))
         return false;
+    // On a disk that is nearly full QSettings puts what fitted in place of the good file, and
+    // reports no error.
+    const QString second = m_path + QLatin1String(".before");
+    const bool hasSecond = before.exists && giveSecondName(m_path, second);
     QSettings settings(m_path, QSettings::IniFormat);
     for (auto it = values.cbegin(); it != values.cend(); ++it)
         settings.setValue(it.key(), encoded(it.value()));
     settings.sync();
-    return settings.status() == QSettings::NoError;
+    const bool isReplaced = settings.status() == QSettings::NoError;
+    const bool isWritten = isReplaced && isWhole(contentOf(m_path), int(settings.allKeys().size()));
+    if (isReplaced && !isWritten) {
+        if (before.exists) // a rename needs no room either
+            ::rename(QFile::encodeName(hasSecond ? second : backupPath()).constData(),
+                     QFile::encodeName(m_path).constData());
+        else
+            QFile::remove(m_path);
+    }
+    if (hasSecond)
+        QFile::remove(second);
+    return isWritten;
 }
 
 QString SettingsFile::nameOf(const QString &section, const QString &key)

@@ -52,7 +52,7 @@ public:
             return; // no program to expect anything of
         memory = std::make_unique<CatalogueMemory>(catalogue, catalogueFileBeside(settingsFile));
         const QMap<QString, QString> expected =
-            expectedCommands(profile.wellKnownCommands, SettingsFile(settingsFile).read());
+            expectedCommands(profile.wellKnownCommands, profileStore.values());
         for (auto it = expected.begin(); it != expected.end(); ++it)
             catalogue.expect(it.key(), it.value());
     }

@@ -2,10 +2,13 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <unistd.h>
 
 // The plug-in in a program of its own process: that it gets in, that gestures work there,
 // and that the program ends as it would without it, whatever is destroyed first.
@@ -26,6 +29,11 @@ private Q_SLOTS:
     void brokenModuleLeavesTheProgramAlone_data();
     void brokenModuleLeavesTheProgramAlone();
     void anotherPluginIsStillLoaded();
+    void badFilesLeaveGesturesAlone_data();
+    void badFilesLeaveGesturesAlone();
+    void filesOfOthersLeaveGesturesAlone_data();
+    void filesOfOthersLeaveGesturesAlone();
+    void aFullDiskLeavesGesturesAlone();
 
 private:
     struct Result
@@ -41,24 +49,31 @@ private:
         return run(QStringList(mode), plugins, keys);
     }
     Result run(const QStringList &arguments, const QString &plugins = QStringLiteral(PLUGINS_DIR),
-               const QString &keys = QStringLiteral("mousegestures"));
+               const QString &keys = QStringLiteral("mousegestures"))
+    {
+        const QTemporaryDir home;
+        return runIn(home.path(), QStringList(QStringLiteral(GUEST)) + arguments, plugins, keys);
+    }
+    Result runIn(const QString &home, const QStringList &command,
+                 const QString &plugins = QStringLiteral(PLUGINS_DIR),
+                 const QString &keys = QStringLiteral("mousegestures"));
 };
 
-tst_Inject::Result tst_Inject::run(const QStringList &arguments, const QString &plugins,
-                                   const QString &keys)
+tst_Inject::Result tst_Inject::runIn(const QString &home, const QStringList &command,
+                                     const QString &plugins, const QString &keys)
 {
-    QTemporaryDir home;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
     environment.insert(QStringLiteral("QT_QPA_GENERIC_PLUGINS"), keys);
     environment.insert(QStringLiteral("QT_PLUGIN_PATH"), plugins);
+    // One in the home counts before the other.
     environment.insert(QStringLiteral("GESTUREWIDGET_PROFILES"),
-                       QStringLiteral(TESTS_SOURCE_DIR "/host/guest/profiles"));
+                       home + QStringLiteral("/own:" TESTS_SOURCE_DIR "/host/guest/profiles"));
     for (const char *name : {"HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
-        environment.insert(QLatin1String(name), home.path());
+        environment.insert(QLatin1String(name), home);
     QProcess process;
     process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(GUEST), arguments);
+    process.start(command.first(), command.mid(1));
     Result result;
     result.ended = process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit;
     result.status = process.exitCode();
@@ -246,6 +261,145 @@ void tst_Inject::anotherPluginIsStillLoaded()
                               QStringLiteral("entry after the event loop: no")}));
         QCOMPARE(both.status, 0);
     }
+}
+
+namespace {
+
+void write(const QString &path, const QByteArray &text)
+{
+    QVERIFY(QDir().mkpath(QFileInfo(path).absolutePath()));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(text), text.size());
+}
+
+const QString kSettings = QStringLiteral("gesturewidget/guest.ini");
+const QString kCatalogue = QStringLiteral("gesturewidget/guest.commands.json");
+const QString kProfile = QStringLiteral("own/guest.json");
+
+const QStringList &gestureWorks()
+{
+    static const QStringList output{QStringLiteral("entry"), QStringLiteral("ring: yes"),
+                                    QStringLiteral("lines: 1"),
+                                    QStringLiteral("entry after the event loop: no")};
+    return output;
+}
+
+// Root may read and write anything, so the program runs without that privilege.
+QStringList unprivileged(const QStringList &command)
+{
+    if (::getuid() != 0)
+        return command;
+    const QString capabilities = QStringLiteral("-dac_override,-dac_read_search");
+    return QStringList{QStringLiteral("setpriv"), QStringLiteral("--bounding-set"), capabilities,
+                       QStringLiteral("--inh-caps"), capabilities}
+         + command;
+}
+
+} // namespace
+
+void tst_Inject::badFilesLeaveGesturesAlone_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<int>("lines"); // on standard error
+    const auto row = [](const char *name, const QString &file, const QByteArray &text, int lines) {
+        QTest::newRow(name) << file << text << lines;
+    };
+    const QByteArray garbage("\x00\x01\xff\xfe[{\"\n=;\x80", 12);
+    row("settings of garbage", kSettings, garbage, 1);
+    row("settings cut off", kSettings, "[GestureWidget]\n41=ID_", 0); // as somebody may write it
+    row("settings with nothing in them", kSettings, "", 0);
+    row("settings zeroed", kSettings, QByteArray(200, '\0'), 1);
+    row("settings of values that mean nothing", kSettings,
+        "[GestureWidget]\nActiveScheme=12\nEnableMouseGesture=perhaps\n87=\"ID_LINE\"\n"
+        "[Host]\nTrigger=elbow\n",
+        1);
+    // Twice: it cannot be read, and so it cannot be written.
+    row("settings too large", kSettings, QByteArray(5 * 1024 * 1024, ';'), 2);
+    row("catalogue of garbage", kCatalogue, garbage, 1);
+    row("catalogue cut off", kCatalogue, R"({"version": 1, "commands": [{"identifier": "ID_L)", 1);
+    row("catalogue of a later version", kCatalogue, R"({"version": 2, "commands": []})", 1);
+    row("catalogue of another program", kCatalogue, R"({"colour": "red"})", 1);
+    row("catalogue too large", kCatalogue, QByteArray(33 * 1024 * 1024, ' '), 1);
+    row("catalogue of lies", kCatalogue,
+        R"({"version": 1, "commands": [{"identifier": "ID_LINE", "command": "fileOpen",
+            "caption": "<b>&%1%2", "group": "%3", "icon": "iVBORw0KGgo="},
+            {"identifier": "drawLine", "command": "ID_LINE"}]})",
+        0);
+    // What the profile says is guessed then.
+    row("profile of garbage", kProfile, garbage, 1);
+    row("profile cut off", kProfile, R"({"version": 1, "program": "guest", "viewCl)", 1);
+    row("profile of a later version", kProfile, R"({"version": 2, "program": "guest"})", 1);
+    row("profile too large", kProfile, QByteArray(2 * 1024 * 1024, ' '), 1);
+}
+
+void tst_Inject::badFilesLeaveGesturesAlone()
+{
+    QFETCH(QString, file);
+    QFETCH(QByteArray, text);
+    QFETCH(int, lines);
+    const QTemporaryDir home;
+    write(home.filePath(file), text);
+    const Result result = runIn(home.path(), {QStringLiteral(GUEST), QStringLiteral("gesture")});
+    QCOMPARE(result.output, gestureWorks());
+    QCOMPARE(result.status, 0);
+    QVERIFY2(result.errors.size() == lines, qPrintable(result.errors.join(QLatin1Char('\n'))));
+    for (const QString &line : result.errors)
+        QVERIFY2(line.startsWith(QStringLiteral("mouse gestures: ")), qPrintable(line));
+}
+
+void tst_Inject::filesOfOthersLeaveGesturesAlone_data()
+{
+    QTest::addColumn<QString>("closed"); // to this person
+    QTest::addColumn<QString>("complaint"); // about it
+    QTest::newRow("settings") << kSettings << QStringLiteral("cannot be read");
+    QTest::newRow("catalogue") << kCatalogue << QStringLiteral("cannot be read");
+    QTest::newRow("profile") << kProfile << QStringLiteral("is not used");
+    QTest::newRow("folder") << QStringLiteral("gesturewidget") << QStringLiteral("cannot be");
+    QTest::newRow("home") << QStringLiteral(".") << QStringLiteral("cannot be written");
+}
+
+void tst_Inject::filesOfOthersLeaveGesturesAlone()
+{
+    QFETCH(QString, closed);
+    QFETCH(QString, complaint);
+    const QTemporaryDir home;
+    const QString path = home.filePath(closed);
+    const bool isFile = closed.contains(QLatin1Char('/'));
+    if (isFile)
+        write(path, "{}");
+    else
+        QVERIFY(QDir().mkpath(path));
+    const QFile::Permissions before = QFile::permissions(path);
+    QVERIFY(
+        QFile::setPermissions(path, isFile ? QFile::Permissions() : QFile::ReadOwner | QFile::ExeOwner));
+    const Result result =
+        runIn(home.path(), unprivileged({QStringLiteral(GUEST), QStringLiteral("gesture")}));
+    QVERIFY(QFile::setPermissions(path, before));
+    QCOMPARE(result.output, gestureWorks());
+    QCOMPARE(result.status, 0);
+    QVERIFY(!result.errors.filter(complaint).isEmpty());
+    // Each file that is in trouble has one line, or one each for reading and writing.
+    QVERIFY2(result.errors.size() <= 2, qPrintable(result.errors.join(QLatin1Char('\n'))));
+    for (const QString &line : result.errors)
+        QVERIFY2(line.startsWith(QStringLiteral("mouse gestures: ")), qPrintable(line));
+}
+
+void tst_Inject::aFullDiskLeavesGesturesAlone()
+{
+    const QTemporaryDir home;
+    // Not a byte may be written to any file.
+    const Result result =
+        runIn(home.path(), {QStringLiteral("bash"), QStringLiteral("-c"),
+                            QStringLiteral("trap '' XFSZ; ulimit -f 0; exec \"$@\""),
+                            QStringLiteral("full"), QStringLiteral(GUEST), QStringLiteral("gesture")});
+    QCOMPARE(result.output, gestureWorks());
+    QCOMPARE(result.status, 0);
+    QVERIFY2(result.errors.size() <= 2, qPrintable(result.errors.join(QLatin1Char('\n'))));
+    QVERIFY(!result.errors.filter(kSettings.section(QLatin1Char('/'), -1)).isEmpty());
+    for (const QString &line : result.errors)
+        QVERIFY2(line.contains(QStringLiteral("cannot be written")), qPrintable(line));
 }
 
 QTEST_GUILESS_MAIN(tst_Inject)

@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
+#include <QSet>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
@@ -77,6 +78,9 @@ private Q_SLOTS:
     void aFolderThatCannotBeWrittenKeepsChangesInMemory();
     void withoutAFileChangesStayInMemory();
     void aFullDiskKeepsTheOldFile();
+    void aNearlyFullDiskKeepsTheOldFile();
+    void aHugeFileIsLeftAlone();
+    void twoCopiesPressingOkLeaveOneOfTheirChoices();
     void whatIsNoFileIsLeftAlone_data();
     void whatIsNoFileIsLeftAlone();
     void manyWritersLoseNothing();
@@ -531,6 +535,72 @@ void TestProfileStore::aFullDiskKeepsTheOldFile()
     QVERIFY2(said.contains(QStringLiteral("cannot be written")), qPrintable(said));
 }
 
+// Some bytes still fit: half a file must not take the place of the whole one.
+void TestProfileStore::aNearlyFullDiskKeepsTheOldFile()
+{
+    QProcess self;
+    self.start(QCoreApplication::applicationFilePath(),
+               {QStringLiteral("child-nearly-full"), m_folder->path()});
+    QVERIFY(self.waitForFinished());
+    const QString said = QString::fromUtf8(self.readAllStandardError());
+    QCOMPARE(
+        QString::fromUtf8(self.readAllStandardOutput()),
+        QStringLiteral("flush 0\nin memory 40 of 40\non disk 20 of 20\nafter 1, on disk 40 of 40\n"));
+    QCOMPARE(said.count(QLatin1Char('\n')), 1);
+    QVERIFY2(said.contains(QStringLiteral("cannot be written")), qPrintable(said));
+}
+
+void TestProfileStore::aHugeFileIsLeftAlone()
+{
+    const QByteArray huge = "[GestureWidget]\n41=ID_LINE\n" + QByteArray(5 * 1024 * 1024, ';') + "\n";
+    write(huge);
+    tests::StandardErrorCapture errors;
+    ProfileStore store(m_path);
+    QVERIFY(!store.Exists(kSection, "41"));
+    QVERIFY(store.values().isEmpty());
+    QVERIFY(set(store, QStringLiteral("42"), QStringLiteral("a")));
+    QVERIFY(!store.flush());
+    QCOMPARE(get(store, QStringLiteral("42")), QStringLiteral("a"));
+    QVERIFY(content() == huge);
+    QCOMPARE(errors.lines().size(), 2); // it cannot be read, and it cannot be written
+}
+
+// All directions are written at once, and whoever writes last has all of them.
+void TestProfileStore::twoCopiesPressingOkLeaveOneOfTheirChoices()
+{
+    constexpr int kRounds = 60;
+    std::vector<std::unique_ptr<QProcess>> copies;
+    for (const char *name : {"first", "second"}) {
+        copies.push_back(std::make_unique<QProcess>());
+        copies.back()->start(
+            QCoreApplication::applicationFilePath(),
+            {QStringLiteral("child-ok"), m_path, QString::fromLatin1(name), QString::number(kRounds)});
+    }
+    tests::StandardErrorCapture errors;
+    QSet<QString> choices;
+    const auto look = [&] {
+        ProfileStore store(m_path);
+        if (store.values().isEmpty())
+            return; // not written yet
+        const QStringList values = store.values().values();
+        QCOMPARE(values.size(), 12);
+        QCOMPARE(values.count(values.first()), 12);
+        choices.insert(values.first());
+    };
+    for (const auto &copy : copies) {
+        while (!copy->waitForFinished(1) && copy->state() != QProcess::NotRunning)
+            look();
+        QCOMPARE(copy->exitCode(), 0);
+        QCOMPARE(copy->readAllStandardError(), QByteArray());
+    }
+    look();
+    QVERIFY2(choices.size() > 2, qPrintable(QString::number(choices.size())));
+    const QString last = QString::number(kRounds - 1);
+    QVERIFY(choices.contains(QStringLiteral("first ") + last)
+            || choices.contains(QStringLiteral("second ") + last));
+    QCOMPARE(errors.lines(), QStringList());
+}
+
 void TestProfileStore::whatIsNoFileIsLeftAlone_data()
 {
     QTest::addColumn<bool>("isPipe");
@@ -584,6 +654,47 @@ void TestProfileStore::manyWritersLoseNothing()
 
 namespace {
 
+// Writes 20 values, then 20 more while only part of the file would fit on the disk.
+int runNearlyFull(const QString &path)
+{
+    const auto value = [](int i) { return QStringLiteral("ID_COMMAND_%1").arg(i); };
+    const auto fill = [&](ProfileStore &store, int count) {
+        for (int i = 0; i < count; ++i)
+            set(store, QString::number(i), value(i));
+        return store.flush();
+    };
+    const auto there = [&](ProfileStore &store, int count) {
+        int found = 0;
+        for (int i = 0; i < count; ++i)
+            found += get(store, QString::number(i)) == value(i);
+        return QStringLiteral("%1 of %2").arg(found).arg(count);
+    };
+    // Not by way of QSettings, which keeps in memory what it has written.
+    const auto onDisk = [&](int count) {
+        QFile file(path);
+        const QByteArray text = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        int found = 0;
+        for (int i = 0; i < count; ++i)
+            found += text.contains(QStringLiteral("\n%1=%2\n").arg(i).arg(value(i)).toLatin1());
+        return QStringLiteral("%1 of %2").arg(found).arg(count);
+    };
+    ProfileStore store(path);
+    fill(store, 20);
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit limit{};
+    ::getrlimit(RLIMIT_FSIZE, &limit);
+    const rlimit some{rlim_t(QFileInfo(path).size()), limit.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &some);
+    const bool isWritten = fill(store, 40);
+    const QString inMemory = there(store, 40);
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+    std::printf("flush %d\nin memory %s\non disk %s\n", isWritten, qPrintable(inMemory),
+                qPrintable(onDisk(20)));
+    const bool isWrittenAfter = store.flush();
+    std::printf("after %d, on disk %s\n", isWrittenAfter, qPrintable(onDisk(40)));
+    return 0;
+}
+
 // What the tests run in processes of their own.
 int runChild(const QStringList &arguments)
 {
@@ -604,7 +715,21 @@ int runChild(const QStringList &arguments)
         }
         return 0;
     }
+    if (arguments.at(1) == QLatin1String("child-ok")) {
+        ProfileStore store(arguments.at(2));
+        const int rounds = arguments.at(4).toInt();
+        for (int round = 0; round < rounds; ++round) {
+            const QString choice = QStringLiteral("%1 %2").arg(arguments.at(3)).arg(round);
+            for (int key = 0; key < 12; ++key)
+                set(store, QStringLiteral("k%1").arg(key), choice);
+            if (!store.flush())
+                return 1;
+        }
+        return 0;
+    }
     const QString path = arguments.at(2) + QLatin1String("/drafter.ini");
+    if (arguments.at(1) == QLatin1String("child-nearly-full"))
+        return runNearlyFull(path);
     ProfileStore store(path);
     set(store, QStringLiteral("41"), QStringLiteral("old"));
     out(QStringLiteral("first flush %1").arg(store.flush()));
