@@ -26,6 +26,8 @@ install(TARGETS gesturewidget_inject
 
 install(TARGETS mouse-gestures
   RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT Runtime${common_suffix})
+install(TARGETS mouse-gestures-sheet
+  RUNTIME DESTINATION libexec/gesturewidget COMPONENT Runtime${common_suffix})
 install(DIRECTORY host/profiles/
   DESTINATION "${CMAKE_INSTALL_DATADIR}/gesturewidget/profiles" COMPONENT Runtime${common_suffix}
   FILES_MATCHING PATTERN "*.json")

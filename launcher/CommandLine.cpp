@@ -23,6 +23,7 @@ constexpr TaskOption kTaskOptions[] = {
     {"--reset", CommandLine::Task::Reset, 0, 0, "PROGRAM"},
     {"--export", CommandLine::Task::Export, 0, 1, "PROGRAM [FILE]"},
     {"--import", CommandLine::Task::Import, 1, 1, "PROGRAM FILE"},
+    {"--print", CommandLine::Task::Print, 1, 1, "PROGRAM FILE.pdf"},
     {"--doctor", CommandLine::Task::Examine, 0, 0, "PROGRAM"},
     {"--explain", CommandLine::Task::Explain, 0, std::numeric_limits<int>::max(),
      "PROGRAM [ARGUMENTS...]"},
@@ -111,6 +112,7 @@ PROGRAM is any program made with Qt Widgets, 5 or 6. Nothing of it is changed.
   --reset PROGRAM                   bring the first bindings back
   --export PROGRAM [FILE]           write all bindings as JSON
   --import PROGRAM FILE             take such a file over, as a whole or not at all
+  --print PROGRAM FILE.pdf          draw the ring with its commands, to pin on the wall
   --doctor PROGRAM                  say whether gestures can work in the program
   --explain PROGRAM [ARGUMENTS...]  start it, say what in it is taken for what and why,
                                     print that as a profile, and end it

@@ -26,6 +26,7 @@ struct CommandLine
         Reset,
         Export, // file, or nothing for standard output
         Import, // file
+        Print, // file
         Examine,
         Explain, // the program's own arguments
         Enable,

@@ -150,6 +150,15 @@ Outcome DesktopMenu::disable(const QByteArray &typed, const QByteArray &path) co
     return outcome;
 }
 
+QString DesktopMenu::nameOf(const QByteArray &typed, const QByteArray &path) const
+{
+    const QStringList names = entriesOf(typed, path);
+    DesktopFile file;
+    return !names.isEmpty() && file.read(installedFile(names.first()))
+             ? QString::fromUtf8(file.value("Name")).simplified()
+             : QString();
+}
+
 bool DesktopMenu::isProgram(const QByteArray &named, const QByteArray &path) const
 {
     const ProgramLookup lookup = ProgramLookup::find(named, m_places.searchPath);

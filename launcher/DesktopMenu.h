@@ -39,6 +39,9 @@ public:
     // the output says so.
     [[nodiscard]] Outcome disable(const QByteArray &typed, const QByteArray &path) const;
 
+    // What the desktop calls the program; empty when it has no entry for it.
+    [[nodiscard]] QString nameOf(const QByteArray &typed, const QByteArray &path) const;
+
 private:
     // Whether a program as an entry names it is the file `path`.
     [[nodiscard]] bool isProgram(const QByteArray &named, const QByteArray &path) const;

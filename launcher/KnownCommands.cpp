@@ -38,13 +38,19 @@ KnownCommands::KnownCommands(const QVector<RememberedCommand> &shown, const QStr
 {
 }
 
+const RememberedCommand *KnownCommands::find(const QString &identifier) const
+{
+    const auto found =
+        std::find_if(m_shown.begin(), m_shown.end(), [&identifier](const RememberedCommand &one) {
+            return one.identifier == identifier;
+        });
+    return found == m_shown.end() ? nullptr : &*found;
+}
+
 QString KnownCommands::captionOf(const QString &identifier) const
 {
-    for (const RememberedCommand &command : m_shown) {
-        if (command.identifier == identifier)
-            return command.caption.simplified();
-    }
-    return {};
+    const RememberedCommand *command = find(identifier);
+    return command ? command->caption.simplified() : QString();
 }
 
 QString KnownCommands::resolve(const QString &text, const QString &program, QString &identifier) const

@@ -18,6 +18,8 @@ public:
     // `shown`: what CatalogueFile has; `wellKnown`: further identifiers.
     KnownCommands(const QVector<host::RememberedCommand> &shown, const QStringList &wellKnown);
 
+    // What is known of a command that was shown; null otherwise.
+    [[nodiscard]] const host::RememberedCommand *find(const QString &identifier) const;
     // What a person calls the command; empty when that is not known.
     [[nodiscard]] QString captionOf(const QString &identifier) const;
     // The identifier of a command that a person has named by it, by the name of its action,

@@ -75,6 +75,11 @@ SettingsTasks::SettingsTasks(const QString &program, const QString &file, const 
 {
 }
 
+Bindings SettingsTasks::bindings() const
+{
+    return read(m_file);
+}
+
 Outcome SettingsTasks::showBindings() const
 {
     const Bindings bindings = read(m_file);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "launcher/Bindings.h"
 #include "launcher/KnownCommands.h"
 #include "launcher/Outcome.h"
 
@@ -15,6 +16,8 @@ public:
     // The program's name, by which its settings are found, their file, and its commands.
     SettingsTasks(const QString &program, const QString &file, const KnownCommands &commands = {});
 
+    // What is kept.
+    [[nodiscard]] Bindings bindings() const;
     // Both schemes, the one in use first, with the captions of the commands that are known.
     [[nodiscard]] Outcome showBindings() const;
     [[nodiscard]] Outcome showBindingsAsJson() const;

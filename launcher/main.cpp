@@ -3,6 +3,7 @@
 #include "host/CatalogueFile.h"
 #include "host/InstallPaths.h"
 #include "host/ProgramProfile.h"
+#include "host/TriggerText.h"
 #include "launcher/Bindings.h"
 #include "launcher/CommandLine.h"
 #include "launcher/DesktopMenu.h"
@@ -15,6 +16,7 @@
 #include "launcher/ProgramLookup.h"
 #include "launcher/QtWidgetsUse.h"
 #include "launcher/SettingsTasks.h"
+#include "launcher/SheetTask.h"
 
 #include <QDir>
 #include <QFile>
@@ -36,6 +38,8 @@ namespace {
 using namespace launcher;
 
 constexpr int kTaskFailed = 1;
+// From the folder of the launcher.
+constexpr char kSheet[] = "/../libexec/gesturewidget/mouse-gestures-sheet";
 
 int complain(QString text, int status)
 {
@@ -180,12 +184,17 @@ int explain(const CommandLine &line)
     return report({QJsonDocument(found.profile).toJson(), {}});
 }
 
+DesktopMenu desktopMenu()
+{
+    const QByteArray searchPath = readEnvironment(::environ).value("PATH", kDefaultSearchPath);
+    return DesktopMenu(DesktopMenu::usualPlaces(searchPath, executablePath()));
+}
+
 // Puts the program with gestures into the desktop's menus, or takes it out again.
 int changeMenus(const CommandLine &line)
 {
     const Environment environment = readEnvironment(::environ);
-    const DesktopMenu menu(
-        DesktopMenu::usualPlaces(environment.value("PATH", kDefaultSearchPath), executablePath()));
+    const DesktopMenu menu = desktopMenu();
     if (line.task == CommandLine::Task::Disable) {
         const ProgramLookup lookup =
             ProgramLookup::find(line.program, environment.value("PATH", kDefaultSearchPath));
@@ -197,6 +206,17 @@ int changeMenus(const CommandLine &line)
     if (check.status != 0)
         return complain(check.complaint, check.status);
     return report(menu.enable(line.program, check.path));
+}
+
+Outcome print(const Subject &subject, const CommandLine &line, const Bindings &bindings,
+              const KnownCommands &commands, const host::ProgramProfile &profile)
+{
+    const QString called = desktopMenu().nameOf(line.program, subject.path);
+    const SheetContent content =
+        sheetContent(called.isEmpty() ? subject.name : called, bindings, commands,
+                     host::triggerText(profile.triggerButton, profile.triggerModifiers));
+    return printSheet(content, QFile::decodeName(executableFolder() + kSheet),
+                      QFile::decodeName(line.arguments.value(0)));
 }
 
 // Does what is about a program without starting it.
@@ -215,9 +235,9 @@ int doTask(const CommandLine &line)
             QStringLiteral("%1: there is no such program").arg(QString::fromLocal8Bit(line.program)),
             kNotFound);
 
-    const QStringList wellKnown =
-        host::ProgramProfile::forProgram(subject.name, profileFolders, nullptr).wellKnownCommands.keys()
-        + Bindings::initial().eight;
+    const host::ProgramProfile profile =
+        host::ProgramProfile::forProgram(subject.name, profileFolders, nullptr);
+    const QStringList wellKnown = profile.wellKnownCommands.keys() + Bindings::initial().eight;
     const KnownCommands commands(host::CatalogueFile(host::catalogueFile(subject.name)).read(),
                                  wellKnown);
     SettingsTasks tasks(subject.name, file, commands);
@@ -230,6 +250,8 @@ int doTask(const CommandLine &line)
             return commands.list(subject.name);
         case CommandLine::Task::ListCommandsAsJson:
             return commands.listAsJson(subject.name);
+        case CommandLine::Task::Print:
+            return print(subject, line, tasks.bindings(), commands, profile);
         case CommandLine::Task::Bind:
             return tasks.bind(QString::fromLocal8Bit(first),
                               QString::fromLocal8Bit(line.arguments.value(1)));

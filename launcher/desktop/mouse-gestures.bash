@@ -7,7 +7,7 @@ _mouse_gestures() {
     if ((COMP_CWORD == 1)); then
         if [[ $current == -* ]]; then
             mapfile -t COMPREPLY < <(compgen -W "--bindings --list-commands --bind --trigger --reset --export \
-                --import --doctor --explain --enable --disable --help --version" -- "$current")
+                --import --print --doctor --explain --enable --disable --help --version" -- "$current")
         else
             mapfile -t COMPREPLY < <(compgen -c -- "$current")
         fi
@@ -29,7 +29,7 @@ _mouse_gestures() {
                     --bindings | --list-commands) mapfile -t COMPREPLY < <(compgen -W "--json" -- "$current") ;;
                     --bind) mapfile -t COMPREPLY < <(compgen -W "$directions" -- "$current") ;;
                     --trigger) mapfile -t COMPREPLY < <(compgen -W "$triggers" -- "$current") ;;
-                    --export | --import) mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
+                    --export | --import | --print) mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
                 esac
             elif ((COMP_CWORD == 4)) && [[ $option == --bind ]]; then
                 # Those of plain letters: compgen expands what it is given.

@@ -52,6 +52,8 @@ private Q_SLOTS:
         QTest::newRow("--list-commands as JSON")
             << Arguments{"--list-commands", "draw", "--json"} << Task::ListCommandsAsJson
             << QByteArray("draw") << Arguments{"--json"};
+        QTest::newRow("--print") << Arguments{"--print", "draw", "a b.pdf"} << Task::Print
+                                 << QByteArray("draw") << Arguments{"a b.pdf"};
         QTest::newRow("--explain") << Arguments{"--explain", "draw", "--json", "a", ""} << Task::Explain
                                    << QByteArray("draw") << Arguments{"--json", "a", ""};
         QTest::newRow("nothing") << Arguments{} << Task::Complain << nothing << Arguments{};

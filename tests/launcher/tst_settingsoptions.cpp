@@ -113,6 +113,8 @@ private Q_SLOTS:
             "/nowhere/kept.json: there is no such file");
         row("a file of another kind", {text("--import"), kProgram, text("/etc/passwd")}, 1,
             "/etc/passwd, line 1: ");
+        row("a sheet that cannot be written", {text("--print"), kProgram, text("/nowhere/sheet.pdf")}, 1,
+            "/nowhere/sheet.pdf cannot be written");
         row("a file that cannot be written", {text("--export"), kProgram, text("/nowhere/kept.json")}, 1,
             "/nowhere/kept.json cannot be written");
     }
@@ -204,6 +206,15 @@ private Q_SLOTS:
         QVERIFY2(never.errors.contains("--list-commands launcher_fixture_direct"),
                  never.errors.constData());
         expect({text("--bind"), kProgram, text("up"), text("ID_TRIM")}, "");
+    }
+
+    void aSheetForTheWall()
+    {
+        const QString sheet = m_home->filePath(text("sheet.pdf"));
+        QCOMPARE(expect({text("--print"), kProgram, sheet}, ""), QByteArray());
+        const QByteArray pdf = content(sheet);
+        QVERIFY(pdf.startsWith("%PDF-"));
+        QVERIFY(pdf.trimmed().endsWith("%%EOF"));
     }
 
     void theDesktopsMenus()

@@ -54,6 +54,7 @@ def common_files():
     assert "share/gesturewidget/profiles/librecad.json" in profiles
     return profiles | {
         "bin/mouse-gestures",
+        "libexec/gesturewidget/mouse-gestures-sheet",
         "share/applications/mouse-gestures.desktop",
         "share/bash-completion/completions/mouse-gestures",
         "share/doc/gesturewidget/user-guide.html",

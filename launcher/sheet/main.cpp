@@ -1,0 +1,62 @@
+// mouse-gestures-sheet: draws what it is told on standard input, see SheetContent, and writes
+// it to standard output as PDF. For mouse-gestures --print, which does the rest.
+
+#include "launcher/sheet/SheetPainter.h"
+#include "launcher/SheetContent.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QGuiApplication>
+#include <QLocale>
+#include <QPageSize>
+#include <QPainter>
+#include <QPdfWriter>
+
+#include <cstdio>
+
+namespace {
+
+constexpr int kResolution = 1200; // pixels per inch
+constexpr double kMillimetre = kResolution / 25.4;
+constexpr double kMargin = 16.0; // millimetres
+
+QPageSize paper()
+{
+    const bool isAmerican = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
+    return QPageSize(isAmerican ? QPageSize::Letter : QPageSize::A4);
+}
+
+bool draw(const launcher::SheetContent &content, QIODevice &device)
+{
+    QPdfWriter writer(&device);
+    writer.setResolution(kResolution);
+    writer.setPageSize(paper());
+    writer.setPageMargins(QMarginsF(kMargin, kMargin, kMargin, kMargin), QPageLayout::Millimeter);
+    writer.setTitle(QStringLiteral("Mouse gestures in %1").arg(content.program));
+    writer.setCreator(QStringLiteral("mouse-gestures"));
+    QPainter painter;
+    if (!painter.begin(&writer))
+        return false;
+    sheet::SheetPainter(content).paint(painter, QRectF(0.0, 0.0, writer.width(), writer.height()),
+                                       kMillimetre);
+    return painter.end();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QGuiApplication app(argc, argv);
+    QFile input;
+    launcher::SheetContent content;
+    if (!input.open(stdin, QIODevice::ReadOnly) || !content.read(input.readAll())) {
+        std::fputs("mouse-gestures-sheet: this is started by mouse-gestures --print\n", stderr);
+        return 1;
+    }
+    QBuffer pdf;
+    QFile output;
+    const bool isWritten = pdf.open(QIODevice::WriteOnly) && draw(content, pdf)
+                        && output.open(stdout, QIODevice::WriteOnly)
+                        && output.write(pdf.data()) == pdf.data().size() && output.flush();
+    return isWritten ? 0 : 1;
+}
