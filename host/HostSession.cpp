@@ -13,7 +13,9 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QMenuBar>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace host {
@@ -82,7 +84,7 @@ bool HostSession::start(QString *error)
 
     m_pointerFilter = std::make_unique<PointerFilter>(
         m_documents, chosenTrigger({profile.triggerButton, profile.triggerModifiers}),
-        [this] { return gesturesAreEnabled(); });
+        [this](const QWidget *view) { return isOfThisWindow(view) && gesturesAreEnabled(); });
     m_viewFinder = std::make_unique<ViewFinder>(profile.viewClasses, m_options.guesses);
     connect(m_viewFinder.get(), &ViewFinder::viewFound, this, &HostSession::openView);
     connect(&m_menuWatch, &MenuWatch::settled, this, [this] {
@@ -106,7 +108,6 @@ bool HostSession::start(QString *error)
         if (view)
             openView(ViewFinder::pointerWidget(view));
     }
-    m_addedViews.clear();
     m_viewFinder->start();
     qApp->installEventFilter(m_pointerFilter.get());
     m_menuWatch.start();
@@ -190,10 +191,11 @@ void HostSession::addView(QWidget *view)
 {
     if (!view)
         return;
+    m_addedViews.removeAll(nullptr); // those that are gone
+    if (m_isRunning || !m_wasStarted)
+        m_addedViews.append(view);
     if (m_isRunning)
         openView(ViewFinder::pointerWidget(view));
-    else if (!m_wasStarted)
-        m_addedViews.append(view);
 }
 
 void HostSession::openView(QWidget *view)
@@ -217,6 +219,20 @@ Trigger HostSession::chosenTrigger(Trigger trigger) const
         return chosen;
     complain(QStringLiteral("the settings name no trigger: \"%1\"").arg(text));
     return trigger;
+}
+
+bool HostSession::isOfThisWindow(const QWidget *view) const
+{
+    const auto isAdded = [view](const QPointer<QWidget> &added) {
+        return added && ViewFinder::pointerWidget(added) == view;
+    };
+    if (std::any_of(m_addedViews.begin(), m_addedViews.end(), isAdded))
+        return true; // by the program itself, which knows what it does
+    // A window with menus of its own has commands of its own. Those of a view that was
+    // detached from this one, or that is in a dock, are the commands here.
+    const QWidget *window = view ? view->window() : nullptr;
+    return window == m_window.data() || !qobject_cast<const QMainWindow *>(window)
+        || !window->findChild<QMenuBar *>();
 }
 
 bool HostSession::gesturesAreEnabled() const

@@ -53,13 +53,15 @@ private:
     // The one that the person chose in the settings, else the one given.
     [[nodiscard]] Trigger chosenTrigger(Trigger trigger) const;
     [[nodiscard]] bool gesturesAreEnabled() const;
+    // Whether the commands of this session's main window are those for the view.
+    [[nodiscard]] bool isOfThisWindow(const QWidget *view) const;
     // The application is over.
     static void finishAll();
     void finish();
 
     const GestureHost::Options m_options;
     QPointer<QWidget> m_window; // while it is being destroyed it is no QMainWindow any more
-    QVector<QPointer<QWidget>> m_addedViews; // until start()
+    QVector<QPointer<QWidget>> m_addedViews; // by the program itself
     bool m_isRunning = false;
     bool m_wasStarted = false;
     bool m_windowIsGone = false;

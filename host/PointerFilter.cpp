@@ -26,7 +26,7 @@ HitTest::Kind kindOf(const QMouseEvent &event)
 } // namespace
 
 PointerFilter::PointerFilter(DocumentManager &documents, const Trigger &trigger,
-                             std::function<bool()> gesturesAreEnabled)
+                             std::function<bool(const QWidget *view)> gesturesAreEnabled)
     : m_documents(documents)
     , m_trigger(trigger)
     , m_gesturesAreEnabled(std::move(gesturesAreEnabled))
@@ -167,7 +167,7 @@ bool PointerFilter::holdPress(QWindow *window, const QMouseEvent &event)
     m_document = document;
     const HitTest::Event seen = eventInView(event, HitTest::Role::Gesture);
     HitTest hit(document, m_trigger, seen);
-    if (hit.isSuppressed() || !m_gesturesAreEnabled()) {
+    if (hit.isSuppressed() || !m_gesturesAreEnabled(document->view())) {
         m_document = nullptr;
         return false;
     }

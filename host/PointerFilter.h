@@ -42,9 +42,9 @@ public:
     enum class State { Idle, Holding, Gesturing, Swallowing };
 
     // `documents` must outlive this. `gesturesAreEnabled` is asked on each press of the
-    // trigger in a view; while it says no, nothing is held back.
+    // trigger in a view; while it says no of that view, nothing is held back.
     PointerFilter(DocumentManager &documents, const Trigger &trigger,
-                  std::function<bool()> gesturesAreEnabled);
+                  std::function<bool(const QWidget *view)> gesturesAreEnabled);
     ~PointerFilter() override;
 
     [[nodiscard]] State state() const { return m_state; }
@@ -92,7 +92,7 @@ private:
 
     DocumentManager &m_documents;
     const Trigger m_trigger;
-    const std::function<bool()> m_gesturesAreEnabled;
+    const std::function<bool(const QWidget *view)> m_gesturesAreEnabled;
 
     State m_state = State::Idle;
     unsigned m_press = 0; // counts the presses that were held

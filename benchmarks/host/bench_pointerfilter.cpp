@@ -50,7 +50,8 @@ public:
         other->setMouseTracking(true);
         window.show();
         documents.open(view)->inputPoints().AddTracker(&tracker, 0);
-        filter = std::make_unique<host::PointerFilter>(documents, host::Trigger{}, [] { return true; });
+        filter = std::make_unique<host::PointerFilter>(documents, host::Trigger{},
+                                                       [](const QWidget *) { return true; });
         if (hasFilter)
             qApp->installEventFilter(filter.get());
     }

@@ -44,6 +44,11 @@ Injector::~Injector() = default;
 
 bool Injector::eventFilter(QObject *receiver, QEvent *event)
 {
+    if (m_host) { // all that is seen now are the events of its window
+        if (event->type() == QEvent::Hide)
+            lookSoon();
+        return false;
+    }
     // A main window comes up, or one that is up already gets its menus.
     const bool mayMatter = event->type() == QEvent::Show || event->type() == QEvent::ActionAdded;
     if (mayMatter && (qobject_cast<QMainWindow *>(receiver) || qobject_cast<QMenuBar *>(receiver)))
@@ -62,18 +67,35 @@ void Injector::lookSoon()
 void Injector::look()
 {
     m_isLookQueued = false;
+    QMainWindow *window = findWindow();
+    if (!window)
+        return;
+    QCoreApplication::instance()->removeEventFilter(this);
+    if (m_window) {
+        m_window->removeEventFilter(this);
+        disconnect(m_window, nullptr, this, nullptr);
+    }
+    m_host.reset();
+    if (!GetHxSystemServices()) // a program may have a host of its own
+        startHost(window);
+    else
+        explainProblem(QStringLiteral("it brings gestures of its own"));
+}
+
+QMainWindow *Injector::findWindow() const
+{
+    if (m_window && m_window->isVisible())
+        return nullptr; // it has what it needs
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget *widget : windows) {
         auto *window = qobject_cast<QMainWindow *>(widget);
-        if (window && window->isVisible() && hasMenuBar(window)) {
-            QCoreApplication::instance()->removeEventFilter(this);
-            if (!GetHxSystemServices()) // a program may have a host of its own
-                startHost(window);
-            else
-                explainProblem(QStringLiteral("it brings gestures of its own"));
-            return;
-        }
+        // While the first one is only hidden, another kind of window, for help perhaps, is
+        // not what takes its place.
+        const bool isOtherKind = window && m_window && m_window->metaObject() != window->metaObject();
+        if (window && window->isVisible() && hasMenuBar(window) && !isOtherKind)
+            return window;
     }
+    return nullptr;
 }
 
 void Injector::startHost(QMainWindow *window)
@@ -83,8 +105,12 @@ void Injector::startHost(QMainWindow *window)
         options.explanation = m_explanation;
         m_host = std::make_unique<GestureHost>(window, options);
         QString error;
-        if (m_host->start(&error))
+        if (m_host->start(&error)) {
+            m_window = window;
+            window->installEventFilter(this);
+            connect(window, &QObject::destroyed, this, &Injector::onWindowGone);
             return;
+        }
         report(qPrintable(error));
         explainProblem(error);
     } catch (const std::exception &exception) {
@@ -92,6 +118,17 @@ void Injector::startHost(QMainWindow *window)
     } catch (...) {
         report("the host could not be started");
     }
+}
+
+void Injector::onWindowGone()
+{
+    m_window.clear();
+    m_host.reset();
+    QCoreApplication *application = QCoreApplication::instance();
+    if (!application || QCoreApplication::closingDown())
+        return;
+    application->installEventFilter(this);
+    lookSoon();
 }
 
 void Injector::explainProblem(const QString &text) const

@@ -15,7 +15,8 @@ QT_END_NAMESPACE
 namespace inject {
 
 // Waits for the program's main window, the first visible one with a menu bar, and gives it
-// a host. Owned by the application object.
+// a host. When that window goes, or is hidden while another of its kind is there, the next
+// one gets the host. Owned by the application object.
 class Injector : public QObject
 {
     Q_OBJECT
@@ -34,12 +35,16 @@ private:
     // Looks for a main window from the event loop, once for any number of calls.
     void lookSoon();
     void look();
+    // The main window that is to have the host; null if none.
+    [[nodiscard]] QMainWindow *findWindow() const;
     void startHost(QMainWindow *window);
+    void onWindowGone();
     void explainProblem(const QString &text) const;
     // Ends the program when whoever had it explained has closed the other end.
     void onExplanationRead();
 
     std::unique_ptr<GestureHost> m_host;
+    QPointer<QMainWindow> m_window; // that has it
     bool m_isLookQueued = false;
     int m_explanation;
     std::unique_ptr<QSocketNotifier> m_explanationEnd;

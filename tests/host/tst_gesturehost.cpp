@@ -19,6 +19,7 @@
 
 #include <QElapsedTimer>
 #include <QFileInfo>
+#include <QFrame>
 #include <QLibrary>
 #include <QMainWindow>
 #include <QMenuBar>
@@ -92,6 +93,8 @@ private Q_SLOTS:
     void theSettingsChooseTheTrigger_data();
     void theSettingsChooseTheTrigger();
     void aNewTriggerCountsFromTheNextStart();
+    void viewsOfOtherWindows_data();
+    void viewsOfOtherWindows();
     void commandsAreRememberedForTheNextStart();
     void frameIsCreatedOnceMenusAreQuiet();
     void menusMayComeAfterTheWindow();
@@ -430,6 +433,63 @@ void tst_GestureHost::aNewTriggerCountsFromTheNextStart()
     QVERIFY(drawing.start());
     QVERIFY(drawing.isTrigger(Qt::RightButton));
     QVERIFY(!drawing.isTrigger(Qt::MiddleButton));
+}
+
+void tst_GestureHost::viewsOfOtherWindows_data()
+{
+    QTest::addColumn<bool>("isMainWindow");
+    QTest::addColumn<bool>("hasMenus");
+    QTest::addColumn<bool>("isAdded"); // by the program itself
+    QTest::addColumn<bool>("isHeld");
+    QTest::newRow("dialog") << false << false << false << true;
+    QTest::newRow("detached view") << true << false << false << true;
+    QTest::newRow("another drawing") << true << true << false << false;
+    QTest::newRow("another drawing, added") << true << true << true << true;
+}
+
+// The commands of a gesture are those of the host's main window.
+void tst_GestureHost::viewsOfOtherWindows()
+{
+    QFETCH(bool, isMainWindow);
+    QFETCH(bool, hasMenus);
+    QFETCH(bool, isAdded);
+    QFETCH(bool, isHeld);
+    class View : public QFrame
+    {
+    public:
+        using QFrame::QFrame;
+        int presses = 0;
+
+    protected:
+        void mousePressEvent(QMouseEvent *) override { ++presses; }
+    };
+    write(m_folder->filePath(QStringLiteral("program.json")),
+          R"({"version": 1, "program": "program", "viewClasses": ["QFrame"]})");
+    m_options.profileFolders << m_folder->path();
+    QMainWindow window;
+    window.menuBar()->addMenu(QStringLiteral("Tools"));
+    auto *mainWindow = new QMainWindow;
+    const std::unique_ptr<QWidget> other(isMainWindow ? mainWindow : new QWidget);
+    const std::unique_ptr<QWidget> unused(isMainWindow ? nullptr : mainWindow);
+    if (hasMenus)
+        mainWindow->menuBar()->addMenu(QStringLiteral("Tools"));
+    other->resize(200, 200);
+    auto *view = new View(other.get());
+    view->setGeometry(50, 50, 100, 100);
+    GestureHost host(&window, m_options);
+    if (isAdded)
+        host.addView(view);
+    QVERIFY(host.start());
+    QVERIFY(ACTIVE_DOCUMENT());
+    QCOMPARE(ACTIVE_DOCUMENT()->GetViewWidget(), view);
+    tests::FakeTracker tracker;
+    ACTIVE_DOCUMENT()->GetInputPointManager()->AddTracker(&tracker, 0);
+    other->show();
+    QVERIFY(QTest::qWaitForWindowExposed(other.get()));
+    QTest::mousePress(other->windowHandle(), Qt::RightButton, {}, QPoint(100, 100));
+    QCOMPARE(view->presses == 0, isHeld);
+    QTest::mouseRelease(other->windowHandle(), Qt::RightButton, {}, QPoint(100, 100));
+    QCOMPARE(view->presses, 1);
 }
 
 // A program that comes up with other menus than it had the last time.

@@ -127,7 +127,12 @@ void tst_Inject::programEndsAsItWould_data()
     row("window-gone-with-dialog", 0, "dialog, window gone");
     row("window-first", 0, "ring: yes, window gone");
     row("window-later", 0, "ring: yes, window gone");
-    row("second-window", 0, "entry in the second window: no");
+    row("second-window", 0, "entry in the second window, ring: yes");
+    const char *const twoWindows = "ring: no, menu: yes, ring: yes, entry in the second window: no, "
+                                   "entry in the second window, ring: yes, command of the first: no, "
+                                   "entry in the first window: no";
+    row("two-windows-first-destroyed", 0, twoWindows);
+    row("two-windows-first-closed", 0, twoWindows);
     row("without-event-loop", 0, "entry: yes, ring: yes");
     row("heap", 0, "");
     row("application-first", 0, "application gone");

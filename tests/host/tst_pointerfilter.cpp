@@ -41,7 +41,8 @@ public:
     {
         document = documents.open(view);
         document->inputPoints().AddTracker(&tracker, 0);
-        filter = std::make_unique<PointerFilter>(documents, trigger, [this] { return isEnabled; });
+        filter = std::make_unique<PointerFilter>(documents, trigger,
+                                                 [this](const QWidget *) { return isEnabled; });
         qApp->installEventFilter(filter.get());
     }
 

@@ -155,6 +155,7 @@ int runWindowGoneWithDialog(int argc, char **argv)
     return QApplication::exec();
 }
 
+// One window after the other.
 int runSecondWindow(int argc, char **argv)
 {
     QApplication app(argc, argv);
@@ -167,10 +168,57 @@ int runSecondWindow(int argc, char **argv)
              first.reset();
              second = std::make_unique<GuestWindow>();
              second->show();
-             QTimer::singleShot(600, qApp, [&] {
-                 sayWhether("entry in the second window", second->hasEntry());
+             when([&] { return second->hasEntry(); },
+                  [&] {
+                      say("entry in the second window");
+                      runGesture(*second);
+                      when([&] { return second->lines == 1; }, [] { QCoreApplication::quit(); });
+                  });
+         });
+    return QApplication::exec();
+}
+
+// Two windows at a time, of which the first is closed, or destroyed.
+int runTwoWindows(int argc, char **argv, bool isDestroyed)
+{
+    QApplication app(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    auto first = std::make_unique<GuestWindow>();
+    GuestWindow second;
+    int menus = 0;
+    second.view->setContextMenuPolicy(Qt::CustomContextMenu);
+    QObject::connect(second.view, &QWidget::customContextMenuRequested, [&menus] { ++menus; });
+    const auto runInSecond = [&] {
+        say("entry in the second window");
+        runGesture(second);
+        when([&] { return second.lines == 1; },
+             [&] {
+                 sayWhether("command of the first", first && first->lines != 1);
+                 sayWhether("entry in the first window", first && first->hasEntry());
                  QCoreApplication::quit();
              });
+    };
+    first->show();
+    when([&] { return first->hasEntry(); },
+         [&] {
+             second.show();
+             when([&] { return second.windowHandle()->isExposed(); },
+                  [&] {
+                      // The commands of the first are not for drawings of the second.
+                      openRing(second);
+                      second.release(40);
+                      sayWhether("menu", menus == 1);
+                      runGesture(*first);
+                      when([&] { return first->lines == 1; },
+                           [&] {
+                               sayWhether("entry in the second window", second.hasEntry());
+                               if (isDestroyed)
+                                   first.reset();
+                               else
+                                   first->close();
+                               when([&] { return second.hasEntry(); }, runInSecond);
+                           });
+                  });
          });
     return QApplication::exec();
 }
@@ -495,6 +543,10 @@ int main(int argc, char **argv)
         return runWindowFirst(argc, argv, true);
     if (mode == "second-window")
         return runSecondWindow(argc, argv);
+    if (mode == "two-windows-first-destroyed")
+        return runTwoWindows(argc, argv, true);
+    if (mode == "two-windows-first-closed")
+        return runTwoWindows(argc, argv, false);
     if (mode == "without-event-loop")
         return runWithoutEventLoop(argc, argv);
     if (mode == "without-module")
