@@ -50,7 +50,7 @@ QString identifierOf(QString name)
 
 QString ownFileMessage(const QString &path)
 {
-    return QStringLiteral("%1 is your own and stays as it is; remove it first").arg(path);
+    return QStringLiteral("%1 is your own and stays as it is").arg(path);
 }
 
 bool store(const QString &path, const QByteArray &content)
@@ -90,12 +90,13 @@ Outcome DesktopMenu::enable(const QByteArray &typed, const QByteArray &path) con
     const QString program = QFile::decodeName(typed);
     const QStringList names = entriesOf(typed, path);
     if (names.isEmpty()) {
-        for (const QString &name : namesIn(m_places.own)) {
+        const QStringList own = namesIn(m_places.own);
+        for (const QString &name : own) {
             DesktopFile file;
-            const QString own = QDir(m_places.own).filePath(name);
-            if (file.read(own) && !file.isOurs() && file.exec().isValid
+            const QString entry = QDir(m_places.own).filePath(name);
+            if (file.read(entry) && !file.isOurs() && file.exec().isValid
                 && isProgram(file.exec().program, path))
-                return Outcome::failure(ownFileMessage(own));
+                return Outcome::failure(ownFileMessage(entry));
         }
         return Outcome::failure(
             QStringLiteral("%1: the desktop has no entry that starts it").arg(program));
@@ -130,17 +131,20 @@ Outcome DesktopMenu::enable(const QByteArray &typed, const QByteArray &path) con
             return Outcome::failure(QStringLiteral("%1 cannot be written").arg(copy));
         outcome.output += "starts with gestures: " + QFile::encodeName(copy) + '\n';
     }
+    const QStringList all = copiesFor(typed, path);
+    for (const QString &name : all) {
+        if (installedFile(name).isEmpty()) // its entry is gone
+            QFile::remove(QDir(m_places.own).filePath(name));
+    }
     return outcome;
 }
 
 Outcome DesktopMenu::disable(const QByteArray &typed, const QByteArray &path) const
 {
     Outcome outcome;
-    for (const QString &name : namesIn(m_places.own)) {
+    const QStringList copies = copiesFor(typed, path);
+    for (const QString &name : copies) {
         const QString copy = QDir(m_places.own).filePath(name);
-        DesktopFile file;
-        if (!file.read(copy) || !isCopyFor(file, name, typed, path))
-            continue;
         if (!QFile::remove(copy))
             return Outcome::failure(QStringLiteral("%1 cannot be removed").arg(copy));
         outcome.output += "starts as ever: " + QFile::encodeName(copy) + " is removed\n";
@@ -184,7 +188,8 @@ QStringList DesktopMenu::entriesOf(const QByteArray &typed, const QByteArray &pa
     QStringList others; // start the same file by another name
     QStringList seen;
     for (const QString &folder : m_places.installed) {
-        for (const QString &name : namesIn(folder)) {
+        const QStringList names = namesIn(folder);
+        for (const QString &name : names) {
             if (seen.contains(identifierOf(name)))
                 continue;
             seen.append(identifierOf(name));
@@ -211,19 +216,26 @@ QStringList DesktopMenu::entriesOf(const QByteArray &typed, const QByteArray &pa
     return canRun ? QStringList(name) : QStringList();
 }
 
-bool DesktopMenu::isCopyFor(const DesktopFile &file, const QString &name, const QByteArray &typed,
-                            const QByteArray &path) const
+QStringList DesktopMenu::copiesFor(const QByteArray &typed, const QByteArray &path) const
 {
-    if (!file.isOurs())
-        return false;
-    if (name == QFile::decodeName(fileName(typed)) + QLatin1String(".desktop"))
-        return true;
-    const ExecLine line = file.exec();
-    // Of its arguments the first is what the launcher starts.
-    if (!line.isValid || line.arguments.isEmpty())
-        return false;
-    const QByteArray started = QByteArray(line.arguments.first()).replace("%%", "%");
-    return path.isEmpty() ? fileName(started) == fileName(typed) : isProgram(started, path);
+    QStringList named; // as entriesOf() has it
+    QStringList others;
+    const QString usual = QFile::decodeName(fileName(typed)) + QLatin1String(".desktop");
+    const QStringList own = namesIn(m_places.own);
+    for (const QString &name : own) {
+        DesktopFile file;
+        if (!file.read(QDir(m_places.own).filePath(name)) || !file.isOurs())
+            continue;
+        // Of the arguments the first is what the launcher starts.
+        const QByteArray started = file.exec().arguments.value(0).replace("%%", "%");
+        const bool isNamed = fileName(started) == fileName(typed);
+        const bool isIt = path.isEmpty() ? isNamed : isProgram(started, path);
+        if (name == usual || (isIt && isNamed))
+            named.append(name);
+        else if (isIt)
+            others.append(name);
+    }
+    return named.isEmpty() ? others : named;
 }
 
 } // namespace launcher

@@ -8,9 +8,6 @@
 
 namespace launcher {
 
-class DesktopFile;
-struct ExecLine;
-
 // Makes a program start with gestures from the desktop's menus, and brings back how it was.
 //
 // A desktop entry in the user's own folder stands for the installed one of the same name. So
@@ -33,7 +30,7 @@ public:
     explicit DesktopMenu(const Places &places);
 
     // `typed` is the program as typed, `path` its file. Writes a copy of each of its entries,
-    // or none. Once more renews them.
+    // or none. Once more renews them, and removes those whose entries are gone.
     [[nodiscard]] Outcome enable(const QByteArray &typed, const QByteArray &path) const;
     // Removes the copies. `path` is empty when the program is gone. Nothing to remove is fine,
     // the output says so.
@@ -49,8 +46,8 @@ private:
     [[nodiscard]] QStringList entriesOf(const QByteArray &typed, const QByteArray &path) const;
     // Of the folders the file that counts; empty when there is none.
     [[nodiscard]] QString installedFile(const QString &name) const;
-    [[nodiscard]] bool isCopyFor(const DesktopFile &file, const QString &name, const QByteArray &typed,
-                                 const QByteArray &path) const;
+    // Names of the copies that start the program, below the user's own folder.
+    [[nodiscard]] QStringList copiesFor(const QByteArray &typed, const QByteArray &path) const;
 
     Places m_places;
 };

@@ -76,6 +76,8 @@ private Q_SLOTS:
     void aCopyStartsItByTheLauncher();
     void twiceIsOnce();
     void aNewerEntryIsCopiedAnew();
+    void anEntryOfAnotherName();
+    void theOnlyEntryIsSomebodysOwn();
     void somebodysOwnFileStays_data();
     void somebodysOwnFileStays();
     void tryExecIsKept();
@@ -182,6 +184,27 @@ void TestDesktopMenu::aNewerEntryIsCopiedAnew()
     QVERIFY(content("home/applications/draw.desktop").contains("mouse-gestures\" draw --better\n"));
 }
 
+void TestDesktopMenu::anEntryOfAnotherName()
+{
+    write("usr/applications/draw.desktop", kEntry);
+    write("home/applications/mine.desktop", entryFor("draw --mine"));
+    expectEnabled();
+    QVERIFY(QFile::rename(place("usr/applications/draw.desktop"),
+                          place("usr/applications/org.draw.desktop")));
+    expectEnabled();
+    QCOMPARE(ownFiles(),
+             QStringList({QStringLiteral("mine.desktop"), QStringLiteral("org.draw.desktop")}));
+}
+
+void TestDesktopMenu::theOnlyEntryIsSomebodysOwn()
+{
+    write("home/applications/mine.desktop", entryFor("draw --mine"));
+    const Outcome outcome = menu().enable("draw", draw());
+    QVERIFY2(outcome.complaint.contains(QStringLiteral("mine.desktop is your own and stays")),
+             qPrintable(outcome.complaint));
+    QCOMPARE(content("home/applications/mine.desktop"), entryFor("draw --mine"));
+}
+
 void TestDesktopMenu::somebodysOwnFileStays_data()
 {
     QTest::addColumn<QByteArray>("own");
@@ -263,7 +286,13 @@ void TestDesktopMenu::theNameThatWasTypedCounts()
     write("usr/applications/b.desktop", entryFor("draw"));
     write("usr/applications/c.desktop", entryFor("draw --large"));
     expectEnabled();
-    QCOMPARE(ownFiles(), QStringList({QStringLiteral("b.desktop"), QStringLiteral("c.desktop")}));
+    const QStringList ofDraw{QStringLiteral("b.desktop"), QStringLiteral("c.desktop")};
+    QCOMPARE(ownFiles(), ofDraw);
+    QVERIFY(menu().enable("paint", QFile::encodeName(place("bin/paint"))).isDone());
+    expectEnabled();
+    QCOMPARE(ownFiles(), QStringList(QStringLiteral("a.desktop")) + ofDraw);
+    QVERIFY(menu().disable("paint", QFile::encodeName(place("bin/paint"))).isDone());
+    QCOMPARE(ownFiles(), ofDraw);
 }
 
 void TestDesktopMenu::theFirstFolderCounts()

@@ -325,7 +325,7 @@ int runLateView(int argc, char **argv)
     window.show();
     when([&] { return window.hasEntry(); },
          [&] {
-             QTimer::singleShot(500, &window, [&] {
+             QTimer::singleShot(1500, &window, [&] {
                  window.setCentralWidget(view);
                  view->show();
              });
