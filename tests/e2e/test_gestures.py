@@ -9,6 +9,7 @@ then looks at all that happened up to there.
 
 import argparse
 import configparser
+import dataclasses
 import random
 import re
 import sys
@@ -20,6 +21,7 @@ from harness.session import ANSWER_SECONDS, DRAWING_NAME, RING_SIZE, Session
 
 BUILD = None
 PROGRAM = None
+LAUNCHER = None
 
 # What reaches the program by mouse and keyboard, and what it makes of it.
 INPUT = ("press", "release", "doubleclick", "contextmenu", "key", "menu", "triggered")
@@ -35,7 +37,7 @@ def without_numbers(line):
 class Gestures(unittest.TestCase):
     def session(self, name=None, **how):
         folder = BUILD / "e2e" / PROGRAM.name / (name or self._testMethodName)
-        return Session(PROGRAM, BUILD, folder, **how)
+        return Session(PROGRAM, BUILD, folder, launcher=LAUNCHER, **how)
 
     def end(self, session):
         """Ends the program as a person does; it must be in good health to its last line."""
@@ -176,6 +178,8 @@ class Gestures(unittest.TestCase):
                     expected.append(PROGRAM.eight[runs[direction]])
                     session.expect(start, lambda _: len(session.spy.since(start, "triggered"))
                                    >= len(expected), f"command {len(expected)}, {direction}")
+                    if PROGRAM.cancel:  # another tool does not start while one is running
+                        session.cancel_tool()
                 session.settle()
             session.gesture_runs("left", PROGRAM.eight["up"])
             ran = [line[1] for line in session.spy.since(start, "triggered")]
@@ -266,7 +270,9 @@ class Gestures(unittest.TestCase):
             session.driver.ask("press", 3)
             session.driver.ask("drag", 12, 8, 100)  # 20 pixels, one short of a gesture
             session.driver.ask("release", 3)
-            if PROGRAM.context_menu:
+            if PROGRAM.menu_on_release:
+                session.close_context_menu(mark)
+            elif PROGRAM.context_menu:
                 # It opened under the pointer, so the release is for the entry there.
                 session.expect(mark, lambda line: line[0] == "triggered", "an entry of the menu")
                 session.wait_for_no_grab()
@@ -289,12 +295,16 @@ class Gestures(unittest.TestCase):
             session.right_click()
             session.driver.ask("drag", 40, 30, 50) # too far for a double click
             session.right_click()
-            session.driver.ask("key", "Escape")
+            if not PROGRAM.cancel:  # elsewhere a panel may have taken the keyboard, or not yet
+                session.driver.ask("key", "Escape")
         self.compare_with_the_bare_program(act)
 
     def test_switched_off(self):
         def act(session):
+            mark = session.spy.mark()
             session.gesture("right")
+            if PROGRAM.menu_on_release:
+                session.close_context_menu(mark)
             session.wait_for_no_grab()
             session.driver.ask("key", "Escape")
         self.compare_with_the_bare_program(act, settings={"EnableMouseGesture": "0"})
@@ -373,14 +383,20 @@ class Gestures(unittest.TestCase):
 
 
 def main():
-    global BUILD, PROGRAM
+    global BUILD, LAUNCHER, PROGRAM
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--build", type=Path, required=True)
     parser.add_argument("--program", choices=sorted(PROGRAMS), required=True)
+    parser.add_argument("--launcher", type=Path,
+                        help="an installed mouse-gestures; the build's when not given")
+    parser.add_argument("--executable", help="the program's file, where it is not the usual one")
     parser.add_argument("tests", nargs="*", help="names without \"test_\"; all when none is given")
     options = parser.parse_args()
     BUILD = options.build.resolve()
     PROGRAM = PROGRAMS[options.program]
+    if options.executable:
+        PROGRAM = dataclasses.replace(PROGRAM, executable=options.executable)
+    LAUNCHER = options.launcher
     names = [f"Gestures.test_{name}" for name in options.tests] or None
     unittest.main(argv=[sys.argv[0]], defaultTest=names, verbosity=2)
 

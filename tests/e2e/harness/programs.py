@@ -35,6 +35,9 @@ class Program:
     discard: tuple = ()
     # Whether a right click in the view opens a menu.
     context_menu: bool = False
+    # Where that menu opens with the release and not with the press: the class of what sees the
+    # release last, once the menu has closed.
+    menu_on_release: str = ""
     # Files of its configuration folder, so that it starts without questions.
     configuration: dict = field(default_factory=dict)
     # Whether it has gestures without being started through mouse-gestures.
@@ -175,6 +178,7 @@ PROGRAMS = {
             start_line=("key l", "key i"),
             discard=("key alt+d",),
             context_menu=True,
+            menu_on_release="Gui::MainWindow",
             macro=(".FCMacro", FREECAD_MACRO),
             cancel=("key F12",),
             configuration={"FreeCAD/user.cfg": FREECAD_SETTINGS},

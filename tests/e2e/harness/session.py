@@ -46,9 +46,11 @@ class Session:
     the screen, the spy's log and the program's output in `folder`."""
 
     def __init__(self, program, build, folder, gestures=True, settings=None, drawing=None,
-                 through_launcher=None):
+                 through_launcher=None, launcher=None):
         self.program = program
         self.build = Path(build).resolve()
+        # Of the build, or one that is installed.
+        self.launcher = launcher or self.build / "bin" / "mouse-gestures"
         self.folder = Path(folder).resolve()
         self.gestures = gestures
         self._settings = settings or {}
@@ -137,7 +139,7 @@ class Session:
             environment["LD_LIBRARY_PATH"] = str(self._libraries_without_module())
         command = [self.executable(), str(self.drawing)]
         if self._through_launcher:
-            command.insert(0, str(self.build / "bin" / "mouse-gestures"))
+            command.insert(0, str(self.launcher))
         with open(self.folder / "stderr.log", "wb") as errors, \
                 open(self.folder / "stdout.log", "wb") as output:
             self.process = subprocess.Popen(
@@ -288,6 +290,9 @@ class Session:
             self.expect(mark, lambda line: line[0] == "menu", "the menu of a right click")
             self.driver.ask("key", "Escape")
             self.expect(mark, lambda line: line[:2] == ["gone", "QMenu"], "the menu to close")
+            if self.program.menu_on_release:
+                self.expect(mark, lambda line: line[0] == "release"
+                            and line[2] == self.program.menu_on_release, "the end of the release")
             self.wait_for_no_grab()
 
     def wait_for_no_grab(self):
