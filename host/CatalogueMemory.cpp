@@ -6,6 +6,8 @@
 #include <QElapsedTimer>
 #include <QGuiApplication>
 
+#include <algorithm>
+
 namespace host {
 namespace {
 
@@ -114,6 +116,7 @@ void CatalogueMemory::write()
         if (m_catalogue.isOutlived(*item))
             outlived.append(item->GetIdentifier().toQString());
     }
+    m_quiet.setInterval(std::min(2 * m_quiet.interval(), kLongestQuietTime));
     // What cannot be written now is tried again with the next news.
     if (m_file.merge(commands, outlived)) {
         for (const RememberedCommand &command : std::as_const(commands))

@@ -37,8 +37,10 @@ public:
     void stop();
 
     // Milliseconds from a change of the menus until they are looked at. Programs change
-    // hundreds of entries in a row.
+    // hundreds of entries in a row. Doubles with each time that something was written: there
+    // are menus that show the time of day.
     static constexpr int kQuietTime = 250;
+    static constexpr int kLongestQuietTime = 10000;
 
 Q_SIGNALS:
     // What the menus show has been compared with the file, and is in it if it can be.

@@ -14,6 +14,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include <algorithm>
 #include <functional>
@@ -96,6 +97,7 @@ private Q_SLOTS:
     void whatIsNewComesLater();
     void aStartWithNothingNewWritesNothing();
     void captionsThatChangeAllTheTimeAreNotWritten();
+    void menusThatNeverRestAreWrittenLessAndLess();
     void nothingIsWrittenBeforeTheStartOrAfterTheStop();
     void iconsWaitWhileAButtonIsDown();
     void commandsOfEarlierStartsAreOffered();
@@ -209,6 +211,28 @@ void TestCatalogueMemory::captionsThatChangeAllTheTimeAreNotWritten()
     QVERIFY(start.settled.wait());
     QCOMPARE(node(), before);
     QCOMPARE(inFile(QStringLiteral("drawLine")).caption, QStringLiteral("Line"));
+}
+
+void TestCatalogueMemory::menusThatNeverRestAreWrittenLessAndLess()
+{
+    Start start(m_path);
+    QMenu *clock = start.window.addMenu("Clock", "clockMenu");
+    int time = 0;
+    QTimer tick;
+    connect(&tick, &QTimer::timeout, this, [&] {
+        clock->clear();
+        clock->addAction(QString::number(++time));
+    });
+    tick.start(5);
+    QVERIFY(start.isWritten());
+    QElapsedTimer elapsed;
+    qint64 before = CatalogueMemory::kQuietTime;
+    for (int round = 0; round < 2; ++round) {
+        elapsed.start();
+        QVERIFY(start.settled.wait());
+        QVERIFY2(elapsed.elapsed() > before * 3 / 2, qPrintable(QString::number(elapsed.elapsed())));
+        before = elapsed.elapsed();
+    }
 }
 
 void TestCatalogueMemory::nothingIsWrittenBeforeTheStartOrAfterTheStop()
