@@ -8,11 +8,12 @@ See test_gestures.py for how a test is made.
 import argparse
 import configparser
 import dataclasses
+import json
 import sys
 import unittest
 from pathlib import Path
 
-from harness.programs import PROGRAMS
+from harness.programs import EIGHT, PROGRAMS
 from harness.session import ANSWER_SECONDS, Session
 
 BUILD = None
@@ -121,6 +122,36 @@ class Workbenches(unittest.TestCase):
             after = self.bindings(session)
             self.assertEqual({key: after[key] for key in given if key != "ActiveScheme"},
                              {key: value for key, value in given.items() if key != "ActiveScheme"})
+
+    def test_a_command_of_an_earlier_start(self):
+        """It can be bound while its workbench was never loaded, and runs as soon as it is."""
+        with self.session() as session:
+            for _ in range(20):  # each takes its time
+                if "Draft_Ellipse" in self.remembered(session):
+                    break
+                session.gesture_runs("up", PROGRAM.eight["up"])
+            self.assertIn("Draft_Ellipse", self.remembered(session))
+            self.end(session)
+            settings = session.folder / "config" / "FreeCAD" / "user.cfg"
+            settings.write_text(settings.read_text().replace("DraftWorkbench", "ImageWorkbench"))
+            session.start_again()
+            session.bind("Ellipse", EIGHT.index("right") + 1)
+            self.assertEqual(self.bindings(session)["87"], "Draft_Ellipse")
+            mark = session.spy.mark()
+            session.gesture("right")
+            session.ring_is_gone()
+            session.gesture_runs("up", PROGRAM.eight["up"])
+            self.assertNotIn("Draft_Ellipse", [line[1] for line in session.spy.since(mark, "triggered")])
+            self.assertEqual(self.bindings(session)["87"], "Draft_Ellipse")
+            self.switch(session, "DraftWorkbench")
+            session.gesture_runs("right", "Draft_Ellipse")
+            session.cancel_tool()
+            self.end(session)
+
+    def remembered(self, session):
+        file = session.settings_file.with_suffix(".commands.json")
+        commands = json.loads(file.read_text())["commands"] if file.exists() else []
+        return [command["identifier"] for command in commands]
 
 
 def main():
