@@ -66,6 +66,8 @@ void CatalogueMemory::stop()
     m_isStarted = false;
     m_quiet.stop();
     m_drawing.stop();
+    if (!m_news.empty())
+        write({});
 }
 
 void CatalogueMemory::look()
@@ -103,19 +105,19 @@ void CatalogueMemory::draw()
         news.icon = QIcon();
     }
     m_drawing.stop();
-    write();
-}
-
-void CatalogueMemory::write()
-{
-    QVector<RememberedCommand> commands;
-    for (const News &news : m_news)
-        commands.append(news.command);
     QStringList outlived;
     for (const auto &item : m_catalogue.items()) {
         if (m_catalogue.isOutlived(*item))
             outlived.append(item->GetIdentifier().toQString());
     }
+    write(outlived);
+}
+
+void CatalogueMemory::write(const QStringList &outlived)
+{
+    QVector<RememberedCommand> commands;
+    for (const News &news : m_news)
+        commands.append(news.command);
     m_quiet.setInterval(std::min(2 * m_quiet.interval(), kLongestQuietTime));
     // What cannot be written now is tried again with the next news.
     if (m_file.merge(commands, outlived)) {

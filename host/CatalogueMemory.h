@@ -33,7 +33,8 @@ public:
 
     // The program's menus are complete. Before this nothing is written.
     void start();
-    // Looks and writes no more.
+    // Looks no more, and writes what it has seen and not written yet, without the icons that
+    // are not drawn. The main window may be half destroyed.
     void stop();
 
     // Milliseconds from a change of the menus until they are looked at. Programs change
@@ -55,7 +56,7 @@ private:
 
     void look();
     void draw();
-    void write();
+    void write(const QStringList &outlived);
 
     CommandCatalogue &m_catalogue;
     CatalogueFile m_file;

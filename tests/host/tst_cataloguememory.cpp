@@ -100,6 +100,7 @@ private Q_SLOTS:
     void menusThatNeverRestAreWrittenLessAndLess();
     void nothingIsWrittenBeforeTheStartOrAfterTheStop();
     void iconsWaitWhileAButtonIsDown();
+    void theStopWritesWhatWasSeen();
     void commandsOfEarlierStartsAreOffered();
     void theyAreTakenUpByTheirActions();
     void identifiersStayThoughMenusComeInAnotherOrder();
@@ -259,6 +260,26 @@ void TestCatalogueMemory::iconsWaitWhileAButtonIsDown()
     QTest::mouseRelease(start.window.windowHandle(), Qt::LeftButton, {}, QPoint(90, 90));
     QVERIFY(start.settled.wait());
     QVERIFY(QFileInfo::exists(m_path));
+}
+
+// A person may start the program, look at something and be gone before all icons are drawn.
+void TestCatalogueMemory::theStopWritesWhatWasSeen()
+{
+    {
+        Start start(m_path);
+        start.window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&start.window));
+        QTest::mousePress(start.window.windowHandle(), Qt::LeftButton, {}, QPoint(90, 90));
+        start.memory.start();
+        QVERIFY(!start.settled.wait(2 * CatalogueMemory::kQuietTime)); // seen, and not drawn
+        QTest::mouseRelease(start.window.windowHandle(), Qt::LeftButton, {}, QPoint(90, 90));
+        start.memory.stop();
+        QCOMPARE(file().size(), 8);
+        QCOMPARE(inFile(QStringLiteral("drawLine")).caption, QStringLiteral("Line"));
+        QVERIFY(inFile(QStringLiteral("drawLine")).icon.isEmpty());
+    }
+    runOnce(); // has the time for them
+    QVERIFY(!inFile(QStringLiteral("drawLine")).icon.isEmpty());
 }
 
 void TestCatalogueMemory::commandsOfEarlierStartsAreOffered()
