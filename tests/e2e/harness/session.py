@@ -342,7 +342,7 @@ class Session:
         self.driver.ask("type", caption)
         # The first row, below the header.
         x, y, width, height = self.place_of("command_tableView", opened)
-        self.click_at(x + 40, y + 40)
+        self.click_at(x + 40, y + 30)
         mark = self.spy.mark()
         self.driver.ask("key", "F4")
         self.expect(mark, lambda line: line[0] == "window" and "Combo" in line[1], "the list of arrows")
