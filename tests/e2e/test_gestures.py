@@ -360,6 +360,19 @@ class Gestures(unittest.TestCase):
                 complaints.append({without_numbers(line) for line in session.complaints()})
         self.assertEqual(complaints[1] - complaints[0], set())
 
+    def test_a_hundred_starts(self):
+        """Each ends as a person ends it, in good health and with no word of ours."""
+        with self.session(f"{self._testMethodName}-bare", gestures=False) as session:
+            self.end(session)
+            own = {without_numbers(line) for line in session.complaints()}
+        with self.session() as session:
+            for start in range(100):
+                if start > 0:
+                    session.start_again()
+                self.end(session)
+                said = {without_numbers(line) for line in session.complaints()}
+                self.assertEqual(said - own, set(), f"start {start + 1}")
+
     def test_quit_while_the_ring_is_open(self):
         with self.session() as session:
             session.move_to_middle()
