@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QtTest/qtestspontaneevent.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace host {
@@ -50,18 +51,25 @@ void HeldInput::hold(QWindow *window, const QWheelEvent &event)
 
 void HeldInput::drop()
 {
-    m_held.clear();
+    const auto isMouse = [](const Item &item) { return item.mouse.has_value(); };
+    m_held.erase(std::remove_if(m_held.begin(), m_held.end(), isMouse), m_held.end());
+    handOver();
 }
 
 void HeldInput::replay()
 {
+    handOver();
+    sendRest();
+}
+
+void HeldInput::handOver()
+{
+    if (m_held.empty())
+        return;
     for (Item &item : m_held)
         m_outgoing->push_back(std::move(item));
     m_held.clear();
-    if (m_outgoing->empty())
-        return;
     QMetaObject::invokeMethod(this, &HeldInput::sendRest, Qt::QueuedConnection);
-    sendRest();
 }
 
 void HeldInput::sendRest()

@@ -15,8 +15,8 @@
 namespace host {
 
 // Mouse events of windows that were kept from the program, in their order, until it is
-// known whether they become a gesture; and the key or the turn of the wheel that says that
-// they do not.
+// known whether they become a gesture; and with them the keys and the turns of the wheel
+// that came meanwhile.
 //
 // They are either dropped or sent to the same windows again, as if they came from the
 // window system just then. The program may enter an event loop inside one of them, as it
@@ -34,6 +34,8 @@ public:
     void hold(QWindow *window, const QMouseEvent &event);
     void hold(QWindow *window, const QKeyEvent &event);
     void hold(QWindow *window, const QWheelEvent &event);
+    // Drops the mouse events. The rest, which is no part of a gesture, is sent from the event
+    // loop, or with the next sendRest().
     void drop();
     // Sends everything that is held. May run event loops, and this may be gone afterwards.
     void replay();
@@ -58,6 +60,8 @@ private:
 
         [[nodiscard]] bool isA(QEvent::Type type) const { return mouse && mouse->type() == type; }
     };
+
+    void handOver();
 
     std::deque<Item> m_held;
     // Shared with a replay that is under way, which ends what it began though this is gone.

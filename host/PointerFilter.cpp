@@ -57,15 +57,13 @@ bool PointerFilter::eventFilter(QObject *receiver, QEvent *event)
             return false;
         return receiver->isWindowType()
             && filterWindow(static_cast<QWindow *>(receiver), *static_cast<QMouseEvent *>(event));
-    case QEvent::KeyPress: {
-        const auto &key = *static_cast<QKeyEvent *>(event);
-        // A key that is held since before the press says nothing, nor does its release.
-        return m_state == State::Holding && receiver->isWindowType() && !key.isAutoRepeat()
-            && giveBackBefore(static_cast<QWindow *>(receiver), key);
-    }
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        return m_state == State::Holding && receiver->isWindowType()
+            && holdKey(static_cast<QWindow *>(receiver), *static_cast<QKeyEvent *>(event));
     case QEvent::Wheel:
         return m_state == State::Holding && receiver->isWindowType()
-            && giveBackBefore(static_cast<QWindow *>(receiver), *static_cast<QWheelEvent *>(event));
+            && holdWheel(static_cast<QWindow *>(receiver), *static_cast<QWheelEvent *>(event));
     case QEvent::Show:
     case QEvent::Hide:
     case QEvent::Close:
@@ -208,8 +206,19 @@ bool PointerFilter::filterHolding(QWindow *window, const QMouseEvent &event)
     return true;
 }
 
-// Held as well, so that it reaches what the press opens, such as a menu.
-template <class Event> bool PointerFilter::giveBackBefore(QWindow *window, const Event &event)
+// What comes after the press is to reach the program after it, or what the press opens there,
+// such as a menu.
+bool PointerFilter::holdKey(QWindow *window, const QKeyEvent &event)
+{
+    m_held.hold(window, event);
+    // A key that is held since before the press says nothing, nor does its release: who types
+    // fast has not let go of the last one yet.
+    if (event.type() == QEvent::KeyPress && !event.isAutoRepeat())
+        giveBack();
+    return true;
+}
+
+bool PointerFilter::holdWheel(QWindow *window, const QWheelEvent &event)
 {
     m_held.hold(window, event);
     giveBack();
@@ -228,9 +237,13 @@ void PointerFilter::giveBack()
 void PointerFilter::beginGesture(const HitTest::Event &motion)
 {
     m_state = State::Gesturing;
-    m_held.drop();
     m_overlay.clear();
     m_overlayCame = false;
+    const QPointer<PointerFilter> self = this;
+    m_held.drop();
+    m_held.sendRest(); // now: the overlay takes the keyboard
+    if (!self || m_state != State::Gesturing)
+        return;
     // A tracker prepares its overlay on one update and starts it on the next. Were that
     // left to the next event, a quick flick could be over before the overlay came up.
     updateGesture(motion);

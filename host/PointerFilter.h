@@ -68,8 +68,9 @@ private:
     bool filterHolding(QWindow *window, const QMouseEvent &event);
     bool filterGesturing(QWindow *window, const QMouseEvent &event);
     bool filterSwallowing(QWindow *window, const QMouseEvent &event);
-    // A key or the wheel, while Holding.
-    template <class Event> bool giveBackBefore(QWindow *window, const Event &event);
+    // Keys and the wheel while Holding.
+    bool holdKey(QWindow *window, const QKeyEvent &event);
+    bool holdWheel(QWindow *window, const QWheelEvent &event);
 
     // The drag is a gesture.
     void beginGesture(const HitTest::Event &motion);
