@@ -145,8 +145,7 @@ class Session:
             self.process = subprocess.Popen(
                 command, env=environment, cwd=self.folder, stdin=subprocess.DEVNULL,
                 stdout=output, stderr=errors,
-                preexec_fn=lambda: resource.setrlimit(
-                    resource.RLIMIT_CORE, (resource.RLIM_INFINITY, resource.RLIM_INFINITY)))
+                preexec_fn=allow_cores)
 
     def _libraries_without_module(self):
         """A program that links the host library goes on without gestures when there is no
@@ -388,6 +387,12 @@ class Session:
     def _write(path, text):
         path.parent.mkdir(parents=True, exist_ok=True)
         path.write_text(text)
+
+
+def allow_cores():
+    """As large as this user may have them."""
+    _, most = resource.getrlimit(resource.RLIMIT_CORE)
+    resource.setrlimit(resource.RLIMIT_CORE, (most, most))
 
 
 def describe_status(status):
