@@ -8,6 +8,25 @@
 #include <QWidgetAction>
 
 namespace host {
+namespace {
+
+// Opens what Qt keeps for those who derive.
+struct WidgetActionAccess : QWidgetAction
+{
+    using QWidgetAction::createdWidgets;
+};
+
+// Whether menus and toolbars show a widget in the action's place. Some programs derive all
+// their actions from QWidgetAction, most of which never bring one and are common entries.
+bool bringsWidget(const QAction *action)
+{
+    const auto *widgetAction = qobject_cast<const QWidgetAction *>(action);
+    return widgetAction
+        && (widgetAction->defaultWidget()
+            || !(widgetAction->*(&WidgetActionAccess::createdWidgets))().isEmpty());
+}
+
+} // namespace
 
 ActionItem::ActionItem(const QString &identifier, const QString &key)
     : m_identifier(identifier)
@@ -52,8 +71,8 @@ void ActionItem::read()
 
 bool ActionItem::isCommand(const QAction *action)
 {
-    return !action->isSeparator() && action->isVisible() && !action->menu()
-        && !qobject_cast<const QWidgetAction *>(action) && !qobject_cast<const EntryAction *>(action)
+    return !action->isSeparator() && action->isVisible() && !action->menu() && !bringsWidget(action)
+        && !qobject_cast<const EntryAction *>(action)
         && !(action->objectName().isEmpty() && captionOf(action).isEmpty());
 }
 

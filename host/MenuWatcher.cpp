@@ -2,11 +2,40 @@
 
 #include <QActionEvent>
 #include <QChildEvent>
+#include <QDockWidget>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QToolBar>
 
 namespace host {
+namespace {
+
+// Whether it stands in another window that belongs to `window`, as an editor for texts or
+// a dialog does, and so acts on something else. A toolbar that floats is its own window; a
+// dock that floats is still a part of its main window.
+bool isOfAnotherWindow(const QWidget *bar, const QMainWindow *window)
+{
+    for (const QWidget *up = bar->parentWidget(); up && up != window; up = up->parentWidget()) {
+        if (up->isWindow() && !qobject_cast<const QDockWidget *>(up))
+            return true;
+    }
+    return false;
+}
+
+template <class Bar> QVector<Bar *> barsOf(const QMainWindow *window)
+{
+    QVector<Bar *> bars;
+    if (!window)
+        return bars;
+    const QList<Bar *> all = window->findChildren<Bar *>();
+    for (Bar *bar : all) {
+        if (!isOfAnotherWindow(bar, window))
+            bars.append(bar);
+    }
+    return bars;
+}
+
+} // namespace
 
 MenuWatcher::MenuWatcher(QMainWindow *window)
     : m_window(window)
@@ -19,12 +48,9 @@ MenuWatcher::~MenuWatcher() = default;
 
 QVector<QMenuBar *> MenuWatcher::menuBars() const
 {
-    QVector<QMenuBar *> bars;
+    QVector<QMenuBar *> bars = barsOf<QMenuBar>(m_window);
     if (!m_window)
         return bars;
-    const QList<QMenuBar *> all = m_window->findChildren<QMenuBar *>();
-    for (QMenuBar *bar : all)
-        bars.append(bar);
     auto *own = qobject_cast<QMenuBar *>(m_window->menuWidget());
     if (own) {
         bars.removeAll(own);
@@ -35,13 +61,7 @@ QVector<QMenuBar *> MenuWatcher::menuBars() const
 
 QVector<QToolBar *> MenuWatcher::toolBars() const
 {
-    QVector<QToolBar *> bars;
-    if (!m_window)
-        return bars;
-    const QList<QToolBar *> all = m_window->findChildren<QToolBar *>();
-    for (QToolBar *bar : all)
-        bars.append(bar);
-    return bars;
+    return barsOf<QToolBar>(m_window);
 }
 
 void MenuWatcher::watch(QWidget *widget)

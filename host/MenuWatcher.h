@@ -25,7 +25,8 @@ public:
     ~MenuWatcher() override;
 
     // The window's menu bars, its own one first; empty when it has none. A bar is never
-    // made by asking, as QMainWindow::menuBar() would.
+    // made by asking, as QMainWindow::menuBar() would. Those of other windows that belong to
+    // it are left out, and so are their toolbars.
     [[nodiscard]] QVector<QMenuBar *> menuBars() const;
     [[nodiscard]] QVector<QToolBar *> toolBars() const;
 

@@ -1,10 +1,12 @@
 #include "host/inject/InjectPlugin.h"
 
 #include "host/ExplanationChannel.h"
+#include "host/inject/BareApplication.h"
 #include "host/inject/Injector.h"
-#include "host/inject/PluginEnvironment.h"
 
 #include <QApplication>
+
+#include <memory>
 
 InjectPlugin::InjectPlugin(QObject *parent)
     : QGenericPlugin(parent)
@@ -16,13 +18,12 @@ InjectPlugin::~InjectPlugin() = default;
 QObject *InjectPlugin::create(const QString &, const QString &)
 {
     try {
-        inject::cleanEnvironment();
-        const int explanation = inject::takeExplanationSocket();
-        host::tell(explanation, {{QStringLiteral("process"), int(QCoreApplication::applicationPid())}});
+        auto variables = std::make_unique<inject::BorrowedVariables>();
+        host::tell(variables->explanation(),
+                   {{QStringLiteral("process"), int(QCoreApplication::applicationPid())}});
         if (qobject_cast<QApplication *>(QCoreApplication::instance()))
-            return new inject::Injector(explanation);
-        host::tell(explanation, {{QStringLiteral("problem"), QStringLiteral("it has no widgets")}});
-        return new QObject; // of null, Qt would complain
+            return new inject::Injector(std::move(variables));
+        return new inject::BareApplication(std::move(variables)); // of null, Qt would complain
     } catch (...) {
         return nullptr; // the program does without gestures
     }

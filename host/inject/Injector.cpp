@@ -30,8 +30,9 @@ void report(const char *text)
 
 } // namespace
 
-Injector::Injector(int explanation)
-    : m_explanation(explanation)
+Injector::Injector(std::unique_ptr<BorrowedVariables> variables)
+    : m_variables(std::move(variables))
+    , m_explanation(m_variables->explanation())
 {
     if (m_explanation >= 0) {
         m_explanationEnd = std::make_unique<QSocketNotifier>(m_explanation, QSocketNotifier::Read);
@@ -70,6 +71,7 @@ void Injector::look()
     QMainWindow *window = findWindow();
     if (!window)
         return;
+    m_variables->keep();
     QCoreApplication::instance()->removeEventFilter(this);
     if (m_window) {
         m_window->removeEventFilter(this);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/inject/BorrowedVariables.h"
+
 #include <QObject>
 #include <QPointer>
 #include <QSocketNotifier>
@@ -23,10 +25,9 @@ class Injector : public QObject
 
 public:
     // To be made as early as the application object exists; does nothing before the event
-    // loop runs.
-    // `explanation` is the socket over which the program is explained, see
-    // host/ExplanationChannel.h; -1 for none.
-    explicit Injector(int explanation = -1);
+    // loop runs. An application object that goes without having shown a main window gives
+    // the variables back.
+    explicit Injector(std::unique_ptr<BorrowedVariables> variables);
     ~Injector() override;
 
     bool eventFilter(QObject *receiver, QEvent *event) override;
@@ -46,7 +47,8 @@ private:
     std::unique_ptr<GestureHost> m_host;
     QPointer<QMainWindow> m_window; // that has it
     bool m_isLookQueued = false;
-    int m_explanation;
+    std::unique_ptr<BorrowedVariables> m_variables;
+    int m_explanation; // the socket, see host/ExplanationChannel.h; -1 for none
     std::unique_ptr<QSocketNotifier> m_explanationEnd;
 };
 

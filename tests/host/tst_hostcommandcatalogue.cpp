@@ -4,6 +4,7 @@
 #include "tests/host/DraftWindow.h"
 #include "tests/support/FatalWarnings.h"
 
+#include <QDockWidget>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QSignalSpy>
@@ -75,6 +76,7 @@ private Q_SLOTS:
     void aWellKnownIdentifierIsNotTakenByAnother();
     void twoWithOneNameAreTold();
     void whatIsNoCommandIsLeftOut();
+    void actionsThatMightBringAWidget();
     void anActionInTwoPlacesIsOneCommand();
     void menusThatContainEachOtherEnd();
     void namesOfActionsWithoutText();
@@ -85,6 +87,7 @@ private Q_SLOTS:
     void aToolBarAddedLaterIsSeen();
     void aMenuBarAddedLaterIsSeen();
     void aMenuBarIsNeverMade();
+    void otherWindowsAreLeftOut();
     void commandsThatAreGoneAreKept();
     void aCommandComesBackWithItsKey();
     void aCommandComesBackThoughItsAddressIsTaken();
@@ -193,6 +196,28 @@ void TestHostCommandCatalogue::whatIsNoCommandIsLeftOut()
     CommandCatalogue catalogue(m_window.get(), {});
     QCOMPARE(listing(catalogue).at(1), QStringLiteral("Draw: drawLine | drawCircle"));
     QCOMPARE(listing(catalogue).size(), 4);
+}
+
+// A program may derive all of its actions from the class that can bring a widget.
+void TestHostCommandCatalogue::actionsThatMightBringAWidget()
+{
+    class Slider : public QWidgetAction
+    {
+    public:
+        using QWidgetAction::QWidgetAction;
+
+    protected:
+        QWidget *createWidget(QWidget *parent) override { return new QLabel(parent); }
+    };
+    const auto add = [this](QWidgetAction *action, const char *name) {
+        action->setObjectName(QString::fromLatin1(name));
+        action->setText(QStringLiteral("Text"));
+        m_window->draw->addAction(action);
+    };
+    add(new QWidgetAction(m_window.get()), "drawArc2");
+    add(new Slider(m_window.get()), "drawWidth");
+    CommandCatalogue catalogue(m_window.get(), {});
+    QCOMPARE(listing(catalogue).at(1), QStringLiteral("Draw: drawLine | drawCircle | drawArc2"));
 }
 
 void TestHostCommandCatalogue::anActionInTwoPlacesIsOneCommand()
@@ -350,6 +375,32 @@ void TestHostCommandCatalogue::aMenuBarIsNeverMade()
     QCOMPARE(catalogue.itemOf(nullptr), nullptr);
     QVERIFY(!window.menuWidget());
     QVERIFY(window.findChildren<QMenuBar *>().isEmpty());
+}
+
+// An editor for texts that belongs to the main window has a File menu too, and what floats
+// is still a part of the main window.
+void TestHostCommandCatalogue::otherWindowsAreLeftOut()
+{
+    DraftWindow window;
+    auto *editor = new QMainWindow(&window);
+    DraftWindow::addAction(editor->menuBar()->addMenu(QStringLiteral("&File")), "&Open...",
+                           "editorOpen");
+    editor->addToolBar(QStringLiteral("Editor"))
+        ->addAction(QStringLiteral("Cut"))
+        ->setObjectName(QStringLiteral("editorCut"));
+    auto *dock = new QDockWidget(&window);
+    window.addDockWidget(Qt::LeftDockWidgetArea, dock);
+    auto *tools = new QToolBar(QStringLiteral("Tools"));
+    tools->addAction(QStringLiteral("Snap"))->setObjectName(QStringLiteral("snap"));
+    dock->setWidget(tools);
+    dock->setFloating(true);
+    window.toolBar->setWindowFlags(Qt::Tool);
+    CommandCatalogue catalogue(&window, {});
+    QVERIFY(!catalogue.find(QStringLiteral("editorOpen")));
+    QVERIFY(!catalogue.find(QStringLiteral("editorCut")));
+    QVERIFY(catalogue.find(QStringLiteral("snap")));
+    QVERIFY(catalogue.find(QStringLiteral("drawArc")));
+    QVERIFY(catalogue.find(QStringLiteral("fileOpen")));
 }
 
 void TestHostCommandCatalogue::commandsThatAreGoneAreKept()

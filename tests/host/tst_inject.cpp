@@ -134,6 +134,8 @@ void tst_Inject::programEndsAsItWould_data()
     row("two-windows-first-destroyed", 0, twoWindows);
     row("two-windows-first-closed", 0, twoWindows);
     row("without-event-loop", 0, "entry: yes, ring: yes");
+    row("after-bare-application", 0, "entry, unset|unset, entry after the event loop: no");
+    row("after-another-application", 0, "entry, unset|unset, entry after the event loop: no");
     row("heap", 0, "");
     row("application-first", 0, "application gone");
     row("static", 0, "");

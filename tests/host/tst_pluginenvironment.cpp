@@ -1,3 +1,4 @@
+#include "host/inject/BorrowedVariables.h"
 #include "host/inject/PluginEnvironment.h"
 #include "tests/support/FatalWarnings.h"
 
@@ -35,6 +36,9 @@ private Q_SLOTS:
     void variablesAreRemovedWhenEmpty();
     void variablesThatAreNotSetStayUnset();
     void otherEntriesStay();
+    void whatIsBorrowedComesBack();
+    void whatIsKeptStaysAway();
+    void whatTheProgramSetsMeanwhileStays();
 
 private:
     std::unique_ptr<QTemporaryDir> m_root;
@@ -144,6 +148,38 @@ void tst_PluginEnvironment::otherEntriesStay()
     inject::cleanEnvironment();
     QCOMPARE(qgetenv("QT_QPA_GENERIC_PLUGINS"), QByteArray("tuiotouch"));
     QCOMPARE(qgetenv("QT_PLUGIN_PATH"), QByteArray("/somewhere/else"));
+}
+
+void tst_PluginEnvironment::whatIsBorrowedComesBack()
+{
+    qputenv("QT_QPA_GENERIC_PLUGINS", "mousegestures,a");
+    {
+        const inject::BorrowedVariables variables;
+        QCOMPARE(qgetenv("QT_QPA_GENERIC_PLUGINS"), QByteArray("a"));
+        QCOMPARE(variables.explanation(), -1);
+    }
+    QCOMPARE(qgetenv("QT_QPA_GENERIC_PLUGINS"), QByteArray("mousegestures,a"));
+    QVERIFY(!qEnvironmentVariableIsSet("QT_PLUGIN_PATH"));
+}
+
+void tst_PluginEnvironment::whatIsKeptStaysAway()
+{
+    qputenv("QT_QPA_GENERIC_PLUGINS", "mousegestures");
+    {
+        inject::BorrowedVariables variables;
+        variables.keep();
+    }
+    QVERIFY(!qEnvironmentVariableIsSet("QT_QPA_GENERIC_PLUGINS"));
+}
+
+void tst_PluginEnvironment::whatTheProgramSetsMeanwhileStays()
+{
+    qputenv("QT_QPA_GENERIC_PLUGINS", "mousegestures");
+    {
+        const inject::BorrowedVariables variables;
+        qputenv("QT_QPA_GENERIC_PLUGINS", "b");
+    }
+    QCOMPARE(qgetenv("QT_QPA_GENERIC_PLUGINS"), QByteArray("b"));
 }
 
 QTEST_GUILESS_MAIN(tst_PluginEnvironment)

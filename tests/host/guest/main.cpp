@@ -352,6 +352,19 @@ int runWithoutWindow(int argc, char **argv)
     return question.exec();
 }
 
+// Asks something of an application object made for that alone, before the real one.
+int runAfterAnother(int argc, char **argv, bool hasWidgets)
+{
+    if (hasWidgets)
+        QApplication(argc, argv);
+    else
+        QGuiApplication(argc, argv);
+    return runWith(argc, argv, [](GuestWindow &) {
+        say(qPrintable(environmentText()));
+        QCoreApplication::quit();
+    });
+}
+
 int runHeap(int argc, char **argv)
 {
     auto *app = new QApplication(argc, argv);
@@ -551,6 +564,10 @@ int main(int argc, char **argv)
         return runWithoutEventLoop(argc, argv);
     if (mode == "without-module")
         return runWithoutModule(argc, argv);
+    if (mode == "after-bare-application")
+        return runAfterAnother(argc, argv, false);
+    if (mode == "after-another-application")
+        return runAfterAnother(argc, argv, true);
     if (mode == "heap")
         return runHeap(argc, argv);
     if (mode == "application-first")

@@ -1,0 +1,22 @@
+#include "host/inject/BareApplication.h"
+
+#include "host/ExplanationChannel.h"
+
+namespace inject {
+
+BareApplication::BareApplication(std::unique_ptr<BorrowedVariables> variables)
+    : m_variables(std::move(variables))
+{
+    QMetaObject::invokeMethod(this, &BareApplication::onEventLoop, Qt::QueuedConnection);
+}
+
+BareApplication::~BareApplication() = default;
+
+void BareApplication::onEventLoop()
+{
+    m_variables->keep();
+    host::tell(m_variables->explanation(),
+               {{QStringLiteral("problem"), QStringLiteral("it has no widgets")}});
+}
+
+} // namespace inject

@@ -1,0 +1,34 @@
+#include "host/inject/BorrowedVariables.h"
+
+#include "host/ExplanationChannel.h"
+#include "host/inject/PluginEnvironment.h"
+
+namespace inject {
+
+BorrowedVariables::BorrowedVariables()
+    : m_variables{{{"QT_QPA_GENERIC_PLUGINS", {}, false, {}},
+                   {"QT_PLUGIN_PATH", {}, false, {}},
+                   {host::kExplanationVariable, {}, false, {}}}}
+{
+    for (Variable &variable : m_variables) {
+        variable.before = qgetenv(variable.name);
+        variable.wasSet = qEnvironmentVariableIsSet(variable.name);
+    }
+    cleanEnvironment();
+    m_explanation = takeExplanationSocket();
+    for (Variable &variable : m_variables)
+        variable.after = qgetenv(variable.name);
+}
+
+BorrowedVariables::~BorrowedVariables()
+{
+    if (m_isKept)
+        return;
+    for (const Variable &variable : m_variables) {
+        // What the program has set meanwhile is the program's.
+        if (variable.wasSet && qgetenv(variable.name) == variable.after)
+            qputenv(variable.name, variable.before);
+    }
+}
+
+} // namespace inject
