@@ -1,13 +1,17 @@
 #include "host/WellKnownGuess.h"
 
 #include "host/Captions.h"
+#include "sdk/QtBridge.h"
 
 #include <QAction>
 #include <QCoreApplication>
+#include <QDockWidget>
 #include <QHash>
 #include <QKeySequence>
+#include <QMenu>
 #include <QRegularExpression>
 #include <QSet>
+#include <QToolBar>
 
 #include <algorithm>
 
@@ -15,11 +19,13 @@ namespace host {
 namespace {
 
 // Each sort of evidence outweighs all those after it together: a shortcut hardly ever lies,
-// a caption depends on the language.
-constexpr int kShortcutWeight = 8;
-constexpr int kIconWeight = 4;
-constexpr int kNameWeight = 2;
-constexpr int kCaptionWeight = 1;
+// a caption depends on the language. The menu tells "Insert > Text" from "Convert to > Text";
+// alone it says nothing.
+constexpr int kShortcutWeight = 16;
+constexpr int kIconWeight = 8;
+constexpr int kNameWeight = 4;
+constexpr int kCaptionWeight = 2;
+constexpr int kMenuWeight = 1;
 
 struct Signs
 {
@@ -30,6 +36,7 @@ struct Signs
     // In lower case, words separated by one space. An object name is compared with them
     // once its words that name no deed are gone, see kNoise.
     QStringList words;
+    QStringList menus; // captions, likewise
 };
 
 const QVector<Signs> &allSigns()
@@ -37,67 +44,114 @@ const QVector<Signs> &allSigns()
     const auto list = [](const char *text) {
         return QString::fromLatin1(text).split(QLatin1Char('|'), Qt::SkipEmptyParts);
     };
+    static const char *const drawing = "draw|drawing|insert|add|create|new|objects|tools|lines|line";
     static const QVector<Signs> signs{
         {"ID_COPY", QT_TRANSLATE_NOOP("host", "Copy"), QKeySequence::Copy, list("edit-copy"),
-         list("copy")},
+         list("copy|copy selection|copy selected|copy objects|copy features"), list("edit|modify")},
         {"ID_DTEXT", QT_TRANSLATE_NOOP("host", "Text"), QKeySequence::UnknownKey,
          list("draw-text|insert-text|tool-text"),
-         list("text|add text|draw text|insert text|add text field|text field|text tool|single line "
-              "text")},
+         list("text|add text|draw text|insert text|create text|new text|place text|add text field|"
+              "text field|add textfield|textfield|text frame|insert text frame|add text frame|"
+              "text label|add text label|text box|add text box|insert text box|text object|"
+              "text tool|single line text"),
+         list(drawing)},
         {"ID_LINE", QT_TRANSLATE_NOOP("host", "Line"), QKeySequence::UnknownKey,
          list("draw-line|tool-line"),
-         list("line|add line|draw line|insert line|straight line|line segment|line tool|lines|"
-              "line 2 points|add straight line")},
+         list("line|add line|draw line|insert line|create line|new line|straight line|"
+              "line segment|line tool|lines|line 2 points|line by 2 points|line by two points|"
+              "line two points|two point line|add straight line"),
+         list(drawing)},
         {"ID_OFFSET", QT_TRANSLATE_NOOP("host", "Offset"), QKeySequence::UnknownKey,
-         list("object-offset|offset"), list("offset|offset curve|parallel offset|2d offset")},
+         list("object-offset|offset"), list("offset|offset curve|parallel offset|2d offset"),
+         list("edit|modify|draft")},
         {"ID_OPEN", QT_TRANSLATE_NOOP("host", "Open"), QKeySequence::Open, list("document-open"),
-         list("open|open file|file open|open drawing|open document")},
+         list("open|open file|file open|open drawing|open document|open project"),
+         list("file|project|document")},
         {"ID_SAVE", QT_TRANSLATE_NOOP("host", "Save"), QKeySequence::Save, list("document-save"),
-         list("save|save file|file save|save drawing|save document")},
+         list("save|save file|file save|save drawing|save document|save project"),
+         list("file|project|document")},
         {"ID_TRIM", QT_TRANSLATE_NOOP("host", "Trim"), QKeySequence::UnknownKey, list("trim"),
-         list("trim|trimex|trim extend|trim edge|trim line")},
+         list("trim|trimex|trim extend|trim edge|trim line|trim extend feature|trim curve|trim object"),
+         list("edit|modify|draft")},
         {"ID_ZOOM_BOUNDS", QT_TRANSLATE_NOOP("host", "Zoom to Fit"), QKeySequence::UnknownKey,
          list("zoom-fit-best|zoom-fit|zoom-fit-page|page-zoom"),
-         list("zoom fit|zoom to fit|fit zoom|zoom extents|zoom all|zoom bounds|zoom auto|auto zoom|"
-              "zoom fit best|zoom content|fit all|fit|fit in view|fit to page|fit page|fit to window|"
-              "fit content|fit extents|zoom to extents|zoom content to fit|zoom page|best fit")},
+         list("zoom fit|zoom to fit|fit zoom|zoom extents|zoom all|zoom to all|zoom bounds|zoom auto|"
+              "auto zoom|zoom fit best|zoom content|zoom to content|fit all|fit|fit in view|"
+              "fit to view|fit view|fit to page|fit page|fit to window|fit in window|"
+              "fit to screen|fit content|fit to content|fit extents|zoom to extents|"
+              "zoom content to fit|zoom page|best fit|view all|zoom full|zoom full extent|"
+              "zoom to full extent|full extent"),
+         list("view|zoom|display")},
     };
     return signs;
 }
 
-// Words of object names that say what sort of thing it is or where it is, not what it does.
-const QSet<QString> &noise()
+using Words = QSet<QString>;
+
+Words wordsIn(const char *text)
 {
-    static const QSet<QString> words = [] {
-        const QStringList list =
-            QStringLiteral(
-                "act action m ui file edit draw modify view std menu mnu item btn button tool tb id")
-                .split(QLatin1Char(' '));
-        return QSet<QString>(list.begin(), list.end());
-    }();
+    const QStringList list = QString::fromLatin1(text).split(QLatin1Char(' '));
+    return Words(list.begin(), list.end());
+}
+
+// Words of object names that say what sort of thing it is.
+const Words &kinds()
+{
+    static const Words words = wordsIn("act action m ui std menu mnu item btn button tool tb id");
     return words;
 }
 
-// "&Zoom to Fit..." and "zoom_to-fit" become "zoom to fit".
+// Those and the ones that say where it is, not what it does.
+const Words &noise()
+{
+    static const Words words = Words(kinds()) | wordsIn("file edit draw modify view");
+    return words;
+}
+
+QString without(const Words &unwanted, const QString &text)
+{
+    QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const auto isUnwanted = [&unwanted](const QString &word) { return unwanted.contains(word); };
+    words.erase(std::remove_if(words.begin(), words.end(), isUnwanted), words.end());
+    return words.join(QLatin1Char(' '));
+}
+
+// "&Zoom to Fit...", "Zoom to the fit" and "zoom_to-fit" become "zoom to fit".
 QString plainWords(QString text)
 {
     static const QRegularExpression separators(QStringLiteral("[^\\w]+|_+"),
                                                QRegularExpression::UseUnicodePropertiesOption);
-    return text.replace(separators, QStringLiteral(" ")).simplified().toLower();
+    static const Words articles = wordsIn("a an the");
+    return without(articles, text.replace(separators, QStringLiteral(" ")).toLower());
 }
 
-// The words of "m_actionZoomToFit" without noise: "zoom to fit".
-QString wordsOfName(QString name)
+// The words of "m_actionZoomToFit" without noise, "zoom to fit". Of "actionViewAll" without
+// its kind alone as well, "view all".
+QStringList wordsOfName(QString name)
 {
     static const QRegularExpression humps(QStringLiteral("(?<=[a-z0-9])(?=[A-Z])"));
     const QString plain = plainWords(name.replace(humps, QStringLiteral(" ")));
-    QStringList words;
-    const QStringList all = plain.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    for (const QString &word : all) {
-        if (!noise().contains(word))
-            words.append(word);
+    return {without(noise(), plain), without(kinds(), plain)};
+}
+
+// Switches that show and hide a toolbar or a dock bear its title, not a deed.
+bool isSwitchOfBar(const QAction &action)
+{
+    const QString name = action.objectName().toLower();
+    return action.isCheckable()
+        && (qobject_cast<QToolBar *>(action.parent()) || qobject_cast<QDockWidget *>(action.parent())
+            || action.inherits("KToggleToolBarAction") || name.contains(QLatin1String("toolbar")));
+}
+
+QStringList menusOf(const QAction &action)
+{
+    QStringList menus;
+    const QWidgetList widgets = qtbridge::widgetsOf(action);
+    for (const QWidget *widget : widgets) {
+        if (const auto *menu = qobject_cast<const QMenu *>(widget))
+            menus.append(plainWords(plainCaption(menu->title())));
     }
-    return words.join(QLatin1Char(' '));
+    return menus;
 }
 
 // What an action shows and is called, read once for all identifiers.
@@ -110,15 +164,17 @@ struct Look
         , nameWords(wordsOfName(action.objectName()))
         , caption(plainCaption(action.text()))
         , captionWords(plainWords(caption))
+        , menus(menusOf(action))
     {
     }
 
     QList<QKeySequence> shortcuts;
     QString icon;
     QString name;
-    QString nameWords;
+    QStringList nameWords; // forms of the name
     QString caption;
     QString captionWords;
+    QStringList menus;
 };
 
 WellKnownGuess judge(const Signs &signs, const Look &look)
@@ -141,9 +197,16 @@ WellKnownGuess judge(const Signs &signs, const Look &look)
             weigh(true, kShortcutWeight, QStringLiteral("shortcut"), found->toString());
     }
     weigh(signs.icons.contains(look.icon), kIconWeight, QStringLiteral("icon"), look.icon);
-    weigh(signs.words.contains(look.nameWords), kNameWeight, QStringLiteral("object name"), look.name);
+    const auto names = [&signs](const QString &words) { return signs.words.contains(words); };
+    weigh(std::any_of(look.nameWords.begin(), look.nameWords.end(), names), kNameWeight,
+          QStringLiteral("object name"), look.name);
     weigh(signs.words.contains(look.captionWords), kCaptionWeight, QStringLiteral("caption"),
           look.caption);
+    const auto menu = std::find_if(look.menus.begin(), look.menus.end(), [&signs](const QString &title) {
+        return signs.menus.contains(title);
+    });
+    if (guess.weight > 0 && menu != look.menus.end())
+        guess.weight += kMenuWeight;
     guess.reason = reasons.join(QStringLiteral(", "));
     return guess;
 }
@@ -172,6 +235,8 @@ QVector<WellKnownGuess> WellKnownGuess::among(const QVector<QAction *> &actions,
 {
     QVector<WellKnownGuess> candidates;
     for (QAction *action : actions) {
+        if (isSwitchOfBar(*action))
+            continue;
         const Look look(*action);
         for (const Signs &signs : allSigns()) {
             if (!wanted.contains(QLatin1String(signs.identifier)))

@@ -4,6 +4,7 @@
 // never asks for a Qt version.
 
 #include <QAbstractItemView>
+#include <QAction>
 #include <QApplication>
 #include <QEnterEvent>
 #include <QMouseEvent>
@@ -32,6 +33,22 @@ constexpr int kQtMajor = QT_VERSION_MAJOR;
     return QApplication::desktop();
 #else
     return nullptr;
+#endif
+}
+
+// The menus, toolbars and other widgets that show an action.
+[[nodiscard]] inline QWidgetList widgetsOf(const QAction &action)
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return action.associatedWidgets();
+#else
+    QWidgetList widgets;
+    const QList<QObject *> objects = action.associatedObjects();
+    for (QObject *object : objects) {
+        if (auto *widget = qobject_cast<QWidget *>(object))
+            widgets.append(widget);
+    }
+    return widgets;
 #endif
 }
 

@@ -3,11 +3,14 @@
 
 #include <QAction>
 #include <QDir>
+#include <QDockWidget>
 #include <QFile>
 #include <QIcon>
 #include <QImage>
+#include <QMenu>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QToolBar>
 
 #include <memory>
 #include <vector>
@@ -36,6 +39,9 @@ private Q_SLOTS:
     void theMoreTrustedSignWins();
     void signsAddUp();
     void ofEqualsTheFirstWins();
+    void ofEqualsTheOneInTheRightMenuWins();
+    void theMenuAloneSaysNothing();
+    void switchesOfBarsAreNone();
     void anActionStandsForOneOnly();
     void onlyWhatIsWanted();
     void captions();
@@ -125,6 +131,15 @@ void TestWellKnownGuess::byOneSign_data()
     row("caption fit", "", "Fit in View", "", {}, "ID_ZOOM_BOUNDS", "caption");
     row("caption extents", "", "Zoom Extents", "", {}, "ID_ZOOM_BOUNDS", "caption");
     row("caption open", "", "Open...", "", {}, "ID_OPEN", "caption");
+    row("caption view all", "", "View All", "", {}, "ID_ZOOM_BOUNDS", "caption");
+    row("name view all", "actionViewAll", "x", "", {}, "ID_ZOOM_BOUNDS", "object name");
+    row("name full extent", "mActionZoomFullExtent", "x", "", {}, "ID_ZOOM_BOUNDS", "object name");
+    row("caption with an article", "", "Add a &textfield", "", {}, "ID_DTEXT", "caption");
+    row("caption text label", "", "Text Label", "", {}, "ID_DTEXT", "caption");
+    row("caption text frame", "", "Text &Frame", "", {}, "ID_DTEXT", "caption");
+    row("caption by points", "", "Line by Two Points", "", {}, "ID_LINE", "caption");
+    row("caption features", "", "Copy Features", "", {}, "ID_COPY", "caption");
+    row("name trim feature", "mActionTrimExtendFeature", "x", "", {}, "ID_TRIM", "object name");
 }
 
 void TestWellKnownGuess::byOneSign()
@@ -164,6 +179,9 @@ void TestWellKnownGuess::byNothing_data()
     row("action", "Nothing");
     row("draw", "");
     row("", "Trimmed");
+    row("", "Show All");
+    row("drawPolyLine", "x");
+    row("", "Text Annotation");
 }
 
 void TestWellKnownGuess::byNothing()
@@ -215,6 +233,43 @@ void TestWellKnownGuess::ofEqualsTheFirstWins()
     const QVector<WellKnownGuess> found = WellKnownGuess::among(actions());
     QCOMPARE(found.size(), 1);
     QCOMPARE(found.first().action, first);
+}
+
+void TestWellKnownGuess::ofEqualsTheOneInTheRightMenuWins()
+{
+    QMenu convert(QStringLiteral("Convert to"));
+    QMenu insert(QStringLiteral("&Insert"));
+    convert.addAction(add(QString(), QStringLiteral("Text Frame")));
+    QAction *inserts = add(QString(), QStringLiteral("Text Frame"));
+    insert.addAction(inserts);
+    const QVector<WellKnownGuess> found = WellKnownGuess::among(actions());
+    QCOMPARE(found.size(), 1);
+    QCOMPARE(found.first().action, inserts);
+    // But what is called so outweighs where it is.
+    QAction *named = add(QStringLiteral("drawText"), QStringLiteral("x"));
+    QCOMPARE(WellKnownGuess::among(actions()).value(0).action, named);
+}
+
+void TestWellKnownGuess::theMenuAloneSaysNothing()
+{
+    QMenu file(QStringLiteral("&File"));
+    file.addAction(add(QString(), QStringLiteral("Properties")));
+    QVERIFY(WellKnownGuess::among(actions()).isEmpty());
+}
+
+// They bear the title of the bar that they show and hide.
+void TestWellKnownGuess::switchesOfBarsAreNone()
+{
+    QToolBar bar(QStringLiteral("Lines"));
+    QDockWidget dock(QStringLiteral("Text"));
+    QAction *byName = add(QStringLiteral("offset_toolbar"), QStringLiteral("Offset"));
+    byName->setCheckable(true);
+    const QVector<QAction *> switches{bar.toggleViewAction(), dock.toggleViewAction(), byName};
+    QVERIFY(WellKnownGuess::among(switches).isEmpty());
+    // A tool that stays chosen can be checked too.
+    QAction *tool = add(QStringLiteral("drawLine"), QStringLiteral("Line"));
+    tool->setCheckable(true);
+    QCOMPARE(WellKnownGuess::among(switches + QVector<QAction *>{tool}).value(0).action, tool);
 }
 
 void TestWellKnownGuess::anActionStandsForOneOnly()
