@@ -37,6 +37,8 @@ struct Signs
     // once its words that name no deed are gone, see kNoise.
     QStringList words;
     QStringList menus; // captions, likewise
+    // Words that say too little but in one of these menus.
+    QStringList wordsInMenus;
 };
 
 const QVector<Signs> &allSigns()
@@ -44,44 +46,72 @@ const QVector<Signs> &allSigns()
     const auto list = [](const char *text) {
         return QString::fromLatin1(text).split(QLatin1Char('|'), Qt::SkipEmptyParts);
     };
-    static const char *const drawing = "draw|drawing|insert|add|create|new|objects|tools|lines|line";
+    static const char *const drawing =
+        "draw|drawing|insert|add|add new|create|new|objects|tools|lines|line";
     static const QVector<Signs> signs{
-        {"ID_COPY", QT_TRANSLATE_NOOP("host", "Copy"), QKeySequence::Copy, list("edit-copy"),
-         list("copy|copy selection|copy selected|copy objects|copy features"), list("edit|modify")},
-        {"ID_DTEXT", QT_TRANSLATE_NOOP("host", "Text"), QKeySequence::UnknownKey,
+        {"ID_COPY",
+         QT_TRANSLATE_NOOP("host", "Copy"),
+         QKeySequence::Copy,
+         list("edit-copy"),
+         list("copy|copy selection|copy selected|copy objects|copy features"),
+         list("edit|modify"),
+         {}},
+        {"ID_DTEXT",
+         QT_TRANSLATE_NOOP("host", "Text"),
+         QKeySequence::UnknownKey,
          list("draw-text|insert-text|tool-text"),
          list("text|add text|draw text|insert text|create text|new text|place text|add text field|"
               "text field|add textfield|textfield|text frame|insert text frame|add text frame|"
               "text label|add text label|text box|add text box|insert text box|text object|"
               "text tool|single line text"),
-         list(drawing)},
-        {"ID_LINE", QT_TRANSLATE_NOOP("host", "Line"), QKeySequence::UnknownKey,
+         list(drawing),
+         {}},
+        {"ID_LINE",
+         QT_TRANSLATE_NOOP("host", "Line"),
+         QKeySequence::UnknownKey,
          list("draw-line|tool-line"),
          list("line|add line|draw line|insert line|create line|new line|straight line|"
               "line segment|line tool|lines|line 2 points|line by 2 points|line by two points|"
               "line two points|two point line|add straight line"),
-         list(drawing)},
-        {"ID_OFFSET", QT_TRANSLATE_NOOP("host", "Offset"), QKeySequence::UnknownKey,
-         list("object-offset|offset"), list("offset|offset curve|parallel offset|2d offset"),
-         list("edit|modify|draft")},
-        {"ID_OPEN", QT_TRANSLATE_NOOP("host", "Open"), QKeySequence::Open, list("document-open"),
+         list(drawing),
+         {}},
+        {"ID_OFFSET",
+         QT_TRANSLATE_NOOP("host", "Offset"),
+         QKeySequence::UnknownKey,
+         list("object-offset|offset"),
+         list("offset|offset curve|parallel offset|2d offset"),
+         list("edit|modify|draft"),
+         {}},
+        {"ID_OPEN",
+         QT_TRANSLATE_NOOP("host", "Open"),
+         QKeySequence::Open,
+         list("document-open"),
          list("open|open file|file open|open drawing|open document|open project"),
-         list("file|project|document")},
-        {"ID_SAVE", QT_TRANSLATE_NOOP("host", "Save"), QKeySequence::Save, list("document-save"),
+         list("file|project|document"),
+         {}},
+        {"ID_SAVE",
+         QT_TRANSLATE_NOOP("host", "Save"),
+         QKeySequence::Save,
+         list("document-save"),
          list("save|save file|file save|save drawing|save document|save project"),
-         list("file|project|document")},
-        {"ID_TRIM", QT_TRANSLATE_NOOP("host", "Trim"), QKeySequence::UnknownKey, list("trim"),
+         list("file|project|document"),
+         {}},
+        {"ID_TRIM",
+         QT_TRANSLATE_NOOP("host", "Trim"),
+         QKeySequence::UnknownKey,
+         list("trim"),
          list("trim|trimex|trim extend|trim edge|trim line|trim extend feature|trim curve|trim object"),
-         list("edit|modify|draft")},
+         list("edit|modify|draft"),
+         {}},
         {"ID_ZOOM_BOUNDS", QT_TRANSLATE_NOOP("host", "Zoom to Fit"), QKeySequence::UnknownKey,
          list("zoom-fit-best|zoom-fit|zoom-fit-page|page-zoom"),
          list("zoom fit|zoom to fit|fit zoom|zoom extents|zoom all|zoom to all|zoom bounds|zoom auto|"
-              "auto zoom|zoom fit best|zoom content|zoom to content|fit all|fit|fit in view|"
+              "auto zoom|zoom fit best|zoom content|zoom to content|fit all|view fit|fit in view|"
               "fit to view|fit view|fit to page|fit page|fit to window|fit in window|"
               "fit to screen|fit content|fit to content|fit extents|zoom to extents|"
               "zoom content to fit|zoom page|best fit|view all|zoom full|zoom full extent|"
               "zoom to full extent|full extent"),
-         list("view|zoom|display")},
+         list("view|zoom|display"), list("fit|all|extents|best fit")},
     };
     return signs;
 }
@@ -197,15 +227,17 @@ WellKnownGuess judge(const Signs &signs, const Look &look)
             weigh(true, kShortcutWeight, QStringLiteral("shortcut"), found->toString());
     }
     weigh(signs.icons.contains(look.icon), kIconWeight, QStringLiteral("icon"), look.icon);
-    const auto names = [&signs](const QString &words) { return signs.words.contains(words); };
-    weigh(std::any_of(look.nameWords.begin(), look.nameWords.end(), names), kNameWeight,
-          QStringLiteral("object name"), look.name);
-    weigh(signs.words.contains(look.captionWords), kCaptionWeight, QStringLiteral("caption"),
-          look.caption);
     const auto menu = std::find_if(look.menus.begin(), look.menus.end(), [&signs](const QString &title) {
         return signs.menus.contains(title);
     });
-    if (guess.weight > 0 && menu != look.menus.end())
+    const bool isInMenu = menu != look.menus.end();
+    const auto isWord = [&signs, isInMenu](const QString &words) {
+        return signs.words.contains(words) || (isInMenu && signs.wordsInMenus.contains(words));
+    };
+    weigh(std::any_of(look.nameWords.begin(), look.nameWords.end(), isWord), kNameWeight,
+          QStringLiteral("object name"), look.name);
+    weigh(isWord(look.captionWords), kCaptionWeight, QStringLiteral("caption"), look.caption);
+    if (guess.weight > 0 && isInMenu)
         guess.weight += kMenuWeight;
     guess.reason = reasons.join(QStringLiteral(", "));
     return guess;

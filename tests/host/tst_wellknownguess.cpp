@@ -40,6 +40,7 @@ private Q_SLOTS:
     void signsAddUp();
     void ofEqualsTheFirstWins();
     void ofEqualsTheOneInTheRightMenuWins();
+    void someWordsCountInTheirMenuOnly();
     void theMenuAloneSaysNothing();
     void switchesOfBarsAreNone();
     void anActionStandsForOneOnly();
@@ -248,6 +249,21 @@ void TestWellKnownGuess::ofEqualsTheOneInTheRightMenuWins()
     // But what is called so outweighs where it is.
     QAction *named = add(QStringLiteral("drawText"), QStringLiteral("x"));
     QCOMPARE(WellKnownGuess::among(actions()).value(0).action, named);
+}
+
+// "Fit" is one thing in the View menu and another where curves are fitted.
+void TestWellKnownGuess::someWordsCountInTheirMenuOnly()
+{
+    QMenu analysis(QStringLiteral("Analysis"));
+    QMenu zoom(QStringLiteral("&Zoom"));
+    QAction *fit = add(QString(), QStringLiteral("Fit"));
+    analysis.addAction(fit);
+    QVERIFY(WellKnownGuess::among(actions()).isEmpty());
+    QAction *zoomFit = add(QString(), QStringLiteral("&Fit"));
+    zoom.addAction(zoomFit);
+    const WellKnownGuess found = WellKnownGuess::among(actions()).value(0);
+    QCOMPARE(found.identifier, QStringLiteral("ID_ZOOM_BOUNDS"));
+    QCOMPARE(found.action, zoomFit);
 }
 
 void TestWellKnownGuess::theMenuAloneSaysNothing()
