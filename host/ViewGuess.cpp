@@ -28,6 +28,7 @@
 #include <QTextEdit>
 #include <QToolBar>
 
+#include <algorithm>
 #include <array>
 #include <typeinfo>
 
@@ -144,6 +145,45 @@ int percentOf(const QWidget *part, const QWidget *whole)
                           : static_cast<int>(100 * qint64(common.width()) * common.height() / wholeSize);
 }
 
+bool isSmall(const QWidget *widget)
+{
+    return widget->width() < ViewGuess::kSmallest || widget->height() < ViewGuess::kSmallest;
+}
+
+bool isGraphicsViewOrSurface(const QWidget *widget)
+{
+    return isAnyOf<QGraphicsView>(widget) || isSurface(widget);
+}
+
+// Whether the middle of a main window is for something else than drawings, or is not there.
+bool hasNoViewInside(const QWidget *middle)
+{
+    if (!middle || !middle->isVisible() || isSmall(middle))
+        return true;
+    if (ViewGuess::of(middle).isView)
+        return false;
+    const auto children = middle->findChildren<QWidget *>();
+    return std::none_of(children.begin(), children.end(),
+                        [](const QWidget *child) { return ViewGuess::of(child).isView; });
+}
+
+// What the large dock holds that `widget` is in, where the drawing is there and not in the
+// middle: beside the text that describes it, or in a window of nothing but docks. Null for
+// any other dock: a picture in one is a preview, a map of the whole, a chooser of colours.
+const QWidget *dockAreaOf(const QWidget *widget)
+{
+    if (!isGraphicsViewOrSurface(widget))
+        return nullptr;
+    const QWidget *up = widget;
+    while (up && !up->isWindow() && !isAnyOf<QDockWidget>(up))
+        up = up->parentWidget();
+    const auto *dock = qobject_cast<const QDockWidget *>(up);
+    const auto *window = dock ? qobject_cast<const QMainWindow *>(dock->parentWidget()) : nullptr;
+    if (!window || dock->isWindow() || percentOf(widget, window) < ViewGuess::kDockShare)
+        return nullptr;
+    return hasNoViewInside(window->centralWidget()) ? dock->widget() : nullptr;
+}
+
 const QWidget *viewportOf(const QWidget *widget)
 {
     const auto *area = qobject_cast<const QAbstractScrollArea *>(widget);
@@ -215,6 +255,8 @@ ViewGuess ViewGuess::of(const QWidget *widget)
 {
     const QWidget *area = areaOf(widget);
     if (!area)
+        area = dockAreaOf(widget);
+    if (!area)
         return no(QStringLiteral("it is not in the middle of a main window"));
     QString what;
     if (isOther(widget, &what))
@@ -232,7 +274,7 @@ ViewGuess ViewGuess::of(const QWidget *widget)
     }
     if (!widget->isVisible())
         return no(QStringLiteral("it is not visible"));
-    if (widget->width() < kSmallest || widget->height() < kSmallest)
+    if (isSmall(widget))
         return no(QStringLiteral("it is too small"));
     if (isAnyOf<QGraphicsView>(widget))
         return yes(QStringLiteral("it is a graphics view"));

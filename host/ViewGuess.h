@@ -17,7 +17,9 @@ namespace host {
 //   MDI child or most of the central area, and holds nothing else that does;
 // - what shows text, items, web pages or a start page is none, nor what only holds others.
 //
-// Toolbars, docks and other windows are not looked into. The answer holds for the moment:
+// Toolbars and other windows are not looked into. Of a dock only a graphics view, an OpenGL
+// widget or a foreign window counts that takes a large part of the main window, and only
+// while no view is in the middle. The answer holds for the moment:
 // sizes and contents change until a window is up.
 struct ViewGuess
 {
@@ -32,6 +34,8 @@ struct ViewGuess
     static constexpr int kSmallest = 100;
     // Per cent of the area that a widget of the program's own must fill.
     static constexpr int kShare = 60;
+    // Per cent of the main window that a view in a dock must fill.
+    static constexpr int kDockShare = 20;
 };
 
 } // namespace host

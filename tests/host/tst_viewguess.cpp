@@ -101,6 +101,18 @@ template <class Widget> QWidget *mdiChild(QMainWindow &window)
     return widget;
 }
 
+// In a dock of that width, in pixels, beside `middle`, which may be null.
+template <class Widget> QWidget *dockedBeside(QMainWindow &window, QWidget *middle, int width)
+{
+    window.setCentralWidget(middle);
+    auto *dock = new QDockWidget;
+    auto *widget = new Widget;
+    dock->setWidget(widget);
+    window.addDockWidget(Qt::RightDockWidgetArea, dock);
+    widget->setFixedWidth(width);
+    return widget;
+}
+
 // Beside something else in a plain widget, at that share of the width in per cent.
 QWidget *beside(QMainWindow &window, int share, QWidget *widget)
 {
@@ -169,6 +181,41 @@ void TestViewGuess::guesses_data()
 
     row("graphics view", central<QGraphicsView>, true, "graphics view");
     row("graphics view in a dock", docked<QGraphicsView>, false, "not in the middle");
+    row(
+        "graphics view in a large dock beside a text",
+        [](QMainWindow &w) { return dockedBeside<QGraphicsView>(w, new Editor, 300); }, true,
+        "graphics view");
+    row(
+        "surface in a large dock beside a text",
+        [](QMainWindow &w) { return dockedBeside<QGLWidget>(w, new Editor, 300); }, true, "surface");
+    row(
+        "graphics view in a dock and nothing else",
+        [](QMainWindow &w) { return dockedBeside<QGraphicsView>(w, nullptr, 700); }, true,
+        "graphics view");
+    row(
+        "graphics view in a small dock beside a text",
+        [](QMainWindow &w) { return dockedBeside<QGraphicsView>(w, new Editor, 130); }, false,
+        "not in the middle");
+    row(
+        "graphics view in a large dock beside a drawing",
+        [](QMainWindow &w) {
+            auto *tabs = new QTabWidget;
+            tabs->addTab(new QGraphicsView, QStringLiteral("1"));
+            return dockedBeside<QGraphicsView>(w, tabs, 400);
+        },
+        false, "not in the middle");
+    row(
+        "graphics view in a floating dock",
+        [](QMainWindow &w) {
+            QWidget *view = dockedBeside<QGraphicsView>(w, new Editor, 300);
+            static_cast<QDockWidget *>(view->parentWidget())->setFloating(true);
+            return view;
+        },
+        false, "not in the middle");
+    row(
+        "canvas in a large dock beside a text",
+        [](QMainWindow &w) { return dockedBeside<Canvas>(w, new Editor, 300); }, false,
+        "not in the middle");
     row("graphics view in an MDI child", mdiChild<QGraphicsView>, true, "graphics view");
     row(
         "graphics view beside others", [](QMainWindow &w) { return beside(w, 30, new QGraphicsView); },
