@@ -102,6 +102,14 @@ bool isPlain(const QWidget *widget)
         || type == typeid(QAbstractScrollArea) || type == typeid(QMainWindow);
 }
 
+// An editor for text of some other library than Qt, or a terminal: it tells input methods
+// what is written around the cursor.
+bool takesText(const QWidget *widget)
+{
+    return widget->testAttribute(Qt::WA_InputMethodEnabled)
+        && widget->inputMethodQuery(Qt::ImSurroundingText).isValid();
+}
+
 bool isStartPage(const QWidget *widget)
 {
     for (const QString &name : {className(widget), widget->objectName()}) {
@@ -235,6 +243,9 @@ ViewGuess judgeOwn(const QWidget *widget, const QWidget *area)
 {
     if (const QWidget *content = contentOf(widget))
         return no(QStringLiteral("it is filled by another, %1").arg(className(content)));
+    const QWidget *viewport = viewportOf(widget);
+    if (takesText(widget) || (viewport && takesText(viewport)))
+        return no(QStringLiteral("it is a text editor by the way it takes text"));
     if (controlsIn(widget) > kMostControls)
         return no(QStringLiteral("it is a page of controls"));
     const QWidget *place = widget->parentWidget();

@@ -195,6 +195,7 @@ struct Look
         , caption(plainCaption(action.text()))
         , captionWords(plainWords(caption))
         , menus(menusOf(action))
+        , isButtonOnly(menus.isEmpty() && !qtbridge::widgetsOf(action).isEmpty())
     {
     }
 
@@ -205,6 +206,7 @@ struct Look
     QString caption;
     QString captionWords;
     QStringList menus;
+    bool isButtonOnly;
 };
 
 WellKnownGuess judge(const Signs &signs, const Look &look)
@@ -236,7 +238,11 @@ WellKnownGuess judge(const Signs &signs, const Look &look)
     };
     weigh(std::any_of(look.nameWords.begin(), look.nameWords.end(), isWord), kNameWeight,
           QStringLiteral("object name"), look.name);
-    weigh(isWord(look.captionWords), kCaptionWeight, QStringLiteral("caption"), look.caption);
+    // Of a button that is in no menu, "Save" may mean anything, and the command comes later.
+    const bool isEnough =
+        guess.weight > 0 || !look.isButtonOnly || signs.shortcut == QKeySequence::UnknownKey;
+    weigh(isEnough && isWord(look.captionWords), kCaptionWeight, QStringLiteral("caption"),
+          look.caption);
     if (guess.weight > 0 && isInMenu)
         guess.weight += kMenuWeight;
     guess.reason = reasons.join(QStringLiteral(", "));

@@ -46,6 +46,24 @@ public:
     using QTextEdit::QTextEdit;
 };
 
+// A text editor that is none of Qt's, and a canvas on which text may be typed.
+class TypedInto : public QWidget
+{
+public:
+    explicit TypedInto(const QVariant &surrounding)
+        : m_surrounding(surrounding)
+    {
+        setAttribute(Qt::WA_InputMethodEnabled);
+    }
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override
+    {
+        return query == Qt::ImSurroundingText ? m_surrounding : QWidget::inputMethodQuery(query);
+    }
+
+private:
+    QVariant m_surrounding;
+};
+
 // These two stand for widgets of libraries that are not linked here, by their names alone.
 class QWebEngineView : public QWidget
 {
@@ -361,6 +379,22 @@ void TestViewGuess::guesses_data()
     row("plain widget", central<QWidget>, false, "plain QWidget");
     row("frame", central<QFrame>, false, "plain QFrame");
     row("text editor", central<Editor>, false, "text editor");
+    row(
+        "text editor of another library",
+        [](QMainWindow &w) {
+            auto *editor = new TypedInto(QString());
+            w.setCentralWidget(editor);
+            return editor;
+        },
+        false, "text editor by the way");
+    row(
+        "canvas that takes text in no place",
+        [](QMainWindow &w) {
+            auto *canvas = new TypedInto(QVariant());
+            w.setCentralWidget(canvas);
+            return canvas;
+        },
+        true, "paints itself");
     row("list", central<QListWidget>, false, "item view");
     row("MDI area", central<QMdiArea>, false, "frame for others");
     row("tabs", central<QTabWidget>, false, "frame for others");

@@ -41,6 +41,7 @@ private Q_SLOTS:
     void ofEqualsTheFirstWins();
     void ofEqualsTheOneInTheRightMenuWins();
     void someWordsCountInTheirMenuOnly();
+    void aButtonIsNoFileCommandByItsCaption();
     void theMenuAloneSaysNothing();
     void switchesOfBarsAreNone();
     void anActionStandsForOneOnly();
@@ -264,6 +265,21 @@ void TestWellKnownGuess::someWordsCountInTheirMenuOnly()
     const WellKnownGuess found = WellKnownGuess::among(actions()).value(0);
     QCOMPARE(found.identifier, QStringLiteral("ID_ZOOM_BOUNDS"));
     QCOMPARE(found.action, zoomFit);
+}
+
+// A program whose File menu is filled with its first document has buttons before that.
+void TestWellKnownGuess::aButtonIsNoFileCommandByItsCaption()
+{
+    QToolBar bar;
+    QAction *saves = add(QStringLiteral("tree_save"), QStringLiteral("Save"));
+    bar.addAction(saves);
+    QVERIFY(WellKnownGuess::among(actions()).isEmpty());
+    saves->setShortcut(QKeySequence::Save);
+    QCOMPARE(WellKnownGuess::among(actions()).value(0).action, saves);
+    // A tool to draw with is often nowhere else.
+    QAction *line = add(QString(), QStringLiteral("Line"));
+    bar.addAction(line);
+    QCOMPARE(WellKnownGuess::among(actions()).value(0).action, line);
 }
 
 void TestWellKnownGuess::theMenuAloneSaysNothing()
