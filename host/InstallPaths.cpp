@@ -27,11 +27,23 @@ QString configFolder()
          + QLatin1String("/gesturewidget");
 }
 
+// Scripts often start a program that lies beside them under their own name with an ending;
+// people know the script.
+QString withoutEnding(const QString &name)
+{
+    for (const char *ending : {".bin", "-bin", ".real"}) {
+        if (name.endsWith(QLatin1String(ending)) && name.size() > int(qstrlen(ending)))
+            return name.chopped(int(qstrlen(ending)));
+    }
+    return name;
+}
+
 } // namespace
 
 QString chooseProgramName(const QString &typed, const QString &file, const QStringList &folders)
 {
-    const QStringList names{QFileInfo(typed).fileName().toLower(), QFileInfo(file).fileName().toLower()};
+    QStringList names{QFileInfo(typed).fileName().toLower(), QFileInfo(file).fileName().toLower()};
+    names.append(withoutEnding(names.last()));
     for (const QString &name : names) {
         for (const QString &folder : folders) {
             if (!name.isEmpty() && !folder.isEmpty()

@@ -11,8 +11,8 @@ namespace host {
 // The running program's name in lower case, see chooseProgramName().
 [[nodiscard]] QString programName();
 // A program may be started by a link that is named as people know it, to a file that is
-// not. Of the name `typed` and that of the `file` it is the first that one of `folders`
-// has a profile for; without a profile, the file's.
+// not. Of the name `typed`, that of the `file` and that without an ending such as ".bin" it
+// is the first that one of `folders` has a profile for; without a profile, the last.
 [[nodiscard]] QString chooseProgramName(const QString &typed, const QString &file,
                                         const QStringList &folders);
 // The module of this Qt version, beside this library.

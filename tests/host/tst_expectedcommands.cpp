@@ -259,6 +259,10 @@ void TestExpectedCommands::theProgramsNameIsThatOfItsProfile_data()
     row("file", "start", "/opt/Drafter", "drafter");
     row("both", "sketcher", "/opt/drafter", "sketcher");
     row("neither", "start", "/opt/Painter", "painter");
+    row("started by a script", "/usr/bin/painter", "/usr/bin/painter.bin", "painter");
+    row("of a profile, started by a script", "/usr/bin/drafter", "/usr/lib/drafter-bin", "drafter");
+    row("its other file", "start", "/opt/drafter.real", "drafter");
+    row("nothing but the ending", "start", "/opt/.bin", ".bin");
     row("nothing typed", "", "/opt/drafter", "drafter");
 }
 
