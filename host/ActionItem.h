@@ -59,6 +59,8 @@ public:
     bool isInToolBar = false;
     // Whether it is to be offered in any case: somebody has bound it, or may.
     bool isExpected = false;
+    // Whether it is not to be offered before it has its first action: the program has none.
+    bool isLacking = false;
     // Whether its key is that of an action which it had at an earlier start.
     bool isRemembered = false;
 

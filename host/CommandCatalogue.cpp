@@ -81,6 +81,29 @@ void CommandCatalogue::expect(const QString &identifier, const QString &caption)
     m_stale = true; // the next reading gives it its place
 }
 
+void CommandCatalogue::guessWellKnown()
+{
+    m_guesses = true;
+    const QStringList identifiers = WellKnownGuess::identifiers();
+    for (const QString &identifier : identifiers) {
+        if (!m_wellKnown.contains(identifier))
+            expect(identifier, WellKnownGuess::captionOf(identifier));
+    }
+}
+
+void CommandCatalogue::endGuessing()
+{
+    if (!m_guesses)
+        return;
+    update();
+    const QStringList identifiers = WellKnownGuess::identifiers();
+    for (const QString &identifier : identifiers) {
+        if (ActionItem *item = expectedFor(identifier); item && !m_wellKnown.contains(identifier))
+            item->isLacking = true;
+    }
+    m_stale = true;
+}
+
 void CommandCatalogue::remember(const QVector<RememberedCommand> &commands)
 {
     QHash<QString, QString> keys; // by identifier
@@ -338,7 +361,8 @@ void CommandCatalogue::arrangeGroups()
     for (ActionItem *item : m_met)
         groupNamed(item->group).items.push_back(item);
     for (const auto &item : m_items) {
-        if (!item->isPresent && !isOutlived(*item))
+        const bool isLacking = item->isLacking && !item->address();
+        if (!item->isPresent && !isLacking && !isOutlived(*item))
             groupNamed(item->group).items.push_back(item.get());
     }
 }

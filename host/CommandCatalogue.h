@@ -58,7 +58,13 @@ public:
     // From now on guesses which actions the well-known identifiers stand for that the
     // profile leaves out. To be called before anything is read: a command keeps the
     // identifier that it was first seen with.
-    void guessWellKnown() { m_guesses = true; }
+    //
+    // They are all expected at first: many a program shows a part of its menus until a
+    // drawing is open, and what is not offered leaves its direction for good.
+    void guessWellKnown();
+    // The menus are as complete as they get: the well-known commands that no action was
+    // found for are not offered, until one is.
+    void endGuessing();
     // Why an action was taken for that identifier; empty unless it was guessed.
     [[nodiscard]] QString reasonFor(const QString &identifier) const
     {

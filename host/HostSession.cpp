@@ -14,12 +14,17 @@
 #include <QApplication>
 #include <QEvent>
 #include <QMenuBar>
+#include <QTimer>
 
 #include <algorithm>
 #include <cstdio>
 
 namespace host {
 namespace {
+
+// Milliseconds from the first view to menus that are taken for complete: programs add to
+// them what a drawing brings when it opens.
+constexpr int kTimeForMenus = 1000;
 
 // Plain pointers: nothing of this may run when the process ends by exit(), at a time when
 // Qt is half gone.
@@ -88,8 +93,10 @@ bool HostSession::start(QString *error)
     m_viewFinder = std::make_unique<ViewFinder>(profile.viewClasses, m_options.guesses);
     connect(m_viewFinder.get(), &ViewFinder::viewFound, this, &HostSession::openView);
     connect(&m_menuWatch, &MenuWatch::settled, this, [this] {
+        m_menusHaveSettled = true;
         m_services->startRemembering();
         m_services->editor().notifyMainFrameCreated(m_window);
+        waitForAllMenus();
     });
     if (m_options.explanation >= 0) {
         m_explanation =
@@ -201,8 +208,20 @@ void HostSession::addView(QWidget *view)
 void HostSession::openView(QWidget *view)
 {
     m_documents.open(view);
+    waitForAllMenus();
     if (m_explanation)
         m_explanation->addView(view);
+}
+
+void HostSession::waitForAllMenus()
+{
+    if (!m_menusHaveSettled || m_documents.isEmpty() || m_waitsForAllMenus)
+        return;
+    m_waitsForAllMenus = true;
+    QTimer::singleShot(kTimeForMenus, this, [this] {
+        if (m_isRunning)
+            m_services->catalogue().endGuessing();
+    });
 }
 
 Trigger HostSession::chosenTrigger(Trigger trigger) const

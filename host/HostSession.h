@@ -50,6 +50,8 @@ public:
 private:
     void stopWithoutWindow();
     void openView(QWidget *view);
+    // Takes the menus for complete some time after a view is there and they have settled.
+    void waitForAllMenus();
     // The one that the person chose in the settings, else the one given.
     [[nodiscard]] Trigger chosenTrigger(Trigger trigger) const;
     [[nodiscard]] bool gesturesAreEnabled() const;
@@ -66,6 +68,8 @@ private:
     bool m_wasStarted = false;
     bool m_windowIsGone = false;
     bool m_isFinished = false;
+    bool m_menusHaveSettled = false;
+    bool m_waitsForAllMenus = false;
     bool m_isRetired = false; // whoever owned it is gone
     HostSession *m_next = nullptr; // of those that were started
 

@@ -25,10 +25,20 @@ using WellKnown = QHash<QString, QStringList>;
 namespace {
 
 const QString kLine = QStringLiteral("ID_LINE");
+const QString kTrim = QStringLiteral("ID_TRIM");
 
 QString id(const ActionItem *item)
 {
     return item ? item->GetIdentifier().toQString() : QString();
+}
+
+bool isOffered(CommandCatalogue &catalogue, const QString &identifier)
+{
+    const ActionItem *item = catalogue.find(identifier);
+    const auto &groups = catalogue.groups();
+    return item && std::any_of(groups.begin(), groups.end(), [item](const auto &group) {
+               return std::count(group->items.begin(), group->items.end(), item) > 0;
+           });
 }
 
 QString caption(const ActionItem *item)
@@ -68,6 +78,9 @@ private Q_SLOTS:
     void aGuessTakesUpWhatIsExpected();
     void withoutGuessesNothingIsGuessed();
     void guessesStayWhenMenusAreRebuilt();
+    void guessesMayComeLate();
+    void whatIsLackingIsOfferedOnceItComes();
+    void whatNobodyGuessesIsNotLacking();
     void theProgramsNameIsThatOfItsProfile_data();
     void theProgramsNameIsThatOfItsProfile();
 
@@ -243,6 +256,52 @@ void TestExpectedCommands::guessesStayWhenMenusAreRebuilt()
     QCOMPARE(catalogue.itemOf(again), line);
     QCOMPARE(id(line), kLine);
     QVERIFY(line->isUsable());
+}
+
+// Until a drawing is open, a program may show a part of its menus.
+void TestExpectedCommands::guessesMayComeLate()
+{
+    CommandCatalogue catalogue(m_window.get(), {});
+    catalogue.guessWellKnown();
+    QVERIFY(isOffered(catalogue, kTrim));
+    QCOMPARE(caption(catalogue.find(kTrim)), QStringLiteral("Trim"));
+    QAction *trim = DraftWindow::addAction(m_window->draw, "Trim", "cutOff");
+    QCOMPARE(id(catalogue.itemOf(trim)), kTrim);
+    catalogue.endGuessing();
+    QVERIFY(isOffered(catalogue, kTrim));
+    QVERIFY(isOffered(catalogue, kLine));
+    // As they are when a menu is rebuilt.
+    delete trim;
+    QVERIFY(isOffered(catalogue, kTrim));
+}
+
+void TestExpectedCommands::whatIsLackingIsOfferedOnceItComes()
+{
+    CommandCatalogue catalogue(m_window.get(), {});
+    catalogue.expect(kTrim, QStringLiteral("Trim")); // it was bound at the last start
+    catalogue.expect(QStringLiteral("drawSpline"), QStringLiteral("Spline"));
+    catalogue.guessWellKnown();
+    catalogue.endGuessing();
+    QVERIFY(!isOffered(catalogue, kTrim));
+    QVERIFY(!isOffered(catalogue, QStringLiteral("ID_OFFSET")));
+    QVERIFY(isOffered(catalogue, kLine));
+    QVERIFY(isOffered(catalogue, QStringLiteral("drawSpline")));
+    QAction *trim = DraftWindow::addAction(m_window->draw, "Trim", "cutOff");
+    QCOMPARE(id(catalogue.itemOf(trim)), kTrim);
+    QVERIFY(isOffered(catalogue, kTrim));
+}
+
+void TestExpectedCommands::whatNobodyGuessesIsNotLacking()
+{
+    CommandCatalogue described(m_window.get(), {{kTrim, {QStringLiteral("modifyTrim")}}});
+    described.expect(kTrim, QStringLiteral("Trim"));
+    described.guessWellKnown();
+    described.endGuessing();
+    QVERIFY(isOffered(described, kTrim));
+    CommandCatalogue unguessed(m_window.get(), {});
+    unguessed.expect(kTrim, QStringLiteral("Trim"));
+    unguessed.endGuessing();
+    QVERIFY(isOffered(unguessed, kTrim));
 }
 
 void TestExpectedCommands::theProgramsNameIsThatOfItsProfile_data()
