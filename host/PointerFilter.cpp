@@ -64,6 +64,11 @@ bool PointerFilter::eventFilter(QObject *receiver, QEvent *event)
     case QEvent::Wheel:
         return m_state == State::Holding && receiver->isWindowType()
             && holdWheel(static_cast<QWindow *>(receiver), *static_cast<QWheelEvent *>(event));
+    case QEvent::TabletPress:
+        // Of a pen beside the mouse. What it does, the program gets in order.
+        if (m_state == State::Holding && receiver->isWindowType())
+            giveBack(); // this may be gone afterwards
+        return false;
     case QEvent::Show:
     case QEvent::Hide:
     case QEvent::Close:

@@ -72,6 +72,33 @@ constexpr int kQtMajor = QT_VERSION_MAJOR;
 #endif
 }
 
+// Position of a pen's event in pixels of the widget or window that receives it.
+[[nodiscard]] inline QPoint localPosition(const QTabletEvent &event)
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return event.pos();
+#else
+    return event.position().toPoint();
+#endif
+}
+
+// An event of a pen that is pressed half as hard as can be and held upright. The position
+// is in pixels of the window that it is for.
+[[nodiscard]] inline std::unique_ptr<QTabletEvent>
+tabletEvent(QEvent::Type type, const QPointF &position, const QPointF &globalPosition,
+            Qt::MouseButton button, Qt::MouseButtons buttons)
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return std::make_unique<QTabletEvent>(type, position, globalPosition, QTabletEvent::Stylus,
+                                          QTabletEvent::Pen, 0.5, 0, 0, 0.0, 0.0, 0, Qt::NoModifier, 1,
+                                          button, buttons);
+#else
+    return std::make_unique<QTabletEvent>(type, QPointingDevice::primaryPointingDevice(), position,
+                                          globalPosition, 0.5, 0.0F, 0.0F, 0.0F, 0.0, 0.0F,
+                                          Qt::NoModifier, button, buttons);
+#endif
+}
+
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
 namespace detail {
 // A mouse event with what only Qt itself may set. The first press of a double click carries

@@ -62,6 +62,18 @@ public:
                         .arg(menu.reason());
             break;
         }
+        case QEvent::TabletPress:
+        case QEvent::TabletMove:
+        case QEvent::TabletRelease: {
+            const auto &pen = static_cast<const QTabletEvent &>(event);
+            line += QStringLiteral(" at %1,%2 pressure %3 button %4 buttons %5")
+                        .arg(qtbridge::localPosition(pen).x())
+                        .arg(qtbridge::localPosition(pen).y())
+                        .arg(pen.pressure())
+                        .arg(pen.button())
+                        .arg(pen.buttons());
+            break;
+        }
         case QEvent::KeyPress:
         case QEvent::KeyRelease: {
             const auto &key = static_cast<const QKeyEvent &>(event);
@@ -78,16 +90,6 @@ public:
                         .arg(wheel.position().y())
                         .arg(wheel.angleDelta().y())
                         .arg(wheel.buttons());
-            break;
-        }
-        case QEvent::TabletPress:
-        case QEvent::TabletMove:
-        case QEvent::TabletRelease: {
-            const auto &tablet = static_cast<const QTabletEvent &>(event);
-            line += QStringLiteral(" pressure %1 button %2 buttons %3")
-                        .arg(tablet.pressure())
-                        .arg(tablet.button())
-                        .arg(tablet.buttons());
             break;
         }
         default:

@@ -162,7 +162,8 @@ void tst_Inject::programSeesWhatItAlwaysSaw_data()
     QTest::newRow("several-buttons") << 10;
     QTest::newRow("wheel") << 5;
     QTest::newRow("keys") << 10;
-    QTest::newRow("pen") << 3;
+    QTest::newRow("pen") << 11;
+    QTest::newRow("pen-as-mouse") << 3;
     QTest::newRow("control") << 3;
     QTest::newRow("menu") << 8;
     QTest::newRow("eating-view") << 5;

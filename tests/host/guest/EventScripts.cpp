@@ -1,5 +1,6 @@
 #include "tests/host/guest/EventScripts.h"
 
+#include "sdk/QtBridge.h"
 #include "tests/host/guest/EventLog.h"
 #include "tests/host/guest/GuestWindow.h"
 
@@ -67,8 +68,14 @@ public:
         notify(event);
     }
     void key(Qt::Key key) const { QTest::keyClick(m_window.windowHandle(), key); }
-    // What Qt makes of a pen that the program does not take for one.
     void pen(QEvent::Type type, QPoint place, Qt::MouseButton button, Qt::MouseButtons buttons) const
+    {
+        const QPoint position = inWindow(place);
+        notify(*qtbridge::tabletEvent(type, position, m_window.mapToGlobal(position), button, buttons));
+    }
+    // What Qt makes of a pen that the program does not take for one.
+    void penAsMouse(QEvent::Type type, QPoint place, Qt::MouseButton button,
+                    Qt::MouseButtons buttons) const
     {
         send(type, place, button, buttons, {}, Qt::MouseEventSynthesizedByQt);
     }
@@ -201,9 +208,21 @@ bool playEvents(const char *name, GuestWindow &window)
         hand.click(kHere);
         hand.key(Qt::Key_Delete);
     } else if (is("pen")) {
-        hand.pen(QEvent::MouseButtonPress, kHere, Qt::RightButton, Qt::RightButton);
-        hand.pen(QEvent::MouseMove, kHere + QPoint(50, 0), Qt::NoButton, Qt::RightButton);
-        hand.pen(QEvent::MouseButtonRelease, kHere + QPoint(50, 0), Qt::RightButton, Qt::NoButton);
+        for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+            hand.pen(QEvent::TabletPress, kHere, button, button);
+            hand.pen(QEvent::TabletMove, kHere + QPoint(50, 0), Qt::NoButton, button);
+            hand.pen(QEvent::TabletRelease, kHere + QPoint(50, 0), button, Qt::NoButton);
+        }
+        // While a press of the mouse is held.
+        hand.press(kHere);
+        hand.pen(QEvent::TabletPress, kHere, Qt::LeftButton, Qt::LeftButton);
+        hand.pen(QEvent::TabletRelease, kHere, Qt::LeftButton, Qt::NoButton);
+        hand.release(kHere);
+    } else if (is("pen-as-mouse")) {
+        hand.penAsMouse(QEvent::MouseButtonPress, kHere, Qt::RightButton, Qt::RightButton);
+        hand.penAsMouse(QEvent::MouseMove, kHere + QPoint(50, 0), Qt::NoButton, Qt::RightButton);
+        hand.penAsMouse(QEvent::MouseButtonRelease, kHere + QPoint(50, 0), Qt::RightButton,
+                        Qt::NoButton);
     } else if (is("control")) {
         auto *field = new QLineEdit(window.view);
         field->setContextMenuPolicy(Qt::NoContextMenu);
