@@ -9,6 +9,7 @@
 #include <QHash>
 #include <QKeySequence>
 #include <QMenu>
+#include <QMenuBar>
 #include <QRegularExpression>
 #include <QSet>
 #include <QToolBar>
@@ -26,6 +27,9 @@ constexpr int kIconWeight = 8;
 constexpr int kNameWeight = 4;
 constexpr int kCaptionWeight = 2;
 constexpr int kMenuWeight = 1;
+// Of a file command's shortcut in another menu than the first: some program runs something
+// else by it.
+constexpr int kDoubtfulWeight = 1;
 
 struct Signs
 {
@@ -110,7 +114,7 @@ const QVector<Signs> &allSigns()
               "fit to view|fit view|fit to page|fit page|fit to window|fit in window|"
               "fit to screen|fit content|fit to content|fit extents|zoom to extents|"
               "zoom content to fit|zoom page|best fit|view all|zoom full|zoom full extent|"
-              "zoom to full extent|full extent"),
+              "zoom to full extent|full extent|global zoom|zoom global"),
          list("view|zoom|display"), list("fit|all|extents|best fit")},
     };
     return signs;
@@ -173,6 +177,39 @@ bool isSwitchOfBar(const QAction &action)
             || action.inherits("KToggleToolBarAction") || name.contains(QLatin1String("toolbar")));
 }
 
+// The menu's place in a menu bar, of a submenu that of the menu that it is in; -1 if none.
+int placeInBar(const QMenu *menu)
+{
+    constexpr int kDeepest = 16; // menus may contain each other
+    for (int depth = 0; menu && depth < kDeepest; ++depth) {
+        QAction *action = menu->menuAction();
+        const QMenu *above = nullptr;
+        const QWidgetList widgets = qtbridge::widgetsOf(*action);
+        for (const QWidget *widget : widgets) {
+            if (const auto *bar = qobject_cast<const QMenuBar *>(widget))
+                return static_cast<int>(bar->actions().indexOf(action));
+            if (!above)
+                above = qobject_cast<const QMenu *>(widget);
+        }
+        menu = above;
+    }
+    return -1;
+}
+
+// Whether it is in menus of a menu bar, and none of them is the first.
+bool isOnlyInLaterMenus(const QAction &action)
+{
+    bool isLater = false;
+    const QWidgetList widgets = qtbridge::widgetsOf(action);
+    for (const QWidget *widget : widgets) {
+        const int place = placeInBar(qobject_cast<const QMenu *>(widget));
+        if (place == 0)
+            return false;
+        isLater |= place > 0;
+    }
+    return isLater;
+}
+
 QStringList menusOf(const QAction &action)
 {
     QStringList menus;
@@ -195,6 +232,7 @@ struct Look
         , caption(plainCaption(action.text()))
         , captionWords(plainWords(caption))
         , menus(menusOf(action))
+        , isInLaterMenu(isOnlyInLaterMenus(action))
         , isButtonOnly(menus.isEmpty() && !qtbridge::widgetsOf(action).isEmpty())
     {
     }
@@ -206,6 +244,7 @@ struct Look
     QString caption;
     QString captionWords;
     QStringList menus;
+    bool isInLaterMenu;
     bool isButtonOnly;
 };
 
@@ -225,8 +264,12 @@ WellKnownGuess judge(const Signs &signs, const Look &look)
         const auto found =
             std::find_if(look.shortcuts.begin(), look.shortcuts.end(),
                          [&standard](const QKeySequence &keys) { return standard.contains(keys); });
+        const bool isFileCommand =
+            signs.shortcut == QKeySequence::Open || signs.shortcut == QKeySequence::Save;
+        const bool isDoubtful = isFileCommand && look.isInLaterMenu;
         if (found != look.shortcuts.end())
-            weigh(true, kShortcutWeight, QStringLiteral("shortcut"), found->toString());
+            weigh(true, isDoubtful ? kDoubtfulWeight : kShortcutWeight, QStringLiteral("shortcut"),
+                  found->toString());
     }
     weigh(signs.icons.contains(look.icon), kIconWeight, QStringLiteral("icon"), look.icon);
     const auto menu = std::find_if(look.menus.begin(), look.menus.end(), [&signs](const QString &title) {

@@ -8,6 +8,7 @@
 #include <QIcon>
 #include <QImage>
 #include <QMenu>
+#include <QMenuBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolBar>
@@ -42,6 +43,7 @@ private Q_SLOTS:
     void ofEqualsTheOneInTheRightMenuWins();
     void someWordsCountInTheirMenuOnly();
     void aButtonIsNoFileCommandByItsCaption();
+    void aShortcutInALaterMenuIsDoubtful();
     void theMenuAloneSaysNothing();
     void switchesOfBarsAreNone();
     void anActionStandsForOneOnly();
@@ -136,6 +138,7 @@ void TestWellKnownGuess::byOneSign_data()
     row("caption view all", "", "View All", "", {}, "ID_ZOOM_BOUNDS", "caption");
     row("name view all", "actionViewAll", "x", "", {}, "ID_ZOOM_BOUNDS", "object name");
     row("name full extent", "mActionZoomFullExtent", "x", "", {}, "ID_ZOOM_BOUNDS", "object name");
+    row("caption global zoom", "", "Global Zoom", "", {}, "ID_ZOOM_BOUNDS", "caption");
     row("caption with an article", "", "Add a &textfield", "", {}, "ID_DTEXT", "caption");
     row("caption text label", "", "Text Label", "", {}, "ID_DTEXT", "caption");
     row("caption text frame", "", "Text &Frame", "", {}, "ID_DTEXT", "caption");
@@ -280,6 +283,22 @@ void TestWellKnownGuess::aButtonIsNoFileCommandByItsCaption()
     QAction *line = add(QString(), QStringLiteral("Line"));
     bar.addAction(line);
     QCOMPARE(WellKnownGuess::among(actions()).value(0).action, line);
+}
+
+// Ctrl+O goes back to where one was in some programs; what opens files is in the first menu.
+void TestWellKnownGuess::aShortcutInALaterMenuIsDoubtful()
+{
+    QMenuBar bar;
+    QMenu *map = bar.addMenu(QStringLiteral("&Map"));
+    QMenu *select = bar.addMenu(QStringLiteral("&Select"))->addMenu(QStringLiteral("Jump"));
+    QAction *back = add(QString(), QStringLiteral("Previous"), QString(), QKeySequence::Open);
+    select->addAction(back);
+    QCOMPARE(WellKnownGuess::among(actions()).value(0).action, back); // nothing better
+    QAction *opens = add(QString(), QStringLiteral("Open..."));
+    map->addAction(opens);
+    QCOMPARE(WellKnownGuess::among(actions()).value(0).action, opens);
+    map->addAction(back); // it is there as well
+    QCOMPARE(WellKnownGuess::among(actions()).value(0).action, back);
 }
 
 void TestWellKnownGuess::theMenuAloneSaysNothing()
