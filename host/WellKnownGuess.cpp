@@ -8,6 +8,7 @@
 #include <QDockWidget>
 #include <QHash>
 #include <QKeySequence>
+#include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
@@ -177,7 +178,17 @@ bool isSwitchOfBar(const QAction &action)
             || action.inherits("KToggleToolBarAction") || name.contains(QLatin1String("toolbar")));
 }
 
+// Whether it belongs to a main window inside another, such as an editor for notes in a dock.
+bool isOfAPart(const QMenuBar *bar)
+{
+    const QWidget *up = bar->parentWidget();
+    while (up && !qobject_cast<const QMainWindow *>(up))
+        up = up->parentWidget();
+    return up && !up->isWindow();
+}
+
 // The menu's place in a menu bar, of a submenu that of the menu that it is in; -1 if none.
+// The first menu of a part of the window is not the first of all.
 int placeInBar(const QMenu *menu)
 {
     constexpr int kDeepest = 16; // menus may contain each other
@@ -187,7 +198,7 @@ int placeInBar(const QMenu *menu)
         const QWidgetList widgets = qtbridge::widgetsOf(*action);
         for (const QWidget *widget : widgets) {
             if (const auto *bar = qobject_cast<const QMenuBar *>(widget))
-                return static_cast<int>(bar->actions().indexOf(action));
+                return static_cast<int>(bar->actions().indexOf(action)) + (isOfAPart(bar) ? 1 : 0);
             if (!above)
                 above = qobject_cast<const QMenu *>(widget);
         }

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QIcon>
 #include <QImage>
+#include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTemporaryDir>
@@ -44,6 +45,7 @@ private Q_SLOTS:
     void someWordsCountInTheirMenuOnly();
     void aButtonIsNoFileCommandByItsCaption();
     void aShortcutInALaterMenuIsDoubtful();
+    void aPartOfTheWindowHasNoFileCommands();
     void theMenuAloneSaysNothing();
     void switchesOfBarsAreNone();
     void anActionStandsForOneOnly();
@@ -299,6 +301,20 @@ void TestWellKnownGuess::aShortcutInALaterMenuIsDoubtful()
     QCOMPARE(WellKnownGuess::among(actions()).value(0).action, opens);
     map->addAction(back); // it is there as well
     QCOMPARE(WellKnownGuess::among(actions()).value(0).action, back);
+}
+
+// Nor is it that of an editor in a dock, which is a main window of its own in the main window.
+void TestWellKnownGuess::aPartOfTheWindowHasNoFileCommands()
+{
+    QMainWindow window;
+    auto *notes = new QMainWindow;
+    notes->setWindowFlags(Qt::Widget);
+    window.setCentralWidget(notes);
+    QAction *import = add(QString(), QStringLiteral("Import"), QString(), QKeySequence::Open);
+    notes->menuBar()->addMenu(QStringLiteral("Note"))->addAction(import);
+    QAction *opens = add(QString(), QStringLiteral("Open..."));
+    window.menuBar()->addMenu(QStringLiteral("Map"))->addAction(opens);
+    QCOMPARE(WellKnownGuess::among(actions()).value(0).action, opens);
 }
 
 void TestWellKnownGuess::theMenuAloneSaysNothing()
