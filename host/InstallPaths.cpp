@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QStandardPaths>
 
 #include <dlfcn.h>
@@ -31,11 +32,18 @@ QString configFolder()
 // people know the script.
 QString withoutEnding(const QString &name)
 {
-    for (const char *ending : {".bin", "-bin", ".real"}) {
+    for (const char *ending : {".bin", "-bin", ".real", ".py"}) {
         if (name.endsWith(QLatin1String(ending)) && name.size() > int(qstrlen(ending)))
             return name.chopped(int(qstrlen(ending)));
     }
     return name;
+}
+
+// The file of such a program is that of all programs in its language.
+bool isInterpreter(const QString &name)
+{
+    static const QRegularExpression interpreter(QStringLiteral("^(python|pypy)[0-9.]*$"));
+    return interpreter.match(name).hasMatch();
 }
 
 } // namespace
@@ -43,7 +51,8 @@ QString withoutEnding(const QString &name)
 QString chooseProgramName(const QString &typed, const QString &file, const QStringList &folders)
 {
     QStringList names{QFileInfo(typed).fileName().toLower(), QFileInfo(file).fileName().toLower()};
-    names.append(withoutEnding(names.last()));
+    const bool isScript = isInterpreter(names.last()) && !names.first().isEmpty();
+    names.append(withoutEnding(isScript ? names.first() : names.last()));
     for (const QString &name : names) {
         for (const QString &folder : folders) {
             if (!name.isEmpty() && !folder.isEmpty()

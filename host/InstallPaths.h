@@ -12,7 +12,8 @@ namespace host {
 [[nodiscard]] QString programName();
 // A program may be started by a link that is named as people know it, to a file that is
 // not. Of the name `typed`, that of the `file` and that without an ending such as ".bin" it
-// is the first that one of `folders` has a profile for; without a profile, the last.
+// is the first that one of `folders` has a profile for; without a profile, the last. A
+// program that an interpreter runs is called as its script.
 [[nodiscard]] QString chooseProgramName(const QString &typed, const QString &file,
                                         const QStringList &folders);
 // The module of this Qt version, beside this library.

@@ -322,6 +322,9 @@ void TestExpectedCommands::theProgramsNameIsThatOfItsProfile_data()
     row("of a profile, started by a script", "/usr/bin/drafter", "/usr/lib/drafter-bin", "drafter");
     row("its other file", "start", "/opt/drafter.real", "drafter");
     row("nothing but the ending", "start", "/opt/.bin", ".bin");
+    row("a script", "/usr/bin/plotter", "/usr/bin/python3.11", "plotter");
+    row("a script with its ending", "src/Plotter.py", "/usr/bin/python3", "plotter");
+    row("an interpreter alone", "", "/usr/bin/python3", "python3");
     row("nothing typed", "", "/opt/drafter", "drafter");
 }
 
