@@ -207,18 +207,17 @@ int placeInBar(const QMenu *menu)
     return -1;
 }
 
-// Whether it is in menus of a menu bar, and none of them is the first.
-bool isOnlyInLaterMenus(const QAction &action)
+// The places in menu bars of the menus that an action is in; empty when it is in none there.
+QVector<int> placesInBars(const QAction &action)
 {
-    bool isLater = false;
+    QVector<int> places;
     const QWidgetList widgets = qtbridge::widgetsOf(action);
     for (const QWidget *widget : widgets) {
         const int place = placeInBar(qobject_cast<const QMenu *>(widget));
-        if (place == 0)
-            return false;
-        isLater |= place > 0;
+        if (place >= 0)
+            places.append(place);
     }
-    return isLater;
+    return places;
 }
 
 QStringList menusOf(const QAction &action)
@@ -243,8 +242,8 @@ struct Look
         , caption(plainCaption(action.text()))
         , captionWords(plainWords(caption))
         , menus(menusOf(action))
-        , isInLaterMenu(isOnlyInLaterMenus(action))
-        , isButtonOnly(menus.isEmpty() && !qtbridge::widgetsOf(action).isEmpty())
+        , places(placesInBars(action))
+        , isButtonOnly(places.isEmpty() && !qtbridge::widgetsOf(action).isEmpty())
     {
     }
 
@@ -255,8 +254,8 @@ struct Look
     QString caption;
     QString captionWords;
     QStringList menus;
-    bool isInLaterMenu;
-    bool isButtonOnly;
+    QVector<int> places;
+    bool isButtonOnly; // or in a menu that opens over something
 };
 
 WellKnownGuess judge(const Signs &signs, const Look &look)
@@ -277,7 +276,7 @@ WellKnownGuess judge(const Signs &signs, const Look &look)
                          [&standard](const QKeySequence &keys) { return standard.contains(keys); });
         const bool isFileCommand =
             signs.shortcut == QKeySequence::Open || signs.shortcut == QKeySequence::Save;
-        const bool isDoubtful = isFileCommand && look.isInLaterMenu;
+        const bool isDoubtful = isFileCommand && !look.places.isEmpty() && !look.places.contains(0);
         if (found != look.shortcuts.end())
             weigh(true, isDoubtful ? kDoubtfulWeight : kShortcutWeight, QStringLiteral("shortcut"),
                   found->toString());

@@ -279,6 +279,9 @@ void TestWellKnownGuess::aButtonIsNoFileCommandByItsCaption()
     QAction *saves = add(QStringLiteral("tree_save"), QStringLiteral("Save"));
     bar.addAction(saves);
     QVERIFY(WellKnownGuess::among(actions()).isEmpty());
+    QMenu overTheTree;
+    overTheTree.addAction(saves);
+    QVERIFY(WellKnownGuess::among(actions()).isEmpty());
     saves->setShortcut(QKeySequence::Save);
     QCOMPARE(WellKnownGuess::among(actions()).value(0).action, saves);
     // A tool to draw with is often nowhere else.
