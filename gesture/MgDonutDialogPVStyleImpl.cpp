@@ -213,7 +213,8 @@ bool MgDonutDialogPVStyleImpl::eventFilter(QObject *watched, QEvent *event)
         event->accept();
         return true;
     }
-    return QObject::eventFilter(watched, event);
+    // Past the dialog's own, which would look for keys of its default button.
+    return QObject::eventFilter(watched, event); // NOLINT(bugprone-parent-virtual-call)
 }
 
 bool MgDonutDialogPVStyleImpl::event(QEvent *event)

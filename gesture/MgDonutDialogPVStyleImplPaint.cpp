@@ -93,7 +93,8 @@ void drawText(QPainter *painter, const QString &whole, double rotation, int cutL
         width = metrics.horizontalAdvance(text);
     }
     painter->rotate(rotation);
-    painter->drawText(QPointF(-(width / 2), kBaseline), text);
+    const int half = width / 2; // whole pixels
+    painter->drawText(QPointF(-half, kBaseline), text);
 }
 
 void drawIcon(QPainter *painter, const QIcon &icon)
