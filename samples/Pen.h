@@ -6,7 +6,7 @@
 class Pen
 {
 public:
-    // A layer in an AutoCAD colour, with its line width in hundredths of a millimetre.
+    // A layer in a colour of DXF's index, with its line width in hundredths of a millimetre.
     void addLayer(const char *name, int color, int width, const char *lineType = "CONTINUOUS");
     // What is drawn from now on is on this layer.
     void take(const char *layer) { m_layer = QLatin1String(layer); }

@@ -33,7 +33,7 @@ public:
 
     void setGridShown(bool shown);
     void setSnapping(bool snapping) { m_snapping = snapping; }
-    // An AutoCAD colour index as it looks on this dark ground.
+    // A colour index of DXF as it looks on this dark ground.
     [[nodiscard]] static QColor color(int index);
 
 Q_SIGNALS:

@@ -50,7 +50,7 @@ struct Entity
     int upright = 0; // and 0 on its base line, 1 at its bottom, 2 in the middle, 3 at its top
 
     QString layer = QStringLiteral("0");
-    int color = 256; // AutoCAD colour index; 256 is the layer's
+    int color = 256; // colour index of DXF; 256 is the layer's
     QString lineType = QStringLiteral("BYLAYER");
     int width = -1; // in hundredths of a millimetre; -1 is the layer's
 };
