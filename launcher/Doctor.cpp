@@ -121,6 +121,12 @@ host::ProgramProfile reportProfile(const Symptoms &symptoms, Report &report)
         report.addProblem("profile", message);
     else
         report.add("profile", file.isEmpty() ? QStringLiteral("none of its own") : file);
+    if (profile.viewClasses.isEmpty())
+        report.add("views", QStringLiteral("looked for in the running program, see --explain"));
+    else
+        report.add(
+            "views",
+            QStringLiteral("%1, by the profile").arg(profile.viewClasses.join(QStringLiteral(", "))));
     return profile;
 }
 

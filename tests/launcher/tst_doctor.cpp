@@ -50,6 +50,7 @@ private Q_SLOTS:
             QStringLiteral("display:     X11, :7"),
             QStringLiteral("compositor:  running"),
             QStringLiteral("profile:     none of its own"),
+            QStringLiteral("views:       looked for in the running program, see --explain"),
             QStringLiteral("settings:    %1/drafter.ini, not there yet").arg(folder.path()),
             QStringLiteral("gestures:    on, 8 of them"),
             QStringLiteral("trigger:     right"),
@@ -99,6 +100,13 @@ private Q_SLOTS:
                       R"({"version": 1, "program": "drafter"})");
             symptoms.profileFolders = QStringList{folder.path()};
         });
+        row("views of the profile", true, "views:       Canvas, Sheet, by the profile",
+            [](Symptoms &symptoms, const QDir &folder) {
+                writeFile(folder.filePath(QStringLiteral("drafter.json")),
+                          R"({"version": 1, "program": "drafter",)"
+                          R"("viewClasses": ["Canvas", "Sheet"]})");
+                symptoms.profileFolders = QStringList{folder.path()};
+            });
         row("trigger of the profile", true, "trigger:     shift+middle",
             [](Symptoms &symptoms, const QDir &folder) {
                 writeFile(folder.filePath(QStringLiteral("drafter.json")),
