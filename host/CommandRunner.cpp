@@ -145,8 +145,7 @@ void CommandRunner::trigger(const QString &name)
 // Why a command cannot be run whose action is not there, and where it lives.
 QString CommandRunner::absence(const ActionItem &item) const
 {
-    const QString line =
-        translated("%1: not available at the moment.").arg(item.GetCaption().toQString());
+    QString line = translated("%1: not available at the moment.").arg(item.GetCaption().toQString());
     if (item.group.isEmpty())
         return line;
     const bool isShown = m_catalogue.isShown(item.group);

@@ -26,7 +26,8 @@ QMap<QString, QString> expectedCommands(const QHash<QString, QStringList> &wellK
     for (auto it = settings.begin(); it != settings.end(); ++it) {
         bool isBinding = false;
         if (it.key().startsWith(section))
-            static_cast<void>(it.key().mid(section.size()).toUInt(&isBinding));
+            static_cast<void>(
+                it.key().mid(section.size()).toUInt(&isBinding)); // clazy:exclude=qstring-ref
         if (isBinding && !it.value().isEmpty())
             expected.insert(it.value(), captionFor(it.value()));
     }

@@ -191,7 +191,7 @@ void HostSession::retire(std::unique_ptr<HostSession> session)
     if (!session->m_wasStarted || session->m_isFinished)
         return; // nothing of it is in use
     session->m_isRetired = true;
-    session.release();
+    static_cast<void>(session.release()); // finishAll() has it from now on
 }
 
 void HostSession::addView(QWidget *view)

@@ -86,7 +86,8 @@ bool MenuWatcher::eventFilter(QObject *watched, QEvent *event)
         break;
     case QEvent::ActionChanged:
         if (m_watched.contains(watched))
-            Q_EMIT actionChanged(static_cast<QActionEvent *>(event)->action());
+            Q_EMIT actionChanged(
+                static_cast<QActionEvent *>(event)->action()); // clazy:exclude=wrong-qevent-cast
         break;
     case QEvent::ChildAdded:
     case QEvent::ChildPolished: {

@@ -11,7 +11,7 @@ namespace host {
 namespace {
 
 // Far more than any profile needs; keeps a wrong file from filling the memory.
-constexpr qint64 kMaximalSize = 1024 * 1024;
+constexpr qint64 kMaximalSize = qint64(1024) * 1024;
 constexpr int kVersion = 1;
 
 // Reads one object member by member and remembers the first thing that is wrong.

@@ -20,7 +20,7 @@ namespace host {
 namespace {
 
 // Far more than all bindings need. What is longer is some other file.
-constexpr qint64 kMaximalSize = 4 * 1024 * 1024;
+constexpr qint64 kMaximalSize = qint64(4) * 1024 * 1024;
 
 constexpr int kLockPatience = 2000; // milliseconds
 

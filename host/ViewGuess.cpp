@@ -279,7 +279,6 @@ ViewGuess ViewGuess::of(const QWidget *widget)
             return no(QStringLiteral("it is a start page by its name"));
         if (up != widget && viewportOf(up) == widget)
             return no(QStringLiteral("it is the viewport of %1").arg(className(up)));
-        QString inside;
         if (up != widget && isAnyOf<QAbstractItemView, QTextEdit, QPlainTextEdit>(up))
             return no(QStringLiteral("it is inside %1").arg(className(up)));
     }

@@ -31,6 +31,7 @@
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
+#include <iterator>
 #include <vector>
 
 namespace {
@@ -237,7 +238,9 @@ int doTask(const CommandLine &line)
 
     const host::ProgramProfile profile =
         host::ProgramProfile::forProgram(subject.name, profileFolders, nullptr);
-    const QStringList wellKnown = profile.wellKnownCommands.keys() + Bindings::initial().eight;
+    QStringList wellKnown = Bindings::initial().eight;
+    std::copy(profile.wellKnownCommands.keyBegin(), profile.wellKnownCommands.keyEnd(),
+              std::back_inserter(wellKnown));
     const KnownCommands commands(host::CatalogueFile(host::catalogueFile(subject.name)).read(),
                                  wellKnown);
     SettingsTasks tasks(subject.name, file, commands);
