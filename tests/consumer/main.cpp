@@ -1,5 +1,5 @@
 #include "host/GestureHost.h"
-#include "sdk/chx/CHxSystemServices.h"
+#include <gesturewidget/sdk/chx/CHxSystemServices.h>
 
 #include <QApplication>
 #include <QFile>

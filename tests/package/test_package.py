@@ -25,6 +25,35 @@ def run(*command, environment=None, status=0):
     return result.stdout
 
 
+def is_elf(path):
+    if path.is_symlink() or not path.is_file():
+        return False
+    with path.open("rb") as file:
+        return file.read(4) == b"\x7fELF"
+
+
+def run_path_faults(path):
+    """What is wrong with the folders that the dynamic loader searches for a binary's libraries. It
+    takes an empty or relative entry for the current folder of whoever starts the program."""
+    found = re.search(r"\((?:RUNPATH|RPATH)\)[^\[]*\[(.*)\]", run("readelf", "-dW", path))
+    entries = found.group(1).split(":") if found else []
+    return [entry for entry in entries if not entry.startswith(("/", "$ORIGIN"))]
+
+
+def run_paths(_):
+    """No binary of the build tree takes libraries from the current folder."""
+    binaries = [path for folder in ("bin", "lib", "libexec", "plugins", "tests")
+                for path in (options.build / folder).rglob("*")
+                if "CMakeFiles" not in path.parts and is_elf(path)]
+    names = {path.name for path in binaries}
+    for name in ("mouse-gestures", f"gesturewidget-module-qt{options.qt}.so",
+                 f"libmousegestures-qt{options.qt}.so"):
+        assert name in names, f"{name} is not built"
+    faults = {str(path): run_path_faults(path) for path in binaries}
+    faults = {path: entries for path, entries in faults.items() if entries}
+    assert not faults, f"run paths with folders that depend on the current one: {faults}"
+
+
 def same(what, found, expected):
     missing = sorted(set(expected) - set(found))
     surplus = sorted(set(found) - set(expected))
@@ -208,7 +237,7 @@ def debian_packages(folder):
     use(prefix, launcher, folder / "use")
 
 
-TESTS = {"installation": installation, "debian_packages": debian_packages}
+TESTS = {"run_paths": run_paths, "installation": installation, "debian_packages": debian_packages}
 
 
 def main():
