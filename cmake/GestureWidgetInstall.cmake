@@ -6,6 +6,23 @@ set(qt ${GESTUREWIDGET_QT})
 set(common ${GESTUREWIDGET_COMMON_SUFFIX})
 set(config_folder "${CMAKE_INSTALL_LIBDIR}/cmake/GestureWidget")
 
+# Binaries keep the run path that they were linked with. If CMake rewrites it during installation,
+# it puts an empty entry into that of the build tree, and the loader takes that for the current
+# folder. The plug-in is in another place after installation, so it is linked a second time.
+set_target_properties(gesturewidget_host gesturewidget_module PROPERTIES BUILD_WITH_INSTALL_RPATH ON)
+add_library(gesturewidget_inject_installed MODULE $<TARGET_OBJECTS:gesturewidget_inject>)
+gesturewidget_defaults(gesturewidget_inject_installed)
+foreach(property OUTPUT_NAME LINK_LIBRARIES LINK_OPTIONS INSTALL_RPATH)
+  get_target_property(value gesturewidget_inject ${property})
+  set_target_properties(gesturewidget_inject_installed PROPERTIES ${property} "${value}")
+endforeach()
+set_target_properties(gesturewidget_inject_installed PROPERTIES
+  AUTOMOC OFF
+  BUILD_WITH_INSTALL_RPATH ON
+  LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/installed/plugins/generic")
+set_target_properties(gesturewidget_inject PROPERTIES
+  BUILD_WITH_INSTALL_RPATH ON INSTALL_RPATH "$ORIGIN/../../lib")
+
 # The launcher and the host library find these from their own place, see
 # launcher/PluginFolders.cpp and host/InstallPaths.cpp.
 install(TARGETS gesturewidget_sdk gesturewidget_host
@@ -13,7 +30,7 @@ install(TARGETS gesturewidget_sdk gesturewidget_host
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT Runtime NAMELINK_COMPONENT Devel)
 install(TARGETS gesturewidget_module
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT Runtime)
-install(TARGETS gesturewidget_inject
+install(TARGETS gesturewidget_inject_installed
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}/gesturewidget/qt${qt}/plugins/generic"
   COMPONENT Runtime)
 
@@ -62,10 +79,3 @@ foreach(library sdk host)
   configure_file(cmake/gesturewidget-${library}.pc.in "${file}" @ONLY)
   install(FILES "${file}" DESTINATION "${pkgconfig_folder}" COMPONENT Devel)
 endforeach()
-
-# CMake rewrites run paths during installation and needs room for that: it fills short ones with
-# ":". The loader takes an empty entry for the current folder, so a library there would be loaded.
-# These two need the same run path in both places.
-set_target_properties(gesturewidget_host gesturewidget_module PROPERTIES BUILD_WITH_INSTALL_RPATH ON)
-# This one is longer after installation. The detour makes the build's run path long enough.
-set_target_properties(gesturewidget_inject PROPERTIES BUILD_RPATH "$ORIGIN/.././../lib")
