@@ -14,7 +14,7 @@ endif()
 set(config_folder "${CMAKE_INSTALL_LIBDIR}/cmake/GestureWidget")
 
 # The launcher and the host's library find all of these from where they are themselves:
-# see launcher/PluginFolders.cpp and host/InstallPaths.cpp.
+# see launcher/programs/PluginFolders.cpp and host/files/InstallPaths.cpp.
 install(TARGETS gesturewidget_sdk gesturewidget_host
   EXPORT GestureWidgetQt${qt}Targets
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT Runtime NAMELINK_COMPONENT Devel)
@@ -46,7 +46,7 @@ install(FILES launcher/desktop/mouse-gestures.desktop
 install(DIRECTORY sdk
   DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/gesturewidget" COMPONENT Devel${common_suffix}
   FILES_MATCHING PATTERN "*.h")
-install(FILES host/GestureHost.h host/HostExport.h
+install(FILES host/session/GestureHost.h host/session/HostExport.h
   DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/gesturewidget/host" COMPONENT Devel${common_suffix})
 
 configure_package_config_file(cmake/GestureWidgetConfig.cmake.in

@@ -20,7 +20,7 @@ int main(int argc, char **argv)
     auto *drawing = new QWidget(&window);
     window.setCentralWidget(drawing);
 
-    GestureHost gestures(&window);
+    gesturewidget::GestureHost gestures(&window);
     gestures.addView(drawing);
     QString error;
     if (argc == 1 && (!gestures.start(&error) || !GetHxSystemServices())) {
