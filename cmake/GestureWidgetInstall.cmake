@@ -24,7 +24,7 @@ set_target_properties(gesturewidget_inject PROPERTIES
   BUILD_WITH_INSTALL_RPATH ON INSTALL_RPATH "$ORIGIN/../../lib")
 
 # The launcher and the host library find these from their own place, see
-# launcher/PluginFolders.cpp and host/InstallPaths.cpp.
+# launcher/programs/PluginFolders.cpp and host/files/InstallPaths.cpp.
 install(TARGETS gesturewidget_sdk gesturewidget_host
   EXPORT GestureWidgetQt${qt}Targets
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT Runtime NAMELINK_COMPONENT Devel)

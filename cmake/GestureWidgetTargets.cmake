@@ -37,20 +37,21 @@ function(gesturewidget_defaults target)
   endif()
 endfunction()
 
-# gesturewidget_public_headers(FOLDER NAMES...): headers and folders of headers that are for other
-# programs, below the current source folder. They are included as <gesturewidget/FOLDER/NAME>: in an
-# installation, and through links in the build tree. FOLDER may be "".
+# gesturewidget_public_headers(FOLDER PATHS...): headers and folders of headers that are for other
+# programs, from the current source folder. Their names after <gesturewidget/FOLDER/ are the same in
+# an installation and, through links, in the build tree. FOLDER may be "".
 function(gesturewidget_public_headers folder)
   string(JOIN "/" public gesturewidget ${folder})
   file(MAKE_DIRECTORY "${CMAKE_BINARY_DIR}/include/${public}")
-  foreach(name ${ARGN})
-    file(CREATE_LINK "${CMAKE_CURRENT_SOURCE_DIR}/${name}" "${CMAKE_BINARY_DIR}/include/${public}/${name}"
+  foreach(path ${ARGN})
+    get_filename_component(name ${path} NAME)
+    file(CREATE_LINK "${CMAKE_CURRENT_SOURCE_DIR}/${path}" "${CMAKE_BINARY_DIR}/include/${public}/${name}"
       SYMBOLIC)
-    if(IS_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}/${name}")
-      install(DIRECTORY ${name} DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${public}"
+    if(IS_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}/${path}")
+      install(DIRECTORY ${path} DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${public}"
         COMPONENT Devel${GESTUREWIDGET_COMMON_SUFFIX} FILES_MATCHING PATTERN "*.h")
     else()
-      install(FILES ${name} DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${public}"
+      install(FILES ${path} DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${public}"
         COMPONENT Devel${GESTUREWIDGET_COMMON_SUFFIX})
     endif()
   endforeach()

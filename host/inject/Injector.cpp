@@ -1,7 +1,8 @@
 #include "host/inject/Injector.h"
 
-#include "host/ExplanationChannel.h"
-#include "host/GestureHost.h"
+#include "host/files/ExplanationChannel.h"
+#include "host/session/ExplainedProgram.h"
+#include "host/session/GestureHost.h"
 #include "sdk/chx/CHxSystemServices.h"
 
 #include <QApplication>
@@ -13,6 +14,8 @@
 
 #include <cstdio>
 #include <exception>
+
+using gesturewidget::GestureHost;
 
 namespace inject {
 namespace {
@@ -34,6 +37,7 @@ Injector::Injector(std::unique_ptr<BorrowedVariables> variables)
     : m_variables(std::move(variables))
     , m_explanation(m_variables->explanation())
 {
+    gesturewidget::explainTo(m_explanation);
     if (m_explanation >= 0) {
         m_explanationEnd = std::make_unique<QSocketNotifier>(m_explanation, QSocketNotifier::Read);
         connect(m_explanationEnd.get(), &QSocketNotifier::activated, this, &Injector::onExplanationRead);
@@ -103,9 +107,7 @@ QMainWindow *Injector::findWindow() const
 void Injector::startHost(QMainWindow *window)
 {
     try {
-        GestureHost::Options options = GestureHost::optionsForThisProgram();
-        options.explanation = m_explanation;
-        m_host = std::make_unique<GestureHost>(window, options);
+        m_host = std::make_unique<GestureHost>(window, GestureHost::optionsForThisProgram());
         QString error;
         if (m_host->start(&error)) {
             m_window = window;
@@ -135,7 +137,7 @@ void Injector::onWindowGone()
 
 void Injector::explainProblem(const QString &text) const
 {
-    host::tell(m_explanation, {{QStringLiteral("problem"), text}});
+    gesturewidget::tell(m_explanation, {{QStringLiteral("problem"), text}});
 }
 
 void Injector::onExplanationRead()

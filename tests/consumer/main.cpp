@@ -1,4 +1,4 @@
-#include "host/GestureHost.h"
+#include <gesturewidget/GestureHost.h>
 #include <gesturewidget/sdk/chx/CHxSystemServices.h>
 
 #include <QApplication>
@@ -20,7 +20,7 @@ int main(int argc, char **argv)
     auto *drawing = new QWidget(&window);
     window.setCentralWidget(drawing);
 
-    GestureHost gestures(&window);
+    gesturewidget::GestureHost gestures(&window);
     gestures.addView(drawing);
     QString error;
     if (argc == 1 && (!gestures.start(&error) || !GetHxSystemServices())) {

@@ -106,7 +106,7 @@ def common_devel_files():
            if path.name != "QtBridge.h"}
     assert "include/gesturewidget/sdk/chx/CHxString.h" in sdk
     config = f"{options.libdir}/cmake/GestureWidget/GestureWidgetConfig"
-    return sdk | {"include/gesturewidget/host/GestureHost.h", "include/gesturewidget/host/HostExport.h",
+    return sdk | {"include/gesturewidget/GestureHost.h", "include/gesturewidget/HostExport.h",
                   f"{config}.cmake", f"{config}Version.cmake"}
 
 
@@ -163,13 +163,14 @@ def use(prefix, launcher, folder):
                  names + [f"libmousegestures-qt{options.qt}"])
 
 
-def check_launcher(launcher, prefix, folder):
-    """Checks that the launcher finds the plug-in from its own place."""
+def check_launcher(launcher, prefix, folder, versions):
+    """Checks that the launcher finds the plug-ins of these Qt versions from its own place."""
     script = folder / "show-environment"
     script.write_text("#!/bin/sh\necho \"$QT_PLUGIN_PATH\"\n")
     script.chmod(0o755)
     path = run(launcher, script, environment=clean_environment(folder)).strip()
-    assert path == str(prefix / options.libdir / f"gesturewidget/qt{options.qt}/plugins"), path
+    expected = [str(prefix / options.libdir / f"gesturewidget/qt{qt}/plugins") for qt in versions]
+    assert path == ":".join(expected), path
     assert version() in run(launcher, "--version")
 
 
@@ -191,12 +192,12 @@ def installation(folder):
     prefix = folder / "prefix"
     run(options.cmake, "--install", options.build, "--prefix", prefix)
     same("installation", files_below(prefix), set().union(*expected.values()))
-    check_launcher(prefix / "bin/mouse-gestures", prefix, folder)
+    check_launcher(prefix / "bin/mouse-gestures", prefix, folder, [options.qt])
     use(prefix, prefix / "bin/mouse-gestures", folder)
     # An installation may be moved: nothing in it knows its own path.
     moved = folder / "elsewhere"
     prefix.rename(moved)
-    check_launcher(moved / "bin/mouse-gestures", moved, folder)
+    check_launcher(moved / "bin/mouse-gestures", moved, folder, [options.qt])
     use(moved, moved / "bin/mouse-gestures", folder / "again")
 
 
@@ -304,9 +305,9 @@ def debian_packages(folder):
     prefix = root / "usr"
     run("desktop-file-validate", *(prefix / "share/applications").iterdir())
     run("appstreamcli", "validate", "--no-net", "--pedantic", *(prefix / "share/metainfo").iterdir())
+    check_launcher(prefix / "bin/mouse-gestures", prefix, folder, ["5", "6"])
     for qt in ("5", "6"):
         options.qt = qt
-        check_launcher(prefix / "bin/mouse-gestures", prefix, folder)
         (folder / f"use-qt{qt}").mkdir()
         use(prefix, prefix / "bin/mouse-gestures", folder / f"use-qt{qt}")
 
