@@ -139,6 +139,50 @@ def build_consumer(prefix, folder):
     return folder / "consumer"
 
 
+def public_headers(prefix):
+    """The installed headers, as a program names them."""
+    include = prefix / "include"
+    names = sorted(str(path.relative_to(include)) for path in include.rglob("*") if path.is_file())
+    assert "gesturewidget/sdk/chx/CHxString.h" in names, names
+    return names
+
+
+def check_headers(prefix):
+    """Programs share macros and namespaces with these headers, so all have our name. A header that
+    includes another one finds it whatever include folders a program has."""
+    for name in public_headers(prefix):
+        header = prefix / "include" / name
+        text = header.read_text()
+        macros = re.findall(r"^\s*#\s*define\s+(\w+)", text, re.MULTILINE)
+        namespaces = re.findall(r"^\s*(?:inline\s+)?namespace\s+(\w+)", text, re.MULTILINE)
+        strange = [macro for macro in macros if not macro.startswith("GESTUREWIDGET_")]
+        strange += [space for space in namespaces if not space.startswith("gesturewidget")]
+        assert not strange, f"{name} declares {strange}"
+        for other in re.findall(r'^\s*#\s*include\s+"([^"]+)"', text, re.MULTILINE):
+            assert (header.parent / other).is_file(), f"{name} does not find {other}"
+
+
+def use_by_pkg_config(prefix, folder):
+    """Builds the program, and a file with all headers, with the flags of the pkg-config file."""
+    environment = clean_environment(folder)
+    environment["PKG_CONFIG_PATH"] = str(prefix / options.libdir / "pkgconfig")
+    name = f"gesturewidget-host-qt{options.qt}"
+    flags = run("pkg-config", "--cflags", "--libs", name, environment=environment).split()
+    assert run("pkg-config", "--modversion", name, environment=environment).strip() == version()
+    headers = folder / "headers.cpp"
+    headers.write_text("".join(f"#include <{header}>\n" for header in public_headers(prefix)))
+    program = folder / "pkg-config-consumer"
+    run("c++", "-std=c++17", "-fPIC", "-Wall", "-Wextra", "-Werror", CONSUMER / "main.cpp", headers,
+        "-o", program, *flags)
+    environment["LD_LIBRARY_PATH"] = str(prefix / options.libdir)
+    check_loaded(run(program, environment=environment), prefix, library_names())
+
+
+def library_names():
+    return [f"libgesturewidget-sdk-qt{options.qt}", f"libgesturewidget-host-qt{options.qt}",
+            f"gesturewidget-module-qt{options.qt}"]
+
+
 def check_loaded(output, prefix, names):
     """Checks what a program wrote: its menu's entry, then the files that it has in memory."""
     lines = output.splitlines()
@@ -155,12 +199,10 @@ def use(prefix, launcher, folder):
     """Uses gestures from `prefix`: in a program that hosts them, and brought into one."""
     environment = clean_environment(folder)
     program = build_consumer(prefix, folder / "consumer")
-    names = [f"libgesturewidget-sdk-qt{options.qt}", f"libgesturewidget-host-qt{options.qt}",
-             f"gesturewidget-module-qt{options.qt}"]
-    check_loaded(run(program, environment=environment), prefix, names)
+    check_loaded(run(program, environment=environment), prefix, library_names())
     # This one links the host library without using it, so gestures come from the plug-in.
     check_loaded(run(launcher, program, "as-a-guest", environment=environment), prefix,
-                 names + [f"libmousegestures-qt{options.qt}"])
+                 library_names() + [f"libmousegestures-qt{options.qt}"])
 
 
 def check_launcher(launcher, prefix, folder, versions):
@@ -199,6 +241,8 @@ def installation(folder):
     prefix.rename(moved)
     check_launcher(moved / "bin/mouse-gestures", moved, folder, [options.qt])
     use(moved, moved / "bin/mouse-gestures", folder / "again")
+    check_headers(moved)
+    use_by_pkg_config(moved, folder)
 
 
 def copy_sources(folder):
