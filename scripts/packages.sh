@@ -15,6 +15,8 @@ test_packages=(
   librapidcheck-dev poppler-utils binutils dpkg-dev file fonts-wine python3-jsonschema
 )
 
+lint_packages=(clang-format clang-tidy clazy hunspell hunspell-en-gb reuse)
+
 # install_packages NAME...: installs those that are missing; asks nothing. Returns apt-get's
 # status, 0 when nothing was missing.
 install_packages() {
