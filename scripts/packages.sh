@@ -12,7 +12,8 @@ desktop_packages=(
 )
 test_packages=(
   qt6-base-dev
-  librapidcheck-dev poppler-utils binutils dpkg-dev file fonts-wine python3-jsonschema
+  librapidcheck-dev poppler-utils binutils file fonts-wine python3-jsonschema
+  git dpkg-dev debhelper lintian appstream desktop-file-utils pkg-config
 )
 
 lint_packages=(clang-format clang-tidy clazy hunspell hunspell-en-gb reuse)
