@@ -13,12 +13,13 @@ class CHxString;
 // Opening a document sends DocumentCreateStarted, DatabaseAttached, DocumentCreated. Closing one
 // sends DocumentToBeDestroyed, DatabaseDetached, DocumentDestroyed. Making one active sends
 // DocumentToBeDeactivated for the previous one, then DocumentToBeActivated, DocumentActivated and
-// DocumentBecameCurrent for the new one. A host leaves out notifications that its program gives no
-// sign of.
+// DocumentBecameCurrent for the new one.
 //
-// `document` is null only if the host has no object for it; the host keeps the object until the
-// program ends. `path` is the full path of the drawing's file, empty when the host does not know
-// it.
+// A host leaves out what it cannot know. That of this project never sends DocumentCreateCanceled,
+// DocumentActivationModified and DocumentPreOpen, and its paths are empty.
+//
+// `document` is null when the host has no object for the document: ignore the notification then. The
+// host keeps the object until the program ends. `path` is the full path of the drawing's file, empty when the host does not know it.
 class GESTUREWIDGET_SDK_EXPORT CHxDocumentManagerReactor
 {
 public:

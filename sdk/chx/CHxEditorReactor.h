@@ -10,6 +10,9 @@ class QWidget;
 
 // The editor notifications of the platform and of the host. Every default is empty: override what
 // you need. Register with odedEditor()->addReactor().
+//
+// A host leaves out what it cannot know. That of this project sends mainFrameCreated and
+// mainFrameDestroyed only.
 class GESTUREWIDGET_SDK_EXPORT CHxEditorReactor : public OdEditorReactor,
                                                   public OdEdCommandStackReactor,
                                                   public OdEdLispEngineReactor
@@ -20,8 +23,8 @@ public:
     // The main window exists and its menus are complete. `frame` is the main window, never null.
     // A reactor that is added later is called too, from the event loop.
     virtual void mainFrameCreated(QWidget *frame);
-    // The main window goes away. `frame` may be half destroyed: use it only as a key. Not sent to
-    // a reactor that did not get mainFrameCreated.
+    // The main window goes away. `frame` may be half destroyed, so use it only as a key; it is null
+    // when the window is already gone. Not sent to a reactor that did not get mainFrameCreated.
     virtual void mainFrameDestroyed(QWidget *frame);
     // The user's selection now has objects. `set` belongs to the host; never null.
     virtual void selectionSetCreated(CHxSelectionSet *set);

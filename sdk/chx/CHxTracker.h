@@ -15,8 +15,8 @@ class CHxTrackerContext;
 // document; the host never owns a tracker.
 //
 // For every pointer event in a view the host calls Update(), then IsEager(), and if that returns
-// true DoAction() once. `hit` is never null in Update() and valid only during the call. All calls
-// come on the user-interface thread.
+// true DoAction() once. The host of this project makes no other calls. `hit` is valid only during
+// the call, and null only where a comment says so. All calls come on the user-interface thread.
 class GESTUREWIDGET_SDK_EXPORT CHxTracker
 {
 public:

@@ -15,8 +15,9 @@ protected:
     OdEdCommandContext() = default;
 };
 
-// A command that the user can type. Register it with the command stack, see odedRegCmds(). The
-// stack asks for the names and calls execute(); all calls come on the user-interface thread.
+// A command that the user can type. Register it with the command stack, see odedRegCmds(). The host
+// asks for its names and calls execute(); the host of this project makes no other calls. All calls
+// come on the user-interface thread.
 class GESTUREWIDGET_SDK_EXPORT OdEdCommand : public OdRxObject
 {
 public:
