@@ -18,8 +18,9 @@ class CHxString;
 // A host leaves out what it cannot know. That of this project never sends DocumentCreateCanceled,
 // DocumentActivationModified and DocumentPreOpen, and its paths are empty.
 //
-// `document` is null when the host has no object for the document: ignore the notification then. The
-// host keeps the object until the program ends. `path` is the full path of the drawing's file, empty when the host does not know it.
+// `document` is null when the host has no object for the document: ignore the notification then.
+// The host keeps the object until the program ends. `path` is the full path of the drawing's file,
+// empty when the host does not know it.
 class GESTUREWIDGET_SDK_EXPORT CHxDocumentManagerReactor
 {
 public:
