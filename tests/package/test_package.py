@@ -356,12 +356,12 @@ def debian_packages(folder):
         use(prefix, prefix / "bin/mouse-gestures", folder / f"use-qt{qt}")
 
     # The packages' own tests, as they run where the packages are installed.
+    environment = dict(clean_environment(folder), PATH=f"{prefix / 'bin'}:{os.environ['PATH']}")
+    run(ROOT / "debian/tests/gesture", environment=environment)
     libraries = prefix / options.libdir
-    environment = dict(clean_environment(folder), PATH=f"{prefix / 'bin'}:{os.environ['PATH']}",
-                       CMAKE_PREFIX_PATH=str(prefix), PKG_CONFIG_PATH=str(libraries / "pkgconfig"),
-                       LD_LIBRARY_PATH=str(libraries))
-    for test in ("gesture", "host"):
-        run(ROOT / "debian/tests" / test, environment=environment)
+    environment.update(CMAKE_PREFIX_PATH=str(prefix), LD_LIBRARY_PATH=str(libraries),
+                       PKG_CONFIG_PATH=str(libraries / "pkgconfig"))
+    run(ROOT / "debian/tests/host", environment=environment)
 
 
 TESTS = {"run_paths": run_paths, "installation": installation, "debian_packages": debian_packages}
