@@ -14,7 +14,7 @@ bool replaceFile(const QString &path, const QByteArray &contents, QString *error
     if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size() || !file.flush()
         || ::fsync(file.handle()) != 0 || !file.commit()) {
         *error = file.error() == QFileDevice::NoError
-                   ? QCoreApplication::translate("ReplaceFile", "The disk does not take it.")
+                   ? QCoreApplication::translate("ReplaceFile", "The disk may be full.")
                    : file.errorString();
         return false;
     }
