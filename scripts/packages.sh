@@ -3,7 +3,7 @@
 build_packages=(
   g++ cmake ninja-build
   qtbase5-dev
-  libdxflib-dev
+  libdxflib-dev libxcb1-dev
 )
 desktop_packages=(
   xvfb openbox picom x11-utils x11-xserver-utils xdotool imagemagick python3
