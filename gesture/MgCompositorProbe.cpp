@@ -21,8 +21,8 @@ bool MgCompositorProbe::isCompositing()
         return true;
 
     const QScopedPointer<xcb_get_selection_owner_reply_t, QScopedPointerPodDeleter> owner(
-        xcb_get_selection_owner_reply(m_connection,
-                                      xcb_get_selection_owner(m_connection, m_selection), nullptr));
+        xcb_get_selection_owner_reply(m_connection, xcb_get_selection_owner(m_connection, m_selection),
+                                      nullptr));
     return !owner || owner->owner != XCB_NONE;
 }
 

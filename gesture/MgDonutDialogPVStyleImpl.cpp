@@ -251,9 +251,11 @@ void MgDonutDialogPVStyleImpl::takeBackdrop()
     m_backdrop = QPixmap();
     if (m_compositor.isCompositing())
         return;
-    const QScreen *below = windowHandle()->screen();
+    QScreen *below = QGuiApplication::screenAt(geometry().center());
+    if (!below)
+        below = windowHandle()->screen();
     const QPoint corner = pos() - below->geometry().topLeft();
-    m_backdrop = windowHandle()->screen()->grabWindow(0, corner.x(), corner.y(), width(), height());
+    m_backdrop = below->grabWindow(0, corner.x(), corner.y(), width(), height());
 }
 
 QWidget *MgDonutDialogPVStyleImpl::documentView() const

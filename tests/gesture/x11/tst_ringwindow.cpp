@@ -105,10 +105,9 @@ void RingWindowTest::ringLiesOnThePressPoint()
     coverTheScreen();
     const QRect screen = m_bench->bench.view->rect();
     constexpr int kFromEdge = 10; // pixels
-    const QPoint press =
-        screen.center()
-        + QPoint(static_cast<int>(across * (screen.width() / 2 - kFromEdge)),
-                 static_cast<int>(down * (screen.height() / 2 - kFromEdge)));
+    const QPoint press = screen.center()
+                       + QPoint(static_cast<int>(across * (screen.width() / 2 - kFromEdge)),
+                                static_cast<int>(down * (screen.height() / 2 - kFromEdge)));
     const QPoint inward(across > 0 ? -25 : 25, 0);
     for (int gesture = 0; gesture < 3; ++gesture) {
         m_bench->pressAndDrag(press, inward);

@@ -217,8 +217,8 @@ void X11GrabTest::nothingStaysAfterRandomGestures()
             m_bench->ring()->windUpPos = QPoint();
         }
         // By the server's word, and by Qt's, which hands all input to whom it believes in.
-        if (m_bench->peer.isPointerGrabbed() || m_bench->peer.isKeyboardGrabbed() || QWidget::mouseGrabber()
-            || QWidget::keyboardGrabber()) {
+        if (m_bench->peer.isPointerGrabbed() || m_bench->peer.isKeyboardGrabbed()
+            || QWidget::mouseGrabber() || QWidget::keyboardGrabber()) {
             ++stuck;
             // Let go for the ones that follow.
             m_bench->ring()->releaseMouse();
