@@ -3,10 +3,10 @@
 build_packages=(
   g++ cmake ninja-build
   qtbase5-dev
-  libdxflib-dev
+  libdxflib-dev libxcb1-dev
 )
 desktop_packages=(
-  xvfb openbox picom x11-utils x11-xserver-utils xdotool imagemagick python3
+  xvfb openbox picom kwin-x11 xfwm4 dbus-daemon x11-utils x11-xserver-utils xdotool imagemagick python3
   libx11-dev libxtst-dev
   fonts-dejavu-core qt5-style-plugins
 )

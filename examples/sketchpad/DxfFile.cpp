@@ -2,10 +2,10 @@
 
 #include "examples/sketchpad/DxfFilter.h"
 #include "examples/sketchpad/DxfReader.h"
+#include "examples/sketchpad/ReplaceFile.h"
 
 #include <dxflib/dl_dxf.h>
 #include <QFile>
-#include <QSaveFile>
 #include <QTemporaryDir>
 #include <QtMath>
 
@@ -21,12 +21,16 @@ QString tr(const char *sentence)
     return QCoreApplication::translate("dxf", sentence);
 }
 
-// ASCII, with everything else as \U+XXXX, which readers of all ages understand.
+// Text as ASCII, every other character as \U+XXXX, which old readers understand as well. Also
+// coded are the first characters of "\U+" and "%%", so that typed text does not read as a code.
 std::string encoded(const QString &text)
 {
     std::string bytes;
-    for (const QChar character : text) {
-        if (character.unicode() >= 32 && character.unicode() < 127)
+    for (QString::size_type i = 0; i < text.size(); ++i) {
+        const QChar character = text.at(i);
+        const QString start = text.mid(i, 3);
+        const bool readsAsCode = start == QLatin1String("\\U+") || start.startsWith(QLatin1String("%%"));
+        if (character.unicode() >= 32 && character.unicode() < 127 && !readsAsCode)
             bytes += character.toLatin1();
         else
             bytes += QStringLiteral("\\U+%1")
@@ -178,11 +182,7 @@ bool write(const Sheet &sheet, const QString &path, QString *error)
         *error = tr("The folder for temporary files is full.");
         return false;
     }
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
-        return true;
-    *error = file.errorString();
-    return false;
+    return replaceFile(path, bytes, error);
 }
 
 } // namespace dxf

@@ -1,6 +1,7 @@
 #include "examples/sketchpad/DxfReader.h"
 
 #include <QLineF>
+#include <QMap>
 #include <QRegularExpression>
 #include <QtMath>
 
@@ -8,21 +9,30 @@
 
 namespace {
 
-// Newer files are UTF-8, older ones Windows-1252 with \U+XXXX for the rest.
+// Newer files are UTF-8, older ones Windows-1252 with \U+XXXX for other characters.
+//
+// Everything is decoded in one pass, so that a decoded character never becomes part of
+// another code: that is how a file can hold the text "\U+0041" itself.
 QString decoded(const std::string &bytes)
 {
     QString text = QString::fromUtf8(bytes.c_str());
     if (text.contains(QChar::ReplacementCharacter))
         text = QString::fromLatin1(bytes.c_str());
-    static const QRegularExpression coded(QStringLiteral("\\\\U\\+([0-9A-Fa-f]{4})"));
-    for (auto match = coded.match(text); match.hasMatch();
-         match = coded.match(text, match.capturedStart() + 1))
-        text.replace(match.capturedStart(), match.capturedLength(),
-                     QChar(match.captured(1).toUShort(nullptr, 16)));
-    text.replace(QLatin1String("%%d"), QStringLiteral("\u00b0"), Qt::CaseInsensitive);
-    text.replace(QLatin1String("%%p"), QStringLiteral("\u00b1"), Qt::CaseInsensitive);
-    text.replace(QLatin1String("%%c"), QStringLiteral("\u2300"), Qt::CaseInsensitive);
-    return text;
+    static const QRegularExpression code(QStringLiteral("\\\\U\\+([0-9A-Fa-f]{4})|%%([dpcDPC])"));
+    static const QMap<QString, QChar> signs{{QStringLiteral("d"), QChar(0x00b0)},
+                                            {QStringLiteral("p"), QChar(0x00b1)},
+                                            {QStringLiteral("c"), QChar(0x2300)}};
+    QString result;
+    QString::size_type end = 0;
+    for (auto matches = code.globalMatch(text); matches.hasNext();) {
+        const auto match = matches.next();
+        result += text.mid(end, match.capturedStart() - end);
+        const QString digits = match.captured(1);
+        result += digits.isEmpty() ? signs.value(match.captured(2).toLower())
+                                   : QChar(digits.toUShort(nullptr, 16));
+        end = match.capturedEnd();
+    }
+    return result + text.mid(end);
 }
 
 // The side of a polyline between two vertices; `bulge` is the tangent of a quarter of the

@@ -190,7 +190,6 @@ void CommandCatalogue::update()
 void CommandCatalogue::scan()
 {
     m_stale = false;
-    ++m_scans;
     for (const auto &item : m_items)
         item->wasPresent = std::exchange(item->isPresent, false);
     m_met.reserve(m_items.size());

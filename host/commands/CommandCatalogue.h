@@ -85,8 +85,6 @@ public:
     void update();
     // Walks the menus again at the next reading, whether or not they have changed.
     void invalidate() { m_stale = true; }
-    // How often the menus have been walked.
-    [[nodiscard]] int scans() const { return m_scans; }
 
 Q_SIGNALS:
     // The menus' structure has changed; emitted at once, in the middle of the change.
@@ -137,7 +135,6 @@ private:
     QHash<QString, QString> m_reasons; // of guesses, by identifier
     bool m_guesses = false;
     bool m_stale = true;
-    int m_scans = 0;
 
     // Only during a scan.
     QSet<const QWidget *> m_visited;

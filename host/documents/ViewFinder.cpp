@@ -20,10 +20,9 @@ constexpr int kQuietTime = 200;
 
 ViewFinder::ViewFinder(const QStringList &viewClasses, bool mayGuess)
     : m_guesses(mayGuess && viewClasses.isEmpty())
+    , m_wait(kQuietTime)
 {
-    m_quiet.setSingleShot(true);
-    m_quiet.setInterval(kQuietTime);
-    connect(&m_quiet, &QTimer::timeout, this, &ViewFinder::lookAround);
+    connect(&m_wait, &QuietWait::over, this, &ViewFinder::lookAround);
     for (const QString &name : viewClasses)
         m_viewClasses.append(name.toLatin1());
 }
@@ -33,7 +32,7 @@ ViewFinder::~ViewFinder() = default;
 void ViewFinder::start()
 {
     if (m_guesses)
-        m_quiet.start();
+        m_wait.note();
     else if (!m_viewClasses.isEmpty())
         lookAround();
     else
@@ -56,7 +55,7 @@ void ViewFinder::lookAround()
 
 void ViewFinder::stop()
 {
-    m_quiet.stop();
+    m_wait.stop();
     if (QCoreApplication *application = QCoreApplication::instance())
         application->removeEventFilter(this);
 }
@@ -87,7 +86,7 @@ void ViewFinder::noteChange(const QObject *receiver, const QEvent &event)
     // Menus, tips and dialogs come and go all the time.
     const auto *widget = static_cast<const QWidget *>(receiver);
     if (qobject_cast<const QMainWindow *>(widget->window()))
-        m_quiet.start();
+        m_wait.note();
 }
 
 void ViewFinder::look(QWidget *widget)

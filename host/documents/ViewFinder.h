@@ -1,9 +1,10 @@
 #pragma once
 
+#include "host/window/QuietWait.h"
+
 #include <QByteArray>
 #include <QObject>
 #include <QStringList>
-#include <QTimer>
 #include <QVector>
 
 QT_BEGIN_NAMESPACE
@@ -19,9 +20,10 @@ class ViewFinder : public QObject
     Q_OBJECT
 
 public:
-    // Names of classes of which a view is one, or is derived from one. Where there are
-    // none, it may guess; it then looks once nothing has been shown or resized for a
-    // moment: a widget that is not laid out yet, or not filled, looks like something else.
+    // `viewClasses`: a view is of one of these classes or derived from one. If there are none,
+    // the finder may guess. It then looks once nothing has been shown or resized for a moment,
+    // because a widget that is not laid out or filled yet looks like something else. In a
+    // program that never rests it looks as often as QuietWait says.
     explicit ViewFinder(const QStringList &viewClasses, bool mayGuess = false);
     ~ViewFinder() override;
 
@@ -47,7 +49,7 @@ private:
 
     QVector<QByteArray> m_viewClasses;
     bool m_guesses = false;
-    QTimer m_quiet;
+    QuietWait m_wait;
 };
 
 } // namespace gesturewidget

@@ -3,6 +3,7 @@
 #include "host/files/ExplanationChannel.h"
 #include "host/session/ExplainedProgram.h"
 #include "host/session/GestureHost.h"
+#include "host/window/MenuBars.h"
 #include "sdk/chx/CHxSystemServices.h"
 
 #include <QApplication>
@@ -19,12 +20,6 @@ using gesturewidget::GestureHost;
 
 namespace inject {
 namespace {
-
-bool hasMenuBar(const QMainWindow *window)
-{
-    // menuBar() would make one in a window that has none.
-    return qobject_cast<QMenuBar *>(window->menuWidget()) || window->findChild<QMenuBar *>();
-}
 
 void report(const char *text)
 {
@@ -98,7 +93,7 @@ QMainWindow *Injector::findWindow() const
         // While the first one is only hidden, another kind of window, for help perhaps, is
         // not what takes its place.
         const bool isOtherKind = window && m_window && m_window->metaObject() != window->metaObject();
-        if (window && window->isVisible() && hasMenuBar(window) && !isOtherKind)
+        if (window && window->isVisible() && gesturewidget::hasMenuBar(window) && !isOtherKind)
             return window;
     }
     return nullptr;

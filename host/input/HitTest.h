@@ -78,13 +78,13 @@ public:
     [[nodiscard]] bool IsButtonHeld() const override;
 
     void NotifyDrag() override { m_dragNotified = true; }
-    void NotifyEnd() override { m_endNotified = true; }
+    // Nothing: the pointer filter sees the end of a gesture by the overlay's grab.
+    void NotifyEnd() override { }
 
     // Whether one of the seven reasons to leave the event alone holds.
     [[nodiscard]] bool isSuppressed() const;
-    // What the trackers told.
+    // True once a tracker has taken the drag for a gesture.
     [[nodiscard]] bool dragNotified() const { return m_dragNotified; }
-    [[nodiscard]] bool endNotified() const { return m_endNotified; }
 
 private:
     [[nodiscard]] bool mayBeSuppressed() const { return m_event.role != Role::GestureEnd; }
@@ -93,7 +93,6 @@ private:
     const Trigger &m_trigger;
     const Event &m_event;
     bool m_dragNotified = false;
-    bool m_endNotified = false;
 };
 
 } // namespace gesturewidget

@@ -59,8 +59,8 @@ bool PointerFilter::eventFilter(QObject *receiver, QEvent *event)
             && filterWindow(static_cast<QWindow *>(receiver), *static_cast<QMouseEvent *>(event));
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
-        return m_state == State::Holding && receiver->isWindowType()
-            && holdKey(static_cast<QWindow *>(receiver), *static_cast<QKeyEvent *>(event));
+        return receiver->isWindowType()
+            && filterKey(static_cast<QWindow *>(receiver), *static_cast<QKeyEvent *>(event));
     case QEvent::Wheel:
         return m_state == State::Holding && receiver->isWindowType()
             && holdWheel(static_cast<QWindow *>(receiver), *static_cast<QWheelEvent *>(event));
@@ -80,6 +80,9 @@ bool PointerFilter::eventFilter(QObject *receiver, QEvent *event)
     case QEvent::FocusIn:
         if (receiver->isWidgetType())
             noteFocus(receiver);
+        return false;
+    case QEvent::ApplicationStateChange:
+        m_keys.clear(); // another program may get the releases
         return false;
     default:
         return false;
@@ -176,6 +179,7 @@ bool PointerFilter::holdPress(QWindow *window, const QMouseEvent &event)
     }
     m_state = State::Holding;
     ++m_press;
+    m_keysOfPress = m_keys;
     m_pressPosition = qtbridge::globalPosition(event);
     m_held.hold(window, event);
     m_documents.activate(document);
@@ -211,14 +215,19 @@ bool PointerFilter::filterHolding(QWindow *window, const QMouseEvent &event)
     return true;
 }
 
-// What comes after the press is to reach the program after it, or what the press opens there,
-// such as a menu.
-bool PointerFilter::holdKey(QWindow *window, const QKeyEvent &event)
+bool PointerFilter::filterKey(QWindow *window, const QKeyEvent &event)
 {
+    if (m_held.isSending(&event))
+        return false;
+    m_keys.note(event);
+    if (m_state != State::Holding)
+        return false;
+    // The program must get the key after the press, or a menu that the press opens must.
     m_held.hold(window, event);
-    // A key that is held since before the press says nothing, nor does its release: who types
-    // fast has not let go of the last one yet.
-    if (event.type() == QEvent::KeyPress && !event.isAutoRepeat())
+    // A key that was down before the press does not end the holding: a fast typist has not let
+    // go of it yet. Nor do its repeats, which X11 does not always mark and may report as
+    // releases and presses.
+    if (event.type() == QEvent::KeyPress && !event.isAutoRepeat() && !m_keysOfPress.contains(event))
         giveBack();
     return true;
 }

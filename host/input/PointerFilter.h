@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/input/HeldInput.h"
+#include "host/input/HeldKeys.h"
 #include "host/input/HitTest.h"
 
 #include <QObject>
@@ -68,8 +69,9 @@ private:
     bool filterHolding(QWindow *window, const QMouseEvent &event);
     bool filterGesturing(QWindow *window, const QMouseEvent &event);
     bool filterSwallowing(QWindow *window, const QMouseEvent &event);
-    // Keys and the wheel while Holding.
-    bool holdKey(QWindow *window, const QKeyEvent &event);
+    // Follows which keys are down, and holds keys back while Holding.
+    bool filterKey(QWindow *window, const QKeyEvent &event);
+    // The wheel while Holding.
     bool holdWheel(QWindow *window, const QWheelEvent &event);
 
     // The drag is a gesture.
@@ -98,6 +100,8 @@ private:
     State m_state = State::Idle;
     unsigned m_press = 0; // counts the presses that were held
     HeldInput m_held;
+    HeldKeys m_keys; // down at the moment
+    HeldKeys m_keysOfPress; // down when the press was held
     Document *m_document = nullptr; // of the press, while Holding and Gesturing
     QPoint m_pressPosition; // global
     QPointer<QWidget> m_overlay; // what took the mouse when the gesture began

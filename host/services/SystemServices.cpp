@@ -10,7 +10,6 @@
 #include "host/files/ProgramProfile.h"
 #include "host/menus/CommandManager.h"
 #include "host/menus/UiManager.h"
-#include "host/services/HelpGuide.h"
 #include "host/services/HostEditor.h"
 #include "host/services/MessageBox.h"
 #include "host/services/ProfileStore.h"
@@ -35,7 +34,7 @@ class SystemServices::Private
 {
 public:
     Private(QMainWindow *mainWindow, const ProgramProfile &profile, CHxDocumentManager *documentManager,
-            const QString &settingsFile)
+            const QString &settingsFile, const HelpGuide &helpGuide)
         : window(mainWindow)
         , documents(documentManager)
         , textOutput(mainWindow)
@@ -47,6 +46,7 @@ public:
         , commandManager(catalogue, uiManager)
         , commandLine(profile.commandLineClass, stack,
                       [this](const QString &name) { runner.runStackCommand(name); })
+        , guide(helpGuide)
     {
         if (!mainWindow)
             return; // no program to expect anything of
@@ -75,8 +75,9 @@ public:
 };
 
 SystemServices::SystemServices(QMainWindow *window, const ProgramProfile &profile,
-                               CHxDocumentManager *documents, const QString &settingsFile)
-    : m_d(std::make_unique<Private>(window, profile, documents, settingsFile))
+                               CHxDocumentManager *documents, const QString &settingsFile,
+                               const HelpGuide &guide)
+    : m_d(std::make_unique<Private>(window, profile, documents, settingsFile, guide))
 {
     provideSharedButtons();
 }
@@ -108,11 +109,6 @@ void SystemServices::stopRemembering()
 {
     if (m_d->memory)
         m_d->memory->stop();
-}
-
-HelpGuide &SystemServices::helpGuide()
-{
-    return m_d->guide;
 }
 
 const ToolsMenu &SystemServices::toolsMenu() const

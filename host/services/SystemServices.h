@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/services/HelpGuide.h"
 #include "sdk/chx/CHxSystemServices.h"
 
 #include <QString>
@@ -12,7 +13,6 @@ namespace gesturewidget {
 
 class CommandCatalogue;
 class CommandStack;
-class HelpGuide;
 class HostEditor;
 class ToolsMenu;
 struct ProgramProfile;
@@ -33,12 +33,11 @@ public:
     // `documents` may be null and must outlive this. `settingsFile` is the program's own
     // INI file, see ProfileStore; the commands are kept beside it.
     SystemServices(QMainWindow *window, const ProgramProfile &profile, CHxDocumentManager *documents,
-                   const QString &settingsFile);
+                   const QString &settingsFile, const HelpGuide &guide = HelpGuide());
     ~SystemServices() override;
 
     [[nodiscard]] CommandStack &commandStack();
     [[nodiscard]] HostEditor &editor();
-    [[nodiscard]] HelpGuide &helpGuide();
     [[nodiscard]] CommandCatalogue &catalogue();
     // The program's menus are complete: the commands in them are remembered for its next
     // start, see CatalogueMemory.

@@ -8,13 +8,13 @@
 #include "host/services/HostEditor.h"
 #include "host/services/SystemServices.h"
 #include "host/session/ExplainedProgram.h"
+#include "host/window/MenuBars.h"
 #include "sdk/chx/CHxProfileStore.h"
 #include "sdk/od/OdEdCommandStack.h"
 #include "sdk/od/OdEditor.h"
 
 #include <QApplication>
 #include <QEvent>
-#include <QMenuBar>
 #include <QTimer>
 
 #include <algorithm>
@@ -251,8 +251,7 @@ bool HostSession::isOfThisWindow(const QWidget *view) const
     // A window with menus of its own has commands of its own. Those of a view that was
     // detached from this one, or that is in a dock, are the commands here.
     const QWidget *window = view ? view->window() : nullptr;
-    return window == m_window.data() || !qobject_cast<const QMainWindow *>(window)
-        || !window->findChild<QMenuBar *>();
+    return window == m_window.data() || !hasMenuBar(qobject_cast<const QMainWindow *>(window));
 }
 
 bool HostSession::gesturesAreEnabled() const

@@ -1,41 +1,14 @@
 #include "host/window/MenuChanges.h"
 
+#include "host/window/MenuBars.h"
+
 #include <QActionEvent>
 #include <QChildEvent>
-#include <QDockWidget>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QToolBar>
 
 namespace gesturewidget {
-namespace {
-
-// Whether it stands in another window that belongs to `window`, as an editor for texts or
-// a dialog does, and so acts on something else. A toolbar that floats is its own window; a
-// dock that floats is still a part of its main window.
-bool isOfAnotherWindow(const QWidget *bar, const QMainWindow *window)
-{
-    for (const QWidget *up = bar->parentWidget(); up && up != window; up = up->parentWidget()) {
-        if (up->isWindow() && !qobject_cast<const QDockWidget *>(up))
-            return true;
-    }
-    return false;
-}
-
-template <class Bar> QVector<Bar *> barsOf(const QMainWindow *window)
-{
-    QVector<Bar *> bars;
-    if (!window)
-        return bars;
-    const QList<Bar *> all = window->findChildren<Bar *>();
-    for (Bar *bar : all) {
-        if (!isOfAnotherWindow(bar, window))
-            bars.append(bar);
-    }
-    return bars;
-}
-
-} // namespace
 
 MenuChanges::MenuChanges(QMainWindow *window)
     : m_window(window)
@@ -48,20 +21,12 @@ MenuChanges::~MenuChanges() = default;
 
 QVector<QMenuBar *> MenuChanges::menuBars() const
 {
-    QVector<QMenuBar *> bars = barsOf<QMenuBar>(m_window);
-    if (!m_window)
-        return bars;
-    auto *own = qobject_cast<QMenuBar *>(m_window->menuWidget());
-    if (own) {
-        bars.removeAll(own);
-        bars.prepend(own);
-    }
-    return bars;
+    return menuBarsOf(m_window);
 }
 
 QVector<QToolBar *> MenuChanges::toolBars() const
 {
-    return barsOf<QToolBar>(m_window);
+    return toolBarsOf(m_window);
 }
 
 void MenuChanges::watch(QWidget *widget)

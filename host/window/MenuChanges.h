@@ -24,9 +24,7 @@ public:
     explicit MenuChanges(QMainWindow *window);
     ~MenuChanges() override;
 
-    // The window's menu bars, its own one first; empty when it has none. A bar is never
-    // made by asking, as QMainWindow::menuBar() would. Those of other windows that belong to
-    // it are left out, and so are their toolbars.
+    // The window's bars at the moment, see menuBarsOf() and toolBarsOf().
     [[nodiscard]] QVector<QMenuBar *> menuBars() const;
     [[nodiscard]] QVector<QToolBar *> toolBars() const;
 

@@ -1,5 +1,7 @@
 #include "host/window/MenuReadiness.h"
 
+#include "host/window/MenuBars.h"
+
 #include <QApplication>
 #include <QEvent>
 #include <QMenu>
@@ -9,10 +11,9 @@ namespace gesturewidget {
 
 MenuReadiness::MenuReadiness(QMainWindow *window)
     : m_window(window)
+    , m_wait(kQuietTime)
 {
-    m_quiet.setSingleShot(true);
-    m_quiet.setInterval(kQuietTime);
-    connect(&m_quiet, &QTimer::timeout, this, &MenuReadiness::look);
+    connect(&m_wait, &QuietWait::over, this, &MenuReadiness::look);
 }
 
 MenuReadiness::~MenuReadiness() = default;
@@ -20,12 +21,12 @@ MenuReadiness::~MenuReadiness() = default;
 void MenuReadiness::start()
 {
     qApp->installEventFilter(this);
-    m_quiet.start();
+    m_wait.note();
 }
 
 void MenuReadiness::stop()
 {
-    m_quiet.stop();
+    m_wait.stop();
     if (QCoreApplication *application = QCoreApplication::instance())
         application->removeEventFilter(this);
 }
@@ -35,11 +36,11 @@ bool MenuReadiness::eventFilter(QObject *receiver, QEvent *event)
     switch (event->type()) {
     case QEvent::Show:
         if (receiver == m_window)
-            m_quiet.start();
+            m_wait.note();
         break;
     case QEvent::ActionAdded:
         if (qobject_cast<QMenu *>(receiver) || qobject_cast<QMenuBar *>(receiver))
-            m_quiet.start();
+            m_wait.note();
         break;
     default:
         break;
@@ -52,12 +53,9 @@ void MenuReadiness::look()
     const auto *window = qobject_cast<QMainWindow *>(m_window.data());
     if (!window || !window->isVisible())
         return; // showing it starts the wait again
-    // menuBar() would make one in a window that has none.
-    const auto *bar = qobject_cast<QMenuBar *>(window->menuWidget());
-    if (!bar)
-        bar = window->findChild<QMenuBar *>();
-    if (!bar || bar->actions().isEmpty())
-        return; // so does filling it
+    const QVector<QMenuBar *> bars = menuBarsOf(window);
+    if (bars.isEmpty() || bars.first()->actions().isEmpty())
+        return; // filling it starts the wait again
     stop();
     Q_EMIT settled();
 }

@@ -1,14 +1,16 @@
 #pragma once
 
+#include "host/window/QuietWait.h"
+
 #include <QMainWindow>
 #include <QObject>
 #include <QPointer>
-#include <QTimer>
 
 namespace gesturewidget {
 
-// Waits until a program's menus are complete: its main window is shown, the menu bar holds
-// something, and nothing was added to any menu for a moment.
+// Waits until a program's menus are complete: its main window is shown, its menu bar holds
+// something, and nothing was added to any menu for a moment. A program that changes its menus
+// all the time is waited for as long as QuietWait says.
 class MenuReadiness : public QObject
 {
     Q_OBJECT
@@ -28,14 +30,14 @@ public:
     static constexpr int kQuietTime = 250;
 
 Q_SIGNALS:
-    // Given once.
+    // The menus are complete. Emitted once.
     void settled();
 
 private:
     void look();
 
     QPointer<QWidget> m_window; // while it is being destroyed it is no QMainWindow any more
-    QTimer m_quiet;
+    QuietWait m_wait;
 };
 
 } // namespace gesturewidget

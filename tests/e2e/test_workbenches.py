@@ -5,18 +5,13 @@
 See test_gestures.py for how a test is made.
 """
 
-import argparse
 import configparser
 import dataclasses
 import json
-import sys
-import unittest
-from pathlib import Path
 
 from harness.programs import EIGHT, PROGRAMS
-from harness.session import ANSWER_SECONDS, Session
+from harness.programtest import ProgramTest, option_parser, run_tests
 
-BUILD = None
 PROGRAM = PROGRAMS["freecad"]
 ENTRY = "Mouse Gestures..."
 FIRST_SWITCH_SECONDS = 60  # the first time, a workbench is loaded
@@ -31,14 +26,9 @@ TEN_SWITCHES = ("ImageWorkbench", "MeshWorkbench", "DraftWorkbench", "ImageWorkb
                 "DraftWorkbench", "MeshWorkbench", "DraftWorkbench", "ImageWorkbench", "MeshWorkbench")
 
 
-class Workbenches(unittest.TestCase):
-    def session(self, name=None, program=PROGRAM, **how):
-        folder = BUILD / "e2e" / "workbenches" / (name or self._testMethodName)
-        return Session(program, BUILD, folder, **how)
-
-    def end(self, session):
-        self.assertEqual(session.quit(), 0)
-        self.assertEqual(session.cores(), [])
+class WorkbenchesTest(ProgramTest):
+    folder = "workbenches"
+    program = PROGRAM
 
     def switch(self, session, workbench):
         mark = session.spy.mark()
@@ -55,22 +45,17 @@ class Workbenches(unittest.TestCase):
         entries = session.expect(mark, lambda line: line[0] == "entries", "the Tools menu")[1:]
         session.driver.ask("key", "Escape")
         session.expect(mark, lambda line: line[:2] == ["gone", "QMenu"], "the menu to close")
-        session.wait_for_no_grab()
+        session.wait_for_free_input()
         session.driver.ask("key", "Escape")
         return entries
 
     def categories(self, session):
         """What the dialog offers to choose from."""
-        mark = session.spy.mark()
-        session.driver.ask("key", "alt+t")
-        session.expect(mark, lambda line: line[0] == "menu", "the Tools menu")
-        session.driver.ask("key", "Up")
-        session.driver.ask("key", "Return")
-        session.focus("Mouse Gestures")
+        mark = session.open_dialog()
         choices = session.expect(mark, lambda line: line[0] == "choices" and "File" in line,
                                  "the dialog's categories")[1:]
         session.driver.ask("key", "Escape")
-        session.driver.ask("wait-no-window", "Mouse Gestures", ANSWER_SECONDS * 1000)
+        session.dialog_is_gone()
         return choices
 
     def bindings(self, session):
@@ -150,16 +135,5 @@ class Workbenches(unittest.TestCase):
         return [command["identifier"] for command in commands]
 
 
-def main():
-    global BUILD
-    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
-    parser.add_argument("--build", type=Path, required=True)
-    parser.add_argument("tests", nargs="*", help="names without \"test_\"; all when none is given")
-    options = parser.parse_args()
-    BUILD = options.build.resolve()
-    names = [f"Workbenches.test_{name}" for name in options.tests] or None
-    unittest.main(argv=[sys.argv[0]], defaultTest=names, verbosity=2)
-
-
 if __name__ == "__main__":
-    main()
+    run_tests(WorkbenchesTest, option_parser(__doc__.splitlines()[0]).parse_args())

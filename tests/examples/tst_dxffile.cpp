@@ -1,5 +1,6 @@
 #include "examples/sketchpad/DxfFile.h"
 #include "tests/support/FatalWarnings.h"
+#include "tests/support/FileSizeLimit.h"
 
 #include <QDir>
 #include <QFile>
@@ -114,6 +115,30 @@ private Q_SLOTS:
         // And nothing changes from then on.
         QVERIFY(dxf::write(*again, path("twice.dxf"), &error));
         QCOMPARE(contents(path("twice.dxf")), contents(path("all.dxf")));
+    }
+
+    void typedTextIsReadAsTyped_data()
+    {
+        QTest::addColumn<QString>("typed");
+        for (const char *typed :
+             {"\\U+0041", "\\\\U+0041", "\\U+005CU+0041", "\\U+", "\\u+0041", "C:\\Users", "%%d", "%%P",
+              "%%%c", "%%%%", "100 %", "%\\U+0025d", "%%u under %%u", "  blanks  "})
+            QTest::newRow(typed) << QString::fromLatin1(typed);
+    }
+    void typedTextIsReadAsTyped()
+    {
+        QFETCH(QString, typed);
+        Sheet sheet;
+        sheet.layers[typed] = {};
+        sheet.entities = {Entity::label({0, 0}, 5, typed)};
+        sheet.entities[0].layer = typed.trimmed();
+        QString error;
+        QVERIFY2(dxf::write(sheet, path("typed.dxf"), &error), qPrintable(error));
+        const auto again = dxf::read(path("typed.dxf"), &error);
+        QVERIFY2(again, qPrintable(error));
+        QCOMPARE(again->entities.size(), std::size_t(1));
+        QCOMPARE(again->entities[0].words, typed);
+        QCOMPARE(again->entities[0].layer, typed.trimmed());
     }
 
     void anglesInTheFileAreDegrees()
@@ -374,6 +399,31 @@ private Q_SLOTS:
         QVERIFY(!written);
         QVERIFY(!error.isEmpty());
         QCOMPARE(contents(path("old.dxf")), QByteArray("old"));
+    }
+
+    void aFullDiskKeepsTheOldFile()
+    {
+        Sheet sheet;
+        QString error;
+        QVERIFY(dxf::write(sheet, path("drawing.dxf"), &error));
+        const QByteArray old = contents(path("drawing.dxf"));
+        sheet.entities = {Entity::circle({0, 0}, 5)};
+        QVERIFY(dxf::write(sheet, path("whole.dxf"), &error));
+        const QByteArray whole = contents(path("whole.dxf"));
+        for (int room = 0; room < whole.size(); room += 499) {
+            error.clear();
+            bool written = false;
+            {
+                const tests::FileSizeLimit disk(room);
+                written = dxf::write(sheet, path("drawing.dxf"), &error);
+            }
+            QVERIFY2(!written, qPrintable(QString::number(room)));
+            QVERIFY(!error.isEmpty());
+            QCOMPARE(contents(path("drawing.dxf")), old);
+        }
+        const tests::FileSizeLimit disk(whole.size());
+        QVERIFY2(dxf::write(sheet, path("drawing.dxf"), &error), qPrintable(error));
+        QCOMPARE(contents(path("drawing.dxf")), whole);
     }
 };
 

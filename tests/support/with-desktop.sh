@@ -9,7 +9,7 @@
 # on X11. Its exit status is handed on; 125 says that the desktop did not come up.
 #
 # DESKTOP_SCREEN    size and depth of the screen, 1600x1000x24 when not set
-# DESKTOP_WM=0      no window manager
+# DESKTOP_WM        the window manager: openbox when not set, kwin_x11, xfwm4, or 0 for none
 # DESKTOP_COMPOSITOR=0    no compositor
 set -u
 
@@ -89,8 +89,15 @@ manager_is_up() {
     window=$(xprop -root -notype _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -o '0x[0-9a-f]*') || return 1
     xprop -id "$window" -notype _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q "$window"
 }
-if [ "${DESKTOP_WM:-1}" != 0 ]; then
-    start openbox openbox --sm-disable --config-file "$here/openbox-rc.xml"
+case "${DESKTOP_WM:-openbox}" in
+0) ;;
+openbox) start wm openbox --sm-disable --config-file "$here/openbox-rc.xml" ;;
+# These two need a session bus. Neither composes, so that the compositor is always the same.
+kwin_x11) KWIN_COMPOSE=N start wm dbus-run-session -- kwin_x11 ;;
+xfwm4) start wm dbus-run-session -- xfwm4 --compositor=off ;;
+*) fail "no window manager is called $DESKTOP_WM" ;;
+esac
+if [ "${DESKTOP_WM:-openbox}" != 0 ]; then
     await "the window manager" manager_is_up
 fi
 

@@ -30,6 +30,8 @@ class Program:
     dialogs: tuple = ()
     # What the driver does to start the line tool, and to get to the command line.
     start_line: tuple = ()
+    # Whether starting the line tool that way opens a menu.
+    line_in_menu: bool = False
     command_line: tuple = ()
     # What the driver does where the program asks whether to save, to lose the changes.
     discard: tuple = ()
@@ -154,6 +156,7 @@ PROGRAMS = {
             unbound=("zoom in", "viewZoomIn"),
             dialogs=("fileOpen",),
             start_line=("key alt+d", "key l"),
+            line_in_menu=True,
             command_line=("key Tab",),
             context_menu=True,
             links_host=True,

@@ -276,7 +276,7 @@ class Session:
         self.driver.ask("key", "F9")
         self.expect(mark, lambda line: line[:2] == ["key", "F9"], "a key to arrive")
         self.ring_is_gone()
-        self.wait_for_no_grab()
+        self.wait_for_free_input()
 
     def right_click(self):
         """Clicks, and closes the menu if the program has one for it."""
@@ -292,10 +292,23 @@ class Session:
             if self.program.menu_on_release:
                 self.expect(mark, lambda line: line[0] == "release"
                             and line[2] == self.program.menu_on_release, "the end of the release")
-            self.wait_for_no_grab()
+            self.wait_for_free_input()
 
-    def wait_for_no_grab(self):
-        """A menu that has closed still has the keyboard for a moment, and loses what is typed."""
+    def start_line(self):
+        """Starts the line tool. After it the pointer and the keyboard are the view's again."""
+        mark = self.spy.mark()
+        self.carry_out(self.program.start_line)
+        if self.program.line_in_menu:
+            self.expect(mark, lambda line: line[:2] == ["gone", "QMenu"], "the menu to close")
+        self.wait_for_free_input()
+
+    def wait_for_free_input(self):
+        """Waits until no menu is on screen and nobody holds the pointer or the keyboard.
+
+        A menu that the program has closed stays on screen and holds its grabs for a moment.
+        It loses what is clicked or typed then, in any program.
+        """
+        self.driver.ask("wait-no-popup", ANSWER_SECONDS * 1000)
         if not self.grabs_become("pointer free keyboard free"):
             raise Failure(f"something holds on: {self.driver.ask('grabs')}")
 

@@ -10,9 +10,11 @@
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <cstring>
 #include <ctime>
-#include <vector>
+#include <iterator>
 
 namespace {
 
@@ -65,6 +67,15 @@ QByteArray property(Display *display, ::Window window, const char *name, Atom ty
     return bytes;
 }
 
+// Windows or atoms in a property; empty if the window has no such property.
+std::vector<unsigned long> identifiers(Display *display, ::Window window, const char *name, Atom type)
+{
+    const QByteArray bytes = property(display, window, name, type);
+    std::vector<unsigned long> result(static_cast<std::size_t>(bytes.size()) / sizeof(unsigned long));
+    std::memcpy(result.data(), bytes.constData(), result.size() * sizeof(unsigned long));
+    return result;
+}
+
 } // namespace
 
 XDesktop::XDesktop()
@@ -79,6 +90,8 @@ XDesktop::XDesktop()
 
 XDesktop::~XDesktop()
 {
+    if (m_watcher)
+        XCloseDisplay(m_watcher);
     if (m_display)
         XCloseDisplay(m_display);
 }
@@ -168,13 +181,14 @@ bool XDesktop::typeText(const QString &text)
 
 QList<XDesktop::Window> XDesktop::windows() const
 {
+    std::vector<unsigned long> ids =
+        identifiers(m_display, m_root, "_NET_CLIENT_LIST_STACKING", XA_WINDOW);
+    if (ids.empty()) // without a window manager, the root's children are the windows themselves
+        ids = childrenOf(m_root);
     QList<Window> result;
-    const QByteArray clients = property(m_display, m_root, "_NET_CLIENT_LIST_STACKING", XA_WINDOW);
-    const auto *ids = reinterpret_cast<const unsigned long *>(clients.constData());
-    const auto count = static_cast<std::size_t>(clients.size()) / sizeof(unsigned long);
-    for (std::size_t i = 0; i < count; ++i) {
-        if (const auto geometry = visibleGeometry(ids[i]))
-            result.append({ids[i], *geometry, titleOf(ids[i])});
+    for (const unsigned long id : ids) {
+        if (const auto geometry = visibleGeometry(id))
+            result.append({id, *geometry, titleOf(id)});
     }
     return result;
 }
@@ -186,32 +200,81 @@ std::optional<XDesktop::Window> XDesktop::windowOfSize(QSize size) const
 
 std::optional<XDesktop::Window> XDesktop::findBySize(unsigned long below, QSize size, int depth) const
 {
-    ::Window root = 0;
-    ::Window parent = 0;
-    ::Window *children = nullptr;
-    unsigned int count = 0;
-    if (!XQueryTree(m_display, below, &root, &parent, &children, &count))
-        return {};
-    std::optional<Window> found;
-    for (unsigned int i = count; i-- > 0 && !found;) { // from the top of the stack downwards
-        const auto geometry = visibleGeometry(children[i]);
+    const std::vector<unsigned long> children = childrenOf(below);
+    for (auto child = children.rbegin(); child != children.rend(); ++child) { // topmost first
+        const auto geometry = visibleGeometry(*child);
         if (geometry && geometry->size() == size)
-            found = Window{children[i], *geometry, titleOf(children[i])};
-        else if (geometry && depth < kDeepestWindow)
-            found = findBySize(children[i], size, depth + 1);
+            return Window{*child, *geometry, titleOf(*child)};
+        const auto inside =
+            geometry && depth < kDeepestWindow ? findBySize(*child, size, depth + 1) : std::nullopt;
+        if (inside)
+            return inside;
     }
-    if (children)
-        XFree(children);
-    return found;
+    return {};
 }
 
-bool XDesktop::hasFocus(unsigned long id) const
+bool XDesktop::hasPopup() const
+{
+    const unsigned long types[] = {XInternAtom(m_display, "_NET_WM_WINDOW_TYPE_POPUP_MENU", False),
+                                   XInternAtom(m_display, "_NET_WM_WINDOW_TYPE_DROPDOWN_MENU", False),
+                                   XInternAtom(m_display, "_NET_WM_WINDOW_TYPE_COMBO", False)};
+    const std::vector<unsigned long> children = childrenOf(m_root);
+    return std::any_of(children.begin(), children.end(), [&](unsigned long child) {
+        const std::vector<unsigned long> own =
+            identifiers(m_display, child, "_NET_WM_WINDOW_TYPE", XA_ATOM);
+        return std::find_first_of(own.begin(), own.end(), std::begin(types), std::end(types))
+                != own.end()
+            && visibleGeometry(child);
+    });
+}
+
+unsigned long XDesktop::focusWindow() const
 {
     ::Window focus = 0;
     int revert = 0;
     XGetInputFocus(m_display, &focus, &revert);
-    // A program may give the focus to a window inside of its own.
-    return focus != None && focus != PointerRoot && topLevelOf(focus) == topLevelOf(id);
+    // A program may give the focus to a window inside its own.
+    return focus == None || focus == PointerRoot ? None : topLevelOf(focus);
+}
+
+bool XDesktop::hasFocus(unsigned long id) const
+{
+    const unsigned long focus = focusWindow();
+    return focus != None && focus == topLevelOf(id);
+}
+
+unsigned long XDesktop::activeWindow() const
+{
+    const auto ids = identifiers(m_display, m_root, "_NET_ACTIVE_WINDOW", XA_WINDOW);
+    return ids.empty() ? None : ids.front();
+}
+
+void XDesktop::watch()
+{
+    if (m_watcher)
+        XCloseDisplay(m_watcher);
+    m_watcher = XOpenDisplay(nullptr);
+    XSelectInput(m_watcher, m_root, PropertyChangeMask);
+    XSync(m_watcher, False);
+}
+
+XDesktop::Changes XDesktop::changes()
+{
+    Changes result;
+    if (!m_watcher)
+        return result;
+    XSync(m_watcher, False);
+    const Atom active = XInternAtom(m_watcher, "_NET_ACTIVE_WINDOW", False);
+    const Atom list = XInternAtom(m_watcher, "_NET_CLIENT_LIST", False);
+    while (XPending(m_watcher) > 0) {
+        XEvent event = {};
+        XNextEvent(m_watcher, &event);
+        if (event.type == PropertyNotify) {
+            result.activeWindow += event.xproperty.atom == active;
+            result.windowList += event.xproperty.atom == list;
+        }
+    }
+    return result;
 }
 
 bool XDesktop::isUnderPointer(unsigned long id) const
@@ -229,7 +292,32 @@ bool XDesktop::isUnderPointer(unsigned long id) const
 
 void XDesktop::closeWindow(unsigned long id)
 {
-    sendToManager(id, "_NET_CLOSE_WINDOW", CurrentTime);
+    if (!identifiers(m_display, m_root, "_NET_SUPPORTING_WM_CHECK", XA_WINDOW).empty()) {
+        sendToManager(id, "_NET_CLOSE_WINDOW", CurrentTime);
+        return;
+    }
+    XEvent event = {};
+    event.xclient.type = ClientMessage;
+    event.xclient.window = id;
+    event.xclient.message_type = XInternAtom(m_display, "WM_PROTOCOLS", False);
+    event.xclient.format = 32;
+    event.xclient.data.l[0] = static_cast<long>(XInternAtom(m_display, "WM_DELETE_WINDOW", False));
+    event.xclient.data.l[1] = CurrentTime;
+    XSendEvent(m_display, id, False, NoEventMask, &event);
+    sync();
+}
+
+void XDesktop::placeWindow(unsigned long id, const QRect &place)
+{
+    XMoveResizeWindow(m_display, id, place.x(), place.y(), static_cast<unsigned>(place.width()),
+                      static_cast<unsigned>(place.height()));
+    sync();
+}
+
+void XDesktop::focusOn(unsigned long id)
+{
+    XSetInputFocus(m_display, id, RevertToParent, CurrentTime);
+    sync();
 }
 
 void XDesktop::activateWindow(unsigned long id)
@@ -309,6 +397,21 @@ bool XDesktop::waitFor(const std::function<bool()> &condition, int milliseconds)
 void XDesktop::sync()
 {
     XSync(m_display, True); // no event is selected; the few that come anyway are nobody's
+}
+
+// From the lowest in the stack to the topmost.
+std::vector<unsigned long> XDesktop::childrenOf(unsigned long window) const
+{
+    ::Window root = 0;
+    ::Window parent = 0;
+    ::Window *children = nullptr;
+    unsigned int count = 0;
+    if (!XQueryTree(m_display, window, &root, &parent, &children, &count))
+        return {};
+    std::vector<unsigned long> result(children, children + count);
+    if (children)
+        XFree(children);
+    return result;
 }
 
 // The root's child that `window` is in: its frame, if it has one.

@@ -262,19 +262,18 @@ void HostCommandCatalogueTest::namesOfActionsWithoutText()
 void HostCommandCatalogueTest::readingAgainDoesNotWalkAgain()
 {
     CommandCatalogue catalogue(m_window.get(), {});
-    QCOMPARE(catalogue.scans(), 0);
     const auto before = listing(catalogue);
-    QCOMPARE(catalogue.scans(), 1);
+    // A toolbar's title is read only while the menus are walked.
+    m_window->toolBar->setWindowTitle(QStringLiteral("Sketching"));
     m_window->line->setEnabled(false); // what programs do all the time
     m_window->line->setEnabled(true);
     m_window->line->setText(QStringLiteral("&Segment"));
     QCOMPARE(listing(catalogue), before);
     QVERIFY(catalogue.find(QStringLiteral("drawLine")));
     QCOMPARE(text(catalogue.find(QStringLiteral("drawLine"))->GetCaption()), QStringLiteral("Segment"));
-    QCOMPARE(catalogue.scans(), 1);
-    catalogue.invalidate();
     QCOMPARE(listing(catalogue), before);
-    QCOMPARE(catalogue.scans(), 2);
+    catalogue.invalidate();
+    QCOMPARE(listing(catalogue).last(), QStringLiteral("Sketching: drawArc"));
 }
 
 void HostCommandCatalogueTest::changesAreSeen_data()

@@ -133,6 +133,7 @@ void InjectTest::programEndsAsItWould_data()
                                    "entry in the first window: no";
     row("two-windows-first-destroyed", 0, twoWindows);
     row("two-windows-first-closed", 0, twoWindows);
+    row("menus-in-a-child-window", 0, "entry in the child window, ring: yes");
     row("without-event-loop", 0, "entry: yes, ring: yes");
     row("after-bare-application", 0, "entry, unset|unset, entry after the event loop: no");
     row("after-another-application", 0, "entry, unset|unset, entry after the event loop: no");

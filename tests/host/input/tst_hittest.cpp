@@ -249,11 +249,11 @@ void HitTestTest::notifications()
 {
     const HitTest::Event motion = seenAs(Kind::Motion);
     HitTest hit(m_document, m_trigger, motion);
-    QVERIFY(!hit.dragNotified() && !hit.endNotified());
-    hit.NotifyDrag();
-    QVERIFY(hit.dragNotified() && !hit.endNotified());
+    QVERIFY(!hit.dragNotified());
     hit.NotifyEnd();
-    QVERIFY(hit.endNotified());
+    QVERIFY(!hit.dragNotified());
+    hit.NotifyDrag();
+    QVERIFY(hit.dragNotified());
 }
 
 void HitTestTest::documentThatIsGone()

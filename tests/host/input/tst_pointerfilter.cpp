@@ -53,9 +53,9 @@ public:
         QTest::mousePress(window.windowHandle(), button, modifiers, inWindow(position));
     }
     void move(QPoint position) { QTest::mouseMove(window.windowHandle(), inWindow(position)); }
-    void repeatKey(Qt::Key key)
+    void repeatKey(Qt::Key key, bool isMarked = true)
     {
-        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, QString(), isMarked);
         QSpontaneKeyEvent::setSpontaneous(&event);
         qApp->notify(window.windowHandle(), &event);
     }
@@ -149,6 +149,9 @@ private Q_SLOTS:
 
     void pressIsHeldBack();
     void keysOfBeforeLetTheGestureBe();
+    void unmarkedRepeatsLetTheGestureBe();
+    void aKeyPressedAgainGivesBack();
+    void aKeyLetGoElsewhereIsForgotten();
     void keyGivesBackAPressThatClosesTheWindow();
     void pressIsNotHeldBack_data();
     void pressIsNotHeldBack();
@@ -524,6 +527,61 @@ void PointerFilterTest::keysOfBeforeLetTheGestureBe()
     QVERIFY(desk.view->log.last().startsWith(QStringLiteral("KeyRelease spontaneous key 76")));
     desk.release(kPress + QPoint(30, 0));
     QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+// A real X server does not always mark the repeats of a held key, and it may report each as
+// a release and a press.
+void PointerFilterTest::unmarkedRepeatsLetTheGestureBe()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.view->setFocus();
+    QTest::keyPress(desk.window.windowHandle(), Qt::Key_L);
+    desk.press(kPress);
+    desk.repeatKey(Qt::Key_L, false);
+    QCOMPARE(desk.state(), PointerFilter::State::Holding);
+    QTest::keyRelease(desk.window.windowHandle(), Qt::Key_L);
+    desk.repeatKey(Qt::Key_L, false);
+    QCOMPARE(desk.state(), PointerFilter::State::Holding);
+    desk.move(kPress + QPoint(30, 0));
+    QVERIFY(desk.tracker.overlay->isOn);
+    desk.release(kPress + QPoint(30, 0));
+    QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
+    QTest::keyRelease(desk.window.windowHandle(), Qt::Key_L);
+}
+
+// A key that was let go before the press is a new one when it is pressed during it.
+void PointerFilterTest::aKeyPressedAgainGivesBack()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.view->setFocus();
+    QTest::keyClick(desk.window.windowHandle(), Qt::Key_L);
+    desk.press(kPress);
+    QTest::keyPress(desk.window.windowHandle(), Qt::Key_L);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    QTest::keyRelease(desk.window.windowHandle(), Qt::Key_L);
+    desk.release(kPress);
+}
+
+// Nobody has seen the release of a key that was let go in another program: it does not stay
+// down for ever.
+void PointerFilterTest::aKeyLetGoElsewhereIsForgotten()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.view->setFocus();
+    QTest::keyPress(desk.window.windowHandle(), Qt::Key_L);
+    QApplicationStateChangeEvent away(Qt::ApplicationInactive);
+    QCoreApplication::sendEvent(qApp, &away);
+    desk.press(kPress);
+    QTest::keyPress(desk.window.windowHandle(), Qt::Key_L);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    QTest::keyRelease(desk.window.windowHandle(), Qt::Key_L);
+    desk.release(kPress);
 }
 
 // A key gives back the press, and the program does with that what it likes.

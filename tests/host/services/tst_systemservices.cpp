@@ -57,6 +57,7 @@ private Q_SLOTS:
         m_folder = std::make_unique<QTemporaryDir>();
         m_window = std::make_unique<DraftWindow>();
         m_window->statusBar();
+        m_guide.files.clear();
         m_services = make(m_window.get());
     }
     void cleanup()
@@ -93,8 +94,8 @@ private:
         profile.wellKnownCommands.insert(QStringLiteral("ID_LINE"), {QStringLiteral("drawLine")});
         profile.toolsMenu = QStringLiteral("drawMenu");
         profile.commandLineClass = QStringLiteral("ServicesCommandEdit");
-        return std::make_unique<SystemServices>(window, profile, &m_documents,
-                                                m_folder->filePath(QStringLiteral("drafter.ini")));
+        return std::make_unique<SystemServices>(
+            window, profile, &m_documents, m_folder->filePath(QStringLiteral("drafter.ini")), m_guide);
     }
     // Does something with the message box that comes up next.
     static void answer(const std::function<void(QMessageBox *)> &how)
@@ -109,6 +110,7 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<DraftWindow> m_window;
     tests::StubDocuments m_documents;
+    gesturewidget::HelpGuide m_guide; // that make() hands on
     std::unique_ptr<SystemServices> m_services;
 };
 
@@ -295,13 +297,13 @@ void SystemServicesTest::helpOpensTheGuide()
     QFile file(guide);
     QVERIFY(file.open(QIODevice::WriteOnly));
     QList<QUrl> opened;
-    gesturewidget::HelpGuide &help = m_services->helpGuide();
-    help.files =
+    m_guide.files =
         QStringList{m_folder->filePath(QStringLiteral("missing.html")), m_folder->path(), guide};
-    help.opener = [&opened](const QUrl &url) {
+    m_guide.opener = [&opened](const QUrl &url) {
         opened.append(url);
         return true;
     };
+    m_services = make(m_window.get());
     m_services->ShowHelp(topic);
     QCOMPARE(opened.size(), 1);
     QCOMPARE(opened.first().toLocalFile(), QFileInfo(guide).canonicalFilePath());
@@ -311,16 +313,17 @@ void SystemServicesTest::helpOpensTheGuide()
 
 void SystemServicesTest::missingHelpIsSaid()
 {
-    gesturewidget::HelpGuide &help = m_services->helpGuide();
-    help.files = QStringList{m_folder->filePath(QStringLiteral("missing.html"))};
-    help.opener = [](const QUrl &) { return true; };
+    m_guide.files = QStringList{m_folder->filePath(QStringLiteral("missing.html"))};
+    m_guide.opener = [](const QUrl &) { return true; };
+    m_services = make(m_window.get());
     m_services->ShowHelp(9000);
     QVERIFY(!m_window->statusBar()->currentMessage().isEmpty());
 
     m_window->statusBar()->clearMessage();
     QFile file(m_folder->filePath(QStringLiteral("missing.html")));
     QVERIFY(file.open(QIODevice::WriteOnly));
-    help.opener = [](const QUrl &) { return false; }; // no browser
+    m_guide.opener = [](const QUrl &) { return false; }; // no browser
+    m_services = make(m_window.get());
     m_services->ShowHelp(9000);
     QVERIFY(!m_window->statusBar()->currentMessage().isEmpty());
 }
@@ -329,7 +332,7 @@ void SystemServicesTest::missingHelpIsSaid()
 // looked through from the nearest on.
 void SystemServicesTest::theGuideIsLookedForAboveTheLibrary()
 {
-    const QStringList files = m_services->helpGuide().files;
+    const QStringList files = gesturewidget::HelpGuide().files;
     QVERIFY(files.size() >= 4);
     QVERIFY(files.first().endsWith(QStringLiteral("/share/doc/gesturewidget/user-guide.html")));
     QVERIFY(files.at(1).endsWith(QStringLiteral("/docs/user-guide.html")));
@@ -379,7 +382,6 @@ void SystemServicesTest::theWindowMayGoFirst()
     QVERIFY(!m_services->UsesLargeIcons());
     QVERIFY(!m_services->RunCommand("ID_LINE", true)->IsFound());
     m_services->GetTextOutput()->SetText("To nobody", true);
-    m_services->helpGuide().files.clear();
     m_services->ShowHelp(0);
 }
 

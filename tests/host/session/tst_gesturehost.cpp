@@ -97,6 +97,7 @@ private Q_SLOTS:
     void viewsOfOtherWindows();
     void commandsAreRememberedForTheNextStart();
     void frameIsCreatedOnceMenusAreQuiet();
+    void menusThatNeverRestGetTheFrameToo();
     void menusMayComeAfterTheWindow();
     void windowWithoutMenuBarGetsNone();
     void destroyedWindowStopsTheHost();
@@ -556,6 +557,26 @@ void GestureHostTest::frameIsCreatedOnceMenusAreQuiet()
     host.stop();
     QCOMPARE(reactor.created, 1);
     QCOMPARE(reactor.destroyed, 1);
+}
+
+// A menu may show the time of day, or a list that some device changes.
+void GestureHostTest::menusThatNeverRestGetTheFrameToo()
+{
+    QMainWindow window;
+    QMenu *menu = window.menuBar()->addMenu(QStringLiteral("Tools"));
+    gesturewidget::GestureHost host(&window, m_options);
+    QVERIFY(host.start());
+    FrameReactor reactor;
+    odedEditor()->addReactor(&reactor);
+    window.show();
+    QTimer refilling;
+    connect(&refilling, &QTimer::timeout, menu, [menu] {
+        menu->clear();
+        menu->addAction(QStringLiteral("entry"));
+    });
+    refilling.start(200);
+    QTRY_COMPARE_WITH_TIMEOUT(reactor.created, 1, 2 * gesturewidget::QuietWait::kLongestTime);
+    host.stop();
 }
 
 void GestureHostTest::menusMayComeAfterTheWindow()

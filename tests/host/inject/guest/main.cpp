@@ -223,6 +223,25 @@ int runTwoWindows(int argc, char **argv, bool isDestroyed)
     return QApplication::exec();
 }
 
+// The main window has no menu bar; another window that belongs to it has one.
+int runMenusInAChildWindow(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    QMainWindow bare;
+    bare.setCentralWidget(new QWidget);
+    auto *child = new GuestWindow; // belongs to `bare`, which destroys it
+    child->setParent(&bare, Qt::Window);
+    bare.show();
+    child->show();
+    when([&] { return child->hasEntry(); },
+         [&] {
+             say("entry in the child window");
+             runGesture(*child);
+             when([&] { return child->lines == 1; }, [] { QCoreApplication::quit(); });
+         });
+    return QApplication::exec();
+}
+
 int runWithoutEventLoop(int argc, char **argv)
 {
     QApplication app(argc, argv);
@@ -560,6 +579,8 @@ int main(int argc, char **argv)
         return runTwoWindows(argc, argv, true);
     if (mode == "two-windows-first-closed")
         return runTwoWindows(argc, argv, false);
+    if (mode == "menus-in-a-child-window")
+        return runMenusInAChildWindow(argc, argv);
     if (mode == "without-event-loop")
         return runWithoutEventLoop(argc, argv);
     if (mode == "without-module")
