@@ -54,6 +54,9 @@ QString strokes(const QString &name)
         {QStringLiteral("viewGrid"),
          QStringLiteral("i p 3 8 21 8;i p 3 16 21 16;i p 8 3 8 21;i p 16 3 16 21;"
                         "g 16 8")},
+        {QStringLiteral("viewFullScreen"),
+         QStringLiteral("b p 4 9 4 4 9 4;b p 15 4 20 4 20 9;b p 20 15 20 20 15 20;"
+                        "b p 9 20 4 20 4 15;o p 5 5 9 9;o p 19 19 15 15")},
         {QStringLiteral("drawLine"), QStringLiteral("b p 5 19 19 5;g 5 19;g 19 5")},
         {QStringLiteral("drawCircle"), QStringLiteral("b c 12 12 8.5;i- p 12 12 18 6;g 12 12")},
         {QStringLiteral("drawText"),

@@ -78,6 +78,11 @@ const MainWindow::Command MainWindow::kCommands[] = {
      [](MainWindow &w) {
          w.m_canvas->setGridShown(w.findChild<QAction *>(QStringLiteral("viewGrid"))->isChecked());
      }},
+    {"viewFullScreen", QT_TR_NOOP("&Full Screen"), QT_TR_NOOP("Shows nothing but the drawing"),
+     "FULLSCREEN", "F11",
+     [](MainWindow &w) {
+         w.setFullScreen(w.findChild<QAction *>(QStringLiteral("viewFullScreen"))->isChecked());
+     }},
     {"drawLine", QT_TR_NOOP("&Line"), QT_TR_NOOP("Draws lines from point to point"), "LINE L", "",
      [](MainWindow &w) { w.m_canvas->begin(Tool::Kind::Line); }},
     {"drawCircle", QT_TR_NOOP("&Circle"), QT_TR_NOOP("Draws a circle around a centre"), "CIRCLE C", "",
@@ -154,12 +159,14 @@ void MainWindow::buildCommands()
         action->setToolTip(tr(command.tip));
         action->setData(QString::fromLatin1(command.typed).split(QLatin1Char(' ')));
         action->setShortcut(QKeySequence(QString::fromLatin1(command.keys)));
-        if (name == QLatin1String("viewGrid") || name == QLatin1String("toolsSnap")) {
+        const bool isOnAtFirst = name == QLatin1String("viewGrid") || name == QLatin1String("toolsSnap");
+        if (isOnAtFirst || name == QLatin1String("viewFullScreen")) {
             action->setCheckable(true);
-            action->setChecked(true);
+            action->setChecked(isOnAtFirst);
         }
         connect(action, &QAction::triggered, this, [this, runIt = command.run] { runIt(*this); });
         menu->addAction(action);
+        addAction(action); // its keys work while the menu bar is hidden
         if (!action->icon().isNull())
             bar->addAction(action);
     }
@@ -337,6 +344,20 @@ void MainWindow::fileOpen()
                                      tr("DXF drawings (*.dxf *.DXF);;All files (*)"));
     if (!path.isEmpty())
         openFile(path);
+}
+
+void MainWindow::setFullScreen(bool full)
+{
+    if (full) {
+        m_hidden = {menuBar(), statusBar()};
+        for (QToolBar *bar : findChildren<QToolBar *>()) {
+            if (bar->isVisible())
+                m_hidden.append(bar);
+        }
+    }
+    for (QWidget *widget : qAsConst(m_hidden))
+        widget->setVisible(!full);
+    setWindowState(windowState().setFlag(Qt::WindowFullScreen, full));
 }
 
 void MainWindow::editErase()

@@ -51,6 +51,8 @@ private:
     void fileOpen();
     void fileSave() { save(); }
     void fileSaveAs();
+    // Hides everything but the drawing, or shows it again.
+    void setFullScreen(bool full);
     void editErase();
     void editSelectAll();
     void helpAbout();
@@ -59,6 +61,7 @@ private:
     Canvas *m_canvas;
     CommandLine *m_commandLine;
     QLabel *m_coordinates;
+    QList<QWidget *> m_hidden; // by full screen
     QString m_path; // of the drawing; empty if it has no file yet
     QString m_last; // typed name of the command that Enter repeats
 };

@@ -17,6 +17,7 @@
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QToolBar>
 #include <QtTest>
 
 #include <memory>
@@ -158,7 +159,7 @@ private Q_SLOTS:
                  (QStringList{QStringLiteral("File"), QStringLiteral("Edit"), QStringLiteral("View"),
                               QStringLiteral("Draw"), QStringLiteral("Modify"), QStringLiteral("Tools"),
                               QStringLiteral("Help")}));
-        QCOMPARE(commands, dxf::isSupported() ? 22 : 19);
+        QCOMPARE(commands, dxf::isSupported() ? 23 : 20);
     }
 
     void whatIsTypedTriggersTheAction_data()
@@ -378,6 +379,34 @@ private Q_SLOTS:
         QVERIFY(std::abs(drawn.width() - canvas.width() * 0.9) < 1e-6);
         QVERIFY((drawn.center() - QPointF(canvas.width() / 2, canvas.height() / 2)).manhattanLength()
                 < 1e-6);
+    }
+
+    void fullScreenShowsNothingButTheDrawing()
+    {
+        const auto shown = [this] {
+            QStringList names;
+            for (const QWidget *bar : m_window->findChildren<QToolBar *>()) {
+                if (bar->isVisible())
+                    names += bar->objectName();
+            }
+            names += m_window->menuBar()->isVisible() ? QStringLiteral("menus") : QString();
+            names += m_window->statusBar()->isVisible() ? QStringLiteral("status") : QString();
+            return names;
+        };
+        const QStringList before = shown();
+        QVERIFY(before.contains(QStringLiteral("drawBar")));
+        QVERIFY(!before.contains(QStringLiteral("helpBar")));
+        QTest::keyClick(m_window.get(), Qt::Key_F11);
+        QVERIFY(m_window->isFullScreen());
+        QTRY_COMPARE(m_window->canvas()->geometry(), m_window->rect());
+        QCOMPARE(shown(), (QStringList{QString(), QString()}));
+        // Keys still run commands.
+        QSignalSpy grid(action("viewGrid"), &QAction::triggered);
+        QTest::keyClick(m_window.get(), Qt::Key_F7);
+        QCOMPARE(grid.count(), 1);
+        QTest::keyClick(m_window.get(), Qt::Key_F11);
+        QVERIFY(!m_window->isFullScreen());
+        QCOMPARE(shown(), before);
     }
 
     void farOutNothingHangs()

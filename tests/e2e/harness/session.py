@@ -166,12 +166,14 @@ class Session:
         # Windows still move and grow after they have come up: the view's place counts once
         # the window manager has placed the main window and the screen shows no change.
         self.driver.ask("wait-window", DRAWING_NAME, START_SECONDS * 1000)
-        screen = (0, 0, *self._screen_size())
+        if os.environ.get("DESKTOP_WM") == "none":
+            self.driver.ask("focus-on", DRAWING_NAME)
+        screen = (0, 0, *self.screen_size())
         self.driver.ask("remember", *screen)
         self.driver.ask("wait-steady", START_SECONDS * 1000)
         self.locate_view()
 
-    def _screen_size(self):
+    def screen_size(self):
         width, height = os.environ.get("DESKTOP_SCREEN", "1600x1000x24").split("x")[:2]
         return int(width), int(height)
 
