@@ -18,7 +18,7 @@
 
 namespace {
 
-// A window's frame, its frame's parent, itself: no window manager nests deeper.
+// Window managers nest a window in its frame and the frame's parent, and no deeper.
 constexpr int kDeepestWindow = 4;
 constexpr long kPollNanoseconds = 10'000'000;
 
@@ -42,7 +42,7 @@ void sleepUntil(const timespec &time)
     while (::clock_nanosleep(CLOCK_MONOTONIC, TIMER_ABSTIME, &time, nullptr) == EINTR) { }
 }
 
-// Windows come and go while they are looked at; a request that meets none is no fault.
+// A window may go while it is inspected; a request for it then fails, which is expected.
 int ignoreError(Display *, XErrorEvent *)
 {
     return 0;
@@ -85,7 +85,7 @@ XDesktop::XDesktop()
         return;
     XSetErrorHandler(ignoreError);
     m_root = DefaultRootWindow(m_display);
-    XTestGrabControl(m_display, True); // our input counts also while a program holds a server grab
+    XTestGrabControl(m_display, True); // our input arrives even while a program grabs the server
 }
 
 XDesktop::~XDesktop()
@@ -396,7 +396,7 @@ bool XDesktop::waitFor(const std::function<bool()> &condition, int milliseconds)
 
 void XDesktop::sync()
 {
-    XSync(m_display, True); // no event is selected; the few that come anyway are nobody's
+    XSync(m_display, True); // discards events: this connection selects none
 }
 
 // From the lowest in the stack to the topmost.
