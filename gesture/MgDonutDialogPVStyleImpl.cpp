@@ -2,7 +2,6 @@
 
 #include "bindings/DonutHelperData.h"
 #include "bindings/MgDonutDataContainer.h"
-#include "gesture/MgGrabKeeper.h"
 #include "sdk/chx/CHxApplication.h"
 #include "sdk/chx/CHxDocument.h"
 #include "sdk/chx/CHxSystemServices.h"
@@ -14,6 +13,8 @@
 #include <QImage>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScreen>
+#include <QWindow>
 
 #include <cmath>
 
@@ -45,10 +46,10 @@ QWidget *activeView()
 
 MgDonutDialogPVStyleImpl::MgDonutDialogPVStyleImpl(QWidget *parent, Qt::WindowFlags flags)
     : MgDonutDialog(parent, flags)
-    , m_grabKeeper(new MgGrabKeeper(this))
 {
     donutSize = QImage(QStringLiteral(":/gesturewidgetimages/Resources/gesture_widget.png")).size();
     installEventFilter(this);
+    bypassWindowManager();
 }
 
 MgDonutDialogPVStyleImpl::~MgDonutDialogPVStyleImpl()
@@ -113,8 +114,9 @@ void MgDonutDialogPVStyleImpl::TryStart(const QPoint &)
     // The first choice is made from where the pointer is already. Is that far out, the fading
     // runs here, before there is anything to see; the next move then ends the gesture.
     mousePositionChanged(pointer.x() - origin.x(), origin.y() - pointer.y());
+    takeBackdrop();
     setVisible(true);
-    m_grabKeeper->watch(windowHandle());
+    // The X server maps an unmanaged window at once, so it grants both grabs.
     if (isVisible()) {
         grabMouse();
         grabKeyboard();
@@ -232,6 +234,28 @@ void MgDonutDialogPVStyleImpl::hideEvent(QHideEvent *event)
     // Hidden or closed by somebody else: nothing may stay grabbed.
     if (gesturing)
         StopGesturing(false);
+}
+
+void MgDonutDialogPVStyleImpl::bypassWindowManager()
+{
+    // A window manager would give the ring the focus and a task-bar entry, push it away from
+    // the edges of the screen or hide it as a tool of an inactive program. It learns of a
+    // window when it is mapped, so the flag comes before. QWidget's own flags stay as they are.
+    resize(donutSize); // first, so that the window has this size from the start
+    winId(); // makes the window
+    windowHandle()->setFlag(Qt::BypassWindowManagerHint);
+}
+
+void MgDonutDialogPVStyleImpl::takeBackdrop()
+{
+    m_backdrop = QPixmap();
+    if (m_compositor.isCompositing())
+        return;
+    QScreen *below = QGuiApplication::screenAt(geometry().center());
+    if (!below)
+        below = windowHandle()->screen();
+    const QPoint corner = pos() - below->geometry().topLeft();
+    m_backdrop = below->grabWindow(0, corner.x(), corner.y(), width(), height());
 }
 
 QWidget *MgDonutDialogPVStyleImpl::documentView() const

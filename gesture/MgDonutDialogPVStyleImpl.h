@@ -1,12 +1,13 @@
 #pragma once
 
+#include "gesture/MgCompositorProbe.h"
 #include "gesture/MgDonutDialog.h"
 
 #include <QCursor>
+#include <QPixmap>
 #include <QPoint>
 
 class CHxDocument;
-class MgGrabKeeper;
 class QPainter;
 
 // The ring as it appears in a drawing: comes under the pointer, holds mouse and keyboard,
@@ -88,6 +89,10 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    // Makes the window one that the window manager leaves alone.
+    void bypassWindowManager();
+    // Keeps what is on the screen where the ring will be, if nothing blends the ring with it.
+    void takeBackdrop();
     // The document's view; null when there is no document or no view.
     [[nodiscard]] QWidget *documentView() const;
     // Gives the host its mode and the view its cursor back, once for each winding up.
@@ -98,7 +103,9 @@ private:
     // ring's centre. A sector without an entry has no label.
     void drawLabelOf(QPainter *painter, int index, int cutLength) const;
 
-    MgGrabKeeper *m_grabKeeper;
+    MgCompositorProbe m_compositor;
+    // What the ring is painted on; null while a compositor runs.
+    QPixmap m_backdrop;
     // The host's mode and the view's cursor are ours at the moment.
     bool m_holdsHost = false;
 };

@@ -116,6 +116,9 @@ void MgDonutDialogPVStyleImpl::paint(QPaintEvent *event)
     // Without effect, and kept.
     painter.save();
     painter.restore();
+    // In place of what a compositor would let through, under either frame.
+    if (!m_backdrop.isNull())
+        painter.drawPixmap(QPoint(0, 0), m_backdrop);
 
     if (fading) {
         // A widget takes one painter at a time.

@@ -3,17 +3,20 @@
 build_packages=(
   g++ cmake ninja-build
   qtbase5-dev
-  libdxflib-dev
+  libdxflib-dev libxcb1-dev
 )
 desktop_packages=(
-  xvfb openbox picom x11-utils x11-xserver-utils xdotool imagemagick python3
+  xvfb openbox picom kwin-x11 xfwm4 dbus-daemon x11-utils x11-xserver-utils xdotool imagemagick python3
   libx11-dev libxtst-dev
   fonts-dejavu-core qt5-style-plugins
 )
 test_packages=(
   qt6-base-dev
-  librapidcheck-dev poppler-utils binutils dpkg-dev file fonts-wine python3-jsonschema
+  librapidcheck-dev poppler-utils binutils file fonts-wine python3-jsonschema
+  git dpkg-dev debhelper lintian appstream desktop-file-utils pkg-config
 )
+
+lint_packages=(clang-format clang-tidy clazy hunspell hunspell-en-gb reuse)
 
 # install_packages NAME...: installs those that are missing; asks nothing. Returns apt-get's
 # status, 0 when nothing was missing.

@@ -1,7 +1,7 @@
 // A whole program with gestures, the real host and the real module, beside the same program
 // without: what a movement of the mouse costs it, and how long a ring takes to open.
 
-#include "host/GestureHost.h"
+#include "host/session/GestureHost.h"
 
 #include <benchmark/benchmark.h>
 
@@ -47,11 +47,11 @@ public:
         window.setCentralWidget(view);
         window.resize(800, 600);
         if (hasGestures) {
-            GestureHost::Options options;
+            gesturewidget::GestureHost::Options options;
             options.program = QStringLiteral("benchmark");
             options.moduleFile = QStringLiteral(MODULE_FILE);
             options.settingsFile = folder.filePath(QStringLiteral("benchmark.ini"));
-            host = std::make_unique<GestureHost>(&window, options);
+            host = std::make_unique<gesturewidget::GestureHost>(&window, options);
             host->addView(view);
             QString error;
             if (!host->start(&error))
@@ -77,7 +77,7 @@ public:
     QTemporaryDir folder;
     QMainWindow window;
     QWidget *view = nullptr;
-    std::unique_ptr<GestureHost> host;
+    std::unique_ptr<gesturewidget::GestureHost> host;
     int timestamp = 0;
 };
 

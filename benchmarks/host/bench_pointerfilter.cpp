@@ -1,8 +1,8 @@
 // What a movement of the mouse costs with the pointer filter, beside what Qt's own delivery
 // of it costs: in a view, in another widget, and what any other event pays.
 
-#include "host/DocumentManager.h"
-#include "host/PointerFilter.h"
+#include "host/documents/DocumentManager.h"
+#include "host/input/PointerFilter.h"
 #include "sdk/chx/CHxTracker.h"
 
 #include <benchmark/benchmark.h>
@@ -50,8 +50,8 @@ public:
         other->setMouseTracking(true);
         window.show();
         documents.open(view)->inputPoints().AddTracker(&tracker, 0);
-        filter = std::make_unique<host::PointerFilter>(documents, host::Trigger{},
-                                                       [](const QWidget *) { return true; });
+        filter = std::make_unique<gesturewidget::PointerFilter>(documents, gesturewidget::Trigger{},
+                                                                [](const QWidget *) { return true; });
         if (hasFilter)
             qApp->installEventFilter(filter.get());
     }
@@ -68,8 +68,8 @@ public:
     QWidget *view = nullptr;
     QWidget *other = nullptr;
     IdleTracker tracker;
-    host::DocumentManager documents;
-    std::unique_ptr<host::PointerFilter> filter;
+    gesturewidget::DocumentManager documents;
+    std::unique_ptr<gesturewidget::PointerFilter> filter;
 };
 
 void moveInView(benchmark::State &state)

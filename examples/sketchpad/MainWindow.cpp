@@ -4,8 +4,9 @@
 #include "examples/sketchpad/CommandLine.h"
 #include "examples/sketchpad/DxfFile.h"
 #include "examples/sketchpad/Icons.h"
-#include "sdk/od/OdEdCommand.h"
-#include "sdk/od/OdEdCommandStack.h"
+
+#include <gesturewidget/sdk/od/OdEdCommand.h>
+#include <gesturewidget/sdk/od/OdEdCommandStack.h>
 
 #include <QAction>
 #include <QCloseEvent>

@@ -1,6 +1,7 @@
 #include "examples/sketchpad/Canvas.h"
 #include "examples/sketchpad/MainWindow.h"
-#include "host/GestureHost.h"
+
+#include <gesturewidget/GestureHost.h>
 
 #include <QApplication>
 
@@ -15,10 +16,10 @@ int main(int argc, char **argv)
 
     // This is all that a program needs for mouse gestures. The profile is built into this
     // program and says which of its actions are the well-known commands.
-    GestureHost::Options options;
+    gesturewidget::GestureHost::Options options;
     options.program = QStringLiteral("sketchpad");
     options.profileFolders = QStringList{QStringLiteral(":/profiles")};
-    GestureHost gestures(&window, options);
+    gesturewidget::GestureHost gestures(&window, options);
     gestures.addView(window.canvas());
     QString error;
     if (!gestures.start(&error))

@@ -1,6 +1,6 @@
 #include "host/inject/BareApplication.h"
 
-#include "host/ExplanationChannel.h"
+#include "host/files/ExplanationChannel.h"
 
 namespace inject {
 
@@ -15,8 +15,8 @@ BareApplication::~BareApplication() = default;
 void BareApplication::onEventLoop()
 {
     m_variables->keep();
-    host::tell(m_variables->explanation(),
-               {{QStringLiteral("problem"), QStringLiteral("it has no widgets")}});
+    gesturewidget::tell(m_variables->explanation(),
+                        {{QStringLiteral("problem"), QStringLiteral("it has no widgets")}});
 }
 
 } // namespace inject

@@ -1,6 +1,6 @@
 #include "host/inject/BorrowedVariables.h"
 
-#include "host/ExplanationChannel.h"
+#include "host/files/ExplanationChannel.h"
 #include "host/inject/PluginEnvironment.h"
 
 namespace inject {
@@ -8,7 +8,7 @@ namespace inject {
 BorrowedVariables::BorrowedVariables()
     : m_variables{{{"QT_QPA_GENERIC_PLUGINS", {}, false, {}},
                    {"QT_PLUGIN_PATH", {}, false, {}},
-                   {host::kExplanationVariable, {}, false, {}}}}
+                   {gesturewidget::kExplanationVariable, {}, false, {}}}}
 {
     for (Variable &variable : m_variables) {
         variable.before = qgetenv(variable.name);

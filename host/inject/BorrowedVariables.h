@@ -21,7 +21,7 @@ public:
     // The variables have done what they were for, and stay out of the environment.
     void keep() { m_isKept = true; }
     // The socket over which this program is to be explained, see
-    // host/ExplanationChannel.h; -1 when it is not.
+    // host/files/ExplanationChannel.h; -1 when it is not.
     [[nodiscard]] int explanation() const { return m_explanation; }
 
 private:

@@ -1,6 +1,6 @@
 #include "host/inject/InjectPlugin.h"
 
-#include "host/ExplanationChannel.h"
+#include "host/files/ExplanationChannel.h"
 #include "host/inject/BareApplication.h"
 #include "host/inject/Injector.h"
 
@@ -19,8 +19,8 @@ QObject *InjectPlugin::create(const QString &, const QString &)
 {
     try {
         auto variables = std::make_unique<inject::BorrowedVariables>();
-        host::tell(variables->explanation(),
-                   {{QStringLiteral("process"), int(QCoreApplication::applicationPid())}});
+        gesturewidget::tell(variables->explanation(),
+                            {{QStringLiteral("process"), int(QCoreApplication::applicationPid())}});
         if (qobject_cast<QApplication *>(QCoreApplication::instance()))
             return new inject::Injector(std::move(variables));
         return new inject::BareApplication(std::move(variables)); // of null, Qt would complain

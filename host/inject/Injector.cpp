@@ -1,7 +1,9 @@
 #include "host/inject/Injector.h"
 
-#include "host/ExplanationChannel.h"
-#include "host/GestureHost.h"
+#include "host/files/ExplanationChannel.h"
+#include "host/session/ExplainedProgram.h"
+#include "host/session/GestureHost.h"
+#include "host/window/MenuBars.h"
 #include "sdk/chx/CHxSystemServices.h"
 
 #include <QApplication>
@@ -14,14 +16,10 @@
 #include <cstdio>
 #include <exception>
 
+using gesturewidget::GestureHost;
+
 namespace inject {
 namespace {
-
-bool hasMenuBar(const QMainWindow *window)
-{
-    // menuBar() would make one in a window that has none.
-    return qobject_cast<QMenuBar *>(window->menuWidget()) || window->findChild<QMenuBar *>();
-}
 
 void report(const char *text)
 {
@@ -34,6 +32,7 @@ Injector::Injector(std::unique_ptr<BorrowedVariables> variables)
     : m_variables(std::move(variables))
     , m_explanation(m_variables->explanation())
 {
+    gesturewidget::explainTo(m_explanation);
     if (m_explanation >= 0) {
         m_explanationEnd = std::make_unique<QSocketNotifier>(m_explanation, QSocketNotifier::Read);
         connect(m_explanationEnd.get(), &QSocketNotifier::activated, this, &Injector::onExplanationRead);
@@ -94,7 +93,7 @@ QMainWindow *Injector::findWindow() const
         // While the first one is only hidden, another kind of window, for help perhaps, is
         // not what takes its place.
         const bool isOtherKind = window && m_window && m_window->metaObject() != window->metaObject();
-        if (window && window->isVisible() && hasMenuBar(window) && !isOtherKind)
+        if (window && window->isVisible() && gesturewidget::hasMenuBar(window) && !isOtherKind)
             return window;
     }
     return nullptr;
@@ -103,9 +102,7 @@ QMainWindow *Injector::findWindow() const
 void Injector::startHost(QMainWindow *window)
 {
     try {
-        GestureHost::Options options = GestureHost::optionsForThisProgram();
-        options.explanation = m_explanation;
-        m_host = std::make_unique<GestureHost>(window, options);
+        m_host = std::make_unique<GestureHost>(window, GestureHost::optionsForThisProgram());
         QString error;
         if (m_host->start(&error)) {
             m_window = window;
@@ -135,7 +132,7 @@ void Injector::onWindowGone()
 
 void Injector::explainProblem(const QString &text) const
 {
-    host::tell(m_explanation, {{QStringLiteral("problem"), text}});
+    gesturewidget::tell(m_explanation, {{QStringLiteral("problem"), text}});
 }
 
 void Injector::onExplanationRead()

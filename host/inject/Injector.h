@@ -8,7 +8,9 @@
 
 #include <memory>
 
+namespace gesturewidget {
 class GestureHost;
+}
 
 QT_BEGIN_NAMESPACE
 class QMainWindow;
@@ -44,11 +46,11 @@ private:
     // Ends the program when whoever had it explained has closed the other end.
     void onExplanationRead();
 
-    std::unique_ptr<GestureHost> m_host;
+    std::unique_ptr<gesturewidget::GestureHost> m_host;
     QPointer<QMainWindow> m_window; // that has it
     bool m_isLookQueued = false;
     std::unique_ptr<BorrowedVariables> m_variables;
-    int m_explanation; // the socket, see host/ExplanationChannel.h; -1 for none
+    int m_explanation; // the socket, see host/files/ExplanationChannel.h; -1 for none
     std::unique_ptr<QSocketNotifier> m_explanationEnd;
 };
 

@@ -1,6 +1,6 @@
 #include "host/inject/PluginEnvironment.h"
 
-#include "host/ExplanationChannel.h"
+#include "host/files/ExplanationChannel.h"
 
 #include <QDir>
 #include <QFile>
@@ -71,9 +71,9 @@ void cleanEnvironment()
 
 int takeExplanationSocket()
 {
-    const QByteArray value = qgetenv(host::kExplanationVariable);
-    qunsetenv(host::kExplanationVariable);
-    return host::explanationSocket(value);
+    const QByteArray value = qgetenv(gesturewidget::kExplanationVariable);
+    qunsetenv(gesturewidget::kExplanationVariable);
+    return gesturewidget::explanationSocket(value);
 }
 
 } // namespace inject

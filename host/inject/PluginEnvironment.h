@@ -22,7 +22,7 @@ inline constexpr char kPluginKey[] = "mousegestures";
 void cleanEnvironment();
 
 // Takes the socket out of the environment over which this program is to be explained, see
-// host/ExplanationChannel.h; -1 when it is not.
+// host/files/ExplanationChannel.h; -1 when it is not.
 [[nodiscard]] int takeExplanationSocket();
 
 } // namespace inject

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "launcher/SheetContent.h"
+#include "launcher/sheet/SheetContent.h"
 
 #include <QFont>
 #include <QRectF>

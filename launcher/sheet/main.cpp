@@ -1,8 +1,8 @@
 // mouse-gestures-sheet: draws what it is told on standard input, see SheetContent, and writes
 // it to standard output as PDF. For mouse-gestures --print, which does the rest.
 
+#include "launcher/sheet/SheetContent.h"
 #include "launcher/sheet/SheetPainter.h"
-#include "launcher/SheetContent.h"
 
 #include <QBuffer>
 #include <QFile>

@@ -4,19 +4,17 @@
 #include "tests/bindings/StandardCommands.h"
 #include "tests/fakehost/FakeHost.h"
 #include "tests/support/FatalWarnings.h"
+#include "tests/support/Text.h"
 
 #include <QtTest>
 
 #include <memory>
 
+using tests::text;
+
 namespace {
 
 using Table = std::vector<int>;
-
-QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
 
 // Places of the factory defaults among the standard commands.
 Table defaultFour()
@@ -30,7 +28,7 @@ Table defaultEight()
 
 } // namespace
 
-class tst_BindingContainer : public QObject
+class BindingContainerTest : public QObject
 {
     Q_OBJECT
 
@@ -504,5 +502,5 @@ private:
     std::unique_ptr<tests::FakeHost> host;
 };
 
-QTEST_MAIN(tst_BindingContainer)
+QTEST_MAIN(BindingContainerTest)
 #include "tst_bindingcontainer.moc"

@@ -15,13 +15,12 @@
 #include <memory>
 #include <random>
 
+using tests::kCategory;
+using tests::kCommand;
+using tests::kDirection;
 using tests::TestDialog;
 
 namespace {
-
-constexpr int kCategory = 0;
-constexpr int kCommand = 1;
-constexpr int kDirection = 2;
 
 // Both direction bytes of a record, four scheme first.
 using Bytes = QPair<int, int>;
@@ -94,7 +93,7 @@ void collectComplaints(QtMsgType /*type*/, const QMessageLogContext &context, co
 
 } // namespace
 
-class tst_commandtablemodel : public QObject
+class CommandTableModelTest : public QObject
 {
     Q_OBJECT
 
@@ -152,7 +151,7 @@ private:
     std::unique_ptr<TestDialog> m_dialog;
 };
 
-void tst_commandtablemodel::init()
+void CommandTableModelTest::init()
 {
     tests::resetWarnings();
     m_host = std::make_unique<tests::FakeHost>();
@@ -163,7 +162,7 @@ void tst_commandtablemodel::init()
                                     QStringLiteral("Tip ") + QLatin1String(id));
 }
 
-void tst_commandtablemodel::cleanup()
+void CommandTableModelTest::cleanup()
 {
     m_dialog.reset();
     m_host.reset();
@@ -171,14 +170,14 @@ void tst_commandtablemodel::cleanup()
 }
 
 // Opens the dialog over what the host offers and keeps by now.
-void tst_commandtablemodel::open(const char *scheme)
+void CommandTableModelTest::open(const char *scheme)
 {
     m_host->store.values.insert(QStringLiteral("ActiveScheme"), QLatin1String(scheme));
     MgDonutDataContainer::instance()->init();
     m_dialog = std::make_unique<TestDialog>();
 }
 
-int tst_commandtablemodel::rowIn(const QString &id) const
+int CommandTableModelTest::rowIn(const QString &id) const
 {
     const std::vector<MgCommandDS> commands = m_dialog->model->getCommands();
     for (std::size_t row = 0; row < commands.size(); ++row) {
@@ -188,17 +187,17 @@ int tst_commandtablemodel::rowIn(const QString &id) const
     return -1;
 }
 
-QModelIndex tst_commandtablemodel::directionOf(const QString &id) const
+QModelIndex CommandTableModelTest::directionOf(const QString &id) const
 {
     return m_dialog->model->index(rowIn(id), kDirection);
 }
 
-void tst_commandtablemodel::assign(const QString &id, int direction)
+void CommandTableModelTest::assign(const QString &id, int direction)
 {
     QVERIFY(m_dialog->model->setData(directionOf(id), direction, Qt::EditRole));
 }
 
-void tst_commandtablemodel::columnsAndRoles_data()
+void CommandTableModelTest::columnsAndRoles_data()
 {
     QTest::addColumn<int>("column");
     QTest::addColumn<int>("role");
@@ -221,7 +220,7 @@ void tst_commandtablemodel::columnsAndRoles_data()
     }
 }
 
-void tst_commandtablemodel::columnsAndRoles()
+void CommandTableModelTest::columnsAndRoles()
 {
     QFETCH(int, column);
     QFETCH(int, role);
@@ -243,7 +242,7 @@ void tst_commandtablemodel::columnsAndRoles()
     QVERIFY(!model->data(model->index(1, kDirection), Qt::DecorationRole).isValid());
 }
 
-void tst_commandtablemodel::headers()
+void CommandTableModelTest::headers()
 {
     open("8");
     const MgCommandDSModel *model = m_dialog->model;
@@ -264,7 +263,7 @@ void tst_commandtablemodel::headers()
     QVERIFY(!model->headerData(0, Qt::Horizontal, Qt::ToolTipRole).isValid());
 }
 
-void tst_commandtablemodel::flags()
+void CommandTableModelTest::flags()
 {
     open("8");
     const MgCommandDSModel *model = m_dialog->model;
@@ -276,7 +275,7 @@ void tst_commandtablemodel::flags()
     QCOMPARE(model->flags(model->index(0, kDirection)), base | Qt::ItemIsEditable);
 }
 
-void tst_commandtablemodel::invalidIndexes()
+void CommandTableModelTest::invalidIndexes()
 {
     open("8");
     MgCommandDSModel *model = m_dialog->model;
@@ -298,7 +297,7 @@ void tst_commandtablemodel::invalidIndexes()
     QVERIFY(!model->setData(stale, 1, Qt::EditRole));
 }
 
-void tst_commandtablemodel::rowsAndColumnsWhateverTheParent()
+void CommandTableModelTest::rowsAndColumnsWhateverTheParent()
 {
     open("8");
     const MgCommandDSModel *model = m_dialog->model;
@@ -309,7 +308,7 @@ void tst_commandtablemodel::rowsAndColumnsWhateverTheParent()
 }
 
 // Whatever the tester finds in a model in every other respect, strictly.
-void tst_commandtablemodel::passesTheModelTester()
+void CommandTableModelTest::passesTheModelTester()
 {
     open("8");
     RootOnlyModel model(m_dialog.get());
@@ -340,7 +339,7 @@ void tst_commandtablemodel::passesTheModelTester()
 // The model as it is claims rows below its cells, too. The tester finds that such a cell has
 // no children and that what is said to be one has another parent, and nothing else; the same
 // of the proxy, which asks the model.
-void tst_commandtablemodel::testerFindsOnlyTheRowsBelowCells()
+void CommandTableModelTest::testerFindsOnlyTheRowsBelowCells()
 {
     open("8");
     QStringList found;
@@ -367,7 +366,7 @@ void tst_commandtablemodel::testerFindsOnlyTheRowsBelowCells()
     }
 }
 
-void tst_commandtablemodel::withoutDialog()
+void CommandTableModelTest::withoutDialog()
 {
     m_host->store.values.insert(QStringLiteral("83"), QStringLiteral("A"));
     open("8");
@@ -391,7 +390,7 @@ void tst_commandtablemodel::withoutDialog()
     }
 }
 
-void tst_commandtablemodel::copiesTheContainersRecords()
+void CommandTableModelTest::copiesTheContainersRecords()
 {
     open("8");
     assign(QStringLiteral("A"), 1);
@@ -402,7 +401,7 @@ void tst_commandtablemodel::copiesTheContainersRecords()
         QCOMPARE(bytesOf(record), Bytes(0, 0));
 }
 
-void tst_commandtablemodel::resetToDefaultReadsTheContainerAgain()
+void CommandTableModelTest::resetToDefaultReadsTheContainerAgain()
 {
     open("8");
     assign(QStringLiteral("A"), 1);
@@ -415,7 +414,7 @@ void tst_commandtablemodel::resetToDefaultReadsTheContainerAgain()
     QCOMPARE(bytes(QStringLiteral("A")), Bytes(0, 0));
 }
 
-void tst_commandtablemodel::callOperatorIsAlwaysTrue()
+void CommandTableModelTest::callOperatorIsAlwaysTrue()
 {
     open("8");
     const MgCommandDS record = m_dialog->record(QStringLiteral("A"));
@@ -423,7 +422,7 @@ void tst_commandtablemodel::callOperatorIsAlwaysTrue()
     QVERIFY((*m_dialog->model)(record, 255));
 }
 
-void tst_commandtablemodel::setDataRefusesOtherColumnsAndRoles()
+void CommandTableModelTest::setDataRefusesOtherColumnsAndRoles()
 {
     open("8");
     MgCommandDSModel *model = m_dialog->model;
@@ -433,14 +432,14 @@ void tst_commandtablemodel::setDataRefusesOtherColumnsAndRoles()
     QCOMPARE(bytes(QStringLiteral("A")), Bytes(0, 0));
 }
 
-void tst_commandtablemodel::setDataTakesTheLowByte()
+void CommandTableModelTest::setDataTakesTheLowByte()
 {
     open("8");
     assign(QStringLiteral("A"), 0x103);
     QCOMPARE(bytes(QStringLiteral("A")), Bytes(2, 3));
 }
 
-void tst_commandtablemodel::setDataEmitsNothing()
+void CommandTableModelTest::setDataEmitsNothing()
 {
     open("8");
     QSignalSpy changed(m_dialog->model, &QAbstractItemModel::dataChanged);
@@ -457,7 +456,7 @@ void tst_commandtablemodel::setDataEmitsNothing()
     QCOMPARE(m_dialog->shown(), QStringList(QStringLiteral("Name A")));
 }
 
-void tst_commandtablemodel::upInFourSchemeTakesBothDirectionsFromTheHolder()
+void CommandTableModelTest::upInFourSchemeTakesBothDirectionsFromTheHolder()
 {
     open("4");
     assign(QStringLiteral("A"), 1);
@@ -467,7 +466,7 @@ void tst_commandtablemodel::upInFourSchemeTakesBothDirectionsFromTheHolder()
     QCOMPARE(bytes(QStringLiteral("B")), Bytes(1, 1));
 }
 
-void tst_commandtablemodel::diagonalClearsOnlyTheHoldersEightDirection()
+void CommandTableModelTest::diagonalClearsOnlyTheHoldersEightDirection()
 {
     m_host->store.values = {{QStringLiteral("41"), QStringLiteral("A")},
                             {QStringLiteral("43"), QStringLiteral("B")},
@@ -480,7 +479,7 @@ void tst_commandtablemodel::diagonalClearsOnlyTheHoldersEightDirection()
     QCOMPARE(bytes(QStringLiteral("B")), Bytes(3, 2));
 }
 
-void tst_commandtablemodel::leftInEightSchemeClearsTheHolderInBothSchemes()
+void CommandTableModelTest::leftInEightSchemeClearsTheHolderInBothSchemes()
 {
     open("8");
     assign(QStringLiteral("A"), 3);
@@ -490,7 +489,7 @@ void tst_commandtablemodel::leftInEightSchemeClearsTheHolderInBothSchemes()
     QCOMPARE(bytes(QStringLiteral("B")), Bytes(2, 3));
 }
 
-void tst_commandtablemodel::twoRecordsCanComeToShareAFourDirection()
+void CommandTableModelTest::twoRecordsCanComeToShareAFourDirection()
 {
     open("8");
     assign(QStringLiteral("B"), 1);
@@ -501,7 +500,7 @@ void tst_commandtablemodel::twoRecordsCanComeToShareAFourDirection()
     QCOMPARE(bytes(QStringLiteral("C")), Bytes(1, 1));
 }
 
-void tst_commandtablemodel::noneOnUnboundInFourSchemeStillClearsAnEightDirection()
+void CommandTableModelTest::noneOnUnboundInFourSchemeStillClearsAnEightDirection()
 {
     // A is the first without a four direction, and has a diagonal.
     m_host->store.values = {{QStringLiteral("41"), QStringLiteral("B")},
@@ -515,7 +514,7 @@ void tst_commandtablemodel::noneOnUnboundInFourSchemeStillClearsAnEightDirection
     QVERIFY(!m_dialog->ui.reset_pushButton->isEnabled());
 }
 
-void tst_commandtablemodel::noneInEightSchemeClearsBothOfTheRecord()
+void CommandTableModelTest::noneInEightSchemeClearsBothOfTheRecord()
 {
     m_host->store.values = {{QStringLiteral("41"), QStringLiteral("B")},
                             {QStringLiteral("42"), QStringLiteral("A")},
@@ -527,7 +526,7 @@ void tst_commandtablemodel::noneInEightSchemeClearsBothOfTheRecord()
     QCOMPARE(bytes(QStringLiteral("A")), Bytes(2, 0));
 }
 
-void tst_commandtablemodel::linkedDirections_data()
+void CommandTableModelTest::linkedDirections_data()
 {
     QTest::addColumn<QString>("scheme");
     QTest::addColumn<int>("direction");
@@ -551,7 +550,7 @@ void tst_commandtablemodel::linkedDirections_data()
     QTest::newRow("eight up right") << eight << 8 << 4 << 8;
 }
 
-void tst_commandtablemodel::linkedDirections()
+void CommandTableModelTest::linkedDirections()
 {
     QFETCH(QString, scheme);
     QFETCH(int, direction);
@@ -564,7 +563,7 @@ void tst_commandtablemodel::linkedDirections()
     QCOMPARE(bytes(QStringLiteral("B")), Bytes(four, eight));
 }
 
-void tst_commandtablemodel::resetButtonFollowsChangesOnly()
+void CommandTableModelTest::resetButtonFollowsChangesOnly()
 {
     open("8");
     m_dialog->ui.reset_pushButton->setEnabled(false);
@@ -577,7 +576,7 @@ void tst_commandtablemodel::resetButtonFollowsChangesOnly()
     QVERIFY(!m_dialog->ui.reset_pushButton->isEnabled());
 }
 
-void tst_commandtablemodel::randomWalkKeepsTheRules()
+void CommandTableModelTest::randomWalkKeepsTheRules()
 {
     for (int number = 0; number < 7; ++number)
         m_host->commands.addCommand(QStringLiteral("X%1").arg(number), QStringLiteral("x"),
@@ -613,7 +612,7 @@ void tst_commandtablemodel::randomWalkKeepsTheRules()
     QVERIFY(shared > 1000);
 }
 
-void tst_commandtablemodel::assignedOnlyShowsNonzeroCurrentDirections()
+void CommandTableModelTest::assignedOnlyShowsNonzeroCurrentDirections()
 {
     m_host->store.values = {{QStringLiteral("41"), QStringLiteral("B")},
                             {QStringLiteral("82"), QStringLiteral("A")},
@@ -630,7 +629,7 @@ void tst_commandtablemodel::assignedOnlyShowsNonzeroCurrentDirections()
     QCOMPARE(m_dialog->shown(), QStringList(QStringLiteral("Name B")));
 }
 
-void tst_commandtablemodel::searchMatchesNamesNotCategories()
+void CommandTableModelTest::searchMatchesNamesNotCategories()
 {
     auto *menu = m_host->addTopLevelMenu(QStringLiteral("Lines"));
     for (const char *name : {"Line", "Polyline", "Circle"}) {
@@ -648,7 +647,7 @@ void tst_commandtablemodel::searchMatchesNamesNotCategories()
              QStringList({QStringLiteral("Lines"), QStringLiteral("Lines")}));
 }
 
-void tst_commandtablemodel::filterCondition_data()
+void CommandTableModelTest::filterCondition_data()
 {
     QTest::addColumn<QString>("category");
     QTest::addColumn<bool>("assignedOnly");
@@ -671,7 +670,7 @@ void tst_commandtablemodel::filterCondition_data()
     QTest::newRow("category but not search") << draw << false << QStringLiteral("x") << false;
 }
 
-void tst_commandtablemodel::filterCondition()
+void CommandTableModelTest::filterCondition()
 {
     QFETCH(QString, category);
     QFETCH(bool, assignedOnly);
@@ -695,7 +694,7 @@ void tst_commandtablemodel::filterCondition()
     QCOMPARE(accepts(8), assignedOnly || accepted);
 }
 
-void tst_commandtablemodel::sortingByDirectionPutsUnboundFirst()
+void CommandTableModelTest::sortingByDirectionPutsUnboundFirst()
 {
     m_host->store.values = {{QStringLiteral("81"), QStringLiteral("E")},
                             {QStringLiteral("82"), QStringLiteral("C")},
@@ -710,7 +709,7 @@ void tst_commandtablemodel::sortingByDirectionPutsUnboundFirst()
     QCOMPARE(m_dialog->shownDirections(), QList<int>({8, 2, 1, 0, 0}));
 }
 
-void tst_commandtablemodel::sortingTextsIsCaseSensitiveAndStable()
+void CommandTableModelTest::sortingTextsIsCaseSensitiveAndStable()
 {
     auto *group = static_cast<tests::FakeCommandGroup *>(m_host->commands.groups.front());
     const QStringList names{QStringLiteral("b"), QStringLiteral("A"), QStringLiteral("a"),
@@ -739,7 +738,7 @@ void tst_commandtablemodel::sortingTextsIsCaseSensitiveAndStable()
     }
 }
 
-void tst_commandtablemodel::sortsAgainWhenTheFilterIsApplied()
+void CommandTableModelTest::sortsAgainWhenTheFilterIsApplied()
 {
     m_host->store.values = {{QStringLiteral("81"), QStringLiteral("A")}};
     open("8");
@@ -755,7 +754,7 @@ void tst_commandtablemodel::sortsAgainWhenTheFilterIsApplied()
 }
 
 // Compared as the base class would, for which a model of the same texts stands here.
-void tst_commandtablemodel::comparesTextsAsTheBaseClassDoes()
+void CommandTableModelTest::comparesTextsAsTheBaseClassDoes()
 {
     const QStringList names{QString(),
                             QStringLiteral(""),
@@ -796,7 +795,7 @@ void tst_commandtablemodel::comparesTextsAsTheBaseClassDoes()
                  plainProxy.index(row, kCommand).data().toString());
 }
 
-void tst_commandtablemodel::proxyAcceptsEveryRowOfAnotherModel()
+void CommandTableModelTest::proxyAcceptsEveryRowOfAnotherModel()
 {
     QStandardItemModel other(7, 3);
     MgCommandDSSortFilterProxyModel proxy;
@@ -808,7 +807,7 @@ void tst_commandtablemodel::proxyAcceptsEveryRowOfAnotherModel()
     QCOMPARE(proxy.rowCount(), 7);
 }
 
-void tst_commandtablemodel::proxyReadsDirectionsOut()
+void CommandTableModelTest::proxyReadsDirectionsOut()
 {
     m_host->store.values = {{QStringLiteral("82"), QStringLiteral("A")}};
     open("8");
@@ -818,5 +817,5 @@ void tst_commandtablemodel::proxyReadsDirectionsOut()
     QVERIFY(!m_dialog->cell(0, kCommand).data(Qt::AccessibleTextRole).isValid());
 }
 
-QTEST_MAIN(tst_commandtablemodel)
+QTEST_MAIN(CommandTableModelTest)
 #include "tst_commandtablemodel.moc"

@@ -17,13 +17,12 @@
 
 #include <memory>
 
+using tests::kCategory;
+using tests::kCommand;
+using tests::kDirection;
 using tests::TestDialog;
 
 namespace {
-
-constexpr int kCategory = 0;
-constexpr int kCommand = 1;
-constexpr int kDirection = 2;
 
 QImage drawn(const QStyle &style, QStyle::PrimitiveElement element)
 {
@@ -43,7 +42,7 @@ QImage drawn(const QStyle &style, QStyle::PrimitiveElement element)
 
 } // namespace
 
-class tst_directioneditor : public QObject
+class DirectionEditorTest : public QObject
 {
     Q_OBJECT
 
@@ -92,7 +91,7 @@ private:
     std::unique_ptr<TestDialog> m_dialog;
 };
 
-void tst_directioneditor::init()
+void DirectionEditorTest::init()
 {
     tests::resetWarnings();
     m_host = std::make_unique<tests::FakeHost>();
@@ -102,14 +101,14 @@ void tst_directioneditor::init()
                             {QStringLiteral("43"), QStringLiteral("A")}};
 }
 
-void tst_directioneditor::cleanup()
+void DirectionEditorTest::cleanup()
 {
     m_dialog.reset();
     m_host.reset();
     QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
 }
 
-void tst_directioneditor::open(const char *scheme)
+void DirectionEditorTest::open(const char *scheme)
 {
     m_host->store.values.insert(QStringLiteral("ActiveScheme"), QLatin1String(scheme));
     MgDonutDataContainer::instance()->init();
@@ -118,14 +117,14 @@ void tst_directioneditor::open(const char *scheme)
     m_dialog->ui.reset_pushButton->setEnabled(false);
 }
 
-void tst_directioneditor::openEditor(const QString &name)
+void DirectionEditorTest::openEditor(const QString &name)
 {
     tests::click(m_dialog->ui.command_tableView, directionCell(name));
     QVERIFY(editor());
     QVERIFY(editor()->hasFocus());
 }
 
-void tst_directioneditor::editorShowsTheCurrentDirection_data()
+void DirectionEditorTest::editorShowsTheCurrentDirection_data()
 {
     QTest::addColumn<QString>("scheme");
     QTest::addColumn<QString>("command");
@@ -135,7 +134,7 @@ void tst_directioneditor::editorShowsTheCurrentDirection_data()
     QTest::newRow("third of four") << QStringLiteral("4") << QStringLiteral("A") << 3;
 }
 
-void tst_directioneditor::editorShowsTheCurrentDirection()
+void DirectionEditorTest::editorShowsTheCurrentDirection()
 {
     QFETCH(QString, scheme);
     QFETCH(QString, command);
@@ -147,7 +146,7 @@ void tst_directioneditor::editorShowsTheCurrentDirection()
     QCOMPARE(editor()->itemIcon(row).isNull(), row == 0);
 }
 
-void tst_directioneditor::fiveChoicesInFourSchemeNineInEight()
+void DirectionEditorTest::fiveChoicesInFourSchemeNineInEight()
 {
     for (const int count : {4, 8}) {
         open(count == 4 ? "4" : "8");
@@ -168,7 +167,7 @@ void tst_directioneditor::fiveChoicesInFourSchemeNineInEight()
     }
 }
 
-void tst_directioneditor::choosingTheSelectedEntryStillCommits()
+void DirectionEditorTest::choosingTheSelectedEntryStillCommits()
 {
     open("8");
     openEditor(QStringLiteral("A"));
@@ -193,7 +192,7 @@ void tst_directioneditor::choosingTheSelectedEntryStillCommits()
     QVERIFY(!editor()->view()->isVisible());
 }
 
-void tst_directioneditor::choosingWithTheMouse()
+void DirectionEditorTest::choosingWithTheMouse()
 {
     open("8");
     openEditor(QStringLiteral("B"));
@@ -212,7 +211,7 @@ void tst_directioneditor::choosingWithTheMouse()
     QCOMPARE(editor()->currentIndex(), 3);
 }
 
-void tst_directioneditor::choosingWithTheKeyboard()
+void DirectionEditorTest::choosingWithTheKeyboard()
 {
     open("4");
     m_dialog->ui.command_tableView->setFocus();
@@ -238,7 +237,7 @@ void tst_directioneditor::choosingWithTheKeyboard()
     QVERIFY(editor()->hasFocus());
 }
 
-void tst_directioneditor::arrowKeysChooseAtOnce()
+void DirectionEditorTest::arrowKeysChooseAtOnce()
 {
     open("8");
     openEditor(QStringLiteral("B"));
@@ -251,7 +250,7 @@ void tst_directioneditor::arrowKeysChooseAtOnce()
     }
 }
 
-void tst_directioneditor::editorComesBackOnlyInTheCurrentCell()
+void DirectionEditorTest::editorComesBackOnlyInTheCurrentCell()
 {
     open("8");
     // The row's editor opens, but the current cell is the one that was pressed.
@@ -263,7 +262,7 @@ void tst_directioneditor::editorComesBackOnlyInTheCurrentCell()
     QVERIFY(m_dialog->ui.command_tableView->hasFocus());
 }
 
-void tst_directioneditor::escapeKeepsTheDirection()
+void DirectionEditorTest::escapeKeepsTheDirection()
 {
     open("8");
     openEditor(QStringLiteral("A"));
@@ -276,7 +275,7 @@ void tst_directioneditor::escapeKeepsTheDirection()
     QVERIFY(m_dialog->isVisible());
 }
 
-void tst_directioneditor::editorLeftByClickingElsewhereStaysAway()
+void DirectionEditorTest::editorLeftByClickingElsewhereStaysAway()
 {
     open("8");
     openEditor(QStringLiteral("A"));
@@ -291,7 +290,7 @@ void tst_directioneditor::editorLeftByClickingElsewhereStaysAway()
              m_dialog->ui.command_tableView->visualRect(directionCell(QStringLiteral("D"))));
 }
 
-void tst_directioneditor::closeEditorAsksForFocusFirst()
+void DirectionEditorTest::closeEditorAsksForFocusFirst()
 {
     QStandardItemModel model(3, 1);
     MgCommandTableView table(nullptr);
@@ -334,7 +333,7 @@ void tst_directioneditor::closeEditorAsksForFocusFirst()
     QCOMPARE(editors().size(), 0);
 }
 
-void tst_directioneditor::otherColumnsAreNotEdited()
+void DirectionEditorTest::otherColumnsAreNotEdited()
 {
     open("8");
     MgCommandTableView *table = m_dialog->ui.command_tableView;
@@ -352,7 +351,7 @@ void tst_directioneditor::otherColumnsAreNotEdited()
     QVERIFY(!qobject_cast<QComboBox *>(base.get()));
 }
 
-void tst_directioneditor::onlyTheDirectionIsWritten()
+void DirectionEditorTest::onlyTheDirectionIsWritten()
 {
     QStandardItemModel directions(9, 1);
     QStandardItemModel model(1, 3);
@@ -382,7 +381,7 @@ void tst_directioneditor::onlyTheDirectionIsWritten()
     QCOMPARE(text.text(), QStringLiteral("shown"));
 }
 
-void tst_directioneditor::editorWithoutChoiceWritesNothing()
+void DirectionEditorTest::editorWithoutChoiceWritesNothing()
 {
     QStandardItemModel directions(9, 1);
     QStandardItemModel model(1, 3);
@@ -395,7 +394,7 @@ void tst_directioneditor::editorWithoutChoiceWritesNothing()
 }
 
 // Only a program, such as a screen reader, switches without taking the focus away first.
-void tst_directioneditor::openEditorFollowsTheScheme()
+void DirectionEditorTest::openEditorFollowsTheScheme()
 {
     m_host->store.values.insert(QStringLiteral("88"), QStringLiteral("B"));
     m_host->store.values.insert(QStringLiteral("42"), QStringLiteral("B"));
@@ -416,7 +415,7 @@ void tst_directioneditor::openEditorFollowsTheScheme()
     QVERIFY(!m_dialog->ui.reset_pushButton->isEnabled());
 }
 
-void tst_directioneditor::commitSlotCalledDirectlyDoesNothing()
+void DirectionEditorTest::commitSlotCalledDirectlyDoesNothing()
 {
     QStandardItemModel directions(9, 1);
     MgCommandModelDelegate delegate(&directions, nullptr);
@@ -427,7 +426,7 @@ void tst_directioneditor::commitSlotCalledDirectlyDoesNothing()
     QCOMPARE(committed.count() + closed, 0);
 }
 
-void tst_directioneditor::editorCoversTheCell()
+void DirectionEditorTest::editorCoversTheCell()
 {
     open("8");
     openEditor(QStringLiteral("B"));
@@ -444,7 +443,7 @@ void tst_directioneditor::editorCoversTheCell()
     }
 }
 
-void tst_directioneditor::sizeHints()
+void DirectionEditorTest::sizeHints()
 {
     open("8");
     const QAbstractItemDelegate *delegate = m_dialog->ui.command_tableView->itemDelegate();
@@ -457,7 +456,7 @@ void tst_directioneditor::sizeHints()
                  base.sizeHint(option, m_dialog->cell(0, column)));
 }
 
-void tst_directioneditor::lineBreaksAreDrawnOnOneLine()
+void DirectionEditorTest::lineBreaksAreDrawnOnOneLine()
 {
     QStandardItemModel directions;
     QStandardItemModel model(2, 2);
@@ -481,7 +480,7 @@ void tst_directioneditor::lineBreaksAreDrawnOnOneLine()
     QVERIFY(images[0] != empty);
 }
 
-void tst_directioneditor::editorsHaveAccessibleTexts()
+void DirectionEditorTest::editorsHaveAccessibleTexts()
 {
     open("8");
     openEditor(QStringLiteral("A"));
@@ -494,7 +493,7 @@ void tst_directioneditor::editorsHaveAccessibleTexts()
     QCOMPARE(editor()->itemData(4, Qt::AccessibleTextRole).toString(), QStringLiteral("Right"));
 }
 
-void tst_directioneditor::styleIsPlastiqueWhereThereIsOne()
+void DirectionEditorTest::styleIsPlastiqueWhereThereIsOne()
 {
     const bool plastique =
         QStyleFactory::keys().contains(QLatin1String("Plastique"), Qt::CaseInsensitive);
@@ -503,7 +502,7 @@ void tst_directioneditor::styleIsPlastiqueWhereThereIsOne()
              plastique ? QLatin1String("QPlastiqueStyle") : QLatin1String("QFusionStyle"));
 }
 
-void tst_directioneditor::styleDrawsNoFocusRectangle()
+void DirectionEditorTest::styleDrawsNoFocusRectangle()
 {
     const MyStyle style;
     QImage empty(60, 30, QImage::Format_ARGB32_Premultiplied);
@@ -512,7 +511,7 @@ void tst_directioneditor::styleDrawsNoFocusRectangle()
     QVERIFY(drawn(*style.baseStyle(), QStyle::PE_FrameFocusRect) != empty);
 }
 
-void tst_directioneditor::styleDrawsEverythingElse_data()
+void DirectionEditorTest::styleDrawsEverythingElse_data()
 {
     QTest::addColumn<int>("element");
     QTest::newRow("button") << int(QStyle::PE_PanelButtonCommand);
@@ -522,7 +521,7 @@ void tst_directioneditor::styleDrawsEverythingElse_data()
     QTest::newRow("frame") << int(QStyle::PE_FrameGroupBox);
 }
 
-void tst_directioneditor::styleDrawsEverythingElse()
+void DirectionEditorTest::styleDrawsEverythingElse()
 {
     QFETCH(int, element);
     const MyStyle style;
@@ -534,7 +533,7 @@ void tst_directioneditor::styleDrawsEverythingElse()
     QCOMPARE(drawn(style, primitive), drawn(*base, primitive));
 }
 
-void tst_directioneditor::tableShowsNoFocusRectangle()
+void DirectionEditorTest::tableShowsNoFocusRectangle()
 {
     open("8");
     MgCommandTableView *table = m_dialog->ui.command_tableView;
@@ -564,5 +563,5 @@ void tst_directioneditor::tableShowsNoFocusRectangle()
     m_dialog.reset();
 }
 
-QTEST_MAIN(tst_directioneditor)
+QTEST_MAIN(DirectionEditorTest)
 #include "tst_directioneditor.moc"

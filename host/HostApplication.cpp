@@ -1,8 +1,0 @@
-#include "host/HostApplication.h"
-
-namespace host {
-
-HostApplication::HostApplication() = default;
-HostApplication::~HostApplication() = default;
-
-} // namespace host

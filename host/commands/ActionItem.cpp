@@ -1,0 +1,85 @@
+#include "host/commands/ActionItem.h"
+
+#include "host/commands/RememberedIcon.h"
+#include "host/window/Captions.h"
+#include "host/window/EntryAction.h"
+
+#include <QMenu>
+#include <QWidgetAction>
+
+namespace gesturewidget {
+namespace {
+
+// Opens what Qt keeps for those who derive.
+struct WidgetActionAccess : QWidgetAction
+{
+    using QWidgetAction::createdWidgets;
+};
+
+// Whether menus and toolbars show a widget in the action's place. Some programs derive all
+// their actions from QWidgetAction, most of which never bring one and are common entries.
+bool bringsWidget(const QAction *action)
+{
+    const auto *widgetAction = qobject_cast<const QWidgetAction *>(action);
+    return widgetAction
+        && (widgetAction->defaultWidget()
+            || !(widgetAction->*(&WidgetActionAccess::createdWidgets))().isEmpty());
+}
+
+} // namespace
+
+ActionItem::ActionItem(const QString &identifier, const QString &key)
+    : m_identifier(identifier)
+    , m_key(key)
+{
+}
+
+ActionItem::~ActionItem() = default;
+
+void ActionItem::recall(const RememberedCommand &command)
+{
+    m_caption = command.caption.isEmpty() ? m_key : command.caption;
+    m_tip = command.tip;
+    m_icon = iconFromPng(command.icon);
+    group = command.group;
+    isInToolBar = command.isInToolBar;
+}
+
+void ActionItem::setAction(QAction *action)
+{
+    m_action = action;
+    m_address = action;
+    m_tip.clear(); // may be one of another start
+    m_tipSource.clear();
+    read();
+}
+
+void ActionItem::read()
+{
+    if (!m_action)
+        return;
+    m_caption = captionOf(m_action);
+    if (m_caption.isEmpty())
+        m_caption = m_key;
+    const QString tip = m_action->statusTip().isEmpty() ? m_action->toolTip() : m_action->statusTip();
+    if (tip != m_tipSource) { // markup is slow to read, and most changes are of the state
+        m_tipSource = tip;
+        m_tip = plainTip(tip);
+    }
+    m_icon = m_action->icon();
+}
+
+bool ActionItem::isCommand(const QAction *action)
+{
+    return !action->isSeparator() && action->isVisible() && !action->menu() && !bringsWidget(action)
+        && !qobject_cast<const EntryAction *>(action)
+        && !(action->objectName().isEmpty() && captionOf(action).isEmpty());
+}
+
+QString ActionItem::captionOf(const QAction *action)
+{
+    const QString caption = plainCaption(action->text());
+    return caption.isEmpty() ? plainTip(action->toolTip()) : caption;
+}
+
+} // namespace gesturewidget

@@ -1,0 +1,132 @@
+#include "host/commands/CatalogueMemory.h"
+
+#include "host/commands/CommandCatalogue.h"
+#include "host/commands/RememberedIcon.h"
+
+#include <QElapsedTimer>
+#include <QGuiApplication>
+
+#include <algorithm>
+
+namespace gesturewidget {
+namespace {
+
+// Milliseconds. A quarter of the time from one picture on screen to the next, and then time
+// enough for the program itself.
+constexpr int kDrawingTime = 4;
+constexpr int kDrawingPause = 20;
+
+RememberedCommand commandOf(const ActionItem &item)
+{
+    RememberedCommand command;
+    command.identifier = item.GetIdentifier().toQString();
+    command.command = item.key();
+    command.caption = item.GetCaption().toQString();
+    command.tip = item.GetTip().toQString();
+    command.group = item.group;
+    command.isInToolBar = item.isInToolBar;
+    return command;
+}
+
+} // namespace
+
+CatalogueMemory::CatalogueMemory(CommandCatalogue &catalogue, const QString &file)
+    : m_catalogue(catalogue)
+    , m_file(file)
+{
+    m_quiet.setSingleShot(true);
+    m_quiet.setInterval(kQuietTime);
+    connect(&m_quiet, &QTimer::timeout, this, &CatalogueMemory::look);
+    m_drawing.setInterval(kDrawingPause);
+    connect(&m_drawing, &QTimer::timeout, this, &CatalogueMemory::draw);
+    // Started only once, by the first of many changes: a program that never comes to rest
+    // would put it off for ever.
+    connect(&m_catalogue, &CommandCatalogue::menusChanged, this, [this] {
+        if (m_isStarted && !m_quiet.isActive())
+            m_quiet.start();
+    });
+
+    const QVector<RememberedCommand> commands = m_file.read();
+    for (const RememberedCommand &command : commands)
+        m_known.insert(command.identifier, command);
+    m_catalogue.remember(commands);
+}
+
+CatalogueMemory::~CatalogueMemory() = default;
+
+void CatalogueMemory::start()
+{
+    if (!m_isStarted)
+        m_quiet.start();
+    m_isStarted = true;
+}
+
+void CatalogueMemory::stop()
+{
+    m_isStarted = false;
+    m_quiet.stop();
+    m_drawing.stop();
+    if (!m_news.empty())
+        write({});
+}
+
+void CatalogueMemory::look()
+{
+    for (const auto &item : m_catalogue.items()) {
+        const QString identifier = item->GetIdentifier().toQString();
+        if (!item->isPresent || m_compared.contains(identifier))
+            continue;
+        m_compared.insert(identifier);
+        RememberedCommand command = commandOf(*item);
+        const RememberedCommand known = m_known.value(identifier);
+        const QIcon icon = item->GetLargeIcon();
+        const bool isIconNew = known.icon.isEmpty() && !icon.isNull();
+        command.icon = known.icon;
+        if (isIconNew || !(command == known))
+            m_news.push_back({command, icon});
+    }
+    if (m_news.empty())
+        Q_EMIT settled();
+    else
+        m_drawing.start();
+}
+
+void CatalogueMemory::draw()
+{
+    if (QGuiApplication::mouseButtons() != Qt::NoButton)
+        return;
+    QElapsedTimer elapsed;
+    elapsed.start();
+    while (m_drawn < m_news.size()) {
+        if (elapsed.elapsed() >= kDrawingTime)
+            return;
+        News &news = m_news[m_drawn++];
+        news.command.icon = iconToPng(news.icon);
+        news.icon = QIcon();
+    }
+    m_drawing.stop();
+    QStringList outlived;
+    for (const auto &item : m_catalogue.items()) {
+        if (m_catalogue.isOutlived(*item))
+            outlived.append(item->GetIdentifier().toQString());
+    }
+    write(outlived);
+}
+
+void CatalogueMemory::write(const QStringList &outlived)
+{
+    QVector<RememberedCommand> commands;
+    for (const News &news : m_news)
+        commands.append(news.command);
+    m_quiet.setInterval(std::min(2 * m_quiet.interval(), kLongestQuietTime));
+    // What cannot be written now is tried again with the next news.
+    if (m_file.merge(commands, outlived)) {
+        for (const RememberedCommand &command : std::as_const(commands))
+            m_known.insert(command.identifier, command);
+        m_news.clear();
+        m_drawn = 0;
+    }
+    Q_EMIT settled();
+}
+
+} // namespace gesturewidget

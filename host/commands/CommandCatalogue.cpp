@@ -1,0 +1,379 @@
+#include "host/commands/CommandCatalogue.h"
+
+#include "host/commands/WellKnownGuess.h"
+#include "host/window/Captions.h"
+#include "host/window/EntryAction.h"
+
+#include <QMenu>
+#include <QMenuBar>
+#include <QRegularExpression>
+#include <QToolBar>
+
+#include <algorithm>
+#include <utility>
+
+namespace gesturewidget {
+namespace {
+
+QString joined(const QString &path, const QString &caption)
+{
+    return path.isEmpty() ? caption : path + QLatin1Char('/') + caption;
+}
+
+} // namespace
+
+CommandCatalogue::CommandCatalogue(QMainWindow *window, const QHash<QString, QStringList> &wellKnown)
+    : m_watcher(window)
+    , m_wellKnown(wellKnown)
+{
+    QStringList identifiers = wellKnown.keys();
+    std::sort(identifiers.begin(), identifiers.end());
+    for (const QString &identifier : std::as_const(identifiers)) {
+        const QStringList keys = wellKnown.value(identifier);
+        for (const QString &key : keys) {
+            if (!m_identifiers.contains(key))
+                m_identifiers.insert(key, identifier);
+        }
+    }
+    connect(&m_watcher, &MenuChanges::structureChanged, this, [this] {
+        m_stale = true;
+        Q_EMIT menusChanged();
+    });
+    connect(&m_watcher, &MenuChanges::actionChanged, this, &CommandCatalogue::onActionChanged);
+}
+
+CommandCatalogue::~CommandCatalogue() = default;
+
+const std::vector<std::unique_ptr<CommandGroup>> &CommandCatalogue::groups()
+{
+    update();
+    return m_groups;
+}
+
+ActionItem *CommandCatalogue::find(const QString &name)
+{
+    update();
+    return m_byName.value(name);
+}
+
+ActionItem *CommandCatalogue::findUsable(const QString &name)
+{
+    update();
+    const QStringList keys = m_wellKnown.value(name);
+    for (const QString &key : keys) {
+        ActionItem *item = m_byName.value(key);
+        if (item && item->isUsable())
+            return item;
+    }
+    return m_byName.value(name);
+}
+
+void CommandCatalogue::expect(const QString &identifier, const QString &caption)
+{
+    if (identifier.isEmpty())
+        return;
+    ActionItem *item = m_byName.value(identifier);
+    if (!item) {
+        item = add(identifier, m_wellKnown.value(identifier).value(0, identifier));
+        item->setCaption(caption);
+    }
+    item->isExpected = true;
+    m_stale = true; // the next reading gives it its place
+}
+
+void CommandCatalogue::guessWellKnown()
+{
+    m_guesses = true;
+    const QStringList identifiers = WellKnownGuess::identifiers();
+    for (const QString &identifier : identifiers) {
+        if (!m_wellKnown.contains(identifier))
+            expect(identifier, WellKnownGuess::captionOf(identifier));
+    }
+}
+
+void CommandCatalogue::endGuessing()
+{
+    if (!m_guesses)
+        return;
+    update();
+    const QStringList identifiers = WellKnownGuess::identifiers();
+    for (const QString &identifier : identifiers) {
+        if (ActionItem *item = expectedFor(identifier); item && !m_wellKnown.contains(identifier))
+            item->isLacking = true;
+    }
+    m_stale = true;
+}
+
+void CommandCatalogue::remember(const QVector<RememberedCommand> &commands)
+{
+    QHash<QString, QString> keys; // by identifier
+    for (const RememberedCommand &command : commands)
+        keys.insert(command.identifier,
+                    command.command.isEmpty() ? command.identifier : command.command);
+    for (const RememberedCommand &command : commands) {
+        QString key = keys.value(command.identifier);
+        // What the profile says may have changed since then, and counts.
+        const QStringList wellKnownKeys = m_wellKnown.value(command.identifier);
+        if (!wellKnownKeys.isEmpty() && !wellKnownKeys.contains(key))
+            key = wellKnownKeys.first();
+        const QString wellKnown = m_identifiers.value(key, command.identifier);
+        const bool isRenamed = wellKnown != command.identifier
+                            && !m_wellKnown.value(wellKnown).contains(keys.value(wellKnown));
+        if (isRenamed || m_byName.contains(command.identifier) || m_byName.contains(key))
+            continue;
+        ActionItem *item = add(command.identifier, key);
+        item->recall(command);
+        item->isRemembered = key == keys.value(command.identifier);
+    }
+    m_stale = true;
+}
+
+const std::vector<std::unique_ptr<ActionItem>> &CommandCatalogue::items()
+{
+    update();
+    return m_items;
+}
+
+bool CommandCatalogue::isOutlived(const ActionItem &item) const
+{
+    if (item.isExpected || item.address())
+        return false;
+    // A key that is a path ends with the caption, and with a number if there are several.
+    static const QRegularExpression number(QStringLiteral(" \\(\\d+\\)$"));
+    const QString caption = QLatin1Char('/') + item.GetCaption().toQString();
+    QString path = item.key();
+    if (!path.endsWith(caption))
+        path.remove(number);
+    return path.endsWith(caption) && m_places.contains(path.chopped(caption.size()));
+}
+
+ActionItem *CommandCatalogue::itemOf(const QAction *action)
+{
+    update();
+    ActionItem *item = m_byAction.value(action);
+    return item && item->action() == action && item->isPresent ? item : nullptr;
+}
+
+bool CommandCatalogue::contains(const CHxUICommandItem *item) const
+{
+    return m_known.contains(item);
+}
+
+void CommandCatalogue::onActionChanged(QAction *action)
+{
+    if (qobject_cast<EntryAction *>(action))
+        return;
+    const ActionItem *item = m_byAction.value(action);
+    if (item && item->isPresent && ActionItem::isCommand(action)) {
+        m_changedActions.insert(action);
+        return;
+    }
+    // A separator, a menu, or something that has just become a command or ceased to be one.
+    m_stale = true;
+    Q_EMIT menusChanged();
+}
+
+void CommandCatalogue::update()
+{
+    if (m_stale)
+        scan();
+    if (m_changedActions.isEmpty())
+        return;
+    for (const QAction *action : std::as_const(m_changedActions)) {
+        ActionItem *item = m_byAction.value(action);
+        if (item && item->action() == action)
+            item->read();
+    }
+    m_changedActions.clear();
+}
+
+void CommandCatalogue::scan()
+{
+    m_stale = false;
+    for (const auto &item : m_items)
+        item->wasPresent = std::exchange(item->isPresent, false);
+    m_met.reserve(m_items.size());
+    m_places.clear();
+    const QVector<QMenuBar *> menuBars = m_watcher.menuBars();
+    for (QMenuBar *bar : menuBars)
+        walk(bar, {});
+    const QVector<QToolBar *> toolBars = m_watcher.toolBars();
+    for (QToolBar *bar : toolBars) {
+        const QString title = plainCaption(bar->windowTitle());
+        walk(bar, {title, title, true});
+    }
+    // After all that are known: only now is it clear which of their keys are free.
+    if (m_guesses)
+        guess();
+    for (const Newcomer &newcomer : m_newcomers)
+        admit(newcomer);
+    arrangeGroups();
+    m_visited.clear();
+    m_met.clear();
+    m_newcomers.clear();
+    m_guessed.clear();
+}
+
+void CommandCatalogue::guess()
+{
+    QStringList wanted = WellKnownGuess::identifiers();
+    const auto isSettled = [this](const QString &identifier) {
+        return m_wellKnown.contains(identifier)
+            || (m_byName.contains(identifier) && !expectedFor(identifier));
+    };
+    wanted.erase(std::remove_if(wanted.begin(), wanted.end(), isSettled), wanted.end());
+    QVector<QAction *> actions;
+    for (const Newcomer &newcomer : m_newcomers) {
+        if (m_byName.value(newcomer.action->objectName()) == nullptr) // else it comes back
+            actions.append(newcomer.action);
+    }
+    const QVector<WellKnownGuess> guesses = WellKnownGuess::among(actions, wanted);
+    for (const WellKnownGuess &found : guesses) {
+        m_guessed.insert(found.action, found.identifier);
+        m_reasons.insert(found.identifier, found.reason);
+    }
+}
+
+void CommandCatalogue::walk(QWidget *widget, const Place &place)
+{
+    if (m_visited.contains(widget))
+        return;
+    m_visited.insert(widget);
+    m_places.insert(place.path);
+    m_watcher.watch(widget);
+    const QList<QAction *> actions = widget->actions();
+    for (QAction *action : actions) {
+        if (ActionItem::isCommand(action)) {
+            meet(action, place);
+        } else if (QMenu *menu = action->menu(); menu && action->isVisible()) {
+            const QString title = ActionItem::captionOf(action);
+            walk(menu, {place.group.isEmpty() ? title : place.group, joined(place.path, title),
+                        place.isInToolBar});
+        }
+    }
+}
+
+void CommandCatalogue::meet(QAction *action, const Place &place)
+{
+    ActionItem *item = m_byAction.value(action);
+    const auto groupOf = [action, &place] {
+        return place.group.isEmpty() ? ActionItem::captionOf(action) : place.group;
+    };
+    // The address may be that of an action which is gone, taken by a new one.
+    if (!item || item->action() != action) {
+        m_newcomers.push_back(
+            {action, groupOf(), joined(place.path, ActionItem::captionOf(action)), place.isInToolBar});
+        return;
+    }
+    if (item->isPresent)
+        return;
+    item->isPresent = true;
+    if (!item->wasPresent)
+        item->read(); // nobody told of its changes while it was in no menu
+    item->group = groupOf();
+    item->isInToolBar = place.isInToolBar;
+    m_met.push_back(item);
+}
+
+// Gives a command to an action that has none: the one that an action with this key had
+// before, or a new one.
+void CommandCatalogue::admit(const Newcomer &newcomer)
+{
+    if (const ActionItem *item = m_byAction.value(newcomer.action);
+        item && item->action() == newcomer.action && item->isPresent)
+        return; // it is in two places, and was admitted at the first
+    const QString name = newcomer.action->objectName();
+    QString key = name.isEmpty() ? newcomer.path : name;
+    bool isTaken = false;
+    ActionItem *item = reusable(key, &isTaken);
+    for (int number = 1; !item && isTaken; ++number) {
+        key = number == 1 ? newcomer.path : QStringLiteral("%1 (%2)").arg(newcomer.path).arg(number);
+        item = reusable(key, &isTaken);
+    }
+    const QString wellKnown = wellKnownFor(newcomer, key);
+    if (!item) {
+        item = expectedFor(wellKnown);
+        if (item) {
+            if (item->key() != wellKnown)
+                m_byName.remove(item->key()); // which may turn up yet as another command
+            item->setKey(key);
+            m_byName.insert(key, item);
+        }
+    }
+    if (!item)
+        item = add(wellKnown.isEmpty() || m_byName.contains(wellKnown) ? key : wellKnown, key);
+    else if (m_byAction.value(item->address()) == item)
+        m_byAction.remove(item->address());
+    item->setAction(newcomer.action);
+    item->isPresent = true;
+    item->group = newcomer.group;
+    item->isInToolBar = newcomer.isInToolBar;
+    m_byAction.insert(newcomer.action, item);
+    m_met.push_back(item);
+}
+
+// The command of that key whose action is not there; null when there is none, and then
+// `isTaken` says whether the key is in use.
+ActionItem *CommandCatalogue::reusable(const QString &key, bool *isTaken) const
+{
+    if (key.isEmpty() || !m_wellKnown.value(key, {key}).contains(key)) {
+        *isTaken = true; // the profile means another action by this identifier
+        return nullptr;
+    }
+    ActionItem *item = m_byName.value(key);
+    *isTaken = item != nullptr;
+    return item && item->key() == key && !item->isPresent ? item : nullptr;
+}
+
+// The well-known identifier of an action by the profile, else as it was guessed; empty if
+// it has none.
+QString CommandCatalogue::wellKnownFor(const Newcomer &newcomer, const QString &key) const
+{
+    const QString byPath = m_identifiers.value(newcomer.path, m_guessed.value(newcomer.action));
+    return m_identifiers.value(key, byPath);
+}
+
+// The command of that identifier while it is expected only, of whatever action; null
+// otherwise.
+ActionItem *CommandCatalogue::expectedFor(const QString &identifier) const
+{
+    ActionItem *item = identifier.isEmpty() ? nullptr : m_byName.value(identifier);
+    const bool isExpectedOnly = item && !item->address() && !item->isRemembered
+                             && item->GetIdentifier() == CHxString(identifier);
+    return isExpectedOnly ? item : nullptr;
+}
+
+ActionItem *CommandCatalogue::add(const QString &identifier, const QString &key)
+{
+    m_items.push_back(std::make_unique<ActionItem>(identifier, key));
+    ActionItem *item = m_items.back().get();
+    m_known.insert(item);
+    m_byName.insert(key, item);
+    m_byName.insert(identifier, item);
+    return item;
+}
+
+void CommandCatalogue::arrangeGroups()
+{
+    for (const auto &group : m_groups)
+        group->items.clear();
+    for (ActionItem *item : m_met)
+        groupNamed(item->group).items.push_back(item);
+    for (const auto &item : m_items) {
+        const bool isLacking = item->isLacking && !item->address();
+        if (!item->isPresent && !isLacking && !isOutlived(*item))
+            groupNamed(item->group).items.push_back(item.get());
+    }
+}
+
+CommandGroup &CommandCatalogue::groupNamed(const QString &name)
+{
+    CommandGroup *&group = m_groupsByName[name];
+    if (!group) {
+        m_groups.push_back(std::make_unique<CommandGroup>(name));
+        group = m_groups.back().get();
+    }
+    return *group;
+}
+
+} // namespace gesturewidget

@@ -1,0 +1,171 @@
+#include "host/commands/CommandRunner.h"
+
+#include "host/commands/CommandCatalogue.h"
+#include "host/commands/CommandStack.h"
+#include "host/window/TextOutput.h"
+#include "sdk/chx/CHxDocument.h"
+#include "sdk/chx/CHxDocumentManager.h"
+#include "sdk/od/OdEdCommand.h"
+#include "sdk/od/OdRxObjectImpl.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QWidget>
+
+namespace gesturewidget {
+namespace {
+
+const QLatin1String kCancel("^C");
+
+class CommandResult : public CHxCommandResult
+{
+public:
+    explicit CommandResult(bool isFound)
+        : m_isFound(isFound)
+    {
+    }
+
+    [[nodiscard]] bool IsFound() const override { return m_isFound; }
+
+private:
+    bool m_isFound;
+};
+
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("host", text);
+}
+
+void pressEscape(QWidget *view)
+{
+    const QPointer<QWidget> guard(view);
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, Qt::Key_Escape, Qt::NoModifier);
+        if (guard)
+            QCoreApplication::sendEvent(guard, &event);
+    }
+}
+
+} // namespace
+
+CommandRunner::CommandRunner(CommandStack &stack, CommandCatalogue &catalogue, TextOutput &output,
+                             CHxDocumentManager *documents)
+    : m_stack(stack)
+    , m_catalogue(catalogue)
+    , m_output(output)
+    , m_documents(documents)
+{
+}
+
+CommandRunner::~CommandRunner() = default;
+
+CHxCommandResultPtr CommandRunner::run(const QString &command, bool wait)
+{
+    CHxCommandResultPtr result(new OdRxObjectImpl<CommandResult>(isFound(command)), kOdRxAttach);
+    if (wait)
+        execute(command);
+    else
+        QMetaObject::invokeMethod(
+            this, [this, command] { execute(command); }, Qt::QueuedConnection);
+    return result;
+}
+
+void CommandRunner::runStackCommand(const QString &name)
+{
+    QMetaObject::invokeMethod(
+        this, [this, name] { executeStackCommand(name); }, Qt::QueuedConnection);
+}
+
+CommandRunner::Macro CommandRunner::parsed(const QString &command)
+{
+    Macro macro;
+    macro.rest = command.trimmed();
+    while (macro.rest.startsWith(kCancel, Qt::CaseInsensitive)) {
+        macro.rest = macro.rest.mid(kCancel.size()).trimmed();
+        ++macro.cancels;
+    }
+    while (macro.rest.endsWith(QLatin1Char(';')) || macro.rest.endsWith(QLatin1Char(' ')))
+        macro.rest.chop(1);
+    return macro;
+}
+
+bool CommandRunner::isFound(const QString &command) const
+{
+    const Macro macro = parsed(command);
+    if (macro.cancels > 0)
+        return macro.rest.isEmpty() || m_stack.lookupCommand(OdString(macro.rest));
+    const ActionItem *item = m_catalogue.findUsable(command);
+    return item && item->isUsable();
+}
+
+void CommandRunner::execute(const QString &command)
+{
+    const Macro macro = parsed(command);
+    if (macro.cancels > 0)
+        executeMacro(macro);
+    else
+        trigger(command);
+}
+
+void CommandRunner::executeMacro(const Macro &macro)
+{
+    const QPointer<CommandRunner> self(this);
+    for (int i = 0; i < macro.cancels && self; ++i)
+        cancel();
+    if (self && !macro.rest.isEmpty())
+        executeStackCommand(macro.rest);
+}
+
+void CommandRunner::executeStackCommand(const QString &name)
+{
+    // The pointer keeps the command while it runs, also when it is removed meanwhile.
+    const OdSmartPtr<OdEdCommand> command = m_stack.lookupCommand(OdString(name));
+    if (command)
+        command->execute(nullptr);
+    else
+        m_output.showForAWhile(translated("There is no command \"%1\".").arg(name));
+}
+
+void CommandRunner::trigger(const QString &name)
+{
+    const ActionItem *item = m_catalogue.findUsable(name);
+    if (!item) {
+        m_output.showForAWhile(translated("There is no command \"%1\".").arg(name));
+    } else if (!item->isPresent || !item->action()) {
+        m_output.showForAWhile(absence(*item));
+    } else if (!item->action()->isEnabled()) {
+        m_output.showForAWhile(
+            translated("%1: cannot be used at the moment.").arg(item->GetCaption().toQString()));
+    } else {
+        item->action()->trigger();
+    }
+}
+
+// Why a command cannot be run whose action is not there, and where it lives.
+QString CommandRunner::absence(const ActionItem &item) const
+{
+    QString line = translated("%1: not available at the moment.").arg(item.GetCaption().toQString());
+    if (item.group.isEmpty())
+        return line;
+    const bool isShown = m_catalogue.isShown(item.group);
+    QString place;
+    if (item.isInToolBar)
+        place = isShown ? translated("The toolbar \"%1\" does not have it now.")
+                        : translated("It belongs to the toolbar \"%1\", which is not there now.");
+    else
+        place = isShown ? translated("The menu \"%1\" does not have it now.")
+                        : translated("It belongs to the menu \"%1\", which is not there now.");
+    return line + QLatin1Char(' ') + place.arg(item.group);
+}
+
+// Cancels what runs in the drawing, the way a person does.
+void CommandRunner::cancel() const
+{
+    CHxDocument *document = m_documents ? m_documents->GetActiveDocument() : nullptr;
+    QWidget *view = document ? document->GetViewWidget() : nullptr;
+    if (view && view->isVisible()) // a document that is closed has a stand-in
+        pressEscape(view);
+}
+
+} // namespace gesturewidget

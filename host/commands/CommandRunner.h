@@ -1,0 +1,61 @@
+#pragma once
+
+#include "sdk/chx/CHxSystemServices.h"
+
+#include <QObject>
+#include <QString>
+
+class OdEdCommand;
+
+namespace gesturewidget {
+
+class ActionItem;
+class CommandCatalogue;
+class CommandStack;
+class TextOutput;
+
+// Runs commands by name: macros, which run commands that modules have registered, and the
+// program's own actions.
+//
+// What runs may do anything, such as close the window or end this object.
+class CommandRunner : public QObject
+{
+    Q_OBJECT
+
+public:
+    // `documents` may be null.
+    CommandRunner(CommandStack &stack, CommandCatalogue &catalogue, TextOutput &output,
+                  CHxDocumentManager *documents);
+    ~CommandRunner() override;
+
+    // See CHxSystemServices::RunCommand(). Each "^C" of a macro is an Escape for the active
+    // drawing view. What cannot be run is named in the status bar; the result then says
+    // that nothing was found.
+    CHxCommandResultPtr run(const QString &command, bool wait);
+
+    // Runs a command of the command stack, when control is back in the event loop.
+    void runStackCommand(const QString &name);
+
+private:
+    struct Macro
+    {
+        int cancels = 0; // Escapes before the rest
+        QString rest;
+    };
+
+    [[nodiscard]] static Macro parsed(const QString &command);
+    [[nodiscard]] bool isFound(const QString &command) const;
+    void execute(const QString &command);
+    void executeMacro(const Macro &macro);
+    void executeStackCommand(const QString &name);
+    void trigger(const QString &name);
+    [[nodiscard]] QString absence(const ActionItem &item) const;
+    void cancel() const;
+
+    CommandStack &m_stack;
+    CommandCatalogue &m_catalogue;
+    TextOutput &m_output;
+    CHxDocumentManager *m_documents;
+};
+
+} // namespace gesturewidget

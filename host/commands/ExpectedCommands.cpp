@@ -1,0 +1,37 @@
+#include "host/commands/ExpectedCommands.h"
+
+#include "host/commands/WellKnownGuess.h"
+
+namespace gesturewidget {
+namespace {
+
+// What a person may recognise the command by before its action has been seen.
+QString captionFor(const QString &identifier)
+{
+    const QString wellKnown = WellKnownGuess::captionOf(identifier);
+    // A path of captions ends with the command's own.
+    return wellKnown.isEmpty() ? identifier.section(QLatin1Char('/'), -1) : wellKnown;
+}
+
+} // namespace
+
+QMap<QString, QString> expectedCommands(const QHash<QString, QStringList> &wellKnown,
+                                        const SettingsFile::Values &settings)
+{
+    QMap<QString, QString> expected;
+    for (auto it = wellKnown.begin(); it != wellKnown.end(); ++it)
+        expected.insert(it.key(), captionFor(it.key()));
+    // Bindings are the settings whose keys are numbers, one for each direction.
+    const QString section = QStringLiteral("GestureWidget/");
+    for (auto it = settings.begin(); it != settings.end(); ++it) {
+        bool isBinding = false;
+        if (it.key().startsWith(section))
+            static_cast<void>(
+                it.key().mid(section.size()).toUInt(&isBinding)); // clazy:exclude=qstring-ref
+        if (isBinding && !it.value().isEmpty())
+            expected.insert(it.value(), captionFor(it.value()));
+    }
+    return expected;
+}
+
+} // namespace gesturewidget

@@ -1,0 +1,146 @@
+#include "host/documents/DocumentManager.h"
+
+#include "host/documents/StandInWidget.h"
+#include "sdk/chx/CHxDocumentManagerReactor.h"
+#include "sdk/chx/CHxString.h"
+#include "sdk/od/OdRxObjectImpl.h"
+
+#include <QApplication>
+
+namespace gesturewidget {
+
+// Documents are kept until the manager goes, so a list of them cannot dangle while one
+// walks; closed ones are passed over.
+class DocumentManager::Iterator : public CHxDocumentIterator
+{
+public:
+    explicit Iterator(const std::vector<std::unique_ptr<Document>> &documents)
+    {
+        for (const auto &document : documents)
+            m_documents.append(document.get());
+        skipClosed();
+    }
+
+    [[nodiscard]] bool done() const override { return m_index >= m_documents.size(); }
+    void next() override
+    {
+        if (!done())
+            ++m_index;
+        skipClosed();
+    }
+    [[nodiscard]] CHxDocument *object() const override
+    {
+        return done() || !m_documents.at(m_index)->isOpen() ? nullptr : m_documents.at(m_index);
+    }
+
+private:
+    void skipClosed()
+    {
+        while (!done() && !m_documents.at(m_index)->isOpen())
+            ++m_index;
+    }
+
+    QVector<Document *> m_documents;
+    int m_index = 0;
+};
+
+DocumentManager::DocumentManager() = default;
+
+DocumentManager::~DocumentManager()
+{
+    releaseStandIn();
+}
+
+void DocumentManager::AddReactor(CHxDocumentManagerReactor *reactor)
+{
+    if (reactor && !m_reactors.contains(reactor))
+        m_reactors.append(reactor);
+}
+
+void DocumentManager::RemoveReactor(CHxDocumentManagerReactor *reactor)
+{
+    m_reactors.removeAll(reactor);
+}
+
+CHxDocumentIteratorPtr DocumentManager::NewIterator()
+{
+    return CHxDocumentIteratorPtr(new OdRxObjectImpl<Iterator>(m_documents), kOdRxAttach);
+}
+
+template <class Notification> void DocumentManager::notify(Notification notification)
+{
+    const QVector<CHxDocumentManagerReactor *> reactors = m_reactors;
+    for (CHxDocumentManagerReactor *reactor : reactors) {
+        if (m_reactors.contains(reactor))
+            notification(*reactor);
+    }
+}
+
+Document *DocumentManager::open(QWidget *view)
+{
+    if (Document *known = documentOf(view))
+        return known;
+    m_documents.push_back(std::make_unique<Document>(view, [this] { return standIn(); }));
+    Document *document = m_documents.back().get();
+    m_byView.insert(view, document);
+    m_lastAsked = nullptr;
+    m_lastAnswer = nullptr;
+    m_activated.prepend(document);
+    connect(view, &QObject::destroyed, this, [this, document] { close(document); });
+
+    notify([document](CHxDocumentManagerReactor &r) { r.DocumentCreateStarted(document); });
+    notify([document](CHxDocumentManagerReactor &r) { r.DatabaseAttached(document); });
+    notify([document](CHxDocumentManagerReactor &r) { r.DocumentCreated(document); });
+    if (!m_active || !m_active->isOpen())
+        activate(document);
+    return document;
+}
+
+void DocumentManager::activate(Document *document)
+{
+    if (document == m_active || !document || !document->isOpen())
+        return;
+    Document *previous = m_active;
+    if (previous && previous->isOpen())
+        notify([previous](CHxDocumentManagerReactor &r) { r.DocumentToBeDeactivated(previous); });
+    notify([document](CHxDocumentManagerReactor &r) { r.DocumentToBeActivated(document); });
+    m_active = document;
+    m_activated.removeAll(document);
+    m_activated.append(document);
+    notify([document](CHxDocumentManagerReactor &r) { r.DocumentActivated(document); });
+    notify([document](CHxDocumentManagerReactor &r) { r.DocumentBecameCurrent(document); });
+}
+
+void DocumentManager::close(Document *document)
+{
+    if (!document->isOpen())
+        return;
+    Q_EMIT documentAboutToClose(document);
+    notify([document](CHxDocumentManagerReactor &r) { r.DocumentToBeDestroyed(document); });
+    notify([document](CHxDocumentManagerReactor &r) { r.DatabaseDetached(document); });
+    m_byView.remove(m_byView.key(document));
+    m_lastAsked = nullptr;
+    m_lastAnswer = nullptr;
+    m_activated.removeAll(document);
+    document->close();
+    notify([document](CHxDocumentManagerReactor &r) { r.DocumentDestroyed(document, CHxString()); });
+    if (document == m_active && !m_activated.isEmpty())
+        activate(m_activated.last());
+}
+
+QWidget *DocumentManager::standIn()
+{
+    if (!m_standIn)
+        m_standIn = new StandInWidget;
+    return m_standIn;
+}
+
+void DocumentManager::releaseStandIn()
+{
+    // Once the application is gone, so are its widgets' means to be destroyed.
+    if (QCoreApplication::instance())
+        delete m_standIn.data();
+    m_standIn.clear();
+}
+
+} // namespace gesturewidget

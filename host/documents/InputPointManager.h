@@ -1,0 +1,34 @@
+#pragma once
+
+#include "sdk/chx/CHxInputPointManager.h"
+
+#include <vector>
+
+class CHxHitTestInfo;
+
+namespace gesturewidget {
+
+// The trackers of one document.
+class InputPointManager : public CHxInputPointManager
+{
+public:
+    InputPointManager();
+    ~InputPointManager() override;
+
+    // Null is ignored.
+    void AddTracker(CHxTracker *tracker, int flags) override;
+    void RemoveTracker(CHxTracker *tracker) override;
+
+    [[nodiscard]] bool hasTrackers() const;
+    // Shows the event to every tracker in turn and lets those that are eager act.
+    // Allocates nothing; trackers may come and go meanwhile: one that went is not called
+    // any more, one that came hears of the next event.
+    void dispatch(CHxHitTestInfo &hit);
+
+private:
+    std::vector<CHxTracker *> m_trackers; // with null in place of those that go during a dispatch
+    int m_dispatches = 0; // that are under way
+    bool m_hasGaps = false;
+};
+
+} // namespace gesturewidget

@@ -1,0 +1,252 @@
+#include "host/explain/Explanation.h"
+
+#include "host/commands/CommandCatalogue.h"
+#include "host/commands/WellKnownGuess.h"
+#include "host/documents/ViewGuess.h"
+#include "host/files/ExplanationChannel.h"
+#include "host/menus/ToolsMenu.h"
+#include "host/services/SystemServices.h"
+#include "host/window/Captions.h"
+
+#include <QAbstractScrollArea>
+#include <QApplication>
+#include <QFileInfo>
+#include <QJsonArray>
+
+#include <dlfcn.h>
+
+#include <algorithm>
+
+namespace gesturewidget {
+namespace {
+
+// Milliseconds in which more that has changed goes into one report.
+constexpr int kGatherTime = 100;
+// So many widgets that are no views are named, the largest ones.
+constexpr int kMostOthers = 5;
+
+QString classOf(const QWidget *widget)
+{
+    return QString::fromLatin1(widget->metaObject()->className());
+}
+
+// Whether the widget's class is one of Qt's, as that of a widget without Q_OBJECT seems to be.
+bool isOfQt(const QWidget *widget)
+{
+    Dl_info info = {};
+    return dladdr(widget->metaObject(), &info) && info.dli_fname
+        && QFileInfo(QFile::decodeName(info.dli_fname)).fileName().startsWith(QLatin1String("libQt"));
+}
+
+// The widget to be judged: of a scroll area's viewport the area.
+QWidget *judgedFor(QWidget *view)
+{
+    auto *area = qobject_cast<QAbstractScrollArea *>(view->parentWidget());
+    return area && area->viewport() == view ? area : view;
+}
+
+QString describe(const QString &className, const QString &name)
+{
+    return name.isEmpty() ? className : QStringLiteral("%1 \"%2\"").arg(className, name);
+}
+
+// Why an action was taken for a well-known one. A guess is made once: at later starts the
+// command is remembered, and has no reason.
+QString guessReason(const ActionItem &item, const QString &identifier, const QString &known)
+{
+    if (!known.isEmpty())
+        return known;
+    const QVector<WellKnownGuess> again = WellKnownGuess::among({item.action()}, {identifier});
+    return again.isEmpty() ? QStringLiteral("it was taken for it at an earlier start")
+                           : again.first().reason;
+}
+
+} // namespace
+
+void Explanation::Findings::add(const QString &what, const QString &text)
+{
+    lines.append(QStringLiteral("%1 %2").arg(what + QLatin1Char(':'), -15).arg(text).simplified());
+}
+
+Explanation::Explanation(int socket, QMainWindow *window, const ProgramProfile &profile,
+                         SystemServices &services)
+    : m_socket(socket)
+    , m_window(window)
+    , m_profile(profile)
+    , m_services(services)
+{
+    m_soon.setSingleShot(true);
+    m_soon.setInterval(kGatherTime);
+    connect(&m_soon, &QTimer::timeout, this, &Explanation::tellNow);
+    connect(&services.catalogue(), &CommandCatalogue::menusChanged, this, &Explanation::tellSoon);
+}
+
+Explanation::~Explanation() = default;
+
+void Explanation::addView(QWidget *view)
+{
+    QWidget *judged = judgedFor(view);
+    const bool isKnown = std::any_of(m_views.begin(), m_views.end(),
+                                     [judged](const View &known) { return known.widget == judged; });
+    if (isKnown)
+        return;
+    QString reason;
+    for (const QString &name : std::as_const(m_profile.viewClasses)) {
+        if (reason.isEmpty() && judged->inherits(name.toLatin1().constData()))
+            reason = QStringLiteral("the profile names its class %1").arg(name);
+    }
+    if (reason.isEmpty())
+        reason = ViewGuess::of(judged).reason;
+    m_views.append({judged, classOf(judged), judged->objectName(), reason, isOfQt(judged)});
+    tellSoon();
+}
+
+void Explanation::menusSettled()
+{
+    m_isSettled = true;
+    tellSoon();
+}
+
+void Explanation::tellSoon()
+{
+    if (m_isSettled && !m_soon.isActive())
+        m_soon.start();
+}
+
+void Explanation::tellNow()
+{
+    const QJsonObject now = report();
+    if (now == m_told || !m_window)
+        return;
+    m_told = now;
+    tell(m_socket, now);
+}
+
+QJsonObject Explanation::report()
+{
+    Findings findings;
+    findings.profile = m_profile;
+    if (m_window)
+        findings.add(QStringLiteral("window"), describe(classOf(m_window), m_window->objectName()));
+    explainViews(findings);
+    explainToolsMenu(findings);
+    explainCommands(findings);
+    QJsonObject profile = findings.profile.toJson();
+    profile.insert(QStringLiteral("why"), findings.why);
+    return {{QStringLiteral("profile"), profile},
+            {QStringLiteral("lines"), QJsonArray::fromStringList(findings.lines)},
+            {QStringLiteral("views"), static_cast<int>(m_views.size())}};
+}
+
+void Explanation::explainViews(Findings &findings) const
+{
+    QJsonObject reasons;
+    QStringList classes = m_profile.viewClasses;
+    bool areAllNamed = true;
+    for (const View &view : m_views) {
+        findings.add(
+            QStringLiteral("view"),
+            QStringLiteral("%1, since %2").arg(describe(view.className, view.name), view.reason));
+        reasons.insert(view.className, view.reason);
+        areAllNamed = areAllNamed && !view.isQtsOwn;
+        if (m_profile.viewClasses.isEmpty() && !classes.contains(view.className))
+            classes.append(view.className);
+    }
+    if (m_views.isEmpty()) {
+        findings.add(QStringLiteral("view"), QStringLiteral("none, perhaps before a drawing is open"));
+        explainOthers(findings);
+    }
+    if (m_profile.viewClasses.isEmpty() && !areAllNamed) {
+        // A profile that named such a class would mean other widgets of it as well.
+        classes.clear();
+        const QString note = QStringLiteral("left to be guessed, a class of Qt's own says too little");
+        findings.add(QStringLiteral("view classes"), note);
+        reasons.insert(QStringLiteral("viewClasses"), note);
+    }
+    classes.sort();
+    findings.profile.viewClasses = classes;
+    findings.why.insert(QStringLiteral("views"), reasons);
+}
+
+void Explanation::explainOthers(Findings &findings) const
+{
+    QVector<const QWidget *> others;
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (const QWidget *widget : widgets) {
+        if (m_window && m_window->isAncestorOf(widget) && widget->isVisible()
+            && widget->width() >= ViewGuess::kSmallest && widget->height() >= ViewGuess::kSmallest)
+            others.append(widget);
+    }
+    const auto area = [](const QWidget *widget) { return widget->width() * widget->height(); };
+    std::sort(others.begin(), others.end(), [&area](const QWidget *a, const QWidget *b) {
+        return area(a) != area(b) ? area(a) > area(b) : classOf(a) < classOf(b);
+    });
+    for (int i = 0; i < others.size() && i < kMostOthers; ++i) {
+        const QWidget *other = others.at(i);
+        findings.add(QStringLiteral("no view"), QStringLiteral("%1, since %2")
+                                                    .arg(describe(classOf(other), other->objectName()),
+                                                         ViewGuess::of(other).reason));
+    }
+}
+
+void Explanation::explainToolsMenu(Findings &findings) const
+{
+    const ToolsMenu &tools = m_services.toolsMenu();
+    const QMenu *menu = tools.find();
+    QString name;
+    QString reason;
+    if (!menu || menu == tools.made()) {
+        reason = QStringLiteral("one is made, since no menu of the menu bar is called Tools");
+    } else {
+        const QString caption = plainCaption(menu->title());
+        name = menu->objectName().isEmpty() ? caption : menu->objectName();
+        const bool isNamed =
+            !m_profile.toolsMenu.isEmpty()
+            && (menu->objectName() == m_profile.toolsMenu || caption == m_profile.toolsMenu);
+        if (isNamed)
+            reason = QStringLiteral("the profile names it");
+        else if (menuRole(menu->objectName()) == QLatin1String("tools"))
+            reason = QStringLiteral("its object name says so");
+        else
+            reason = QStringLiteral("its caption \"%1\" says so").arg(caption);
+    }
+    findings.add(QStringLiteral("Tools menu"),
+                 name.isEmpty() ? reason : QStringLiteral("%1, since %2").arg(name, reason));
+    findings.why.insert(QStringLiteral("toolsMenu"), reason);
+    findings.profile.toolsMenu = name;
+}
+
+void Explanation::explainCommands(Findings &findings)
+{
+    CommandCatalogue &catalogue = m_services.catalogue();
+    catalogue.update();
+    QStringList identifiers = WellKnownGuess::identifiers() + m_profile.wellKnownCommands.keys();
+    identifiers.removeDuplicates();
+    identifiers.sort();
+    QJsonObject reasons;
+    for (const QString &identifier : std::as_const(identifiers)) {
+        const QStringList named = m_profile.wellKnownCommands.value(identifier);
+        const ActionItem *item = catalogue.findUsable(identifier);
+        const bool isThere = item && item->action();
+        const QString key = isThere ? item->key() : QString();
+        QString reason;
+        if (!named.isEmpty())
+            reason = isThere ? QStringLiteral("the profile names it")
+                             : QStringLiteral("the profile names %1, which is not there at the moment")
+                                   .arg(named.join(QLatin1String(", ")));
+        else if (isThere && key == identifier)
+            reason = QStringLiteral("the action itself is called so");
+        else if (isThere)
+            reason = guessReason(*item, identifier, catalogue.reasonFor(identifier));
+        else
+            reason = QStringLiteral("no shortcut, icon, object name or caption speaks for an action");
+        if (named.isEmpty() && isThere && key != identifier)
+            findings.profile.wellKnownCommands.insert(identifier, {key});
+        findings.add(identifier, isThere ? QStringLiteral("%1, since %2").arg(key, reason)
+                                         : QStringLiteral("none, since %1").arg(reason));
+        reasons.insert(identifier, reason);
+    }
+    findings.why.insert(QStringLiteral("wellKnownCommands"), reasons);
+}
+
+} // namespace gesturewidget

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "host/files/ProgramProfile.h"
+
+#include <QJsonObject>
+#include <QMainWindow>
+#include <QObject>
+#include <QPointer>
+#include <QStringList>
+#include <QTimer>
+#include <QVector>
+
+namespace gesturewidget {
+
+class CommandCatalogue;
+class SystemServices;
+
+// Tells what the host takes for what in a program that nobody has described, and why: for a
+// person to check, and as a profile that says the same.
+class Explanation : public QObject
+{
+    Q_OBJECT
+
+public:
+    // `socket`: see ExplanationChannel.h; not owned. The others must outlive this.
+    Explanation(int socket, QMainWindow *window, const ProgramProfile &profile,
+                SystemServices &services);
+    ~Explanation() override;
+
+    // A view was found, the widget that takes the pointer. Once more does nothing.
+    void addView(QWidget *view);
+    // The menus are complete. Nothing is told before.
+    void menusSettled();
+
+    // What is known at the moment, as ExplanationChannel.h has it.
+    [[nodiscard]] QJsonObject report();
+
+private:
+    struct View
+    {
+        QPointer<QWidget> widget;
+        QString className;
+        QString name; // may be empty
+        QString reason;
+        bool isQtsOwn; // its class is one of Qt's, which other widgets are of too
+    };
+
+    // What was found so far, gathered for one report.
+    struct Findings
+    {
+        ProgramProfile profile;
+        QJsonObject why;
+        QStringList lines;
+
+        void add(const QString &what, const QString &text);
+    };
+
+    void tellSoon();
+    void tellNow();
+    void explainViews(Findings &findings) const;
+    void explainOthers(Findings &findings) const;
+    void explainToolsMenu(Findings &findings) const;
+    void explainCommands(Findings &findings);
+
+    int m_socket;
+    QPointer<QMainWindow> m_window;
+    ProgramProfile m_profile;
+    SystemServices &m_services;
+    QVector<View> m_views;
+    QJsonObject m_told;
+    bool m_isSettled = false;
+    QTimer m_soon;
+};
+
+} // namespace gesturewidget

@@ -1,0 +1,295 @@
+#include "host/files/CatalogueFile.h"
+
+#include "host/files/Complaint.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLockFile>
+#include <QSaveFile>
+
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace gesturewidget {
+namespace {
+
+constexpr int kVersion = 1;
+
+// Milliseconds. Others hold the file for as long as it takes to write it; who comes too late
+// has another chance when menus change again.
+constexpr int kLockPatience = 500;
+// Milliseconds after which a lock that says nothing of its owner counts as left behind, as by
+// one who was ended while making it. Whose owner is known goes with that.
+constexpr int kStaleLockAge = 5000;
+
+const QLatin1String kVersionKey("version");
+const QLatin1String kCommandsKey("commands");
+const QLatin1String kIdentifierKey("identifier");
+const QLatin1String kCommandKey("command");
+const QLatin1String kCaptionKey("caption");
+const QLatin1String kTipKey("tip");
+const QLatin1String kGroupKey("group");
+const QLatin1String kIconKey("icon");
+const QLatin1String kToolBarKey("toolbar");
+
+// An identifier that was cut off would be another one.
+bool isAcceptable(const RememberedCommand &command)
+{
+    return !command.identifier.isEmpty() && command.identifier.size() <= CatalogueFile::kMaximalText
+        && command.command.size() <= CatalogueFile::kMaximalText;
+}
+
+RememberedCommand bounded(const RememberedCommand &command)
+{
+    RememberedCommand result = command;
+    for (QString *text : {&result.caption, &result.tip, &result.group})
+        text->truncate(CatalogueFile::kMaximalText);
+    if (result.icon.size() > CatalogueFile::kMaximalIcon)
+        result.icon.clear();
+    return result;
+}
+
+RememberedCommand fromJson(const QJsonObject &object)
+{
+    const auto text = [&object](QLatin1String key) { return object.value(key).toString(); };
+    return bounded({text(kIdentifierKey), text(kCommandKey), text(kCaptionKey), text(kTipKey),
+                    text(kGroupKey), QByteArray::fromBase64(text(kIconKey).toLatin1()),
+                    object.value(kToolBarKey).toBool()});
+}
+
+QJsonObject toJson(const RememberedCommand &command)
+{
+    QJsonObject object;
+    const auto insert = [&object](QLatin1String key, const QString &text) {
+        if (!text.isEmpty())
+            object.insert(key, text);
+    };
+    insert(kIdentifierKey, command.identifier);
+    insert(kCommandKey, command.command);
+    insert(kCaptionKey, command.caption);
+    insert(kTipKey, command.tip);
+    insert(kGroupKey, command.group);
+    insert(kIconKey, QString::fromLatin1(command.icon.toBase64()));
+    if (command.isInToolBar)
+        object.insert(kToolBarKey, true);
+    return object;
+}
+
+// A line for each command, for people who look into it.
+QByteArray textOf(const QVector<RememberedCommand> &commands)
+{
+    QByteArray text = "{\n\"version\": " + QByteArray::number(kVersion) + ",\n\"commands\": [";
+    const char *separator = "\n";
+    for (const RememberedCommand &command : commands) {
+        text += separator + QJsonDocument(toJson(command)).toJson(QJsonDocument::Compact);
+        separator = ",\n";
+    }
+    return text + "\n]\n}\n";
+}
+
+// Brings `known` up to date. Whether that changed anything.
+bool update(RememberedCommand &known, const RememberedCommand &seen)
+{
+    RememberedCommand updated = seen;
+    if (updated.tip.isEmpty())
+        updated.tip = known.tip;
+    if (updated.caption.isEmpty())
+        updated.caption = known.caption;
+    if (updated.group.isEmpty())
+        updated.group = known.group;
+    if (updated.command.isEmpty())
+        updated.command = known.command;
+    if (updated.icon.isEmpty())
+        updated.icon = known.icon;
+    if (updated == known)
+        return false;
+    known = updated;
+    return true;
+}
+
+bool apply(QVector<RememberedCommand> &commands, const QVector<RememberedCommand> &seen,
+           const QStringList &gone)
+{
+    QHash<QString, int> places;
+    for (int i = 0; i < commands.size(); ++i)
+        places.insert(commands.at(i).identifier, i);
+    QVector<bool> isGone(commands.size(), false);
+    for (const QString &identifier : gone) {
+        const int place = places.value(identifier, -1);
+        if (place >= 0)
+            isGone[place] = true;
+    }
+    bool hasChanged = false;
+    for (const RememberedCommand &command : seen) {
+        if (!isAcceptable(command))
+            continue;
+        const int place = places.value(command.identifier, -1);
+        if (place >= 0) {
+            hasChanged |= update(commands[place], bounded(command));
+            isGone[place] = false;
+        } else if (commands.size() < CatalogueFile::kMaximalCount) {
+            places.insert(command.identifier, int(commands.size()));
+            commands.append(bounded(command));
+            isGone.append(false);
+            hasChanged = true;
+        }
+    }
+    QVector<RememberedCommand> kept;
+    kept.reserve(commands.size());
+    for (int i = 0; i < commands.size(); ++i) {
+        if (!isGone.at(i))
+            kept.append(commands.at(i));
+    }
+    hasChanged |= kept.size() != commands.size();
+    commands = kept;
+    return hasChanged;
+}
+
+} // namespace
+
+CatalogueFile::CatalogueFile(const QString &path)
+    : m_path(path)
+{
+}
+
+QVector<RememberedCommand> CatalogueFile::read()
+{
+    return m_path.isEmpty() ? QVector<RememberedCommand>() : lastGood().commands;
+}
+
+bool CatalogueFile::merge(const QVector<RememberedCommand> &seen, const QStringList &gone)
+{
+    if (m_path.isEmpty())
+        return false;
+    QDir().mkpath(QFileInfo(m_path).absolutePath());
+    QLockFile lock(m_path + QLatin1String(".lock"));
+    lock.setStaleLockTime(kStaleLockAge);
+    if (!lock.tryLock(kLockPatience)) {
+        if (lock.error() != QLockFile::LockFailedError)
+            complainOnce(QStringLiteral("%1 cannot be written, new commands are forgotten").arg(m_path));
+        return false;
+    }
+    Content content = lastGood();
+    if (content.state == State::Foreign)
+        return false;
+    const bool hasChanged = apply(content.commands, seen, gone);
+    if (!hasChanged && content.state != State::Damaged)
+        return true;
+    if (store(content.commands, content.state))
+        return true;
+    complainOnce(QStringLiteral("%1 cannot be written, new commands are forgotten").arg(m_path));
+    return false;
+}
+
+CatalogueFile::Content CatalogueFile::lastGood()
+{
+    Content content = contentOf(m_path);
+    if (content.state == State::Foreign) {
+        complainOnce(m_path + QLatin1Char(' ') + content.problem);
+    } else if (content.state == State::Damaged) {
+        const Content backup = contentOf(backupPath());
+        if (backup.state == State::Good) {
+            complainOnce(QStringLiteral("%1 is damaged, %2 is used").arg(m_path, backupPath()));
+            content.commands = backup.commands;
+        } else {
+            complainOnce(QStringLiteral("%1 is damaged, and there is no good copy of it").arg(m_path));
+        }
+    }
+    return content;
+}
+
+CatalogueFile::Content CatalogueFile::contentOf(const QString &path)
+{
+    Content foreign{State::Foreign, {}, QStringLiteral("cannot be read, its commands are not offered")};
+    struct stat status = {};
+    if (::stat(QFile::encodeName(path).constData(), &status) != 0)
+        return errno == ENOENT || errno == ENOTDIR ? Content() : foreign;
+    if (S_ISREG(status.st_mode) && status.st_size > kMaximalSize) {
+        foreign.problem = QStringLiteral("is too large, its commands are not offered");
+        return foreign;
+    }
+    QFile file(path);
+    if (!S_ISREG(status.st_mode) || !file.open(QIODevice::ReadOnly))
+        return foreign;
+    const QByteArray text = file.read(kMaximalSize);
+    return file.error() == QFileDevice::NoError ? parsed(text) : foreign;
+}
+
+CatalogueFile::Content CatalogueFile::parsed(const QByteArray &text)
+{
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(text, &error);
+    if (error.error != QJsonParseError::NoError)
+        return {State::Damaged, {}, {}};
+    const QJsonObject object = document.object();
+    const int version = object.value(kVersionKey).toInt();
+    if (version > kVersion)
+        return {State::Foreign,
+                {},
+                QStringLiteral("is of a later version (%1), its commands are not offered").arg(version)};
+    if (version < 1 || !object.value(kCommandsKey).isArray())
+        return {State::Foreign, {}, QStringLiteral("is no list of commands and is left alone")};
+    Content content{State::Good, {}, {}};
+    QHash<QString, bool> known;
+    const QJsonArray commands = object.value(kCommandsKey).toArray();
+    for (const QJsonValue &value : commands) {
+        const RememberedCommand command = fromJson(value.toObject());
+        if (!isAcceptable(command) || known.contains(command.identifier))
+            continue;
+        if (content.commands.size() == kMaximalCount)
+            break;
+        known.insert(command.identifier, true);
+        content.commands.append(command);
+    }
+    return content;
+}
+
+bool CatalogueFile::store(const QVector<RememberedCommand> &commands, State before)
+{
+    QByteArray text = textOf(commands);
+    if (text.size() > kMaximalSize) {
+        QVector<RememberedCommand> plain = commands;
+        for (RememberedCommand &command : plain)
+            command.icon.clear();
+        text = textOf(plain);
+    }
+    QSaveFile file(m_path);
+    // commit() overlooks that what was left in the buffer did not fit on the disk.
+    if (text.size() > kMaximalSize || !file.open(QIODevice::WriteOnly) || file.write(text) != text.size()
+        || !file.flush())
+        return false;
+    if (before == State::Damaged) {
+        const QString kept = m_path + QLatin1String(".damaged");
+        QFile::remove(kept);
+        QFile::copy(m_path, kept);
+    } else if (before == State::Good) {
+        // The old file under a second name, which costs nothing: it is replaced, not changed.
+        const QByteArray backup = QFile::encodeName(backupPath());
+        ::unlink(backup.constData());
+        static_cast<void>(::linkat(AT_FDCWD, QFile::encodeName(m_path).constData(), AT_FDCWD,
+                                   backup.constData(), AT_SYMLINK_FOLLOW));
+    }
+    return file.commit();
+}
+
+QString CatalogueFile::backupPath() const
+{
+    return m_path + QLatin1String(".bak");
+}
+
+void CatalogueFile::complainOnce(const QString &line)
+{
+    if (!m_hasComplained)
+        complain(line);
+    m_hasComplained = true;
+}
+
+} // namespace gesturewidget

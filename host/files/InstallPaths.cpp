@@ -1,0 +1,120 @@
+#include "host/files/InstallPaths.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QStandardPaths>
+
+#include <dlfcn.h>
+
+namespace gesturewidget {
+namespace {
+
+// The folder of the file that this code was loaded from.
+QDir libraryFolder()
+{
+    Dl_info info = {};
+    static const char inThisFile = 0;
+    if (!dladdr(&inThisFile, &info) || !info.dli_fname)
+        return QDir(QCoreApplication::applicationDirPath());
+    return QFileInfo(QFile::decodeName(info.dli_fname)).absoluteDir();
+}
+
+QString configFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
+         + QLatin1String("/gesturewidget");
+}
+
+// Scripts often start a program that lies beside them under their own name with an ending;
+// people know the script.
+QString withoutEnding(const QString &name)
+{
+    for (const char *ending : {".bin", "-bin", ".real", ".py"}) {
+        if (name.endsWith(QLatin1String(ending)) && name.size() > int(qstrlen(ending)))
+            return name.chopped(int(qstrlen(ending)));
+    }
+    return name;
+}
+
+// The file of such a program is that of all programs in its language.
+bool isInterpreter(const QString &name)
+{
+    static const QRegularExpression interpreter(QStringLiteral("^(python|pypy)[0-9.]*$"));
+    return interpreter.match(name).hasMatch();
+}
+
+} // namespace
+
+QString chooseProgramName(const QString &typed, const QString &file, const QStringList &folders)
+{
+    QStringList names{QFileInfo(typed).fileName().toLower(), QFileInfo(file).fileName().toLower()};
+    const bool isScript = isInterpreter(names.last()) && !names.first().isEmpty();
+    names.append(withoutEnding(isScript ? names.first() : names.last()));
+    for (const QString &name : names) {
+        for (const QString &folder : folders) {
+            if (!name.isEmpty() && !folder.isEmpty()
+                && QFileInfo::exists(QDir(folder).filePath(name + QLatin1String(".json"))))
+                return name;
+        }
+    }
+    return names.last();
+}
+
+QString programName()
+{
+    return chooseProgramName(QCoreApplication::arguments().value(0),
+                             QCoreApplication::applicationFilePath(), profileFolders());
+}
+
+QString moduleFile()
+{
+    return libraryFolder().filePath(
+        QStringLiteral("gesturewidget-module-qt%1.so").arg(QT_VERSION_MAJOR));
+}
+
+QString settingsFile(const QString &program)
+{
+    return QStringLiteral("%1/%2.ini").arg(configFolder(), program);
+}
+
+QString catalogueFile(const QString &program)
+{
+    return catalogueFileBeside(settingsFile(program));
+}
+
+QString catalogueFileBeside(const QString &settings)
+{
+    const QLatin1String suffix(".ini");
+    const QString stem = settings.endsWith(suffix) ? settings.chopped(suffix.size()) : settings;
+    return stem.isEmpty() ? QString() : stem + QLatin1String(".commands.json");
+}
+
+QString ownProfileFile(const QString &program)
+{
+    return QStringLiteral("%1/profiles/%2.json").arg(configFolder(), program);
+}
+
+QStringList profileFolders()
+{
+    return profileFolders(libraryFolder());
+}
+
+QStringList profileFolders(const QDir &folder)
+{
+    QStringList folders = qEnvironmentVariable("GESTUREWIDGET_PROFILES").split(QLatin1Char(':'));
+    folders.removeAll(QString());
+    folders.append(configFolder() + QLatin1String("/profiles"));
+    // A library is in lib/ or, by its architecture, one folder below it; a program in bin/.
+    for (const char *up : {"..", "../.."}) {
+        const QString path =
+            folder.filePath(QLatin1String(up) + QLatin1String("/share/gesturewidget/profiles"));
+        if (QFileInfo(path).isDir())
+            folders.append(QDir::cleanPath(path));
+    }
+    return folders;
+}
+
+} // namespace gesturewidget

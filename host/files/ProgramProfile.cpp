@@ -1,0 +1,254 @@
+#include "host/files/ProgramProfile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace gesturewidget {
+namespace {
+
+// Far more than any profile needs; keeps a wrong file from filling the memory.
+constexpr qint64 kMaximalSize = qint64(1024) * 1024;
+constexpr int kVersion = 1;
+
+// Reads one object member by member and remembers the first thing that is wrong.
+class Reader
+{
+public:
+    explicit Reader(const QByteArray &text)
+    {
+        QJsonParseError parsing;
+        const QJsonDocument document = QJsonDocument::fromJson(text, &parsing);
+        if (parsing.error != QJsonParseError::NoError)
+            fail(QStringLiteral("%1 at byte %2").arg(parsing.errorString()).arg(parsing.offset));
+        else if (!document.isObject())
+            fail(QStringLiteral("it is not an object"));
+        m_object = document.object();
+    }
+    Reader(const QJsonObject &object, const QString &path)
+        : m_object(object)
+        , m_path(path)
+    {
+    }
+
+    [[nodiscard]] QString problem() const { return m_problem; }
+    void fail(const QString &problem)
+    {
+        if (m_problem.isEmpty())
+            m_problem = problem;
+    }
+
+    void allow(const QStringList &keys)
+    {
+        const QStringList present = m_object.keys();
+        for (const QString &key : present) {
+            if (!keys.contains(key))
+                fail(QStringLiteral("unknown key \"%1\"").arg(m_path + key));
+        }
+    }
+
+    QString string(const QString &key)
+    {
+        const QJsonValue value = m_object.value(key);
+        if (!value.isUndefined() && !value.isString())
+            fail(QStringLiteral("\"%1\" is not a string").arg(m_path + key));
+        return value.toString();
+    }
+
+    // A list of names, or one name alone.
+    QStringList namesOf(const QString &key)
+    {
+        return m_object.value(key).isArray() ? strings(key) : QStringList(string(key));
+    }
+
+    QStringList strings(const QString &key)
+    {
+        const QJsonValue value = m_object.value(key);
+        if (!value.isUndefined() && !value.isArray())
+            fail(QStringLiteral("\"%1\" is not a list").arg(m_path + key));
+        QStringList list;
+        const QJsonArray array = value.toArray();
+        for (const QJsonValue &entry : array) {
+            if (!entry.isString() || entry.toString().isEmpty())
+                fail(QStringLiteral("\"%1\" holds something that is not a name").arg(m_path + key));
+            list.append(entry.toString());
+        }
+        return list;
+    }
+
+    QJsonObject object(const QString &key)
+    {
+        const QJsonValue value = m_object.value(key);
+        if (!value.isUndefined() && !value.isObject())
+            fail(QStringLiteral("\"%1\" is not an object").arg(m_path + key));
+        return value.toObject();
+    }
+
+    QJsonValue value(const QString &key) const { return m_object.value(key); }
+    QStringList keys() const { return m_object.keys(); }
+
+private:
+    QJsonObject m_object;
+    QString m_path;
+    QString m_problem;
+};
+
+const QHash<QString, Qt::MouseButton> &buttonNames()
+{
+    static const QHash<QString, Qt::MouseButton> buttons{
+        {QStringLiteral("left"), Qt::LeftButton},       {QStringLiteral("middle"), Qt::MiddleButton},
+        {QStringLiteral("right"), Qt::RightButton},     {QStringLiteral("back"), Qt::BackButton},
+        {QStringLiteral("forward"), Qt::ForwardButton},
+    };
+    return buttons;
+}
+
+const QHash<QString, Qt::KeyboardModifier> &modifierNames()
+{
+    static const QHash<QString, Qt::KeyboardModifier> modifiers{
+        {QStringLiteral("shift"), Qt::ShiftModifier},
+        {QStringLiteral("control"), Qt::ControlModifier},
+        {QStringLiteral("alt"), Qt::AltModifier},
+        {QStringLiteral("meta"), Qt::MetaModifier},
+    };
+    return modifiers;
+}
+
+void readTrigger(Reader &profileReader, ProgramProfile &profile)
+{
+    const QHash<QString, Qt::MouseButton> &buttons = buttonNames();
+    const QHash<QString, Qt::KeyboardModifier> &modifiers = modifierNames();
+    Reader reader(profileReader.object(QStringLiteral("trigger")), QStringLiteral("trigger."));
+    reader.allow({QStringLiteral("button"), QStringLiteral("modifiers")});
+    const QString button = reader.string(QStringLiteral("button"));
+    if (!reader.value(QStringLiteral("button")).isUndefined() && !buttons.contains(button))
+        reader.fail(QStringLiteral("\"trigger.button\" names no mouse button: \"%1\"").arg(button));
+    profile.triggerButton = buttons.value(button, profile.triggerButton);
+    const QStringList names = reader.strings(QStringLiteral("modifiers"));
+    for (const QString &name : names) {
+        if (!modifiers.contains(name))
+            reader.fail(QStringLiteral("\"trigger.modifiers\" names no key: \"%1\"").arg(name));
+        profile.triggerModifiers |= modifiers.value(name, Qt::NoModifier);
+    }
+    if (!reader.problem().isEmpty())
+        profileReader.fail(reader.problem());
+}
+
+void readCommands(Reader &profileReader, ProgramProfile &profile)
+{
+    Reader reader(profileReader.object(QStringLiteral("wellKnownCommands")),
+                  QStringLiteral("wellKnownCommands."));
+    const QStringList identifiers = reader.keys();
+    for (const QString &identifier : identifiers) {
+        const QStringList actions = reader.namesOf(identifier);
+        if (identifier.isEmpty() || actions.isEmpty() || actions.contains(QString()))
+            reader.fail(QStringLiteral("\"wellKnownCommands.%1\" names no action").arg(identifier));
+        profile.wellKnownCommands.insert(identifier, actions);
+    }
+    if (!reader.problem().isEmpty())
+        profileReader.fail(reader.problem());
+}
+
+// Returns what is wrong with the text; empty when `profile` could be filled.
+QString fill(ProgramProfile &profile, const QByteArray &text)
+{
+    Reader reader(text);
+    reader.allow({QStringLiteral("version"), QStringLiteral("program"), QStringLiteral("viewClasses"),
+                  QStringLiteral("trigger"), QStringLiteral("wellKnownCommands"),
+                  QStringLiteral("toolsMenu"), QStringLiteral("commandLineClass"),
+                  QStringLiteral("why")});
+    // For whoever reads the file: what the rest of it was concluded from.
+    static_cast<void>(reader.object(QStringLiteral("why")));
+    const QJsonValue version = reader.value(QStringLiteral("version"));
+    if (!version.isDouble())
+        reader.fail(QStringLiteral("\"version\" is missing or not a number"));
+    else if (version.toDouble() != kVersion)
+        reader.fail(QStringLiteral("version %1 is not known").arg(version.toDouble()));
+    const QString program = reader.string(QStringLiteral("program"));
+    if (program != profile.program)
+        reader.fail(QStringLiteral("\"program\" is \"%1\", not \"%2\"").arg(program, profile.program));
+    profile.viewClasses = reader.strings(QStringLiteral("viewClasses"));
+    readTrigger(reader, profile);
+    readCommands(reader, profile);
+    profile.toolsMenu = reader.string(QStringLiteral("toolsMenu"));
+    profile.commandLineClass = reader.string(QStringLiteral("commandLineClass"));
+    return reader.problem();
+}
+
+// A name that is a file's name and nothing else: profiles come from the given folders only.
+bool isFileName(const QString &program)
+{
+    return !program.isEmpty() && !program.contains(QLatin1Char('/')) && !program.contains(QChar::Null)
+        && !program.startsWith(QLatin1Char('.'));
+}
+
+} // namespace
+
+QJsonObject ProgramProfile::toJson() const
+{
+    QStringList modifiers;
+    for (auto it = modifierNames().cbegin(); it != modifierNames().cend(); ++it) {
+        if (triggerModifiers.testFlag(it.value()))
+            modifiers.append(it.key());
+    }
+    modifiers.sort();
+    QJsonObject trigger;
+    trigger.insert(QStringLiteral("button"), buttonNames().key(triggerButton));
+    trigger.insert(QStringLiteral("modifiers"), QJsonArray::fromStringList(modifiers));
+
+    QJsonObject commands;
+    for (auto it = wellKnownCommands.cbegin(); it != wellKnownCommands.cend(); ++it) {
+        const QStringList &names = it.value();
+        commands.insert(it.key(), names.size() == 1 ? QJsonValue(names.first())
+                                                    : QJsonValue(QJsonArray::fromStringList(names)));
+    }
+
+    return {{QStringLiteral("version"), kVersion},
+            {QStringLiteral("program"), program},
+            {QStringLiteral("viewClasses"), QJsonArray::fromStringList(viewClasses)},
+            {QStringLiteral("trigger"), trigger},
+            {QStringLiteral("wellKnownCommands"), commands},
+            {QStringLiteral("toolsMenu"), toolsMenu},
+            {QStringLiteral("commandLineClass"), commandLineClass}};
+}
+
+ProgramProfile ProgramProfile::forProgram(const QString &program, const QStringList &folders,
+                                          QString *message)
+{
+    if (message)
+        message->clear();
+    ProgramProfile defaults;
+    defaults.program = program;
+    if (!isFileName(program))
+        return defaults;
+    for (const QString &folder : folders) {
+        const QString path = QDir(folder).filePath(program + QLatin1String(".json"));
+        const QFileInfo info(path);
+        if (folder.isEmpty() || !info.exists())
+            continue;
+        QFile file(path);
+        QString problem;
+        ProgramProfile profile = defaults;
+        if (!info.isFile()) // opening a pipe would wait for its writer
+            problem = QStringLiteral("it is not a file");
+        else if (info.size() > kMaximalSize)
+            problem = QStringLiteral("it is too long");
+        else if (!file.open(QIODevice::ReadOnly))
+            problem = file.errorString();
+        else
+            problem = fill(profile, file.read(kMaximalSize));
+        if (problem.isEmpty())
+            return profile;
+        if (message) {
+            const QString line = QStringLiteral("the profile %1 is not used: %2").arg(path, problem);
+            *message = line.simplified();
+        }
+        return defaults;
+    }
+    return defaults;
+}
+
+} // namespace gesturewidget

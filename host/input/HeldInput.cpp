@@ -1,0 +1,112 @@
+#include "host/input/HeldInput.h"
+
+#include <QApplication>
+#include <QtTest/qtestspontaneevent.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace gesturewidget {
+namespace {
+
+// Whether Qt would keep input from the window because of a modal one, see the same
+// question in its own handling of mouse events from the window system.
+bool isBlockedByModal(const QWindow *window)
+{
+    const QWindow *modal = QGuiApplication::modalWindow();
+    if (!modal || modal == window || QApplication::activePopupWidget()
+        || modal->isAncestorOf(window, QWindow::IncludeTransients))
+        return false;
+    if (modal->modality() == Qt::ApplicationModal)
+        return true;
+    const QWindow *top = window;
+    while (top->parent())
+        top = top->parent();
+    return top->isAncestorOf(modal, QWindow::IncludeTransients);
+}
+
+} // namespace
+
+HeldInput::HeldInput() = default;
+HeldInput::~HeldInput() = default;
+
+void HeldInput::hold(QWindow *window, const QMouseEvent &event)
+{
+    const bool replacesLast = m_held.size() > kMostMovements && event.type() == QEvent::MouseMove
+                           && m_held.back().isA(QEvent::MouseMove);
+    if (replacesLast)
+        m_held.pop_back();
+    m_held.push_back({window, qtbridge::KeptMouseEvent(event), nullptr});
+}
+
+void HeldInput::hold(QWindow *window, const QKeyEvent &event)
+{
+    m_held.push_back({window, std::nullopt, qtbridge::copyOf(event)});
+}
+
+void HeldInput::hold(QWindow *window, const QWheelEvent &event)
+{
+    m_held.push_back({window, std::nullopt, qtbridge::copyOf(event)});
+}
+
+void HeldInput::drop()
+{
+    const auto isMouse = [](const Item &item) { return item.mouse.has_value(); };
+    m_held.erase(std::remove_if(m_held.begin(), m_held.end(), isMouse), m_held.end());
+    handOver();
+}
+
+void HeldInput::replay()
+{
+    handOver();
+    sendRest();
+}
+
+void HeldInput::handOver()
+{
+    if (m_held.empty())
+        return;
+    for (Item &item : m_held)
+        m_outgoing->push_back(std::move(item));
+    m_held.clear();
+    QMetaObject::invokeMethod(this, &HeldInput::sendRest, Qt::QueuedConnection);
+}
+
+void HeldInput::sendRest()
+{
+    const QPointer<HeldInput> self = this;
+    const std::shared_ptr<std::deque<Item>> outgoing = m_outgoing;
+    const auto send = [&self](Item &item) {
+        std::unique_ptr<QInputEvent> event = std::move(item.other);
+        if (item.mouse)
+            event = item.mouse->event();
+        const QEvent *outer = self ? std::exchange(self->m_sending, event.get()) : nullptr;
+        // Not sendEvent(), which would make it an event of the program's own again. And of
+        // one from the window system Qt notes which buttons are down; so also those that
+        // the program must not get go through there, to an object that makes nothing of it.
+        QSpontaneKeyEvent::setSpontaneous(event.get());
+        QObject nobody;
+        const bool isLost = !item.window || isBlockedByModal(item.window);
+        qApp->notify(isLost ? &nobody : item.window.data(), event.get());
+        if (self)
+            self->m_sending = outer;
+    };
+    while (!outgoing->empty() && qApp) {
+        Item item = std::move(outgoing->front());
+        outgoing->pop_front();
+        // Of a double click Qt makes two events at once. A menu that the first one opens
+        // must not get the second: that one waits for it, as it does without us, while the
+        // release that follows is the menu's.
+        std::optional<Item> twin;
+        if (item.isA(QEvent::MouseButtonPress) && !outgoing->empty()
+            && outgoing->front().isA(QEvent::MouseButtonDblClick)) {
+            twin = std::move(outgoing->front());
+            outgoing->pop_front();
+        }
+        send(item);
+        if (twin && qApp)
+            send(*twin);
+    }
+}
+
+} // namespace gesturewidget

@@ -1,0 +1,427 @@
+#include "host/input/PointerFilter.h"
+
+#include "host/documents/DocumentManager.h"
+#include "sdk/QtBridge.h"
+
+#include <QAbstractScrollArea>
+#include <QApplication>
+#include <QCursor>
+#include <QMouseEvent>
+
+namespace gesturewidget {
+namespace {
+
+bool isPress(const QMouseEvent &event)
+{
+    return event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick;
+}
+
+HitTest::Kind kindOf(const QMouseEvent &event)
+{
+    if (isPress(event))
+        return HitTest::Kind::Press;
+    return event.type() == QEvent::MouseMove ? HitTest::Kind::Motion : HitTest::Kind::Other;
+}
+
+} // namespace
+
+PointerFilter::PointerFilter(DocumentManager &documents, const Trigger &trigger,
+                             std::function<bool(const QWidget *view)> gesturesAreEnabled)
+    : m_documents(documents)
+    , m_trigger(trigger)
+    , m_gesturesAreEnabled(std::move(gesturesAreEnabled))
+{
+    connect(&documents, &DocumentManager::documentAboutToClose, this, [this](Document *document) {
+        if (document == m_document)
+            cancel();
+    });
+}
+
+PointerFilter::~PointerFilter() = default;
+
+bool PointerFilter::eventFilter(QObject *receiver, QEvent *event)
+{
+    // Every event of the program comes by here: no work before it is known to matter.
+    switch (event->type()) {
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+        if (receiver->isWidgetType()) {
+            if (Document *document = m_documents.documentOf(receiver))
+                showToTrackers(*document, *static_cast<QMouseEvent *>(event));
+            return false;
+        }
+        // Most of all are movements while nothing is under way.
+        if (event->type() == QEvent::MouseMove && m_state == State::Idle && !m_held.hasRest())
+            return false;
+        return receiver->isWindowType()
+            && filterWindow(static_cast<QWindow *>(receiver), *static_cast<QMouseEvent *>(event));
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        return receiver->isWindowType()
+            && filterKey(static_cast<QWindow *>(receiver), *static_cast<QKeyEvent *>(event));
+    case QEvent::Wheel:
+        return m_state == State::Holding && receiver->isWindowType()
+            && holdWheel(static_cast<QWindow *>(receiver), *static_cast<QWheelEvent *>(event));
+    case QEvent::TabletPress:
+        // Of a pen beside the mouse. What it does, the program gets in order.
+        if (m_state == State::Holding && receiver->isWindowType())
+            giveBack(); // this may be gone afterwards
+        return false;
+    case QEvent::Show:
+    case QEvent::Hide:
+    case QEvent::Close:
+    case QEvent::WindowBlocked:
+    case QEvent::WindowDeactivate:
+        if (m_state != State::Idle && receiver->isWidgetType())
+            noteWindowEvent(receiver, event->type());
+        return false;
+    case QEvent::FocusIn:
+        if (receiver->isWidgetType())
+            noteFocus(receiver);
+        return false;
+    case QEvent::ApplicationStateChange:
+        m_keys.clear(); // another program may get the releases
+        return false;
+    default:
+        return false;
+    }
+}
+
+void PointerFilter::showToTrackers(Document &document, const QMouseEvent &event)
+{
+    if (isPress(event))
+        m_documents.activate(&document);
+    if (m_state == State::Gesturing) {
+        // What an overlay posts to the view when it stops.
+        endGestureIfStopped();
+        return;
+    }
+    const HitTest::Event seen{kindOf(event),  HitTest::Role::Program, qtbridge::localPosition(event),
+                              event.button(), event.buttons(),        event.modifiers()};
+    HitTest hit(&document, m_trigger, seen);
+    document.inputPoints().dispatch(hit);
+}
+
+bool PointerFilter::filterWindow(QWindow *window, const QMouseEvent &event)
+{
+    if (m_held.isSending(&event))
+        return false;
+    if (m_held.hasRest()) {
+        const QPointer<PointerFilter> self = this;
+        m_held.sendRest();
+        if (!self)
+            return false;
+    }
+    switch (m_state) {
+    case State::Idle:
+        return isTriggerPress(event) && holdPress(window, event);
+    case State::Holding:
+        return filterHolding(window, event);
+    case State::Gesturing:
+        return filterGesturing(window, event);
+    case State::Swallowing:
+        return filterSwallowing(window, event);
+    }
+    return false;
+}
+
+bool PointerFilter::isTriggerPress(const QMouseEvent &event) const
+{
+    return event.type() == QEvent::MouseButtonPress && event.button() == m_trigger.button
+        && event.buttons() == Qt::MouseButtons(m_trigger.button) && m_trigger.matches(event.modifiers())
+        && event.source() == Qt::MouseEventNotSynthesized;
+}
+
+Document *PointerFilter::documentUnder(QWindow *window, const QMouseEvent &event) const
+{
+    QPoint position = qtbridge::localPosition(event);
+    // A window that is no widget may be one that a widget contains; then that widget is
+    // among the children of the nearest window above that is one. A window without a
+    // platform window is drawn by a widget that handed it the event: asking for its
+    // identifier would make one on screen.
+    for (; window && window->handle(); position += window->position(), window = window->parent()) {
+        const QWidget *widget = QWidget::find(window->winId());
+        if (!widget)
+            continue;
+        const QWidget *child = widget->childAt(position);
+        return m_documents.documentOf(child ? child : widget);
+    }
+    return nullptr;
+}
+
+HitTest::Event PointerFilter::eventInView(const QMouseEvent &event, HitTest::Role role) const
+{
+    const QWidget *view = m_document ? m_document->view() : nullptr;
+    const QPoint global = qtbridge::globalPosition(event);
+    return {kindOf(event),
+            role,
+            view ? view->mapFromGlobal(global) : global,
+            event.button(),
+            event.buttons(),
+            event.modifiers()};
+}
+
+bool PointerFilter::holdPress(QWindow *window, const QMouseEvent &event)
+{
+    if (m_documents.isEmpty())
+        return false;
+    Document *document = documentUnder(window, event);
+    if (!document || !document->inputPoints().hasTrackers())
+        return false;
+    m_document = document;
+    const HitTest::Event seen = eventInView(event, HitTest::Role::Gesture);
+    HitTest hit(document, m_trigger, seen);
+    if (hit.isSuppressed() || !m_gesturesAreEnabled(document->view())) {
+        m_document = nullptr;
+        return false;
+    }
+    m_state = State::Holding;
+    ++m_press;
+    m_keysOfPress = m_keys;
+    m_pressPosition = qtbridge::globalPosition(event);
+    m_held.hold(window, event);
+    m_documents.activate(document);
+    document->inputPoints().dispatch(hit);
+    return true;
+}
+
+bool PointerFilter::filterHolding(QWindow *window, const QMouseEvent &event)
+{
+    // Held in any case: what the program gets, it gets in order.
+    m_held.hold(window, event);
+    const bool isDrag =
+        event.type() == QEvent::MouseMove && event.buttons() == Qt::MouseButtons(m_trigger.button);
+    const bool isSecondPress = isPress(event) && event.button() == m_trigger.button;
+    if (!isDrag && !isSecondPress) {
+        giveBack();
+        return true;
+    }
+    if (!isDrag)
+        return true;
+
+    const unsigned press = m_press;
+    const HitTest::Event seen = eventInView(event, HitTest::Role::Gesture);
+    HitTest hit(m_document, m_trigger, seen);
+    m_document->inputPoints().dispatch(hit);
+    if (m_state != State::Holding || m_press != press)
+        return true;
+    const QPoint distance = qtbridge::globalPosition(event) - m_pressPosition;
+    if (hit.dragNotified())
+        beginGesture(seen);
+    else if (distance.manhattanLength() > kRefusedDistance)
+        giveBack();
+    return true;
+}
+
+bool PointerFilter::filterKey(QWindow *window, const QKeyEvent &event)
+{
+    if (m_held.isSending(&event))
+        return false;
+    m_keys.note(event);
+    if (m_state != State::Holding)
+        return false;
+    // The program must get the key after the press, or a menu that the press opens must.
+    m_held.hold(window, event);
+    // A key that was down before the press does not end the holding: a fast typist has not let
+    // go of it yet. Nor do its repeats, which X11 does not always mark and may report as
+    // releases and presses.
+    if (event.type() == QEvent::KeyPress && !event.isAutoRepeat() && !m_keysOfPress.contains(event))
+        giveBack();
+    return true;
+}
+
+bool PointerFilter::holdWheel(QWindow *window, const QWheelEvent &event)
+{
+    m_held.hold(window, event);
+    giveBack();
+    return true;
+}
+
+void PointerFilter::giveBack()
+{
+    if (m_state != State::Holding)
+        return;
+    m_state = State::Idle;
+    m_document = nullptr;
+    m_held.replay();
+}
+
+void PointerFilter::beginGesture(const HitTest::Event &motion)
+{
+    m_state = State::Gesturing;
+    m_overlay.clear();
+    m_overlayCame = false;
+    const QPointer<PointerFilter> self = this;
+    m_held.drop();
+    m_held.sendRest(); // now: the overlay takes the keyboard
+    if (!self || m_state != State::Gesturing)
+        return;
+    // A tracker prepares its overlay on one update and starts it on the next. Were that
+    // left to the next event, a quick flick could be over before the overlay came up.
+    updateGesture(motion);
+}
+
+void PointerFilter::updateGesture(const HitTest::Event &motion)
+{
+    HitTest hit(m_document, m_trigger, motion);
+    m_document->inputPoints().dispatch(hit);
+    if (m_state != State::Gesturing || m_overlayCame)
+        return;
+    // Nothing held the mouse before, or there were no gesture.
+    m_overlay = QWidget::mouseGrabber();
+    m_overlayCame = !m_overlay.isNull();
+}
+
+bool PointerFilter::filterGesturing(QWindow *window, const QMouseEvent &event)
+{
+    if (m_overlayCame && m_overlay && QWidget::mouseGrabber() == m_overlay)
+        return false; // Qt gives it to the overlay
+    const bool isDrag = event.type() == QEvent::MouseMove && (event.buttons() & m_trigger.button);
+    if (!m_overlayCame && isDrag) {
+        updateGesture(eventInView(event, HitTest::Role::Gesture));
+        return true;
+    }
+    // The buttons before this event.
+    Qt::MouseButtons buttons = event.buttons();
+    if (isPress(event))
+        buttons &= ~Qt::MouseButtons(event.button());
+    else if (event.type() == QEvent::MouseButtonRelease)
+        buttons |= event.button();
+    endGesture(buttons);
+    return m_state == State::Idle ? filterWindow(window, event) : filterSwallowing(window, event);
+}
+
+void PointerFilter::endGestureIfStopped()
+{
+    if (m_state != State::Gesturing || !m_overlayCame)
+        return;
+    if (!m_overlay || QWidget::mouseGrabber() != m_overlay)
+        endGesture(QGuiApplication::mouseButtons());
+}
+
+void PointerFilter::endGesture(Qt::MouseButtons buttons)
+{
+    stopOverlay(); // something took the mouse away from it
+    if (m_state != State::Gesturing)
+        return;
+    Document *document = m_document;
+    m_document = nullptr;
+    m_overlay.clear();
+    m_state = buttons == Qt::NoButton ? State::Idle : State::Swallowing;
+    const QPoint global = QCursor::pos();
+    const QWidget *view = document->view();
+    const HitTest::Event seen{HitTest::Kind::Motion,
+                              HitTest::Role::GestureEnd,
+                              view ? view->mapFromGlobal(global) : global,
+                              Qt::NoButton,
+                              buttons,
+                              QGuiApplication::keyboardModifiers()};
+    HitTest hit(document, m_trigger, seen);
+    const QPointer<QWidget> grabber = QWidget::mouseGrabber();
+    document->inputPoints().dispatch(hit);
+    // An overlay that comes up only now would wait for a release that has been.
+    if (QWidget::mouseGrabber() != grabber) {
+        m_overlay = QWidget::mouseGrabber();
+        stopOverlay();
+        HitTest again(document, m_trigger, seen);
+        document->inputPoints().dispatch(again);
+    }
+}
+
+void PointerFilter::stopOverlay()
+{
+    if (!m_overlay || (!m_overlay->isVisible() && QWidget::mouseGrabber() != m_overlay))
+        return;
+    const QPointer<QWidget> overlay = m_overlay;
+    const QPoint global = QCursor::pos();
+    QMouseEvent release(QEvent::MouseButtonRelease, overlay->mapFromGlobal(global), global,
+                        m_trigger.button,
+                        QGuiApplication::mouseButtons() & ~Qt::MouseButtons(m_trigger.button),
+                        QGuiApplication::keyboardModifiers());
+    QCoreApplication::sendEvent(overlay, &release);
+    // Whatever it made of that, nothing stays grabbed or in the way.
+    if (overlay && QWidget::mouseGrabber() == overlay)
+        overlay->releaseMouse();
+    if (overlay && QWidget::keyboardGrabber() == overlay)
+        overlay->releaseKeyboard();
+    if (overlay)
+        overlay->hide();
+}
+
+bool PointerFilter::filterSwallowing(QWindow *window, const QMouseEvent &event)
+{
+    // The last release may have gone to another program; what comes first afterwards tells.
+    const bool isFirstPress = isPress(event) && event.buttons() == Qt::MouseButtons(event.button());
+    const bool isHovering = event.type() == QEvent::MouseMove && event.buttons() == Qt::NoButton;
+    if (isFirstPress || isHovering) {
+        m_state = State::Idle;
+        return filterWindow(window, event);
+    }
+    if (event.buttons() == Qt::NoButton)
+        m_state = State::Idle;
+    return true;
+}
+
+void PointerFilter::cancel()
+{
+    const State state = m_state;
+    if (state == State::Holding) {
+        m_state = State::Idle;
+        m_document = nullptr;
+        m_held.drop();
+    } else if (state == State::Gesturing) {
+        stopOverlay();
+        if (m_state == State::Gesturing)
+            endGesture(QGuiApplication::mouseButtons());
+    }
+}
+
+void PointerFilter::noteWindowEvent(QObject *receiver, QEvent::Type type)
+{
+    const auto *widget = static_cast<const QWidget *>(receiver);
+    const QWidget *view = m_document ? m_document->view() : nullptr;
+    const bool isOfView = view && (widget == view || widget->isAncestorOf(view));
+    const bool isPopup = type == QEvent::Show && widget->windowType() == Qt::Popup;
+    if (m_state == State::Holding) {
+        // Deactivation says nothing: the button is down, so the window system goes on sending
+        // the pointer here. It may also be that of an overlay that has just gone, and come
+        // late; a press given back for it would open a menu under a drag.
+        if (isPopup || (isOfView && type != QEvent::Show && type != QEvent::WindowDeactivate))
+            queue(&PointerFilter::giveBack);
+    } else if (m_state == State::Gesturing) {
+        // The overlay itself takes the activation from the view's window.
+        const bool isLost = isOfView && type != QEvent::Show && type != QEvent::WindowDeactivate;
+        if (isPopup || isLost)
+            queue(&PointerFilter::cancel);
+        else if (type == QEvent::Hide && widget->isWindow())
+            queue(&PointerFilter::endGestureIfStopped);
+    }
+}
+
+void PointerFilter::noteFocus(const QObject *receiver)
+{
+    Document *document = m_documents.documentOf(receiver);
+    if (!document) {
+        // Of a scroll area it is the viewport that is the view, but the area that gets focus.
+        if (const auto *area = qobject_cast<const QAbstractScrollArea *>(receiver))
+            document = m_documents.documentOf(area->viewport());
+    }
+    if (document)
+        m_documents.activate(document);
+}
+
+void PointerFilter::queue(void (PointerFilter::*method)())
+{
+    const unsigned press = m_press;
+    QMetaObject::invokeMethod(
+        this,
+        [this, press, method] {
+            if (press == m_press)
+                (this->*method)();
+        },
+        Qt::QueuedConnection);
+}
+
+} // namespace gesturewidget

@@ -1,0 +1,40 @@
+#include "host/menus/ActionMenuItem.h"
+
+#include "host/commands/CommandCatalogue.h"
+#include "host/menus/MenuMirror.h"
+
+#include <QMenu>
+
+namespace gesturewidget {
+
+ActionMenuItem::ActionMenuItem(MenuMirror &mirror, QAction *action)
+    : m_mirror(mirror)
+    , m_action(action)
+{
+}
+
+ActionMenuItem::~ActionMenuItem() = default;
+
+CHxString ActionMenuItem::GetIdentifier() const
+{
+    const CHxUICommandItem *command = GetCommandItem();
+    return command ? command->GetIdentifier() : CHxString(m_identifier);
+}
+
+CHxString ActionMenuItem::GetText() const
+{
+    return m_action ? m_action->text() : QString();
+}
+
+CHxUICommandItem *ActionMenuItem::GetCommandItem() const
+{
+    return m_action ? m_mirror.catalogue().itemOf(m_action) : nullptr;
+}
+
+CHxUIMenuItemCollection *ActionMenuItem::GetSubItems() const
+{
+    QMenu *menu = m_action ? m_action->menu() : nullptr;
+    return menu ? m_mirror.itemsOf(menu) : nullptr;
+}
+
+} // namespace gesturewidget

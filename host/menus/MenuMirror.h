@@ -1,0 +1,71 @@
+#pragma once
+
+#include "host/menus/ActionMenuItem.h"
+#include "host/menus/MenuBarItem.h"
+#include "host/menus/MirrorCache.h"
+#include "host/menus/UiMenu.h"
+#include "host/menus/UiMenuItemCollection.h"
+
+#include <QObject>
+#include <QString>
+#include <QVector>
+
+#include <vector>
+
+class QAction;
+class QMenuBar;
+class QWidget;
+
+namespace gesturewidget {
+
+class CommandCatalogue;
+class MenuEntries;
+class ToolsMenu;
+
+// The program's menu bars, menus and their actions as the objects that modules see, made
+// as they are asked for. One whose menu or action is gone stays, empty, until control is
+// back in the event loop.
+class MenuMirror : public QObject
+{
+    Q_OBJECT
+
+public:
+    MenuMirror(CommandCatalogue &catalogue, ToolsMenu &tools, MenuEntries &entries);
+    ~MenuMirror() override;
+
+    // The window's menu bars, its own one first.
+    [[nodiscard]] const QVector<QMenuBar *> &menuBars();
+    // The items of a menu or menu bar; for null a collection that is always empty.
+    [[nodiscard]] UiMenuItemCollection *itemsOf(QWidget *place);
+    [[nodiscard]] UiMenu *menuOf(QMenuBar *bar);
+    [[nodiscard]] MenuBarItem *barItemOf(QMenuBar *bar);
+
+    // The number of changes so far: who has listed something lists it again when this has
+    // moved on.
+    [[nodiscard]] int generation() const { return m_generation; }
+    void invalidate() { ++m_generation; }
+    [[nodiscard]] std::vector<CHxUIMenuItem *> list(QWidget *place);
+    [[nodiscard]] CommandCatalogue &catalogue() { return m_catalogue; }
+    [[nodiscard]] MenuEntries &entries() { return m_entries; }
+    // How many objects there are at the moment.
+    [[nodiscard]] std::size_t size() const;
+
+private:
+    [[nodiscard]] std::vector<CHxUIMenuItem *> listBar(const QMenuBar &bar);
+    [[nodiscard]] CHxUIMenuItem *itemOf(QAction *action);
+    void clean();
+
+    CommandCatalogue &m_catalogue;
+    ToolsMenu &m_tools;
+    MenuEntries &m_entries;
+    int m_generation = 0;
+    int m_cleanGeneration = -1;
+    QVector<QMenuBar *> m_menuBars;
+    UiMenuItemCollection m_nothing;
+    MirrorCache<ActionMenuItem, QAction> m_items;
+    MirrorCache<UiMenuItemCollection, QWidget> m_collections;
+    MirrorCache<UiMenu, QMenuBar> m_menus;
+    MirrorCache<MenuBarItem, QMenuBar> m_barItems;
+};
+
+} // namespace gesturewidget

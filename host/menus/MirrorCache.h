@@ -1,0 +1,49 @@
+#pragma once
+
+#include <memory>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace gesturewidget {
+
+// Objects that each stand for one of the program's, by its address. `Item` has a member
+// source() that is null once the program's object is gone.
+//
+// An object whose source is gone is retired first and destroyed later: somebody who walks
+// the menus may hold it.
+template <class Item, class Source> class MirrorCache
+{
+public:
+    // The object that stands for `source`, made by `make` at first sight.
+    template <class Make> Item *of(Source *source, Make make)
+    {
+        std::unique_ptr<Item> &item = m_items[source];
+        if (item && item->source() != source) // something else was at this address before
+            m_retired.push_back(std::move(item));
+        if (!item)
+            item = make();
+        return item.get();
+    }
+
+    void retireGone()
+    {
+        for (auto it = m_items.begin(); it != m_items.end();) {
+            if (it->second->source()) {
+                ++it;
+                continue;
+            }
+            m_retired.push_back(std::move(it->second));
+            it = m_items.erase(it);
+        }
+    }
+    [[nodiscard]] bool hasRetired() const { return !m_retired.empty(); }
+    void destroyRetired() { m_retired.clear(); }
+    [[nodiscard]] std::size_t size() const { return m_items.size() + m_retired.size(); }
+
+private:
+    std::unordered_map<const Source *, std::unique_ptr<Item>> m_items;
+    std::vector<std::unique_ptr<Item>> m_retired;
+};
+
+} // namespace gesturewidget

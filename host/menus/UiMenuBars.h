@@ -1,0 +1,25 @@
+#pragma once
+
+#include "sdk/chx/CHxUIMenuItemCollection.h"
+
+namespace gesturewidget {
+
+class MenuMirror;
+
+// The window's menu bars, an entry each. Nothing can be put in or taken out.
+class UiMenuBars : public CHxUIMenuItemCollection
+{
+public:
+    explicit UiMenuBars(MenuMirror &mirror);
+    ~UiMenuBars() override;
+
+    [[nodiscard]] int GetCount() const override;
+    [[nodiscard]] CHxUIMenuItem *GetItem(int index) const override;
+    void Append(CHxUIMenuItem *) override { }
+    void Remove(CHxUIMenuItem *) override { }
+
+private:
+    MenuMirror &m_mirror;
+};
+
+} // namespace gesturewidget

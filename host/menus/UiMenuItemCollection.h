@@ -1,0 +1,40 @@
+#pragma once
+
+#include "sdk/chx/CHxUIMenuItemCollection.h"
+
+#include <QPointer>
+#include <QWidget>
+
+#include <vector>
+
+namespace gesturewidget {
+
+class MenuMirror;
+
+// What is in one of the program's menus or menu bars. Empty when that is gone.
+class UiMenuItemCollection : public CHxUIMenuItemCollection
+{
+public:
+    // `place` may be null.
+    UiMenuItemCollection(MenuMirror &mirror, QWidget *place);
+    ~UiMenuItemCollection() override;
+
+    [[nodiscard]] int GetCount() const override;
+    [[nodiscard]] CHxUIMenuItem *GetItem(int index) const override;
+    // Only entries that a module has made can be put in and taken out; the program's own
+    // stay where they are.
+    void Append(CHxUIMenuItem *item) override;
+    void Remove(CHxUIMenuItem *item) override;
+
+    [[nodiscard]] QWidget *source() const { return m_place; }
+
+private:
+    const std::vector<CHxUIMenuItem *> &items() const;
+
+    MenuMirror &m_mirror;
+    QPointer<QWidget> m_place;
+    mutable std::vector<CHxUIMenuItem *> m_items;
+    mutable int m_generation = -1;
+};
+
+} // namespace gesturewidget

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "host/menus/UiCommandItemCollection.h"
+#include "sdk/chx/CHxUIWorkspace.h"
+
+namespace gesturewidget {
+
+class MenuMirror;
+class ToolsMenu;
+
+// The one arrangement of menus that a program has: the one on screen.
+class UiWorkspace : public CHxUIWorkspace
+{
+public:
+    UiWorkspace(MenuMirror &mirror, ToolsMenu &tools);
+    ~UiWorkspace() override;
+
+    // "Default".
+    [[nodiscard]] CHxString GetName() const override;
+    [[nodiscard]] bool IsCurrent() const override { return true; }
+    [[nodiscard]] UiCommandItemCollection *GetCommandItems() override { return &m_commands; }
+    // The menus of the first menu bar, among them always one for tools; empty when there is
+    // no menu bar.
+    [[nodiscard]] CHxUIMenuItemCollection *GetMenuItems() override;
+
+private:
+    MenuMirror &m_mirror;
+    ToolsMenu &m_tools;
+    UiCommandItemCollection m_commands;
+};
+
+} // namespace gesturewidget

@@ -1,0 +1,12 @@
+#include "host/services/MainFrame.h"
+
+namespace gesturewidget {
+
+MainFrame::MainFrame(QMainWindow *window)
+    : m_window(window)
+{
+}
+
+MainFrame::~MainFrame() = default;
+
+} // namespace gesturewidget

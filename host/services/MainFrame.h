@@ -1,0 +1,24 @@
+#pragma once
+
+#include "sdk/chx/CHxMainFrame.h"
+
+#include <QMainWindow>
+#include <QPointer>
+
+namespace gesturewidget {
+
+// The program's main window as the host's main frame.
+class MainFrame : public CHxMainFrame
+{
+public:
+    // Not owned; may go away before this.
+    explicit MainFrame(QMainWindow *window);
+    ~MainFrame() override;
+
+    [[nodiscard]] QWidget *GetMainWindow() const override { return m_window; }
+
+private:
+    QPointer<QWidget> m_window; // while it is being destroyed it is no QMainWindow any more
+};
+
+} // namespace gesturewidget

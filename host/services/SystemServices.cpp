@@ -1,0 +1,205 @@
+#include "host/services/SystemServices.h"
+
+#include "host/commands/CatalogueMemory.h"
+#include "host/commands/CommandCatalogue.h"
+#include "host/commands/CommandLineWatcher.h"
+#include "host/commands/CommandRunner.h"
+#include "host/commands/CommandStack.h"
+#include "host/commands/ExpectedCommands.h"
+#include "host/files/InstallPaths.h"
+#include "host/files/ProgramProfile.h"
+#include "host/menus/CommandManager.h"
+#include "host/menus/UiManager.h"
+#include "host/services/HostEditor.h"
+#include "host/services/MessageBox.h"
+#include "host/services/ProfileStore.h"
+#include "host/services/SharedButtons.h"
+#include "host/window/TextOutput.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QMainWindow>
+#include <QPointer>
+
+namespace gesturewidget {
+namespace {
+
+// Icons of this height and more, in pixels, are what a person who has asked for large
+// ones sees; programs come with 16 to 25 as a rule.
+constexpr int kLargeIcon = 32;
+
+} // namespace
+
+class SystemServices::Private
+{
+public:
+    Private(QMainWindow *mainWindow, const ProgramProfile &profile, CHxDocumentManager *documentManager,
+            const QString &settingsFile, const HelpGuide &helpGuide)
+        : window(mainWindow)
+        , documents(documentManager)
+        , textOutput(mainWindow)
+        , profileStore(settingsFile)
+        , catalogue(mainWindow, profile.wellKnownCommands)
+        , runner(stack, catalogue, textOutput, documentManager)
+        , uiManager(catalogue, profile.toolsMenu,
+                    [this](const QString &macro) { runner.run(macro, false); })
+        , commandManager(catalogue, uiManager)
+        , commandLine(profile.commandLineClass, stack,
+                      [this](const QString &name) { runner.runStackCommand(name); })
+        , guide(helpGuide)
+    {
+        if (!mainWindow)
+            return; // no program to expect anything of
+        memory = std::make_unique<CatalogueMemory>(catalogue, catalogueFileBeside(settingsFile));
+        const QMap<QString, QString> expected =
+            expectedCommands(profile.wellKnownCommands, profileStore.values());
+        for (auto it = expected.begin(); it != expected.end(); ++it)
+            catalogue.expect(it.key(), it.value());
+    }
+
+    QPointer<QMainWindow> window;
+    CHxDocumentManager *documents;
+    CHxApplication *application = nullptr;
+    CHxMainFrame *mainFrame = nullptr;
+    CommandStack stack;
+    HostEditor editor;
+    TextOutput textOutput;
+    ProfileStore profileStore;
+    CommandCatalogue catalogue;
+    std::unique_ptr<CatalogueMemory> memory; // null without a window
+    CommandRunner runner;
+    UiManager uiManager;
+    CommandManager commandManager;
+    CommandLineWatcher commandLine;
+    HelpGuide guide;
+};
+
+SystemServices::SystemServices(QMainWindow *window, const ProgramProfile &profile,
+                               CHxDocumentManager *documents, const QString &settingsFile,
+                               const HelpGuide &guide)
+    : m_d(std::make_unique<Private>(window, profile, documents, settingsFile, guide))
+{
+    provideSharedButtons();
+}
+
+SystemServices::~SystemServices() = default;
+
+CommandStack &SystemServices::commandStack()
+{
+    return m_d->stack;
+}
+
+HostEditor &SystemServices::editor()
+{
+    return m_d->editor;
+}
+
+CommandCatalogue &SystemServices::catalogue()
+{
+    return m_d->catalogue;
+}
+
+void SystemServices::startRemembering()
+{
+    if (m_d->memory)
+        m_d->memory->start();
+}
+
+void SystemServices::stopRemembering()
+{
+    if (m_d->memory)
+        m_d->memory->stop();
+}
+
+const ToolsMenu &SystemServices::toolsMenu() const
+{
+    return m_d->uiManager.toolsMenu();
+}
+
+void SystemServices::setApplication(CHxApplication *application)
+{
+    m_d->application = application;
+}
+
+void SystemServices::setMainFrame(CHxMainFrame *mainFrame)
+{
+    m_d->mainFrame = mainFrame;
+}
+
+CHxMainFrame *SystemServices::GetMainFrame()
+{
+    return m_d->mainFrame;
+}
+
+CHxDocumentManager *SystemServices::GetDocumentManager()
+{
+    return m_d->documents;
+}
+
+CHxApplication *SystemServices::GetApplication()
+{
+    return m_d->application;
+}
+
+CHxTextOutput *SystemServices::GetTextOutput()
+{
+    return &m_d->textOutput;
+}
+
+CHxProfileStore *SystemServices::GetProfileStore()
+{
+    return &m_d->profileStore;
+}
+
+CHxUIManager *SystemServices::GetUIManager()
+{
+    return &m_d->uiManager;
+}
+
+CHxUICommandManager *SystemServices::GetUICommandManager()
+{
+    return &m_d->commandManager;
+}
+
+CHxUIMenuItemCollection *SystemServices::GetMenuItems()
+{
+    return &m_d->uiManager.menuBars();
+}
+
+CHxCommandResultPtr SystemServices::RunCommand(const CHxString &command, bool wait)
+{
+    return m_d->runner.run(command.toQString(), wait);
+}
+
+bool SystemServices::UsesLargeIcons() const
+{
+    return m_d->window && m_d->window->iconSize().height() >= kLargeIcon;
+}
+
+CHxString SystemServices::GetApplicationName() const
+{
+    const QString name = QCoreApplication::applicationName();
+    return name.isEmpty() ? QFileInfo(QCoreApplication::applicationFilePath()).fileName() : name;
+}
+
+int SystemServices::ShowMessage(const CHxString &text, const CHxString &caption, int style)
+{
+    QWidget *dialog = QApplication::activeModalWidget();
+    return showMessage(dialog ? dialog : m_d->window.data(), text.toQString(), caption.toQString(),
+                       style);
+}
+
+CHxString SystemServices::GetMessageCaption() const
+{
+    const QString name = QGuiApplication::applicationDisplayName();
+    return name.isEmpty() ? GetApplicationName() : CHxString(name);
+}
+
+void SystemServices::ShowHelp(int topic)
+{
+    if (!m_d->guide.open(topic))
+        m_d->textOutput.showForAWhile(
+            QCoreApplication::translate("host", "The guide to mouse gestures cannot be opened."));
+}
+
+} // namespace gesturewidget

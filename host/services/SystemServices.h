@@ -1,0 +1,75 @@
+#pragma once
+
+#include "host/services/HelpGuide.h"
+#include "sdk/chx/CHxSystemServices.h"
+
+#include <QString>
+
+#include <memory>
+
+class QMainWindow;
+
+namespace gesturewidget {
+
+class CommandCatalogue;
+class CommandStack;
+class HostEditor;
+class ToolsMenu;
+struct ProgramProfile;
+
+// Everything that a module can ask of its host, over one main window. Owns all of it but
+// the documents, the application and the main frame.
+//
+//     gesturewidget::SystemServices services(window, profile, &documents, settingsFile);
+//     odedSetCommandStack(&services.commandStack());
+//     odedSetEditor(&services.editor());
+//     SetHxSystemServices(&services);
+//
+// Takes down nothing of that itself: who set it takes it away before this is destroyed.
+// The window may go first.
+class SystemServices : public CHxSystemServices
+{
+public:
+    // `documents` may be null and must outlive this. `settingsFile` is the program's own
+    // INI file, see ProfileStore; the commands are kept beside it.
+    SystemServices(QMainWindow *window, const ProgramProfile &profile, CHxDocumentManager *documents,
+                   const QString &settingsFile, const HelpGuide &guide = HelpGuide());
+    ~SystemServices() override;
+
+    [[nodiscard]] CommandStack &commandStack();
+    [[nodiscard]] HostEditor &editor();
+    [[nodiscard]] CommandCatalogue &catalogue();
+    // The program's menus are complete: the commands in them are remembered for its next
+    // start, see CatalogueMemory.
+    void startRemembering();
+    void stopRemembering();
+    [[nodiscard]] const ToolsMenu &toolsMenu() const;
+    // Not owned; null until set.
+    void setApplication(CHxApplication *application);
+    void setMainFrame(CHxMainFrame *mainFrame);
+
+    [[nodiscard]] CHxMainFrame *GetMainFrame() override;
+    [[nodiscard]] CHxDocumentManager *GetDocumentManager() override;
+    [[nodiscard]] CHxApplication *GetApplication() override;
+    [[nodiscard]] CHxTextOutput *GetTextOutput() override;
+    [[nodiscard]] CHxProfileStore *GetProfileStore() override;
+    [[nodiscard]] CHxUIManager *GetUIManager() override;
+    [[nodiscard]] CHxUICommandManager *GetUICommandManager() override;
+    [[nodiscard]] CHxUIMenuItemCollection *GetMenuItems() override;
+
+    CHxCommandResultPtr RunCommand(const CHxString &command, bool wait) override;
+
+    // Whether the main window's icons are 32 pixels or more in height.
+    [[nodiscard]] bool UsesLargeIcons() const override;
+    [[nodiscard]] CHxString GetApplicationName() const override;
+
+    int ShowMessage(const CHxString &text, const CHxString &caption, int style) override;
+    [[nodiscard]] CHxString GetMessageCaption() const override;
+    void ShowHelp(int topic) override;
+
+private:
+    class Private;
+    std::unique_ptr<Private> m_d;
+};
+
+} // namespace gesturewidget

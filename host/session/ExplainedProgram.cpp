@@ -1,0 +1,20 @@
+#include "host/session/ExplainedProgram.h"
+
+namespace gesturewidget {
+namespace {
+
+int listener = -1;
+
+} // namespace
+
+void explainTo(int socket)
+{
+    listener = socket;
+}
+
+int explanationListener()
+{
+    return listener;
+}
+
+} // namespace gesturewidget

@@ -1,0 +1,88 @@
+#pragma once
+
+#include "host/documents/DocumentManager.h"
+#include "host/documents/ViewFinder.h"
+#include "host/explain/Explanation.h"
+#include "host/input/PointerFilter.h"
+#include "host/services/HostApplication.h"
+#include "host/services/MainFrame.h"
+#include "host/session/GestureHost.h"
+#include "host/session/ModuleLoader.h"
+#include "host/window/MenuReadiness.h"
+
+#include <QMainWindow>
+#include <QObject>
+#include <QPointer>
+#include <QVector>
+
+#include <memory>
+
+namespace gesturewidget {
+
+class SystemServices;
+struct ProgramProfile;
+
+// One life of the host: puts the parts together, starts the module over them and takes
+// everything out again.
+//
+// It ends in two steps. stop() takes the module out of the program, at any time. The module
+// object and what it was given are destroyed only when the application has left its event
+// loop: stop() may come from deep inside the module's own code, from a dialog of it for
+// instance that was open while the main window was destroyed.
+class HostSession : public QObject
+{
+    Q_OBJECT
+
+public:
+    HostSession(QMainWindow *window, const GestureHost::Options &options);
+    ~HostSession() override;
+
+    bool start(QString *error);
+    void stop();
+    [[nodiscard]] bool isRunning() const { return m_isRunning; }
+    void addView(QWidget *view);
+
+    // Stops a session and destroys it as soon as that is safe.
+    static void retire(std::unique_ptr<HostSession> session);
+
+    bool eventFilter(QObject *receiver, QEvent *event) override;
+
+private:
+    void stopWithoutWindow();
+    void openView(QWidget *view);
+    // Takes the menus for complete some time after a view is there and they have settled.
+    void waitForAllMenus();
+    // The one that the person chose in the settings, else the one given.
+    [[nodiscard]] Trigger chosenTrigger(Trigger trigger) const;
+    [[nodiscard]] bool gesturesAreEnabled() const;
+    // Whether the commands of this session's main window are those for the view.
+    [[nodiscard]] bool isOfThisWindow(const QWidget *view) const;
+    // The application is over.
+    static void finishAll();
+    void finish();
+
+    const GestureHost::Options m_options;
+    QPointer<QWidget> m_window; // while it is being destroyed it is no QMainWindow any more
+    QVector<QPointer<QWidget>> m_addedViews; // by the program itself
+    bool m_isRunning = false;
+    bool m_wasStarted = false;
+    bool m_windowIsGone = false;
+    bool m_isFinished = false;
+    bool m_menusHaveSettled = false;
+    bool m_waitsForAllMenus = false;
+    bool m_isRetired = false; // whoever owned it is gone
+    HostSession *m_next = nullptr; // of those that were started
+
+    // In the order in which one needs the other.
+    DocumentManager m_documents;
+    HostApplication m_application;
+    MainFrame m_mainFrame;
+    std::unique_ptr<SystemServices> m_services;
+    ModuleLoader m_loader;
+    std::unique_ptr<PointerFilter> m_pointerFilter;
+    std::unique_ptr<ViewFinder> m_viewFinder;
+    std::unique_ptr<Explanation> m_explanation; // null unless somebody asked for it
+    MenuReadiness m_menuReadiness;
+};
+
+} // namespace gesturewidget

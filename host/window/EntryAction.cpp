@@ -1,0 +1,14 @@
+#include "host/window/EntryAction.h"
+
+namespace gesturewidget {
+
+EntryAction::EntryAction(CHxUIMenuItem *item)
+    : QAction(nullptr)
+    , m_item(item)
+{
+    setMenuRole(QAction::NoRole);
+}
+
+EntryAction::~EntryAction() = default;
+
+} // namespace gesturewidget

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QAction>
+
+class CHxUIMenuItem;
+
+namespace gesturewidget {
+
+// An entry that a module has put into the program's menus. A class of its own, so that
+// the catalogue never takes it for one of the program's commands.
+class EntryAction : public QAction
+{
+    Q_OBJECT
+
+public:
+    // Belongs to `item`. It has no parent: a menu that is cleared deletes actions that
+    // are its children.
+    explicit EntryAction(CHxUIMenuItem *item);
+    ~EntryAction() override;
+
+    [[nodiscard]] CHxUIMenuItem *item() const { return m_item; }
+
+private:
+    CHxUIMenuItem *m_item;
+};
+
+} // namespace gesturewidget

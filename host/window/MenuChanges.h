@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QSet>
+#include <QVector>
+
+class QAction;
+class QMainWindow;
+class QMenuBar;
+class QToolBar;
+class QWidget;
+
+namespace gesturewidget {
+
+// Sees the program's menus and toolbars change. It asks for nothing and keeps nothing but
+// the list of what it watches, so a program that changes hundreds of actions at a time
+// pays for one look-up each.
+class MenuChanges : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit MenuChanges(QMainWindow *window);
+    ~MenuChanges() override;
+
+    // The window's bars at the moment, see menuBarsOf() and toolBarsOf().
+    [[nodiscard]] QVector<QMenuBar *> menuBars() const;
+    [[nodiscard]] QVector<QToolBar *> toolBars() const;
+
+    // Watches a menu, menu bar or toolbar from now on; a second time does nothing.
+    void watch(QWidget *widget);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+Q_SIGNALS:
+    // Actions have come or gone, or a menu, menu bar or toolbar has.
+    void structureChanged();
+    // An action has changed in text, state or anything else.
+    void actionChanged(QAction *action);
+
+private:
+    QPointer<QMainWindow> m_window;
+    QSet<const QObject *> m_watched;
+};
+
+} // namespace gesturewidget

@@ -1,0 +1,43 @@
+#include "host/window/TextOutput.h"
+
+#include "sdk/chx/CHxString.h"
+
+#include <QStatusBar>
+
+namespace gesturewidget {
+namespace {
+
+constexpr int kAWhile = 5000; // milliseconds
+
+} // namespace
+
+TextOutput::TextOutput(QMainWindow *window)
+    : m_window(window)
+{
+}
+
+TextOutput::~TextOutput() = default;
+
+void TextOutput::SetText(const CHxString &text, bool immediate)
+{
+    QStatusBar *bar = statusBar();
+    if (!bar)
+        return;
+    bar->showMessage(text.toQString().simplified());
+    if (immediate)
+        bar->repaint();
+}
+
+void TextOutput::showForAWhile(const QString &text)
+{
+    if (QStatusBar *bar = statusBar())
+        bar->showMessage(text.simplified(), kAWhile);
+}
+
+// Looked for among the children: QMainWindow::statusBar() would make one.
+QStatusBar *TextOutput::statusBar() const
+{
+    return m_window ? m_window->findChild<QStatusBar *>(QString(), Qt::FindDirectChildrenOnly) : nullptr;
+}
+
+} // namespace gesturewidget

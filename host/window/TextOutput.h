@@ -1,0 +1,31 @@
+#pragma once
+
+#include "sdk/chx/CHxTextOutput.h"
+
+#include <QMainWindow>
+#include <QPointer>
+
+class QStatusBar;
+class QString;
+
+namespace gesturewidget {
+
+// The program's status bar, if it has one.
+class TextOutput : public CHxTextOutput
+{
+public:
+    // Not owned; may go away before this.
+    explicit TextOutput(QMainWindow *window);
+    ~TextOutput() override;
+
+    void SetText(const CHxString &text, bool immediate) override;
+    // Shows a line for some seconds.
+    void showForAWhile(const QString &text);
+
+private:
+    [[nodiscard]] QStatusBar *statusBar() const;
+
+    QPointer<QMainWindow> m_window;
+};
+
+} // namespace gesturewidget

@@ -1,0 +1,160 @@
+#include "launcher/desktop/ExecLine.h"
+
+#include <cstring>
+#include <vector>
+
+namespace launcher {
+namespace {
+
+// A character of the value once its escapes are undone, and where it stood.
+struct Letter
+{
+    char value;
+    int place;
+};
+
+struct Word
+{
+    QByteArray text;
+    int place;
+};
+
+constexpr char kReserved[] = " \t\n\r\"'\\><~|&;$*?#()`";
+// What a backslash stands before inside double quotes.
+constexpr char kQuotable[] = "\"`$\\";
+
+bool isOneOf(const char *letters, char letter)
+{
+    return letter != '\0' && std::strchr(letters, letter) != nullptr;
+}
+
+// What stands after a backslash in a value, and what the two mean.
+char meaningOf(char letter)
+{
+    switch (letter) {
+    case 's':
+        return ' ';
+    case 'n':
+        return '\n';
+    case 't':
+        return '\t';
+    case 'r':
+        return '\r';
+    case '\\':
+        return '\\';
+    default:
+        return '\0';
+    }
+}
+
+std::vector<Letter> lettersOf(const QByteArray &value)
+{
+    std::vector<Letter> letters;
+    const auto size = int(value.size());
+    for (int i = 0; i < size; ++i) {
+        const char meaning = value.at(i) == '\\' && i + 1 < size ? meaningOf(value.at(i + 1)) : '\0';
+        letters.push_back({meaning ? meaning : value.at(i), i});
+        i += meaning ? 1 : 0;
+    }
+    return letters;
+}
+
+// Splits as a shell would, without any expansion. False when a quote is not closed.
+bool split(const std::vector<Letter> &letters, std::vector<Word> &words)
+{
+    bool isInside = false; // of a word
+    char quote = '\0';
+    for (std::size_t i = 0; i < letters.size(); ++i) {
+        const char letter = letters[i].value;
+        if (!quote && (letter == ' ' || letter == '\t' || letter == '\n' || letter == '\r')) {
+            isInside = false;
+            continue;
+        }
+        if (!isInside)
+            words.push_back({{}, letters[i].place});
+        isInside = true;
+        QByteArray &text = words.back().text;
+        const char next = i + 1 < letters.size() ? letters[i + 1].value : '\0';
+        if (quote && letter == quote) {
+            quote = '\0';
+        } else if (!quote && (letter == '"' || letter == '\'')) {
+            quote = letter;
+        } else if (letter == '\\' && next != '\0' && quote != '\''
+                   && (quote != '"' || isOneOf(kQuotable, next))) {
+            text += next;
+            ++i;
+        } else {
+            text += letter;
+        }
+    }
+    return quote == '\0';
+}
+
+QByteArray fileName(const QByteArray &path)
+{
+    return path.mid(path.lastIndexOf('/') + 1);
+}
+
+// The index of the word that is the program; the number of words when there is none.
+std::size_t programAmong(const std::vector<Word> &words)
+{
+    if (words.empty() || fileName(words.front().text) != "env")
+        return 0;
+    std::size_t i = 1;
+    for (; i < words.size(); ++i) {
+        const QByteArray &word = words[i].text;
+        if (word == "-S" || word.startsWith("--split-string"))
+            return words.size();
+        if (word == "-u" || word == "-C" || word == "--unset" || word == "--chdir")
+            ++i; // what follows belongs to it
+        else if (!word.startsWith('-') && !word.contains('='))
+            break;
+    }
+    return i;
+}
+
+} // namespace
+
+ExecLine ExecLine::parse(const QByteArray &value)
+{
+    ExecLine line;
+    line.value = value;
+    std::vector<Word> words;
+    if (!split(lettersOf(value), words))
+        return line;
+    const std::size_t program = programAmong(words);
+    if (program >= words.size() || words[program].text.isEmpty())
+        return line;
+    line.isValid = true;
+    line.program = words[program].text;
+    line.program.replace("%%", "%");
+    line.place = words[program].place;
+    for (std::size_t i = program + 1; i < words.size(); ++i)
+        line.arguments.append(words[i].text);
+    return line;
+}
+
+QByteArray ExecLine::encoded(const QByteArray &argument)
+{
+    bool isPlain = !argument.isEmpty();
+    QByteArray quoted;
+    for (const char letter : argument) {
+        isPlain = isPlain && !isOneOf(kReserved, letter);
+        if (isOneOf(kQuotable, letter))
+            quoted += '\\';
+        quoted += letter;
+    }
+    if (!isPlain)
+        quoted = '"' + quoted + '"';
+    quoted.replace("%", "%%");
+    // And now as every value of such a file.
+    quoted.replace("\\", "\\\\").replace("\n", "\\n").replace("\t", "\\t").replace("\r", "\\r");
+    return quoted;
+}
+
+QByteArray ExecLine::startedBy(const QByteArray &launcher) const
+{
+    return value.left(place) + encoded(launcher) + ' ' + value.mid(place);
+}
+
+} // namespace launcher

@@ -1,0 +1,214 @@
+#include "launcher/doctor/Doctor.h"
+
+#include "host/files/ProgramProfile.h"
+#include "host/files/SettingsFile.h"
+#include "host/files/TriggerText.h"
+#include "launcher/settings/Bindings.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <dlfcn.h>
+#include <unistd.h>
+
+namespace launcher {
+namespace {
+
+class Report
+{
+public:
+    void add(const char *what, const QString &text)
+    {
+        m_diagnosis.lines.append(
+            QStringLiteral("%1 %2").arg(QLatin1String(what) + QLatin1Char(':'), -12).arg(text));
+    }
+    void addProblem(const char *what, const QString &text)
+    {
+        add(what, text);
+        m_diagnosis.isHealthy = false;
+    }
+    [[nodiscard]] Diagnosis diagnosis() const { return m_diagnosis; }
+
+private:
+    Diagnosis m_diagnosis;
+};
+
+void reportProgram(const Symptoms &symptoms, Report &report)
+{
+    if (symptoms.path.isEmpty()) {
+        report.addProblem("program", QStringLiteral("%1, not found").arg(symptoms.program));
+        return;
+    }
+    report.add("program",
+               QStringLiteral("%1, %2").arg(symptoms.program, QFile::decodeName(symptoms.path)));
+    switch (symptoms.use) {
+    case QtWidgetsUse::Qt5:
+        report.add("Qt", QStringLiteral("5"));
+        break;
+    case QtWidgetsUse::Qt6:
+        report.add("Qt", QStringLiteral("6"));
+        break;
+    case QtWidgetsUse::Unknown:
+        report.add("Qt", QStringLiteral("not known before it runs: a script"));
+        break;
+    case QtWidgetsUse::None:
+        report.addProblem("Qt", QStringLiteral("none; gestures need a program made with Qt Widgets"));
+        break;
+    }
+}
+
+void reportPlugin(const Symptoms &symptoms, Report &report)
+{
+    const int wanted = symptoms.use == QtWidgetsUse::Qt5 ? 5 : symptoms.use == QtWidgetsUse::Qt6 ? 6 : 0;
+    QStringList found;
+    for (const PluginFolder &folder : symptoms.plugins) {
+        if (wanted == 0 || folder.qtMajor == wanted)
+            found.append(QFile::decodeName(folder.path)
+                         + QStringLiteral("/generic/libmousegestures-qt%1.so").arg(folder.qtMajor));
+    }
+    if (found.isEmpty())
+        report.addProblem("plug-in", wanted == 0
+                                         ? QStringLiteral("not installed")
+                                         : QStringLiteral("not installed for Qt %1").arg(wanted));
+    else
+        report.add("plug-in", found.join(QStringLiteral(", ")));
+}
+
+void reportDisplay(const Symptoms &symptoms, Report &report)
+{
+    const Environment prepared = withGestures(symptoms.environment, symptoms.plugins, false);
+    const QString display = QString::fromLocal8Bit(symptoms.environment.value("DISPLAY"));
+    const QString wayland = QString::fromLocal8Bit(symptoms.environment.value("WAYLAND_DISPLAY"));
+    const bool isWayland =
+        !wayland.isEmpty() || symptoms.environment.value("XDG_SESSION_TYPE") == "wayland";
+    if (lacksX11(prepared))
+        report.addProblem("display", QStringLiteral("Wayland without X11; the ring may open away "
+                                                    "from the pointer"));
+    else if (display.isEmpty())
+        report.addProblem("display", QStringLiteral("none"));
+    else if (isWayland)
+        report.add("display", QStringLiteral("Wayland; the program will use X11, %1").arg(display));
+    else
+        report.add("display", QStringLiteral("X11, %1").arg(display));
+
+    switch (symptoms.compositor) {
+    case Symptoms::Compositor::Running:
+        report.add("compositor", QStringLiteral("running"));
+        break;
+    case Symptoms::Compositor::None:
+        // Gestures work, so this is no problem of theirs.
+        report.add("compositor", QStringLiteral("none; the ring will have an opaque ground"));
+        break;
+    case Symptoms::Compositor::Unknown:
+        report.add("compositor", QStringLiteral("not known"));
+        break;
+    }
+}
+
+gesturewidget::ProgramProfile reportProfile(const Symptoms &symptoms, Report &report)
+{
+    QString message;
+    const gesturewidget::ProgramProfile profile =
+        gesturewidget::ProgramProfile::forProgram(symptoms.program, symptoms.profileFolders, &message);
+    QString file;
+    for (const QString &folder : symptoms.profileFolders) {
+        const QString path = QDir(folder).filePath(symptoms.program + QLatin1String(".json"));
+        if (file.isEmpty() && QFileInfo::exists(path))
+            file = path;
+    }
+    if (!message.isEmpty())
+        report.addProblem("profile", message);
+    else
+        report.add("profile", file.isEmpty() ? QStringLiteral("none of its own") : file);
+    if (profile.viewClasses.isEmpty())
+        report.add("views", QStringLiteral("looked for in the running program, see --explain"));
+    else
+        report.add(
+            "views",
+            QStringLiteral("%1, by the profile").arg(profile.viewClasses.join(QStringLiteral(", "))));
+    return profile;
+}
+
+bool isWritable(const QString &path, int how)
+{
+    return ::access(QFile::encodeName(path).constData(), how) == 0;
+}
+
+void reportSettings(const Symptoms &symptoms, const gesturewidget::ProgramProfile &profile,
+                    Report &report)
+{
+    const QFileInfo file(symptoms.settingsFile);
+    // The nearest folder that is there; the others are made when something is kept.
+    QString folder = file.absolutePath();
+    while (!QFileInfo::exists(folder) && folder != QFileInfo(folder).path())
+        folder = QFileInfo(folder).path();
+    const bool canWrite =
+        QFileInfo(folder).isDir() && isWritable(folder, W_OK | X_OK)
+        && (!file.exists() || (file.isFile() && isWritable(file.filePath(), R_OK | W_OK)));
+    if (!canWrite)
+        report.addProblem("settings",
+                          QStringLiteral("%1, cannot be written").arg(symptoms.settingsFile));
+    else
+        report.add("settings", file.exists()
+                                   ? symptoms.settingsFile
+                                   : QStringLiteral("%1, not there yet").arg(symptoms.settingsFile));
+
+    const Bindings bindings =
+        canWrite && file.exists()
+            ? Bindings::fromSettings(gesturewidget::SettingsFile(symptoms.settingsFile).read())
+            : Bindings::initial();
+    if (!bindings.enabled)
+        report.addProblem("gestures", QStringLiteral("switched off in the settings"));
+    else
+        report.add("gestures", QStringLiteral("on, %1 of them").arg(bindings.scheme));
+    report.add("trigger", bindings.trigger.isEmpty() ? gesturewidget::triggerText(
+                              profile.triggerButton, profile.triggerModifiers)
+                                                     : bindings.trigger);
+}
+
+} // namespace
+
+Diagnosis diagnose(const Symptoms &symptoms)
+{
+    Report report;
+    reportProgram(symptoms, report);
+    reportPlugin(symptoms, report);
+    reportDisplay(symptoms, report);
+    const gesturewidget::ProgramProfile profile = reportProfile(symptoms, report);
+    reportSettings(symptoms, profile, report);
+    return report.diagnosis();
+}
+
+Symptoms::Compositor findCompositor(const QByteArray &display)
+{
+    using Result = Symptoms::Compositor;
+    if (display.isEmpty())
+        return Result::Unknown;
+    // Loaded by name: the launcher itself needs no X11.
+    void *library = ::dlopen("libX11.so.6", RTLD_NOW | RTLD_LOCAL);
+    if (!library)
+        return Result::Unknown;
+    using Open = void *(*)(const char *);
+    using Close = int (*)(void *);
+    using Screen = int (*)(void *);
+    using Intern = unsigned long (*)(void *, const char *, int);
+    using Owner = unsigned long (*)(void *, unsigned long);
+    const auto open = reinterpret_cast<Open>(::dlsym(library, "XOpenDisplay"));
+    const auto close = reinterpret_cast<Close>(::dlsym(library, "XCloseDisplay"));
+    const auto screen = reinterpret_cast<Screen>(::dlsym(library, "XDefaultScreen"));
+    const auto intern = reinterpret_cast<Intern>(::dlsym(library, "XInternAtom"));
+    const auto owner = reinterpret_cast<Owner>(::dlsym(library, "XGetSelectionOwner"));
+    void *server = open && close && screen && intern && owner ? open(display.constData()) : nullptr;
+    Result result = Result::Unknown;
+    if (server) {
+        const QByteArray selection = "_NET_WM_CM_S" + QByteArray::number(screen(server));
+        result = owner(server, intern(server, selection.constData(), 0)) != 0 ? Result::Running
+                                                                              : Result::None;
+        close(server);
+    }
+    ::dlclose(library);
+    return result;
+}
+
+} // namespace launcher

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "launcher/programs/LaunchEnvironment.h"
+#include "launcher/programs/PluginFolders.h"
+#include "launcher/programs/QtWidgetsUse.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+namespace launcher {
+
+// What decides whether gestures work in a program, gathered by whoever asks.
+struct Symptoms
+{
+    QString program; // its name, by which profile and settings are found
+    QByteArray path; // empty when there is no such program
+    QtWidgetsUse use = QtWidgetsUse::Unknown;
+    QList<PluginFolder> plugins;
+    Environment environment;
+    // Whether a compositor is running on the X11 display.
+    enum class Compositor { Running, None, Unknown } compositor = Compositor::Unknown;
+    QStringList profileFolders;
+    QString settingsFile;
+};
+
+struct Diagnosis
+{
+    QStringList lines; // "what: how it is", a line each
+    bool isHealthy = true; // nothing stands in the way of gestures
+};
+
+[[nodiscard]] Diagnosis diagnose(const Symptoms &symptoms);
+
+// Asks the X server that `display` names, as DISPLAY does, for the owner of its
+// compositor's selection. Unknown when no server answers or libX11 is not installed.
+[[nodiscard]] Symptoms::Compositor findCompositor(const QByteArray &display);
+
+} // namespace launcher

@@ -1,0 +1,30 @@
+#include "launcher/programs/PluginFolders.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace launcher {
+
+QList<PluginFolder> pluginFolders(const QByteArray &executableFolder)
+{
+    const QDir prefix(QDir::cleanPath(QFile::decodeName(executableFolder) + QLatin1String("/..")));
+    QList<PluginFolder> result;
+    for (const int major : {5, 6}) {
+        const QString file = QStringLiteral("/generic/libmousegestures-qt%1.so").arg(major);
+        const QString below = QStringLiteral("/gesturewidget/qt%1/plugins").arg(major);
+        QStringList candidates = {prefix.filePath(QStringLiteral("plugins")),
+                                  prefix.filePath(QStringLiteral("lib")) + below,
+                                  prefix.filePath(QStringLiteral("lib64")) + below};
+        const QDir lib(prefix.filePath(QStringLiteral("lib")));
+        const QStringList architectures = lib.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+        for (const QString &architecture : architectures)
+            candidates.append(lib.filePath(architecture) + below);
+        for (const QString &candidate : candidates) {
+            if (QFile::exists(candidate + file))
+                result.append({QFile::encodeName(candidate), major});
+        }
+    }
+    return result;
+}
+
+} // namespace launcher

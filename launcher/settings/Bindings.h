@@ -1,0 +1,36 @@
+#pragma once
+
+#include "host/files/SettingsFile.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace launcher {
+
+// What is kept for one program: which command lies in which direction, and how gestures are
+// made in it.
+struct Bindings
+{
+    // Direction names by direction index, counter-clockwise from up. `scheme` is 4 or 8.
+    [[nodiscard]] static QStringList directionNames(int scheme);
+
+    // What the settings of a program mean. Without any key of a scheme its directions are as
+    // they are at first; once there is one, those that are missing are empty.
+    [[nodiscard]] static Bindings fromSettings(const gesturewidget::SettingsFile::Values &values);
+    // Those before anybody has chosen anything. The trigger is the profile's.
+    [[nodiscard]] static Bindings initial();
+    // All of it as the settings have it.
+    [[nodiscard]] gesturewidget::SettingsFile::Values toSettings() const;
+
+    [[nodiscard]] QStringList &commands() { return scheme == 4 ? four : eight; }
+
+    bool enabled = true;
+    int scheme = 8; // 4 or 8
+    // Identifiers of commands by direction index; empty for none.
+    QStringList four;
+    QStringList eight;
+    // Empty for the profile's, see host/files/TriggerText.h.
+    QString trigger;
+};
+
+} // namespace launcher

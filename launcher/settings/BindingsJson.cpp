@@ -1,0 +1,233 @@
+#include "launcher/settings/BindingsJson.h"
+
+#include "host/files/TriggerText.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMap>
+
+#include <algorithm>
+
+namespace launcher {
+namespace {
+
+constexpr int kVersion = 1;
+
+QByteArray quoted(const QString &text)
+{
+    // As the only entry of a list, to have it escaped.
+    const QByteArray list = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
+    return list.mid(1, list.size() - 2);
+}
+
+int lineAt(const QByteArray &text, qsizetype offset)
+{
+    return int(text.left(int(offset)).count('\n')) + 1;
+}
+
+// Where the keys of a text stand, which QJsonDocument does not tell. For texts that it has
+// found to be JSON.
+class KeyLines
+{
+public:
+    explicit KeyLines(const QByteArray &text)
+    {
+        QStringList path;
+        QString last; // the string read last, a key if a colon follows
+        int lastLine = 1;
+        int line = 1;
+        for (int i = 0; i < text.size(); ++i) {
+            const char letter = text.at(i);
+            if (letter == '\n') {
+                ++line;
+            } else if (letter == '"') {
+                const int start = i;
+                for (++i; i < text.size() && text.at(i) != '"'; ++i)
+                    i += text.at(i) == '\\' ? 1 : 0;
+                last = unquoted(text.mid(start, i - start + 1));
+                lastLine = line;
+            } else if (letter == ':') {
+                const QString name = (path + QStringList{last}).join(QLatin1Char('.'));
+                if (m_lines.contains(name) && repeated.isEmpty()) {
+                    repeated = name;
+                    repeatedLine = lastLine;
+                }
+                m_lines.insert(name, lastLine);
+            } else if (letter == '{') {
+                if (m_isInside)
+                    path.append(last);
+                m_isInside = true;
+            } else if (letter == '}' && !path.isEmpty()) {
+                path.removeLast();
+            }
+        }
+    }
+
+    // Line of a key, "object.key" for one of an object; that of the object or 1 when it is
+    // not there.
+    [[nodiscard]] int of(const QString &name) const
+    {
+        const auto dot = name.indexOf(QLatin1Char('.'));
+        return m_lines.value(name, m_lines.value(name.left(dot), 1));
+    }
+
+    QString repeated; // the first key that stands twice
+    int repeatedLine = 0;
+
+private:
+    static QString unquoted(const QByteArray &text)
+    {
+        return QJsonDocument::fromJson('[' + text + ']').array().at(0).toString();
+    }
+
+    QMap<QString, int> m_lines;
+    bool m_isInside = false;
+};
+
+class Reader
+{
+public:
+    Reader(const QByteArray &text, const QJsonObject &object)
+        : m_lines(text)
+        , m_object(object)
+    {
+        if (!m_lines.repeated.isEmpty())
+            failAt(m_lines.repeatedLine, QStringLiteral("\"%1\" stands twice").arg(m_lines.repeated));
+    }
+
+    QString problem;
+
+    void fail(const QString &name, const QString &reason)
+    {
+        failAt(m_lines.of(name), QStringLiteral("\"%1\" %2").arg(name, reason));
+    }
+
+    void allow(const QJsonObject &object, const QStringList &keys, const QString &prefix)
+    {
+        const QStringList present = object.keys();
+        for (const QString &key : present) {
+            if (!keys.contains(key))
+                fail(prefix + key, QStringLiteral("is no key of such a file"));
+        }
+        for (const QString &key : keys) {
+            if (!present.contains(key))
+                fail(prefix + key, QStringLiteral("is missing"));
+        }
+    }
+
+    QJsonValue value(const QString &key) const { return m_object.value(key); }
+    const QJsonObject &object() const { return m_object; }
+
+    QStringList commands(const QString &scheme, const QStringList &directions)
+    {
+        if (!value(scheme).isObject()) {
+            fail(scheme, QStringLiteral("is not an object"));
+            return {};
+        }
+        const QJsonObject object = value(scheme).toObject();
+        const QString prefix = scheme + QLatin1Char('.');
+        allow(object, directions, prefix);
+        QStringList commands;
+        for (const QString &direction : directions) {
+            const QString command = object.value(direction).toString();
+            if (!object.value(direction).isString())
+                fail(prefix + direction, QStringLiteral("is not a string"));
+            else if (std::any_of(command.begin(), command.end(),
+                                 [](QChar letter) { return letter.category() == QChar::Other_Control; }))
+                fail(prefix + direction, QStringLiteral("holds a control character"));
+            else if (!command.isEmpty() && commands.contains(command))
+                fail(prefix + direction,
+                     QStringLiteral("has \"%1\", which another direction has").arg(command));
+            commands.append(command);
+        }
+        return commands;
+    }
+
+private:
+    void failAt(int line, const QString &reason)
+    {
+        if (problem.isEmpty())
+            problem = QStringLiteral("line %1: %2").arg(line).arg(reason);
+    }
+
+    KeyLines m_lines;
+    QJsonObject m_object;
+};
+
+} // namespace
+
+QByteArray bindingsToJson(const Bindings &bindings, const QString &program)
+{
+    QByteArray text = "{\n";
+    text += "    \"version\": " + QByteArray::number(kVersion) + ",\n";
+    text += "    \"program\": " + quoted(program) + ",\n";
+    text += QByteArray("    \"enabled\": ") + (bindings.enabled ? "true" : "false") + ",\n";
+    text += "    \"trigger\": " + quoted(bindings.trigger) + ",\n";
+    text += "    \"scheme\": " + QByteArray::number(bindings.scheme);
+    for (const int scheme : {4, 8}) {
+        text += scheme == 4 ? ",\n    \"four\": {" : ",\n    \"eight\": {";
+        const QStringList names = Bindings::directionNames(scheme);
+        for (int i = 0; i < scheme; ++i) {
+            const QStringList &commands = scheme == 4 ? bindings.four : bindings.eight;
+            text += (i == 0 ? "\n        " : ",\n        ") + quoted(names.at(i)) + ": "
+                  + quoted(commands.at(i));
+        }
+        text += "\n    }";
+    }
+    return text + "\n}\n";
+}
+
+bool bindingsFromJson(const QByteArray &text, const QString &program, Bindings &bindings,
+                      QString &problem)
+{
+    QJsonParseError parsing;
+    const QJsonDocument document = QJsonDocument::fromJson(text, &parsing);
+    if (parsing.error != QJsonParseError::NoError) {
+        problem =
+            QStringLiteral("line %1: %2").arg(lineAt(text, parsing.offset)).arg(parsing.errorString());
+        return false;
+    }
+    if (!document.isObject()) {
+        problem = QStringLiteral("line 1: it is not an object");
+        return false;
+    }
+
+    Reader reader(text, document.object());
+    const auto name = [](const char *key) { return QString::fromLatin1(key); };
+    reader.allow(reader.object(),
+                 {name("version"), name("program"), name("enabled"), name("trigger"), name("scheme"),
+                  name("four"), name("eight")},
+                 {});
+    if (reader.value(name("version")) != QJsonValue(kVersion))
+        reader.fail(name("version"), QStringLiteral("is not %1").arg(kVersion));
+    if (reader.value(name("program")) != QJsonValue(program))
+        reader.fail(name("program"), QStringLiteral("is not \"%1\"").arg(program));
+    if (!reader.value(name("enabled")).isBool())
+        reader.fail(name("enabled"), QStringLiteral("is neither true nor false"));
+    const QString trigger = reader.value(name("trigger")).toString();
+    Qt::MouseButton button = Qt::NoButton;
+    Qt::KeyboardModifiers keys = Qt::NoModifier;
+    if (!reader.value(name("trigger")).isString()
+        || (!trigger.isEmpty()
+            && !(gesturewidget::parseTrigger(trigger, button, keys)
+                 && gesturewidget::isUsableTrigger(button, keys))))
+        reader.fail(name("trigger"), QStringLiteral("names no button"));
+    const int scheme = reader.value(name("scheme")).toInt();
+    if (scheme != 4 && scheme != 8)
+        reader.fail(name("scheme"), QStringLiteral("is neither 4 nor 8"));
+
+    Bindings found;
+    found.enabled = reader.value(name("enabled")).toBool();
+    found.scheme = scheme;
+    found.trigger = trigger.isEmpty() ? QString() : gesturewidget::triggerText(button, keys);
+    found.four = reader.commands(name("four"), Bindings::directionNames(4));
+    found.eight = reader.commands(name("eight"), Bindings::directionNames(8));
+    problem = reader.problem.simplified();
+    if (!problem.isEmpty())
+        return false;
+    bindings = found;
+    return true;
+}
+
+} // namespace launcher

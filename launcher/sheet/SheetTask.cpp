@@ -1,0 +1,83 @@
+#include "launcher/sheet/SheetTask.h"
+
+#include "launcher/settings/Bindings.h"
+#include "launcher/settings/KnownCommands.h"
+
+#include <QFileInfo>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QSaveFile>
+
+namespace launcher {
+namespace {
+
+constexpr int kPatience = 60000; // milliseconds
+
+// What a person may know a command by that has never been seen: "ID_LINE" is "Line", and of a
+// path of captions the last one counts.
+QString captionFrom(const QString &identifier)
+{
+    const QLatin1String prefix("ID_");
+    if (!identifier.startsWith(prefix))
+        return identifier.section(QLatin1Char('/'), -1);
+    const QString words =
+        identifier.mid(prefix.size()).toLower().replace(QLatin1Char('_'), QLatin1Char(' '));
+    return words.left(1).toUpper() + words.mid(1);
+}
+
+} // namespace
+
+SheetContent sheetContent(const QString &program, const Bindings &bindings, const KnownCommands &known,
+                          const QString &usualTrigger)
+{
+    SheetContent content;
+    content.program = program;
+    content.trigger = bindings.trigger.isEmpty() ? usualTrigger : bindings.trigger;
+    content.enabled = bindings.enabled;
+    const QStringList names = Bindings::directionNames(bindings.scheme);
+    const QStringList &identifiers = bindings.scheme == 4 ? bindings.four : bindings.eight;
+    for (int i = 0; i < bindings.scheme; ++i) {
+        SheetContent::Command command;
+        command.direction = names.at(i);
+        if (const gesturewidget::RememberedCommand *shown = known.find(identifiers.at(i))) {
+            command.caption = shown->caption;
+            command.category = shown->group;
+            command.icon = shown->icon;
+        }
+        if (command.caption.isEmpty())
+            command.caption = captionFrom(identifiers.at(i));
+        content.commands.append(command);
+    }
+    return content;
+}
+
+Outcome printSheet(const SheetContent &content, const QString &drawer, const QString &path)
+{
+    if (!QFileInfo(drawer).isExecutable())
+        return Outcome::failure(QStringLiteral("%1 is not installed").arg(drawer));
+    // Before the work, so that what cannot be written is said at once.
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return Outcome::failure(QStringLiteral("%1 cannot be written").arg(path));
+
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    environment.remove(QStringLiteral("QT_QPA_GENERIC_PLUGINS"));
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(drawer, QStringList());
+    process.write(content.toJson());
+    process.closeWriteChannel();
+    const bool isDone = process.waitForFinished(kPatience)
+                     && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+    const QByteArray pdf = process.readAllStandardOutput();
+    if (!isDone || !pdf.startsWith("%PDF"))
+        return Outcome::failure(
+            QStringLiteral("the sheet could not be drawn: %1")
+                .arg(QString::fromLocal8Bit(process.readAllStandardError()).simplified()));
+    if (file.write(pdf) != pdf.size() || !file.commit())
+        return Outcome::failure(QStringLiteral("%1 cannot be written").arg(path));
+    return {};
+}
+
+} // namespace launcher

@@ -1,0 +1,659 @@
+#include "host/commands/CatalogueMemory.h"
+
+#include "host/commands/CommandCatalogue.h"
+#include "host/commands/RememberedIcon.h"
+#include "tests/host/support/DraftWindow.h"
+#include "tests/host/support/StandardErrorCapture.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QBuffer>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QPainter>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <algorithm>
+#include <functional>
+#include <memory>
+
+#include <sys/stat.h>
+
+using gesturewidget::ActionItem;
+using gesturewidget::CatalogueFile;
+using gesturewidget::CatalogueMemory;
+using gesturewidget::CommandCatalogue;
+using gesturewidget::RememberedCommand;
+using tests::DraftWindow;
+using WellKnown = QHash<QString, QStringList>;
+
+namespace {
+
+const QString kLine = QStringLiteral("ID_LINE");
+
+// A program that runs: its main window, and what the host knows of it.
+struct Start
+{
+    explicit Start(const QString &file, const WellKnown &wellKnown = {})
+        : catalogue(&window, wellKnown)
+        , memory(catalogue, file)
+        , settled(&memory, &CatalogueMemory::settled)
+    {
+    }
+
+    // Waits until what the menus show is in the file.
+    bool isWritten()
+    {
+        memory.start();
+        return settled.wait();
+    }
+    [[nodiscard]] QString identifierOf(const QAction *action)
+    {
+        const ActionItem *item = catalogue.itemOf(action);
+        return item ? item->GetIdentifier().toQString() : QStringLiteral("<none>");
+    }
+    // Whether a person can choose it.
+    [[nodiscard]] bool isOffered(const QString &identifier)
+    {
+        int count = 0;
+        for (const auto &group : catalogue.groups()) {
+            for (const CHxUICommandItem *item : group->items)
+                count += item->GetIdentifier().toQString() == identifier;
+        }
+        return count == 1;
+    }
+
+    DraftWindow window;
+    CommandCatalogue catalogue;
+    CatalogueMemory memory;
+    QSignalSpy settled;
+};
+
+QImage shown(const QIcon &icon)
+{
+    return icon.pixmap(16, 16).toImage().convertToFormat(QImage::Format_ARGB32);
+}
+
+} // namespace
+
+class CatalogueMemoryTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { tests::failOnWarnings(); }
+    void init()
+    {
+        tests::resetWarnings();
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_path = m_folder->filePath(QStringLiteral("drafter.commands.json"));
+    }
+    void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
+
+    void theFirstStartIsWritten();
+    void whatIsNewComesLater();
+    void aStartWithNothingNewWritesNothing();
+    void captionsThatChangeAllTheTimeAreNotWritten();
+    void menusThatNeverRestAreWrittenLessAndLess();
+    void nothingIsWrittenBeforeTheStartOrAfterTheStop();
+    void iconsWaitWhileAButtonIsDown();
+    void theStopWritesWhatWasSeen();
+    void commandsOfEarlierStartsAreOffered();
+    void theyAreTakenUpByTheirActions();
+    void identifiersStayThoughMenusComeInAnotherOrder();
+    void guessesStay();
+    void aProfileThatComesLaterCounts();
+    void aProfileThatChangesCounts();
+    void anotherLanguageChangesNoIdentifier();
+    void withoutObjectNamesTheLanguageCounts();
+    void entriesOfListsAreNotOfferedForEver();
+    void anEntryThatIsBoundStays();
+    void whatIsNotWrittenIsTriedAgain();
+    void aFileThatCannotBeUsedHarmsNothing();
+    void iconsAreReadWhenPainted();
+    void whatIsNoPictureShowsNothing_data();
+    void whatIsNoPictureShowsNothing();
+    void thousandCommandsCostNoStutter();
+
+private:
+    [[nodiscard]] QVector<RememberedCommand> file() const { return CatalogueFile(m_path).read(); }
+    [[nodiscard]] RememberedCommand inFile(const QString &identifier) const
+    {
+        const QVector<RememberedCommand> commands = file();
+        for (const RememberedCommand &command : commands) {
+            if (command.identifier == identifier)
+                return command;
+        }
+        return {};
+    }
+    [[nodiscard]] ino_t node() const // another one for each time it was written
+    {
+        struct stat status = {};
+        return ::stat(QFile::encodeName(m_path).constData(), &status) == 0 ? status.st_ino : 0;
+    }
+    // One start of the program, to its end. `before` changes the window.
+    void runOnce(const std::function<void(DraftWindow &)> &before = {},
+                 const WellKnown &wellKnown = {}) const
+    {
+        Start start(m_path, wellKnown);
+        if (before)
+            before(start.window);
+        QVERIFY(start.isWritten());
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_path;
+};
+
+void CatalogueMemoryTest::theFirstStartIsWritten()
+{
+    runOnce({}, {{kLine, {QStringLiteral("drawLine")}}});
+    QStringList identifiers;
+    const QVector<RememberedCommand> commands = file();
+    for (const RememberedCommand &command : commands)
+        identifiers.append(command.identifier);
+    QCOMPARE(identifiers, QStringList({QStringLiteral("fileNew"), QStringLiteral("fileOpen"),
+                                       QStringLiteral("File/Export/Picture..."),
+                                       QStringLiteral("File/Export/Text & numbers..."), kLine,
+                                       QStringLiteral("drawCircle"), QStringLiteral("helpAbout"),
+                                       QStringLiteral("drawArc")}));
+    const RememberedCommand line = inFile(kLine);
+    QCOMPARE(line.command, QStringLiteral("drawLine"));
+    QCOMPARE(line.caption, QStringLiteral("Line"));
+    QCOMPARE(line.tip, QStringLiteral("Draws a line"));
+    QCOMPARE(line.group, QStringLiteral("Draw"));
+    QVERIFY(!line.isInToolBar);
+    const QImage icon = QImage::fromData(line.icon, "PNG");
+    QCOMPARE(icon.size(), QSize(16, 16));
+    QCOMPARE(icon.pixelColor(8, 8), QColor(Qt::red));
+    const RememberedCommand arc = inFile(QStringLiteral("drawArc"));
+    QVERIFY(arc.isInToolBar);
+    QCOMPARE(arc.group, QStringLiteral("Drawing"));
+    QCOMPARE(arc.icon, QByteArray());
+}
+
+void CatalogueMemoryTest::whatIsNewComesLater()
+{
+    Start start(m_path);
+    QVERIFY(start.isWritten());
+    const int before = int(file().size());
+    QMenu *menu = start.window.addMenu("Sketch", "sketchMenu");
+    DraftWindow::addAction(menu, "Fillet", "sketchFillet");
+    DraftWindow::addAction(menu, "Chamfer", "sketchChamfer");
+    const ino_t node = this->node();
+    QCOMPARE(file().size(), before); // not at once
+    QVERIFY(start.settled.wait());
+    QCOMPARE(file().size(), before + 2);
+    QCOMPARE(inFile(QStringLiteral("sketchFillet")).group, QStringLiteral("Sketch"));
+    QVERIFY(this->node() != node);
+    QCOMPARE(start.settled.count(), 2);
+}
+
+void CatalogueMemoryTest::aStartWithNothingNewWritesNothing()
+{
+    runOnce();
+    const ino_t before = node();
+    QVERIFY(before != 0);
+    runOnce();
+    runOnce([](DraftWindow &window) { delete window.draw; });
+    QCOMPARE(node(), before);
+}
+
+void CatalogueMemoryTest::captionsThatChangeAllTheTimeAreNotWritten()
+{
+    Start start(m_path);
+    QVERIFY(start.isWritten());
+    const ino_t before = node();
+    start.window.line->setText(QStringLiteral("Line again"));
+    start.window.draw->addSeparator(); // the menus have changed
+    QVERIFY(start.settled.wait());
+    QCOMPARE(node(), before);
+    QCOMPARE(inFile(QStringLiteral("drawLine")).caption, QStringLiteral("Line"));
+}
+
+void CatalogueMemoryTest::menusThatNeverRestAreWrittenLessAndLess()
+{
+    Start start(m_path);
+    QMenu *clock = start.window.addMenu("Clock", "clockMenu");
+    int time = 0;
+    QTimer tick;
+    connect(&tick, &QTimer::timeout, this, [&] {
+        clock->clear();
+        clock->addAction(QString::number(++time));
+    });
+    tick.start(5);
+    QVERIFY(start.isWritten());
+    for (const int quietTime : {2 * CatalogueMemory::kQuietTime, 4 * CatalogueMemory::kQuietTime}) {
+        QElapsedTimer elapsed;
+        elapsed.start();
+        QVERIFY(start.settled.wait());
+        QVERIFY2(elapsed.elapsed() >= quietTime * 9 / 10,
+                 qPrintable(QString::number(elapsed.elapsed())));
+    }
+}
+
+void CatalogueMemoryTest::nothingIsWrittenBeforeTheStartOrAfterTheStop()
+{
+    Start start(m_path);
+    QVERIFY(start.catalogue.find(QStringLiteral("drawLine")));
+    DraftWindow::addAction(start.window.draw, "More", "drawMore");
+    start.memory.start();
+    start.memory.stop();
+    DraftWindow::addAction(start.window.draw, "Much more", "drawMuchMore");
+    QVERIFY(!start.settled.wait(2 * CatalogueMemory::kQuietTime));
+    QVERIFY(!QFileInfo::exists(m_path));
+}
+
+void CatalogueMemoryTest::iconsWaitWhileAButtonIsDown()
+{
+    Start start(m_path);
+    start.window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&start.window));
+    QTest::mousePress(start.window.windowHandle(), Qt::LeftButton, {}, QPoint(90, 90));
+    start.memory.start();
+    QVERIFY(!start.settled.wait(2 * CatalogueMemory::kQuietTime));
+    QVERIFY(!QFileInfo::exists(m_path));
+    QTest::mouseRelease(start.window.windowHandle(), Qt::LeftButton, {}, QPoint(90, 90));
+    QVERIFY(start.settled.wait());
+    QVERIFY(QFileInfo::exists(m_path));
+}
+
+// A person may start the program, look at something and be gone before all icons are drawn.
+void CatalogueMemoryTest::theStopWritesWhatWasSeen()
+{
+    {
+        Start start(m_path);
+        start.window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&start.window));
+        QTest::mousePress(start.window.windowHandle(), Qt::LeftButton, {}, QPoint(90, 90));
+        start.memory.start();
+        QVERIFY(!start.settled.wait(2 * CatalogueMemory::kQuietTime)); // seen, and not drawn
+        QTest::mouseRelease(start.window.windowHandle(), Qt::LeftButton, {}, QPoint(90, 90));
+        start.memory.stop();
+        QCOMPARE(file().size(), 8);
+        QCOMPARE(inFile(QStringLiteral("drawLine")).caption, QStringLiteral("Line"));
+        QVERIFY(inFile(QStringLiteral("drawLine")).icon.isEmpty());
+    }
+    runOnce(); // has the time for them
+    QVERIFY(!inFile(QStringLiteral("drawLine")).icon.isEmpty());
+}
+
+void CatalogueMemoryTest::commandsOfEarlierStartsAreOffered()
+{
+    runOnce();
+    Start start(m_path);
+    const QImage icon = shown(start.window.line->icon());
+    delete start.window.toolBar;
+    delete start.window.draw; // with its actions
+    ActionItem *line = start.catalogue.find(QStringLiteral("drawLine"));
+    QVERIFY(line);
+    QVERIFY(!line->isPresent && !line->isUsable());
+    QCOMPARE(line->GetCaption().toQString(), QStringLiteral("Line"));
+    QCOMPARE(line->GetTip().toQString(), QStringLiteral("Draws a line"));
+    QCOMPARE(line->group, QStringLiteral("Draw"));
+    QCOMPARE(shown(line->GetSmallIcon()), icon);
+    QCOMPARE(shown(line->GetLargeIcon()), icon);
+    QVERIFY(start.isOffered(QStringLiteral("drawLine")));
+    QVERIFY(start.isOffered(QStringLiteral("drawArc"))); // of a toolbar only
+    QVERIFY(start.catalogue.find(QStringLiteral("drawArc"))->isInToolBar);
+    const auto &groups = start.catalogue.groups();
+    const auto isDraw = [](const auto &group) {
+        return group->GetName().toQString() == QLatin1String("Draw");
+    };
+    const auto draw = std::find_if(groups.begin(), groups.end(), isDraw);
+    QVERIFY(draw != groups.end());
+    QCOMPARE(int((*draw)->items.size()), 2);
+    QVERIFY(!start.catalogue.isShown(QStringLiteral("Draw")));
+    QVERIFY(start.catalogue.isShown(QStringLiteral("Help")));
+}
+
+void CatalogueMemoryTest::theyAreTakenUpByTheirActions()
+{
+    runOnce();
+    Start start(m_path);
+    delete start.window.line;
+    ActionItem *line = start.catalogue.find(QStringLiteral("drawLine"));
+    QVERIFY(line && !line->isPresent);
+    QAction *again = DraftWindow::addAction(start.window.help, "Segment", "drawLine");
+    QCOMPARE(start.catalogue.itemOf(again), line);
+    QVERIFY(line->isUsable());
+    QCOMPARE(line->GetCaption().toQString(), QStringLiteral("Segment"));
+    QCOMPARE(line->GetTip().toQString(), QStringLiteral("Segment")); // a tool tip, by default
+    QVERIFY(line->GetSmallIcon().isNull());
+    QCOMPARE(line->group, QStringLiteral("Help"));
+    QVERIFY(start.isOffered(QStringLiteral("drawLine")));
+}
+
+// Of two names of one well-known command that name has its identifier which came first ever.
+void CatalogueMemoryTest::identifiersStayThoughMenusComeInAnotherOrder()
+{
+    const WellKnown wellKnown{{kLine, {QStringLiteral("sketchLine"), QStringLiteral("drawLine")}}};
+    runOnce({}, wellKnown);
+    QCOMPARE(inFile(kLine).command, QStringLiteral("drawLine"));
+    for (int round = 0; round < 2; ++round) {
+        Start start(m_path, wellKnown);
+        const QAction *line = start.window.line;
+        start.window.draw->removeAction(start.window.line);
+        start.window.toolBar->removeAction(start.window.line);
+        const QAction *sketch = DraftWindow::addAction(start.window.file, "Sketch line", "sketchLine");
+        QCOMPARE(start.identifierOf(sketch), QStringLiteral("sketchLine"));
+        // Both of them run it, whatever they are called.
+        QCOMPARE(start.catalogue.findUsable(kLine), start.catalogue.itemOf(sketch));
+        start.window.draw->addAction(start.window.line);
+        QCOMPARE(start.identifierOf(line), kLine);
+        QVERIFY(start.isWritten());
+    }
+}
+
+void CatalogueMemoryTest::guessesStay()
+{
+    {
+        Start start(m_path);
+        start.catalogue.guessWellKnown();
+        QCOMPARE(start.identifierOf(start.window.line), kLine);
+        QVERIFY(start.isWritten());
+    }
+    Start start(m_path);
+    start.catalogue.guessWellKnown();
+    QAction *line = start.window.line;
+    start.window.draw->removeAction(line);
+    start.window.toolBar->removeAction(line);
+    // Without what was seen before this would be taken for it.
+    const QAction *other = DraftWindow::addAction(start.window.file, "Line", "otherLine");
+    QCOMPARE(start.identifierOf(other), QStringLiteral("otherLine"));
+    start.window.draw->addAction(line);
+    QCOMPARE(start.identifierOf(line), kLine);
+}
+
+void CatalogueMemoryTest::aProfileThatComesLaterCounts()
+{
+    runOnce();
+    QVERIFY(!inFile(QStringLiteral("drawLine")).identifier.isEmpty());
+    Start start(m_path, {{kLine, {QStringLiteral("drawLine")}}});
+    QCOMPARE(start.identifierOf(start.window.line), kLine);
+    QVERIFY(start.isOffered(kLine));
+    QVERIFY(!start.isOffered(QStringLiteral("drawLine")));
+}
+
+void CatalogueMemoryTest::aProfileThatChangesCounts()
+{
+    runOnce({}, {{kLine, {QStringLiteral("drawLine")}}});
+    Start start(m_path, {{kLine, {QStringLiteral("drawArc")}}});
+    QCOMPARE(start.identifierOf(start.window.arc), kLine);
+    QCOMPARE(start.identifierOf(start.window.line), QStringLiteral("drawLine"));
+    QVERIFY(start.isOffered(kLine));
+}
+
+void CatalogueMemoryTest::anotherLanguageChangesNoIdentifier()
+{
+    const auto german = [](DraftWindow &window) {
+        window.draw->setTitle(QStringLiteral("&Zeichnen"));
+        window.line->setText(QStringLiteral("&Linie"));
+        window.line->setStatusTip(QStringLiteral("Zeichnet eine Linie"));
+        window.circle->setText(QStringLiteral("&Kreis"));
+    };
+    runOnce();
+    Start start(m_path);
+    german(start.window);
+    QCOMPARE(start.identifierOf(start.window.line), QStringLiteral("drawLine"));
+    QCOMPARE(start.identifierOf(start.window.circle), QStringLiteral("drawCircle"));
+    QVERIFY(start.isWritten());
+    // What is not there at the next start speaks the language in which it was last seen.
+    const RememberedCommand line = inFile(QStringLiteral("drawLine"));
+    QCOMPARE(line.caption, QStringLiteral("Linie"));
+    QCOMPARE(line.tip, QStringLiteral("Zeichnet eine Linie"));
+    QCOMPARE(line.group, QStringLiteral("Zeichnen"));
+    QVERIFY(!line.icon.isEmpty());
+    QCOMPARE(file().size(), 8);
+}
+
+void CatalogueMemoryTest::withoutObjectNamesTheLanguageCounts()
+{
+    runOnce();
+    Start start(m_path);
+    start.window.exportPicture->setText(QStringLiteral("&Bild..."));
+    QCOMPARE(start.identifierOf(start.window.exportPicture), QStringLiteral("File/Export/Bild..."));
+}
+
+void CatalogueMemoryTest::entriesOfListsAreNotOfferedForEver()
+{
+    const QString first = QStringLiteral("File/Recent/1 a.dxf");
+    const QString path = QStringLiteral("File/Recent/2 /home/me/b.dxf");
+    const QString twin = QStringLiteral("File/Recent/Window (2)");
+    const auto addRecent = [](DraftWindow &window, const QStringList &names) {
+        QMenu *recent = window.file->addMenu(QStringLiteral("Recent"));
+        for (const QString &name : names)
+            recent->addAction(name);
+    };
+    runOnce([&](DraftWindow &window) {
+        addRecent(window, {QStringLiteral("1 a.dxf"), QStringLiteral("2 /home/me/b.dxf"),
+                           QStringLiteral("Window"), QStringLiteral("Window")});
+    });
+    {
+        // Without their menu nobody knows what they are.
+        Start start(m_path);
+        for (const QString &name : {first, path, twin})
+            QVERIFY2(start.isOffered(name), qPrintable(name));
+    }
+    Start start(m_path);
+    addRecent(start.window, {QStringLiteral("1 a.dxf")});
+    QVERIFY(start.isOffered(first));
+    QVERIFY(!start.isOffered(path));
+    QVERIFY(!start.isOffered(twin));
+    // One that was there since the start stays offered, as every other command does.
+    QMenu *recent = start.window.file->actions().last()->menu();
+    recent->clear();
+    QVERIFY(start.isOffered(first));
+    // They go from the file when something else is written to it.
+    QVERIFY(start.isWritten());
+    QVERIFY(!inFile(path).identifier.isEmpty());
+    DraftWindow::addAction(start.window.draw, "Spline", "drawSpline");
+    QVERIFY(start.settled.wait());
+    QVERIFY(!inFile(QStringLiteral("drawSpline")).identifier.isEmpty());
+    QVERIFY(!inFile(first).identifier.isEmpty());
+    QVERIFY(inFile(path).identifier.isEmpty());
+    QVERIFY(inFile(twin).identifier.isEmpty());
+}
+
+void CatalogueMemoryTest::anEntryThatIsBoundStays()
+{
+    const QString picture = QStringLiteral("File/Export/Picture...");
+    runOnce();
+    Start start(m_path);
+    start.window.exports->removeAction(start.window.exportPicture);
+    QVERIFY(!start.isOffered(picture));
+    start.catalogue.expect(picture, QStringLiteral("Expected"));
+    QVERIFY(start.isOffered(picture));
+    QCOMPARE(start.catalogue.find(picture)->GetCaption().toQString(), QStringLiteral("Picture..."));
+    DraftWindow::addAction(start.window.draw, "Spline", "drawSpline");
+    QVERIFY(start.isWritten());
+    QVERIFY(!inFile(picture).identifier.isEmpty());
+}
+
+void CatalogueMemoryTest::whatIsNotWrittenIsTriedAgain()
+{
+    const QString folder = m_folder->filePath(QStringLiteral("drafter.commands.json"));
+    QVERIFY(QDir().mkdir(folder)); // in the way
+    tests::StandardErrorCapture errors;
+    Start start(m_path);
+    QVERIFY(start.isWritten());
+    QVERIFY(QDir().rmdir(folder));
+    DraftWindow::addAction(start.window.draw, "Spline", "drawSpline");
+    QVERIFY(start.settled.wait());
+    QCOMPARE(file().size(), 9);
+    QVERIFY(!inFile(QStringLiteral("drawLine")).icon.isEmpty());
+    QCOMPARE(errors.lines().size(), 1);
+}
+
+void CatalogueMemoryTest::aFileThatCannotBeUsedHarmsNothing()
+{
+    for (const char *text : {"", "{", "{\"version\": 99}", "[]"}) {
+        {
+            QFile file(m_path);
+            QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+            file.write(text);
+        }
+        tests::StandardErrorCapture errors;
+        Start start(m_path);
+        QCOMPARE(start.identifierOf(start.window.line), QStringLiteral("drawLine"));
+        QVERIFY(start.isWritten());
+        QCOMPARE(errors.lines().size(), 1);
+        QVERIFY(QFile::remove(m_path));
+    }
+    tests::StandardErrorCapture errors;
+    Start start(QStringLiteral("/proc/gesturewidget/drafter.commands.json"));
+    QCOMPARE(start.identifierOf(start.window.line), QStringLiteral("drawLine"));
+    QVERIFY(start.isWritten());
+    DraftWindow::addAction(start.window.draw, "Spline", "drawSpline");
+    QVERIFY(start.settled.wait());
+    QCOMPARE(errors.lines().size(), 1);
+}
+
+void CatalogueMemoryTest::iconsAreReadWhenPainted()
+{
+    QPixmap pixmap(20, 10);
+    pixmap.fill(Qt::transparent);
+    {
+        QPainter painter(&pixmap);
+        painter.fillRect(3, 2, 9, 5, QColor(10, 200, 30, 128));
+    }
+    const QIcon original(pixmap);
+    const QByteArray file = gesturewidget::iconToPng(original);
+    QVERIFY(!file.isEmpty());
+    const QIcon icon = gesturewidget::iconFromPng(file);
+    QVERIFY(!icon.isNull());
+    const QIcon copy = icon;
+    for (const QSize &size : {QSize(32, 32), QSize(16, 16), QSize(8, 8)}) {
+        QCOMPARE(copy.actualSize(size), original.actualSize(size));
+        QCOMPARE(copy.pixmap(size).toImage(), original.pixmap(size).toImage());
+    }
+    QCOMPARE(copy.pixmap(QSize(20, 10), QIcon::Disabled).toImage(),
+             original.pixmap(QSize(20, 10), QIcon::Disabled).toImage());
+    const auto painted = [](const QIcon &each) {
+        QImage image(24, 24, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        each.paint(&painter, image.rect());
+        return image;
+    };
+    QCOMPARE(painted(icon), painted(original));
+    QIcon changed = icon;
+    changed.addPixmap(pixmap, QIcon::Selected); // detaches
+    QCOMPARE(painted(icon), painted(original));
+
+    QVERIFY(gesturewidget::iconToPng(QIcon()).isEmpty());
+    QVERIFY(gesturewidget::iconFromPng({}).isNull());
+    QPixmap large(128, 128);
+    large.fill(Qt::blue);
+    QCOMPARE(QImage::fromData(gesturewidget::iconToPng(QIcon(large)), "PNG").size(),
+             QSize(gesturewidget::kRememberedIconSize, gesturewidget::kRememberedIconSize));
+}
+
+void CatalogueMemoryTest::whatIsNoPictureShowsNothing_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    const auto saved = [](const QSize &size, const char *format) {
+        QImage image(size, QImage::Format_ARGB32);
+        image.fill(Qt::red);
+        QByteArray file;
+        QBuffer buffer(&file);
+        return buffer.open(QIODevice::WriteOnly) && image.save(&buffer, format) ? file : QByteArray();
+    };
+    const QByteArray png = saved({256, 256}, "PNG");
+    QVERIFY(!gesturewidget::iconFromPng(png).pixmap(16, 16).isNull());
+    QTest::newRow("text") << QByteArray("picture");
+    QTest::newRow("cut off in the header") << png.left(30);
+    QTest::newRow("too wide") << saved({257, 256}, "PNG");
+    QTest::newRow("too high") << saved({256, 257}, "PNG");
+    QTest::newRow("other format") << saved({16, 16}, "BMP");
+}
+
+void CatalogueMemoryTest::whatIsNoPictureShowsNothing()
+{
+    QFETCH(QByteArray, file);
+    QVERIFY(!file.isEmpty());
+    tests::StandardErrorCapture errors;
+    const QIcon icon = gesturewidget::iconFromPng(file);
+    QVERIFY(icon.pixmap(16, 16).isNull());
+    QImage image(16, 16, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    icon.paint(&painter, image.rect());
+    QCOMPARE(image.pixelColor(8, 8), QColor(Qt::white));
+    QCOMPARE(errors.lines(), QStringList());
+}
+
+// Nothing that the user-interface thread does at a time may last long.
+void CatalogueMemoryTest::thousandCommandsCostNoStutter()
+{
+    const auto fill = [](DraftWindow &window) {
+        QPixmap pixmap(24, 24);
+        for (int i = 0; i < 20; ++i) {
+            QMenu *menu = window.addMenu(qPrintable(QStringLiteral("Menu %1").arg(i)),
+                                         qPrintable(QStringLiteral("menu%1").arg(i)));
+            for (int j = 0; j < 50; ++j) {
+                const QString name = QStringLiteral("command_%1_%2").arg(i).arg(j);
+                QPainter painter(&pixmap);
+                painter.fillRect(pixmap.rect(), QColor(i * 10, j * 5, 128));
+                for (int k = 0; k < 24; ++k)
+                    painter.fillRect((k * 7 + i) % 24, (k * 5 + j) % 24, 3, 2, QColor(k * 10, i, j));
+                painter.end();
+                QAction *action = DraftWindow::addAction(menu, qPrintable(name), qPrintable(name));
+                action->setIcon(QIcon(pixmap));
+                action->setStatusTip(QStringLiteral("What %1 does, in some words").arg(name));
+            }
+        }
+    };
+    // How long the event loop was kept from going round.
+    class Pauses : public QObject
+    {
+    public:
+        Pauses()
+        {
+            m_since.start();
+            startTimer(0);
+        }
+        qint64 longest = 0; // nanoseconds
+
+    protected:
+        void timerEvent(QTimerEvent *) override
+        {
+            longest = std::max(longest, m_since.nsecsElapsed());
+            m_since.restart();
+        }
+
+    private:
+        QElapsedTimer m_since;
+    };
+
+    double first = 0;
+    {
+        Start start(m_path);
+        fill(start.window);
+        QVERIFY(start.catalogue.find(QStringLiteral("drawLine"))); // the first walk is known
+        const Pauses pauses;
+        QVERIFY(start.isWritten());
+        first = double(pauses.longest) / 1e6;
+    }
+    QCOMPARE(file().size(), 1008);
+    QElapsedTimer timer;
+    timer.start();
+    Start start(m_path);
+    const double reading = double(timer.nsecsElapsed()) / 1e6;
+    fill(start.window);
+    QVERIFY(start.catalogue.find(QStringLiteral("drawLine")));
+    const Pauses pauses;
+    QVERIFY(start.isWritten());
+    const double second = double(pauses.longest) / 1e6;
+    qInfo("%lld bytes; longest pause at the first start %.1f ms, at the second %.1f ms; reading %.1f ms",
+          QFileInfo(m_path).size(), first, second, reading);
+    QVERIFY2(first < 200, qPrintable(QString::number(first)));
+    QVERIFY2(second < 50, qPrintable(QString::number(second)));
+    QVERIFY2(reading < 200, qPrintable(QString::number(reading)));
+}
+
+QTEST_MAIN(CatalogueMemoryTest)
+#include "tst_cataloguememory.moc"

@@ -1,0 +1,379 @@
+#include "host/commands/WellKnownGuess.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QAction>
+#include <QDir>
+#include <QDockWidget>
+#include <QFile>
+#include <QIcon>
+#include <QImage>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolBar>
+
+#include <memory>
+#include <vector>
+
+using gesturewidget::WellKnownGuess;
+
+class WellKnownGuessTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init()
+    {
+        tests::resetWarnings();
+        m_actions.clear();
+    }
+    void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
+
+    void theThemeHasItsIcons();
+    void byOneSign_data();
+    void byOneSign();
+    void byNothing_data();
+    void byNothing();
+    void theMoreTrustedSignWins_data();
+    void theMoreTrustedSignWins();
+    void signsAddUp();
+    void ofEqualsTheFirstWins();
+    void ofEqualsTheOneInTheRightMenuWins();
+    void someWordsCountInTheirMenuOnly();
+    void aButtonIsNoFileCommandByItsCaption();
+    void aShortcutInALaterMenuIsDoubtful();
+    void aPartOfTheWindowHasNoFileCommands();
+    void theMenuAloneSaysNothing();
+    void switchesOfBarsAreNone();
+    void anActionStandsForOneOnly();
+    void onlyWhatIsWanted();
+    void captions();
+
+private:
+    QAction *add(const QString &name, const QString &caption, const QString &icon = {},
+                 const QKeySequence &shortcut = {})
+    {
+        m_actions.push_back(std::make_unique<QAction>(caption));
+        QAction *action = m_actions.back().get();
+        action->setObjectName(name);
+        action->setShortcut(shortcut);
+        if (!icon.isEmpty())
+            action->setIcon(QIcon::fromTheme(icon));
+        return action;
+    }
+    QVector<QAction *> actions() const
+    {
+        QVector<QAction *> list;
+        for (const auto &action : m_actions)
+            list.append(action.get());
+        return list;
+    }
+
+    QTemporaryDir m_themes;
+    std::vector<std::unique_ptr<QAction>> m_actions;
+};
+
+// A theme of the tests' own: which one the machine has must not matter.
+void WellKnownGuessTest::initTestCase()
+{
+    tests::failOnWarnings();
+    const QDir folder(m_themes.path());
+    QVERIFY(folder.mkpath(QStringLiteral("plain/16/actions")));
+    QFile index(folder.filePath(QStringLiteral("plain/index.theme")));
+    QVERIFY(index.open(QIODevice::WriteOnly));
+    QVERIFY(index.write("[Icon Theme]\nName=plain\nDirectories=16/actions\n"
+                        "[16/actions]\nSize=16\nContext=Actions\nType=Fixed\n")
+            > 0);
+    index.close();
+    QImage image(16, 16, QImage::Format_ARGB32);
+    image.fill(Qt::red);
+    for (const char *name : {"document-open", "document-save", "edit-copy", "zoom-fit-best", "edit-cut"})
+        QVERIFY(image.save(
+            folder.filePath(QStringLiteral("plain/16/actions/%1.png").arg(QLatin1String(name)))));
+    QIcon::setThemeSearchPaths({m_themes.path()});
+    QIcon::setThemeName(QStringLiteral("plain"));
+}
+
+void WellKnownGuessTest::theThemeHasItsIcons()
+{
+    QCOMPARE(QIcon::fromTheme(QStringLiteral("document-open")).name(), QStringLiteral("document-open"));
+}
+
+void WellKnownGuessTest::byOneSign_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("caption");
+    QTest::addColumn<QString>("icon");
+    QTest::addColumn<QKeySequence>("shortcut");
+    QTest::addColumn<QString>("identifier");
+    QTest::addColumn<QString>("reason");
+    const auto row = [](const char *title, const char *name, const char *caption, const char *icon,
+                        const QKeySequence &shortcut, const char *identifier, const char *reason) {
+        QTest::newRow(title) << QString::fromLatin1(name) << QString::fromLatin1(caption)
+                             << QString::fromLatin1(icon) << shortcut << QString::fromLatin1(identifier)
+                             << QString::fromLatin1(reason);
+    };
+    row("shortcut open", "", "Oeffnen", "", QKeySequence::Open, "ID_OPEN", "shortcut \"Ctrl+O\"");
+    row("shortcut save", "", "Sichern", "", QKeySequence::Save, "ID_SAVE", "shortcut \"Ctrl+S\"");
+    row("shortcut copy", "", "Kopie", "", QKeySequence::Copy, "ID_COPY", "shortcut \"Ctrl+C\"");
+    row("icon open", "", "x", "document-open", {}, "ID_OPEN", "icon \"document-open\"");
+    row("icon save", "", "x", "document-save", {}, "ID_SAVE", "icon \"document-save\"");
+    row("icon copy", "", "x", "edit-copy", {}, "ID_COPY", "icon \"edit-copy\"");
+    row("icon zoom", "", "x", "zoom-fit-best", {}, "ID_ZOOM_BOUNDS", "icon \"zoom-fit-best\"");
+    row("name", "actionLine", "x", "", {}, "ID_LINE", "object name \"actionLine\"");
+    row("name with noise", "m_drawOffsetAction", "x", "", {}, "ID_OFFSET", "object name");
+    row("name of words", "action_zoom_to_fit", "x", "", {}, "ID_ZOOM_BOUNDS", "object name");
+    row("name in lower case", "zoom-extents", "x", "", {}, "ID_ZOOM_BOUNDS", "object name");
+    row("name trim", "ModifyTrim", "x", "", {}, "ID_TRIM", "object name");
+    row("name text", "toolText", "x", "", {}, "ID_DTEXT", "object name");
+    row("caption line", "", "&Line", "", {}, "ID_LINE", "caption \"Line\"");
+    row("caption offset", "", "Offset...", "", {}, "ID_OFFSET", "caption \"Offset...\"");
+    row("caption trim", "", "Trim", "", {}, "ID_TRIM", "caption \"Trim\"");
+    row("caption text", "", "Add &Text", "", {}, "ID_DTEXT", "caption \"Add Text\"");
+    row("caption zoom", "", "Zoom All\tZ", "", {}, "ID_ZOOM_BOUNDS", "caption \"Zoom All\"");
+    row("caption fit", "", "Fit in View", "", {}, "ID_ZOOM_BOUNDS", "caption");
+    row("caption extents", "", "Zoom Extents", "", {}, "ID_ZOOM_BOUNDS", "caption");
+    row("caption open", "", "Open...", "", {}, "ID_OPEN", "caption");
+    row("caption view all", "", "View All", "", {}, "ID_ZOOM_BOUNDS", "caption");
+    row("name view all", "actionViewAll", "x", "", {}, "ID_ZOOM_BOUNDS", "object name");
+    row("name full extent", "mActionZoomFullExtent", "x", "", {}, "ID_ZOOM_BOUNDS", "object name");
+    row("caption global zoom", "", "Global Zoom", "", {}, "ID_ZOOM_BOUNDS", "caption");
+    row("caption with an article", "", "Add a &textfield", "", {}, "ID_DTEXT", "caption");
+    row("caption text label", "", "Text Label", "", {}, "ID_DTEXT", "caption");
+    row("caption text frame", "", "Text &Frame", "", {}, "ID_DTEXT", "caption");
+    row("caption by points", "", "Line by Two Points", "", {}, "ID_LINE", "caption");
+    row("caption features", "", "Copy Features", "", {}, "ID_COPY", "caption");
+    row("name trim feature", "mActionTrimExtendFeature", "x", "", {}, "ID_TRIM", "object name");
+}
+
+void WellKnownGuessTest::byOneSign()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, caption);
+    QFETCH(QString, icon);
+    QFETCH(QKeySequence, shortcut);
+    QFETCH(QString, identifier);
+    QFETCH(QString, reason);
+    add(QStringLiteral("other"), QStringLiteral("Something"), QStringLiteral("edit-cut"),
+        QKeySequence::Cut);
+    QAction *action = add(name, caption, icon, shortcut);
+    const QVector<WellKnownGuess> found = WellKnownGuess::among(actions());
+    QCOMPARE(found.size(), 1);
+    QCOMPARE(found.first().identifier, identifier);
+    QCOMPARE(found.first().action, action);
+    QVERIFY(found.first().weight > 0);
+    QVERIFY2(found.first().reason.startsWith(reason), qPrintable(found.first().reason));
+}
+
+void WellKnownGuessTest::byNothing_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("caption");
+    const auto row = [](const char *name, const char *caption) {
+        QTest::newRow(caption) << QString::fromLatin1(name) << QString::fromLatin1(caption);
+    };
+    row("", "Line Width");
+    row("actionLineStyle", "Style of lines");
+    row("", "Polyline");
+    row("", "Save As...");
+    row("", "Copy Format");
+    row("", "Open Recent");
+    row("", "Zoom In");
+    row("", "Text Color");
+    row("action", "Nothing");
+    row("draw", "");
+    row("", "Trimmed");
+    row("", "Show All");
+    row("drawPolyLine", "x");
+    row("", "Text Annotation");
+}
+
+void WellKnownGuessTest::byNothing()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, caption);
+    add(name, caption);
+    const QVector<WellKnownGuess> found = WellKnownGuess::among(actions());
+    QVERIFY2(found.isEmpty(), found.isEmpty() ? "" : qPrintable(found.first().reason));
+}
+
+void WellKnownGuessTest::theMoreTrustedSignWins_data()
+{
+    QTest::addColumn<int>("weaker");
+    QTest::addColumn<int>("stronger");
+    const char *const kinds[] = {"caption", "object name", "icon", "shortcut"};
+    for (int stronger = 1; stronger < 4; ++stronger) {
+        for (int weaker = 0; weaker < stronger; ++weaker)
+            QTest::addRow("%s against %s", kinds[stronger], kinds[weaker]) << weaker << stronger;
+    }
+}
+
+void WellKnownGuessTest::theMoreTrustedSignWins()
+{
+    QFETCH(int, weaker);
+    QFETCH(int, stronger);
+    // All that are weaker together do not outweigh it.
+    add(weaker >= 1 ? QStringLiteral("fileOpen") : QString(), QStringLiteral("Open"),
+        weaker >= 2 ? QStringLiteral("document-open") : QString());
+    QAction *wins = add(stronger == 1 ? QStringLiteral("fileOpen") : QString(), QStringLiteral("x"),
+                        stronger == 2 ? QStringLiteral("document-open") : QString(),
+                        stronger == 3 ? QKeySequence(QKeySequence::Open) : QKeySequence());
+    QCOMPARE(WellKnownGuess::among(actions()).value(0).action, wins);
+}
+
+void WellKnownGuessTest::signsAddUp()
+{
+    add(QStringLiteral("fileOpen"), QStringLiteral("x"));
+    QAction *both = add(QStringLiteral("fileOpen"), QStringLiteral("Open"));
+    const WellKnownGuess guess = WellKnownGuess::among(actions()).value(0);
+    QCOMPARE(guess.action, both);
+    QCOMPARE(guess.reason, QStringLiteral("object name \"fileOpen\", caption \"Open\""));
+}
+
+void WellKnownGuessTest::ofEqualsTheFirstWins()
+{
+    QAction *first = add(QString(), QStringLiteral("Line"));
+    add(QString(), QStringLiteral("Line"));
+    const QVector<WellKnownGuess> found = WellKnownGuess::among(actions());
+    QCOMPARE(found.size(), 1);
+    QCOMPARE(found.first().action, first);
+}
+
+void WellKnownGuessTest::ofEqualsTheOneInTheRightMenuWins()
+{
+    QMenu convert(QStringLiteral("Convert to"));
+    QMenu insert(QStringLiteral("&Insert"));
+    convert.addAction(add(QString(), QStringLiteral("Text Frame")));
+    QAction *inserts = add(QString(), QStringLiteral("Text Frame"));
+    insert.addAction(inserts);
+    const QVector<WellKnownGuess> found = WellKnownGuess::among(actions());
+    QCOMPARE(found.size(), 1);
+    QCOMPARE(found.first().action, inserts);
+    // But what is called so outweighs where it is.
+    QAction *named = add(QStringLiteral("drawText"), QStringLiteral("x"));
+    QCOMPARE(WellKnownGuess::among(actions()).value(0).action, named);
+}
+
+// "Fit" is one thing in the View menu and another where curves are fitted.
+void WellKnownGuessTest::someWordsCountInTheirMenuOnly()
+{
+    QMenu analysis(QStringLiteral("Analysis"));
+    QMenu zoom(QStringLiteral("&Zoom"));
+    QAction *fit = add(QString(), QStringLiteral("Fit"));
+    analysis.addAction(fit);
+    QVERIFY(WellKnownGuess::among(actions()).isEmpty());
+    QAction *zoomFit = add(QString(), QStringLiteral("&Fit"));
+    zoom.addAction(zoomFit);
+    const WellKnownGuess found = WellKnownGuess::among(actions()).value(0);
+    QCOMPARE(found.identifier, QStringLiteral("ID_ZOOM_BOUNDS"));
+    QCOMPARE(found.action, zoomFit);
+}
+
+// A program whose File menu is filled with its first document has buttons before that.
+void WellKnownGuessTest::aButtonIsNoFileCommandByItsCaption()
+{
+    QToolBar bar;
+    QAction *saves = add(QStringLiteral("tree_save"), QStringLiteral("Save"));
+    bar.addAction(saves);
+    QVERIFY(WellKnownGuess::among(actions()).isEmpty());
+    QMenu overTheTree;
+    overTheTree.addAction(saves);
+    QVERIFY(WellKnownGuess::among(actions()).isEmpty());
+    saves->setShortcut(QKeySequence::Save);
+    QCOMPARE(WellKnownGuess::among(actions()).value(0).action, saves);
+    // A tool to draw with is often nowhere else.
+    QAction *line = add(QString(), QStringLiteral("Line"));
+    bar.addAction(line);
+    QCOMPARE(WellKnownGuess::among(actions()).value(0).action, line);
+}
+
+// Ctrl+O goes back to where one was in some programs; what opens files is in the first menu.
+void WellKnownGuessTest::aShortcutInALaterMenuIsDoubtful()
+{
+    QMenuBar bar;
+    QMenu *map = bar.addMenu(QStringLiteral("&Map"));
+    QMenu *select = bar.addMenu(QStringLiteral("&Select"))->addMenu(QStringLiteral("Jump"));
+    QAction *back = add(QString(), QStringLiteral("Previous"), QString(), QKeySequence::Open);
+    select->addAction(back);
+    QCOMPARE(WellKnownGuess::among(actions()).value(0).action, back); // nothing better
+    QAction *opens = add(QString(), QStringLiteral("Open..."));
+    map->addAction(opens);
+    QCOMPARE(WellKnownGuess::among(actions()).value(0).action, opens);
+    map->addAction(back); // it is there as well
+    QCOMPARE(WellKnownGuess::among(actions()).value(0).action, back);
+}
+
+// Nor is it that of an editor in a dock, which is a main window of its own in the main window.
+void WellKnownGuessTest::aPartOfTheWindowHasNoFileCommands()
+{
+    QMainWindow window;
+    auto *notes = new QMainWindow;
+    notes->setWindowFlags(Qt::Widget);
+    window.setCentralWidget(notes);
+    QAction *import = add(QString(), QStringLiteral("Import"), QString(), QKeySequence::Open);
+    notes->menuBar()->addMenu(QStringLiteral("Note"))->addAction(import);
+    QAction *opens = add(QString(), QStringLiteral("Open..."));
+    window.menuBar()->addMenu(QStringLiteral("Map"))->addAction(opens);
+    QCOMPARE(WellKnownGuess::among(actions()).value(0).action, opens);
+}
+
+void WellKnownGuessTest::theMenuAloneSaysNothing()
+{
+    QMenu file(QStringLiteral("&File"));
+    file.addAction(add(QString(), QStringLiteral("Properties")));
+    QVERIFY(WellKnownGuess::among(actions()).isEmpty());
+}
+
+// They bear the title of the bar that they show and hide.
+void WellKnownGuessTest::switchesOfBarsAreNone()
+{
+    QToolBar bar(QStringLiteral("Lines"));
+    QDockWidget dock(QStringLiteral("Text"));
+    QAction *byName = add(QStringLiteral("offset_toolbar"), QStringLiteral("Offset"));
+    byName->setCheckable(true);
+    const QVector<QAction *> switches{bar.toggleViewAction(), dock.toggleViewAction(), byName};
+    QVERIFY(WellKnownGuess::among(switches).isEmpty());
+    // A tool that stays chosen can be checked too.
+    QAction *tool = add(QStringLiteral("drawLine"), QStringLiteral("Line"));
+    tool->setCheckable(true);
+    QCOMPARE(WellKnownGuess::among(switches + QVector<QAction *>{tool}).value(0).action, tool);
+}
+
+void WellKnownGuessTest::anActionStandsForOneOnly()
+{
+    QAction *torn = add(QStringLiteral("drawLine"), QStringLiteral("Text"));
+    QAction *text = add(QString(), QStringLiteral("Text"));
+    const QVector<WellKnownGuess> found = WellKnownGuess::among(actions());
+    QCOMPARE(found.size(), 2);
+    QCOMPARE(found.at(0).identifier, QStringLiteral("ID_DTEXT"));
+    QCOMPARE(found.at(0).action, text);
+    QCOMPARE(found.at(1).identifier, QStringLiteral("ID_LINE"));
+    QCOMPARE(found.at(1).action, torn);
+}
+
+void WellKnownGuessTest::onlyWhatIsWanted()
+{
+    add(QString(), QStringLiteral("Line"));
+    add(QString(), QStringLiteral("Text"));
+    const QVector<WellKnownGuess> found = WellKnownGuess::among(actions(), {QStringLiteral("ID_DTEXT")});
+    QCOMPARE(found.size(), 1);
+    QCOMPARE(found.first().identifier, QStringLiteral("ID_DTEXT"));
+    QVERIFY(WellKnownGuess::among(actions(), {}).isEmpty());
+    QVERIFY(WellKnownGuess::among({}).isEmpty());
+}
+
+void WellKnownGuessTest::captions()
+{
+    QCOMPARE(WellKnownGuess::identifiers().size(), 8);
+    const QStringList identifiers = WellKnownGuess::identifiers();
+    for (const QString &identifier : identifiers)
+        QVERIFY2(!WellKnownGuess::captionOf(identifier).isEmpty(), qPrintable(identifier));
+    QCOMPARE(WellKnownGuess::captionOf(QStringLiteral("ID_LINE")), QStringLiteral("Line"));
+    QCOMPARE(WellKnownGuess::captionOf(QStringLiteral("fileOpen")), QString());
+}
+
+QTEST_MAIN(WellKnownGuessTest)
+#include "tst_wellknownguess.moc"

@@ -1,0 +1,497 @@
+#include "host/documents/ViewFinder.h"
+#include "host/documents/ViewGuess.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QDockWidget>
+#include <QGraphicsView>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSignalSpy>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QTabWidget>
+#include <QTest>
+#include <QTextEdit>
+#include <QWindow>
+
+#include <functional>
+#include <memory>
+
+using gesturewidget::ViewGuess;
+
+namespace {
+
+// What a drafting program paints on. Without Q_OBJECT, as many are: its name is QWidget.
+class Canvas : public QWidget
+{
+public:
+    using QWidget::QWidget;
+};
+
+class ScrollingCanvas : public QAbstractScrollArea
+{
+public:
+    using QAbstractScrollArea::QAbstractScrollArea;
+};
+
+class Editor : public QTextEdit
+{
+public:
+    using QTextEdit::QTextEdit;
+};
+
+// A text editor that is none of Qt's, and a canvas on which text may be typed.
+class TypedInto : public QWidget
+{
+public:
+    explicit TypedInto(const QVariant &surrounding)
+        : m_surrounding(surrounding)
+    {
+        setAttribute(Qt::WA_InputMethodEnabled);
+    }
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override
+    {
+        return query == Qt::ImSurroundingText ? m_surrounding : QWidget::inputMethodQuery(query);
+    }
+
+private:
+    QVariant m_surrounding;
+};
+
+// These two stand for widgets of libraries that are not linked here, by their names alone.
+class QWebEngineView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+};
+
+class QGLWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+};
+
+class DrafterStartPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+};
+
+// Puts something into a main window and returns the widget that is asked about.
+using Build = std::function<QWidget *(QMainWindow &)>;
+
+template <class Widget> QWidget *central(QMainWindow &window)
+{
+    auto *widget = new Widget;
+    window.setCentralWidget(widget);
+    return widget;
+}
+
+template <class Widget> QWidget *docked(QMainWindow &window)
+{
+    window.setCentralWidget(new Canvas);
+    auto *dock = new QDockWidget;
+    auto *widget = new Widget;
+    widget->setMinimumSize(200, 200);
+    dock->setWidget(widget);
+    window.addDockWidget(Qt::LeftDockWidgetArea, dock);
+    return widget;
+}
+
+template <class Widget> QWidget *mdiChild(QMainWindow &window)
+{
+    auto *area = new QMdiArea;
+    window.setCentralWidget(area);
+    auto *widget = new Widget;
+    area->addSubWindow(widget)->resize(300, 250);
+    return widget;
+}
+
+// In a dock of that width, in pixels, beside `middle`, which may be null.
+template <class Widget> QWidget *dockedBeside(QMainWindow &window, QWidget *middle, int width)
+{
+    window.setCentralWidget(middle);
+    auto *dock = new QDockWidget;
+    auto *widget = new Widget;
+    dock->setWidget(widget);
+    window.addDockWidget(Qt::RightDockWidgetArea, dock);
+    widget->setFixedWidth(width);
+    return widget;
+}
+
+// Beside something else in a plain widget, at that share of the width in per cent.
+QWidget *beside(QMainWindow &window, int share, QWidget *widget)
+{
+    auto *frame = new QWidget;
+    auto *layout = new QHBoxLayout(frame);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(widget, share);
+    layout->addWidget(new QWidget, 100 - share);
+    window.setCentralWidget(frame);
+    return widget;
+}
+
+QWidget *filledBy(QWidget *frame, QWidget *content)
+{
+    auto *layout = new QHBoxLayout(frame);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(content);
+    return frame;
+}
+
+QWidget *canvasWithLabels(int labels)
+{
+    auto *canvas = new Canvas;
+    for (int i = 0; i < labels; ++i)
+        (new QLabel(QStringLiteral("x"), canvas))->move(20 * i, 0);
+    return canvas;
+}
+
+QWidget *inScrollArea(QMainWindow &window, QWidget *content)
+{
+    auto *area = new QScrollArea;
+    content->resize(300, 150); // much less than the area
+    area->setWidget(content);
+    window.setCentralWidget(area);
+    return content;
+}
+
+} // namespace
+Q_DECLARE_METATYPE(Build)
+
+class ViewGuessTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { tests::failOnWarnings(); }
+    void init() { tests::resetWarnings(); }
+    void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
+
+    void guesses_data();
+    void guesses();
+    void theFinderFindsWhatIsShownLater();
+    void theFinderReportsTheViewport();
+    void theFinderWaitsUntilThingsAreInPlace();
+};
+
+void ViewGuessTest::guesses_data()
+{
+    QTest::addColumn<Build>("build");
+    QTest::addColumn<bool>("isView");
+    QTest::addColumn<QString>("reason");
+    const auto row = [](const char *name, const Build &build, bool isView, const char *reason) {
+        QTest::newRow(name) << build << isView << QString::fromLatin1(reason);
+    };
+
+    row("graphics view", central<QGraphicsView>, true, "graphics view");
+    row("graphics view in a dock", docked<QGraphicsView>, false, "not in the middle");
+    row(
+        "graphics view in a large dock beside a text",
+        [](QMainWindow &w) { return dockedBeside<QGraphicsView>(w, new Editor, 300); }, true,
+        "graphics view");
+    row(
+        "surface in a large dock beside a text",
+        [](QMainWindow &w) { return dockedBeside<QGLWidget>(w, new Editor, 300); }, true, "surface");
+    row(
+        "graphics view in a dock and nothing else",
+        [](QMainWindow &w) { return dockedBeside<QGraphicsView>(w, nullptr, 700); }, true,
+        "graphics view");
+    row(
+        "graphics view in a small dock beside a text",
+        [](QMainWindow &w) { return dockedBeside<QGraphicsView>(w, new Editor, 130); }, false,
+        "not in the middle");
+    row(
+        "graphics view in a large dock beside a drawing",
+        [](QMainWindow &w) {
+            auto *tabs = new QTabWidget;
+            tabs->addTab(new QGraphicsView, QStringLiteral("1"));
+            return dockedBeside<QGraphicsView>(w, tabs, 400);
+        },
+        false, "not in the middle");
+    row(
+        "graphics view in a floating dock",
+        [](QMainWindow &w) {
+            QWidget *view = dockedBeside<QGraphicsView>(w, new Editor, 300);
+            static_cast<QDockWidget *>(view->parentWidget())->setFloating(true);
+            return view;
+        },
+        false, "not in the middle");
+    row(
+        "canvas in a large dock beside a text",
+        [](QMainWindow &w) { return dockedBeside<Canvas>(w, new Editor, 300); }, false,
+        "not in the middle");
+    row("graphics view in an MDI child", mdiChild<QGraphicsView>, true, "graphics view");
+    row(
+        "graphics view beside others", [](QMainWindow &w) { return beside(w, 30, new QGraphicsView); },
+        true, "graphics view");
+    row(
+        "its viewport",
+        [](QMainWindow &w) {
+            return static_cast<QGraphicsView *>(central<QGraphicsView>(w))->viewport();
+        },
+        false, "viewport of QGraphicsView");
+    row(
+        "small graphics view",
+        [](QMainWindow &w) {
+            QWidget *view = beside(w, 30, new QGraphicsView);
+            view->setFixedSize(99, 200);
+            return view;
+        },
+        false, "too small");
+    row(
+        "hidden graphics view",
+        [](QMainWindow &w) {
+            QWidget *view = central<QGraphicsView>(w);
+            view->hide();
+            return view;
+        },
+        false, "not visible");
+    row(
+        "graphics view without a main window",
+        [](QMainWindow &w) {
+            auto *window = new QWidget(&w, Qt::Window);
+            filledBy(window, new QGraphicsView);
+            window->show();
+            return window->findChild<QGraphicsView *>();
+        },
+        false, "not in the middle");
+    row("surface", central<QGLWidget>, true, "surface");
+    row(
+        "surface as viewport",
+        [](QMainWindow &w) {
+            auto *view = static_cast<QGraphicsView *>(central<QGraphicsView>(w));
+            view->setViewport(new QGLWidget);
+            return view->viewport();
+        },
+        false, "viewport of");
+    row(
+        "foreign window",
+        [](QMainWindow &w) {
+            QWidget *container = QWidget::createWindowContainer(new QWindow);
+            w.setCentralWidget(container);
+            return container;
+        },
+        true, "surface");
+    row(
+        "surface in a web page",
+        [](QMainWindow &w) {
+            auto *surface = new QGLWidget;
+            w.setCentralWidget(filledBy(new QWebEngineView, surface));
+            return surface;
+        },
+        false, "web pages");
+    row("web page", central<QWebEngineView>, false, "web pages");
+
+    row("canvas", central<Canvas>, true, "fills 100 %");
+    row("scrolling canvas", central<ScrollingCanvas>, true, "fills 100 %");
+    row("canvas in an MDI child", mdiChild<Canvas>, true, "fills 100 %");
+    row("canvas in a dock", docked<Canvas>, false, "not in the middle");
+    row(
+        "canvas that fills 65 %", [](QMainWindow &w) { return beside(w, 65, new Canvas); }, true,
+        "fills 65 %");
+    row(
+        "canvas that fills 55 %", [](QMainWindow &w) { return beside(w, 55, new Canvas); }, false,
+        "fills 55 % of the area only");
+    row(
+        "canvas with rulers",
+        [](QMainWindow &w) {
+            auto *canvas = new Canvas;
+            (new Canvas(canvas))->resize(600, 20);
+            (new Canvas(canvas))->resize(20, 600);
+            w.setCentralWidget(canvas);
+            return canvas;
+        },
+        true, "fills 100 %");
+    row(
+        "frame around a canvas",
+        [](QMainWindow &w) {
+            QWidget *frame = filledBy(new Canvas, new Canvas);
+            w.setCentralWidget(frame);
+            return frame;
+        },
+        false, "filled by another");
+    row(
+        "canvas in a frame",
+        [](QMainWindow &w) {
+            auto *canvas = new Canvas;
+            w.setCentralWidget(filledBy(new Canvas, canvas));
+            return canvas;
+        },
+        true, "fills 100 %");
+    row(
+        "canvas under glass",
+        [](QMainWindow &w) {
+            auto *glass = new Canvas;
+            glass->setAttribute(Qt::WA_TransparentForMouseEvents);
+            QWidget *canvas = filledBy(new Canvas, glass);
+            w.setCentralWidget(canvas);
+            return canvas;
+        },
+        true, "fills 100 %");
+    row(
+        "small canvas that scrolls", [](QMainWindow &w) { return inScrollArea(w, new Canvas); }, true,
+        "content of a scroll area");
+    row(
+        "scroll area around a canvas",
+        [](QMainWindow &w) { return inScrollArea(w, new Canvas)->parentWidget()->parentWidget(); },
+        false, "plain QScrollArea");
+    row(
+        "canvas on a page of tabs",
+        [](QMainWindow &w) {
+            auto *tabs = new QTabWidget;
+            w.setCentralWidget(tabs);
+            auto *canvas = new Canvas;
+            tabs->addTab(canvas, QStringLiteral("1"));
+            return canvas;
+        },
+        true, "it paints itself");
+    row(
+        "canvas with three labels",
+        [](QMainWindow &w) {
+            QWidget *canvas = canvasWithLabels(3);
+            w.setCentralWidget(canvas);
+            return canvas;
+        },
+        true, "fills 100 %");
+    row(
+        "page of controls",
+        [](QMainWindow &w) {
+            QWidget *canvas = canvasWithLabels(4);
+            w.setCentralWidget(canvas);
+            return canvas;
+        },
+        false, "page of controls");
+
+    row("plain widget", central<QWidget>, false, "plain QWidget");
+    row("frame", central<QFrame>, false, "plain QFrame");
+    row("text editor", central<Editor>, false, "text editor");
+    row(
+        "text editor of another library",
+        [](QMainWindow &w) {
+            auto *editor = new TypedInto(QString());
+            w.setCentralWidget(editor);
+            return editor;
+        },
+        false, "text editor by the way");
+    row(
+        "canvas that takes text in no place",
+        [](QMainWindow &w) {
+            auto *canvas = new TypedInto(QVariant());
+            w.setCentralWidget(canvas);
+            return canvas;
+        },
+        true, "paints itself");
+    row("list", central<QListWidget>, false, "item view");
+    row("MDI area", central<QMdiArea>, false, "frame for others");
+    row("tabs", central<QTabWidget>, false, "frame for others");
+    row("stack", central<QStackedWidget>, false, "frame for others");
+    row("splitter", central<QSplitter>, false, "frame for others");
+    row("button", central<QPushButton>, false, "control");
+    row("picture", central<QLabel>, false, "control");
+    row("start page", central<DrafterStartPage>, false, "start page");
+    row(
+        "start page by its object's name",
+        [](QMainWindow &w) {
+            QWidget *page = central<Canvas>(w);
+            page->setObjectName(QStringLiteral("WelcomeView"));
+            return page;
+        },
+        false, "start page");
+    row(
+        "MDI child's frame", [](QMainWindow &w) { return mdiChild<Canvas>(w)->parentWidget(); }, false,
+        "not in the middle");
+    row(
+        "the main window", [](QMainWindow &w) { return &w; }, false, "not in the middle");
+}
+
+void ViewGuessTest::guesses()
+{
+    QFETCH(Build, build);
+    QFETCH(bool, isView);
+    QFETCH(QString, reason);
+    QMainWindow window;
+    window.resize(800, 600);
+    const QWidget *widget = build(window);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const ViewGuess guess = ViewGuess::of(widget);
+    QVERIFY2(guess.isView == isView, qPrintable(guess.reason));
+    QVERIFY2(guess.reason.contains(reason), qPrintable(guess.reason));
+}
+
+void ViewGuessTest::theFinderFindsWhatIsShownLater()
+{
+    QMainWindow window;
+    window.resize(800, 600);
+    auto *area = new QMdiArea;
+    window.setCentralWidget(area);
+    window.show();
+    gesturewidget::ViewFinder finder({}, true);
+    QSet<QWidget *> found;
+    connect(&finder, &gesturewidget::ViewFinder::viewFound, this,
+            [&found](QWidget *view) { found.insert(view); });
+    finder.start();
+    auto *first = new Canvas;
+    first->setMinimumSize(200, 200);
+    area->addSubWindow(first)->show();
+    QTRY_COMPARE(found, QSet<QWidget *>{first});
+    auto *second = new Canvas;
+    area->addSubWindow(second)->showMaximized();
+    QTRY_COMPARE(found, (QSet<QWidget *>{first, second}));
+    finder.stop();
+}
+
+void ViewGuessTest::theFinderReportsTheViewport()
+{
+    QMainWindow window;
+    window.resize(800, 600);
+    auto *view = new QGraphicsView;
+    window.setCentralWidget(view);
+    window.show();
+    gesturewidget::ViewFinder finder({}, true);
+    QSet<QWidget *> found;
+    connect(&finder, &gesturewidget::ViewFinder::viewFound, this,
+            [&found](QWidget *v) { found.insert(v); });
+    finder.start();
+    QTRY_COMPARE(found, QSet<QWidget *>{view->viewport()});
+    finder.stop();
+}
+
+// A frame that gets its content a moment later is not taken for a canvas.
+void ViewGuessTest::theFinderWaitsUntilThingsAreInPlace()
+{
+    QMainWindow window;
+    window.resize(800, 600);
+    auto *frame = new Canvas;
+    window.setCentralWidget(frame);
+    gesturewidget::ViewFinder finder({}, true);
+    QSet<QWidget *> found;
+    connect(&finder, &gesturewidget::ViewFinder::viewFound, this,
+            [&found](QWidget *v) { found.insert(v); });
+    finder.start();
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    auto *canvas = new Canvas;
+    filledBy(frame, canvas);
+    canvas->show();
+    QTRY_VERIFY(!found.isEmpty());
+    QCOMPARE(found, QSet<QWidget *>{canvas});
+    finder.stop();
+}
+
+QTEST_MAIN(ViewGuessTest)
+#include "tst_viewguess.moc"

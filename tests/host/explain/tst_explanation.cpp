@@ -1,0 +1,309 @@
+// What is said of a program that nobody has described, and over which socket.
+
+#include "host/explain/Explanation.h"
+
+#include "host/commands/CommandCatalogue.h"
+#include "host/documents/ViewFinder.h"
+#include "host/files/ExplanationChannel.h"
+#include "host/menus/ToolsMenu.h"
+#include "host/services/SystemServices.h"
+#include "tests/host/support/DraftWindow.h"
+#include "tests/host/support/StubDocuments.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QGraphicsView>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <fcntl.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <memory>
+
+using gesturewidget::Explanation;
+using gesturewidget::ProgramProfile;
+using gesturewidget::SystemServices;
+using tests::DraftWindow;
+
+class ExplainedCanvas : public QWidget
+{
+    Q_OBJECT
+};
+
+class ExplanationTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { tests::failOnWarnings(); }
+    void init();
+    void cleanup();
+
+    void viewsOfItsOwnClass();
+    void viewsOfAClassOfQt();
+    void viewsThatAProfileNames();
+    void whatIsNoView();
+    void toolsMenus();
+    void commands();
+    void commandsThatAProfileNames();
+    void tellsOnceTheMenusAreComplete();
+    void tellsWhatChangesOnly();
+    void whatIsNoSocket();
+    void anEndThatIsClosed();
+
+private:
+    void explain();
+    QWidget *show(QWidget *central);
+    QString lines() const
+    {
+        QString text(QLatin1Char('\n'));
+        const QJsonArray all = m_explanation->report().value(QStringLiteral("lines")).toArray();
+        for (const QJsonValue &line : all)
+            text += line.toString() + QLatin1Char('\n');
+        return text;
+    }
+    bool says(const char *line) const
+    {
+        return lines().contains(QLatin1Char('\n') + QLatin1String(line) + QLatin1Char('\n'));
+    }
+    // The profile that a host would make of the report.
+    ProgramProfile reported() const;
+    bool hasLine();
+    QJsonObject next();
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    tests::StubDocuments m_documents;
+    std::unique_ptr<DraftWindow> m_window;
+    ProgramProfile m_profile;
+    std::unique_ptr<SystemServices> m_services;
+    std::unique_ptr<Explanation> m_explanation;
+    int m_sockets[2] = {-1, -1};
+    QByteArray m_received;
+};
+
+void ExplanationTest::init()
+{
+    tests::resetWarnings();
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_profile = ProgramProfile();
+    m_profile.program = QStringLiteral("drafter");
+    m_window = std::make_unique<DraftWindow>();
+    m_window->resize(600, 500);
+    m_received.clear();
+    QCOMPARE(::socketpair(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK, 0, m_sockets), 0);
+    explain();
+}
+
+void ExplanationTest::cleanup()
+{
+    m_explanation.reset();
+    m_services.reset();
+    m_window.reset();
+    for (const int socket : m_sockets)
+        ::close(socket);
+    QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
+}
+
+void ExplanationTest::explain()
+{
+    m_explanation.reset();
+    m_services = std::make_unique<SystemServices>(m_window.get(), m_profile, &m_documents,
+                                                  m_folder->filePath(QStringLiteral("drafter.ini")));
+    m_services->catalogue().guessWellKnown();
+    m_explanation = std::make_unique<Explanation>(m_sockets[0], m_window.get(), m_profile, *m_services);
+}
+
+QWidget *ExplanationTest::show(QWidget *central)
+{
+    m_window->setCentralWidget(central);
+    m_window->show();
+    return QTest::qWaitForWindowExposed(m_window.get()) ? central : nullptr;
+}
+
+ProgramProfile ExplanationTest::reported() const
+{
+    QFile file(m_folder->filePath(QStringLiteral("drafter.json")));
+    const QJsonObject profile = m_explanation->report().value(QStringLiteral("profile")).toObject();
+    if (file.open(QIODevice::WriteOnly))
+        file.write(QJsonDocument(profile).toJson());
+    file.close();
+    QString message;
+    ProgramProfile found =
+        ProgramProfile::forProgram(QStringLiteral("drafter"), {m_folder->path()}, &message);
+    if (!message.isEmpty())
+        qWarning("%s", qPrintable(message));
+    return found;
+}
+
+// Whether a line has come over the socket; next() takes it.
+bool ExplanationTest::hasLine()
+{
+    char part[4096];
+    for (ssize_t count = 1; count > 0;) {
+        count = ::recv(m_sockets[1], part, sizeof part, MSG_DONTWAIT);
+        if (count > 0)
+            m_received.append(part, static_cast<int>(count));
+    }
+    return m_received.contains('\n');
+}
+
+QJsonObject ExplanationTest::next()
+{
+    const auto end = static_cast<int>(m_received.indexOf('\n'));
+    const QByteArray line = m_received.left(end);
+    m_received.remove(0, end + 1);
+    return QJsonDocument::fromJson(line).object();
+}
+
+void ExplanationTest::viewsOfItsOwnClass()
+{
+    QWidget *canvas = show(new ExplainedCanvas);
+    canvas->setObjectName(QStringLiteral("sheet"));
+    m_explanation->addView(canvas);
+    m_explanation->addView(canvas);
+    QVERIFY2(says("view: ExplainedCanvas \"sheet\", since it paints itself and fills 100 % of the area"),
+             qPrintable(lines()));
+    QCOMPARE(lines().count(QLatin1String("\nview: ")), 1);
+    QCOMPARE(reported().viewClasses, QStringList(QStringLiteral("ExplainedCanvas")));
+}
+
+// A profile that named the class would make views of what merely looks the same.
+void ExplanationTest::viewsOfAClassOfQt()
+{
+    QWidget *view = show(new QGraphicsView);
+    m_explanation->addView(gesturewidget::ViewFinder::pointerWidget(view));
+    QVERIFY2(says("view: QGraphicsView, since it is a graphics view"), qPrintable(lines()));
+    QVERIFY2(says("view classes: left to be guessed, a class of Qt's own says too little"),
+             qPrintable(lines()));
+    QCOMPARE(reported().viewClasses, QStringList());
+}
+
+void ExplanationTest::viewsThatAProfileNames()
+{
+    m_profile.viewClasses = QStringList{QStringLiteral("Other"), QStringLiteral("QGraphicsView")};
+    explain();
+    QWidget *view = show(new QGraphicsView);
+    m_explanation->addView(gesturewidget::ViewFinder::pointerWidget(view));
+    QVERIFY2(says("view: QGraphicsView, since the profile names its class QGraphicsView"),
+             qPrintable(lines()));
+    QCOMPARE(reported().viewClasses,
+             QStringList({QStringLiteral("Other"), QStringLiteral("QGraphicsView")}));
+}
+
+void ExplanationTest::whatIsNoView()
+{
+    auto *plain = new QFrame;
+    plain->setObjectName(QStringLiteral("welcome"));
+    show(plain);
+    QVERIFY2(says("view: none, perhaps before a drawing is open"), qPrintable(lines()));
+    QVERIFY2(says("no view: QFrame \"welcome\", since it is a start page by its name"),
+             qPrintable(lines()));
+    QCOMPARE(reported().viewClasses, QStringList());
+}
+
+void ExplanationTest::toolsMenus()
+{
+    QVERIFY2(says("Tools menu: one is made, since no menu of the menu bar is called Tools"),
+             qPrintable(lines()));
+    QCOMPARE(reported().toolsMenu, QString());
+
+    m_window->addMenu("&Tools", "");
+    QVERIFY2(says("Tools menu: Tools, since its caption \"Tools\" says so"), qPrintable(lines()));
+    QCOMPARE(reported().toolsMenu, QStringLiteral("Tools"));
+
+    m_profile.toolsMenu = QStringLiteral("drawMenu");
+    explain();
+    QVERIFY2(says("Tools menu: drawMenu, since the profile names it"), qPrintable(lines()));
+    QCOMPARE(reported().toolsMenu, QStringLiteral("drawMenu"));
+}
+
+void ExplanationTest::commands()
+{
+    QVERIFY2(says("ID_OPEN: fileOpen, since object name \"fileOpen\", caption \"Open...\""),
+             qPrintable(lines()));
+    QVERIFY2(says("ID_LINE: drawLine, since object name \"drawLine\", caption \"Line\""),
+             qPrintable(lines()));
+    QVERIFY2(says("ID_SAVE: none, since no shortcut, icon, object name or caption speaks for an action"),
+             qPrintable(lines()));
+    const QHash<QString, QStringList> found = reported().wellKnownCommands;
+    QCOMPARE(found.size(), 2);
+    QCOMPARE(found.value(QStringLiteral("ID_LINE")), QStringList(QStringLiteral("drawLine")));
+    QCOMPARE(found.value(QStringLiteral("ID_OPEN")), QStringList(QStringLiteral("fileOpen")));
+}
+
+void ExplanationTest::commandsThatAProfileNames()
+{
+    const QHash<QString, QStringList> named{
+        {QStringLiteral("ID_LINE"), {QStringLiteral("sketchLine"), QStringLiteral("drawLine")}},
+        {QStringLiteral("ID_TRIM"), {QStringLiteral("modifyTrim")}},
+        {QStringLiteral("ID_ROUND"), {QStringLiteral("drawCircle")}}};
+    m_profile.wellKnownCommands = named;
+    explain();
+    QVERIFY2(says("ID_LINE: drawLine, since the profile names it"), qPrintable(lines()));
+    QVERIFY2(says("ID_ROUND: drawCircle, since the profile names it"), qPrintable(lines()));
+    QVERIFY2(says("ID_TRIM: none, since the profile names modifyTrim, which is not there at the moment"),
+             qPrintable(lines()));
+    // What the profile says stays, and what was guessed is added.
+    QHash<QString, QStringList> expected = named;
+    expected.insert(QStringLiteral("ID_OPEN"), {QStringLiteral("fileOpen")});
+    QCOMPARE(reported().wellKnownCommands, expected);
+}
+
+void ExplanationTest::tellsOnceTheMenusAreComplete()
+{
+    QWidget *canvas = show(new ExplainedCanvas);
+    m_explanation->addView(canvas);
+    m_explanation->menusSettled();
+    QTRY_VERIFY(hasLine());
+    const QJsonObject told = next();
+    QCOMPARE(told, m_explanation->report());
+    QCOMPARE(told.value(QStringLiteral("views")), QJsonValue(1));
+}
+
+void ExplanationTest::tellsWhatChangesOnly()
+{
+    QWidget *canvas = show(new ExplainedCanvas);
+    m_explanation->menusSettled();
+    QTRY_VERIFY(hasLine());
+    QCOMPARE(next().value(QStringLiteral("views")), QJsonValue(0));
+    // The menus change, but not in what is told: the next line is that of the view.
+    m_window->addMenu("&View", "viewMenu");
+    m_explanation->addView(canvas);
+    QTRY_VERIFY(hasLine());
+    QCOMPARE(next().value(QStringLiteral("views")), QJsonValue(1));
+    DraftWindow::addAction(m_window->file, "&Save", "fileSave");
+    QTRY_VERIFY(hasLine());
+    QVERIFY(next()
+                .value(QStringLiteral("profile"))
+                .toObject()
+                .value(QStringLiteral("wellKnownCommands"))
+                .toObject()
+                .contains(QStringLiteral("ID_SAVE")));
+}
+
+void ExplanationTest::whatIsNoSocket()
+{
+    const int file = ::open("/dev/null", O_RDWR);
+    for (const QByteArray &value :
+         {QByteArray(), QByteArray("x"), QByteArray("-1"), QByteArray("0"), QByteArray("2"),
+          QByteArray("99999"), QByteArray::number(file), QByteArray("3x")})
+        QCOMPARE(gesturewidget::explanationSocket(value), -1);
+    ::close(file);
+    QCOMPARE(gesturewidget::explanationSocket(QByteArray::number(m_sockets[0])), m_sockets[0]);
+    QVERIFY(::fcntl(m_sockets[0], F_GETFD) & FD_CLOEXEC);
+    QVERIFY(!gesturewidget::tell(-1, {}));
+}
+
+// Nobody listens any more; a signal would end the program.
+void ExplanationTest::anEndThatIsClosed()
+{
+    ::close(m_sockets[1]);
+    m_sockets[1] = -1;
+    QVERIFY(!gesturewidget::tell(m_sockets[0], {{QStringLiteral("process"), 1}}));
+}
+
+QTEST_MAIN(ExplanationTest)
+#include "tst_explanation.moc"

@@ -1,0 +1,290 @@
+#include "host/files/ProgramProfile.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <sys/stat.h>
+
+using gesturewidget::ProgramProfile;
+
+namespace {
+
+bool isDefault(const ProgramProfile &profile)
+{
+    return profile.viewClasses.isEmpty() && profile.triggerButton == Qt::RightButton
+        && profile.triggerModifiers == Qt::NoModifier && profile.wellKnownCommands.isEmpty()
+        && profile.toolsMenu.isEmpty() && profile.commandLineClass.isEmpty();
+}
+
+} // namespace
+
+class ProgramProfileTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { tests::failOnWarnings(); }
+    void init()
+    {
+        tests::resetWarnings();
+        m_folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(m_folder->isValid());
+    }
+    void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
+
+    void missingFileGivesDefaultsQuietly();
+    void readsEverything();
+    void isWrittenAsItIsRead();
+    void whatIsLeftOutIsDefault();
+    void firstFolderWithAProfileCounts();
+    void brokenProfileIsNamed_data();
+    void brokenProfileIsNamed();
+    void aBrokenProfileIsNotReplacedByALaterOne();
+    void whatIsNoFileIsNotOpened();
+    void namesThatLeaveTheFolderFindNothing_data();
+    void namesThatLeaveTheFolderFindNothing();
+    void messageMayBeNull();
+    void everyShippedProfileIsSound();
+
+private:
+    void write(const QString &name, const QByteArray &text) const
+    {
+        QFile file(m_folder->filePath(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(text), text.size());
+    }
+    ProgramProfile read(QString *message = nullptr) const
+    {
+        return ProgramProfile::forProgram(QStringLiteral("drafter"), {m_folder->path()}, message);
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void ProgramProfileTest::missingFileGivesDefaultsQuietly()
+{
+    QString message = QStringLiteral("left over");
+    const ProgramProfile profile = ProgramProfile::forProgram(
+        QStringLiteral("drafter"), {m_folder->path(), m_folder->filePath(QStringLiteral("none")), {}},
+        &message);
+    QCOMPARE(profile.program, QStringLiteral("drafter"));
+    QVERIFY(isDefault(profile));
+    QCOMPARE(message, QString());
+}
+
+void ProgramProfileTest::readsEverything()
+{
+    write(QStringLiteral("drafter.json"), R"({
+        "version": 1, "program": "drafter", "viewClasses": ["Canvas", "ns::View"],
+        "trigger": { "button": "middle", "modifiers": ["control", "shift"] },
+        "wellKnownCommands": { "ID_LINE": "drawLine", "ID_OPEN": ["File/Open...", "fileOpen"] },
+        "toolsMenu": "extras", "commandLineClass": "CommandEdit",
+        "why": { "viewClasses": { "Canvas": "it is the largest" } } })");
+    QString message;
+    const ProgramProfile profile = read(&message);
+    QCOMPARE(message, QString());
+    QCOMPARE(profile.program, QStringLiteral("drafter"));
+    QCOMPARE(profile.viewClasses, QStringList({QStringLiteral("Canvas"), QStringLiteral("ns::View")}));
+    QCOMPARE(profile.triggerButton, Qt::MiddleButton);
+    QCOMPARE(profile.triggerModifiers, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(profile.wellKnownCommands.size(), 2);
+    QCOMPARE(profile.wellKnownCommands.value(QStringLiteral("ID_LINE")),
+             QStringList(QStringLiteral("drawLine")));
+    QCOMPARE(profile.wellKnownCommands.value(QStringLiteral("ID_OPEN")),
+             QStringList({QStringLiteral("File/Open..."), QStringLiteral("fileOpen")}));
+    QCOMPARE(profile.toolsMenu, QStringLiteral("extras"));
+    QCOMPARE(profile.commandLineClass, QStringLiteral("CommandEdit"));
+}
+
+void ProgramProfileTest::isWrittenAsItIsRead()
+{
+    ProgramProfile profile;
+    profile.program = QStringLiteral("drafter");
+    profile.viewClasses = QStringList{QStringLiteral("Canvas"), QStringLiteral("ns::View")};
+    profile.triggerButton = Qt::ForwardButton;
+    profile.triggerModifiers = Qt::ControlModifier | Qt::MetaModifier;
+    profile.wellKnownCommands.insert(QStringLiteral("ID_LINE"), {QStringLiteral("drawLine")});
+    profile.wellKnownCommands.insert(QStringLiteral("ID_OPEN"),
+                                     {QStringLiteral("File/Open..."), QStringLiteral("fileOpen")});
+    profile.toolsMenu = QStringLiteral("extras");
+    profile.commandLineClass = QStringLiteral("CommandEdit");
+    for (const bool isEmpty : {false, true}) {
+        if (isEmpty) {
+            profile = ProgramProfile();
+            profile.program = QStringLiteral("drafter");
+        }
+        write(QStringLiteral("drafter.json"), QJsonDocument(profile.toJson()).toJson());
+        QString message;
+        const ProgramProfile again = read(&message);
+        QCOMPARE(message, QString());
+        QCOMPARE(again.toJson(), profile.toJson());
+        QCOMPARE(again.viewClasses, profile.viewClasses);
+        QCOMPARE(again.triggerButton, profile.triggerButton);
+        QCOMPARE(again.triggerModifiers, profile.triggerModifiers);
+        QCOMPARE(again.wellKnownCommands, profile.wellKnownCommands);
+        QCOMPARE(again.toolsMenu, profile.toolsMenu);
+        QCOMPARE(again.commandLineClass, profile.commandLineClass);
+    }
+}
+
+void ProgramProfileTest::whatIsLeftOutIsDefault()
+{
+    write(QStringLiteral("drafter.json"), R"({"version": 1, "program": "drafter"})");
+    QString message;
+    QVERIFY(isDefault(read(&message)));
+    QCOMPARE(message, QString());
+}
+
+void ProgramProfileTest::firstFolderWithAProfileCounts()
+{
+    QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("a")));
+    QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("b")));
+    QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("c")));
+    write(QStringLiteral("b/drafter.json"), R"({"version": 1, "program": "drafter", "toolsMenu": "b"})");
+    write(QStringLiteral("c/drafter.json"), R"({"version": 1, "program": "drafter", "toolsMenu": "c"})");
+    const QStringList folders{m_folder->filePath(QStringLiteral("a")),
+                              m_folder->filePath(QStringLiteral("b")),
+                              m_folder->filePath(QStringLiteral("c"))};
+    QString message;
+    QCOMPARE(ProgramProfile::forProgram(QStringLiteral("drafter"), folders, &message).toolsMenu,
+             QStringLiteral("b"));
+    QCOMPARE(message, QString());
+}
+
+void ProgramProfileTest::brokenProfileIsNamed_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("wrong");
+    const auto row = [](const char *name, const char *members, const char *wrong) {
+        QTest::newRow(name) << QByteArray(R"({"version": 1, "program": "drafter", )") + members + "}"
+                            << QString::fromLatin1(wrong);
+    };
+    QTest::newRow("empty") << QByteArray() << QStringLiteral("at byte 0");
+    QTest::newRow("cut off") << QByteArray(R"({"version": 1, "pro)") << QStringLiteral("at byte");
+    QTest::newRow("zeroed") << QByteArray(100, '\0') << QStringLiteral("at byte");
+    QTest::newRow("a list") << QByteArray("[]") << QStringLiteral("it is not an object");
+    QTest::newRow("no version") << QByteArray(R"({"program": "drafter"})")
+                                << QStringLiteral("\"version\" is missing");
+    QTest::newRow("version as text") << QByteArray(R"({"version": "1", "program": "drafter"})")
+                                     << QStringLiteral("\"version\" is missing or not a number");
+    QTest::newRow("later version") << QByteArray(R"({"version": 2, "program": "drafter"})")
+                                   << QStringLiteral("version 2 is not known");
+    QTest::newRow("other program") << QByteArray(R"({"version": 1, "program": "painter"})")
+                                   << QStringLiteral("\"program\" is \"painter\", not \"drafter\"");
+    QTest::newRow("no program") << QByteArray(R"({"version": 1})") << QStringLiteral("\"program\" is");
+    QTest::newRow("too long") << QByteArray(2 * 1024 * 1024, ' ') << QStringLiteral("it is too long");
+    row("unknown key", R"("viewClass": "Canvas")", "unknown key \"viewClass\"");
+    row("views as text", R"("viewClasses": "Canvas")", "\"viewClasses\" is not a list");
+    row("view as number", R"("viewClasses": [1])", "\"viewClasses\" holds something");
+    row("empty view", R"("viewClasses": [""])", "\"viewClasses\" holds something");
+    row("trigger as text", R"("trigger": "right")", "\"trigger\" is not an object");
+    row("no such button", R"("trigger": {"button": "third"})",
+        "\"trigger.button\" names no mouse button");
+    row("button as number", R"("trigger": {"button": 2})", "\"trigger.button\" is not a string");
+    row("empty button", R"("trigger": {"button": ""})", "\"trigger.button\" names no mouse button");
+    row("no such key", R"("trigger": {"modifiers": ["hyper"]})", "\"trigger.modifiers\" names no key");
+    row("unknown in trigger", R"("trigger": {"key": "x"})", "unknown key \"trigger.key\"");
+    row("commands as list", R"("wellKnownCommands": [])", "\"wellKnownCommands\" is not an object");
+    row("command as number", R"("wellKnownCommands": {"ID_LINE": 1})", "\"wellKnownCommands.ID_LINE\"");
+    row("empty command", R"("wellKnownCommands": {"ID_LINE": ""})", "\"wellKnownCommands.ID_LINE\"");
+    row("no command", R"("wellKnownCommands": {"ID_LINE": []})", "\"wellKnownCommands.ID_LINE\"");
+    row("empty among commands", R"("wellKnownCommands": {"ID_LINE": ["a", ""]})",
+        "\"wellKnownCommands.ID_LINE\"");
+    row("number among commands", R"("wellKnownCommands": {"ID_LINE": ["a", 1]})",
+        "\"wellKnownCommands.ID_LINE\"");
+    row("reasons as text", R"("why": "because")", "\"why\" is not an object");
+    row("menu as list", R"("toolsMenu": [])", "\"toolsMenu\" is not a string");
+    row("class as null", R"("commandLineClass": null)", "\"commandLineClass\" is not a string");
+}
+
+void ProgramProfileTest::brokenProfileIsNamed()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QString, wrong);
+    write(QStringLiteral("drafter.json"), text);
+    QString message;
+    const ProgramProfile profile = read(&message);
+    QVERIFY(isDefault(profile));
+    QCOMPARE(profile.program, QStringLiteral("drafter"));
+    QVERIFY2(message.contains(m_folder->filePath(QStringLiteral("drafter.json"))), qPrintable(message));
+    QVERIFY2(message.contains(wrong), qPrintable(message));
+    QVERIFY2(!message.contains(QLatin1Char('\n')), qPrintable(message));
+}
+
+// A mistake in the person's own profile must show, not vanish behind the installed one.
+void ProgramProfileTest::aBrokenProfileIsNotReplacedByALaterOne()
+{
+    QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("a")));
+    write(QStringLiteral("a/drafter.json"), "{");
+    write(QStringLiteral("drafter.json"), R"({"version": 1, "program": "drafter", "toolsMenu": "b"})");
+    QString message;
+    QVERIFY(isDefault(ProgramProfile::forProgram(
+        QStringLiteral("drafter"), {m_folder->filePath(QStringLiteral("a")), m_folder->path()},
+        &message)));
+    QVERIFY(!message.isEmpty());
+}
+
+void ProgramProfileTest::whatIsNoFileIsNotOpened()
+{
+    const QByteArray pipe = QFile::encodeName(m_folder->filePath(QStringLiteral("drafter.json")));
+    QCOMPARE(::mkfifo(pipe.constData(), 0600), 0);
+    QString message;
+    QVERIFY(isDefault(read(&message))); // opening it would never return
+    QVERIFY2(message.contains(QStringLiteral("it is not a file")), qPrintable(message));
+}
+
+void ProgramProfileTest::namesThatLeaveTheFolderFindNothing_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::newRow("empty") << QString();
+    QTest::newRow("up") << QStringLiteral("../drafter");
+    QTest::newRow("absolute") << m_folder->filePath(QStringLiteral("drafter"));
+    QTest::newRow("hidden") << QStringLiteral(".drafter");
+    QTest::newRow("null") << QStringLiteral("drafter") + QChar() + QStringLiteral("x");
+}
+
+void ProgramProfileTest::namesThatLeaveTheFolderFindNothing()
+{
+    QFETCH(QString, program);
+    QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("a")));
+    write(QStringLiteral("drafter.json"), "{");
+    write(QStringLiteral(".drafter.json"), "{");
+    QString message;
+    QVERIFY(isDefault(ProgramProfile::forProgram(
+        program, {m_folder->filePath(QStringLiteral("a")), m_folder->path()}, &message)));
+    QCOMPARE(message, QString());
+}
+
+void ProgramProfileTest::messageMayBeNull()
+{
+    write(QStringLiteral("drafter.json"), "{");
+    QVERIFY(isDefault(read(nullptr)));
+}
+
+void ProgramProfileTest::everyShippedProfileIsSound()
+{
+    const QDir folder(QStringLiteral(TESTS_SOURCE_DIR "/../host/profiles"));
+    const QStringList files = folder.entryList({QStringLiteral("*.json")}, QDir::Files);
+    QVERIFY(!files.isEmpty());
+    const QStringList known = QStringLiteral("ID_ZOOM_BOUNDS ID_OFFSET ID_OPEN ID_COPY ID_SAVE ID_DTEXT "
+                                             "ID_LINE ID_TRIM")
+                                  .split(QLatin1Char(' '));
+    for (const QString &file : files) {
+        const QString program = file.chopped(5);
+        QString message;
+        const ProgramProfile profile = ProgramProfile::forProgram(program, {folder.path()}, &message);
+        QVERIFY2(message.isEmpty(), qPrintable(message));
+        QVERIFY2(!profile.viewClasses.isEmpty(), qPrintable(file));
+        QVERIFY2(!profile.wellKnownCommands.isEmpty(), qPrintable(file));
+        const QStringList identifiers = profile.wellKnownCommands.keys();
+        for (const QString &identifier : identifiers)
+            QVERIFY2(known.contains(identifier), qPrintable(file + identifier));
+    }
+}
+
+QTEST_GUILESS_MAIN(ProgramProfileTest)
+#include "tst_programprofile.moc"

@@ -1,0 +1,599 @@
+#include "sdk/QtBridge.h"
+#include "tests/host/inject/guest/EventScripts.h"
+#include "tests/host/inject/guest/GuestWindow.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QGuiApplication>
+#include <QPointer>
+#include <QProcessEnvironment>
+#include <QTimer>
+#include <QWindow>
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <memory>
+
+// A program that ends in the way its first argument says. Writes one line on standard
+// output for each thing that it saw.
+namespace {
+
+constexpr int kNoEntry = 90; // the exit status when the module's entry never came
+constexpr int kPatience = 20000; // milliseconds
+
+void say(const char *text)
+{
+    std::printf("%s\n", text);
+    std::fflush(stdout);
+}
+
+void sayWhether(const char *text, bool holds)
+{
+    std::printf("%s: %s\n", text, holds ? "yes" : "no");
+    std::fflush(stdout);
+}
+
+// Calls `then` from the event loop once `holds`, gives up after kPatience.
+void when(const std::function<bool()> &holds, const std::function<void()> &then)
+{
+    auto *timer = new QTimer(qApp);
+    auto *elapsed = new QElapsedTimer;
+    elapsed->start();
+    QObject::connect(timer, &QObject::destroyed, [elapsed] { delete elapsed; });
+    QObject::connect(timer, &QTimer::timeout, timer, [=] {
+        if (!holds() && elapsed->elapsed() < kPatience)
+            return;
+        timer->stop();
+        timer->deleteLater();
+        if (!holds())
+            std::exit(kNoEntry);
+        then();
+    });
+    timer->start(5);
+}
+
+bool ringIsOpen()
+{
+    const QWidget *grabber = QWidget::mouseGrabber();
+    return grabber && grabber->inherits("MgDonutDialog");
+}
+
+void openRing(GuestWindow &window)
+{
+    window.press();
+    window.dragTo(25);
+    window.dragTo(40);
+    sayWhether("ring", ringIsOpen());
+}
+
+void runGesture(GuestWindow &window)
+{
+    openRing(window);
+    window.dragTo(90);
+    window.release(90);
+}
+
+QString environmentText()
+{
+    return QStringLiteral("%1|%2").arg(
+        qEnvironmentVariable("QT_QPA_GENERIC_PLUGINS", QStringLiteral("unset")),
+        qEnvironmentVariable("QT_PLUGIN_PATH", QStringLiteral("unset")));
+}
+
+int runWithoutWidgets(int argc, char **argv)
+{
+    QGuiApplication app(argc, argv);
+    say(qPrintable(environmentText()));
+    QTimer::singleShot(0, &app, &QCoreApplication::quit);
+    return QGuiApplication::exec();
+}
+
+// The window is a local of main() and goes after the event loop, before the application.
+int runWith(int argc, char **argv, const std::function<void(GuestWindow &)> &script)
+{
+    QApplication app(argc, argv);
+    GuestWindow window;
+    window.show();
+    when([&] { return window.hasEntry(); },
+         [&] {
+             say("entry");
+             script(window);
+         });
+    const int status = QApplication::exec();
+    sayWhether("entry after the event loop", window.hasEntry());
+    return status;
+}
+
+int runWindowFirst(int argc, char **argv, bool isLater)
+{
+    QApplication app(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    QPointer<GuestWindow> window = new GuestWindow;
+    window->show();
+    when([&] { return window->hasEntry(); },
+         [&] {
+             runGesture(*window);
+             when([&] { return window->lines == 1; },
+                  [&] {
+                      if (isLater)
+                          window->deleteLater();
+                      else
+                          delete window.data();
+                      when([&] { return !window; },
+                           [] {
+                               say("window gone");
+                               QTimer::singleShot(50, qApp, &QCoreApplication::quit);
+                           });
+                  });
+         });
+    return QApplication::exec();
+}
+
+// The dialog runs an event loop inside the module, and the window is destroyed from within it.
+int runWindowGoneWithDialog(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    QPointer<GuestWindow> window = new GuestWindow;
+    window->show();
+    when([&] { return window->hasEntry(); },
+         [&] {
+             QMetaObject::invokeMethod(window->entry(), &QAction::trigger, Qt::QueuedConnection);
+             when([] { return QApplication::activeModalWidget(); },
+                  [&] {
+                      say("dialog");
+                      delete window.data();
+                      say("window gone");
+                      QTimer::singleShot(50, qApp, &QCoreApplication::quit);
+                  });
+         });
+    return QApplication::exec();
+}
+
+// One window after the other.
+int runSecondWindow(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    auto first = std::make_unique<GuestWindow>();
+    first->show();
+    std::unique_ptr<GuestWindow> second;
+    when([&] { return first->hasEntry(); },
+         [&] {
+             first.reset();
+             second = std::make_unique<GuestWindow>();
+             second->show();
+             when([&] { return second->hasEntry(); },
+                  [&] {
+                      say("entry in the second window");
+                      runGesture(*second);
+                      when([&] { return second->lines == 1; }, [] { QCoreApplication::quit(); });
+                  });
+         });
+    return QApplication::exec();
+}
+
+// Two windows at a time, of which the first is closed, or destroyed.
+int runTwoWindows(int argc, char **argv, bool isDestroyed)
+{
+    QApplication app(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    auto first = std::make_unique<GuestWindow>();
+    GuestWindow second;
+    int menus = 0;
+    second.view->setContextMenuPolicy(Qt::CustomContextMenu);
+    QObject::connect(second.view, &QWidget::customContextMenuRequested, [&menus] { ++menus; });
+    const auto runInSecond = [&] {
+        say("entry in the second window");
+        runGesture(second);
+        when([&] { return second.lines == 1; },
+             [&] {
+                 sayWhether("command of the first", first && first->lines != 1);
+                 sayWhether("entry in the first window", first && first->hasEntry());
+                 QCoreApplication::quit();
+             });
+    };
+    first->show();
+    when([&] { return first->hasEntry(); },
+         [&] {
+             second.show();
+             when([&] { return second.windowHandle()->isExposed(); },
+                  [&] {
+                      // The commands of the first are not for drawings of the second.
+                      openRing(second);
+                      second.release(40);
+                      sayWhether("menu", menus == 1);
+                      runGesture(*first);
+                      when([&] { return first->lines == 1; },
+                           [&] {
+                               sayWhether("entry in the second window", second.hasEntry());
+                               if (isDestroyed)
+                                   first.reset();
+                               else
+                                   first->close();
+                               when([&] { return second.hasEntry(); }, runInSecond);
+                           });
+                  });
+         });
+    return QApplication::exec();
+}
+
+// The main window has no menu bar; another window that belongs to it has one.
+int runMenusInAChildWindow(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    QMainWindow bare;
+    bare.setCentralWidget(new QWidget);
+    auto *child = new GuestWindow; // belongs to `bare`, which destroys it
+    child->setParent(&bare, Qt::Window);
+    bare.show();
+    child->show();
+    when([&] { return child->hasEntry(); },
+         [&] {
+             say("entry in the child window");
+             runGesture(*child);
+             when([&] { return child->lines == 1; }, [] { QCoreApplication::quit(); });
+         });
+    return QApplication::exec();
+}
+
+int runWithoutEventLoop(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    GuestWindow window;
+    window.show();
+    QElapsedTimer elapsed;
+    elapsed.start();
+    while (!window.hasEntry() && elapsed.elapsed() < kPatience)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+    sayWhether("entry", window.hasEntry());
+    openRing(window);
+    return 0;
+}
+
+// Logs what it gets of a script. Without a plug-in there is no entry to wait for.
+int runEvents(int argc, char **argv)
+{
+    const QByteArray script = argc > 2 ? argv[2] : "";
+    const bool isAlone = argc > 3;
+    QApplication app(argc, argv);
+    GuestWindow window;
+    window.show();
+    const auto isReady = [&] {
+        return window.windowHandle()->isExposed() && (isAlone || window.hasEntry());
+    };
+    when(isReady, [&] { QCoreApplication::exit(playEvents(script.constData(), window) ? 0 : 98); });
+    return QApplication::exec();
+}
+
+// The command of a gesture opens a modal dialog, which is there until somebody closes it.
+void runDialogCommand(GuestWindow &window)
+{
+    auto *dialog = new QDialog(&window);
+    QObject::connect(window.line, &QAction::triggered, dialog, [&window, dialog] {
+        sayWhether("grab in the dialog", QWidget::mouseGrabber() || QWidget::keyboardGrabber());
+        dialog->exec();
+        say("dialog closed");
+        QObject::disconnect(window.line, nullptr, dialog, nullptr);
+        dialog->setProperty("isDone", true);
+    });
+    // Asked for before the gesture, which comes back when the dialog is closed.
+    when([dialog] { return dialog->isVisible(); },
+         [&window, dialog] {
+             // Behind the dialog nothing happens.
+             window.press();
+             window.dragTo(40);
+             sayWhether("ring behind the dialog", ringIsOpen());
+             window.release(40);
+             dialog->close();
+         });
+    when([dialog] { return dialog->property("isDone").toBool(); },
+         [&window] {
+             runGesture(window);
+             when([&window] { return window.lines == 2; }, [] { QCoreApplication::quit(); });
+         });
+    runGesture(window);
+}
+
+// The view goes, in some way, and another comes.
+void runInNextView(GuestWindow &window)
+{
+    window.openView();
+    when([&window] { return !QWidget::mouseGrabber() && window.view->isVisible(); },
+         [&window] {
+             const int before = window.lines;
+             runGesture(window);
+             when([&window, before] { return window.lines == before + 1; },
+                  [] {
+                      say("gesture in the next view");
+                      QCoreApplication::quit();
+                  });
+         });
+}
+
+// Waits for what the host says in place of an entry, as long as a module would have taken.
+int runWithoutModule(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    GuestWindow window;
+    window.show();
+    int clicks = 0;
+    window.view->setContextMenuPolicy(Qt::CustomContextMenu);
+    QObject::connect(window.view, &QWidget::customContextMenuRequested, qApp, [&] { ++clicks; });
+    QTimer::singleShot(400, qApp, [&] {
+        window.press();
+        window.release(0);
+        std::printf("clicks: %d\n", clicks);
+        QCoreApplication::quit();
+    });
+    return QApplication::exec();
+}
+
+// Stays until it is told to quit; its drawing opens after its menus are complete.
+int runLateView(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    GuestWindow window;
+    QWidget *view = window.takeCentralWidget();
+    view->hide();
+    window.show();
+    when([&] { return window.hasEntry(); },
+         [&] {
+             QTimer::singleShot(1500, &window, [&] {
+                 window.setCentralWidget(view);
+                 view->show();
+             });
+         });
+    return QApplication::exec();
+}
+
+// Neither quits when it is asked to nor when it is told to.
+int runDeaf(int argc, char **argv)
+{
+    std::signal(SIGTERM, SIG_IGN);
+    QApplication app(argc, argv);
+    GuestWindow window;
+    window.show();
+    for (;;)
+        QApplication::exec();
+}
+
+// Shows a dialog that waits for an answer, and nothing else.
+int runWithoutWindow(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    QDialog question;
+    return question.exec();
+}
+
+// Asks something of an application object made for that alone, before the real one.
+int runAfterAnother(int argc, char **argv, bool hasWidgets)
+{
+    if (hasWidgets)
+        QApplication(argc, argv);
+    else
+        QGuiApplication(argc, argv);
+    return runWith(argc, argv, [](GuestWindow &) {
+        say(qPrintable(environmentText()));
+        QCoreApplication::quit();
+    });
+}
+
+int runHeap(int argc, char **argv)
+{
+    auto *app = new QApplication(argc, argv);
+    auto *window = new GuestWindow; // neither is ever destroyed
+    window->show();
+    when([=] { return window->hasEntry(); }, [] { QCoreApplication::quit(); });
+    return app->exec();
+}
+
+int runApplicationFirst(int argc, char **argv)
+{
+    auto app = std::make_unique<QApplication>(argc, argv);
+    auto *window = new GuestWindow; // outlives the application object, as statics do
+    window->show();
+    when([=] { return window->hasEntry(); }, [] { QCoreApplication::quit(); });
+    const int status = QApplication::exec();
+    app.reset();
+    say("application gone");
+    return status;
+}
+
+int runStatic(int argc, char **argv)
+{
+    // A static application crashes at its end on Qt 6.4, with or without gestures; there it
+    // is left alone.
+    if (qtbridge::kQtMajor < 6)
+        static QApplication app(argc, argv);
+    else
+        new QApplication(argc, argv);
+    static GuestWindow window;
+    window.show();
+    when([] { return window.hasEntry(); }, [] { QCoreApplication::quit(); });
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QByteArray mode = argc > 1 ? argv[1] : "quit";
+    const auto with = [&](const std::function<void(GuestWindow &)> &script) {
+        return runWith(argc, argv, script);
+    };
+    const auto quit = [] { QCoreApplication::quit(); };
+
+    if (mode == "without-widgets")
+        return runWithoutWidgets(argc, argv);
+    if (mode == "environment")
+        return with([=](GuestWindow &) {
+            say(qPrintable(environmentText()));
+            quit();
+        });
+    if (mode == "quit")
+        return with([=](GuestWindow &) { quit(); });
+    if (mode == "gesture")
+        return with([=](GuestWindow &window) {
+            runGesture(window);
+            when([&] { return window.lines > 0; },
+                 [&] {
+                     std::printf("lines: %d\n", window.lines);
+                     quit();
+                 });
+        });
+    if (mode == "close")
+        return with([](GuestWindow &window) { window.close(); });
+    if (mode == "exit")
+        return with([](GuestWindow &) { std::exit(7); });
+    if (mode == "exit-with-ring")
+        return with([](GuestWindow &window) {
+            openRing(window);
+            std::exit(7);
+        });
+    if (mode == "quit-with-ring")
+        return with([=](GuestWindow &window) {
+            openRing(window);
+            quit();
+        });
+    if (mode == "close-with-ring")
+        return with([](GuestWindow &window) {
+            openRing(window);
+            window.close();
+        });
+    if (mode == "quit-while-holding")
+        return with([=](GuestWindow &window) {
+            window.press();
+            quit();
+        });
+    if (mode == "view-gone-with-ring")
+        return with([=](GuestWindow &window) {
+            openRing(window);
+            delete window.view;
+            sayWhether("ring after the view", ringIsOpen());
+            when([] { return !QWidget::mouseGrabber(); }, quit);
+        });
+    if (mode == "view-gone-while-holding")
+        return with([=](GuestWindow &window) {
+            window.press();
+            delete window.view;
+            window.openView();
+            window.release(0);
+            runInNextView(window);
+        });
+    if (mode == "view-gone-mid-fade")
+        return with([=](GuestWindow &window) {
+            openRing(window);
+            // The ring fades for a quarter of a second, from within the next movement on.
+            QTimer::singleShot(100, &window, [&window] {
+                delete window.view;
+                say("view gone");
+                window.openView();
+                window.release(90);
+                runInNextView(window);
+            });
+            window.dragTo(90);
+        });
+    if (mode == "view-gone-by-command")
+        return with([=](GuestWindow &window) {
+            QObject::connect(window.line, &QAction::triggered, &window, [&window] {
+                QObject::disconnect(window.line, nullptr, &window, nullptr);
+                QObject::connect(window.line, &QAction::triggered, &window,
+                                 [&window] { ++window.lines; });
+                delete window.view;
+                window.openView();
+                say("view gone");
+                QTimer::singleShot(0, &window, [&window] { runInNextView(window); });
+            });
+            runGesture(window);
+        });
+    if (mode == "window-hidden-with-ring")
+        return with([=](GuestWindow &window) {
+            QApplication::setQuitOnLastWindowClosed(false);
+            openRing(window);
+            window.hide();
+            when([] { return !QWidget::mouseGrabber(); },
+                 [&window] {
+                     say("let go");
+                     window.release(40);
+                     window.show();
+                     runInNextView(window);
+                 });
+        });
+    if (mode == "dialog-command")
+        return with([](GuestWindow &window) { runDialogCommand(window); });
+    if (mode == "new-menu-bar")
+        return with([=](GuestWindow &window) {
+            window.replaceMenuBar();
+            when([&window] { return window.hasEntry(); },
+                 [&window] {
+                     say("entry in the new menu bar");
+                     runInNextView(window);
+                 });
+        });
+    if (mode == "events")
+        return runEvents(argc, argv);
+    if (mode == "quit-with-dialog")
+        return with([=](GuestWindow &window) {
+            QMetaObject::invokeMethod(window.entry(), &QAction::trigger, Qt::QueuedConnection);
+            when([] { return QApplication::activeModalWidget(); },
+                 [=] {
+                     say("dialog");
+                     quit();
+                 });
+        });
+    if (mode == "environment-file")
+        return with([=](GuestWindow &) {
+            QFile file(QCoreApplication::arguments().value(2));
+            if (file.open(QIODevice::WriteOnly)) {
+                const QStringList entries = QProcessEnvironment::systemEnvironment().toStringList();
+                for (const QString &entry : entries)
+                    file.write(entry.toLocal8Bit() + '\n');
+            }
+            quit();
+        });
+    if (mode == "stay")
+        return with([](GuestWindow &) {});
+    if (mode == "late-view")
+        return runLateView(argc, argv);
+    if (mode == "deaf")
+        return runDeaf(argc, argv);
+    if (mode == "without-window")
+        return runWithoutWindow(argc, argv);
+    if (mode == "crash")
+        return with([](GuestWindow &) { std::raise(SIGKILL); });
+    if (mode == "window-gone-with-dialog")
+        return runWindowGoneWithDialog(argc, argv);
+    if (mode == "window-first")
+        return runWindowFirst(argc, argv, false);
+    if (mode == "window-later")
+        return runWindowFirst(argc, argv, true);
+    if (mode == "second-window")
+        return runSecondWindow(argc, argv);
+    if (mode == "two-windows-first-destroyed")
+        return runTwoWindows(argc, argv, true);
+    if (mode == "two-windows-first-closed")
+        return runTwoWindows(argc, argv, false);
+    if (mode == "menus-in-a-child-window")
+        return runMenusInAChildWindow(argc, argv);
+    if (mode == "without-event-loop")
+        return runWithoutEventLoop(argc, argv);
+    if (mode == "without-module")
+        return runWithoutModule(argc, argv);
+    if (mode == "after-bare-application")
+        return runAfterAnother(argc, argv, false);
+    if (mode == "after-another-application")
+        return runAfterAnother(argc, argv, true);
+    if (mode == "heap")
+        return runHeap(argc, argv);
+    if (mode == "application-first")
+        return runApplicationFirst(argc, argv);
+    if (mode == "static")
+        return runStatic(argc, argv);
+    return 99;
+}

@@ -1,0 +1,1199 @@
+#include "host/documents/DocumentManager.h"
+#include "host/input/PointerFilter.h"
+#include "tests/host/support/FakeTracker.h"
+#include "tests/host/support/LoggingView.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTest>
+#include <QTimer>
+#include <QtTest/qtestspontaneevent.h>
+#include <QWheelEvent>
+
+#include <functional>
+#include <memory>
+
+using gesturewidget::PointerFilter;
+
+namespace {
+
+const QPoint kPress(150, 150);
+
+// A program with one view, and the filter over it when a test wants it.
+class Desk
+{
+public:
+    Desk()
+    {
+        window.setObjectName(QStringLiteral("window"));
+        window.resize(400, 400);
+        view = new tests::LoggingView(&window);
+        view->setGeometry(20, 20, 300, 300);
+        control = new QLineEdit(view);
+        control->setGeometry(0, 280, 100, 20);
+        window.show();
+    }
+
+    void addFilter()
+    {
+        document = documents.open(view);
+        document->inputPoints().AddTracker(&tracker, 0);
+        filter = std::make_unique<PointerFilter>(documents, trigger,
+                                                 [this](const QWidget *) { return isEnabled; });
+        qApp->installEventFilter(filter.get());
+    }
+
+    // Positions are those of the view.
+    void press(QPoint position, Qt::MouseButton button = Qt::RightButton,
+               Qt::KeyboardModifiers modifiers = {})
+    {
+        QTest::mousePress(window.windowHandle(), button, modifiers, inWindow(position));
+    }
+    void move(QPoint position) { QTest::mouseMove(window.windowHandle(), inWindow(position)); }
+    void repeatKey(Qt::Key key, bool isMarked = true)
+    {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, QString(), isMarked);
+        QSpontaneKeyEvent::setSpontaneous(&event);
+        qApp->notify(window.windowHandle(), &event);
+    }
+    void turnWheel(QPoint position)
+    {
+        const QPoint place = inWindow(position);
+        QWheelEvent wheel(place, window.mapToGlobal(place), {}, QPoint(0, 120),
+                          QGuiApplication::mouseButtons(), Qt::NoModifier, Qt::NoScrollPhase, false);
+        QSpontaneKeyEvent::setSpontaneous(&wheel);
+        qApp->notify(window.windowHandle(), &wheel);
+    }
+    // From the press until the overlay has taken a direction; the button is still down.
+    void chooseSector()
+    {
+        press(kPress);
+        move(kPress + QPoint(30, 0));
+        move(kPress + QPoint(35, 0));
+        move(kPress + QPoint(110, 0));
+    }
+    void release(QPoint position, Qt::MouseButton button = Qt::RightButton,
+                 Qt::KeyboardModifiers modifiers = {})
+    {
+        QTest::mouseRelease(window.windowHandle(), button, modifiers, inWindow(position));
+    }
+    [[nodiscard]] QPoint inWindow(QPoint position) const { return view->mapTo(&window, position); }
+    [[nodiscard]] PointerFilter::State state() const { return filter->state(); }
+
+    QWidget window;
+    tests::LoggingView *view = nullptr;
+    QLineEdit *control = nullptr;
+    tests::FakeTracker tracker;
+    gesturewidget::Trigger trigger;
+    bool isEnabled = true;
+    gesturewidget::DocumentManager documents;
+    gesturewidget::Document *document = nullptr;
+    std::unique_ptr<PointerFilter> filter;
+};
+
+using Script = std::function<void(Desk &)>;
+
+QStringList play(const Script &script, bool hasFilter)
+{
+    Desk desk;
+    if (!QTest::qWaitForWindowExposed(&desk.window))
+        return {QStringLiteral("no window")};
+    // The same start for all: nothing pressed, the pointer outside the view.
+    desk.move(QPoint(-10, -10));
+    desk.view->log.clear();
+    if (hasFilter)
+        desk.addFilter();
+    script(desk);
+    QCoreApplication::processEvents();
+    if (hasFilter && desk.state() != PointerFilter::State::Idle)
+        return {QStringLiteral("the filter is not idle")};
+    return desk.view->log;
+}
+
+void dragBy(Desk &desk, QPoint distance)
+{
+    desk.press(kPress);
+    desk.move(kPress + distance / 2);
+    desk.move(kPress + distance);
+    desk.release(kPress + distance);
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Script)
+
+class PointerFilterTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { tests::failOnWarnings(); }
+    void init() { tests::resetWarnings(); }
+    void cleanup()
+    {
+        QCOMPARE(QGuiApplication::mouseButtons(), Qt::MouseButtons(Qt::NoButton));
+        QVERIFY(!QWidget::mouseGrabber());
+        QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
+    }
+
+    void programSeesPlainUseUnchanged_data();
+    void programSeesPlainUseUnchanged();
+    void contextMenuOpenedByThePressGetsTheRelease();
+    void doubleClickWaitsForTheMenu();
+    void menuStaysOpenUntilAnswered();
+    void buttonsAreReportedAsHeldDuringTheReplay();
+    void dialogOpenedByThePressBlocksTheRest();
+
+    void pressIsHeldBack();
+    void keysOfBeforeLetTheGestureBe();
+    void unmarkedRepeatsLetTheGestureBe();
+    void aKeyPressedAgainGivesBack();
+    void aKeyLetGoElsewhereIsForgotten();
+    void keyGivesBackAPressThatClosesTheWindow();
+    void pressIsNotHeldBack_data();
+    void pressIsNotHeldBack();
+    void twentyPixelsAreNoGesture();
+    void gestureIsKeptFromTheProgram();
+    void flickWithOneMovementStartsTheOverlay();
+    void releaseCancelsWithoutCommand();
+    void acceptedGestureRunsOneCommand();
+    void restOfAnAcceptedDragIsSwallowed();
+    void otherButtonsAreSwallowedUntilAllAreUp();
+    void releaseElsewhereEndsTheSwallowing();
+    void pressAfterALostReleaseStartsAnew();
+    void gesturesFollowEachOther();
+    void gestureWithoutOverlayEndsWithTheRelease();
+    void endIsToldThoughAPopupIsOpen();
+
+    void dragGivenToTheProgramStaysThere();
+    void pressOfAnotherButtonGivesBack();
+    void lostWindowGivesBack_data();
+    void lostWindowGivesBack();
+    void viewClosedWhileHolding();
+    void viewClosedDuringTheGesture();
+    void windowHiddenDuringTheGesture();
+    void dialogDuringTheGestureCancels();
+    void cancelLeavesNothingGrabbed();
+    void cancelKeepsNoKeys();
+    void overlayThatIgnoresTheReleaseIsForcedToLetGo();
+    void overlayThatLosesTheMouseIsStopped();
+    void filterDestroyedDuringTheReplay();
+
+    void trackersSeeMovements();
+    void viewLearnsPositionsInItsOwnPixels();
+    void nestedWindowOfAView();
+    void pressActivatesTheDocument();
+};
+
+void PointerFilterTest::programSeesPlainUseUnchanged_data()
+{
+    QTest::addColumn<Script>("script");
+
+    const auto row = [](const char *name, const Script &script) { QTest::newRow(name) << script; };
+    row("hover", [](Desk &d) {
+        d.move(kPress);
+        d.move(kPress + QPoint(5, 5));
+    });
+    row("click", [](Desk &d) {
+        d.press(kPress);
+        d.release(kPress);
+    });
+    row("click of another button", [](Desk &d) {
+        d.press(kPress, Qt::LeftButton);
+        d.release(kPress, Qt::LeftButton);
+    });
+    row("drag of another button", [](Desk &d) {
+        d.press(kPress, Qt::LeftButton);
+        d.move(kPress + QPoint(60, 0));
+        d.release(kPress + QPoint(60, 0), Qt::LeftButton);
+    });
+    row("click with a modifier", [](Desk &d) {
+        d.press(kPress, Qt::RightButton, Qt::ControlModifier);
+        d.release(kPress, Qt::RightButton, Qt::ControlModifier);
+    });
+    row("drag with a modifier", [](Desk &d) {
+        d.press(kPress, Qt::RightButton, Qt::ShiftModifier);
+        d.move(kPress + QPoint(60, 0));
+        d.release(kPress + QPoint(60, 0), Qt::RightButton, Qt::ShiftModifier);
+    });
+    row("short drag", [](Desk &d) { dragBy(d, {8, 4}); });
+    row("drag of 20 pixels", [](Desk &d) { dragBy(d, {12, 8}); });
+    row("drag refused within the distance", [](Desk &d) {
+        d.tracker.takesDrags = false;
+        dragBy(d, {40, 0});
+    });
+    row("drag refused", [](Desk &d) {
+        d.tracker.takesDrags = false;
+        d.press(kPress);
+        for (int x = 5; x <= 100; x += 5)
+            d.move(kPress + QPoint(x, x / 2));
+        d.release(kPress + QPoint(100, 50));
+    });
+    row("other button during the press", [](Desk &d) {
+        d.press(kPress);
+        d.press(kPress, Qt::LeftButton);
+        d.move(kPress + QPoint(60, 0));
+        d.release(kPress + QPoint(60, 0), Qt::LeftButton);
+        d.release(kPress + QPoint(60, 0));
+    });
+    row("trigger during another button", [](Desk &d) {
+        d.press(kPress, Qt::MiddleButton);
+        d.press(kPress);
+        d.move(kPress + QPoint(60, 0));
+        d.release(kPress + QPoint(60, 0));
+        d.release(kPress + QPoint(60, 0), Qt::MiddleButton);
+    });
+    row("double click", [](Desk &d) {
+        QWindow *window = d.window.windowHandle();
+        QTest::mouseDClick(window, Qt::RightButton, {}, d.inWindow(kPress));
+    });
+    row("double click of another button", [](Desk &d) {
+        QWindow *window = d.window.windowHandle();
+        QTest::mouseDClick(window, Qt::LeftButton, {}, d.inWindow(kPress));
+    });
+    row("press in the view, release outside", [](Desk &d) {
+        d.tracker.takesDrags = false;
+        d.press(kPress);
+        d.move(QPoint(-15, 150));
+        d.release(QPoint(-15, 150));
+    });
+    row("press outside, release in the view", [](Desk &d) {
+        d.press(QPoint(-15, 150));
+        d.move(kPress);
+        d.release(kPress);
+    });
+    row("press on a control in the view", [](Desk &d) {
+        d.control->setContextMenuPolicy(Qt::NoContextMenu);
+        d.press(QPoint(20, 290));
+        d.release(QPoint(20, 290));
+    });
+    row("wheel and keys", [](Desk &d) {
+        d.view->setFocus();
+        QTest::keyClick(d.window.windowHandle(), Qt::Key_A);
+        d.turnWheel(kPress);
+        d.press(kPress);
+        d.release(kPress);
+        QTest::keyClick(d.window.windowHandle(), Qt::Key_Escape);
+    });
+    row("key during the press", [](Desk &d) {
+        d.view->setFocus();
+        d.press(kPress);
+        QTest::keyClick(d.window.windowHandle(), Qt::Key_A);
+        d.release(kPress);
+    });
+    row("key let go during the press", [](Desk &d) {
+        d.view->setFocus();
+        QTest::keyPress(d.window.windowHandle(), Qt::Key_L);
+        d.press(kPress);
+        d.move(kPress + QPoint(4, 0));
+        d.repeatKey(Qt::Key_L);
+        QTest::keyRelease(d.window.windowHandle(), Qt::Key_L);
+        d.move(kPress + QPoint(8, 0));
+        d.release(kPress + QPoint(8, 0));
+    });
+    row("modifier during the press", [](Desk &d) {
+        d.view->setFocus();
+        d.press(kPress);
+        d.move(kPress + QPoint(5, 5));
+        QTest::keyPress(d.window.windowHandle(), Qt::Key_Control);
+        d.move(kPress + QPoint(60, 0));
+        d.release(kPress + QPoint(60, 0));
+        QTest::keyRelease(d.window.windowHandle(), Qt::Key_Control);
+    });
+    row("wheel during the press", [](Desk &d) {
+        d.press(kPress);
+        d.turnWheel(kPress);
+        d.release(kPress);
+    });
+    row("wheel during a short drag", [](Desk &d) {
+        d.press(kPress);
+        d.move(kPress + QPoint(6, 0));
+        d.turnWheel(kPress + QPoint(6, 0));
+        d.move(kPress + QPoint(70, 0));
+        d.release(kPress + QPoint(70, 0));
+    });
+    row("gestures disabled", [](Desk &d) {
+        d.isEnabled = false;
+        d.tracker.takesDrags = false;
+        dragBy(d, {100, 0});
+    });
+    row("view disabled", [](Desk &d) {
+        d.view->setEnabled(false);
+        dragBy(d, {100, 0});
+    });
+    row("two clicks", [](Desk &d) {
+        d.press(kPress);
+        d.release(kPress);
+        d.move(kPress + QPoint(50, 50));
+        d.press(kPress + QPoint(50, 50));
+        d.release(kPress + QPoint(50, 50));
+    });
+}
+
+void PointerFilterTest::programSeesPlainUseUnchanged()
+{
+    QFETCH(Script, script);
+    const QStringList without = play(script, false);
+    const QStringList with = play(script, true);
+    QCOMPARE(with, without);
+}
+
+// A menu opened inside the context-menu event runs an event loop there. With real input
+// the release comes while that loop runs, and goes to the menu.
+void PointerFilterTest::contextMenuOpenedByThePressGetsTheRelease()
+{
+    const auto run = [](bool hasFilter) {
+        QStringList log;
+        Desk desk;
+        if (!QTest::qWaitForWindowExposed(&desk.window))
+            return QStringList(QStringLiteral("no window"));
+        desk.move(QPoint(-10, -10));
+        desk.view->log.clear();
+        if (hasFilter)
+            desk.addFilter();
+        QMenu menu;
+        menu.addAction(QStringLiteral("first"));
+
+        class ReleaseLog : public QObject
+        {
+        public:
+            explicit ReleaseLog(QStringList &list)
+                : m_list(list)
+            {
+            }
+            bool eventFilter(QObject *, QEvent *event) override
+            {
+                if (event->type() == QEvent::MouseButtonRelease)
+                    m_list << QStringLiteral("menu: release, visible");
+                return false;
+            }
+            QStringList &m_list;
+        };
+        ReleaseLog releases(log);
+        menu.installEventFilter(&releases);
+
+        bool isReleased = false;
+        desk.view->onContextMenu = [&](QPoint global) {
+            // With the filter the release has been already: it is what opened the menu.
+            QMetaObject::invokeMethod(
+                &menu,
+                [&] {
+                    if (!isReleased)
+                        desk.release(kPress);
+                    isReleased = true;
+                    QMetaObject::invokeMethod(
+                        &menu,
+                        [&] {
+                            log << (menu.isVisible() ? QStringLiteral("menu: open")
+                                                     : QStringLiteral("menu: closed"));
+                            menu.close();
+                        },
+                        Qt::QueuedConnection);
+                },
+                Qt::QueuedConnection);
+            menu.exec(global);
+            log << QStringLiteral("menu: done");
+        };
+        desk.press(kPress);
+        if (hasFilter) {
+            isReleased = true;
+            desk.release(kPress);
+        }
+        return desk.view->log + log;
+    };
+    const QStringList without = run(false);
+    QVERIFY(without.contains(QStringLiteral("menu: release, visible")));
+    QCOMPARE(run(true), without);
+}
+
+// Qt makes two events of the second press: what opens the menu, and the double click. The
+// menu must not get the latter, or it would run the entry under the pointer.
+void PointerFilterTest::doubleClickWaitsForTheMenu()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    QMenu menu;
+    int triggered = 0;
+    connect(menu.addAction(QStringLiteral("first")), &QAction::triggered, this,
+            [&triggered] { ++triggered; });
+    const QString done = QStringLiteral("menu: done");
+    desk.view->onContextMenu = [&](QPoint global) {
+        QTimer::singleShot(0, &menu, &QMenu::close);
+        menu.exec(global);
+        desk.view->log << done;
+    };
+    desk.view->log.clear();
+    QTest::mouseDClick(desk.window.windowHandle(), Qt::RightButton, {}, desk.inWindow(kPress));
+    QCoreApplication::processEvents();
+    const QStringList &log = desk.view->log;
+    QCOMPARE(log.count(done), 2);
+    const QStringList doubleClicks = log.filter(QStringLiteral("MouseButtonDblClick"));
+    QCOMPARE(doubleClicks.size(), 1);
+    QVERIFY2(log.indexOf(doubleClicks.first()) > log.lastIndexOf(done),
+             qPrintable(log.join(QLatin1Char(';'))));
+    QCOMPARE(triggered, 0);
+    // Qt counts the button of the double click as down, the release having been before it,
+    // until the next event tells it otherwise.
+    desk.press(kPress, Qt::LeftButton);
+    desk.release(kPress, Qt::LeftButton);
+}
+
+void PointerFilterTest::menuStaysOpenUntilAnswered()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    QMenu menu;
+    QAction *action = menu.addAction(QStringLiteral("first"));
+    int triggered = 0;
+    connect(action, &QAction::triggered, this, [&triggered] { ++triggered; });
+    desk.view->onContextMenu = [&menu](QPoint global) { menu.popup(global); };
+    desk.press(kPress);
+    QVERIFY(!menu.isVisible());
+    desk.release(kPress);
+    QVERIFY(menu.isVisible());
+    QCoreApplication::processEvents();
+    QVERIFY(menu.isVisible());
+
+    const QPoint onAction = menu.actionGeometry(action).center();
+    QTest::mouseMove(menu.windowHandle(), onAction);
+    QTest::mouseClick(menu.windowHandle(), Qt::LeftButton, {}, onAction);
+    QCOMPARE(triggered, 1);
+    QVERIFY(!menu.isVisible());
+}
+
+void PointerFilterTest::buttonsAreReportedAsHeldDuringTheReplay()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    Qt::MouseButtons held;
+    desk.view->onPress = [&held] { held = QGuiApplication::mouseButtons(); };
+    desk.press(kPress);
+    desk.release(kPress);
+    QCOMPARE(held, Qt::MouseButtons(Qt::RightButton));
+    QCOMPARE(QGuiApplication::mouseButtons(), Qt::MouseButtons(Qt::NoButton));
+}
+
+// A program that opens a modal dialog in its press handler never gets the release.
+void PointerFilterTest::dialogOpenedByThePressBlocksTheRest()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.view->log.clear();
+    QDialog dialog(&desk.window);
+    QStringList whileOpen;
+    desk.view->onPress = [&] {
+        QMetaObject::invokeMethod(
+            &dialog,
+            [&] {
+                whileOpen = desk.view->log.filter(QStringLiteral("Release"));
+                dialog.reject();
+            },
+            Qt::QueuedConnection);
+        dialog.exec();
+    };
+    desk.press(kPress);
+    desk.release(kPress);
+    QCOMPARE(whileOpen, QStringList());
+    QCOMPARE(desk.view->log.filter(QStringLiteral("Release")), QStringList());
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+// Who types fast has not let go of the last key yet when the drag begins.
+void PointerFilterTest::keysOfBeforeLetTheGestureBe()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.view->setFocus();
+    QTest::keyPress(desk.window.windowHandle(), Qt::Key_L);
+    desk.press(kPress);
+    desk.view->log.clear();
+    desk.repeatKey(Qt::Key_L);
+    QTest::keyRelease(desk.window.windowHandle(), Qt::Key_L);
+    QCOMPARE(desk.view->log, QStringList());
+    QCOMPARE(desk.state(), PointerFilter::State::Holding);
+    desk.move(kPress + QPoint(30, 0));
+    QVERIFY(desk.tracker.overlay->isOn);
+    // They are no part of the gesture, and were there before it.
+    QCOMPARE(desk.view->log.size(), 2);
+    QVERIFY(desk.view->log.first().startsWith(QStringLiteral("KeyPress spontaneous key 76")));
+    QVERIFY(desk.view->log.last().startsWith(QStringLiteral("KeyRelease spontaneous key 76")));
+    desk.release(kPress + QPoint(30, 0));
+    QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+// A real X server does not always mark the repeats of a held key, and it may report each as
+// a release and a press.
+void PointerFilterTest::unmarkedRepeatsLetTheGestureBe()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.view->setFocus();
+    QTest::keyPress(desk.window.windowHandle(), Qt::Key_L);
+    desk.press(kPress);
+    desk.repeatKey(Qt::Key_L, false);
+    QCOMPARE(desk.state(), PointerFilter::State::Holding);
+    QTest::keyRelease(desk.window.windowHandle(), Qt::Key_L);
+    desk.repeatKey(Qt::Key_L, false);
+    QCOMPARE(desk.state(), PointerFilter::State::Holding);
+    desk.move(kPress + QPoint(30, 0));
+    QVERIFY(desk.tracker.overlay->isOn);
+    desk.release(kPress + QPoint(30, 0));
+    QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
+    QTest::keyRelease(desk.window.windowHandle(), Qt::Key_L);
+}
+
+// A key that was let go before the press is a new one when it is pressed during it.
+void PointerFilterTest::aKeyPressedAgainGivesBack()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.view->setFocus();
+    QTest::keyClick(desk.window.windowHandle(), Qt::Key_L);
+    desk.press(kPress);
+    QTest::keyPress(desk.window.windowHandle(), Qt::Key_L);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    QTest::keyRelease(desk.window.windowHandle(), Qt::Key_L);
+    desk.release(kPress);
+}
+
+// Nobody has seen the release of a key that was let go in another program: it does not stay
+// down for ever.
+void PointerFilterTest::aKeyLetGoElsewhereIsForgotten()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.view->setFocus();
+    QTest::keyPress(desk.window.windowHandle(), Qt::Key_L);
+    QApplicationStateChangeEvent away(Qt::ApplicationInactive);
+    QCoreApplication::sendEvent(qApp, &away);
+    desk.press(kPress);
+    QTest::keyPress(desk.window.windowHandle(), Qt::Key_L);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    QTest::keyRelease(desk.window.windowHandle(), Qt::Key_L);
+    desk.release(kPress);
+}
+
+// A key gives back the press, and the program does with that what it likes.
+void PointerFilterTest::keyGivesBackAPressThatClosesTheWindow()
+{
+    Desk desk;
+    auto *window = new QWidget;
+    window->resize(300, 300);
+    auto *view = new tests::LoggingView(window);
+    view->resize(300, 300);
+    window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window));
+    desk.addFilter();
+    desk.documents.open(view)->inputPoints().AddTracker(&desk.tracker, 0);
+    const QPointer<QWidget> guard = window;
+    view->onPress = [window] {
+        window->hide();
+        window->deleteLater();
+    };
+    QTest::mousePress(window->windowHandle(), Qt::RightButton, {}, kPress);
+    QCOMPARE(desk.state(), PointerFilter::State::Holding);
+    QTest::keyPress(window->windowHandle(), Qt::Key_A);
+    QCoreApplication::processEvents();
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    QTRY_VERIFY(!guard);
+    desk.press(kPress); // which button is down is up to date again
+    desk.release(kPress);
+}
+
+void PointerFilterTest::pressIsHeldBack()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.view->log.clear();
+    desk.press(kPress);
+    QCOMPARE(desk.state(), PointerFilter::State::Holding);
+    QCOMPARE(desk.tracker.presses, 1);
+    QCOMPARE(desk.view->log.filter(QStringLiteral("Press")), QStringList());
+    QCOMPARE(desk.view->log.filter(QStringLiteral("ContextMenu")), QStringList());
+    desk.release(kPress);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    // The press that the program gets afterwards is no second one for the trackers.
+    QCOMPARE(desk.tracker.presses, 1);
+    QCOMPARE(desk.view->log.filter(QStringLiteral("Press")).size(), 1);
+    QCOMPARE(desk.view->log.filter(QStringLiteral("Release")).size(), 1);
+}
+
+void PointerFilterTest::pressIsNotHeldBack_data()
+{
+    QTest::addColumn<Script>("prepare");
+    QTest::addColumn<int>("button");
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<QPoint>("position");
+
+    const Script nothing = [](Desk &) {};
+    const int right = Qt::RightButton;
+    QTest::newRow("another button") << nothing << int(Qt::LeftButton) << 0 << kPress;
+    QTest::newRow("a modifier") << nothing << right << int(Qt::AltModifier) << kPress;
+    QTest::newRow("outside the view") << nothing << right << 0 << QPoint(-10, 10);
+    QTest::newRow("a control in the view") << nothing << right << 0 << QPoint(20, 290);
+    QTest::newRow("no tracker") << Script([](Desk &d) {
+        d.document->inputPoints().RemoveTracker(&d.tracker);
+    }) << right << 0 << kPress;
+    QTest::newRow("disabled in the settings")
+        << Script([](Desk &d) { d.isEnabled = false; }) << right << 0 << kPress;
+    QTest::newRow("view disabled") << Script([](Desk &d) { d.view->setEnabled(false); }) << right << 0
+                                   << kPress;
+    QTest::newRow("something holds the mouse")
+        << Script([](Desk &d) { d.control->grabMouse(); }) << right << 0 << kPress;
+}
+
+void PointerFilterTest::pressIsNotHeldBack()
+{
+    QFETCH(Script, prepare);
+    QFETCH(int, button);
+    QFETCH(int, modifiers);
+    QFETCH(QPoint, position);
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.control->setContextMenuPolicy(Qt::NoContextMenu);
+    prepare(desk);
+    desk.press(position, Qt::MouseButton(button), Qt::KeyboardModifiers(modifiers));
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    desk.move(position + QPoint(60, -60));
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    QCOMPARE(desk.tracker.drags, 0);
+    desk.release(position, Qt::MouseButton(button), Qt::KeyboardModifiers(modifiers));
+    desk.control->releaseMouse();
+}
+
+void PointerFilterTest::twentyPixelsAreNoGesture()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.press(kPress);
+    desk.move(kPress + QPoint(10, -10));
+    QCOMPARE(desk.state(), PointerFilter::State::Holding);
+    desk.move(kPress + QPoint(10, -11));
+    QCOMPARE(desk.state(), PointerFilter::State::Gesturing);
+    desk.release(kPress + QPoint(10, -11));
+    QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+void PointerFilterTest::gestureIsKeptFromTheProgram()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.move(kPress);
+    desk.addFilter();
+    desk.view->log.clear();
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    QVERIFY(desk.tracker.overlay->isOn);
+    QCOMPARE(desk.tracker.document, static_cast<CHxDocument *>(desk.document));
+    desk.move(kPress + QPoint(50, 0));
+    QCOMPARE(desk.tracker.overlay->log, QStringList(QStringLiteral("move")));
+    desk.release(kPress + QPoint(50, 0));
+    QTRY_COMPARE(desk.tracker.stops, 1);
+    QCoreApplication::processEvents();
+    QCOMPARE(desk.view->log, QStringList());
+}
+
+void PointerFilterTest::flickWithOneMovementStartsTheOverlay()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.press(kPress);
+    desk.move(kPress + QPoint(0, -90));
+    QCOMPARE(desk.tracker.starts, 1);
+    QVERIFY(desk.tracker.overlay->isOn);
+    desk.release(kPress + QPoint(0, -90));
+    QTRY_COMPARE(desk.tracker.stops, 1);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+void PointerFilterTest::releaseCancelsWithoutCommand()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    desk.release(kPress + QPoint(30, 0));
+    QTRY_COMPARE(desk.tracker.stops, 1);
+    QCOMPARE(desk.tracker.commands, 0);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+void PointerFilterTest::acceptedGestureRunsOneCommand()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.chooseSector();
+    // Without any further movement.
+    QTRY_COMPARE(desk.tracker.commands, 1);
+    QCOMPARE(desk.tracker.stops, 1);
+    QCOMPARE(desk.state(), PointerFilter::State::Swallowing);
+    desk.release(kPress + QPoint(110, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    desk.move(kPress + QPoint(120, 0));
+    QCoreApplication::processEvents();
+    QCOMPARE(desk.tracker.commands, 1);
+}
+
+void PointerFilterTest::restOfAnAcceptedDragIsSwallowed()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.move(kPress);
+    desk.addFilter();
+    desk.view->log.clear();
+    desk.chooseSector();
+    QTRY_COMPARE(desk.state(), PointerFilter::State::Swallowing);
+    desk.move(kPress + QPoint(60, 20));
+    desk.move(kPress + QPoint(10, 20));
+    desk.release(kPress + QPoint(10, 20));
+    QCOMPARE(desk.view->log, QStringList());
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    desk.move(kPress + QPoint(10, 25));
+    QCOMPARE(desk.view->log.filter(QStringLiteral("MouseMove")).size(), 1);
+}
+
+void PointerFilterTest::otherButtonsAreSwallowedUntilAllAreUp()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.move(kPress);
+    desk.addFilter();
+    desk.view->log.clear();
+    desk.chooseSector();
+    QTRY_COMPARE(desk.state(), PointerFilter::State::Swallowing);
+    desk.press(kPress, Qt::LeftButton);
+    desk.release(kPress);
+    QCOMPARE(desk.state(), PointerFilter::State::Swallowing);
+    desk.move(kPress + QPoint(5, 5));
+    desk.release(kPress, Qt::LeftButton);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    QCOMPARE(desk.view->log, QStringList());
+}
+
+void PointerFilterTest::releaseElsewhereEndsTheSwallowing()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.chooseSector();
+    QTRY_COMPARE(desk.state(), PointerFilter::State::Swallowing);
+    // The release went to another program: the next movement comes without buttons.
+    const QPoint position = desk.inWindow(kPress);
+    QMouseEvent hover(QEvent::MouseMove, position, desk.window.mapToGlobal(position), Qt::NoButton,
+                      Qt::NoButton, Qt::NoModifier);
+    desk.view->log.clear();
+    QCoreApplication::sendEvent(desk.window.windowHandle(), &hover);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    QVERIFY(!desk.view->log.filter(QStringLiteral("MouseMove")).isEmpty());
+    desk.release(kPress);
+}
+
+void PointerFilterTest::pressAfterALostReleaseStartsAnew()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.chooseSector();
+    QTRY_COMPARE(desk.state(), PointerFilter::State::Swallowing);
+    desk.press(kPress);
+    QCOMPARE(desk.state(), PointerFilter::State::Holding);
+    QCOMPARE(desk.tracker.presses, 2);
+    desk.release(kPress);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+void PointerFilterTest::gesturesFollowEachOther()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    for (int i = 1; i <= 5; ++i) {
+        desk.chooseSector();
+        desk.release(kPress + QPoint(110, 0));
+        // The next press may come before the event loop has been reached.
+    }
+    QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
+    QCOMPARE(desk.tracker.starts, 5);
+    QCOMPARE(desk.tracker.commands, 5);
+    QCOMPARE(desk.tracker.stops, 5);
+}
+
+void PointerFilterTest::gestureWithoutOverlayEndsWithTheRelease()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.move(kPress);
+    desk.addFilter();
+    desk.tracker.showsOverlay = false;
+    desk.view->log.clear();
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    desk.move(kPress + QPoint(60, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Gesturing);
+    desk.release(kPress + QPoint(60, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    QCOMPARE(desk.view->log, QStringList());
+}
+
+void PointerFilterTest::endIsToldThoughAPopupIsOpen()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    QMenu menu;
+    menu.addAction(QStringLiteral("first"));
+    desk.chooseSector();
+    menu.popup(desk.window.mapToGlobal(QPoint(0, 0)));
+    QTRY_COMPARE(desk.tracker.commands, 1);
+    menu.close();
+    desk.release(kPress + QPoint(110, 0));
+}
+
+void PointerFilterTest::dragGivenToTheProgramStaysThere()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.tracker.takesDrags = false;
+    desk.press(kPress);
+    desk.move(kPress + QPoint(40, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Holding);
+    desk.move(kPress + QPoint(41, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    // Even a tracker that changes its mind does not get it any more.
+    desk.tracker.takesDrags = true;
+    desk.move(kPress + QPoint(60, 0));
+    QCOMPARE(desk.tracker.drags, 0);
+    desk.release(kPress + QPoint(60, 0));
+}
+
+void PointerFilterTest::pressOfAnotherButtonGivesBack()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.view->log.clear();
+    desk.press(kPress);
+    desk.press(kPress, Qt::LeftButton);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    QCOMPARE(desk.view->log.filter(QStringLiteral("MouseButtonPress")).size(), 2);
+    desk.move(kPress + QPoint(60, 0));
+    QCOMPARE(desk.tracker.drags, 0);
+    desk.release(kPress, Qt::LeftButton);
+    desk.release(kPress);
+}
+
+void PointerFilterTest::lostWindowGivesBack_data()
+{
+    QTest::addColumn<Script>("happens");
+    QTest::addColumn<bool>("isSeen");
+    QTest::newRow("deactivated") << Script([](Desk &d) {
+        QEvent event(QEvent::WindowDeactivate);
+        QCoreApplication::sendEvent(&d.window, &event);
+    }) << false;
+    QTest::newRow("popup opened") << Script([](Desk &d) {
+        auto *popup = new QWidget(&d.window, Qt::Popup);
+        popup->show();
+        popup->close();
+    }) << true;
+    QTest::newRow("window hidden") << Script([](Desk &d) { d.window.hide(); }) << true;
+    QTest::newRow("window closed") << Script([](Desk &d) { d.window.close(); }) << true;
+    QTest::newRow("modal dialog opened") << Script([](Desk &d) {
+        auto *dialog = new QDialog(&d.window);
+        dialog->open();
+    }) << false;
+    QTest::newRow("window without a view deactivated") << Script([](Desk &d) {
+        QEvent event(QEvent::WindowDeactivate);
+        QCoreApplication::sendEvent(d.control, &event);
+    }) << false;
+}
+
+void PointerFilterTest::lostWindowGivesBack()
+{
+    QFETCH(Script, happens);
+    QFETCH(bool, isSeen);
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.view->log.clear();
+    desk.press(kPress);
+    happens(desk);
+    // Not from within whatever happens, but from the event loop.
+    QCOMPARE(desk.state(), PointerFilter::State::Holding);
+    QCoreApplication::processEvents();
+    QCOMPARE(!desk.view->log.filter(QStringLiteral("MouseButtonPress")).isEmpty(), isSeen);
+    desk.release(kPress);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+void PointerFilterTest::viewClosedWhileHolding()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.press(kPress);
+    delete desk.view;
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    QTest::mouseRelease(desk.window.windowHandle(), Qt::RightButton, {}, QPoint(170, 170));
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+void PointerFilterTest::viewClosedDuringTheGesture()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    QVERIFY(desk.tracker.overlay->isOn);
+    delete desk.view;
+    QVERIFY(!desk.tracker.overlay->isOn);
+    QVERIFY(!QWidget::mouseGrabber());
+    QCOMPARE(desk.tracker.stops, 1);
+    QCOMPARE(desk.tracker.commands, 0);
+    QCOMPARE(desk.state(), PointerFilter::State::Swallowing);
+    QTest::mouseRelease(desk.window.windowHandle(), Qt::RightButton, {}, QPoint(170, 170));
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+void PointerFilterTest::windowHiddenDuringTheGesture()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    desk.window.hide();
+    QTRY_COMPARE(desk.tracker.stops, 1);
+    QVERIFY(!desk.tracker.overlay->isOn);
+    QCOMPARE(desk.tracker.commands, 0);
+    desk.window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.release(kPress);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+void PointerFilterTest::dialogDuringTheGestureCancels()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    QDialog dialog(&desk.window);
+    dialog.open();
+    QTRY_COMPARE(desk.tracker.stops, 1);
+    QVERIFY(!QWidget::mouseGrabber());
+    QCOMPARE(desk.tracker.commands, 0);
+    dialog.close();
+    desk.release(kPress);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+void PointerFilterTest::cancelLeavesNothingGrabbed()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.filter->cancel();
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+
+    desk.view->log.clear();
+    desk.press(kPress);
+    desk.filter->cancel();
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    desk.release(kPress);
+    QCOMPARE(desk.view->log.filter(QStringLiteral("MouseButton")), QStringList());
+
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    desk.filter->cancel();
+    QVERIFY(!QWidget::mouseGrabber());
+    QCOMPARE(desk.tracker.stops, 1);
+    desk.release(kPress);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+void PointerFilterTest::cancelKeepsNoKeys()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.view->setFocus();
+    QTest::keyPress(desk.window.windowHandle(), Qt::Key_L);
+    desk.press(kPress);
+    desk.view->log.clear();
+    QTest::keyRelease(desk.window.windowHandle(), Qt::Key_L);
+    desk.filter->cancel();
+    // Not at once: whoever cancels may be destroying the view.
+    QCOMPARE(desk.view->log, QStringList());
+    QTRY_COMPARE(desk.view->log.filter(QStringLiteral("KeyRelease")).size(), 1);
+    QCOMPARE(desk.view->log.filter(QStringLiteral("MouseButton")).size(), 0);
+    desk.release(kPress);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+void PointerFilterTest::overlayThatIgnoresTheReleaseIsForcedToLetGo()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    desk.tracker.overlay->isOn = false; // it does not react any more
+    desk.tracker.overlay->grabKeyboard();
+    desk.filter->cancel();
+    QVERIFY(!QWidget::mouseGrabber());
+    QVERIFY(!QWidget::keyboardGrabber());
+    QVERIFY(!desk.tracker.overlay->isVisible());
+    desk.release(kPress);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+void PointerFilterTest::overlayThatLosesTheMouseIsStopped()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    desk.control->grabMouse(); // takes Qt's grab away
+    desk.move(kPress + QPoint(35, 0));
+    QVERIFY(!desk.tracker.overlay->isVisible());
+    QCOMPARE(desk.tracker.stops, 1);
+    QCOMPARE(desk.tracker.commands, 0);
+    QCOMPARE(QWidget::mouseGrabber(), desk.control);
+    desk.control->releaseMouse();
+    desk.release(kPress);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+void PointerFilterTest::filterDestroyedDuringTheReplay()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.view->onPress = [&desk] { desk.filter.reset(); };
+    desk.press(kPress);
+    desk.release(kPress);
+    QVERIFY(!desk.filter);
+    // What had begun was ended.
+    QCOMPARE(desk.view->log.filter(QStringLiteral("Release")).size(), 1);
+}
+
+void PointerFilterTest::trackersSeeMovements()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.move(QPoint(-10, -10));
+    desk.addFilter();
+    desk.move(kPress);
+    desk.move(kPress + QPoint(1, 1));
+    QCOMPARE(desk.tracker.updates, 2);
+    QCOMPARE(desk.tracker.suppressed, 0);
+    desk.move(QPoint(-10, -10));
+    QCOMPARE(desk.tracker.updates, 2);
+    desk.move(kPress);
+    QCOMPARE(desk.tracker.updates, 3);
+    // A button that starts no gesture.
+    desk.press(kPress, Qt::LeftButton);
+    desk.move(kPress + QPoint(60, 0));
+    QCOMPARE(desk.tracker.updates, 5);
+    QCOMPARE(desk.tracker.suppressed, 2);
+    desk.release(kPress, Qt::LeftButton);
+}
+
+void PointerFilterTest::viewLearnsPositionsInItsOwnPixels()
+{
+    class PositionTracker : public CHxTracker
+    {
+    public:
+        void Update(CHxTrackerContext *, CHxHitTestInfo *hit) override
+        {
+            positions << hit->GetPosition();
+        }
+        void DrawTracker(CHxTrackerContext *, const CHxHitTestInfo *) const override { }
+        void DrawDDTracker(CHxTrackerContext *, const CHxHitTestInfo *) const override { }
+        [[nodiscard]] bool IsEager(const CHxHitTestInfo *) const override { return false; }
+        bool DoAction(const CHxHitTestInfo *) override { return false; }
+        QVector<QPoint> positions;
+    };
+    PositionTracker tracker;
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.move(QPoint(-10, -10));
+    desk.addFilter();
+    desk.document->inputPoints().AddTracker(&tracker, 0);
+    desk.move(kPress); // as the view gets it
+    desk.press(kPress); // as its window gets it
+    desk.move(kPress + QPoint(3, -4));
+    const QVector<QPoint> expected{kPress, kPress, kPress + QPoint(3, -4)};
+    QCOMPARE(tracker.positions, expected);
+    desk.release(kPress);
+}
+
+// A view with a window of its own, as OpenGL views have.
+void PointerFilterTest::nestedWindowOfAView()
+{
+    Desk desk;
+    desk.view->setAttribute(Qt::WA_NativeWindow);
+    desk.view->winId();
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    QWindow *nested = desk.view->windowHandle();
+    QVERIFY(nested);
+    desk.view->log.clear();
+    QTest::mousePress(nested, Qt::RightButton, {}, kPress);
+    QCOMPARE(desk.state(), PointerFilter::State::Holding);
+    QTest::mouseRelease(nested, Qt::RightButton, {}, kPress);
+    QCOMPARE(desk.view->log.filter(QStringLiteral("MouseButtonPress")).size(), 1);
+    QVERIFY(desk.view->log.filter(QStringLiteral("MouseButtonPress"))
+                .first()
+                .contains(QStringLiteral("at 150,150 ")));
+
+    QTest::mousePress(nested, Qt::RightButton, {}, kPress);
+    QTest::mouseMove(nested, kPress + QPoint(30, 0));
+    QVERIFY(desk.tracker.overlay->isOn);
+    QTest::mouseRelease(nested, Qt::RightButton, {}, kPress + QPoint(30, 0));
+    QTRY_COMPARE(desk.tracker.stops, 1);
+}
+
+void PointerFilterTest::pressActivatesTheDocument()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    tests::LoggingView other(&desk.window);
+    other.setGeometry(330, 20, 60, 60);
+    other.show();
+    desk.addFilter();
+    gesturewidget::Document *second = desk.documents.open(&other);
+    second->inputPoints().AddTracker(&desk.tracker, 0);
+    QCOMPARE(desk.documents.GetActiveDocument(), static_cast<CHxDocument *>(desk.document));
+    QTest::mouseClick(desk.window.windowHandle(), Qt::LeftButton, {}, QPoint(350, 50));
+    QCOMPARE(desk.documents.GetActiveDocument(), static_cast<CHxDocument *>(second));
+    desk.press(kPress);
+    QCOMPARE(desk.documents.GetActiveDocument(), static_cast<CHxDocument *>(desk.document));
+    desk.release(kPress);
+    other.setFocus();
+    QTRY_COMPARE(desk.documents.GetActiveDocument(), static_cast<CHxDocument *>(second));
+}
+
+QTEST_MAIN(PointerFilterTest)
+#include "tst_pointerfilter.moc"

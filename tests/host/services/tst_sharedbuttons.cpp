@@ -1,0 +1,36 @@
+#include "host/services/SharedButtons.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+// The program of this test has a help.png of its own, see fixtures/sharedbuttons.qrc.
+class SharedButtonsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { tests::failOnWarnings(); }
+    void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
+
+    void theProgramKeepsItsOwn();
+};
+
+void SharedButtonsTest::theProgramKeepsItsOwn()
+{
+    const auto content = [](const char *name) {
+        QFile file(QStringLiteral(":/images/shared/") + QLatin1String(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    QCOMPARE(QDir(QStringLiteral(":/images/shared")).entryList(),
+             QStringList(QStringLiteral("help.png")));
+    gesturewidget::provideSharedButtons();
+    gesturewidget::provideSharedButtons();
+    QCOMPARE(content("help.png").trimmed(), QByteArray("the program's own"));
+    QVERIFY(content("ok.png").startsWith("\x89PNG"));
+    QVERIFY(content("cancel.png").startsWith("\x89PNG"));
+}
+
+QTEST_GUILESS_MAIN(SharedButtonsTest)
+#include "tst_sharedbuttons.moc"

@@ -1,0 +1,648 @@
+#include "host/files/InstallPaths.h"
+#include "host/session/GestureHost.h"
+#include "host/window/MenuReadiness.h"
+#include "sdk/chx/CHxDocument.h"
+#include "sdk/chx/CHxDocumentManager.h"
+#include "sdk/chx/CHxEditorReactor.h"
+#include "sdk/chx/CHxInputPointManager.h"
+#include "sdk/chx/CHxMainFrame.h"
+#include "sdk/chx/CHxProfileStore.h"
+#include "sdk/chx/CHxSystemServices.h"
+#include "sdk/chx/CHxUICommandItem.h"
+#include "sdk/chx/CHxUICommandManager.h"
+#include "sdk/od/OdEdCommandStack.h"
+#include "sdk/od/OdEditor.h"
+#include "tests/host/session/modules/StubModule.h"
+#include "tests/host/support/FakeTracker.h"
+#include "tests/host/support/StandardErrorCapture.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QFrame>
+#include <QLibrary>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QSignalSpy>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+QString stub(const QString &name)
+{
+    return QStringLiteral(STUB_MODULES_DIR "/%1.so").arg(name);
+}
+
+StubModule::Calls callsOf(const QString &name)
+{
+    using Function = StubModule::Calls *(*)();
+    const auto function = reinterpret_cast<Function>(QLibrary::resolve(stub(name), "stubCalls"));
+    return function ? *function() : StubModule::Calls{};
+}
+
+class FrameReactor : public CHxEditorReactor
+{
+public:
+    void mainFrameCreated(QWidget *) override { ++created; }
+    void mainFrameDestroyed(QWidget *) override { ++destroyed; }
+    int created = 0;
+    int destroyed = 0;
+};
+
+} // namespace
+
+class GestureHostTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { tests::failOnWarnings(); }
+    void init()
+    {
+        tests::resetWarnings();
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_options = {};
+        m_options.program = QStringLiteral("program");
+        m_options.moduleFile = stub(QStringLiteral("good"));
+        m_options.settingsFile = m_folder->filePath(QStringLiteral("program.ini"));
+    }
+    void cleanup()
+    {
+        QCOMPARE(GetHxSystemServices(), nullptr);
+        QVERIFY(!odedEditor());
+        QVERIFY(!odedRegCmds());
+        QCOMPARE(ACTIVE_DOCUMENT(), nullptr);
+        QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
+    }
+
+    void startGivesThePlatform();
+    void startAndStopOnce();
+    void oneHostAtATime();
+    void startWithoutWindow();
+    void startWithBrokenModule_data();
+    void startWithBrokenModule();
+    void errorIsOptional();
+    void addedViewsBecomeDocuments();
+    void profileNamesViews();
+    void enableFlagIsRead();
+    void theSettingsChooseTheTrigger_data();
+    void theSettingsChooseTheTrigger();
+    void aNewTriggerCountsFromTheNextStart();
+    void viewsOfOtherWindows_data();
+    void viewsOfOtherWindows();
+    void commandsAreRememberedForTheNextStart();
+    void frameIsCreatedOnceMenusAreQuiet();
+    void menusThatNeverRestGetTheFrameToo();
+    void menusMayComeAfterTheWindow();
+    void windowWithoutMenuBarGetsNone();
+    void destroyedWindowStopsTheHost();
+    void hostMayOutliveTheWindowAndItsViews();
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+    gesturewidget::GestureHost::Options m_options;
+};
+
+void GestureHostTest::startGivesThePlatform()
+{
+    QMainWindow window;
+    gesturewidget::GestureHost host(&window, m_options);
+    QVERIFY(!host.isRunning());
+    QString error;
+    QVERIFY2(host.start(&error), qPrintable(error));
+    QVERIFY(host.isRunning());
+    CHxSystemServices *services = GetHxSystemServices();
+    QVERIFY(services);
+    QVERIFY(services->GetMainFrame());
+    QCOMPARE(services->GetMainFrame()->GetMainWindow(), &window);
+    QVERIFY(services->GetApplication());
+    QVERIFY(services->GetDocumentManager());
+    QVERIFY(odedEditor());
+    QVERIFY(odedRegCmds());
+}
+
+void GestureHostTest::startAndStopOnce()
+{
+    const StubModule::Calls before = callsOf(QStringLiteral("good"));
+    QMainWindow window;
+    gesturewidget::GestureHost host(&window, m_options);
+    host.stop();
+    QVERIFY(host.start());
+    QVERIFY(host.start()); // it runs already
+    host.stop();
+    host.stop();
+    QVERIFY(!host.isRunning());
+    const StubModule::Calls after = callsOf(QStringLiteral("good"));
+    QCOMPARE(after.initializations, before.initializations + 1);
+    QCOMPARE(after.endings, before.endings + 1);
+    // The module object goes only when nothing of it can be running any more.
+    QCOMPARE(after.deletions, before.deletions);
+    QString error;
+    QVERIFY(!host.start(&error));
+    QCOMPARE(error, QStringLiteral("a host that was stopped cannot start again"));
+}
+
+void GestureHostTest::oneHostAtATime()
+{
+    QMainWindow window;
+    auto first = std::make_unique<gesturewidget::GestureHost>(&window, m_options);
+    gesturewidget::GestureHost second(&window, m_options);
+    QVERIFY(first->start());
+    CHxSystemServices *services = GetHxSystemServices();
+    QString error;
+    QVERIFY(!second.start(&error));
+    QCOMPARE(error, QStringLiteral("this program has a host already"));
+    QCOMPARE(GetHxSystemServices(), services);
+    first.reset();
+    QVERIFY(second.start(&error));
+    QVERIFY(GetHxSystemServices() != services);
+}
+
+void GestureHostTest::startWithoutWindow()
+{
+    gesturewidget::GestureHost host(nullptr, m_options);
+    QString error;
+    QVERIFY(!host.start(&error));
+    QCOMPARE(error, QStringLiteral("there is no main window to host"));
+
+    auto window = std::make_unique<QMainWindow>();
+    gesturewidget::GestureHost late(window.get(), m_options);
+    window.reset();
+    QVERIFY(!late.start(&error));
+}
+
+void GestureHostTest::startWithBrokenModule_data()
+{
+    QTest::addColumn<QString>("module");
+    for (const char *name : {"missing", "empty", "newer", "null", "create_throws", "init_throws"})
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+void GestureHostTest::startWithBrokenModule()
+{
+    QFETCH(QString, module);
+    m_options.moduleFile = stub(module);
+    QMainWindow window;
+    QWidget view(&window);
+    gesturewidget::GestureHost host(&window, m_options);
+    host.addView(&view);
+    QString error;
+    QVERIFY(!host.start(&error));
+    QVERIFY2(error.contains(module), qPrintable(error));
+    QVERIFY(!host.isRunning());
+    window.show();
+    QTest::mouseClick(&view, Qt::RightButton);
+}
+
+void GestureHostTest::errorIsOptional()
+{
+    m_options.moduleFile = stub(QStringLiteral("missing"));
+    QMainWindow window;
+    gesturewidget::GestureHost host(&window, m_options);
+    QVERIFY(!host.start());
+    QVERIFY(!host.start(nullptr));
+}
+
+void GestureHostTest::addedViewsBecomeDocuments()
+{
+    QMainWindow window;
+    QWidget before(&window);
+    QPlainTextEdit scrolled(&window);
+    QWidget after(&window);
+    gesturewidget::GestureHost host(&window, m_options);
+    host.addView(nullptr);
+    host.addView(&before);
+    host.addView(&before);
+    host.addView(&scrolled);
+    {
+        QWidget gone;
+        host.addView(&gone);
+    }
+    QVERIFY(host.start());
+    host.addView(&after);
+    QList<QWidget *> views;
+    CHxDocumentManager *documents = GetHxSystemServices()->GetDocumentManager();
+    for (CHxDocumentIteratorPtr it = documents->NewIterator(); !it->done(); it->next())
+        views << it->object()->GetViewWidget();
+    const QList<QWidget *> expected{&before, scrolled.viewport(), &after};
+    QCOMPARE(views, expected);
+    QVERIFY(ACTIVE_DOCUMENT());
+    QCOMPARE(ACTIVE_DOCUMENT()->GetViewWidget(), &before);
+    host.stop();
+    host.addView(&window); // no more
+}
+
+void GestureHostTest::profileNamesViews()
+{
+    QFile profile(m_folder->filePath(QStringLiteral("program.json")));
+    QVERIFY(profile.open(QIODevice::WriteOnly));
+    profile.write(R"({"version": 1, "program": "program", "viewClasses": ["QPlainTextEdit"]})");
+    profile.close();
+    m_options.profileFolders << m_folder->path();
+    QMainWindow window;
+    auto *view = new QPlainTextEdit(&window);
+    gesturewidget::GestureHost host(&window, m_options);
+    QVERIFY(host.start());
+    QVERIFY(ACTIVE_DOCUMENT());
+    QCOMPARE(ACTIVE_DOCUMENT()->GetViewWidget(), view->viewport());
+}
+
+// A press is held back only while gestures are enabled in the program's own settings.
+void GestureHostTest::enableFlagIsRead()
+{
+    QMainWindow window;
+    window.resize(300, 300);
+    auto *view = new QWidget;
+    window.setCentralWidget(view);
+    int menus = 0;
+    view->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(view, &QWidget::customContextMenuRequested, this, [&menus] { ++menus; });
+    gesturewidget::GestureHost host(&window, m_options);
+    host.addView(view);
+    QVERIFY(host.start());
+    tests::FakeTracker tracker;
+    ACTIVE_DOCUMENT()->GetInputPointManager()->AddTracker(&tracker, 0);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    const auto menusOpenedByThePress = [&] {
+        menus = 0;
+        QTest::mousePress(window.windowHandle(), Qt::RightButton, {}, QPoint(150, 150));
+        const int opened = menus;
+        QTest::mouseRelease(window.windowHandle(), Qt::RightButton, {}, QPoint(150, 150));
+        return opened;
+    };
+    CHxProfileStore *store = GetHxSystemServices()->GetProfileStore();
+    const auto set = [store](const char *value) {
+        const OdResBufPtr buffer = OdResBuf::newString(OdString(QString::fromLatin1(value)));
+        store->Set("GestureWidget", "EnableMouseGesture", buffer.get());
+    };
+    QCOMPARE(menusOpenedByThePress(), 0);
+    QCOMPARE(menus, 1);
+    set("0");
+    QCOMPARE(menusOpenedByThePress(), 1);
+    set("1");
+    QCOMPARE(menusOpenedByThePress(), 0);
+    QCOMPARE(menus, 1);
+}
+
+namespace {
+
+// A program under way, with a view that a tracker watches.
+class Drawing
+{
+public:
+    explicit Drawing(const gesturewidget::GestureHost::Options &options)
+        : m_host(&m_window, options)
+    {
+        m_window.resize(300, 300);
+        m_view = new PressCounter;
+        m_window.setCentralWidget(m_view);
+        m_host.addView(m_view);
+    }
+
+    bool start()
+    {
+        if (!m_host.start())
+            return false;
+        ACTIVE_DOCUMENT()->GetInputPointManager()->AddTracker(&m_tracker, 0);
+        m_window.show();
+        return QTest::qWaitForWindowExposed(&m_window);
+    }
+    // Whether a press is held back, to see whether it becomes a gesture.
+    bool isTrigger(Qt::MouseButton button, Qt::KeyboardModifiers modifiers = {})
+    {
+        m_view->presses = 0;
+        QTest::mousePress(m_window.windowHandle(), button, modifiers, QPoint(150, 150));
+        const bool isHeld = m_view->presses == 0;
+        QTest::mouseRelease(m_window.windowHandle(), button, modifiers, QPoint(150, 150));
+        if (m_view->presses != 1)
+            QTest::qFail("the press did not come through", __FILE__, __LINE__);
+        return isHeld;
+    }
+
+private:
+    class PressCounter : public QWidget
+    {
+    public:
+        int presses = 0;
+
+    protected:
+        void mousePressEvent(QMouseEvent *) override { ++presses; }
+    };
+
+    tests::FakeTracker m_tracker;
+    QMainWindow m_window;
+    PressCounter *m_view = nullptr;
+    gesturewidget::GestureHost m_host;
+};
+
+void write(const QString &path, const QByteArray &text)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(text), text.size());
+}
+
+} // namespace
+
+void GestureHostTest::theSettingsChooseTheTrigger_data()
+{
+    QTest::addColumn<QByteArray>("chosen"); // in the settings; empty for none
+    QTest::addColumn<QByteArray>("profile");
+    QTest::addColumn<int>("button"); // that starts gestures
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<bool>("isComplaint");
+    const QByteArray right = R"({"button": "right", "modifiers": []})";
+    const QByteArray middle = R"({"button": "middle", "modifiers": ["shift"]})";
+    const auto row = [](const char *name, const char *chosen, const QByteArray &profile,
+                        Qt::MouseButton button, Qt::KeyboardModifiers modifiers, bool isComplaint) {
+        QTest::newRow(name) << QByteArray(chosen) << profile << int(button) << int(modifiers)
+                            << isComplaint;
+    };
+    row("none", "", right, Qt::RightButton, {}, false);
+    row("none, other profile", "", middle, Qt::MiddleButton, Qt::ShiftModifier, false);
+    row("right", "right", middle, Qt::RightButton, {}, false);
+    row("middle", "middle", right, Qt::MiddleButton, {}, false);
+    row("back", "back", right, Qt::BackButton, {}, false);
+    row("ctrl+right", "ctrl+right", right, Qt::RightButton, Qt::ControlModifier, false);
+    row("shift+alt+left", "Shift+ALT+Left", right, Qt::LeftButton, Qt::ShiftModifier | Qt::AltModifier,
+        false);
+    row("no button", "ctrl", right, Qt::RightButton, {}, true);
+    row("unknown", "rihgt", middle, Qt::MiddleButton, Qt::ShiftModifier, true);
+    row("twice", "ctrl+ctrl+right", right, Qt::RightButton, {}, true);
+    row("spaces", "ctrl + right", right, Qt::RightButton, {}, true);
+    // People draw with it.
+    row("left alone", "left", right, Qt::RightButton, {}, true);
+}
+
+void GestureHostTest::theSettingsChooseTheTrigger()
+{
+    QFETCH(QByteArray, chosen);
+    QFETCH(QByteArray, profile);
+    QFETCH(int, button);
+    QFETCH(int, modifiers);
+    QFETCH(bool, isComplaint);
+    write(m_folder->filePath(QStringLiteral("program.json")),
+          R"({"version": 1, "program": "program", "trigger": )" + profile + "}");
+    m_options.profileFolders << m_folder->path();
+    if (!chosen.isEmpty())
+        write(m_options.settingsFile, "[Host]\nTrigger=" + chosen + "\n");
+
+    tests::StandardErrorCapture errors;
+    Drawing drawing(m_options);
+    QVERIFY(drawing.start());
+    const QStringList lines = errors.lines().filter(QStringLiteral("mouse gestures: "));
+    QCOMPARE(lines.size(), isComplaint ? 1 : 0);
+    if (isComplaint)
+        QVERIFY2(lines.first().contains(QString::fromLatin1(chosen)), qPrintable(lines.first()));
+    const Qt::KeyboardModifiers all[] = {Qt::NoModifier, Qt::ControlModifier, Qt::ShiftModifier,
+                                         Qt::ShiftModifier | Qt::AltModifier};
+    for (const Qt::MouseButton each :
+         {Qt::LeftButton, Qt::MiddleButton, Qt::RightButton, Qt::BackButton}) {
+        for (const Qt::KeyboardModifiers keys : all)
+            QCOMPARE(drawing.isTrigger(each, keys), int(each) == button && int(keys) == modifiers);
+    }
+}
+
+void GestureHostTest::aNewTriggerCountsFromTheNextStart()
+{
+    {
+        Drawing drawing(m_options);
+        QVERIFY(drawing.start());
+        QVERIFY(drawing.isTrigger(Qt::RightButton));
+        const OdResBufPtr middle = OdResBuf::newString(OdString(QStringLiteral("middle")));
+        QVERIFY(GetHxSystemServices()->GetProfileStore()->Set("Host", "Trigger", middle.get()));
+        QVERIFY(drawing.isTrigger(Qt::RightButton));
+        QVERIFY(!drawing.isTrigger(Qt::MiddleButton));
+    }
+    QTRY_VERIFY(QFileInfo::exists(m_options.settingsFile));
+    {
+        Drawing drawing(m_options);
+        QVERIFY(drawing.start());
+        QVERIFY(drawing.isTrigger(Qt::MiddleButton));
+        QVERIFY(!drawing.isTrigger(Qt::RightButton));
+        // Taken back, as with "default".
+        write(m_options.settingsFile, "[Host]\nTrigger=\n");
+        QVERIFY(drawing.isTrigger(Qt::MiddleButton));
+    }
+    Drawing drawing(m_options);
+    QVERIFY(drawing.start());
+    QVERIFY(drawing.isTrigger(Qt::RightButton));
+    QVERIFY(!drawing.isTrigger(Qt::MiddleButton));
+}
+
+void GestureHostTest::viewsOfOtherWindows_data()
+{
+    QTest::addColumn<bool>("isMainWindow");
+    QTest::addColumn<bool>("hasMenus");
+    QTest::addColumn<bool>("isAdded"); // by the program itself
+    QTest::addColumn<bool>("isHeld");
+    QTest::newRow("dialog") << false << false << false << true;
+    QTest::newRow("detached view") << true << false << false << true;
+    QTest::newRow("another drawing") << true << true << false << false;
+    QTest::newRow("another drawing, added") << true << true << true << true;
+}
+
+// The commands of a gesture are those of the host's main window.
+void GestureHostTest::viewsOfOtherWindows()
+{
+    QFETCH(bool, isMainWindow);
+    QFETCH(bool, hasMenus);
+    QFETCH(bool, isAdded);
+    QFETCH(bool, isHeld);
+    class View : public QFrame
+    {
+    public:
+        using QFrame::QFrame;
+        int presses = 0;
+
+    protected:
+        void mousePressEvent(QMouseEvent *) override { ++presses; }
+    };
+    write(m_folder->filePath(QStringLiteral("program.json")),
+          R"({"version": 1, "program": "program", "viewClasses": ["QFrame"]})");
+    m_options.profileFolders << m_folder->path();
+    QMainWindow window;
+    window.menuBar()->addMenu(QStringLiteral("Tools"));
+    auto *mainWindow = new QMainWindow;
+    const std::unique_ptr<QWidget> other(isMainWindow ? mainWindow : new QWidget);
+    const std::unique_ptr<QWidget> unused(isMainWindow ? nullptr : mainWindow);
+    if (hasMenus)
+        mainWindow->menuBar()->addMenu(QStringLiteral("Tools"));
+    other->resize(200, 200);
+    auto *view = new View(other.get());
+    view->setGeometry(50, 50, 100, 100);
+    gesturewidget::GestureHost host(&window, m_options);
+    if (isAdded)
+        host.addView(view);
+    QVERIFY(host.start());
+    QVERIFY(ACTIVE_DOCUMENT());
+    QCOMPARE(ACTIVE_DOCUMENT()->GetViewWidget(), view);
+    tests::FakeTracker tracker;
+    ACTIVE_DOCUMENT()->GetInputPointManager()->AddTracker(&tracker, 0);
+    other->show();
+    QVERIFY(QTest::qWaitForWindowExposed(other.get()));
+    QTest::mousePress(other->windowHandle(), Qt::RightButton, {}, QPoint(100, 100));
+    QCOMPARE(view->presses == 0, isHeld);
+    QTest::mouseRelease(other->windowHandle(), Qt::RightButton, {}, QPoint(100, 100));
+    QCOMPARE(view->presses, 1);
+}
+
+// A program that comes up with other menus than it had the last time.
+void GestureHostTest::commandsAreRememberedForTheNextStart()
+{
+    const auto offered = [] {
+        QStringList commands;
+        CHxUICommandManager *manager = GetHxSystemServices()->GetUICommandManager();
+        for (const auto groups = manager->NewGroupIterator(); !groups->Done(); groups->Next()) {
+            for (const auto it = groups->Current()->NewCommandIterator(); !it->Done(); it->Next())
+                commands << it->Current()->GetIdentifier().toQString();
+        }
+        return commands;
+    };
+    const QString file = gesturewidget::catalogueFileBeside(m_options.settingsFile);
+    {
+        QMainWindow window;
+        QMenu *menu = window.menuBar()->addMenu(QStringLiteral("Sketch"));
+        menu->addAction(QStringLiteral("Line"))->setObjectName(QStringLiteral("sketchLine"));
+        gesturewidget::GestureHost host(&window, m_options);
+        QVERIFY(host.start());
+        QVERIFY(!QFileInfo::exists(file));
+        window.show();
+        QTRY_VERIFY(QFileInfo::exists(file));
+    }
+    QMainWindow window;
+    QMenu *menu = window.menuBar()->addMenu(QStringLiteral("Mesh"));
+    menu->addAction(QStringLiteral("Cut"))->setObjectName(QStringLiteral("meshCut"));
+    window.statusBar();
+    gesturewidget::GestureHost host(&window, m_options);
+    QVERIFY(host.start());
+    QCOMPARE(offered(), QStringList({QStringLiteral("meshCut"), QStringLiteral("sketchLine")}));
+    QVERIFY(!GetHxSystemServices()->RunCommand("sketchLine", true)->IsFound());
+    QCOMPARE(window.statusBar()->currentMessage(),
+             QStringLiteral("Line: not available at the moment. "
+                            "It belongs to the menu \"Sketch\", which is not there now."));
+}
+
+void GestureHostTest::frameIsCreatedOnceMenusAreQuiet()
+{
+    QMainWindow window;
+    QMenu *menu = window.menuBar()->addMenu(QStringLiteral("Tools"));
+    gesturewidget::GestureHost host(&window, m_options);
+    QVERIFY(host.start());
+    FrameReactor reactor;
+    odedEditor()->addReactor(&reactor);
+    window.show();
+    QElapsedTimer elapsed;
+    elapsed.start();
+    // A program that fills its menus for a while.
+    qint64 lastAdded = 0;
+    QTimer filling;
+    connect(&filling, &QTimer::timeout, this, [&] {
+        menu->addAction(QStringLiteral("entry"));
+        lastAdded = elapsed.elapsed();
+        if (menu->actions().size() == 5)
+            filling.stop();
+    });
+    filling.start(gesturewidget::MenuReadiness::kQuietTime / 2);
+    QTRY_COMPARE(reactor.created, 1);
+    QCOMPARE(menu->actions().size(), 5);
+    QVERIFY(elapsed.elapsed() - lastAdded >= gesturewidget::MenuReadiness::kQuietTime * 9 / 10);
+    menu->addAction(QStringLiteral("later"));
+    host.stop();
+    QCOMPARE(reactor.created, 1);
+    QCOMPARE(reactor.destroyed, 1);
+}
+
+// A menu may show the time of day, or a list that some device changes.
+void GestureHostTest::menusThatNeverRestGetTheFrameToo()
+{
+    QMainWindow window;
+    QMenu *menu = window.menuBar()->addMenu(QStringLiteral("Tools"));
+    gesturewidget::GestureHost host(&window, m_options);
+    QVERIFY(host.start());
+    FrameReactor reactor;
+    odedEditor()->addReactor(&reactor);
+    window.show();
+    QTimer refilling;
+    connect(&refilling, &QTimer::timeout, menu, [menu] {
+        menu->clear();
+        menu->addAction(QStringLiteral("entry"));
+    });
+    refilling.start(200);
+    QTRY_COMPARE_WITH_TIMEOUT(reactor.created, 1, 2 * gesturewidget::QuietWait::kLongestTime);
+    host.stop();
+}
+
+void GestureHostTest::menusMayComeAfterTheWindow()
+{
+    QMainWindow window;
+    window.show();
+    gesturewidget::GestureHost host(&window, m_options);
+    QVERIFY(host.start());
+    FrameReactor reactor;
+    odedEditor()->addReactor(&reactor);
+    gesturewidget::MenuReadiness other(&window); // settles when the host's own does
+    QSignalSpy settled(&other, &gesturewidget::MenuReadiness::settled);
+    other.start();
+    window.menuBar()->addMenu(QStringLiteral("Tools"));
+    QTRY_COMPARE(settled.count(), 1);
+    QTRY_COMPARE(reactor.created, 1);
+    host.stop();
+    QCOMPARE(reactor.destroyed, 1);
+}
+
+void GestureHostTest::windowWithoutMenuBarGetsNone()
+{
+    QMainWindow window;
+    window.show();
+    gesturewidget::MenuReadiness watch(&window);
+    QSignalSpy settled(&watch, &gesturewidget::MenuReadiness::settled);
+    watch.start();
+    QTimer patience;
+    patience.setSingleShot(true);
+    patience.start(gesturewidget::MenuReadiness::kQuietTime * 2);
+    QTRY_VERIFY(!patience.isActive());
+    QCOMPARE(settled.count(), 0);
+    QCOMPARE(window.menuWidget(), nullptr);
+}
+
+void GestureHostTest::destroyedWindowStopsTheHost()
+{
+    auto window = std::make_unique<QMainWindow>();
+    window->menuBar()->addMenu(QStringLiteral("Tools"));
+    gesturewidget::GestureHost host(window.get(), m_options);
+    QVERIFY(host.start());
+    window.reset();
+    QVERIFY(!host.isRunning());
+    QCOMPARE(GetHxSystemServices(), nullptr);
+
+    auto *later = new QMainWindow;
+    gesturewidget::GestureHost second(later, m_options);
+    QVERIFY(second.start());
+    later->deleteLater();
+    QTRY_VERIFY(!second.isRunning());
+}
+
+void GestureHostTest::hostMayOutliveTheWindowAndItsViews()
+{
+    auto window = std::make_unique<QMainWindow>();
+    auto *view = new QWidget(window.get());
+    auto host = std::make_unique<gesturewidget::GestureHost>(window.get(), m_options);
+    host->addView(view);
+    QVERIFY(host->start());
+    CHxDocument *document = ACTIVE_DOCUMENT();
+    delete view;
+    QVERIFY(document->GetViewWidget());
+    QCOMPARE(ACTIVE_DOCUMENT(), document);
+    host.reset();
+    window.reset();
+}
+
+QTEST_MAIN(GestureHostTest)
+#include "tst_gesturehost.moc"

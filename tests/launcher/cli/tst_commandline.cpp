@@ -1,0 +1,91 @@
+#include "launcher/cli/CommandLine.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QtTest>
+
+using launcher::CommandLine;
+using Task = CommandLine::Task;
+using Arguments = QList<QByteArray>;
+
+Q_DECLARE_METATYPE(launcher::CommandLine::Task)
+
+class CommandLineTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { tests::failOnWarnings(); }
+    void init() { tests::resetWarnings(); }
+    void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
+
+    void tasks_data()
+    {
+        QTest::addColumn<Arguments>("given");
+        QTest::addColumn<Task>("task");
+        QTest::addColumn<QByteArray>("program");
+        QTest::addColumn<Arguments>("arguments");
+
+        const QByteArray nothing;
+        QTest::newRow("program") << Arguments{"draw"} << Task::Run << QByteArray("draw") << Arguments{};
+        QTest::newRow("arguments") << Arguments{"draw", "a.dxf", "b c"} << Task::Run
+                                   << QByteArray("draw") << Arguments{"a.dxf", "b c"};
+        QTest::newRow("the program's own options")
+            << Arguments{"draw", "--help", "--", "-V"} << Task::Run << QByteArray("draw")
+            << Arguments{"--help", "--", "-V"};
+        QTest::newRow("empty argument")
+            << Arguments{"draw", ""} << Task::Run << QByteArray("draw") << Arguments{""};
+        QTest::newRow("bytes of no encoding")
+            << Arguments{"draw", "\xff\xfe"} << Task::Run << QByteArray("draw") << Arguments{"\xff\xfe"};
+        QTest::newRow("--") << Arguments{"--", "-odd", "x"} << Task::Run << QByteArray("-odd")
+                            << Arguments{"x"};
+        QTest::newRow("--help") << Arguments{"--help"} << Task::ShowHelp << nothing << Arguments{};
+        QTest::newRow("-h") << Arguments{"-h", "draw"} << Task::ShowHelp << nothing << Arguments{};
+        QTest::newRow("--version") << Arguments{"--version"} << Task::ShowVersion << nothing
+                                   << Arguments{};
+        QTest::newRow("-V") << Arguments{"-V"} << Task::ShowVersion << nothing << Arguments{};
+        QTest::newRow("--enable") << Arguments{"--enable", "draw"} << Task::Enable << QByteArray("draw")
+                                  << Arguments{};
+        QTest::newRow("--disable") << Arguments{"--disable", "draw"} << Task::Disable
+                                   << QByteArray("draw") << Arguments{};
+        QTest::newRow("--list-commands") << Arguments{"--list-commands", "draw"} << Task::ListCommands
+                                         << QByteArray("draw") << Arguments{};
+        QTest::newRow("--list-commands as JSON")
+            << Arguments{"--list-commands", "draw", "--json"} << Task::ListCommandsAsJson
+            << QByteArray("draw") << Arguments{"--json"};
+        QTest::newRow("--print") << Arguments{"--print", "draw", "a b.pdf"} << Task::Print
+                                 << QByteArray("draw") << Arguments{"a b.pdf"};
+        QTest::newRow("--explain") << Arguments{"--explain", "draw", "--json", "a", ""} << Task::Explain
+                                   << QByteArray("draw") << Arguments{"--json", "a", ""};
+        QTest::newRow("nothing") << Arguments{} << Task::Complain << nothing << Arguments{};
+        QTest::newRow("only --") << Arguments{"--"} << Task::Complain << nothing << Arguments{};
+        QTest::newRow("empty program") << Arguments{""} << Task::Complain << nothing << Arguments{};
+        QTest::newRow("unknown option")
+            << Arguments{"--fast", "draw"} << Task::Complain << nothing << Arguments{};
+        QTest::newRow("-") << Arguments{"-"} << Task::Complain << nothing << Arguments{};
+    }
+
+    void tasks()
+    {
+        QFETCH(Arguments, given);
+        QFETCH(Task, task);
+        QFETCH(QByteArray, program);
+        QFETCH(Arguments, arguments);
+
+        const CommandLine line = CommandLine::parse(given);
+
+        QCOMPARE(line.task, task);
+        QCOMPARE(line.program, program);
+        QCOMPARE(line.arguments, arguments);
+        QCOMPARE(line.complaint.isEmpty(), task != Task::Complain);
+        QVERIFY(!line.complaint.contains(QLatin1Char('\n')));
+    }
+
+    void complaintNamesTheOption()
+    {
+        const CommandLine line = CommandLine::parse({"--fast"});
+        QVERIFY2(line.complaint.contains(QLatin1String("--fast")), qPrintable(line.complaint));
+    }
+};
+
+QTEST_GUILESS_MAIN(CommandLineTest)
+#include "tst_commandline.moc"

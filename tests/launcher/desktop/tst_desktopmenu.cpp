@@ -1,0 +1,374 @@
+// Starting a program with gestures from the desktop's menus: in folders of the test's own.
+
+#include "launcher/desktop/DesktopMenu.h"
+
+#include "launcher/desktop/DesktopFile.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <memory>
+
+using launcher::DesktopFile;
+using launcher::DesktopMenu;
+using launcher::Outcome;
+
+namespace {
+
+const QByteArray kEntry = "# drafting\n"
+                          "[Desktop Entry]\n"
+                          "Type=Application\n"
+                          "Name=Draw\n"
+                          "Name[de]=Zeichnen\n"
+                          "Exec=draw --new %F\n"
+                          "Exec[de]=nothing that counts\n"
+                          "Actions=Empty;Web;\n"
+                          "\n"
+                          "[Desktop Action Empty]\n"
+                          "Name=Empty\n"
+                          "Exec = env A=\"b c\" draw --empty\n"
+                          "\n"
+                          "[Desktop Action Web]\n"
+                          "Exec=browse http://draw\n"
+                          "[X-Other]\n"
+                          "Exec=draw\n";
+
+const QByteArray kCopy = "# drafting\n"
+                         "[Desktop Entry]\n"
+                         "Type=Application\n"
+                         "Name=Draw\n"
+                         "Name[de]=Zeichnen\n"
+                         "Exec=\"/opt/my tools/mouse-gestures\" draw --new %F\n"
+                         "Exec[de]=nothing that counts\n"
+                         "Actions=Empty;Web;\n"
+                         "TryExec=draw\n"
+                         "X-MouseGestures=true\n"
+                         "\n"
+                         "[Desktop Action Empty]\n"
+                         "Name=Empty\n"
+                         "Exec=env A=\"b c\" \"/opt/my tools/mouse-gestures\" draw --empty\n"
+                         "\n"
+                         "[Desktop Action Web]\n"
+                         "Exec=browse http://draw\n"
+                         "[X-Other]\n"
+                         "Exec=draw\n";
+
+QByteArray entryFor(const QByteArray &exec, const QByteArray &more = {})
+{
+    return "[Desktop Entry]\nType=Application\nName=x\nExec=" + exec + '\n' + more;
+}
+
+} // namespace
+
+class DesktopMenuTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { tests::failOnWarnings(); }
+    void init();
+    void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
+
+    void aCopyStartsItByTheLauncher();
+    void twiceIsOnce();
+    void aNewerEntryIsCopiedAnew();
+    void anEntryOfAnotherName();
+    void theOnlyEntryIsSomebodysOwn();
+    void somebodysOwnFileStays_data();
+    void somebodysOwnFileStays();
+    void tryExecIsKept();
+    void aProgramThatIsStartedByTheBus();
+    void foundByItsFile_data();
+    void foundByItsFile();
+    void theNameThatWasTypedCounts();
+    void theFirstFolderCounts();
+    void anEntryThatStartsAScript();
+    void notFound_data();
+    void notFound();
+    void whatCannotBeWrittenIsSaid();
+    void aProgramThatIsGone();
+    void onlyItsOwnCopiesAreRemoved();
+
+private:
+    QString place(const char *name) const { return m_folder->filePath(QLatin1String(name)); }
+    QByteArray draw() const { return QFile::encodeName(place("bin/draw")); }
+    DesktopMenu menu() const { return DesktopMenu(m_places); }
+    void write(const char *name, const QByteArray &content) const
+    {
+        QVERIFY(QDir().mkpath(QFileInfo(place(name)).absolutePath()));
+        QFile file(place(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(content), content.size());
+    }
+    void writeProgram(const char *name, const QByteArray &content = "#!/bin/sh\n") const
+    {
+        write(name, content);
+        QVERIFY(
+            QFile::setPermissions(place(name), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    }
+    QByteArray content(const char *name) const
+    {
+        QFile file(place(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<none>");
+    }
+    QStringList ownFiles() const { return QDir(m_places.own).entryList(QDir::Files | QDir::Hidden); }
+    void expectEnabled() const
+    {
+        const Outcome outcome = menu().enable("draw", draw());
+        QVERIFY2(outcome.isDone(), qPrintable(outcome.complaint));
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    DesktopMenu::Places m_places;
+};
+
+void DesktopMenuTest::init()
+{
+    tests::resetWarnings();
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_folder->isValid());
+    m_places.own = place("home/applications");
+    m_places.installed = QStringList{place("local/applications"), place("usr/applications")};
+    m_places.searchPath = QFile::encodeName(place("bin"));
+    m_places.launcher = "/opt/my tools/mouse-gestures";
+    writeProgram("bin/draw");
+    writeProgram("bin/browse");
+}
+
+void DesktopMenuTest::aCopyStartsItByTheLauncher()
+{
+    write("usr/applications/org.draw.desktop", kEntry);
+    write("usr/applications/other.desktop", entryFor("browse"));
+    const Outcome outcome = menu().enable("draw", draw());
+    QVERIFY2(outcome.isDone(), qPrintable(outcome.complaint));
+    QCOMPARE(content("home/applications/org.draw.desktop"), kCopy);
+    QCOMPARE(ownFiles(), QStringList(QStringLiteral("org.draw.desktop")));
+    QCOMPARE(outcome.output,
+             "starts with gestures: " + QFile::encodeName(place("home/applications/org.draw.desktop"))
+                 + '\n');
+    QCOMPARE(content("usr/applications/org.draw.desktop"), kEntry);
+
+    const Outcome back = menu().disable("draw", draw());
+    QVERIFY(back.isDone());
+    QVERIFY(back.output.contains("org.draw.desktop is removed"));
+    QCOMPARE(ownFiles(), QStringList());
+    QCOMPARE(menu().disable("draw", draw()).output, QByteArray("draw: nothing was there to remove\n"));
+}
+
+void DesktopMenuTest::twiceIsOnce()
+{
+    write("usr/applications/draw.desktop", kEntry);
+    expectEnabled();
+    // Written again, it would have another time or another place on the disk.
+    QFile copy(place("home/applications/draw.desktop"));
+    QVERIFY(copy.setPermissions(QFile::ReadOwner));
+    QVERIFY(copy.open(QIODevice::ReadOnly));
+    const QDateTime before(QDate(2001, 2, 3), QTime(4, 5));
+    QVERIFY(copy.setFileTime(before, QFileDevice::FileModificationTime));
+    copy.close();
+    expectEnabled();
+    QCOMPARE(QFileInfo(copy.fileName()).lastModified(), before);
+    QCOMPARE(content("home/applications/draw.desktop"), kCopy);
+}
+
+void DesktopMenuTest::aNewerEntryIsCopiedAnew()
+{
+    write("usr/applications/draw.desktop", kEntry);
+    expectEnabled();
+    write("usr/applications/draw.desktop", entryFor("draw --better"));
+    expectEnabled();
+    QVERIFY(content("home/applications/draw.desktop").contains("mouse-gestures\" draw --better\n"));
+}
+
+void DesktopMenuTest::anEntryOfAnotherName()
+{
+    write("usr/applications/draw.desktop", kEntry);
+    write("home/applications/mine.desktop", entryFor("draw --mine"));
+    expectEnabled();
+    QVERIFY(QFile::rename(place("usr/applications/draw.desktop"),
+                          place("usr/applications/org.draw.desktop")));
+    expectEnabled();
+    QCOMPARE(ownFiles(),
+             QStringList({QStringLiteral("mine.desktop"), QStringLiteral("org.draw.desktop")}));
+}
+
+void DesktopMenuTest::theOnlyEntryIsSomebodysOwn()
+{
+    write("home/applications/mine.desktop", entryFor("draw --mine"));
+    const Outcome outcome = menu().enable("draw", draw());
+    QVERIFY2(outcome.complaint.contains(QStringLiteral("mine.desktop is your own and stays")),
+             qPrintable(outcome.complaint));
+    QCOMPARE(content("home/applications/mine.desktop"), entryFor("draw --mine"));
+}
+
+void DesktopMenuTest::somebodysOwnFileStays_data()
+{
+    QTest::addColumn<QByteArray>("own");
+    QTest::newRow("an entry") << entryFor("draw --mine");
+    QTest::newRow("marked as not ours") << entryFor("draw", "X-MouseGestures=false\n");
+    QTest::newRow("marked in another group")
+        << entryFor("draw", "[Desktop Action x]\nX-MouseGestures=true\n");
+    QTest::newRow("hidden") << entryFor("draw", "Hidden=true\n");
+    QTest::newRow("something else") << QByteArray("\0\1x", 3);
+    QTest::newRow("nothing") << QByteArray();
+}
+
+void DesktopMenuTest::somebodysOwnFileStays()
+{
+    QFETCH(QByteArray, own);
+    write("usr/applications/draw.desktop", kEntry);
+    write("home/applications/draw.desktop", own);
+    const Outcome outcome = menu().enable("draw", draw());
+    QVERIFY2(outcome.complaint.contains(QStringLiteral("draw.desktop is your own and stays as it is")),
+             qPrintable(outcome.complaint));
+    QCOMPARE(content("home/applications/draw.desktop"), own);
+    QVERIFY(menu().disable("draw", draw()).output.contains("nothing was there"));
+    QCOMPARE(content("home/applications/draw.desktop"), own);
+
+    // The only entry that there is, and a link that leads nowhere.
+    QVERIFY(QFile::remove(place("home/applications/draw.desktop")));
+    QVERIFY(QFile::link(place("nowhere"), place("home/applications/draw.desktop")));
+    QVERIFY(!menu().enable("draw", draw()).isDone());
+    QVERIFY(QFileInfo(place("home/applications/draw.desktop")).isSymLink());
+}
+
+void DesktopMenuTest::tryExecIsKept()
+{
+    write("usr/applications/draw.desktop", entryFor("draw", "TryExec=/somewhere/draw\n"));
+    expectEnabled();
+    const QByteArray copy = content("home/applications/draw.desktop");
+    QCOMPARE(copy.count("TryExec"), 1);
+    QVERIFY(copy.contains("TryExec=/somewhere/draw\n"));
+}
+
+void DesktopMenuTest::aProgramThatIsStartedByTheBus()
+{
+    write("usr/applications/draw.desktop", entryFor("draw", "DBusActivatable=true\n"));
+    expectEnabled();
+    const QByteArray copy = content("home/applications/draw.desktop");
+    QCOMPARE(copy.count("DBusActivatable"), 1);
+    QVERIFY(copy.contains("DBusActivatable=false\n"));
+}
+
+void DesktopMenuTest::foundByItsFile_data()
+{
+    QTest::addColumn<QByteArray>("exec");
+    QTest::newRow("path") << QFile::encodeName(QStringLiteral("%1/bin/draw")) + " %F";
+    QTest::newRow("link") << QByteArray("drafter %F");
+    QTest::newRow("env") << QByteArray("env A=b drafter %F");
+    QTest::newRow("quoted") << QByteArray("\"draw\" %F");
+}
+
+void DesktopMenuTest::foundByItsFile()
+{
+    QFETCH(QByteArray, exec);
+    QVERIFY(QFile::link(place("bin/draw"), place("bin/drafter")));
+    exec.replace("%1", QFile::encodeName(m_folder->path()));
+    write("usr/applications/sub/x.desktop", entryFor(exec));
+    expectEnabled();
+    DesktopFile copy;
+    QVERIFY(copy.read(place("home/applications/sub/x.desktop")));
+    QVERIFY(copy.isOurs());
+    QCOMPARE(copy.exec().program, m_places.launcher);
+    QVERIFY(menu().disable("draw", draw()).output.contains("sub/x.desktop is removed"));
+    QVERIFY(!QFileInfo::exists(place("home/applications/sub/x.desktop")));
+}
+
+// One file may be many programs, by the name that it is started by.
+void DesktopMenuTest::theNameThatWasTypedCounts()
+{
+    QVERIFY(QFile::link(place("bin/draw"), place("bin/paint")));
+    write("usr/applications/a.desktop", entryFor("paint"));
+    write("usr/applications/b.desktop", entryFor("draw"));
+    write("usr/applications/c.desktop", entryFor("draw --large"));
+    expectEnabled();
+    const QStringList ofDraw{QStringLiteral("b.desktop"), QStringLiteral("c.desktop")};
+    QCOMPARE(ownFiles(), ofDraw);
+    QVERIFY(menu().enable("paint", QFile::encodeName(place("bin/paint"))).isDone());
+    expectEnabled();
+    QCOMPARE(ownFiles(), QStringList(QStringLiteral("a.desktop")) + ofDraw);
+    QVERIFY(menu().disable("paint", QFile::encodeName(place("bin/paint"))).isDone());
+    QCOMPARE(ownFiles(), ofDraw);
+}
+
+void DesktopMenuTest::theFirstFolderCounts()
+{
+    write("local/applications/draw.desktop", entryFor("draw --local"));
+    write("usr/applications/draw.desktop", entryFor("draw --usr"));
+    write("local/applications/deleted.desktop", entryFor("draw", "Hidden=true\n"));
+    write("usr/applications/deleted.desktop", entryFor("draw"));
+    expectEnabled();
+    QVERIFY(content("home/applications/draw.desktop").contains(" draw --local\n"));
+    QCOMPARE(ownFiles(), QStringList(QStringLiteral("draw.desktop")));
+}
+
+void DesktopMenuTest::anEntryThatStartsAScript()
+{
+    writeProgram("bin/start-drawing");
+    write("usr/applications/draw.desktop", entryFor("start-drawing %F"));
+    expectEnabled();
+    QVERIFY(content("home/applications/draw.desktop")
+                .contains("Exec=\"/opt/my tools/mouse-gestures\" start-drawing %F\n"));
+    QVERIFY(menu().disable("draw", draw()).output.contains("draw.desktop is removed"));
+}
+
+void DesktopMenuTest::notFound_data()
+{
+    QTest::addColumn<QByteArray>("entry");
+    QTest::newRow("another program") << entryFor("browse");
+    QTest::newRow("no command") << QByteArray("[Desktop Entry]\nType=Application\nName=x\n");
+    QTest::newRow("a link") << QByteArray("[Desktop Entry]\nType=Link\nExec=draw\n");
+    QTest::newRow("hidden") << entryFor("draw", "Hidden=true\n");
+    QTest::newRow("a command that cannot be read") << entryFor("\"draw");
+    QTest::newRow("a shell") << entryFor("/bin/sh -c draw");
+    QTest::newRow("of another group")
+        << QByteArray("[Desktop Entry]\nType=Application\n[x]\nExec=draw\n");
+    QTest::newRow("nothing") << QByteArray();
+}
+
+void DesktopMenuTest::notFound()
+{
+    QFETCH(QByteArray, entry);
+    const bool isNamedSo = QByteArray(QTest::currentDataTag()) != "another program";
+    write(isNamedSo ? "usr/applications/draw.desktop" : "usr/applications/other.desktop", entry);
+    const Outcome outcome = menu().enable("draw", draw());
+    QCOMPARE(outcome.complaint, QStringLiteral("draw: the desktop has no entry that starts it"));
+    QVERIFY(!QFileInfo::exists(m_places.own));
+}
+
+void DesktopMenuTest::whatCannotBeWrittenIsSaid()
+{
+    write("usr/applications/draw.desktop", kEntry);
+    write("home", "a file in place of the folder");
+    const Outcome outcome = menu().enable("draw", draw());
+    QCOMPARE(outcome.complaint,
+             place("home/applications/draw.desktop") + QStringLiteral(" cannot be written"));
+}
+
+void DesktopMenuTest::aProgramThatIsGone()
+{
+    write("usr/applications/org.draw.desktop", kEntry);
+    expectEnabled();
+    QVERIFY(QFile::remove(place("bin/draw")));
+    QVERIFY(menu().disable("draw", {}).output.contains("org.draw.desktop is removed"));
+    QCOMPARE(ownFiles(), QStringList());
+}
+
+void DesktopMenuTest::onlyItsOwnCopiesAreRemoved()
+{
+    write("usr/applications/draw.desktop", kEntry);
+    write("usr/applications/browse.desktop", entryFor("browse"));
+    expectEnabled();
+    QVERIFY(menu().enable("browse", QFile::encodeName(place("bin/browse"))).isDone());
+    write("home/applications/mine.desktop", entryFor("draw"));
+    QVERIFY(menu().disable("draw", draw()).isDone());
+    QCOMPARE(ownFiles(),
+             QStringList({QStringLiteral("browse.desktop"), QStringLiteral("mine.desktop")}));
+}
+
+QTEST_GUILESS_MAIN(DesktopMenuTest)
+#include "tst_desktopmenu.moc"

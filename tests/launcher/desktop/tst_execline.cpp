@@ -1,0 +1,122 @@
+// The command of a desktop entry: what a shell makes of it, and the launcher put into it.
+
+#include "launcher/desktop/ExecLine.h"
+
+#include "tests/support/FatalWarnings.h"
+
+#include <QtTest>
+
+using launcher::ExecLine;
+using Words = QList<QByteArray>;
+
+class ExecLineTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { tests::failOnWarnings(); }
+    void init() { tests::resetWarnings(); }
+    void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
+
+    void reads_data();
+    void reads();
+    void whatIsNoCommand_data();
+    void whatIsNoCommand();
+    void anArgumentComesBack_data();
+    void anArgumentComesBack();
+};
+
+void ExecLineTest::reads_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    QTest::addColumn<QByteArray>("program");
+    QTest::addColumn<Words>("arguments");
+    QTest::addColumn<QByteArray>("started"); // by /usr/bin/mg
+    const auto row = [](const char *name, const char *value, const char *program, const Words &arguments,
+                        const char *started) {
+        QTest::newRow(name) << QByteArray(value) << QByteArray(program) << arguments
+                            << QByteArray(started);
+    };
+    row("name alone", "draw", "draw", {}, "/usr/bin/mg draw");
+    row("field codes", "draw --new %F %i %c %k", "draw", {"--new", "%F", "%i", "%c", "%k"},
+        "/usr/bin/mg draw --new %F %i %c %k");
+    row("spaces around", "  draw   %f ", "draw", {"%f"}, "  /usr/bin/mg draw   %f ");
+    row("quoted program", "\"/opt/My Draw/draw\" %F", "/opt/My Draw/draw", {"%F"},
+        "/usr/bin/mg \"/opt/My Draw/draw\" %F");
+    row("escaped in quotes", R"("/opt/a\\$b/dr\\"aw" %u)", "/opt/a$b/dr\"aw", {"%u"},
+        R"(/usr/bin/mg "/opt/a\\$b/dr\\"aw" %u)");
+    row("a backslash in quotes", R"("a\\\\b" x)", "a\\b", {"x"}, R"(/usr/bin/mg "a\\\\b" x)");
+    row("a space as every value may have it", R"(draw\s-x)", "draw", {"-x"}, R"(/usr/bin/mg draw\s-x)");
+    row("per cent", "/opt/50%%/draw %%x", "/opt/50%/draw", {"%%x"}, "/usr/bin/mg /opt/50%%/draw %%x");
+    row("single quotes", "draw 'a b'", "draw", {"a b"}, "/usr/bin/mg draw 'a b'");
+    row("joined parts", "dr\"a\"w --x=\"1 2\"", "draw", {"--x=1 2"}, "/usr/bin/mg dr\"a\"w --x=\"1 2\"");
+    row("an empty argument", "draw \"\" x", "draw", {"", "x"}, "/usr/bin/mg draw \"\" x");
+    row("env", "env LANG=C draw %F", "draw", {"%F"}, "env LANG=C /usr/bin/mg draw %F");
+    row("env with options", "/usr/bin/env -u A -i \"B=c d\" draw", "draw", {},
+        "/usr/bin/env -u A -i \"B=c d\" /usr/bin/mg draw");
+    row("an unknown escape", R"(draw \q)", "draw", {"q"}, R"(/usr/bin/mg draw \q)");
+    row("bytes of no encoding", "draw \xff\xfe", "draw", {"\xff\xfe"}, "/usr/bin/mg draw \xff\xfe");
+}
+
+void ExecLineTest::reads()
+{
+    QFETCH(QByteArray, value);
+    QFETCH(QByteArray, program);
+    QFETCH(Words, arguments);
+    QFETCH(QByteArray, started);
+    const ExecLine line = ExecLine::parse(value);
+    QVERIFY(line.isValid);
+    QCOMPARE(line.program, program);
+    QCOMPARE(line.arguments, arguments);
+    QCOMPARE(line.startedBy("/usr/bin/mg"), started);
+    // The launcher is the program then, and gets what the program was.
+    const ExecLine after = ExecLine::parse(started);
+    QVERIFY(after.isValid);
+    QCOMPARE(after.program, QByteArray("/usr/bin/mg"));
+    QCOMPARE(QByteArray(after.arguments.value(0)).replace("%%", "%"), program);
+    QCOMPARE(after.arguments.mid(1), arguments);
+}
+
+void ExecLineTest::whatIsNoCommand_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    for (const char *value :
+         {"", "   ", "\"draw", "draw 'x", "\"\" x", "env", "env A=b", "env -S 'draw x'", "env -u"})
+        QTest::newRow(*value ? value : "nothing") << QByteArray(value);
+}
+
+void ExecLineTest::whatIsNoCommand()
+{
+    QFETCH(QByteArray, value);
+    QVERIFY(!ExecLine::parse(value).isValid);
+}
+
+void ExecLineTest::anArgumentComesBack_data()
+{
+    QTest::addColumn<QByteArray>("argument");
+    QTest::addColumn<QByteArray>("expected");
+    const auto row = [](const char *argument, const char *expected) {
+        QTest::newRow(argument) << QByteArray(argument) << QByteArray(expected);
+    };
+    row("/usr/bin/mouse-gestures", "/usr/bin/mouse-gestures");
+    row("/opt/my tools/mg", "\"/opt/my tools/mg\"");
+    row("/opt/a$b`c\"d\\e/mg", R"("/opt/a\\$b\\`c\\"d\\\\e/mg")");
+    row("/opt/100%/mg", "/opt/100%%/mg");
+    row("/opt/%F here/mg", "\"/opt/%%F here/mg\"");
+    row("/opt/a\nb\tc/mg", "\"/opt/a\\nb\\tc/mg\"");
+    row("/opt/(x)/mg", "\"/opt/(x)/mg\"");
+    row("/home/j\xc3\xb6rg/mg", "/home/j\xc3\xb6rg/mg");
+}
+
+void ExecLineTest::anArgumentComesBack()
+{
+    QFETCH(QByteArray, argument);
+    QFETCH(QByteArray, expected);
+    QCOMPARE(ExecLine::encoded(argument), expected);
+    const ExecLine line = ExecLine::parse(ExecLine::encoded(argument) + " %F");
+    QVERIFY(line.isValid);
+    QCOMPARE(line.program, argument);
+}
+
+QTEST_GUILESS_MAIN(ExecLineTest)
+#include "tst_execline.moc"

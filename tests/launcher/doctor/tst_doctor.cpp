@@ -1,0 +1,182 @@
+// What is said about a program in which gestures are to work, finding by finding.
+
+#include "launcher/doctor/Doctor.h"
+
+#include "tests/support/FatalWarnings.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <functional>
+
+using launcher::Diagnosis;
+using launcher::QtWidgetsUse;
+using launcher::Symptoms;
+
+using Change = std::function<void(Symptoms &, const QDir &)>;
+Q_DECLARE_METATYPE(Change)
+
+namespace {
+
+void writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), content.size());
+}
+
+} // namespace
+
+class DoctorTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { tests::failOnWarnings(); }
+    void init() { tests::resetWarnings(); }
+    void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
+
+    void aHealthyProgram()
+    {
+        const QTemporaryDir folder;
+        const Diagnosis diagnosis = diagnose(healthy(folder.path()));
+        QVERIFY2(diagnosis.isHealthy, qPrintable(diagnosis.lines.join(QLatin1Char('\n'))));
+        const QStringList expected{
+            QStringLiteral("program:     drafter, /opt/drafter"),
+            QStringLiteral("Qt:          5"),
+            QStringLiteral("plug-in:     /plugins/generic/libmousegestures-qt5.so"),
+            QStringLiteral("display:     X11, :7"),
+            QStringLiteral("compositor:  running"),
+            QStringLiteral("profile:     none of its own"),
+            QStringLiteral("views:       looked for in the running program, see --explain"),
+            QStringLiteral("settings:    %1/drafter.ini, not there yet").arg(folder.path()),
+            QStringLiteral("gestures:    on, 8 of them"),
+            QStringLiteral("trigger:     right"),
+        };
+        QCOMPARE(diagnosis.lines, expected);
+        QVERIFY(!QFile::exists(folder.filePath(QStringLiteral("drafter.ini")))); // only looks
+    }
+
+    void findings_data()
+    {
+        QTest::addColumn<Change>("change");
+        QTest::addColumn<bool>("isHealthy");
+        QTest::addColumn<QString>("says");
+        const auto row = [](const char *name, bool isHealthy, const char *says, const Change &change) {
+            QTest::newRow(name) << change << isHealthy << QString::fromLatin1(says);
+        };
+        row("no program", false, "program:     drafter, not found",
+            [](Symptoms &symptoms, const QDir &) { symptoms.path.clear(); });
+        row("no Qt Widgets", false, "Qt:          none;",
+            [](Symptoms &symptoms, const QDir &) { symptoms.use = QtWidgetsUse::None; });
+        row("a script", true, "Qt:          not known",
+            [](Symptoms &symptoms, const QDir &) { symptoms.use = QtWidgetsUse::Unknown; });
+        row("plug-in for the other Qt only", false, "plug-in:     not installed for Qt 6",
+            [](Symptoms &symptoms, const QDir &) { symptoms.use = QtWidgetsUse::Qt6; });
+        row("no plug-in", false, "plug-in:     not installed", [](Symptoms &symptoms, const QDir &) {
+            symptoms.use = QtWidgetsUse::Unknown;
+            symptoms.plugins.clear();
+        });
+        row("no display", false, "display:     none",
+            [](Symptoms &symptoms, const QDir &) { symptoms.environment.clear(); });
+        row("Wayland with X11", true, "display:     Wayland; the program will use X11, :7",
+            [](Symptoms &symptoms, const QDir &) {
+                symptoms.environment.insert("WAYLAND_DISPLAY", "wayland-0");
+            });
+        row("Wayland without X11", false, "display:     Wayland without X11",
+            [](Symptoms &symptoms, const QDir &) {
+                symptoms.environment = {{"WAYLAND_DISPLAY", "wayland-0"}};
+            });
+        row("no compositor", true, "compositor:  none",
+            [](Symptoms &symptoms, const QDir &) { symptoms.compositor = Symptoms::Compositor::None; });
+        row("compositor not known", true, "compositor:  not known",
+            [](Symptoms &symptoms, const QDir &) {
+                symptoms.compositor = Symptoms::Compositor::Unknown;
+            });
+        row("profile", true, "drafter.json", [](Symptoms &symptoms, const QDir &folder) {
+            writeFile(folder.filePath(QStringLiteral("drafter.json")),
+                      R"({"version": 1, "program": "drafter"})");
+            symptoms.profileFolders = QStringList{folder.path()};
+        });
+        row("views of the profile", true, "views:       Canvas, Sheet, by the profile",
+            [](Symptoms &symptoms, const QDir &folder) {
+                writeFile(folder.filePath(QStringLiteral("drafter.json")),
+                          R"({"version": 1, "program": "drafter",)"
+                          R"("viewClasses": ["Canvas", "Sheet"]})");
+                symptoms.profileFolders = QStringList{folder.path()};
+            });
+        row("trigger of the profile", true, "trigger:     shift+middle",
+            [](Symptoms &symptoms, const QDir &folder) {
+                writeFile(folder.filePath(QStringLiteral("drafter.json")),
+                          R"({"version": 1, "program": "drafter",)"
+                          R"("trigger": {"button": "middle", "modifiers": ["shift"]}})");
+                symptoms.profileFolders = QStringList{folder.path()};
+            });
+        row("broken profile", false, "profile:     the profile ",
+            [](Symptoms &symptoms, const QDir &folder) {
+                writeFile(folder.filePath(QStringLiteral("drafter.json")), "{");
+                symptoms.profileFolders = QStringList{folder.path()};
+            });
+        row("trigger of the settings", true, "trigger:     ctrl+right",
+            [](Symptoms &, const QDir &folder) {
+                writeFile(folder.filePath(QStringLiteral("drafter.ini")),
+                          "[Host]\nTrigger=ctrl+right\n");
+            });
+        row("switched off", false, "gestures:    switched off", [](Symptoms &, const QDir &folder) {
+            writeFile(folder.filePath(QStringLiteral("drafter.ini")),
+                      "[GestureWidget]\nEnableMouseGesture=0\n");
+        });
+        row("a folder in place of the settings", false, "cannot be written",
+            [](Symptoms &, const QDir &folder) {
+                QVERIFY(folder.mkpath(QStringLiteral("drafter.ini")));
+            });
+        row("a file in place of their folder", false, "cannot be written",
+            [](Symptoms &symptoms, const QDir &folder) {
+                writeFile(folder.filePath(QStringLiteral("file")), "x");
+                symptoms.settingsFile = folder.filePath(QStringLiteral("file/drafter.ini"));
+            });
+        row("a folder that is made when needed", true, "not there yet",
+            [](Symptoms &symptoms, const QDir &folder) {
+                symptoms.settingsFile = folder.filePath(QStringLiteral("a/b/drafter.ini"));
+            });
+    }
+
+    void findings()
+    {
+        QFETCH(Change, change);
+        QFETCH(bool, isHealthy);
+        QFETCH(QString, says);
+        const QTemporaryDir folder;
+        Symptoms symptoms = healthy(folder.path());
+        change(symptoms, QDir(folder.path()));
+        const Diagnosis diagnosis = diagnose(symptoms);
+        const QString lines = diagnosis.lines.join(QLatin1Char('\n'));
+        QVERIFY2(lines.contains(says), qPrintable(lines));
+        QCOMPARE(diagnosis.isHealthy, isHealthy);
+    }
+
+    void aDisplayThatDoesNotAnswer()
+    {
+        QCOMPARE(launcher::findCompositor(QByteArray()), Symptoms::Compositor::Unknown);
+        QCOMPARE(launcher::findCompositor(":9999"), Symptoms::Compositor::Unknown);
+    }
+
+private:
+    static Symptoms healthy(const QString &folder)
+    {
+        Symptoms symptoms;
+        symptoms.program = QStringLiteral("drafter");
+        symptoms.path = "/opt/drafter";
+        symptoms.use = QtWidgetsUse::Qt5;
+        symptoms.plugins = {{"/plugins", 5}};
+        symptoms.environment.insert("DISPLAY", ":7");
+        symptoms.compositor = Symptoms::Compositor::Running;
+        symptoms.settingsFile = folder + QStringLiteral("/drafter.ini");
+        return symptoms;
+    }
+};
+
+QTEST_GUILESS_MAIN(DoctorTest)
+#include "tst_doctor.moc"

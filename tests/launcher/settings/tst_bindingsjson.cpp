@@ -1,0 +1,98 @@
+// Bindings as JSON: what is taken and what is refused, and that the schema says the same.
+
+#include "launcher/settings/BindingsJson.h"
+
+#include "tests/launcher/settings/BindingCases.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QtTest>
+
+using launcher::Bindings;
+
+namespace {
+
+const QString kProgram = QStringLiteral("drafter");
+
+QStringList sorted(QStringList list)
+{
+    list.sort();
+    return list;
+}
+
+QStringList strings(const QJsonValue &value)
+{
+    QStringList list;
+    const QJsonArray array = value.toArray();
+    for (const QJsonValue &entry : array)
+        list.append(entry.toString());
+    return sorted(list);
+}
+
+} // namespace
+
+class BindingsJsonTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { tests::failOnWarnings(); }
+    void init() { tests::resetWarnings(); }
+    void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
+
+    void exported()
+    {
+        QCOMPARE(launcher::bindingsToJson(Bindings::initial(), kProgram), tests::exportedBindings());
+    }
+
+    void cases_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("says");
+        const QVector<tests::BindingCase> cases = tests::bindingCases();
+        QVERIFY(cases.size() > 50);
+        for (const tests::BindingCase &row : cases)
+            QTest::newRow(row.name.constData()) << row.text << row.says;
+    }
+
+    void cases()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, says);
+        Bindings bindings = Bindings::initial();
+        bindings.eight[0] = QStringLiteral("as it was");
+        QString problem;
+        const bool isTaken = launcher::bindingsFromJson(text, kProgram, bindings, problem);
+        QVERIFY2(isTaken == says.isEmpty(), qPrintable(problem));
+        QVERIFY2(says.isEmpty() ? problem.isEmpty() : problem.startsWith(says), qPrintable(problem));
+        QVERIFY(!problem.contains(QLatin1Char('\n')));
+        QCOMPARE(bindings.eight.at(0) == QLatin1String("as it was"), !isTaken);
+        if (!isTaken)
+            return;
+        // What was taken is exported in a way that is taken as the same.
+        Bindings again;
+        const QByteArray exported = launcher::bindingsToJson(bindings, kProgram);
+        QVERIFY(launcher::bindingsFromJson(exported, kProgram, again, problem));
+        QCOMPARE(again.toSettings(), bindings.toSettings());
+    }
+
+    // What the schema allows is what is written, no key more and none less.
+    void schemaNamesTheKeys()
+    {
+        QFile file(QStringLiteral(TESTS_SOURCE_DIR "/../docs/bindings.schema.json"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QJsonObject schema = QJsonDocument::fromJson(file.readAll()).object();
+        const QJsonObject exported = QJsonDocument::fromJson(tests::exportedBindings()).object();
+        const auto compare = [](const QJsonObject &part, const QStringList &keys) {
+            QCOMPARE(sorted(part.value(QStringLiteral("properties")).toObject().keys()), sorted(keys));
+            QCOMPARE(strings(part.value(QStringLiteral("required"))), sorted(keys));
+            QCOMPARE(part.value(QStringLiteral("additionalProperties")), QJsonValue(false));
+        };
+        compare(schema, exported.keys());
+        const QJsonObject properties = schema.value(QStringLiteral("properties")).toObject();
+        compare(properties.value(QStringLiteral("four")).toObject(), Bindings::directionNames(4));
+        compare(properties.value(QStringLiteral("eight")).toObject(), Bindings::directionNames(8));
+    }
+};
+
+QTEST_GUILESS_MAIN(BindingsJsonTest)
+#include "tst_bindingsjson.moc"

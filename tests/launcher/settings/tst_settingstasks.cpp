@@ -1,0 +1,413 @@
+// Showing and changing what is kept for a program, in a file that the host reads too.
+
+#include "launcher/settings/SettingsTasks.h"
+
+#include "host/files/SettingsFile.h"
+#include "host/files/TriggerText.h"
+#include "launcher/settings/Bindings.h"
+#include "launcher/settings/BindingsJson.h"
+#include "tests/launcher/settings/BindingCases.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <memory>
+
+using gesturewidget::SettingsFile;
+using launcher::Bindings;
+using launcher::Outcome;
+using launcher::SettingsTasks;
+
+namespace {
+
+const QString kProgram = QStringLiteral("drafter");
+
+QString text(const char *latin)
+{
+    return QString::fromLatin1(latin);
+}
+
+} // namespace
+
+class SettingsTasksTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { tests::failOnWarnings(); }
+    void init()
+    {
+        tests::resetWarnings();
+        m_folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(m_folder->isValid());
+        m_file = m_folder->filePath(QStringLiteral("config/drafter.ini"));
+        m_export = m_folder->filePath(QStringLiteral("kept.json"));
+    }
+    void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
+
+    void withoutSettingsTheFirstBindingsAreShown();
+    void theSchemeInUseIsShownFirst();
+    void aSchemeThatWasTouchedHasNothingWhereNothingStands();
+    void bindsInTheSchemeInUse_data();
+    void bindsInTheSchemeInUse();
+    void aCommandByItsCaption();
+    void aCommandHasOneDirection();
+    void otherProgramsValuesStay();
+    void resetKeepsTheTrigger();
+    void badInputChangesNothing_data();
+    void badInputChangesNothing();
+    void triggers_data();
+    void triggers();
+    void exportAndImportAreInverse();
+    void importKeepsTheOldSettings();
+    void importRefusesWithItsLine_data();
+    void importRefusesWithItsLine();
+    void whatIsNoFileIsRefused();
+    void whatCannotBeWrittenIsSaid();
+
+private:
+    SettingsTasks tasks() const { return SettingsTasks(kProgram, m_file); }
+    Bindings kept() const { return Bindings::fromSettings(SettingsFile(m_file).read()); }
+    void write(const QString &path, const QByteArray &content) const
+    {
+        QVERIFY(QDir().mkpath(QFileInfo(path).absolutePath()));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(content), content.size());
+    }
+    QByteArray content(const QString &path) const
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<none>");
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_file;
+    QString m_export;
+};
+
+void SettingsTasksTest::withoutSettingsTheFirstBindingsAreShown()
+{
+    const Outcome outcome = tasks().showBindings();
+    QVERIFY(outcome.isDone());
+    QCOMPARE(outcome.output, QByteArray("gestures in drafter: on\n"
+                                        "8 gestures (in use)\n"
+                                        "  up         ID_ZOOM_BOUNDS\n"
+                                        "  up-left    ID_OFFSET\n"
+                                        "  left       ID_OPEN\n"
+                                        "  down-left  ID_COPY\n"
+                                        "  down       ID_SAVE\n"
+                                        "  down-right ID_DTEXT\n"
+                                        "  right      ID_LINE\n"
+                                        "  up-right   ID_TRIM\n"
+                                        "4 gestures\n"
+                                        "  up         ID_ZOOM_BOUNDS\n"
+                                        "  left       ID_OPEN\n"
+                                        "  down       ID_SAVE\n"
+                                        "  right      ID_LINE\n"));
+    QVERIFY(!QFileInfo::exists(m_file)); // looking is not touching
+}
+
+void SettingsTasksTest::theSchemeInUseIsShownFirst()
+{
+    write(m_file, "[GestureWidget]\nEnableMouseGesture=0\nActiveScheme=4\n42=DrawArc\n[Host]\n"
+                  "Trigger=ctrl+right\n");
+    const QByteArray output = tasks().showBindings().output;
+    QVERIFY2(output.startsWith("gestures in drafter: off\nstarted with: ctrl+right\n"
+                               "4 gestures (in use)\n  up         none\n  left       DrawArc\n"),
+             output.constData());
+    QVERIFY(output.contains("8 gestures\n  up         ID_ZOOM_BOUNDS\n"));
+}
+
+void SettingsTasksTest::aSchemeThatWasTouchedHasNothingWhereNothingStands()
+{
+    write(m_file, "[GestureWidget]\n87=DrawArc\n");
+    const Bindings bindings = kept();
+    QCOMPARE(bindings.eight, QStringList({QString(), QString(), QString(), QString(), QString(),
+                                          QString(), text("DrawArc"), QString()}));
+    QCOMPARE(bindings.four, Bindings::initial().four);
+}
+
+void SettingsTasksTest::bindsInTheSchemeInUse_data()
+{
+    QTest::addColumn<int>("scheme");
+    QTest::addColumn<QString>("direction");
+    QTest::addColumn<int>("index");
+    for (const int scheme : {4, 8}) {
+        const QStringList names = Bindings::directionNames(scheme);
+        QCOMPARE(int(names.size()), scheme);
+        for (int i = 0; i < scheme; ++i)
+            QTest::newRow(qPrintable(QStringLiteral("%1 %2").arg(scheme).arg(names.at(i))))
+                << scheme << names.at(i) << i;
+    }
+    QTest::newRow("upper case") << 8 << text("Up-LEFT") << 1;
+}
+
+void SettingsTasksTest::bindsInTheSchemeInUse()
+{
+    QFETCH(int, scheme);
+    QFETCH(QString, direction);
+    QFETCH(int, index);
+    write(m_file, "[GestureWidget]\nActiveScheme=" + QByteArray::number(scheme) + '\n');
+    QVERIFY(tasks().bind(direction, text("DrawArc")).isDone());
+
+    Bindings expected = Bindings::initial();
+    expected.scheme = scheme;
+    expected.commands()[index] = text("DrawArc");
+    QCOMPARE(kept().four, expected.four);
+    QCOMPARE(kept().eight, expected.eight);
+    // The key that the module looks at.
+    const SettingsFile::Values values = SettingsFile(m_file).read();
+    const QString key = QStringLiteral("GestureWidget/%1%2").arg(scheme).arg(index + 1);
+    QCOMPARE(values.value(key), text("DrawArc"));
+
+    for (const char *nothing : {"none", ""}) {
+        QVERIFY(tasks().bind(direction, text("DrawArc")).isDone());
+        QVERIFY(tasks().bind(direction, text(nothing)).isDone());
+        QCOMPARE(SettingsFile(m_file).read().value(key, text("<missing>")), QString());
+    }
+}
+
+void SettingsTasksTest::aCommandByItsCaption()
+{
+    const launcher::KnownCommands known(
+        {{text("drawArc"), {}, text("Arc..."), {}, text("Draw"), {}, false},
+         {text("ID_LINE"), text("drawLine"), text("Straight  line"), {}, text("Draw"), {}, false}},
+        {});
+    SettingsTasks named(kProgram, m_file, known);
+    QVERIFY(named.bind(text("up-left"), text("arc")).isDone());
+    QCOMPARE(kept().eight.at(1), text("drawArc"));
+    QVERIFY(named.bind(text("up"), text("drawLine")).isDone());
+    QCOMPARE(kept().eight.at(0), text("ID_LINE"));
+    QCOMPARE(kept().eight.at(6), QString()); // where it was before
+
+    const QByteArray before = content(m_file);
+    QVERIFY(named.bind(text("down"), text("Circle")).complaint.contains(text("never shown")));
+    QCOMPARE(content(m_file), before);
+    QVERIFY(named.bind(text("up-left"), text("none")).isDone());
+    QCOMPARE(kept().eight.at(1), QString());
+
+    QVERIFY(named.bind(text("up-left"), text("Arc...")).isDone());
+    const QByteArray output = named.showBindings().output;
+    QVERIFY2(output.contains("  up         ID_LINE   Straight line\n"
+                             "  up-left    drawArc   Arc...\n"
+                             "  left       ID_OPEN\n"),
+             output.constData());
+}
+
+void SettingsTasksTest::aCommandHasOneDirection()
+{
+    QVERIFY(tasks().bind(text("up"), text("ID_LINE")).isDone());
+    QCOMPARE(kept().eight.at(0), text("ID_LINE"));
+    QCOMPARE(kept().eight.at(6), QString());
+    QCOMPARE(kept().four, Bindings::initial().four); // the other scheme keeps its own
+    // Empty directions are not one command that moves about.
+    QVERIFY(tasks().bind(text("left"), text("none")).isDone());
+    QCOMPARE(kept().eight.count(QString()), 2);
+    QCOMPARE(kept().eight.at(1), text("ID_OFFSET"));
+}
+
+void SettingsTasksTest::otherProgramsValuesStay()
+{
+    write(m_file, "[Window]\nwidth=700\n[GestureWidget]\nEnableMouseGesture=0\n");
+    QVERIFY(tasks().bind(text("up"), text("Draw%,\xe4;\"")).isDone());
+    const SettingsFile::Values values = SettingsFile(m_file).read();
+    QCOMPARE(values.value(text("Window/width")), text("700"));
+    QCOMPARE(values.value(text("GestureWidget/EnableMouseGesture")), text("0"));
+    QCOMPARE(values.value(text("GestureWidget/81")), text("Draw%,\xe4;\""));
+    QCOMPARE(content(m_file + text(".bak")), content(m_file)); // the last good copy is up to date
+}
+
+void SettingsTasksTest::resetKeepsTheTrigger()
+{
+    QVERIFY(tasks().setTrigger(text("middle")).isDone());
+    QVERIFY(tasks().bind(text("up"), text("DrawArc")).isDone());
+    QVERIFY(tasks().reset().isDone());
+    QCOMPARE(kept().eight, Bindings::initial().eight);
+    QCOMPARE(kept().trigger, text("middle"));
+    const SettingsFile::Values values = SettingsFile(m_file).read();
+    QCOMPARE(values.value(text("GestureWidget/ActiveScheme")), text("8"));
+    QCOMPARE(values.value(text("GestureWidget/EnableMouseGesture")), text("1"));
+}
+
+void SettingsTasksTest::badInputChangesNothing_data()
+{
+    QTest::addColumn<int>("scheme");
+    QTest::addColumn<QString>("direction");
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<QString>("says");
+    QTest::newRow("no direction") << 8 << text("north") << text("DrawArc") << text("\"north\"");
+    QTest::newRow("empty direction") << 8 << QString() << text("DrawArc") << text("up-right");
+    QTest::newRow("a direction of eight, with four")
+        << 4 << text("up-left") << text("DrawArc") << text("none of the 4 directions");
+    QTest::newRow("line end") << 8 << text("up") << text("Draw\nArc") << text("control characters");
+    QTest::newRow("null") << 8 << text("up") << QString(QChar::Null) << text("control characters");
+}
+
+void SettingsTasksTest::badInputChangesNothing()
+{
+    QFETCH(int, scheme);
+    QFETCH(QString, direction);
+    QFETCH(QString, command);
+    QFETCH(QString, says);
+    const QByteArray before = "[GestureWidget]\nActiveScheme=" + QByteArray::number(scheme) + '\n';
+    write(m_file, before);
+    const Outcome outcome = tasks().bind(direction, command);
+    QVERIFY(!outcome.isDone());
+    QVERIFY2(outcome.complaint.contains(says), qPrintable(outcome.complaint));
+    QVERIFY(!outcome.complaint.contains(QLatin1Char('\n')));
+    QCOMPARE(content(m_file), before);
+}
+
+void SettingsTasksTest::triggers_data()
+{
+    QTest::addColumn<QString>("given");
+    QTest::addColumn<QString>("kept"); // "<refused>" when it is
+    const auto row = [](const char *given, const char *kept) {
+        QTest::newRow(given) << text(given) << text(kept);
+    };
+    row("right", "right");
+    row("middle", "middle");
+    row("back", "back");
+    row("forward", "forward");
+    row("ctrl+right", "ctrl+right");
+    row("Control+Right", "ctrl+right");
+    row("meta+alt+shift+ctrl+left", "ctrl+shift+alt+meta+left");
+    row("default", "");
+    row("left", "<refused>");
+    row("", "<refused>");
+    row("+", "<refused>");
+    row("ctrl", "<refused>");
+    row("ctrl+", "<refused>");
+    row("+right", "<refused>");
+    row("ctrl+ctrl+right", "<refused>");
+    row("right+ctrl", "<refused>");
+    row("hyper+right", "<refused>");
+    row("right ", "<refused>");
+}
+
+void SettingsTasksTest::triggers()
+{
+    QFETCH(QString, given);
+    QFETCH(QString, kept);
+    write(m_file, "[Host]\nTrigger=shift+middle\n");
+    const Outcome outcome = tasks().setTrigger(given);
+    const QString now = SettingsFile(m_file).read().value(text("Host/Trigger"));
+    if (kept == text("<refused>")) {
+        QVERIFY(!outcome.isDone());
+        QCOMPARE(content(m_file), QByteArray("[Host]\nTrigger=shift+middle\n"));
+        return;
+    }
+    QVERIFY(outcome.isDone());
+    QCOMPARE(now, kept);
+    Qt::MouseButton button = Qt::NoButton;
+    Qt::KeyboardModifiers keys = Qt::NoModifier;
+    QCOMPARE(gesturewidget::parseTrigger(now, button, keys), !kept.isEmpty());
+    QCOMPARE(gesturewidget::triggerText(button, keys), kept);
+}
+
+void SettingsTasksTest::exportAndImportAreInverse()
+{
+    Bindings bindings = Bindings::initial();
+    bindings.enabled = false;
+    bindings.scheme = 4;
+    bindings.four[1] = text("with \"quotes\", \\ and \xfc");
+    bindings.eight[7].clear();
+    bindings.trigger = text("ctrl+right");
+    SettingsFile settings(m_file);
+    QVERIFY(settings.write(bindings.toSettings()));
+    QVERIFY(tasks().exportTo(m_export).isDone());
+    QCOMPARE(content(m_export), tasks().showBindingsAsJson().output);
+    const SettingsFile::Values before = SettingsFile(m_file).read();
+
+    QVERIFY(tasks().reset().isDone());
+    QVERIFY(tasks().setTrigger(text("default")).isDone());
+    QVERIFY(SettingsFile(m_file).read() != before);
+    const Outcome outcome = tasks().importFrom(m_export);
+    QVERIFY2(outcome.isDone(), qPrintable(outcome.complaint));
+    QCOMPARE(SettingsFile(m_file).read(), before);
+}
+
+void SettingsTasksTest::importKeepsTheOldSettings()
+{
+    QVERIFY(tasks().exportTo(m_export).isDone());
+    const QString backup = m_file + text(".before-import");
+    QVERIFY(tasks().importFrom(m_export).isDone());
+    QVERIFY(!QFileInfo::exists(backup)); // there was nothing to keep
+
+    QVERIFY(tasks().bind(text("up"), text("DrawArc")).isDone());
+    const QByteArray old = content(m_file);
+    QVERIFY(tasks().importFrom(m_export).isDone());
+    QCOMPARE(content(backup), old);
+    QVERIFY(content(m_file) != old);
+
+    // Where nothing can be kept, nothing is taken over.
+    QVERIFY(QFile::remove(backup));
+    QVERIFY(QDir().mkpath(backup));
+    QVERIFY(tasks().bind(text("up"), text("DrawArc")).isDone());
+    const Outcome outcome = tasks().importFrom(m_export);
+    QVERIFY2(outcome.complaint.contains(text("nothing is imported")), qPrintable(outcome.complaint));
+    QCOMPARE(kept().eight.at(0), text("DrawArc"));
+}
+
+void SettingsTasksTest::importRefusesWithItsLine_data()
+{
+    QTest::addColumn<QByteArray>("json");
+    QTest::addColumn<QString>("says");
+    const QVector<tests::BindingCase> cases = tests::bindingCases();
+    for (const tests::BindingCase &row : cases) {
+        if (!row.says.isEmpty())
+            QTest::newRow(row.name.constData()) << row.text << row.says;
+    }
+}
+
+void SettingsTasksTest::importRefusesWithItsLine()
+{
+    QFETCH(QByteArray, json);
+    QFETCH(QString, says);
+    QVERIFY(tasks().bind(text("up"), text("DrawArc")).isDone());
+    write(m_export, json);
+
+    const QByteArray before = content(m_file);
+    const Outcome outcome = tasks().importFrom(m_export);
+    QVERIFY(!outcome.isDone());
+    QVERIFY2(outcome.complaint.contains(says), qPrintable(outcome.complaint));
+    QVERIFY(outcome.complaint.startsWith(m_export));
+    QVERIFY(!outcome.complaint.contains(QLatin1Char('\n')));
+    QCOMPARE(content(m_file), before);
+    QVERIFY(!QFileInfo::exists(m_file + text(".before-import")));
+}
+
+void SettingsTasksTest::whatIsNoFileIsRefused()
+{
+    QVERIFY(tasks().importFrom(m_export).complaint.contains(text("there is no such file")));
+    QVERIFY(tasks().importFrom(m_folder->path()).complaint.contains(text("this is not a file")));
+    write(m_export, QByteArray(1024 * 1024 + 1, ' '));
+    QVERIFY(tasks().importFrom(m_export).complaint.contains(text("too long")));
+    for (const char *nothing : {"", "[]", "7", "\"text\"", "{}"}) {
+        write(m_export, nothing);
+        QVERIFY2(tasks().importFrom(m_export).complaint.contains(text("line 1: ")), nothing);
+    }
+    QVERIFY(!QFileInfo::exists(m_file));
+}
+
+void SettingsTasksTest::whatCannotBeWrittenIsSaid()
+{
+    QVERIFY(QDir().mkpath(m_folder->filePath(QStringLiteral("config/drafter.json"))));
+    const QString folder = m_folder->filePath(QStringLiteral("config/drafter.json"));
+    QCOMPARE(tasks().exportTo(folder).complaint, folder + text(" cannot be written"));
+    // Where the settings should lie, there is a file in place of their folder.
+    write(m_folder->filePath(QStringLiteral("file")), "x");
+    const QString impossible = m_folder->filePath(QStringLiteral("file/drafter.ini"));
+    SettingsTasks tasks(kProgram, impossible);
+    QCOMPARE(tasks.bind(text("up"), text("DrawArc")).complaint, impossible + text(" cannot be written"));
+    QCOMPARE(tasks.reset().complaint, impossible + text(" cannot be written"));
+    QCOMPARE(tasks.setTrigger(text("middle")).complaint, impossible + text(" cannot be written"));
+}
+
+QTEST_GUILESS_MAIN(SettingsTasksTest)
+#include "tst_settingstasks.moc"
