@@ -12,6 +12,7 @@ from pathlib import Path
 from .driver import Driver, DriverError
 from .programs import STEPS
 from .spylog import SpyLog
+from .wayland import WaylandDriver
 
 TESTS = Path(__file__).resolve().parents[2]
 
@@ -80,7 +81,9 @@ class Session:
             shutil.copyfile(self._drawing, self.drawing)
         else:
             self.drawing.write_text(text)
-        self.driver = Driver(self.build)
+        kind = os.environ.get("DESKTOP_INPUT")
+        self.driver = WaylandDriver(self.build, kind, self.screen_size()) if kind \
+            else Driver(self.build)
         self.spy = SpyLog(self.folder / "spy.pipe", self.folder / "spy.log")
         self._start()
         try:

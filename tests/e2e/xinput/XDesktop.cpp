@@ -183,7 +183,9 @@ QList<XDesktop::Window> XDesktop::windows() const
 {
     std::vector<unsigned long> ids =
         identifiers(m_display, m_root, "_NET_CLIENT_LIST_STACKING", XA_WINDOW);
-    if (ids.empty()) // without a window manager, the root's children are the windows themselves
+    if (ids.empty()) // xfwm4 announces the stack only once it has changed
+        ids = identifiers(m_display, m_root, "_NET_CLIENT_LIST", XA_WINDOW);
+    if (!isManaged()) // then the root's children are the windows themselves
         ids = childrenOf(m_root);
     QList<Window> result;
     for (const unsigned long id : ids) {
@@ -292,7 +294,7 @@ bool XDesktop::isUnderPointer(unsigned long id) const
 
 void XDesktop::closeWindow(unsigned long id)
 {
-    if (!identifiers(m_display, m_root, "_NET_SUPPORTING_WM_CHECK", XA_WINDOW).empty()) {
+    if (isManaged()) {
         sendToManager(id, "_NET_CLOSE_WINDOW", CurrentTime);
         return;
     }
@@ -397,6 +399,11 @@ bool XDesktop::waitFor(const std::function<bool()> &condition, int milliseconds)
 void XDesktop::sync()
 {
     XSync(m_display, True); // discards events: this connection selects none
+}
+
+bool XDesktop::isManaged() const
+{
+    return !identifiers(m_display, m_root, "_NET_SUPPORTING_WM_CHECK", XA_WINDOW).empty();
 }
 
 // From the lowest in the stack to the topmost.
