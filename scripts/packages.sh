@@ -10,6 +10,11 @@ desktop_packages=(
   libx11-dev libxtst-dev
   fonts-dejavu-core qt5-style-plugins
 )
+# The window managers that only ./test --desks runs.
+desk_packages=(
+  marco mate-desktop-common mate-settings-daemon-common mutter icewm i3-wm awesome fluxbox
+  tigervnc-standalone-server
+)
 test_packages=(
   qt6-base-dev
   librapidcheck-dev poppler-utils binutils file fonts-wine python3-jsonschema

@@ -41,7 +41,7 @@ std::string encoded(const QString &text)
     return bytes;
 }
 
-// The name of a line type that the file will define.
+// The name of a line type that the file defines.
 std::string defined(const QString &lineType, const Sheet &sheet)
 {
     const bool isKnown = sheet.lineTypes.contains(lineType) || lineType == QLatin1String("BYLAYER")
@@ -53,7 +53,7 @@ void writeTables(DL_Dxf &dxf, DL_WriterA &out, const Sheet &sheet)
 {
     out.sectionTables();
     dxf.writeVPort(out);
-    // Each table announces its size; a line type's first two entries stand for themselves.
+    // Each table starts with its size. The first two line types are in every file.
     out.tableLinetypes(int(sheet.lineTypes.size()) + 2);
     for (const char *name : {"BYBLOCK", "BYLAYER"})
         dxf.writeLinetype(out, DL_LinetypeData(name, "", 0, 0, 0));
@@ -151,15 +151,15 @@ std::optional<Sheet> read(const QString &path, QString *error)
 
 bool write(const Sheet &sheet, const QString &path, QString *error)
 {
-    // dxflib writes to a named file and does not say when the disk is full. So it writes
-    // aside, and only a file that has its end replaces what was there.
+    // dxflib writes to a named file and does not report a full disk. It therefore writes a
+    // temporary file, and only one that is complete replaces the old file.
     QTemporaryDir aside;
     const QString name = aside.filePath(QStringLiteral("drawing.dxf"));
     DL_Dxf dxf;
     const std::unique_ptr<DL_WriterA> out(
         dxf.out(QFile::encodeName(name).constData(), DL_Codes::AC1015));
     if (!aside.isValid() || !out) {
-        *error = tr("The folder for temporary files cannot be written to.");
+        *error = tr("Temporary files cannot be written.");
         return false;
     }
     dxf.writeHeader(*out);

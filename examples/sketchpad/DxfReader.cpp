@@ -35,8 +35,8 @@ QString decoded(const std::string &bytes)
     return result + text.mid(end);
 }
 
-// The side of a polyline between two vertices; `bulge` is the tangent of a quarter of the
-// angle that it turns by, 0 for a straight one.
+// The side of a polyline between two vertices. `bulge` is the tangent of a quarter of the
+// side's arc angle; 0 is a straight side.
 Entity side(const QPointF &from, const QPointF &to, double bulge)
 {
     const QLineF chord(from, to);
@@ -74,7 +74,7 @@ void DxfReader::addLinetypeDash(double length)
 
 void DxfReader::addLinetype(const DL_LinetypeData &data)
 {
-    // Names of line types are the same in small letters.
+    // Names of line types are case-insensitive.
     m_sheet.lineTypes[decoded(data.name).toUpper()] = m_dashes;
     m_dashes.clear();
 }
@@ -87,7 +87,7 @@ void DxfReader::add(Entity entity)
         attributes.getColor() >= 0 && attributes.getColor() < 256 ? attributes.getColor() : 256;
     entity.lineType = decoded(attributes.getLinetype()).toUpper();
     entity.width = attributes.getWidth();
-    m_sheet.layers[entity.layer]; // each has an entry, also where the file forgot it
+    m_sheet.layers[entity.layer]; // every layer has an entry, even if the file has none
     m_sheet.entities.push_back(entity);
 }
 
@@ -109,12 +109,12 @@ void DxfReader::addCircle(const DL_CircleData &data)
 
 void DxfReader::addText(const DL_TextData &data)
 {
-    // 4 is one word for the middle both ways. An aligned text hangs on its second point.
+    // 4 means centred in both directions. An aligned text is placed by its second point.
     const bool middle = data.hJustification == 4;
     const bool aligned = data.hJustification || data.vJustification;
     Entity text = Entity::label(aligned ? QPointF(data.apx, data.apy) : QPointF(data.ipx, data.ipy),
                                 data.height, decoded(data.text));
-    text.angle = qRadiansToDegrees(data.angle); // of all angles only this one is in radians
+    text.angle = qRadiansToDegrees(data.angle); // the only angle that dxflib gives in radians
     text.across = middle ? 1 : data.hJustification;
     text.upright = middle ? 2 : data.vJustification;
     add(text);

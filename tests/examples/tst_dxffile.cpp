@@ -10,7 +10,7 @@
 
 #include <cmath>
 
-class TestDxfFile : public QObject
+class DxfFileTest : public QObject
 {
     Q_OBJECT
 
@@ -31,7 +31,7 @@ class TestDxfFile : public QObject
         QFile file(path);
         return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
     }
-    // A file whose entities section is this, '|' for a line's end.
+    // Reads a file with this ENTITIES section, in which '|' ends a line.
     [[nodiscard]] Sheet readEntities(const char *entities) const
     {
         QByteArray text = QByteArray("0|SECTION|2|ENTITIES|") + entities + "0|ENDSEC|0|EOF|";
@@ -112,7 +112,7 @@ private Q_SLOTS:
         for (std::size_t i = 0; i < sheet.entities.size(); ++i)
             compare(again->entities[i], sheet.entities[i]);
 
-        // And nothing changes from then on.
+        // Writing it again changes nothing.
         QVERIFY(dxf::write(*again, path("twice.dxf"), &error));
         QCOMPARE(contents(path("twice.dxf")), contents(path("all.dxf")));
     }
@@ -207,7 +207,7 @@ private Q_SLOTS:
         QCOMPARE(sheet.entities[1].layer, QStringLiteral("0"));
         QCOMPARE(sheet.entities[1].lineType, QStringLiteral("BYLAYER"));
         QCOMPARE(sheet.entities[1].color, 256);
-        // A line type that nobody defines is not referred to.
+        // The file does not refer to a line type that it does not define.
         QString error;
         QVERIFY(dxf::write(sheet, path("tables.dxf"), &error));
         QVERIFY(!contents(path("tables.dxf")).contains("DOTTED"));
@@ -250,13 +250,13 @@ private Q_SLOTS:
 
     void bulgesBecomeArcs()
     {
-        // A half circle to the right of the way from (0,0) to (10,0), then a quarter to its left.
+        // A half circle on the right of the line from (0,0) to (10,0), then a quarter on its left.
         const Sheet sheet = readEntities("0|LWPOLYLINE|90|3|70|0|10|0|20|0|42|1|10|10|20|0|42|"
                                          "-0.41421356237309503|10|20|20|10|");
         QCOMPARE(sheet.entities.size(), std::size_t(2));
         compare(sheet.entities[0], Entity::arc({5, 0}, 5, 180, 180));
         compare(sheet.entities[1], Entity::arc({20, 0}, 10, 90, 90));
-        // Its ends are where the vertices are.
+        // Its ends are at the vertices.
         QVERIFY(std::abs(sheet.entities[1].at(0).x() - 20) < 1e-9);
         QVERIFY(std::abs(sheet.entities[1].at(1).x() - 10) < 1e-9);
     }
@@ -331,7 +331,7 @@ private Q_SLOTS:
         int read = 0;
         for (int round = 0; round < 150; ++round) {
             QList<QByteArray> changed = lines;
-            // Mostly values: a line that is no group code ends it at once.
+            // Mostly values: reading stops at the first line that should be a group code.
             for (int i = 0; i < 20; ++i) {
                 const int at = random.bounded(int(changed.size() / 2 - 1)) * 2;
                 switch (random.bounded(6)) {
@@ -386,7 +386,7 @@ private Q_SLOTS:
         error.clear();
         QVERIFY(!dxf::write({}, m_folder.path(), &error));
         QVERIFY(!error.isEmpty());
-        // No place for the file that is written aside: there, not even root can write.
+        // The temporary file cannot be written: not even root can write to /proc.
         QVERIFY(put(path("old.dxf"), "old"));
         const QByteArray place = qgetenv("TMPDIR");
         qputenv("TMPDIR", "/proc");
@@ -427,5 +427,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestDxfFile)
+QTEST_MAIN(DxfFileTest)
 #include "tst_dxffile.moc"

@@ -45,7 +45,7 @@ private Q_SLOTS:
     void aDiskWithTooLittleRoomKeepsTheOldFile_data()
     {
         QTest::addColumn<int>("size");
-        // The last part of a file stays in a buffer of 16 KiB until the very end.
+        // The last part of a file, up to 16 KiB, stays in a buffer until the end.
         for (const int size : {1, 475, 5873, 16384, 16385, 40000})
             QTest::newRow(qPrintable(QString::number(size))) << size;
     }

@@ -12,6 +12,7 @@ from pathlib import Path
 from .driver import Driver, DriverError
 from .programs import STEPS
 from .spylog import SpyLog
+from .wayland import WaylandDriver
 
 TESTS = Path(__file__).resolve().parents[2]
 
@@ -80,7 +81,9 @@ class Session:
             shutil.copyfile(self._drawing, self.drawing)
         else:
             self.drawing.write_text(text)
-        self.driver = Driver(self.build)
+        kind = os.environ.get("DESKTOP_INPUT")
+        self.driver = WaylandDriver(self.build, kind, self.screen_size()) if kind \
+            else Driver(self.build)
         self.spy = SpyLog(self.folder / "spy.pipe", self.folder / "spy.log")
         self._start()
         try:
@@ -166,12 +169,14 @@ class Session:
         # Windows still move and grow after they have come up: the view's place counts once
         # the window manager has placed the main window and the screen shows no change.
         self.driver.ask("wait-window", DRAWING_NAME, START_SECONDS * 1000)
-        screen = (0, 0, *self._screen_size())
+        if os.environ.get("DESKTOP_WM") == "none":
+            self.driver.ask("focus-on", DRAWING_NAME)
+        screen = (0, 0, *self.screen_size())
         self.driver.ask("remember", *screen)
         self.driver.ask("wait-steady", START_SECONDS * 1000)
         self.locate_view()
 
-    def _screen_size(self):
+    def screen_size(self):
         width, height = os.environ.get("DESKTOP_SCREEN", "1600x1000x24").split("x")[:2]
         return int(width), int(height)
 

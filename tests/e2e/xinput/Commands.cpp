@@ -45,7 +45,7 @@ QStringList wordsOf(const QString &line)
     return words;
 }
 
-// The words from `first` on as numbers; nothing when one of them is none.
+// The words from `first` on as numbers; nullopt if one of them is not a number.
 std::optional<QList<int>> numbers(const QStringList &words, int first)
 {
     QList<int> result;

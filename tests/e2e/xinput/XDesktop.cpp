@@ -18,7 +18,7 @@
 
 namespace {
 
-// A window's frame, its frame's parent, itself: no window manager nests deeper.
+// Window managers nest a window in its frame and the frame's parent, and no deeper.
 constexpr int kDeepestWindow = 4;
 constexpr long kPollNanoseconds = 10'000'000;
 
@@ -42,7 +42,7 @@ void sleepUntil(const timespec &time)
     while (::clock_nanosleep(CLOCK_MONOTONIC, TIMER_ABSTIME, &time, nullptr) == EINTR) { }
 }
 
-// Windows come and go while they are looked at; a request that meets none is no fault.
+// A window may go while it is inspected; a request for it then fails, which is expected.
 int ignoreError(Display *, XErrorEvent *)
 {
     return 0;
@@ -85,7 +85,7 @@ XDesktop::XDesktop()
         return;
     XSetErrorHandler(ignoreError);
     m_root = DefaultRootWindow(m_display);
-    XTestGrabControl(m_display, True); // our input counts also while a program holds a server grab
+    XTestGrabControl(m_display, True); // our input arrives even while a program grabs the server
 }
 
 XDesktop::~XDesktop()
@@ -183,7 +183,9 @@ QList<XDesktop::Window> XDesktop::windows() const
 {
     std::vector<unsigned long> ids =
         identifiers(m_display, m_root, "_NET_CLIENT_LIST_STACKING", XA_WINDOW);
-    if (ids.empty()) // without a window manager, the root's children are the windows themselves
+    if (ids.empty()) // xfwm4 announces the stack only once it has changed
+        ids = identifiers(m_display, m_root, "_NET_CLIENT_LIST", XA_WINDOW);
+    if (!isManaged()) // then the root's children are the windows themselves
         ids = childrenOf(m_root);
     QList<Window> result;
     for (const unsigned long id : ids) {
@@ -292,7 +294,7 @@ bool XDesktop::isUnderPointer(unsigned long id) const
 
 void XDesktop::closeWindow(unsigned long id)
 {
-    if (!identifiers(m_display, m_root, "_NET_SUPPORTING_WM_CHECK", XA_WINDOW).empty()) {
+    if (isManaged()) {
         sendToManager(id, "_NET_CLOSE_WINDOW", CurrentTime);
         return;
     }
@@ -396,7 +398,12 @@ bool XDesktop::waitFor(const std::function<bool()> &condition, int milliseconds)
 
 void XDesktop::sync()
 {
-    XSync(m_display, True); // no event is selected; the few that come anyway are nobody's
+    XSync(m_display, True); // discards events: this connection selects none
+}
+
+bool XDesktop::isManaged() const
+{
+    return !identifiers(m_display, m_root, "_NET_SUPPORTING_WM_CHECK", XA_WINDOW).empty();
 }
 
 // From the lowest in the stack to the topmost.

@@ -96,6 +96,8 @@ public:
 private:
     void sync();
     void sendToManager(unsigned long window, const char *message, long first);
+    // True if there is a window manager.
+    [[nodiscard]] bool isManaged() const;
     [[nodiscard]] std::vector<unsigned long> childrenOf(unsigned long window) const;
     [[nodiscard]] unsigned long topLevelOf(unsigned long window) const;
     [[nodiscard]] QString titleOf(unsigned long window) const;
