@@ -17,7 +17,7 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
 sys.path.insert(0, str(ROOT / "tests/e2e"))
-from harness.programs import PROGRAMS  # pylint: disable=wrong-import-position
+from harness.programs import PROGRAMS  # noqa: E402
 
 DRAWING = ROOT / "samples/bracket.dxf"
 IDLE_SECONDS = 1.5  # longer than every wait of the host and of the program
