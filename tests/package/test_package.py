@@ -166,7 +166,10 @@ def use_by_pkg_config(prefix, folder):
     """Builds the program, and a file with all headers, with the flags of the pkg-config file."""
     environment = clean_environment(folder)
     environment["PKG_CONFIG_PATH"] = str(prefix / options.libdir / "pkgconfig")
-    name = f"gesturewidget-host-qt{options.qt}"
+    for library_name in ("sdk", "host"):
+        name = f"gesturewidget-{library_name}-qt{options.qt}"
+        found = run("pkg-config", "--variable=prefix", name, environment=environment).strip()
+        assert Path(found).resolve() == prefix, f"{name} is for {found}"
     flags = run("pkg-config", "--cflags", "--libs", name, environment=environment).split()
     assert run("pkg-config", "--modversion", name, environment=environment).strip() == version()
     headers = folder / "headers.cpp"
