@@ -207,6 +207,9 @@ class MutterInput:
         self._session.Start()
         self._at = (0, 0)
         self._session.NotifyPointerMotionRelative(-10000.0, -10000.0)
+        # The session has no keyboard before the first key, which is therefore lost.
+        self.key(KEYS["shift"], 1, 0)
+        self.key(KEYS["shift"], 0, 0)
 
     def move(self, x, y):
         self._session.NotifyPointerMotionRelative(float(x - self._at[0]), float(y - self._at[1]))
@@ -245,6 +248,12 @@ class WaylandDriver(Driver):
         return ""
 
     def _move(self, x, y):
+        # XWayland takes a movement twice that brings the pointer into another window; the
+        # next one puts it right.
+        self._step(x + 1, y)
+        self._step(x, y)
+
+    def _step(self, x, y):
         self._input.move(x, y)
         self._at = (x, y)
 
@@ -265,7 +274,7 @@ class WaylandDriver(Driver):
         steps = max(8, round(milliseconds / 1000 / SECONDS_PER_STEP))
         for step in range(1, steps + 1):
             time.sleep(max(0, begun + milliseconds / 1000 * step / steps - time.monotonic()))
-            self._move(start[0] + x * step // steps, start[1] + y * step // steps)
+            self._step(start[0] + x * step // steps, start[1] + y * step // steps)
 
     # The X server does not see the screen here, so the windows stand in for its picture.
 
