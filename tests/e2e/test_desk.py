@@ -1,10 +1,10 @@
-"""Gestures under a window manager: the ring must not be its business.
+"""Gestures under every window manager, which must not notice the ring.
 
     DESKTOP_WM=kwin with-desktop.sh python3 test_desk.py --build DIR [TEST...]
 
 The program is the sketchpad. Under every window manager, with and without a compositor, a
-gesture runs its command, the ring lies on the press point to the pixel, nothing keeps a grab,
-and neither a title bar nor a task bar shows that there was a gesture.
+gesture runs its command, the ring lies exactly on the press point, no grab stays, and neither a
+title bar nor a task bar changes.
 """
 
 import os
@@ -26,7 +26,7 @@ class DeskTest(ProgramTest):
     program = PROGRAMS["sketchpad"]
 
     def started(self, session):
-        """Notes what must be the same after each gesture."""
+        """Records what must be the same after each gesture."""
         session.move_to_middle()
         session.driver.ask("watch")
         self.before = session.driver.ask("focus")
@@ -51,7 +51,7 @@ class DeskTest(ProgramTest):
 
     def choose(self, session, direction, milliseconds):
         action = RUNS[direction]
-        session.driver.ask("activations")  # forgets the last command's
+        session.driver.ask("activations")  # resets the count
         session.gesture_runs(direction, action, milliseconds=milliseconds)
         self.expect_no_flicker(session)
         self.expect_as_before(session)
@@ -59,7 +59,7 @@ class DeskTest(ProgramTest):
         session.cancel_tool()
 
     def open_ring(self, session, at, step):
-        """Opens the ring, compares its place, and cancels."""
+        """Opens the ring, checks its place, and cancels."""
         session.driver.ask("activations")
         mark = session.spy.mark()
         session.driver.ask("move", *at)
@@ -122,7 +122,7 @@ class DeskTest(ProgramTest):
             self.end(session)
 
     def fill_screen(self, session):
-        """Lets the drawing cover the whole screen; returns the screen's size."""
+        """Makes the view cover the whole screen; returns the screen's size."""
         width, height = session.screen_size()
         mark = session.spy.mark()
         session.driver.ask("key", "F11")

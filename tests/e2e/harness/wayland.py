@@ -1,7 +1,7 @@
-"""Input for Wayland sessions, where XTEST reaches only X programs and not the compositor.
+"""Input for Wayland sessions, in which XTEST reaches X programs but not the compositor.
 
-The program under test runs on the session's X server (XWayland), so windows, focus and grabs
-are still read through gesture-driver. Only pointer and keyboard go to the compositor, by the
+The program under test runs on the session's X server (XWayland), so gesture-driver still reads
+windows, focus and grabs. Only the pointer and the keyboard go to the compositor, through the
 protocol that it has for this.
 """
 
@@ -41,6 +41,9 @@ class Connection:
         self._registry = self.new_id()
         self.request(1, 1, "n", self._registry)  # wl_display.get_registry
         self.round_trip()
+
+    def close(self):
+        self._socket.close()
 
     def new_id(self):
         self._last_id += 1
@@ -105,8 +108,8 @@ class Connection:
 def connect(client, path):
     """Connects to a compositor that runs as the user DESKTOP_USER.
 
-    KWin offers input only to programs whose file it can find out. It cannot for those of other
-    users, so a process of that user connects, and stays as long as this one.
+    KWin offers input only to a process whose executable it can identify, which it cannot for
+    other users. So a process of that user connects, and lives as long as this one.
     """
     user = os.environ.get("DESKTOP_USER")
     if not user:
@@ -140,6 +143,9 @@ class KWinInput:
         self._connection = Connection(wayland)
         self._input = self._connection.bind("org_kde_kwin_fake_input", 4)
         self._connection.request(self._input, 0, "ss", "gesture tests", "input of a test")
+
+    def close(self):
+        self._connection.close()
 
     def move(self, x, y):
         self._send(9, "ff", x, y)
@@ -176,6 +182,9 @@ class WlrootsInput:
         self._connection.round_trip()
         os.close(memory)
 
+    def close(self):
+        self._connection.close()
+
     def move(self, x, y):
         self._send(self._pointer, 1, "uuuuu", now(), x, y, *self._size)
         self._send(self._pointer, 4, "")
@@ -211,6 +220,9 @@ class MutterInput:
         self.key(KEYS["shift"], 1, 0)
         self.key(KEYS["shift"], 0, 0)
 
+    def close(self):
+        self._session.Stop()
+
     def move(self, x, y):
         self._session.NotifyPointerMotionRelative(float(x - self._at[0]), float(y - self._at[1]))
         self._at = (x, y)
@@ -236,6 +248,10 @@ class WaylandDriver(Driver):
             self._input = MutterInput()
         # Started last: a process that connects for this one must not inherit its pipes.
         super().__init__(build)
+
+    def close(self):
+        super().close()
+        self._input.close()
 
     def ask(self, *words):
         name, *values = words
