@@ -10,10 +10,10 @@ desktop_packages=(
   libx11-dev libxtst-dev
   fonts-dejavu-core qt5-style-plugins
 )
-# The window managers that only ./test --desks runs.
+# What only ./test --desks needs: window managers, Wayland sessions and their input.
 desk_packages=(
   marco mate-desktop-common mate-settings-daemon-common mutter icewm i3-wm awesome fluxbox
-  tigervnc-standalone-server
+  tigervnc-standalone-server kwin-wayland sway xwayland x11-xkb-utils python3-dbus
 )
 test_packages=(
   qt6-base-dev
