@@ -2,6 +2,7 @@
 
 #include "gesture/MgCompositorProbe.h"
 #include "gesture/MgDonutDialog.h"
+#include "gesture/MgRingImages.h"
 
 #include <QCursor>
 #include <QPixmap>
@@ -99,10 +100,13 @@ private:
     void giveBackHost();
     void postMoveToView(const QMouseEvent &release);
 
-    // Labels of sectors, for paint() and doFadingPaint(); the painter's origin is the
-    // ring's centre. A sector without an entry has no label.
+    // The active sector's highlight, if there is such a sector. The painter's origin is the
+    // window's corner.
+    void drawHighlight(QPainter *painter);
+    // The label of a sector, if it has one. The painter's origin is the ring's centre.
     void drawLabelOf(QPainter *painter, int index, int cutLength) const;
 
+    MgRingImages m_images;
     MgCompositorProbe m_compositor;
     // What the ring is painted on; null while a compositor runs.
     QPixmap m_backdrop;
