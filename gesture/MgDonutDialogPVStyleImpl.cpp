@@ -10,7 +10,6 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QImage>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScreen>
@@ -47,7 +46,8 @@ QWidget *activeView()
 MgDonutDialogPVStyleImpl::MgDonutDialogPVStyleImpl(QWidget *parent, Qt::WindowFlags flags)
     : MgDonutDialog(parent, flags)
 {
-    donutSize = QImage(QStringLiteral(":/gesturewidgetimages/Resources/gesture_widget.png")).size();
+    donutSize =
+        m_images.image(QStringLiteral(":/gesturewidgetimages/Resources/gesture_widget.png"), 1.0).size();
     installEventFilter(this);
     bypassWindowManager();
 }

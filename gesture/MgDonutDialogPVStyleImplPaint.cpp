@@ -7,6 +7,7 @@
 #include <QFont>
 #include <QFontMetrics>
 #include <QIcon>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPaintEvent>
 #include <QPen>
@@ -31,6 +32,13 @@ constexpr int kActiveCutLength = 7;
 // From the label's point down to the text's baseline, in pixels.
 constexpr double kBaseline = 3.0;
 constexpr int kIconSize = 20;
+
+// Pixels of the device for each pixel of the widget. QPainter::device() would be the widget, even
+// when it is painted somewhere else.
+qreal deviceRatio(const QPainter &painter)
+{
+    return painter.paintEngine()->paintDevice()->devicePixelRatioF();
+}
 
 // The path of an image in the embedded resources.
 QString imagePath(const QString &name)
@@ -100,7 +108,7 @@ void drawText(QPainter *painter, const QString &whole, double rotation, int cutL
 
 void drawIcon(QPainter *painter, const QIcon &icon)
 {
-    const qreal ratio = painter->device()->devicePixelRatioF();
+    const qreal ratio = deviceRatio(*painter);
     const QPixmap pixmap = qtbridge::pixmapOf(icon, QSize(kIconSize, kIconSize), ratio);
     if (pixmap.isNull())
         return;
@@ -136,8 +144,8 @@ void MgDonutDialogPVStyleImpl::paint(QPaintEvent *event)
     painter.setBrush(Qt::NoBrush);
     painter.save();
     painter.setOpacity(kRingOpacity);
-    painter.drawImage(QPoint(0, 0), m_images.image(imagePath(QStringLiteral("gesture_widget")),
-                                                   painter.device()->devicePixelRatioF()));
+    painter.drawImage(QPoint(0, 0),
+                      m_images.image(imagePath(QStringLiteral("gesture_widget")), deviceRatio(painter)));
     painter.restore();
 
     if (activeArc == -1)
@@ -224,8 +232,7 @@ double MgDonutDialogPVStyleImpl::setPainterOrigin(QPainter *painter, int sectorC
 
 void MgDonutDialogPVStyleImpl::drawHighlight(QPainter *painter)
 {
-    const QImage highlight =
-        m_images.image(highlightPath(arcCount, activeArc), painter->device()->devicePixelRatioF());
+    const QImage highlight = m_images.image(highlightPath(arcCount, activeArc), deviceRatio(*painter));
     painter->drawImage(QPoint(0, 0), highlight);
 }
 

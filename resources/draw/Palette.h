@@ -14,7 +14,7 @@ constexpr QColor kGleam{255, 255, 255};
 // At 120/255 only a colour this dark has a contrast of 3 to 1 on a white drawing.
 constexpr QColor kMark{4, 8, 14};
 // Seen on the ring, but quieter than anything that carries a meaning.
-constexpr QColor kSeparator{22, 34, 48, 80};
+constexpr QColor kSeparator{22, 34, 48, 64};
 constexpr QColor kShadow{10, 18, 28, 150};
 
 // The one strong colour, light enough for black text and for icons of any colour.

@@ -3,6 +3,7 @@
 #include "resources/draw/Palette.h"
 #include "resources/draw/RingGeometry.h"
 
+#include <QLineF>
 #include <QPainter>
 #include <QPen>
 #include <QRadialGradient>
@@ -16,7 +17,7 @@ constexpr double kGleamWidth = 1.0;
 constexpr double kMarkRadius = 72.5;
 // At this width some pixels lie wholly inside the line, at any slant.
 constexpr double kChevronWidth = 2.4;
-constexpr double kSeparatorWidth = 1.0;
+constexpr double kSeparatorWidth = 1.2;
 
 // All painting is in pixels of the smallest image; the painter enlarges by the ratio.
 [[nodiscard]] QImage emptyImage(int ratio)
@@ -182,11 +183,13 @@ QImage sectorHighlightWithSeparators(int count, int index, int ratio)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(palette::kSeparator, kSeparatorWidth, Qt::SolidLine, Qt::FlatCap));
     for (int i = 0; i < count; ++i) {
-        painter.save();
-        painter.translate(kCentre, kCentre);
-        painter.rotate(-(sectorCentre(count, i) + sectorWidth(count) / 2.0));
-        painter.drawLine(QPointF(kInnerRadius + kRimWidth, 0.0), QPointF(kOuterRadius - kRimWidth, 0.0));
-        painter.restore();
+        // The line after sector i. The lit sector has a rim of its own.
+        if (i == index || (i + 1) % count == index)
+            continue;
+        QLineF line = QLineF::fromPolar(kOuterRadius - kRimWidth,
+                                        sectorCentre(count, i) + sectorWidth(count) / 2.0);
+        line.setP1(line.pointAt(kInnerRadius / kOuterRadius));
+        painter.drawLine(line.translated(kCentre, kCentre));
     }
     painter.drawImage(0, 0, sectorHighlight(count, index, ratio));
     return image;
