@@ -90,6 +90,11 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    // Tells the user what the lit sector would run, in the host's status bar and to assistive
+    // programs; does nothing if that has not changed.
+    void tellSector();
+    // Takes back what was told.
+    void tellNothing();
     // Makes the window one that the window manager leaves alone.
     void bypassWindowManager();
     // Keeps what is on the screen where the ring will be, if nothing blends the ring with it.
@@ -106,6 +111,10 @@ private:
     // The label of a sector, if it has one. The painter's origin is the ring's centre.
     void drawLabelOf(QPainter *painter, int index, int cutLength) const;
 
+    // By sector, the captions of the commands.
+    std::vector<QString> m_sectorNames;
+    // The sector that was told; -1 for none.
+    qint16 m_toldArc = -1;
     MgRingImages m_images;
     MgCompositorProbe m_compositor;
     // What the ring is painted on; null while a compositor runs.

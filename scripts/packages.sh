@@ -11,7 +11,7 @@ desktop_packages=(
   fonts-dejavu-core qt5-style-plugins
 )
 test_packages=(
-  qt6-base-dev
+  qt6-base-dev qtbase5-private-dev qt6-base-private-dev
   librapidcheck-dev poppler-utils binutils dpkg-dev file fonts-wine python3-jsonschema
 )
 
