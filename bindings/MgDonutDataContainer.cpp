@@ -58,6 +58,7 @@ DonutHelperData MgDonutDataContainer::getDonutHelperData()
             visual.second = record->displayName;
         data.sectorVisuals.insert({direction, visual});
         data.sectorTooltips.insert({direction, record ? record->tooltip : QString()});
+        data.sectorNames.insert({direction, record ? record->displayName : QString()});
         ++direction;
     }
     return data;

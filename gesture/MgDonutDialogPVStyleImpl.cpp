@@ -2,6 +2,7 @@
 
 #include "bindings/DonutHelperData.h"
 #include "bindings/MgDonutDataContainer.h"
+#include "gesture/MgRingAccessible.h"
 #include "sdk/chx/CHxApplication.h"
 #include "sdk/chx/CHxDocument.h"
 #include "sdk/chx/CHxSystemServices.h"
@@ -10,7 +11,6 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QImage>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScreen>
@@ -35,6 +35,14 @@ CHxApplication *hostApplication()
     return services ? services->GetApplication() : nullptr;
 }
 
+// Shows a line of text in the host's status bar, if it has one.
+void showText(const QString &text, bool immediate)
+{
+    CHxSystemServices *services = GetHxSystemServices();
+    if (CHxTextOutput *output = services ? services->GetTextOutput() : nullptr)
+        output->SetText(CHxString(text), immediate);
+}
+
 // The view that pointer positions are measured in; null when no drawing is open.
 QWidget *activeView()
 {
@@ -47,9 +55,12 @@ QWidget *activeView()
 MgDonutDialogPVStyleImpl::MgDonutDialogPVStyleImpl(QWidget *parent, Qt::WindowFlags flags)
     : MgDonutDialog(parent, flags)
 {
-    donutSize = QImage(QStringLiteral(":/gesturewidgetimages/Resources/gesture_widget.png")).size();
+    donutSize =
+        m_images.image(QStringLiteral(":/gesturewidgetimages/Resources/gesture_widget.png"), 1.0).size();
     installEventFilter(this);
     bypassWindowManager();
+    MgRingAccessible::install();
+    setAccessibleName(tr("Mouse gesture"));
 }
 
 MgDonutDialogPVStyleImpl::~MgDonutDialogPVStyleImpl()
@@ -59,9 +70,7 @@ MgDonutDialogPVStyleImpl::~MgDonutDialogPVStyleImpl()
         StopGesturing(false);
     giveBackHost();
 
-    CHxSystemServices *services = GetHxSystemServices();
-    if (CHxTextOutput *output = services ? services->GetTextOutput() : nullptr)
-        output->SetText(CHxString(QString()), true);
+    showText(QString(), true);
 }
 
 void MgDonutDialogPVStyleImpl::WindUp(CHxDocument *doc)
@@ -93,6 +102,7 @@ void MgDonutDialogPVStyleImpl::TryStart(const QPoint &)
 
     sectorVisuals.clear();
     sectorTooltips.clear();
+    m_sectorNames.clear();
     activeArc = -1;
     const QPoint pointer = view->mapFromGlobal(QCursor::pos());
 
@@ -109,6 +119,8 @@ void MgDonutDialogPVStyleImpl::TryStart(const QPoint &)
                                     ? visual->second
                                     : std::make_pair(DonutHelperData::kText, QVariant(QString())));
         sectorTooltips.push_back(tooltip != shown.sectorTooltips.end() ? tooltip->second : QString());
+        const auto name = shown.sectorNames.find(i);
+        m_sectorNames.push_back(name != shown.sectorNames.end() ? name->second : QString());
     }
 
     // The first choice is made from where the pointer is already. Is that far out, the fading
@@ -123,6 +135,7 @@ void MgDonutDialogPVStyleImpl::TryStart(const QPoint &)
     }
     gesturing = true;
     armed = false;
+    tellSector();
 }
 
 void MgDonutDialogPVStyleImpl::StopGesturing(bool sectorChosen)
@@ -135,6 +148,7 @@ void MgDonutDialogPVStyleImpl::StopGesturing(bool sectorChosen)
     releaseMouse();
     releaseKeyboard();
     setVisible(false);
+    tellNothing();
 }
 
 bool MgDonutDialogPVStyleImpl::JustStopped()
@@ -160,6 +174,8 @@ void MgDonutDialogPVStyleImpl::mousePositionChanged(double x, double y)
 {
     setActiveArc(x, y);
     distance = std::sqrt(x * x + y * y);
+    if (gesturing)
+        tellSector();
     if (distance > kAcceptDistance)
         doFading();
     else
@@ -234,6 +250,34 @@ void MgDonutDialogPVStyleImpl::hideEvent(QHideEvent *event)
     // Hidden or closed by somebody else: nothing may stay grabbed.
     if (gesturing)
         StopGesturing(false);
+}
+
+void MgDonutDialogPVStyleImpl::tellSector()
+{
+    if (activeArc == m_toldArc)
+        return;
+    m_toldArc = activeArc;
+    const auto sector = static_cast<std::size_t>(activeArc);
+    QString text;
+    if (sector < m_sectorNames.size()) { // -1 is not, nor is one past the last sector
+        text = m_sectorNames[sector];
+        const QString &tip = sectorTooltips[sector];
+        if (text.isEmpty())
+            text = tip;
+        else if (!tip.isEmpty() && tip != text)
+            text = tr("%1: %2", "name of a command, what it does").arg(text, tip);
+    }
+    showText(text, false);
+    setAccessibleDescription(text); // sends the accessibility event
+}
+
+void MgDonutDialogPVStyleImpl::tellNothing()
+{
+    if (m_toldArc == -1)
+        return;
+    m_toldArc = -1;
+    showText(QString(), false);
+    setAccessibleDescription(QString());
 }
 
 void MgDonutDialogPVStyleImpl::bypassWindowManager()

@@ -2,6 +2,7 @@
 
 #include "gesture/MgCompositorProbe.h"
 #include "gesture/MgDonutDialog.h"
+#include "gesture/MgRingImages.h"
 
 #include <QCursor>
 #include <QPixmap>
@@ -89,6 +90,11 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    // Tells the user what the lit sector would run, in the host's status bar and to assistive
+    // programs; does nothing if that has not changed.
+    void tellSector();
+    // Takes back what was told.
+    void tellNothing();
     // Makes the window one that the window manager leaves alone.
     void bypassWindowManager();
     // Keeps what is on the screen where the ring will be, if nothing blends the ring with it.
@@ -99,10 +105,17 @@ private:
     void giveBackHost();
     void postMoveToView(const QMouseEvent &release);
 
-    // Labels of sectors, for paint() and doFadingPaint(); the painter's origin is the
-    // ring's centre. A sector without an entry has no label.
+    // The active sector's highlight, if there is such a sector. The painter's origin is the
+    // window's corner.
+    void drawHighlight(QPainter *painter);
+    // The label of a sector, if it has one. The painter's origin is the ring's centre.
     void drawLabelOf(QPainter *painter, int index, int cutLength) const;
 
+    // By sector, the captions of the commands.
+    std::vector<QString> m_sectorNames;
+    // The sector that was told; -1 for none.
+    qint16 m_toldArc = -1;
+    MgRingImages m_images;
     MgCompositorProbe m_compositor;
     // What the ring is painted on; null while a compositor runs.
     QPixmap m_backdrop;

@@ -2,11 +2,12 @@
 
 #include "bindings/DonutHelperData.h"
 #include "gesture/MgDonutDialogPVStyleImpl.h"
+#include "sdk/QtBridge.h"
 
 #include <QFont>
 #include <QFontMetrics>
 #include <QIcon>
-#include <QImage>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPaintEvent>
 #include <QPen>
@@ -32,9 +33,17 @@ constexpr int kActiveCutLength = 7;
 constexpr double kBaseline = 3.0;
 constexpr int kIconSize = 20;
 
-QImage loadImage(const QString &name)
+// Pixels of the device for each pixel of the widget. QPainter::device() would be the widget, even
+// when it is painted somewhere else.
+qreal deviceRatio(const QPainter &painter)
 {
-    return QImage(QLatin1String(":/gesturewidgetimages/Resources/") + name + QLatin1String(".png"));
+    return painter.paintEngine()->paintDevice()->devicePixelRatioF();
+}
+
+// The path of an image in the embedded resources.
+QString imagePath(const QString &name)
+{
+    return QLatin1String(":/gesturewidgetimages/Resources/") + name + QLatin1String(".png");
 }
 
 // From "targetDonut_" with number of sectors and index, one digit each, to the highlight's
@@ -66,10 +75,10 @@ QString regionName(const QString &composedName)
     return {};
 }
 
-// Null, and then drawn as nothing, for an index that is no sector.
-QImage highlightOf(int sectorCount, int index)
+// Names no image for an index that is no sector; nothing is drawn then.
+QString highlightPath(int sectorCount, int index)
 {
-    return loadImage(regionName(QStringLiteral("targetDonut_%1%2").arg(sectorCount).arg(index)));
+    return imagePath(regionName(QStringLiteral("targetDonut_%1%2").arg(sectorCount).arg(index)));
 }
 
 // Logical (0, 0) becomes the window's centre.
@@ -99,9 +108,13 @@ void drawText(QPainter *painter, const QString &whole, double rotation, int cutL
 
 void drawIcon(QPainter *painter, const QIcon &icon)
 {
-    const QPixmap pixmap = icon.pixmap(QSize(kIconSize, kIconSize), QIcon::Normal, QIcon::Off);
+    const qreal ratio = deviceRatio(*painter);
+    const QPixmap pixmap = qtbridge::pixmapOf(icon, QSize(kIconSize, kIconSize), ratio);
     if (pixmap.isNull())
         return;
+    // An icon without an image of this density is enlarged; any other is painted pixel by pixel.
+    if (pixmap.devicePixelRatio() < ratio)
+        painter->setRenderHint(QPainter::SmoothPixmapTransform);
     const QSize size = pixmap.size() / pixmap.devicePixelRatio();
     painter->drawPixmap(QPoint(-(size.width() / 2), -(size.height() / 2)), pixmap);
 }
@@ -131,7 +144,8 @@ void MgDonutDialogPVStyleImpl::paint(QPaintEvent *event)
     painter.setBrush(Qt::NoBrush);
     painter.save();
     painter.setOpacity(kRingOpacity);
-    painter.drawImage(QPoint(0, 0), loadImage(QStringLiteral("gesture_widget")));
+    painter.drawImage(QPoint(0, 0),
+                      m_images.image(imagePath(QStringLiteral("gesture_widget")), deviceRatio(painter)));
     painter.restore();
 
     if (activeArc == -1)
@@ -150,19 +164,18 @@ void MgDonutDialogPVStyleImpl::paint(QPaintEvent *event)
     }
     painter.restore();
 
-    painter.drawImage(QPoint(0, 0), highlightOf(arcCount, activeArc));
+    drawHighlight(&painter);
     centrePainter(&painter, width(), height());
     drawLabelOf(&painter, activeArc, kActiveCutLength);
 }
 
 void MgDonutDialogPVStyleImpl::doFadingPaint()
 {
-    const QImage highlight = highlightOf(arcCount, activeArc);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(Qt::NoBrush);
-    painter.drawImage(QPoint(0, 0), highlight);
+    drawHighlight(&painter);
     painter.save();
     centrePainter(&painter, width(), height());
     drawLabelOf(&painter, activeArc, kActiveCutLength);
@@ -215,6 +228,12 @@ double MgDonutDialogPVStyleImpl::setPainterOrigin(QPainter *painter, int sectorC
     default:
         return -90.0;
     }
+}
+
+void MgDonutDialogPVStyleImpl::drawHighlight(QPainter *painter)
+{
+    const QImage highlight = m_images.image(highlightPath(arcCount, activeArc), deviceRatio(*painter));
+    painter->drawImage(QPoint(0, 0), highlight);
 }
 
 void MgDonutDialogPVStyleImpl::drawLabelOf(QPainter *painter, int index, int cutLength) const

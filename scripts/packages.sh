@@ -16,7 +16,7 @@ desk_packages=(
   tigervnc-standalone-server kwin-wayland sway xwayland x11-xkb-utils python3-dbus
 )
 test_packages=(
-  qt6-base-dev
+  qt6-base-dev qtbase5-private-dev qt6-base-private-dev
   librapidcheck-dev poppler-utils binutils file fonts-wine python3-jsonschema
   git dpkg-dev debhelper lintian appstream desktop-file-utils pkg-config
 )

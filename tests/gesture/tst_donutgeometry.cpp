@@ -206,7 +206,7 @@ int sectorAfter(int sectors, int previous, int x, int y)
 
 } // namespace
 
-class tst_DonutGeometry : public QObject
+class DonutGeometryTest : public QObject
 {
     Q_OBJECT
 
@@ -235,7 +235,7 @@ private Q_SLOTS:
     void everyOffset();
 };
 
-void tst_DonutGeometry::startsWithoutSectorAndSize()
+void DonutGeometryTest::startsWithoutSectorAndSize()
 {
     const PlainDonut donut;
     QCOMPARE(donut.getActiveArc(), qint16(-1));
@@ -251,7 +251,7 @@ void tst_DonutGeometry::startsWithoutSectorAndSize()
     QCOMPARE(sized.sizeHint(), QSize(250, 250));
 }
 
-void tst_DonutGeometry::windowFlagsAreReplaced_data()
+void DonutGeometryTest::windowFlagsAreReplaced_data()
 {
     QTest::addColumn<int>("flags");
     QTest::newRow("none") << 0;
@@ -259,7 +259,7 @@ void tst_DonutGeometry::windowFlagsAreReplaced_data()
     QTest::newRow("dialog on top") << static_cast<int>(Qt::Dialog | Qt::WindowStaysOnTopHint);
 }
 
-void tst_DonutGeometry::windowFlagsAreReplaced()
+void DonutGeometryTest::windowFlagsAreReplaced()
 {
     QFETCH(int, flags);
     const PlainDonut donut(4, Qt::WindowFlags(flags));
@@ -267,7 +267,7 @@ void tst_DonutGeometry::windowFlagsAreReplaced()
     QCOMPARE(donut.windowFlags(), Qt::Tool | Qt::FramelessWindowHint);
 }
 
-void tst_DonutGeometry::paintEventOnlyCallsPaint()
+void DonutGeometryTest::paintEventOnlyCallsPaint()
 {
     PlainDonut donut;
     QPaintEvent event(QRect(1, 2, 3, 4));
@@ -276,7 +276,7 @@ void tst_DonutGeometry::paintEventOnlyCallsPaint()
     QCOMPARE(donut.paintedRects.front(), QRect(1, 2, 3, 4));
 }
 
-void tst_DonutGeometry::pointerChoosesAndPaints()
+void DonutGeometryTest::pointerChoosesAndPaints()
 {
     PlainDonut donut(4);
     donut.resize(50, 50);
@@ -288,7 +288,7 @@ void tst_DonutGeometry::pointerChoosesAndPaints()
     QTRY_VERIFY(!donut.paintedRects.empty());
 }
 
-void tst_DonutGeometry::commandEndedIsDeclared()
+void DonutGeometryTest::commandEndedIsDeclared()
 {
     PlainDonut donut(4);
     QSignalSpy ended(&donut, &MgDonutDialog::commandEnded);
@@ -297,7 +297,7 @@ void tst_DonutGeometry::commandEndedIsDeclared()
     QCOMPARE(ended.count(), 0);
 }
 
-void tst_DonutGeometry::angle_data()
+void DonutGeometryTest::angle_data()
 {
     QTest::addColumn<double>("x");
     QTest::addColumn<double>("y");
@@ -318,7 +318,7 @@ void tst_DonutGeometry::angle_data()
     QTest::newRow("steeply down, on the right") << 1e-12 << -1.0 << 270.036210375;
 }
 
-void tst_DonutGeometry::angle()
+void DonutGeometryTest::angle()
 {
     QFETCH(double, x);
     QFETCH(double, y);
@@ -333,7 +333,7 @@ void tst_DonutGeometry::angle()
         QVERIFY(found == std::atan(1.0) * 7.0 * 180.0 / 22.0);
 }
 
-void tst_DonutGeometry::anglesOffTheAxesStayOffThem()
+void DonutGeometryTest::anglesOffTheAxesStayOffThem()
 {
     const PlainDonut donut;
     double nearest = 1.0;
@@ -348,7 +348,7 @@ void tst_DonutGeometry::anglesOffTheAxesStayOffThem()
     QVERIFY(nearest > 0.0362);
 }
 
-void tst_DonutGeometry::sectorFromAngle_data()
+void DonutGeometryTest::sectorFromAngle_data()
 {
     QTest::addColumn<int>("sectors");
     QTest::addColumn<int>("previous");
@@ -396,7 +396,7 @@ void tst_DonutGeometry::sectorFromAngle_data()
     QTest::newRow("eight: one past the last is lost") << 8 << 8 << 122.5 << 1;
 }
 
-void tst_DonutGeometry::sectorFromAngle()
+void DonutGeometryTest::sectorFromAngle()
 {
     QFETCH(int, sectors);
     QFETCH(int, previous);
@@ -413,7 +413,7 @@ void tst_DonutGeometry::sectorFromAngle()
     QCOMPARE(donut.sectorAfter(previous, offset.x, offset.y), expected);
 }
 
-void tst_DonutGeometry::sectorNumberConvention_data()
+void DonutGeometryTest::sectorNumberConvention_data()
 {
     QTest::addColumn<int>("sectors");
     QTest::addColumn<double>("x");
@@ -438,7 +438,7 @@ void tst_DonutGeometry::sectorNumberConvention_data()
     QTest::newRow("eight: up-right") << 8 << 30.0 << 30.0 << 7;
 }
 
-void tst_DonutGeometry::sectorNumberConvention()
+void DonutGeometryTest::sectorNumberConvention()
 {
     QFETCH(int, sectors);
     QFETCH(double, x);
@@ -449,7 +449,7 @@ void tst_DonutGeometry::sectorNumberConvention()
     QCOMPARE(donut.getActiveArc(), qint16(expected));
 }
 
-void tst_DonutGeometry::distancePlaysNoPart()
+void DonutGeometryTest::distancePlaysNoPart()
 {
     PlainDonut donut(8);
     for (const double scale : {1e-9, 1.0, 1e9}) {
@@ -458,21 +458,21 @@ void tst_DonutGeometry::distancePlaysNoPart()
     }
 }
 
-void tst_DonutGeometry::withoutSectorsNothingIsChosen()
+void DonutGeometryTest::withoutSectorsNothingIsChosen()
 {
     PlainDonut donut(0);
     QCOMPARE(donut.sectorAfter(-1, 10, 10), -1);
     QCOMPARE(donut.sectorAfter(2, 10, 10), 2);
 }
 
-void tst_DonutGeometry::everyOffset_data()
+void DonutGeometryTest::everyOffset_data()
 {
     QTest::addColumn<int>("sectors");
     QTest::newRow("four") << 4;
     QTest::newRow("eight") << 8;
 }
 
-void tst_DonutGeometry::everyOffset()
+void DonutGeometryTest::everyOffset()
 {
     QFETCH(int, sectors);
     PlainDonut donut(sectors);
@@ -496,5 +496,5 @@ void tst_DonutGeometry::everyOffset()
     QCOMPARE(compared, 201 * 201 * (sectors + 2));
 }
 
-QTEST_MAIN(tst_DonutGeometry)
+QTEST_MAIN(DonutGeometryTest)
 #include "tst_donutgeometry.moc"
