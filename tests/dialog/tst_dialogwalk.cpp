@@ -137,7 +137,8 @@ QString DialogWalkTest::turnTheWheel()
     QWidget *target = m_dialog->ui.command_tableView->viewport();
     if (QAbstractItemView *list = openList())
         target = list->viewport();
-    else if (m_dialog->editor() && upTo(3) > 0)
+    else if (m_dialog->editor() && target->rect().contains(m_dialog->editor()->geometry())
+             && upTo(3) > 0)
         target = m_dialog->editor();
     else if (upTo(9) == 0)
         target = m_dialog->ui.category_comboBox;
@@ -204,7 +205,11 @@ QString DialogWalkTest::clickSomewhere()
                                 m_dialog->ui.eight_radioButton,
                                 table->horizontalHeader()->viewport()};
     QWidget *target = targets[upTo(static_cast<int>(std::size(targets)) - 1)];
-    if (!target)
+    // A cell that is scrolled away takes its drop-down along.
+    const bool isReachable =
+        target
+        && (target != m_dialog->editor() || table->viewport()->rect().contains(target->geometry()));
+    if (!isReachable)
         target = table->viewport();
     const QLatin1String name(target->metaObject()->className());
     // A click on another cell ends the editor that was clicked.
