@@ -1,8 +1,10 @@
 #include "dialog/MgCommandModelDelegate.h"
 
+#include "dialog/DirectionBox.h"
 #include "dialog/MgCommandDSModel.h"
 
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QStandardItemModel>
 
 MgCommandModelDelegate::MgCommandModelDelegate(QStandardItemModel *directions, QObject *parent)
@@ -17,7 +19,7 @@ QWidget *MgCommandModelDelegate::createEditor(QWidget *parent, const QStyleOptio
     if (index.column() != MgCommandDSModel::kDirectionColumn)
         return QItemDelegate::createEditor(parent, option, index);
 
-    auto *editor = new QComboBox(parent);
+    auto *editor = new DirectionBox(parent);
     editor->setModel(m_directions);
     editor->setAccessibleName(tr("Gesture direction"));
     connect(editor, QOverload<int>::of(&QComboBox::activated), this,
@@ -78,6 +80,26 @@ void MgCommandModelDelegate::drawDisplay(QPainter *painter, const QStyleOptionVi
     else
         rest.setLeft(rect.left());
     QItemDelegate::drawDisplay(painter, option, rest, line);
+}
+
+bool MgCommandModelDelegate::eventFilter(QObject *object, QEvent *event)
+{
+    auto *box = qobject_cast<DirectionBox *>(object);
+    if (!box || event->type() != QEvent::KeyPress)
+        return QItemDelegate::eventFilter(object, event);
+
+    const auto *key = static_cast<QKeyEvent *>(event);
+    if (key->matches(QKeySequence::Cancel)) {
+        // The table opens an editor again that closes while it has the focus. Without it, the
+        // box closes for good.
+        box->parentWidget()->setFocus();
+        return true;
+    }
+    // The base class would close the box. Enter belongs to the list, and to the dialog while
+    // the list is closed.
+    if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter)
+        return false;
+    return QItemDelegate::eventFilter(object, event);
 }
 
 void MgCommandModelDelegate::commitAndCloseEditor(int /*row*/)

@@ -28,6 +28,8 @@ public:
                                  const QModelIndex &index) const override;
 
 protected:
+    // Escape gives the focus back to the table and closes the drop-down for good.
+    bool eventFilter(QObject *object, QEvent *event) override;
     // On one line, whatever line breaks the text has: a row is one line high.
     void drawDisplay(QPainter *painter, const QStyleOptionViewItem &option, const QRect &rect,
                      const QString &text) const override;

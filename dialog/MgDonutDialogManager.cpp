@@ -1,5 +1,6 @@
 #include "dialog/MgDonutDialogManager.h"
 
+#include "bindings/HostCall.h"
 #include "bindings/MgDonutDataContainer.h"
 #include "dialog/BindingListDocument.h"
 #include "dialog/MgCommandDSModel.h"
@@ -30,6 +31,7 @@
 #include <algorithm>
 #include <iterator>
 #include <memory>
+#include <optional>
 
 namespace {
 
@@ -97,6 +99,9 @@ QStringList usedCategories(const QString &others)
 MgDonutDialogManager::MgDonutDialogManager(QWidget *parent, Qt::WindowFlags flags)
     : CHxDialog(parent, flags != Qt::WindowFlags(), Qt::WindowTitleHint | Qt::WindowSystemMenuHint)
 {
+    // What the container could not read could not be saved either.
+    if (MgDonutDataContainer::instance()->hasReadingFailed())
+        MgDonutDataContainer::instance()->init();
     ui.setupUi(this);
     setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
     fixWidth();
@@ -143,10 +148,14 @@ void MgDonutDialogManager::fillCategories()
     // As the catalogue files commands that are in no menu.
     const QString others = QObject::tr("Others");
 
-    CHxSystemServices *services = GetHxSystemServices();
-    const CHxUIMenuItemCollection *menuBars = services ? services->GetMenuItems() : nullptr;
+    std::optional<QStringList> captions;
+    hostCall([&captions] {
+        CHxSystemServices *services = GetHxSystemServices();
+        if (const CHxUIMenuItemCollection *menuBars = services ? services->GetMenuItems() : nullptr)
+            captions = menuCaptions(*menuBars);
+    });
     ui.category_comboBox->addItem(m_allCommands);
-    ui.category_comboBox->addItems(menuBars ? menuCaptions(*menuBars) : usedCategories(others));
+    ui.category_comboBox->addItems(captions ? *captions : usedCategories(others));
     ui.category_comboBox->addItem(others);
     ui.category_comboBox->setCurrentIndex(0);
 }
@@ -169,7 +178,8 @@ void MgDonutDialogManager::connectControls()
     const auto filterByState = QOverload<int>::of(&Self::applyFilter);
     const auto filterByText = QOverload<const QString &>::of(&Self::applyFilter);
 
-    connect(ui.buttonBox->button(QDialogButtonBox::Help), &QPushButton::clicked, this, &Self::Help);
+    connect(ui.buttonBox->button(QDialogButtonBox::Help), &QPushButton::clicked, this,
+            [this] { hostCall([this] { Help(); }); });
     // The box's accepted() stays unconnected on purpose: OK saves before it accepts.
     connect(ui.buttonBox->button(QDialogButtonBox::Ok), &QPushButton::clicked, this, &Self::okPressed);
     connect(ui.reset_pushButton, &QPushButton::clicked, this, &Self::applyDefaultSettings);
@@ -385,9 +395,12 @@ bool MgDonutDialogManager::isResetConfirmed()
     const QString question = tr("This will delete all of the user defined mouse gestures and reset to "
                                 "the factory defaults. Do you want to continue?");
     if (CHxSystemServices *services = GetHxSystemServices()) {
-        return services->ShowMessage(question, services->GetMessageCaption(),
-                                     CHxSystemServices::kMessageOkCancelWarning)
-            == CHxSystemServices::kMessageOk;
+        int answer = CHxSystemServices::kMessageCancel;
+        hostCall([&] {
+            answer = services->ShowMessage(question, services->GetMessageCaption(),
+                                           CHxSystemServices::kMessageOkCancelWarning);
+        });
+        return answer == CHxSystemServices::kMessageOk;
     }
     return QMessageBox::warning(this, windowTitle(), question, QMessageBox::Ok | QMessageBox::Cancel)
         == QMessageBox::Ok;

@@ -235,13 +235,16 @@ private Q_SLOTS:
         QVERIFY(host->store.values.isEmpty());
     }
 
+    // See HostFaultsTest for what that means to a container that has read before.
     void aStoreThatHandsOutNothing()
     {
         host->store.values = {{text("EnableMouseGesture"), text("0")}, {text("41"), text("ID_LINE")}};
         host->store.getFails = true;
         const tests::OpenContainer container;
-        QVERIFY(container.getGestureEnabled());
-        QCOMPARE(container.fourTable, Table(4, -1));
+        QVERIFY(container.hasReadingFailed());
+        QVERIFY(tests::writes(*host).isEmpty());
+        for (int d = 0; d < 8; ++d)
+            QCOMPARE(container.getCommandNameFromIndex(d), QString());
     }
 
     void withoutAProfileStoreTheDefaultsHold()

@@ -1,6 +1,7 @@
 #include "bindings/MgDonutDataContainer.h"
 #include "dialog/MgCommandDSModel.h"
 #include "dialog/MgCommandDSSortFilterProxyModel.h"
+#include "tests/dialog/AssignmentRules.h"
 #include "tests/dialog/DraftingCommands.h"
 #include "tests/dialog/TestDialog.h"
 #include "tests/fakehost/FakeHost.h"
@@ -15,57 +16,14 @@
 #include <memory>
 #include <random>
 
+using tests::Bytes;
+using tests::bytesOf;
 using tests::kCategory;
 using tests::kCommand;
 using tests::kDirection;
 using tests::TestDialog;
 
 namespace {
-
-// Both direction bytes of a record, four scheme first.
-using Bytes = QPair<int, int>;
-
-Bytes bytesOf(const MgCommandDS &record)
-{
-    return {record.fourDirection, record.eightDirection};
-}
-
-// The rules of assigning, stated a second time and in another way than the model has them:
-// as tables of what each direction is in the other scheme, and as the state that follows
-// from the one before.
-class Rules
-{
-public:
-    static std::vector<Bytes> after(const std::vector<Bytes> &before, bool fourScheme, std::size_t row,
-                                    int direction)
-    {
-        static constexpr int kEightOfFour[] = {0, 1, 3, 5, 7};
-        static constexpr int kKeep = -1;
-        static constexpr int kFourOfEight[] = {0, 1, kKeep, 2, kKeep, 3, kKeep, 4, kKeep};
-
-        std::vector<Bytes> state = before;
-        bool found = false;
-        for (std::size_t other = 0; other < state.size(); ++other) {
-            const int held = fourScheme ? before[other].first : before[other].second;
-            if (found || held != direction)
-                continue;
-            found = true;
-            state[other].second = 0;
-            const bool straight = direction % 2 == 1;
-            if (fourScheme || straight)
-                state[other].first = 0;
-        }
-
-        if (fourScheme) {
-            state[row] = {direction, kEightOfFour[direction]};
-        } else {
-            state[row].second = direction;
-            if (kFourOfEight[direction] != kKeep)
-                state[row].first = kFourOfEight[direction];
-        }
-        return state;
-    }
-};
 
 // The model, with rows only where a table has them.
 class RootOnlyModel : public MgCommandDSModel
@@ -597,7 +555,7 @@ void CommandTableModelTest::randomWalkKeepsTheRules()
         const int row = upTo(11);
         const int direction = upTo(four ? 4 : 8);
         QVERIFY(model->setData(model->index(row, kDirection), direction, Qt::EditRole));
-        expected = Rules::after(expected, four, static_cast<std::size_t>(row), direction);
+        expected = tests::bytesAfter(expected, four, static_cast<std::size_t>(row), direction);
 
         const std::vector<MgCommandDS> records = model->getCommands();
         int ups = 0;
