@@ -1,5 +1,6 @@
 #include "host/inject/Injector.h"
 
+#include "host/files/Complaint.h"
 #include "host/files/ExplanationChannel.h"
 #include "host/session/ExplainedProgram.h"
 #include "host/session/GestureHost.h"
@@ -12,7 +13,6 @@
 
 #include <sys/socket.h>
 
-#include <cstdio>
 #include <exception>
 
 using gesturewidget::GestureHost;
@@ -28,7 +28,7 @@ bool hasMenuBar(const QMainWindow *window)
 
 void report(const char *text)
 {
-    std::fprintf(stderr, "mouse gestures: %s\n", text);
+    gesturewidget::complain(QString::fromUtf8(text));
 }
 
 } // namespace
