@@ -1,13 +1,14 @@
 #pragma once
 
+#include "host/files/PluginNames.h"
+
 #include <QByteArray>
 
 // What made Qt load the plug-in, and how it is taken out of the environment again, so that
 // programs started from this one do not load it as well.
 namespace inject {
 
-// The plug-in's key among Qt's generic plug-ins.
-inline constexpr char kPluginKey[] = "mousegestures";
+using gesturewidget::kPluginKey;
 
 // `plugins` is the value of QT_QPA_GENERIC_PLUGINS, entries "key" or "key:arguments"
 // separated by commas. Returns it without every entry of `key`, letter case ignored as Qt

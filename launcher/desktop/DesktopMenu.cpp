@@ -1,5 +1,6 @@
 #include "launcher/desktop/DesktopMenu.h"
 
+#include "host/files/FileWriter.h"
 #include "launcher/desktop/DesktopFile.h"
 #include "launcher/programs/ProgramLookup.h"
 #include "launcher/programs/QtWidgetsUse.h"
@@ -8,7 +9,6 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 #include <utility>
@@ -16,6 +16,8 @@
 
 namespace launcher {
 namespace {
+
+using gesturewidget::FileWriter;
 
 QByteArray fileName(const QByteArray &path)
 {
@@ -55,10 +57,7 @@ QString ownFileMessage(const QString &path)
 
 bool store(const QString &path, const QByteArray &content)
 {
-    if (!QDir().mkpath(QFileInfo(path).absolutePath()))
-        return false;
-    QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
+    return FileWriter(path, FileWriter::Readers::Usual).write(content);
 }
 
 QByteArray contentOf(const QString &path)

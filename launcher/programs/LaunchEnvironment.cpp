@@ -1,11 +1,13 @@
 #include "launcher/programs/LaunchEnvironment.h"
 
+#include "host/files/PluginNames.h"
+
 #include <algorithm>
 
 namespace launcher {
 namespace {
 
-constexpr char kPluginKey[] = "mousegestures";
+using gesturewidget::kPluginKey;
 
 bool isWaylandDesktop(const Environment &environment)
 {

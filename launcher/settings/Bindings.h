@@ -19,8 +19,11 @@ struct Bindings
     [[nodiscard]] static Bindings fromSettings(const gesturewidget::SettingsFile::Values &values);
     // Those before anybody has chosen anything. The trigger is the profile's.
     [[nodiscard]] static Bindings initial();
-    // All of it as the settings have it.
+    // All of it as the settings hold it.
     [[nodiscard]] gesturewidget::SettingsFile::Values toSettings() const;
+    // What has to be written so that the settings, which hold `now`, mean this.
+    [[nodiscard]] gesturewidget::SettingsFile::Values
+    changesFrom(const gesturewidget::SettingsFile::Values &now) const;
 
     [[nodiscard]] QStringList &commands() { return scheme == 4 ? four : eight; }
 

@@ -1,12 +1,12 @@
 #include "launcher/sheet/SheetTask.h"
 
+#include "host/files/FileWriter.h"
 #include "launcher/settings/Bindings.h"
 #include "launcher/settings/KnownCommands.h"
 
 #include <QFileInfo>
 #include <QProcess>
 #include <QProcessEnvironment>
-#include <QSaveFile>
 
 namespace launcher {
 namespace {
@@ -55,10 +55,6 @@ Outcome printSheet(const SheetContent &content, const QString &drawer, const QSt
 {
     if (!QFileInfo(drawer).isExecutable())
         return Outcome::failure(QStringLiteral("%1 is not installed").arg(drawer));
-    // Before the work, so that what cannot be written is said at once.
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return Outcome::failure(QStringLiteral("%1 cannot be written").arg(path));
 
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
@@ -75,7 +71,7 @@ Outcome printSheet(const SheetContent &content, const QString &drawer, const QSt
         return Outcome::failure(
             QStringLiteral("the sheet could not be drawn: %1")
                 .arg(QString::fromLocal8Bit(process.readAllStandardError()).simplified()));
-    if (file.write(pdf) != pdf.size() || !file.commit())
+    if (!gesturewidget::FileWriter(path, gesturewidget::FileWriter::Readers::Usual).write(pdf))
         return Outcome::failure(QStringLiteral("%1 cannot be written").arg(path));
     return {};
 }

@@ -95,6 +95,7 @@ void SettingsTasksTest::withoutSettingsTheFirstBindingsAreShown()
     const Outcome outcome = tasks().showBindings();
     QVERIFY(outcome.isDone());
     QCOMPARE(outcome.output, QByteArray("gestures in drafter: on\n"
+                                        "started with: right (default)\n"
                                         "8 gestures (in use)\n"
                                         "  up         ID_ZOOM_BOUNDS\n"
                                         "  up-left    ID_OFFSET\n"
@@ -226,7 +227,9 @@ void SettingsTasksTest::resetKeepsTheTrigger()
 {
     QVERIFY(tasks().setTrigger(text("middle")).isDone());
     QVERIFY(tasks().bind(text("up"), text("DrawArc")).isDone());
-    QVERIFY(tasks().reset().isDone());
+    const Outcome outcome = tasks().reset();
+    QVERIFY(outcome.isDone());
+    QCOMPARE(outcome.output, QByteArray("gestures are still started with: middle\n"));
     QCOMPARE(kept().eight, Bindings::initial().eight);
     QCOMPARE(kept().trigger, text("middle"));
     const SettingsFile::Values values = SettingsFile(m_file).read();
