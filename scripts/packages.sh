@@ -13,6 +13,7 @@ desktop_packages=(
 test_packages=(
   qt6-base-dev
   librapidcheck-dev poppler-utils binutils dpkg-dev file fonts-wine python3-jsonschema
+  breeze-icon-theme libqt5svg5 libqt6svg6
 )
 
 # install_packages NAME...: installs those that are missing; asks nothing. Returns apt-get's
