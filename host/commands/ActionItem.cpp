@@ -1,5 +1,6 @@
 #include "host/commands/ActionItem.h"
 
+#include "host/commands/ContrastIcon.h"
 #include "host/commands/RememberedIcon.h"
 #include "host/window/Captions.h"
 #include "host/window/EntryAction.h"
@@ -40,7 +41,7 @@ void ActionItem::recall(const RememberedCommand &command)
 {
     m_caption = command.caption.isEmpty() ? m_key : command.caption;
     m_tip = command.tip;
-    m_icon = iconFromPng(command.icon);
+    setIcon(iconFromPng(command.icon));
     group = command.group;
     isInToolBar = command.isInToolBar;
 }
@@ -66,7 +67,16 @@ void ActionItem::read()
         m_tipSource = tip;
         m_tip = plainTip(tip);
     }
-    m_icon = m_action->icon();
+    setIcon(m_action->icon());
+}
+
+// Most changes of an action leave its icon as it is, and the halo that was drawn around it.
+void ActionItem::setIcon(const QIcon &icon)
+{
+    if (icon.cacheKey() == m_icon.cacheKey())
+        return;
+    m_icon = icon;
+    m_contrastIcon = contrastIcon(icon);
 }
 
 bool ActionItem::isCommand(const QAction *action)

@@ -24,15 +24,18 @@ public:
     [[nodiscard]] CHxString GetCommandString() const override { return m_identifier; }
     [[nodiscard]] CHxString GetCaption() const override { return m_caption; }
     [[nodiscard]] CHxString GetTip() const override { return m_tip; }
-    // A QIcon holds all its sizes, so both are the same.
-    [[nodiscard]] QIcon GetSmallIcon() const override { return m_icon; }
-    [[nodiscard]] QIcon GetLargeIcon() const override { return m_icon; }
+    // A QIcon holds all its sizes, so both are the same: the program's icon, with a halo where
+    // the ring shows it.
+    [[nodiscard]] QIcon GetSmallIcon() const override { return m_contrastIcon; }
+    [[nodiscard]] QIcon GetLargeIcon() const override { return m_contrastIcon; }
 
     // Nothing: what the program's own commands are called is the program's business.
     void SetName(const CHxString &) override { }
     void SetMacro(const CHxString &) override { }
     void SetStatusText(const CHxString &) override { }
 
+    // The icon as the program has it.
+    [[nodiscard]] const QIcon &icon() const { return m_icon; }
     [[nodiscard]] const QString &key() const { return m_key; }
     void setKey(const QString &key) { m_key = key; }
     // What it is called before it has ever had an action.
@@ -71,6 +74,8 @@ public:
     [[nodiscard]] static QString captionOf(const QAction *action);
 
 private:
+    void setIcon(const QIcon &icon);
+
     QString m_identifier;
     QString m_key;
     QPointer<QAction> m_action;
@@ -79,6 +84,7 @@ private:
     QString m_tip;
     QString m_tipSource; // what m_tip was made from
     QIcon m_icon;
+    QIcon m_contrastIcon;
 };
 
 } // namespace gesturewidget

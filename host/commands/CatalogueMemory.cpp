@@ -79,7 +79,7 @@ void CatalogueMemory::look()
         m_compared.insert(identifier);
         RememberedCommand command = commandOf(*item);
         const RememberedCommand known = m_known.value(identifier);
-        const QIcon icon = item->GetLargeIcon();
+        const QIcon icon = item->icon();
         const bool isIconNew = known.icon.isEmpty() && !icon.isNull();
         command.icon = known.icon;
         if (isIconNew || !(command == known))

@@ -212,6 +212,7 @@ void CommandCatalogue::scan()
     m_met.clear();
     m_newcomers.clear();
     m_guessed.clear();
+    m_nextNumbers.clear();
 }
 
 void CommandCatalogue::guess()
@@ -222,6 +223,8 @@ void CommandCatalogue::guess()
             || (m_byName.contains(identifier) && !expectedFor(identifier));
     };
     wanted.erase(std::remove_if(wanted.begin(), wanted.end(), isSettled), wanted.end());
+    if (wanted.isEmpty())
+        return;
     QVector<QAction *> actions;
     for (const Newcomer &newcomer : m_newcomers) {
         if (m_byName.value(newcomer.action->objectName()) == nullptr) // else it comes back
@@ -286,9 +289,15 @@ void CommandCatalogue::admit(const Newcomer &newcomer)
     QString key = name.isEmpty() ? newcomer.path : name;
     bool isTaken = false;
     ActionItem *item = reusable(key, &isTaken);
-    for (int number = 1; !item && isTaken; ++number) {
-        key = number == 1 ? newcomer.path : QStringLiteral("%1 (%2)").arg(newcomer.path).arg(number);
-        item = reusable(key, &isTaken);
+    if (!item && isTaken) {
+        // Lists repeat a caption thousands of times: the numbers that this scan has found taken
+        // are not tried again.
+        int &number = m_nextNumbers[newcomer.path];
+        for (; !item && isTaken; ++number) {
+            key = number == 0 ? newcomer.path
+                              : QStringLiteral("%1 (%2)").arg(newcomer.path).arg(number + 1);
+            item = reusable(key, &isTaken);
+        }
     }
     const QString wellKnown = wellKnownFor(newcomer, key);
     if (!item) {

@@ -141,6 +141,7 @@ private:
     std::vector<ActionItem *> m_met; // in the order of the menus
     std::vector<Newcomer> m_newcomers;
     QHash<const QAction *, QString> m_guessed; // newcomers, to identifier
+    QHash<QString, int> m_nextNumbers; // of equal captions, by path
 };
 
 } // namespace gesturewidget

@@ -2,6 +2,7 @@
 #include "host/menus/CommandManager.h"
 #include "host/menus/UiManager.h"
 #include "tests/host/support/DraftWindow.h"
+#include "tests/host/support/Texts.h"
 #include "tests/support/FatalWarnings.h"
 
 #include <QDockWidget>
@@ -20,13 +21,9 @@
 using gesturewidget::ActionItem;
 using gesturewidget::CommandCatalogue;
 using tests::DraftWindow;
+using tests::text;
 
 namespace {
-
-QString text(const CHxString &string)
-{
-    return string.toQString();
-}
 
 // "group: identifier identifier ..." for each group that has commands.
 QStringList listing(CommandCatalogue &catalogue)

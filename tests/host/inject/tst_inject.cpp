@@ -1,3 +1,4 @@
+#include "tests/host/support/Files.h"
 #include "tests/support/FatalWarnings.h"
 
 #include <QDir>
@@ -274,14 +275,6 @@ void InjectTest::anotherPluginIsStillLoaded()
 
 namespace {
 
-void write(const QString &path, const QByteArray &text)
-{
-    QVERIFY(QDir().mkpath(QFileInfo(path).absolutePath()));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(text), text.size());
-}
-
 const QString kSettings = QStringLiteral("gesturewidget/guest.ini");
 const QString kCatalogue = QStringLiteral("gesturewidget/guest.commands.json");
 const QString kProfile = QStringLiteral("own/guest.json");
@@ -349,7 +342,7 @@ void InjectTest::badFilesLeaveGesturesAlone()
     QFETCH(QByteArray, text);
     QFETCH(int, lines);
     const QTemporaryDir home;
-    write(home.filePath(file), text);
+    tests::writeFile(home.filePath(file), text);
     const Result result = runIn(home.path(), {QStringLiteral(GUEST), QStringLiteral("gesture")});
     QCOMPARE(result.output, gestureWorks());
     QCOMPARE(result.status, 0);
@@ -377,7 +370,7 @@ void InjectTest::filesOfOthersLeaveGesturesAlone()
     const QString path = home.filePath(closed);
     const bool isFile = closed.contains(QLatin1Char('/'));
     if (isFile)
-        write(path, "{}");
+        tests::writeFile(path, "{}");
     else
         QVERIFY(QDir().mkpath(path));
     const QFile::Permissions before = QFile::permissions(path);

@@ -2,6 +2,7 @@
 #include "host/menus/UiManager.h"
 #include "sdk/chx/CHxUIMenu.h"
 #include "tests/host/support/DraftWindow.h"
+#include "tests/host/support/Texts.h"
 #include "tests/support/FatalWarnings.h"
 
 #include <QElapsedTimer>
@@ -12,13 +13,9 @@
 using gesturewidget::CommandCatalogue;
 using gesturewidget::UiManager;
 using tests::DraftWindow;
+using tests::text;
 
 namespace {
-
-QString text(const CHxString &string)
-{
-    return string.toQString();
-}
 
 QStringList captions(const QWidget &menu)
 {
