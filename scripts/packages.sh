@@ -3,11 +3,11 @@
 build_packages=(
   g++ cmake ninja-build
   qtbase5-dev
-  libdxflib-dev libxcb1-dev
+  libdxflib-dev libx11-dev libxcb1-dev
 )
 desktop_packages=(
   xvfb openbox picom kwin-x11 xfwm4 dbus-daemon x11-utils x11-xserver-utils xdotool imagemagick python3
-  libx11-dev libxtst-dev
+  libxtst-dev
   fonts-dejavu-core qt5-style-plugins
 )
 # What only ./test --desks needs: window managers, Wayland sessions and their input.
