@@ -87,6 +87,8 @@ def common_files():
         "libexec/gesturewidget/mouse-gestures-sheet",
         "share/applications/mouse-gestures.desktop",
         "share/bash-completion/completions/mouse-gestures",
+        "share/doc/gesturewidget/images/dialog.png",
+        "share/doc/gesturewidget/images/ring.png",
         "share/doc/gesturewidget/user-guide.html",
         "share/gesturewidget/bindings.schema.json",
         "share/icons/hicolor/scalable/apps/mouse-gestures.svg",
