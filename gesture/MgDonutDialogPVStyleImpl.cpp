@@ -286,7 +286,12 @@ void MgDonutDialogPVStyleImpl::bypassWindowManager()
     // the edges of the screen or hide it as a tool of an inactive program. It learns of a
     // window when it is mapped, so the flag comes before. QWidget's own flags stay as they are.
     resize(donutSize); // first, so that the window has this size from the start
+    // Without OpenGL, which the ring never uses, the window is made a millisecond sooner. Qt has
+    // no such switch for one window.
+    const bool isForced = QCoreApplication::testAttribute(Qt::AA_ForceRasterWidgets);
+    QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets);
     winId(); // makes the window
+    QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets, isForced);
     windowHandle()->setFlag(Qt::BypassWindowManagerHint);
 }
 
