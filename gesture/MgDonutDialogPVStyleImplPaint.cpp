@@ -1,4 +1,4 @@
-// How the ring looks: the painting half of MgDonutDialogPVStyleImpl.
+// The painting half of MgDonutDialogPVStyleImpl.
 
 #include "bindings/DonutHelperData.h"
 #include "gesture/MgDonutDialogPVStyleImpl.h"
@@ -17,19 +17,19 @@
 
 namespace {
 
-// From the window's edge to the circle that the labels are centred on, in pixels.
+// From the window's edge to the circle of the labels' centres, in pixels.
 constexpr double kLabelInset = 32.0;
-// A full turn in radians with pi as 22/7, like the angles of MgDonutDialog.
+// A full turn in radians. Pi is 22/7, as in MgDonutDialog.
 constexpr double kFullTurn = 6.285714285714286;
-// The ring itself; highlight and active label stand on it undimmed.
+// The background's opacity. Highlight and labels are opaque.
 constexpr double kRingOpacity = 120.0 / 255.0;
 
-// Wider texts are cut, in pixels.
+// Texts wider than this, in pixels, are cut ...
 constexpr int kTextLimit = 50;
-// Characters left of a text that is cut. Deliberately one fewer in the active sector.
+// ... to this many characters. One fewer in the active sector, deliberately.
 constexpr int kCutLength = 8;
 constexpr int kActiveCutLength = 7;
-// From the label's point down to the text's baseline, in pixels.
+// From a label's point down to its text's baseline, in pixels.
 constexpr double kBaseline = 3.0;
 constexpr int kIconSize = 20;
 
@@ -46,8 +46,8 @@ QString imagePath(const QString &name)
     return QLatin1String(":/gesturewidgetimages/Resources/") + name + QLatin1String(".png");
 }
 
-// From "targetDonut_" with number of sectors and index, one digit each, to the highlight's
-// name; empty when there is no such sector.
+// The name of a highlight. `composedName` is "targetDonut_" with the number of sectors and the
+// index, one digit each. Empty if there is no such sector.
 QString regionName(const QString &composedName)
 {
     const auto digits = composedName.indexOf(QLatin1Char('_')) + 1;
@@ -81,14 +81,14 @@ QString highlightPath(int sectorCount, int index)
     return imagePath(regionName(QStringLiteral("targetDonut_%1%2").arg(sectorCount).arg(index)));
 }
 
-// Logical (0, 0) becomes the window's centre.
+// Moves logical (0, 0) to the window's centre.
 void centrePainter(QPainter *painter, int width, int height)
 {
     painter->setViewport(0, 0, width, height);
     painter->setWindow(-(width / 2), -(height / 2), width, height);
 }
 
-// The painter's origin is where the label goes.
+// The painter's origin is the label's point.
 void drawText(QPainter *painter, const QString &whole, double rotation, int cutLength)
 {
     painter->setPen(QPen(Qt::SolidLine));
@@ -126,15 +126,15 @@ void MgDonutDialogPVStyleImpl::paint(QPaintEvent *event)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setClipRect(event->rect());
-    // Without effect, and kept.
+    // Has no effect and is kept.
     painter.save();
     painter.restore();
-    // In place of what a compositor would let through, under either frame.
+    // Without a compositor, what lies under the window is painted here, in both kinds of frame.
     if (!m_backdrop.isNull())
         painter.drawPixmap(QPoint(0, 0), m_backdrop);
 
     if (fading) {
-        // A widget takes one painter at a time.
+        // A widget allows one painter at a time.
         painter.end();
         doFadingPaint();
         return;
@@ -189,11 +189,11 @@ double MgDonutDialogPVStyleImpl::setPainterOrigin(QPainter *painter, int sectorC
     const double radius = width() * 0.5 - kLabelInset;
     const int sectorWidth = sectorCount == 8 ? 45 : 90;
     const int degrees = index * sectorWidth + 90;
-    // Taken from a full turn, since the screen's y axis points down.
+    // Subtracted from a full turn, because the screen's y axis points down.
     const double angle = kFullTurn - (degrees * 22.0) / 1260.0;
     painter->translate(std::cos(angle) * radius, std::sin(angle) * radius);
 
-    // Along the ring, and never upside down.
+    // Texts run along the ring and are never upside down.
     if (sectorCount == 8) {
         switch (index) {
         case 1:

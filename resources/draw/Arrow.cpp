@@ -9,7 +9,7 @@
 namespace draw {
 namespace {
 
-// A dark rim around a light filling is seen on light, dark and coloured rows alike.
+// A dark rim around a light filling shows on light, dark and coloured rows.
 constexpr double kRimWidth = 2.0;
 
 // The middle of the rim. Edges along the pixels have odd coordinates. The rim's own edges are
@@ -40,7 +40,7 @@ QImage arrow(int index, int ratio)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(palette::kArrowRim, kRimWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.setBrush(palette::kHighlightEdge);
-    // Each pair of directions is the pair before it, a quarter turn counter-clockwise.
+    // Each pair of directions is the pair before it, turned a quarter counter-clockwise.
     painter.translate(kArrowSize / 2.0, kArrowSize / 2.0);
     painter.rotate(-90.0 * (index / 2));
     painter.translate(-kArrowSize / 2.0, -kArrowSize / 2.0);

@@ -13,7 +13,7 @@ namespace {
 
 constexpr double kRimWidth = 1.2;
 constexpr double kGleamWidth = 1.0;
-// Where the marks that point outwards lie: between the inner rim and the labels.
+// The marks that point outwards lie between the inner rim and the labels.
 constexpr double kMarkRadius = 72.5;
 // At this width some pixels lie wholly inside the line, at any slant.
 constexpr double kChevronWidth = 2.4;
@@ -44,10 +44,10 @@ constexpr double kSeparatorWidth = 1.2;
     return color;
 }
 
-// `middle` around the labels, turning into `edge` towards both rims.
+// `middle` around the labels, which turns into `edge` towards both rims.
 [[nodiscard]] QRadialGradient bandGradient(const QColor &middle, const QColor &edge)
 {
-    constexpr double kFlat = 14.0; // half the width that stays even, for labels of 20 pixels
+    constexpr double kFlat = 14.0; // half the width of the even part, for labels of 20 pixels
     QRadialGradient gradient = gradientFromCentre();
     gradient.setColorAt(atRadius(kInnerRadius), edge);
     gradient.setColorAt(atRadius(kLabelRadius - kFlat), middle);
@@ -59,7 +59,7 @@ constexpr double kSeparatorWidth = 1.2;
 // The soft dark edge outside and inside the band, which sets it off from a light drawing.
 void paintShadow(QPainter &painter)
 {
-    // Less than half the strength at half the way looks like a blur.
+    // To look like a blur, it has less than half its strength at half its width.
     constexpr double kHalfway = 0.3;
     const QColor dark = palette::kShadow;
     QRadialGradient gradient = gradientFromCentre();
@@ -81,7 +81,7 @@ void paintGleam(QPainter &painter, const QColor &color)
     painter.drawEllipse(circle(kOuterRadius - kRimWidth - kGleamWidth / 2.0));
 }
 
-// Turns the painter so that the direction `angle` is up and the mark's place is the origin.
+// Turns the painter so that `angle` points up, and moves its origin to the mark.
 void moveToMark(QPainter &painter, double angle)
 {
     painter.translate(kCentre, kCentre);

@@ -64,7 +64,7 @@ struct Sector
                                        : draw::sectorHighlight(count, index, ratio);
 }
 
-// The image of that name, without its ".png"; null when the name stands for none.
+// The image of a name without its ".png"; null if the name stands for none.
 [[nodiscard]] QImage imageNamed(const QString &fullName)
 {
     static const QRegularExpression enlarged(QStringLiteral("^(.*)@([23])x$"));

@@ -219,7 +219,7 @@ void DonutPaintingTest::labelPointsAndRotations()
     QFETCH(QPointF, point);
     QFETCH(double, rotation);
 
-    // Asked directly ...
+    // Once asked directly ...
     PaintedDonut donut(sectors, -1);
     QImage image(250, 250, QImage::Format_ARGB32);
     QPainter painter(&image);
@@ -228,7 +228,7 @@ void DonutPaintingTest::labelPointsAndRotations()
     QVERIFY(isNear(painter.transform().map(QPointF(0, 0)), point));
     QVERIFY(qFuzzyCompare(painter.transform().m11(), 1.0));
 
-    // ... and as it is painted, active and not.
+    // ... and once painted, both active and inactive.
     for (const int active : {index, (index + 1) % sectors}) {
         PaintedDonut shown(sectors, active);
         shown.addTexts();
@@ -375,7 +375,7 @@ void DonutPaintingTest::indexPastTheLastSector()
     PaintedDonut donut(sectors, sectors);
     donut.addTexts();
     const std::vector<Painted> painted = donut.record();
-    // The ring and every label, no highlight.
+    // The ring and every label, but no highlight.
     QCOMPARE(painted.size(), static_cast<std::size_t>(sectors) + 1);
     for (std::size_t i = 1; i < painted.size(); ++i)
         QCOMPARE(painted[i].text, QStringLiteral("S%1").arg(i - 1));
@@ -385,7 +385,7 @@ void DonutPaintingTest::indexPastTheLastSector()
 
 void DonutPaintingTest::otherSectorCountsAreDrawnLikeFour()
 {
-    // Such a count has no highlights.
+    // There are no highlights for such a count.
     PaintedDonut donut(5, 4);
     donut.addTexts();
     const std::vector<Painted> painted = donut.record();
@@ -460,7 +460,7 @@ void DonutPaintingTest::longTextIsCut()
             if (painted.kind != Painted::Text)
                 continue;
             texts.push_back(painted.text);
-            // Centred by what is left of it.
+            // The cut text is centred.
             QCOMPARE(painted.at, QPointF(-(metrics.horizontalAdvance(painted.text) / 2), 3.0));
         }
         if (fading)
@@ -627,8 +627,8 @@ void DonutPaintingTest::imagesAreSharp()
     QFETCH(double, ratio);
     PaintedDonut donut(8, 6);
     const QImage picture = donut.picture(ratio);
-    // From the hole into the lit sector, to the right of the centre: the pixels that are
-    // neither bare nor opaque are those of one edge and of the soft shadow before it.
+    // Looks to the right from the hole into the lit sector. Between bare and opaque lie only the
+    // soft shadow and one edge.
     const int middle = static_cast<int>(125 * ratio);
     const auto at = [&](double x) { return qAlpha(picture.pixel(static_cast<int>(x * ratio), middle)); };
     QCOMPARE(at(125 + 55), 0);

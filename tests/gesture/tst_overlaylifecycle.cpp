@@ -41,7 +41,7 @@ QString stateOf(const MgDonutDialogPVStyleImpl &donut)
     return flags.join(QLatin1Char(' '));
 }
 
-// Notes the state of a ring at each of its events of one type.
+// Records the state of a ring at each of its events of one type.
 class WatchedEvents : public QObject
 {
 public:
@@ -445,7 +445,7 @@ void OverlayLifecycleTest::moveIgnoresTheEventsOwnPosition()
     CountingDonut donut;
     m_bench->start(donut);
     m_bench->pointTo(donut, -30, 0);
-    // Says right, while the pointer is on the left.
+    // The event is on the right, the pointer on the left.
     QTest::mouseMove(donut.windowHandle(), QPoint(125 + 40, 125));
     QCOMPARE(donut.getActiveArc(), qint16(1));
     QCOMPARE(donut.distance, 30.0);
@@ -527,7 +527,7 @@ void OverlayLifecycleTest::releasePostsAMoveToTheView()
                         Qt::MiddleButton, Qt::ControlModifier | Qt::ShiftModifier);
     QCoreApplication::sendEvent(&donut, &release);
     QCOMPARE(stateOf(donut), kStopped);
-    // Posted, not sent.
+    // It was posted, not sent.
     QCOMPARE(m_bench->view->moves.size(), std::size_t(0));
     QCoreApplication::sendPostedEvents(m_bench->view, QEvent::MouseMove);
     QCOMPARE(m_bench->view->moves.size(), std::size_t(1));
@@ -541,7 +541,7 @@ void OverlayLifecycleTest::releasePostsAMoveToTheView()
 
 void OverlayLifecycleTest::moveIsMeasuredInTheActiveView()
 {
-    // The document that was wound up has another view, far away.
+    // The document given to WindUp() has another view, far away.
     tests::FakeDocument *active = m_bench->openDocument();
     QVERIFY(active->view->pos() != m_bench->view->pos());
     m_bench->host.documents.active = active;
@@ -577,7 +577,7 @@ void OverlayLifecycleTest::pressesAreSwallowed()
     QTest::mouseRelease(m_bench->view->windowHandle(), Qt::LeftButton, {}, QPoint(5, 5));
     QCOMPARE(stateOf(donut), kStopped);
 
-    // QWidget's own handler would hand the press on.
+    // QWidget's own handler would ignore the press.
     QMouseEvent press(QEvent::MouseButtonPress, QPoint(5, 5), donut.mapToGlobal(QPoint(5, 5)),
                       Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(&donut, &press);
@@ -651,7 +651,7 @@ void OverlayLifecycleTest::hidesAfterItLetGo()
     CountingDonut donut;
     m_bench->start(donut);
     WatchedEvents events(&donut, QEvent::Hide);
-    // Not by the button: Qt lets the mouse go by itself when the last one is up.
+    // Without a release of the button, because Qt then releases its mouse grab by itself.
     donut.StopGesturing(false);
     QCOMPARE(events.states, QStringList(QStringLiteral("stopped")));
     QCOMPARE(events.grabbers, 0);
@@ -689,7 +689,7 @@ void OverlayLifecycleTest::fadingBlocksForAQuarterOfASecond()
     QVERIFY2(timer.elapsed() >= 250, qPrintable(QString::number(timer.elapsed())));
     QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
     QVERIFY(!processed);
-    // Painted at once, and only the last frame.
+    // It painted at once, and only the last frame.
     QCOMPARE(donut.paints, paints + 1);
     QCOMPARE(donut.fadingPaints, 1);
     QCOMPARE(stateOf(donut), QStringLiteral("gesturing fading shown mouse keyboard"));
@@ -759,12 +759,12 @@ void OverlayLifecycleTest::lateEventsChangeNothing()
     QVERIFY(timer.elapsed() < 250);
     QCOMPARE(stateOf(donut), kStopped);
     QVERIFY(donut.accepted);
-    // The view learns where the button was let go, and its tracker of the end.
+    // The view learns where the button was released, and its tracker of the end.
     QCoreApplication::sendPostedEvents(m_bench->view, QEvent::MouseMove);
     QCOMPARE(m_bench->view->moves.size(), std::size_t(1));
     QCOMPARE(m_bench->view->moves.front().position, donut.origin + QPoint(0, -95));
 
-    // The same once the end has been reported.
+    // The same after the end was reported.
     QVERIFY(donut.JustStopped());
     QCoreApplication::sendEvent(&donut, &move);
     QCoreApplication::sendEvent(&donut, &release);
@@ -876,7 +876,7 @@ void OverlayLifecycleTest::destroyingClearsTheHostsText()
 
 void OverlayLifecycleTest::destroyedWithItsMainWindow()
 {
-    // The view goes before the ring, as children do.
+    // The view is destroyed before the ring.
     auto window = std::make_unique<QWidget>();
     auto *view = new tests::NotingView;
     view->setParent(window.get());
@@ -934,7 +934,7 @@ void OverlayLifecycleTest::withoutActiveView()
     QCOMPARE(stateOf(donut), kArmed);
     donut.StopGesturing(false);
 
-    // A document without a view can be wound up: nothing is taken from a view then.
+    // WindUp() accepts a document without a view.
     CountingDonut second;
     m_bench->host.documents.active = m_bench->document;
     second.WindUp(other);

@@ -14,7 +14,7 @@ using tests::GestureBench;
 
 namespace {
 
-// The tracker with its members in reach.
+// Makes the members of the tracker public.
 class OpenTracker : public MgMouseGestureTracker
 {
 public:
@@ -199,7 +199,7 @@ void TrackerTest::castsByName()
             == static_cast<void *>(static_cast<CHxTracker *>(tracker)));
     QVERIFY(tracker->qt_metacast("QObject") == static_cast<void *>(static_cast<QObject *>(tracker)));
     QVERIFY(tracker->qt_metacast("QWidget") == nullptr);
-    // No signals, slots or properties of its own.
+    // It has no signals, slots or properties of its own.
     QCOMPARE(tracker->metaObject()->methodCount(), tracker->metaObject()->methodOffset());
 }
 
@@ -294,7 +294,7 @@ void TrackerTest::idleCostsEightQueries()
     QCOMPARE(m_hit->log.calls, eight);
     look(QPoint(100, 100));
     QCOMPARE(m_hit->log.calls, eight);
-    // Also between gestures, with the ring there.
+    // The same between gestures, when there is a ring.
     open();
     m_bench->release(QPoint(200, 200));
     look(QPoint(200, 200));
@@ -534,7 +534,7 @@ void TrackerTest::stoppedIsReportedBeforeWindingUpAgain()
     QVERIFY(!m_tracker->ring()->armed);
     QVERIFY(!m_tracker->tracking);
     QVERIFY(m_tracker->IsEager(nullptr));
-    // Without a new press nothing opens.
+    // Nothing opens without a new press.
     drag(QPoint(200, 100));
     QVERIFY(!m_tracker->ring()->armed);
 }
@@ -620,7 +620,7 @@ void TrackerTest::noSectorLeavesNothing()
 
 void TrackerTest::choiceIsReadBeforeTheEndIsTold()
 {
-    // A host may clean up when it is told of the end.
+    // A host may clean up when it learns of the end.
     class CleaningHitTest : public FakeHitTest
     {
     public:
@@ -663,7 +663,7 @@ void TrackerTest::endIsNotifiedWhileTheButtonIsHeld()
     QCOMPARE(m_hit->log.startingWith(QStringLiteral("NotifyEnd")).size(), 0);
     m_bench->release(QPoint(281, 200));
 
-    // Cancelled with another button still held counts as well.
+    // A cancelled gesture counts too, if a button is still held.
     open();
     m_tracker->ring()->StopGesturing(false);
     drag(QPoint(200, 200));

@@ -250,14 +250,13 @@ void ImagesTest::ringHasAHoleAndRoomForLabels()
     const QImage ring = load(kFolder + QStringLiteral("gesture_widget.png"));
     const Band band = bandOf(ring);
 
-    // Entering the band runs the command: its edge lies within the accepting distance,
-    // and not far within.
+    // Entering the band runs the command. So its edge lies just within the accepting distance.
     QVERIFY2(band.inner < kAcceptRadius, qPrintable(QString::number(band.inner)));
     QVERIFY2(band.inner > kAcceptRadius - 8.0, qPrintable(QString::number(band.inner)));
-    // An icon of 20 pixels, turned by any angle, fits into the band around radius 93.
+    // An icon of 20 pixels fits into the band around radius 93 at any angle.
     QVERIFY(band.inner < kLabelRadius - 15.0);
     QVERIFY(band.outer > kLabelRadius + 15.0);
-    // The labels run along the band's middle.
+    // The labels lie in the band's middle.
     QVERIFY(std::abs((band.inner + band.outer) / 2.0 - kLabelRadius) < 1.0);
 
     QStringList offending;
@@ -298,7 +297,7 @@ void ImagesTest::labelsAreReadable_data()
     QTest::addColumn<double>("opacity");
     QTest::addColumn<double>("wanted");
 
-    // 4.5 to 1 is what small text needs; a black drawing is the worst there is.
+    // Small text needs 4.5 to 1. A black drawing is the worst case.
     QTest::newRow("ring") << QStringLiteral("gesture_widget") << kRingOpacity << 4.5;
     for (const QString &name : fourNames() + eightNames()) {
         QTest::newRow(qPrintable(name)) << name << 1.0 << 7.0;
@@ -319,7 +318,7 @@ void ImagesTest::labelsAreReadable()
     for (int y = 0; y < kSize; ++y) {
         for (int x = 0; x < kSize; ++x) {
             const Place place = placeOf(x, y);
-            // The strip that texts and icons lie on, away from the borders of sectors.
+            // Only the strip of texts and icons, away from the borders of sectors.
             const double border = std::abs(std::remainder(place.angle, 22.5));
             if (std::abs(place.radius - kLabelRadius) > 10.0 || border < 2.0
                 || qAlpha(image.pixel(x, y)) < 255)
@@ -415,7 +414,7 @@ void ImagesTest::sectorKeepsToItself()
         }
     }
     QVERIFY2(offending.isEmpty(), qPrintable(offending.mid(0, 5).join(QLatin1Char('\n'))));
-    // Its share of the ring, the edges' pixels apart.
+    // It covers its share of the ring, without the pixels of edges.
     const double share = M_PI * (band.outer * band.outer - band.inner * band.inner) / count;
     QVERIFY2(covered > share * 0.9 && covered < share * 1.02,
              qPrintable(QString::number(covered / share)));
@@ -499,7 +498,7 @@ void ImagesTest::separatorsAreThoseOfTheScheme()
                 double best = 1.0;
                 for (double aside = -1.0; aside <= 1.0; aside += 0.5)
                     best = std::max(best, contrast(shown(at(radius, aside)), beside));
-                // It is seen, and less than a label is.
+                // It can be seen, but less than a label.
                 QVERIFY2(best > 1.1 && best < 2.0, qPrintable(QString::number(best)));
             }
         }
@@ -564,7 +563,7 @@ void ImagesTest::enlargedImagesAreTheSame()
     difference /= plain.width() * plain.height();
     QVERIFY2(difference < 1.0, qPrintable(QString::number(difference)));
 
-    // Drawn for this density, not blown up: its edges are sharper than those of the small one.
+    // It is drawn for this density: its edges are sharper than those of the enlarged small one.
     const QImage blownUp = plain.scaled(enlarged.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
                                .convertToFormat(QImage::Format_ARGB32);
     const auto halfOpaque = [](const QImage &image) {
@@ -621,8 +620,7 @@ void ImagesTest::arrowPointsItsWay()
 {
     QFETCH(int, index);
 
-    // Looked at along its direction an arrow is the same on both sides, broad where its
-    // head is and narrow behind.
+    // Along its direction an arrow is symmetrical, broad at its head and narrow behind.
     const QImage image = load(kFolder + arrowNames().at(index) + QStringLiteral(".png"));
     const double angle = (90.0 + 45.0 * index) * M_PI / 180.0;
     const auto coverage = [&](double along, double across) {
@@ -680,7 +678,7 @@ void ImagesTest::arrowShowsOnEveryRow()
 {
     QFETCH(QRgb, row);
     for (const QString &name : arrowNames()) {
-        // As an ordinary table row shows it.
+        // The size in an ordinary table row.
         const QImage image = load(kFolder + name + QStringLiteral(".png"))
                                  .scaled(16, 16, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
                                  .convertToFormat(QImage::Format_ARGB32);
