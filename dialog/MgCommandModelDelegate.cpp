@@ -3,9 +3,19 @@
 #include "dialog/DirectionBox.h"
 #include "dialog/MgCommandDSModel.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
+#include <QHelpEvent>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QStandardItemModel>
+#include <QToolTip>
+
+namespace {
+
+constexpr int kCurrentCellLine = 2; // pixels, below the current cell
+
+} // namespace
 
 MgCommandModelDelegate::MgCommandModelDelegate(QStandardItemModel *directions, QObject *parent)
     : QItemDelegate(parent)
@@ -36,7 +46,7 @@ void MgCommandModelDelegate::setEditorData(QWidget *editor, const QModelIndex &i
     }
     directions->setCurrentIndex(static_cast<unsigned char>(index.data(Qt::EditRole).toInt()));
     // The arrows have no text that could be read out.
-    directions->setAccessibleDescription(directions->currentData(Qt::AccessibleTextRole).toString());
+    directions->setAccessibleDescription(directions->currentData(kDirectionNameRole).toString());
 }
 
 void MgCommandModelDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
@@ -82,6 +92,34 @@ void MgCommandModelDelegate::drawDisplay(QPainter *painter, const QStyleOptionVi
     QItemDelegate::drawDisplay(painter, option, rest, line);
 }
 
+void MgCommandModelDelegate::drawFocus(QPainter *painter, const QStyleOptionViewItem &option,
+                                       const QRect &rect) const
+{
+    QItemDelegate::drawFocus(painter, option, rect);
+    // The table's style draws no focus rectangle, and all cells of a selected row look alike.
+    constexpr QStyle::State kMarked = QStyle::State_HasFocus | QStyle::State_Selected;
+    if ((option.state & kMarked) != kMarked)
+        return;
+    QRect line = option.rect;
+    line.setTop(line.bottom() - kCurrentCellLine + 1);
+    painter->fillRect(line, option.palette.color(QPalette::HighlightedText));
+}
+
+bool MgCommandModelDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view,
+                                       const QStyleOptionViewItem &option, const QModelIndex &index)
+{
+    if (event->type() == QEvent::ToolTip && index.isValid()) {
+        QStyleOptionViewItem wide = option;
+        wide.rect.setWidth(QWIDGETSIZE_MAX);
+        const bool isElided = QItemDelegate::sizeHint(wide, index).width() > option.rect.width();
+        if (index.column() == MgCommandDSModel::kDirectionColumn || !isElided) {
+            QToolTip::hideText();
+            return true;
+        }
+    }
+    return QItemDelegate::helpEvent(event, view, option, index);
+}
+
 bool MgCommandModelDelegate::eventFilter(QObject *object, QEvent *event)
 {
     auto *box = qobject_cast<DirectionBox *>(object);
@@ -95,8 +133,8 @@ bool MgCommandModelDelegate::eventFilter(QObject *object, QEvent *event)
         box->parentWidget()->setFocus();
         return true;
     }
-    // The base class would close the box. Enter belongs to the list, and to the dialog while
-    // the list is closed.
+    // The base class would commit and close. Enter in the open list chooses; while the list is
+    // closed it does nothing.
     if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter)
         return false;
     return QItemDelegate::eventFilter(object, event);

@@ -87,6 +87,10 @@ private Q_SLOTS:
     void resetButtonFollowsChangesOnly();
     void randomWalkKeepsTheRules();
 
+    void takesChangesBackOneByOne();
+    void takesNothingBackAfterAReset();
+    void namesTheHolderOfADirection();
+
     void assignedOnlyShowsNonzeroCurrentDirections();
     void searchMatchesNamesNotCategories();
     void filterCondition_data();
@@ -570,6 +574,63 @@ void CommandTableModelTest::randomWalkKeepsTheRules()
     QVERIFY(shared > 1000);
 }
 
+void CommandTableModelTest::takesChangesBackOneByOne()
+{
+    for (int number = 0; number < 7; ++number)
+        m_host->commands.addCommand(QStringLiteral("X%1").arg(number), QStringLiteral("x"),
+                                    QStringLiteral("X"));
+    open("8");
+    MgCommandDSModel *model = m_dialog->model;
+    QVERIFY(!model->takeBack());
+    std::mt19937 random(7);
+    const auto upTo = [&random](int last) {
+        return std::uniform_int_distribution<int>(0, last)(random);
+    };
+    std::vector<std::vector<Bytes>> states{tests::bytesOf(model->getCommands())};
+    for (int step = 0; step < 300; ++step) {
+        const bool four = upTo(1) == 0;
+        m_dialog->scheme = four ? MgDonutDialogManager::Four : MgDonutDialogManager::Eight;
+        const QModelIndex cell = model->index(upTo(model->rowCount() - 1), kDirection);
+        QVERIFY(model->setData(cell, upTo(four ? 4 : 8), Qt::EditRole));
+        // A choice that changes nothing is none to take back.
+        const std::vector<Bytes> state = tests::bytesOf(model->getCommands());
+        if (state != states.back())
+            states.push_back(state);
+    }
+    QVERIFY(states.size() > 200);
+    QSignalSpy changed(model, &QAbstractItemModel::dataChanged);
+    for (states.pop_back(); !states.empty(); states.pop_back()) {
+        QVERIFY(model->takeBack());
+        QCOMPARE(tests::bytesOf(model->getCommands()), states.back());
+        QVERIFY(changed.count() > 0);
+        QCOMPARE(changed.takeFirst().at(0).toModelIndex().column(), kDirection);
+        changed.clear();
+    }
+    QVERIFY(!model->takeBack());
+}
+
+void CommandTableModelTest::takesNothingBackAfterAReset()
+{
+    open("8");
+    assign(QStringLiteral("A"), 3);
+    m_dialog->model->resetToDefault();
+    QVERIFY(!m_dialog->model->takeBack());
+    QCOMPARE(bytes(QStringLiteral("A")), Bytes(0, 0));
+}
+
+void CommandTableModelTest::namesTheHolderOfADirection()
+{
+    m_host->store.values = {{QStringLiteral("82"), QStringLiteral("A")},
+                            {QStringLiteral("42"), QStringLiteral("B")}};
+    open("8");
+    const QString a = m_dialog->record(QStringLiteral("A")).displayName;
+    QCOMPARE(m_dialog->model->getHolderNames(2), a);
+    QCOMPARE(m_dialog->model->getHolderNames(0), QString());
+    QCOMPARE(m_dialog->model->getHolderNames(3), QString());
+    m_dialog->scheme = MgDonutDialogManager::Four;
+    QCOMPARE(m_dialog->model->getHolderNames(2), m_dialog->record(QStringLiteral("B")).displayName);
+}
+
 void CommandTableModelTest::assignedOnlyShowsNonzeroCurrentDirections()
 {
     m_host->store.values = {{QStringLiteral("41"), QStringLiteral("B")},
@@ -771,7 +832,8 @@ void CommandTableModelTest::proxyReadsDirectionsOut()
     open("8");
     QCOMPARE(m_dialog->cell(0, kDirection).data(Qt::AccessibleTextRole).toString(),
              QStringLiteral("Up left"));
-    QCOMPARE(m_dialog->cell(1, kDirection).data(Qt::AccessibleTextRole).toString(), QString());
+    QCOMPARE(m_dialog->cell(1, kDirection).data(Qt::AccessibleTextRole).toString(),
+             QStringLiteral("None"));
     QVERIFY(!m_dialog->cell(0, kCommand).data(Qt::AccessibleTextRole).isValid());
 }
 

@@ -2,12 +2,14 @@
 #include "dialog/MgCommandModelDelegate.h"
 #include "dialog/MgCommandTableView.h"
 #include "dialog/MyStyle.h"
+#include "dialog/Notice.h"
 #include "tests/dialog/AssignmentRules.h"
 #include "tests/dialog/Input.h"
 #include "tests/dialog/TestDialog.h"
 #include "tests/fakehost/FakeHost.h"
 #include "tests/support/FatalWarnings.h"
 
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QPainter>
 #include <QScrollBar>
@@ -16,6 +18,7 @@
 #include <QStyleFactory>
 #include <QStyleOption>
 #include <QTest>
+#include <QToolTip>
 
 #include <memory>
 
@@ -82,6 +85,12 @@ private Q_SLOTS:
     void sizeHints();
     void lineBreaksAreDrawnOnOneLine();
     void editorsHaveAccessibleTexts();
+
+    void entriesSayWhoHasTheDirection();
+    void robbedCommandIsNamedAtTheCell();
+    void undoTakesTheLastChoiceBack();
+    void currentCellHasALine();
+    void onlyElidedTextsHaveTooltips();
 
     void styleIsPlastiqueWhereThereIsOne();
     void styleDrawsNoFocusRectangle();
@@ -648,6 +657,118 @@ void DirectionEditorTest::editorsHaveAccessibleTexts()
     openEditor(QStringLiteral("A"));
     QCOMPARE(editor()->accessibleDescription(), QStringLiteral("Down"));
     QCOMPARE(editor()->itemData(4, Qt::AccessibleTextRole).toString(), QStringLiteral("Right"));
+}
+
+void DirectionEditorTest::entriesSayWhoHasTheDirection()
+{
+    open("8");
+    openEditor(QStringLiteral("B"));
+    const auto says = [this](int row, const QString &text) {
+        return editor()->itemData(row, Qt::AccessibleTextRole).toString() == text
+            && editor()->itemData(row, Qt::ToolTipRole).toString() == text;
+    };
+    QVERIFY(says(3, QStringLiteral("Left: A")));
+    QVERIFY(says(5, QStringLiteral("Down")));
+    // The rows themselves stay as they are.
+    QCOMPARE(editor()->itemText(3), QString());
+    QCOMPARE(editor()->itemText(0), QStringLiteral("None"));
+    // At once after a choice, and after another scheme was chosen.
+    tests::key(m_dialog.get(), Qt::Key_Space);
+    for (int step = 0; step < 5; ++step)
+        tests::key(m_dialog.get(), Qt::Key_Down);
+    tests::key(m_dialog.get(), Qt::Key_Return);
+    QCOMPARE(int(m_dialog->record(QStringLiteral("B")).eightDirection), 5);
+    QVERIFY(says(5, QStringLiteral("Down: B")));
+    m_dialog->ui.four_radioButton->setChecked(true);
+    // A direction of the four scheme may come to belong to two.
+    QVERIFY(says(3, QStringLiteral("Down: A, B")));
+    QVERIFY(says(2, QStringLiteral("Left")));
+}
+
+void DirectionEditorTest::robbedCommandIsNamedAtTheCell()
+{
+    open("8");
+    openEditor(QStringLiteral("B"));
+    const auto choose = [this](int direction) {
+        tests::key(m_dialog.get(), Qt::Key_Space);
+        tests::key(m_dialog.get(), Qt::Key_Home);
+        for (int step = 0; step < direction; ++step)
+            tests::key(m_dialog.get(), Qt::Key_Down);
+        tests::key(m_dialog.get(), Qt::Key_Return);
+    };
+    const auto *notice = m_dialog->findChild<Notice *>();
+    QVERIFY(notice);
+    // A direction that nobody had.
+    choose(2);
+    QVERIFY(!notice->isVisible());
+    choose(3);
+    QVERIFY(notice->isVisible());
+    QCOMPARE(notice->text(), QStringLiteral("Taken from: A"));
+    // Right below the cell.
+    const QRect cell = m_dialog->ui.command_tableView->visualRect(directionCell(QStringLiteral("B")));
+    QCOMPARE(notice->pos(), m_dialog->ui.command_tableView->viewport()->mapTo(
+                                m_dialog.get(), cell.bottomLeft() + QPoint(0, 1)));
+    QVERIFY(m_dialog->rect().contains(notice->geometry()));
+    // For a moment, and in nobody's way.
+    QVERIFY(editor()->hasFocus());
+    QTRY_VERIFY_WITH_TIMEOUT(!notice->isVisible(), 2 * Notice::kDuration);
+}
+
+void DirectionEditorTest::undoTakesTheLastChoiceBack()
+{
+    open("8");
+    openEditor(QStringLiteral("B"));
+    const std::vector<MgCommandDS> before = m_dialog->model->getCommands();
+    tests::key(m_dialog.get(), Qt::Key_Space);
+    for (int step = 0; step < 3; ++step)
+        tests::key(m_dialog.get(), Qt::Key_Down);
+    tests::key(m_dialog.get(), Qt::Key_Return);
+    QCOMPARE(int(m_dialog->record(QStringLiteral("A")).eightDirection), 0);
+    QCOMPARE(editor()->currentIndex(), 3);
+    tests::key(m_dialog.get(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(tests::bytesOf(m_dialog->model->getCommands()), tests::bytesOf(before));
+    // The open drop-down and the list follow.
+    QCOMPARE(editor()->currentIndex(), 0);
+    QCOMPARE(editor()->itemData(3, Qt::AccessibleTextRole).toString(), QStringLiteral("Left: A"));
+    tests::key(m_dialog.get(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(tests::bytesOf(m_dialog->model->getCommands()), tests::bytesOf(before));
+}
+
+void DirectionEditorTest::currentCellHasALine()
+{
+    open("8");
+    MgCommandTableView *table = m_dialog->ui.command_tableView;
+    const auto lineBelow = [this, table](int column) {
+        const QRect cell = table->visualRect(m_dialog->cell(1, column));
+        const QImage picture = table->viewport()->grab(cell).toImage();
+        return picture.pixelColor(cell.width() / 2, cell.height() - 1) == QColor(Qt::black);
+    };
+    table->setFocus();
+    table->setCurrentIndex(m_dialog->cell(1, kCommand));
+    QVERIFY(lineBelow(kCommand));
+    QVERIFY(!lineBelow(kCategory));
+    tests::key(m_dialog.get(), Qt::Key_Left);
+    QVERIFY(lineBelow(kCategory));
+    QVERIFY(!lineBelow(kCommand));
+    m_dialog->ui.search_lineEdit->setFocus();
+    QVERIFY(!lineBelow(kCategory));
+}
+
+void DirectionEditorTest::onlyElidedTextsHaveTooltips()
+{
+    const QString longName = QStringLiteral("A command with a name that no column shows whole");
+    m_host->commands.addCommand(QStringLiteral("L"), QStringLiteral("l"), longName);
+    open("8");
+    MgCommandTableView *table = m_dialog->ui.command_tableView;
+    const auto pointAt = [table](const QModelIndex &cell) {
+        const QPoint position = table->visualRect(cell).center();
+        QHelpEvent help(QEvent::ToolTip, position, table->viewport()->mapToGlobal(position));
+        QCoreApplication::sendEvent(table->viewport(), &help);
+        return QToolTip::isVisible() ? QToolTip::text() : QString();
+    };
+    QCOMPARE(pointAt(m_dialog->cell(m_dialog->rowOf(longName), kCommand)), longName);
+    QTRY_COMPARE(pointAt(directionCell(longName)), QString());
+    QTRY_COMPARE(pointAt(m_dialog->cell(0, kCommand)), QString());
 }
 
 void DirectionEditorTest::styleIsPlastiqueWhereThereIsOne()
