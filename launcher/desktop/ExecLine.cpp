@@ -6,6 +6,10 @@
 namespace launcher {
 namespace {
 
+// Started with the launcher's path and the program's command.
+constexpr char kShell[] = "/bin/sh";
+constexpr char kScript[] = R"([ -x "$0" ] && exec "$0" "$@"; exec "$@")";
+
 // A character of the value once its escapes are undone, and where it stood.
 struct Letter
 {
@@ -28,7 +32,7 @@ bool isOneOf(const char *letters, char letter)
     return letter != '\0' && std::strchr(letters, letter) != nullptr;
 }
 
-// What stands after a backslash in a value, and what the two mean.
+// What a backslash and this letter mean in a value; null when they mean themselves.
 char meaningOf(char letter)
 {
     switch (letter) {
@@ -147,14 +151,28 @@ QByteArray ExecLine::encoded(const QByteArray &argument)
     if (!isPlain)
         quoted = '"' + quoted + '"';
     quoted.replace("%", "%%");
-    // And now as every value of such a file.
-    quoted.replace("\\", "\\\\").replace("\n", "\\n").replace("\t", "\\t").replace("\r", "\\r");
-    return quoted;
+    return escaped(quoted);
+}
+
+QByteArray ExecLine::escaped(QByteArray text)
+{
+    text.replace("\\", "\\\\").replace("\n", "\\n").replace("\t", "\\t").replace("\r", "\\r");
+    if (text.startsWith(' ')) // spaces around a value do not count
+        text.replace(0, 1, "\\s");
+    return text;
 }
 
 QByteArray ExecLine::startedBy(const QByteArray &launcher) const
 {
-    return value.left(place) + encoded(launcher) + ' ' + value.mid(place);
+    const QByteArray start = QByteArray(kShell) + " -c " + encoded(kScript) + ' ' + encoded(launcher);
+    return value.left(place) + start + ' ' + value.mid(place);
+}
+
+QByteArray ExecLine::startedProgram() const
+{
+    const bool hasScript = program == kShell && arguments.value(1) == kScript;
+    // Earlier versions put the launcher itself there.
+    return arguments.value(hasScript ? 3 : 0).replace("%%", "%");
 }
 
 } // namespace launcher

@@ -123,7 +123,8 @@ bool ProgramExplainer::start(QString &complaint)
         complaint = QString::fromLocal8Bit(std::strerror(errno));
         return false;
     }
-    m_environment.insert(gesturewidget::kExplanationVariable, QByteArray::number(sockets[1]));
+    m_environment.insert(gesturewidget::kExplanationVariable,
+                         gesturewidget::explanationValue(sockets[1]));
     const QList<QByteArray> entries = environmentEntries(m_environment);
     const std::vector<char *> arguments = pointersTo(m_arguments);
     const std::vector<char *> environment = pointersTo(entries);
@@ -148,7 +149,6 @@ void ProgramExplainer::listen(ProgramExplanation &explanation)
     QElapsedTimer all; // since the start, then since the first report
     QElapsedTimer quiet;
     all.start();
-    QElapsedTimer gone; // since the program was found ended
     QByteArray text;
     bool isOpen = true;
     while (explanation.complaint.isEmpty() && caughtSignal == 0) {
@@ -176,11 +176,8 @@ void ProgramExplainer::listen(ProgramExplanation &explanation)
             continue;
         }
         const bool hasReport = !explanation.profile.isEmpty();
-        if (hasEnded() && !gone.isValid())
-            gone.start();
-        // What a wrapper has started may speak up yet.
-        if (gone.isValid()
-            && (m_teller != 0 || hasReport || !isOpen || gone.hasExpired(m_patience.end))) {
+        // Without the plug-in, the socket tells: whatever the program has started holds it open.
+        if (hasEnded() && (m_teller != 0 || !isOpen)) {
             if (!hasReport)
                 explanation.complaint =
                     QStringLiteral("it %1 before it had shown a main window with menus")

@@ -26,6 +26,30 @@ int lineAt(const QByteArray &text, qsizetype offset)
     return int(text.left(int(offset)).count('\n')) + 1;
 }
 
+// Levels of objects and lists. A file of bindings has two; more are read for better complaints.
+constexpr int kDeepest = 8;
+
+// The line in which something is nested too deeply; 0 when nothing is. For any text.
+int lineTooDeep(const QByteArray &text)
+{
+    int depth = 0;
+    bool isInString = false;
+    for (int i = 0; i < text.size(); ++i) {
+        const char letter = text.at(i);
+        if (letter == '"')
+            isInString = !isInString;
+        else if (isInString && letter == '\\')
+            ++i;
+        else if (!isInString && (letter == '{' || letter == '['))
+            ++depth;
+        else if (!isInString && (letter == '}' || letter == ']'))
+            --depth;
+        if (depth > kDeepest)
+            return lineAt(text, i);
+    }
+    return 0;
+}
+
 // Where the keys of a text stand, which QJsonDocument does not tell. For texts that it has
 // found to be JSON.
 class KeyLines
@@ -181,6 +205,10 @@ QByteArray bindingsToJson(const Bindings &bindings, const QString &program)
 bool bindingsFromJson(const QByteArray &text, const QString &program, Bindings &bindings,
                       QString &problem)
 {
+    if (const int line = lineTooDeep(text)) {
+        problem = QStringLiteral("line %1: this is nested too deeply for bindings").arg(line);
+        return false;
+    }
     QJsonParseError parsing;
     const QJsonDocument document = QJsonDocument::fromJson(text, &parsing);
     if (parsing.error != QJsonParseError::NoError) {

@@ -53,6 +53,9 @@ SheetContent sheetContent(const QString &program, const Bindings &bindings, cons
 
 Outcome printSheet(const SheetContent &content, const QString &drawer, const QString &path)
 {
+    if (!path.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive))
+        return Outcome::failure(
+            QStringLiteral("%1: a sheet is a PDF, so its file ends in .pdf").arg(path));
     if (!QFileInfo(drawer).isExecutable())
         return Outcome::failure(QStringLiteral("%1 is not installed").arg(drawer));
 

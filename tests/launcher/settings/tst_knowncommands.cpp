@@ -3,6 +3,7 @@
 #include "launcher/settings/KnownCommands.h"
 
 #include "tests/support/FatalWarnings.h"
+#include "tests/support/FolderTest.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -11,13 +12,9 @@
 
 using launcher::KnownCommands;
 using launcher::Outcome;
+using tests::text;
 
 namespace {
-
-QString text(const char *latin)
-{
-    return QString::fromLatin1(latin);
-}
 
 const QString kProgram = QStringLiteral("drafter");
 
