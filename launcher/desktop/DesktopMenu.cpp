@@ -209,8 +209,8 @@ QString DesktopMenu::installedFile(const QString &name) const
 
 QStringList DesktopMenu::entriesOf(const QByteArray &typed, const QByteArray &path) const
 {
-    QStringList named; // start it by the name that was typed
-    QStringList others; // start the same file by another name
+    QStringList named; // these start it by the name that was typed
+    QStringList others; // these start the same file by another name
     QStringList seen;
     for (const QString &folder : m_places.installed) {
         const QStringList names = namesIn(folder);
@@ -229,7 +229,7 @@ QStringList DesktopMenu::entriesOf(const QByteArray &typed, const QByteArray &pa
     if (!named.isEmpty() || !others.isEmpty())
         return named.isEmpty() ? others : named;
 
-    // The entry may start a script that starts the program in the end.
+    // The entry may start a script that in turn starts the program.
     const QString name = QFile::decodeName(fileName(typed)) + QLatin1String(".desktop");
     DesktopFile file;
     if (!file.read(installedFile(name)) || !file.isApplication() || !file.exec().isValid)

@@ -10,7 +10,7 @@ namespace {
 constexpr char kShell[] = "/bin/sh";
 constexpr char kScript[] = R"([ -x "$0" ] && exec "$0" "$@"; exec "$@")";
 
-// A character of the value once its escapes are undone, and where it stood.
+// A character of the value without escapes, and its place in the value.
 struct Letter
 {
     char value;
@@ -24,7 +24,7 @@ struct Word
 };
 
 constexpr char kReserved[] = " \t\n\r\"'\\><~|&;$*?#()`";
-// What a backslash stands before inside double quotes.
+// Inside double quotes a backslash escapes these.
 constexpr char kQuotable[] = "\"`$\\";
 
 bool isOneOf(const char *letters, char letter)
@@ -63,7 +63,7 @@ std::vector<Letter> lettersOf(const QByteArray &value)
     return letters;
 }
 
-// Splits as a shell would, without any expansion. False when a quote is not closed.
+// Splits like a shell, without any expansion. Returns false when a quote is not closed.
 bool split(const std::vector<Letter> &letters, std::vector<Word> &words)
 {
     bool isInside = false; // of a word
@@ -110,7 +110,7 @@ std::size_t programAmong(const std::vector<Word> &words)
         if (word == "-S" || word.startsWith("--split-string"))
             return words.size();
         if (word == "-u" || word == "-C" || word == "--unset" || word == "--chdir")
-            ++i; // what follows belongs to it
+            ++i; // the next word belongs to the option
         else if (!word.startsWith('-') && !word.contains('='))
             break;
     }

@@ -19,7 +19,7 @@ constexpr qint64 kMaximalConfiguration = 1024 * 1024;
 struct Library
 {
     QByteArray path;
-    // Folders of DT_RPATH, which unlike DT_RUNPATH also hold for what its libraries need.
+    // Folders of DT_RPATH. Unlike DT_RUNPATH, they also apply to what its libraries need.
     QList<QByteArray> inherited;
 };
 

@@ -16,7 +16,7 @@ constexpr int kVersion = 1;
 
 QByteArray quoted(const QString &text)
 {
-    // As the only entry of a list, to have it escaped.
+    // QJsonDocument writes no single text, so this is the only entry of a list.
     const QByteArray list = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
     return list.mid(1, list.size() - 2);
 }
@@ -50,8 +50,7 @@ int lineTooDeep(const QByteArray &text)
     return 0;
 }
 
-// Where the keys of a text stand, which QJsonDocument does not tell. For texts that it has
-// found to be JSON.
+// The lines of the keys of a text, which QJsonDocument does not tell. The text must be JSON.
 class KeyLines
 {
 public:
@@ -88,15 +87,15 @@ public:
         }
     }
 
-    // Line of a key, "object.key" for one of an object; that of the object or 1 when it is
-    // not there.
+    // The line of a key, "object.key" for a key of an inner object. If the key is missing, the
+    // line of the object, or 1.
     [[nodiscard]] int of(const QString &name) const
     {
         const auto dot = name.indexOf(QLatin1Char('.'));
         return m_lines.value(name, m_lines.value(name.left(dot), 1));
     }
 
-    QString repeated; // the first key that stands twice
+    QString repeated; // the first key that occurs twice
     int repeatedLine = 0;
 
 private:

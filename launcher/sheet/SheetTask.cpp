@@ -13,8 +13,8 @@ namespace {
 
 constexpr int kPatience = 60000; // milliseconds
 
-// What a person may know a command by that has never been seen: "ID_LINE" is "Line", and of a
-// path of captions the last one counts.
+// A caption for a command that has never been seen: "Line" for "ID_LINE", and the last caption of a
+// path of captions.
 QString captionFrom(const QString &identifier)
 {
     const QLatin1String prefix("ID_");

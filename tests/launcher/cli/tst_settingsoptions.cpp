@@ -215,7 +215,7 @@ private Q_SLOTS:
     {
         const Outcome before = run({text("--list-commands"), kProgram});
         QCOMPARE(before.status, 1);
-        QVERIFY2(before.errors.contains("no command of launcher_fixture_direct is known before"),
+        QVERIFY2(before.errors.contains("no command of launcher_fixture_direct is known yet"),
                  before.errors.constData());
         QCOMPARE(before.errors.count('\n'), 1);
 
