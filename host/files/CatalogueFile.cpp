@@ -31,7 +31,7 @@ const QLatin1String kGroupKey("group");
 const QLatin1String kIconKey("icon");
 const QLatin1String kToolBarKey("toolbar");
 
-// An identifier that was cut off would be another one.
+// An identifier must not be cut off: it would be another one.
 bool isAcceptable(const RememberedCommand &command)
 {
     return !command.identifier.isEmpty() && command.identifier.size() <= CatalogueFile::kMaximalText
@@ -74,7 +74,7 @@ QJsonObject toJson(const RememberedCommand &command)
     return object;
 }
 
-// A line for each command, for people who look into it.
+// One line for each command, so that people can read the file.
 QByteArray textOf(const QVector<RememberedCommand> &commands)
 {
     QByteArray text = "{\n\"version\": " + QByteArray::number(kVersion) + ",\n\"commands\": [";
@@ -86,7 +86,7 @@ QByteArray textOf(const QVector<RememberedCommand> &commands)
     return text + "\n]\n}\n";
 }
 
-// Brings `known` up to date. Whether that changed anything.
+// Updates `known`. Returns whether that changed anything.
 bool update(RememberedCommand &known, const RememberedCommand &seen)
 {
     RememberedCommand updated = seen;
@@ -255,7 +255,7 @@ bool CatalogueFile::store(const QVector<RememberedCommand> &commands, State befo
     const QString kept = before == State::Damaged ? m_path + QLatin1String(".damaged")
                        : before == State::Good    ? backupPath()
                                                   : QString();
-    // What is new matters more than the old file.
+    // The new content matters more than the copy of the old one.
     return (!kept.isEmpty() && writer.write(text, kept)) || writer.write(text);
 }
 

@@ -2,7 +2,6 @@
 
 #include "host/files/FileContent.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -166,7 +165,7 @@ bool FileWriter::write(const QByteArray &content, const QString &second) const
 bool FileWriter::write(const QByteArray &content, const QString *second) const
 {
     const QByteArray path = encoded(m_path);
-    if (m_path.isEmpty() || !QDir().mkpath(QFileInfo(m_path).absolutePath()) || !isReplaceable(path))
+    if (m_path.isEmpty() || !isReplaceable(path))
         return false;
     NeighbourFile file(path);
     return file.fill(content, m_readers == Readers::Owner ? kOwnerOnly : usualMode(path))

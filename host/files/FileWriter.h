@@ -26,8 +26,8 @@ public:
     // A link is followed: the file that it leads to is replaced.
     FileWriter(const QString &path, Readers readers);
 
-    // Returns whether the file has this content. False leaves everything as it was. Makes missing
-    // folders. Refuses to replace anything but a file.
+    // Returns whether the file has this content. False leaves everything as it was. Refuses to
+    // replace anything but a file, and makes no folders.
     [[nodiscard]] bool write(const QByteArray &content) const;
     // The same, and keeps the old file under the name `second`, as soon as the new content is on
     // the disk. That takes no room on the disk where a file can have two names; elsewhere it is

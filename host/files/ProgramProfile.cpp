@@ -144,7 +144,7 @@ QString fill(ProgramProfile &profile, const QByteArray &text)
                   QStringLiteral("trigger"), QStringLiteral("wellKnownCommands"),
                   QStringLiteral("toolsMenu"), QStringLiteral("commandLineClass"),
                   QStringLiteral("why")});
-    // For whoever reads the file: what the rest of it was concluded from.
+    // Reasons for the rest, for people who read the file.
     static_cast<void>(reader.object(QStringLiteral("why")));
     const QJsonValue version = reader.value(QStringLiteral("version"));
     if (!version.isDouble())
@@ -162,7 +162,7 @@ QString fill(ProgramProfile &profile, const QByteArray &text)
     return reader.problem();
 }
 
-// A name that is a file's name and nothing else: profiles come from the given folders only.
+// Returns whether the name is that of a file and no path: profiles come from the given folders.
 bool isFileName(const QString &program)
 {
     return !program.isEmpty() && !program.contains(QLatin1Char('/')) && !program.contains(QChar::Null)

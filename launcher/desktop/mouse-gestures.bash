@@ -2,7 +2,7 @@
 _mouse_gestures() {
     local current=${COMP_WORDS[COMP_CWORD]} option=${COMP_WORDS[1]-}
     local directions="up up-left left down-left down down-right right up-right"
-    local triggers="right middle back forward ctrl+right shift+right alt+right ctrl+middle default"
+    local triggers="middle right back forward ctrl+right shift+right alt+right meta+right default"
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then
         if [[ $current == -* ]]; then

@@ -15,7 +15,7 @@ bool isWaylandDesktop(const Environment &environment)
         || !environment.value("WAYLAND_DISPLAY").isEmpty();
 }
 
-// Nobody chose a platform, or the one chosen is Wayland: "wayland", "wayland-egl",
+// Returns whether nobody chose a platform, or chose Wayland: "wayland", "wayland-egl",
 // "wayland;xcb".
 bool mayUseWayland(const Environment &environment)
 {

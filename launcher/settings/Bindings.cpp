@@ -59,7 +59,7 @@ QStringList Bindings::directionNames(int scheme)
 Bindings Bindings::fromSettings(const SettingsFile::Values &values)
 {
     Bindings bindings;
-    // What is neither of the two values counts as the first one.
+    // Any other value counts as "1" here and as "8" below.
     bindings.enabled = values.value(nameOf(settingskeys::enableMouseGesture())) != QLatin1String("0");
     bindings.scheme = values.value(nameOf(settingskeys::activeScheme())) == QLatin1String("4") ? 4 : 8;
     bindings.four = commandsOf(4, values);

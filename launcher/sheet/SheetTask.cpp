@@ -13,8 +13,8 @@ namespace {
 
 constexpr int kPatience = 60000; // milliseconds
 
-// What a person may know a command by that has never been seen: "ID_LINE" is "Line", and of a
-// path of captions the last one counts.
+// A caption for a command that has never been seen: "Line" for "ID_LINE", and the last caption of a
+// path of captions.
 QString captionFrom(const QString &identifier)
 {
     const QLatin1String prefix("ID_");
@@ -53,6 +53,9 @@ SheetContent sheetContent(const QString &program, const Bindings &bindings, cons
 
 Outcome printSheet(const SheetContent &content, const QString &drawer, const QString &path)
 {
+    if (!path.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive))
+        return Outcome::failure(
+            QStringLiteral("%1: a sheet is a PDF, so its file ends in .pdf").arg(path));
     if (!QFileInfo(drawer).isExecutable())
         return Outcome::failure(QStringLiteral("%1 is not installed").arg(drawer));
 

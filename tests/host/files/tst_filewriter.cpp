@@ -54,7 +54,7 @@ class FileWriterTest : public tests::FolderTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void writesInFoldersThatAreMissing();
+    void writes();
     void whoMayRead();
     void aFullDiskKeepsTheOldFile();
     void theOldFileUnderASecondName();
@@ -72,14 +72,16 @@ private:
     }
 };
 
-void FileWriterTest::writesInFoldersThatAreMissing()
+void FileWriterTest::writes()
 {
-    QVERIFY(FileWriter(place("a/b/file"), Readers::Owner).write("content"));
-    QCOMPARE(contentOf(place("a/b/file")), QByteArray("content"));
-    QVERIFY(FileWriter(place("a/b/file"), Readers::Owner).write({}));
-    QCOMPARE(contentOf(place("a/b/file")), QByteArray());
-    QVERIFY(!FileWriter(place("a/b/file/below"), Readers::Owner).write("x"));
+    QVERIFY(FileWriter(place("file"), Readers::Owner).write("content"));
+    QCOMPARE(contentOf(place("file")), QByteArray("content"));
+    QVERIFY(FileWriter(place("file"), Readers::Owner).write({}));
+    QCOMPARE(contentOf(place("file")), QByteArray());
+    QVERIFY(!FileWriter(place("file/below"), Readers::Owner).write("x"));
+    QVERIFY(!FileWriter(place("missing/file"), Readers::Owner).write("x"));
     QVERIFY(!FileWriter(QString(), Readers::Owner).write("x"));
+    QCOMPARE(names(), QStringList(text("file")));
 }
 
 void FileWriterTest::whoMayRead()
