@@ -37,9 +37,13 @@ CommandCatalogue::CommandCatalogue(QMainWindow *window, const QHash<QString, QSt
     }
     connect(&m_watcher, &MenuChanges::structureChanged, this, [this] {
         m_stale = true;
+        prepareSoon();
         Q_EMIT menusChanged();
     });
     connect(&m_watcher, &MenuChanges::actionChanged, this, &CommandCatalogue::onActionChanged);
+    m_preparation.setSingleShot(true);
+    m_preparation.setInterval(kPreparationTime);
+    connect(&m_preparation, &QTimer::timeout, this, &CommandCatalogue::prepare);
 }
 
 CommandCatalogue::~CommandCatalogue() = default;
@@ -163,6 +167,7 @@ void CommandCatalogue::onActionChanged(QAction *action)
 {
     if (qobject_cast<EntryAction *>(action))
         return;
+    prepareSoon();
     const ActionItem *item = m_byAction.value(action);
     if (item && item->isPresent && ActionItem::isCommand(action)) {
         m_changedActions.insert(action);
@@ -171,6 +176,20 @@ void CommandCatalogue::onActionChanged(QAction *action)
     // A separator, a menu, or something that has just become a command or ceased to be one.
     m_stale = true;
     Q_EMIT menusChanged();
+}
+
+// Started by the first of many changes only: a program that never rests would put it off for
+// ever, and starting a timer costs more than all else that a change costs here.
+void CommandCatalogue::prepareSoon()
+{
+    if (m_wasRead && !m_preparation.isActive())
+        m_preparation.start();
+}
+
+void CommandCatalogue::prepare()
+{
+    update();
+    Q_EMIT prepared();
 }
 
 void CommandCatalogue::update()
@@ -190,6 +209,7 @@ void CommandCatalogue::update()
 void CommandCatalogue::scan()
 {
     m_stale = false;
+    m_wasRead = true;
     for (const auto &item : m_items)
         item->wasPresent = std::exchange(item->isPresent, false);
     m_met.reserve(m_items.size());

@@ -7,6 +7,7 @@
 #include <QHash>
 #include <QObject>
 #include <QSet>
+#include <QTimer>
 
 #include <memory>
 #include <vector>
@@ -31,7 +32,8 @@ namespace gesturewidget {
 // that were opened last, windows. They are not offered again while the menu that had them
 // is there without them.
 //
-// Reading is cheap: the menus are walked again only after they have changed.
+// Reading is cheap: the menus are walked again only after they have changed, and some time
+// after a change this is done without being asked, so that a gesture need not wait for it.
 class CommandCatalogue : public QObject
 {
     Q_OBJECT
@@ -83,12 +85,17 @@ public:
 
     // Walks the menus now if they have changed; every reading does so by itself.
     void update();
+    // Milliseconds from the first of many changes until they are read. Nothing is read by
+    // itself before the first reading: guesses need menus that are complete.
+    static constexpr int kPreparationTime = 250;
     // Walks the menus again at the next reading, whether or not they have changed.
     void invalidate() { m_stale = true; }
 
 Q_SIGNALS:
     // The menus' structure has changed; emitted at once, in the middle of the change.
     void menusChanged();
+    // What has changed is read; emitted from the event loop, kPreparationTime after a change.
+    void prepared();
 
 private:
     // A menu, menu bar or toolbar.
@@ -109,6 +116,8 @@ private:
     };
 
     void onActionChanged(QAction *action);
+    void prepareSoon();
+    void prepare();
     void scan();
     void walk(QWidget *widget, const Place &place);
     void meet(QAction *action, const Place &place);
@@ -135,6 +144,8 @@ private:
     QHash<QString, QString> m_reasons; // of guesses, by identifier
     bool m_guesses = false;
     bool m_stale = true;
+    bool m_wasRead = false;
+    QTimer m_preparation;
 
     // Only during a scan.
     QSet<const QWidget *> m_visited;

@@ -30,6 +30,8 @@ public:
     // Reports every view that is there and watches for more. Called once.
     void start();
     void stop();
+    // Goes on looking for the classes that it was given, if there are any.
+    void stopGuessing();
 
     // The widget that takes the pointer for `widget`: of a scroll area its viewport, else
     // itself.

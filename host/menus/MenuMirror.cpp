@@ -9,6 +9,7 @@
 #include <QMenuBar>
 #include <QSet>
 
+#include <functional>
 #include <utility>
 
 namespace gesturewidget {
@@ -38,6 +39,7 @@ MenuMirror::MenuMirror(CommandCatalogue &catalogue, ToolsMenu &tools, MenuEntrie
     , m_nothing(*this, nullptr)
 {
     connect(&m_catalogue, &CommandCatalogue::menusChanged, this, &MenuMirror::invalidate);
+    connect(&m_catalogue, &CommandCatalogue::prepared, this, &MenuMirror::prepare);
 }
 
 MenuMirror::~MenuMirror() = default;
@@ -115,6 +117,24 @@ CHxUIMenuItem *MenuMirror::itemOf(QAction *action)
     if (const auto *entry = qobject_cast<EntryAction *>(action))
         return entry->item();
     return m_items.of(action, [&] { return std::make_unique<ActionMenuItem>(*this, action); });
+}
+
+void MenuMirror::prepare()
+{
+    QSet<const CHxUIMenuItemCollection *> visited; // menus may contain each other
+    const std::function<void(const CHxUIMenuItemCollection *)> read =
+        [&](const CHxUIMenuItemCollection *items) {
+            if (!items || visited.contains(items))
+                return;
+            visited.insert(items);
+            for (int i = 0; i < items->GetCount(); ++i) {
+                if (const CHxUIMenuItem *item = items->GetItem(i))
+                    read(item->GetSubItems());
+            }
+        };
+    const QVector<QMenuBar *> bars = menuBars();
+    for (QMenuBar *bar : bars)
+        read(itemsOf(bar));
 }
 
 void MenuMirror::clean()

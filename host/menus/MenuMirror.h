@@ -22,9 +22,10 @@ class CommandCatalogue;
 class MenuEntries;
 class ToolsMenu;
 
-// The program's menu bars, menus and their actions as the objects that modules see, made
-// as they are asked for. One whose menu or action is gone stays, empty, until control is
-// back in the event loop.
+// The program's menu bars, menus and their actions as the objects that modules see. They are
+// made when they are asked for, and anew some time after the menus have changed, so that a
+// gesture need not wait for it. One whose menu or action is gone stays, empty, until control
+// is back in the event loop.
 class MenuMirror : public QObject
 {
     Q_OBJECT
@@ -53,6 +54,7 @@ public:
 private:
     [[nodiscard]] std::vector<CHxUIMenuItem *> listBar(const QMenuBar &bar);
     [[nodiscard]] CHxUIMenuItem *itemOf(QAction *action);
+    void prepare();
     void clean();
 
     CommandCatalogue &m_catalogue;

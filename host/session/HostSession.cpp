@@ -91,7 +91,8 @@ bool HostSession::start(QString *error)
     m_pointerFilter = std::make_unique<PointerFilter>(
         m_documents, chosenTrigger({profile.triggerButton, profile.triggerModifiers}),
         [this](const QWidget *view) { return isOfThisWindow(view) && gesturesAreEnabled(); });
-    m_viewFinder = std::make_unique<ViewFinder>(profile.viewClasses, m_options.guesses);
+    m_viewFinder =
+        std::make_unique<ViewFinder>(profile.viewClasses, m_options.guesses && m_addedViews.isEmpty());
     connect(m_viewFinder.get(), &ViewFinder::viewFound, this, &HostSession::openView);
     connect(&m_menuReadiness, &MenuReadiness::settled, this, [this] {
         m_menusHaveSettled = true;
@@ -202,8 +203,10 @@ void HostSession::addView(QWidget *view)
     m_addedViews.removeAll(nullptr); // those that are gone
     if (m_isRunning || !m_wasStarted)
         m_addedViews.append(view);
-    if (m_isRunning)
-        openView(ViewFinder::pointerWidget(view));
+    if (!m_isRunning)
+        return;
+    m_viewFinder->stopGuessing(); // a program that names a view names all of them
+    openView(ViewFinder::pointerWidget(view));
 }
 
 void HostSession::openView(QWidget *view)

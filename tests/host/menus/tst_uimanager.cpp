@@ -94,6 +94,7 @@ private Q_SLOTS:
     void theWindowMayGoFirst();
     void objectsOfGoneMenusAreFreed();
     void aWalkOutlivesTheMenusItWalks();
+    void changedMenusAreReadBeforeSomebodyAsks();
 
 private:
     void start(const QString &toolsMenu = {})
@@ -654,6 +655,17 @@ void UiManagerTest::aWalkOutlivesTheMenusItWalks()
     QCOMPARE(draw->GetSubItems(), nullptr);
     QCOMPARE(text(line->GetText()), QString());
     QCOMPARE(line->GetCommandItem(), nullptr);
+}
+
+void UiManagerTest::changedMenusAreReadBeforeSomebodyAsks()
+{
+    m_manager->NewMenuIterator(); // the first reading
+    const std::size_t before = m_manager->mirror().size();
+    QMenu *more = m_window->addMenu("&More", "moreMenu");
+    for (const char *name : {"one", "two", "three"})
+        DraftWindow::addAction(more, name, name);
+    more->addMenu(m_window->file); // menus may contain each other
+    QTRY_VERIFY(m_manager->mirror().size() >= before + 4);
 }
 
 QTEST_MAIN(UiManagerTest)
