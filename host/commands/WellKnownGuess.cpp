@@ -1,5 +1,6 @@
 #include "host/commands/WellKnownGuess.h"
 
+#include "host/captions/KnownCaptions.h"
 #include "host/window/Captions.h"
 #include "sdk/QtBridge.h"
 
@@ -31,95 +32,6 @@ constexpr int kMenuWeight = 1;
 // Of a file command's shortcut in another menu than the first: some program runs something
 // else by it.
 constexpr int kDoubtfulWeight = 1;
-
-struct Signs
-{
-    const char *identifier;
-    const char *caption;
-    QKeySequence::StandardKey shortcut;
-    QStringList icons;
-    // In lower case, words separated by one space. An object name is compared with them
-    // once its words that name no deed are gone, see kNoise.
-    QStringList words;
-    QStringList menus; // captions, likewise
-    // Words that say too little but in one of these menus.
-    QStringList wordsInMenus;
-};
-
-const QVector<Signs> &allSigns()
-{
-    const auto list = [](const char *text) {
-        return QString::fromLatin1(text).split(QLatin1Char('|'), Qt::SkipEmptyParts);
-    };
-    static const char *const drawing =
-        "draw|drawing|insert|add|add new|create|new|objects|tools|lines|line";
-    static const QVector<Signs> signs{
-        {"ID_COPY",
-         QT_TRANSLATE_NOOP("host", "Copy"),
-         QKeySequence::Copy,
-         list("edit-copy"),
-         list("copy|copy selection|copy selected|copy objects|copy features"),
-         list("edit|modify"),
-         {}},
-        {"ID_DTEXT",
-         QT_TRANSLATE_NOOP("host", "Text"),
-         QKeySequence::UnknownKey,
-         list("draw-text|insert-text|tool-text"),
-         list("text|add text|draw text|insert text|create text|new text|place text|add text field|"
-              "text field|add textfield|textfield|text frame|insert text frame|add text frame|"
-              "text label|add text label|text box|add text box|insert text box|text object|"
-              "text tool|single line text"),
-         list(drawing),
-         {}},
-        {"ID_LINE",
-         QT_TRANSLATE_NOOP("host", "Line"),
-         QKeySequence::UnknownKey,
-         list("draw-line|tool-line"),
-         list("line|add line|draw line|insert line|create line|new line|straight line|"
-              "line segment|line tool|lines|line 2 points|line by 2 points|line by two points|"
-              "line two points|two point line|add straight line"),
-         list(drawing),
-         {}},
-        {"ID_OFFSET",
-         QT_TRANSLATE_NOOP("host", "Offset"),
-         QKeySequence::UnknownKey,
-         list("object-offset|offset"),
-         list("offset|offset curve|parallel offset|2d offset"),
-         list("edit|modify|draft"),
-         {}},
-        {"ID_OPEN",
-         QT_TRANSLATE_NOOP("host", "Open"),
-         QKeySequence::Open,
-         list("document-open"),
-         list("open|open file|file open|open drawing|open document|open project"),
-         list("file|project|document"),
-         {}},
-        {"ID_SAVE",
-         QT_TRANSLATE_NOOP("host", "Save"),
-         QKeySequence::Save,
-         list("document-save"),
-         list("save|save file|file save|save drawing|save document|save project"),
-         list("file|project|document"),
-         {}},
-        {"ID_TRIM",
-         QT_TRANSLATE_NOOP("host", "Trim"),
-         QKeySequence::UnknownKey,
-         list("trim"),
-         list("trim|trimex|trim extend|trim edge|trim line|trim extend feature|trim curve|trim object"),
-         list("edit|modify|draft"),
-         {}},
-        {"ID_ZOOM_BOUNDS", QT_TRANSLATE_NOOP("host", "Zoom to Fit"), QKeySequence::UnknownKey,
-         list("zoom-fit-best|zoom-fit|zoom-fit-page|page-zoom"),
-         list("zoom fit|zoom to fit|fit zoom|zoom extents|zoom all|zoom to all|zoom bounds|zoom auto|"
-              "auto zoom|zoom fit best|zoom content|zoom to content|fit all|view fit|fit in view|"
-              "fit to view|fit view|fit to page|fit page|fit to window|fit in window|"
-              "fit to screen|fit content|fit to content|fit extents|zoom to extents|"
-              "zoom content to fit|zoom page|best fit|view all|zoom full|zoom full extent|"
-              "zoom to full extent|full extent|global zoom|zoom global"),
-         list("view|zoom|display"), list("fit|all|extents|best fit")},
-    };
-    return signs;
-}
 
 using Words = QSet<QString>;
 
@@ -167,6 +79,119 @@ QStringList wordsOfName(QString name)
     static const QRegularExpression humps(QStringLiteral("(?<=[a-z0-9])(?=[A-Z])"));
     const QString plain = plainWords(name.replace(humps, QStringLiteral(" ")));
     return {without(noise(), plain), without(kinds(), plain)};
+}
+
+struct Signs
+{
+    const char *identifier;
+    const char *caption;
+    QKeySequence::StandardKey shortcut;
+    QStringList icons;
+    const char *menuRoles; // of the menus where such commands are, separated by spaces
+    // In lower case, words separated by one space. An object name is compared with them
+    // once its words that name no deed are gone, see noise().
+    Words words;
+    Words menus; // captions, likewise
+    // Words that say too little but in one of these menus.
+    Words wordsInMenus;
+};
+
+Words plainWordsOf(const QStringList &captions)
+{
+    Words words;
+    for (const QString &caption : captions)
+        words.insert(plainWords(caption));
+    return words;
+}
+
+QVector<Signs> makeSigns()
+{
+    const auto list = [](const char *text) {
+        return QString::fromLatin1(text).split(QLatin1Char('|'), Qt::SkipEmptyParts);
+    };
+    QVector<Signs> signs{
+        {"ID_COPY",
+         QT_TRANSLATE_NOOP("host", "Copy"),
+         QKeySequence::Copy,
+         list("edit-copy"),
+         "edit",
+         {},
+         {},
+         {}},
+        {"ID_DTEXT",
+         QT_TRANSLATE_NOOP("host", "Text"),
+         QKeySequence::UnknownKey,
+         list("draw-text|insert-text|tool-text"),
+         "draw",
+         {},
+         {},
+         {}},
+        {"ID_LINE",
+         QT_TRANSLATE_NOOP("host", "Line"),
+         QKeySequence::UnknownKey,
+         list("draw-line|tool-line"),
+         "draw",
+         {},
+         {},
+         {}},
+        {"ID_OFFSET",
+         QT_TRANSLATE_NOOP("host", "Offset"),
+         QKeySequence::UnknownKey,
+         list("object-offset|offset"),
+         "edit draft",
+         {},
+         {},
+         {}},
+        {"ID_OPEN",
+         QT_TRANSLATE_NOOP("host", "Open"),
+         QKeySequence::Open,
+         list("document-open"),
+         "file",
+         {},
+         {},
+         {}},
+        {"ID_SAVE",
+         QT_TRANSLATE_NOOP("host", "Save"),
+         QKeySequence::Save,
+         list("document-save"),
+         "file",
+         {},
+         {},
+         {}},
+        {"ID_TRIM",
+         QT_TRANSLATE_NOOP("host", "Trim"),
+         QKeySequence::UnknownKey,
+         list("trim"),
+         "edit draft",
+         {},
+         {},
+         {}},
+        {"ID_ZOOM_BOUNDS",
+         QT_TRANSLATE_NOOP("host", "Zoom to Fit"),
+         QKeySequence::UnknownKey,
+         list("zoom-fit-best|zoom-fit|zoom-fit-page|page-zoom"),
+         "view",
+         {},
+         {},
+         {}},
+    };
+    for (Signs &sign : signs) {
+        const QString identifier = QLatin1String(sign.identifier);
+        for (const KnownCaptions &captions : KnownCaptions::languages()) {
+            sign.words |= plainWordsOf(captions.commands.value(identifier));
+            sign.wordsInMenus |= plainWordsOf(captions.commandsInTheirMenus.value(identifier));
+        }
+        const QStringList roles = QString::fromLatin1(sign.menuRoles).split(QLatin1Char(' '));
+        for (const QString &role : roles)
+            sign.menus |= plainWordsOf(KnownCaptions::menusOf(role));
+    }
+    return signs;
+}
+
+const QVector<Signs> &allSigns()
+{
+    static const QVector<Signs> signs = makeSigns();
+    return signs;
 }
 
 // Switches that show and hide a toolbar or a dock bear its title, not a deed.

@@ -1,3 +1,4 @@
+#include "host/captions/KnownCaptions.h"
 #include "host/commands/WellKnownGuess.h"
 #include "tests/support/FatalWarnings.h"
 
@@ -17,6 +18,7 @@
 #include <memory>
 #include <vector>
 
+using gesturewidget::KnownCaptions;
 using gesturewidget::WellKnownGuess;
 
 class WellKnownGuessTest : public QObject
@@ -51,6 +53,11 @@ private Q_SLOTS:
     void anActionStandsForOneOnly();
     void onlyWhatIsWanted();
     void captions();
+    void everyLanguageHasEveryCommand();
+    void captionsOfAllLanguages_data();
+    void captionsOfAllLanguages();
+    void wordsThatMeanSomethingElseElsewhere_data();
+    void wordsThatMeanSomethingElseElsewhere();
 
 private:
     QAction *add(const QString &name, const QString &caption, const QString &icon = {},
@@ -373,6 +380,107 @@ void WellKnownGuessTest::captions()
         QVERIFY2(!WellKnownGuess::captionOf(identifier).isEmpty(), qPrintable(identifier));
     QCOMPARE(WellKnownGuess::captionOf(QStringLiteral("ID_LINE")), QStringLiteral("Line"));
     QCOMPARE(WellKnownGuess::captionOf(QStringLiteral("fileOpen")), QString());
+}
+
+void WellKnownGuessTest::everyLanguageHasEveryCommand()
+{
+    const QVector<KnownCaptions> &languages = KnownCaptions::languages();
+    QCOMPARE(languages.size(), 10);
+    const QStringList identifiers = WellKnownGuess::identifiers();
+    QHash<QString, QString> commands; // by caption
+    for (const KnownCaptions &captions : languages) {
+        for (const char *role : {"tools", "help", "file", "edit", "view", "draw"})
+            QVERIFY2(!captions.menus.value(QLatin1String(role)).isEmpty(),
+                     qPrintable(captions.language + QLatin1Char(' ') + QLatin1String(role)));
+        for (const QString &identifier : identifiers) {
+            const QStringList known = captions.commands.value(identifier);
+            QVERIFY2(!known.isEmpty(), qPrintable(captions.language + QLatin1Char(' ') + identifier));
+            const QStringList all = known + captions.commandsInTheirMenus.value(identifier);
+            for (const QString &caption : all) {
+                QCOMPARE(caption, caption.toLower().simplified());
+                // In all languages together it names one command.
+                QCOMPARE(commands.value(caption, identifier), identifier);
+                commands.insert(caption, identifier);
+            }
+        }
+    }
+}
+
+void WellKnownGuessTest::captionsOfAllLanguages_data()
+{
+    QTest::addColumn<QString>("menu");
+    QTest::addColumn<QString>("caption");
+    QTest::addColumn<QString>("identifier");
+    const auto row = [](const char *menu, const char *caption, const char *identifier) {
+        QTest::newRow(caption) << QString::fromUtf8(menu) << QString::fromUtf8(caption)
+                               << QString::fromLatin1(identifier);
+    };
+    row("&Datei", "Ö&ffnen ...", "ID_OPEN");
+    row("&Ansicht", "Zoom anpassen", "ID_ZOOM_BOUNDS");
+    row("Z&eichnen", "&Linie", "ID_LINE");
+    row("&Ändern", "&Versatz", "ID_OFFSET");
+    row("&Fichier", "&Enregistrer", "ID_SAVE");
+    row("&Affichage", "Ajuster à la fenêtre", "ID_ZOOM_BOUNDS");
+    row("&Insertion", "Zone de &texte", "ID_DTEXT");
+    row("&Archivo", "&Guardar", "ID_SAVE");
+    row("&Dibujo", "&Línea", "ID_LINE");
+    row("&Modifica", "&Copia", "ID_COPY");
+    row("&Inserisci", "Casella di &testo", "ID_DTEXT");
+    row("&Arquivo", "&Abrir...", "ID_OPEN");
+    row("&Ficheiro", "&Gravar", "ID_SAVE");
+    row("&Edycja", "&Kopiuj", "ID_COPY");
+    row("&Widok", "Dopasuj do okna", "ID_ZOOM_BOUNDS");
+    row("&Файл", "&Сохранить", "ID_SAVE");
+    row("&Вид", "Вписать", "ID_ZOOM_BOUNDS");
+    row("作図(&D)", "線(&L)", "ID_LINE");
+    row("表示(&V)", "全体表示(&A)", "ID_ZOOM_BOUNDS");
+    row("编辑(&E)", "复制(&C)", "ID_COPY");
+    row("修改(&M)", "修剪(&T)", "ID_TRIM");
+    row("檔案(&F)", "儲存(&S)", "ID_SAVE");
+}
+
+void WellKnownGuessTest::captionsOfAllLanguages()
+{
+    QFETCH(QString, menu);
+    QFETCH(QString, caption);
+    QFETCH(QString, identifier);
+    QMenuBar bar;
+    QAction *action = add(QString(), caption);
+    bar.addMenu(menu)->addAction(action);
+    const WellKnownGuess found = WellKnownGuess::among(actions()).value(0);
+    QCOMPARE(found.identifier, identifier);
+    QCOMPARE(found.action, action);
+}
+
+void WellKnownGuessTest::wordsThatMeanSomethingElseElsewhere_data()
+{
+    QTest::addColumn<QString>("menu");
+    QTest::addColumn<QString>("caption");
+    const auto row = [](const char *menu, const char *caption) {
+        QTest::newRow(caption) << QString::fromUtf8(menu) << QString::fromUtf8(caption);
+    };
+    row("&Transport", "&Enregistrer"); // records sound
+    row("&Transporte", "&Gravar"); // likewise
+    row("&Bild", "Einpassen");
+    row("&Immagine", "Miglior adattamento"); // of a curve
+    row("&Imagen", "&Recortar"); // crops
+    row("&Image", "&Ajuster"); // changes colours
+    row("&Ver", "Mostrar todo"); // what is hidden
+    row("&Widok", "Pokaż wszystko");
+    row("書式(&O)", "文字(&C)"); // characters
+    row("円(&C)", "2点(&2)"); // a circle
+    row("&Карта", "Смещение");
+}
+
+void WellKnownGuessTest::wordsThatMeanSomethingElseElsewhere()
+{
+    QFETCH(QString, menu);
+    QFETCH(QString, caption);
+    QMenuBar bar;
+    bar.addMenu(QStringLiteral("&File"));
+    bar.addMenu(menu)->addAction(add(QString(), caption));
+    const QVector<WellKnownGuess> found = WellKnownGuess::among(actions());
+    QVERIFY2(found.isEmpty(), found.isEmpty() ? "" : qPrintable(found.first().reason));
 }
 
 QTEST_MAIN(WellKnownGuessTest)
