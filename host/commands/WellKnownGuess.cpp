@@ -21,9 +21,8 @@
 namespace gesturewidget {
 namespace {
 
-// Each sort of evidence outweighs all those after it together: a shortcut hardly ever lies,
-// a caption depends on the language. The menu tells "Insert > Text" from "Convert to > Text";
-// alone it says nothing.
+// Each kind of sign outweighs all those after it together. The menu tells "Insert > Text" from
+// "Convert to > Text"; alone it says nothing.
 constexpr int kShortcutWeight = 16;
 constexpr int kIconWeight = 8;
 constexpr int kNameWeight = 4;
@@ -81,6 +80,9 @@ QStringList wordsOfName(QString name)
     return {without(noise(), plain), without(kinds(), plain)};
 }
 
+// The role of menus with "Zoom to Fit".
+constexpr const char *kViewRole = "view";
+
 struct Signs
 {
     const char *identifier;
@@ -94,6 +96,8 @@ struct Signs
     Words menus; // captions, likewise
     // Words that say too little but in one of these menus.
     Words wordsInMenus;
+    // Single words among both: "Open Image" mentions "open".
+    Words mentions;
 };
 
 Words plainWordsOf(const QStringList &captions)
@@ -117,12 +121,14 @@ QVector<Signs> makeSigns()
          "edit",
          {},
          {},
+         {},
          {}},
         {"ID_DTEXT",
          QT_TRANSLATE_NOOP("host", "Text"),
          QKeySequence::UnknownKey,
          list("draw-text|insert-text|tool-text"),
          "draw",
+         {},
          {},
          {},
          {}},
@@ -133,12 +139,14 @@ QVector<Signs> makeSigns()
          "draw",
          {},
          {},
+         {},
          {}},
         {"ID_OFFSET",
          QT_TRANSLATE_NOOP("host", "Offset"),
          QKeySequence::UnknownKey,
          list("object-offset|offset"),
          "edit draft",
+         {},
          {},
          {},
          {}},
@@ -149,12 +157,14 @@ QVector<Signs> makeSigns()
          "file",
          {},
          {},
+         {},
          {}},
         {"ID_SAVE",
          QT_TRANSLATE_NOOP("host", "Save"),
          QKeySequence::Save,
          list("document-save"),
          "file",
+         {},
          {},
          {},
          {}},
@@ -165,12 +175,14 @@ QVector<Signs> makeSigns()
          "edit draft",
          {},
          {},
+         {},
          {}},
         {"ID_ZOOM_BOUNDS",
          QT_TRANSLATE_NOOP("host", "Zoom to Fit"),
          QKeySequence::UnknownKey,
          list("zoom-fit-best|zoom-fit|zoom-fit-page|page-zoom"),
-         "view",
+         kViewRole,
+         {},
          {},
          {},
          {}},
@@ -184,6 +196,13 @@ QVector<Signs> makeSigns()
         const QStringList roles = QString::fromLatin1(sign.menuRoles).split(QLatin1Char(' '));
         for (const QString &role : roles)
             sign.menus |= plainWordsOf(KnownCaptions::menusOf(role));
+        const Words all = Words(sign.words) | sign.wordsInMenus;
+        for (const QString &words : all) {
+            if (!words.contains(QLatin1Char(' ')))
+                sign.mentions.insert(words);
+        }
+        if (sign.menuRoles == kViewRole)
+            sign.mentions |= sign.menus; // "Zoom ..." with the icon for it
     }
     return signs;
 }
@@ -245,15 +264,21 @@ QVector<int> placesInBars(const QAction &action)
     return places;
 }
 
-QStringList menusOf(const QAction &action)
+// The titles of a menu and of those that it is in, the innermost first.
+QStringList titlesUpFrom(const QMenu *menu)
 {
-    QStringList menus;
-    const QWidgetList widgets = qtbridge::widgetsOf(action);
-    for (const QWidget *widget : widgets) {
-        if (const auto *menu = qobject_cast<const QMenu *>(widget))
-            menus.append(plainWords(plainCaption(menu->title())));
+    constexpr int kDeepest = 16; // menus may contain each other
+    QStringList titles;
+    for (int depth = 0; menu && depth < kDeepest; ++depth) {
+        titles.append(plainWords(plainCaption(menu->title())));
+        const QWidgetList widgets = qtbridge::widgetsOf(*menu->menuAction());
+        menu = nullptr;
+        for (const QWidget *widget : widgets) {
+            if (!menu)
+                menu = qobject_cast<const QMenu *>(widget);
+        }
     }
-    return menus;
+    return titles;
 }
 
 // What an action shows and is called, read once for all identifiers.
@@ -266,10 +291,18 @@ struct Look
         , nameWords(wordsOfName(action.objectName()))
         , caption(plainCaption(action.text()))
         , captionWords(plainWords(caption))
-        , menus(menusOf(action))
         , places(placesInBars(action))
         , isButtonOnly(places.isEmpty() && !qtbridge::widgetsOf(action).isEmpty())
+        , isCheckable(action.isCheckable())
     {
+        const QWidgetList widgets = qtbridge::widgetsOf(action);
+        for (const QWidget *widget : widgets) {
+            if (const auto *menu = qobject_cast<const QMenu *>(widget)) {
+                const QStringList titles = titlesUpFrom(menu);
+                menus.append(titles.first());
+                menusAbove += titles.mid(1);
+            }
+        }
     }
 
     QList<QKeySequence> shortcuts;
@@ -278,15 +311,102 @@ struct Look
     QStringList nameWords; // forms of the name
     QString caption;
     QString captionWords;
-    QStringList menus;
+    QStringList menus; // that it is in
+    QStringList menusAbove; // that those are in
     QVector<int> places;
     bool isButtonOnly; // or in a menu that opens over something
+    bool isCheckable;
 };
+
+bool containsAny(const QStringList &titles, const Words &known)
+{
+    return std::any_of(titles.begin(), titles.end(),
+                       [&known](const QString &title) { return known.contains(title); });
+}
+
+// Chinese and Japanese put no spaces between words.
+bool isUnspaced(const QString &word)
+{
+    constexpr char16_t kFirst = 0x3000; // of the blocks of their characters
+    return word.at(0).unicode() >= kFirst;
+}
+
+bool mentions(const QString &text, const Words &words)
+{
+    const QStringList parts = text.split(QLatin1Char(' '));
+    return std::any_of(words.begin(), words.end(), [&](const QString &word) {
+        return isUnspaced(word) ? text.contains(word) : parts.contains(word);
+    });
+}
+
+// What speaks for one identifier.
+struct Signals
+{
+    Signals(const Signs &signs, const Look &look)
+    {
+        isFileCommand = signs.shortcut == QKeySequence::Open || signs.shortcut == QKeySequence::Save;
+        const auto standard = signs.shortcut == QKeySequence::UnknownKey
+                                ? QList<QKeySequence>()
+                                : QKeySequence::keyBindings(signs.shortcut);
+        const auto found =
+            std::find_if(look.shortcuts.begin(), look.shortcuts.end(),
+                         [&standard](const QKeySequence &keys) { return standard.contains(keys); });
+        if (found != look.shortcuts.end())
+            shortcut = found->toString();
+        hasIcon = signs.icons.contains(look.icon);
+        isInMenu = containsAny(look.menus, signs.menus);
+        const auto isWord = [&](const QString &words) {
+            return signs.words.contains(words) || (isInMenu && signs.wordsInMenus.contains(words));
+        };
+        hasName = std::any_of(look.nameWords.begin(), look.nameWords.end(), isWord);
+        hasCaption = isWord(look.captionWords);
+        isMentioned =
+            mentions(look.captionWords, signs.mentions)
+            || std::any_of(look.nameWords.begin(), look.nameWords.end(),
+                           [&signs](const QString &name) { return mentions(name, signs.mentions); });
+        const bool isInFirstMenu = isFileCommand && look.places.contains(0);
+        isElsewhere = !look.places.isEmpty() && !isInMenu && !isInFirstMenu
+                   && !containsAny(look.menusAbove, signs.menus);
+        isDoubtful = isFileCommand && !look.places.isEmpty() && !look.places.contains(0);
+    }
+
+    bool isFileCommand;
+    QString shortcut; // empty if it has not the standard one
+    bool hasIcon;
+    bool hasName;
+    bool hasCaption;
+    bool isMentioned; // caption or object name contains a word for it
+    bool isInMenu; // where such commands are
+    bool isElsewhere; // in other menus only, at any depth
+    bool isDoubtful; // its shortcut
+};
+
+// A wrong command is worse than none: one weak sign does not suffice, nor do signs against
+// which another speaks.
+bool isConvincing(const Signs &signs, const Signals &has, const Look &look)
+{
+    // What stays switched on is a mode. Only tools and "keep it fitting" are such.
+    const bool isTool = signs.shortcut == QKeySequence::UnknownKey;
+    if (look.isCheckable && (!isTool || (signs.menuRoles == kViewRole && !has.hasIcon)))
+        return false;
+    const bool isSaid = has.hasName || has.hasCaption;
+    if (!has.shortcut.isEmpty() && (has.hasCaption || !has.isDoubtful) && (isSaid || has.isMentioned))
+        return true;
+    if (has.isElsewhere && signs.menuRoles != kViewRole)
+        return false;
+    // Of a button that is in no menu, "Save" may mean anything, and the command comes later.
+    if (look.isButtonOnly && !isTool && !has.hasName && !has.hasIcon)
+        return false;
+    return isSaid || (has.hasIcon && (has.isMentioned || !has.shortcut.isEmpty()));
+}
 
 WellKnownGuess judge(const Signs &signs, const Look &look)
 {
     WellKnownGuess guess;
     guess.identifier = QLatin1String(signs.identifier);
+    const Signals has(signs, look);
+    if (!isConvincing(signs, has, look))
+        return guess;
     QStringList reasons;
     const auto weigh = [&](bool speaksForIt, int weight, const QString &kind, const QString &what) {
         if (!speaksForIt)
@@ -294,34 +414,12 @@ WellKnownGuess judge(const Signs &signs, const Look &look)
         guess.weight += weight;
         reasons.append(QStringLiteral("%1 \"%2\"").arg(kind, what));
     };
-    if (signs.shortcut != QKeySequence::UnknownKey) {
-        const QList<QKeySequence> standard = QKeySequence::keyBindings(signs.shortcut);
-        const auto found =
-            std::find_if(look.shortcuts.begin(), look.shortcuts.end(),
-                         [&standard](const QKeySequence &keys) { return standard.contains(keys); });
-        const bool isFileCommand =
-            signs.shortcut == QKeySequence::Open || signs.shortcut == QKeySequence::Save;
-        const bool isDoubtful = isFileCommand && !look.places.isEmpty() && !look.places.contains(0);
-        if (found != look.shortcuts.end())
-            weigh(true, isDoubtful ? kDoubtfulWeight : kShortcutWeight, QStringLiteral("shortcut"),
-                  found->toString());
-    }
-    weigh(signs.icons.contains(look.icon), kIconWeight, QStringLiteral("icon"), look.icon);
-    const auto menu = std::find_if(look.menus.begin(), look.menus.end(), [&signs](const QString &title) {
-        return signs.menus.contains(title);
-    });
-    const bool isInMenu = menu != look.menus.end();
-    const auto isWord = [&signs, isInMenu](const QString &words) {
-        return signs.words.contains(words) || (isInMenu && signs.wordsInMenus.contains(words));
-    };
-    weigh(std::any_of(look.nameWords.begin(), look.nameWords.end(), isWord), kNameWeight,
-          QStringLiteral("object name"), look.name);
-    // Of a button that is in no menu, "Save" may mean anything, and the command comes later.
-    const bool isEnough =
-        guess.weight > 0 || !look.isButtonOnly || signs.shortcut == QKeySequence::UnknownKey;
-    weigh(isEnough && isWord(look.captionWords), kCaptionWeight, QStringLiteral("caption"),
-          look.caption);
-    if (guess.weight > 0 && isInMenu)
+    weigh(!has.shortcut.isEmpty(), has.isDoubtful ? kDoubtfulWeight : kShortcutWeight,
+          QStringLiteral("shortcut"), has.shortcut);
+    weigh(has.hasIcon, kIconWeight, QStringLiteral("icon"), look.icon);
+    weigh(has.hasName, kNameWeight, QStringLiteral("object name"), look.name);
+    weigh(has.hasCaption, kCaptionWeight, QStringLiteral("caption"), look.caption);
+    if (has.isInMenu)
         guess.weight += kMenuWeight;
     guess.reason = reasons.join(QStringLiteral(", "));
     return guess;
