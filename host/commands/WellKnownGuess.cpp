@@ -1,5 +1,6 @@
 #include "host/commands/WellKnownGuess.h"
 
+#include "host/captions/KnownCaptions.h"
 #include "host/window/Captions.h"
 #include "sdk/QtBridge.h"
 
@@ -20,9 +21,8 @@
 namespace gesturewidget {
 namespace {
 
-// Each sort of evidence outweighs all those after it together: a shortcut hardly ever lies,
-// a caption depends on the language. The menu tells "Insert > Text" from "Convert to > Text";
-// alone it says nothing.
+// Each kind of sign outweighs all those after it together. The menu tells "Insert > Text" from
+// "Convert to > Text"; alone it says nothing.
 constexpr int kShortcutWeight = 16;
 constexpr int kIconWeight = 8;
 constexpr int kNameWeight = 4;
@@ -31,95 +31,6 @@ constexpr int kMenuWeight = 1;
 // Of a file command's shortcut in another menu than the first: some program runs something
 // else by it.
 constexpr int kDoubtfulWeight = 1;
-
-struct Signs
-{
-    const char *identifier;
-    const char *caption;
-    QKeySequence::StandardKey shortcut;
-    QStringList icons;
-    // In lower case, words separated by one space. An object name is compared with them
-    // once its words that name no deed are gone, see kNoise.
-    QStringList words;
-    QStringList menus; // captions, likewise
-    // Words that say too little but in one of these menus.
-    QStringList wordsInMenus;
-};
-
-const QVector<Signs> &allSigns()
-{
-    const auto list = [](const char *text) {
-        return QString::fromLatin1(text).split(QLatin1Char('|'), Qt::SkipEmptyParts);
-    };
-    static const char *const drawing =
-        "draw|drawing|insert|add|add new|create|new|objects|tools|lines|line";
-    static const QVector<Signs> signs{
-        {"ID_COPY",
-         QT_TRANSLATE_NOOP("host", "Copy"),
-         QKeySequence::Copy,
-         list("edit-copy"),
-         list("copy|copy selection|copy selected|copy objects|copy features"),
-         list("edit|modify"),
-         {}},
-        {"ID_DTEXT",
-         QT_TRANSLATE_NOOP("host", "Text"),
-         QKeySequence::UnknownKey,
-         list("draw-text|insert-text|tool-text"),
-         list("text|add text|draw text|insert text|create text|new text|place text|add text field|"
-              "text field|add textfield|textfield|text frame|insert text frame|add text frame|"
-              "text label|add text label|text box|add text box|insert text box|text object|"
-              "text tool|single line text"),
-         list(drawing),
-         {}},
-        {"ID_LINE",
-         QT_TRANSLATE_NOOP("host", "Line"),
-         QKeySequence::UnknownKey,
-         list("draw-line|tool-line"),
-         list("line|add line|draw line|insert line|create line|new line|straight line|"
-              "line segment|line tool|lines|line 2 points|line by 2 points|line by two points|"
-              "line two points|two point line|add straight line"),
-         list(drawing),
-         {}},
-        {"ID_OFFSET",
-         QT_TRANSLATE_NOOP("host", "Offset"),
-         QKeySequence::UnknownKey,
-         list("object-offset|offset"),
-         list("offset|offset curve|parallel offset|2d offset"),
-         list("edit|modify|draft"),
-         {}},
-        {"ID_OPEN",
-         QT_TRANSLATE_NOOP("host", "Open"),
-         QKeySequence::Open,
-         list("document-open"),
-         list("open|open file|file open|open drawing|open document|open project"),
-         list("file|project|document"),
-         {}},
-        {"ID_SAVE",
-         QT_TRANSLATE_NOOP("host", "Save"),
-         QKeySequence::Save,
-         list("document-save"),
-         list("save|save file|file save|save drawing|save document|save project"),
-         list("file|project|document"),
-         {}},
-        {"ID_TRIM",
-         QT_TRANSLATE_NOOP("host", "Trim"),
-         QKeySequence::UnknownKey,
-         list("trim"),
-         list("trim|trimex|trim extend|trim edge|trim line|trim extend feature|trim curve|trim object"),
-         list("edit|modify|draft"),
-         {}},
-        {"ID_ZOOM_BOUNDS", QT_TRANSLATE_NOOP("host", "Zoom to Fit"), QKeySequence::UnknownKey,
-         list("zoom-fit-best|zoom-fit|zoom-fit-page|page-zoom"),
-         list("zoom fit|zoom to fit|fit zoom|zoom extents|zoom all|zoom to all|zoom bounds|zoom auto|"
-              "auto zoom|zoom fit best|zoom content|zoom to content|fit all|view fit|fit in view|"
-              "fit to view|fit view|fit to page|fit page|fit to window|fit in window|"
-              "fit to screen|fit content|fit to content|fit extents|zoom to extents|"
-              "zoom content to fit|zoom page|best fit|view all|zoom full|zoom full extent|"
-              "zoom to full extent|full extent|global zoom|zoom global"),
-         list("view|zoom|display"), list("fit|all|extents|best fit")},
-    };
-    return signs;
-}
 
 using Words = QSet<QString>;
 
@@ -167,6 +78,139 @@ QStringList wordsOfName(QString name)
     static const QRegularExpression humps(QStringLiteral("(?<=[a-z0-9])(?=[A-Z])"));
     const QString plain = plainWords(name.replace(humps, QStringLiteral(" ")));
     return {without(noise(), plain), without(kinds(), plain)};
+}
+
+// The role of menus with "Zoom to Fit".
+constexpr const char *kViewRole = "view";
+
+struct Signs
+{
+    const char *identifier;
+    const char *caption;
+    QKeySequence::StandardKey shortcut;
+    QStringList icons;
+    const char *menuRoles; // of the menus where such commands are, separated by spaces
+    // In lower case, words separated by one space. An object name is compared with them
+    // once its words that name no deed are gone, see noise().
+    Words words;
+    Words menus; // captions, likewise
+    // Words that say too little but in one of these menus.
+    Words wordsInMenus;
+    // Single words among both: "Open Image" mentions "open".
+    Words mentions;
+};
+
+Words plainWordsOf(const QStringList &captions)
+{
+    Words words;
+    for (const QString &caption : captions)
+        words.insert(plainWords(caption));
+    return words;
+}
+
+QVector<Signs> makeSigns()
+{
+    const auto list = [](const char *text) {
+        return QString::fromLatin1(text).split(QLatin1Char('|'), Qt::SkipEmptyParts);
+    };
+    QVector<Signs> signs{
+        {"ID_COPY",
+         QT_TRANSLATE_NOOP("host", "Copy"),
+         QKeySequence::Copy,
+         list("edit-copy"),
+         "edit",
+         {},
+         {},
+         {},
+         {}},
+        {"ID_DTEXT",
+         QT_TRANSLATE_NOOP("host", "Text"),
+         QKeySequence::UnknownKey,
+         list("draw-text|insert-text|tool-text"),
+         "draw",
+         {},
+         {},
+         {},
+         {}},
+        {"ID_LINE",
+         QT_TRANSLATE_NOOP("host", "Line"),
+         QKeySequence::UnknownKey,
+         list("draw-line|tool-line"),
+         "draw",
+         {},
+         {},
+         {},
+         {}},
+        {"ID_OFFSET",
+         QT_TRANSLATE_NOOP("host", "Offset"),
+         QKeySequence::UnknownKey,
+         list("object-offset|offset"),
+         "edit draft",
+         {},
+         {},
+         {},
+         {}},
+        {"ID_OPEN",
+         QT_TRANSLATE_NOOP("host", "Open"),
+         QKeySequence::Open,
+         list("document-open"),
+         "file",
+         {},
+         {},
+         {},
+         {}},
+        {"ID_SAVE",
+         QT_TRANSLATE_NOOP("host", "Save"),
+         QKeySequence::Save,
+         list("document-save"),
+         "file",
+         {},
+         {},
+         {},
+         {}},
+        {"ID_TRIM",
+         QT_TRANSLATE_NOOP("host", "Trim"),
+         QKeySequence::UnknownKey,
+         list("trim"),
+         "edit draft",
+         {},
+         {},
+         {},
+         {}},
+        {"ID_ZOOM_BOUNDS",
+         QT_TRANSLATE_NOOP("host", "Zoom to Fit"),
+         QKeySequence::UnknownKey,
+         list("zoom-fit-best|zoom-fit|zoom-fit-page|page-zoom"),
+         kViewRole,
+         {},
+         {},
+         {},
+         {}},
+    };
+    for (Signs &sign : signs) {
+        const QString identifier = QLatin1String(sign.identifier);
+        for (const KnownCaptions &captions : KnownCaptions::languages()) {
+            sign.words |= plainWordsOf(captions.commands.value(identifier));
+            sign.wordsInMenus |= plainWordsOf(captions.commandsInTheirMenus.value(identifier));
+        }
+        const QStringList roles = QString::fromLatin1(sign.menuRoles).split(QLatin1Char(' '));
+        for (const QString &role : roles)
+            sign.menus |= plainWordsOf(KnownCaptions::menusOf(role));
+        const Words all = Words(sign.words) | sign.wordsInMenus;
+        for (const QString &words : all) {
+            if (!words.contains(QLatin1Char(' ')))
+                sign.mentions.insert(words);
+        }
+        if (sign.menuRoles == kViewRole)
+            sign.mentions |= sign.menus; // "Zoom ..." with the icon for it
+    }
+    return signs;
+}
+
+const QVector<Signs> &allSigns()
+{
+    static const QVector<Signs> signs = makeSigns();
+    return signs;
 }
 
 // Switches that show and hide a toolbar or a dock bear its title, not a deed.
@@ -220,15 +264,21 @@ QVector<int> placesInBars(const QAction &action)
     return places;
 }
 
-QStringList menusOf(const QAction &action)
+// The titles of a menu and of those that it is in, the innermost first.
+QStringList titlesUpFrom(const QMenu *menu)
 {
-    QStringList menus;
-    const QWidgetList widgets = qtbridge::widgetsOf(action);
-    for (const QWidget *widget : widgets) {
-        if (const auto *menu = qobject_cast<const QMenu *>(widget))
-            menus.append(plainWords(plainCaption(menu->title())));
+    constexpr int kDeepest = 16; // menus may contain each other
+    QStringList titles;
+    for (int depth = 0; menu && depth < kDeepest; ++depth) {
+        titles.append(plainWords(plainCaption(menu->title())));
+        const QWidgetList widgets = qtbridge::widgetsOf(*menu->menuAction());
+        menu = nullptr;
+        for (const QWidget *widget : widgets) {
+            if (!menu)
+                menu = qobject_cast<const QMenu *>(widget);
+        }
     }
-    return menus;
+    return titles;
 }
 
 // What an action shows and is called, read once for all identifiers.
@@ -241,10 +291,18 @@ struct Look
         , nameWords(wordsOfName(action.objectName()))
         , caption(plainCaption(action.text()))
         , captionWords(plainWords(caption))
-        , menus(menusOf(action))
         , places(placesInBars(action))
         , isButtonOnly(places.isEmpty() && !qtbridge::widgetsOf(action).isEmpty())
+        , isCheckable(action.isCheckable())
     {
+        const QWidgetList widgets = qtbridge::widgetsOf(action);
+        for (const QWidget *widget : widgets) {
+            if (const auto *menu = qobject_cast<const QMenu *>(widget)) {
+                const QStringList titles = titlesUpFrom(menu);
+                menus.append(titles.first());
+                menusAbove += titles.mid(1);
+            }
+        }
     }
 
     QList<QKeySequence> shortcuts;
@@ -253,15 +311,102 @@ struct Look
     QStringList nameWords; // forms of the name
     QString caption;
     QString captionWords;
-    QStringList menus;
+    QStringList menus; // that it is in
+    QStringList menusAbove; // that those are in
     QVector<int> places;
     bool isButtonOnly; // or in a menu that opens over something
+    bool isCheckable;
 };
+
+bool containsAny(const QStringList &titles, const Words &known)
+{
+    return std::any_of(titles.begin(), titles.end(),
+                       [&known](const QString &title) { return known.contains(title); });
+}
+
+// Chinese and Japanese put no spaces between words.
+bool isUnspaced(const QString &word)
+{
+    constexpr char16_t kFirst = 0x3000; // of the blocks of their characters
+    return word.at(0).unicode() >= kFirst;
+}
+
+bool mentions(const QString &text, const Words &words)
+{
+    const QStringList parts = text.split(QLatin1Char(' '));
+    return std::any_of(words.begin(), words.end(), [&](const QString &word) {
+        return isUnspaced(word) ? text.contains(word) : parts.contains(word);
+    });
+}
+
+// What speaks for one identifier.
+struct Signals
+{
+    Signals(const Signs &signs, const Look &look)
+    {
+        isFileCommand = signs.shortcut == QKeySequence::Open || signs.shortcut == QKeySequence::Save;
+        const auto standard = signs.shortcut == QKeySequence::UnknownKey
+                                ? QList<QKeySequence>()
+                                : QKeySequence::keyBindings(signs.shortcut);
+        const auto found =
+            std::find_if(look.shortcuts.begin(), look.shortcuts.end(),
+                         [&standard](const QKeySequence &keys) { return standard.contains(keys); });
+        if (found != look.shortcuts.end())
+            shortcut = found->toString();
+        hasIcon = signs.icons.contains(look.icon);
+        isInMenu = containsAny(look.menus, signs.menus);
+        const auto isWord = [&](const QString &words) {
+            return signs.words.contains(words) || (isInMenu && signs.wordsInMenus.contains(words));
+        };
+        hasName = std::any_of(look.nameWords.begin(), look.nameWords.end(), isWord);
+        hasCaption = isWord(look.captionWords);
+        isMentioned =
+            mentions(look.captionWords, signs.mentions)
+            || std::any_of(look.nameWords.begin(), look.nameWords.end(),
+                           [&signs](const QString &name) { return mentions(name, signs.mentions); });
+        const bool isInFirstMenu = isFileCommand && look.places.contains(0);
+        isElsewhere = !look.places.isEmpty() && !isInMenu && !isInFirstMenu
+                   && !containsAny(look.menusAbove, signs.menus);
+        isDoubtful = isFileCommand && !look.places.isEmpty() && !look.places.contains(0);
+    }
+
+    bool isFileCommand;
+    QString shortcut; // empty if it has not the standard one
+    bool hasIcon;
+    bool hasName;
+    bool hasCaption;
+    bool isMentioned; // caption or object name contains a word for it
+    bool isInMenu; // where such commands are
+    bool isElsewhere; // in other menus only, at any depth
+    bool isDoubtful; // its shortcut
+};
+
+// A wrong command is worse than none: one weak sign does not suffice, nor do signs against
+// which another speaks.
+bool isConvincing(const Signs &signs, const Signals &has, const Look &look)
+{
+    // What stays switched on is a mode. Only tools and "keep it fitting" are such.
+    const bool isTool = signs.shortcut == QKeySequence::UnknownKey;
+    if (look.isCheckable && (!isTool || (signs.menuRoles == kViewRole && !has.hasIcon)))
+        return false;
+    const bool isSaid = has.hasName || has.hasCaption;
+    if (!has.shortcut.isEmpty() && (has.hasCaption || !has.isDoubtful) && (isSaid || has.isMentioned))
+        return true;
+    if (has.isElsewhere && signs.menuRoles != kViewRole)
+        return false;
+    // Of a button that is in no menu, "Save" may mean anything, and the command comes later.
+    if (look.isButtonOnly && !isTool && !has.hasName && !has.hasIcon)
+        return false;
+    return isSaid || (has.hasIcon && (has.isMentioned || !has.shortcut.isEmpty()));
+}
 
 WellKnownGuess judge(const Signs &signs, const Look &look)
 {
     WellKnownGuess guess;
     guess.identifier = QLatin1String(signs.identifier);
+    const Signals has(signs, look);
+    if (!isConvincing(signs, has, look))
+        return guess;
     QStringList reasons;
     const auto weigh = [&](bool speaksForIt, int weight, const QString &kind, const QString &what) {
         if (!speaksForIt)
@@ -269,34 +414,12 @@ WellKnownGuess judge(const Signs &signs, const Look &look)
         guess.weight += weight;
         reasons.append(QStringLiteral("%1 \"%2\"").arg(kind, what));
     };
-    if (signs.shortcut != QKeySequence::UnknownKey) {
-        const QList<QKeySequence> standard = QKeySequence::keyBindings(signs.shortcut);
-        const auto found =
-            std::find_if(look.shortcuts.begin(), look.shortcuts.end(),
-                         [&standard](const QKeySequence &keys) { return standard.contains(keys); });
-        const bool isFileCommand =
-            signs.shortcut == QKeySequence::Open || signs.shortcut == QKeySequence::Save;
-        const bool isDoubtful = isFileCommand && !look.places.isEmpty() && !look.places.contains(0);
-        if (found != look.shortcuts.end())
-            weigh(true, isDoubtful ? kDoubtfulWeight : kShortcutWeight, QStringLiteral("shortcut"),
-                  found->toString());
-    }
-    weigh(signs.icons.contains(look.icon), kIconWeight, QStringLiteral("icon"), look.icon);
-    const auto menu = std::find_if(look.menus.begin(), look.menus.end(), [&signs](const QString &title) {
-        return signs.menus.contains(title);
-    });
-    const bool isInMenu = menu != look.menus.end();
-    const auto isWord = [&signs, isInMenu](const QString &words) {
-        return signs.words.contains(words) || (isInMenu && signs.wordsInMenus.contains(words));
-    };
-    weigh(std::any_of(look.nameWords.begin(), look.nameWords.end(), isWord), kNameWeight,
-          QStringLiteral("object name"), look.name);
-    // Of a button that is in no menu, "Save" may mean anything, and the command comes later.
-    const bool isEnough =
-        guess.weight > 0 || !look.isButtonOnly || signs.shortcut == QKeySequence::UnknownKey;
-    weigh(isEnough && isWord(look.captionWords), kCaptionWeight, QStringLiteral("caption"),
-          look.caption);
-    if (guess.weight > 0 && isInMenu)
+    weigh(!has.shortcut.isEmpty(), has.isDoubtful ? kDoubtfulWeight : kShortcutWeight,
+          QStringLiteral("shortcut"), has.shortcut);
+    weigh(has.hasIcon, kIconWeight, QStringLiteral("icon"), look.icon);
+    weigh(has.hasName, kNameWeight, QStringLiteral("object name"), look.name);
+    weigh(has.hasCaption, kCaptionWeight, QStringLiteral("caption"), look.caption);
+    if (has.isInMenu)
         guess.weight += kMenuWeight;
     guess.reason = reasons.join(QStringLiteral(", "));
     return guess;

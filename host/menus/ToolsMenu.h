@@ -15,15 +15,16 @@ class MenuChanges;
 class ToolsMenu
 {
 public:
-    // `wanted` is the object name or caption of the program's menu; empty to look for one
-    // that is called "Tools" by either.
+    // `wanted` is the object name or caption of the program's menu. If it is empty or no menu
+    // has it, the menu is the one that either calls "Tools" in a known language.
     ToolsMenu(const MenuChanges &watcher, const QString &wanted);
     ~ToolsMenu();
     Q_DISABLE_COPY_MOVE(ToolsMenu)
 
     // Null when there is none: the program has none and nobody has asked for one yet.
     [[nodiscard]] QMenu *find() const;
-    // Null only without a menu bar. A menu that is made stands before Help.
+    // Null only without a menu bar. A menu that is made stands before Help;
+    // its caption is in the language of the program's other menus.
     [[nodiscard]] QMenu *findOrMake();
     // The menu that was made; null if none.
     [[nodiscard]] QMenu *made() const { return m_made; }
