@@ -126,6 +126,7 @@ void MgDonutDialogPVStyleImpl::TryStart(const QPoint &)
     // The pointer may already be anywhere. If it is far out, the fading runs here, before the ring
     // is visible, and the next move ends the gesture.
     mousePositionChanged(pointer.x() - origin.x(), origin.y() - pointer.y());
+    bypassWindowManager(); // Qt 6 makes a new window after somebody closed the ring
     takeBackdrop();
     setVisible(true);
     // The X server maps an unmanaged window at once, so it grants both grabs.
@@ -281,6 +282,8 @@ void MgDonutDialogPVStyleImpl::tellNothing()
 
 void MgDonutDialogPVStyleImpl::bypassWindowManager()
 {
+    if (windowHandle() && windowHandle()->flags().testFlag(Qt::BypassWindowManagerHint))
+        return;
     // A window manager would give the ring the focus and a task-bar entry, push it away from
     // the edges of the screen or hide it as a tool of an inactive program. It learns of a
     // window when it is mapped, so the flag comes before. QWidget's own flags stay as they are.
