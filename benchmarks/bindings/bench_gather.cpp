@@ -27,14 +27,15 @@ public:
         tests::FakeMenuItem *menus[kMenus];
         for (int menu = 0; menu < kMenus; ++menu)
             menus[menu] = host.addTopLevelMenu(QStringLiteral("&Menu %1").arg(menu));
+        // Menu by menu, as programs do.
         for (int number = 0; number < count; ++number) {
             const QString name = QString::number(number);
             tests::FakeCommandItem *item = host.commands.addCommand(
                 QLatin1String("ID_COMMAND_") + name, QLatin1String("command ") + name,
                 QLatin1String("Command ") + name, QLatin1String("What it does, number ") + name);
             item->smallIcon = QIcon(pixmap);
-            tests::FakeMenuItem *entry =
-                host.ui.addItem(menus[number % kMenus]->subItems.get(), item->caption, false, {}, item);
+            tests::FakeMenuItem *entry = host.ui.addItem(menus[number * kMenus / count]->subItems.get(),
+                                                         item->caption, false, {}, item);
             items.push_back(item);
             entries.push_back(entry);
         }
