@@ -1,17 +1,21 @@
 #pragma once
 
+#include "bindings/CategoryWalk.h"
 #include "bindings/DonutHelperData.h"
 #include "bindings/DonutScheme.h"
 #include "bindings/HostCall.h"
 #include "bindings/MgCommandDS.h"
 
+#include <QHash>
 #include <QMap>
 #include <QString>
 #include <QtGlobal>
 
+#include <cstddef>
 #include <utility>
 #include <vector>
 
+class CHxUICommandItem;
 class CHxUIMenuItemCollection;
 
 // The process's one set of gesture bindings: every command that the host offers, which of
@@ -101,15 +105,30 @@ private:
     {
         m_readingFailed = m_readingFailed || !hostCall(std::forward<Call>(call));
     }
-    void readCommands();
+    // Makes `commands` of what the host offers, unless that is what `last` holds already: then
+    // m_isListAsBefore is set and `commands` stays empty. `bound` receives the places of the
+    // records of `last` that have a direction, as far as they hold.
+    void readCommands(const std::vector<MgCommandDS> &last, std::vector<std::size_t> &bound);
+    [[nodiscard]] QIcon iconOf(const CHxUICommandItem &item) const;
+    // The place of the first record with an identifier; -1 for none.
+    [[nodiscard]] int placeOf(const QString &id);
     void readDirections(DonutScheme directionScheme);
     void fileAllCommands();
     void fileCommands(const QString &parentCategory, CHxUIMenuItemCollection *items);
+    void fileCommand(const QString &command, const QString &category);
     [[nodiscard]] const std::vector<int> &activeTable() const;
     // Null for a place where no record is.
     [[nodiscard]] const MgCommandDS *recordAt(int place) const;
 
     bool m_readingFailed = false;
+    CategoryWalk m_categoryWalk;
+    bool m_isWalking = false; // through all menus, by fillCommandCategoryMap()
+    // Whether the records have the categories of the last walk, with this word for "Others".
+    bool m_categoriesHold = false;
+    QString m_others;
+    bool m_isListAsBefore = false;
+    // The places of identifiers that were looked for in the list as it is.
+    QHash<QString, int> m_places;
     // The collections that fileCommands() is inside of, outermost first.
     std::vector<const CHxUIMenuItemCollection *> m_openMenus;
 };

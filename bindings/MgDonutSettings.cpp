@@ -10,9 +10,10 @@
 
 namespace {
 
-CHxString section()
+const CHxString &section()
 {
-    return CHxString("GestureWidget");
+    static const CHxString name("GestureWidget");
+    return name;
 }
 
 // Null when there is nowhere to keep anything.

@@ -3,6 +3,7 @@
 #include "bindings/HostCall.h"
 #include "bindings/MgDonutDataContainer.h"
 #include "dialog/BindingListDocument.h"
+#include "dialog/BindingListPrinter.h"
 #include "dialog/MgCommandDSModel.h"
 #include "dialog/MgCommandDSSortFilterProxyModel.h"
 #include "dialog/MgCommandModelDelegate.h"
@@ -39,6 +40,7 @@
 namespace {
 
 constexpr int kHelpTopic = 9000;
+constexpr int kFormWidth = 414; // pixels, of the dialog as it is laid out
 // Characters of a description. The label has room for a few hundred; laying out a whole
 // million of them would stop the program for seconds.
 constexpr int kLongestDescription = 10000;
@@ -143,6 +145,15 @@ void MgDonutDialogManager::fixWidth()
     }
     setMinimumWidth(width());
     setMaximumWidth(width());
+
+    // Below its title the description has room for three lines.
+    QGroupBox *box = ui.description_groupBox;
+    QLabel *label = ui.description_label;
+    const int line = fontMetrics().height();
+    const int below = box->minimumHeight() - label->geometry().bottom();
+    const int top = std::max(label->y(), line + 2);
+    label->setGeometry(label->x(), top, label->width(), std::max(label->height(), 3 * line + 4));
+    box->setMinimumHeight(label->geometry().bottom() + below);
 }
 
 void MgDonutDialogManager::fillCategories()
@@ -226,6 +237,8 @@ void MgDonutDialogManager::setUpRowsAndColumns()
 {
     MgCommandTableView *table = ui.command_tableView;
     QHeaderView *columns = table->horizontalHeader();
+    // The columns have their share of a dialog that had to be wider.
+    columns->setDefaultSectionSize(columns->defaultSectionSize() * width() / kFormWidth);
     columns->resizeSection(MgCommandDSModel::kCommandColumn,
                            static_cast<int>(columns->defaultSectionSize() * 2.1));
     // Only asked for: the last section takes the width that is left.
@@ -527,9 +540,11 @@ int MgDonutDialogManager::runPrintDialog(QPrinter &printer)
 void MgDonutDialogManager::printList()
 {
     QPrinter printer(QPrinter::HighResolution);
+    // The title of a PDF, and what a queue of print jobs shows.
+    printer.setDocName(windowTitle());
     if (runPrintDialog(printer) != QDialog::Accepted)
         return;
     const std::unique_ptr<QTextDocument> document(
         createBindingListDocument(ui.command_tableView->model()));
-    document->print(&printer);
+    printBindingList(*document, printer);
 }

@@ -809,6 +809,10 @@ void DirectionEditorTest::styleDrawsEverythingElse()
             ? QStringLiteral("Plastique")
             : QStringLiteral("Fusion")));
     QCOMPARE(drawn(style, primitive), drawn(*base, primitive));
+    // Something is drawn at all.
+    QImage empty(60, 30, QImage::Format_ARGB32_Premultiplied);
+    empty.fill(Qt::white);
+    QVERIFY(drawn(style, primitive) != empty);
 }
 
 void DirectionEditorTest::tableShowsNoFocusRectangle()

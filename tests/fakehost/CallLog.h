@@ -16,7 +16,8 @@ public:
     void add(const QString &call)
     {
         FakeFault::pass();
-        calls.append(call);
+        if (isOn)
+            calls.append(call);
         if (!throwOn.isEmpty() && call.startsWith(throwOn))
             throw std::runtime_error("the fake host was told to throw");
     }
@@ -33,6 +34,8 @@ public:
     }
 
     QStringList calls;
+    // False: nothing is noted, for measuring.
+    bool isOn = true;
     // Beginning of the calls that throw; empty for none.
     QString throwOn;
 };
