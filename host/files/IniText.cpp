@@ -2,6 +2,7 @@
 
 #include <QList>
 
+#include <algorithm>
 #include <cstring>
 
 namespace gesturewidget {
@@ -173,6 +174,16 @@ QString unescapedValue(const QByteArray &escaped)
     return result;
 }
 
+// Returns whether an INI file can have this line.
+bool isLine(const QByteArray &line)
+{
+    const QByteArray text = line.trimmed();
+    const bool isSection = text.startsWith('[') && text.endsWith(']');
+    return !line.contains('\0')
+        && (text.isEmpty() || isSection || text.startsWith(';') || text.startsWith('#')
+            || text.contains('='));
+}
+
 } // namespace
 
 IniText::IniText(const QByteArray &text)
@@ -180,6 +191,8 @@ IniText::IniText(const QByteArray &text)
     QString section;
     const QList<QByteArray> lines = text.split('\n');
     for (const QByteArray &line : lines) {
+        if (!isLine(line))
+            continue;
         const QByteArray trimmed = line.trimmed();
         QString name;
         if (trimmed.startsWith('[') && trimmed.endsWith(']'))
@@ -192,17 +205,8 @@ IniText::IniText(const QByteArray &text)
 
 bool IniText::isWellFormed(const QByteArray &text)
 {
-    if (text.contains('\0'))
-        return false;
     const QList<QByteArray> lines = text.split('\n');
-    for (const QByteArray &line : lines) {
-        const QByteArray trimmed = line.trimmed();
-        const bool isSection = trimmed.startsWith('[') && trimmed.endsWith(']');
-        if (!trimmed.isEmpty() && !isSection && !trimmed.startsWith(';') && !trimmed.startsWith('#')
-            && !trimmed.contains('='))
-            return false;
-    }
-    return true;
+    return std::all_of(lines.begin(), lines.end(), isLine);
 }
 
 QString IniText::nameOf(const QString &section, const QString &key)

@@ -1,4 +1,5 @@
 #include "host/files/CatalogueFile.h"
+#include "host/files/DocumentName.h"
 #include "host/files/InstallPaths.h"
 #include "tests/host/support/StandardErrorCapture.h"
 #include "tests/support/FolderTest.h"
@@ -72,6 +73,10 @@ private Q_SLOTS:
     void whatIsGoneIsTakenOut();
     void commandsWithoutIdentifierAreLeftOut();
     void countsAndSizesAreBounded();
+    void documentNames_data();
+    void documentNames();
+    void whatIsPrivateIsNeverWritten();
+    void anOldFileIsCleaned();
     void iconsGoBeforeCommands();
     void twoCopiesMerge();
     void aFileHeldByAnotherIsLeftForLater();
@@ -245,6 +250,66 @@ void CatalogueFileTest::countsAndSizesAreBounded()
     QVERIFY(merge(many));
     QCOMPARE(read().size(), CatalogueFile::kMaximalCount);
     QCOMPARE(read().first(), known.first());
+}
+
+void CatalogueFileTest::documentNames_data()
+{
+    QTest::addColumn<QString>("caption");
+    QTest::addColumn<bool>("isOne");
+    const auto row = [](const char *caption, bool isOne) {
+        QTest::newRow(caption) << QString::fromUtf8(caption) << isOne;
+    };
+    for (const char *caption :
+         {"/home/me/house.dxf", "1 /home/me/house", "&2: ~/house", "Open \"/tmp/my house/plan\"",
+          "C:\\Drawings\\house.dwg", "file:///home/x", "house.dxf", "1 my house.FCStd",
+          "&3. house.dxf *", "house.dxf [read only]", "Größe.dxf (2)", "plan.v2.kicad_pcb.svg"})
+        row(caption, true);
+    for (const char *caption :
+         {"Line", "Open...", "Save as…", "On / Off", "Line/Arc", "Draw/Line/2 Points", "Version 2.0",
+          "Import .dxf", "Export as DXF...", "1:2", "~", "x.y", "Zoom 1.5x", "By 3 points, radius", ""})
+        row(caption, false);
+}
+
+void CatalogueFileTest::documentNames()
+{
+    QFETCH(QString, caption);
+    QFETCH(bool, isOne);
+    QCOMPARE(gesturewidget::namesADocument(caption), isOne);
+}
+
+void CatalogueFileTest::whatIsPrivateIsNeverWritten()
+{
+    RememberedCommand tip = command(QStringLiteral("new"));
+    tip.tip = QStringLiteral("Opens /home/me/secret/plan");
+    QVERIFY(merge({command(QStringLiteral("recent1"), QStringLiteral("1 /home/me/secret.dxf")),
+                   command(QStringLiteral("Window/secret.dxf"), QStringLiteral("Close")),
+                   command(QStringLiteral("recent2"), QStringLiteral("&2 secret.dxf")), tip}));
+    tip.tip.clear();
+    QCOMPARE(read(), Commands{tip});
+    // A command that is known may be called after a document later.
+    QVERIFY(merge({command(QStringLiteral("new"), QStringLiteral("secret.dxf"))}));
+    QCOMPARE(read(), Commands{tip});
+    for (const char *suffix : {"", ".bak"})
+        QVERIFY2(!content(QLatin1String(suffix)).contains("secret"), suffix);
+}
+
+void CatalogueFileTest::anOldFileIsCleaned()
+{
+    const QByteArray old = R"({"version": 1, "commands": [
+        {"identifier": "a", "caption": "1 /home/me/secret.dxf"},
+        {"identifier": "b", "caption": "Line", "tip": "of ~/secret/plan"},
+        {"identifier": "c", "caption": "Arc", "tip": "An arc"}]})";
+    for (const bool hasNews : {false, true}) {
+        write(old);
+        write(old, QStringLiteral(".bak"));
+        QCOMPARE(identifiers(read()), QStringList({QStringLiteral("b"), QStringLiteral("c")}));
+        QCOMPARE(content(), old); // reading changes nothing
+        QVERIFY(merge(hasNews ? numbered(1) : Commands()));
+        QCOMPARE(read().size(), hasNews ? 3 : 2);
+        QCOMPARE(read().at(1).tip, QStringLiteral("An arc"));
+        for (const char *suffix : {"", ".bak"})
+            QVERIFY2(!content(QLatin1String(suffix)).contains("secret"), suffix);
+    }
 }
 
 // So that the file never grows beyond what is read again.

@@ -50,6 +50,7 @@ private Q_SLOTS:
     void whatIsNoLockIsSaidAtOnce_data();
     void whatIsNoLockIsSaidAtOnce();
     void damageIsSeenThoughTheLockIsHeld();
+    void damageWithoutACopyIsGoneWithTheNextChange();
     void theOldFileIsKept();
     void aLinkStaysALink();
 
@@ -194,6 +195,22 @@ void SettingsFileTest::damageIsSeenThoughTheLockIsHeld()
     QVERIFY(timer.elapsed() < 2 * kPatience);
     QCOMPARE(errors.lines().size(), 1);
     QCOMPARE(contentOf(m_path), zeroed); // it is not ours to write
+}
+
+void SettingsFileTest::damageWithoutACopyIsGoneWithTheNextChange()
+{
+    const QByteArray damaged = QByteArray("no line\n[a]\nx=1\n") + QByteArray(10, '\0');
+    write(m_path, damaged);
+    tests::StandardErrorCapture errors;
+    SettingsFile file(m_path);
+    QCOMPARE(file.read(), one("a/x", "1"));
+    QCOMPARE(file.read(), one("a/x", "1"));
+    QVERIFY(file.write(one("a/x", "2")));
+    QCOMPARE(errors.lines().size(), 1);
+    QCOMPARE(contentOf(m_path), QByteArray("[a]\nx=2\n"));
+    QCOMPARE(contentOf(m_path + text(".damaged")), damaged);
+    QCOMPARE(SettingsFile(m_path).read(), one("a/x", "2"));
+    QCOMPARE(errors.lines().size(), 1);
 }
 
 void SettingsFileTest::theOldFileIsKept()
