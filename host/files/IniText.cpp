@@ -144,7 +144,7 @@ QString unescapedValue(const QByteArray &escaped)
         const QChar letter = text.at(i);
         if (letter == QLatin1Char('"')) {
             isQuoted = !isQuoted;
-            end = result.size();
+            end = int(result.size());
             continue;
         }
         if (letter == QLatin1Char(';') && !isQuoted)
@@ -161,12 +161,12 @@ QString unescapedValue(const QByteArray &escaped)
             else if (meaning != '\0')
                 result += QLatin1Char(meaning);
             i += digits;
-            end = result.size();
+            end = int(result.size());
             continue;
         }
         result += letter;
         if (isQuoted || !letter.isSpace())
-            end = result.size();
+            end = int(result.size());
     }
     result.truncate(end);
     if (result.startsWith(QLatin1String("@@")))
@@ -234,7 +234,7 @@ void IniText::set(const QString &name, const QString &value)
     const QByteArray text =
         escapedName(name.section(QLatin1Char('/'), 1)) + '=' + escapedValue(encoded(value));
     int last = -1; // line of the section with something in it
-    for (int i = m_lines.size() - 1; i >= 0; --i) {
+    for (int i = int(m_lines.size()) - 1; i >= 0; --i) {
         Line &line = m_lines[i];
         if (line.name == name) { // the last one, which is the one that counts
             line.text = text;
