@@ -1,6 +1,7 @@
 #include "host/files/CatalogueFile.h"
 
 #include "host/files/Complaint.h"
+#include "host/files/DocumentName.h"
 #include "host/files/FileContent.h"
 #include "host/files/FileLock.h"
 #include "host/files/FileWriter.h"
@@ -11,6 +12,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+
+#include <algorithm>
 
 namespace gesturewidget {
 namespace {
@@ -38,6 +41,15 @@ bool isAcceptable(const RememberedCommand &command)
         && command.command.size() <= CatalogueFile::kMaximalText;
 }
 
+// An identifier may be a path of captions.
+bool isPrivate(const RememberedCommand &command)
+{
+    const QStringList captions =
+        (command.identifier + QLatin1Char('/') + command.command).split(QLatin1Char('/'));
+    return namesADocument(command.caption)
+        || std::any_of(captions.begin(), captions.end(), namesADocument);
+}
+
 RememberedCommand bounded(const RememberedCommand &command)
 {
     RememberedCommand result = command;
@@ -45,6 +57,8 @@ RememberedCommand bounded(const RememberedCommand &command)
         text->truncate(CatalogueFile::kMaximalText);
     if (result.icon.size() > CatalogueFile::kMaximalIcon)
         result.icon.clear();
+    if (namesADocument(result.tip))
+        result.tip.clear();
     return result;
 }
 
@@ -120,7 +134,7 @@ bool apply(QVector<RememberedCommand> &commands, const QVector<RememberedCommand
     }
     bool hasChanged = false;
     for (const RememberedCommand &command : seen) {
-        if (!isAcceptable(command))
+        if (!isAcceptable(command) || isPrivate(command))
             continue;
         const int place = places.value(command.identifier, -1);
         if (place >= 0) {
@@ -171,9 +185,9 @@ bool CatalogueFile::merge(const QVector<RememberedCommand> &seen, const QStringL
     if (content.state == State::Foreign)
         return false;
     const bool hasChanged = apply(content.commands, seen, gone);
-    if (!hasChanged && content.state != State::Damaged)
+    if (!hasChanged && !content.isPrivate && content.state != State::Damaged)
         return true;
-    if (store(content.commands, content.state))
+    if (store(content.commands, content))
         return true;
     complainOnce(QStringLiteral("%1 cannot be written, new commands are forgotten").arg(m_path));
     return false;
@@ -189,6 +203,7 @@ CatalogueFile::Content CatalogueFile::lastGood()
         if (backup.state == State::Good) {
             complainOnce(QStringLiteral("%1 is damaged, %2 is used").arg(m_path, backupPath()));
             content.commands = backup.commands;
+            content.isPrivate = backup.isPrivate;
         } else {
             complainOnce(QStringLiteral("%1 is damaged, and there is no good copy of it").arg(m_path));
         }
@@ -205,9 +220,10 @@ CatalogueFile::Content CatalogueFile::contentOf(const QString &path)
     case FileContent::State::Missing:
         return {};
     case FileContent::State::TooLarge:
-        return {State::Foreign, {}, QStringLiteral("is too large, its commands are not offered")};
+        return {State::Foreign, {}, false, QStringLiteral("is too large, its commands are not offered")};
     default:
-        return {State::Foreign, {}, QStringLiteral("cannot be read, its commands are not offered")};
+        return {
+            State::Foreign, {}, false, QStringLiteral("cannot be read, its commands are not offered")};
     }
 }
 
@@ -216,21 +232,25 @@ CatalogueFile::Content CatalogueFile::parsed(const QByteArray &text)
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(text, &error);
     if (error.error != QJsonParseError::NoError)
-        return {State::Damaged, {}, {}};
+        return {State::Damaged, {}, false, {}};
     const QJsonObject object = document.object();
     const int version = object.value(kVersionKey).toInt();
     if (version > kVersion)
         return {State::Foreign,
                 {},
+                false,
                 QStringLiteral("is of a later version (%1), its commands are not offered").arg(version)};
     if (version < 1 || !object.value(kCommandsKey).isArray())
-        return {State::Foreign, {}, QStringLiteral("is no list of commands and is left alone")};
-    Content content{State::Good, {}, {}};
+        return {State::Foreign, {}, false, QStringLiteral("is no list of commands and is left alone")};
+    Content content{State::Good, {}, false, {}};
     QHash<QString, bool> known;
     const QJsonArray commands = object.value(kCommandsKey).toArray();
     for (const QJsonValue &value : commands) {
         const RememberedCommand command = fromJson(value.toObject());
-        if (!isAcceptable(command) || known.contains(command.identifier))
+        const bool hasPrivateTip =
+            command.tip.isEmpty() && !value.toObject().value(kTipKey).toString().isEmpty();
+        content.isPrivate |= hasPrivateTip || isPrivate(command);
+        if (isPrivate(command) || !isAcceptable(command) || known.contains(command.identifier))
             continue;
         if (content.commands.size() == kMaximalCount)
             break;
@@ -240,7 +260,7 @@ CatalogueFile::Content CatalogueFile::parsed(const QByteArray &text)
     return content;
 }
 
-bool CatalogueFile::store(const QVector<RememberedCommand> &commands, State before)
+bool CatalogueFile::store(const QVector<RememberedCommand> &commands, const Content &before)
 {
     QByteArray text = textOf(commands);
     if (text.size() > kMaximalSize) {
@@ -252,11 +272,14 @@ bool CatalogueFile::store(const QVector<RememberedCommand> &commands, State befo
     if (text.size() > kMaximalSize)
         return false;
     const FileWriter writer(m_path, FileWriter::Readers::Owner);
-    const QString kept = before == State::Damaged ? m_path + QLatin1String(".damaged")
-                       : before == State::Good    ? backupPath()
-                                                  : QString();
+    const QString kept = before.state == State::Damaged ? m_path + QLatin1String(".damaged")
+                       : before.state == State::Good    ? backupPath()
+                                                        : QString();
     // The new content matters more than the copy of the old one.
-    return (!kept.isEmpty() && writer.write(text, kept)) || writer.write(text);
+    if (!(!kept.isEmpty() && writer.write(text, kept)) && !writer.write(text))
+        return false;
+    // The copy must not keep what the file has lost.
+    return !before.isPrivate || FileWriter(backupPath(), FileWriter::Readers::Owner).write(text);
 }
 
 QString CatalogueFile::backupPath() const

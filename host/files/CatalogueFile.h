@@ -15,6 +15,9 @@ namespace gesturewidget {
 // is damaged, this class uses that copy and keeps the damaged file as "<file>.damaged". It leaves
 // files alone that are not its own to write: a file of a later version, or one that cannot be read.
 //
+// Commands that name a document, such as entries of recent files, are never written. A file of an
+// earlier version that holds some is cleaned at the next merge().
+//
 // An object writes at most one line to standard error about what is wrong.
 class CatalogueFile
 {
@@ -44,6 +47,7 @@ private:
     {
         State state = State::Missing;
         QVector<RememberedCommand> commands;
+        bool isPrivate = false; // the file holds names of documents, `commands` does not
         QString problem; // for a foreign file: words that follow its name
     };
 
@@ -51,7 +55,7 @@ private:
     [[nodiscard]] static Content parsed(const QByteArray &text);
     // The content of the file or, if that is damaged, of its copy.
     [[nodiscard]] Content lastGood();
-    [[nodiscard]] bool store(const QVector<RememberedCommand> &commands, State before);
+    [[nodiscard]] bool store(const QVector<RememberedCommand> &commands, const Content &before);
     [[nodiscard]] QString backupPath() const;
     void complainOnce(const QString &line);
 

@@ -2,6 +2,7 @@
 
 #include <QList>
 
+#include <algorithm>
 #include <cstring>
 
 namespace gesturewidget {
@@ -143,7 +144,7 @@ QString unescapedValue(const QByteArray &escaped)
         const QChar letter = text.at(i);
         if (letter == QLatin1Char('"')) {
             isQuoted = !isQuoted;
-            end = result.size();
+            end = int(result.size());
             continue;
         }
         if (letter == QLatin1Char(';') && !isQuoted)
@@ -160,17 +161,27 @@ QString unescapedValue(const QByteArray &escaped)
             else if (meaning != '\0')
                 result += QLatin1Char(meaning);
             i += digits;
-            end = result.size();
+            end = int(result.size());
             continue;
         }
         result += letter;
         if (isQuoted || !letter.isSpace())
-            end = result.size();
+            end = int(result.size());
     }
     result.truncate(end);
     if (result.startsWith(QLatin1String("@@")))
         result.remove(0, 1);
     return result;
+}
+
+// Returns whether an INI file can have this line.
+bool isLine(const QByteArray &line)
+{
+    const QByteArray text = line.trimmed();
+    const bool isSection = text.startsWith('[') && text.endsWith(']');
+    return !line.contains('\0')
+        && (text.isEmpty() || isSection || text.startsWith(';') || text.startsWith('#')
+            || text.contains('='));
 }
 
 } // namespace
@@ -180,6 +191,8 @@ IniText::IniText(const QByteArray &text)
     QString section;
     const QList<QByteArray> lines = text.split('\n');
     for (const QByteArray &line : lines) {
+        if (!isLine(line))
+            continue;
         const QByteArray trimmed = line.trimmed();
         QString name;
         if (trimmed.startsWith('[') && trimmed.endsWith(']'))
@@ -192,17 +205,8 @@ IniText::IniText(const QByteArray &text)
 
 bool IniText::isWellFormed(const QByteArray &text)
 {
-    if (text.contains('\0'))
-        return false;
     const QList<QByteArray> lines = text.split('\n');
-    for (const QByteArray &line : lines) {
-        const QByteArray trimmed = line.trimmed();
-        const bool isSection = trimmed.startsWith('[') && trimmed.endsWith(']');
-        if (!trimmed.isEmpty() && !isSection && !trimmed.startsWith(';') && !trimmed.startsWith('#')
-            && !trimmed.contains('='))
-            return false;
-    }
-    return true;
+    return std::all_of(lines.begin(), lines.end(), isLine);
 }
 
 QString IniText::nameOf(const QString &section, const QString &key)
@@ -230,7 +234,7 @@ void IniText::set(const QString &name, const QString &value)
     const QByteArray text =
         escapedName(name.section(QLatin1Char('/'), 1)) + '=' + escapedValue(encoded(value));
     int last = -1; // line of the section with something in it
-    for (int i = m_lines.size() - 1; i >= 0; --i) {
+    for (int i = int(m_lines.size()) - 1; i >= 0; --i) {
         Line &line = m_lines[i];
         if (line.name == name) { // the last one, which is the one that counts
             line.text = text;

@@ -8,7 +8,8 @@
 namespace gesturewidget {
 
 // The text of an INI file whose values are strings, as QSettings writes and reads it. Lines that
-// are not asked for stay as they are, comments included.
+// are not asked for stay as they are, comments included. Lines that no INI file can have, as damage
+// leaves them, are dropped.
 //
 // QSettings itself is not used: it waits for its lock file for as long as that takes, does not
 // see that its last flush failed, takes a file for unchanged that has the same size and the same

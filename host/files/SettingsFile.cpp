@@ -83,7 +83,7 @@ QByteArray SettingsFile::usable(const QByteArray &content, const QByteArray &bac
     if (mayWrite)
         static_cast<void>(store(m_path + QLatin1String(".damaged"), content));
     if (backup.isEmpty() || !IniText::isWellFormed(backup)) {
-        complain(QStringLiteral("%1 is damaged, and there is no good copy of it").arg(m_path));
+        complainOnce(QStringLiteral("%1 is damaged, and there is no good copy of it").arg(m_path));
         return content;
     }
     complain(QStringLiteral("%1 was damaged and is restored from %2").arg(m_path, backupPath()));

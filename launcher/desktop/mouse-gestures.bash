@@ -32,7 +32,7 @@ _mouse_gestures() {
                     --export | --import | --print) mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
                 esac
             elif ((COMP_CWORD == 4)) && [[ $option == --bind ]]; then
-                # Only identifiers of plain characters, since compgen expands its words.
+                # Identifiers of plain letters only: compgen expands all others.
                 mapfile -t COMPREPLY < <(compgen -W "none $(mouse-gestures --list-commands \
                     "${COMP_WORDS[2]}" 2>/dev/null | sed -n 's/^  \([[:alnum:]_.:-]*\)\(  .*\)*$/\1/p')" -- "$current")
             fi

@@ -28,7 +28,7 @@ int modeOf(const QString &path)
     return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 0777 : -1;
 }
 
-// While it lives, a file may have so many bytes at most.
+// While this object lives, no file may grow beyond so many bytes.
 class SmallFiles
 {
 public:
@@ -185,9 +185,9 @@ void FileWriterTest::readsWhatIsThere()
         const FileContent content = FileContent::read(place("file"), 100);
         QVERIFY(content.isRead());
         QCOMPARE(content.bytes, QByteArray(size, 'x'));
-        QVERIFY(content.bytes.capacity() < 1000); // however much there might be
+        QVERIFY(content.bytes.capacity() < 1000); // whatever the limit is
     }
-    // Files of the kernel say that they have no bytes.
+    // Files of the kernel have the size 0.
     QVERIFY(FileContent::read(text("/proc/self/status"), 100000).bytes.contains("Pid:"));
     QVERIFY(FileContent::read(text("/proc/self/status"), 10).state == FileContent::State::TooLarge);
 }

@@ -17,7 +17,7 @@ namespace {
 
 using Values = QMap<QString, QString>;
 
-// Texts of letters that mean something in such a file.
+// Random texts of characters that have a meaning in such a file.
 class Texts
 {
 public:
@@ -36,7 +36,7 @@ private:
     std::mt19937 m_random{20261121};
 };
 
-// As it is without the characters that are encoded.
+// The text without the characters that are encoded.
 QString plain(QString text)
 {
     const auto isEncoded = [](QChar letter) {
@@ -83,7 +83,7 @@ void IniTextTest::whatIsSetComesBack()
     }
 }
 
-// Earlier versions wrote the settings by QSettings: encoded texts, which are printable ASCII.
+// Earlier versions wrote encoded texts, which are printable ASCII, with QSettings.
 void IniTextTest::readsWhatQSettingsWrote()
 {
     Texts texts;

@@ -131,7 +131,7 @@ void ProgramProfileTest::namesOfButtonsAndKeys_data()
     }
 }
 
-// What a person may type as a trigger a profile may hold.
+// A profile takes every trigger that a person may type.
 void ProgramProfileTest::namesOfButtonsAndKeys()
 {
     QFETCH(QString, button);
@@ -148,7 +148,7 @@ void ProgramProfileTest::namesOfButtonsAndKeys()
     QVERIFY(gesturewidget::parseTrigger(key + QLatin1Char('+') + button, expectedButton, expectedKeys));
     QCOMPARE(profile.triggerButton, expectedButton);
     QCOMPARE(profile.triggerModifiers, expectedKeys);
-    // Written in one way only.
+    // It is always written in the same way.
     const QJsonObject trigger = profile.toJson().value(QStringLiteral("trigger")).toObject();
     QCOMPARE(trigger.value(QStringLiteral("button")).toString(), button);
     QCOMPARE(trigger.value(QStringLiteral("modifiers")).toArray().at(0).toString() + QLatin1Char('+')
@@ -239,7 +239,7 @@ void ProgramProfileTest::brokenProfileIsNamed()
     QVERIFY2(!message.contains(QLatin1Char('\n')), qPrintable(message));
 }
 
-// A mistake in the person's own profile must show, not vanish behind the installed one.
+// The installed profile must not hide a mistake in the user's own one.
 void ProgramProfileTest::aBrokenProfileIsNotReplacedByALaterOne()
 {
     QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("a")));
@@ -256,7 +256,7 @@ void ProgramProfileTest::whatIsNoFileIsNotOpened()
     const QByteArray pipe = QFile::encodeName(place(QStringLiteral("drafter.json")));
     QCOMPARE(::mkfifo(pipe.constData(), 0600), 0);
     QString message;
-    QVERIFY(isDefault(read(&message))); // opening it would never return
+    QVERIFY(isDefault(read(&message))); // opening a pipe would wait for its writer
     QVERIFY2(message.contains(QStringLiteral("it is not a file")), qPrintable(message));
 }
 

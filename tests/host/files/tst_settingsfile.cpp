@@ -35,7 +35,7 @@ SettingsFile::Values one(const char *key, const char *value)
 
 } // namespace
 
-// What its users see of it is in tst_profilestore.
+// tst_profilestore has what its users see.
 class SettingsFileTest : public tests::FolderTest
 {
     Q_OBJECT
@@ -50,6 +50,7 @@ private Q_SLOTS:
     void whatIsNoLockIsSaidAtOnce_data();
     void whatIsNoLockIsSaidAtOnce();
     void damageIsSeenThoughTheLockIsHeld();
+    void damageWithoutACopyIsGoneWithTheNextChange();
     void theOldFileIsKept();
     void aLinkStaysALink();
 
@@ -100,7 +101,7 @@ void SettingsFileTest::nobodyWritesInBetween()
     SettingsFile file(m_path);
     const bool isDone = file.change([&](const SettingsFile::Values &) {
         other = std::thread([&] { isOtherDone = SettingsFile(m_path).write(one("a/other", "1")); });
-        // The other one holds its lock or waits for this one's. It cannot have written.
+        // Gives the other one time to write, if nothing keeps it from that.
         const FileLock third(m_path, kPatience / 10);
         Q_UNUSED(third)
         return one("a/first", contentOf(m_path) == tests::kNoFile ? "1" : "0");
@@ -141,7 +142,7 @@ void SettingsFileTest::aLockLeftByAKilledProcessIsNoLock()
     other.kill();
     QVERIFY(other.waitForFinished());
     QVERIFY(QFileInfo::exists(m_path + text(".lock")));
-    // Nor is one that a program was killed over before it had written anything into it.
+    // The second time the file is empty, as if its owner was killed right after making it.
     for (const bool isEmpty : {false, true}) {
         if (isEmpty)
             write(m_path + text(".lock"), {});
@@ -190,10 +191,26 @@ void SettingsFileTest::damageIsSeenThoughTheLockIsHeld()
     tests::StandardErrorCapture errors;
     QElapsedTimer timer;
     timer.start();
-    QCOMPARE(SettingsFile(m_path).read(), one("a/x", "1")); // the last good state
+    QCOMPARE(SettingsFile(m_path).read(), one("a/x", "1")); // that is the last good state
     QVERIFY(timer.elapsed() < 2 * kPatience);
     QCOMPARE(errors.lines().size(), 1);
-    QCOMPARE(contentOf(m_path), zeroed); // it is not ours to write
+    QCOMPARE(contentOf(m_path), zeroed); // without the lock nothing is written
+}
+
+void SettingsFileTest::damageWithoutACopyIsGoneWithTheNextChange()
+{
+    const QByteArray damaged = QByteArray("no line\n[a]\nx=1\n") + QByteArray(10, '\0');
+    write(m_path, damaged);
+    tests::StandardErrorCapture errors;
+    SettingsFile file(m_path);
+    QCOMPARE(file.read(), one("a/x", "1"));
+    QCOMPARE(file.read(), one("a/x", "1"));
+    QVERIFY(file.write(one("a/x", "2")));
+    QCOMPARE(errors.lines().size(), 1);
+    QCOMPARE(contentOf(m_path), QByteArray("[a]\nx=2\n"));
+    QCOMPARE(contentOf(m_path + text(".damaged")), damaged);
+    QCOMPARE(SettingsFile(m_path).read(), one("a/x", "2"));
+    QCOMPARE(errors.lines().size(), 1);
 }
 
 void SettingsFileTest::theOldFileIsKept()
@@ -234,7 +251,7 @@ int main(int argc, char *argv[])
         const FileLock lock(app.arguments().at(2), kPatience);
         std::printf("%d\n", lock.isHeld());
         std::fflush(stdout);
-        static_cast<void>(std::getchar()); // until it is killed
+        static_cast<void>(std::getchar()); // waits until it is killed
         return 0;
     }
     SettingsFileTest test;

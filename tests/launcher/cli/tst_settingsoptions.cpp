@@ -1,4 +1,4 @@
-// The options about a program that is not started, as a person types them.
+// The options that start no program, as a person types them.
 
 #include "host/files/CatalogueFile.h"
 #include "host/files/TriggerText.h"
@@ -134,7 +134,7 @@ private Q_SLOTS:
             QDir(place(QStringLiteral("gesturewidget"))).entryList({QStringLiteral("*.ini")}).size(), 1);
     }
 
-    // A program that was removed leaves settings behind that somebody may want to keep.
+    // Somebody may want to keep the settings of a program that was removed.
     void settingsOutliveTheProgram()
     {
         QVERIFY(QDir().mkpath(place(QStringLiteral("gesturewidget"))));
@@ -145,7 +145,7 @@ private Q_SLOTS:
         expect({text("--export"), text("no-such-program-here")}, "\"up\": \"DrawArc\"");
     }
 
-    // A link is the program that it leads to, unless a profile knows it by its own name.
+    // A link means the program that it leads to, unless a profile has the name of the link.
     void aLinkIsTheProgram()
     {
         const QString link = place(QStringLiteral("Draw"));
@@ -278,12 +278,12 @@ private Q_SLOTS:
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QByteArray completion = file.readAll();
         for (const QString &option : options) {
-            // Not as the beginning of a longer one.
+            // As a whole word, not as the beginning of another option.
             const QRegularExpression word(option + text("(?![a-z-])"));
             for (const QByteArray &place : {help.output, manual, completion})
                 QVERIFY2(QString::fromUtf8(place).contains(word), qPrintable(option));
         }
-        // The completion offers what is taken.
+        // The completion offers exactly what is accepted.
         QStringList triggers = gesturewidget::buttonNames();
         triggers.removeAll(text("left")); // alone it is for drawing
         const QStringList keys = gesturewidget::modifierNames();
@@ -325,7 +325,7 @@ private:
         return outcome;
     }
 
-    // Runs it, which must go well and print `says` somewhere; returns all that it printed.
+    // Runs the command. It must succeed and print `says` somewhere. Returns its whole output.
     QByteArray expect(const QStringList &arguments, const QByteArray &says) const
     {
         const Outcome outcome = run(arguments);

@@ -1,5 +1,5 @@
-// Every option that writes a file, on a disk that is full, among other writers, and where
-// something else has the file's name: what was there stays whole, and one line says so.
+// Every option that writes a file: on a full disk, beside other writers, and where something else
+// has the file's name. The old content stays whole, and one line says what is wrong.
 
 #include "host/files/CatalogueFile.h"
 #include "tests/support/FolderTest.h"
@@ -30,7 +30,7 @@ namespace {
 const QString kProgram = QStringLiteral(FIXTURES "/launcher_fixture_direct");
 const QString kName = QStringLiteral("launcher_fixture_direct");
 
-// Whether this process may mount file systems that nobody else sees.
+// True if this process may mount file systems that nobody else sees.
 bool canMount = false;
 
 struct Ended
@@ -111,8 +111,8 @@ void WritingTest::addOptions() const
         QTest::newRow(name) << QByteArray(name);
 }
 
-// Everything that an option may write is there already, good, and other than it would be written
-// now. Settings and export are larger than a block of a file system.
+// Makes every file that an option may write, with good content that differs from what the option
+// writes. Settings and export are larger than a block of a file system.
 void WritingTest::prepare() const
 {
     const QString entry = m_home + text("/usr/applications/draw.desktop");
@@ -198,7 +198,7 @@ void WritingTest::aFullDiskChangesNothing_data()
     addOptions();
 }
 
-// The option may write only so many bytes to any file. At 200 some of each file fits.
+// No file may grow beyond so many bytes. Of 200 bytes, each file needs more.
 void WritingTest::aFullDiskChangesNothing()
 {
     QFETCH(QByteArray, name);
@@ -227,7 +227,7 @@ void WritingTest::aFullFileSystemChangesNothing()
     const std::unique_ptr<const QByteArray, decltype(unmount)> guard(&mounted, unmount);
     useFolder(place("disk"));
     prepare();
-    // The last block is left free for the second attempt.
+    // In the second round the last block is free.
     for (const bool isNearly : {false, true}) {
         const QString filler = m_home + text("/filler");
         QFile file(filler);
@@ -239,7 +239,7 @@ void WritingTest::aFullFileSystemChangesNothing()
         if (isNearly)
             QVERIFY(file.resize(size - 4096));
         file.close();
-        // What these write fits into a block, and a copy of the old settings takes none.
+        // The new settings of these fit into a block. Their copy is a second name and takes none.
         const bool isSmall = name == "--reset" || name == "--import";
         if (isNearly && isSmall)
             QCOMPARE(run(option(name.constData())).status, 0);
@@ -250,7 +250,7 @@ void WritingTest::aFullFileSystemChangesNothing()
     QCOMPARE(run(option(name.constData())).status, 0);
 }
 
-// Both add a key to the same settings, so neither may write back what it had read.
+// Both change one key of the same settings, so neither may write back the keys that it read.
 void WritingTest::twoAtOnceLoseNothing()
 {
     constexpr int kRounds = 50;
@@ -279,7 +279,7 @@ void WritingTest::twoAtOnceLoseNothing()
 
 void WritingTest::somethingElseHasTheName_data()
 {
-    QTest::addColumn<QByteArray>("suffix"); // of the settings' name
+    QTest::addColumn<QByteArray>("suffix"); // after the settings' name
     QTest::addColumn<bool>("isPipe");
     QTest::addColumn<bool>("isRefused");
     for (const bool isPipe : {true, false}) {
@@ -328,7 +328,7 @@ void WritingTest::somethingElseHasTheName()
     } else {
         QVERIFY(contentOf(m_settings).contains("81=ID_TRIM\n"));
         QCOMPARE(files().keys(), before.keys());
-        QCOMPARE(bound.errors.count('\n'), 1); // there is no copy of the last good state
+        QCOMPARE(bound.errors.count('\n'), 1); // it says that no copy can be kept
     }
 }
 
@@ -352,7 +352,7 @@ void WritingTest::whatAPersonWorksOnIsTheirsAlone()
         QVERIFY2(modeOf(folder.filePath(name)) == 0600, qPrintable(name));
     QCOMPARE(modeOf(m_entry), 0644);
     QCOMPARE(modeOf(m_export), 0644);
-    // One that was readable by all is not any more.
+    // A file that everyone could read is made private by the next change.
     QVERIFY(QFile::setPermissions(m_settings, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther));
     QCOMPARE(run(option("--bind")).status, 0);
     ::umask(mask);
@@ -361,7 +361,7 @@ void WritingTest::whatAPersonWorksOnIsTheirsAlone()
 
 int main(int argc, char *argv[])
 {
-    // Only a process with one thread may do this.
+    // This works only before the process has a second thread.
     const QByteArray user = "0 " + QByteArray::number(::geteuid()) + " 1";
     const bool isRoot = ::geteuid() == 0;
     canMount = ::unshare(isRoot ? CLONE_NEWNS : CLONE_NEWUSER | CLONE_NEWNS) == 0

@@ -1,4 +1,4 @@
-// Starting a program with gestures from the desktop's menus: in folders of the test's own.
+// Starting a program with gestures from the desktop's menus, in folders of the test.
 
 #include "launcher/desktop/DesktopMenu.h"
 
@@ -16,7 +16,7 @@ using launcher::Outcome;
 
 namespace {
 
-// What stands before the launcher's path.
+// The text before the launcher's path.
 const QByteArray kStart =
     R"(/bin/sh -c "[ -x \\"\\$0\\" ] && exec \\"\\$0\\" \\"\\$@\\"; exec \\"\\$@\\"" )";
 
@@ -156,7 +156,7 @@ void DesktopMenuTest::twiceIsOnce()
 {
     write("usr/applications/draw.desktop", kEntry);
     expectEnabled();
-    // Written again, it would have another time or another place on the disk.
+    // If it were written again, it would have another time.
     QFile copy(place("home/applications/draw.desktop"));
     QVERIFY(copy.setPermissions(QFile::ReadOwner));
     QVERIFY(copy.open(QIODevice::ReadOnly));
@@ -222,7 +222,7 @@ void DesktopMenuTest::somebodysOwnFileStays()
     QVERIFY(menu().disable("draw", draw()).output.contains("nothing was there"));
     QCOMPARE(content("home/applications/draw.desktop"), own);
 
-    // The only entry that there is, and a link that leads nowhere.
+    // A link that leads nowhere is the user's own too.
     QVERIFY(QFile::remove(place("home/applications/draw.desktop")));
     QVERIFY(QFile::link(place("nowhere"), place("home/applications/draw.desktop")));
     QVERIFY(!menu().enable("draw", draw()).isDone());
@@ -244,7 +244,7 @@ void DesktopMenuTest::tryExecIsOneLine()
     const QByteArray folder = QFile::encodeName(place("bin/a\nHidden=true\nx\\y"));
     writeProgram("bin/a\nHidden=true\nx\\y/draw");
     const QByteArray escaped = QByteArray(folder).replace('\\', "\\\\").replace("\n", "\\n");
-    // In quotes a backslash is written twice, and each of them twice as in any value.
+    // Quotes double a backslash, and the value doubles each of the two again.
     const QByteArray quoted = QByteArray(folder).replace("\\", "\\\\\\\\").replace("\n", "\\n");
     write("usr/applications/draw.desktop", entryFor('"' + quoted + "/draw\" %F"));
     const Outcome outcome = menu().enable("draw", folder + "/draw");
@@ -272,7 +272,7 @@ void DesktopMenuTest::twoEntriesThatLookTheSameAreOne()
     for (const char *name : {"draw", "org.draw", "other", "types"})
         shown += !content(qPrintable(tests::text("home/applications/%1.desktop").arg(tests::text(name))))
                       .contains("NoDisplay=true\n");
-    QCOMPARE(shown, 2); // one of the two, and the other one
+    QCOMPARE(shown, 2); // one of the two that look the same, and "other"
     QVERIFY(!content("home/applications/org.draw.desktop").contains("NoDisplay"));
     expectEnabled();
     QVERIFY(menu().disable("draw", draw()).isDone());
@@ -351,7 +351,7 @@ void DesktopMenuTest::foundByItsFile()
     QVERIFY(!QFileInfo::exists(place("home/applications/sub/x.desktop")));
 }
 
-// One file may be many programs, by the name that it is started by.
+// One file may be several programs, depending on the name that starts it.
 void DesktopMenuTest::theNameThatWasTypedCounts()
 {
     QVERIFY(QFile::link(place("bin/draw"), place("bin/paint")));

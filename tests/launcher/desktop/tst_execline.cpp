@@ -1,4 +1,4 @@
-// The command of a desktop entry: what a shell makes of it, and the launcher put into it.
+// The command of a desktop entry: how it is split, and how the launcher is put into it.
 
 #include "launcher/desktop/ExecLine.h"
 
@@ -14,7 +14,7 @@ using Words = QList<QByteArray>;
 
 namespace {
 
-// What stands before the launcher's path.
+// The text before the launcher's path.
 const QByteArray kStart =
     R"(/bin/sh -c "[ -x \\"\\$0\\" ] && exec \\"\\$0\\" \\"\\$@\\"; exec \\"\\$@\\"" )";
 
@@ -83,7 +83,7 @@ void ExecLineTest::reads()
     QCOMPARE(line.arguments, arguments);
     started.replace("/usr/bin/mg ", kStart + "/usr/bin/mg ");
     QCOMPARE(line.startedBy("/usr/bin/mg"), started);
-    // A shell is the program then, and gets the launcher, the program and its arguments.
+    // The program is a shell now. It gets the launcher, the program and its arguments.
     const ExecLine after = ExecLine::parse(started);
     QVERIFY(after.isValid);
     QCOMPARE(after.program, QByteArray("/bin/sh"));

@@ -1,4 +1,4 @@
-// What is said about a program in which gestures are to work, finding by finding.
+// What --doctor says about a program, finding by finding.
 
 #include "launcher/doctor/Doctor.h"
 
@@ -56,7 +56,8 @@ private Q_SLOTS:
             QStringLiteral("  trigger:     right"),
         };
         QCOMPARE(diagnosis.lines, expected);
-        QVERIFY(!QFile::exists(folder.filePath(QStringLiteral("drafter.ini")))); // only looks
+        QVERIFY(
+            !QFile::exists(folder.filePath(QStringLiteral("drafter.ini")))); // --doctor writes nothing
     }
 
     void findings_data()

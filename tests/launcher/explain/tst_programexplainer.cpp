@@ -1,4 +1,4 @@
-// Programs that are started to be explained: what is found in them, and that none outlives it.
+// Programs that --explain starts: what it finds in them, and that it ends them all.
 
 #include "launcher/explain/ProgramExplainer.h"
 
@@ -45,7 +45,7 @@ private Q_SLOTS:
     void typedAndInterrupted();
 
 private:
-    // A script that notes its number, which the program keeps when the script ends in "exec".
+    // A script that writes down its process number. With "exec" at its end the program has the same.
     QByteArray script(const QByteArray &body) const
     {
         QFile file(place("script"));
@@ -103,7 +103,7 @@ ProgramExplanation ProgramExplainerTest::explain(const QByteArray &path,
     return ProgramExplainer(path, arguments, variables, m_patience).run();
 }
 
-// The profile that a host makes of the text; its program is empty when it cannot be used.
+// The profile that a host reads from the text; its program is empty if it cannot be used.
 gesturewidget::ProgramProfile ProgramExplainerTest::loaded(const QByteArray &json) const
 {
     const QString folder = place("loaded");
@@ -144,7 +144,7 @@ void ProgramExplainerTest::whatAGuessFinds()
           "ID_LINE: drawLine, since object name \"drawLine\", caption \"Line\"\n",
           "ID_TRIM: none, since no shortcut, icon, object name or caption speaks for an action\n"})
         QVERIFY2(lines.contains(QLatin1String(line)), qPrintable(lines));
-    // At the next start it has its commands from the first one.
+    // The second start has the commands of the first one.
     const ProgramExplanation again = explainGuest("stay");
     QCOMPARE(again.lines, found.lines);
     QCOMPARE(again.profile, found.profile);
@@ -181,7 +181,7 @@ void ProgramExplainerTest::aViewThatOpensLater()
     QCOMPARE(found.profile.value(QStringLiteral("viewClasses")).toArray(),
              QJsonArray{QStringLiteral("GuestView")});
 
-    m_patience.firstView = 200; // too short for it
+    m_patience.firstView = 200; // too short for the view
     const ProgramExplanation early = explainGuest("late-view");
     QCOMPARE(early.complaint, QString());
     QCOMPARE(early.profile.value(QStringLiteral("viewClasses")).toArray(), QJsonArray());
@@ -194,7 +194,7 @@ void ProgramExplainerTest::throughAScript_data()
     QTest::newRow("in its place") << QByteArray("exec '" GUEST "' stay\n");
     QTest::newRow("waiting for it") << QByteArray("'" GUEST "' stay\nexit 3\n");
     QTest::newRow("going ahead") << QByteArray("'" GUEST "' stay &\nexit 0\n");
-    // It starts the program later than anybody waits for a program to quit.
+    // The script starts the program later than m_patience.end after its own end.
     QTest::newRow("going ahead, long before")
         << QByteArray("(sleep 1; exec '" GUEST "' stay) &\nexit 0\n");
 }
@@ -267,7 +267,7 @@ void ProgramExplainerTest::whatCannotBeExplained()
     QCOMPARE(missing.complaint, QString::fromLocal8Bit(std::strerror(ENOENT)));
 }
 
-// What the program starts in turn knows nothing of it.
+// Programs that the program starts do not get the variable.
 void ProgramExplainerTest::theVariableIsGone()
 {
     QByteArray path =

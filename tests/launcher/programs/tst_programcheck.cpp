@@ -1,4 +1,4 @@
-// Whether a program can be started with gestures, and with which plug-in.
+// Which programs can be started with gestures, and with which plug-in.
 
 #include "launcher/programs/ProgramCheck.h"
 
@@ -22,7 +22,7 @@ class ProgramCheckTest : public tests::FolderTest
     Q_OBJECT
 
 private Q_SLOTS:
-    // The other Qt would say on standard error that it cannot load the plug-in.
+    // With the other plug-in too, Qt writes to standard error that it cannot load that.
     void onlyThePluginOfItsQt()
     {
         const ProgramCheck check = ProgramCheck::of(FIXTURES "/launcher_fixture_direct", {}, kBoth);

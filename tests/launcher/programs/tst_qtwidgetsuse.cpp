@@ -67,8 +67,8 @@ private Q_SLOTS:
         QCOMPARE(launcher::qtWidgetsUse(path, {}, systemFolders()), use);
     }
 
-    // The program alone, its library somewhere else: found only where the loader is told
-    // to look.
+    // The program's library is in another folder. It is found only where the loader is told to
+    // look.
     void libraryPath()
     {
         const QByteArray moved = write("moved", contents(fixture("origin")));
@@ -109,7 +109,7 @@ private Q_SLOTS:
         QVERIFY(ElfFile::read(fixture("origin")).runpath.contains("$ORIGIN"));
     }
 
-    // Every cut and many a flipped byte must end in an answer.
+    // Every damaged file gets an answer.
     void damagedFiles()
     {
         const QByteArray whole = contents(fixture("direct"));
@@ -148,7 +148,7 @@ private Q_SLOTS:
         QVERIFY(launcher::systemLibraryFolders(path).contains("/opt/a"));
     }
 
-    // If each were read once for each way to it, these would be read some 300,000 times.
+    // If a file were read again for each include line, these would take minutes.
     void loaderConfigurationsThatIncludeEachOther()
     {
         QVERIFY(QDir().mkpath(m_folder.filePath(QStringLiteral("circle"))));

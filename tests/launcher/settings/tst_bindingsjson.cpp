@@ -1,4 +1,4 @@
-// Bindings as JSON: what is taken and what is refused, and that the schema says the same.
+// Bindings as JSON: what is accepted, what is refused, and that the schema says the same.
 
 #include "launcher/settings/BindingsJson.h"
 
@@ -71,14 +71,14 @@ private Q_SLOTS:
         QCOMPARE(bindings.eight.at(0) == QLatin1String("as it was"), !isTaken);
         if (!isTaken)
             return;
-        // What was taken is exported in a way that is taken as the same.
+        // The export of what was accepted means the same.
         Bindings again;
         const QByteArray exported = launcher::bindingsToJson(bindings, kProgram);
         QVERIFY(launcher::bindingsFromJson(exported, kProgram, again, problem));
         QCOMPARE(again.toSettings(), bindings.toSettings());
     }
 
-    // What the schema allows is what is written, no key more and none less.
+    // The schema allows exactly the keys that are written.
     void schemaNamesTheKeys()
     {
         QFile file(QStringLiteral(TESTS_SOURCE_DIR "/../docs/bindings.schema.json"));
@@ -96,7 +96,7 @@ private Q_SLOTS:
         compare(properties.value(QStringLiteral("eight")).toObject(), Bindings::directionNames(8));
     }
 
-    // A schema has no way to ignore the case, so each letter stands in it twice.
+    // A schema cannot ignore the case, so its pattern has each letter twice.
     void schemaNamesTheTriggers()
     {
         const auto anyCase = [](const QString &name) {

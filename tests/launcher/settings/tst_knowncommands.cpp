@@ -1,4 +1,4 @@
-// The commands that a program has shown: listed, and found by what people call them.
+// The commands that a program has shown: listing them, and finding one by what a person types.
 
 #include "launcher/settings/KnownCommands.h"
 
@@ -74,7 +74,7 @@ void KnownCommandsTest::resolves_data()
     row("Grid", "", "several commands are called \"Grid\": viewGrid (View/Grid), snapGrid (Snap/Grid)");
     row("view/grid", "viewGrid");
     row("Snap/Grid", "snapGrid");
-    // The identifier of a toolbar's action is the caption of one in the menus.
+    // The identifier of an action in a toolbar is the caption of an action in a menu.
     row("Save", "", "several commands are called \"Save\": fileSave (File/Save...), Save (Main/Save)");
     row("file/save", "fileSave");
     row("Main/Save", "Save");

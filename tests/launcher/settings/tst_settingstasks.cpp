@@ -1,4 +1,4 @@
-// Showing and changing what is kept for a program, in a file that the host reads too.
+// Showing and changing what is kept for a program, in the file that the host reads too.
 
 #include "launcher/settings/SettingsTasks.h"
 
@@ -88,7 +88,7 @@ void SettingsTasksTest::withoutSettingsTheFirstBindingsAreShown()
                                         "  left       ID_OPEN\n"
                                         "  down       ID_SAVE\n"
                                         "  right      ID_LINE\n"));
-    QVERIFY(!QFileInfo::exists(m_file)); // looking is not touching
+    QVERIFY(!QFileInfo::exists(m_file)); // showing writes nothing
 }
 
 void SettingsTasksTest::theSchemeInUseIsShownFirst()
@@ -184,7 +184,7 @@ void SettingsTasksTest::aCommandHasOneDirection()
     QCOMPARE(kept().eight.at(0), text("ID_LINE"));
     QCOMPARE(kept().eight.at(6), QString());
     QCOMPARE(kept().four, Bindings::initial().four); // the other scheme keeps its own
-    // Empty directions are not one command that moves about.
+    // Several directions may be empty.
     QVERIFY(tasks().bind(text("left"), text("none")).isDone());
     QCOMPARE(kept().eight.count(QString()), 2);
     QCOMPARE(kept().eight.at(1), text("ID_OFFSET"));
@@ -326,7 +326,7 @@ void SettingsTasksTest::importKeepsTheOldSettings()
     QCOMPARE(contentOf(backup), old);
     QVERIFY(contentOf(m_file) != old);
 
-    // Where nothing can be kept, nothing is taken over.
+    // If the old settings cannot be kept, nothing is imported.
     QVERIFY(QFile::remove(backup));
     QVERIFY(QDir().mkpath(backup));
     QVERIFY(tasks().bind(text("up"), text("DrawArc")).isDone());
@@ -376,7 +376,7 @@ void SettingsTasksTest::whatIsNoFileIsRefused()
     QVERIFY(!QFileInfo::exists(m_file));
 }
 
-// Below the limit of what Qt parses, and of many keys: read in full, that would take gigabytes.
+// Qt parses up to 1024 levels. With many keys in them, reading all that would take gigabytes.
 void SettingsTasksTest::deepNestingIsRefusedAtOnce()
 {
     QByteArray keys;
@@ -390,19 +390,19 @@ void SettingsTasksTest::deepNestingIsRefusedAtOnce()
     QCOMPARE(outcome.complaint, m_export + text(", line 9: this is nested too deeply for bindings"));
     write(m_export, QByteArray(60000, '['));
     QVERIFY(tasks().importFrom(m_export).complaint.contains(text("line 1: this is nested too deeply")));
-    // Brackets in a text do not count.
+    // Brackets inside a text do not count.
     write(m_export, "{\"a\": \"" + QByteArray(100, '{') + "\\\"" + QByteArray(100, '[') + "\"}");
     QVERIFY(tasks().importFrom(m_export).complaint.contains(text("line 1: \"a\" is no key")));
 }
 
-// What another program changes meanwhile is not written back.
+// Keys that a task does not change may be changed by another program meanwhile.
 void SettingsTasksTest::onlyWhatChangedIsWritten()
 {
     const auto keys = [this] { return SettingsFile(m_file).read().keys(); };
     QVERIFY(tasks().setTrigger(text("middle")).isDone());
     QCOMPARE(keys(), QStringList(text("Host/Trigger")));
     QVERIFY(tasks().bind(text("up"), text("DrawArc")).isDone());
-    QStringList expected; // an empty direction and one that is missing differ in a scheme in use
+    QStringList expected; // all directions of the scheme, since a missing one would count as empty
     for (int i = 1; i <= 8; ++i)
         expected.append(text("GestureWidget/8%1").arg(i));
     QCOMPARE(keys(), expected + QStringList(text("Host/Trigger")));
@@ -417,7 +417,7 @@ void SettingsTasksTest::whatCannotBeWrittenIsSaid()
     QVERIFY(QDir().mkpath(place(QStringLiteral("config/drafter.json"))));
     const QString folder = place(QStringLiteral("config/drafter.json"));
     QCOMPARE(tasks().exportTo(folder).complaint, folder + text(" cannot be written"));
-    // Where the settings should lie, there is a file in place of their folder.
+    // There is a file in place of the folder of the settings.
     write(place(QStringLiteral("file")), "x");
     const QString impossible = place(QStringLiteral("file/drafter.ini"));
     SettingsTasks tasks(kProgram, impossible);

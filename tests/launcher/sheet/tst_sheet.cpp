@@ -1,4 +1,4 @@
-// The sheet to pin on the wall: what stands on it, and that all of it has its room.
+// The sheet to pin on the wall: its texts, and that each has enough room.
 
 #include "launcher/settings/Bindings.h"
 #include "launcher/settings/KnownCommands.h"
@@ -91,7 +91,7 @@ void SheetTest::labelsLieInTheirSectors()
     const QRectF box = sheet::RingPicture::labelBox(count, index);
     const QPainterPath sector = draw::sectorPath(count, index, draw::kInnerRadius, draw::kOuterRadius);
     QVERIFY(sector.contains(box));
-    QVERIFY(sector.contains(box.adjusted(-2.0, -2.0, 2.0, 2.0))); // with some air around it
+    QVERIFY(sector.contains(box.adjusted(-2.0, -2.0, 2.0, 2.0))); // with a margin
     QVERIFY2(box.width() >= 34.0 && box.height() >= 20.0,
              qPrintable(QStringLiteral("%1 x %2").arg(box.width()).arg(box.height())));
 }
