@@ -44,6 +44,9 @@ struct Signs
     QStringList menus; // captions, likewise
     // Words that say too little but in one of these menus.
     QStringList wordsInMenus;
+    // Every English name of the command has one of these in it. An English name without them
+    // counts more than the shortcut alone.
+    QStringList stems;
 };
 
 const QVector<Signs> &allSigns()
@@ -52,7 +55,8 @@ const QVector<Signs> &allSigns()
         return QString::fromLatin1(text).split(QLatin1Char('|'), Qt::SkipEmptyParts);
     };
     static const char *const drawing =
-        "draw|drawing|insert|add|add new|create|new|objects|tools|lines|line";
+        "draw|drawing|insert|add|add new|create|new|object|objects|tools|lines|line|shape|shapes|"
+        "sketch|geometry|elements|items|place";
     static const QVector<Signs> signs{
         {"ID_COPY",
          QT_TRANSLATE_NOOP("host", "Copy"),
@@ -60,7 +64,8 @@ const QVector<Signs> &allSigns()
          list("edit-copy"),
          list("copy|copy selection|copy selected|copy objects|copy features"),
          list("edit|modify"),
-         {}},
+         {},
+         list("copy|duplicate|clone")},
         {"ID_DTEXT",
          QT_TRANSLATE_NOOP("host", "Text"),
          QKeySequence::UnknownKey,
@@ -70,6 +75,7 @@ const QVector<Signs> &allSigns()
               "text label|add text label|text box|add text box|insert text box|text object|"
               "text tool|single line text"),
          list(drawing),
+         {},
          {}},
         {"ID_LINE",
          QT_TRANSLATE_NOOP("host", "Line"),
@@ -79,13 +85,15 @@ const QVector<Signs> &allSigns()
               "line segment|line tool|lines|line 2 points|line by 2 points|line by two points|"
               "line two points|two point line|add straight line"),
          list(drawing),
+         {},
          {}},
         {"ID_OFFSET",
          QT_TRANSLATE_NOOP("host", "Offset"),
          QKeySequence::UnknownKey,
          list("object-offset|offset"),
          list("offset|offset curve|parallel offset|2d offset"),
-         list("edit|modify|draft"),
+         list("edit|modify|draft|tools"),
+         {},
          {}},
         {"ID_OPEN",
          QT_TRANSLATE_NOOP("host", "Open"),
@@ -93,22 +101,27 @@ const QVector<Signs> &allSigns()
          list("document-open"),
          list("open|open file|file open|open drawing|open document|open project"),
          list("file|project|document"),
-         {}},
+         {},
+         list("open|load")},
         {"ID_SAVE",
          QT_TRANSLATE_NOOP("host", "Save"),
          QKeySequence::Save,
          list("document-save"),
          list("save|save file|file save|save drawing|save document|save project"),
          list("file|project|document"),
-         {}},
+         {},
+         list("save|store|write")},
         {"ID_TRIM",
          QT_TRANSLATE_NOOP("host", "Trim"),
          QKeySequence::UnknownKey,
          list("trim"),
          list("trim|trimex|trim extend|trim edge|trim line|trim extend feature|trim curve|trim object"),
-         list("edit|modify|draft"),
+         list("edit|modify|draft|tools"),
+         {},
          {}},
-        {"ID_ZOOM_BOUNDS", QT_TRANSLATE_NOOP("host", "Zoom to Fit"), QKeySequence::UnknownKey,
+        {"ID_ZOOM_BOUNDS",
+         QT_TRANSLATE_NOOP("host", "Zoom to Fit"),
+         QKeySequence::UnknownKey,
          list("zoom-fit-best|zoom-fit|zoom-fit-page|page-zoom"),
          list("zoom fit|zoom to fit|fit zoom|zoom extents|zoom all|zoom to all|zoom bounds|zoom auto|"
               "auto zoom|zoom fit best|zoom content|zoom to content|fit all|view fit|fit in view|"
@@ -116,17 +129,24 @@ const QVector<Signs> &allSigns()
               "fit to screen|fit content|fit to content|fit extents|zoom to extents|"
               "zoom content to fit|zoom page|best fit|view all|zoom full|zoom full extent|"
               "zoom to full extent|full extent|global zoom|zoom global"),
-         list("view|zoom|display"), list("fit|all|extents|best fit")},
+         list("view|zoom|display"),
+         list("fit|all|extents|best fit"),
+         {}},
     };
     return signs;
 }
 
 using Words = QSet<QString>;
 
+Words wordsOf(const QString &text)
+{
+    const QStringList list = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    return Words(list.begin(), list.end());
+}
+
 Words wordsIn(const char *text)
 {
-    const QStringList list = QString::fromLatin1(text).split(QLatin1Char(' '));
-    return Words(list.begin(), list.end());
+    return wordsOf(QString::fromLatin1(text));
 }
 
 // Words of object names that say what sort of thing it is.
@@ -258,7 +278,55 @@ struct Look
     bool isButtonOnly; // or in a menu that opens over something
 };
 
-WellKnownGuess judge(const Signs &signs, const Look &look)
+// Which of the program's texts are English, and can be understood here.
+struct Language
+{
+    bool ofCaptions = false;
+    bool ofNames = false;
+};
+
+Language languageOf(const QVector<QAction *> &actions)
+{
+    // So many of the commands that nearly every program has must be called in English.
+    constexpr int kEnough = 3;
+    static const Words common = wordsIn("new open save close quit exit undo redo cut copy paste print");
+    Words captions;
+    Words names;
+    for (const QAction *action : actions) {
+        captions |= wordsOf(plainWords(plainCaption(action->text()))) & common;
+        names |= wordsOf(wordsOfName(action->objectName()).last()) & common;
+    }
+    return {captions.size() >= kEnough, names.size() >= kEnough};
+}
+
+// True for a text that names something else than one of these stems.
+bool isOtherDeed(const QString &text, const QStringList &stems)
+{
+    constexpr int kShortestWord = 3; // letters; less is no word
+    return text.size() >= kShortestWord
+        && std::none_of(stems.begin(), stems.end(),
+                        [&text](const QString &stem) { return text.contains(stem); });
+}
+
+// True for a guess that rests on one sign alone while another one contradicts it.
+//
+// A wrong guess is worse than none: what only a weak sign speaks for, or what another sign
+// contradicts, is no guess.
+bool isContradicted(const Signs &signs, const Look &look, const Language &language, int weight,
+                    bool isInMenu)
+{
+    if (weight == kShortcutWeight && !signs.stems.isEmpty()) {
+        return (language.ofCaptions && isOtherDeed(look.captionWords, signs.stems))
+            || (language.ofNames && isOtherDeed(look.nameWords.last(), signs.stems));
+    }
+    if (signs.shortcut != QKeySequence::UnknownKey)
+        return false;
+    // One word, in a menu of other things: "Go to > Line".
+    const bool isOneWord = !look.captionWords.contains(QLatin1Char(' '));
+    return weight == kCaptionWeight && isOneWord && !look.menus.isEmpty() && !isInMenu;
+}
+
+WellKnownGuess judge(const Signs &signs, const Look &look, const Language &language)
 {
     WellKnownGuess guess;
     guess.identifier = QLatin1String(signs.identifier);
@@ -296,6 +364,8 @@ WellKnownGuess judge(const Signs &signs, const Look &look)
         guess.weight > 0 || !look.isButtonOnly || signs.shortcut == QKeySequence::UnknownKey;
     weigh(isEnough && isWord(look.captionWords), kCaptionWeight, QStringLiteral("caption"),
           look.caption);
+    if (isContradicted(signs, look, language, guess.weight, isInMenu))
+        guess.weight = 0;
     if (guess.weight > 0 && isInMenu)
         guess.weight += kMenuWeight;
     guess.reason = reasons.join(QStringLiteral(", "));
@@ -324,6 +394,7 @@ QString WellKnownGuess::captionOf(const QString &identifier)
 QVector<WellKnownGuess> WellKnownGuess::among(const QVector<QAction *> &actions,
                                               const QStringList &wanted)
 {
+    const Language language = languageOf(actions);
     QVector<WellKnownGuess> candidates;
     for (QAction *action : actions) {
         if (isSwitchOfBar(*action))
@@ -332,7 +403,7 @@ QVector<WellKnownGuess> WellKnownGuess::among(const QVector<QAction *> &actions,
         for (const Signs &signs : allSigns()) {
             if (!wanted.contains(QLatin1String(signs.identifier)))
                 continue;
-            WellKnownGuess guess = judge(signs, look);
+            WellKnownGuess guess = judge(signs, look, language);
             guess.action = action;
             if (guess.weight > 0)
                 candidates.append(guess);

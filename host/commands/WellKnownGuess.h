@@ -13,7 +13,8 @@ namespace gesturewidget {
 // Finds the well-known commands, such as "ID_LINE", among the actions of a program that
 // nobody has described: by the standard shortcut, by the name of the theme icon, by the
 // object name and by the caption, in this order of trust; of equals the one in the menu where
-// such commands are. What switches a toolbar or a dock is none.
+// such commands are. What switches a toolbar or a dock is none, nor what a single sign speaks
+// for while another one contradicts it, such as Ctrl+C on "Connect".
 struct WellKnownGuess
 {
     QString identifier;

@@ -48,6 +48,10 @@ private Q_SLOTS:
     void aShortcutInALaterMenuIsDoubtful();
     void aPartOfTheWindowHasNoFileCommands();
     void theMenuAloneSaysNothing();
+    void aShortcutAloneIsContradicted_data();
+    void aShortcutAloneIsContradicted();
+    void aShortcutAloneCountsInOtherLanguages();
+    void aCaptionAloneIsContradictedByItsMenu();
     void switchesOfBarsAreNone();
     void anActionStandsForOneOnly();
     void onlyWhatIsWanted();
@@ -316,6 +320,70 @@ void WellKnownGuessTest::aPartOfTheWindowHasNoFileCommands()
     QAction *opens = add(QString(), QStringLiteral("Open..."));
     window.menuBar()->addMenu(QStringLiteral("Map"))->addAction(opens);
     QCOMPARE(WellKnownGuess::among(actions()).value(0).action, opens);
+}
+
+void WellKnownGuessTest::aShortcutAloneIsContradicted_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("caption");
+    QTest::addColumn<QKeySequence>("shortcut");
+    QTest::addColumn<bool>("isGuessed");
+    const auto row = [](const char *name, const char *caption, const QKeySequence &shortcut,
+                        bool isGuessed) {
+        QTest::newRow(caption) << QString::fromLatin1(name) << QString::fromLatin1(caption) << shortcut
+                               << isGuessed;
+    };
+    row("graphConnectAction", "Connect", QKeySequence::Copy, false);
+    row("", "Connect nodes", QKeySequence::Copy, false);
+    row("graphConnectAction", "Verbinden", QKeySequence::Copy, false);
+    row("", "Config settings", QKeySequence::Save, false);
+    row("", "Overview", QKeySequence::Open, false);
+    row("", "Copy to the Clipboard", QKeySequence::Copy, true);
+    row("editDuplicate", "Duplicate", QKeySequence::Copy, true);
+    row("", "Store", QKeySequence::Save, true);
+    row("a", "", QKeySequence::Save, true); // nothing that says otherwise
+}
+
+void WellKnownGuessTest::aShortcutAloneIsContradicted()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, caption);
+    QFETCH(QKeySequence, shortcut);
+    QFETCH(bool, isGuessed);
+    for (const char *each : {"Undo", "Cut", "Quit"}) // the program speaks English
+        add(QStringLiteral("action%1").arg(QLatin1String(each)), QLatin1String(each));
+    const QAction *action = add(name, caption, {}, shortcut);
+    const QVector<WellKnownGuess> found = WellKnownGuess::among(actions());
+    QCOMPARE(!found.isEmpty(), isGuessed);
+    QVERIFY(!isGuessed || found.first().action == action);
+}
+
+// Nothing contradicts a shortcut in a language that is not understood.
+void WellKnownGuessTest::aShortcutAloneCountsInOtherLanguages()
+{
+    for (const char *each : {"Rueckgaengig", "Ausschneiden", "Beenden"})
+        add({}, QLatin1String(each));
+    add({}, QStringLiteral("Kopieren"), {}, QKeySequence::Copy);
+    QCOMPARE(WellKnownGuess::among(actions()).size(), 1);
+}
+
+void WellKnownGuessTest::aCaptionAloneIsContradictedByItsMenu()
+{
+    QMenu goTo(QStringLiteral("&Go to"));
+    QAction *line = add({}, QStringLiteral("Line"));
+    goTo.addAction(line);
+    QVERIFY(WellKnownGuess::among(actions()).isEmpty());
+    // Two words say enough, and another sign does as well.
+    line->setText(QStringLiteral("Straight Line"));
+    QCOMPARE(WellKnownGuess::among(actions()).size(), 1);
+    line->setText(QStringLiteral("Line"));
+    line->setObjectName(QStringLiteral("drawLine"));
+    QCOMPARE(WellKnownGuess::among(actions()).size(), 1);
+    // In a menu where lines are drawn one word is enough.
+    QMenu shapes(QStringLiteral("&Shapes"));
+    line->setObjectName({});
+    shapes.addAction(line);
+    QCOMPARE(WellKnownGuess::among(actions()).size(), 1);
 }
 
 void WellKnownGuessTest::theMenuAloneSaysNothing()
