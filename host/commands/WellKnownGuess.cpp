@@ -20,16 +20,16 @@
 namespace gesturewidget {
 namespace {
 
-// Each sort of evidence outweighs all those after it together: a shortcut hardly ever lies,
-// a caption depends on the language. The menu tells "Insert > Text" from "Convert to > Text";
-// alone it says nothing.
+// Each kind of sign outweighs all later kinds together: a shortcut is nearly always right, a
+// caption depends on the language. The menu tells "Insert > Text" from "Convert to > Text"; alone
+// it means nothing.
 constexpr int kShortcutWeight = 16;
 constexpr int kIconWeight = 8;
 constexpr int kNameWeight = 4;
 constexpr int kCaptionWeight = 2;
 constexpr int kMenuWeight = 1;
-// Of a file command's shortcut in another menu than the first: some program runs something
-// else by it.
+// The shortcut of a file command in a menu other than the first: some programs use it for another
+// command.
 constexpr int kDoubtfulWeight = 1;
 
 struct Signs
@@ -38,14 +38,14 @@ struct Signs
     const char *caption;
     QKeySequence::StandardKey shortcut;
     QStringList icons;
-    // In lower case, words separated by one space. An object name is compared with them
-    // once its words that name no deed are gone, see kNoise.
+    // In lower case, with one space between words. An object name is compared after its kNoise
+    // words are removed.
     QStringList words;
     QStringList menus; // captions, likewise
-    // Words that say too little but in one of these menus.
+    // Words that are clear enough only in one of these menus.
     QStringList wordsInMenus;
-    // Every English name of the command has one of these in it. An English name without them
-    // counts more than the shortcut alone.
+    // Every English name of the command contains one of these. An English name without them counts
+    // more than the shortcut alone.
     QStringList stems;
 };
 
@@ -149,14 +149,14 @@ Words wordsIn(const char *text)
     return wordsOf(QString::fromLatin1(text));
 }
 
-// Words of object names that say what sort of thing it is.
+// Words in object names for the kind of object.
 const Words &kinds()
 {
     static const Words words = wordsIn("act action m ui std menu mnu item btn button tool tb id");
     return words;
 }
 
-// Those and the ones that say where it is, not what it does.
+// The same, and words for the place of a command.
 const Words &noise()
 {
     static const Words words = Words(kinds()) | wordsIn("file edit draw modify view");
@@ -189,7 +189,7 @@ QStringList wordsOfName(QString name)
     return {without(noise(), plain), without(kinds(), plain)};
 }
 
-// Switches that show and hide a toolbar or a dock bear its title, not a deed.
+// Switches for toolbars and docks have the title of what they show, not of a command.
 bool isSwitchOfBar(const QAction &action)
 {
     const QString name = action.objectName().toLower();
@@ -198,7 +198,7 @@ bool isSwitchOfBar(const QAction &action)
             || action.inherits("KToggleToolBarAction") || name.contains(QLatin1String("toolbar")));
 }
 
-// Whether it belongs to a main window inside another, such as an editor for notes in a dock.
+// True for a menu bar of a main window inside another one, such as an editor for notes.
 bool isOfAPart(const QMenuBar *bar)
 {
     const QWidget *up = bar->parentWidget();
@@ -207,8 +207,8 @@ bool isOfAPart(const QMenuBar *bar)
     return up && !up->isWindow();
 }
 
-// The menu's place in a menu bar, of a submenu that of the menu that it is in; -1 if none.
-// The first menu of a part of the window is not the first of all.
+// Returns the menu's place in a menu bar; for a submenu, that of the menu that contains it; -1 if
+// there is none. The first menu of a part of the window does not count as the first.
 int placeInBar(const QMenu *menu)
 {
     constexpr int kDeepest = 16; // menus may contain each other
@@ -227,7 +227,7 @@ int placeInBar(const QMenu *menu)
     return -1;
 }
 
-// The places in menu bars of the menus that an action is in; empty when it is in none there.
+// Returns the places, in menu bars, of the menus that contain an action.
 QVector<int> placesInBars(const QAction &action)
 {
     QVector<int> places;
@@ -251,7 +251,7 @@ QStringList menusOf(const QAction &action)
     return menus;
 }
 
-// What an action shows and is called, read once for all identifiers.
+// An action's texts and icon, read once for all identifiers.
 struct Look
 {
     explicit Look(const QAction &action)
@@ -287,7 +287,7 @@ struct Language
 
 Language languageOf(const QVector<QAction *> &actions)
 {
-    // So many of the commands that nearly every program has must be called in English.
+    // This many common commands must have English names.
     constexpr int kEnough = 3;
     static const Words common = wordsIn("new open save close quit exit undo redo cut copy paste print");
     Words captions;
@@ -359,7 +359,7 @@ WellKnownGuess judge(const Signs &signs, const Look &look, const Language &langu
     };
     weigh(std::any_of(look.nameWords.begin(), look.nameWords.end(), isWord), kNameWeight,
           QStringLiteral("object name"), look.name);
-    // Of a button that is in no menu, "Save" may mean anything, and the command comes later.
+    // On a button outside all menus, "Save" may mean anything.
     const bool isEnough =
         guess.weight > 0 || !look.isButtonOnly || signs.shortcut == QKeySequence::UnknownKey;
     weigh(isEnough && isWord(look.captionWords), kCaptionWeight, QStringLiteral("caption"),

@@ -10,29 +10,29 @@ QT_END_NAMESPACE
 
 namespace gesturewidget {
 
-// Finds the well-known commands, such as "ID_LINE", among the actions of a program that
-// nobody has described: by the standard shortcut, by the name of the theme icon, by the
-// object name and by the caption, in this order of trust; of equals the one in the menu where
-// such commands are. What switches a toolbar or a dock is none, nor what a single sign speaks
-// for while another one contradicts it, such as Ctrl+C on "Connect".
+// Finds the well-known commands, such as "ID_LINE", among the actions of a program without a
+// profile. The signs are, in the order of trust: the standard shortcut, the name of the theme
+// icon, the object name, the caption. Among equals, the action in the menu where such commands are
+// wins. Switches of toolbars and docks are no commands. A single sign that another one contradicts
+// does not count, such as Ctrl+C on "Connect".
 struct WellKnownGuess
 {
     QString identifier;
     QAction *action = nullptr;
-    // How much speaks for it; more than 0.
+    // The weight of the signs; more than 0.
     int weight = 0;
-    // One line for a person, such as: icon "document-open", caption "Open".
+    // The signs, one line for a person, such as: icon "document-open", caption "Open".
     QString reason;
 
-    // The identifiers that can be guessed, sorted.
+    // Returns the identifiers that can be guessed, sorted.
     [[nodiscard]] static QStringList identifiers();
-    // What a command of that identifier is called where the program does not say; empty
-    // for an identifier that is not well known.
+    // Returns a caption for that identifier, for the time when the program shows none; empty if
+    // the identifier is not well known.
     [[nodiscard]] static QString captionOf(const QString &identifier);
 
-    // For each of `wanted` the action that most speaks for; of equals the first in
-    // `actions`. An action stands for one identifier at most. What nothing speaks for is
-    // left out. `actions` holds no nulls.
+    // Returns the best action for each of `wanted`; among equals the first in `actions`. An action
+    // gets one identifier at most. Identifiers without any sign are left out. `actions` holds no
+    // nulls.
     [[nodiscard]] static QVector<WellKnownGuess> among(const QVector<QAction *> &actions,
                                                        const QStringList &wanted = identifiers());
 };

@@ -45,7 +45,7 @@ QString className(const QWidget *widget)
     return QString::fromLatin1(widget->metaObject()->className());
 }
 
-// By name, since the libraries that these come from are none of ours.
+// By name, because these classes come from libraries that are not linked here.
 template <std::size_t Count>
 bool inheritsAny(const QWidget *widget, const std::array<const char *, Count> &names)
 {
@@ -76,7 +76,7 @@ bool isControl(const QWidget *widget)
         widget);
 }
 
-// What never is a view, whatever derives from it.
+// True for widgets that are never views, including derived ones.
 bool isOther(const QWidget *widget, QString *what)
 {
     if (isAnyOf<QTextEdit, QPlainTextEdit>(widget))
@@ -122,8 +122,8 @@ bool isStartPage(const QWidget *widget)
     return false;
 }
 
-// The child of an MDI area, or the main window's central widget, that `widget` is in or is;
-// null when it is in neither.
+// Returns the content of the MDI child, or the main window's central widget, that `widget` is or
+// is in; null if there is none.
 const QWidget *areaOf(const QWidget *widget)
 {
     const QWidget *below = nullptr;
@@ -166,7 +166,7 @@ bool isGraphicsViewOrSurface(const QWidget *widget)
     return isAnyOf<QGraphicsView>(widget) || isSurface(widget);
 }
 
-// Whether the middle of a main window is for something else than drawings, or is not there.
+// True if the middle of a main window holds no drawing, or does not exist.
 bool hasNoViewInside(const QWidget *middle)
 {
     if (!middle || !middle->isVisible() || isSmall(middle))
@@ -178,9 +178,9 @@ bool hasNoViewInside(const QWidget *middle)
                         [](const QWidget *child) { return ViewGuess::of(child).isView; });
 }
 
-// What the large dock holds that `widget` is in, where the drawing is there and not in the
-// middle: beside the text that describes it, or in a window of nothing but docks. Null for
-// any other dock: a picture in one is a preview, a map of the whole, a chooser of colours.
+// Returns the content of the large dock that `widget` is in, if the drawing is in a dock and not
+// in the middle: beside the text that describes it, or in a window of docks only. Returns null for
+// any other dock, where a picture is a preview, a map or a chooser of colours.
 const QWidget *dockAreaOf(const QWidget *widget)
 {
     if (!isGraphicsViewOrSurface(widget))
@@ -201,8 +201,8 @@ const QWidget *viewportOf(const QWidget *widget)
     return area ? area->viewport() : nullptr;
 }
 
-// A visible child that fills most of `widget` and takes its input; null if none. Of a
-// scroll area the content, however large it is.
+// Returns a visible child that fills most of `widget` and takes its input, or null. For a scroll
+// area it is the content, whatever its size.
 const QWidget *contentOf(const QWidget *widget)
 {
     if (const auto *area = qobject_cast<const QScrollArea *>(widget))

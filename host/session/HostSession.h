@@ -62,7 +62,7 @@ private:
     void finish();
 
     const GestureHost::Options m_options;
-    QPointer<QWidget> m_window; // while it is being destroyed it is no QMainWindow any more
+    QPointer<QWidget> m_window; // a plain widget while it is being destroyed
     QVector<QPointer<QWidget>> m_addedViews; // by the program itself
     bool m_isRunning = false;
     bool m_wasStarted = false;
