@@ -358,7 +358,7 @@ void WellKnownGuessTest::aShortcutAloneIsContradicted()
     QVERIFY(!isGuessed || found.first().action == action);
 }
 
-// Nothing contradicts a shortcut in a language that is not understood.
+// In a language that is not understood, nothing contradicts a shortcut.
 void WellKnownGuessTest::aShortcutAloneCountsInOtherLanguages()
 {
     for (const char *each : {"Rueckgaengig", "Ausschneiden", "Beenden"})
