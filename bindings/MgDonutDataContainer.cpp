@@ -8,7 +8,38 @@
 
 #include <algorithm>
 #include <array>
+#include <stdexcept>
+#include <tuple>
 #include <utility>
+
+namespace {
+
+// The value of a key that exists. Throws when the store does not hand it out: it may be a
+// binding, and what is missing would be replaced.
+QString storedValue(const QString &key)
+{
+    // Reading leaves the value as it is when nothing is handed out: this very string.
+    const QString nothing = QStringLiteral("nothing");
+    QString value = nothing;
+    if (!MgDonutSettings::instance()->read(key, value))
+        return {};
+    if (value.constData() == nothing.constData())
+        throw std::runtime_error("the profile store keeps a value back");
+    return value;
+}
+
+// One setting that is one of two strings; what is missing or neither becomes `initial`.
+QString readChoice(const QString &key, const QString &initial, const QString &other)
+{
+    MgDonutSettings *settings = MgDonutSettings::instance();
+    const QString value = settings->keyExists(key) ? storedValue(key) : QString();
+    if (value == initial || value == other)
+        return value;
+    settings->write(key, initial);
+    return initial;
+}
+
+} // namespace
 
 MgDonutDataContainer *MgDonutDataContainer::_pinstance = nullptr;
 
@@ -58,6 +89,7 @@ DonutHelperData MgDonutDataContainer::getDonutHelperData()
             visual.second = record->displayName;
         data.sectorVisuals.insert({direction, visual});
         data.sectorTooltips.insert({direction, record ? record->tooltip : QString()});
+        data.sectorNames.insert({direction, record ? record->displayName : QString()});
         ++direction;
     }
     return data;
@@ -65,13 +97,21 @@ DonutHelperData MgDonutDataContainer::getDonutHelperData()
 
 void MgDonutDataContainer::init()
 {
-    commands.clear();
-    categoryMap = {};
+    auto lastCommands = std::exchange(commands, {});
+    auto lastCategories = std::exchange(categoryMap, {});
+    const auto lastState = std::make_tuple(fourTable, eightTable, gestureEnabled, scheme, largeIcons);
+
+    m_readingFailed = false;
     fillCommandCategoryMap();
-    readCommands();
+    attempt([this] { readCommands(); });
     applyCommonSettings();
     applyFourSettings();
     applyEightSettings();
+    if (!m_readingFailed)
+        return;
+    commands = std::move(lastCommands);
+    categoryMap = std::move(lastCategories);
+    std::tie(fourTable, eightTable, gestureEnabled, scheme, largeIcons) = lastState;
 }
 
 void MgDonutDataContainer::readCommands()
@@ -115,40 +155,27 @@ void MgDonutDataContainer::readCommands()
 
 void MgDonutDataContainer::applyCommonSettings()
 {
-    MgDonutSettings *settings = MgDonutSettings::instance();
-
-    // One setting that is one of two strings; what is missing or neither becomes `initial`.
-    const auto readChoice = [settings](const QString &key, const QString &initial,
-                                       const QString &other) {
-        QString value;
-        if (settings->keyExists(key)) {
-            settings->read(key, value);
-            if (value == initial || value == other)
-                return value;
-        }
-        settings->write(key, initial);
-        return initial;
-    };
-
-    const QString on = QStringLiteral("1");
-    gestureEnabled = readChoice(settingskeys::enableMouseGesture(), on, QStringLiteral("0")) == on;
-    const QString eight = QStringLiteral("8");
-    scheme = readChoice(settingskeys::activeScheme(), eight, QStringLiteral("4")) == eight
-               ? DonutScheme::Eight
-               : DonutScheme::Four;
+    attempt([this] {
+        const QString on = QStringLiteral("1");
+        gestureEnabled = readChoice(settingskeys::enableMouseGesture(), on, QStringLiteral("0")) == on;
+        const QString eight = QStringLiteral("8");
+        scheme = readChoice(settingskeys::activeScheme(), eight, QStringLiteral("4")) == eight
+                   ? DonutScheme::Eight
+                   : DonutScheme::Four;
+    });
 }
 
 void MgDonutDataContainer::applyFourSettings()
 {
-    applyDirections(DonutScheme::Four);
+    attempt([this] { readDirections(DonutScheme::Four); });
 }
 
 void MgDonutDataContainer::applyEightSettings()
 {
-    applyDirections(DonutScheme::Eight);
+    attempt([this] { readDirections(DonutScheme::Eight); });
 }
 
-void MgDonutDataContainer::applyDirections(DonutScheme directionScheme)
+void MgDonutDataContainer::readDirections(DonutScheme directionScheme)
 {
     const bool four = directionScheme == DonutScheme::Four;
     std::vector<int> &table = four ? fourTable : eightTable;
@@ -162,7 +189,7 @@ void MgDonutDataContainer::applyDirections(DonutScheme directionScheme)
         if (untouched)
             id = settingskeys::initialValue(key);
         else if (settings->keyExists(key))
-            settings->read(key, id);
+            id = storedValue(key);
 
         // An empty value is an unbound direction, even if the host has a command without an
         // identifier.
@@ -182,6 +209,8 @@ void MgDonutDataContainer::applyDirections(DonutScheme directionScheme)
 void MgDonutDataContainer::update(const std::vector<MgCommandDS> &records, bool enabled,
                                   DonutScheme activeScheme)
 {
+    if (m_readingFailed)
+        return;
     MgDonutSettings *settings = MgDonutSettings::instance();
     std::array<bool, settingskeys::kFourCount> fourUsed{};
     std::array<bool, settingskeys::kEightCount> eightUsed{};

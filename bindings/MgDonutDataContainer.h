@@ -2,12 +2,14 @@
 
 #include "bindings/DonutHelperData.h"
 #include "bindings/DonutScheme.h"
+#include "bindings/HostCall.h"
 #include "bindings/MgCommandDS.h"
 
 #include <QMap>
 #include <QString>
 #include <QtGlobal>
 
+#include <utility>
 #include <vector>
 
 class CHxUIMenuItemCollection;
@@ -41,8 +43,12 @@ public:
     // host and the settings hold now.
     [[nodiscard]] DonutHelperData getDonutHelperData();
 
-    // Reads the host's commands and all settings anew.
+    // Reads the host's commands and all settings anew. When the host throws in the middle, or
+    // does not hand out a value that it has, the reading has failed: everything stays as it was
+    // read last, and nothing is written until a reading succeeds.
     void init();
+    // Whether the last reading failed; see init().
+    [[nodiscard]] bool hasReadingFailed() const { return m_readingFailed; }
     // The enable flag and the scheme from the settings; what is missing or malformed is
     // written anew.
     void applyCommonSettings();
@@ -54,6 +60,7 @@ public:
     // Takes over and keeps the bindings that `records` hold in their direction bytes. When
     // two records name one direction the later one gets it, and the earlier keeps its byte
     // until the next init(). A byte above the scheme's last direction binds nothing.
+    // Does nothing after a failed reading: what could not be read would be erased.
     void update(const std::vector<MgCommandDS> &records, bool enabled, DonutScheme activeScheme);
     // Writes the factory defaults and reads them back.
     void applyDefaultSettings();
@@ -89,12 +96,20 @@ protected:
     static MgDonutDataContainer *_pinstance;
 
 private:
+    // Makes host calls as a part of a reading; none after the first that failed.
+    template <class Call> void attempt(Call &&call)
+    {
+        m_readingFailed = m_readingFailed || !hostCall(std::forward<Call>(call));
+    }
     void readCommands();
-    void applyDirections(DonutScheme directionScheme);
+    void readDirections(DonutScheme directionScheme);
+    void fileAllCommands();
+    void fileCommands(const QString &parentCategory, CHxUIMenuItemCollection *items);
     [[nodiscard]] const std::vector<int> &activeTable() const;
     // Null for a place where no record is.
     [[nodiscard]] const MgCommandDS *recordAt(int place) const;
 
-    // The collections that fcParseRecursive() is inside of, outermost first.
+    bool m_readingFailed = false;
+    // The collections that fileCommands() is inside of, outermost first.
     std::vector<const CHxUIMenuItemCollection *> m_openMenus;
 };

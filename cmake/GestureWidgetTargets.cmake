@@ -1,12 +1,20 @@
-# What every target of this project has in common.
+# Settings and functions that all targets of this project share.
+
+# Builds for Qt 5 and Qt 6 share one prefix. Most files have the Qt version in their name. The rest
+# are the same in both builds: a Qt 6 build installs them in the components RuntimeCommon and
+# DevelCommon, so that its packages can leave them to those of Qt 5.
+set(GESTUREWIDGET_COMMON_SUFFIX "")
+if(GESTUREWIDGET_QT EQUAL 6)
+  set(GESTUREWIDGET_COMMON_SUFFIX Common)
+endif()
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
 endif()
 
-# gesturewidget_defaults(TARGET): language, warnings, Qt's generators and the rules that
-# this project's sources keep. Files are included by their path from the project's root.
+# gesturewidget_defaults(TARGET): language, warnings, Qt's generators and the rules for this
+# project's sources. Sources include a file by its path from the project's root.
 function(gesturewidget_defaults target)
   set_target_properties(${target} PROPERTIES
     CXX_STANDARD 17
@@ -29,8 +37,28 @@ function(gesturewidget_defaults target)
   endif()
 endfunction()
 
-# gesturewidget_library(NAME ALIAS SOURCES... [LIBRARIES...]): a static library that ends
-# up inside the module; ALIAS is its name behind "GestureWidget::".
+# gesturewidget_public_headers(FOLDER PATHS...): headers and folders of headers that are for other
+# programs, from the current source folder. Their names after <gesturewidget/FOLDER/ are the same in
+# an installation and, through links, in the build tree. FOLDER may be "".
+function(gesturewidget_public_headers folder)
+  string(JOIN "/" public gesturewidget ${folder})
+  file(MAKE_DIRECTORY "${CMAKE_BINARY_DIR}/include/${public}")
+  foreach(path ${ARGN})
+    get_filename_component(name ${path} NAME)
+    file(CREATE_LINK "${CMAKE_CURRENT_SOURCE_DIR}/${path}" "${CMAKE_BINARY_DIR}/include/${public}/${name}"
+      SYMBOLIC)
+    if(IS_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}/${path}")
+      install(DIRECTORY ${path} DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${public}"
+        COMPONENT Devel${GESTUREWIDGET_COMMON_SUFFIX} FILES_MATCHING PATTERN "*.h")
+    else()
+      install(FILES ${path} DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${public}"
+        COMPONENT Devel${GESTUREWIDGET_COMMON_SUFFIX})
+    endif()
+  endforeach()
+endfunction()
+
+# gesturewidget_library(NAME ALIAS SOURCES... [LIBRARIES...]): a static library that becomes part
+# of the module. ALIAS is its name after "GestureWidget::".
 function(gesturewidget_library name alias)
   cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
   add_library(${name} STATIC ${arg_SOURCES})
@@ -40,8 +68,8 @@ function(gesturewidget_library name alias)
   target_link_libraries(${name} PUBLIC ${arg_LIBRARIES})
 endfunction()
 
-# gesturewidget_test(NAME SOURCES... [LIBRARIES...] [LABELS...]): a Qt test program that
-# runs offscreen. An unexpected Qt warning fails it, see tests/support/FatalWarnings.h.
+# gesturewidget_test(NAME SOURCES... [LIBRARIES...] [LABELS...]): a Qt test program that runs
+# offscreen. An unexpected Qt warning fails it, see tests/support/FatalWarnings.h.
 function(gesturewidget_test name)
   cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES;LABELS" ${ARGN})
   add_executable(${name} ${arg_SOURCES})

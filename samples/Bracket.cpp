@@ -40,7 +40,7 @@ void drawFront(Pen &pen, double x, double y)
     pen.circle(middle, axis, kBore);
     pen.circle(middle, axis, kBore + 2);
 
-    // The upright rises from the foot as a tangent of the boss, on either side.
+    // On either side, the upright runs from the foot to the boss as a tangent.
     const double run = kFoot / 2;
     const double rise = kAxis - kBase;
     const double away = std::hypot(run, rise);
@@ -81,7 +81,7 @@ void drawFront(Pen &pen, double x, double y)
     pen.take("DIM");
     pen.upright(y, axis, x - 14, x, kText, QStringLiteral("90"));
     pen.upright(y, y + kBase, x + kLength + 12, x + kLength, kText, QStringLiteral("18"));
-    // A leader to the bore and one to the boss.
+    // Leaders to the bore and to the boss.
     const QLineF bore = QLineF::fromPolar(kBore, 40).translated(middle, axis);
     pen.lines({{bore.x2(), 2 * axis - bore.y2()}, {middle + 44, axis + 40}, {middle + 62, axis + 40}});
     pen.text(middle + 45, axis + 41.5, kText, kDiameter + QStringLiteral("36 H7"), 0, 0);
@@ -210,7 +210,7 @@ void drawFrame(Pen &pen)
     pen.text(345, 31, 3.5, QStringLiteral("Sheet 1 of 1"), 0);
     pen.text(275, 17, 3.5, QStringLiteral("Cast iron"), 0);
     pen.text(345, 17, 3.5, QStringLiteral("All sizes in mm"), 0);
-    // First-angle projection: the truncated cone and what is seen of it from the left.
+    // The symbol of first-angle projection: a truncated cone and its view from the left.
     pen.take("OUTLINE");
     pen.lines({{381, 41}, {391, 42.5}, {391, 47.5}, {381, 49}}, true);
     pen.circle(401, 45, 4);

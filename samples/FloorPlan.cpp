@@ -9,7 +9,7 @@ namespace {
 
 void drawWalls(Pen &pen)
 {
-    // Walls without their corners, then everything that breaks through them.
+    // The walls as rectangles, then the openings in them.
     const QVector<QRectF> walls{
         {0, 0, 11400, 300},      {0, 8100, 11400, 300},   {0, 0, 300, 8400},
         {11100, 0, 300, 8400}, // outside
@@ -38,7 +38,7 @@ void drawWalls(Pen &pen)
     }
     pen.take("WALLS");
     for (QPolygonF outline : path.simplified().toSubpathPolygons()) {
-        // One line from corner to corner, though the path has a point wherever walls met.
+        // One line from corner to corner: the path also has points where walls met.
         outline.removeLast();
         QVector<QPointF> corners;
         for (int i = 0; i < outline.size(); ++i) {
@@ -65,8 +65,8 @@ void drawWindow(Pen &pen, double x, double y, double width, double height)
     }
 }
 
-// A door that hangs at (x, y), closed towards `closed` degrees, open by a quarter turn to
-// the left of that or, with a negative `turn`, to the right.
+// A door with its hinge at (x, y). Closed, it points to `closed` degrees; it is open by a
+// quarter turn to the left or, if `turn` is negative, to the right.
 void drawDoor(Pen &pen, double x, double y, double width, double closed, double turn)
 {
     const QLineF leaf = QLineF::fromPolar(width, -(closed + turn)).translated(x, y);

@@ -2,24 +2,24 @@
 
 #include "examples/sketchpad/Sheet.h"
 
-// Draws on a sheet, a layer at a time.
+// Draws on a sheet, on one layer at a time.
 class Pen
 {
 public:
-    // A layer in a colour of DXF's index, with its line width in hundredths of a millimetre.
+    // Adds a layer. `color` is a DXF colour index, `width` in hundredths of a millimetre.
     void addLayer(const char *name, int color, int width, const char *lineType = "CONTINUOUS");
-    // What is drawn from now on is on this layer.
+    // Sets the layer for everything drawn from now on.
     void take(const char *layer) { m_layer = QLatin1String(layer); }
 
     void line(double x1, double y1, double x2, double y2);
     // Lines from point to point, and back to the first if `closed`.
     void lines(const QVector<QPointF> &points, bool closed = false);
     void rectangle(double left, double bottom, double width, double height);
-    // With corners of this radius.
+    // A rectangle with corners of this radius.
     void rounded(double left, double bottom, double width, double height, double radius);
     void circle(double x, double y, double radius);
     void arc(double x, double y, double radius, double start, double sweep);
-    // `across` and `upright` say where the words stand at the point, see Entity.
+    // `across` and `upright` align the words at the point, see Entity.
     void text(double x, double y, double height, const QString &words, int across = 1, int upright = 2,
               double angle = 0);
     // Two centre lines that reach `beyond` past a circle.

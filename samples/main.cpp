@@ -5,7 +5,7 @@
 
 #include <iostream>
 
-// Writes the sample drawings anew: draw-samples FOLDER
+// Writes the sample drawings: draw-samples FOLDER
 int main(int argc, char **argv)
 {
     const QCoreApplication app(argc, argv);

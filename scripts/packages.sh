@@ -3,18 +3,26 @@
 build_packages=(
   g++ cmake ninja-build
   qtbase5-dev
-  libdxflib-dev
+  libdxflib-dev libx11-dev libxcb1-dev
 )
 desktop_packages=(
-  xvfb openbox picom x11-utils x11-xserver-utils xdotool imagemagick python3
-  libx11-dev libxtst-dev
+  xvfb openbox picom kwin-x11 xfwm4 dbus-daemon x11-utils x11-xserver-utils xdotool imagemagick python3
+  libxtst-dev
   fonts-dejavu-core qt5-style-plugins
 )
-test_packages=(
-  qt6-base-dev
-  librapidcheck-dev poppler-utils binutils dpkg-dev file fonts-wine python3-jsonschema
-  breeze-icon-theme libqt5svg5 libqt6svg6
+# What only ./test --desks needs: window managers, Wayland sessions and their input.
+desk_packages=(
+  marco mate-desktop-common mate-settings-daemon-common mutter icewm i3-wm awesome fluxbox
+  tigervnc-standalone-server kwin-wayland sway xwayland x11-xkb-utils python3-dbus
 )
+test_packages=(
+  qt6-base-dev qtbase5-private-dev qt6-base-private-dev
+  librapidcheck-dev poppler-utils binutils file fonts-wine python3-jsonschema
+  breeze-icon-theme libqt5svg5 libqt6svg6
+  git dpkg-dev debhelper lintian appstream desktop-file-utils pkg-config
+)
+
+lint_packages=(clang-format clang-tidy clazy hunspell hunspell-en-gb reuse)
 
 # install_packages NAME...: installs those that are missing; asks nothing. Returns apt-get's
 # status, 0 when nothing was missing.

@@ -1,13 +1,15 @@
 #pragma once
 
-// The one place where Qt 5 and Qt 6 differ: everything else includes this header and
-// never asks for a Qt version.
+// The only place that knows Qt 5 from Qt 6. All other files include this header and never check
+// the Qt version. It is not installed.
 
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QEnterEvent>
+#include <QIcon>
 #include <QMouseEvent>
+#include <QPixmap>
 #include <QStyleOptionViewItem>
 #include <QWidget>
 
@@ -22,11 +24,11 @@
 
 namespace qtbridge {
 
-// The Qt major version this file is compiled for: 5 or 6.
+// The Qt major version that this file is compiled for: 5 or 6.
 constexpr int kQtMajor = QT_VERSION_MAJOR;
 
-// The desktop as a parent for windows that belong to no main window. Qt 6 has no such
-// widget any more; null, which it means there, makes a window without a parent.
+// The parent for windows that belong to no main window. Qt 5: the desktop widget. Qt 6 has no
+// such widget: null, which makes a window without a parent.
 [[nodiscard]] inline QWidget *desktopWidget()
 {
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
@@ -82,8 +84,8 @@ constexpr int kQtMajor = QT_VERSION_MAJOR;
 #endif
 }
 
-// An event of a pen that is pressed half as hard as can be and held upright. The position
-// is in pixels of the window that it is for.
+// An event of a pen that is held upright, at half of the maximum pressure. `position` is in pixels
+// of the window that receives the event.
 [[nodiscard]] inline std::unique_ptr<QTabletEvent>
 tabletEvent(QEvent::Type type, const QPointF &position, const QPointF &globalPosition,
             Qt::MouseButton button, Qt::MouseButtons buttons)
@@ -101,8 +103,8 @@ tabletEvent(QEvent::Type type, const QPointF &position, const QPointF &globalPos
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
 namespace detail {
-// A mouse event with what only Qt itself may set. The first press of a double click carries
-// a mark, by which Qt's widgets tell it from a press of its own.
+// Copies the part of a mouse event that only Qt can set: a mark on the press of a double click.
+// Qt's widgets use it to tell that press from an ordinary one.
 class MouseEvent : public QMouseEvent
 {
 public:
@@ -122,7 +124,7 @@ public:
 } // namespace detail
 #endif
 
-// A mouse event that is kept to be sent later.
+// A mouse event that is stored and sent later.
 class KeptMouseEvent
 {
 public:
@@ -144,8 +146,8 @@ public:
         , m_device(event.pointingDevice())
     {
     }
-    // Made anew: a copy shares its point with the pointing device, which moves it on with
-    // every further event.
+    // Creates a new event. A plain copy would share its point with the pointing device, which
+    // changes the point with every later event.
     [[nodiscard]] std::unique_ptr<QMouseEvent> event() const
     {
         const QPointingDevice *device =
@@ -165,7 +167,7 @@ private:
     QPointF m_position;
     QPointF m_scenePosition;
     QPointF m_globalPosition;
-    QPointer<const QPointingDevice> m_device; // it may be unplugged meanwhile
+    QPointer<const QPointingDevice> m_device; // may be unplugged meanwhile
 #endif
 };
 
@@ -179,8 +181,28 @@ template <class Event> [[nodiscard]] std::unique_ptr<Event> copyOf(const Event &
 #endif
 }
 
+// The icon's pixmap, Normal and Off, of at most `size` in pixels of a widget, for a device with
+// `ratio` pixels for each of them. Its device pixel ratio is lower than `ratio` if the icon has
+// no image that large.
+[[nodiscard]] inline QPixmap pixmapOf(const QIcon &icon, const QSize &size, qreal ratio)
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    // Qt 5 multiplies by the application's ratio itself, but only where a program asks for it.
+    const qreal factor = QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps)
+                           ? ratio / qApp->devicePixelRatio()
+                           : ratio;
+    QPixmap pixmap = icon.pixmap(size * factor, QIcon::Normal, QIcon::Off);
+    const qreal across = qreal(pixmap.width()) / size.width();
+    const qreal down = qreal(pixmap.height()) / size.height();
+    pixmap.setDevicePixelRatio(qMax(qreal(1), qMin(ratio, qMax(across, down))));
+    return pixmap;
+#else
+    return icon.pixmap(size, ratio, QIcon::Normal, QIcon::Off);
+#endif
+}
+
 namespace detail {
-// Only names the protected function below; there is never an object of it.
+// Gives access to a protected function. No object of this class ever exists.
 class ItemViewAccess : public QAbstractItemView
 {
 public:
@@ -197,7 +219,7 @@ public:
 };
 } // namespace detail
 
-// What a view tells its delegates of every item alike.
+// The style options that an item view passes to its delegates for every item.
 [[nodiscard]] inline QStyleOptionViewItem viewOptions(const QAbstractItemView &view)
 {
     return detail::ItemViewAccess::optionsOf(view);

@@ -2,9 +2,9 @@
 
 #include <QtGlobal>
 
-// Marks what the interface library offers to the host and to modules.
+// Marks what the sdk library exports to hosts and modules.
 #if defined(GESTUREWIDGET_SDK_LIBRARY)
-#    define SDK_EXPORT Q_DECL_EXPORT
+#    define GESTUREWIDGET_SDK_EXPORT Q_DECL_EXPORT
 #else
-#    define SDK_EXPORT Q_DECL_IMPORT
+#    define GESTUREWIDGET_SDK_EXPORT Q_DECL_IMPORT
 #endif

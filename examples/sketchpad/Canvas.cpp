@@ -14,7 +14,7 @@
 
 namespace {
 
-// How near the pointer has to be, in pixels.
+// The pointer touches what is this near, in pixels.
 constexpr double kReach = 8;
 constexpr double kWheelFactor = 1.2;
 constexpr double kSmallestScale = 1e-6;
@@ -40,9 +40,9 @@ Canvas::Canvas(Drawing &drawing, QWidget *parent)
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setContextMenuPolicy(Qt::CustomContextMenu);
-    setCursor(Qt::BlankCursor); // paintPointer() draws one that can be seen on the dark ground
+    setCursor(Qt::BlankCursor); // paintPointer() draws one that is visible on dark
     setMinimumSize(200, 150);
-    // Indices do not outlive a change.
+    // A change of the drawing invalidates the indices.
     connect(&drawing, &Drawing::changed, this, [this] { select({}); });
 }
 
@@ -52,7 +52,7 @@ QColor Canvas::color(int index)
                                  0xff6f9cff, 0xffd68cff, 0xffe6e9ef, 0xff8b94a3, 0xffb9c0cb};
     if (index >= 0 && index < 10)
         return QColor::fromRgb(named[index]);
-    if (index < 250) // 24 hues, each in five shades, full and pale
+    if (index < 250) // 24 hues in five shades, each full and pale
         return QColor::fromHsv((index / 10 - 1) * 15 % 360, index % 2 ? 110 : 220,
                                255 - index % 10 / 2 * 32);
     return QColor::fromHsv(0, 0, std::min(110 + (index - 250) * 27, 255));
@@ -227,7 +227,7 @@ void Canvas::mouseReleaseEvent(QMouseEvent *event)
     const bool adding = event->modifiers() & Qt::ShiftModifier;
     m_bandFrom.reset();
     if ((from - pixels).manhattanLength() > kReach) {
-        // Drawn to the left, the frame also takes what it only touches.
+        // A frame drawn to the left also selects what it only touches.
         selectIn(frame, pixels.x() < from.x(), adding);
         return;
     }
@@ -312,7 +312,8 @@ void Canvas::paint(QPainter &painter, const Entity &entity, const QColor &color,
     QVector<qreal> dashes;
     for (const double dash : sheet.lineTypes.value(byLayer ? layer.lineType : entity.lineType))
         dashes.append(std::max(std::abs(dash) * m_scale / pen.widthF(), 0.1));
-    // Too fine a pattern is a grey haze at great cost; an odd one cannot be a pattern.
+    // Skip a pattern that is so fine that it looks grey and takes long to paint. Qt takes only
+    // patterns of an even length.
     const double pixels = std::accumulate(dashes.begin(), dashes.end(), 0.0) * pen.widthF();
     if (!dashes.isEmpty() && dashes.size() % 2 == 0 && pixels > 4) {
         pen.setCapStyle(Qt::FlatCap);
@@ -327,13 +328,13 @@ void Canvas::paint(QPainter &painter, const Entity &entity, const QColor &color,
 
 void Canvas::paintGrid(QPainter &painter) const
 {
-    // The finest power of ten that keeps its lines 12 pixels apart.
+    // The smallest power of ten whose lines are at least 12 pixels apart.
     const double step = std::pow(10, std::ceil(std::log10(12 / m_scale)));
     const QRectF seen(toDrawing({0.0, double(height())}), toDrawing({double(width()), 0.0}));
     for (const bool tenth : {false, true}) {
         const double gap = tenth ? step * 10 : step;
         painter.setPen(tenth ? kGridTenth : kGrid);
-        // Counted, since far out a step may be too small to get on by adding it.
+        // Lines are counted: far from the origin, adding a small step may change nothing.
         const double left = std::ceil(seen.left() / gap);
         const double bottom = std::ceil(seen.top() / gap);
         for (int i = 0; i <= width() / 12 + 1; ++i)

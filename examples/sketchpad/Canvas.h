@@ -5,7 +5,7 @@
 #include <QTransform>
 #include <QWidget>
 
-// The drawing on the screen: shows it, moves over it, and hands the pointer to the tool.
+// The view of the drawing: shows it, zooms and pans, and passes the pointer to the tool.
 class Canvas : public QWidget
 {
     Q_OBJECT
@@ -13,35 +13,35 @@ class Canvas : public QWidget
 public:
     explicit Canvas(Drawing &drawing, QWidget *parent = nullptr);
 
-    // Starts a command, with what is selected.
+    // Starts a command with the selection.
     void begin(Tool::Kind kind);
     [[nodiscard]] const Tool &tool() const { return m_tool; }
-    // Gives what was typed to the running command. False if it is not for it: a command's
-    // name, perhaps.
+    // Passes typed text to the running command. Returns false if the command cannot use it,
+    // for instance because it is the name of a command.
     bool type(const QString &text);
-    // What is being typed, to be shown where it will stand.
+    // Shows the text that is being typed where it will be placed.
     void setTyped(const QString &text);
 
     [[nodiscard]] const std::vector<std::size_t> &selection() const { return m_selection; }
     void select(const std::vector<std::size_t> &indices);
 
     void zoomToBounds();
-    // Larger for a factor above 1; the point at `fixed` (pixels) stays where it is.
+    // Enlarges by a factor above 1. The point at `fixed` (pixels) keeps its place.
     void zoom(double factor, const QPointF &fixed);
     [[nodiscard]] QPointF toDrawing(const QPointF &pixels) const;
     [[nodiscard]] QPointF toPixels(const QPointF &point) const;
 
     void setGridShown(bool shown);
     void setSnapping(bool snapping) { m_snapping = snapping; }
-    // A colour index of DXF as it looks on this dark ground.
+    // The colour of a DXF colour index on this dark ground.
     [[nodiscard]] static QColor color(int index);
 
 Q_SIGNALS:
     void cursorMoved(const QPointF &point);
     void toolChanged();
-    // What is typed over the canvas is meant for the command line.
+    // Keys typed over the canvas are for the command line.
     void keyPressed(QKeyEvent *event);
-    // Something to tell the person in the status bar.
+    // A message for the status bar.
     void hint(const QString &text);
 
 protected:
@@ -66,10 +66,10 @@ private:
     Drawing &m_drawing;
     Tool m_tool;
     std::vector<std::size_t> m_selection;
-    double m_scale = 4; // pixels a unit
+    double m_scale = 4; // pixels per unit
     QPointF m_centre; // of the view, in drawing units
     QPointF m_pointer; // in pixels
-    QPointF m_cursor; // where the next point falls, in drawing units
+    QPointF m_cursor; // the next point, in drawing units
     std::optional<QPointF> m_snap;
     std::optional<QPointF> m_panFrom; // in pixels
     std::optional<QPointF> m_bandFrom; // in drawing units

@@ -61,7 +61,7 @@ CommandLine::CommandLine(QWidget *parent)
 
 bool CommandLine::eventFilter(QObject *watched, QEvent *event)
 {
-    // While nothing is typed, Ctrl+Z, Del and the like are about the drawing.
+    // While the line is empty, Ctrl+Z, Del and similar keys act on the drawing.
     if (event->type() == QEvent::ShortcutOverride && m_edit->text().isEmpty()) {
         event->ignore();
         return true;

@@ -8,7 +8,7 @@ class QLabel;
 class QLineEdit;
 QT_END_NAMESPACE
 
-// The line at the bottom, where commands and coordinates are typed.
+// The line at the bottom, in which a person types commands and coordinates.
 class CommandLine : public QWidget
 {
     Q_OBJECT
@@ -21,8 +21,8 @@ public:
         QPointF point;
         double number = 0;
     };
-    // "3,4" is a point, "@3,4" one that far from `last`, "5<90" and "@5<90" the same by
-    // distance and angle in degrees, "3.5" a number, anything else words.
+    // "3,4" is a point, "@3,4" a point relative to `last`. "5<90" and "@5<90" are the same by
+    // distance and angle in degrees. "3.5" is a number, and everything else is words.
     [[nodiscard]] static Input parse(const QString &text, const QPointF &last);
 
     explicit CommandLine(QWidget *parent = nullptr);

@@ -65,7 +65,7 @@ std::optional<QRectF> Drawing::bounds() const
     for (const Entity &entity : entities()) {
         if (!isVisible(entity))
             continue;
-        // QRectF::united ignores a rectangle without height, which a level line has.
+        // QRectF::united ignores a rectangle of height 0, such as that of a horizontal line.
         const QRectF one = entity.bounds();
         all = !all ? one
                    : QRectF(QPointF(std::min(all->left(), one.left()), std::min(all->top(), one.top())),

@@ -6,7 +6,7 @@
 
 #include <optional>
 
-// The drawing that is being worked on: a sheet whose changes can be undone.
+// The open drawing: a sheet with undo and redo.
 class Drawing : public QObject
 {
     Q_OBJECT
@@ -16,9 +16,9 @@ public:
 
     [[nodiscard]] const Sheet &sheet() const { return m_sheet; }
     [[nodiscard]] const std::vector<Entity> &entities() const { return m_sheet.entities; }
-    // Puts another sheet in place; nothing can be undone then.
+    // Replaces the sheet and clears undo and redo.
     void setSheet(Sheet sheet);
-    // Nothing that the file held is missing any more: it has been written anew.
+    // Call this after saving. The file now holds exactly this drawing, so nothing is unread.
     void setSaved();
     [[nodiscard]] bool isModified() const { return m_modified; }
 
@@ -32,9 +32,10 @@ public:
 
     // Layers that are off or frozen hide what is on them.
     [[nodiscard]] bool isVisible(const Entity &entity) const;
-    // The visible entity nearest to `point`, the later drawn of equals, within `reach`.
+    // The visible entity nearest to `point` within `reach`; the later one if two are equally
+    // near.
     [[nodiscard]] std::optional<std::size_t> nearest(const QPointF &point, double reach) const;
-    // Around everything that is visible; none of an empty drawing.
+    // The bounds of everything that is visible; none if nothing is.
     [[nodiscard]] std::optional<QRectF> bounds() const;
 
 Q_SIGNALS:

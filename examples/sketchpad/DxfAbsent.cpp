@@ -1,4 +1,4 @@
-// Stands in for DxfFile.cpp where dxflib is missing.
+// Replaces DxfFile.cpp in a build without dxflib.
 #include "examples/sketchpad/DxfFile.h"
 
 namespace dxf {
@@ -10,13 +10,13 @@ bool isSupported()
 
 std::optional<Sheet> read(const QString &, QString *error)
 {
-    *error = QStringLiteral("This Sketchpad was built without DXF files.");
+    *error = QStringLiteral("This Sketchpad was built without support for DXF files.");
     return std::nullopt;
 }
 
 bool write(const Sheet &, const QString &, QString *error)
 {
-    *error = QStringLiteral("This Sketchpad was built without DXF files.");
+    *error = QStringLiteral("This Sketchpad was built without support for DXF files.");
     return false;
 }
 

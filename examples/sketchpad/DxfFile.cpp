@@ -2,10 +2,10 @@
 
 #include "examples/sketchpad/DxfFilter.h"
 #include "examples/sketchpad/DxfReader.h"
+#include "examples/sketchpad/ReplaceFile.h"
 
 #include <dxflib/dl_dxf.h>
 #include <QFile>
-#include <QSaveFile>
 #include <QTemporaryDir>
 #include <QtMath>
 
@@ -21,12 +21,16 @@ QString tr(const char *sentence)
     return QCoreApplication::translate("dxf", sentence);
 }
 
-// ASCII, with everything else as \U+XXXX, which readers of all ages understand.
+// Text as ASCII, every other character as \U+XXXX, which old readers understand as well. Also
+// coded are the first characters of "\U+" and "%%", so that typed text does not read as a code.
 std::string encoded(const QString &text)
 {
     std::string bytes;
-    for (const QChar character : text) {
-        if (character.unicode() >= 32 && character.unicode() < 127)
+    for (QString::size_type i = 0; i < text.size(); ++i) {
+        const QChar character = text.at(i);
+        const QString start = text.mid(i, 3);
+        const bool readsAsCode = start == QLatin1String("\\U+") || start.startsWith(QLatin1String("%%"));
+        if (character.unicode() >= 32 && character.unicode() < 127 && !readsAsCode)
             bytes += character.toLatin1();
         else
             bytes += QStringLiteral("\\U+%1")
@@ -37,7 +41,7 @@ std::string encoded(const QString &text)
     return bytes;
 }
 
-// The name of a line type that the file will define.
+// The name of a line type that the file defines.
 std::string defined(const QString &lineType, const Sheet &sheet)
 {
     const bool isKnown = sheet.lineTypes.contains(lineType) || lineType == QLatin1String("BYLAYER")
@@ -49,7 +53,7 @@ void writeTables(DL_Dxf &dxf, DL_WriterA &out, const Sheet &sheet)
 {
     out.sectionTables();
     dxf.writeVPort(out);
-    // Each table announces its size; a line type's first two entries stand for themselves.
+    // Each table starts with its size. The first two line types are in every file.
     out.tableLinetypes(int(sheet.lineTypes.size()) + 2);
     for (const char *name : {"BYBLOCK", "BYLAYER"})
         dxf.writeLinetype(out, DL_LinetypeData(name, "", 0, 0, 0));
@@ -147,15 +151,15 @@ std::optional<Sheet> read(const QString &path, QString *error)
 
 bool write(const Sheet &sheet, const QString &path, QString *error)
 {
-    // dxflib writes to a named file and does not say when the disk is full. So it writes
-    // aside, and only a file that has its end replaces what was there.
+    // dxflib writes to a named file and does not report a full disk. It therefore writes a
+    // temporary file, and only one that is complete replaces the old file.
     QTemporaryDir aside;
     const QString name = aside.filePath(QStringLiteral("drawing.dxf"));
     DL_Dxf dxf;
     const std::unique_ptr<DL_WriterA> out(
         dxf.out(QFile::encodeName(name).constData(), DL_Codes::AC1015));
     if (!aside.isValid() || !out) {
-        *error = tr("The folder for temporary files cannot be written to.");
+        *error = tr("Temporary files cannot be written.");
         return false;
     }
     dxf.writeHeader(*out);
@@ -178,11 +182,7 @@ bool write(const Sheet &sheet, const QString &path, QString *error)
         *error = tr("The folder for temporary files is full.");
         return false;
     }
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
-        return true;
-    *error = file.errorString();
-    return false;
+    return replaceFile(path, bytes, error);
 }
 
 } // namespace dxf

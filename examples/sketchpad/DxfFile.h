@@ -4,16 +4,17 @@
 
 #include <optional>
 
-// Drawings as DXF files. Built without dxflib, nothing can be read or written.
+// Drawings as DXF files. Without dxflib, both functions fail.
 namespace dxf {
 
 [[nodiscard]] bool isSupported();
 
-// The drawing in `path`; none, with a sentence in `error`, if it cannot be read.
+// Returns the drawing in `path`. If it cannot be read, returns none and sets `error` to a
+// sentence.
 [[nodiscard]] std::optional<Sheet> read(const QString &path, QString *error);
 
-// Writes the drawing to `path`. The file that was there stays untouched unless all of the
-// new one could be written; false then, with a sentence in `error`.
+// Writes the drawing to `path`. If not all of it can be written, the old file stays as it was;
+// returns false and sets `error` to a sentence.
 [[nodiscard]] bool write(const Sheet &sheet, const QString &path, QString *error);
 
 } // namespace dxf

@@ -9,7 +9,7 @@ namespace {
 
 // The reader's buffer for a line holds 1024 characters.
 constexpr int kLongestValue = 1000;
-// Farther out than this, a drawing cannot be shown as a whole.
+// A drawing with a coordinate beyond this cannot be shown as a whole.
 constexpr double kFarthest = 1e9;
 
 bool isWhole(int code)
@@ -22,7 +22,7 @@ bool isReal(int code)
     return code >= 10 && code < 60;
 }
 
-// What is kept of an entity, by group code; besides layer, line type, colour and width.
+// The group codes that are kept of an entity, besides layer, line type, colour and width.
 QList<int> keptCodes(const QByteArray &name)
 {
     static const QHash<QByteArray, QList<int>> codes{
@@ -35,8 +35,8 @@ QList<int> keptCodes(const QByteArray &name)
     return found == codes.constEnd() ? QList<int>() : QList<int>{8, 6, 62, 370} + *found;
 }
 
-// Whether the reader can take a value. It does not check numbers, nor can its writer put
-// down very large ones.
+// True if the reader can take a value. It does not check numbers, and its writer cannot
+// write very large ones.
 bool isSound(int code, const QByteArray &value)
 {
     bool sound = true;
@@ -49,8 +49,8 @@ bool isSound(int code, const QByteArray &value)
     return sound && value.size() <= kLongestValue;
 }
 
-// Whether nothing is lost with a group that is not kept: it is about the file's own order,
-// or it only says what would hold anyway.
+// True if nothing is lost when a group is not kept: it only describes the file's structure,
+// or it has its default value.
 bool isNothing(int code, const QByteArray &value)
 {
     switch (code) {
@@ -97,7 +97,7 @@ DxfFilter::DxfFilter(const QByteArray &file)
     if (records.isEmpty() || records.first().name != "SECTION")
         m_error = tr("It is not a DXF file.");
     else if (records.last().name != "EOF")
-        m_error = tr("It is cut short: the end of the drawing is missing.");
+        m_error = tr("It is incomplete: the end of the drawing is missing.");
     if (!m_error.isEmpty())
         return;
     for (const Record &record : records)
@@ -118,7 +118,7 @@ QList<DxfFilter::Record> DxfFilter::split(const QByteArray &file)
                         : tr("It is damaged: line %1 should be a group code.").arg(i + 1);
             return {};
         }
-        // Blanks around a text belong to it.
+        // Blanks at the ends of a text are part of it.
         const QByteArray value = lines[i + 1].endsWith('\r') ? lines[i + 1].chopped(1) : lines[i + 1];
         if (code == 0)
             records.append({value.trimmed().toUpper(), {}});
@@ -147,11 +147,11 @@ void DxfFilter::take(const Record &record)
     } else if (m_section == "ENTITIES") {
         takeEntity(record);
     } else if (m_section == "BLOCKS") {
-        // The model and its layouts are blocks too. Empty ones are in every file.
+        // The model and its layouts are blocks too. Every file has some that are empty.
         if (record.name != "BLOCK" && record.name != "ENDBLK")
             ++m_unread[tr("%1 in a block").arg(QString::fromLatin1(record.name.left(40)))];
     } else if (m_section == "TABLES") {
-        // An overlong name would keep the reader busy for ever, so only these pass.
+        // Only these tables pass: an overlong name would put the reader into an endless loop.
         if (record.name == "TABLE")
             m_table = record.value(2).toUpper();
         const bool isFrame = record.name == "TABLE" || record.name == "ENDTAB";
@@ -164,7 +164,7 @@ void DxfFilter::take(const Record &record)
 
 void DxfFilter::takeEntity(const Record &record)
 {
-    // Vertices share the fate of the polyline that they belong to.
+    // Vertices are kept or left out with their polyline.
     const bool belongs = record.name == "VERTEX" || record.name == "SEQEND";
     const auto polyline = m_polyline;
     if (!belongs || record.name == "SEQEND")
@@ -177,7 +177,7 @@ void DxfFilter::takeEntity(const Record &record)
     bool readable = !kept.isEmpty();
     bool whole = true;
     for (const Pair &pair : record.pairs) {
-        // Invisible, on a sheet of paper, in a plane of its own.
+        // Invisible, in paper space, or in a plane of its own.
         const bool elsewhere =
             pair.code == 60 || pair.code == 67 || (pair.code >= 210 && pair.code <= 230);
         if (!isSound(pair.code, pair.value) || (elsewhere && !isNothing(pair.code, pair.value)))
@@ -193,14 +193,14 @@ void DxfFilter::takeEntity(const Record &record)
         const int upright = record.value(73).toInt();
         readable = readable && across >= 0 && across <= 4 && across != 3 && upright >= 0 && upright <= 3;
     }
-    // 1 is closed, 128 is about dashes; the others are meshes and fitted curves.
+    // Flag 1 is "closed", 128 concerns dashes; the others mark meshes and fitted curves.
     if (record.name.endsWith("POLYLINE"))
         readable = readable && !(record.value(70).toInt() & ~129);
 
     if (!readable)
         ++m_unread[name];
     else if (!whole)
-        ++m_unread[tr("%1 of which only a part is kept").arg(name)];
+        ++m_unread[tr("%1 (kept in part)").arg(name)];
     if (readable)
         write(record, kept);
     if (record.name == "POLYLINE")
@@ -214,7 +214,7 @@ void DxfFilter::write(const Record &record, const QList<int> &codes)
     };
     put(0, record.name);
     if (record.name == "LWPOLYLINE") {
-        // Counted here: the reader makes room for as many vertices as the file announces.
+        // Counted here: the reader allocates as many vertices as the file announces.
         int vertices = 0;
         for (const Pair &pair : record.pairs)
             vertices += pair.code == 10;

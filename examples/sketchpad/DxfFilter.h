@@ -8,21 +8,20 @@
 
 #include <string>
 
-// Looks through a DXF file before the reader sees it: tells a damaged file from a sound one,
-// picks out what this program can keep and counts everything else. What it hands on is well
-// formed, whatever the file says of itself.
+// Checks a DXF file before the reader sees it. It refuses a damaged file, selects what this
+// program can keep, and counts the rest. Its output is always well formed.
 class DxfFilter
 {
     Q_DECLARE_TR_FUNCTIONS(DxfFilter)
 
 public:
-    // A file that is not a whole text DXF file leaves a sentence in error().
+    // Sets error() if `file` is not a complete text DXF file.
     explicit DxfFilter(const QByteArray &file);
 
     [[nodiscard]] const QString &error() const { return m_error; }
     // A smaller DXF file: layers, line types, and the entities that can be read.
     [[nodiscard]] const std::string &known() const { return m_known; }
-    // What else there was, and how often; also entities that are read but not whole.
+    // The kinds of entities that were not read, or read only in part, with their count.
     [[nodiscard]] const QMap<QString, int> &unread() const { return m_unread; }
     // The value of $INSUNITS.
     [[nodiscard]] int units() const { return m_units; }
@@ -33,7 +32,7 @@ private:
         int code;
         QByteArray value;
     };
-    // What lies between one group code 0 and the next.
+    // The groups from one group code 0 to the next.
     struct Record
     {
         QByteArray name;

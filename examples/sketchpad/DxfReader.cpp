@@ -1,6 +1,7 @@
 #include "examples/sketchpad/DxfReader.h"
 
 #include <QLineF>
+#include <QMap>
 #include <QRegularExpression>
 #include <QtMath>
 
@@ -8,25 +9,34 @@
 
 namespace {
 
-// Newer files are UTF-8, older ones Windows-1252 with \U+XXXX for the rest.
+// Newer files are UTF-8, older ones Windows-1252 with \U+XXXX for other characters.
+//
+// Everything is decoded in one pass, so that a decoded character never becomes part of
+// another code: that is how a file can hold the text "\U+0041" itself.
 QString decoded(const std::string &bytes)
 {
     QString text = QString::fromUtf8(bytes.c_str());
     if (text.contains(QChar::ReplacementCharacter))
         text = QString::fromLatin1(bytes.c_str());
-    static const QRegularExpression coded(QStringLiteral("\\\\U\\+([0-9A-Fa-f]{4})"));
-    for (auto match = coded.match(text); match.hasMatch();
-         match = coded.match(text, match.capturedStart() + 1))
-        text.replace(match.capturedStart(), match.capturedLength(),
-                     QChar(match.captured(1).toUShort(nullptr, 16)));
-    text.replace(QLatin1String("%%d"), QStringLiteral("\u00b0"), Qt::CaseInsensitive);
-    text.replace(QLatin1String("%%p"), QStringLiteral("\u00b1"), Qt::CaseInsensitive);
-    text.replace(QLatin1String("%%c"), QStringLiteral("\u2300"), Qt::CaseInsensitive);
-    return text;
+    static const QRegularExpression code(QStringLiteral("\\\\U\\+([0-9A-Fa-f]{4})|%%([dpcDPC])"));
+    static const QMap<QString, QChar> signs{{QStringLiteral("d"), QChar(0x00b0)},
+                                            {QStringLiteral("p"), QChar(0x00b1)},
+                                            {QStringLiteral("c"), QChar(0x2300)}};
+    QString result;
+    QString::size_type end = 0;
+    for (auto matches = code.globalMatch(text); matches.hasNext();) {
+        const auto match = matches.next();
+        result += text.mid(end, match.capturedStart() - end);
+        const QString digits = match.captured(1);
+        result += digits.isEmpty() ? signs.value(match.captured(2).toLower())
+                                   : QChar(digits.toUShort(nullptr, 16));
+        end = match.capturedEnd();
+    }
+    return result + text.mid(end);
 }
 
-// The side of a polyline between two vertices; `bulge` is the tangent of a quarter of the
-// angle that it turns by, 0 for a straight one.
+// The side of a polyline between two vertices. `bulge` is the tangent of a quarter of the
+// side's arc angle; 0 is a straight side.
 Entity side(const QPointF &from, const QPointF &to, double bulge)
 {
     const QLineF chord(from, to);
@@ -64,7 +74,7 @@ void DxfReader::addLinetypeDash(double length)
 
 void DxfReader::addLinetype(const DL_LinetypeData &data)
 {
-    // Names of line types are the same in small letters.
+    // Names of line types are case-insensitive.
     m_sheet.lineTypes[decoded(data.name).toUpper()] = m_dashes;
     m_dashes.clear();
 }
@@ -77,7 +87,7 @@ void DxfReader::add(Entity entity)
         attributes.getColor() >= 0 && attributes.getColor() < 256 ? attributes.getColor() : 256;
     entity.lineType = decoded(attributes.getLinetype()).toUpper();
     entity.width = attributes.getWidth();
-    m_sheet.layers[entity.layer]; // each has an entry, also where the file forgot it
+    m_sheet.layers[entity.layer]; // every layer has an entry, even if the file has none
     m_sheet.entities.push_back(entity);
 }
 
@@ -99,12 +109,12 @@ void DxfReader::addCircle(const DL_CircleData &data)
 
 void DxfReader::addText(const DL_TextData &data)
 {
-    // 4 is one word for the middle both ways. An aligned text hangs on its second point.
+    // 4 means centred in both directions. An aligned text is placed by its second point.
     const bool middle = data.hJustification == 4;
     const bool aligned = data.hJustification || data.vJustification;
     Entity text = Entity::label(aligned ? QPointF(data.apx, data.apy) : QPointF(data.ipx, data.ipy),
                                 data.height, decoded(data.text));
-    text.angle = qRadiansToDegrees(data.angle); // of all angles only this one is in radians
+    text.angle = qRadiansToDegrees(data.angle); // the only angle that dxflib gives in radians
     text.across = middle ? 1 : data.hJustification;
     text.upright = middle ? 2 : data.vJustification;
     add(text);

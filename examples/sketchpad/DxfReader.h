@@ -4,7 +4,7 @@
 
 #include <dxflib/dl_creationadapter.h>
 
-// Makes a sheet of what dxflib finds in a file.
+// Builds a sheet from what dxflib reads.
 class DxfReader : public DL_CreationAdapter
 {
 public:

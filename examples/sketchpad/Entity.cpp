@@ -17,7 +17,7 @@ QPointF polar(double radius, double degrees)
             radius * std::sin(qDegreesToRadians(degrees))};
 }
 
-// The angle seen from `centre`, 0 <= angle < 360.
+// The direction from `centre` in degrees, 0 <= direction < 360.
 double directionTo(const QPointF &centre, const QPointF &point)
 {
     const double degrees = qRadiansToDegrees(std::atan2(point.y() - centre.y(), point.x() - centre.x()));
@@ -73,7 +73,8 @@ double Entity::parameterAt(const QPointF &point) const
         double along = directionTo(origin, point) - angle;
         if (along < 0)
             along += 360;
-        // Half of the gap lies before the start, so that a hair before it is a hair below 0.
+        // Half of the gap belongs to the start, so that a point just before the start is just
+        // below 0.
         if (along > sweep + (360 - sweep) / 2)
             along -= 360;
         return along / sweep;
@@ -153,7 +154,7 @@ QPainterPath Entity::outline() const
         path.moveTo(origin);
         path.lineTo(end);
     } else if (kind == Kind::Arc) {
-        // Qt turns clockwise where y points upwards.
+        // Qt's angles are clockwise if y points upwards.
         const QRectF square(origin - QPointF(radius, radius), origin + QPointF(radius, radius));
         path.arcMoveTo(square, -angle);
         path.arcTo(square, -angle, -sweep);

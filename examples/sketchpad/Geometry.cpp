@@ -6,7 +6,7 @@
 namespace geometry {
 namespace {
 
-// Shorter than this, as a share of a curve, is nothing at all.
+// Lengths below this share of a curve count as 0.
 constexpr double kTolerance = 1e-9;
 
 double cross(const QPointF &a, const QPointF &b)
@@ -29,7 +29,8 @@ std::vector<QPointF> lineMeetsLine(const Entity &a, const Entity &b)
     return {a.at(cross(b.origin - a.origin, v) / turn)};
 }
 
-// Points at `along` the unit vector from `base`, then `aside` to either side of it.
+// The two points that are `along` the unit vector from `base` and then to either side of it,
+// by the square root of `squaredAside`.
 std::vector<QPointF> mirrored(const QPointF &base, const QPointF &unit, double along,
                               double squaredAside, double scale)
 {
@@ -131,7 +132,7 @@ std::optional<std::vector<Entity>> trim(const Entity &entity, const QPointF &pic
     if (entity.isCircle()) {
         if (cuts.size() < 2)
             return std::nullopt;
-        // The stretch may run over parameter 0, where a circle only starts by convention.
+        // The part may include parameter 0, where a circle starts only by convention.
         const bool wraps = next == cuts.begin() || next == cuts.end();
         return wraps ? std::vector<Entity>{entity.part(cuts.front(), cuts.back())}
                      : std::vector<Entity>{entity.part(*next, *(next - 1) + 1)};

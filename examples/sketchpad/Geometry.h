@@ -5,18 +5,19 @@
 #include <optional>
 #include <vector>
 
-// What drafting asks of curves. Everything is in drawing units.
+// Geometry of curves. All lengths are in drawing units.
 namespace geometry {
 
-// Where two curves meet, at most twice. Curves that lie on one another do not meet.
+// The points where two curves meet, at most two. Curves that lie on each other do not meet.
 [[nodiscard]] std::vector<QPointF> intersections(const Entity &a, const Entity &b);
 
-// The curve `distance` beside `entity`, on the side of `side`. None for a text, for a
-// distance that is not positive, and inside a circle that is too small.
+// The curve parallel to `entity` at `distance`, on the side where the point `side` is. None
+// for a text, for a distance of 0 or less, and inside a circle that is too small.
 [[nodiscard]] std::optional<Entity> offset(const Entity &entity, double distance, const QPointF &side);
 
-// What stays of `entity` (nothing, one or two pieces) when the stretch around `pick` is cut
-// out, up to where `edges` cross it. None if no edge crosses it, or only one a circle.
+// Cuts out the part of `entity` around `pick`, up to where `edges` cross it, and returns the
+// pieces that stay: none, one or two. Returns nullopt if no edge crosses it, or, for a circle,
+// if there is only one crossing.
 [[nodiscard]] std::optional<std::vector<Entity>> trim(const Entity &entity, const QPointF &pick,
                                                       const std::vector<Entity> &edges);
 

@@ -9,8 +9,8 @@
 namespace icons {
 namespace {
 
-// On a light ground the colours stand out by themselves, on a dark or grey one, such as the
-// ring of a gesture, by the rim of paper around each stroke.
+// The colours are readable on a light ground. On a dark or grey one, such as the ring, the
+// light rim around each stroke makes them so.
 const QColor kInk(0x4d, 0x5d, 0x74);
 const QColor kBlue(0x1f, 0x76, 0xcc);
 const QColor kOrange(0xf0, 0x8a, 0x24);
@@ -18,9 +18,9 @@ const QColor kPaper(0xf7, 0xf9, 0xfc);
 const QColor kRim(0xff, 0xff, 0xff, 0xd0);
 
 // The icons on a square of 24 units, y downwards, as strokes separated by semicolons. The
-// first letter is the ink: i grey, b blue, o orange, a small f after it fills with paper,
-// a small - dashes. Then a shape:
-//   p x y x y ...     a line through the points; with z it is closed
+// first letter is the colour: i grey, b blue, o orange. An f after it fills the shape, a -
+// dashes the line. Then comes the shape:
+//   p x y x y ...     a line through the points; a z closes it
 //   c x y r           a circle
 //   a x y r from by   an arc, degrees counter-clockwise
 //   g x y             a grip: a small filled square
@@ -54,6 +54,9 @@ QString strokes(const QString &name)
         {QStringLiteral("viewGrid"),
          QStringLiteral("i p 3 8 21 8;i p 3 16 21 16;i p 8 3 8 21;i p 16 3 16 21;"
                         "g 16 8")},
+        {QStringLiteral("viewFullScreen"),
+         QStringLiteral("b p 4 9 4 4 9 4;b p 15 4 20 4 20 9;b p 20 15 20 20 15 20;"
+                        "b p 9 20 4 20 4 15;o p 5 5 9 9;o p 19 19 15 15")},
         {QStringLiteral("drawLine"), QStringLiteral("b p 5 19 19 5;g 5 19;g 19 5")},
         {QStringLiteral("drawCircle"), QStringLiteral("b c 12 12 8.5;i- p 12 12 18 6;g 12 12")},
         {QStringLiteral("drawText"),

@@ -2,7 +2,7 @@
 
 #include <QIcon>
 
-// The program's own icons, drawn here so that they look the same whatever theme is set.
+// The program's own icons. They are drawn here, so that they look the same in every theme.
 namespace icons {
 
 // The icon of the action or window with this object name; null if it has none.

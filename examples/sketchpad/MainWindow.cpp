@@ -4,8 +4,9 @@
 #include "examples/sketchpad/CommandLine.h"
 #include "examples/sketchpad/DxfFile.h"
 #include "examples/sketchpad/Icons.h"
-#include "sdk/od/OdEdCommand.h"
-#include "sdk/od/OdEdCommandStack.h"
+
+#include <gesturewidget/sdk/od/OdEdCommand.h>
+#include <gesturewidget/sdk/od/OdEdCommandStack.h>
 
 #include <QAction>
 #include <QCloseEvent>
@@ -24,7 +25,7 @@
 
 namespace {
 
-// "2 x ELLIPSE", a line each; a long list is cut.
+// Lines such as "2 x ELLIPSE". A list of more than ten is cut.
 QString listed(const QMap<QString, int> &unread)
 {
     QStringList lines;
@@ -37,11 +38,11 @@ QString listed(const QMap<QString, int> &unread)
 
 } // namespace
 
-// One line a command: from it come the action, its place in the menus and tool bars, and
-// the words that can be typed for it.
+// The commands. Each entry gives the action, its place in the menus and tool bars, and the
+// words that a person can type for it.
 struct MainWindow::Command
 {
-    const char *name; // object name; the menu comes first, in small letters
+    const char *name; // object name; it starts with the menu's name in small letters
     const char *caption;
     const char *tip;
     const char *typed; // words, separated by blanks
@@ -49,55 +50,75 @@ struct MainWindow::Command
     void (*run)(MainWindow &);
 };
 
-const MainWindow::Command MainWindow::kCommands[] = {
-    {"fileNew", QT_TR_NOOP("&New"), QT_TR_NOOP("Starts an empty drawing"), "NEW", "Ctrl+N",
-     [](MainWindow &w) { w.fileNew(); }},
-    {"fileOpen", QT_TR_NOOP("&Open..."), QT_TR_NOOP("Opens a drawing"), "OPEN", "Ctrl+O",
-     [](MainWindow &w) { w.fileOpen(); }},
-    {"fileSave", QT_TR_NOOP("&Save"), QT_TR_NOOP("Saves the drawing"), "SAVE QSAVE", "Ctrl+S",
-     [](MainWindow &w) { w.fileSave(); }},
-    {"fileSaveAs", QT_TR_NOOP("Save &As..."), QT_TR_NOOP("Saves the drawing under another name"),
-     "SAVEAS", "Ctrl+Shift+S", [](MainWindow &w) { w.fileSaveAs(); }},
-    {"fileQuit", QT_TR_NOOP("&Quit"), QT_TR_NOOP("Leaves Sketchpad"), "QUIT EXIT", "Ctrl+Q",
-     [](MainWindow &w) { w.close(); }},
-    {"editUndo", QT_TR_NOOP("&Undo"), QT_TR_NOOP("Takes the last change back"), "UNDO U", "Ctrl+Z",
-     [](MainWindow &w) { w.m_drawing.undo(); }},
-    {"editRedo", QT_TR_NOOP("&Redo"), QT_TR_NOOP("Makes the change again"), "REDO", "Ctrl+Shift+Z",
-     [](MainWindow &w) { w.m_drawing.redo(); }},
-    {"editErase", QT_TR_NOOP("&Erase"), QT_TR_NOOP("Erases what is selected"), "ERASE E", "Del",
-     [](MainWindow &w) { w.editErase(); }},
-    {"editSelectAll", QT_TR_NOOP("Select &All"), QT_TR_NOOP("Selects everything that is visible"), "ALL",
-     "Ctrl+A", [](MainWindow &w) { w.editSelectAll(); }},
-    {"viewZoomBounds", QT_TR_NOOP("Zoom to &Bounds"), QT_TR_NOOP("Shows the whole drawing"), "ZOOM Z",
-     "Home", [](MainWindow &w) { w.m_canvas->zoomToBounds(); }},
-    {"viewZoomIn", QT_TR_NOOP("Zoom &In"), QT_TR_NOOP("Shows less, but larger"), "ZOOMIN", "Ctrl++",
-     [](MainWindow &w) { w.m_canvas->zoom(1.5, w.m_canvas->rect().center()); }},
-    {"viewZoomOut", QT_TR_NOOP("Zoom &Out"), QT_TR_NOOP("Shows more, but smaller"), "ZOOMOUT", "Ctrl+-",
-     [](MainWindow &w) { w.m_canvas->zoom(1 / 1.5, w.m_canvas->rect().center()); }},
-    {"viewGrid", QT_TR_NOOP("&Grid"), QT_TR_NOOP("Shows or hides the grid"), "GRID", "F7",
-     [](MainWindow &w) {
-         w.m_canvas->setGridShown(w.findChild<QAction *>(QStringLiteral("viewGrid"))->isChecked());
-     }},
-    {"drawLine", QT_TR_NOOP("&Line"), QT_TR_NOOP("Draws lines from point to point"), "LINE L", "",
-     [](MainWindow &w) { w.m_canvas->begin(Tool::Kind::Line); }},
-    {"drawCircle", QT_TR_NOOP("&Circle"), QT_TR_NOOP("Draws a circle around a centre"), "CIRCLE C", "",
-     [](MainWindow &w) { w.m_canvas->begin(Tool::Kind::Circle); }},
-    {"drawText", QT_TR_NOOP("&Text"), QT_TR_NOOP("Writes a line of text"), "TEXT DTEXT T", "",
-     [](MainWindow &w) { w.m_canvas->begin(Tool::Kind::Text); }},
-    {"modifyOffset", QT_TR_NOOP("&Offset"), QT_TR_NOOP("Draws a curve beside another"), "OFFSET O", "",
-     [](MainWindow &w) { w.m_canvas->begin(Tool::Kind::Offset); }},
-    {"modifyCopy", QT_TR_NOOP("&Copy"), QT_TR_NOOP("Draws something once more, elsewhere"), "COPY CO CP",
-     "", [](MainWindow &w) { w.m_canvas->begin(Tool::Kind::Copy); }},
-    {"modifyTrim", QT_TR_NOOP("&Trim"), QT_TR_NOOP("Cuts a curve out up to what crosses it"), "TRIM TR",
-     "", [](MainWindow &w) { w.m_canvas->begin(Tool::Kind::Trim); }},
-    {"toolsSnap", QT_TR_NOOP("&Snap to Points"), QT_TR_NOOP("Catches ends and centres"), "SNAP", "F3",
-     [](MainWindow &w) {
-         w.m_canvas->setSnapping(w.findChild<QAction *>(QStringLiteral("toolsSnap"))->isChecked());
-     }},
-    {"toolsStop", QT_TR_NOOP("S&top the Command"), QT_TR_NOOP("Ends the running command"), "STOP", "Esc",
-     [](MainWindow &w) { w.m_canvas->begin(Tool::Kind::Select); }},
-    {"helpAbout", QT_TR_NOOP("&About Sketchpad"), QT_TR_NOOP("Says what this program is"), "ABOUT", "F1",
-     [](MainWindow &w) { w.helpAbout(); }},
+const MainWindow::Command
+    MainWindow::
+        kCommands
+            [] =
+                {
+                    {"fileNew", QT_TR_NOOP("&New"), QT_TR_NOOP("Starts an empty drawing"), "NEW",
+                     "Ctrl+N", [](MainWindow &w) { w.fileNew(); }},
+                    {"fileOpen", QT_TR_NOOP("&Open..."), QT_TR_NOOP("Opens a drawing"), "OPEN", "Ctrl+O",
+                     [](MainWindow &w) { w.fileOpen(); }},
+                    {"fileSave", QT_TR_NOOP("&Save"), QT_TR_NOOP("Saves the drawing"), "SAVE QSAVE",
+                     "Ctrl+S", [](MainWindow &w) { w.fileSave(); }},
+                    {"fileSaveAs", QT_TR_NOOP("Save &As..."),
+                     QT_TR_NOOP("Saves the drawing under another name"), "SAVEAS", "Ctrl+Shift+S",
+                     [](MainWindow &w) { w.fileSaveAs(); }},
+                    {"fileQuit", QT_TR_NOOP("&Quit"), QT_TR_NOOP("Closes Sketchpad"), "QUIT EXIT",
+                     "Ctrl+Q", [](MainWindow &w) { w.close(); }},
+                    {"editUndo", QT_TR_NOOP("&Undo"), QT_TR_NOOP("Undoes the last change"), "UNDO U",
+                     "Ctrl+Z", [](MainWindow &w) { w.m_drawing.undo(); }},
+                    {"editRedo", QT_TR_NOOP("&Redo"), QT_TR_NOOP("Repeats the change that was undone"),
+                     "REDO", "Ctrl+Shift+Z", [](MainWindow &w) { w.m_drawing.redo(); }},
+                    {"editErase", QT_TR_NOOP("&Erase"), QT_TR_NOOP("Erases what is selected"), "ERASE E",
+                     "Del", [](MainWindow &w) { w.editErase(); }},
+                    {"editSelectAll", QT_TR_NOOP("Select &All"),
+                     QT_TR_NOOP("Selects everything that is visible"), "ALL", "Ctrl+A",
+                     [](MainWindow &w) { w.editSelectAll(); }},
+                    {"viewZoomBounds", QT_TR_NOOP("Zoom to &Bounds"),
+                     QT_TR_NOOP("Shows the whole drawing"), "ZOOM Z", "Home",
+                     [](MainWindow &w) { w.m_canvas->zoomToBounds(); }},
+                    {"viewZoomIn", QT_TR_NOOP("Zoom &In"), QT_TR_NOOP("Makes the drawing look larger"),
+                     "ZOOMIN", "Ctrl++",
+                     [](MainWindow &w) { w.m_canvas->zoom(1.5, w.m_canvas->rect().center()); }},
+                    {"viewZoomOut", QT_TR_NOOP("Zoom &Out"),
+                     QT_TR_NOOP("Makes the drawing look smaller"), "ZOOMOUT", "Ctrl+-",
+                     [](MainWindow &w) { w.m_canvas->zoom(1 / 1.5, w.m_canvas->rect().center()); }},
+                    {"viewGrid", QT_TR_NOOP("&Grid"), QT_TR_NOOP("Shows or hides the grid"), "GRID",
+                     "F7",
+                     [](MainWindow &w) {
+                         w.m_canvas->setGridShown(
+                             w.findChild<QAction *>(QStringLiteral("viewGrid"))->isChecked());
+                     }},
+                    {"viewFullScreen", QT_TR_NOOP("&Full Screen"), QT_TR_NOOP("Shows only the drawing"),
+                     "FULLSCREEN", "F11",
+                     [](MainWindow &w) {
+                         w.setFullScreen(
+                             w.findChild<QAction *>(QStringLiteral("viewFullScreen"))->isChecked());
+                     }},
+                    {"drawLine", QT_TR_NOOP("&Line"), QT_TR_NOOP("Draws lines from point to point"),
+                     "LINE L", "", [](MainWindow &w) { w.m_canvas->begin(Tool::Kind::Line); }},
+                    {"drawCircle", QT_TR_NOOP("&Circle"), QT_TR_NOOP("Draws a circle around a centre"),
+                     "CIRCLE C", "", [](MainWindow &w) { w.m_canvas->begin(Tool::Kind::Circle); }},
+                    {"drawText", QT_TR_NOOP("&Text"), QT_TR_NOOP("Writes a line of text"),
+                     "TEXT DTEXT T", "", [](MainWindow &w) { w.m_canvas->begin(Tool::Kind::Text); }},
+                    {"modifyOffset", QT_TR_NOOP("&Offset"), QT_TR_NOOP("Draws a parallel curve"),
+                     "OFFSET O", "", [](MainWindow &w) { w.m_canvas->begin(Tool::Kind::Offset); }},
+                    {"modifyCopy", QT_TR_NOOP("&Copy"), QT_TR_NOOP("Copies to another place"),
+                     "COPY CO CP", "", [](MainWindow &w) { w.m_canvas->begin(Tool::Kind::Copy); }},
+                    {"modifyTrim", QT_TR_NOOP("&Trim"), QT_TR_NOOP("Cuts a curve where others cross it"),
+                     "TRIM TR", "", [](MainWindow &w) { w.m_canvas->begin(Tool::Kind::Trim); }},
+                    {"toolsSnap", QT_TR_NOOP("&Snap to Points"),
+                     QT_TR_NOOP("Snaps the pointer to ends and centres"), "SNAP", "F3",
+                     [](MainWindow &w) {
+                         w.m_canvas->setSnapping(
+                             w.findChild<QAction *>(QStringLiteral("toolsSnap"))->isChecked());
+                     }},
+                    {"toolsStop", QT_TR_NOOP("S&top the Command"),
+                     QT_TR_NOOP("Ends the running command"), "STOP", "Esc",
+                     [](MainWindow &w) { w.m_canvas->begin(Tool::Kind::Select); }},
+                    {"helpAbout", QT_TR_NOOP("&About Sketchpad"), QT_TR_NOOP("Describes this program"),
+                     "ABOUT", "F1", [](MainWindow &w) { w.helpAbout(); }},
 };
 
 MainWindow::MainWindow(QWidget *parent)
@@ -154,12 +175,14 @@ void MainWindow::buildCommands()
         action->setToolTip(tr(command.tip));
         action->setData(QString::fromLatin1(command.typed).split(QLatin1Char(' ')));
         action->setShortcut(QKeySequence(QString::fromLatin1(command.keys)));
-        if (name == QLatin1String("viewGrid") || name == QLatin1String("toolsSnap")) {
+        const bool isOnAtFirst = name == QLatin1String("viewGrid") || name == QLatin1String("toolsSnap");
+        if (isOnAtFirst || name == QLatin1String("viewFullScreen")) {
             action->setCheckable(true);
-            action->setChecked(true);
+            action->setChecked(isOnAtFirst);
         }
         connect(action, &QAction::triggered, this, [this, runIt = command.run] { runIt(*this); });
         menu->addAction(action);
+        addAction(action); // so that its keys work while the menu bar is hidden
         if (!action->icon().isNull())
             bar->addAction(action);
     }
@@ -221,7 +244,7 @@ void MainWindow::run(const QString &typed)
             return;
         }
     }
-    // Modules put commands of their own into the platform's command stack.
+    // Modules add their commands to the platform's command stack.
     const OdEdCommandStackPtr stack = odedRegCmds();
     OdEdCommand *command = stack ? stack->lookupCommand(OdString(word)) : nullptr;
     if (command)
@@ -246,9 +269,9 @@ bool MainWindow::openFile(const QString &path)
     m_canvas->zoomToBounds();
     QString report = tr("%n entities", nullptr, int(sheet->entities.size()));
     if (sheet->polylines)
-        report += tr(", %1 polylines of them taken apart").arg(sheet->polylines);
+        report += tr(", after splitting %1 polylines").arg(sheet->polylines);
     if (!sheet->unread.isEmpty())
-        report += tr("; not everything could be read, see Save");
+        report += tr("; some entities could not be read, Save lists them");
     statusBar()->showMessage(report, 10000);
     return true;
 }
@@ -257,24 +280,25 @@ bool MainWindow::saveFile(const QString &path)
 {
     const QString name = QFileInfo(path).fileName();
     QString error;
-    // Whatever is there now counts, also if it is not the file that was opened.
+    // Checks the file that is there now, which need not be the one that was opened.
     if (QFileInfo(path).size() > 0) {
         const auto there = dxf::read(path, &error);
         if (!there || !there->unread.isEmpty()) {
             QMessageBox::warning(
                 this, tr("Sketchpad"),
-                tr("\u201c%1\u201d holds what Sketchpad cannot read and would lose:\n\n%2\n\n"
-                   "So it is not replaced. Use Save As to save under another name.")
+                tr("\u201c%1\u201d contains data that Sketchpad cannot read and would lose:\n\n%2\n\n"
+                   "It was not replaced. Use Save As to save under another name.")
                     .arg(name, there ? listed(there->unread) : error));
             return false;
         }
     }
     const auto &unread = m_drawing.sheet().unread;
     if (!unread.isEmpty()
-        && QMessageBox::warning(this, tr("Sketchpad"),
-                                tr("\u201c%1\u201d will be without what Sketchpad could not read:\n\n%2")
-                                    .arg(name, listed(unread)),
-                                QMessageBox::Save | QMessageBox::Cancel, QMessageBox::Cancel)
+        && QMessageBox::warning(
+               this, tr("Sketchpad"),
+               tr("\u201c%1\u201d will not contain what Sketchpad could not read:\n\n%2")
+                   .arg(name, listed(unread)),
+               QMessageBox::Save | QMessageBox::Cancel, QMessageBox::Cancel)
                != QMessageBox::Save)
         return false;
     if (!dxf::write(m_drawing.sheet(), path, &error)) {
@@ -309,8 +333,7 @@ bool MainWindow::mayLeave()
 {
     if (!m_drawing.isModified())
         return true;
-    QMessageBox box(QMessageBox::Question, tr("Sketchpad"),
-                    tr("The drawing has changes that are not saved."),
+    QMessageBox box(QMessageBox::Question, tr("Sketchpad"), tr("The drawing has unsaved changes."),
                     QMessageBox::Discard | QMessageBox::Cancel, this);
     if (dxf::isSupported())
         box.setDefaultButton(box.addButton(QMessageBox::Save));
@@ -339,6 +362,20 @@ void MainWindow::fileOpen()
         openFile(path);
 }
 
+void MainWindow::setFullScreen(bool full)
+{
+    if (full) {
+        m_hidden = {menuBar(), statusBar()};
+        for (QToolBar *bar : findChildren<QToolBar *>()) {
+            if (bar->isVisible())
+                m_hidden.append(bar);
+        }
+    }
+    for (QWidget *widget : qAsConst(m_hidden))
+        widget->setVisible(!full);
+    setWindowState(windowState().setFlag(Qt::WindowFullScreen, full));
+}
+
 void MainWindow::editErase()
 {
     m_drawing.change(m_canvas->selection(), {});
@@ -357,9 +394,9 @@ void MainWindow::editSelectAll()
 void MainWindow::helpAbout()
 {
     QMessageBox::about(this, tr("About Sketchpad"),
-                       tr("A small drafting program that has mouse gestures.\n\n"
+                       tr("A small drafting program with mouse gestures.\n\n"
                           "Drag with the right button in the drawing to open the ring of commands; "
-                          "type GESTURE to choose what is on it."));
+                          "type GESTURE to choose its commands."));
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

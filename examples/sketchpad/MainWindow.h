@@ -11,8 +11,8 @@ QT_BEGIN_NAMESPACE
 class QLabel;
 QT_END_NAMESPACE
 
-// The window: menus, tool bars, the canvas, the command line and the status bar. Whatever
-// is run, from wherever, is run by triggering its action.
+// The window: menus, tool bars, the canvas, the command line and the status bar. Every
+// command runs by triggering its action, wherever it was chosen.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -20,16 +20,16 @@ class MainWindow : public QMainWindow
 public:
     explicit MainWindow(QWidget *parent = nullptr);
 
-    // The drawing view, which is where gestures are made.
+    // The view, in which gestures are made.
     [[nodiscard]] Canvas *canvas() const { return m_canvas; }
     [[nodiscard]] Drawing &drawing() { return m_drawing; }
 
-    // Opens a drawing, or tells the person why not and keeps the one that is open.
+    // Opens a drawing. If that fails, tells the person why and keeps the open one.
     bool openFile(const QString &path);
-    // Writes the drawing, unless that would lose what its file holds. Tells the person so.
+    // Writes the drawing. Refuses, and tells the person, if data in the file would be lost.
     bool saveFile(const QString &path);
-    // Runs what was typed: a step of the running command, a command of this program, or
-    // one that a module has registered.
+    // Runs typed text: a step of the running command, a command of this program, or a
+    // command that a module has registered.
     void run(const QString &typed);
 
 protected:
@@ -43,7 +43,7 @@ private:
     void buildPanels();
     void showContextMenu(const QPoint &position);
     void showState();
-    // Whether the drawing on the screen may go, as far as the person is concerned.
+    // Returns true if the open drawing may be closed: it has no changes, or the person agrees.
     bool mayLeave();
     bool save();
 
@@ -51,6 +51,8 @@ private:
     void fileOpen();
     void fileSave() { save(); }
     void fileSaveAs();
+    // Hides everything but the drawing, or shows it again.
+    void setFullScreen(bool full);
     void editErase();
     void editSelectAll();
     void helpAbout();
@@ -59,6 +61,7 @@ private:
     Canvas *m_canvas;
     CommandLine *m_commandLine;
     QLabel *m_coordinates;
-    QString m_path; // of the drawing; empty if it has no file yet
+    QList<QWidget *> m_hidden; // while the drawing fills the screen
+    QString m_path; // of the drawing; empty if it was never saved
     QString m_last; // typed name of the command that Enter repeats
 };

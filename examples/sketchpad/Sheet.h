@@ -7,14 +7,14 @@
 
 #include <vector>
 
-// All that a drawing file holds.
+// The contents of a drawing file.
 struct Sheet
 {
     struct Layer
     {
         int color = 7;
         QString lineType = QStringLiteral("CONTINUOUS");
-        int width = -3; // in hundredths of a millimetre; -3 is the reader's default
+        int width = -3; // in hundredths of a millimetre; -3 is the default width
         int flags = 0; // 1 frozen, 4 locked
         bool off = false;
         [[nodiscard]] bool isVisible() const { return !off && !(flags & 1); }
@@ -24,8 +24,8 @@ struct Sheet
     QMap<QString, Layer> layers{{QStringLiteral("0"), {}}};
     // Lengths of dashes (positive), gaps (negative) and dots (0), in drawing units.
     QMap<QString, QVector<double>> lineTypes{{QStringLiteral("CONTINUOUS"), {}}};
-    int units = 0; // as $INSUNITS counts them: 0 none, 1 inches, 4 millimetres, 6 metres
-    // What the file held besides, and how often: it would be lost if the file was replaced.
+    int units = 0; // values of $INSUNITS: 0 none, 1 inches, 4 millimetres, 6 metres
+    // What else the file holds, with its count. Replacing the file would lose it.
     QMap<QString, int> unread;
-    int polylines = 0; // how many were read as single lines and arcs
+    int polylines = 0; // number of polylines that were split into lines and arcs
 };

@@ -40,10 +40,10 @@ QString Tool::prompt() const
     case Kind::Circle:
         return m_points.empty() ? tr("Circle: centre") : tr("Circle: point on it, or its radius");
     case Kind::Text:
-        return m_points.empty() ? tr("Text: place, or another height than %1").arg(m_height)
+        return m_points.empty() ? tr("Text: place, or a height other than %1").arg(m_height)
                                 : tr("Text: words");
     case Kind::Offset:
-        return m_picked.empty() ? tr("Offset: pick a curve, or another distance than %1").arg(m_distance)
+        return m_picked.empty() ? tr("Offset: pick a curve, or a distance other than %1").arg(m_distance)
                                 : tr("Offset: on which side?");
     case Kind::Copy:
         if (m_picked.empty())
@@ -68,7 +68,7 @@ QString Tool::point(const QPointF &point, double reach)
     }
     const std::vector<Entity> drawn = preview(point, {});
     if (drawn.empty())
-        return tr("There is no room for it on that side.");
+        return tr("The curve does not fit on that side.");
     m_drawing.change({}, drawn);
     if (m_kind == Kind::Line)
         m_points = {point};
@@ -86,7 +86,7 @@ QString Tool::pick(const QPointF &point, double reach)
         return tr("There is nothing here.");
     const Entity entity = m_drawing.entities()[*index];
     if (!entity.isCurve() && m_kind != Kind::Copy)
-        return tr("That does not work with a text.");
+        return tr("This command does not work on text.");
     if (m_kind != Kind::Trim) {
         m_picked = {entity};
         return {};
@@ -98,7 +98,7 @@ QString Tool::pick(const QPointF &point, double reach)
     }
     const auto pieces = geometry::trim(entity, point, edges);
     if (!pieces)
-        return tr("Nothing crosses it.");
+        return tr("No other curve crosses it.");
     m_drawing.change({*index}, *pieces);
     return {};
 }
@@ -107,11 +107,11 @@ QString Tool::number(double value)
 {
     if (m_kind == Kind::Circle && !m_points.empty())
         return value > 0 ? point(m_points.back() + QPointF(value, 0), 0)
-                         : tr("A radius is more than 0.");
+                         : tr("The radius must be more than 0.");
     const bool sets =
         (m_kind == Kind::Offset && m_picked.empty()) || (m_kind == Kind::Text && m_points.empty());
     if (!sets)
-        return tr("A number does not help here.");
+        return tr("This step does not take a number.");
     if (!(value > 0))
         return tr("It must be more than 0.");
     (m_kind == Kind::Text ? m_height : m_distance) = value;

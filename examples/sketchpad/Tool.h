@@ -4,8 +4,8 @@
 
 #include <QCoreApplication>
 
-// What the pointer does in the drawing at the moment: the step that a command has reached.
-// It takes points, numbers and words, wherever they come from, and changes the drawing.
+// The running command and the step that it has reached. It takes points, numbers and words,
+// from the pointer or the keyboard, and changes the drawing.
 class Tool
 {
     Q_DECLARE_TR_FUNCTIONS(Tool)
@@ -19,23 +19,23 @@ public:
     {
     }
 
-    // Starts a command over. `selection` is what COPY copies; empty asks for it.
+    // Starts a command. `selection` is what COPY copies; if it is empty, COPY asks for it.
     void begin(Kind kind, const std::vector<std::size_t> &selection = {});
 
     [[nodiscard]] Kind kind() const { return m_kind; }
     [[nodiscard]] Wants wants() const;
-    // What the person is asked for.
+    // Asks the person for the next step.
     [[nodiscard]] QString prompt() const;
-    // The point given last: relative coordinates count from it.
+    // The point given last. Relative coordinates start from it.
     [[nodiscard]] QPointF lastPoint() const { return m_points.empty() ? QPointF() : m_points.back(); }
 
-    // Each takes the next step and returns why it could not, or nothing. `reach` is how far
-    // from an entity counts as on it.
+    // Each takes the next step. Returns an empty string, or the reason why it failed. A point
+    // within `reach` of an entity is on it.
     QString point(const QPointF &point, double reach);
     QString number(double value);
     QString words(const QString &words);
 
-    // What the next step would draw with the pointer at `cursor` and `typed` so far.
+    // What the next step would draw with the pointer at `cursor` and the text `typed` so far.
     [[nodiscard]] std::vector<Entity> preview(const QPointF &cursor, const QString &typed) const;
 
 private:
@@ -45,6 +45,6 @@ private:
     Kind m_kind = Kind::Select;
     std::vector<QPointF> m_points;
     std::vector<Entity> m_picked;
-    double m_height = 5; // of texts, in drawing units; kept for the next one
-    double m_distance = 5; // of OFFSET, in drawing units; kept for the next one
+    double m_height = 5; // of texts, in drawing units; kept for the next text
+    double m_distance = 5; // of OFFSET, in drawing units; kept for the next use
 };

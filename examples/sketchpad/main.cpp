@@ -1,6 +1,7 @@
 #include "examples/sketchpad/Canvas.h"
 #include "examples/sketchpad/MainWindow.h"
-#include "host/session/GestureHost.h"
+
+#include <gesturewidget/GestureHost.h>
 
 #include <QApplication>
 
@@ -13,8 +14,8 @@ int main(int argc, char **argv)
     QApplication::setApplicationDisplayName(QString());
     MainWindow window;
 
-    // All that a program does to have mouse gestures. The profile, which is built into this
-    // program, says which of its actions are the well-known commands.
+    // This is all that a program needs for mouse gestures. The profile is built into this
+    // program and says which of its actions are the well-known commands.
     gesturewidget::GestureHost::Options options;
     options.program = QStringLiteral("sketchpad");
     options.profileFolders = QStringList{QStringLiteral(":/profiles")};

@@ -1,5 +1,6 @@
 #include "host/commands/WellKnownGuess.h"
 
+#include "host/captions/KnownCaptions.h"
 #include "host/window/Captions.h"
 #include "sdk/QtBridge.h"
 
@@ -20,143 +21,33 @@
 namespace gesturewidget {
 namespace {
 
-// Each kind of sign outweighs all later kinds together: a shortcut is nearly always right, a
-// caption depends on the language. The menu tells "Insert > Text" from "Convert to > Text"; alone
-// it means nothing.
+// Each kind of sign outweighs all those after it together. The menu tells "Insert > Text" from
+// "Convert to > Text"; alone it says nothing.
 constexpr int kShortcutWeight = 16;
 constexpr int kIconWeight = 8;
 constexpr int kNameWeight = 4;
 constexpr int kCaptionWeight = 2;
 constexpr int kMenuWeight = 1;
-// The shortcut of a file command in a menu other than the first: some programs use it for another
-// command.
+// Of a file command's shortcut in another menu than the first: some program runs something
+// else by it.
 constexpr int kDoubtfulWeight = 1;
-
-struct Signs
-{
-    const char *identifier;
-    const char *caption;
-    QKeySequence::StandardKey shortcut;
-    QStringList icons;
-    // In lower case, with one space between words. An object name is compared after its kNoise
-    // words are removed.
-    QStringList words;
-    QStringList menus; // captions, likewise
-    // Words that are clear enough only in one of these menus.
-    QStringList wordsInMenus;
-    // Every English name of the command contains one of these. An English name without them counts
-    // more than the shortcut alone.
-    QStringList stems;
-};
-
-const QVector<Signs> &allSigns()
-{
-    const auto list = [](const char *text) {
-        return QString::fromLatin1(text).split(QLatin1Char('|'), Qt::SkipEmptyParts);
-    };
-    static const char *const drawing =
-        "draw|drawing|insert|add|add new|create|new|object|objects|tools|lines|line|shape|shapes|"
-        "sketch|geometry|elements|items|place";
-    static const QVector<Signs> signs{
-        {"ID_COPY",
-         QT_TRANSLATE_NOOP("host", "Copy"),
-         QKeySequence::Copy,
-         list("edit-copy"),
-         list("copy|copy selection|copy selected|copy objects|copy features"),
-         list("edit|modify"),
-         {},
-         list("copy|duplicate|clone")},
-        {"ID_DTEXT",
-         QT_TRANSLATE_NOOP("host", "Text"),
-         QKeySequence::UnknownKey,
-         list("draw-text|insert-text|tool-text"),
-         list("text|add text|draw text|insert text|create text|new text|place text|add text field|"
-              "text field|add textfield|textfield|text frame|insert text frame|add text frame|"
-              "text label|add text label|text box|add text box|insert text box|text object|"
-              "text tool|single line text"),
-         list(drawing),
-         {},
-         {}},
-        {"ID_LINE",
-         QT_TRANSLATE_NOOP("host", "Line"),
-         QKeySequence::UnknownKey,
-         list("draw-line|tool-line"),
-         list("line|add line|draw line|insert line|create line|new line|straight line|"
-              "line segment|line tool|lines|line 2 points|line by 2 points|line by two points|"
-              "line two points|two point line|add straight line"),
-         list(drawing),
-         {},
-         {}},
-        {"ID_OFFSET",
-         QT_TRANSLATE_NOOP("host", "Offset"),
-         QKeySequence::UnknownKey,
-         list("object-offset|offset"),
-         list("offset|offset curve|parallel offset|2d offset"),
-         list("edit|modify|draft|tools"),
-         {},
-         {}},
-        {"ID_OPEN",
-         QT_TRANSLATE_NOOP("host", "Open"),
-         QKeySequence::Open,
-         list("document-open"),
-         list("open|open file|file open|open drawing|open document|open project"),
-         list("file|project|document"),
-         {},
-         list("open|load")},
-        {"ID_SAVE",
-         QT_TRANSLATE_NOOP("host", "Save"),
-         QKeySequence::Save,
-         list("document-save"),
-         list("save|save file|file save|save drawing|save document|save project"),
-         list("file|project|document"),
-         {},
-         list("save|store|write")},
-        {"ID_TRIM",
-         QT_TRANSLATE_NOOP("host", "Trim"),
-         QKeySequence::UnknownKey,
-         list("trim"),
-         list("trim|trimex|trim extend|trim edge|trim line|trim extend feature|trim curve|trim object"),
-         list("edit|modify|draft|tools"),
-         {},
-         {}},
-        {"ID_ZOOM_BOUNDS",
-         QT_TRANSLATE_NOOP("host", "Zoom to Fit"),
-         QKeySequence::UnknownKey,
-         list("zoom-fit-best|zoom-fit|zoom-fit-page|page-zoom"),
-         list("zoom fit|zoom to fit|fit zoom|zoom extents|zoom all|zoom to all|zoom bounds|zoom auto|"
-              "auto zoom|zoom fit best|zoom content|zoom to content|fit all|view fit|fit in view|"
-              "fit to view|fit view|fit to page|fit page|fit to window|fit in window|"
-              "fit to screen|fit content|fit to content|fit extents|zoom to extents|"
-              "zoom content to fit|zoom page|best fit|view all|zoom full|zoom full extent|"
-              "zoom to full extent|full extent|global zoom|zoom global"),
-         list("view|zoom|display"),
-         list("fit|all|extents|best fit"),
-         {}},
-    };
-    return signs;
-}
 
 using Words = QSet<QString>;
 
-Words wordsOf(const QString &text)
+Words wordsIn(const char *text)
 {
-    const QStringList list = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const QStringList list = QString::fromLatin1(text).split(QLatin1Char(' '));
     return Words(list.begin(), list.end());
 }
 
-Words wordsIn(const char *text)
-{
-    return wordsOf(QString::fromLatin1(text));
-}
-
-// Words in object names for the kind of object.
+// Words of object names that say what sort of thing it is.
 const Words &kinds()
 {
     static const Words words = wordsIn("act action m ui std menu mnu item btn button tool tb id");
     return words;
 }
 
-// The same, and words for the place of a command.
+// Those and the ones that say where it is, not what it does.
 const Words &noise()
 {
     static const Words words = Words(kinds()) | wordsIn("file edit draw modify view");
@@ -189,7 +80,140 @@ QStringList wordsOfName(QString name)
     return {without(noise(), plain), without(kinds(), plain)};
 }
 
-// Switches for toolbars and docks have the title of what they show, not of a command.
+// The role of menus with "Zoom to Fit".
+constexpr const char *kViewRole = "view";
+
+struct Signs
+{
+    const char *identifier;
+    const char *caption;
+    QKeySequence::StandardKey shortcut;
+    QStringList icons;
+    const char *menuRoles; // of the menus where such commands are, separated by spaces
+    // In lower case, words separated by one space. An object name is compared with them
+    // once its words that name no deed are gone, see noise().
+    Words words;
+    Words menus; // captions, likewise
+    // Words that say too little but in one of these menus.
+    Words wordsInMenus;
+    // Single words among both: "Open Image" mentions "open".
+    Words mentions;
+};
+
+Words plainWordsOf(const QStringList &captions)
+{
+    Words words;
+    for (const QString &caption : captions)
+        words.insert(plainWords(caption));
+    return words;
+}
+
+QVector<Signs> makeSigns()
+{
+    const auto list = [](const char *text) {
+        return QString::fromLatin1(text).split(QLatin1Char('|'), Qt::SkipEmptyParts);
+    };
+    QVector<Signs> signs{
+        {"ID_COPY",
+         QT_TRANSLATE_NOOP("host", "Copy"),
+         QKeySequence::Copy,
+         list("edit-copy"),
+         "edit",
+         {},
+         {},
+         {},
+         {}},
+        {"ID_DTEXT",
+         QT_TRANSLATE_NOOP("host", "Text"),
+         QKeySequence::UnknownKey,
+         list("draw-text|insert-text|tool-text"),
+         "draw",
+         {},
+         {},
+         {},
+         {}},
+        {"ID_LINE",
+         QT_TRANSLATE_NOOP("host", "Line"),
+         QKeySequence::UnknownKey,
+         list("draw-line|tool-line"),
+         "draw",
+         {},
+         {},
+         {},
+         {}},
+        {"ID_OFFSET",
+         QT_TRANSLATE_NOOP("host", "Offset"),
+         QKeySequence::UnknownKey,
+         list("object-offset|offset"),
+         "edit draft",
+         {},
+         {},
+         {},
+         {}},
+        {"ID_OPEN",
+         QT_TRANSLATE_NOOP("host", "Open"),
+         QKeySequence::Open,
+         list("document-open"),
+         "file",
+         {},
+         {},
+         {},
+         {}},
+        {"ID_SAVE",
+         QT_TRANSLATE_NOOP("host", "Save"),
+         QKeySequence::Save,
+         list("document-save"),
+         "file",
+         {},
+         {},
+         {},
+         {}},
+        {"ID_TRIM",
+         QT_TRANSLATE_NOOP("host", "Trim"),
+         QKeySequence::UnknownKey,
+         list("trim"),
+         "edit draft",
+         {},
+         {},
+         {},
+         {}},
+        {"ID_ZOOM_BOUNDS",
+         QT_TRANSLATE_NOOP("host", "Zoom to Fit"),
+         QKeySequence::UnknownKey,
+         list("zoom-fit-best|zoom-fit|zoom-fit-page|page-zoom"),
+         kViewRole,
+         {},
+         {},
+         {},
+         {}},
+    };
+    for (Signs &sign : signs) {
+        const QString identifier = QLatin1String(sign.identifier);
+        for (const KnownCaptions &captions : KnownCaptions::languages()) {
+            sign.words |= plainWordsOf(captions.commands.value(identifier));
+            sign.wordsInMenus |= plainWordsOf(captions.commandsInTheirMenus.value(identifier));
+        }
+        const QStringList roles = QString::fromLatin1(sign.menuRoles).split(QLatin1Char(' '));
+        for (const QString &role : roles)
+            sign.menus |= plainWordsOf(KnownCaptions::menusOf(role));
+        const Words all = Words(sign.words) | sign.wordsInMenus;
+        for (const QString &words : all) {
+            if (!words.contains(QLatin1Char(' ')))
+                sign.mentions.insert(words);
+        }
+        if (sign.menuRoles == kViewRole)
+            sign.mentions |= sign.menus; // "Zoom ..." with the icon for it
+    }
+    return signs;
+}
+
+const QVector<Signs> &allSigns()
+{
+    static const QVector<Signs> signs = makeSigns();
+    return signs;
+}
+
+// Switches that show and hide a toolbar or a dock bear its title, not a deed.
 bool isSwitchOfBar(const QAction &action)
 {
     const QString name = action.objectName().toLower();
@@ -198,7 +222,7 @@ bool isSwitchOfBar(const QAction &action)
             || action.inherits("KToggleToolBarAction") || name.contains(QLatin1String("toolbar")));
 }
 
-// True for a menu bar of a main window inside another one, such as an editor for notes.
+// Whether it belongs to a main window inside another, such as an editor for notes in a dock.
 bool isOfAPart(const QMenuBar *bar)
 {
     const QWidget *up = bar->parentWidget();
@@ -207,8 +231,8 @@ bool isOfAPart(const QMenuBar *bar)
     return up && !up->isWindow();
 }
 
-// Returns the menu's place in a menu bar; for a submenu, that of the menu that contains it; -1 if
-// there is none. The first menu of a part of the window does not count as the first.
+// The menu's place in a menu bar, of a submenu that of the menu that it is in; -1 if none.
+// The first menu of a part of the window is not the first of all.
 int placeInBar(const QMenu *menu)
 {
     constexpr int kDeepest = 16; // menus may contain each other
@@ -227,7 +251,7 @@ int placeInBar(const QMenu *menu)
     return -1;
 }
 
-// Returns the places, in menu bars, of the menus that contain an action.
+// The places in menu bars of the menus that an action is in; empty when it is in none there.
 QVector<int> placesInBars(const QAction &action)
 {
     QVector<int> places;
@@ -240,18 +264,24 @@ QVector<int> placesInBars(const QAction &action)
     return places;
 }
 
-QStringList menusOf(const QAction &action)
+// The titles of a menu and of those that it is in, the innermost first.
+QStringList titlesUpFrom(const QMenu *menu)
 {
-    QStringList menus;
-    const QWidgetList widgets = qtbridge::widgetsOf(action);
-    for (const QWidget *widget : widgets) {
-        if (const auto *menu = qobject_cast<const QMenu *>(widget))
-            menus.append(plainWords(plainCaption(menu->title())));
+    constexpr int kDeepest = 16; // menus may contain each other
+    QStringList titles;
+    for (int depth = 0; menu && depth < kDeepest; ++depth) {
+        titles.append(plainWords(plainCaption(menu->title())));
+        const QWidgetList widgets = qtbridge::widgetsOf(*menu->menuAction());
+        menu = nullptr;
+        for (const QWidget *widget : widgets) {
+            if (!menu)
+                menu = qobject_cast<const QMenu *>(widget);
+        }
     }
-    return menus;
+    return titles;
 }
 
-// An action's texts and icon, read once for all identifiers.
+// What an action shows and is called, read once for all identifiers.
 struct Look
 {
     explicit Look(const QAction &action)
@@ -261,10 +291,18 @@ struct Look
         , nameWords(wordsOfName(action.objectName()))
         , caption(plainCaption(action.text()))
         , captionWords(plainWords(caption))
-        , menus(menusOf(action))
         , places(placesInBars(action))
         , isButtonOnly(places.isEmpty() && !qtbridge::widgetsOf(action).isEmpty())
+        , isCheckable(action.isCheckable())
     {
+        const QWidgetList widgets = qtbridge::widgetsOf(action);
+        for (const QWidget *widget : widgets) {
+            if (const auto *menu = qobject_cast<const QMenu *>(widget)) {
+                const QStringList titles = titlesUpFrom(menu);
+                menus.append(titles.first());
+                menusAbove += titles.mid(1);
+            }
+        }
     }
 
     QList<QKeySequence> shortcuts;
@@ -273,63 +311,102 @@ struct Look
     QStringList nameWords; // forms of the name
     QString caption;
     QString captionWords;
-    QStringList menus;
+    QStringList menus; // that it is in
+    QStringList menusAbove; // that those are in
     QVector<int> places;
     bool isButtonOnly; // or in a menu that opens over something
+    bool isCheckable;
 };
 
-// Which of the program's texts are English, and can be understood here.
-struct Language
+bool containsAny(const QStringList &titles, const Words &known)
 {
-    bool ofCaptions = false;
-    bool ofNames = false;
+    return std::any_of(titles.begin(), titles.end(),
+                       [&known](const QString &title) { return known.contains(title); });
+}
+
+// Chinese and Japanese put no spaces between words.
+bool isUnspaced(const QString &word)
+{
+    constexpr char16_t kFirst = 0x3000; // of the blocks of their characters
+    return word.at(0).unicode() >= kFirst;
+}
+
+bool mentions(const QString &text, const Words &words)
+{
+    const QStringList parts = text.split(QLatin1Char(' '));
+    return std::any_of(words.begin(), words.end(), [&](const QString &word) {
+        return isUnspaced(word) ? text.contains(word) : parts.contains(word);
+    });
+}
+
+// What speaks for one identifier.
+struct Signals
+{
+    Signals(const Signs &signs, const Look &look)
+    {
+        isFileCommand = signs.shortcut == QKeySequence::Open || signs.shortcut == QKeySequence::Save;
+        const auto standard = signs.shortcut == QKeySequence::UnknownKey
+                                ? QList<QKeySequence>()
+                                : QKeySequence::keyBindings(signs.shortcut);
+        const auto found =
+            std::find_if(look.shortcuts.begin(), look.shortcuts.end(),
+                         [&standard](const QKeySequence &keys) { return standard.contains(keys); });
+        if (found != look.shortcuts.end())
+            shortcut = found->toString();
+        hasIcon = signs.icons.contains(look.icon);
+        isInMenu = containsAny(look.menus, signs.menus);
+        const auto isWord = [&](const QString &words) {
+            return signs.words.contains(words) || (isInMenu && signs.wordsInMenus.contains(words));
+        };
+        hasName = std::any_of(look.nameWords.begin(), look.nameWords.end(), isWord);
+        hasCaption = isWord(look.captionWords);
+        isMentioned =
+            mentions(look.captionWords, signs.mentions)
+            || std::any_of(look.nameWords.begin(), look.nameWords.end(),
+                           [&signs](const QString &name) { return mentions(name, signs.mentions); });
+        const bool isInFirstMenu = isFileCommand && look.places.contains(0);
+        isElsewhere = !look.places.isEmpty() && !isInMenu && !isInFirstMenu
+                   && !containsAny(look.menusAbove, signs.menus);
+        isDoubtful = isFileCommand && !look.places.isEmpty() && !look.places.contains(0);
+    }
+
+    bool isFileCommand;
+    QString shortcut; // empty if it has not the standard one
+    bool hasIcon;
+    bool hasName;
+    bool hasCaption;
+    bool isMentioned; // caption or object name contains a word for it
+    bool isInMenu; // where such commands are
+    bool isElsewhere; // in other menus only, at any depth
+    bool isDoubtful; // its shortcut
 };
 
-Language languageOf(const QVector<QAction *> &actions)
+// A wrong command is worse than none: one weak sign does not suffice, nor do signs against
+// which another speaks.
+bool isConvincing(const Signs &signs, const Signals &has, const Look &look)
 {
-    // This many common commands must have English names.
-    constexpr int kEnough = 3;
-    static const Words common = wordsIn("new open save close quit exit undo redo cut copy paste print");
-    Words captions;
-    Words names;
-    for (const QAction *action : actions) {
-        captions |= wordsOf(plainWords(plainCaption(action->text()))) & common;
-        names |= wordsOf(wordsOfName(action->objectName()).last()) & common;
-    }
-    return {captions.size() >= kEnough, names.size() >= kEnough};
-}
-
-// True for a text that names something else than one of these stems.
-bool isOtherDeed(const QString &text, const QStringList &stems)
-{
-    constexpr int kShortestWord = 3; // letters; less is no word
-    return text.size() >= kShortestWord
-        && std::none_of(stems.begin(), stems.end(),
-                        [&text](const QString &stem) { return text.contains(stem); });
-}
-
-// True for a guess that rests on one sign alone while another one contradicts it.
-//
-// A wrong guess is worse than none: what only a weak sign speaks for, or what another sign
-// contradicts, is no guess.
-bool isContradicted(const Signs &signs, const Look &look, const Language &language, int weight,
-                    bool isInMenu)
-{
-    if (weight == kShortcutWeight && !signs.stems.isEmpty()) {
-        return (language.ofCaptions && isOtherDeed(look.captionWords, signs.stems))
-            || (language.ofNames && isOtherDeed(look.nameWords.last(), signs.stems));
-    }
-    if (signs.shortcut != QKeySequence::UnknownKey)
+    // What stays switched on is a mode. Only tools and "keep it fitting" are such.
+    const bool isTool = signs.shortcut == QKeySequence::UnknownKey;
+    if (look.isCheckable && (!isTool || (signs.menuRoles == kViewRole && !has.hasIcon)))
         return false;
-    // One word, in a menu of other things: "Go to > Line".
-    const bool isOneWord = !look.captionWords.contains(QLatin1Char(' '));
-    return weight == kCaptionWeight && isOneWord && !look.menus.isEmpty() && !isInMenu;
+    const bool isSaid = has.hasName || has.hasCaption;
+    if (!has.shortcut.isEmpty() && (has.hasCaption || !has.isDoubtful) && (isSaid || has.isMentioned))
+        return true;
+    if (has.isElsewhere && signs.menuRoles != kViewRole)
+        return false;
+    // Of a button that is in no menu, "Save" may mean anything, and the command comes later.
+    if (look.isButtonOnly && !isTool && !has.hasName && !has.hasIcon)
+        return false;
+    return isSaid || (has.hasIcon && (has.isMentioned || !has.shortcut.isEmpty()));
 }
 
-WellKnownGuess judge(const Signs &signs, const Look &look, const Language &language)
+WellKnownGuess judge(const Signs &signs, const Look &look)
 {
     WellKnownGuess guess;
     guess.identifier = QLatin1String(signs.identifier);
+    const Signals has(signs, look);
+    if (!isConvincing(signs, has, look))
+        return guess;
     QStringList reasons;
     const auto weigh = [&](bool speaksForIt, int weight, const QString &kind, const QString &what) {
         if (!speaksForIt)
@@ -337,36 +414,12 @@ WellKnownGuess judge(const Signs &signs, const Look &look, const Language &langu
         guess.weight += weight;
         reasons.append(QStringLiteral("%1 \"%2\"").arg(kind, what));
     };
-    if (signs.shortcut != QKeySequence::UnknownKey) {
-        const QList<QKeySequence> standard = QKeySequence::keyBindings(signs.shortcut);
-        const auto found =
-            std::find_if(look.shortcuts.begin(), look.shortcuts.end(),
-                         [&standard](const QKeySequence &keys) { return standard.contains(keys); });
-        const bool isFileCommand =
-            signs.shortcut == QKeySequence::Open || signs.shortcut == QKeySequence::Save;
-        const bool isDoubtful = isFileCommand && !look.places.isEmpty() && !look.places.contains(0);
-        if (found != look.shortcuts.end())
-            weigh(true, isDoubtful ? kDoubtfulWeight : kShortcutWeight, QStringLiteral("shortcut"),
-                  found->toString());
-    }
-    weigh(signs.icons.contains(look.icon), kIconWeight, QStringLiteral("icon"), look.icon);
-    const auto menu = std::find_if(look.menus.begin(), look.menus.end(), [&signs](const QString &title) {
-        return signs.menus.contains(title);
-    });
-    const bool isInMenu = menu != look.menus.end();
-    const auto isWord = [&signs, isInMenu](const QString &words) {
-        return signs.words.contains(words) || (isInMenu && signs.wordsInMenus.contains(words));
-    };
-    weigh(std::any_of(look.nameWords.begin(), look.nameWords.end(), isWord), kNameWeight,
-          QStringLiteral("object name"), look.name);
-    // On a button outside all menus, "Save" may mean anything.
-    const bool isEnough =
-        guess.weight > 0 || !look.isButtonOnly || signs.shortcut == QKeySequence::UnknownKey;
-    weigh(isEnough && isWord(look.captionWords), kCaptionWeight, QStringLiteral("caption"),
-          look.caption);
-    if (isContradicted(signs, look, language, guess.weight, isInMenu))
-        guess.weight = 0;
-    if (guess.weight > 0 && isInMenu)
+    weigh(!has.shortcut.isEmpty(), has.isDoubtful ? kDoubtfulWeight : kShortcutWeight,
+          QStringLiteral("shortcut"), has.shortcut);
+    weigh(has.hasIcon, kIconWeight, QStringLiteral("icon"), look.icon);
+    weigh(has.hasName, kNameWeight, QStringLiteral("object name"), look.name);
+    weigh(has.hasCaption, kCaptionWeight, QStringLiteral("caption"), look.caption);
+    if (has.isInMenu)
         guess.weight += kMenuWeight;
     guess.reason = reasons.join(QStringLiteral(", "));
     return guess;
@@ -394,7 +447,6 @@ QString WellKnownGuess::captionOf(const QString &identifier)
 QVector<WellKnownGuess> WellKnownGuess::among(const QVector<QAction *> &actions,
                                               const QStringList &wanted)
 {
-    const Language language = languageOf(actions);
     QVector<WellKnownGuess> candidates;
     for (QAction *action : actions) {
         if (isSwitchOfBar(*action))
@@ -403,7 +455,7 @@ QVector<WellKnownGuess> WellKnownGuess::among(const QVector<QAction *> &actions,
         for (const Signs &signs : allSigns()) {
             if (!wanted.contains(QLatin1String(signs.identifier)))
                 continue;
-            WellKnownGuess guess = judge(signs, look, language);
+            WellKnownGuess guess = judge(signs, look);
             guess.action = action;
             if (guess.weight > 0)
                 candidates.append(guess);

@@ -10,11 +10,14 @@ QT_END_NAMESPACE
 
 namespace gesturewidget {
 
-// Finds the well-known commands, such as "ID_LINE", among the actions of a program without a
-// profile. The signs are, in the order of trust: the standard shortcut, the name of the theme
-// icon, the object name, the caption. Among equals, the action in the menu where such commands are
-// wins. Switches of toolbars and docks are no commands. A single sign that another one contradicts
-// does not count, such as Ctrl+C on "Connect".
+// Finds the well-known commands, such as "ID_LINE", among the actions of a program that
+// nobody has described. The signs are, in this order of trust, the standard shortcut, the name
+// of the theme icon, the object name and the caption in any of ten languages; of equals the
+// action in the menu where such commands are.
+//
+// A wrong command is worse than none. So a shortcut or an icon needs a caption or an object
+// name beside it, an ambiguous name or caption counts in no other menu, and what switches a
+// toolbar, a dock or a mode is never a command.
 struct WellKnownGuess
 {
     QString identifier;

@@ -1,34 +1,25 @@
 #include "host/files/CatalogueFile.h"
 
 #include "host/files/Complaint.h"
+#include "host/files/FileContent.h"
+#include "host/files/FileLock.h"
+#include "host/files/FileWriter.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QLockFile>
-#include <QSaveFile>
-
-#include <cerrno>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace gesturewidget {
 namespace {
 
 constexpr int kVersion = 1;
 
-// Milliseconds. Others hold the file for as long as it takes to write it; who comes too late
-// has another chance when menus change again.
+// Milliseconds. Others hold the lock for as long as it takes to write the file. If that is too
+// long, the next change of the menus tries again.
 constexpr int kLockPatience = 500;
-// Milliseconds after which a lock that says nothing of its owner counts as left behind, as by
-// one who was ended while making it. Whose owner is known goes with that.
-constexpr int kStaleLockAge = 5000;
 
 const QLatin1String kVersionKey("version");
 const QLatin1String kCommandsKey("commands");
@@ -40,7 +31,7 @@ const QLatin1String kGroupKey("group");
 const QLatin1String kIconKey("icon");
 const QLatin1String kToolBarKey("toolbar");
 
-// An identifier that was cut off would be another one.
+// An identifier must not be cut off: it would be another one.
 bool isAcceptable(const RememberedCommand &command)
 {
     return !command.identifier.isEmpty() && command.identifier.size() <= CatalogueFile::kMaximalText
@@ -83,7 +74,7 @@ QJsonObject toJson(const RememberedCommand &command)
     return object;
 }
 
-// A line for each command, for people who look into it.
+// One line for each command, so that people can read the file.
 QByteArray textOf(const QVector<RememberedCommand> &commands)
 {
     QByteArray text = "{\n\"version\": " + QByteArray::number(kVersion) + ",\n\"commands\": [";
@@ -95,7 +86,7 @@ QByteArray textOf(const QVector<RememberedCommand> &commands)
     return text + "\n]\n}\n";
 }
 
-// Brings `known` up to date. Whether that changed anything.
+// Updates `known`. Returns whether that changed anything.
 bool update(RememberedCommand &known, const RememberedCommand &seen)
 {
     RememberedCommand updated = seen;
@@ -170,10 +161,9 @@ bool CatalogueFile::merge(const QVector<RememberedCommand> &seen, const QStringL
     if (m_path.isEmpty())
         return false;
     QDir().mkpath(QFileInfo(m_path).absolutePath());
-    QLockFile lock(m_path + QLatin1String(".lock"));
-    lock.setStaleLockTime(kStaleLockAge);
-    if (!lock.tryLock(kLockPatience)) {
-        if (lock.error() != QLockFile::LockFailedError)
+    const FileLock lock(m_path, kLockPatience);
+    if (!lock.isHeld()) {
+        if (lock.result() == FileLock::Result::Impossible)
             complainOnce(QStringLiteral("%1 cannot be written, new commands are forgotten").arg(m_path));
         return false;
     }
@@ -208,19 +198,17 @@ CatalogueFile::Content CatalogueFile::lastGood()
 
 CatalogueFile::Content CatalogueFile::contentOf(const QString &path)
 {
-    Content foreign{State::Foreign, {}, QStringLiteral("cannot be read, its commands are not offered")};
-    struct stat status = {};
-    if (::stat(QFile::encodeName(path).constData(), &status) != 0)
-        return errno == ENOENT || errno == ENOTDIR ? Content() : foreign;
-    if (S_ISREG(status.st_mode) && status.st_size > kMaximalSize) {
-        foreign.problem = QStringLiteral("is too large, its commands are not offered");
-        return foreign;
+    const FileContent file = FileContent::read(path, kMaximalSize);
+    switch (file.state) {
+    case FileContent::State::Read:
+        return parsed(file.bytes);
+    case FileContent::State::Missing:
+        return {};
+    case FileContent::State::TooLarge:
+        return {State::Foreign, {}, QStringLiteral("is too large, its commands are not offered")};
+    default:
+        return {State::Foreign, {}, QStringLiteral("cannot be read, its commands are not offered")};
     }
-    QFile file(path);
-    if (!S_ISREG(status.st_mode) || !file.open(QIODevice::ReadOnly))
-        return foreign;
-    const QByteArray text = file.read(kMaximalSize);
-    return file.error() == QFileDevice::NoError ? parsed(text) : foreign;
 }
 
 CatalogueFile::Content CatalogueFile::parsed(const QByteArray &text)
@@ -261,23 +249,14 @@ bool CatalogueFile::store(const QVector<RememberedCommand> &commands, State befo
             command.icon.clear();
         text = textOf(plain);
     }
-    QSaveFile file(m_path);
-    // commit() overlooks that what was left in the buffer did not fit on the disk.
-    if (text.size() > kMaximalSize || !file.open(QIODevice::WriteOnly) || file.write(text) != text.size()
-        || !file.flush())
+    if (text.size() > kMaximalSize)
         return false;
-    if (before == State::Damaged) {
-        const QString kept = m_path + QLatin1String(".damaged");
-        QFile::remove(kept);
-        QFile::copy(m_path, kept);
-    } else if (before == State::Good) {
-        // The old file under a second name, which costs nothing: it is replaced, not changed.
-        const QByteArray backup = QFile::encodeName(backupPath());
-        ::unlink(backup.constData());
-        static_cast<void>(::linkat(AT_FDCWD, QFile::encodeName(m_path).constData(), AT_FDCWD,
-                                   backup.constData(), AT_SYMLINK_FOLLOW));
-    }
-    return file.commit();
+    const FileWriter writer(m_path, FileWriter::Readers::Owner);
+    const QString kept = before == State::Damaged ? m_path + QLatin1String(".damaged")
+                       : before == State::Good    ? backupPath()
+                                                  : QString();
+    // The new content matters more than the copy of the old one.
+    return (!kept.isEmpty() && writer.write(text, kept)) || writer.write(text);
 }
 
 QString CatalogueFile::backupPath() const

@@ -1,5 +1,6 @@
 #include "host/inject/Injector.h"
 
+#include "host/files/Complaint.h"
 #include "host/files/ExplanationChannel.h"
 #include "host/session/ExplainedProgram.h"
 #include "host/session/GestureHost.h"
@@ -13,7 +14,6 @@
 
 #include <sys/socket.h>
 
-#include <cstdio>
 #include <exception>
 
 using gesturewidget::GestureHost;
@@ -23,7 +23,7 @@ namespace {
 
 void report(const char *text)
 {
-    std::fprintf(stderr, "mouse gestures: %s\n", text);
+    gesturewidget::complain(QString::fromUtf8(text));
 }
 
 } // namespace

@@ -1,13 +1,14 @@
 #pragma once
 
+#include "host/files/PluginNames.h"
+
 #include <QByteArray>
 
 // The environment variables that made Qt load the plug-in, and how to remove them, so that
 // programs started from this one do not load it too.
 namespace inject {
 
-// The plug-in's key among Qt's generic plug-ins.
-inline constexpr char kPluginKey[] = "mousegestures";
+using gesturewidget::kPluginKey;
 
 // `plugins` is the value of QT_QPA_GENERIC_PLUGINS: entries "key" or "key:arguments" separated by
 // commas. Returns it without the entries of `key`, ignoring letter case as Qt does. The rest is

@@ -1,10 +1,13 @@
 #include "host/menus/ToolsMenu.h"
 
+#include "host/captions/KnownCaptions.h"
 #include "host/window/Captions.h"
 #include "host/window/MenuChanges.h"
 
 #include <QCoreApplication>
 #include <QMenuBar>
+
+#include <algorithm>
 
 namespace gesturewidget {
 namespace {
@@ -14,9 +17,48 @@ bool isNamed(const QMenu &menu, const QString &name)
     return menu.objectName() == name || plainCaption(menu.title()) == name;
 }
 
-bool hasRole(const QMenu &menu, const QString &role)
+// In the words of any of `languages`.
+bool hasRole(const QMenu &menu, const QString &role, const QVector<KnownCaptions> &languages)
 {
-    return menuRole(menu.objectName()) == role || menuRole(plainCaption(menu.title())) == role;
+    const QStringList names{menuRole(menu.objectName()), menuRole(plainCaption(menu.title()))};
+    return std::any_of(languages.begin(), languages.end(), [&](const KnownCaptions &captions) {
+        const QStringList known = captions.menus.value(role);
+        return std::any_of(known.begin(), known.end(), [&names](const QString &caption) {
+            return names.contains(menuRole(caption));
+        });
+    });
+}
+
+// How many of the bar's menus bear a caption of that language.
+int captionsIn(const QMenuBar &bar, const KnownCaptions &language)
+{
+    int count = 0;
+    const QList<QAction *> actions = bar.actions();
+    for (const QAction *action : actions) {
+        const QString caption = menuRole(plainCaption(action->text()));
+        const auto &menus = language.menus;
+        count += std::any_of(menus.begin(), menus.end(),
+                             [&caption](const QStringList &known) { return known.contains(caption); })
+                   ? 1
+                   : 0;
+    }
+    return count;
+}
+
+// "Tools" in the language of the bar's menus; of equals the first language known.
+QString toolsCaption(const QMenuBar &bar)
+{
+    const QVector<KnownCaptions> &languages = KnownCaptions::languages();
+    const KnownCaptions *best = &languages.first();
+    for (const KnownCaptions &language : languages) {
+        if (captionsIn(bar, language) > captionsIn(bar, *best))
+            best = &language;
+    }
+    if (best == &languages.first())
+        return QCoreApplication::translate("host", "&Tools");
+    QString caption = best->menus.value(QStringLiteral("tools")).value(0);
+    caption[0] = caption.at(0).toUpper();
+    return caption;
 }
 
 } // namespace
@@ -47,7 +89,7 @@ QMenu *ToolsMenu::findOrMake()
     if (QMenu *own = programsOwn(*menuBar))
         return own;
     if (!m_made) {
-        m_made = new QMenu(QCoreApplication::translate("host", "&Tools"), menuBar);
+        m_made = new QMenu(toolsCaption(*menuBar), menuBar);
         m_made->menuAction()->setVisible(false);
     }
     QAction *action = m_made->menuAction();
@@ -55,7 +97,8 @@ QMenu *ToolsMenu::findOrMake()
         QAction *help = nullptr;
         const QList<QAction *> actions = menuBar->actions();
         for (QAction *other : actions) {
-            if (other->menu() && hasRole(*other->menu(), QStringLiteral("help")))
+            if (other->menu()
+                && hasRole(*other->menu(), QStringLiteral("help"), KnownCaptions::languages()))
                 help = other;
         }
         menuBar->insertAction(help, action);
@@ -78,7 +121,9 @@ QMenuBar *ToolsMenu::bar() const
 QMenu *ToolsMenu::programsOwn(const QMenuBar &bar) const
 {
     QMenu *named = nullptr;
-    QMenu *byRole = nullptr;
+    QMenu *english = nullptr;
+    QMenu *translated = nullptr;
+    const QVector<KnownCaptions> &languages = KnownCaptions::languages();
     const QList<QAction *> actions = bar.actions();
     for (const QAction *action : actions) {
         QMenu *menu = action->menu();
@@ -86,10 +131,13 @@ QMenu *ToolsMenu::programsOwn(const QMenuBar &bar) const
             continue;
         if (!named && !m_wanted.isEmpty() && isNamed(*menu, m_wanted))
             named = menu;
-        if (!byRole && hasRole(*menu, QStringLiteral("tools")))
-            byRole = menu;
+        if (!english && hasRole(*menu, QStringLiteral("tools"), languages.mid(0, 1)))
+            english = menu;
+        if (!translated && hasRole(*menu, QStringLiteral("tools"), languages))
+            translated = menu;
     }
-    return named ? named : byRole;
+    // Object names are English. Beside a "Tools" menu, "Extras" is something else.
+    return named ? named : english ? english : translated;
 }
 
 } // namespace gesturewidget

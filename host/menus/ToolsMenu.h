@@ -15,15 +15,16 @@ class MenuChanges;
 class ToolsMenu
 {
 public:
-    // `wanted` is the object name or caption of the program's menu. If it is empty, a menu is
-    // taken whose object name or caption says "Tools".
+    // `wanted` is the object name or caption of the program's menu. If it is empty or no menu
+    // has it, the menu is the one that either calls "Tools" in a known language.
     ToolsMenu(const MenuChanges &watcher, const QString &wanted);
     ~ToolsMenu();
     Q_DISABLE_COPY_MOVE(ToolsMenu)
 
     // Returns null if the program has none and nobody has asked for one yet.
     [[nodiscard]] QMenu *find() const;
-    // Returns null only without a menu bar. A new menu is placed before Help.
+    // Returns null only without a menu bar. A new menu is placed before Help; its caption is in
+    // the language of the program's other menus.
     [[nodiscard]] QMenu *findOrMake();
     // Returns the menu that was made here, or null.
     [[nodiscard]] QMenu *made() const { return m_made; }

@@ -4,6 +4,7 @@
 #include "host/commands/CommandStack.h"
 #include "host/files/Complaint.h"
 #include "host/files/ProgramProfile.h"
+#include "host/files/SettingsNames.h"
 #include "host/files/TriggerText.h"
 #include "host/services/HostEditor.h"
 #include "host/services/SystemServices.h"
@@ -18,7 +19,6 @@
 #include <QTimer>
 
 #include <algorithm>
-#include <cstdio>
 
 namespace gesturewidget {
 namespace {
@@ -76,7 +76,7 @@ bool HostSession::start(QString *error)
     const ProgramProfile profile =
         ProgramProfile::forProgram(m_options.program, m_options.profileFolders, &message);
     if (!message.isEmpty())
-        std::fprintf(stderr, "mouse gestures: %s\n", qPrintable(message));
+        complain(message);
 
     m_services = std::make_unique<SystemServices>(window, profile, &m_documents, m_options.settingsFile);
     if (m_options.guesses)
@@ -229,8 +229,9 @@ void HostSession::waitForAllMenus()
 Trigger HostSession::chosenTrigger(Trigger trigger) const
 {
     CHxProfileStore *store = m_services->GetProfileStore();
-    const OdResBufPtr value =
-        store ? store->Get(triggerSection(), triggerKey(), CHxProfileStore::kProfile) : OdResBufPtr();
+    const OdResBufPtr value = store ? store->Get(settingsnames::hostSection(),
+                                                 settingsnames::triggerKey(), CHxProfileStore::kProfile)
+                                    : OdResBufPtr();
     const QString text = value ? value->getString().toQString() : QString();
     if (text.isEmpty())
         return trigger;
@@ -260,8 +261,8 @@ bool HostSession::gesturesAreEnabled() const
     CHxProfileStore *store = m_services->GetProfileStore();
     if (!store)
         return true;
-    const OdResBufPtr value =
-        store->Get("GestureWidget", "EnableMouseGesture", CHxProfileStore::kProfile);
+    const OdResBufPtr value = store->Get(settingsnames::moduleSection(), settingsnames::enabledKey(),
+                                         CHxProfileStore::kProfile);
     return !value || value->getString().toQString() != QLatin1String("0");
 }
 

@@ -1,3 +1,3 @@
-#include "sdk/chx/CHxApplication.h"
+#include "CHxApplication.h"
 
 CHxApplication::~CHxApplication() = default;

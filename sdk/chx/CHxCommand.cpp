@@ -1,6 +1,6 @@
-#include "sdk/chx/CHxCommand.h"
+#include "CHxCommand.h"
 
-#include "sdk/chx/CHxSystemServices.h"
+#include "CHxSystemServices.h"
 
 CHxCommandContext::~CHxCommandContext() = default;
 

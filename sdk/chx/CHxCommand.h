@@ -1,9 +1,9 @@
 #pragma once
 
-#include "sdk/od/OdEdCommand.h"
+#include "../od/OdEdCommand.h"
 
-// The context of a running host command; opaque to modules.
-class SDK_EXPORT CHxCommandContext : public OdEdCommandContext
+// The state of a running command of this host. Modules cannot look inside.
+class GESTUREWIDGET_SDK_EXPORT CHxCommandContext : public OdEdCommandContext
 {
 public:
     ~CHxCommandContext() override;
@@ -12,22 +12,36 @@ protected:
     CHxCommandContext() = default;
 };
 
-// A command of this host. Derive, name it, override Execute(), hand it to odedRegCmds().
-class SDK_EXPORT CHxCommand : public OdEdCommand
+// A command of this host. To make one: derive, return its two names, override Execute(), and add
+// it to the command stack.
+//
+//     class HelloCommand : public CHxCommand
+//     {
+//     public:
+//         OdString globalName() const override { return OdString("_HELLO", kOdAnsiCodePage); }
+//         OdString localName() const override { return OdString("HELLO", kOdAnsiCodePage); }
+//         int Execute(CHxCommandContext *) override { sayHello(); return kNormal; }
+//     };
+//     OdStaticRxObject<HelloCommand> command;
+//     odedRegCmds()->addCommand(&command);
+class GESTUREWIDGET_SDK_EXPORT CHxCommand : public OdEdCommand
 {
 public:
     ~CHxCommand() override;
 
+    // "HX_COMMANDS".
     [[nodiscard]] OdString groupName() const override;
-    // Runs Execute().
+    // Calls Execute() and drops its result. Passes null when `context` is not a CHxCommandContext.
     void execute(OdEdCommandContext *context) override;
 
-    // Does the command's work; `context` may be null. Returns the host's result code,
-    // kNormal when all went well.
+    // Called each time the user runs the command. Does the work and may block in a dialog.
+    // `context` is null when the host keeps no state for commands. Returns the host's result
+    // code, kNormal for a command that ended normally.
     virtual int Execute(CHxCommandContext *context) = 0;
-    // Opens the help on the command.
+    // Called when the user asks for help on the command. The default opens topic GetHelpId() in
+    // the host's help, or does nothing without system services.
     virtual void Help() const;
-    // Topic number of the command's help, 0 for none.
+    // The number of the command's help topic. 0, the default, is the first page.
     [[nodiscard]] virtual int GetHelpId() const;
 
     // The host's result code for a command that ended normally.

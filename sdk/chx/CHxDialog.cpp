@@ -1,6 +1,6 @@
-#include "sdk/chx/CHxDialog.h"
+#include "CHxDialog.h"
 
-#include "sdk/chx/CHxSystemServices.h"
+#include "CHxSystemServices.h"
 
 namespace {
 Qt::WindowFlags dialogFlags(bool keepFlags, Qt::WindowFlags flags)

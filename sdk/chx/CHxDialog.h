@@ -1,18 +1,18 @@
 #pragma once
 
-#include "sdk/SdkExport.h"
+#include "../SdkExport.h"
 
 #include <QDialog>
 
-// The base of dialogs in this host: a QDialog that knows its help topic and keeps its
-// place on the screen that its parent is on.
-class SDK_EXPORT CHxDialog : public QDialog
+// The base of dialogs in this host: a QDialog with a help topic. Its virtual functions call those
+// of QDialog.
+class GESTUREWIDGET_SDK_EXPORT CHxDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    // `keepFlags` true leaves the window flags exactly as `flags` says; false adds a close
-    // button and makes it a dialog, which is what a user expects of one.
+    // `keepFlags` true uses exactly the window flags in `flags`. False adds those of a normal
+    // dialog with a close button.
     CHxDialog(QWidget *parent, bool keepFlags, Qt::WindowFlags flags);
     ~CHxDialog() override;
 
@@ -20,10 +20,10 @@ public:
     void reject() override;
     int exec() override;
     void done(int result) override;
-    // Topic number of the dialog's help, 0 for none.
+    // The number of the dialog's help topic. 0, the default, is the first page.
     [[nodiscard]] virtual int GetHelpId() const;
 
 public Q_SLOTS:
-    // Opens the help on GetHelpId() through the host.
+    // Opens topic GetHelpId() in the host's help. Does nothing without system services.
     void Help();
 };

@@ -1,3 +1,3 @@
-#include "sdk/chx/CHxDocument.h"
+#include "CHxDocument.h"
 
 CHxDocument::~CHxDocument() = default;

@@ -1,4 +1,4 @@
-#include "sdk/chx/CHxDocumentManager.h"
+#include "CHxDocumentManager.h"
 
 CHxDocumentIterator::~CHxDocumentIterator() = default;
 

@@ -1,23 +1,24 @@
 #pragma once
 
-#include "sdk/od/OdRxObject.h"
-#include "sdk/od/OdSmartPtr.h"
+#include "../od/OdRxObject.h"
+#include "../od/OdSmartPtr.h"
 
 #include <QtGlobal>
 
 class CHxDocument;
 class CHxDocumentManagerReactor;
 
-// Walks the open documents. Opening or closing one while walking is safe; whether the
-// walk still meets it is not said.
-class SDK_EXPORT CHxDocumentIterator : public OdRxObject
+// Iterates over the open documents. A document may be opened or closed meanwhile; the iterator
+// may or may not return it.
+class GESTUREWIDGET_SDK_EXPORT CHxDocumentIterator : public OdRxObject
 {
 public:
     ~CHxDocumentIterator() override;
 
+    // True when there are no more documents.
     [[nodiscard]] virtual bool done() const = 0;
     virtual void next() = 0;
-    // The document at this place; may be null.
+    // The current document. Null after the last one, and for a document closed meanwhile.
     [[nodiscard]] virtual CHxDocument *object() const = 0;
 
 protected:
@@ -30,17 +31,19 @@ using CHxDocumentIteratorPtr = OdSmartPtr<CHxDocumentIterator>;
 //
 //     for (CHxDocumentIteratorPtr it = manager->NewIterator(); !it->done(); it->next())
 //         use(it->object());
-class SDK_EXPORT CHxDocumentManager
+class GESTUREWIDGET_SDK_EXPORT CHxDocumentManager
 {
 public:
     Q_DISABLE_COPY_MOVE(CHxDocumentManager)
     virtual ~CHxDocumentManager();
 
-    // Reactors are not owned; adding one a second time does nothing.
+    // The manager does not own reactors. Ignores null and a reactor that is there already.
     virtual void AddReactor(CHxDocumentManagerReactor *reactor) = 0;
+    // Ignores null and a reactor that is not there.
     virtual void RemoveReactor(CHxDocumentManagerReactor *reactor) = 0;
+    // Never null.
     [[nodiscard]] virtual CHxDocumentIteratorPtr NewIterator() = 0;
-    // Null when no drawing is open and none ever was.
+    // Null when no drawing was ever open.
     [[nodiscard]] virtual CHxDocument *GetActiveDocument() = 0;
 
 protected:

@@ -1,4 +1,4 @@
-#include "sdk/chx/CHxDocumentManagerReactor.h"
+#include "CHxDocumentManagerReactor.h"
 
 CHxDocumentManagerReactor::~CHxDocumentManagerReactor() = default;
 void CHxDocumentManagerReactor::DocumentCreateStarted(CHxDocument *) { }

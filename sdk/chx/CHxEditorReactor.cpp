@@ -1,4 +1,4 @@
-#include "sdk/chx/CHxEditorReactor.h"
+#include "CHxEditorReactor.h"
 
 CHxEditorReactor::~CHxEditorReactor() = default;
 void CHxEditorReactor::mainFrameCreated(QWidget *) { }

@@ -1,3 +1,3 @@
-#include "sdk/chx/CHxHitTestInfo.h"
+#include "CHxHitTestInfo.h"
 
 CHxHitTestInfo::~CHxHitTestInfo() = default;

@@ -1,53 +1,52 @@
 #pragma once
 
-#include "sdk/SdkExport.h"
+#include "../SdkExport.h"
 
 #include <QPoint>
 
 class CHxDocument;
 
-// One pointer event in a drawing view, as trackers see it. Lives as long as the call that
-// it is handed to.
-class SDK_EXPORT CHxHitTestInfo
+// One pointer event in a view, as trackers see it. Valid during the call that receives it.
+class GESTUREWIDGET_SDK_EXPORT CHxHitTestInfo
 {
 public:
     Q_DISABLE_COPY_MOVE(CHxHitTestInfo)
     virtual ~CHxHitTestInfo();
 
-    // Pointer position in pixels of the document's view widget, y downward.
+    // The pointer position in pixels of the document's view, y downward.
     [[nodiscard]] virtual QPoint GetPosition() const = 0;
-    // The document that the event belongs to; null when its drawing is gone.
+    // The document that the event belongs to. Null when its drawing is gone.
     [[nodiscard]] virtual CHxDocument *GetDocument() const = 0;
 
-    // Seven reasons for a tracker to leave the event alone, in the order in which they are
-    // asked.
+    // Seven reasons for a tracker to ignore the event. Trackers ask in this order.
     // A modal window is open.
     [[nodiscard]] virtual bool IsModalWindowOpen() const = 0;
     // A menu or another popup is open.
     [[nodiscard]] virtual bool IsPopupOpen() const = 0;
-    // Something holds the mouse for itself.
+    // A widget has grabbed the mouse.
     [[nodiscard]] virtual bool IsMouseGrabbed() const = 0;
-    // A button is down that does not start gestures.
+    // A button other than the trigger's is down.
     [[nodiscard]] virtual bool IsOtherButtonDown() const = 0;
-    // On a press: modifier keys are held that the gesture's trigger does not ask for, or
-    // ones missing that it does. False for every other event.
+    // On a press: the modifier keys held differ from those of the trigger. False for every other
+    // event.
     [[nodiscard]] virtual bool IsModifierMismatch() const = 0;
     // On a press: the pointer is over a control inside the view, such as a scroll bar.
     // False for every other event.
     [[nodiscard]] virtual bool IsOverControl() const = 0;
-    // The view takes no input: it is disabled.
+    // The view is disabled and takes no input.
     [[nodiscard]] virtual bool IsViewBlocked() const = 0;
 
-    // The button that starts gestures has just been pressed.
+    // The trigger's button has just been pressed.
     [[nodiscard]] virtual bool IsPress() const = 0;
-    // The pointer moved.
+    // The pointer has moved.
     [[nodiscard]] virtual bool IsMotion() const = 0;
-    // The button that starts gestures is held.
+    // The trigger's button is held.
     [[nodiscard]] virtual bool IsButtonHeld() const = 0;
 
-    // Tells the host that a drag has become a gesture.
+    // Called by a tracker, to tell the host that a drag has become a gesture.
     virtual void NotifyDrag() = 0;
-    // Tells the host that a gesture has stopped while the button is still held.
+    // Called by a tracker, to tell the host that a gesture has stopped while the trigger's button
+    // is still held.
     virtual void NotifyEnd() = 0;
 
 protected:

@@ -1,3 +1,3 @@
-#include "sdk/chx/CHxInputPointManager.h"
+#include "CHxInputPointManager.h"
 
 CHxInputPointManager::~CHxInputPointManager() = default;

@@ -1,23 +1,23 @@
 #pragma once
 
-#include "sdk/SdkExport.h"
+#include "../SdkExport.h"
 
 #include <QtGlobal>
 
 class CHxTracker;
 
-// Hands the pointer input of one document to its trackers, in the order in which they
-// were added. Owned by its document.
-class SDK_EXPORT CHxInputPointManager
+// Passes the pointer input of one document to its trackers, in the order in which they were
+// added. The document owns it.
+class GESTUREWIDGET_SDK_EXPORT CHxInputPointManager
 {
 public:
     Q_DISABLE_COPY_MOVE(CHxInputPointManager)
     virtual ~CHxInputPointManager();
 
-    // The tracker is not owned. `flags` is 0; no other value has a meaning yet. Adding a
-    // tracker a second time does nothing.
+    // The manager does not own trackers. Ignores null and a tracker that is there already. Pass 0
+    // for `flags`; no other value has a meaning yet.
     virtual void AddTracker(CHxTracker *tracker, int flags) = 0;
-    // Removing a tracker that is not there does nothing.
+    // Ignores null and a tracker that is not there.
     virtual void RemoveTracker(CHxTracker *tracker) = 0;
 
 protected:

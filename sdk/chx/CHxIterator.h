@@ -2,7 +2,7 @@
 
 #include <QtGlobal>
 
-// Walks a list of the host's objects, none of which it owns.
+// Iterates over objects of the host. Does not own them.
 //
 //     for (const auto it = manager->NewMenuIterator(); !it->Done(); it->Next())
 //         use(it->Current());
@@ -12,9 +12,10 @@ public:
     Q_DISABLE_COPY_MOVE(CHxIterator)
     virtual ~CHxIterator() = default;
 
+    // True when there are no more objects.
     [[nodiscard]] virtual bool Done() const = 0;
     virtual void Next() = 0;
-    // The object at this place; may be null.
+    // The current object; may be null.
     [[nodiscard]] virtual T *Current() const = 0;
 
 protected:

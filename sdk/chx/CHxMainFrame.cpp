@@ -1,3 +1,3 @@
-#include "sdk/chx/CHxMainFrame.h"
+#include "CHxMainFrame.h"
 
 CHxMainFrame::~CHxMainFrame() = default;

@@ -1,19 +1,19 @@
 #pragma once
 
-#include "sdk/SdkExport.h"
+#include "../SdkExport.h"
 
 #include <QtGlobal>
 
 class QWidget;
 
-// The host's main frame. Owned by the host.
-class SDK_EXPORT CHxMainFrame
+// The host's main frame: gives access to the main window. The host owns it.
+class GESTUREWIDGET_SDK_EXPORT CHxMainFrame
 {
 public:
     Q_DISABLE_COPY_MOVE(CHxMainFrame)
     virtual ~CHxMainFrame();
 
-    // The main window; null when it is not there yet or gone.
+    // The main window. Null before it exists and after it is gone.
     [[nodiscard]] virtual QWidget *GetMainWindow() const = 0;
 
 protected:

@@ -1,3 +1,3 @@
-#include "sdk/chx/CHxProfileStore.h"
+#include "CHxProfileStore.h"
 
 CHxProfileStore::~CHxProfileStore() = default;

@@ -1,24 +1,25 @@
 #pragma once
 
-#include "sdk/chx/CHxString.h"
-#include "sdk/od/OdResBuf.h"
+#include "../od/OdResBuf.h"
+#include "CHxString.h"
 
-// The host's profile store: one value under each section and key, kept from start to
-// start. Owned by the host.
-class SDK_EXPORT CHxProfileStore
+// The host's settings: one value for each section and key. They persist between starts of the
+// program. The host owns the store.
+class GESTUREWIDGET_SDK_EXPORT CHxProfileStore
 {
 public:
     Q_DISABLE_COPY_MOVE(CHxProfileStore)
     virtual ~CHxProfileStore();
 
-    // What Get() shall look at: kProfile is the user's current profile.
+    // A `source` for Get(): the user's current profile.
     static constexpr int kProfile = 4;
 
+    // True when there is a value for the key.
     [[nodiscard]] virtual bool Exists(const CHxString &section, const CHxString &key) = 0;
-    // The value as a string buffer; an empty pointer when there is none.
+    // Returns the value as a string buffer. Returns an empty pointer when there is none.
     [[nodiscard]] virtual OdResBufPtr Get(const CHxString &section, const CHxString &key,
                                           int source) = 0;
-    // Stores a string buffer. Returns whether it was kept.
+    // Stores a string buffer. Returns false when it could not be stored, and for null.
     virtual bool Set(const CHxString &section, const CHxString &key, const OdResBuf *value) = 0;
 
 protected:

@@ -1,4 +1,4 @@
-#include "sdk/chx/CHxString.h"
+#include "CHxString.h"
 
 CHxString::CHxString(const char *text)
     : m_text(QString::fromLatin1(text))

@@ -1,25 +1,26 @@
 #pragma once
 
-#include "sdk/SdkExport.h"
+#include "../SdkExport.h"
 
 #include <QString>
 
-// The host's string: a value that converts from and to QString.
-class SDK_EXPORT CHxString
+// The host's string: a value that converts to and from QString.
+class GESTUREWIDGET_SDK_EXPORT CHxString
 {
 public:
     CHxString() = default;
-    // A null-terminated 8-bit literal, ASCII; null makes an empty string.
+    // `text` is a null-terminated ASCII literal. Null makes an empty string.
     CHxString(const char *text);
-    // A null-terminated wide-character literal; null makes an empty string.
+    // `text` is a null-terminated wide-character literal. Null makes an empty string.
     CHxString(const wchar_t *text);
     CHxString(const QString &text);
 
     [[nodiscard]] const QString &toQString() const { return m_text; }
     [[nodiscard]] bool isEmpty() const { return m_text.isEmpty(); }
-    // Below, equal to or above 0 as this string sorts before, with or after the other.
+    // Returns a number below 0 when this string sorts before `other`, 0 when they are equal, and a
+    // number above 0 when it sorts after. Case-sensitive.
     [[nodiscard]] int Compare(const CHxString &other) const;
-    // The same with letter case ignored.
+    // The same, ignoring letter case.
     [[nodiscard]] int CompareNoCase(const CHxString &other) const;
 
     friend bool operator==(const CHxString &a, const CHxString &b) { return a.m_text == b.m_text; }

@@ -1,7 +1,7 @@
-#include "sdk/chx/CHxSystemServices.h"
+#include "CHxSystemServices.h"
 
-#include "sdk/chx/CHxDocument.h"
-#include "sdk/chx/CHxDocumentManager.h"
+#include "CHxDocument.h"
+#include "CHxDocumentManager.h"
 
 namespace {
 CHxSystemServices *currentServices = nullptr;

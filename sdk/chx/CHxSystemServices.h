@@ -1,9 +1,9 @@
 #pragma once
 
-#include "sdk/chx/CHxString.h"
-#include "sdk/od/OdRxObject.h"
-#include "sdk/od/OdSmartPtr.h"
-#include "sdk/SdkExport.h"
+#include "../od/OdRxObject.h"
+#include "../od/OdSmartPtr.h"
+#include "../SdkExport.h"
+#include "CHxString.h"
 
 #include <QtGlobal>
 
@@ -16,13 +16,13 @@ class CHxUICommandManager;
 class CHxUIManager;
 class CHxUIMenuItemCollection;
 
-// What came of a command that was run.
-class SDK_EXPORT CHxCommandResult : public OdRxObject
+// The result of running a command.
+class GESTUREWIDGET_SDK_EXPORT CHxCommandResult : public OdRxObject
 {
 public:
     ~CHxCommandResult() override;
 
-    // Whether something was found to run.
+    // True when the host found a command to run.
     [[nodiscard]] virtual bool IsFound() const = 0;
 
 protected:
@@ -31,9 +31,9 @@ protected:
 
 using CHxCommandResultPtr = OdSmartPtr<CHxCommandResult>;
 
-// Everything that a module can ask of its host. Owned by the host; what it gives out as a
-// plain pointer is the host's too and stays valid as long as these services do.
-class SDK_EXPORT CHxSystemServices
+// Everything that a module can ask its host for. The host owns this object and every object that
+// it returns by plain pointer. These stay valid as long as the services.
+class GESTUREWIDGET_SDK_EXPORT CHxSystemServices
 {
 public:
     Q_DISABLE_COPY_MOVE(CHxSystemServices)
@@ -47,36 +47,37 @@ public:
     [[nodiscard]] virtual CHxApplication *GetApplication() = 0;
     // May be null.
     [[nodiscard]] virtual CHxTextOutput *GetTextOutput() = 0;
-    // May be null: nothing is kept then.
+    // May be null: then no settings are stored.
     [[nodiscard]] virtual CHxProfileStore *GetProfileStore() = 0;
     // May be null.
     [[nodiscard]] virtual CHxUIManager *GetUIManager() = 0;
     // May be null.
     [[nodiscard]] virtual CHxUICommandManager *GetUICommandManager() = 0;
-    // The host's menu bars as entries, their top-level menus as sub-items; may be null.
+    // The host's menu bars. The sub-items of each are its top-level menus. May be null.
     [[nodiscard]] virtual CHxUIMenuItemCollection *GetMenuItems() = 0;
 
-    // Runs a command: a macro such as "^C^C_GESTURE" cancels what runs and runs a command
-    // of the command stack; any other string runs the program's command of that name.
-    // `wait` false returns at once and runs it when control is back in the event loop.
-    // The result may be empty.
+    // Runs a command. A macro such as "^C^C_GESTURE" cancels the running command, then runs one
+    // from the command stack. Any other string runs the program's command of that name. With
+    // `wait` false, returns at once and runs the command from the event loop. The result may be
+    // an empty pointer.
     virtual CHxCommandResultPtr RunCommand(const CHxString &command, bool wait) = 0;
 
-    // Whether the user has chosen large icons.
+    // True when the user has chosen large icons.
     [[nodiscard]] virtual bool UsesLargeIcons() const = 0;
-    // The program's name for settings; the same from start to start.
+    // The program's name in its settings. It is the same at every start.
     [[nodiscard]] virtual CHxString GetApplicationName() const = 0;
 
-    // Shows a message and waits for the answer. `style` is a combination of the numbers
-    // below; the answer is the button pressed, kMessageOk or kMessageCancel.
+    // Shows a message and waits for the answer. `style` is kMessageOkCancelWarning. Returns the
+    // button pressed, kMessageOk or kMessageCancel.
     virtual int ShowMessage(const CHxString &text, const CHxString &caption, int style) = 0;
-    // What the host writes over its messages, its own name.
+    // The caption of the host's messages: the host's name.
     [[nodiscard]] virtual CHxString GetMessageCaption() const = 0;
-    // Opens the help on a topic; 0 is its first page.
+    // Opens a help topic. 0 is the first page.
     virtual void ShowHelp(int topic) = 0;
 
-    // Message styles: buttons OK and Cancel (1) with a warning sign (48).
+    // A style for ShowMessage(): buttons OK and Cancel (1) and a warning sign (48).
     static constexpr int kMessageOkCancelWarning = 49;
+    // Answers of ShowMessage().
     static constexpr int kMessageOk = 1;
     static constexpr int kMessageCancel = 2;
 
@@ -84,8 +85,8 @@ protected:
     CHxSystemServices() = default;
 };
 
-// The services of the process's host; null when there is none.
-[[nodiscard]] SDK_EXPORT CHxSystemServices *GetHxSystemServices();
+// The services of the process's host. Null when there is no host.
+[[nodiscard]] GESTUREWIDGET_SDK_EXPORT CHxSystemServices *GetHxSystemServices();
 
-// For hosts: sets what GetHxSystemServices() gives out; null takes it away.
-SDK_EXPORT void SetHxSystemServices(CHxSystemServices *services);
+// For hosts: sets the services that GetHxSystemServices() returns. Null removes them.
+GESTUREWIDGET_SDK_EXPORT void SetHxSystemServices(CHxSystemServices *services);

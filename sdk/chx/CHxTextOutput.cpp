@@ -1,3 +1,3 @@
-#include "sdk/chx/CHxTextOutput.h"
+#include "CHxTextOutput.h"
 
 CHxTextOutput::~CHxTextOutput() = default;

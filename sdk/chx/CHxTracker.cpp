@@ -1,4 +1,4 @@
-#include "sdk/chx/CHxTracker.h"
+#include "CHxTracker.h"
 
 CHxTracker::~CHxTracker() = default;
 

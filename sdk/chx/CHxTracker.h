@@ -1,38 +1,48 @@
 #pragma once
 
-#include "sdk/chx/CHxString.h"
-#include "sdk/SdkExport.h"
+#include "../SdkExport.h"
+#include "CHxString.h"
 
 #include <QtGlobal>
 
 class CHxHitTestInfo;
 class CHxInputPointManager;
 
-// What a tracker may draw with; the host's own, opaque to modules.
+// What a tracker draws with. It belongs to the host; modules cannot look inside.
 class CHxTrackerContext;
 
-// Follows the pointer in the drawing views of the documents it is registered with.
+// Follows the pointer in the views of documents. Register it with the CHxInputPointManager of each
+// document; the host never owns a tracker.
 //
-// For every pointer event in a view the host calls Update(); it then asks IsEager() and,
-// when that is true, calls DoAction() once. Trackers are never owned by the host.
-class SDK_EXPORT CHxTracker
+// For every pointer event in a view the host calls Update(), then IsEager(), and if that returns
+// true DoAction() once. The host of this project makes no other calls. `hit` is valid only during
+// the call, and null only where a comment says so. All calls come on the user-interface thread.
+class GESTUREWIDGET_SDK_EXPORT CHxTracker
 {
 public:
     Q_DISABLE_COPY_MOVE(CHxTracker)
     virtual ~CHxTracker();
 
-    // `context` may be null: a host that draws nothing for trackers has none.
+    // Called for every pointer event in a view. `context` is null in a host that lets no tracker
+    // draw.
     virtual void Update(CHxTrackerContext *context, CHxHitTestInfo *hit) = 0;
+    // Called when the view is redrawn, to draw the tracker over the drawing. `context` is never
+    // null; `hit` is the latest event, null when there was none. A host need not call it.
     virtual void DrawTracker(CHxTrackerContext *context, const CHxHitTestInfo *hit) const = 0;
+    // The same while something is dragged over the view (drag and drop).
     virtual void DrawDDTracker(CHxTrackerContext *context, const CHxHitTestInfo *hit) const = 0;
-    // True to interrupt a redraw that is under way. False here.
+    // Called during a long redraw of the view. True interrupts it; the default is false. `manager`
+    // is that of the view's document.
     [[nodiscard]] virtual bool CheckRegenAbort(const CHxInputPointManager *manager) const;
-    // A name for diagnostics. Empty here.
+    // A name for diagnostics. Empty by default.
     [[nodiscard]] virtual CHxString GetName() const;
-    // True when the tracker has something to do, see DoAction().
+    // Called after Update(). True asks the host to call DoAction().
     [[nodiscard]] virtual bool IsEager(const CHxHitTestInfo *hit) const = 0;
-    // Does what the tracker was eager for; returns whether it did.
+    // Called after IsEager() returned true. Does what the tracker asked for; returns false when it
+    // could not.
     virtual bool DoAction(const CHxHitTestInfo *hit) = 0;
+    // The user's selection has changed. `hit` is the event that changed it, null when it was not a
+    // pointer event. The default does nothing.
     virtual void OnMainSelectionSetChanged(const CHxHitTestInfo *hit);
 
 protected:

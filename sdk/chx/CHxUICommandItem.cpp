@@ -1,3 +1,3 @@
-#include "sdk/chx/CHxUICommandItem.h"
+#include "CHxUICommandItem.h"
 
 CHxUICommandItem::~CHxUICommandItem() = default;

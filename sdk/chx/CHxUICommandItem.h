@@ -1,33 +1,37 @@
 #pragma once
 
-#include "sdk/chx/CHxString.h"
-#include "sdk/SdkExport.h"
+#include "../SdkExport.h"
+#include "CHxString.h"
 
 #include <QIcon>
 
-// One command of the host's user interface: what a menu entry or a button stands for.
-// Owned by the host's user-interface or command manager.
-class SDK_EXPORT CHxUICommandItem
+// One command of the host's user interface: what a menu entry or a button runs. The host's
+// user-interface or command manager owns it.
+class GESTUREWIDGET_SDK_EXPORT CHxUICommandItem
 {
 public:
     Q_DISABLE_COPY_MOVE(CHxUICommandItem)
     virtual ~CHxUICommandItem();
 
-    // The identifier that stays the same from start to start, such as "ID_LINE".
+    // The identifier, such as "ID_LINE". It is the same at every start.
     [[nodiscard]] virtual CHxString GetIdentifier() const = 0;
-    // What running the command means: a string for CHxSystemServices::RunCommand(). For an
-    // item made by a module, its macro. Empty for one that cannot be run.
+    // The string that runs the command, for CHxSystemServices::RunCommand(). For an item made by a
+    // module, its macro. Empty for an item that cannot be run.
     [[nodiscard]] virtual CHxString GetCommandString() const = 0;
-    // The name shown to the user, without mnemonics.
+    // The name that the user sees, without mnemonics.
     [[nodiscard]] virtual CHxString GetCaption() const = 0;
-    // One line that says what the command does.
+    // One line of text that says what the command does.
     [[nodiscard]] virtual CHxString GetTip() const = 0;
+    // The icons for both sizes. Null icons when the command has none.
     [[nodiscard]] virtual QIcon GetSmallIcon() const = 0;
     [[nodiscard]] virtual QIcon GetLargeIcon() const = 0;
 
+    // Sets what GetCaption() returns.
     virtual void SetName(const CHxString &name) = 0;
-    // "^C" cancels what runs, then the rest is typed as a command.
+    // Sets what GetCommandString() returns. Each "^C" cancels the running command; the rest is the
+    // name of a command of the command stack.
     virtual void SetMacro(const CHxString &macro) = 0;
+    // Sets what GetTip() returns.
     virtual void SetStatusText(const CHxString &text) = 0;
 
 protected:

@@ -1,3 +1,3 @@
-#include "sdk/chx/CHxUICommandItemCollection.h"
+#include "CHxUICommandItemCollection.h"
 
 CHxUICommandItemCollection::~CHxUICommandItemCollection() = default;

@@ -1,19 +1,19 @@
 #pragma once
 
-#include "sdk/SdkExport.h"
+#include "../SdkExport.h"
 
 #include <QtGlobal>
 
 class CHxUICommandItem;
 
-// The commands that a workspace uses. Owned by the workspace; holds no ownership of them.
-class SDK_EXPORT CHxUICommandItemCollection
+// The commands that a workspace uses. The workspace owns the collection, not the items.
+class GESTUREWIDGET_SDK_EXPORT CHxUICommandItemCollection
 {
 public:
     Q_DISABLE_COPY_MOVE(CHxUICommandItemCollection)
     virtual ~CHxUICommandItemCollection();
 
-    // Adding an item that is there already does nothing.
+    // Ignores an item that is there already.
     virtual void Add(CHxUICommandItem *item) = 0;
 
 protected:

@@ -1,4 +1,4 @@
-#include "sdk/chx/CHxUICommandManager.h"
+#include "CHxUICommandManager.h"
 
 CHxUICommandGroup::~CHxUICommandGroup() = default;
 

@@ -1,3 +1,3 @@
-#include "sdk/chx/CHxUIManager.h"
+#include "CHxUIManager.h"
 
 CHxUIManager::~CHxUIManager() = default;

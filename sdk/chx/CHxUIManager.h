@@ -1,8 +1,8 @@
 #pragma once
 
-#include "sdk/chx/CHxIterator.h"
-#include "sdk/chx/CHxString.h"
-#include "sdk/SdkExport.h"
+#include "../SdkExport.h"
+#include "CHxIterator.h"
+#include "CHxString.h"
 
 #include <memory>
 
@@ -11,14 +11,14 @@ class CHxUIMenu;
 class CHxUIMenuItem;
 class CHxUIWorkspace;
 
-// The host's menus and the commands in them. Owned by the host, and so is every object it
-// gives out, iterators apart.
+// The host's menus and the commands in them. The host owns it and every object that it returns,
+// except iterators.
 //
 //     CHxUIMenuItem *entry = manager->CreateMenuItem(0, {}, {}, {});
 //     entry->SetText("Mouse Gestures...");
 //     toolsMenu->GetSubItems()->Append(entry);
 //     manager->Refresh(false);
-class SDK_EXPORT CHxUIManager
+class GESTUREWIDGET_SDK_EXPORT CHxUIManager
 {
 public:
     Q_DISABLE_COPY_MOVE(CHxUIManager)
@@ -29,24 +29,26 @@ public:
     // Never null.
     [[nodiscard]] virtual std::unique_ptr<CHxIterator<CHxUIMenu>> NewMenuIterator() = 0;
 
-    // The command item with that identifier in that workspace; null when absent.
+    // The command item with this identifier in this workspace. Null when there is none.
     [[nodiscard]] virtual CHxUICommandItem *FindCommandItem(const CHxString &workspace,
                                                             const CHxString &identifier) = 0;
-    // `flags` is 0; no other value has a meaning yet.
+    // Creates a command item. Pass 0 for `flags`; no other value has a meaning yet.
     [[nodiscard]] virtual CHxUICommandItem *CreateCommandItem(const CHxString &identifier,
                                                               int flags) = 0;
-    // Whether the item is one of this manager's and still there.
+    // True when the item belongs to this manager and still exists.
     [[nodiscard]] virtual bool Contains(const CHxUICommandItem *item) const = 0;
-    // Takes the item out and destroys it; entries that use it keep no command.
+    // Removes the item and destroys it. Menu entries that use it have no command afterwards.
     virtual void RemoveCommandItem(CHxUICommandItem *item) = 0;
 
-    // `flags` is 0; no other value has a meaning yet.
+    // Creates a menu entry that is in no menu yet. Pass 0 for `flags`; no other value has a
+    // meaning yet.
     [[nodiscard]] virtual CHxUIMenuItem *CreateMenuItem(int flags, const CHxString &identifier,
                                                         const CHxString &text, const CHxString &tip) = 0;
+    // Destroys a menu entry. Remove it from its menu first.
     virtual void DestroyMenuItem(CHxUIMenuItem *item) = 0;
 
-    // Brings the menus on screen in line with the entries here. `rebuild` true also reads
-    // the program's own menus anew.
+    // Updates the menus on screen from the entries here. With `rebuild`, also reads the program's
+    // own menus again.
     virtual void Refresh(bool rebuild) = 0;
 
 protected:

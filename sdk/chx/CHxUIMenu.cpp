@@ -1,3 +1,3 @@
-#include "sdk/chx/CHxUIMenu.h"
+#include "CHxUIMenu.h"
 
 CHxUIMenu::~CHxUIMenu() = default;

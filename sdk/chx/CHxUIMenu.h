@@ -1,19 +1,19 @@
 #pragma once
 
-#include "sdk/SdkExport.h"
+#include "../SdkExport.h"
 
 #include <QtGlobal>
 
 class CHxUIMenuItemCollection;
 
-// One of the host's menu bars. Owned by the host's user-interface manager.
-class SDK_EXPORT CHxUIMenu
+// One of the host's menu bars. The host's user-interface manager owns it.
+class GESTUREWIDGET_SDK_EXPORT CHxUIMenu
 {
 public:
     Q_DISABLE_COPY_MOVE(CHxUIMenu)
     virtual ~CHxUIMenu();
 
-    // The bar's top-level menus; may be null.
+    // The bar's top-level menus. May be null.
     [[nodiscard]] virtual CHxUIMenuItemCollection *GetItems() = 0;
 
 protected:

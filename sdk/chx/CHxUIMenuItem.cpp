@@ -1,3 +1,3 @@
-#include "sdk/chx/CHxUIMenuItem.h"
+#include "CHxUIMenuItem.h"
 
 CHxUIMenuItem::~CHxUIMenuItem() = default;

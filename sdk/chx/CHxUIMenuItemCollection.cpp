@@ -1,3 +1,3 @@
-#include "sdk/chx/CHxUIMenuItemCollection.h"
+#include "CHxUIMenuItemCollection.h"
 
 CHxUIMenuItemCollection::~CHxUIMenuItemCollection() = default;

@@ -1,3 +1,3 @@
-#include "sdk/chx/CHxUIWorkspace.h"
+#include "CHxUIWorkspace.h"
 
 CHxUIWorkspace::~CHxUIWorkspace() = default;

@@ -1,3 +1,3 @@
-#include "sdk/chx/hx_OdRxModule.h"
+#include "hx_OdRxModule.h"
 
 hx_OdRxModule::~hx_OdRxModule() = default;

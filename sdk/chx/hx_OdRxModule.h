@@ -1,9 +1,9 @@
 #pragma once
 
-#include "sdk/od/OdRxModule.h"
+#include "../od/OdRxModule.h"
 
-// The base of modules written for this host.
-class SDK_EXPORT hx_OdRxModule : public OdRxModule
+// The base of modules for this host. Derive from it and complete the class with OdRxUnixModule.
+class GESTUREWIDGET_SDK_EXPORT hx_OdRxModule : public OdRxModule
 {
 public:
     ~hx_OdRxModule() override;

@@ -1,4 +1,4 @@
-#include "sdk/od/OdAlloc.h"
+#include "OdAlloc.h"
 
 #include <cstdlib>
 

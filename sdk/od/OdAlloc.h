@@ -1,12 +1,12 @@
 #pragma once
 
-#include "sdk/SdkExport.h"
+#include "../SdkExport.h"
 
 #include <cstddef>
 
-// The platform's allocator, used for objects that cross library boundaries.
-// Returns memory aligned for any type, or null when there is none.
-extern "C" SDK_EXPORT void *odrxAlloc(std::size_t bytes);
+// The platform's allocator, for objects that cross library boundaries. Returns memory that is
+// aligned for any type, or null when no memory is left.
+extern "C" GESTUREWIDGET_SDK_EXPORT void *odrxAlloc(std::size_t bytes);
 
-// Frees what odrxAlloc returned; null is ignored.
-extern "C" SDK_EXPORT void odrxFree(void *memory);
+// Frees memory from odrxAlloc(). Ignores null.
+extern "C" GESTUREWIDGET_SDK_EXPORT void odrxFree(void *memory);

@@ -1,4 +1,4 @@
-#include "sdk/od/OdEdCommand.h"
+#include "OdEdCommand.h"
 
 OdEdCommandContext::~OdEdCommandContext() = default;
 

@@ -1,4 +1,4 @@
-#include "sdk/od/OdEdCommandStack.h"
+#include "OdEdCommandStack.h"
 
 namespace {
 OdEdCommandStack *currentStack = nullptr;

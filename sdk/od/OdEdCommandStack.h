@@ -1,24 +1,26 @@
 #pragma once
 
-#include "sdk/od/OdRxObject.h"
-#include "sdk/od/OdSmartPtr.h"
-#include "sdk/od/OdString.h"
+#include "OdRxObject.h"
+#include "OdSmartPtr.h"
+#include "OdString.h"
 
 class OdEdCommand;
 
-// The commands known to the host by name.
+// The commands that the host knows by name.
 //
-//     odedRegCmds()->addCommand(&command);    // shares it: addRef
-//     odedRegCmds()->removeCommand(&command); // lets go of it: release
-class SDK_EXPORT OdEdCommandStack : public OdRxObject
+//     odedRegCmds()->addCommand(&command);    // shares it: addRef()
+//     odedRegCmds()->removeCommand(&command); // gives it back: release()
+class GESTUREWIDGET_SDK_EXPORT OdEdCommandStack : public OdRxObject
 {
 public:
     ~OdEdCommandStack() override;
 
+    // Ignores null and a command that is there already.
     virtual void addCommand(OdEdCommand *command) = 0;
-    // Removing a command that is not there does nothing.
+    // Ignores null and a command that is not there.
     virtual void removeCommand(OdEdCommand *command) = 0;
-    // The command whose global or local name is `name`, letter case ignored; null if none.
+    // The command whose global or local name is `name`; null if there is none. Ignores letter
+    // case and a leading underscore. If several match, returns the one added last.
     [[nodiscard]] virtual OdEdCommand *lookupCommand(const OdString &name) const = 0;
 
 protected:
@@ -27,8 +29,9 @@ protected:
 
 using OdEdCommandStackPtr = OdSmartPtr<OdEdCommandStack>;
 
-// The process's command stack. Empty until a host has set one.
-[[nodiscard]] SDK_EXPORT OdEdCommandStackPtr odedRegCmds();
+// The process's command stack. An empty pointer until a host sets one.
+[[nodiscard]] GESTUREWIDGET_SDK_EXPORT OdEdCommandStackPtr odedRegCmds();
 
-// For hosts: sets the stack that odedRegCmds() gives out; null takes it away.
-SDK_EXPORT void odedSetCommandStack(OdEdCommandStack *stack);
+// For hosts: sets the stack that odedRegCmds() returns. Null removes it. The stack stays the
+// host's; it must outlive every pointer that odedRegCmds() returned.
+GESTUREWIDGET_SDK_EXPORT void odedSetCommandStack(OdEdCommandStack *stack);

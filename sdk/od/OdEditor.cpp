@@ -1,4 +1,4 @@
-#include "sdk/od/OdEditor.h"
+#include "OdEditor.h"
 
 namespace {
 OdEditor *currentEditor = nullptr;

@@ -1,22 +1,23 @@
 #pragma once
 
-#include "sdk/od/OdEditorReactor.h"
-#include "sdk/od/OdRxObject.h"
-#include "sdk/od/OdSmartPtr.h"
+#include "OdEditorReactor.h"
+#include "OdRxObject.h"
+#include "OdSmartPtr.h"
 
-// The source of editor notifications.
+// Sends the editor's notifications.
 //
 //     odedEditor()->addReactor(this);
 //
-// Reactors are not owned; they are called in the order in which they were added, over a
-// copy of the list, so one may add or remove reactors from inside a notification.
-class SDK_EXPORT OdEditor : public OdRxObject
+// The editor does not own reactors. It calls them in the order in which they were added, over a
+// copy of the list: a reactor may add or remove reactors during a notification.
+class GESTUREWIDGET_SDK_EXPORT OdEditor : public OdRxObject
 {
 public:
     ~OdEditor() override;
 
-    // Adding a reactor a second time does nothing.
+    // Ignores null and a reactor that is there already.
     virtual void addReactor(OdEditorReactor *reactor) = 0;
+    // Ignores null and a reactor that is not there.
     virtual void removeReactor(OdEditorReactor *reactor) = 0;
 
 protected:
@@ -25,8 +26,9 @@ protected:
 
 using OdEditorPtr = OdSmartPtr<OdEditor>;
 
-// The process's editor. Empty until a host has set one.
-[[nodiscard]] SDK_EXPORT OdEditorPtr odedEditor();
+// The process's editor. An empty pointer until a host sets one.
+[[nodiscard]] GESTUREWIDGET_SDK_EXPORT OdEditorPtr odedEditor();
 
-// For hosts: sets the editor that odedEditor() gives out; null takes it away.
-SDK_EXPORT void odedSetEditor(OdEditor *editor);
+// For hosts: sets the editor that odedEditor() returns. Null removes it. The editor stays the
+// host's; it must outlive every pointer that odedEditor() returned.
+GESTUREWIDGET_SDK_EXPORT void odedSetEditor(OdEditor *editor);

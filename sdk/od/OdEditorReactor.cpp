@@ -1,4 +1,4 @@
-#include "sdk/od/OdEditorReactor.h"
+#include "OdEditorReactor.h"
 
 OdRxEventReactor::~OdRxEventReactor() = default;
 void OdRxEventReactor::saveComplete(const OdString &) { }

@@ -1,6 +1,6 @@
-#include "sdk/od/OdResBuf.h"
+#include "OdResBuf.h"
 
-#include "sdk/od/OdRxObjectImpl.h"
+#include "OdRxObjectImpl.h"
 
 OdResBuf::~OdResBuf() = default;
 

@@ -1,28 +1,28 @@
 #pragma once
 
-#include "sdk/od/OdRxObject.h"
-#include "sdk/od/OdSmartPtr.h"
-#include "sdk/od/OdString.h"
+#include "OdRxObject.h"
+#include "OdSmartPtr.h"
+#include "OdString.h"
 
-// One typed value on its way into or out of the host, a result buffer.
+// A result buffer: one typed value that is passed into or out of the host.
 //
 //     OdSmartPtr<OdResBuf> value = OdResBuf::newString(OdString(text));
 //     store->Set(section, key, value.get());
-class SDK_EXPORT OdResBuf : public OdRxObject
+class GESTUREWIDGET_SDK_EXPORT OdResBuf : public OdRxObject
 {
 public:
-    // Type codes, the platform's numbers.
+    // Type codes. The platform fixes the numbers.
     enum Type : int { kNone = 5000, kString = 5005 };
 
     ~OdResBuf() override;
 
-    // A new string buffer with one reference, which the returned pointer holds.
+    // Returns a new string buffer. The returned pointer holds its only reference.
     [[nodiscard]] static OdSmartPtr<OdResBuf> newString(const OdString &text);
 
     [[nodiscard]] int restype() const { return m_type; }
-    // The string, empty unless restype() is kString.
+    // The string. Empty unless restype() is kString.
     [[nodiscard]] const OdString &getString() const { return m_string; }
-    // Makes this a string buffer.
+    // Stores `text` and sets the type to kString.
     void setString(const OdString &text);
 
 protected:

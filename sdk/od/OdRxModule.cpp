@@ -1,3 +1,3 @@
-#include "sdk/od/OdRxModule.h"
+#include "OdRxModule.h"
 
 OdRxModule::~OdRxModule() = default;

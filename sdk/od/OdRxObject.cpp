@@ -1,3 +1,3 @@
-#include "sdk/od/OdRxObject.h"
+#include "OdRxObject.h"
 
 OdRxObject::~OdRxObject() = default;

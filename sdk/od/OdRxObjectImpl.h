@@ -2,8 +2,8 @@
 
 #include <atomic>
 
-// Gives `Base` a heap life: it starts with one reference, which the creator hands to an
-// OdSmartPtr with kOdRxAttach, and deletes itself with the last.
+// Makes `Base` an object for the heap. It starts with one reference, which the creator passes to
+// an OdSmartPtr with kOdRxAttach. It deletes itself when the last reference goes.
 //
 //     return OdSmartPtr<OdResBuf>(new OdRxObjectImpl<OdResBuf>, kOdRxAttach);
 template <class Base> class OdRxObjectImpl : public Base

@@ -1,17 +1,17 @@
 #pragma once
 
-#include "sdk/od/OdAlloc.h"
-#include "sdk/od/OdRxModule.h"
+#include "OdAlloc.h"
+#include "OdRxModule.h"
 
 #include <atomic>
 #include <cstdint>
 
-// Completes a module class to the object that odrxCreateModuleObject creates: a reference
-// count that never frees, the data given at creation, and deleteModule().
+// Turns a module class into the object that odrxCreateModuleObject creates. It adds a reference
+// count that never deletes, the data given at creation, and deleteModule().
 //
-// `Base` is what is wrapped; `Module` names the module whose process-wide pointer
-// deleteModule() clears. Instances live in memory of odrxAlloc and are created by
-// placement; deleteModule() gives that memory back.
+// `Base` is the module class. `Module` selects the process-wide pointer that deleteModule()
+// clears. Get memory from odrxAlloc() and create the object in it by placement new.
+// deleteModule() frees that memory.
 template <class Base, class Module> class OdRxUnixModule : public Base
 {
 public:
@@ -21,7 +21,7 @@ public:
     {
     }
 
-    // The one module object of this library; null until it is created.
+    // The only module object of this library. Null until it is created.
     static OdRxModule *&instance()
     {
         static OdRxModule *module = nullptr;
@@ -33,7 +33,7 @@ public:
     static void operator delete(void *, void *) noexcept { }
 
     void addRef() override { m_references.fetch_add(1); }
-    void release() override { m_references.fetch_sub(1); } // never deletes, at 0 or below
+    void release() override { m_references.fetch_sub(1); } // never deletes, even at 0 or below
     [[nodiscard]] long numRefs() const override { return m_references.load(); }
 
     [[nodiscard]] void *sysData() override { return m_sysData; }

@@ -2,21 +2,22 @@
 
 #include <utility>
 
+// Selects the OdSmartPtr constructor that takes over a reference.
 enum OdRxAttachTag { kOdRxAttach };
 
-// Shared ownership of a reference-counted object; empty when the platform had none to give.
+// Shared ownership of a reference-counted object. Empty when there is no object.
 template <class T> class OdSmartPtr
 {
 public:
     OdSmartPtr() = default;
-    // Shares `object`: adds a reference. Null makes an empty pointer.
+    // Shares `object` and adds a reference. Null makes an empty pointer.
     OdSmartPtr(T *object)
         : m_object(object)
     {
         if (m_object)
             m_object->addRef();
     }
-    // Takes over the one reference that `object` was created with.
+    // Takes over the reference that `object` was created with and adds none.
     OdSmartPtr(T *object, OdRxAttachTag)
         : m_object(object)
     {

@@ -1,7 +1,7 @@
 #pragma once
 
-// Gives `Base` a life by value, as a member or on the stack: counting does nothing, so
-// nobody who is handed a reference can free it.
+// Makes `Base` an object that is held by value, as a member or on the stack. It does not count
+// references, so release() never deletes it.
 template <class Base> class OdStaticRxObject : public Base
 {
 public:

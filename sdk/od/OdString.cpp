@@ -1,9 +1,9 @@
-#include "sdk/od/OdString.h"
+#include "OdString.h"
 
 OdString::OdString(const char *text, int codePage)
     : m_text(QString::fromLatin1(text))
 {
-    Q_UNUSED(codePage) // one code page is in use, and Latin-1 agrees with it on ASCII
+    Q_UNUSED(codePage) // only one is in use, and its ASCII part equals Latin-1
 }
 
 OdString::OdString(const wchar_t *text)

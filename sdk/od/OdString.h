@@ -1,21 +1,22 @@
 #pragma once
 
-#include "sdk/SdkExport.h"
+#include "../SdkExport.h"
 
 #include <QString>
 
-// Code page identifier of 8-bit literals handed to the platform (Windows-1252, of which
-// every literal in use needs only the ASCII part).
+// The code page identifier of 8-bit literals that are passed to the platform: Windows-1252. All
+// such literals are plain ASCII.
 constexpr int kOdAnsiCodePage = 45;
 
-// The platform's string: a value that converts from and to QString.
-class SDK_EXPORT OdString
+// The platform's string: a value that converts to and from QString.
+class GESTUREWIDGET_SDK_EXPORT OdString
 {
 public:
     OdString() = default;
-    // `text` is a null-terminated 8-bit string in the code page; null makes an empty string.
+    // `text` is a null-terminated 8-bit string. Null makes an empty string. `codePage` is
+    // kOdAnsiCodePage.
     OdString(const char *text, int codePage);
-    // `text` is a null-terminated wide string; null makes an empty string.
+    // `text` is a null-terminated wide string. Null makes an empty string.
     explicit OdString(const wchar_t *text);
     explicit OdString(const QString &text);
 

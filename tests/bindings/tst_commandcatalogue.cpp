@@ -1,34 +1,19 @@
 #include "tests/bindings/OlderSettings.h"
 #include "tests/bindings/OpenContainer.h"
 #include "tests/fakehost/FakeHost.h"
+#include "tests/support/FakeTranslator.h"
 #include "tests/support/FatalWarnings.h"
+#include "tests/support/Text.h"
 
-#include <QTranslator>
 #include <QtTest>
 
 #include <memory>
 
+using tests::text;
+
 namespace {
 
 using Categories = QMap<QString, QString>;
-
-QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
-
-// Knows one word, in one context.
-class OthersTranslator : public QTranslator
-{
-public:
-    [[nodiscard]] bool isEmpty() const override { return false; }
-    [[nodiscard]] QString translate(const char *context, const char *source, const char *,
-                                    int) const override
-    {
-        const bool known = qstrcmp(context, "QObject") == 0 && qstrcmp(source, "Others") == 0;
-        return known ? text("Sonstige") : QString();
-    }
-};
 
 // Gets one more entry when its first one is read.
 class GrowingCollection : public tests::FakeMenuItemCollection
@@ -48,7 +33,7 @@ public:
 
 } // namespace
 
-class tst_CommandCatalogue : public QObject
+class CommandCatalogueTest : public QObject
 {
     Q_OBJECT
 
@@ -180,10 +165,9 @@ private Q_SLOTS:
         QCOMPARE(container.getCategory(QString()), text("Others"));
         QCOMPARE(container.getCategory(text("LINE")), text("Others"));
 
-        OthersTranslator translator;
-        QVERIFY(QCoreApplication::installTranslator(&translator));
+        tests::FakeTranslator translator;
+        translator.add("QObject", "Others", text("Sonstige"));
         QCOMPARE(container.getCategory(text("arc")), text("Sonstige"));
-        QVERIFY(QCoreApplication::removeTranslator(&translator));
     }
 
     void recordsAreFiledByTheirCommandString()
@@ -318,5 +302,5 @@ private:
     std::unique_ptr<tests::FakeHost> host;
 };
 
-QTEST_MAIN(tst_CommandCatalogue)
+QTEST_MAIN(CommandCatalogueTest)
 #include "tst_commandcatalogue.moc"

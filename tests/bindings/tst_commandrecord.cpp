@@ -34,7 +34,7 @@ public:
 
 } // namespace
 
-class tst_CommandRecord : public QObject
+class CommandRecordTest : public QObject
 {
     Q_OBJECT
 
@@ -195,5 +195,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(tst_CommandRecord)
+QTEST_MAIN(CommandRecordTest)
 #include "tst_commandrecord.moc"

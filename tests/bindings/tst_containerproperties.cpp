@@ -305,7 +305,7 @@ private:
 
 } // namespace
 
-class tst_ContainerProperties : public QObject
+class ContainerPropertiesTest : public QObject
 {
     Q_OBJECT
 
@@ -328,5 +328,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(tst_ContainerProperties)
+QTEST_MAIN(ContainerPropertiesTest)
 #include "tst_containerproperties.moc"

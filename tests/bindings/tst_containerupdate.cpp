@@ -3,23 +3,21 @@
 #include "tests/bindings/StandardCommands.h"
 #include "tests/fakehost/FakeHost.h"
 #include "tests/support/FatalWarnings.h"
+#include "tests/support/Text.h"
 
 #include <QtTest>
 
 #include <memory>
 
+using tests::text;
+
 namespace {
 
 using Table = std::vector<int>;
 
-QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
-
 } // namespace
 
-class tst_ContainerUpdate : public QObject
+class ContainerUpdateTest : public QObject
 {
     Q_OBJECT
 
@@ -281,5 +279,5 @@ private:
     std::unique_ptr<tests::OpenContainer> container;
 };
 
-QTEST_MAIN(tst_ContainerUpdate)
+QTEST_MAIN(ContainerUpdateTest)
 #include "tst_containerupdate.moc"

@@ -5,11 +5,14 @@
 #include "tests/bindings/StandardCommands.h"
 #include "tests/fakehost/FakeHost.h"
 #include "tests/support/FatalWarnings.h"
+#include "tests/support/Text.h"
 
 #include <QSettings>
 #include <QtTest>
 
 #include <memory>
+
+using tests::text;
 
 namespace {
 
@@ -45,14 +48,9 @@ QString entry(const char *key)
     return QLatin1String("Settings\\") + QLatin1String(key);
 }
 
-QString text(const char *latin1)
-{
-    return QString::fromLatin1(latin1);
-}
-
 } // namespace
 
-class tst_SettingsStore : public QObject
+class SettingsStoreTest : public QObject
 {
     Q_OBJECT
 
@@ -422,5 +420,5 @@ private:
     std::unique_ptr<tests::FakeHost> host;
 };
 
-QTEST_MAIN(tst_SettingsStore)
+QTEST_MAIN(SettingsStoreTest)
 #include "tst_settingsstore.moc"

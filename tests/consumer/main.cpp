@@ -1,5 +1,5 @@
-#include "host/GestureHost.h"
-#include "sdk/chx/CHxSystemServices.h"
+#include <gesturewidget/GestureHost.h>
+#include <gesturewidget/sdk/chx/CHxSystemServices.h>
 
 #include <QApplication>
 #include <QFile>
@@ -9,8 +9,8 @@
 
 #include <cstdio>
 
-// Hosts gestures; with an argument it leaves that to whatever gets into it. Ends when the
-// module's entry is in its menu, and writes which files it has in memory.
+// Hosts gestures. With an argument it does not: then the launcher must bring them in. When the
+// module's entry is in the menu, writes the entry's text and the files in memory, and ends.
 int main(int argc, char **argv)
 {
     QApplication app(argc, argv);

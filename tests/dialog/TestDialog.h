@@ -22,6 +22,11 @@ class QPrinter;
 
 namespace tests {
 
+// The table's columns.
+constexpr int kCategory = 0;
+constexpr int kCommand = 1;
+constexpr int kDirection = 2;
+
 // The dialog with all of its parts in reach.
 class TestDialog : public MgDonutDialogManager
 {

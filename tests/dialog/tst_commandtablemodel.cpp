@@ -1,6 +1,7 @@
 #include "bindings/MgDonutDataContainer.h"
 #include "dialog/MgCommandDSModel.h"
 #include "dialog/MgCommandDSSortFilterProxyModel.h"
+#include "tests/dialog/AssignmentRules.h"
 #include "tests/dialog/DraftingCommands.h"
 #include "tests/dialog/TestDialog.h"
 #include "tests/fakehost/FakeHost.h"
@@ -15,58 +16,14 @@
 #include <memory>
 #include <random>
 
+using tests::Bytes;
+using tests::bytesOf;
+using tests::kCategory;
+using tests::kCommand;
+using tests::kDirection;
 using tests::TestDialog;
 
 namespace {
-
-constexpr int kCategory = 0;
-constexpr int kCommand = 1;
-constexpr int kDirection = 2;
-
-// Both direction bytes of a record, four scheme first.
-using Bytes = QPair<int, int>;
-
-Bytes bytesOf(const MgCommandDS &record)
-{
-    return {record.fourDirection, record.eightDirection};
-}
-
-// The rules of assigning, stated a second time and in another way than the model has them:
-// as tables of what each direction is in the other scheme, and as the state that follows
-// from the one before.
-class Rules
-{
-public:
-    static std::vector<Bytes> after(const std::vector<Bytes> &before, bool fourScheme, std::size_t row,
-                                    int direction)
-    {
-        static constexpr int kEightOfFour[] = {0, 1, 3, 5, 7};
-        static constexpr int kKeep = -1;
-        static constexpr int kFourOfEight[] = {0, 1, kKeep, 2, kKeep, 3, kKeep, 4, kKeep};
-
-        std::vector<Bytes> state = before;
-        bool found = false;
-        for (std::size_t other = 0; other < state.size(); ++other) {
-            const int held = fourScheme ? before[other].first : before[other].second;
-            if (found || held != direction)
-                continue;
-            found = true;
-            state[other].second = 0;
-            const bool straight = direction % 2 == 1;
-            if (fourScheme || straight)
-                state[other].first = 0;
-        }
-
-        if (fourScheme) {
-            state[row] = {direction, kEightOfFour[direction]};
-        } else {
-            state[row].second = direction;
-            if (kFourOfEight[direction] != kKeep)
-                state[row].first = kFourOfEight[direction];
-        }
-        return state;
-    }
-};
 
 // The model, with rows only where a table has them.
 class RootOnlyModel : public MgCommandDSModel
@@ -94,7 +51,7 @@ void collectComplaints(QtMsgType /*type*/, const QMessageLogContext &context, co
 
 } // namespace
 
-class tst_commandtablemodel : public QObject
+class CommandTableModelTest : public QObject
 {
     Q_OBJECT
 
@@ -130,6 +87,10 @@ private Q_SLOTS:
     void resetButtonFollowsChangesOnly();
     void randomWalkKeepsTheRules();
 
+    void takesChangesBackOneByOne();
+    void takesNothingBackAfterAReset();
+    void namesTheHolderOfADirection();
+
     void assignedOnlyShowsNonzeroCurrentDirections();
     void searchMatchesNamesNotCategories();
     void filterCondition_data();
@@ -152,7 +113,7 @@ private:
     std::unique_ptr<TestDialog> m_dialog;
 };
 
-void tst_commandtablemodel::init()
+void CommandTableModelTest::init()
 {
     tests::resetWarnings();
     m_host = std::make_unique<tests::FakeHost>();
@@ -163,7 +124,7 @@ void tst_commandtablemodel::init()
                                     QStringLiteral("Tip ") + QLatin1String(id));
 }
 
-void tst_commandtablemodel::cleanup()
+void CommandTableModelTest::cleanup()
 {
     m_dialog.reset();
     m_host.reset();
@@ -171,14 +132,14 @@ void tst_commandtablemodel::cleanup()
 }
 
 // Opens the dialog over what the host offers and keeps by now.
-void tst_commandtablemodel::open(const char *scheme)
+void CommandTableModelTest::open(const char *scheme)
 {
     m_host->store.values.insert(QStringLiteral("ActiveScheme"), QLatin1String(scheme));
     MgDonutDataContainer::instance()->init();
     m_dialog = std::make_unique<TestDialog>();
 }
 
-int tst_commandtablemodel::rowIn(const QString &id) const
+int CommandTableModelTest::rowIn(const QString &id) const
 {
     const std::vector<MgCommandDS> commands = m_dialog->model->getCommands();
     for (std::size_t row = 0; row < commands.size(); ++row) {
@@ -188,17 +149,17 @@ int tst_commandtablemodel::rowIn(const QString &id) const
     return -1;
 }
 
-QModelIndex tst_commandtablemodel::directionOf(const QString &id) const
+QModelIndex CommandTableModelTest::directionOf(const QString &id) const
 {
     return m_dialog->model->index(rowIn(id), kDirection);
 }
 
-void tst_commandtablemodel::assign(const QString &id, int direction)
+void CommandTableModelTest::assign(const QString &id, int direction)
 {
     QVERIFY(m_dialog->model->setData(directionOf(id), direction, Qt::EditRole));
 }
 
-void tst_commandtablemodel::columnsAndRoles_data()
+void CommandTableModelTest::columnsAndRoles_data()
 {
     QTest::addColumn<int>("column");
     QTest::addColumn<int>("role");
@@ -221,7 +182,7 @@ void tst_commandtablemodel::columnsAndRoles_data()
     }
 }
 
-void tst_commandtablemodel::columnsAndRoles()
+void CommandTableModelTest::columnsAndRoles()
 {
     QFETCH(int, column);
     QFETCH(int, role);
@@ -243,7 +204,7 @@ void tst_commandtablemodel::columnsAndRoles()
     QVERIFY(!model->data(model->index(1, kDirection), Qt::DecorationRole).isValid());
 }
 
-void tst_commandtablemodel::headers()
+void CommandTableModelTest::headers()
 {
     open("8");
     const MgCommandDSModel *model = m_dialog->model;
@@ -264,7 +225,7 @@ void tst_commandtablemodel::headers()
     QVERIFY(!model->headerData(0, Qt::Horizontal, Qt::ToolTipRole).isValid());
 }
 
-void tst_commandtablemodel::flags()
+void CommandTableModelTest::flags()
 {
     open("8");
     const MgCommandDSModel *model = m_dialog->model;
@@ -276,7 +237,7 @@ void tst_commandtablemodel::flags()
     QCOMPARE(model->flags(model->index(0, kDirection)), base | Qt::ItemIsEditable);
 }
 
-void tst_commandtablemodel::invalidIndexes()
+void CommandTableModelTest::invalidIndexes()
 {
     open("8");
     MgCommandDSModel *model = m_dialog->model;
@@ -298,7 +259,7 @@ void tst_commandtablemodel::invalidIndexes()
     QVERIFY(!model->setData(stale, 1, Qt::EditRole));
 }
 
-void tst_commandtablemodel::rowsAndColumnsWhateverTheParent()
+void CommandTableModelTest::rowsAndColumnsWhateverTheParent()
 {
     open("8");
     const MgCommandDSModel *model = m_dialog->model;
@@ -309,7 +270,7 @@ void tst_commandtablemodel::rowsAndColumnsWhateverTheParent()
 }
 
 // Whatever the tester finds in a model in every other respect, strictly.
-void tst_commandtablemodel::passesTheModelTester()
+void CommandTableModelTest::passesTheModelTester()
 {
     open("8");
     RootOnlyModel model(m_dialog.get());
@@ -340,7 +301,7 @@ void tst_commandtablemodel::passesTheModelTester()
 // The model as it is claims rows below its cells, too. The tester finds that such a cell has
 // no children and that what is said to be one has another parent, and nothing else; the same
 // of the proxy, which asks the model.
-void tst_commandtablemodel::testerFindsOnlyTheRowsBelowCells()
+void CommandTableModelTest::testerFindsOnlyTheRowsBelowCells()
 {
     open("8");
     QStringList found;
@@ -367,7 +328,7 @@ void tst_commandtablemodel::testerFindsOnlyTheRowsBelowCells()
     }
 }
 
-void tst_commandtablemodel::withoutDialog()
+void CommandTableModelTest::withoutDialog()
 {
     m_host->store.values.insert(QStringLiteral("83"), QStringLiteral("A"));
     open("8");
@@ -391,7 +352,7 @@ void tst_commandtablemodel::withoutDialog()
     }
 }
 
-void tst_commandtablemodel::copiesTheContainersRecords()
+void CommandTableModelTest::copiesTheContainersRecords()
 {
     open("8");
     assign(QStringLiteral("A"), 1);
@@ -402,7 +363,7 @@ void tst_commandtablemodel::copiesTheContainersRecords()
         QCOMPARE(bytesOf(record), Bytes(0, 0));
 }
 
-void tst_commandtablemodel::resetToDefaultReadsTheContainerAgain()
+void CommandTableModelTest::resetToDefaultReadsTheContainerAgain()
 {
     open("8");
     assign(QStringLiteral("A"), 1);
@@ -415,7 +376,7 @@ void tst_commandtablemodel::resetToDefaultReadsTheContainerAgain()
     QCOMPARE(bytes(QStringLiteral("A")), Bytes(0, 0));
 }
 
-void tst_commandtablemodel::callOperatorIsAlwaysTrue()
+void CommandTableModelTest::callOperatorIsAlwaysTrue()
 {
     open("8");
     const MgCommandDS record = m_dialog->record(QStringLiteral("A"));
@@ -423,7 +384,7 @@ void tst_commandtablemodel::callOperatorIsAlwaysTrue()
     QVERIFY((*m_dialog->model)(record, 255));
 }
 
-void tst_commandtablemodel::setDataRefusesOtherColumnsAndRoles()
+void CommandTableModelTest::setDataRefusesOtherColumnsAndRoles()
 {
     open("8");
     MgCommandDSModel *model = m_dialog->model;
@@ -433,14 +394,14 @@ void tst_commandtablemodel::setDataRefusesOtherColumnsAndRoles()
     QCOMPARE(bytes(QStringLiteral("A")), Bytes(0, 0));
 }
 
-void tst_commandtablemodel::setDataTakesTheLowByte()
+void CommandTableModelTest::setDataTakesTheLowByte()
 {
     open("8");
     assign(QStringLiteral("A"), 0x103);
     QCOMPARE(bytes(QStringLiteral("A")), Bytes(2, 3));
 }
 
-void tst_commandtablemodel::setDataEmitsNothing()
+void CommandTableModelTest::setDataEmitsNothing()
 {
     open("8");
     QSignalSpy changed(m_dialog->model, &QAbstractItemModel::dataChanged);
@@ -457,7 +418,7 @@ void tst_commandtablemodel::setDataEmitsNothing()
     QCOMPARE(m_dialog->shown(), QStringList(QStringLiteral("Name A")));
 }
 
-void tst_commandtablemodel::upInFourSchemeTakesBothDirectionsFromTheHolder()
+void CommandTableModelTest::upInFourSchemeTakesBothDirectionsFromTheHolder()
 {
     open("4");
     assign(QStringLiteral("A"), 1);
@@ -467,7 +428,7 @@ void tst_commandtablemodel::upInFourSchemeTakesBothDirectionsFromTheHolder()
     QCOMPARE(bytes(QStringLiteral("B")), Bytes(1, 1));
 }
 
-void tst_commandtablemodel::diagonalClearsOnlyTheHoldersEightDirection()
+void CommandTableModelTest::diagonalClearsOnlyTheHoldersEightDirection()
 {
     m_host->store.values = {{QStringLiteral("41"), QStringLiteral("A")},
                             {QStringLiteral("43"), QStringLiteral("B")},
@@ -480,7 +441,7 @@ void tst_commandtablemodel::diagonalClearsOnlyTheHoldersEightDirection()
     QCOMPARE(bytes(QStringLiteral("B")), Bytes(3, 2));
 }
 
-void tst_commandtablemodel::leftInEightSchemeClearsTheHolderInBothSchemes()
+void CommandTableModelTest::leftInEightSchemeClearsTheHolderInBothSchemes()
 {
     open("8");
     assign(QStringLiteral("A"), 3);
@@ -490,7 +451,7 @@ void tst_commandtablemodel::leftInEightSchemeClearsTheHolderInBothSchemes()
     QCOMPARE(bytes(QStringLiteral("B")), Bytes(2, 3));
 }
 
-void tst_commandtablemodel::twoRecordsCanComeToShareAFourDirection()
+void CommandTableModelTest::twoRecordsCanComeToShareAFourDirection()
 {
     open("8");
     assign(QStringLiteral("B"), 1);
@@ -501,7 +462,7 @@ void tst_commandtablemodel::twoRecordsCanComeToShareAFourDirection()
     QCOMPARE(bytes(QStringLiteral("C")), Bytes(1, 1));
 }
 
-void tst_commandtablemodel::noneOnUnboundInFourSchemeStillClearsAnEightDirection()
+void CommandTableModelTest::noneOnUnboundInFourSchemeStillClearsAnEightDirection()
 {
     // A is the first without a four direction, and has a diagonal.
     m_host->store.values = {{QStringLiteral("41"), QStringLiteral("B")},
@@ -515,7 +476,7 @@ void tst_commandtablemodel::noneOnUnboundInFourSchemeStillClearsAnEightDirection
     QVERIFY(!m_dialog->ui.reset_pushButton->isEnabled());
 }
 
-void tst_commandtablemodel::noneInEightSchemeClearsBothOfTheRecord()
+void CommandTableModelTest::noneInEightSchemeClearsBothOfTheRecord()
 {
     m_host->store.values = {{QStringLiteral("41"), QStringLiteral("B")},
                             {QStringLiteral("42"), QStringLiteral("A")},
@@ -527,7 +488,7 @@ void tst_commandtablemodel::noneInEightSchemeClearsBothOfTheRecord()
     QCOMPARE(bytes(QStringLiteral("A")), Bytes(2, 0));
 }
 
-void tst_commandtablemodel::linkedDirections_data()
+void CommandTableModelTest::linkedDirections_data()
 {
     QTest::addColumn<QString>("scheme");
     QTest::addColumn<int>("direction");
@@ -551,7 +512,7 @@ void tst_commandtablemodel::linkedDirections_data()
     QTest::newRow("eight up right") << eight << 8 << 4 << 8;
 }
 
-void tst_commandtablemodel::linkedDirections()
+void CommandTableModelTest::linkedDirections()
 {
     QFETCH(QString, scheme);
     QFETCH(int, direction);
@@ -564,7 +525,7 @@ void tst_commandtablemodel::linkedDirections()
     QCOMPARE(bytes(QStringLiteral("B")), Bytes(four, eight));
 }
 
-void tst_commandtablemodel::resetButtonFollowsChangesOnly()
+void CommandTableModelTest::resetButtonFollowsChangesOnly()
 {
     open("8");
     m_dialog->ui.reset_pushButton->setEnabled(false);
@@ -577,7 +538,7 @@ void tst_commandtablemodel::resetButtonFollowsChangesOnly()
     QVERIFY(!m_dialog->ui.reset_pushButton->isEnabled());
 }
 
-void tst_commandtablemodel::randomWalkKeepsTheRules()
+void CommandTableModelTest::randomWalkKeepsTheRules()
 {
     for (int number = 0; number < 7; ++number)
         m_host->commands.addCommand(QStringLiteral("X%1").arg(number), QStringLiteral("x"),
@@ -598,7 +559,7 @@ void tst_commandtablemodel::randomWalkKeepsTheRules()
         const int row = upTo(11);
         const int direction = upTo(four ? 4 : 8);
         QVERIFY(model->setData(model->index(row, kDirection), direction, Qt::EditRole));
-        expected = Rules::after(expected, four, static_cast<std::size_t>(row), direction);
+        expected = tests::bytesAfter(expected, four, static_cast<std::size_t>(row), direction);
 
         const std::vector<MgCommandDS> records = model->getCommands();
         int ups = 0;
@@ -613,7 +574,64 @@ void tst_commandtablemodel::randomWalkKeepsTheRules()
     QVERIFY(shared > 1000);
 }
 
-void tst_commandtablemodel::assignedOnlyShowsNonzeroCurrentDirections()
+void CommandTableModelTest::takesChangesBackOneByOne()
+{
+    for (int number = 0; number < 7; ++number)
+        m_host->commands.addCommand(QStringLiteral("X%1").arg(number), QStringLiteral("x"),
+                                    QStringLiteral("X"));
+    open("8");
+    MgCommandDSModel *model = m_dialog->model;
+    QVERIFY(!model->takeBack());
+    std::mt19937 random(7);
+    const auto upTo = [&random](int last) {
+        return std::uniform_int_distribution<int>(0, last)(random);
+    };
+    std::vector<std::vector<Bytes>> states{tests::bytesOf(model->getCommands())};
+    for (int step = 0; step < 300; ++step) {
+        const bool four = upTo(1) == 0;
+        m_dialog->scheme = four ? MgDonutDialogManager::Four : MgDonutDialogManager::Eight;
+        const QModelIndex cell = model->index(upTo(model->rowCount() - 1), kDirection);
+        QVERIFY(model->setData(cell, upTo(four ? 4 : 8), Qt::EditRole));
+        // A choice that changes nothing is none to take back.
+        const std::vector<Bytes> state = tests::bytesOf(model->getCommands());
+        if (state != states.back())
+            states.push_back(state);
+    }
+    QVERIFY(states.size() > 200);
+    QSignalSpy changed(model, &QAbstractItemModel::dataChanged);
+    for (states.pop_back(); !states.empty(); states.pop_back()) {
+        QVERIFY(model->takeBack());
+        QCOMPARE(tests::bytesOf(model->getCommands()), states.back());
+        QVERIFY(changed.count() > 0);
+        QCOMPARE(changed.takeFirst().at(0).toModelIndex().column(), kDirection);
+        changed.clear();
+    }
+    QVERIFY(!model->takeBack());
+}
+
+void CommandTableModelTest::takesNothingBackAfterAReset()
+{
+    open("8");
+    assign(QStringLiteral("A"), 3);
+    m_dialog->model->resetToDefault();
+    QVERIFY(!m_dialog->model->takeBack());
+    QCOMPARE(bytes(QStringLiteral("A")), Bytes(0, 0));
+}
+
+void CommandTableModelTest::namesTheHolderOfADirection()
+{
+    m_host->store.values = {{QStringLiteral("82"), QStringLiteral("A")},
+                            {QStringLiteral("42"), QStringLiteral("B")}};
+    open("8");
+    const QString a = m_dialog->record(QStringLiteral("A")).displayName;
+    QCOMPARE(m_dialog->model->getHolderNames(2), a);
+    QCOMPARE(m_dialog->model->getHolderNames(0), QString());
+    QCOMPARE(m_dialog->model->getHolderNames(3), QString());
+    m_dialog->scheme = MgDonutDialogManager::Four;
+    QCOMPARE(m_dialog->model->getHolderNames(2), m_dialog->record(QStringLiteral("B")).displayName);
+}
+
+void CommandTableModelTest::assignedOnlyShowsNonzeroCurrentDirections()
 {
     m_host->store.values = {{QStringLiteral("41"), QStringLiteral("B")},
                             {QStringLiteral("82"), QStringLiteral("A")},
@@ -630,7 +648,7 @@ void tst_commandtablemodel::assignedOnlyShowsNonzeroCurrentDirections()
     QCOMPARE(m_dialog->shown(), QStringList(QStringLiteral("Name B")));
 }
 
-void tst_commandtablemodel::searchMatchesNamesNotCategories()
+void CommandTableModelTest::searchMatchesNamesNotCategories()
 {
     auto *menu = m_host->addTopLevelMenu(QStringLiteral("Lines"));
     for (const char *name : {"Line", "Polyline", "Circle"}) {
@@ -648,7 +666,7 @@ void tst_commandtablemodel::searchMatchesNamesNotCategories()
              QStringList({QStringLiteral("Lines"), QStringLiteral("Lines")}));
 }
 
-void tst_commandtablemodel::filterCondition_data()
+void CommandTableModelTest::filterCondition_data()
 {
     QTest::addColumn<QString>("category");
     QTest::addColumn<bool>("assignedOnly");
@@ -671,7 +689,7 @@ void tst_commandtablemodel::filterCondition_data()
     QTest::newRow("category but not search") << draw << false << QStringLiteral("x") << false;
 }
 
-void tst_commandtablemodel::filterCondition()
+void CommandTableModelTest::filterCondition()
 {
     QFETCH(QString, category);
     QFETCH(bool, assignedOnly);
@@ -695,7 +713,7 @@ void tst_commandtablemodel::filterCondition()
     QCOMPARE(accepts(8), assignedOnly || accepted);
 }
 
-void tst_commandtablemodel::sortingByDirectionPutsUnboundFirst()
+void CommandTableModelTest::sortingByDirectionPutsUnboundFirst()
 {
     m_host->store.values = {{QStringLiteral("81"), QStringLiteral("E")},
                             {QStringLiteral("82"), QStringLiteral("C")},
@@ -710,7 +728,7 @@ void tst_commandtablemodel::sortingByDirectionPutsUnboundFirst()
     QCOMPARE(m_dialog->shownDirections(), QList<int>({8, 2, 1, 0, 0}));
 }
 
-void tst_commandtablemodel::sortingTextsIsCaseSensitiveAndStable()
+void CommandTableModelTest::sortingTextsIsCaseSensitiveAndStable()
 {
     auto *group = static_cast<tests::FakeCommandGroup *>(m_host->commands.groups.front());
     const QStringList names{QStringLiteral("b"), QStringLiteral("A"), QStringLiteral("a"),
@@ -739,7 +757,7 @@ void tst_commandtablemodel::sortingTextsIsCaseSensitiveAndStable()
     }
 }
 
-void tst_commandtablemodel::sortsAgainWhenTheFilterIsApplied()
+void CommandTableModelTest::sortsAgainWhenTheFilterIsApplied()
 {
     m_host->store.values = {{QStringLiteral("81"), QStringLiteral("A")}};
     open("8");
@@ -755,7 +773,7 @@ void tst_commandtablemodel::sortsAgainWhenTheFilterIsApplied()
 }
 
 // Compared as the base class would, for which a model of the same texts stands here.
-void tst_commandtablemodel::comparesTextsAsTheBaseClassDoes()
+void CommandTableModelTest::comparesTextsAsTheBaseClassDoes()
 {
     const QStringList names{QString(),
                             QStringLiteral(""),
@@ -796,7 +814,7 @@ void tst_commandtablemodel::comparesTextsAsTheBaseClassDoes()
                  plainProxy.index(row, kCommand).data().toString());
 }
 
-void tst_commandtablemodel::proxyAcceptsEveryRowOfAnotherModel()
+void CommandTableModelTest::proxyAcceptsEveryRowOfAnotherModel()
 {
     QStandardItemModel other(7, 3);
     MgCommandDSSortFilterProxyModel proxy;
@@ -808,15 +826,16 @@ void tst_commandtablemodel::proxyAcceptsEveryRowOfAnotherModel()
     QCOMPARE(proxy.rowCount(), 7);
 }
 
-void tst_commandtablemodel::proxyReadsDirectionsOut()
+void CommandTableModelTest::proxyReadsDirectionsOut()
 {
     m_host->store.values = {{QStringLiteral("82"), QStringLiteral("A")}};
     open("8");
     QCOMPARE(m_dialog->cell(0, kDirection).data(Qt::AccessibleTextRole).toString(),
              QStringLiteral("Up left"));
-    QCOMPARE(m_dialog->cell(1, kDirection).data(Qt::AccessibleTextRole).toString(), QString());
+    QCOMPARE(m_dialog->cell(1, kDirection).data(Qt::AccessibleTextRole).toString(),
+             QStringLiteral("None"));
     QVERIFY(!m_dialog->cell(0, kCommand).data(Qt::AccessibleTextRole).isValid());
 }
 
-QTEST_MAIN(tst_commandtablemodel)
+QTEST_MAIN(CommandTableModelTest)
 #include "tst_commandtablemodel.moc"

@@ -13,18 +13,13 @@
 
 #include <memory>
 
+using tests::kCategory;
+using tests::kCommand;
+using tests::kDirection;
 using tests::TestDialog;
 
-namespace {
-
-constexpr int kCategory = 0;
-constexpr int kCommand = 1;
-constexpr int kDirection = 2;
-
-} // namespace
-
 // The dialog as it is used: with the mouse and the keys of a window.
-class tst_configurationdialog : public QObject
+class ConfigurationDialogTest : public QObject
 {
     Q_OBJECT
 
@@ -97,21 +92,21 @@ private:
     std::unique_ptr<TestDialog> m_dialog;
 };
 
-void tst_configurationdialog::init()
+void ConfigurationDialogTest::init()
 {
     tests::resetWarnings();
     m_host = std::make_unique<tests::FakeHost>();
     tests::addDraftingCommands(*m_host, 40, true);
 }
 
-void tst_configurationdialog::cleanup()
+void ConfigurationDialogTest::cleanup()
 {
     m_dialog.reset();
     m_host.reset();
     QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
 }
 
-void tst_configurationdialog::open()
+void ConfigurationDialogTest::open()
 {
     MgDonutDataContainer::instance()->init();
     m_dialog = std::make_unique<TestDialog>();
@@ -120,7 +115,7 @@ void tst_configurationdialog::open()
 }
 
 // Gives a command a direction as a user does, by its drop-down and the keys.
-void tst_configurationdialog::bind(const QString &command, int direction)
+void ConfigurationDialogTest::bind(const QString &command, int direction)
 {
     const int row = m_dialog->rowOf(command);
     QVERIFY(row >= 0);
@@ -136,7 +131,7 @@ void tst_configurationdialog::bind(const QString &command, int direction)
     tests::key(m_dialog.get(), Qt::Key_Return);
 }
 
-void tst_configurationdialog::openingWithGesturesDisabled()
+void ConfigurationDialogTest::openingWithGesturesDisabled()
 {
     m_host->store.values.insert(QStringLiteral("EnableMouseGesture"), QStringLiteral("0"));
     open();
@@ -159,7 +154,7 @@ void tst_configurationdialog::openingWithGesturesDisabled()
         QVERIFY2(control->isEnabled(), qPrintable(control->objectName()));
 }
 
-void tst_configurationdialog::openingWithGesturesEnabled()
+void ConfigurationDialogTest::openingWithGesturesEnabled()
 {
     open();
     QVERIFY(MgDonutDataContainer::instance()->isDefaultSettingsEnabled());
@@ -178,7 +173,7 @@ void tst_configurationdialog::openingWithGesturesEnabled()
     QVERIFY(!m_dialog->ui.reset_pushButton->isEnabled());
 }
 
-void tst_configurationdialog::openingWithFourScheme()
+void ConfigurationDialogTest::openingWithFourScheme()
 {
     m_host->store.values.insert(QStringLiteral("ActiveScheme"), QStringLiteral("4"));
     open();
@@ -194,7 +189,7 @@ void tst_configurationdialog::openingWithFourScheme()
     QCOMPARE(m_dialog->editor()->count(), 5);
 }
 
-void tst_configurationdialog::enableBoxSwitchesTheControls()
+void ConfigurationDialogTest::enableBoxSwitchesTheControls()
 {
     open();
     m_dialog->ui.reset_pushButton->setEnabled(false);
@@ -212,7 +207,7 @@ void tst_configurationdialog::enableBoxSwitchesTheControls()
     QCOMPARE(storeWrites(), QStringList());
 }
 
-void tst_configurationdialog::switchingToFourGestures()
+void ConfigurationDialogTest::switchingToFourGestures()
 {
     open();
     m_dialog->ui.reset_pushButton->setEnabled(false);
@@ -249,7 +244,7 @@ void tst_configurationdialog::switchingToFourGestures()
     QCOMPARE(m_dialog->directionList.index(0, 0).data().toString(), QStringLiteral("None"));
 }
 
-void tst_configurationdialog::switchingBackToEightLeavesResetAsItIs()
+void ConfigurationDialogTest::switchingBackToEightLeavesResetAsItIs()
 {
     m_host->store.values.insert(QStringLiteral("ActiveScheme"), QStringLiteral("4"));
     open();
@@ -265,7 +260,7 @@ void tst_configurationdialog::switchingBackToEightLeavesResetAsItIs()
     }
 }
 
-void tst_configurationdialog::schemeWithTheKeyboard()
+void ConfigurationDialogTest::schemeWithTheKeyboard()
 {
     open();
     m_dialog->ui.eight_radioButton->setFocus();
@@ -277,7 +272,7 @@ void tst_configurationdialog::schemeWithTheKeyboard()
     QCOMPARE(m_dialog->getScheme(), TestDialog::Eight);
 }
 
-void tst_configurationdialog::searching()
+void ConfigurationDialogTest::searching()
 {
     open();
     tests::click(m_dialog->ui.search_lineEdit, m_dialog->ui.search_lineEdit->rect().center());
@@ -296,7 +291,7 @@ void tst_configurationdialog::searching()
     QCOMPARE(m_dialog->proxy->rowCount(), 40);
 }
 
-void tst_configurationdialog::categoryWithTheMouse()
+void ConfigurationDialogTest::categoryWithTheMouse()
 {
     open();
     const QPointer<QComboBox> box = m_dialog->ui.category_comboBox;
@@ -309,7 +304,7 @@ void tst_configurationdialog::categoryWithTheMouse()
     QCOMPARE(categories, QStringList(QStringLiteral("Draw")));
 }
 
-void tst_configurationdialog::categoryWithTheKeyboard()
+void ConfigurationDialogTest::categoryWithTheKeyboard()
 {
     open();
     m_dialog->ui.category_comboBox->setFocus();
@@ -323,7 +318,7 @@ void tst_configurationdialog::categoryWithTheKeyboard()
     QCOMPARE(m_dialog->proxy->rowCount(), 40);
 }
 
-void tst_configurationdialog::assignedCommandsOnly()
+void ConfigurationDialogTest::assignedCommandsOnly()
 {
     open();
     tests::click(m_dialog->ui.filter_checkBox);
@@ -342,7 +337,7 @@ void tst_configurationdialog::assignedCommandsOnly()
     QCOMPARE(m_dialog->rowOf(QStringLiteral("Save")), -1);
 }
 
-void tst_configurationdialog::filtersTogether()
+void ConfigurationDialogTest::filtersTogether()
 {
     open();
     tests::click(m_dialog->ui.filter_checkBox);
@@ -355,7 +350,7 @@ void tst_configurationdialog::filtersTogether()
     QVERIFY(m_dialog->proxy->rowCount() > 2);
 }
 
-void tst_configurationdialog::sortingWithTheHeader()
+void ConfigurationDialogTest::sortingWithTheHeader()
 {
     open();
     QHeaderView *header = m_dialog->ui.command_tableView->horizontalHeader();
@@ -373,7 +368,7 @@ void tst_configurationdialog::sortingWithTheHeader()
     QCOMPARE(m_dialog->shownDirections().mid(0, 9), QList<int>({8, 7, 6, 5, 4, 3, 2, 1, 0}));
 }
 
-void tst_configurationdialog::pressingARowShowsAndEditsIt_data()
+void ConfigurationDialogTest::pressingARowShowsAndEditsIt_data()
 {
     QTest::addColumn<int>("column");
     QTest::newRow("category") << kCategory;
@@ -381,7 +376,7 @@ void tst_configurationdialog::pressingARowShowsAndEditsIt_data()
     QTest::newRow("direction") << kDirection;
 }
 
-void tst_configurationdialog::pressingARowShowsAndEditsIt()
+void ConfigurationDialogTest::pressingARowShowsAndEditsIt()
 {
     QFETCH(int, column);
     open();
@@ -410,7 +405,7 @@ void tst_configurationdialog::pressingARowShowsAndEditsIt()
     }
 }
 
-void tst_configurationdialog::twoSelectedRowsGreyOutTheDescription()
+void ConfigurationDialogTest::twoSelectedRowsGreyOutTheDescription()
 {
     open();
     MgCommandTableView *table = m_dialog->ui.command_tableView;
@@ -430,7 +425,7 @@ void tst_configurationdialog::twoSelectedRowsGreyOutTheDescription()
     }
 }
 
-void tst_configurationdialog::noSelectedRow()
+void ConfigurationDialogTest::noSelectedRow()
 {
     open();
     MgCommandTableView *table = m_dialog->ui.command_tableView;
@@ -444,7 +439,7 @@ void tst_configurationdialog::noSelectedRow()
     QCOMPARE(m_dialog->ui.description_label->text(), QString());
 }
 
-void tst_configurationdialog::selectionChangesAloneDoNothing()
+void ConfigurationDialogTest::selectionChangesAloneDoNothing()
 {
     open();
     m_dialog->ui.command_tableView->selectRow(2);
@@ -456,7 +451,7 @@ void tst_configurationdialog::selectionChangesAloneDoNothing()
     QVERIFY(m_dialog->editor());
 }
 
-void tst_configurationdialog::filteringKeepsTheSelection()
+void ConfigurationDialogTest::filteringKeepsTheSelection()
 {
     open();
     const QString name = QStringLiteral("Line");
@@ -472,7 +467,7 @@ void tst_configurationdialog::filteringKeepsTheSelection()
     QVERIFY(!selection->hasSelection());
 }
 
-void tst_configurationdialog::okWritesBindingsSchemeAndFlag()
+void ConfigurationDialogTest::okWritesBindingsSchemeAndFlag()
 {
     open();
     bind(QStringLiteral("Mirror Polyline"), 3);
@@ -519,20 +514,20 @@ void tst_configurationdialog::okWritesBindingsSchemeAndFlag()
     QCOMPARE(int(m_dialog->record(mirror).fourDirection), 2);
 }
 
-void tst_configurationdialog::okButtonIsTheOnlyWayToAccept()
+void ConfigurationDialogTest::okButtonIsTheOnlyWayToAccept()
 {
     open();
     Q_EMIT m_dialog->ui.buttonBox->accepted();
     QVERIFY(m_dialog->isVisible());
     QCOMPARE(storeWrites(), QStringList());
     // It is the default button.
-    m_dialog->ui.search_lineEdit->setFocus();
+    m_dialog->ui.filter_checkBox->setFocus();
     tests::key(m_dialog.get(), Qt::Key_Return);
     QVERIFY(!m_dialog->isVisible());
     QVERIFY(!storeWrites().isEmpty());
 }
 
-void tst_configurationdialog::cancelLeavesTheContainer_data()
+void ConfigurationDialogTest::cancelLeavesTheContainer_data()
 {
     QTest::addColumn<QString>("way");
     QTest::newRow("the button") << QStringLiteral("button");
@@ -540,7 +535,7 @@ void tst_configurationdialog::cancelLeavesTheContainer_data()
     QTest::newRow("closing the window") << QStringLiteral("close");
 }
 
-void tst_configurationdialog::cancelLeavesTheContainer()
+void ConfigurationDialogTest::cancelLeavesTheContainer()
 {
     QFETCH(QString, way);
     open();
@@ -563,7 +558,7 @@ void tst_configurationdialog::cancelLeavesTheContainer()
     QVERIFY(MgDonutDataContainer::instance()->getGestureEnabled());
 }
 
-void tst_configurationdialog::modalRun()
+void ConfigurationDialogTest::modalRun()
 {
     MgDonutDataContainer::instance()->init();
     for (const auto which : {QDialogButtonBox::Ok, QDialogButtonBox::Cancel}) {
@@ -579,7 +574,7 @@ void tst_configurationdialog::modalRun()
     }
 }
 
-void tst_configurationdialog::resetAsksFirst()
+void ConfigurationDialogTest::resetAsksFirst()
 {
     m_host->messageAnswer = CHxSystemServices::kMessageCancel;
     m_host->messageCaption = QStringLiteral("The drafting program");
@@ -592,14 +587,14 @@ void tst_configurationdialog::resetAsksFirst()
     QCOMPARE(m_host->lastMessageCaption, QStringLiteral("The drafting program"));
 }
 
-void tst_configurationdialog::resetDeclinedChangesNothing_data()
+void ConfigurationDialogTest::resetDeclinedChangesNothing_data()
 {
     QTest::addColumn<int>("answer");
     for (const int answer : {2, 0, -1, 6})
         QTest::addRow("answer %d", answer) << answer;
 }
 
-void tst_configurationdialog::resetDeclinedChangesNothing()
+void ConfigurationDialogTest::resetDeclinedChangesNothing()
 {
     QFETCH(int, answer);
     m_host->messageAnswer = answer;
@@ -614,7 +609,7 @@ void tst_configurationdialog::resetDeclinedChangesNothing()
     QVERIFY(m_dialog->ui.reset_pushButton->isEnabled());
 }
 
-void tst_configurationdialog::resetConfirmed()
+void ConfigurationDialogTest::resetConfirmed()
 {
     m_host->store.values = {{QStringLiteral("81"), QStringLiteral("ID_COPY")},
                             {QStringLiteral("EnableMouseGesture"), QStringLiteral("1")}};
@@ -636,7 +631,7 @@ void tst_configurationdialog::resetConfirmed()
     QVERIFY(m_dialog->ui.reset_pushButton->isEnabled());
 }
 
-void tst_configurationdialog::resetSwitchesToEightGestures()
+void ConfigurationDialogTest::resetSwitchesToEightGestures()
 {
     m_host->store.values.insert(QStringLiteral("ActiveScheme"), QStringLiteral("4"));
     open();
@@ -648,7 +643,7 @@ void tst_configurationdialog::resetSwitchesToEightGestures()
     QVERIFY(!m_dialog->ui.reset_pushButton->isEnabled());
 }
 
-void tst_configurationdialog::resetStaysEnabledWhereDefaultsAreMissing()
+void ConfigurationDialogTest::resetStaysEnabledWhereDefaultsAreMissing()
 {
     auto *group = static_cast<tests::FakeCommandGroup *>(m_host->commands.groups.front());
     group->commands.erase(group->commands.begin());
@@ -658,7 +653,7 @@ void tst_configurationdialog::resetStaysEnabledWhereDefaultsAreMissing()
     QVERIFY(m_dialog->ui.reset_pushButton->isEnabled());
 }
 
-void tst_configurationdialog::cancelAfterResetKeepsTheDefaults()
+void ConfigurationDialogTest::cancelAfterResetKeepsTheDefaults()
 {
     m_host->store.values.insert(QStringLiteral("81"), QStringLiteral("ID_COPY"));
     open();
@@ -672,7 +667,7 @@ void tst_configurationdialog::cancelAfterResetKeepsTheDefaults()
     QCOMPARE(stored("87"), QStringLiteral("ID_LINE"));
 }
 
-void tst_configurationdialog::resetWithoutServices_data()
+void ConfigurationDialogTest::resetWithoutServices_data()
 {
     QTest::addColumn<bool>("confirmed");
     QTest::newRow("OK") << true;
@@ -681,7 +676,7 @@ void tst_configurationdialog::resetWithoutServices_data()
 
 // The dialog asks by itself then. Without a store nothing is kept, and without commands
 // nothing can be bound, so an empty table is what shows that it was done.
-void tst_configurationdialog::resetWithoutServices()
+void ConfigurationDialogTest::resetWithoutServices()
 {
     QFETCH(bool, confirmed);
     open();
@@ -705,7 +700,7 @@ void tst_configurationdialog::resetWithoutServices()
     QCOMPARE(m_dialog->model->rowCount(), confirmed ? 0 : 40);
 }
 
-void tst_configurationdialog::isDefaultReadsTheContainerAndTheScheme()
+void ConfigurationDialogTest::isDefaultReadsTheContainerAndTheScheme()
 {
     open();
     QVERIFY(m_dialog->isDefaultSettingsEnabled());
@@ -721,7 +716,7 @@ void tst_configurationdialog::isDefaultReadsTheContainerAndTheScheme()
     QVERIFY(!m_dialog->isDefaultSettingsEnabled());
 }
 
-void tst_configurationdialog::badTexts_data()
+void ConfigurationDialogTest::badTexts_data()
 {
     QTest::addColumn<QString>("text");
     QTest::newRow("empty") << QString();
@@ -739,7 +734,7 @@ void tst_configurationdialog::badTexts_data()
     QTest::newRow("enormous in lines") << QStringLiteral("line\n").repeated(20000);
 }
 
-void tst_configurationdialog::badTexts()
+void ConfigurationDialogTest::badTexts()
 {
     QFETCH(QString, text);
     m_host.reset();
@@ -774,7 +769,7 @@ void tst_configurationdialog::badTexts()
     QCOMPARE(stored("85"), QStringLiteral("ID_BAD"));
 }
 
-void tst_configurationdialog::descriptionsAreNeverRendered()
+void ConfigurationDialogTest::descriptionsAreNeverRendered()
 {
     const QString markup = QStringLiteral("<b>bold</b> <font size=\"7\">large</font><br><br>");
     auto *group = static_cast<tests::FakeCommandGroup *>(m_host->commands.groups.front());
@@ -799,7 +794,7 @@ void tst_configurationdialog::descriptionsAreNeverRendered()
     QVERIFY(rich.heightForWidth(371) != plain.heightForWidth(371));
 }
 
-void tst_configurationdialog::twoCommandsWithOneIdentifier()
+void ConfigurationDialogTest::twoCommandsWithOneIdentifier()
 {
     m_host->commands.addCommand(QStringLiteral("ID_LINE"), QStringLiteral("other"),
                                 QStringLiteral("Another Line"));
@@ -821,7 +816,7 @@ void tst_configurationdialog::twoCommandsWithOneIdentifier()
              0);
 }
 
-void tst_configurationdialog::noCommands()
+void ConfigurationDialogTest::noCommands()
 {
     m_host->commands.groups.clear();
     open();
@@ -838,7 +833,7 @@ void tst_configurationdialog::noCommands()
     QCOMPARE(stored("81"), QString());
 }
 
-void tst_configurationdialog::noServices()
+void ConfigurationDialogTest::noServices()
 {
     m_host->setPresent(false);
     open();
@@ -852,7 +847,7 @@ void tst_configurationdialog::noServices()
     m_host->setPresent(true);
 }
 
-void tst_configurationdialog::tenThousandCommands()
+void ConfigurationDialogTest::tenThousandCommands()
 {
     m_host.reset();
     m_host = std::make_unique<tests::FakeHost>();
@@ -872,5 +867,5 @@ void tst_configurationdialog::tenThousandCommands()
     QVERIFY(stored("88") != QLatin1String("ID_TRIM"));
 }
 
-QTEST_MAIN(tst_configurationdialog)
+QTEST_MAIN(ConfigurationDialogTest)
 #include "tst_configurationdialog.moc"

@@ -19,7 +19,7 @@
 using tests::TestDialog;
 
 // The dialog as it is built: its form, its texts, its sizes, and who owns what.
-class tst_dialogform : public QObject
+class DialogFormTest : public QObject
 {
     Q_OBJECT
 
@@ -63,13 +63,13 @@ private:
     QFont m_font;
 };
 
-void tst_dialogform::initTestCase()
+void DialogFormTest::initTestCase()
 {
     tests::failOnWarnings();
     m_font = QApplication::font();
 }
 
-void tst_dialogform::init()
+void DialogFormTest::init()
 {
     tests::resetWarnings();
     m_host = std::make_unique<tests::FakeHost>();
@@ -77,14 +77,14 @@ void tst_dialogform::init()
     MgDonutDataContainer::instance()->init();
 }
 
-void tst_dialogform::cleanup()
+void DialogFormTest::cleanup()
 {
     QApplication::setFont(m_font);
     m_host.reset();
     QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
 }
 
-void tst_dialogform::widgets_data()
+void DialogFormTest::widgets_data()
 {
     QTest::addColumn<QString>("className");
     const auto row = [](const char *name, const char *className) {
@@ -106,7 +106,7 @@ void tst_dialogform::widgets_data()
     row("buttonBox", "QDialogButtonBox");
 }
 
-void tst_dialogform::widgets()
+void DialogFormTest::widgets()
 {
     QFETCH(QString, className);
     const TestDialog dialog;
@@ -120,7 +120,7 @@ void tst_dialogform::widgets()
                                                 : static_cast<const QWidget *>(&dialog));
 }
 
-void tst_dialogform::texts()
+void DialogFormTest::texts()
 {
     TestDialog dialog;
     QCOMPARE(dialog.objectName(), QStringLiteral("MgDonutDialogManagerClass"));
@@ -145,7 +145,7 @@ void tst_dialogform::texts()
     QCOMPARE(named.objectName(), QStringLiteral("mine"));
 }
 
-void tst_dialogform::layouts_data()
+void DialogFormTest::layouts_data()
 {
     QTest::addColumn<QString>("className");
     QTest::addColumn<QStringList>("items");
@@ -169,7 +169,7 @@ void tst_dialogform::layouts_data()
     row("horizontalLayout_6", "QHBoxLayout", QStringLiteral("spacer buttonBox"));
 }
 
-void tst_dialogform::layouts()
+void DialogFormTest::layouts()
 {
     QFETCH(QString, className);
     QFETCH(QStringList, items);
@@ -194,7 +194,7 @@ void tst_dialogform::layouts()
         QCOMPARE(layout->sizeConstraint(), QLayout::SetFixedSize);
 }
 
-void tst_dialogform::spacers_data()
+void DialogFormTest::spacers_data()
 {
     QTest::addColumn<int>("place");
     QTest::addColumn<QSize>("size");
@@ -205,7 +205,7 @@ void tst_dialogform::spacers_data()
     QTest::newRow("horizontalLayout_6") << 0 << QSize(228, 20);
 }
 
-void tst_dialogform::spacers()
+void DialogFormTest::spacers()
 {
     QFETCH(int, place);
     QFETCH(QSize, size);
@@ -219,7 +219,7 @@ void tst_dialogform::spacers()
     QCOMPARE(spacer->sizePolicy().verticalPolicy(), QSizePolicy::Minimum);
 }
 
-void tst_dialogform::sizePolicies()
+void DialogFormTest::sizePolicies()
 {
     const TestDialog dialog;
     const QSizePolicy category = dialog.ui.category_comboBox->sizePolicy();
@@ -241,7 +241,7 @@ void tst_dialogform::sizePolicies()
 }
 
 // In a font as small as the form was laid out for.
-void tst_dialogform::sizeForSmallTexts()
+void DialogFormTest::sizeForSmallTexts()
 {
     QFont small = m_font;
     small.setPixelSize(9);
@@ -256,7 +256,7 @@ void tst_dialogform::sizeForSmallTexts()
     QCOMPARE(dialog.size(), QSize(414, 576));
 }
 
-void tst_dialogform::widthCannotBeChanged()
+void DialogFormTest::widthCannotBeChanged()
 {
     TestDialog dialog;
     QVERIFY(tests::showActive(dialog));
@@ -269,14 +269,14 @@ void tst_dialogform::widthCannotBeChanged()
     QCOMPARE(dialog.size(), QSize(width, 700));
 }
 
-void tst_dialogform::growsWithTheFontAndClipsNothing_data()
+void DialogFormTest::growsWithTheFontAndClipsNothing_data()
 {
     QTest::addColumn<int>("pixels");
     for (const int pixels : {8, 10, 12, 15, 20, 32})
         QTest::addRow("%d pixels", pixels) << pixels;
 }
 
-void tst_dialogform::growsWithTheFontAndClipsNothing()
+void DialogFormTest::growsWithTheFontAndClipsNothing()
 {
     QFETCH(int, pixels);
     QFont font = m_font;
@@ -312,7 +312,7 @@ void tst_dialogform::growsWithTheFontAndClipsNothing()
     QVERIFY(dialog.ui.description_groupBox->rect().contains(dialog.ui.description_label->geometry()));
 }
 
-void tst_dialogform::longMenuCaptionsDoNotWidenIt()
+void DialogFormTest::longMenuCaptionsDoNotWidenIt()
 {
     const int width = TestDialog().width();
     m_host->addTopLevelMenu(QString(5000, QLatin1Char('W')));
@@ -324,7 +324,7 @@ void tst_dialogform::longMenuCaptionsDoNotWidenIt()
     QCOMPARE(dialog.ui.category_comboBox->itemText(6).size(), 5000);
 }
 
-void tst_dialogform::windowFlags()
+void DialogFormTest::windowFlags()
 {
     const MgDonutDialogManager plain(nullptr, {});
     QVERIFY(!(plain.windowFlags() & Qt::WindowContextHelpButtonHint));
@@ -341,7 +341,7 @@ void tst_dialogform::windowFlags()
     QVERIFY(!(kept.windowFlags() & Qt::WindowContextHelpButtonHint));
 }
 
-void tst_dialogform::helpTopic()
+void DialogFormTest::helpTopic()
 {
     TestDialog dialog;
     QCOMPARE(dialog.GetHelpId(), 9000);
@@ -351,7 +351,7 @@ void tst_dialogform::helpTopic()
     QVERIFY(dialog.isVisible());
 }
 
-void tst_dialogform::buttonIcons()
+void DialogFormTest::buttonIcons()
 {
     const auto color = [](const QPushButton *button) {
         return button->icon().pixmap(16).toImage().pixelColor(8, 8);
@@ -373,7 +373,7 @@ void tst_dialogform::buttonIcons()
     Q_INIT_RESOURCE(hosticons);
 }
 
-void tst_dialogform::table()
+void DialogFormTest::table()
 {
     const TestDialog dialog;
     const MgCommandTableView *view = dialog.ui.command_tableView;
@@ -401,7 +401,7 @@ void tst_dialogform::table()
     QCOMPARE(dialog.shown(0), sorted);
 }
 
-void tst_dialogform::columnsAndRows()
+void DialogFormTest::columnsAndRows()
 {
     TestDialog dialog;
     const MgCommandTableView *view = dialog.ui.command_tableView;
@@ -416,7 +416,7 @@ void tst_dialogform::columnsAndRows()
     QCOMPARE(view->verticalHeader()->defaultSectionSize(), view->fontMetrics().height() + 8);
 }
 
-void tst_dialogform::directionIcons_data()
+void DialogFormTest::directionIcons_data()
 {
     QTest::addColumn<int>("direction");
     QTest::addColumn<QString>("eight");
@@ -433,7 +433,7 @@ void tst_dialogform::directionIcons_data()
     }
 }
 
-void tst_dialogform::directionIcons()
+void DialogFormTest::directionIcons()
 {
     QFETCH(int, direction);
     QFETCH(QString, eight);
@@ -460,7 +460,7 @@ void tst_dialogform::directionIcons()
     }
 }
 
-void tst_dialogform::categories()
+void DialogFormTest::categories()
 {
     m_host->addTopLevelMenu(QStringLiteral("D&&imension"));
     m_host->addTopLevelMenu(QStringLiteral("&Draw"));
@@ -476,7 +476,7 @@ void tst_dialogform::categories()
     QCOMPARE(dialog.ui.category_comboBox->currentIndex(), 0);
 }
 
-void tst_dialogform::categoriesWithGapsInTheMenus()
+void DialogFormTest::categoriesWithGapsInTheMenus()
 {
     m_host->menuItems.items.push_back(nullptr);
     m_host->ui.addItem(&m_host->menuItems, QStringLiteral("no menus in it"), false);
@@ -489,7 +489,7 @@ void tst_dialogform::categoriesWithGapsInTheMenus()
     QCOMPARE(dialog.ui.category_comboBox->itemText(7), QStringLiteral("Others"));
 }
 
-void tst_dialogform::categoriesWithoutMenus()
+void DialogFormTest::categoriesWithoutMenus()
 {
     const auto items = [] {
         const TestDialog dialog;
@@ -510,7 +510,7 @@ void tst_dialogform::categoriesWithoutMenus()
     m_host->setPresent(true);
 }
 
-void tst_dialogform::everyControlHasAnAccessibleName()
+void DialogFormTest::everyControlHasAnAccessibleName()
 {
     TestDialog dialog;
     QVERIFY(tests::showActive(dialog));
@@ -528,7 +528,7 @@ void tst_dialogform::everyControlHasAnAccessibleName()
              QStringLiteral("Commands and their gestures"));
 }
 
-void tst_dialogform::tabReachesEveryControl()
+void DialogFormTest::tabReachesEveryControl()
 {
     TestDialog dialog;
     QVERIFY(tests::showActive(dialog));
@@ -578,14 +578,14 @@ void tst_dialogform::tabReachesEveryControl()
     QVERIFY(dialog.ui.buttonBox->isAncestorOf(QApplication::focusWidget()));
 }
 
-void tst_dialogform::labelsPointToTheirControls()
+void DialogFormTest::labelsPointToTheirControls()
 {
     const TestDialog dialog;
     QCOMPARE(dialog.ui.category_label->buddy(), dialog.ui.category_comboBox);
     QCOMPARE(dialog.ui.search_label->buddy(), dialog.ui.search_lineEdit);
 }
 
-void tst_dialogform::everythingDiesWithTheDialog()
+void DialogFormTest::everythingDiesWithTheDialog()
 {
     auto dialog = std::make_unique<TestDialog>();
     QVERIFY(tests::showActive(*dialog));
@@ -603,7 +603,7 @@ void tst_dialogform::everythingDiesWithTheDialog()
 }
 
 // A leak in one of them is the leak checker's to find; nothing may be left alive.
-void tst_dialogform::thousandOpenings()
+void DialogFormTest::thousandOpenings()
 {
     int deaths = 0;
     const auto count = [this, &deaths](QObject *object) {
@@ -629,5 +629,5 @@ void tst_dialogform::thousandOpenings()
     QCOMPARE(QApplication::allWidgets().size(), before);
 }
 
-QTEST_MAIN(tst_dialogform)
+QTEST_MAIN(DialogFormTest)
 #include "tst_dialogform.moc"

@@ -25,12 +25,11 @@
 #include <cmath>
 #include <memory>
 
+using tests::kCommand;
+using tests::kDirection;
 using tests::TestDialog;
 
 namespace {
-
-constexpr int kCommand = 1;
-constexpr int kDirection = 2;
 
 std::unique_ptr<QTextDocument> documentOf(QAbstractItemModel *model)
 {
@@ -102,7 +101,7 @@ int pagesOf(const QString &file)
 
 } // namespace
 
-class tst_printing : public QObject
+class PrintingTest : public QObject
 {
     Q_OBJECT
 
@@ -151,7 +150,7 @@ private:
     std::unique_ptr<TestDialog> m_dialog;
 };
 
-void tst_printing::initTestCase()
+void PrintingTest::initTestCase()
 {
     tests::failOnWarnings();
     QVERIFY(m_folder.isValid());
@@ -161,21 +160,21 @@ void tst_printing::initTestCase()
                  .isEmpty());
 }
 
-void tst_printing::init()
+void PrintingTest::init()
 {
     tests::resetWarnings();
     m_file = m_folder.filePath(QLatin1String(QTest::currentTestFunction()) + QLatin1String(".pdf"));
     m_host = std::make_unique<tests::FakeHost>();
 }
 
-void tst_printing::cleanup()
+void PrintingTest::cleanup()
 {
     m_dialog.reset();
     m_host.reset();
     QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
 }
 
-void tst_printing::open(int commands)
+void PrintingTest::open(int commands)
 {
     tests::addDraftingCommands(*m_host, commands, true);
     MgDonutDataContainer::instance()->init();
@@ -188,13 +187,13 @@ void tst_printing::open(int commands)
     QVERIFY(tests::showActive(*m_dialog));
 }
 
-void tst_printing::printToFile()
+void PrintingTest::printToFile()
 {
     tests::click(m_dialog->ui.print_pushButton);
     QVERIFY(QFile::exists(m_file));
 }
 
-void tst_printing::headerOnlyWhenNothingMatches()
+void PrintingTest::headerOnlyWhenNothingMatches()
 {
     open(30);
     m_dialog->ui.search_lineEdit->setText(QStringLiteral("no such command"));
@@ -208,7 +207,7 @@ void tst_printing::headerOnlyWhenNothingMatches()
                                            QStringLiteral("Select"), QStringLiteral("1")}));
 }
 
-void tst_printing::rowsInTheOrderOfTheSelectColumn()
+void PrintingTest::rowsInTheOrderOfTheSelectColumn()
 {
     open(30);
     m_dialog->ui.filter_checkBox->setChecked(true);
@@ -233,7 +232,7 @@ void tst_printing::rowsInTheOrderOfTheSelectColumn()
     }
 }
 
-void tst_printing::filteredRowsOnly()
+void PrintingTest::filteredRowsOnly()
 {
     open(30);
     m_dialog->ui.category_comboBox->setCurrentIndex(4);
@@ -248,7 +247,7 @@ void tst_printing::filteredRowsOnly()
     QVERIFY(!words.contains(QStringLiteral("File")));
 }
 
-void tst_printing::cellWithIconAndNoTextHasMargins()
+void PrintingTest::cellWithIconAndNoTextHasMargins()
 {
     QStandardItemModel model(3, 1);
     model.setItem(0, 0, new QStandardItem(tests::squareIcon(Qt::red), QString()));
@@ -272,7 +271,7 @@ void tst_printing::cellWithIconAndNoTextHasMargins()
     QVERIFY(block(3).hasProperty(QTextFormat::BlockAlignment));
 }
 
-void tst_printing::rowsAlternate()
+void PrintingTest::rowsAlternate()
 {
     open(30);
     const auto document = documentOf(m_dialog->proxy);
@@ -286,7 +285,7 @@ void tst_printing::rowsAlternate()
     }
 }
 
-void tst_printing::leadingSpacesAreKept()
+void PrintingTest::leadingSpacesAreKept()
 {
     QStandardItemModel model(2, 1);
     model.setItem(0, 0, new QStandardItem(QStringLiteral("   three before, two behind  ")));
@@ -298,7 +297,7 @@ void tst_printing::leadingSpacesAreKept()
     QCOMPARE(textOf(table->cellAt(2, 0)).mid(1), QStringLiteral("   one before"));
 }
 
-void tst_printing::tableFormat()
+void PrintingTest::tableFormat()
 {
     open(10);
     const auto document = documentOf(m_dialog->proxy);
@@ -312,7 +311,7 @@ void tst_printing::tableFormat()
     QCOMPARE(format.alignment(), Qt::AlignLeft);
 }
 
-void tst_printing::headerCells()
+void PrintingTest::headerCells()
 {
     open(10);
     const auto document = documentOf(m_dialog->proxy);
@@ -345,7 +344,7 @@ void tst_printing::headerCells()
     QVERIFY(!plain.foreground().color().isValid());
 }
 
-void tst_printing::rolesOfTheModel()
+void PrintingTest::rolesOfTheModel()
 {
     QStandardItemModel model(2, 1);
     const QFont font(QStringLiteral("Serif"), 20, QFont::Bold, true);
@@ -370,7 +369,7 @@ void tst_printing::rolesOfTheModel()
              QColor(Qt::green));
 }
 
-void tst_printing::blocksTakeTheModelsAlignment()
+void PrintingTest::blocksTakeTheModelsAlignment()
 {
     open(10);
     const auto document = documentOf(m_dialog->proxy);
@@ -389,7 +388,7 @@ void tst_printing::blocksTakeTheModelsAlignment()
              Qt::AlignRight);
 }
 
-void tst_printing::iconsAreThirtyTwoPixels()
+void PrintingTest::iconsAreThirtyTwoPixels()
 {
     open(10);
     const auto document = documentOf(m_dialog->proxy);
@@ -412,7 +411,7 @@ void tst_printing::iconsAreThirtyTwoPixels()
     QCOMPARE(textOf(table->cellAt(unbound + 1, kDirection)), QString());
 }
 
-void tst_printing::textIsNeverRendered_data()
+void PrintingTest::textIsNeverRendered_data()
 {
     QTest::addColumn<QString>("text");
     QTest::newRow("markup") << QStringLiteral("<h1>Line</h1><img src=\"/etc/hostname\">&amp;");
@@ -426,7 +425,7 @@ void tst_printing::textIsNeverRendered_data()
     QTest::newRow("enormous") << QString(100000, QLatin1Char('W'));
 }
 
-void tst_printing::textIsNeverRendered()
+void PrintingTest::textIsNeverRendered()
 {
     QFETCH(QString, text);
     m_host->commands.addCommand(QStringLiteral("ID_BAD"), QStringLiteral("bad"), text, text);
@@ -448,7 +447,7 @@ void tst_printing::textIsNeverRendered()
     QVERIFY(pagesOf(m_file) >= 1);
 }
 
-void tst_printing::modelsWithoutATable()
+void PrintingTest::modelsWithoutATable()
 {
     QStandardItemModel empty;
     QVERIFY(!tableOf(*documentOf(&empty)));
@@ -459,7 +458,7 @@ void tst_printing::modelsWithoutATable()
     QVERIFY(!tableOf(*documentOf(&rowsOnly)));
 }
 
-void tst_printing::belongsToTheCaller()
+void PrintingTest::belongsToTheCaller()
 {
     QStandardItemModel model(1, 1);
     QPointer<QTextDocument> document = createBindingListDocument(&model);
@@ -468,7 +467,7 @@ void tst_printing::belongsToTheCaller()
     QVERIFY(!document);
 }
 
-void tst_printing::printsWhatTheTableShows()
+void PrintingTest::printsWhatTheTableShows()
 {
     open(60);
     printToFile();
@@ -487,7 +486,7 @@ void tst_printing::printsWhatTheTableShows()
 }
 
 // The colours of a printed page: the header, both kinds of rows, an icon and an arrow.
-void tst_printing::printedPagesLook()
+void PrintingTest::printedPagesLook()
 {
     open(8);
     m_dialog->ui.command_tableView->sortByColumn(kDirection, Qt::AscendingOrder);
@@ -516,7 +515,7 @@ void tst_printing::printedPagesLook()
     QVERIFY(arrow);
 }
 
-void tst_printing::cancelledPrintsNothing()
+void PrintingTest::cancelledPrintsNothing()
 {
     open(10);
     int asked = 0;
@@ -537,7 +536,7 @@ void tst_printing::cancelledPrintsNothing()
     QVERIFY(!shown.isEmpty());
 }
 
-void tst_printing::realPrintDialog_data()
+void PrintingTest::realPrintDialog_data()
 {
     QTest::addColumn<bool>("printed");
     QTest::newRow("cancelled") << false;
@@ -545,7 +544,7 @@ void tst_printing::realPrintDialog_data()
 }
 
 // Qt's own dialog, on a machine that may have no printer at all.
-void tst_printing::realPrintDialog()
+void PrintingTest::realPrintDialog()
 {
     QFETCH(bool, printed);
     open(10);
@@ -576,7 +575,7 @@ void tst_printing::realPrintDialog()
         QVERIFY(wordsOf(m_file).contains(QStringLiteral("Offset")));
 }
 
-void tst_printing::everyPrintStartsAfresh()
+void PrintingTest::everyPrintStartsAfresh()
 {
     open(10);
     QStringList names;
@@ -598,7 +597,7 @@ void tst_printing::everyPrintStartsAfresh()
 
 // A document that outlived its printing would be the leak checker's to find; that it is
 // printed at all and again is seen here.
-void tst_printing::documentIsFreed()
+void PrintingTest::documentIsFreed()
 {
     open(10);
     for (int print = 0; print < 20; ++print)
@@ -606,7 +605,7 @@ void tst_printing::documentIsFreed()
     QCOMPARE(pagesOf(m_file), 1);
 }
 
-void tst_printing::tenThousandCommands()
+void PrintingTest::tenThousandCommands()
 {
     open(10000);
     m_dialog->ui.command_tableView->sortByColumn(kCommand, Qt::AscendingOrder);
@@ -619,7 +618,7 @@ void tst_printing::tenThousandCommands()
     QVERIFY(all.contains(m_dialog->shown().back()));
 }
 
-void tst_printing::tableViewFillsTheArea()
+void PrintingTest::tableViewFillsTheArea()
 {
     QStandardItemModel model(2, 2);
     for (int row = 0; row < 2; ++row) {
@@ -651,7 +650,7 @@ void tst_printing::tableViewFillsTheArea()
     QVERIFY(image.pixelColor(2, 2) != QColor(Qt::black));
 }
 
-void tst_printing::tableViewPaintsRowsThatAreScrolledAway()
+void PrintingTest::tableViewPaintsRowsThatAreScrolledAway()
 {
     QStandardItemModel model(100, 1);
     for (int row = 0; row < 100; ++row)
@@ -671,7 +670,7 @@ void tst_printing::tableViewPaintsRowsThatAreScrolledAway()
 }
 
 // The vertical scale is left infinite.
-void tst_printing::tableViewWithoutRows()
+void PrintingTest::tableViewWithoutRows()
 {
     QStandardItemModel model(0, 2);
     PrintTableView view;
@@ -689,7 +688,7 @@ void tst_printing::tableViewWithoutRows()
     QCOMPARE(image, before);
 }
 
-void tst_printing::tableViewWithoutModel()
+void PrintingTest::tableViewWithoutModel()
 {
     PrintTableView view;
     QImage image(20, 20, QImage::Format_RGB32);
@@ -701,5 +700,5 @@ void tst_printing::tableViewWithoutModel()
     QCOMPARE(image, before);
 }
 
-QTEST_MAIN(tst_printing)
+QTEST_MAIN(PrintingTest)
 #include "tst_printing.moc"

@@ -1,29 +1,23 @@
-"""Gestures in real programs, with real input, judged by what the programs did.
+"""Gestures in real programs, with real input. The tests check what the programs did.
 
     with-desktop.sh python3 test_gestures.py --build DIR --program NAME [TEST...]
 
-Every test starts the program anew, in folders of its own below DIR/e2e. What must not
-happen is never waited for: the test goes on to something that must happen after it, and
-then looks at all that happened up to there.
+Every test starts the program in new folders below DIR/e2e. A test never waits to see that
+something does not happen. It waits for a later event that must happen, and then checks
+everything up to there.
 """
 
-import argparse
 import configparser
 import dataclasses
 import random
 import re
-import sys
-import unittest
 from pathlib import Path
 
 from harness.programs import EIGHT, FOUR, PROGRAMS
-from harness.session import ANSWER_SECONDS, DRAWING_NAME, RING_SIZE, Session
+from harness.programtest import ProgramTest, option_parser, run_tests
+from harness.session import ANSWER_SECONDS, RING_SIZE
 
-BUILD = None
-PROGRAM = None
-LAUNCHER = None
-
-# What reaches the program by mouse and keyboard, and what it makes of it.
+# The input that reaches the program, and what the program does with it.
 INPUT = ("press", "release", "doubleclick", "contextmenu", "key", "menu", "triggered")
 
 ALL_KEYS = ["enablemousegesture", "activescheme", *(f"4{n}" for n in range(1, 5)),
@@ -34,21 +28,12 @@ def without_numbers(line):
     return re.sub(r"0x[0-9a-f]+|\d+", "#", line)
 
 
-class Gestures(unittest.TestCase):
-    def session(self, name=None, **how):
-        folder = BUILD / "e2e" / PROGRAM.name / (name or self._testMethodName)
-        return Session(PROGRAM, BUILD, folder, launcher=LAUNCHER, **how)
-
-    def end(self, session):
-        """Ends the program as a person does; it must be in good health to its last line."""
-        self.assertEqual(session.quit(), 0)
-        self.assertEqual(session.cores(), [])
-
+class GesturesTest(ProgramTest):
     # --- the instruments themselves
 
     def test_instruments(self):
-        """What the driver does, the spy sees, in a program without gestures: to be looked at
-        first when other tests fail."""
+        """The spy sees what the driver does, in a program without gestures. If other tests fail,
+        look at this one first."""
         with self.session(gestures=False) as session:
             x, y = session.middle()
             session.driver.ask("move", x + 10, y - 20)
@@ -59,8 +44,8 @@ class Gestures(unittest.TestCase):
             session.driver.ask("drag", -30, 15, 100, 5)
             session.driver.ask("release", 1)
             session.expect(mark, lambda line: line[0] == "release", "the release")
-            # What a view ignores, those that it is in see as well.
-            view = PROGRAM.viewport or PROGRAM.view
+            # Its parents also see the events that the view ignores.
+            view = self.program.viewport or self.program.view
             seen = [line for line in session.spy.since(mark, "press", "release") if line[2] == view]
             self.assertEqual(seen, [["press", "1", view, f"{x + 10},{y - 20}"],
                                     ["release", "1", view, f"{x - 20},{y - 5}"]])
@@ -75,33 +60,33 @@ class Gestures(unittest.TestCase):
     def test_eight_directions(self):
         with self.session() as session:
             for direction in EIGHT:
-                session.gesture_runs(direction, PROGRAM.eight[direction])
+                session.gesture_runs(direction, self.program.eight[direction])
                 session.cancel_tool()
             self.end(session)
 
     def test_four_directions(self):
         with self.session(settings={"ActiveScheme": "4"}) as session:
             for direction in FOUR:
-                session.gesture_runs(direction, PROGRAM.four[direction])
+                session.gesture_runs(direction, self.program.four[direction])
                 session.cancel_tool()
             self.end(session)
 
     def test_bindings_come_from_the_settings(self):
         bindings = {"ActiveScheme": "4", "41": "ID_LINE", "42": "", "43": "ID_ZOOM_BOUNDS", "44": "ID_LINE"}
         with self.session(settings=bindings) as session:
-            session.gesture_runs("up", PROGRAM.eight["right"])
+            session.gesture_runs("up", self.program.eight["right"])
             session.cancel_tool()
             mark = session.spy.mark()
             session.gesture("left")
             session.ring_is_gone()
-            session.gesture_runs("down", PROGRAM.eight["up"])
+            session.gesture_runs("down", self.program.eight["up"])
             self.assertEqual([line[1] for line in session.spy.since(mark, "triggered")],
-                             [PROGRAM.eight["up"]], "an unbound direction ran something")
+                             [self.program.eight["up"]], "an unbound direction ran something")
             self.end(session)
 
     def test_first_gesture_fills_the_settings(self):
         with self.session() as session:
-            session.gesture_runs("up", PROGRAM.eight["up"])
+            session.gesture_runs("up", self.program.eight["up"])
             self.end(session)
             settings = configparser.ConfigParser(interpolation=None)
             settings.read(session.settings_file)
@@ -120,18 +105,18 @@ class Gestures(unittest.TestCase):
             session.wait_for_ring()
             session.driver.ask("release", 3)
             session.ring_is_gone()
-            session.gesture_runs("up", PROGRAM.eight["up"])
+            session.gesture_runs("up", self.program.eight["up"])
             self.assertEqual([line[1] for line in session.spy.since(mark, "triggered")],
-                             [PROGRAM.eight["up"]])
+                             [self.program.eight["up"]])
             self.assertEqual(session.spy.since(mark, "press", "contextmenu", "menu"), [],
                              "the program saw something of a gesture")
             self.end(session)
 
     def test_flick(self):
-        """The button is up again before the ring can be seen."""
+        """The button is released before the ring is visible."""
         with self.session() as session:
             for direction in FOUR:
-                session.gesture_runs(direction, PROGRAM.eight[direction], milliseconds=150)
+                session.gesture_runs(direction, self.program.eight[direction], milliseconds=150)
                 session.cancel_tool()
             self.end(session)
 
@@ -148,20 +133,20 @@ class Gestures(unittest.TestCase):
             session.driver.ask("release", 3)
             session.expect(mark, lambda line: line[0] == "triggered", "a command")
             self.assertEqual([line[1] for line in session.spy.since(mark, "triggered")],
-                             [PROGRAM.eight["right"]])
+                             [self.program.eight["right"]])
             self.end(session)
 
     def test_ten_in_a_row(self):
         with self.session() as session:
             for _ in range(5):
-                session.gesture_runs("up", PROGRAM.eight["up"])
-                session.gesture_runs("right", PROGRAM.eight["right"])
+                session.gesture_runs("up", self.program.eight["up"])
+                session.gesture_runs("right", self.program.eight["right"])
                 session.cancel_tool()
             self.end(session)
 
     def test_many_gestures_of_all_kinds(self):
-        """Fast and slow, straight and across, let go early: each runs its command once, or
-        none, and the program has the pointer and the keyboard back after it."""
+        """Fast and slow, straight and diagonal, released early: each gesture runs its command
+        once, or none, and then the program has the pointer and the keyboard back."""
         chance = random.Random(20)
         bindings = {"81": "ID_LINE", "82": "", "83": "ID_ZOOM_BOUNDS", "84": "", "85": "ID_LINE",
                     "86": "", "87": "ID_ZOOM_BOUNDS", "88": ""}
@@ -175,15 +160,15 @@ class Gestures(unittest.TestCase):
                 length = chance.randint(85, 200) if far else chance.randint(25, 60)
                 session.gesture(direction, length, chance.choice((0, 20, 60, 120, 250, 400)))
                 if far and direction in runs:
-                    expected.append(PROGRAM.eight[runs[direction]])
+                    expected.append(self.program.eight[runs[direction]])
                     session.expect(start, lambda _: len(session.spy.since(start, "triggered"))
                                    >= len(expected), f"command {len(expected)}, {direction}")
-                    if PROGRAM.cancel:  # another tool does not start while one is running
+                    if self.program.cancel:  # it does not start a tool while another one runs
                         session.cancel_tool()
                 session.settle()
-            session.gesture_runs("left", PROGRAM.eight["up"])
+            session.gesture_runs("left", self.program.eight["up"])
             ran = [line[1] for line in session.spy.since(start, "triggered")]
-            self.assertEqual(ran, [*expected, PROGRAM.eight["up"]])
+            self.assertEqual(ran, [*expected, self.program.eight["up"]])
             self.assertEqual(session.spy.since(start, "press", "contextmenu", "menu"), [])
             self.end(session)
 
@@ -233,14 +218,14 @@ class Gestures(unittest.TestCase):
                     if line[0] == "quit" or "DonutDialog" not in line[-1]]
             self.assertEqual(seen, [])
             self.assertEqual([line[1] for line in session.spy.since(mark, "triggered")],
-                             [PROGRAM.eight["up"]])
+                             [self.program.eight["up"]])
             self.end(session)
 
     # --- what is not a gesture
 
     def compare_with_the_bare_program(self, act, **how):
-        """Does the same in the program without gestures and in the one with them; both must
-        have seen the same."""
+        """Does the same in the program without gestures and with gestures. Both must see the
+        same."""
         seen = []
         for name, options in (("bare", {"gestures": False}), ("gestures", how)):
             with self.session(f"{self._testMethodName}-{name}", **options) as session:
@@ -258,7 +243,7 @@ class Gestures(unittest.TestCase):
     def test_right_click_is_unchanged(self):
         def act(session):
             session.right_click()
-            # Elsewhere, or it depends on the machine's speed whether it is a double click.
+            # At another place, or a slow machine would take it for a double click.
             x, y = session.middle()
             session.driver.ask("move", x + 60, y + 40)
             session.right_click()
@@ -268,14 +253,14 @@ class Gestures(unittest.TestCase):
         def act(session):
             mark = session.spy.mark()
             session.driver.ask("press", 3)
-            session.driver.ask("drag", 12, 8, 100)  # 20 pixels, one short of a gesture
+            session.driver.ask("drag", 12, 8, 100)  # 20 pixels; a gesture needs one more
             session.driver.ask("release", 3)
-            if PROGRAM.menu_on_release:
+            if self.program.menu_on_release:
                 session.close_context_menu(mark)
-            elif PROGRAM.context_menu:
-                # It opened under the pointer, so the release is for the entry there.
+            elif self.program.context_menu:
+                # The menu opened under the pointer, so the release chooses the entry there.
                 session.expect(mark, lambda line: line[0] == "triggered", "an entry of the menu")
-                session.wait_for_no_grab()
+                session.wait_for_free_input()
         self.compare_with_the_bare_program(act)
 
     def test_left_button_is_unchanged(self):
@@ -289,13 +274,13 @@ class Gestures(unittest.TestCase):
 
     def test_right_clicks_in_a_running_tool_are_unchanged(self):
         def act(session):
-            session.carry_out(PROGRAM.start_line)
+            session.start_line()
             session.driver.ask("click", 1)
             session.driver.ask("drag", 40, 30, 50)
             session.right_click()
             session.driver.ask("drag", 40, 30, 50) # too far for a double click
             session.right_click()
-            if not PROGRAM.cancel:  # elsewhere a panel may have taken the keyboard, or not yet
+            if not self.program.cancel:  # otherwise a panel may have the keyboard
                 session.driver.ask("key", "Escape")
         self.compare_with_the_bare_program(act)
 
@@ -303,9 +288,9 @@ class Gestures(unittest.TestCase):
         def act(session):
             mark = session.spy.mark()
             session.gesture("right")
-            if PROGRAM.menu_on_release:
+            if self.program.menu_on_release:
                 session.close_context_menu(mark)
-            session.wait_for_no_grab()
+            session.wait_for_free_input()
             session.driver.ask("key", "Escape")
         self.compare_with_the_bare_program(act, settings={"EnableMouseGesture": "0"})
 
@@ -318,50 +303,50 @@ class Gestures(unittest.TestCase):
             self.assertEqual(ran[0], "Mouse Gestures...")
             session.driver.ask("key", "Escape")
             session.dialog_is_gone()
-            session.gesture_runs("up", PROGRAM.eight["up"])
+            session.gesture_runs("up", self.program.eight["up"])
             self.end(session)
 
     def test_dialog_by_typing(self):
         with self.session() as session:
-            session.carry_out(PROGRAM.command_line)
+            session.carry_out(self.program.command_line)
             session.driver.ask("type", "gesture")
             session.driver.ask("key", "Return")
             session.focus("Mouse Gestures")
             session.driver.ask("key", "Escape")
             session.dialog_is_gone()
-            session.gesture_runs("up", PROGRAM.eight["up"])
+            session.gesture_runs("up", self.program.eight["up"])
             self.end(session)
 
     def test_bound_in_the_dialog_and_kept(self):
-        caption, action = PROGRAM.unbound
+        caption, action = self.program.unbound
         with self.session() as session:
-            session.gesture_runs("right", PROGRAM.eight["right"])
+            session.gesture_runs("right", self.program.eight["right"])
             session.cancel_tool()
             session.bind(caption, EIGHT.index("right") + 1)
             session.gesture_runs("right", action)
-            session.gesture_runs("up", PROGRAM.eight["up"])
+            session.gesture_runs("up", self.program.eight["up"])
             self.end(session)
             session.start_again()
             session.gesture_runs("right", action)
-            session.gesture_runs("up", PROGRAM.eight["up"])
+            session.gesture_runs("up", self.program.eight["up"])
             self.end(session)
 
     # --- the end
 
     def test_no_complaints(self):
-        """Nothing on standard error that the program does not say by itself."""
+        """Standard error has only lines that the program also prints without gestures."""
         complaints = []
         for name, gestures in (("bare", False), ("gestures", True)):
             with self.session(f"{self._testMethodName}-{name}", gestures=gestures) as session:
                 if gestures:
-                    session.gesture_runs("right", PROGRAM.eight["right"])
+                    session.gesture_runs("right", self.program.eight["right"])
                 session.cancel_tool()
                 self.end(session)
                 complaints.append({without_numbers(line) for line in session.complaints()})
         self.assertEqual(complaints[1] - complaints[0], set())
 
     def test_a_hundred_starts(self):
-        """Each ends as a person ends it, in good health and with no word of ours."""
+        """Each start ends normally, and we print nothing on standard error."""
         with self.session(f"{self._testMethodName}-bare", gestures=False) as session:
             self.end(session)
             own = {without_numbers(line) for line in session.complaints()}
@@ -396,22 +381,19 @@ class Gestures(unittest.TestCase):
 
 
 def main():
-    global BUILD, LAUNCHER, PROGRAM
-    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
-    parser.add_argument("--build", type=Path, required=True)
+    parser = option_parser(__doc__.splitlines()[0])
     parser.add_argument("--program", choices=sorted(PROGRAMS), required=True)
     parser.add_argument("--launcher", type=Path,
-                        help="an installed mouse-gestures; the build's when not given")
-    parser.add_argument("--executable", help="the program's file, where it is not the usual one")
-    parser.add_argument("tests", nargs="*", help="names without \"test_\"; all when none is given")
+                        help="an installed mouse-gestures (default: the one of the build)")
+    parser.add_argument("--executable", help="the program's file, if it is not the usual one")
     options = parser.parse_args()
-    BUILD = options.build.resolve()
-    PROGRAM = PROGRAMS[options.program]
+    program = PROGRAMS[options.program]
     if options.executable:
-        PROGRAM = dataclasses.replace(PROGRAM, executable=options.executable)
-    LAUNCHER = options.launcher
-    names = [f"Gestures.test_{name}" for name in options.tests] or None
-    unittest.main(argv=[sys.argv[0]], defaultTest=names, verbosity=2)
+        program = dataclasses.replace(program, executable=options.executable)
+    GesturesTest.program = program
+    GesturesTest.folder = program.name
+    GesturesTest.launcher = options.launcher
+    run_tests(GesturesTest, options)
 
 
 if __name__ == "__main__":

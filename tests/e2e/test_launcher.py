@@ -1,28 +1,28 @@
 #!/usr/bin/env python3
-"""What mouse-gestures says and prints of a real program, which runs without a screen."""
+"""What mouse-gestures reports and prints about a real program, which runs without a screen."""
 
-import argparse
 import json
 import os
 import shutil
 import subprocess
-import sys
 import tempfile
 import unittest
 from pathlib import Path
 
 from harness.programs import EIGHT, PROGRAMS
+from harness.programtest import option_parser, run_tests
 
 ROOT = Path(__file__).resolve().parents[2]
 PROGRAM = PROGRAMS["librecad"]
 DRAWING = ROOT / "samples" / "bracket.dxf"
-# What lies in each direction at first, in the order of EIGHT.
+# The default command of each direction, in the order of EIGHT.
 FIRST = ("ID_ZOOM_BOUNDS", "ID_OFFSET", "ID_OPEN", "ID_COPY", "ID_SAVE", "ID_DTEXT", "ID_LINE",
          "ID_TRIM")
-BUILD = None
 
 
-class Launcher(unittest.TestCase):
+class LauncherTest(unittest.TestCase):
+    build = None
+
     def setUp(self):
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
@@ -38,7 +38,7 @@ class Launcher(unittest.TestCase):
                        if name not in ("DISPLAY", "WAYLAND_DISPLAY", "GESTUREWIDGET_PROFILES")}
         environment.update(HOME=str(self.folder), XDG_CONFIG_HOME=str(self.folder),
                            XDG_RUNTIME_DIR=str(self.folder), QT_QPA_PLATFORM="offscreen")
-        result = subprocess.run([BUILD / "bin" / "mouse-gestures", *map(str, arguments)],
+        result = subprocess.run([self.build / "bin" / "mouse-gestures", *map(str, arguments)],
                                 stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                                 stderr=subprocess.PIPE, text=True, env=environment, timeout=150,
                                 check=False)
@@ -50,7 +50,7 @@ class Launcher(unittest.TestCase):
         return json.loads(result.stdout), result.stderr
 
     def test_guesses(self):
-        """A copy that no profile knows is taken for what the profile says of the original."""
+        """For a copy without a profile, the guesses equal the profile of the original."""
         unknown = self.folder / "unknown-cad"
         shutil.copy(shutil.which(PROGRAM.executable), unknown)
         guessed, reasons = self.explain(unknown)
@@ -61,7 +61,7 @@ class Launcher(unittest.TestCase):
         self.assertIn(f"view: {PROGRAM.view}", reasons)
         self.assertIn("since shortcut \"Ctrl+O\"", reasons)
 
-        # Kept as it stands, it is the program's profile from then on.
+        # The output, saved as it is, becomes the program's profile.
         profile = self.folder / "gesturewidget" / "profiles" / f"{unknown.name}.json"
         profile.parent.mkdir(parents=True, exist_ok=True)
         profile.write_text(json.dumps(guessed))
@@ -70,14 +70,14 @@ class Launcher(unittest.TestCase):
         self.assertIn(f"since the profile names its class {PROGRAM.view}", reasons)
 
     def test_profile(self):
-        """What the installed profile names is there."""
+        """Everything that the installed profile names exists in the program."""
         installed = json.loads((ROOT / "host" / "profiles" / f"{PROGRAM.name}.json").read_text())
         found, reasons = self.explain(PROGRAM.executable)
         self.assertEqual({**found, "why": None}, {**installed, "why": None})
         self.assertNotIn("none", reasons)
 
     def test_commands(self):
-        """Once it has run, its commands are known by their captions, and are printed."""
+        """After the first run, commands can be bound by their captions, and are printed."""
         self.explain(PROGRAM.executable)
         listed = self.run_launcher("--list-commands", PROGRAM.name, "--json").stdout
         identifiers = {command["identifier"] for command in json.loads(listed)["commands"]}
@@ -93,16 +93,5 @@ class Launcher(unittest.TestCase):
         self.assertEqual(text.casefold().count("zoom in"), 2, text)  # in the ring and in the table
 
 
-def main():
-    global BUILD
-    parser = argparse.ArgumentParser(description=__doc__)
-    parser.add_argument("--build", type=Path, required=True)
-    parser.add_argument("tests", nargs="*", help="names without \"test_\"; all when none is given")
-    options = parser.parse_args()
-    BUILD = options.build.resolve()
-    names = [f"Launcher.test_{name}" for name in options.tests] or None
-    unittest.main(argv=[sys.argv[0]], defaultTest=names, verbosity=2)
-
-
 if __name__ == "__main__":
-    main()
+    run_tests(LauncherTest, option_parser(__doc__).parse_args())

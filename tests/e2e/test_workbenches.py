@@ -2,26 +2,21 @@
 
     with-desktop.sh python3 test_workbenches.py --build DIR [TEST...]
 
-See test_gestures.py for how a test is made.
+test_gestures.py describes how the tests work.
 """
 
-import argparse
 import configparser
 import dataclasses
 import json
-import sys
-import unittest
-from pathlib import Path
 
 from harness.programs import EIGHT, PROGRAMS
-from harness.session import ANSWER_SECONDS, Session
+from harness.programtest import ProgramTest, option_parser, run_tests
 
-BUILD = None
 PROGRAM = PROGRAMS["freecad"]
 ENTRY = "Mouse Gestures..."
-FIRST_SWITCH_SECONDS = 60  # the first time, a workbench is loaded
+FIRST_SWITCH_SECONDS = 60  # the first switch loads the workbench
 
-# Workbench to the key that follows W, and a menu that no other of them has.
+# For each workbench: the key that follows W, and a menu that only this workbench has.
 WORKBENCHES = {
     "DraftWorkbench": ("2", "Modification"),
     "ImageWorkbench": ("5", "Image"),
@@ -31,14 +26,9 @@ TEN_SWITCHES = ("ImageWorkbench", "MeshWorkbench", "DraftWorkbench", "ImageWorkb
                 "DraftWorkbench", "MeshWorkbench", "DraftWorkbench", "ImageWorkbench", "MeshWorkbench")
 
 
-class Workbenches(unittest.TestCase):
-    def session(self, name=None, program=PROGRAM, **how):
-        folder = BUILD / "e2e" / "workbenches" / (name or self._testMethodName)
-        return Session(program, BUILD, folder, **how)
-
-    def end(self, session):
-        self.assertEqual(session.quit(), 0)
-        self.assertEqual(session.cores(), [])
+class WorkbenchesTest(ProgramTest):
+    folder = "workbenches"
+    program = PROGRAM
 
     def switch(self, session, workbench):
         mark = session.spy.mark()
@@ -49,28 +39,23 @@ class Workbenches(unittest.TestCase):
                        FIRST_SWITCH_SECONDS)
 
     def tools_menu(self, session):
-        """The captions in the Tools menu, as a person who opens it sees them."""
+        """The captions in the open Tools menu."""
         mark = session.spy.mark()
         session.driver.ask("key", "alt+t")
         entries = session.expect(mark, lambda line: line[0] == "entries", "the Tools menu")[1:]
         session.driver.ask("key", "Escape")
         session.expect(mark, lambda line: line[:2] == ["gone", "QMenu"], "the menu to close")
-        session.wait_for_no_grab()
+        session.wait_for_free_input()
         session.driver.ask("key", "Escape")
         return entries
 
     def categories(self, session):
-        """What the dialog offers to choose from."""
-        mark = session.spy.mark()
-        session.driver.ask("key", "alt+t")
-        session.expect(mark, lambda line: line[0] == "menu", "the Tools menu")
-        session.driver.ask("key", "Up")
-        session.driver.ask("key", "Return")
-        session.focus("Mouse Gestures")
+        """The categories in the dialog."""
+        mark = session.open_dialog()
         choices = session.expect(mark, lambda line: line[0] == "choices" and "File" in line,
                                  "the dialog's categories")[1:]
         session.driver.ask("key", "Escape")
-        session.driver.ask("wait-no-window", "Mouse Gestures", ANSWER_SECONDS * 1000)
+        session.dialog_is_gone()
         return choices
 
     def bindings(self, session):
@@ -88,7 +73,7 @@ class Workbenches(unittest.TestCase):
                 entries = self.tools_menu(session)
                 self.assertEqual(entries.count(ENTRY), 1, f"in {workbench}: {entries}")
                 self.assertEqual(entries[-1], ENTRY, f"in {workbench}")
-            # A workbench that has no drawing commands.
+            # The current workbench has no drawing commands.
             session.gesture_runs("up", PROGRAM.eight["up"])
             self.assertEqual(self.bindings(session), before)
             self.switch(session, "DraftWorkbench")
@@ -110,7 +95,7 @@ class Workbenches(unittest.TestCase):
             self.end(session)
 
     def test_a_workbench_that_was_never_loaded(self):
-        """Bindings to its commands outlive a gesture all the same."""
+        """A gesture keeps the bindings to its commands."""
         text = PROGRAM.configuration["FreeCAD/user.cfg"]
         program = dataclasses.replace(PROGRAM, configuration={
             "FreeCAD/user.cfg": text.replace("DraftWorkbench", "ImageWorkbench")})
@@ -124,7 +109,7 @@ class Workbenches(unittest.TestCase):
                              {key: value for key, value in given.items() if key != "ActiveScheme"})
 
     def test_a_command_of_an_earlier_start(self):
-        """It can be bound while its workbench was never loaded, and runs as soon as it is."""
+        """It can be bound before its workbench is loaded, and runs after that."""
         with self.session() as session:
             session.gesture_runs("up", PROGRAM.eight["up"])
             self.end(session)
@@ -150,16 +135,5 @@ class Workbenches(unittest.TestCase):
         return [command["identifier"] for command in commands]
 
 
-def main():
-    global BUILD
-    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
-    parser.add_argument("--build", type=Path, required=True)
-    parser.add_argument("tests", nargs="*", help="names without \"test_\"; all when none is given")
-    options = parser.parse_args()
-    BUILD = options.build.resolve()
-    names = [f"Workbenches.test_{name}" for name in options.tests] or None
-    unittest.main(argv=[sys.argv[0]], defaultTest=names, verbosity=2)
-
-
 if __name__ == "__main__":
-    main()
+    run_tests(WorkbenchesTest, option_parser(__doc__.splitlines()[0]).parse_args())

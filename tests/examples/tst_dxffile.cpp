@@ -1,5 +1,6 @@
 #include "examples/sketchpad/DxfFile.h"
 #include "tests/support/FatalWarnings.h"
+#include "tests/support/FileSizeLimit.h"
 
 #include <QDir>
 #include <QFile>
@@ -9,7 +10,7 @@
 
 #include <cmath>
 
-class TestDxfFile : public QObject
+class DxfFileTest : public QObject
 {
     Q_OBJECT
 
@@ -30,7 +31,7 @@ class TestDxfFile : public QObject
         QFile file(path);
         return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
     }
-    // A file whose entities section is this, '|' for a line's end.
+    // Reads a file with this ENTITIES section, in which '|' ends a line.
     [[nodiscard]] Sheet readEntities(const char *entities) const
     {
         QByteArray text = QByteArray("0|SECTION|2|ENTITIES|") + entities + "0|ENDSEC|0|EOF|";
@@ -111,9 +112,33 @@ private Q_SLOTS:
         for (std::size_t i = 0; i < sheet.entities.size(); ++i)
             compare(again->entities[i], sheet.entities[i]);
 
-        // And nothing changes from then on.
+        // Writing it again changes nothing.
         QVERIFY(dxf::write(*again, path("twice.dxf"), &error));
         QCOMPARE(contents(path("twice.dxf")), contents(path("all.dxf")));
+    }
+
+    void typedTextIsReadAsTyped_data()
+    {
+        QTest::addColumn<QString>("typed");
+        for (const char *typed :
+             {"\\U+0041", "\\\\U+0041", "\\U+005CU+0041", "\\U+", "\\u+0041", "C:\\Users", "%%d", "%%P",
+              "%%%c", "%%%%", "100 %", "%\\U+0025d", "%%u under %%u", "  blanks  "})
+            QTest::newRow(typed) << QString::fromLatin1(typed);
+    }
+    void typedTextIsReadAsTyped()
+    {
+        QFETCH(QString, typed);
+        Sheet sheet;
+        sheet.layers[typed] = {};
+        sheet.entities = {Entity::label({0, 0}, 5, typed)};
+        sheet.entities[0].layer = typed.trimmed();
+        QString error;
+        QVERIFY2(dxf::write(sheet, path("typed.dxf"), &error), qPrintable(error));
+        const auto again = dxf::read(path("typed.dxf"), &error);
+        QVERIFY2(again, qPrintable(error));
+        QCOMPARE(again->entities.size(), std::size_t(1));
+        QCOMPARE(again->entities[0].words, typed);
+        QCOMPARE(again->entities[0].layer, typed.trimmed());
     }
 
     void anglesInTheFileAreDegrees()
@@ -182,7 +207,7 @@ private Q_SLOTS:
         QCOMPARE(sheet.entities[1].layer, QStringLiteral("0"));
         QCOMPARE(sheet.entities[1].lineType, QStringLiteral("BYLAYER"));
         QCOMPARE(sheet.entities[1].color, 256);
-        // A line type that nobody defines is not referred to.
+        // The file does not refer to a line type that it does not define.
         QString error;
         QVERIFY(dxf::write(sheet, path("tables.dxf"), &error));
         QVERIFY(!contents(path("tables.dxf")).contains("DOTTED"));
@@ -225,13 +250,13 @@ private Q_SLOTS:
 
     void bulgesBecomeArcs()
     {
-        // A half circle to the right of the way from (0,0) to (10,0), then a quarter to its left.
+        // A half circle on the right of the line from (0,0) to (10,0), then a quarter on its left.
         const Sheet sheet = readEntities("0|LWPOLYLINE|90|3|70|0|10|0|20|0|42|1|10|10|20|0|42|"
                                          "-0.41421356237309503|10|20|20|10|");
         QCOMPARE(sheet.entities.size(), std::size_t(2));
         compare(sheet.entities[0], Entity::arc({5, 0}, 5, 180, 180));
         compare(sheet.entities[1], Entity::arc({20, 0}, 10, 90, 90));
-        // Its ends are where the vertices are.
+        // Its ends are at the vertices.
         QVERIFY(std::abs(sheet.entities[1].at(0).x() - 20) < 1e-9);
         QVERIFY(std::abs(sheet.entities[1].at(1).x() - 10) < 1e-9);
     }
@@ -306,7 +331,7 @@ private Q_SLOTS:
         int read = 0;
         for (int round = 0; round < 150; ++round) {
             QList<QByteArray> changed = lines;
-            // Mostly values: a line that is no group code ends it at once.
+            // Mostly values: reading stops at the first line that should be a group code.
             for (int i = 0; i < 20; ++i) {
                 const int at = random.bounded(int(changed.size() / 2 - 1)) * 2;
                 switch (random.bounded(6)) {
@@ -361,7 +386,7 @@ private Q_SLOTS:
         error.clear();
         QVERIFY(!dxf::write({}, m_folder.path(), &error));
         QVERIFY(!error.isEmpty());
-        // No place for the file that is written aside: there, not even root can write.
+        // The temporary file cannot be written: not even root can write to /proc.
         QVERIFY(put(path("old.dxf"), "old"));
         const QByteArray place = qgetenv("TMPDIR");
         qputenv("TMPDIR", "/proc");
@@ -375,7 +400,32 @@ private Q_SLOTS:
         QVERIFY(!error.isEmpty());
         QCOMPARE(contents(path("old.dxf")), QByteArray("old"));
     }
+
+    void aFullDiskKeepsTheOldFile()
+    {
+        Sheet sheet;
+        QString error;
+        QVERIFY(dxf::write(sheet, path("drawing.dxf"), &error));
+        const QByteArray old = contents(path("drawing.dxf"));
+        sheet.entities = {Entity::circle({0, 0}, 5)};
+        QVERIFY(dxf::write(sheet, path("whole.dxf"), &error));
+        const QByteArray whole = contents(path("whole.dxf"));
+        for (int room = 0; room < whole.size(); room += 499) {
+            error.clear();
+            bool written = false;
+            {
+                const tests::FileSizeLimit disk(room);
+                written = dxf::write(sheet, path("drawing.dxf"), &error);
+            }
+            QVERIFY2(!written, qPrintable(QString::number(room)));
+            QVERIFY(!error.isEmpty());
+            QCOMPARE(contents(path("drawing.dxf")), old);
+        }
+        const tests::FileSizeLimit disk(whole.size());
+        QVERIFY2(dxf::write(sheet, path("drawing.dxf"), &error), qPrintable(error));
+        QCOMPARE(contents(path("drawing.dxf")), whole);
+    }
 };
 
-QTEST_MAIN(TestDxfFile)
+QTEST_MAIN(DxfFileTest)
 #include "tst_dxffile.moc"

@@ -5,8 +5,8 @@
 
 namespace {
 
-// A whole file around these entities, written as "code value code value ...", a pair of
-// lines each; '|' separates.
+// A complete file with these entities, written as "code|value|code|value ...". Each code and
+// each value becomes a line.
 QByteArray fileOf(const char *entities, const char *sections = "")
 {
     QByteArray text = sections;
@@ -21,7 +21,7 @@ bool keeps(const DxfFilter &filter, const char *name)
     return filter.known().find(std::string("0\n") + name + "\n") != std::string::npos;
 }
 
-// A literal with zeros in it.
+// A literal that contains zero bytes.
 template <std::size_t size> QByteArray bytes(const char (&literal)[size])
 {
     return QByteArray(literal, int(size) - 1);
@@ -31,7 +31,7 @@ const char kLine[] = "0|LINE|8|0|10|1|20|2|11|3|21|4|";
 
 } // namespace
 
-class TestDxfFilter : public QObject
+class DxfFilterTest : public QObject
 {
     Q_OBJECT
 
@@ -127,7 +127,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, entity);
         QFETCH(QString, name);
         const DxfFilter filter(fileOf(entity.constData()));
-        QCOMPARE(filter.unread().value(name + QStringLiteral(" of which only a part is kept")), 1);
+        QCOMPARE(filter.unread().value(name + QStringLiteral(" (kept in part)")), 1);
         QCOMPARE(filter.unread().size(), 1);
         QVERIFY(keeps(filter, qPrintable(name)));
     }
@@ -225,10 +225,10 @@ private Q_SLOTS:
         QTest::newRow("binary DXF") << bytes("AutoCAD Binary DXF\r\n\x1a\0\0SECTION\0\2HEADER\0")
                                     << QStringLiteral(
                                            "It is a binary DXF file. Only text DXF files can be read.");
-        QTest::newRow("no end") << sound.left(sound.lastIndexOf("0\nEOF"))
-                                << QStringLiteral("It is cut short: the end of the drawing is missing.");
+        QTest::newRow("no end") << sound.left(sound.lastIndexOf(
+            "0\nEOF")) << QStringLiteral("It is incomplete: the end of the drawing is missing.");
         QTest::newRow("cut in the middle")
-            << sound.left(60) << QStringLiteral("It is cut short: the end of the drawing is missing.");
+            << sound.left(60) << QStringLiteral("It is incomplete: the end of the drawing is missing.");
         QTest::newRow("a line is missing")
             << QByteArray(sound).replace("\nLINE\n", "\n")
             << QStringLiteral("It is damaged: line 17 should be a group code.");
@@ -243,5 +243,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestDxfFilter)
+QTEST_MAIN(DxfFilterTest)
 #include "tst_dxffilter.moc"

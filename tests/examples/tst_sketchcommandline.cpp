@@ -10,7 +10,7 @@
 using Kind = CommandLine::Input::Kind;
 Q_DECLARE_METATYPE(CommandLine::Input::Kind)
 
-class TestSketchCommandLine : public QObject
+class SketchCommandLineTest : public QObject
 {
     Q_OBJECT
 
@@ -86,5 +86,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestSketchCommandLine)
+QTEST_MAIN(SketchCommandLineTest)
 #include "tst_sketchcommandline.moc"

@@ -4,7 +4,7 @@
 #include <QSignalSpy>
 #include <QtTest>
 
-class TestSketchDrawing : public QObject
+class SketchDrawingTest : public QObject
 {
     Q_OBJECT
 
@@ -94,7 +94,7 @@ private Q_SLOTS:
     {
         Drawing drawing;
         QVERIFY(!drawing.bounds());
-        // A level line alone has no height, yet it counts.
+        // A horizontal line has bounds too, of height 0.
         drawing.add(level(3));
         QCOMPARE(*drawing.bounds(), QRectF(0, 3, 10, 0));
         drawing.add(level(-1));
@@ -127,5 +127,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestSketchDrawing)
+QTEST_MAIN(SketchDrawingTest)
 #include "tst_sketchdrawing.moc"

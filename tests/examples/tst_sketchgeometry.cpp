@@ -30,7 +30,7 @@ const Entity kLevel = Entity::line({0, 0}, {10, 0});
 
 } // namespace
 
-class TestSketchGeometry : public QObject
+class SketchGeometryTest : public QObject
 {
     Q_OBJECT
 
@@ -62,7 +62,7 @@ private Q_SLOTS:
         QCOMPARE(touching.size(), std::size_t(1));
         QVERIFY(isAt(touching[0], 4, 0));
         QVERIFY(geometry::intersections(kLevel, Entity::circle({4, 3}, 2)).empty());
-        // Only the half of the circle that is there.
+        // Only crossings with the half of the circle that exists.
         QCOMPARE(geometry::intersections(kLevel, Entity::arc({5, 0}, 2, 90, 180)).size(),
                  std::size_t(1));
     }
@@ -135,7 +135,7 @@ private Q_SLOTS:
         const auto end = geometry::trim(kLevel, {9, 0}, edges);
         QCOMPARE(end->size(), std::size_t(1));
         QVERIFY(isLine(end->at(0), 0, 0, 7, 0));
-        // A pick beyond the end counts for the end.
+        // A pick beyond the end counts as the end.
         QVERIFY(isLine(geometry::trim(kLevel, {10.5, 0}, edges)->at(0), 0, 0, 7, 0));
     }
 
@@ -143,7 +143,7 @@ private Q_SLOTS:
     {
         QVERIFY(!geometry::trim(kLevel, {5, 0}, {}));
         QVERIFY(!geometry::trim(kLevel, {5, 0}, {Entity::line({3, 1}, {3, 2})}));
-        // Something that only meets its end cuts nothing off.
+        // An edge that meets only the end cuts nothing off.
         QVERIFY(!geometry::trim(kLevel, {5, 0}, {Entity::line({10, -1}, {10, 1})}));
         QVERIFY(!geometry::trim(Entity::label({0, 0}, 5, QStringLiteral("x")), {0, 0}, {kLevel}));
     }
@@ -173,7 +173,7 @@ private Q_SLOTS:
         const Entity circle = Entity::circle({0, 0}, 5);
         QVERIFY(!geometry::trim(circle, {0, 5}, {Entity::line({0, 0}, {9, 0})}));
         QVERIFY(!geometry::trim(circle, {0, 5}, {Entity::line({-9, 5}, {9, 5})}));
-        // The same point twice, a hair to either side of the seam, is one.
+        // Two crossings within the tolerance, on either side of the seam, count as one.
         QVERIFY(!geometry::trim(circle, {0, 5},
                                 {Entity::line({0, 0}, {9, 1e-12}), Entity::line({0, 0}, {9, -1e-12})}));
     }
@@ -250,7 +250,7 @@ private Q_SLOTS:
         QVERIFY(text.bounds().right() <= 10);
         QVERIFY(std::abs(text.bounds().bottom() - 20) < 0.2);
         text.angle = 90;
-        // Now it runs upwards to the anchor, with its top to the left.
+        // The text now runs upwards to the anchor, with its top to the left.
         QVERIFY(std::abs(text.bounds().left() - 10) < 0.2);
         QVERIFY(std::abs(text.bounds().width() - 7) < 0.2);
         QVERIFY(text.bounds().bottom() <= 20);
@@ -266,5 +266,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestSketchGeometry)
+QTEST_MAIN(SketchGeometryTest)
 #include "tst_sketchgeometry.moc"

@@ -17,13 +17,14 @@
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QToolBar>
 #include <QtTest>
 
 #include <memory>
 
 namespace {
 
-// Answers the next message box, as a person would, and notes what it said.
+// Clicks a button of every message box, and records its text.
 class Answer : public QObject
 {
 public:
@@ -62,7 +63,7 @@ public:
 
 } // namespace
 
-class TestSketchpad : public QObject
+class SketchpadTest : public QObject
 {
     Q_OBJECT
 
@@ -87,7 +88,7 @@ class TestSketchpad : public QObject
     {
         return m_window->canvas()->toPixels({x, y}).toPoint();
     }
-    // The window's pointer, over pixels of the canvas: a widget's own has no way to move.
+    // These use the window, at pixels of the canvas: QTest cannot move the pointer for a widget.
     void press(Qt::MouseButton button, const QPoint &at, Qt::KeyboardModifiers keys = {}) const
     {
         QTest::mousePress(m_window->windowHandle(), button, keys,
@@ -108,7 +109,7 @@ class TestSketchpad : public QObject
         press(Qt::LeftButton, pixels(x, y), keys);
         release(Qt::LeftButton, pixels(x, y), keys);
     }
-    // A drawing that holds something that cannot be read.
+    // A drawing with entities that cannot be read.
     [[nodiscard]] QString foreignFile() const
     {
         QByteArray text = "0|SECTION|2|ENTITIES|0|LINE|8|0|10|0|20|0|11|10|21|0|"
@@ -158,7 +159,7 @@ private Q_SLOTS:
                  (QStringList{QStringLiteral("File"), QStringLiteral("Edit"), QStringLiteral("View"),
                               QStringLiteral("Draw"), QStringLiteral("Modify"), QStringLiteral("Tools"),
                               QStringLiteral("Help")}));
-        QCOMPARE(commands, dxf::isSupported() ? 22 : 19);
+        QCOMPARE(commands, dxf::isSupported() ? 23 : 20);
     }
 
     void whatIsTypedTriggersTheAction_data()
@@ -210,7 +211,7 @@ private Q_SLOTS:
     {
         type("HOUSE");
         QVERIFY(m_window->statusBar()->currentMessage().contains(QStringLiteral("HOUSE")));
-        // Also in the middle of a command, which goes on.
+        // The same while a command is running, which goes on.
         type("LINE");
         type("HOUSE");
         QCOMPARE(m_window->canvas()->tool().kind(), Tool::Kind::Line);
@@ -257,7 +258,7 @@ private Q_SLOTS:
         QCOMPARE(entities().size(), std::size_t(1));
         type("REDO");
         QCOMPARE(entities().size(), std::size_t(2));
-        // A command may follow the other without an end to the first.
+        // A command may start before the last one has ended.
         type("LINE");
         type("0,0");
         type("CIRCLE");
@@ -275,7 +276,7 @@ private Q_SLOTS:
         QCOMPARE(entities().size(), std::size_t(1));
         const QPointF end = entities()[0].end;
         QVERIFY(QLineF(end, {50, 25}).length() < 1);
-        // The next line starts exactly where this one ended, though the click was beside it.
+        // The next line starts exactly at the end of this one, although the click was beside it.
         action("drawLine")->trigger();
         QTest::mouseClick(m_window->canvas(), Qt::LeftButton, {},
                           pixels(end.x(), end.y()) + QPoint(4, 3));
@@ -334,7 +335,7 @@ private Q_SLOTS:
             move(to);
             release(Qt::LeftButton, to);
         };
-        // To the right only what is inside, to the left also what is touched.
+        // To the right selects only what is inside, to the left also what is touched.
         frame(pixels(-20, 45), pixels(20, -5));
         QCOMPARE(canvas->selection(), (Indices{1}));
         frame(pixels(20, -5), pixels(-20, 45));
@@ -378,6 +379,34 @@ private Q_SLOTS:
         QVERIFY(std::abs(drawn.width() - canvas.width() * 0.9) < 1e-6);
         QVERIFY((drawn.center() - QPointF(canvas.width() / 2, canvas.height() / 2)).manhattanLength()
                 < 1e-6);
+    }
+
+    void fullScreenShowsNothingButTheDrawing()
+    {
+        const auto shown = [this] {
+            QStringList names;
+            for (const QWidget *bar : m_window->findChildren<QToolBar *>()) {
+                if (bar->isVisible())
+                    names += bar->objectName();
+            }
+            names += m_window->menuBar()->isVisible() ? QStringLiteral("menus") : QString();
+            names += m_window->statusBar()->isVisible() ? QStringLiteral("status") : QString();
+            return names;
+        };
+        const QStringList before = shown();
+        QVERIFY(before.contains(QStringLiteral("drawBar")));
+        QVERIFY(!before.contains(QStringLiteral("helpBar")));
+        QTest::keyClick(m_window.get(), Qt::Key_F11);
+        QVERIFY(m_window->isFullScreen());
+        QTRY_COMPARE(m_window->canvas()->geometry(), m_window->rect());
+        QCOMPARE(shown(), (QStringList{QString(), QString()}));
+        // Keys still run commands.
+        QSignalSpy grid(action("viewGrid"), &QAction::triggered);
+        QTest::keyClick(m_window.get(), Qt::Key_F7);
+        QCOMPARE(grid.count(), 1);
+        QTest::keyClick(m_window.get(), Qt::Key_F11);
+        QVERIFY(!m_window->isFullScreen());
+        QCOMPARE(shown(), before);
     }
 
     void farOutNothingHangs()
@@ -465,7 +494,7 @@ private Q_SLOTS:
         }
         QVERIFY(m_window->isWindowModified());
         QCOMPARE(contents(path), before);
-        // Nor by its other names.
+        // The same through other names of the file.
         const QString link = m_folder->filePath(QStringLiteral("link.dxf"));
         QVERIFY(QFile::link(path, link));
         const QString roundabout = m_folder->path() + QStringLiteral("/../")
@@ -500,14 +529,14 @@ private Q_SLOTS:
             QCOMPARE(answer.count, 1);
         }
         QCOMPARE(contents(path), before);
-        // The new file holds nothing that is unread, so it may be replaced as usual.
+        // The new file has been read completely, so it may be replaced.
         {
             Answer answer(QMessageBox::Ok);
             type("SAVE");
             QCOMPARE(answer.count, 0);
         }
         QVERIFY(m_window->windowTitle().startsWith(QStringLiteral("other.dxf")));
-        // The first one still may not, neither with this drawing nor with its own.
+        // The first file is still not replaced, by this drawing or by its own.
         Answer answer(QMessageBox::Ok);
         QVERIFY(!m_window->saveFile(path));
         QCOMPARE(answer.count, 1);
@@ -528,7 +557,7 @@ private Q_SLOTS:
         QVERIFY(!m_window->saveFile(file.fileName()));
         QCOMPARE(answer.count, 1);
         QVERIFY(contents(file.fileName()).startsWith("Dear"));
-        // An empty file has nothing to lose.
+        // An empty file may be replaced.
         QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
         file.close();
         QVERIFY(m_window->saveFile(file.fileName()));
@@ -555,5 +584,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestSketchpad)
+QTEST_MAIN(SketchpadTest)
 #include "tst_sketchpad.moc"

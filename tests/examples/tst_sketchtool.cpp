@@ -6,8 +6,8 @@
 using Kind = Tool::Kind;
 using Wants = Tool::Wants;
 
-// Each command from its first step to its last.
-class TestSketchTool : public QObject
+// Every command, from its first step to its last.
+class SketchToolTest : public QObject
 {
     Q_OBJECT
 
@@ -32,7 +32,7 @@ private Q_SLOTS:
         QCOMPARE(drawing.entities().size(), std::size_t(2));
         QCOMPARE(drawing.entities()[1].origin, QPointF(3, 4));
         QCOMPARE(drawing.entities()[1].end, QPointF(5, 4));
-        // Not a line of no length.
+        // A line of length 0 is not drawn.
         QVERIFY(!tool.point({5, 4}, 1).isEmpty());
         QVERIFY(!tool.number(3).isEmpty());
         QCOMPARE(drawing.entities().size(), std::size_t(2));
@@ -99,7 +99,7 @@ private Q_SLOTS:
         QVERIFY(tool.point({5, 9}, 1).isEmpty());
         QCOMPARE(drawing.entities().size(), std::size_t(3));
         QCOMPARE(drawing.entities()[2].origin, QPointF(0, 2));
-        // And once more with the same distance.
+        // Again, with the same distance.
         QCOMPARE(tool.wants(), Wants::Entity);
         QVERIFY(tool.point({5, 2}, 1).isEmpty());
         QVERIFY(tool.point({5, 9}, 1).isEmpty());
@@ -157,7 +157,7 @@ private Q_SLOTS:
         QCOMPARE(drawing.entities().size(), std::size_t(3));
         QCOMPARE(drawing.entities()[2].end, QPointF(4, 0));
         QCOMPARE(tool.wants(), Wants::Entity);
-        // What is left of it only meets the edge with its end.
+        // Only the end of the rest meets the edge.
         QVERIFY(!tool.point({2, 0}, 0.5).isEmpty());
         drawing.undo();
         QCOMPARE(drawing.entities()[0].end, QPointF(10, 0));
@@ -176,5 +176,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestSketchTool)
+QTEST_MAIN(SketchToolTest)
 #include "tst_sketchtool.moc"

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tests/fakehost/FakeFault.h"
+
 #include <QStringList>
 
 #include <stdexcept>
@@ -13,6 +15,7 @@ class CallLog
 public:
     void add(const QString &call)
     {
+        FakeFault::pass();
         calls.append(call);
         if (!throwOn.isEmpty() && call.startsWith(throwOn))
             throw std::runtime_error("the fake host was told to throw");

@@ -62,7 +62,7 @@ void operator delete(void *memory, std::size_t) noexcept
     std::free(memory);
 }
 
-class tst_EntryPoints : public QObject
+class EntryPointsTest : public QObject
 {
     Q_OBJECT
 
@@ -88,7 +88,7 @@ private Q_SLOTS:
     void releaseNeverFrees();
 };
 
-void tst_EntryPoints::versionIs3810()
+void EntryPointsTest::versionIs3810()
 {
     int major = -1;
     int minor = -1;
@@ -101,7 +101,7 @@ void tst_EntryPoints::versionIs3810()
     QCOMPARE(minorBuild, 0);
 }
 
-void tst_EntryPoints::creationFillsTheWrapper()
+void EntryPointsTest::creationFillsTheWrapper()
 {
     int handle = 0;
     std::wstring name = L"gestures";
@@ -116,7 +116,7 @@ void tst_EntryPoints::creationFillsTheWrapper()
     module->deleteModule();
 }
 
-void tst_EntryPoints::creationTouchesNoHost()
+void EntryPointsTest::creationTouchesNoHost()
 {
     tests::FakeHost host;
     host.documents.open();
@@ -126,7 +126,7 @@ void tst_EntryPoints::creationTouchesNoHost()
     QCOMPARE(host.log.calls, QStringList());
 }
 
-void tst_EntryPoints::secondCallReturnsTheSameObject()
+void EntryPointsTest::secondCallReturnsTheSameObject()
 {
     int first = 0;
     int second = 0;
@@ -141,7 +141,7 @@ void tst_EntryPoints::secondCallReturnsTheSameObject()
     module->deleteModule();
 }
 
-void tst_EntryPoints::missingNameAndDataAreTaken()
+void EntryPointsTest::missingNameAndDataAreTaken()
 {
     OdRxModule *module = odrxCreateModuleObject(nullptr, nullptr);
     QVERIFY(module);
@@ -150,7 +150,7 @@ void tst_EntryPoints::missingNameAndDataAreTaken()
     module->deleteModule();
 }
 
-void tst_EntryPoints::shortMemoryThrowsAndIsTriedAgain()
+void EntryPointsTest::shortMemoryThrowsAndIsTriedAgain()
 {
     memoryIsShort = true;
     QVERIFY_EXCEPTION_THROWN(static_cast<void>(odrxCreateModuleObject(nullptr, L"gestures")),
@@ -166,7 +166,7 @@ void tst_EntryPoints::shortMemoryThrowsAndIsTriedAgain()
     module->deleteModule();
 }
 
-void tst_EntryPoints::constructorFailureFreesAndLetsThrough()
+void EntryPointsTest::constructorFailureFreesAndLetsThrough()
 {
     bool thrown = false;
     newsUntilFailure = 0; // the first thing that the tracker's base asks for
@@ -190,7 +190,7 @@ void tst_EntryPoints::constructorFailureFreesAndLetsThrough()
     module->deleteModule();
 }
 
-void tst_EntryPoints::deleteModuleFreesAndForgets()
+void EntryPointsTest::deleteModuleFreesAndForgets()
 {
     OdRxModule *module = odrxCreateModuleObject(nullptr, L"gestures");
     QVERIFY(freed.empty());
@@ -206,7 +206,7 @@ void tst_EntryPoints::deleteModuleFreesAndForgets()
     next->deleteModule();
 }
 
-void tst_EntryPoints::deleteModuleObjectForgetsAndNothingElse()
+void EntryPointsTest::deleteModuleObjectForgetsAndNothingElse()
 {
     tests::FakeHost host;
     OdRxModule *module = odrxCreateModuleObject(nullptr, L"first");
@@ -232,7 +232,7 @@ void tst_EntryPoints::deleteModuleObjectForgetsAndNothingElse()
     deleteModuleObject();
 }
 
-void tst_EntryPoints::releaseNeverFrees()
+void EntryPointsTest::releaseNeverFrees()
 {
     OdRxModule *module = odrxCreateModuleObject(nullptr, L"gestures");
     module->addRef();
@@ -245,5 +245,5 @@ void tst_EntryPoints::releaseNeverFrees()
     module->deleteModule();
 }
 
-QTEST_MAIN(tst_EntryPoints)
+QTEST_MAIN(EntryPointsTest)
 #include "tst_entrypoints.moc"

@@ -62,7 +62,7 @@ void typeMacro(FakeHost &host, QString macro)
 
 } // namespace
 
-class tst_GestureCommand : public QObject
+class GestureCommandTest : public QObject
 {
     Q_OBJECT
 
@@ -90,14 +90,14 @@ private:
     tests::OlderSettings m_settings;
 };
 
-void tst_GestureCommand::names()
+void GestureCommandTest::names()
 {
     const OdStaticRxObject<CHxGestureCommand> command;
     QCOMPARE(command.globalName().toQString(), QStringLiteral("_GESTURE"));
     QCOMPARE(command.localName().toQString(), QStringLiteral("GESTURE"));
 }
 
-void tst_GestureCommand::everythingElseIsTheHostsOwn()
+void GestureCommandTest::everythingElseIsTheHostsOwn()
 {
     const OdStaticRxObject<CHxGestureCommand> command;
     QCOMPARE(command.groupName().toQString(), QStringLiteral("HX_COMMANDS"));
@@ -106,7 +106,7 @@ void tst_GestureCommand::everythingElseIsTheHostsOwn()
     QCOMPARE(command.module(), nullptr);
 }
 
-void tst_GestureCommand::livesByValue()
+void GestureCommandTest::livesByValue()
 {
     OdStaticRxObject<CHxGestureCommand> command;
     for (int i = 0; i < 3; ++i)
@@ -116,7 +116,7 @@ void tst_GestureCommand::livesByValue()
     QCOMPARE(command.localName().toQString(), QStringLiteral("GESTURE"));
 }
 
-void tst_GestureCommand::returnsTheSameForEveryAnswer_data()
+void GestureCommandTest::returnsTheSameForEveryAnswer_data()
 {
     QTest::addColumn<int>("answer");
     QTest::newRow("accepted") << static_cast<int>(QDialog::Accepted);
@@ -124,7 +124,7 @@ void tst_GestureCommand::returnsTheSameForEveryAnswer_data()
     QTest::newRow("something else") << 77;
 }
 
-void tst_GestureCommand::returnsTheSameForEveryAnswer()
+void GestureCommandTest::returnsTheSameForEveryAnswer()
 {
     QFETCH(int, answer);
 
@@ -136,7 +136,7 @@ void tst_GestureCommand::returnsTheSameForEveryAnswer()
     QCOMPARE(opened.met, 1);
 }
 
-void tst_GestureCommand::dialogIsModalAndGone()
+void GestureCommandTest::dialogIsModalAndGone()
 {
     FakeHost host;
     OdStaticRxObject<CHxGestureCommand> command;
@@ -153,7 +153,7 @@ void tst_GestureCommand::dialogIsModalAndGone()
     QVERIFY(opened.dialog.isNull()); // destroyed before the command returned
 }
 
-void tst_GestureCommand::dialogsParent_data()
+void GestureCommandTest::dialogsParent_data()
 {
     QTest::addColumn<bool>("services");
     QTest::addColumn<bool>("frame");
@@ -164,7 +164,7 @@ void tst_GestureCommand::dialogsParent_data()
     QTest::newRow("no services") << false << true << true;
 }
 
-void tst_GestureCommand::dialogsParent()
+void GestureCommandTest::dialogsParent()
 {
     QFETCH(bool, services);
     QFETCH(bool, frame);
@@ -191,7 +191,7 @@ void tst_GestureCommand::dialogsParent()
     QCOMPARE(parent, complete ? &mainWindow : nullptr);
 }
 
-void tst_GestureCommand::typingTheNameOpensTheDialog_data()
+void GestureCommandTest::typingTheNameOpensTheDialog_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::newRow("local") << QStringLiteral("GESTURE");
@@ -199,7 +199,7 @@ void tst_GestureCommand::typingTheNameOpensTheDialog_data()
     QTest::newRow("small letters") << QStringLiteral("gesture");
 }
 
-void tst_GestureCommand::typingTheNameOpensTheDialog()
+void GestureCommandTest::typingTheNameOpensTheDialog()
 {
     QFETCH(QString, typed);
 
@@ -217,7 +217,7 @@ void tst_GestureCommand::typingTheNameOpensTheDialog()
     QVERIFY(!host.stack.lookupCommand(OdString(typed)));
 }
 
-void tst_GestureCommand::choosingTheEntryOpensTheDialog()
+void GestureCommandTest::choosingTheEntryOpensTheDialog()
 {
     FakeHost host;
     tests::FakeMenuItem *tools =
@@ -234,7 +234,7 @@ void tst_GestureCommand::choosingTheEntryOpensTheDialog()
     QCOMPARE(opened.met, 1);
 }
 
-void tst_GestureCommand::mainWindowGoesWhileTheDialogIsOpen()
+void GestureCommandTest::mainWindowGoesWhileTheDialogIsOpen()
 {
     FakeHost host;
     auto window = std::make_unique<QWidget>();
@@ -248,7 +248,7 @@ void tst_GestureCommand::mainWindowGoesWhileTheDialogIsOpen()
     QVERIFY(opened.dialog.isNull());
 }
 
-void tst_GestureCommand::hostThrowsWhileTheDialogIsMade()
+void GestureCommandTest::hostThrowsWhileTheDialogIsMade()
 {
     FakeHost host;
     QWidget window;
@@ -264,7 +264,7 @@ void tst_GestureCommand::hostThrowsWhileTheDialogIsMade()
     QCOMPARE(window.findChildren<QDialog *>().size(), 0);
 }
 
-void tst_GestureCommand::runsWithoutAnyHost()
+void GestureCommandTest::runsWithoutAnyHost()
 {
     OdStaticRxObject<CHxGestureCommand> command;
     const WhileOpen opened([](MgDonutDialogManager *dialog) { dialog->accept(); });
@@ -272,5 +272,5 @@ void tst_GestureCommand::runsWithoutAnyHost()
     QCOMPARE(opened.met, 1);
 }
 
-QTEST_MAIN(tst_GestureCommand)
+QTEST_MAIN(GestureCommandTest)
 #include "tst_gesturecommand.moc"

@@ -5,15 +5,18 @@
 #include "tests/bindings/OpenContainer.h"
 #include "tests/fakehost/FakeHost.h"
 #include "tests/module/OpenModule.h"
+#include "tests/support/FakeTranslator.h"
 #include "tests/support/FatalWarnings.h"
 
-#include <QTranslator>
 #include <QtTest>
+
+#include <optional>
 
 namespace {
 
 using tests::FakeHost;
 using tests::FakeMenuItem;
+using tests::FakeTranslator;
 using tests::FakeWorkspace;
 using tests::OpenModule;
 
@@ -21,26 +24,6 @@ const QString kToolsMenu = QStringLiteral("ID_MnTools");
 const QString kCommandItem = QStringLiteral("_PV_MOUSE_GESTURE_CONFIG");
 const QString kEntryText = QStringLiteral("Mouse Gestures...");
 const QString kMacro = QStringLiteral("^C^C_GESTURE");
-
-// Answers in another language, whatever the context.
-class Translator : public QTranslator
-{
-public:
-    QString translate(const char *context, const char *text, const char *, int) const override
-    {
-        const QString source = QString::fromLatin1(text);
-        if (QLatin1String(context) != QLatin1String("QObject"))
-            return {};
-        if (source == kEntryText)
-            return QStringLiteral("Mausgesten ...");
-        if (source == QLatin1String("Customizes mouse gestures:"))
-            return QStringLiteral("Richtet Mausgesten ein:");
-        if (source == QLatin1String("Mouse Gestures"))
-            return QStringLiteral("never asked for");
-        return {};
-    }
-    bool isEmpty() const override { return false; }
-};
 
 // A user-interface manager that has nothing to give.
 class BarrenUIManager : public tests::FakeUIManager
@@ -100,7 +83,7 @@ bool containerWasObtained()
 
 } // namespace
 
-class tst_MenuEntry : public QObject
+class MenuEntryTest : public QObject
 {
     Q_OBJECT
 
@@ -154,7 +137,7 @@ private:
 };
 
 // First, since the container is made once in a process.
-void tst_MenuEntry::containerReadsTheCompleteMenus()
+void MenuEntryTest::containerReadsTheCompleteMenus()
 {
     FakeHost host;
     FakeMenuItem *tools = host.addTopLevelMenu(QStringLiteral("&Tools"), kToolsMenu);
@@ -172,7 +155,7 @@ void tst_MenuEntry::containerReadsTheCompleteMenus()
     QCOMPARE(texts(*tools), QStringList{kEntryText});
 }
 
-void tst_MenuEntry::menuIsFoundByIdentifier()
+void MenuEntryTest::menuIsFoundByIdentifier()
 {
     FakeHost host;
     host.addTopLevelMenu(QStringLiteral("&File"), QStringLiteral("ID_MnFile"));
@@ -184,7 +167,7 @@ void tst_MenuEntry::menuIsFoundByIdentifier()
     QCOMPARE(host.ui.iteratorsAlive, 0);
 }
 
-void tst_MenuEntry::menuIdentifierRespectsCase()
+void MenuEntryTest::menuIdentifierRespectsCase()
 {
     FakeHost host;
     host.addTopLevelMenu(QStringLiteral("&Tools"), QStringLiteral("id_mntools"));
@@ -192,7 +175,7 @@ void tst_MenuEntry::menuIdentifierRespectsCase()
     QCOMPARE(module.GetMenuItem(CHxString(kToolsMenu)), nullptr);
 }
 
-void tst_MenuEntry::firstMatchOfAnyWorkspaceWins()
+void MenuEntryTest::firstMatchOfAnyWorkspaceWins()
 {
     FakeHost host;
     FakeWorkspace *first = host.ui.addWorkspace(QStringLiteral("First"), false);
@@ -209,7 +192,7 @@ void tst_MenuEntry::firstMatchOfAnyWorkspaceWins()
     QCOMPARE(host.ui.iteratorsAlive, 0);
 }
 
-void tst_MenuEntry::subMenusAreNotSearched()
+void MenuEntryTest::subMenusAreNotSearched()
 {
     FakeHost host;
     FakeMenuItem *file = host.addTopLevelMenu(QStringLiteral("&File"), QStringLiteral("ID_MnFile"));
@@ -218,7 +201,7 @@ void tst_MenuEntry::subMenusAreNotSearched()
     QCOMPARE(module.GetMenuItem(CHxString(kToolsMenu)), nullptr);
 }
 
-void tst_MenuEntry::nullPlacesAreSkipped()
+void MenuEntryTest::nullPlacesAreSkipped()
 {
     FakeHost host;
     FakeWorkspace *workspace = host.ui.addWorkspace(QStringLiteral("Default"), true);
@@ -228,7 +211,7 @@ void tst_MenuEntry::nullPlacesAreSkipped()
     QCOMPARE(module.GetMenuItem(CHxString(kToolsMenu)), tools);
 }
 
-void tst_MenuEntry::equalNullEndsItsWorkspaceOnly()
+void MenuEntryTest::equalNullEndsItsWorkspaceOnly()
 {
     FakeHost host;
     FakeWorkspace *first = host.ui.addWorkspace(QStringLiteral("First"), true);
@@ -242,7 +225,7 @@ void tst_MenuEntry::equalNullEndsItsWorkspaceOnly()
     QCOMPARE(module.GetMenuItem(CHxString()), other);
 }
 
-void tst_MenuEntry::menuWithoutHost()
+void MenuEntryTest::menuWithoutHost()
 {
     OpenModule module;
     QCOMPARE(module.GetMenuItem(CHxString(kToolsMenu)), nullptr);
@@ -253,7 +236,7 @@ void tst_MenuEntry::menuWithoutHost()
     QCOMPARE(module.GetMenuItem(CHxString(kToolsMenu)), nullptr);
 }
 
-void tst_MenuEntry::loadGoesInOrder()
+void MenuEntryTest::loadGoesInOrder()
 {
     FakeHost host;
     host.addTopLevelMenu(QStringLiteral("&Tools"), kToolsMenu);
@@ -274,7 +257,7 @@ void tst_MenuEntry::loadGoesInOrder()
     QCOMPARE(host.ui.iteratorsAlive, 0);
 }
 
-void tst_MenuEntry::entryIsTheLastOfTheToolsMenu()
+void MenuEntryTest::entryIsTheLastOfTheToolsMenu()
 {
     FakeHost host;
     FakeMenuItem *tools = host.addTopLevelMenu(QStringLiteral("&Tools"), kToolsMenu);
@@ -294,7 +277,7 @@ void tst_MenuEntry::entryIsTheLastOfTheToolsMenu()
     QCOMPARE(entry->GetCommandItem(), host.ui.commandItems.front().get());
 }
 
-void tst_MenuEntry::commandItemIsFilled()
+void MenuEntryTest::commandItemIsFilled()
 {
     FakeHost host;
     host.addTopLevelMenu(QStringLiteral("&Tools"), kToolsMenu);
@@ -309,7 +292,7 @@ void tst_MenuEntry::commandItemIsFilled()
     QCOMPARE(item.command, kMacro);
 }
 
-void tst_MenuEntry::statusTextHasExactlyThreeSpaces()
+void MenuEntryTest::statusTextHasExactlyThreeSpaces()
 {
     FakeHost host;
     host.addTopLevelMenu(QStringLiteral("&Tools"), kToolsMenu);
@@ -320,7 +303,7 @@ void tst_MenuEntry::statusTextHasExactlyThreeSpaces()
     QCOMPARE(host.ui.commandItems.front()->tip, QStringLiteral("Customizes mouse gestures:   GESTURE"));
 }
 
-void tst_MenuEntry::choosingTheEntryRunsTheMacro()
+void MenuEntryTest::choosingTheEntryRunsTheMacro()
 {
     FakeHost host;
     FakeMenuItem *tools = host.addTopLevelMenu(QStringLiteral("&Tools"), kToolsMenu);
@@ -339,7 +322,7 @@ void tst_MenuEntry::choosingTheEntryRunsTheMacro()
     QCOMPARE(host.stack.lookupCommand(OdString(kMacro.mid(4))), &module.command);
 }
 
-void tst_MenuEntry::loadingTwiceAppendsTwoEntries()
+void MenuEntryTest::loadingTwiceAppendsTwoEntries()
 {
     FakeHost host;
     FakeMenuItem *tools = host.addTopLevelMenu(QStringLiteral("&Tools"), kToolsMenu);
@@ -356,7 +339,7 @@ void tst_MenuEntry::loadingTwiceAppendsTwoEntries()
              tools->subItems->GetItem(1)->GetCommandItem());
 }
 
-void tst_MenuEntry::foundCommandItemIsLeftAsItIs()
+void MenuEntryTest::foundCommandItemIsLeftAsItIs()
 {
     FakeHost host;
     host.addTopLevelMenu(QStringLiteral("&Tools"), kToolsMenu);
@@ -375,7 +358,7 @@ void tst_MenuEntry::foundCommandItemIsLeftAsItIs()
     QCOMPARE(host.log.startingWith(QStringLiteral("workspace.addCommandItem")).size(), 1);
 }
 
-void tst_MenuEntry::itemGoesToTheCurrentWorkspace()
+void MenuEntryTest::itemGoesToTheCurrentWorkspace()
 {
     FakeHost host;
     FakeWorkspace *first = host.ui.addWorkspace(QStringLiteral("First"), false);
@@ -396,7 +379,7 @@ void tst_MenuEntry::itemGoesToTheCurrentWorkspace()
              QStringList{QStringLiteral("ui.find Second ") + kCommandItem});
 }
 
-void tst_MenuEntry::loadWithoutCurrentWorkspace()
+void MenuEntryTest::loadWithoutCurrentWorkspace()
 {
     FakeHost host;
     FakeMenuItem *tools = host.addTopLevelMenu(QStringLiteral("&Tools"), kToolsMenu);
@@ -411,7 +394,7 @@ void tst_MenuEntry::loadWithoutCurrentWorkspace()
     QCOMPARE(host.ui.iteratorsAlive, 0);
 }
 
-void tst_MenuEntry::loadWithoutToolsMenu_data()
+void MenuEntryTest::loadWithoutToolsMenu_data()
 {
     QTest::addColumn<QString>("identifier");
     QTest::newRow("other menus only") << QStringLiteral("ID_MnFile");
@@ -419,7 +402,7 @@ void tst_MenuEntry::loadWithoutToolsMenu_data()
     QTest::newRow("longer") << QStringLiteral("ID_MnToolsX");
 }
 
-void tst_MenuEntry::loadWithoutToolsMenu()
+void MenuEntryTest::loadWithoutToolsMenu()
 {
     QFETCH(QString, identifier);
 
@@ -437,7 +420,7 @@ void tst_MenuEntry::loadWithoutToolsMenu()
     QVERIFY(containerWasObtained());
 }
 
-void tst_MenuEntry::loadWithoutHost()
+void MenuEntryTest::loadWithoutHost()
 {
     OpenModule module;
     module.LoadMenu();
@@ -450,7 +433,7 @@ void tst_MenuEntry::loadWithoutHost()
     QVERIFY(!containerWasObtained());
 }
 
-void tst_MenuEntry::loadWithBarrenHost()
+void MenuEntryTest::loadWithBarrenHost()
 {
     BarrenHost host;
     FakeWorkspace *workspace = host.barren.addWorkspace(QStringLiteral("Default"), true);
@@ -476,7 +459,7 @@ void tst_MenuEntry::loadWithBarrenHost()
     QVERIFY(containerWasObtained());
 }
 
-void tst_MenuEntry::unloadGoesInOrder()
+void MenuEntryTest::unloadGoesInOrder()
 {
     FakeHost host;
     FakeMenuItem *tools = host.addTopLevelMenu(QStringLiteral("&Tools"), kToolsMenu);
@@ -496,7 +479,7 @@ void tst_MenuEntry::unloadGoesInOrder()
     QCOMPARE(host.ui.iteratorsAlive, 0);
 }
 
-void tst_MenuEntry::unloadRemovesOneEntryACall()
+void MenuEntryTest::unloadRemovesOneEntryACall()
 {
     FakeHost host;
     FakeMenuItem *tools = host.addTopLevelMenu(QStringLiteral("&Tools"), kToolsMenu);
@@ -519,7 +502,7 @@ void tst_MenuEntry::unloadRemovesOneEntryACall()
     QCOMPARE(host.log.startingWith(QStringLiteral("ui.destroyMenuItem")).size(), 2);
 }
 
-void tst_MenuEntry::unloadIgnoresCase()
+void MenuEntryTest::unloadIgnoresCase()
 {
     FakeHost host;
     FakeMenuItem *tools = host.addTopLevelMenu(QStringLiteral("&Tools"), kToolsMenu);
@@ -532,7 +515,7 @@ void tst_MenuEntry::unloadIgnoresCase()
     QCOMPARE(texts(*tools), QStringList());
 }
 
-void tst_MenuEntry::unloadTakesTheFirstThatMatches()
+void MenuEntryTest::unloadTakesTheFirstThatMatches()
 {
     FakeHost host;
     FakeMenuItem *tools = host.addTopLevelMenu(QStringLiteral("&Tools"), kToolsMenu);
@@ -550,7 +533,7 @@ void tst_MenuEntry::unloadTakesTheFirstThatMatches()
     QCOMPARE(host.ui.commandItems.size(), std::size_t(1));
 }
 
-void tst_MenuEntry::unloadWithoutEntry()
+void MenuEntryTest::unloadWithoutEntry()
 {
     FakeHost host;
     FakeMenuItem *tools = host.addTopLevelMenu(QStringLiteral("&Tools"), kToolsMenu);
@@ -563,7 +546,7 @@ void tst_MenuEntry::unloadWithoutEntry()
     QCOMPARE(texts(*tools), QStringList{QStringLiteral("Options")});
 }
 
-void tst_MenuEntry::unloadWithoutToolsMenu()
+void MenuEntryTest::unloadWithoutToolsMenu()
 {
     FakeHost host;
     FakeMenuItem *file = host.addTopLevelMenu(QStringLiteral("&File"), QStringLiteral("ID_MnFile"));
@@ -576,7 +559,7 @@ void tst_MenuEntry::unloadWithoutToolsMenu()
     QCOMPARE(texts(*file), QStringList{kEntryText});
 }
 
-void tst_MenuEntry::unloadWithoutHost()
+void MenuEntryTest::unloadWithoutHost()
 {
     FakeHost host;
     FakeMenuItem *tools = host.addTopLevelMenu(QStringLiteral("&Tools"), kToolsMenu);
@@ -594,7 +577,7 @@ void tst_MenuEntry::unloadWithoutHost()
     QCOMPARE(texts(*tools), QStringList{kEntryText});
 }
 
-void tst_MenuEntry::unloadOfAnItemTheHostDoesNotHold()
+void MenuEntryTest::unloadOfAnItemTheHostDoesNotHold()
 {
     FakeHost host;
     FakeMenuItem *tools = host.addTopLevelMenu(QStringLiteral("&Tools"), kToolsMenu);
@@ -609,7 +592,7 @@ void tst_MenuEntry::unloadOfAnItemTheHostDoesNotHold()
     QCOMPARE(texts(*tools), QStringList());
 }
 
-void tst_MenuEntry::unloadOfAnEntryWithoutCommand()
+void MenuEntryTest::unloadOfAnEntryWithoutCommand()
 {
     FakeHost host;
     FakeMenuItem *tools = host.addTopLevelMenu(QStringLiteral("&Tools"), kToolsMenu);
@@ -622,10 +605,17 @@ void tst_MenuEntry::unloadOfAnEntryWithoutCommand()
     QCOMPARE(texts(*tools), QStringList());
 }
 
-void tst_MenuEntry::translatedHost()
+void MenuEntryTest::translatedHost()
 {
-    Translator translator;
-    QCoreApplication::installTranslator(&translator);
+    std::optional<FakeTranslator> translator;
+    const auto translate = [&translator] {
+        translator.emplace();
+        translator->add("QObject", "Mouse Gestures...", QStringLiteral("Mausgesten ..."));
+        translator->add("QObject",
+                        "Customizes mouse gestures:", QStringLiteral("Richtet Mausgesten ein:"));
+        translator->add("QObject", "Mouse Gestures", QStringLiteral("never asked for"));
+    };
+    translate();
     FakeHost host;
     FakeMenuItem *tools = host.addTopLevelMenu(QStringLiteral("&Tools"), kToolsMenu);
     OpenModule module;
@@ -640,14 +630,13 @@ void tst_MenuEntry::translatedHost()
     QCOMPARE(item.command, kMacro);
 
     // Found again by the text that is shown, and only while it is the same.
-    QCoreApplication::removeTranslator(&translator);
+    translator.reset();
     module.UnLoadMenu();
     QCOMPARE(tools->subItems->GetCount(), 1);
-    QCoreApplication::installTranslator(&translator);
+    translate();
     module.UnLoadMenu();
     QCOMPARE(tools->subItems->GetCount(), 0);
-    QCoreApplication::removeTranslator(&translator);
 }
 
-QTEST_MAIN(tst_MenuEntry)
+QTEST_MAIN(MenuEntryTest)
 #include "tst_menuentry.moc"

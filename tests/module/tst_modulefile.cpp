@@ -88,7 +88,7 @@ void drag(tests::FakeDocument &document)
 
 } // namespace
 
-class tst_ModuleFile : public QObject
+class ModuleFileTest : public QObject
 {
     Q_OBJECT
 
@@ -110,14 +110,14 @@ private:
     tests::OlderSettings m_settings;
 };
 
-void tst_ModuleFile::fileIsNamedAfterItsQt()
+void ModuleFileTest::fileIsNamedAfterItsQt()
 {
     QCOMPARE(QFileInfo(kFile).fileName(),
              QStringLiteral("gesturewidget-module-qt%1.so").arg(qtbridge::kQtMajor));
     QVERIFY(QFileInfo::exists(kFile));
 }
 
-void tst_ModuleFile::exportsExactlyTheEntryPoints()
+void ModuleFileTest::exportsExactlyTheEntryPoints()
 {
     QProcess nm;
     nm.start(QStringLiteral(NM_PROGRAM), {QStringLiteral("-D"), QStringLiteral("--defined-only"),
@@ -140,7 +140,7 @@ void tst_ModuleFile::exportsExactlyTheEntryPoints()
     QCOMPARE(symbols, expected);
 }
 
-void tst_ModuleFile::declaresItsVersion()
+void ModuleFileTest::declaresItsVersion()
 {
     Library library;
     QVERIFY2(library.isOpen(), dlerror());
@@ -157,7 +157,7 @@ void tst_ModuleFile::declaresItsVersion()
     QVERIFY(library.resolve<OdDeleteModuleObject>("deleteModuleObject"));
 }
 
-void tst_ModuleFile::livesAWholeLife()
+void ModuleFileTest::livesAWholeLife()
 {
     FakeHost host;
     tests::FakeMenuItem *tools =
@@ -188,7 +188,7 @@ void tst_ModuleFile::livesAWholeLife()
     module->deleteModule();
 }
 
-void tst_ModuleFile::ringOutlivesTheClosedFile()
+void ModuleFileTest::ringOutlivesTheClosedFile()
 {
     FakeHost host;
     tests::FakeDocument *document = host.documents.open();
@@ -213,7 +213,7 @@ void tst_ModuleFile::ringOutlivesTheClosedFile()
     QVERIFY(ring.isNull());
 }
 
-void tst_ModuleFile::secondLoadStartsAnew()
+void ModuleFileTest::secondLoadStartsAnew()
 {
     FakeHost host;
     for (int round = 0; round < 3; ++round) {
@@ -229,7 +229,7 @@ void tst_ModuleFile::secondLoadStartsAnew()
     }
 }
 
-void tst_ModuleFile::carriesItsImages()
+void ModuleFileTest::carriesItsImages()
 {
     Library library;
     QVERIFY2(library.isOpen(), dlerror());
@@ -237,7 +237,7 @@ void tst_ModuleFile::carriesItsImages()
              QSize(250, 250));
 }
 
-void tst_ModuleFile::sizeIsModest()
+void ModuleFileTest::sizeIsModest()
 {
     Library library;
     QVERIFY2(library.isOpen(), dlerror());
@@ -248,5 +248,5 @@ void tst_ModuleFile::sizeIsModest()
     QVERIFY2(bytes < MODULE_SIZE_LIMIT, qPrintable(QString::number(bytes)));
 }
 
-QTEST_MAIN(tst_ModuleFile)
+QTEST_MAIN(ModuleFileTest)
 #include "tst_modulefile.moc"

@@ -47,7 +47,7 @@ void dragInView(OpenModule &module, FakeDocument &document)
 
 } // namespace
 
-class tst_ModuleLifecycle : public QObject
+class ModuleLifecycleTest : public QObject
 {
     Q_OBJECT
 
@@ -91,7 +91,7 @@ private:
     tests::OlderSettings m_settings;
 };
 
-void tst_ModuleLifecycle::creationRegistersNothing()
+void ModuleLifecycleTest::creationRegistersNothing()
 {
     FakeHost host;
     host.documents.open();
@@ -104,7 +104,7 @@ void tst_ModuleLifecycle::creationRegistersNothing()
     QCOMPARE(host.log.calls, QStringList());
 }
 
-void tst_ModuleLifecycle::initAppRegistersInOrder()
+void ModuleLifecycleTest::initAppRegistersInOrder()
 {
     FakeHost host;
     host.documents.open();
@@ -123,7 +123,7 @@ void tst_ModuleLifecycle::initAppRegistersInOrder()
     verifyNothingHeld(host);
 }
 
-void tst_ModuleLifecycle::initAppHandsOutItsParts()
+void ModuleLifecycleTest::initAppHandsOutItsParts()
 {
     FakeHost host;
     FakeDocument *document = host.documents.open();
@@ -142,7 +142,7 @@ void tst_ModuleLifecycle::initAppHandsOutItsParts()
     QCOMPARE(host.stack.commands.front()->localName().toQString(), QStringLiteral("GESTURE"));
 }
 
-void tst_ModuleLifecycle::initAppWithoutServices()
+void ModuleLifecycleTest::initAppWithoutServices()
 {
     FakeHost host;
     FakeDocument *document = host.documents.open();
@@ -158,7 +158,7 @@ void tst_ModuleLifecycle::initAppWithoutServices()
     verifyNothingHeld(host);
 }
 
-void tst_ModuleLifecycle::initAppWithoutDocumentManager()
+void ModuleLifecycleTest::initAppWithoutDocumentManager()
 {
     FakeHost host;
     host.hasDocumentManager = false;
@@ -171,7 +171,7 @@ void tst_ModuleLifecycle::initAppWithoutDocumentManager()
     verifyNothingHeld(host);
 }
 
-void tst_ModuleLifecycle::initAppWithoutStackOrEditor()
+void ModuleLifecycleTest::initAppWithoutStackOrEditor()
 {
     FakeHost host;
     host.documents.open();
@@ -187,7 +187,7 @@ void tst_ModuleLifecycle::initAppWithoutStackOrEditor()
     QCOMPARE(host.log.calls, expected);
 }
 
-void tst_ModuleLifecycle::openDocumentGetsTheTrackerOnce()
+void ModuleLifecycleTest::openDocumentGetsTheTrackerOnce()
 {
     FakeHost host;
     FakeDocument *early = host.documents.open();
@@ -199,7 +199,7 @@ void tst_ModuleLifecycle::openDocumentGetsTheTrackerOnce()
     QCOMPARE(early->input.trackers.size(), std::size_t(1));
 }
 
-void tst_ModuleLifecycle::createdDocumentGetsTheTrackerOnce()
+void ModuleLifecycleTest::createdDocumentGetsTheTrackerOnce()
 {
     FakeHost host;
     OpenModule module;
@@ -213,7 +213,7 @@ void tst_ModuleLifecycle::createdDocumentGetsTheTrackerOnce()
     QCOMPARE(late->input.trackers, std::vector<CHxTracker *>{&module.tracker});
 }
 
-void tst_ModuleLifecycle::documentsWithoutInputAreSkipped()
+void ModuleLifecycleTest::documentsWithoutInputAreSkipped()
 {
     FakeHost host;
     FakeDocument *document = host.documents.open();
@@ -228,7 +228,7 @@ void tst_ModuleLifecycle::documentsWithoutInputAreSkipped()
     QCOMPARE(host.log.calls, QStringList());
 }
 
-void tst_ModuleLifecycle::detachingTakesTheTracker()
+void ModuleLifecycleTest::detachingTakesTheTracker()
 {
     FakeHost host;
     FakeDocument *first = host.documents.open();
@@ -244,7 +244,7 @@ void tst_ModuleLifecycle::detachingTakesTheTracker()
     QCOMPARE(second->input.trackers.size(), std::size_t(1));
 }
 
-void tst_ModuleLifecycle::otherNotificationsDoNothing()
+void ModuleLifecycleTest::otherNotificationsDoNothing()
 {
     FakeHost host;
     FakeDocument *document = host.documents.open();
@@ -276,7 +276,7 @@ void tst_ModuleLifecycle::otherNotificationsDoNothing()
     QCOMPARE(document->input.trackers.size(), std::size_t(1));
 }
 
-void tst_ModuleLifecycle::mainFrameCreatedLoadsTheMenu()
+void ModuleLifecycleTest::mainFrameCreatedLoadsTheMenu()
 {
     FakeHost host;
     tests::FakeMenuItem *tools = host.addTopLevelMenu(QStringLiteral("&Tools"), kToolsMenu);
@@ -290,7 +290,7 @@ void tst_ModuleLifecycle::mainFrameCreatedLoadsTheMenu()
     QCOMPARE(tools->subItems->GetItem(0)->GetText().toQString(), QStringLiteral("Mouse Gestures..."));
 }
 
-void tst_ModuleLifecycle::mainFrameDestroyedUnregistersInOrder()
+void ModuleLifecycleTest::mainFrameDestroyedUnregistersInOrder()
 {
     FakeHost host;
     host.addTopLevelMenu(QStringLiteral("&Tools"), kToolsMenu);
@@ -317,7 +317,7 @@ void tst_ModuleLifecycle::mainFrameDestroyedUnregistersInOrder()
     verifyNothingHeld(host);
 }
 
-void tst_ModuleLifecycle::nothingIsLeftAfterMainFrameDestroyed()
+void ModuleLifecycleTest::nothingIsLeftAfterMainFrameDestroyed()
 {
     FakeHost host;
     tests::FakeMenuItem *tools = host.addTopLevelMenu(QStringLiteral("&Tools"), kToolsMenu);
@@ -348,7 +348,7 @@ void tst_ModuleLifecycle::nothingIsLeftAfterMainFrameDestroyed()
     QCOMPARE(host.editor.reactors.size(), std::size_t(1));
 }
 
-void tst_ModuleLifecycle::mainFrameDestroyedWithoutServices()
+void ModuleLifecycleTest::mainFrameDestroyedWithoutServices()
 {
     FakeHost host;
     FakeDocument *document = host.documents.open();
@@ -363,7 +363,7 @@ void tst_ModuleLifecycle::mainFrameDestroyedWithoutServices()
     QCOMPARE(document->input.trackers.size(), std::size_t(1));
 }
 
-void tst_ModuleLifecycle::mainFrameDestroyedWithoutDocumentManager()
+void ModuleLifecycleTest::mainFrameDestroyedWithoutDocumentManager()
 {
     FakeHost host;
     tests::FakeMenuItem *tools = host.addTopLevelMenu(QStringLiteral("&Tools"), kToolsMenu);
@@ -381,7 +381,7 @@ void tst_ModuleLifecycle::mainFrameDestroyedWithoutDocumentManager()
     QCOMPARE(tools->subItems->GetCount(), 0);
 }
 
-void tst_ModuleLifecycle::mainFrameDestroyedWithoutStack()
+void ModuleLifecycleTest::mainFrameDestroyedWithoutStack()
 {
     FakeHost host;
     FakeDocument *document = host.documents.open();
@@ -394,7 +394,7 @@ void tst_ModuleLifecycle::mainFrameDestroyedWithoutStack()
     QVERIFY(document->input.trackers.empty());
 }
 
-void tst_ModuleLifecycle::uninitAppDoesNothing()
+void ModuleLifecycleTest::uninitAppDoesNothing()
 {
     FakeHost host;
     FakeDocument *document = host.documents.open();
@@ -409,7 +409,7 @@ void tst_ModuleLifecycle::uninitAppDoesNothing()
     QVERIFY(host.stack.lookupCommand(OdString(QStringLiteral("GESTURE"))));
 }
 
-void tst_ModuleLifecycle::releaseNeverFrees()
+void ModuleLifecycleTest::releaseNeverFrees()
 {
     FakeHost host;
     OpenModule module; // freed from the stack, this would not go unnoticed
@@ -426,7 +426,7 @@ void tst_ModuleLifecycle::releaseNeverFrees()
     QCOMPARE(host.stack.commands.size(), std::size_t(1));
 }
 
-void tst_ModuleLifecycle::destructionUnregistersNothing()
+void ModuleLifecycleTest::destructionUnregistersNothing()
 {
     FakeHost host;
     host.addTopLevelMenu(QStringLiteral("&Tools"), kToolsMenu);
@@ -442,7 +442,7 @@ void tst_ModuleLifecycle::destructionUnregistersNothing()
     QCOMPARE(document->input.trackers.size(), std::size_t(1));
 }
 
-void tst_ModuleLifecycle::hostThrowsInInitApp_data()
+void ModuleLifecycleTest::hostThrowsInInitApp_data()
 {
     QTest::addColumn<QString>("call");
     QTest::addColumn<QStringList>("missing");
@@ -462,7 +462,7 @@ void tst_ModuleLifecycle::hostThrowsInInitApp_data()
     QTest::newRow("editor") << editor << QStringList();
 }
 
-void tst_ModuleLifecycle::hostThrowsInInitApp()
+void ModuleLifecycleTest::hostThrowsInInitApp()
 {
     QFETCH(QString, call);
     QFETCH(QStringList, missing);
@@ -485,7 +485,7 @@ void tst_ModuleLifecycle::hostThrowsInInitApp()
     verifyNothingHeld(host);
 }
 
-void tst_ModuleLifecycle::hostThrowsInMainFrameCreated_data()
+void ModuleLifecycleTest::hostThrowsInMainFrameCreated_data()
 {
     QTest::addColumn<QString>("call");
     for (const char *call : {"ui.workspaces", "ui.find", "ui.createCommandItem",
@@ -493,7 +493,7 @@ void tst_ModuleLifecycle::hostThrowsInMainFrameCreated_data()
         QTest::newRow(call) << QString::fromLatin1(call);
 }
 
-void tst_ModuleLifecycle::hostThrowsInMainFrameCreated()
+void ModuleLifecycleTest::hostThrowsInMainFrameCreated()
 {
     QFETCH(QString, call);
 
@@ -512,7 +512,7 @@ void tst_ModuleLifecycle::hostThrowsInMainFrameCreated()
     verifyNothingHeld(host);
 }
 
-void tst_ModuleLifecycle::hostThrowsInMainFrameDestroyed_data()
+void ModuleLifecycleTest::hostThrowsInMainFrameDestroyed_data()
 {
     QTest::addColumn<QString>("call");
     QTest::addColumn<QStringList>("missing");
@@ -531,7 +531,7 @@ void tst_ModuleLifecycle::hostThrowsInMainFrameDestroyed_data()
     QTest::newRow("entry") << QStringLiteral("ui.destroyMenuItem") << QStringList();
 }
 
-void tst_ModuleLifecycle::hostThrowsInMainFrameDestroyed()
+void ModuleLifecycleTest::hostThrowsInMainFrameDestroyed()
 {
     QFETCH(QString, call);
     QFETCH(QStringList, missing);
@@ -562,7 +562,7 @@ void tst_ModuleLifecycle::hostThrowsInMainFrameDestroyed()
     verifyNothingHeld(host);
 }
 
-void tst_ModuleLifecycle::hostThrowsInDocumentNotifications()
+void ModuleLifecycleTest::hostThrowsInDocumentNotifications()
 {
     FakeHost host;
     FakeDocument *document = host.documents.open();
@@ -575,7 +575,7 @@ void tst_ModuleLifecycle::hostThrowsInDocumentNotifications()
     QCOMPARE(host.log.calls.size(), 2);
 }
 
-void tst_ModuleLifecycle::mainWindowGoesBeforeTheModule()
+void ModuleLifecycleTest::mainWindowGoesBeforeTheModule()
 {
     FakeHost host;
     auto window = std::make_unique<QWidget>();
@@ -602,7 +602,7 @@ void tst_ModuleLifecycle::mainWindowGoesBeforeTheModule()
     QVERIFY(document->input.trackers.empty());
 }
 
-void tst_ModuleLifecycle::moduleGoesBeforeTheMainWindow()
+void ModuleLifecycleTest::moduleGoesBeforeTheMainWindow()
 {
     FakeHost host;
     auto window = std::make_unique<QWidget>();
@@ -623,7 +623,7 @@ void tst_ModuleLifecycle::moduleGoesBeforeTheMainWindow()
     QVERIFY(ring.isNull());
 }
 
-void tst_ModuleLifecycle::hostGoesBeforeTheModule()
+void ModuleLifecycleTest::hostGoesBeforeTheModule()
 {
     std::optional<FakeHost> host(std::in_place);
     OpenModule module;
@@ -638,5 +638,5 @@ void tst_ModuleLifecycle::hostGoesBeforeTheModule()
     QVERIFY(!module.tracker.IsEager(nullptr));
 }
 
-QTEST_MAIN(tst_ModuleLifecycle)
+QTEST_MAIN(ModuleLifecycleTest)
 #include "tst_modulelifecycle.moc"

@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
-"""Installs and packs what was built, and uses it from where it then lies."""
+"""Installs and packs what was built, and uses it from there."""
 
 import argparse
 import os
 import re
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -16,13 +17,43 @@ ENTRY = "Mouse Gestures..."
 options = None
 
 
-def run(*command, environment=None, status=0):
-    """Runs a command; returns its standard output. Any other status fails the test."""
+def run(*command, environment=None, status=0, directory=None):
+    """Runs a command and returns its standard output. Any other status fails the test."""
     result = subprocess.run([str(part) for part in command], stdout=subprocess.PIPE,
-                            stderr=subprocess.PIPE, text=True, env=environment, check=False)
+                            stderr=subprocess.PIPE, text=True, env=environment, cwd=directory,
+                            check=False)
     assert result.returncode == status, \
         f"{command} ended with {result.returncode}:\n{result.stdout}\n{result.stderr}"
     return result.stdout
+
+
+def is_elf(path):
+    if path.is_symlink() or not path.is_file():
+        return False
+    with path.open("rb") as file:
+        return file.read(4) == b"\x7fELF"
+
+
+def run_path_faults(path):
+    """What is wrong with the folders that the dynamic loader searches for a binary's libraries. It
+    takes an empty or relative entry for the current folder of whoever starts the program."""
+    found = re.search(r"\((?:RUNPATH|RPATH)\)[^\[]*\[(.*)\]", run("readelf", "-dW", path))
+    entries = found.group(1).split(":") if found else []
+    return [entry for entry in entries if not entry.startswith(("/", "$ORIGIN"))]
+
+
+def run_paths(_):
+    """No binary of the build tree takes libraries from the current folder."""
+    binaries = [path for folder in ("bin", "installed", "lib", "libexec", "plugins", "tests")
+                for path in (options.build / folder).rglob("*")
+                if "CMakeFiles" not in path.parts and is_elf(path)]
+    names = {path.name for path in binaries}
+    for name in ("mouse-gestures", f"gesturewidget-module-qt{options.qt}.so",
+                 f"libmousegestures-qt{options.qt}.so"):
+        assert name in names, f"{name} is not built"
+    faults = {str(path): run_path_faults(path) for path in binaries}
+    faults = {path: entries for path, entries in faults.items() if entries}
+    assert not faults, f"run paths with folders that depend on the current one: {faults}"
 
 
 def same(what, found, expected):
@@ -31,8 +62,8 @@ def same(what, found, expected):
     assert not missing and not surplus, f"{what}: missing {missing}, not expected {surplus}"
 
 
-def library(name):
-    return f"{options.libdir}/libgesturewidget-{name}-qt{options.qt}.so"
+def library(name, qt):
+    return f"{options.libdir}/libgesturewidget-{name}-qt{qt}.so"
 
 
 def version():
@@ -40,10 +71,9 @@ def version():
     return re.search(r"project\(GestureWidget VERSION ([0-9.]+)", text).group(1)
 
 
-def built_files():
-    """What carries the Qt version in its name and runs."""
-    qt = options.qt
-    return {f"{library(name)}.{number}" for name in ("sdk", "host") for number in ("0", version())} | {
+def built_files(qt):
+    """What runs and has the Qt version in its name."""
+    return {f"{library(name, qt)}.{number}" for name in ("sdk", "host") for number in ("0", version())} | {
         f"{options.libdir}/gesturewidget-module-qt{qt}.so",
         f"{options.libdir}/gesturewidget/qt{qt}/plugins/generic/libmousegestures-qt{qt}.so"}
 
@@ -57,21 +87,28 @@ def common_files():
         "libexec/gesturewidget/mouse-gestures-sheet",
         "share/applications/mouse-gestures.desktop",
         "share/bash-completion/completions/mouse-gestures",
+        "share/doc/gesturewidget/images/dialog.png",
+        "share/doc/gesturewidget/images/ring.png",
         "share/doc/gesturewidget/user-guide.html",
         "share/gesturewidget/bindings.schema.json",
-        "share/man/man1/mouse-gestures.1"}
+        "share/icons/hicolor/scalable/apps/mouse-gestures.svg",
+        "share/man/man1/mouse-gestures.1",
+        "share/metainfo/org.gesturewidget.mouse_gestures.metainfo.xml"}
 
 
-def built_devel_files(build_type):
-    targets = f"{options.libdir}/cmake/GestureWidget/GestureWidgetQt{options.qt}Targets"
-    return {library("sdk"), library("host"), f"{targets}.cmake", f"{targets}-{build_type}.cmake"}
+def built_devel_files(build_type, qt):
+    targets = f"{options.libdir}/cmake/GestureWidget/GestureWidgetQt{qt}Targets"
+    return {library("sdk", qt), library("host", qt), f"{targets}.cmake", f"{targets}-{build_type}.cmake",
+            *(f"{options.libdir}/pkgconfig/gesturewidget-{name}-qt{qt}.pc" for name in ("sdk", "host"))}
 
 
 def common_devel_files():
-    sdk = {f"include/gesturewidget/{path.relative_to(ROOT)}" for path in (ROOT / "sdk").rglob("*.h")}
+    # The bridge between the Qt versions is for this project's own sources.
+    sdk = {f"include/gesturewidget/{path.relative_to(ROOT)}" for path in (ROOT / "sdk").rglob("*.h")
+           if path.name != "QtBridge.h"}
     assert "include/gesturewidget/sdk/chx/CHxString.h" in sdk
     config = f"{options.libdir}/cmake/GestureWidget/GestureWidgetConfig"
-    return sdk | {"include/gesturewidget/host/GestureHost.h", "include/gesturewidget/host/HostExport.h",
+    return sdk | {"include/gesturewidget/GestureHost.h", "include/gesturewidget/HostExport.h",
                   f"{config}.cmake", f"{config}Version.cmake"}
 
 
@@ -87,7 +124,7 @@ def build_type():
 
 
 def clean_environment(home):
-    """Nothing of the build, of this machine's person or of another desktop."""
+    """An environment without anything of the build, of the user or of a desktop."""
     environment = {name: value for name, value in os.environ.items()
                    if name in ("PATH", "TMPDIR", "LD_PRELOAD")}
     return dict(environment, HOME=str(home), XDG_CONFIG_HOME=str(home / "config"),
@@ -104,8 +141,55 @@ def build_consumer(prefix, folder):
     return folder / "consumer"
 
 
+def public_headers(prefix):
+    """The installed headers, as a program names them."""
+    include = prefix / "include"
+    names = sorted(str(path.relative_to(include)) for path in include.rglob("*") if path.is_file())
+    assert "gesturewidget/sdk/chx/CHxString.h" in names, names
+    return names
+
+
+def check_headers(prefix):
+    """Programs share macros and namespaces with these headers, so all have our name. A header that
+    includes another one finds it whatever include folders a program has."""
+    for name in public_headers(prefix):
+        header = prefix / "include" / name
+        text = header.read_text()
+        macros = re.findall(r"^\s*#\s*define\s+(\w+)", text, re.MULTILINE)
+        namespaces = re.findall(r"^\s*(?:inline\s+)?namespace\s+(\w+)", text, re.MULTILINE)
+        strange = [macro for macro in macros if not macro.startswith("GESTUREWIDGET_")]
+        strange += [space for space in namespaces if not space.startswith("gesturewidget")]
+        assert not strange, f"{name} declares {strange}"
+        for other in re.findall(r'^\s*#\s*include\s+"([^"]+)"', text, re.MULTILINE):
+            assert (header.parent / other).is_file(), f"{name} does not find {other}"
+
+
+def use_by_pkg_config(prefix, folder):
+    """Builds the program, and a file with all headers, with the flags of the pkg-config file."""
+    environment = clean_environment(folder)
+    environment["PKG_CONFIG_PATH"] = str(prefix / options.libdir / "pkgconfig")
+    for library_name in ("sdk", "host"):
+        name = f"gesturewidget-{library_name}-qt{options.qt}"
+        found = run("pkg-config", "--variable=prefix", name, environment=environment).strip()
+        assert Path(found).resolve() == prefix, f"{name} is for {found}"
+    flags = run("pkg-config", "--cflags", "--libs", name, environment=environment).split()
+    assert run("pkg-config", "--modversion", name, environment=environment).strip() == version()
+    headers = folder / "headers.cpp"
+    headers.write_text("".join(f"#include <{header}>\n" for header in public_headers(prefix)))
+    program = folder / "pkg-config-consumer"
+    run("c++", "-std=c++17", "-fPIC", "-Wall", "-Wextra", "-Werror", CONSUMER / "main.cpp", headers,
+        "-o", program, *flags)
+    environment["LD_LIBRARY_PATH"] = str(prefix / options.libdir)
+    check_loaded(run(program, environment=environment), prefix, library_names())
+
+
+def library_names():
+    return [f"libgesturewidget-sdk-qt{options.qt}", f"libgesturewidget-host-qt{options.qt}",
+            f"gesturewidget-module-qt{options.qt}"]
+
+
 def check_loaded(output, prefix, names):
-    """The program says its menu's entry and then what it has in memory."""
+    """Checks what a program wrote: its menu's entry, then the files that it has in memory."""
     lines = output.splitlines()
     assert lines and lines[0] == ENTRY, output[:200]
     loaded = {line.split(None, 5)[5] for line in lines[1:] if len(line.split(None, 5)) == 6}
@@ -117,31 +201,31 @@ def check_loaded(output, prefix, names):
 
 
 def use(prefix, launcher, folder):
-    """Gestures from what lies in `prefix`, hosted by a program itself and brought into one."""
+    """Uses gestures from `prefix`: in a program that hosts them, and brought into one."""
     environment = clean_environment(folder)
     program = build_consumer(prefix, folder / "consumer")
-    names = [f"libgesturewidget-sdk-qt{options.qt}", f"libgesturewidget-host-qt{options.qt}",
-             f"gesturewidget-module-qt{options.qt}"]
-    check_loaded(run(program, environment=environment), prefix, names)
-    # Linked to the host's library, but not using it: what gets in is the plug-in.
+    check_loaded(run(program, environment=environment), prefix, library_names())
+    # This one links the host library without using it, so gestures come from the plug-in.
     check_loaded(run(launcher, program, "as-a-guest", environment=environment), prefix,
-                 names + [f"libmousegestures-qt{options.qt}"])
+                 library_names() + [f"libmousegestures-qt{options.qt}"])
 
 
-def check_launcher(launcher, prefix, folder):
-    """The program finds the plug-in from where it lies."""
+def check_launcher(launcher, prefix, folder, versions):
+    """Checks that the launcher finds the plug-ins of these Qt versions from its own place."""
     script = folder / "show-environment"
     script.write_text("#!/bin/sh\necho \"$QT_PLUGIN_PATH\"\n")
     script.chmod(0o755)
     path = run(launcher, script, environment=clean_environment(folder)).strip()
-    assert path == str(prefix / options.libdir / f"gesturewidget/qt{options.qt}/plugins"), path
+    expected = [str(prefix / options.libdir / f"gesturewidget/qt{qt}/plugins") for qt in versions]
+    assert path == ":".join(expected), path
     assert version() in run(launcher, "--version")
 
 
 def installation(folder):
-    """cmake --install, by components and as a whole."""
-    # A Qt 6 build has in components of its own what it has in common with Qt 5.
-    expected = {"Runtime": built_files(), "Devel": built_devel_files(build_type())}
+    """Installs the components one by one, then everything."""
+    # A Qt 6 build has components of its own for the files that are the same for both Qt versions.
+    expected = {"Runtime": built_files(options.qt),
+                "Devel": built_devel_files(build_type(), options.qt)}
     if options.qt == "5":
         expected["Runtime"] |= common_files()
         expected["Devel"] |= common_devel_files()
@@ -155,60 +239,141 @@ def installation(folder):
     prefix = folder / "prefix"
     run(options.cmake, "--install", options.build, "--prefix", prefix)
     same("installation", files_below(prefix), set().union(*expected.values()))
-    check_launcher(prefix / "bin/mouse-gestures", prefix, folder)
+    check_launcher(prefix / "bin/mouse-gestures", prefix, folder, [options.qt])
     use(prefix, prefix / "bin/mouse-gestures", folder)
-    # Nothing of it knows where it was built or put: it may be moved.
+    # An installation may be moved: nothing in it knows its own path.
     moved = folder / "elsewhere"
     prefix.rename(moved)
-    check_launcher(moved / "bin/mouse-gestures", moved, folder)
+    check_launcher(moved / "bin/mouse-gestures", moved, folder, [options.qt])
     use(moved, moved / "bin/mouse-gestures", folder / "again")
+    check_headers(moved)
+    use_by_pkg_config(moved, folder)
+
+
+def copy_sources(folder):
+    """Copies the files that git knows. The package build leaves its traces there, not in the tree."""
+    if folder.exists():
+        shutil.rmtree(folder)
+    for name in run("git", "-C", ROOT, "ls-files", "-z").split("\0"):
+        source = ROOT / name
+        if name and source.is_file():
+            (folder / name).parent.mkdir(parents=True, exist_ok=True)
+            shutil.copy2(source, folder / name)
+
+
+def build_packages(folder):
+    """Runs dpkg-buildpackage on a copy of the sources. The copy is always in the same place, and
+    debhelper's build gets the cache that compiled files are in outside of it."""
+    for old in folder.glob("gesturewidget*_*"):
+        old.unlink()
+    copy_sources(folder / "source")
+    environment = dict(os.environ, DEB_BUILD_OPTIONS=f"parallel={os.cpu_count()} noautodbgsym",
+                       DEB_CXXFLAGS_APPEND="-g0")
+    if shutil.which("ccache"):
+        environment["CCACHE_DIR"] = run("ccache", "--get-config", "cache_dir").strip()
+    run("dpkg-buildpackage", "-us", "-uc", "-b", directory=folder / "source", environment=environment)
+
+
+def check_lintian(folder, architecture):
+    """Lintian prints nothing, and no override keeps it from doing so."""
+    assert not list((ROOT / "debian").rglob("*lintian-overrides")), "there are overrides"
+    changes = folder / f"gesturewidget_{version()}_{architecture}.changes"
+    said = run("lintian", "--allow-root", "--tag-display-limit", "0", changes)
+    assert not said, said
+
+
+def check_hardening(folder, binaries):
+    for binary in binaries:
+        assert "BIND_NOW" in run("readelf", "-dW", binary), f"{binary} is not linked with bindnow"
+    for qt in ("5", "6"):
+        lines = (folder / f"source/debian/build/qt{qt}/build.ninja").read_text().splitlines()
+        flags = [line for line in lines if line.strip().startswith("FLAGS =") and " -O" in line]
+        defines = {line for line in flags if "-D_FORTIFY_SOURCE=2" not in line}
+        assert flags and not defines, f"compiled without fortify: {sorted(defines)[:3]}"
+
+
+def package_files():
+    """What each package holds, from the root."""
+    files = {}
+    for qt, suffix in (("5", ""), ("6", "-qt6")):
+        files[f"gesturewidget{suffix}"] = built_files(qt)
+        files[f"gesturewidget{suffix}-dev"] = built_devel_files("none", qt)
+    files["gesturewidget"] |= common_files()
+    files["gesturewidget-dev"] |= common_devel_files()
+    # The libraries are in a folder of their own, with links in their usual places.
+    for qt, suffix in (("5", ""), ("6", "-qt6")):
+        files[f"gesturewidget{suffix}"] |= {
+            f"{options.libdir}/gesturewidget/{Path(file).name}" for file in built_files(qt)
+            if re.search(r"(?:\d\.\d\.\d|module-qt\d\.so)$", file)}
+    manual = "share/man/man1/mouse-gestures.1"
+    files["gesturewidget"] ^= {manual, f"{manual}.gz"}
+    for name, content in files.items():
+        content |= {f"share/doc/{name}/changelog.gz", f"share/doc/{name}/copyright"}
+    return {name: {f"usr/{file}" for file in content} for name, content in files.items()}
+
+
+def unpack(package, name, root):
+    """Puts a package below `root`; returns the files in it."""
+    run("dpkg-deb", "-x", package, root)
+    assert run("dpkg-deb", "-f", package, "Package").strip() == name
+    assert run("dpkg-deb", "-f", package, "Version").strip() == version()
+    names = set()
+    for line in run("dpkg-deb", "-c", package).splitlines():
+        mode, owner, _, _, _, path = line.split(None, 5)
+        assert owner == "root/root", line
+        assert mode[0] == "l" or mode[5] != "w" and mode[8] != "w", line
+        if mode[0] != "d":
+            names.add(path.split(" -> ")[0].removeprefix("./"))
+    return names
+
+
+def check_dependencies(packages):
+    def depends(name):
+        return run("dpkg-deb", "-f", packages[name], "Depends")
+
+    for qt, suffix in (("5", ""), ("6", "-qt6")):
+        for needed in ("libc6", f"libqt{qt}widgets"):
+            assert needed in depends(f"gesturewidget{suffix}"), depends(f"gesturewidget{suffix}")
+        assert f"gesturewidget{suffix} (= {version()})" in depends(f"gesturewidget{suffix}-dev")
+    assert f"gesturewidget (= {version()})" in depends("gesturewidget-qt6")
+    assert f"gesturewidget-dev (= {version()})" in depends("gesturewidget-qt6-dev")
 
 
 def debian_packages(folder):
-    """cpack, and what dpkg-deb makes of the packages."""
-    run(options.cpack, "--config", options.build / "CPackConfig.cmake", "-G", "DEB", "-B", folder)
-    suffix = "" if options.qt == "5" else "-qt6"
+    """Builds the four packages of both Qt versions, and uses them from a folder of their own."""
+    place = options.build / "debian"
+    place.mkdir(exist_ok=True)
+    build_packages(place)
     architecture = run("dpkg", "--print-architecture").strip()
-    names = {f"gesturewidget{suffix}": built_files(),
-             f"gesturewidget{suffix}-dev": built_devel_files(build_type())}
-    if options.qt == "5":
-        names["gesturewidget"] |= common_files()
-        names["gesturewidget-dev"] |= common_devel_files()
-    same("packages", {path.name for path in folder.glob("*.deb")},
-         {f"{name}_{version()}_{architecture}.deb" for name in names})
-
+    expected = package_files()
+    packages = {name: place / f"{name}_{version()}_{architecture}.deb" for name in expected}
+    same("packages", set(place.glob("*.deb")), set(packages.values()))
     root = folder / "root"
-    depends = {}
-    for name, files in names.items():
-        package = folder / f"{name}_{version()}_{architecture}.deb"
-        alone = folder / name
-        run("dpkg-deb", "-x", package, alone)
-        same(name, files_below(alone), {f"usr/{file}" for file in files})
-        run("dpkg-deb", "-x", package, root)
-        assert run("dpkg-deb", "-f", package, "Package").strip() == name
-        assert run("dpkg-deb", "-f", package, "Version").strip() == version()
-        depends[name] = run("dpkg-deb", "-f", package, "Depends")
-        for line in run("dpkg-deb", "-c", package).splitlines():
-            mode, owner = line.split()[:2]
-            assert owner == "root/root", line
-            assert mode[0] == "l" or mode[5] != "w" and mode[8] != "w", line
-    runtime = depends[f"gesturewidget{suffix}"]
-    for needed in ("libc6", f"libqt{options.qt}widgets"):
-        assert needed in runtime, runtime
-    assert f"gesturewidget{suffix} (= {version()})" in depends[f"gesturewidget{suffix}-dev"], depends
+    for name, package in packages.items():
+        same(name, unpack(package, name, root), expected[name])
+    check_dependencies(packages)
+    check_lintian(place, architecture)
+    check_hardening(place, filter(is_elf, root.rglob("*")))
 
     prefix = root / "usr"
-    launcher = prefix / "bin/mouse-gestures"
-    if options.qt == "6":
-        assert f"gesturewidget (= {version()})" in runtime, runtime
-        # What its packages leave to those of Qt 5.
-        for component in ("RuntimeCommon", "DevelCommon"):
-            run(options.cmake, "--install", options.build, "--prefix", prefix, "--component", component)
-    check_launcher(launcher, prefix, folder)
-    use(prefix, launcher, folder / "use")
+    run("desktop-file-validate", *(prefix / "share/applications").iterdir())
+    run("appstreamcli", "validate", "--no-net", "--pedantic", *(prefix / "share/metainfo").iterdir())
+    check_launcher(prefix / "bin/mouse-gestures", prefix, folder, ["5", "6"])
+    for qt in ("5", "6"):
+        options.qt = qt
+        (folder / f"use-qt{qt}").mkdir()
+        use(prefix, prefix / "bin/mouse-gestures", folder / f"use-qt{qt}")
+
+    # The packages' own tests, as they run where the packages are installed.
+    environment = dict(clean_environment(folder), PATH=f"{prefix / 'bin'}:{os.environ['PATH']}")
+    run(ROOT / "debian/tests/gesture", environment=environment)
+    libraries = prefix / options.libdir
+    environment.update(CMAKE_PREFIX_PATH=str(prefix), LD_LIBRARY_PATH=str(libraries),
+                       PKG_CONFIG_PATH=str(libraries / "pkgconfig"))
+    run(ROOT / "debian/tests/host", environment=environment)
 
 
-TESTS = {"installation": installation, "debian_packages": debian_packages}
+TESTS = {"run_paths": run_paths, "installation": installation, "debian_packages": debian_packages}
 
 
 def main():
@@ -217,7 +382,6 @@ def main():
     parser.add_argument("--build", type=Path, required=True, help="the build folder")
     parser.add_argument("--qt", choices=["5", "6"], required=True)
     parser.add_argument("--cmake", default="cmake")
-    parser.add_argument("--cpack", default="cpack")
     parser.add_argument("--libdir", required=True, help="folder of the libraries, from the prefix")
     parser.add_argument("test", choices=TESTS)
     options = parser.parse_args()

@@ -1,4 +1,4 @@
-// What the interfaces do by themselves, and the process-wide accessors.
+// The defaults of the interfaces, and the process-wide accessors.
 
 #include "sdk/chx/CHxCommand.h"
 #include "sdk/chx/CHxDialog.h"
@@ -89,7 +89,7 @@ private Q_SLOTS:
     void init() { tests::resetWarnings(); }
     void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
 
-    // Derived classes override nothing, so each call must link and do nothing.
+    // The derived classes override nothing. Each call must link and do nothing.
     void observersDoNothing()
     {
         tests::FakeHost host;

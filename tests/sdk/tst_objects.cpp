@@ -1,4 +1,4 @@
-// Who counts references, and who frees.
+// Reference counting: which objects count, and what deletes them.
 
 #include "sdk/chx/hx_OdRxModule.h"
 #include "sdk/od/OdAlloc.h"

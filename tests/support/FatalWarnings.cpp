@@ -16,7 +16,7 @@ QtMessageHandler previousHandler = nullptr;
 
 void collect(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
-    // The offscreen platform says this of every window that has a parent on it.
+    // The offscreen platform says this about every window with a transient parent.
     const bool known = text.startsWith(QLatin1String("This plugin does not support"));
     if ((type == QtWarningMsg || type == QtCriticalMsg) && !known)
         collected().append(text);

@@ -2,20 +2,20 @@
 
 #include <QString>
 
-// Makes every Qt warning that a test did not announce fail that test.
+// A test fails if Qt prints a warning that the test did not announce.
 //
 //     void initTestCase() { tests::failOnWarnings(); }
 //     void init() { tests::resetWarnings(); }
 //     void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
 //
-// Warnings announced with QTest::ignoreMessage never arrive here.
+// Warnings announced with QTest::ignoreMessage are not collected.
 namespace tests {
 
-// Starts collecting warnings in place of Qt's own handler.
+// Starts to collect warnings.
 void failOnWarnings();
-// Forgets what has been collected.
+// Forgets the warnings collected so far.
 void resetWarnings();
-// What has been collected since, a line each; empty when there was none.
+// The warnings collected since then, one per line; empty if there were none.
 [[nodiscard]] QString warnings();
 
 } // namespace tests

@@ -1,16 +1,20 @@
 #!/bin/bash
 # Runs a command on a desktop of its own: an X server without a screen, a window manager
-# with a pinned configuration and a compositor. The command starts once all three are up;
-# whatever way it ends, and also when this script is killed, nothing of them stays behind.
+# and a compositor. The command starts once all three are up. However it ends, and also if
+# this script is killed, nothing of them stays behind.
 #
 #     with-desktop.sh COMMAND [ARGUMENT...]
 #
 # The command finds DISPLAY set, a home of its own (HOME and the XDG folders) and runs Qt
-# on X11. Its exit status is handed on; 125 says that the desktop did not come up.
+# on X11. This script exits with the command's status, or with 125 if the desktop did not
+# come up.
 #
-# DESKTOP_SCREEN    size and depth of the screen, 1600x1000x24 when not set
-# DESKTOP_WM=0      no window manager
-# DESKTOP_COMPOSITOR=0    no compositor
+# DESKTOP_SCREEN        size and depth of the screen (default: 1600x1000x24)
+# DESKTOP_SERVER        the X server: xvfb (default) or tigervnc
+# DESKTOP_WM            the window manager: openbox (default), kwin, xfwm4, marco, mutter,
+#                       icewm, i3, awesome, fluxbox or none; or a Wayland session with
+#                       XWayland: kwin_wayland, mutter_wayland or sway
+# DESKTOP_COMPOSITOR=0  no compositor
 set -u
 
 if [ $# -eq 0 ]; then
@@ -19,6 +23,8 @@ if [ $# -eq 0 ]; then
 fi
 
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+source "$here/window-managers.sh"
+source "$here/wayland-sessions.sh"
 base=$(mktemp -d "${TMPDIR:-/tmp}/desktop.XXXXXX") || exit 125
 pids=()
 command_pid=
@@ -28,10 +34,16 @@ tear_down() {
     if [ -n "$command_pid" ]; then
         kill "$command_pid" 2>/dev/null
     fi
-    # The server goes last, so that the others still can say goodbye to it.
-    local i
+    # The server goes last, so that the others can still disconnect from it.
+    local i tries
     for ((i = ${#pids[@]} - 1; i >= 0; i--)); do
         kill "${pids[i]}" 2>/dev/null
+        # Fluxbox may lock itself up in its signal handler.
+        for ((tries = 0; tries < 40; tries++)); do
+            kill -0 "${pids[i]}" 2>/dev/null || break
+            sleep 0.05
+        done
+        kill -KILL "${pids[i]}" 2>/dev/null
         wait "${pids[i]}" 2>/dev/null
     done
     rm -rf "$base"
@@ -47,7 +59,7 @@ fail() {
     exit 125
 }
 
-# Starts a part of the desktop that also dies when this script is killed outright.
+# Starts a part of the desktop that also ends if this script is killed.
 start() {
     local log=$1
     shift
@@ -55,8 +67,8 @@ start() {
     pids+=($!)
 }
 
-# Asks again until the condition holds; gives up after about 20 s or when the part that
-# was started last has ended.
+# Waits until the condition holds. Fails after about 20 s, or if the part that was started
+# last has ended.
 await() {
     local what=$1 tries=0
     shift
@@ -76,25 +88,29 @@ export QT_QPA_PLATFORM=xcb QT_QPA_PLATFORMTHEME= LANG=${LANG:-C.UTF-8}
 unset WAYLAND_DISPLAY XAUTHORITY DISPLAY
 
 # The server chooses a free display and writes its number once it takes connections.
-setpriv --pdeathsig KILL Xvfb -displayfd 3 -screen 0 "${DESKTOP_SCREEN:-1600x1000x24}" \
-    -nolisten tcp -noreset 3>"$base/display" >"$base/xvfb.log" 2>&1 &
-pids+=($!)
-await "the X server" test -s "$base/display"
-DISPLAY=:$(tr -d '[:space:]' <"$base/display")
-export DISPLAY
+start_x_server() { # SIZExDEPTH
+    local server
+    case ${DESKTOP_SERVER:-xvfb} in
+        xvfb) server=(Xvfb -screen 0 "$1") ;;
+        tigervnc) server=(Xtigervnc -geometry "${1%x*}" -depth "${1##*x}" -SecurityTypes None
+            -rfbunixpath "$base/vnc") ;;
+        *) fail "unknown X server $DESKTOP_SERVER" ;;
+    esac
+    setpriv --pdeathsig KILL "${server[@]}" -nolisten tcp -noreset -displayfd 3 \
+        3>"$base/display" >"$base/server.log" 2>&1 &
+    pids+=($!)
+    await "the X server" test -s "$base/display"
+    DISPLAY=:$(tr -d '[:space:]' <"$base/display")
+    export DISPLAY
+}
 
-# A window manager is there when the window it names on the root names itself.
+# A window manager is up if the window that it names on the root names itself.
 manager_is_up() {
     local window
     window=$(xprop -root -notype _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -o '0x[0-9a-f]*') || return 1
     xprop -id "$window" -notype _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q "$window"
 }
-if [ "${DESKTOP_WM:-1}" != 0 ]; then
-    start openbox openbox --sm-disable --config-file "$here/openbox-rc.xml"
-    await "the window manager" manager_is_up
-fi
-
-# A compositor is there when somebody owns its selection.
+# A compositor is up if somebody owns its selection.
 compositor_is_up() {
     python3 - <<'PYTHON'
 import ctypes, sys
@@ -108,12 +124,24 @@ display = x11.XOpenDisplay(None)
 sys.exit(not (display and x11.XGetSelectionOwner(display, x11.XInternAtom(display, b"_NET_WM_CM_S0", 0))))
 PYTHON
 }
-if [ "${DESKTOP_COMPOSITOR:-1}" != 0 ]; then
-    start picom picom --backend xrender --config /dev/null
-    await "the compositor" compositor_is_up
+screen=${DESKTOP_SCREEN:-1600x1000x24}
+manager=${DESKTOP_WM:-openbox}
+compositor=${DESKTOP_COMPOSITOR:-1}
+if is_wayland_session "$manager"; then
+    start_wayland_session "$manager" "${screen%x*}"
+else
+    start_x_server "$screen"
+    if [ "$manager" != none ]; then
+        start_window_manager "$manager" "$compositor"
+        await "the window manager" manager_is_up
+    fi
+    if [ "$compositor" != 0 ]; then
+        composites_itself "$manager" || start picom picom --backend xrender --config /dev/null
+        await "the compositor" compositor_is_up
+    fi
 fi
 
-# In the background and waited for, so that a signal to this script is heard at once.
+# Runs in the background, so that a signal to this script is handled at once.
 "$@" <&0 &
 command_pid=$!
 wait "$command_pid"

@@ -34,14 +34,14 @@ QString text(const QRect &rect)
         .arg(rect.height());
 }
 
-// A caption without mnemonics and without what would break a line.
+// A caption without mnemonics and line breaks.
 QString plain(QString caption)
 {
     caption.remove(QLatin1Char('&'));
     return caption.simplified();
 }
 
-// Such as "Escape".
+// The name of a key, such as "Escape".
 QString keyName(int key)
 {
     return QString::fromLatin1(QMetaEnum::fromType<Qt::Key>().valueToKey(key)).mid(4);
@@ -195,7 +195,7 @@ void ActionSpy::watchAction(QAction *action)
 
 void ActionSpy::lookAround()
 {
-    // An action need not be in any menu, so the objects are searched as well as the events.
+    // An action may be in no menu and send no event, so all objects are searched as well.
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (const QWidget *window : windows) {
         const QList<QAction *> actions = window->findChildren<QAction *>();

@@ -18,34 +18,34 @@ QT_END_NAMESPACE
 
 // Watches the program that it is loaded into and changes nothing.
 //
-// Writes one line for each thing that happened, its fields separated by tabs, to the file
-// or named pipe that ACTIONSPY_LOG names:
+// Writes one line for each event to the file or named pipe in ACTIONSPY_LOG. Tabs separate
+// the fields:
 //
 //     started    PID
 //     window     CLASS  X,Y,W,H  TITLE      a window came up
-//     dialog     CLASS  X,Y,W,H  TITLE      the same, and it blocks others: it is modal
+//     dialog     CLASS  X,Y,W,H  TITLE      a modal window came up
 //     menu       CLASS  OBJECTNAME          a menu opened
-//     entries    CAPTION...                 what that menu shows, separators left out
-//     choices    TEXT...                    what a combo box of a dialog that came up offers
+//     entries    CAPTION...                 the entries of that menu, without separators
+//     choices    TEXT...                    the items of a combo box in a new modal window
 //     gone       CLASS                      a window or menu was closed
-//     exposed    CLASS                      a window is on screen, and all have dealt with that
-//     view       CLASS  X,Y,W,H             a drawing view is there, in global pixels
-//     widget     OBJECTNAME  X,Y,W,H        a widget to look for is there, in global pixels
-//     ready                                 view and menu entry are there, see below
-//     triggered  OBJECTNAME  CAPTION        an action ran; comes when the program has dealt
-//                                           with it, so after a modal dialog that it opened
+//     exposed    CLASS                      a window is on screen, and the program knows it
+//     view       CLASS  X,Y,W,H             a view is visible; global pixels
+//     widget     OBJECTNAME  X,Y,W,H        a widget to look for is visible; global pixels
+//     ready                                 view and menu entry exist, see below
+//     triggered  OBJECTNAME  CAPTION        an action ran; written when it has finished, so
+//                                           after a modal dialog that it opened
 //     press      BUTTON  CLASS  X,Y         a mouse event reached a widget; also "release"
 //                                           and "doubleclick"
 //     contextmenu  CLASS  REASON            a context-menu event reached a widget
 //     key        NAME  CLASS                a key press reached a widget
 //     quit                                  the program is about to end
 //
-// ACTIONSPY_VIEW names the classes of drawing views, separated by commas, ACTIONSPY_WIDGETS
-// the object names of widgets to look for; ACTIONSPY_ENTRY is the caption of the menu entry
-// that "ready" waits for, if it shall wait for one.
+// ACTIONSPY_VIEW lists the classes of views, ACTIONSPY_WIDGETS the object names of widgets to
+// look for, both separated by commas. ACTIONSPY_ENTRY is the caption of the menu entry that
+// "ready" waits for; if it is empty, "ready" waits only for a view.
 //
-// Its event filter is the application's: what a plug-in created after it holds back does
-// not reach it, as it does not reach the program.
+// It filters the application's events. An event that a plug-in created later holds back
+// reaches neither the spy nor the program.
 class ActionSpy : public QObject
 {
     Q_OBJECT
@@ -70,7 +70,7 @@ private:
     QStringList m_viewClasses;
     QStringList m_widgetNames;
     QString m_entry;
-    QTimer m_lookAround; // once for all events of one turn of the event loop
+    QTimer m_lookAround; // fires once for all events of one loop iteration
     QSet<const QAction *> m_actions;
     using Places = std::map<const QWidget *, QRect>;
     Places m_views;

@@ -2,7 +2,7 @@
 
 #include <QGenericPlugin>
 
-// Qt's door to the spy: QT_QPA_GENERIC_PLUGINS=actionspy.
+// Makes Qt load the spy: QT_QPA_GENERIC_PLUGINS=actionspy.
 class ActionSpyPlugin : public QGenericPlugin
 {
     Q_OBJECT

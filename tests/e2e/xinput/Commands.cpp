@@ -45,7 +45,7 @@ QStringList wordsOf(const QString &line)
     return words;
 }
 
-// The words from `first` on as numbers; nothing when one of them is none.
+// The words from `first` on as numbers; nullopt if one of them is not a number.
 std::optional<QList<int>> numbers(const QStringList &words, int first)
 {
     QList<int> result;
@@ -157,16 +157,39 @@ QString Commands::windows(const QString &name, const QStringList &words)
             found.append(describe(window) + QLatin1Char(' ') + window.title);
         return QStringLiteral("ok ") + found.join(QLatin1Char('\t'));
     }
-    if ((name == QLatin1String("close") || name == QLatin1String("activate")) && words.size() == 1) {
+    const bool close = name == QLatin1String("close");
+    const bool activate = name == QLatin1String("activate");
+    const bool focusOn = name == QLatin1String("focus-on");
+    if ((close || activate || focusOn) && words.size() == 1) {
         const auto window = titled(m_desktop, words.first());
         if (!window)
             return refuse(QStringLiteral("no such window"));
-        if (name == QLatin1String("close"))
+        if (close)
             m_desktop.closeWindow(window->id);
-        else
+        else if (activate)
             m_desktop.activateWindow(window->id);
+        else
+            m_desktop.focusOn(window->id);
         return kOk;
     }
+    if (name == QLatin1String("place") && words.size() == 5) {
+        const auto window = titled(m_desktop, words.first());
+        const auto given = numbers(words, 1);
+        if (!window || !given)
+            return refuse(QStringLiteral("no such window or place"));
+        m_desktop.placeWindow(window->id, QRect(given->at(0), given->at(1), given->at(2), given->at(3)));
+        return kOk;
+    }
+    if (name == QLatin1String("focus") && words.isEmpty())
+        return QStringLiteral("ok active 0x%1 focus 0x%2")
+            .arg(m_desktop.activeWindow(), 0, 16)
+            .arg(m_desktop.focusWindow(), 0, 16);
+    if (name == QLatin1String("watch") && words.isEmpty()) {
+        m_desktop.watch();
+        return kOk;
+    }
+    if (name == QLatin1String("activations") && words.isEmpty())
+        return QStringLiteral("ok %1").arg(m_desktop.activations());
 
     const bool absent = name.startsWith(QLatin1String("wait-no-"));
     const QString what = name.mid(absent ? 8 : 5);
@@ -190,6 +213,9 @@ QString Commands::windows(const QString &name, const QStringList &words)
             return window && m_desktop.isUnderPointer(window->id);
         };
         milliseconds = words.at(1).toInt();
+    } else if (absent && what == QLatin1String("popup") && words.size() == 1) {
+        look = [&] { return !m_desktop.hasPopup(); };
+        milliseconds = words.first().toInt();
     } else if (const auto given = numbers(words, 0);
                what == QLatin1String("size") && given && given->size() == 3) {
         const QSize size(given->at(0), given->at(1));

@@ -8,8 +8,8 @@
 
 class XDesktop;
 
-// The driver's language: one command a line, one line of answer, "ok" with what was asked
-// for or "error" with the reason.
+// The driver's language: one command a line, one line of answer. The answer is "ok" with what
+// was asked for, or "error" with the reason.
 //
 //     move X Y               press N     release N     click N     pointer -> X Y
 //     drag DX DY MS [STEPS]  moves by that much in MS milliseconds
@@ -22,20 +22,27 @@ class XDesktop;
 //     wait-pointer-in TITLE MS   the pointer is in such a window, with nothing above it
 //     wait-size W H MS       a window of that size -> ID X Y W H
 //     wait-no-size W H MS
+//     wait-no-popup MS       no menu and no list of a combo box is on screen
 //     close TITLE            activate TITLE
+//     place TITLE X Y W H    moves and resizes a window where there is no window manager
+//     focus-on TITLE         gives it the keyboard where there is no window manager
+//     focus                  -> "active ID focus ID": the window manager's active window, and
+//                            the root's child that has the keyboard
+//     watch                  starts to count the announcements of an active window
+//     activations            -> N, the announcements since then or since the last time
 //     screenshot FILE [X Y W H]
 //     remember X Y W H       what the screen shows there
-//     wait-change MS         it shows something else there
-//     wait-steady MS         it shows there the same 40 ms apart, and is remembered so
+//     wait-change MS         the screen shows something else there
+//     wait-steady MS         the screen shows the same there for 40 ms; that is remembered
 //     grabs                  -> "pointer free|taken keyboard free|taken"
 //
-// A word with spaces stands in double quotes.
+// Put a word with spaces in double quotes.
 class Commands
 {
 public:
     explicit Commands(XDesktop &desktop);
 
-    // Carries out one line. The answer has no line end.
+    // Carries out one command. The answer has no line end.
     [[nodiscard]] QString run(const QString &line);
 
 private:

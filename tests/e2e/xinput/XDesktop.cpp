@@ -10,13 +10,15 @@
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <cstring>
 #include <ctime>
-#include <vector>
+#include <iterator>
 
 namespace {
 
-// A window's frame, its frame's parent, itself: no window manager nests deeper.
+// Window managers nest a window in its frame and the frame's parent, and no deeper.
 constexpr int kDeepestWindow = 4;
 constexpr long kPollNanoseconds = 10'000'000;
 
@@ -40,7 +42,7 @@ void sleepUntil(const timespec &time)
     while (::clock_nanosleep(CLOCK_MONOTONIC, TIMER_ABSTIME, &time, nullptr) == EINTR) { }
 }
 
-// Windows come and go while they are looked at; a request that meets none is no fault.
+// A window may go while it is inspected; a request for it then fails, which is expected.
 int ignoreError(Display *, XErrorEvent *)
 {
     return 0;
@@ -65,6 +67,15 @@ QByteArray property(Display *display, ::Window window, const char *name, Atom ty
     return bytes;
 }
 
+// Windows or atoms in a property; empty if the window has no such property.
+std::vector<unsigned long> identifiers(Display *display, ::Window window, const char *name, Atom type)
+{
+    const QByteArray bytes = property(display, window, name, type);
+    std::vector<unsigned long> result(static_cast<std::size_t>(bytes.size()) / sizeof(unsigned long));
+    std::memcpy(result.data(), bytes.constData(), result.size() * sizeof(unsigned long));
+    return result;
+}
+
 } // namespace
 
 XDesktop::XDesktop()
@@ -74,11 +85,13 @@ XDesktop::XDesktop()
         return;
     XSetErrorHandler(ignoreError);
     m_root = DefaultRootWindow(m_display);
-    XTestGrabControl(m_display, True); // our input counts also while a program holds a server grab
+    XTestGrabControl(m_display, True); // our input arrives even while a program grabs the server
 }
 
 XDesktop::~XDesktop()
 {
+    if (m_watcher)
+        XCloseDisplay(m_watcher);
     if (m_display)
         XCloseDisplay(m_display);
 }
@@ -168,13 +181,16 @@ bool XDesktop::typeText(const QString &text)
 
 QList<XDesktop::Window> XDesktop::windows() const
 {
+    std::vector<unsigned long> ids =
+        identifiers(m_display, m_root, "_NET_CLIENT_LIST_STACKING", XA_WINDOW);
+    if (ids.empty()) // xfwm4 announces the stack only once it has changed
+        ids = identifiers(m_display, m_root, "_NET_CLIENT_LIST", XA_WINDOW);
+    if (!isManaged()) // then the root's children are the windows themselves
+        ids = childrenOf(m_root);
     QList<Window> result;
-    const QByteArray clients = property(m_display, m_root, "_NET_CLIENT_LIST_STACKING", XA_WINDOW);
-    const auto *ids = reinterpret_cast<const unsigned long *>(clients.constData());
-    const auto count = static_cast<std::size_t>(clients.size()) / sizeof(unsigned long);
-    for (std::size_t i = 0; i < count; ++i) {
-        if (const auto geometry = visibleGeometry(ids[i]))
-            result.append({ids[i], *geometry, titleOf(ids[i])});
+    for (const unsigned long id : ids) {
+        if (const auto geometry = visibleGeometry(id))
+            result.append({id, *geometry, titleOf(id)});
     }
     return result;
 }
@@ -186,32 +202,77 @@ std::optional<XDesktop::Window> XDesktop::windowOfSize(QSize size) const
 
 std::optional<XDesktop::Window> XDesktop::findBySize(unsigned long below, QSize size, int depth) const
 {
-    ::Window root = 0;
-    ::Window parent = 0;
-    ::Window *children = nullptr;
-    unsigned int count = 0;
-    if (!XQueryTree(m_display, below, &root, &parent, &children, &count))
-        return {};
-    std::optional<Window> found;
-    for (unsigned int i = count; i-- > 0 && !found;) { // from the top of the stack downwards
-        const auto geometry = visibleGeometry(children[i]);
+    const std::vector<unsigned long> children = childrenOf(below);
+    for (auto child = children.rbegin(); child != children.rend(); ++child) { // topmost first
+        const auto geometry = visibleGeometry(*child);
         if (geometry && geometry->size() == size)
-            found = Window{children[i], *geometry, titleOf(children[i])};
-        else if (geometry && depth < kDeepestWindow)
-            found = findBySize(children[i], size, depth + 1);
+            return Window{*child, *geometry, titleOf(*child)};
+        const auto inside =
+            geometry && depth < kDeepestWindow ? findBySize(*child, size, depth + 1) : std::nullopt;
+        if (inside)
+            return inside;
     }
-    if (children)
-        XFree(children);
-    return found;
+    return {};
 }
 
-bool XDesktop::hasFocus(unsigned long id) const
+bool XDesktop::hasPopup() const
+{
+    const unsigned long types[] = {XInternAtom(m_display, "_NET_WM_WINDOW_TYPE_POPUP_MENU", False),
+                                   XInternAtom(m_display, "_NET_WM_WINDOW_TYPE_DROPDOWN_MENU", False),
+                                   XInternAtom(m_display, "_NET_WM_WINDOW_TYPE_COMBO", False)};
+    const std::vector<unsigned long> children = childrenOf(m_root);
+    return std::any_of(children.begin(), children.end(), [&](unsigned long child) {
+        const std::vector<unsigned long> own =
+            identifiers(m_display, child, "_NET_WM_WINDOW_TYPE", XA_ATOM);
+        return std::find_first_of(own.begin(), own.end(), std::begin(types), std::end(types))
+                != own.end()
+            && visibleGeometry(child);
+    });
+}
+
+unsigned long XDesktop::focusWindow() const
 {
     ::Window focus = 0;
     int revert = 0;
     XGetInputFocus(m_display, &focus, &revert);
-    // A program may give the focus to a window inside of its own.
-    return focus != None && focus != PointerRoot && topLevelOf(focus) == topLevelOf(id);
+    // A program may give the focus to a window inside its own.
+    return focus == None || focus == PointerRoot ? None : topLevelOf(focus);
+}
+
+bool XDesktop::hasFocus(unsigned long id) const
+{
+    const unsigned long focus = focusWindow();
+    return focus != None && focus == topLevelOf(id);
+}
+
+unsigned long XDesktop::activeWindow() const
+{
+    const auto ids = identifiers(m_display, m_root, "_NET_ACTIVE_WINDOW", XA_WINDOW);
+    return ids.empty() ? None : ids.front();
+}
+
+void XDesktop::watch()
+{
+    if (m_watcher)
+        XCloseDisplay(m_watcher);
+    m_watcher = XOpenDisplay(nullptr);
+    XSelectInput(m_watcher, m_root, PropertyChangeMask);
+    XSync(m_watcher, False);
+}
+
+int XDesktop::activations()
+{
+    if (!m_watcher)
+        return 0;
+    XSync(m_watcher, False);
+    const Atom active = XInternAtom(m_watcher, "_NET_ACTIVE_WINDOW", False);
+    int count = 0;
+    while (XPending(m_watcher) > 0) {
+        XEvent event = {};
+        XNextEvent(m_watcher, &event);
+        count += event.type == PropertyNotify && event.xproperty.atom == active;
+    }
+    return count;
 }
 
 bool XDesktop::isUnderPointer(unsigned long id) const
@@ -229,7 +290,34 @@ bool XDesktop::isUnderPointer(unsigned long id) const
 
 void XDesktop::closeWindow(unsigned long id)
 {
-    sendToManager(id, "_NET_CLOSE_WINDOW", CurrentTime);
+    const auto supported = identifiers(m_display, m_root, "_NET_SUPPORTED", XA_ATOM);
+    const unsigned long close = XInternAtom(m_display, "_NET_CLOSE_WINDOW", False);
+    if (std::find(supported.begin(), supported.end(), close) != supported.end()) {
+        sendToManager(id, "_NET_CLOSE_WINDOW", CurrentTime);
+        return;
+    }
+    XEvent event = {};
+    event.xclient.type = ClientMessage;
+    event.xclient.window = id;
+    event.xclient.message_type = XInternAtom(m_display, "WM_PROTOCOLS", False);
+    event.xclient.format = 32;
+    event.xclient.data.l[0] = static_cast<long>(XInternAtom(m_display, "WM_DELETE_WINDOW", False));
+    event.xclient.data.l[1] = CurrentTime;
+    XSendEvent(m_display, id, False, NoEventMask, &event);
+    sync();
+}
+
+void XDesktop::placeWindow(unsigned long id, const QRect &place)
+{
+    XMoveResizeWindow(m_display, id, place.x(), place.y(), static_cast<unsigned>(place.width()),
+                      static_cast<unsigned>(place.height()));
+    sync();
+}
+
+void XDesktop::focusOn(unsigned long id)
+{
+    XSetInputFocus(m_display, id, RevertToParent, CurrentTime);
+    sync();
 }
 
 void XDesktop::activateWindow(unsigned long id)
@@ -308,7 +396,27 @@ bool XDesktop::waitFor(const std::function<bool()> &condition, int milliseconds)
 
 void XDesktop::sync()
 {
-    XSync(m_display, True); // no event is selected; the few that come anyway are nobody's
+    XSync(m_display, True); // discards events: this connection selects none
+}
+
+bool XDesktop::isManaged() const
+{
+    return !identifiers(m_display, m_root, "_NET_SUPPORTING_WM_CHECK", XA_WINDOW).empty();
+}
+
+// From the lowest in the stack to the topmost.
+std::vector<unsigned long> XDesktop::childrenOf(unsigned long window) const
+{
+    ::Window root = 0;
+    ::Window parent = 0;
+    ::Window *children = nullptr;
+    unsigned int count = 0;
+    if (!XQueryTree(m_display, window, &root, &parent, &children, &count))
+        return {};
+    std::vector<unsigned long> result(children, children + count);
+    if (children)
+        XFree(children);
+    return result;
 }
 
 // The root's child that `window` is in: its frame, if it has one.

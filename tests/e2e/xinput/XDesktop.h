@@ -7,11 +7,12 @@
 
 #include <functional>
 #include <optional>
+#include <vector>
 
 struct _XDisplay;
 
-// An X11 desktop as a person has it before them: a pointer, a keyboard, and windows to look
-// at. Input arrives in programs as real X events (XTEST), from outside of them.
+// An X11 desktop as a person sees it: a pointer, a keyboard, and windows. Programs get the
+// input as real X events (XTEST) from another process.
 //
 // Coordinates are pixels of the root window.
 class XDesktop
@@ -34,50 +35,70 @@ public:
     [[nodiscard]] QPoint pointer() const;
     void movePointer(QPoint to);
     void setButton(int button, bool down);
-    // Moves along a straight line in `steps` moves at even times, the last of them
+    // Moves along a straight line in `steps` moves at even intervals. The last move comes
     // `milliseconds` from now.
     void glide(QPoint by, int milliseconds, int steps);
 
-    // `name` is a key's X name, with "ctrl+", "shift+" or "alt+" before it: "ctrl+s".
-    // Returns false when the keyboard has no such key.
+    // `name` is a key's X name, after any of "ctrl+", "shift+" and "alt+": "ctrl+s".
+    // Returns false if the keyboard has no such key.
     bool tapKey(const QString &name);
-    // Types characters of the basic keyboard. Returns false at the first it does not have.
+    // Types ASCII characters. Returns false at the first that the keyboard does not have.
     bool typeText(const QString &text);
 
-    // Windows that a window manager manages and that are on screen.
+    // The windows on screen that a window manager manages, from the lowest to the topmost;
+    // all that are on screen if there is no window manager.
     [[nodiscard]] QList<Window> windows() const;
-    // A window of exactly that size that is on screen, managed or not.
+    // A window of exactly that size on screen, managed or not.
     [[nodiscard]] std::optional<Window> windowOfSize(QSize size) const;
-    // Whether keys go to that window.
+    // True if a menu or the list of a combo box is on screen.
+    [[nodiscard]] bool hasPopup() const;
+    // True if keys go to that window.
     [[nodiscard]] bool hasFocus(unsigned long id) const;
-    // Whether the pointer is in that window with nothing in between: input there goes to it.
+    // The root's child that keys go to, and the window that the window manager calls active;
+    // 0 if there is none.
+    [[nodiscard]] unsigned long focusWindow() const;
+    [[nodiscard]] unsigned long activeWindow() const;
+    // True if the pointer is in that window with nothing in between, so that it gets the input.
     [[nodiscard]] bool isUnderPointer(unsigned long id) const;
     // Asks a window to close, as its close button does.
     void closeWindow(unsigned long id);
     // Asks the window manager to raise a window and give it the keyboard.
     void activateWindow(unsigned long id);
+    // These two do a window manager's work where there is none.
+    void placeWindow(unsigned long id, const QRect &place);
+    void focusOn(unsigned long id);
 
-    // What the screen shows; null when `area` is not within it.
+    // Starts to count how often the window manager announces an active window. Each time, a
+    // title bar may flicker.
+    void watch();
+    // The announcements since watch() or the last call.
+    [[nodiscard]] int activations();
+
+    // A picture of the screen; null if `area` is not within the screen.
     [[nodiscard]] QImage look(const QRect &area) const;
     [[nodiscard]] QRect screen() const;
 
-    // Whether another program holds the pointer, or the keyboard, for itself: seen by
-    // trying to take it.
+    // True if another program has grabbed the pointer, or the keyboard. Found out by trying
+    // to grab it.
     [[nodiscard]] bool isPointerTaken();
     [[nodiscard]] bool isKeyboardTaken();
 
-    // Asks `condition` again and again, at once and whenever 10 ms have passed, until it
-    // holds or `milliseconds` are over. Returns whether it held.
+    // Checks `condition` now and every 10 ms until it holds or `milliseconds` are over.
+    // Returns true if it held.
     bool waitFor(const std::function<bool()> &condition, int milliseconds);
 
 private:
     void sync();
     void sendToManager(unsigned long window, const char *message, long first);
+    // True if there is a window manager.
+    [[nodiscard]] bool isManaged() const;
+    [[nodiscard]] std::vector<unsigned long> childrenOf(unsigned long window) const;
     [[nodiscard]] unsigned long topLevelOf(unsigned long window) const;
     [[nodiscard]] QString titleOf(unsigned long window) const;
     [[nodiscard]] std::optional<QRect> visibleGeometry(unsigned long window) const;
     [[nodiscard]] std::optional<Window> findBySize(unsigned long below, QSize size, int depth) const;
 
     _XDisplay *m_display = nullptr;
+    _XDisplay *m_watcher = nullptr; // a connection that does nothing but watch the root window
     unsigned long m_root = 0;
 };

@@ -1,4 +1,4 @@
-// gesture-driver [COMMAND...]: carries out each argument as a command, or, without any,
+// gesture-driver [COMMAND...]: carries out each argument as a command or, without arguments,
 // each line of standard input. See Commands.h. Exits 1 at the first argument that fails.
 
 #include "tests/e2e/xinput/Commands.h"
@@ -18,7 +18,7 @@ int main(int argc, char **argv)
     Commands commands(desktop);
     const auto run = [&commands](const QString &line) {
         const QString answer = commands.run(line);
-        std::cout << answer.toStdString() << std::endl; // flushed: somebody waits for it
+        std::cout << answer.toStdString() << std::endl; // flushed, because the caller waits for it
         return answer.startsWith(QLatin1String("ok"));
     };
 

@@ -74,22 +74,84 @@ bool X11Peer::isViewable(unsigned long window)
     return XGetWindowAttributes(m_display, window, &attributes) && attributes.map_state == IsViewable;
 }
 
+QSize X11Peer::sizeOf(unsigned long window)
+{
+    XWindowAttributes attributes;
+    if (!XGetWindowAttributes(m_display, window, &attributes))
+        return {};
+    return {attributes.width, attributes.height};
+}
+
 QColor X11Peer::colorAt(const QPoint &global)
 {
-    XImage *image = XGetImage(m_display, DefaultRootWindow(m_display), global.x(), global.y(), 1, 1,
-                              AllPlanes, ZPixmap);
-    if (!image)
+    const QImage image = screenAt(QRect(global, QSize(1, 1)));
+    return image.isNull() ? QColor() : QColor::fromRgb(image.pixel(0, 0));
+}
+
+QImage X11Peer::screenAt(const QRect &global)
+{
+    XImage *found = XGetImage(m_display, DefaultRootWindow(m_display), global.x(), global.y(),
+                              static_cast<unsigned>(global.width()),
+                              static_cast<unsigned>(global.height()), AllPlanes, ZPixmap);
+    if (!found)
         return {};
-    const unsigned long pixel = XGetPixel(image, 0, 0);
-    XDestroyImage(image);
-    return QColor::fromRgb(static_cast<QRgb>(pixel));
+    QImage image(global.size(), QImage::Format_RGB32);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            image.setPixel(x, y, 0xff000000U | static_cast<QRgb>(XGetPixel(found, x, y)));
+    }
+    XDestroyImage(found);
+    return image;
+}
+
+std::vector<unsigned long> X11Peer::managedWindows()
+{
+    return windowsIn("_NET_CLIENT_LIST");
+}
+
+unsigned long X11Peer::activeWindow()
+{
+    const std::vector<unsigned long> windows = windowsIn("_NET_ACTIVE_WINDOW");
+    return windows.empty() ? 0 : windows.front();
+}
+
+unsigned long X11Peer::focusedWindow()
+{
+    Window window = None;
+    int revertTo = 0;
+    XGetInputFocus(m_display, &window, &revertTo);
+    return window;
+}
+
+bool X11Peer::hasCompositor()
+{
+    return XGetSelectionOwner(m_display, XInternAtom(m_display, "_NET_WM_CM_S0", False)) != None;
+}
+
+std::vector<unsigned long> X11Peer::windowsIn(const char *property)
+{
+    Atom type = None;
+    int format = 0;
+    unsigned long count = 0;
+    unsigned long rest = 0;
+    unsigned char *data = nullptr;
+    XGetWindowProperty(m_display, DefaultRootWindow(m_display), XInternAtom(m_display, property, False),
+                       0, 1024, False, XA_WINDOW, &type, &format, &count, &rest, &data);
+    std::vector<unsigned long> windows;
+    if (type == XA_WINDOW && format == 32) {
+        const auto *first = reinterpret_cast<const unsigned long *>(data);
+        windows.assign(first, first + count);
+    }
+    if (data)
+        XFree(data);
+    return windows;
 }
 
 void X11Peer::awaitWindowManager()
 {
     const Window window =
         XCreateSimpleWindow(m_display, DefaultRootWindow(m_display), 0, 0, 1, 1, 0, 0, 0);
-    // One that takes no focus and stands aside.
+    // A dock takes no focus and stands aside.
     const Atom type = XInternAtom(m_display, "_NET_WM_WINDOW_TYPE", False);
     Atom dock = XInternAtom(m_display, "_NET_WM_WINDOW_TYPE_DOCK", False);
     XChangeProperty(m_display, window, type, XA_ATOM, 32, PropModeReplace,

@@ -1,12 +1,9 @@
 #include "gesture/MgDonutDialogPVStyleImpl.h"
-#include "tests/gesture/GestureBench.h"
-#include "tests/gesture/x11/ViewInput.h"
-#include "tests/gesture/x11/X11Peer.h"
+#include "tests/gesture/x11/X11Bench.h"
 #include "tests/support/FatalWarnings.h"
 
 #include <QApplication>
 #include <QDialog>
-#include <QMainWindow>
 #include <QTest>
 #include <QWindow>
 
@@ -19,13 +16,12 @@
 #include <X11/keysym.h>
 
 using tests::CountingDonut;
-using tests::GestureBench;
-using tests::ViewInput;
+using tests::X11Bench;
 using tests::X11Peer;
 
-// What the X server really does for the ring, under a window manager and a compositor: a
-// second client looks. To be run by tests/support/with-desktop.sh.
-class tst_X11Grab : public QObject
+// The grabs that the X server really gives the ring, under a window manager and a compositor. A
+// second client looks. Run it with tests/support/with-desktop.sh.
+class X11GrabTest : public QObject
 {
     Q_OBJECT
 
@@ -36,129 +32,68 @@ private Q_SLOTS:
 
     void probeSeesItsOwnGrabs();
     void heldDuringEveryGesture();
-    void ringLiesAroundThePress_data();
-    void ringLiesAroundThePress();
     void wheelAndKeysStayAway();
     void givenBackAfterEveryEnd_data();
     void givenBackAfterEveryEnd();
-    void exposedWithoutGestureGrabsNothing();
     void nothingStaysAfterRandomGestures();
     void fadingFrameIsSeenDuringTheWait();
 
 private:
-    // Presses at a place in the view and drags by an offset, in one go.
-    void pressAndDrag(const QPoint &centre, const QPoint &offset);
-    void release();
-    // Until everything that the server and the window manager were asked has come back.
-    void settle();
-    [[nodiscard]] bool isRingUp() const;
-    [[nodiscard]] QPoint global(const QPoint &viewPosition) const;
-
-    std::unique_ptr<X11Peer> m_peer;
-    std::unique_ptr<GestureBench> m_bench;
-    std::unique_ptr<QMainWindow> m_window;
-    std::unique_ptr<ViewInput> m_input;
-    bool m_pressed = false;
+    std::unique_ptr<X11Bench> m_bench;
 };
 
-void tst_X11Grab::initTestCase()
+void X11GrabTest::initTestCase()
 {
     tests::failOnWarnings();
     QCOMPARE(QGuiApplication::platformName(), QStringLiteral("xcb"));
-    m_peer = std::make_unique<X11Peer>();
-    m_peer->awaitWindowManager();
+    X11Peer().awaitWindowManager();
 }
 
-void tst_X11Grab::init()
+void X11GrabTest::init()
 {
     tests::resetWarnings();
-    m_bench = std::make_unique<GestureBench>();
-    m_window = std::make_unique<QMainWindow>();
-    m_bench->host.mainWindow = m_window.get();
-    m_input = std::make_unique<ViewInput>(*m_bench);
-    // The window manager may move the view while it takes it over.
-    QTRY_COMPARE(m_bench->view->mapToGlobal(QPoint()), m_peer->originOf(m_bench->view->winId()));
-    settle();
+    m_bench = std::make_unique<X11Bench>();
+    QTRY_VERIFY(m_bench->isViewInPlace());
+    m_bench->settle();
 }
 
-void tst_X11Grab::cleanup()
+void X11GrabTest::cleanup()
 {
-    release();
-    m_input.reset();
-    m_window.reset();
     m_bench.reset();
-    settle();
     QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
 }
 
-QPoint tst_X11Grab::global(const QPoint &viewPosition) const
+void X11GrabTest::probeSeesItsOwnGrabs()
 {
-    return m_bench->view->mapToGlobal(viewPosition);
-}
-
-void tst_X11Grab::pressAndDrag(const QPoint &centre, const QPoint &offset)
-{
-    m_peer->movePointer(global(centre));
-    m_peer->setButton(X11Peer::kRight, true);
-    m_pressed = true;
-    m_peer->movePointer(global(centre + offset));
-}
-
-void tst_X11Grab::release()
-{
-    if (m_pressed)
-        m_peer->setButton(X11Peer::kRight, false);
-    m_pressed = false;
-}
-
-void tst_X11Grab::settle()
-{
-    // Twice: what Qt does about the first answers may call for more.
-    for (int round = 0; round < 2; ++round) {
-        static_cast<void>(QCursor::pos()); // asks the server, and so sends all there is
-        m_peer->awaitWindowManager();
-        static_cast<void>(QCursor::pos()); // and has its answers arrive
-        QCoreApplication::processEvents();
-    }
-}
-
-bool tst_X11Grab::isRingUp() const
-{
-    const MgDonutDialogPVStyleImpl *ring = m_input->ring();
-    return ring && ring->gesturing && ring->windowHandle()->isExposed();
-}
-
-void tst_X11Grab::probeSeesItsOwnGrabs()
-{
-    QVERIFY(!m_peer->isPointerGrabbed());
-    QVERIFY(!m_peer->isKeyboardGrabbed());
-    m_bench->view->grabMouse();
-    m_bench->view->grabKeyboard();
-    QVERIFY(m_peer->isPointerGrabbed());
-    QVERIFY(m_peer->isKeyboardGrabbed());
-    m_bench->view->releaseMouse();
-    m_bench->view->releaseKeyboard();
+    QVERIFY(!m_bench->peer.isPointerGrabbed());
+    QVERIFY(!m_bench->peer.isKeyboardGrabbed());
+    m_bench->bench.view->grabMouse();
+    m_bench->bench.view->grabKeyboard();
+    QVERIFY(m_bench->peer.isPointerGrabbed());
+    QVERIFY(m_bench->peer.isKeyboardGrabbed());
+    m_bench->bench.view->releaseMouse();
+    m_bench->bench.view->releaseKeyboard();
     static_cast<void>(QCursor::pos());
-    QVERIFY(!m_peer->isPointerGrabbed());
-    QVERIFY(!m_peer->isKeyboardGrabbed());
+    QVERIFY(!m_bench->peer.isPointerGrabbed());
+    QVERIFY(!m_bench->peer.isKeyboardGrabbed());
 }
 
-void tst_X11Grab::heldDuringEveryGesture()
+void X11GrabTest::heldDuringEveryGesture()
 {
     int pointer = 0;
     int keyboard = 0;
     int free = 0;
     const int gestures = 40;
     for (int gesture = 0; gesture < gestures; ++gesture) {
-        pressAndDrag(QPoint(150 + gesture, 200), QPoint(0, 25));
-        QTRY_VERIFY(isRingUp());
-        settle();
-        pointer += m_peer->isPointerGrabbed();
-        keyboard += m_peer->isKeyboardGrabbed();
-        release();
-        QTRY_VERIFY(!m_input->ring()->gesturing);
-        settle();
-        free += !m_peer->isPointerGrabbed() && !m_peer->isKeyboardGrabbed();
+        m_bench->pressAndDrag(QPoint(150 + gesture, 200), QPoint(0, 25));
+        QTRY_VERIFY(m_bench->isRingUp());
+        m_bench->settle();
+        pointer += m_bench->peer.isPointerGrabbed();
+        keyboard += m_bench->peer.isKeyboardGrabbed();
+        m_bench->release();
+        QTRY_VERIFY(!m_bench->ring()->gesturing);
+        m_bench->settle();
+        free += !m_bench->peer.isPointerGrabbed() && !m_bench->peer.isKeyboardGrabbed();
     }
     qInfo("of %d gestures: pointer held %d, keyboard held %d, both free afterwards %d", gestures,
           pointer, keyboard, free);
@@ -167,47 +102,26 @@ void tst_X11Grab::heldDuringEveryGesture()
     QCOMPARE(free, gestures);
 }
 
-void tst_X11Grab::ringLiesAroundThePress_data()
-{
-    QTest::addColumn<QPoint>("corner");
-    QTest::newRow("in the middle") << QPoint(500, 300);
-    QTest::newRow("at the screen's top left") << QPoint(0, 0);
-}
-
-void tst_X11Grab::ringLiesAroundThePress()
-{
-    QFETCH(QPoint, corner);
-    m_bench->view->move(corner);
-    settle();
-    QTRY_COMPARE(m_bench->view->mapToGlobal(QPoint()), m_peer->originOf(m_bench->view->winId()));
-    const QPoint centre(200, 180);
-    pressAndDrag(centre, QPoint(0, 25));
-    QTRY_VERIFY(isRingUp());
-    settle();
-    QCOMPARE(m_peer->originOf(m_input->ring()->winId()), global(centre) - QPoint(125, 125));
-    QCOMPARE(m_input->ring()->size(), QSize(250, 250));
-}
-
-void tst_X11Grab::wheelAndKeysStayAway()
+void X11GrabTest::wheelAndKeysStayAway()
 {
     for (int gesture = 0; gesture < 20; ++gesture) {
-        pressAndDrag(QPoint(200, 200), QPoint(0, 25));
-        QTRY_VERIFY(isRingUp());
-        settle();
-        m_peer->clickWheel();
-        m_peer->typeKey(XK_Escape);
-        m_peer->typeKey(XK_a);
-        settle();
-        QVERIFY(m_input->ring()->gesturing);
-        release();
-        QTRY_VERIFY(!m_input->ring()->gesturing);
-        settle();
+        m_bench->pressAndDrag(QPoint(200, 200), QPoint(0, 25));
+        QTRY_VERIFY(m_bench->isRingUp());
+        m_bench->settle();
+        m_bench->peer.clickWheel();
+        m_bench->peer.typeKey(XK_Escape);
+        m_bench->peer.typeKey(XK_a);
+        m_bench->settle();
+        QVERIFY(m_bench->ring()->gesturing);
+        m_bench->release();
+        QTRY_VERIFY(!m_bench->ring()->gesturing);
+        m_bench->settle();
     }
-    QCOMPARE(m_input->wheels, 0);
-    QCOMPARE(m_input->keys, 0);
+    QCOMPARE(m_bench->input->wheels, 0);
+    QCOMPARE(m_bench->input->keys, 0);
 }
 
-void tst_X11Grab::givenBackAfterEveryEnd_data()
+void X11GrabTest::givenBackAfterEveryEnd_data()
 {
     QTest::addColumn<QString>("end");
     for (const char *end :
@@ -215,68 +129,50 @@ void tst_X11Grab::givenBackAfterEveryEnd_data()
         QTest::newRow(end) << QString::fromLatin1(end);
 }
 
-void tst_X11Grab::givenBackAfterEveryEnd()
+void X11GrabTest::givenBackAfterEveryEnd()
 {
     QFETCH(QString, end);
     QDialog modal;
     modal.setModal(true);
     for (int gesture = 0; gesture < 5; ++gesture) {
-        pressAndDrag(QPoint(200, 200), QPoint(0, 25));
-        // The odd ones end before the ring is on the screen.
+        m_bench->pressAndDrag(QPoint(200, 200), QPoint(0, 25));
+        // Every other gesture ends before the ring is on the screen.
         if (gesture % 2 == 0) {
-            QTRY_VERIFY(isRingUp());
-            settle();
-            QVERIFY(m_peer->isKeyboardGrabbed());
+            QTRY_VERIFY(m_bench->isRingUp());
+            m_bench->settle();
+            QVERIFY(m_bench->peer.isKeyboardGrabbed());
         } else {
-            QTRY_VERIFY(m_input->ring() && m_input->ring()->gesturing);
+            QTRY_VERIFY(m_bench->ring() && m_bench->ring()->gesturing);
         }
         if (end == QLatin1String("release"))
-            release();
+            m_bench->release();
         else if (end == QLatin1String("accept"))
-            m_peer->movePointer(global(QPoint(200, 290)));
+            m_bench->peer.movePointer(m_bench->global(QPoint(200, 290)));
         else if (end == QLatin1String("hide"))
-            m_input->ring()->hide();
+            m_bench->ring()->hide();
         else if (end == QLatin1String("close"))
-            m_input->ring()->close();
+            m_bench->ring()->close();
         else if (end == QLatin1String("stopped"))
-            m_input->ring()->StopGesturing(false);
+            m_bench->ring()->StopGesturing(false);
         else if (end == QLatin1String("destroyed"))
-            delete m_input->ring();
+            delete m_bench->ring();
         else
             modal.show();
-        QTRY_VERIFY(!m_input->ring() || !m_input->ring()->gesturing);
-        if (m_input->ring())
-            QCOMPARE(m_input->ring()->accepted, end == QLatin1String("accept"));
-        settle();
-        release(); // a button that is held is a grab of its own
-        settle();
-        QVERIFY(!m_peer->isPointerGrabbed());
-        QVERIFY(!m_peer->isKeyboardGrabbed());
+        QTRY_VERIFY(!m_bench->ring() || !m_bench->ring()->gesturing);
+        if (m_bench->ring())
+            QCOMPARE(m_bench->ring()->accepted, end == QLatin1String("accept"));
+        m_bench->settle();
+        m_bench->release(); // a button that is held is a grab of its own
+        m_bench->settle();
+        QVERIFY(!m_bench->peer.isPointerGrabbed());
+        QVERIFY(!m_bench->peer.isKeyboardGrabbed());
         modal.hide();
-        settle();
-        m_input->look();
+        m_bench->settle();
+        m_bench->input->look();
     }
 }
 
-void tst_X11Grab::exposedWithoutGestureGrabsNothing()
-{
-    pressAndDrag(QPoint(200, 200), QPoint(0, 25));
-    QTRY_VERIFY(isRingUp());
-    release();
-    QTRY_VERIFY(!m_input->ring()->gesturing);
-    settle();
-    // Shown by somebody else: the window that was watched is exposed once more.
-    m_input->ring()->show();
-    QTRY_VERIFY(m_input->ring()->windowHandle()->isExposed());
-    settle();
-    QVERIFY(!m_peer->isPointerGrabbed());
-    QVERIFY(!m_peer->isKeyboardGrabbed());
-    QVERIFY(!QWidget::mouseGrabber());
-    QVERIFY(!QWidget::keyboardGrabber());
-    m_input->ring()->hide();
-}
-
-void tst_X11Grab::nothingStaysAfterRandomGestures()
+void X11GrabTest::nothingStaysAfterRandomGestures()
 {
     const unsigned seed = 20240229;
     std::mt19937 random(seed);
@@ -296,10 +192,10 @@ void tst_X11Grab::nothingStaysAfterRandomGestures()
     int stuck = 0;
     for (int gesture = 0; gesture < gestures; ++gesture) {
         const QPoint centre(130 + upTo(140), 130 + upTo(140));
-        m_peer->movePointer(global(centre));
-        m_peer->setButton(X11Peer::kRight, true);
+        m_bench->peer.movePointer(m_bench->global(centre));
+        m_bench->peer.setButton(X11Peer::kRight, true);
         pass(2);
-        // Some let go at once, some go far, some linger.
+        // Some release at once, some go far, some wait.
         const double direction = upTo(359) * 3.14159265 / 180.0;
         const double length = 15 + upTo(upTo(2) == 0 ? 90 : 45);
         const int steps = 1 + upTo(4);
@@ -307,31 +203,31 @@ void tst_X11Grab::nothingStaysAfterRandomGestures()
             const double part = length * step / steps;
             const QPoint offset(static_cast<int>(std::lround(std::cos(direction) * part)),
                                 static_cast<int>(std::lround(std::sin(direction) * part)));
-            m_peer->movePointer(global(centre + offset));
+            m_bench->peer.movePointer(m_bench->global(centre + offset));
             pass(upTo(1) * 3);
         }
         pass(upTo(2) * 4);
-        m_peer->setButton(X11Peer::kRight, false);
-        settle();
-        QTRY_VERIFY(!m_input->ring() || !m_input->ring()->gesturing);
-        settle();
-        if (m_input->ring() && m_input->ring()->windUpPos != QPoint()) {
+        m_bench->peer.setButton(X11Peer::kRight, false);
+        m_bench->settle();
+        QTRY_VERIFY(!m_bench->ring() || !m_bench->ring()->gesturing);
+        m_bench->settle();
+        if (m_bench->ring() && m_bench->ring()->windUpPos != QPoint()) {
             ++opened;
-            accepted += m_input->ring()->accepted;
-            m_input->ring()->windUpPos = QPoint();
+            accepted += m_bench->ring()->accepted;
+            m_bench->ring()->windUpPos = QPoint();
         }
-        // By the server's word, and by Qt's, which hands all input to whom it believes in.
-        if (m_peer->isPointerGrabbed() || m_peer->isKeyboardGrabbed() || QWidget::mouseGrabber()
-            || QWidget::keyboardGrabber()) {
+        // Asks the server and Qt. Qt hands all input to the widget that it believes has a grab.
+        if (m_bench->peer.isPointerGrabbed() || m_bench->peer.isKeyboardGrabbed()
+            || QWidget::mouseGrabber() || QWidget::keyboardGrabber()) {
             ++stuck;
-            // Let go for the ones that follow.
-            m_input->ring()->releaseMouse();
-            m_input->ring()->releaseKeyboard();
-            m_input->ring()->windowHandle()->setMouseGrabEnabled(false);
-            m_input->ring()->windowHandle()->setKeyboardGrabEnabled(false);
-            settle();
+            // Release everything for the next gestures.
+            m_bench->ring()->releaseMouse();
+            m_bench->ring()->releaseKeyboard();
+            m_bench->ring()->windowHandle()->setMouseGrabEnabled(false);
+            m_bench->ring()->windowHandle()->setKeyboardGrabEnabled(false);
+            m_bench->settle();
         }
-        m_input->look();
+        m_bench->input->look();
     }
     qInfo("of %d gestures %d opened the ring, %d chose a sector, %d left something grabbed (seed %u)",
           gestures, opened, accepted, stuck, seed);
@@ -340,38 +236,35 @@ void tst_X11Grab::nothingStaysAfterRandomGestures()
     QVERIFY(accepted > 0 && accepted < opened);
 }
 
-void tst_X11Grab::fadingFrameIsSeenDuringTheWait()
+void X11GrabTest::fadingFrameIsSeenDuringTheWait()
 {
-    QPalette plain = m_bench->view->palette();
+    QPalette plain = m_bench->bench.view->palette();
     plain.setColor(QPalette::Window, Qt::white);
-    m_bench->view->setPalette(plain);
-    m_bench->view->setAutoFillBackground(true);
+    m_bench->bench.view->setPalette(plain);
+    m_bench->bench.view->setAutoFillBackground(true);
     CountingDonut donut;
     const QPoint centre(200, 200);
-    m_peer->movePointer(global(centre));
-    settle();
     donut.origin = centre;
-    donut.move(global(centre) - QPoint(125, 125));
-    m_peer->setButton(X11Peer::kRight, true);
-    m_pressed = true;
-    settle();
-    donut.WindUp(m_bench->document);
+    donut.move(m_bench->global(centre) - QPoint(125, 125));
+    m_bench->press(centre);
+    m_bench->settle();
+    donut.WindUp(m_bench->bench.document);
     donut.TryStart(QPoint());
     QTRY_VERIFY(donut.windowHandle()->isExposed() && donut.paints > 0);
 
-    // On the ring, aside of labels: to the left, which will be chosen, and to the right.
-    const QPoint left = global(centre) + QPoint(-93, 30);
-    const QPoint right = global(centre) + QPoint(93, 30);
-    const QPoint outside = global(centre) + QPoint(0, 140);
-    const QColor bare = m_peer->colorAt(outside);
+    // Two places on the ring beside labels: left, which will be chosen, and right.
+    const QPoint left = m_bench->global(centre) + QPoint(-93, 30);
+    const QPoint right = m_bench->global(centre) + QPoint(93, 30);
+    const QPoint outside = m_bench->global(centre) + QPoint(0, 140);
+    const QColor bare = m_bench->peer.colorAt(outside);
     QCOMPARE(bare, QColor(Qt::white));
-    m_peer->movePointer(global(centre) + QPoint(-40, 0));
-    // A highlight is yellow and the ring greys the drawing.
+    m_bench->peer.movePointer(m_bench->global(centre) + QPoint(-40, 0));
+    // A highlight is yellow, the rest of the ring is grey.
     const auto isHighlight = [](const QColor &color) { return color.blue() < color.red() - 80; };
-    QTRY_VERIFY(isHighlight(m_peer->colorAt(left)));
-    QTRY_VERIFY(m_peer->colorAt(right) != bare);
+    QTRY_VERIFY(isHighlight(m_bench->peer.colorAt(left)));
+    QTRY_VERIFY(m_bench->peer.colorAt(right) != bare);
 
-    // Looks at the screen while this thread is busy with the fading.
+    // Looks at the screen while the fading keeps this thread busy.
     std::atomic<bool> ended{false};
     std::atomic<int> framesWithRing{0};
     std::atomic<int> fadingFrames{0};
@@ -395,9 +288,9 @@ void tst_X11Grab::fadingFrameIsSeenDuringTheWait()
           framesWithRing.load(), fadingFrames.load());
     QVERIFY(fadingFrames > 0);
     donut.StopGesturing(true);
-    settle();
-    QTRY_COMPARE(m_peer->colorAt(left), bare);
+    m_bench->settle();
+    QTRY_COMPARE(m_bench->peer.colorAt(left), bare);
 }
 
-QTEST_MAIN(tst_X11Grab)
+QTEST_MAIN(X11GrabTest)
 #include "tst_x11grab.moc"

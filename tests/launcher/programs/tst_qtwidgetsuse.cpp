@@ -148,6 +148,20 @@ private Q_SLOTS:
         QVERIFY(launcher::systemLibraryFolders(path).contains("/opt/a"));
     }
 
+    // If each were read once for each way to it, these would be read some 300,000 times.
+    void loaderConfigurationsThatIncludeEachOther()
+    {
+        QVERIFY(QDir().mkpath(m_folder.filePath(QStringLiteral("circle"))));
+        for (char name = 'a'; name <= 'f'; ++name)
+            write(qPrintable(QStringLiteral("circle/%1.conf").arg(QLatin1Char(name))),
+                  QByteArray("include *.conf\n/opt/") + name + '\n');
+        const QByteArray path = QFile::encodeName(m_folder.filePath(QStringLiteral("circle/a.conf")));
+        const QList<QByteArray> folders = launcher::systemLibraryFolders(path);
+        QCOMPARE(folders.size(), 6 + 4);
+        for (char name = 'a'; name <= 'f'; ++name)
+            QCOMPARE(folders.count(QByteArray("/opt/") + name), 1);
+    }
+
     void noLoaderConfiguration()
     {
         QCOMPARE(launcher::systemLibraryFolders("/nowhere"),

@@ -8,7 +8,9 @@
 #include "launcher/sheet/SheetTask.h"
 #include "resources/draw/RingGeometry.h"
 #include "tests/support/FatalWarnings.h"
+#include "tests/support/FolderTest.h"
 
+#include <QDir>
 #include <QFontMetricsF>
 #include <QImage>
 #include <QPainter>
@@ -19,13 +21,9 @@
 using launcher::Bindings;
 using launcher::KnownCommands;
 using launcher::SheetContent;
+using tests::text;
 
 namespace {
-
-QString text(const char *latin)
-{
-    return QString::fromLatin1(latin);
-}
 
 SheetContent content(int count, const QString &caption)
 {
@@ -343,7 +341,8 @@ void SheetTest::whatCannotBePrinted()
     QVERIFY(launcher::printSheet(wrong, text(DRAWER), file)
                 .complaint.contains(text("this is started by mouse-gestures --print")));
     QVERIFY(isKept());
-    for (const QString &path : {place("no/such/folder.pdf"), m_folder.path()})
+    QVERIFY(QDir(m_folder.path()).mkdir(text("folder.pdf")));
+    for (const QString &path : {place("no/such/folder.pdf"), place("folder.pdf")})
         QCOMPARE(launcher::printSheet(wanted, text(DRAWER), path).complaint,
                  path + text(" cannot be written"));
     QCOMPARE(QDir(m_folder.path()).entryList({text("kept*")}, QDir::Files).size(), 1);

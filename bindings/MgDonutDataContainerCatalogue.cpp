@@ -15,6 +15,17 @@
 
 void MgDonutDataContainer::fillCommandCategoryMap()
 {
+    attempt([this] { fileAllCommands(); });
+}
+
+void MgDonutDataContainer::fcParseRecursive(const QString &parentCategory,
+                                            CHxUIMenuItemCollection *items)
+{
+    attempt([&] { fileCommands(parentCategory, items); });
+}
+
+void MgDonutDataContainer::fileAllCommands()
+{
     CHxSystemServices *services = GetHxSystemServices();
     CHxUIManager *manager = services ? services->GetUIManager() : nullptr;
     if (!manager)
@@ -25,12 +36,11 @@ void MgDonutDataContainer::fillCommandCategoryMap()
         return;
     for (; !menu->Done(); menu->Next()) {
         if (CHxUIMenu *current = menu->Current())
-            fcParseRecursive({}, current->GetItems());
+            fileCommands({}, current->GetItems());
     }
 }
 
-void MgDonutDataContainer::fcParseRecursive(const QString &parentCategory,
-                                            CHxUIMenuItemCollection *items)
+void MgDonutDataContainer::fileCommands(const QString &parentCategory, CHxUIMenuItemCollection *items)
 {
     if (!items)
         return;
@@ -49,7 +59,7 @@ void MgDonutDataContainer::fcParseRecursive(const QString &parentCategory,
         category.remove(QLatin1Char('&'));
         if (const CHxUICommandItem *command = item->GetCommandItem())
             categoryMap.insert(command->GetCommandString().toQString(), category);
-        fcParseRecursive(category, item->GetSubItems());
+        fileCommands(category, item->GetSubItems());
     }
 }
 

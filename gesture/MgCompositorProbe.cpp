@@ -1,0 +1,40 @@
+#include "gesture/MgCompositorProbe.h"
+
+#include <QByteArray>
+#include <QGuiApplication>
+#include <QScopedPointer>
+
+#include <xcb/xcb.h>
+
+MgCompositorProbe::~MgCompositorProbe()
+{
+    xcb_disconnect(m_connection); // null is fine
+}
+
+bool MgCompositorProbe::isCompositing()
+{
+    if (QGuiApplication::platformName() != QLatin1String("xcb"))
+        return true;
+    if (!m_connection)
+        connectToServer();
+    if (xcb_connection_has_error(m_connection) || m_selection == 0)
+        return true;
+
+    const QScopedPointer<xcb_get_selection_owner_reply_t, QScopedPointerPodDeleter> owner(
+        xcb_get_selection_owner_reply(m_connection, xcb_get_selection_owner(m_connection, m_selection),
+                                      nullptr));
+    return !owner || owner->owner != XCB_NONE;
+}
+
+void MgCompositorProbe::connectToServer()
+{
+    int screen = 0;
+    m_connection = xcb_connect(nullptr, &screen); // never null, it may hold an error instead
+    if (xcb_connection_has_error(m_connection))
+        return;
+    const QByteArray name = "_NET_WM_CM_S" + QByteArray::number(screen);
+    const QScopedPointer<xcb_intern_atom_reply_t, QScopedPointerPodDeleter> atom(xcb_intern_atom_reply(
+        m_connection,
+        xcb_intern_atom(m_connection, 0, static_cast<quint16>(name.size()), name.constData()), nullptr));
+    m_selection = atom ? atom->atom : 0;
+}

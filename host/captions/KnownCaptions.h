@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+namespace gesturewidget {
+
+// What menus and well-known commands are called in one language. The lists are the JSON files
+// beside this header. All captions are in lower case, without mnemonics and ellipses.
+//
+// A program is never asked for its language: a caption counts if any language has it. So a list
+// must not hold a word that names a different command in a program of another language.
+struct KnownCaptions
+{
+    QString language; // ISO 639-1, such as "de"
+    // By role: "tools", "help", "file", "edit", "view", "draw", "draft". The usual one first.
+    QHash<QString, QStringList> menus;
+    // By identifier, such as "ID_LINE".
+    QHash<QString, QStringList> commands;
+    // Captions that name the command only in a menu where such commands are.
+    QHash<QString, QStringList> commandsInTheirMenus;
+
+    // English first. Read on the first call.
+    [[nodiscard]] static const QVector<KnownCaptions> &languages();
+
+    // What all languages together call menus of that role; English first.
+    [[nodiscard]] static QStringList menusOf(const QString &role);
+};
+
+} // namespace gesturewidget

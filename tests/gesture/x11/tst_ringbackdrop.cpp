@@ -1,0 +1,235 @@
+#include "gesture/MgDonutDialogPVStyleImpl.h"
+#include "tests/gesture/x11/X11Bench.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QProcess>
+#include <QTest>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <memory>
+
+using tests::X11Bench;
+using tests::X11Peer;
+
+namespace {
+
+constexpr int kSize = 250;
+constexpr double kRingOpacity = 120.0 / 255.0;
+
+// A drawing without two equal neighbours, so that a picture of it is seen to lie right.
+class Drawing : public QWidget
+{
+public:
+    explicit Drawing(QWidget *parent)
+        : QWidget(parent)
+    {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        setGeometry(parent->rect());
+        show();
+    }
+    void setColor(const QColor &color)
+    {
+        m_color = color;
+        repaint();
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        painter.fillRect(rect(), m_color);
+        for (int i = 0; i < width(); i += 5) {
+            painter.setPen(QColor::fromHsv(i % 360, 200, 230));
+            painter.drawLine(i, 0, width() - i, height());
+        }
+    }
+
+private:
+    QColor m_color = Qt::white;
+};
+
+int distance(QRgb a, QRgb b)
+{
+    return std::max(
+        {std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)), std::abs(qBlue(a) - qBlue(b))});
+}
+
+// What the screen shows where the ring's image is laid over `before` at `opacity`.
+QImage blended(const QImage &before, const QImage &image, double opacity)
+{
+    QImage result = before;
+    QPainter painter(&result);
+    painter.setOpacity(opacity);
+    painter.drawImage(0, 0, image);
+    return result;
+}
+
+} // namespace
+
+// The ring without a compositor: what was under it shows through, as with one. Run it with
+// tests/support/with-desktop.sh and DESKTOP_COMPOSITOR=0.
+class RingBackdropTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void nothingIsBlack();
+    void lastFrameToo();
+    void backdropIsTakenAnew();
+    void compositorComesAndGoes();
+
+private:
+    // Opens the ring with the left sector lit. Returns the screen at the ring's place from
+    // before.
+    QImage open();
+    void end();
+    [[nodiscard]] QRect place() const;
+    // The number of pixels where the screen is not what a compositor would show. They lie
+    // outside the sector that is lit and aside of labels.
+    [[nodiscard]] int wrongPixels(const QImage &before, double opacity);
+
+    std::unique_ptr<X11Bench> m_bench;
+    Drawing *m_drawing = nullptr;
+    const QPoint m_centre{200, 200};
+};
+
+void RingBackdropTest::initTestCase()
+{
+    tests::failOnWarnings();
+    QCOMPARE(QGuiApplication::platformName(), QStringLiteral("xcb"));
+}
+
+void RingBackdropTest::init()
+{
+    tests::resetWarnings();
+    m_bench = std::make_unique<X11Bench>();
+    QVERIFY(!m_bench->peer.hasCompositor());
+    // Unbound sectors have no label that could cover a pixel.
+    m_bench->bench.host.commands.groups.clear();
+    m_bench->bench.setScheme(4);
+    m_drawing = new Drawing(m_bench->bench.view);
+    QTRY_VERIFY(m_bench->isViewInPlace());
+    m_bench->settle();
+}
+
+void RingBackdropTest::cleanup()
+{
+    m_bench.reset();
+    QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
+}
+
+QRect RingBackdropTest::place() const
+{
+    return {m_bench->global(m_centre) - QPoint(kSize / 2, kSize / 2), QSize(kSize, kSize)};
+}
+
+QImage RingBackdropTest::open()
+{
+    const QImage before = m_bench->peer.screenAt(place());
+    m_bench->pressAndDrag(m_centre, QPoint(-30, 0));
+    const bool isUp = QTest::qWaitFor([this] { return m_bench->isRingUp(); });
+    m_bench->settle();
+    return isUp ? before : QImage();
+}
+
+void RingBackdropTest::end()
+{
+    m_bench->release();
+    QTRY_VERIFY(!m_bench->ring()->gesturing);
+    m_bench->settle();
+    m_bench->input->look();
+}
+
+int RingBackdropTest::wrongPixels(const QImage &before, double opacity)
+{
+    const QImage ring(QStringLiteral(":/gesturewidgetimages/Resources/gesture_widget.png"));
+    const QImage wanted = blended(before, ring, opacity);
+    const QImage found = m_bench->peer.screenAt(place());
+    int wrong = 0;
+    for (int y = 0; y < kSize; ++y) {
+        for (int x = 0; x < kSize; ++x) {
+            const double dx = x + 0.5 - kSize / 2.0;
+            const double dy = y + 0.5 - kSize / 2.0;
+            // The left quarter with a margin, and the pointer.
+            const bool lit = dx < 0 && std::abs(dy) <= -dx + 3.0 && std::hypot(dx, dy) > 60.0;
+            if (!lit && distance(found.pixel(x, y), wanted.pixel(x, y)) > 2)
+                ++wrong;
+        }
+    }
+    return wrong;
+}
+
+void RingBackdropTest::nothingIsBlack()
+{
+    for (int gesture = 0; gesture < 3; ++gesture) {
+        const QImage before = open();
+        QVERIFY(!before.isNull());
+        QTRY_COMPARE(wrongPixels(before, kRingOpacity), 0);
+        // Corners and hole are untouched.
+        const QImage found = m_bench->peer.screenAt(place());
+        for (const QPoint &bare : {QPoint(0, 0), QPoint(249, 0), QPoint(0, 249), QPoint(249, 249),
+                                   QPoint(20, 20), QPoint(125, 100), QPoint(150, 140)})
+            QCOMPARE(QColor(found.pixel(bare)), QColor(before.pixel(bare)));
+        end();
+        QTRY_COMPARE(m_bench->peer.screenAt(place()), before);
+    }
+}
+
+void RingBackdropTest::lastFrameToo()
+{
+    const QImage before = open();
+    QVERIFY(!before.isNull());
+    m_bench->ring()->doFading();
+    QTRY_COMPARE(wrongPixels(before, 0.0), 0);
+    end();
+}
+
+void RingBackdropTest::backdropIsTakenAnew()
+{
+    for (const QColor &color : {QColor(Qt::black), QColor(Qt::darkCyan), QColor(Qt::white)}) {
+        m_drawing->setColor(color);
+        m_bench->settle();
+        const QImage before = open();
+        QVERIFY(!before.isNull());
+        QTRY_COMPARE(wrongPixels(before, kRingOpacity), 0);
+        end();
+    }
+}
+
+void RingBackdropTest::compositorComesAndGoes()
+{
+    for (int round = 0; round < 2; ++round) {
+        QProcess compositor;
+        compositor.start(QStringLiteral("picom"),
+                         {QStringLiteral("--backend"), QStringLiteral("xrender"),
+                          QStringLiteral("--config"), QStringLiteral("/dev/null")});
+        QVERIFY(compositor.waitForStarted());
+        QTRY_VERIFY(m_bench->peer.hasCompositor());
+        QVERIFY(!open().isNull());
+        // The ring is really seen through: the drawing changes while it is open.
+        m_drawing->setColor(round == 0 ? Qt::darkBlue : Qt::darkRed);
+        const QColor changed = m_drawing->grab().toImage().pixelColor(m_centre + QPoint(40, 33));
+        QTRY_COMPARE(m_bench->peer.colorAt(m_bench->global(m_centre + QPoint(40, 33))), changed);
+        end();
+
+        compositor.terminate();
+        QVERIFY(compositor.waitForFinished());
+        QTRY_VERIFY(!m_bench->peer.hasCompositor());
+        m_bench->settle();
+        const QImage before = open();
+        QVERIFY(!before.isNull());
+        QTRY_COMPARE(wrongPixels(before, kRingOpacity), 0);
+        end();
+    }
+}
+
+QTEST_MAIN(RingBackdropTest)
+#include "tst_ringbackdrop.moc"

@@ -1,0 +1,103 @@
+#!/usr/bin/env python3
+"""The checks of the sources find what they are for: run on small trees with one fault each."""
+
+import shutil
+import subprocess
+import tempfile
+import unittest
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parents[2]
+
+ROOMS = """# Rooms
+```arrows
+low:
+low/inner: low   # a room in a room
+high: low
+```
+"""
+
+
+class Tree:
+    """A git checkout with a copy of one check and the files given."""
+
+    def __init__(self, check, files):
+        self._folder = tempfile.TemporaryDirectory()
+        self.root = Path(self._folder.name)
+        self._check = check
+        for script in (check, "words.txt"):
+            (self.root / "scripts").mkdir(exist_ok=True)
+            shutil.copy(ROOT / "scripts" / script, self.root / "scripts" / script)
+        for name, text in files.items():
+            (self.root / name).parent.mkdir(parents=True, exist_ok=True)
+            (self.root / name).write_text(text, encoding="utf-8")
+        for command in (["init", "-q"], ["add", "-A"]):
+            subprocess.run(["git", *command], cwd=self.root, check=True)
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self._folder.cleanup()
+
+    def run(self):
+        """Returns the exit status and what the check said."""
+        result = subprocess.run([self.root / "scripts" / self._check], capture_output=True, text=True,
+                                check=False)
+        return result.returncode, (result.stdout + result.stderr).strip()
+
+
+class Arrows(unittest.TestCase):
+    def said_of(self, files, rooms=ROOMS):
+        with Tree("check-arrows", {"docs/rooms.md": rooms, **files}) as tree:
+            return tree.run()
+
+    def test_an_include_along_an_arrow_is_fine(self):
+        self.assertEqual(self.said_of({"low/A.h": "", "high/B.cpp": '#include "low/A.h"\n'}), (0, ""))
+
+    def test_an_include_against_an_arrow_is_a_fault(self):
+        self.assertEqual(self.said_of({"high/A.h": "", "low/B.cpp": '\n#include "high/A.h"\n'}),
+                         (1, "low/B.cpp:2: low may not include high"))
+
+    def test_a_relative_include_is_followed(self):
+        self.assertEqual(self.said_of({"high/A.h": "", "low/B.cpp": '#include "../high/A.h"\n'}),
+                         (1, "low/B.cpp:1: low may not include high"))
+
+    def test_the_innermost_room_counts(self):
+        self.assertEqual(self.said_of({"low/inner/A.h": "", "low/B.cpp": '#include "low/inner/A.h"\n'}),
+                         (1, "low/B.cpp:1: low may not include low/inner"))
+
+    def test_a_file_without_a_room_is_a_fault(self):
+        self.assertEqual(self.said_of({"attic/A.h": ""}),
+                         (1, "attic/A.h:1: stands in no room that docs/rooms.md names"))
+
+    def test_a_circle_is_a_fault(self):
+        status, said = self.said_of({}, ROOMS.replace("low:\n", "low: high\n"))
+        self.assertEqual(status, 1)
+        self.assertIn("circle", said)
+
+
+class Spelling(unittest.TestCase):
+    def said_of(self, files):
+        with Tree("check-spelling", files) as tree:
+            return tree.run()
+
+    def test_a_misspelt_comment_is_a_fault(self):
+        for name, text in (("a.cpp", "int a; // a colum of text\n"), ("b.py", "# a colum of text\n"),
+                           ("CMakeLists.txt", "# a colum of text\n"), ("d.md", "A colum of text.\n")):
+            with self.subTest(name):
+                self.assertEqual(self.said_of({name: text}), (1, f"{name}:1: colum"))
+
+    def test_names_of_code_are_left_out(self):
+        text = "// See `colum`, colum.h, colum(), --colum, QColum, COLUM, host/colum and \"colum\".\n"
+        self.assertEqual(self.said_of({"a.h": text}), (0, ""))
+
+    def test_code_is_not_read(self):
+        self.assertEqual(self.said_of({"a.cpp": "int colum = 1;\n", "b.py": "colum = 1\n"}), (0, ""))
+
+    def test_the_words_of_the_project_are_known(self):
+        self.assertEqual(self.said_of({"a.md": "The donut's overlay.\n"}), (0, ""))
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,67 @@
+# How each window manager is started for a test. Sourced by with-desktop.sh.
+#
+# Every one runs with the settings that it has after installation, as far as this leaves the
+# pointer and the keyboard alone: menus of its own would grab them.
+
+# Those that bring their own compositor. Mutter cannot do without.
+composites_itself() { # NAME
+  case $1 in
+    kwin | xfwm4 | marco | mutter) return 0 ;;
+    *) return 1 ;;
+  esac
+}
+
+start_window_manager() { # NAME COMPOSITOR(0 or 1)
+  local on=$2
+  case $1 in
+    openbox)
+      start openbox openbox --sm-disable --config-file "$here/openbox-rc.xml"
+      ;;
+    kwin)
+      start_bus
+      # O2 is OpenGL, which the X server draws in software; N is none.
+      KWIN_COMPOSE=$([ "$on" = 1 ] && echo O2 || echo N) start kwin kwin_x11
+      ;;
+    xfwm4)
+      start_bus
+      start xfwm4 xfwm4 --compositor="$([ "$on" = 1 ] && echo on || echo off)"
+      ;;
+    marco)
+      start_bus
+      GSETTINGS_BACKEND=memory start marco marco \
+        "$([ "$on" = 1 ] && echo --composite || echo --no-composite)"
+      ;;
+    mutter)
+      start_bus
+      GSETTINGS_BACKEND=memory start mutter mutter --x11 --sm-disable
+      ;;
+    icewm)
+      start icewm icewm
+      ;;
+    i3)
+      printf 'font monospace 10\nworkspace 1 output primary\n' >"$base/i3"
+      start i3 i3 -c "$base/i3"
+      ;;
+    awesome)
+      start_bus
+      start awesome awesome
+      ;;
+    fluxbox)
+      mkdir -p "$HOME/.fluxbox"
+      # Without this it starts a program that complains about the missing background.
+      echo 'background: none' >"$HOME/.fluxbox/overlay"
+      start fluxbox fluxbox
+      ;;
+    *)
+      fail "unknown window manager $1"
+      ;;
+  esac
+}
+
+# A session bus, for those that need one.
+start_bus() { # [COMMAND that runs it as another user...]
+  start bus "$@" dbus-daemon --session --nofork --nopidfile \
+    --address="unix:path=$XDG_RUNTIME_DIR/bus"
+  await "the session bus" test -S "$XDG_RUNTIME_DIR/bus"
+  export DBUS_SESSION_BUS_ADDRESS=unix:path=$XDG_RUNTIME_DIR/bus
+}
