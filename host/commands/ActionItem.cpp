@@ -11,14 +11,14 @@
 namespace gesturewidget {
 namespace {
 
-// Opens what Qt keeps for those who derive.
+// Gives access to a protected member of Qt.
 struct WidgetActionAccess : QWidgetAction
 {
     using QWidgetAction::createdWidgets;
 };
 
-// Whether menus and toolbars show a widget in the action's place. Some programs derive all
-// their actions from QWidgetAction, most of which never bring one and are common entries.
+// True if menus and toolbars show a widget in place of the action. Some programs derive all their
+// actions from QWidgetAction although most of them never have a widget.
 bool bringsWidget(const QAction *action)
 {
     const auto *widgetAction = qobject_cast<const QWidgetAction *>(action);
@@ -70,7 +70,7 @@ void ActionItem::read()
     setIcon(m_action->icon());
 }
 
-// Most changes of an action leave its icon as it is, and the halo that was drawn around it.
+// Most changes of an action do not change its icon: keep the halo that was drawn.
 void ActionItem::setIcon(const QIcon &icon)
 {
     if (icon.cacheKey() == m_icon.cacheKey())

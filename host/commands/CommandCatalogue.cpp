@@ -116,7 +116,7 @@ void CommandCatalogue::remember(const QVector<RememberedCommand> &commands)
                     command.command.isEmpty() ? command.identifier : command.command);
     for (const RememberedCommand &command : commands) {
         QString key = keys.value(command.identifier);
-        // What the profile says may have changed since then, and counts.
+        // The profile may have changed since then, and it decides.
         const QStringList wellKnownKeys = m_wellKnown.value(command.identifier);
         if (!wellKnownKeys.isEmpty() && !wellKnownKeys.contains(key))
             key = wellKnownKeys.first();
@@ -222,7 +222,7 @@ void CommandCatalogue::scan()
         const QString title = plainCaption(bar->windowTitle());
         walk(bar, {title, title, true});
     }
-    // After all that are known: only now is it clear which of their keys are free.
+    // Newcomers come last: only now is it clear which keys are free.
     if (m_guesses)
         guess();
     for (const Newcomer &newcomer : m_newcomers)
@@ -298,8 +298,7 @@ void CommandCatalogue::meet(QAction *action, const Place &place)
     m_met.push_back(item);
 }
 
-// Gives a command to an action that has none: the one that an action with this key had
-// before, or a new one.
+// Gives an action its command: the one that an action with this key had before, or a new one.
 void CommandCatalogue::admit(const Newcomer &newcomer)
 {
     if (const ActionItem *item = m_byAction.value(newcomer.action);
@@ -341,8 +340,8 @@ void CommandCatalogue::admit(const Newcomer &newcomer)
     m_met.push_back(item);
 }
 
-// The command of that key whose action is not there; null when there is none, and then
-// `isTaken` says whether the key is in use.
+// Returns the command of that key if its action is gone. Returns null otherwise; `isTaken` then
+// says if the key is in use.
 ActionItem *CommandCatalogue::reusable(const QString &key, bool *isTaken) const
 {
     if (key.isEmpty() || !m_wellKnown.value(key, {key}).contains(key)) {
@@ -354,15 +353,15 @@ ActionItem *CommandCatalogue::reusable(const QString &key, bool *isTaken) const
     return item && item->key() == key && !item->isPresent ? item : nullptr;
 }
 
-// The well-known identifier of an action by the profile, else as it was guessed; empty if
-// it has none.
+// Returns the action's well-known identifier by the profile, else by a guess; empty if there is
+// none.
 QString CommandCatalogue::wellKnownFor(const Newcomer &newcomer, const QString &key) const
 {
     const QString byPath = m_identifiers.value(newcomer.path, m_guessed.value(newcomer.action));
     return m_identifiers.value(key, byPath);
 }
 
-// The command of that identifier while it is expected only, of whatever action; null
+// Returns the command of that identifier if it is only expected and has had no action; null
 // otherwise.
 ActionItem *CommandCatalogue::expectedFor(const QString &identifier) const
 {

@@ -45,7 +45,7 @@ QString className(const QWidget *widget)
     return QString::fromLatin1(widget->metaObject()->className());
 }
 
-// By name, since the libraries that these come from are none of ours.
+// By name, because these classes come from libraries that are not linked here.
 template <std::size_t Count>
 bool inheritsAny(const QWidget *widget, const std::array<const char *, Count> &names)
 {
@@ -76,7 +76,7 @@ bool isControl(const QWidget *widget)
         widget);
 }
 
-// What never is a view, whatever derives from it.
+// True for widgets that are never views, including derived ones.
 bool isOther(const QWidget *widget, QString *what)
 {
     if (isAnyOf<QTextEdit, QPlainTextEdit>(widget))
@@ -122,13 +122,16 @@ bool isStartPage(const QWidget *widget)
     return false;
 }
 
-// The child of an MDI area, or the main window's central widget, that `widget` is in or is;
-// null when it is in neither.
+// Returns the content of the MDI child, or the main window's central widget, that `widget` is or
+// is in; null if there is none.
 const QWidget *areaOf(const QWidget *widget)
 {
     const QWidget *below = nullptr;
     for (const QWidget *up = widget; up; below = up, up = up->parentWidget()) {
-        if (isAnyOf<QDockWidget, QToolBar, QStatusBar, QDialog>(up))
+        if (isAnyOf<QDockWidget, QToolBar, QStatusBar>(up))
+            return nullptr;
+        // A dialog that is no window is one that is being designed, or a page.
+        if (isAnyOf<QDialog>(up) && up->isWindow())
             return nullptr;
         if (const auto *child = qobject_cast<const QMdiSubWindow *>(up))
             return child->widget() == below ? below : nullptr;
@@ -163,7 +166,7 @@ bool isGraphicsViewOrSurface(const QWidget *widget)
     return isAnyOf<QGraphicsView>(widget) || isSurface(widget);
 }
 
-// Whether the middle of a main window is for something else than drawings, or is not there.
+// True if the middle of a main window holds no drawing, or does not exist.
 bool hasNoViewInside(const QWidget *middle)
 {
     if (!middle || !middle->isVisible() || isSmall(middle))
@@ -175,9 +178,9 @@ bool hasNoViewInside(const QWidget *middle)
                         [](const QWidget *child) { return ViewGuess::of(child).isView; });
 }
 
-// What the large dock holds that `widget` is in, where the drawing is there and not in the
-// middle: beside the text that describes it, or in a window of nothing but docks. Null for
-// any other dock: a picture in one is a preview, a map of the whole, a chooser of colours.
+// Returns the content of the large dock that `widget` is in, if the drawing is in a dock and not
+// in the middle: beside the text that describes it, or in a window of docks only. Returns null for
+// any other dock, where a picture is a preview, a map or a chooser of colours.
 const QWidget *dockAreaOf(const QWidget *widget)
 {
     if (!isGraphicsViewOrSurface(widget))
@@ -198,8 +201,8 @@ const QWidget *viewportOf(const QWidget *widget)
     return area ? area->viewport() : nullptr;
 }
 
-// A visible child that fills most of `widget` and takes its input; null if none. Of a
-// scroll area the content, however large it is.
+// Returns a visible child that fills most of `widget` and takes its input, or null. For a scroll
+// area it is the content, whatever its size.
 const QWidget *contentOf(const QWidget *widget)
 {
     if (const auto *area = qobject_cast<const QScrollArea *>(widget))
@@ -216,18 +219,51 @@ const QWidget *contentOf(const QWidget *widget)
     return nullptr;
 }
 
-int controlsIn(const QWidget *widget)
+// More controls than this in one widget make it a page of them. A drawing may have a label
+// that shows a coordinate.
+constexpr int kMostControls = 3;
+// Per cent of a widget. Buttons that all stand in so small a part of it do not count: drawings
+// have them in a corner, to zoom for example.
+constexpr int kCornerShare = 10;
+
+bool isPageOfControls(const QWidget *widget)
 {
-    int count = 0;
+    int buttons = 0;
+    int others = 0;
+    QRect aroundButtons;
     const auto all = widget->findChildren<QWidget *>();
-    for (const QWidget *child : all)
-        count += isControl(child) && child->isVisible() ? 1 : 0;
-    return count;
+    for (const QWidget *child : all) {
+        if (!isControl(child) || !child->isVisible())
+            continue;
+        if (!isAnyOf<QAbstractButton>(child)) {
+            ++others;
+            continue;
+        }
+        ++buttons;
+        const QPoint corner = child->mapTo(const_cast<QWidget *>(widget), QPoint(0, 0));
+        aroundButtons |= QRect(corner, child->size());
+    }
+    const qint64 size = qint64(widget->width()) * widget->height();
+    const bool isCorner =
+        100 * qint64(aroundButtons.width()) * aroundButtons.height() <= kCornerShare * size;
+    return others + (isCorner ? 0 : buttons) > kMostControls;
 }
 
-// More controls than this in one make it a page of them; a drawing may have a corner
-// button, or a label that shows a coordinate.
-constexpr int kMostControls = 3;
+// The scroll area whose content is `widget`, or only holds it: programs put a plain widget
+// between the two, to centre a small picture. Null if there is none.
+const QScrollArea *scrollAreaOf(const QWidget *widget)
+{
+    const QWidget *content = widget;
+    while (content->parentWidget() && !content->isWindow()) {
+        const auto *area = qobject_cast<const QScrollArea *>(content->parentWidget()->parentWidget());
+        if (area && area->widget() == content)
+            return area;
+        content = content->parentWidget();
+        if (!isPlain(content))
+            return nullptr;
+    }
+    return nullptr;
+}
 
 ViewGuess no(const QString &reason)
 {
@@ -246,11 +282,10 @@ ViewGuess judgeOwn(const QWidget *widget, const QWidget *area)
     const QWidget *viewport = viewportOf(widget);
     if (takesText(widget) || (viewport && takesText(viewport)))
         return no(QStringLiteral("it is a text editor by the way it takes text"));
-    if (controlsIn(widget) > kMostControls)
+    if (isPageOfControls(widget))
         return no(QStringLiteral("it is a page of controls"));
-    const QWidget *place = widget->parentWidget();
-    const auto *scrolled = place ? qobject_cast<const QScrollArea *>(place->parentWidget()) : nullptr;
-    if (scrolled && scrolled->widget() == widget && percentOf(scrolled, area) >= ViewGuess::kShare)
+    const QScrollArea *scrolled = scrollAreaOf(widget);
+    if (scrolled && percentOf(scrolled, area) >= ViewGuess::kShare)
         return yes(QStringLiteral("it is the content of a scroll area that fills %1 % of %2")
                        .arg(percentOf(scrolled, area))
                        .arg(className(area)));

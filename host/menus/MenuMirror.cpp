@@ -15,7 +15,7 @@
 namespace gesturewidget {
 namespace {
 
-// "ID_Mn" and what the menu is called, letters and digits only.
+// Returns "ID_Mn" and the menu's name, letters and digits only.
 QString menuIdentifier(const QAction &action)
 {
     const QString name = action.menu() && !action.menu()->objectName().isEmpty()
@@ -84,8 +84,8 @@ std::size_t MenuMirror::size() const
     return m_items.size() + m_collections.size() + m_menus.size() + m_barItems.size();
 }
 
-// Of a bar only what a person sees in it, and the made Tools menu, which may be empty and
-// hidden still.
+// Lists what a person sees in a menu bar, and the made Tools menu, which may still be empty and
+// hidden.
 std::vector<CHxUIMenuItem *> MenuMirror::listBar(const QMenuBar &bar)
 {
     const QMenu *tools = m_tools.find();

@@ -23,12 +23,11 @@
 namespace gesturewidget {
 namespace {
 
-// Milliseconds from the first view to menus that are taken for complete: programs add to
-// them what a drawing brings when it opens.
+// Milliseconds from the first view to complete menus. Programs add entries when a drawing opens.
 constexpr int kTimeForMenus = 1000;
 
-// Plain pointers: nothing of this may run when the process ends by exit(), at a time when
-// Qt is half gone.
+// Plain pointers, so that nothing runs here when the process ends by exit(), when Qt is half
+// destroyed.
 HostSession *running = nullptr;
 HostSession *firstStarted = nullptr;
 
@@ -151,9 +150,8 @@ void HostSession::stop()
 
 void HostSession::stopWithoutWindow()
 {
-    // The window is no main window any more, only what is left of it, though pointers to it
-    // still say that it is there. There are no menus to take the module's entry out of; a
-    // module that finds no services leaves that be.
+    // The window is only a plain widget by now, although pointers to it are not null yet. Its
+    // menus are gone, and a module that finds no services does not look for its entry.
     m_windowIsGone = true;
     stop();
 }
@@ -164,10 +162,10 @@ void HostSession::finish()
     if (m_isFinished)
         return;
     m_isFinished = true;
-    // The command stack lets go of the module's command before that goes with the module.
+    // The command stack must release the module's command before the module is destroyed.
     m_pointerFilter.reset();
     m_services.reset();
-    // A library has one module object, however many hosts have loaded it in turn.
+    // A library has one module object, even if several hosts have loaded it in turn.
     bool isShared = false;
     for (const HostSession *other = firstStarted; other; other = other->m_next)
         isShared |= !other->m_isFinished && other->m_loader.module() == m_loader.module();
@@ -251,9 +249,9 @@ bool HostSession::isOfThisWindow(const QWidget *view) const
         return added && ViewFinder::pointerWidget(added) == view;
     };
     if (std::any_of(m_addedViews.begin(), m_addedViews.end(), isAdded))
-        return true; // by the program itself, which knows what it does
-    // A window with menus of its own has commands of its own. Those of a view that was
-    // detached from this one, or that is in a dock, are the commands here.
+        return true; // the program itself has named it
+    // A window with its own menus has its own commands. A view that was detached from this window,
+    // or that is in a dock, uses the commands of this one.
     const QWidget *window = view ? view->window() : nullptr;
     return window == m_window.data() || !hasMenuBar(qobject_cast<const QMainWindow *>(window));
 }
@@ -270,7 +268,7 @@ bool HostSession::gesturesAreEnabled() const
 
 bool HostSession::eventFilter(QObject *, QEvent *event)
 {
-    // The last moment at which the main window is still whole.
+    // This is the last moment at which the main window is complete.
     if (event->type() == QEvent::DeferredDelete)
         stop();
     return false;

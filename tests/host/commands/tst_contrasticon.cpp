@@ -176,7 +176,7 @@ void ContrastIconTest::outlinesStandOut_data()
                              "drawCircle", "drawText", "viewZoomBounds", "viewZoomIn", "viewGrid",
                              "modifyOffset", "modifyCopy", "modifyTrim", "toolsSnap", "helpAbout"})
         QTest::newRow(name) << icons::named(QLatin1String(name));
-    // One of a kind each: what a person can hardly see without a halo.
+    // One colour each: icons that can hardly be seen without a halo.
     for (const QColor &colour : {QColor(0x2b, 0x2b, 0x2b), QColor(0xe6, 0xe6, 0xe6), QColor(Qt::red),
                                  QColor(Qt::yellow), QColor(Qt::blue), QColor(0x75, 0x76, 0x77)})
         QTest::newRow(qPrintable(colour.name())) << strokes({colour});

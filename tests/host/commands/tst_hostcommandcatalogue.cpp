@@ -276,7 +276,7 @@ void HostCommandCatalogueTest::readingAgainDoesNotWalkAgain()
     QCOMPARE(listing(catalogue).last(), QStringLiteral("Sketching: drawArc"));
 }
 
-// So that a gesture finds all of it done.
+// A gesture then finds everything done.
 void HostCommandCatalogueTest::changesAreReadBeforeSomebodyAsks()
 {
     CommandCatalogue catalogue(m_window.get(), {});
