@@ -11,6 +11,7 @@
 #include <QFrame>
 #include <QGraphicsView>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
@@ -45,7 +46,7 @@ QString className(const QWidget *widget)
     return QString::fromLatin1(widget->metaObject()->className());
 }
 
-// By name, because these classes come from libraries that are not linked here.
+// By name, since the libraries that these come from are none of ours.
 template <std::size_t Count>
 bool inheritsAny(const QWidget *widget, const std::array<const char *, Count> &names)
 {
@@ -76,7 +77,7 @@ bool isControl(const QWidget *widget)
         widget);
 }
 
-// True for widgets that are never views, including derived ones.
+// What never is a view, whatever derives from it.
 bool isOther(const QWidget *widget, QString *what)
 {
     if (isAnyOf<QTextEdit, QPlainTextEdit>(widget))
@@ -99,7 +100,7 @@ bool isPlain(const QWidget *widget)
 {
     const std::type_info &type = typeid(*widget);
     return type == typeid(QWidget) || type == typeid(QFrame) || type == typeid(QScrollArea)
-        || type == typeid(QAbstractScrollArea) || type == typeid(QMainWindow);
+        || type == typeid(QAbstractScrollArea) || type == typeid(QMainWindow) || type == typeid(QDialog);
 }
 
 // An editor for text of some other library than Qt, or a terminal: it tells input methods
@@ -122,26 +123,36 @@ bool isStartPage(const QWidget *widget)
     return false;
 }
 
-// Returns the content of the MDI child, or the main window's central widget, that `widget` is or
-// is in; null if there is none.
+// The child of an MDI area, or the central widget of a main window, that `widget` is in or is;
+// null when it is in neither or stands in a dock. Of several the innermost.
 const QWidget *areaOf(const QWidget *widget)
 {
+    const QWidget *area = nullptr;
     const QWidget *below = nullptr;
     for (const QWidget *up = widget; up; below = up, up = up->parentWidget()) {
         if (isAnyOf<QDockWidget, QToolBar, QStatusBar>(up))
             return nullptr;
-        // A dialog that is no window is one that is being designed, or a page.
-        if (isAnyOf<QDialog>(up) && up->isWindow())
-            return nullptr;
-        if (const auto *child = qobject_cast<const QMdiSubWindow *>(up))
-            return child->widget() == below ? below : nullptr;
-        if (const auto *window = qobject_cast<const QMainWindow *>(up)) {
-            if (below && window->centralWidget() == below)
-                return below;
-            // A main window may stand inside another, as an MDI child or a page does.
+        if (const auto *child = qobject_cast<const QMdiSubWindow *>(up); child && !area) {
+            if (child->widget() != below)
+                return nullptr;
+            area = below;
         }
+        // A main window may stand inside another, as an MDI child or a page does.
+        if (const auto *window = qobject_cast<const QMainWindow *>(up);
+            window && !area && below && window->centralWidget() == below)
+            area = below;
         if (up->isWindow())
-            return nullptr;
+            break;
+    }
+    return area;
+}
+
+// The form that a designer of forms shows, and that `widget` is a part of; null if none.
+const QWidget *formOf(const QWidget *widget)
+{
+    for (const QWidget *up = widget->parentWidget(); up; up = up->parentWidget()) {
+        if (up->inherits("QDesignerFormWindowInterface"))
+            return up;
     }
     return nullptr;
 }
@@ -166,7 +177,7 @@ bool isGraphicsViewOrSurface(const QWidget *widget)
     return isAnyOf<QGraphicsView>(widget) || isSurface(widget);
 }
 
-// True if the middle of a main window holds no drawing, or does not exist.
+// Whether the middle of a main window is for something else than drawings, or is not there.
 bool hasNoViewInside(const QWidget *middle)
 {
     if (!middle || !middle->isVisible() || isSmall(middle))
@@ -178,9 +189,9 @@ bool hasNoViewInside(const QWidget *middle)
                         [](const QWidget *child) { return ViewGuess::of(child).isView; });
 }
 
-// Returns the content of the large dock that `widget` is in, if the drawing is in a dock and not
-// in the middle: beside the text that describes it, or in a window of docks only. Returns null for
-// any other dock, where a picture is a preview, a map or a chooser of colours.
+// What the large dock holds that `widget` is in, where the drawing is there and not in the
+// middle: beside the text that describes it, or in a window of nothing but docks. Null for
+// any other dock: a picture in one is a preview, a map of the whole, a chooser of colours.
 const QWidget *dockAreaOf(const QWidget *widget)
 {
     if (!isGraphicsViewOrSurface(widget))
@@ -201,8 +212,8 @@ const QWidget *viewportOf(const QWidget *widget)
     return area ? area->viewport() : nullptr;
 }
 
-// Returns a visible child that fills most of `widget` and takes its input, or null. For a scroll
-// area it is the content, whatever its size.
+// A visible child that fills most of `widget` and takes its input; null if none. Of a
+// scroll area the content, however large it is.
 const QWidget *contentOf(const QWidget *widget)
 {
     if (const auto *area = qobject_cast<const QScrollArea *>(widget))
@@ -219,51 +230,27 @@ const QWidget *contentOf(const QWidget *widget)
     return nullptr;
 }
 
-// More controls than this in one widget make it a page of them. A drawing may have a label
-// that shows a coordinate.
+// Those at the scroll bars and in the corner between them are not in the picture.
+int controlsIn(const QWidget *widget)
+{
+    const QWidget *viewport = viewportOf(widget);
+    int count = 0;
+    const auto all = (viewport ? viewport : widget)->findChildren<QWidget *>();
+    for (const QWidget *child : all)
+        count += isControl(child) && child->isVisible() ? 1 : 0;
+    return count;
+}
+
+bool hasTableHeader(const QWidget *widget)
+{
+    const auto headers = widget->findChildren<QHeaderView *>();
+    return std::any_of(headers.begin(), headers.end(),
+                       [](const QWidget *header) { return header->isVisible(); });
+}
+
+// More controls than this in one make it a page of them; a drawing may have a corner
+// button, or a label that shows a coordinate.
 constexpr int kMostControls = 3;
-// Per cent of a widget. Buttons that all stand in so small a part of it do not count: drawings
-// have them in a corner, to zoom for example.
-constexpr int kCornerShare = 10;
-
-bool isPageOfControls(const QWidget *widget)
-{
-    int buttons = 0;
-    int others = 0;
-    QRect aroundButtons;
-    const auto all = widget->findChildren<QWidget *>();
-    for (const QWidget *child : all) {
-        if (!isControl(child) || !child->isVisible())
-            continue;
-        if (!isAnyOf<QAbstractButton>(child)) {
-            ++others;
-            continue;
-        }
-        ++buttons;
-        const QPoint corner = child->mapTo(const_cast<QWidget *>(widget), QPoint(0, 0));
-        aroundButtons |= QRect(corner, child->size());
-    }
-    const qint64 size = qint64(widget->width()) * widget->height();
-    const bool isCorner =
-        100 * qint64(aroundButtons.width()) * aroundButtons.height() <= kCornerShare * size;
-    return others + (isCorner ? 0 : buttons) > kMostControls;
-}
-
-// The scroll area whose content is `widget`, or only holds it: programs put a plain widget
-// between the two, to centre a small picture. Null if there is none.
-const QScrollArea *scrollAreaOf(const QWidget *widget)
-{
-    const QWidget *content = widget;
-    while (content->parentWidget() && !content->isWindow()) {
-        const auto *area = qobject_cast<const QScrollArea *>(content->parentWidget()->parentWidget());
-        if (area && area->widget() == content)
-            return area;
-        content = content->parentWidget();
-        if (!isPlain(content))
-            return nullptr;
-    }
-    return nullptr;
-}
 
 ViewGuess no(const QString &reason)
 {
@@ -275,24 +262,81 @@ ViewGuess yes(const QString &reason)
     return {true, reason};
 }
 
-ViewGuess judgeOwn(const QWidget *widget, const QWidget *area)
+// Why a widget cannot be what a program paints a drawing on, wherever it stands and whatever
+// its share; empty if it can.
+QString whyNoCanvas(const QWidget *widget, const QWidget *area)
 {
+    QString what;
+    if (isOther(widget, &what))
+        return QStringLiteral("it is ") + what;
+    for (const QWidget *up = widget; up && up != area->parentWidget(); up = up->parentWidget()) {
+        if (isWebView(up))
+            return QStringLiteral("it shows web pages");
+        if (isStartPage(up))
+            return QStringLiteral("it is a start page by its name");
+        if (up != widget && viewportOf(up) == widget)
+            return QStringLiteral("it is the viewport of %1").arg(className(up));
+        if (up != widget && isAnyOf<QAbstractItemView, QTextEdit, QPlainTextEdit>(up))
+            return QStringLiteral("it is inside %1").arg(className(up));
+    }
+    if (!widget->isVisible())
+        return QStringLiteral("it is not visible");
+    if (isSmall(widget))
+        return QStringLiteral("it is too small");
+    if (isGraphicsViewOrSurface(widget))
+        return {};
+    if (isPlain(widget))
+        return QStringLiteral("it is a plain %1, which paints nothing").arg(className(widget));
     if (const QWidget *content = contentOf(widget))
-        return no(QStringLiteral("it is filled by another, %1").arg(className(content)));
+        return QStringLiteral("it is filled by another, %1").arg(className(content));
     const QWidget *viewport = viewportOf(widget);
     if (takesText(widget) || (viewport && takesText(viewport)))
-        return no(QStringLiteral("it is a text editor by the way it takes text"));
-    if (isPageOfControls(widget))
-        return no(QStringLiteral("it is a page of controls"));
-    const QScrollArea *scrolled = scrollAreaOf(widget);
-    if (scrolled && percentOf(scrolled, area) >= ViewGuess::kShare)
-        return yes(QStringLiteral("it is the content of a scroll area that fills %1 % of %2")
-                       .arg(percentOf(scrolled, area))
+        return QStringLiteral("it is a text editor by the way it takes text");
+    if (hasTableHeader(widget))
+        return QStringLiteral("it is a table by its header");
+    if (controlsIn(widget) > kMostControls)
+        return QStringLiteral("it is a page of controls");
+    return {};
+}
+
+// The scroll area whose content `widget` is or fills, inside `area`; null if none. A plain
+// widget may stand in between.
+const QScrollArea *scrollAreaOf(const QWidget *widget, const QWidget *area)
+{
+    for (const QWidget *up = widget; up != area && up->parentWidget(); up = up->parentWidget()) {
+        const auto *scrolled = qobject_cast<const QScrollArea *>(up->parentWidget()->parentWidget());
+        if (scrolled && scrolled->widget() == up)
+            return percentOf(widget, up) >= ViewGuess::kShare ? scrolled : nullptr;
+    }
+    return nullptr;
+}
+
+// Whether the area has no other widget that could show a drawing. Widgets of one class are
+// panes of one view.
+bool isAlone(const QWidget *widget, const QWidget *area)
+{
+    const auto others = area->findChildren<QWidget *>();
+    return std::all_of(others.begin(), others.end(), [&](const QWidget *other) {
+        return typeid(*other) == typeid(*widget) || other->isAncestorOf(widget)
+            || widget->isAncestorOf(other) || !whyNoCanvas(other, area).isEmpty();
+    });
+}
+
+ViewGuess judgeShare(const QWidget *widget, const QWidget *area)
+{
+    const QScrollArea *scrolled = scrollAreaOf(widget, area);
+    const int share = percentOf(scrolled ? static_cast<const QWidget *>(scrolled) : widget, area);
+    const QString what = scrolled ? QStringLiteral("it is the content of a scroll area that fills")
+                                  : QStringLiteral("it paints itself and fills");
+    if (share >= ViewGuess::kShare)
+        return yes(QStringLiteral("%1 %2 % of %3").arg(what).arg(share).arg(className(area)));
+    // At another size of the window, what stands beside it may be larger than it.
+    if (share >= ViewGuess::kLeastShare && isAlone(widget, area))
+        return yes(QStringLiteral("%1 %2 % of %3, where nothing else could show a drawing")
+                       .arg(what)
+                       .arg(share)
                        .arg(className(area)));
-    const int share = percentOf(widget, area);
-    if (share < ViewGuess::kShare)
-        return no(QStringLiteral("it fills %1 % of the area only").arg(share));
-    return yes(QStringLiteral("it paints itself and fills %1 % of the area").arg(share));
+    return no(QStringLiteral("it fills %1 % of the area only").arg(share));
 }
 
 } // namespace
@@ -304,30 +348,19 @@ ViewGuess ViewGuess::of(const QWidget *widget)
         area = dockAreaOf(widget);
     if (!area)
         return no(QStringLiteral("it is not in the middle of a main window"));
-    QString what;
-    if (isOther(widget, &what))
-        return no(QStringLiteral("it is ") + what);
-    for (const QWidget *up = widget; up && up != area->parentWidget(); up = up->parentWidget()) {
-        if (isWebView(up))
-            return no(QStringLiteral("it shows web pages"));
-        if (isStartPage(up))
-            return no(QStringLiteral("it is a start page by its name"));
-        if (up != widget && viewportOf(up) == widget)
-            return no(QStringLiteral("it is the viewport of %1").arg(className(up)));
-        if (up != widget && isAnyOf<QAbstractItemView, QTextEdit, QPlainTextEdit>(up))
-            return no(QStringLiteral("it is inside %1").arg(className(up)));
-    }
-    if (!widget->isVisible())
-        return no(QStringLiteral("it is not visible"));
-    if (isSmall(widget))
-        return no(QStringLiteral("it is too small"));
+    // A form's widgets are what is drawn there, whatever they are elsewhere.
+    const QWidget *form = formOf(widget);
+    if (form && widget->parentWidget() != form)
+        return widget->isVisible() ? yes(QStringLiteral("it is part of a form that is being designed"))
+                                   : no(QStringLiteral("it is not visible"));
+    const QString obstacle = whyNoCanvas(widget, area);
+    if (!obstacle.isEmpty())
+        return no(obstacle);
     if (isAnyOf<QGraphicsView>(widget))
         return yes(QStringLiteral("it is a graphics view"));
     if (isSurface(widget))
         return yes(QStringLiteral("it is a surface of the graphics library or of a window"));
-    if (isPlain(widget))
-        return no(QStringLiteral("it is a plain %1, which paints nothing").arg(className(widget)));
-    return judgeOwn(widget, area);
+    return judgeShare(widget, area);
 }
 
 } // namespace gesturewidget

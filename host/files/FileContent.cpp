@@ -36,10 +36,25 @@ bool readAll(int file, qint64 size, qint64 limit, QByteArray &bytes)
     return true;
 }
 
+// A program may have its profile built in. Qt's resources are no files of the system.
+FileContent readResource(const QString &path, qint64 limit)
+{
+    QFile file(path);
+    if (!file.exists())
+        return {};
+    if (file.size() > limit)
+        return {FileContent::State::TooLarge, {}, {}};
+    if (!file.open(QIODevice::ReadOnly))
+        return {FileContent::State::NotAFile, {}, {}};
+    return {FileContent::State::Read, file.readAll(), {}};
+}
+
 } // namespace
 
 FileContent FileContent::read(const QString &path, qint64 limit)
 {
+    if (path.startsWith(QLatin1String(":/")))
+        return readResource(path, limit);
     // Without O_NONBLOCK, opening a pipe would wait until somebody writes to it.
     const int file = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (file < 0) {

@@ -6,6 +6,7 @@
 #include <QDockWidget>
 #include <QGraphicsView>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QListWidget>
 #include <QMainWindow>
@@ -65,7 +66,7 @@ private:
     QVariant m_surrounding;
 };
 
-// These two stand for widgets of libraries that are not linked here, by their names alone.
+// These stand for widgets of libraries that are not linked here, by their names alone.
 class QWebEngineView : public QWidget
 {
     Q_OBJECT
@@ -75,6 +76,14 @@ public:
 };
 
 class QGLWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+};
+
+class QDesignerFormWindowInterface : public QWidget
 {
     Q_OBJECT
 
@@ -133,14 +142,14 @@ template <class Widget> QWidget *dockedBeside(QMainWindow &window, QWidget *midd
 }
 
 // Beside something else in a plain widget, at that share of the width in per cent.
-QWidget *beside(QMainWindow &window, int share, QWidget *widget)
+QWidget *beside(QMainWindow &window, int share, QWidget *widget, QWidget *other = new QWidget)
 {
     auto *frame = new QWidget;
     auto *layout = new QHBoxLayout(frame);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(widget, share);
-    layout->addWidget(new QWidget, 100 - share);
+    layout->addWidget(other, 100 - share);
     window.setCentralWidget(frame);
     return widget;
 }
@@ -168,6 +177,26 @@ QWidget *inScrollArea(QMainWindow &window, QWidget *content)
     area->setWidget(content);
     window.setCentralWidget(area);
     return content;
+}
+
+QWidget *tableOfOwn()
+{
+    auto *table = new ScrollingCanvas;
+    new QHeaderView(Qt::Horizontal, table->viewport());
+    return table;
+}
+
+// The form's own widget, as a designer of forms shows it.
+template <class Widget> QWidget *formIn(QMainWindow &window)
+{
+    auto *form =
+        static_cast<QDesignerFormWindowInterface *>(mdiChild<QDesignerFormWindowInterface>(window));
+    auto *container = new QWidget;
+    filledBy(form, container);
+    auto *widget = new Widget;
+    widget->setWindowFlags(Qt::Widget);
+    filledBy(container, widget);
+    return widget;
 }
 
 } // namespace
@@ -335,8 +364,32 @@ void ViewGuessTest::guesses_data()
         "canvas that fills 65 %", [](QMainWindow &w) { return beside(w, 65, new Canvas); }, true,
         "fills 65 %");
     row(
-        "canvas that fills 55 %", [](QMainWindow &w) { return beside(w, 55, new Canvas); }, false,
+        "canvas that fills 55 % beside another kind",
+        [](QMainWindow &w) { return beside(w, 55, new Canvas, new ScrollingCanvas); }, false,
         "fills 55 % of the area only");
+    row(
+        "canvas that fills 30 % beside a list",
+        [](QMainWindow &w) { return beside(w, 30, new Canvas, new QListWidget); }, true,
+        "fills 30 % of QWidget, where nothing else");
+    row(
+        "canvas that fills 30 % beside a table of the program's own",
+        [](QMainWindow &w) { return beside(w, 30, new Canvas, tableOfOwn()); }, true,
+        "where nothing else");
+    row(
+        "that table",
+        [](QMainWindow &w) {
+            QWidget *table = tableOfOwn();
+            beside(w, 30, new Canvas, table);
+            return table;
+        },
+        false, "table by its header");
+    row(
+        "two panes of one kind", [](QMainWindow &w) { return beside(w, 50, new Canvas, new Canvas); },
+        true, "fills 50 %");
+    row(
+        "ornament beside a list",
+        [](QMainWindow &w) { return beside(w, 15, new Canvas, new QListWidget); }, false,
+        "fills 15 % of the area only");
     row(
         "canvas with rulers",
         [](QMainWindow &w) {
@@ -376,6 +429,67 @@ void ViewGuessTest::guesses_data()
     row(
         "small canvas that scrolls", [](QMainWindow &w) { return inScrollArea(w, new Canvas); }, true,
         "content of a scroll area");
+    row(
+        "small canvas in a plain widget that scrolls",
+        [](QMainWindow &w) {
+            auto *frame = new QWidget;
+            auto *canvas = new Canvas(frame);
+            inScrollArea(w, frame);
+            canvas->resize(frame->size() - QSize(5, 5));
+            return canvas;
+        },
+        true, "content of a scroll area");
+    row(
+        "part of a page that scrolls",
+        [](QMainWindow &w) {
+            auto *frame = new QWidget;
+            auto *canvas = new Canvas(frame);
+            inScrollArea(w, frame);
+            canvas->resize(120, 120);
+            return canvas;
+        },
+        false, "of the area only");
+    row(
+        "scrolling canvas with buttons at its scroll bars",
+        [](QMainWindow &w) {
+            auto *canvas = static_cast<QAbstractScrollArea *>(central<ScrollingCanvas>(w));
+            canvas->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+            canvas->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+            canvas->setCornerWidget(new QPushButton);
+            for (int i = 0; i < 2; ++i) {
+                canvas->addScrollBarWidget(new QPushButton, Qt::AlignBottom);
+                canvas->addScrollBarWidget(new QPushButton, Qt::AlignRight);
+            }
+            return canvas;
+        },
+        true, "fills 100 %");
+    row("dialog as a form's container", formIn<QDialog>, true, "form that is being designed");
+    row(
+        "button on a form",
+        [](QMainWindow &w) {
+            auto *button = new QPushButton(QStringLiteral("x"), formIn<QDialog>(w));
+            return static_cast<QWidget *>(button);
+        },
+        true, "form that is being designed");
+    row("dialog that is an MDI child", mdiChild<QDialog>, false, "plain QDialog");
+    row(
+        "canvas in a dialog that is an MDI child",
+        [](QMainWindow &w) {
+            auto *canvas = new Canvas;
+            filledBy(mdiChild<QDialog>(w), canvas);
+            return canvas;
+        },
+        true, "it paints itself");
+    row(
+        "graphics view in a main window in a dock",
+        [](QMainWindow &w) {
+            auto *inner = static_cast<QMainWindow *>(docked<QMainWindow>(w));
+            inner->setWindowFlags(Qt::Widget);
+            auto *view = new QGraphicsView;
+            inner->setCentralWidget(view);
+            return view;
+        },
+        false, "not in the middle");
     row(
         "scroll area around a canvas",
         [](QMainWindow &w) { return inScrollArea(w, new Canvas)->parentWidget()->parentWidget(); },
