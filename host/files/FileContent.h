@@ -17,7 +17,8 @@ struct FileContent
         Unreadable // no permission, or an error of the disk
     };
 
-    // Reads `path`, at most `limit` bytes. A path that begins with ":/" is one of Qt's resources. Asks for no more memory than the file has bytes.
+    // Reads `path`, at most `limit` bytes. Asks for no more memory than the file has bytes. A path
+    // that begins with ":/" names one of Qt's resources.
     [[nodiscard]] static FileContent read(const QString &path, qint64 limit);
 
     [[nodiscard]] bool isRead() const { return state == State::Read; }

@@ -32,6 +32,7 @@ class ProgramProfileTest : public tests::FolderTest
 private Q_SLOTS:
     void missingFileGivesDefaultsQuietly();
     void readsEverything();
+    void mayBeBuiltIntoTheProgram();
     void isWrittenAsItIsRead();
     void namesOfButtonsAndKeys_data();
     void namesOfButtonsAndKeys();
@@ -61,6 +62,15 @@ void ProgramProfileTest::missingFileGivesDefaultsQuietly()
     QCOMPARE(profile.program, QStringLiteral("drafter"));
     QVERIFY(isDefault(profile));
     QCOMPARE(message, QString());
+}
+
+void ProgramProfileTest::mayBeBuiltIntoTheProgram()
+{
+    QString message;
+    const ProgramProfile profile = ProgramProfile::forProgram(
+        QStringLiteral("builtin"), {QStringLiteral(":/none"), QStringLiteral(":/profiles")}, &message);
+    QCOMPARE(message, QString());
+    QCOMPARE(profile.viewClasses, QStringList(QStringLiteral("Canvas")));
 }
 
 void ProgramProfileTest::readsEverything()
