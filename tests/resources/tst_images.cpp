@@ -225,7 +225,8 @@ void ImagesTest::sizes_data()
     for (const QString &name : arrowNames())
         addEnlarged(name, arrow);
     add(kRoot + QStringLiteral("backgroundDonut.png"), ring);
-    for (const QString &number : numbers()) {
+    const QStringList all = numbers();
+    for (const QString &number : all) {
         add(kRoot + QStringLiteral("targetDonut_%1.png").arg(number), ring);
         add(kRoot + QStringLiteral("targetDonutOver_%1.png").arg(number), ring);
     }
