@@ -307,6 +307,7 @@ void MgDonutDialogManager::sortByKey(int column)
 
 void MgDonutDialogManager::takeBack()
 {
+    m_robbedNotice->hide();
     if (model->takeBack())
         nameHolders();
 }
@@ -314,6 +315,7 @@ void MgDonutDialogManager::takeBack()
 void MgDonutDialogManager::directionAssigned(int row, int robbedRow)
 {
     nameHolders();
+    m_robbedNotice->hide();
     if (robbedRow >= 0)
         showRobbed(row, model->getCommandDisplayName(robbedRow));
 }
