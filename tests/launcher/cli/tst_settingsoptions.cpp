@@ -329,7 +329,8 @@ private:
         if (process.waitForFinished() && process.exitStatus() == QProcess::NormalExit)
             outcome.status = process.exitCode();
         outcome.output = process.readAllStandardOutput();
-        outcome.errors = process.readAllStandardError();
+        if (!isMerged)
+            outcome.errors = process.readAllStandardError();
         return outcome;
     }
 
