@@ -23,14 +23,17 @@ namespace {
 
 // Each kind of sign outweighs all those after it together. The menu tells "Insert > Text" from
 // "Convert to > Text"; alone it says nothing.
-constexpr int kShortcutWeight = 16;
-constexpr int kIconWeight = 8;
-constexpr int kNameWeight = 4;
-constexpr int kCaptionWeight = 2;
+constexpr int kShortcutWeight = 32;
+constexpr int kIconWeight = 16;
+constexpr int kNameWeight = 8;
+constexpr int kCaptionWeight = 4;
 constexpr int kMenuWeight = 1;
 // Of a file command's shortcut in another menu than the first: some program runs something
 // else by it.
 constexpr int kDoubtfulWeight = 1;
+// Of a shortcut or icon where caption and object name say it only in part: "Save All" may have
+// Ctrl+S beside "Save".
+constexpr int kPartlyWeight = 1;
 
 using Words = QSet<QString>;
 
@@ -202,7 +205,7 @@ QVector<Signs> makeSigns()
                 sign.mentions.insert(words);
         }
         if (sign.menuRoles == kViewRole)
-            sign.mentions |= sign.menus; // "Zoom ..." with the icon for it
+            sign.mentions.insert(QStringLiteral("zoom"));
     }
     return signs;
 }
@@ -414,9 +417,11 @@ WellKnownGuess judge(const Signs &signs, const Look &look)
         guess.weight += weight;
         reasons.append(QStringLiteral("%1 \"%2\"").arg(kind, what));
     };
-    weigh(!has.shortcut.isEmpty(), has.isDoubtful ? kDoubtfulWeight : kShortcutWeight,
+    const bool isPartly = !has.hasName && !has.hasCaption && (has.shortcut.isEmpty() || !has.hasIcon);
+    const auto weightOf = [isPartly](int weight) { return isPartly ? kPartlyWeight : weight; };
+    weigh(!has.shortcut.isEmpty(), has.isDoubtful ? kDoubtfulWeight : weightOf(kShortcutWeight),
           QStringLiteral("shortcut"), has.shortcut);
-    weigh(has.hasIcon, kIconWeight, QStringLiteral("icon"), look.icon);
+    weigh(has.hasIcon, weightOf(kIconWeight), QStringLiteral("icon"), look.icon);
     weigh(has.hasName, kNameWeight, QStringLiteral("object name"), look.name);
     weigh(has.hasCaption, kCaptionWeight, QStringLiteral("caption"), look.caption);
     if (has.isInMenu)
