@@ -183,7 +183,7 @@ QVector<Signs> makeSigns()
         {"ID_ZOOM_BOUNDS",
          QT_TRANSLATE_NOOP("host", "Zoom to Fit"),
          QKeySequence::UnknownKey,
-         list("zoom-fit-best|zoom-fit|zoom-fit-page|page-zoom"),
+         list("zoom-fit-best|zoom-fit|zoom-fit-page"),
          kViewRole,
          {},
          {},
@@ -388,14 +388,15 @@ struct Signals
 // which another speaks.
 bool isConvincing(const Signs &signs, const Signals &has, const Look &look)
 {
-    // What stays switched on is a mode. Only tools and "keep it fitting" are such.
     const bool isTool = signs.shortcut == QKeySequence::UnknownKey;
-    if (look.isCheckable && (!isTool || (signs.menuRoles == kViewRole && !has.hasIcon)))
-        return false;
     const bool isSaid = has.hasName || has.hasCaption;
+    // What stays switched on is a mode. Only tools and "keep it fitted" are such.
+    const bool isZoom = signs.menuRoles == kViewRole;
+    if (look.isCheckable && (!isTool || (isZoom && !(has.hasIcon && isSaid))))
+        return false;
     if (!has.shortcut.isEmpty() && (has.hasCaption || !has.isDoubtful) && (isSaid || has.isMentioned))
         return true;
-    if (has.isElsewhere && signs.menuRoles != kViewRole)
+    if (has.isElsewhere && !isZoom)
         return false;
     // Of a button that is in no menu, "Save" may mean anything, and the command comes later.
     if (look.isButtonOnly && !isTool && !has.hasName && !has.hasIcon)

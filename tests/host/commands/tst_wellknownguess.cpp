@@ -365,8 +365,11 @@ void WellKnownGuessTest::aModeIsNoCommand()
     all->setCheckable(true);
     zoom->addAction(all);
     QVERIFY(WellKnownGuess::among(actions()).isEmpty());
-    // The icon tells that it keeps the drawing fitted.
+    // The icon tells that it keeps the drawing fitted, but not alone.
     all->setIcon(QIcon::fromTheme(QStringLiteral("zoom-fit-best")));
+    QAction *select = add(QString(), QStringLiteral("Select and Zoom"), QStringLiteral("zoom-fit-best"));
+    select->setCheckable(true);
+    QVERIFY(WellKnownGuess::among({select}).isEmpty());
     QCOMPARE(WellKnownGuess::among(actions()).value(0).action, all);
 }
 
