@@ -6,7 +6,7 @@
 #include <map>
 #include <utility>
 
-// What the donut shows, by direction: sectors counter-clockwise from the top, from 0. Both
+// What the donut shows, by direction: sectors counter-clockwise from the top, from 0. The
 // maps hold every direction below sectorCount.
 struct DonutHelperData
 {
@@ -17,4 +17,6 @@ struct DonutHelperData
     int sectorCount = 0; // 4 or 8
     std::map<int, std::pair<int, QVariant>> sectorVisuals;
     std::map<int, QString> sectorTooltips;
+    // The captions of the commands, also of those that show an icon; empty when unbound.
+    std::map<int, QString> sectorNames;
 };

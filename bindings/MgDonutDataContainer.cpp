@@ -1,6 +1,7 @@
 #include "bindings/MgDonutDataContainer.h"
 
 #include "bindings/MgDonutSettings.h"
+#include "bindings/SameText.h"
 #include "bindings/SettingsKeys.h"
 #include "sdk/chx/CHxSystemServices.h"
 #include "sdk/chx/CHxUICommandItem.h"
@@ -8,7 +9,38 @@
 
 #include <algorithm>
 #include <array>
+#include <stdexcept>
+#include <tuple>
 #include <utility>
+
+namespace {
+
+// The value of a key that exists. Throws when the store does not hand it out: it may be a
+// binding, and what is missing would be replaced.
+QString storedValue(const QString &key)
+{
+    // Reading leaves the value as it is when nothing is handed out: this very string.
+    const QString nothing = QStringLiteral("nothing");
+    QString value = nothing;
+    if (!MgDonutSettings::instance()->read(key, value))
+        return {};
+    if (value.constData() == nothing.constData())
+        throw std::runtime_error("the profile store keeps a value back");
+    return value;
+}
+
+// One setting that is one of two strings; what is missing or neither becomes `initial`.
+QString readChoice(const QString &key, const QString &initial, const QString &other)
+{
+    MgDonutSettings *settings = MgDonutSettings::instance();
+    const QString value = settings->keyExists(key) ? storedValue(key) : QString();
+    if (value == initial || value == other)
+        return value;
+    settings->write(key, initial);
+    return initial;
+}
+
+} // namespace
 
 MgDonutDataContainer *MgDonutDataContainer::_pinstance = nullptr;
 
@@ -58,6 +90,7 @@ DonutHelperData MgDonutDataContainer::getDonutHelperData()
             visual.second = record->displayName;
         data.sectorVisuals.insert({direction, visual});
         data.sectorTooltips.insert({direction, record ? record->tooltip : QString()});
+        data.sectorNames.insert({direction, record ? record->displayName : QString()});
         ++direction;
     }
     return data;
@@ -65,90 +98,153 @@ DonutHelperData MgDonutDataContainer::getDonutHelperData()
 
 void MgDonutDataContainer::init()
 {
-    commands.clear();
-    categoryMap = {};
+    std::vector<MgCommandDS> last = std::exchange(commands, {});
+    const auto lastCategories = std::exchange(categoryMap, {});
+    const auto lastState = std::make_tuple(fourTable, eightTable, gestureEnabled, scheme, largeIcons);
+
+    m_readingFailed = false;
+    const QString others = QObject::tr("Others");
+    m_categoriesHold = m_categoriesHold && others == m_others;
+    m_others = others;
     fillCommandCategoryMap();
-    readCommands();
+    std::vector<std::size_t> bound;
+    m_isListAsBefore = false;
+    attempt([&] { readCommands(last, bound); });
+
+    std::vector<MgCommandDS> boundRecords;
+    if (m_isListAsBefore) {
+        commands.swap(last);
+        for (const std::size_t place : bound) {
+            boundRecords.push_back(commands[place]);
+            commands[place].fourDirection = 0;
+            commands[place].eightDirection = 0;
+        }
+    } else {
+        m_places.clear();
+    }
     applyCommonSettings();
     applyFourSettings();
     applyEightSettings();
+    m_categoriesHold = !m_readingFailed;
+    if (!m_readingFailed)
+        return;
+
+    if (m_isListAsBefore) {
+        last.swap(commands);
+        for (std::size_t number = 0; number < bound.size(); ++number)
+            last[bound[number]] = boundRecords[number];
+    }
+    // The places are those of a list that is given up.
+    m_places.clear();
+    m_categoryWalk.forget();
+    commands = std::move(last);
+    categoryMap = lastCategories;
+    std::tie(fourTable, eightTable, gestureEnabled, scheme, largeIcons) = lastState;
 }
 
-void MgDonutDataContainer::readCommands()
+void MgDonutDataContainer::readCommands(const std::vector<MgCommandDS> &last,
+                                        std::vector<std::size_t> &bound)
 {
     CHxSystemServices *services = GetHxSystemServices();
-    if (!services)
-        return;
-    largeIcons = services->UsesLargeIcons();
-
-    CHxUICommandManager *manager = services->GetUICommandManager();
+    if (services)
+        largeIcons = services->UsesLargeIcons();
+    CHxUICommandManager *manager = services ? services->GetUICommandManager() : nullptr;
     const auto group = manager ? manager->NewGroupIterator() : nullptr;
-    if (!group)
-        return;
 
     std::vector<MgCommandDS> found;
-    for (; !group->Done(); group->Next()) {
+    std::size_t holding = 0; // so many of the last records still hold, as long as nothing is new
+    bool isNew = false;
+    const auto leaveTheLast = [&] {
+        if (isNew)
+            return;
+        isNew = true;
+        found.reserve(last.size() + 1);
+        found.assign(last.begin(), last.begin() + static_cast<std::ptrdiff_t>(holding));
+        for (MgCommandDS &record : found)
+            record.fourDirection = record.eightDirection = 0;
+    };
+    const auto read = [&](const CHxUICommandItem &item) {
+        const CHxString commandString = item.GetCommandString();
+        const QString &command = commandString.toQString();
+        if (command.isEmpty())
+            return;
+        if (!isNew && holding < last.size()) {
+            const MgCommandDS &record = last[holding];
+            if (isSameText(record.command, command)
+                && isSameText(record.id, item.GetIdentifier().toQString())
+                && isSameText(record.displayName, item.GetCaption().toQString())
+                && isSameText(record.tooltip, item.GetTip().toQString())
+                && record.icon.cacheKey() == iconOf(item).cacheKey()
+                && (m_categoriesHold || isSameText(record.category, getCategory(command)))) {
+                if (record.fourDirection != 0 || record.eightDirection != 0)
+                    bound.push_back(holding);
+                ++holding;
+                return;
+            }
+        }
+        leaveTheLast();
+        // Not looked for in `found`: a command of two groups makes two records.
+        found.emplace_back(item.GetIdentifier().toQString(), command, item.GetCaption().toQString(),
+                           getCategory(command), item.GetTip().toQString(), iconOf(item), 0, 0);
+    };
+
+    for (; group && !group->Done(); group->Next()) {
         CHxUICommandGroup *current = group->Current();
         if (!current)
             continue;
         // Part of every walk over the groups, though a group's name decides nothing here.
         static_cast<void>(current->GetName());
         const auto command = current->NewCommandIterator();
-        if (!command)
-            continue;
-        for (; !command->Done(); command->Next()) {
-            const CHxUICommandItem *item = command->Current();
-            if (!item)
-                continue;
-            const QString commandString = item->GetCommandString().toQString();
-            if (commandString.isEmpty())
-                continue;
-            // Not looked for in `found`: a command of two groups makes two records.
-            found.emplace_back(item->GetIdentifier().toQString(), commandString,
-                               item->GetCaption().toQString(), getCategory(commandString),
-                               item->GetTip().toQString(),
-                               largeIcons ? item->GetLargeIcon() : item->GetSmallIcon(), 0, 0);
+        for (; command && !command->Done(); command->Next()) {
+            if (const CHxUICommandItem *item = command->Current())
+                read(*item);
         }
     }
+    if (holding < last.size())
+        leaveTheLast();
+    m_isListAsBefore = !isNew;
     commands = std::move(found);
+}
+
+QIcon MgDonutDataContainer::iconOf(const CHxUICommandItem &item) const
+{
+    return largeIcons ? item.GetLargeIcon() : item.GetSmallIcon();
+}
+
+int MgDonutDataContainer::placeOf(const QString &id)
+{
+    const auto known = m_places.constFind(id);
+    if (known != m_places.constEnd())
+        return known.value();
+    const auto record = std::find(commands.begin(), commands.end(), id);
+    const int place = record == commands.end() ? -1 : static_cast<int>(record - commands.begin());
+    m_places.insert(id, place);
+    return place;
 }
 
 void MgDonutDataContainer::applyCommonSettings()
 {
-    MgDonutSettings *settings = MgDonutSettings::instance();
-
-    // One setting that is one of two strings; what is missing or neither becomes `initial`.
-    const auto readChoice = [settings](const QString &key, const QString &initial,
-                                       const QString &other) {
-        QString value;
-        if (settings->keyExists(key)) {
-            settings->read(key, value);
-            if (value == initial || value == other)
-                return value;
-        }
-        settings->write(key, initial);
-        return initial;
-    };
-
-    const QString on = QStringLiteral("1");
-    gestureEnabled = readChoice(settingskeys::enableMouseGesture(), on, QStringLiteral("0")) == on;
-    const QString eight = QStringLiteral("8");
-    scheme = readChoice(settingskeys::activeScheme(), eight, QStringLiteral("4")) == eight
-               ? DonutScheme::Eight
-               : DonutScheme::Four;
+    attempt([this] {
+        const QString on = QStringLiteral("1");
+        gestureEnabled = readChoice(settingskeys::enableMouseGesture(), on, QStringLiteral("0")) == on;
+        const QString eight = QStringLiteral("8");
+        scheme = readChoice(settingskeys::activeScheme(), eight, QStringLiteral("4")) == eight
+                   ? DonutScheme::Eight
+                   : DonutScheme::Four;
+    });
 }
 
 void MgDonutDataContainer::applyFourSettings()
 {
-    applyDirections(DonutScheme::Four);
+    attempt([this] { readDirections(DonutScheme::Four); });
 }
 
 void MgDonutDataContainer::applyEightSettings()
 {
-    applyDirections(DonutScheme::Eight);
+    attempt([this] { readDirections(DonutScheme::Eight); });
 }
 
-void MgDonutDataContainer::applyDirections(DonutScheme directionScheme)
+void MgDonutDataContainer::readDirections(DonutScheme directionScheme)
 {
     const bool four = directionScheme == DonutScheme::Four;
     std::vector<int> &table = four ? fourTable : eightTable;
@@ -162,19 +258,17 @@ void MgDonutDataContainer::applyDirections(DonutScheme directionScheme)
         if (untouched)
             id = settingskeys::initialValue(key);
         else if (settings->keyExists(key))
-            settings->read(key, id);
+            id = storedValue(key);
 
         // An empty value is an unbound direction, even if the host has a command without an
         // identifier.
-        const auto record =
-            id.isEmpty() ? commands.end() : std::find(commands.begin(), commands.end(), id);
-        if (record == commands.end()) {
-            table[number - 1] = -1;
+        const int place = id.isEmpty() ? -1 : placeOf(id);
+        table[number - 1] = place;
+        if (place < 0) {
             settings->write(key, QLatin1String(""));
         } else {
-            (*record).*directionByte = static_cast<unsigned char>(number);
-            table[number - 1] = static_cast<int>(record - commands.begin());
-            settings->write(key, record->id);
+            commands[place].*directionByte = static_cast<unsigned char>(number);
+            settings->write(key, commands[place].id);
         }
     }
 }
@@ -182,6 +276,8 @@ void MgDonutDataContainer::applyDirections(DonutScheme directionScheme)
 void MgDonutDataContainer::update(const std::vector<MgCommandDS> &records, bool enabled,
                                   DonutScheme activeScheme)
 {
+    if (m_readingFailed)
+        return;
     MgDonutSettings *settings = MgDonutSettings::instance();
     std::array<bool, settingskeys::kFourCount> fourUsed{};
     std::array<bool, settingskeys::kEightCount> eightUsed{};
@@ -214,6 +310,9 @@ void MgDonutDataContainer::update(const std::vector<MgCommandDS> &records, bool 
     unbindUnused(DonutScheme::Eight, eightTable, eightUsed);
 
     commands = records;
+    // They may be of before the last reading.
+    m_categoriesHold = false;
+    m_places.clear();
     gestureEnabled = enabled;
     settings->write(settingskeys::enableMouseGesture(),
                     enabled ? QStringLiteral("1") : QStringLiteral("0"));

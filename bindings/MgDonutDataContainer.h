@@ -1,15 +1,21 @@
 #pragma once
 
+#include "bindings/CategoryWalk.h"
 #include "bindings/DonutHelperData.h"
 #include "bindings/DonutScheme.h"
+#include "bindings/HostCall.h"
 #include "bindings/MgCommandDS.h"
 
+#include <QHash>
 #include <QMap>
 #include <QString>
 #include <QtGlobal>
 
+#include <cstddef>
+#include <utility>
 #include <vector>
 
+class CHxUICommandItem;
 class CHxUIMenuItemCollection;
 
 // The process's one set of gesture bindings: every command that the host offers, which of
@@ -41,8 +47,12 @@ public:
     // host and the settings hold now.
     [[nodiscard]] DonutHelperData getDonutHelperData();
 
-    // Reads the host's commands and all settings anew.
+    // Reads the host's commands and all settings anew. When the host throws in the middle, or
+    // does not hand out a value that it has, the reading has failed: everything stays as it was
+    // read last, and nothing is written until a reading succeeds.
     void init();
+    // Whether the last reading failed; see init().
+    [[nodiscard]] bool hasReadingFailed() const { return m_readingFailed; }
     // The enable flag and the scheme from the settings; what is missing or malformed is
     // written anew.
     void applyCommonSettings();
@@ -54,6 +64,7 @@ public:
     // Takes over and keeps the bindings that `records` hold in their direction bytes. When
     // two records name one direction the later one gets it, and the earlier keeps its byte
     // until the next init(). A byte above the scheme's last direction binds nothing.
+    // Does nothing after a failed reading: what could not be read would be erased.
     void update(const std::vector<MgCommandDS> &records, bool enabled, DonutScheme activeScheme);
     // Writes the factory defaults and reads them back.
     void applyDefaultSettings();
@@ -89,12 +100,35 @@ protected:
     static MgDonutDataContainer *_pinstance;
 
 private:
-    void readCommands();
-    void applyDirections(DonutScheme directionScheme);
+    // Makes host calls as a part of a reading; none after the first that failed.
+    template <class Call> void attempt(Call &&call)
+    {
+        m_readingFailed = m_readingFailed || !hostCall(std::forward<Call>(call));
+    }
+    // Makes `commands` of what the host offers, unless that is what `last` holds already: then
+    // m_isListAsBefore is set and `commands` stays empty. `bound` receives the places of the
+    // records of `last` that have a direction, as far as they hold.
+    void readCommands(const std::vector<MgCommandDS> &last, std::vector<std::size_t> &bound);
+    [[nodiscard]] QIcon iconOf(const CHxUICommandItem &item) const;
+    // The place of the first record with an identifier; -1 for none.
+    [[nodiscard]] int placeOf(const QString &id);
+    void readDirections(DonutScheme directionScheme);
+    void fileAllCommands();
+    void fileCommands(const QString &parentCategory, CHxUIMenuItemCollection *items);
+    void fileCommand(const QString &command, const QString &category);
     [[nodiscard]] const std::vector<int> &activeTable() const;
     // Null for a place where no record is.
     [[nodiscard]] const MgCommandDS *recordAt(int place) const;
 
-    // The collections that fcParseRecursive() is inside of, outermost first.
+    bool m_readingFailed = false;
+    CategoryWalk m_categoryWalk;
+    bool m_isWalking = false; // through all menus, by fillCommandCategoryMap()
+    // Whether the records have the categories of the last walk, with this word for "Others".
+    bool m_categoriesHold = false;
+    QString m_others;
+    bool m_isListAsBefore = false;
+    // The places of identifiers that were looked for in the list as it is.
+    QHash<QString, int> m_places;
+    // The collections that fileCommands() is inside of, outermost first.
     std::vector<const CHxUIMenuItemCollection *> m_openMenus;
 };

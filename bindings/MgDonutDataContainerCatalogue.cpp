@@ -15,6 +15,22 @@
 
 void MgDonutDataContainer::fillCommandCategoryMap()
 {
+    m_categoryWalk.begin();
+    m_isWalking = true;
+    attempt([this] { fileAllCommands(); });
+    m_isWalking = false;
+    categoryMap = m_categoryWalk.end();
+    m_categoriesHold = m_categoriesHold && m_categoryWalk.isAsBefore();
+}
+
+void MgDonutDataContainer::fcParseRecursive(const QString &parentCategory,
+                                            CHxUIMenuItemCollection *items)
+{
+    attempt([&] { fileCommands(parentCategory, items); });
+}
+
+void MgDonutDataContainer::fileAllCommands()
+{
     CHxSystemServices *services = GetHxSystemServices();
     CHxUIManager *manager = services ? services->GetUIManager() : nullptr;
     if (!manager)
@@ -25,12 +41,11 @@ void MgDonutDataContainer::fillCommandCategoryMap()
         return;
     for (; !menu->Done(); menu->Next()) {
         if (CHxUIMenu *current = menu->Current())
-            fcParseRecursive({}, current->GetItems());
+            fileCommands({}, current->GetItems());
     }
 }
 
-void MgDonutDataContainer::fcParseRecursive(const QString &parentCategory,
-                                            CHxUIMenuItemCollection *items)
+void MgDonutDataContainer::fileCommands(const QString &parentCategory, CHxUIMenuItemCollection *items)
 {
     if (!items)
         return;
@@ -40,17 +55,29 @@ void MgDonutDataContainer::fcParseRecursive(const QString &parentCategory,
 
     m_openMenus.push_back(items);
     const auto close = qScopeGuard([this] { m_openMenus.pop_back(); });
+    QString category = parentCategory;
+    category.remove(QLatin1Char('&'));
     // Reading an entry may change the menu that it is in: the count is asked for every time.
     for (int i = 0; i < items->GetCount(); ++i) {
         const CHxUIMenuItem *item = items->GetItem(i);
         if (!item)
             continue;
-        QString category = parentCategory.isEmpty() ? item->GetText().toQString() : parentCategory;
-        category.remove(QLatin1Char('&'));
+        if (parentCategory.isEmpty()) {
+            category = item->GetText().toQString();
+            category.remove(QLatin1Char('&'));
+        }
         if (const CHxUICommandItem *command = item->GetCommandItem())
-            categoryMap.insert(command->GetCommandString().toQString(), category);
-        fcParseRecursive(category, item->GetSubItems());
+            fileCommand(command->GetCommandString().toQString(), category);
+        fileCommands(category, item->GetSubItems());
     }
+}
+
+void MgDonutDataContainer::fileCommand(const QString &command, const QString &category)
+{
+    if (m_isWalking)
+        m_categoryWalk.file(command, category);
+    else
+        categoryMap.insert(command, category);
 }
 
 QString MgDonutDataContainer::getCategory(const QString &command) const

@@ -1,5 +1,6 @@
 #include "bindings/MgDonutSettings.h"
 
+#include "bindings/HostCall.h"
 #include "bindings/SettingsKeys.h"
 #include "sdk/chx/CHxProfileStore.h"
 #include "sdk/chx/CHxSystemServices.h"
@@ -9,9 +10,10 @@
 
 namespace {
 
-CHxString section()
+const CHxString &section()
 {
-    return CHxString("GestureWidget");
+    static const CHxString name("GestureWidget");
+    return name;
 }
 
 // Null when there is nowhere to keep anything.
@@ -62,10 +64,12 @@ QString MgDonutSettings::getInitialValue(const QString &key) const
 
 bool MgDonutSettings::write(const QString &key, const QString &value)
 {
-    if (CHxProfileStore *store = profileStore()) {
-        const OdResBufPtr buffer = OdResBuf::newString(OdString(value));
-        store->Set(section(), key, buffer.get());
-    }
+    hostCall([&] {
+        if (CHxProfileStore *store = profileStore()) {
+            const OdResBufPtr buffer = OdResBuf::newString(OdString(value));
+            store->Set(section(), key, buffer.get());
+        }
+    });
     return true;
 }
 
@@ -104,8 +108,11 @@ bool MgDonutSettings::keyExists(const QString &key) const
 
 void MgDonutSettings::deleteAllKeys()
 {
-    if (CHxSystemServices *services = GetHxSystemServices())
-        OlderSettings(*services).clear();
+    // First of all: what is left there would come back for a key that cannot be written.
+    hostCall([] {
+        if (CHxSystemServices *services = GetHxSystemServices())
+            OlderSettings(*services).clear();
+    });
 
     const auto writeInitialValue = [this](const QString &key) { write(key, getInitialValue(key)); };
     writeInitialValue(settingskeys::enableMouseGesture());

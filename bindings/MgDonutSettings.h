@@ -7,6 +7,9 @@
 // "GestureWidget" of the host's profile store. Programs of older days kept them in
 // QSettings; what is found only there is copied over the first time it is read.
 //
+// Writing ends what the host throws. Reading and asking for keys pass it on: whoever takes a
+// value that could not be read for a missing one would write over it.
+//
 // Without a profile store all of this does nothing: writes vanish, no key exists and reading
 // leaves the value as it was.
 class MgDonutSettings

@@ -38,11 +38,24 @@ QTextCharFormat charFormat(const QVariant &font, const QVariant &foreground)
     return format;
 }
 
-void setBackground(QTextTableCell cell, const QColor &color)
+// Gives a cell its background and puts what it holds in the middle of its row.
+void setUpCell(QTextTableCell cell, const QColor &background)
 {
     QTextCharFormat format = cell.format();
-    format.setBackground(color);
+    format.setBackground(background);
+    format.setVerticalAlignment(QTextCharFormat::AlignMiddle);
     cell.setFormat(format);
+}
+
+// In the middle of the line, beside the text.
+void insertImage(QTextCursor cursor, const QImage &image)
+{
+    const int start = cursor.position();
+    cursor.insertImage(image);
+    cursor.setPosition(start, QTextCursor::KeepAnchor);
+    QTextCharFormat format;
+    format.setVerticalAlignment(QTextCharFormat::AlignMiddle);
+    cursor.mergeCharFormat(format);
 }
 
 // Always of the full size; an icon that only has smaller pictures sits in its middle.
@@ -60,7 +73,7 @@ void fillHeader(const QAbstractItemModel &model, int column, const QTextTableCel
     const auto header = [&model, column](int role) {
         return model.headerData(column, Qt::Horizontal, role);
     };
-    setBackground(cell, QColor(QStringLiteral("#dfdfdf")));
+    setUpCell(cell, QColor(QStringLiteral("#dfdfdf")));
     cell.firstCursorPosition().insertText(header(Qt::DisplayRole).toString(),
                                           charFormat(header(Qt::FontRole), header(Qt::ForegroundRole)));
 }
@@ -69,9 +82,9 @@ void fillCell(const QModelIndex &index, const QTextTableCell &cell)
 {
     const bool odd = index.row() % 2 != 0;
     const QColor background = colorOf(index.data(Qt::BackgroundRole));
-    setBackground(cell, background.isValid()
-                            ? background
-                            : QColor(odd ? QStringLiteral("#e1e1e1") : QStringLiteral("#ffffff")));
+    setUpCell(cell, background.isValid()
+                        ? background
+                        : QColor(odd ? QStringLiteral("#e1e1e1") : QStringLiteral("#ffffff")));
 
     QString text = index.data(Qt::DisplayRole).toString();
     QTextBlockFormat block;
@@ -89,7 +102,7 @@ void fillCell(const QModelIndex &index, const QTextTableCell &cell)
 
     const auto icon = index.data(Qt::DecorationRole).value<QIcon>();
     if (!icon.isNull()) {
-        cursor.insertImage(render(icon));
+        insertImage(cursor, render(icon));
         cursor = cell.lastCursorPosition();
         // Keeps the text clear of the image.
         text.prepend(QLatin1String("  "));

@@ -70,25 +70,54 @@ bool MgCommandDSModel::setData(const QModelIndex &index, const QVariant &value, 
     MgCommandDS &record = records[index.row()];
     const auto direction = static_cast<unsigned char>(value.toInt());
     const bool changed = direction != getInvokerType(index.row());
-    if (manager->getScheme() == MgDonutDialogManager::Four)
-        assignInFourScheme(record, direction);
+    const bool four = manager->getScheme() == MgDonutDialogManager::Four;
+    const int holderRow = findHolder(four, direction);
+    MgCommandDS *holder = holderRow >= 0 ? &records[holderRow] : nullptr;
+
+    std::vector<Bytes> before{bytesOf(record)};
+    if (holder && holder != &record)
+        before.push_back(bytesOf(*holder));
+    if (four)
+        assignInFourScheme(record, holder, direction);
     else
-        assignInEightScheme(record, direction);
+        assignInEightScheme(record, holder, direction);
+    const auto isUnchanged = [this](const Bytes &bytes) {
+        const MgCommandDS &now = records[bytes.row];
+        return now.fourDirection == bytes.four && now.eightDirection == bytes.eight;
+    };
+    before.erase(std::remove_if(before.begin(), before.end(), isUnchanged), before.end());
+    const bool robbed = !before.empty() && before.back().row != index.row();
+    const int robbedRow = robbed ? before.back().row : -1;
+    if (!before.empty())
+        m_changes.push_back(std::move(before));
+
     if (changed)
         manager->enableReset();
+    manager->directionAssigned(index.row(), robbedRow);
     return true;
 }
 
-// The two schemes are linked, and on purpose not in the same way in both directions. The
-// search for the record that has the direction also runs for "none": in the four scheme it
-// then clears the eight direction of the first record without a four direction. All of this
-// is meant.
-void MgCommandDSModel::assignInFourScheme(MgCommandDS &record, unsigned char direction)
+int MgCommandDSModel::findHolder(bool inFourScheme, unsigned char direction) const
 {
-    const auto holder = std::find_if(records.begin(), records.end(), [direction](const auto &other) {
-        return other.fourDirection == direction;
+    const auto byte = inFourScheme ? &MgCommandDS::fourDirection : &MgCommandDS::eightDirection;
+    const auto found = std::find_if(records.begin(), records.end(), [=](const MgCommandDS &record) {
+        return record.*byte == direction;
     });
-    if (holder != records.end()) {
+    return found == records.end() ? -1 : static_cast<int>(found - records.begin());
+}
+
+MgCommandDSModel::Bytes MgCommandDSModel::bytesOf(const MgCommandDS &record) const
+{
+    return {static_cast<int>(&record - records.data()), record.fourDirection, record.eightDirection};
+}
+
+// The two schemes are linked, and on purpose not in the same way in both directions. The
+// holder is also looked for when the direction is "none": in the four scheme the first record
+// without a four direction then loses its eight direction. All of this is meant.
+void MgCommandDSModel::assignInFourScheme(MgCommandDS &record, MgCommandDS *holder,
+                                          unsigned char direction)
+{
+    if (holder) {
         holder->fourDirection = 0;
         holder->eightDirection = 0;
     }
@@ -96,15 +125,13 @@ void MgCommandDSModel::assignInFourScheme(MgCommandDS &record, unsigned char dir
     record.eightDirection = static_cast<unsigned char>(direction == 0 ? 0 : 2 * direction - 1);
 }
 
-// Odd directions are those that the four scheme has as well. A diagonal leaves the four
-// directions of both records alone, so that two records may come to share one.
-void MgCommandDSModel::assignInEightScheme(MgCommandDS &record, unsigned char direction)
+// The four scheme has the odd directions as well. A diagonal leaves the four directions of
+// both records alone, so that two records may come to share one.
+void MgCommandDSModel::assignInEightScheme(MgCommandDS &record, MgCommandDS *holder,
+                                           unsigned char direction)
 {
     const bool diagonal = direction != 0 && direction % 2 == 0;
-    const auto holder = std::find_if(records.begin(), records.end(), [direction](const auto &other) {
-        return other.eightDirection == direction;
-    });
-    if (holder != records.end()) {
+    if (holder) {
         holder->eightDirection = 0;
         if (direction % 2 != 0)
             holder->fourDirection = 0;
@@ -112,6 +139,23 @@ void MgCommandDSModel::assignInEightScheme(MgCommandDS &record, unsigned char di
     record.eightDirection = direction;
     if (!diagonal)
         record.fourDirection = static_cast<unsigned char>(direction == 0 ? 0 : (direction + 1) / 2);
+}
+
+bool MgCommandDSModel::takeBack()
+{
+    if (m_changes.empty())
+        return false;
+    const std::vector<Bytes> change = std::move(m_changes.back());
+    m_changes.pop_back();
+    for (const Bytes &bytes : change) {
+        records[bytes.row].fourDirection = bytes.four;
+        records[bytes.row].eightDirection = bytes.eight;
+    }
+    for (const Bytes &bytes : change) {
+        const QModelIndex cell = index(bytes.row, kDirectionColumn);
+        Q_EMIT dataChanged(cell, cell);
+    }
+    return true;
 }
 
 QVariant MgCommandDSModel::headerData(int section, Qt::Orientation orientation, int role) const
@@ -169,6 +213,21 @@ QString MgCommandDSModel::getDirectionName(int row) const
     return manager ? manager->getDirectionName(getInvokerType(row)) : QString();
 }
 
+QString MgCommandDSModel::getHolderNames(unsigned char direction) const
+{
+    const MgDonutDialogManager *manager = dialogManager();
+    if (!manager || direction == 0)
+        return {};
+    const bool four = manager->getScheme() == MgDonutDialogManager::Four;
+    const auto byte = four ? &MgCommandDS::fourDirection : &MgCommandDS::eightDirection;
+    QStringList names;
+    for (const MgCommandDS &record : records) {
+        if (record.*byte == direction)
+            names.append(record.displayName);
+    }
+    return names.join(QLatin1String(", "));
+}
+
 bool MgCommandDSModel::checkFilterCondition(const QString &displayName, const QString &category,
                                             unsigned char direction) const
 {
@@ -188,6 +247,7 @@ void MgCommandDSModel::resetToDefault()
 {
     beginResetModel();
     records = MgDonutDataContainer::instance()->getCommandsDS();
+    m_changes.clear();
     endResetModel();
 }
 

@@ -47,7 +47,7 @@ public:
     [[nodiscard]] QString getCommandDisplayName(int row) const;
     [[nodiscard]] QString getCategory(int row) const;
     [[nodiscard]] unsigned char getInvokerType(int row) const;
-    // The current direction in words, for screen readers; empty for none.
+    // The current direction in words, for screen readers; "None" for none.
     [[nodiscard]] QString getDirectionName(int row) const;
 
     // Whether a row with these values passes the dialog's filter controls as they are now.
@@ -56,6 +56,14 @@ public:
 
     // The record of a row, until the records change; null for a row that does not exist.
     [[nodiscard]] const MgCommandDS *recordAt(int row) const;
+    // The name of the command that has a direction in the scheme shown; empty for none. Several
+    // names, with commas, where commands have come to share one.
+    [[nodiscard]] QString getHolderNames(unsigned char direction) const;
+
+    // Takes the last change of setData() back, and with each further call the one before it.
+    // False when there is none. Unlike setData() it emits dataChanged().
+    bool takeBack();
+
     // A copy of all records.
     [[nodiscard]] std::vector<MgCommandDS> getCommands() const { return records; }
     // Reads the records from the container again.
@@ -71,6 +79,19 @@ protected:
 private:
     // Null when the dialog is not one that this model can work for.
     [[nodiscard]] MgDonutDialogManager *dialogManager() const;
-    void assignInFourScheme(MgCommandDS &record, unsigned char direction);
-    void assignInEightScheme(MgCommandDS &record, unsigned char direction);
+    // The first row that has a direction in one scheme; -1 for none.
+    [[nodiscard]] int findHolder(bool inFourScheme, unsigned char direction) const;
+    static void assignInFourScheme(MgCommandDS &record, MgCommandDS *holder, unsigned char direction);
+    static void assignInEightScheme(MgCommandDS &record, MgCommandDS *holder, unsigned char direction);
+
+    // What a record's direction bytes were before a change.
+    struct Bytes
+    {
+        int row;
+        unsigned char four;
+        unsigned char eight;
+    };
+    [[nodiscard]] Bytes bytesOf(const MgCommandDS &record) const;
+    // By change, oldest first: the bytes of the one or two records that it changed.
+    std::vector<std::vector<Bytes>> m_changes;
 };

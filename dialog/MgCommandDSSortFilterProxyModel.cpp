@@ -37,6 +37,9 @@ QVariant MgCommandDSSortFilterProxyModel::data(const QModelIndex &index, int rol
         if (const auto *commands = qobject_cast<const MgCommandDSModel *>(sourceModel()))
             return commands->getDirectionName(mapToSource(index).row());
     }
+    // The source model has no tooltips. The delegate shows this one where the text is elided.
+    if (role == Qt::ToolTipRole && index.column() != MgCommandDSModel::kDirectionColumn)
+        return QSortFilterProxyModel::data(index, Qt::DisplayRole);
     return QSortFilterProxyModel::data(index, role);
 }
 

@@ -19,7 +19,8 @@ public:
     // before. A column below 0 gives that order back.
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
 
-    // As the source model, and for screen readers the direction in words.
+    // As the source model, and besides the direction in words for screen readers and each text
+    // as its own tooltip.
     [[nodiscard]] QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
 
 protected:

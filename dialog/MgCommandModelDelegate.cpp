@@ -1,9 +1,21 @@
 #include "dialog/MgCommandModelDelegate.h"
 
+#include "dialog/DirectionBox.h"
 #include "dialog/MgCommandDSModel.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QPainter>
 #include <QStandardItemModel>
+#include <QToolTip>
+
+namespace {
+
+constexpr int kCurrentCellLine = 2; // pixels, below the current cell
+
+} // namespace
 
 MgCommandModelDelegate::MgCommandModelDelegate(QStandardItemModel *directions, QObject *parent)
     : QItemDelegate(parent)
@@ -17,7 +29,7 @@ QWidget *MgCommandModelDelegate::createEditor(QWidget *parent, const QStyleOptio
     if (index.column() != MgCommandDSModel::kDirectionColumn)
         return QItemDelegate::createEditor(parent, option, index);
 
-    auto *editor = new QComboBox(parent);
+    auto *editor = new DirectionBox(parent);
     editor->setModel(m_directions);
     editor->setAccessibleName(tr("Gesture direction"));
     connect(editor, QOverload<int>::of(&QComboBox::activated), this,
@@ -34,7 +46,7 @@ void MgCommandModelDelegate::setEditorData(QWidget *editor, const QModelIndex &i
     }
     directions->setCurrentIndex(static_cast<unsigned char>(index.data(Qt::EditRole).toInt()));
     // The arrows have no text that could be read out.
-    directions->setAccessibleDescription(directions->currentData(Qt::AccessibleTextRole).toString());
+    directions->setAccessibleDescription(directions->currentData(kDirectionNameRole).toString());
 }
 
 void MgCommandModelDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
@@ -78,6 +90,54 @@ void MgCommandModelDelegate::drawDisplay(QPainter *painter, const QStyleOptionVi
     else
         rest.setLeft(rect.left());
     QItemDelegate::drawDisplay(painter, option, rest, line);
+}
+
+void MgCommandModelDelegate::drawFocus(QPainter *painter, const QStyleOptionViewItem &option,
+                                       const QRect &rect) const
+{
+    QItemDelegate::drawFocus(painter, option, rect);
+    // The table's style draws no focus rectangle, and all cells of a selected row look alike.
+    constexpr QStyle::State kMarked = QStyle::State_HasFocus | QStyle::State_Selected;
+    if ((option.state & kMarked) != kMarked)
+        return;
+    QRect line = option.rect;
+    line.setTop(line.bottom() - kCurrentCellLine + 1);
+    painter->fillRect(line, option.palette.color(QPalette::HighlightedText));
+}
+
+bool MgCommandModelDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view,
+                                       const QStyleOptionViewItem &option, const QModelIndex &index)
+{
+    if (event->type() == QEvent::ToolTip && index.isValid()) {
+        QStyleOptionViewItem wide = option;
+        wide.rect.setWidth(QWIDGETSIZE_MAX);
+        const bool isElided = QItemDelegate::sizeHint(wide, index).width() > option.rect.width();
+        if (index.column() == MgCommandDSModel::kDirectionColumn || !isElided) {
+            QToolTip::hideText();
+            return true;
+        }
+    }
+    return QItemDelegate::helpEvent(event, view, option, index);
+}
+
+bool MgCommandModelDelegate::eventFilter(QObject *object, QEvent *event)
+{
+    auto *box = qobject_cast<DirectionBox *>(object);
+    if (!box || event->type() != QEvent::KeyPress)
+        return QItemDelegate::eventFilter(object, event);
+
+    const auto *key = static_cast<QKeyEvent *>(event);
+    if (key->matches(QKeySequence::Cancel)) {
+        // The table opens an editor again that closes while it has the focus. Without it, the
+        // box closes for good.
+        box->parentWidget()->setFocus();
+        return true;
+    }
+    // The base class would commit and close. Enter in the open list chooses; while the list is
+    // closed it does nothing.
+    if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter)
+        return false;
+    return QItemDelegate::eventFilter(object, event);
 }
 
 void MgCommandModelDelegate::commitAndCloseEditor(int /*row*/)

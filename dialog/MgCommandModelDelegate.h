@@ -11,6 +11,10 @@ class MgCommandModelDelegate : public QItemDelegate
     Q_OBJECT
 
 public:
+    // The role of the list of directions under which it has the name of a direction alone. The
+    // accessible text also says which command has it.
+    static constexpr int kDirectionNameRole = Qt::UserRole;
+
     // `directions` lists the choices. It is not taken over, is shared by all editors and must
     // outlive them.
     MgCommandModelDelegate(QStandardItemModel *directions, QObject *parent);
@@ -27,7 +31,16 @@ public:
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem &option,
                                  const QModelIndex &index) const override;
 
+    // The tooltip of a text that its cell is too narrow for; no other.
+    bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
+                   const QModelIndex &index) override;
+
 protected:
+    // A line below the current cell of a selected row.
+    void drawFocus(QPainter *painter, const QStyleOptionViewItem &option,
+                   const QRect &rect) const override;
+    // Escape gives the focus back to the table and closes the drop-down for good.
+    bool eventFilter(QObject *object, QEvent *event) override;
     // On one line, whatever line breaks the text has: a row is one line high.
     void drawDisplay(QPainter *painter, const QStyleOptionViewItem &option, const QRect &rect,
                      const QString &text) const override;

@@ -1,5 +1,7 @@
 #include "dialog/MgCommandTableView.h"
 
+#include "dialog/DirectionBox.h"
+
 MgCommandTableView::MgCommandTableView(QWidget *parent)
     : QTableView(parent)
 {
@@ -8,6 +10,13 @@ MgCommandTableView::MgCommandTableView(QWidget *parent)
 void MgCommandTableView::beginEditing(const QModelIndex &index)
 {
     edit(index, AllEditTriggers, nullptr);
+}
+
+void MgCommandTableView::commitData(QWidget *editor)
+{
+    const auto *box = qobject_cast<DirectionBox *>(editor);
+    if (!box || box->isChosen())
+        QTableView::commitData(editor);
 }
 
 void MgCommandTableView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)

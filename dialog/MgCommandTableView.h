@@ -16,5 +16,8 @@ public:
     void beginEditing(const QModelIndex &index);
 
 protected Q_SLOTS:
+    // Writes nothing for a drop-down in which nothing was chosen. Qt also commits when the
+    // focus or the current cell moves on, and writing a direction always clears another record.
+    void commitData(QWidget *editor) override;
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
 };

@@ -1,12 +1,15 @@
 #include "dialog/MgDonutDialogManager.h"
 
+#include "bindings/HostCall.h"
 #include "bindings/MgDonutDataContainer.h"
 #include "dialog/BindingListDocument.h"
+#include "dialog/BindingListPrinter.h"
 #include "dialog/MgCommandDSModel.h"
 #include "dialog/MgCommandDSSortFilterProxyModel.h"
 #include "dialog/MgCommandModelDelegate.h"
 #include "dialog/MgCommandTableView.h"
 #include "dialog/MyStyle.h"
+#include "dialog/Notice.h"
 #include "sdk/chx/CHxSystemServices.h"
 #include "sdk/chx/CHxUIMenuItem.h"
 #include "sdk/chx/CHxUIMenuItemCollection.h"
@@ -17,6 +20,7 @@
 #include <QFile>
 #include <QGroupBox>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -24,16 +28,19 @@
 #include <QPrinter>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QTextDocument>
 #include <QVBoxLayout>
 
 #include <algorithm>
 #include <iterator>
 #include <memory>
+#include <optional>
 
 namespace {
 
 constexpr int kHelpTopic = 9000;
+constexpr int kFormWidth = 414; // pixels, of the dialog as it is laid out
 // Characters of a description. The label has room for a few hundred; laying out a whole
 // million of them would stop the program for seconds.
 constexpr int kLongestDescription = 10000;
@@ -97,6 +104,9 @@ QStringList usedCategories(const QString &others)
 MgDonutDialogManager::MgDonutDialogManager(QWidget *parent, Qt::WindowFlags flags)
     : CHxDialog(parent, flags != Qt::WindowFlags(), Qt::WindowTitleHint | Qt::WindowSystemMenuHint)
 {
+    // What the container could not read could not be saved either.
+    if (MgDonutDataContainer::instance()->hasReadingFailed())
+        MgDonutDataContainer::instance()->init();
     ui.setupUi(this);
     setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
     fixWidth();
@@ -111,6 +121,8 @@ MgDonutDialogManager::MgDonutDialogManager(QWidget *parent, Qt::WindowFlags flag
     initDialogState();
     setUpRowsAndColumns();
     ui.description_label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    m_robbedNotice = new Notice(this);
+    setUpKeys();
 }
 
 MgDonutDialogManager::~MgDonutDialogManager() = default;
@@ -133,6 +145,15 @@ void MgDonutDialogManager::fixWidth()
     }
     setMinimumWidth(width());
     setMaximumWidth(width());
+
+    // Below its title the description has room for three lines.
+    QGroupBox *box = ui.description_groupBox;
+    QLabel *label = ui.description_label;
+    const int line = fontMetrics().height();
+    const int below = box->minimumHeight() - label->geometry().bottom();
+    const int top = std::max(label->y(), line + 2);
+    label->setGeometry(label->x(), top, label->width(), std::max(label->height(), 3 * line + 4));
+    box->setMinimumHeight(label->geometry().bottom() + below);
 }
 
 void MgDonutDialogManager::fillCategories()
@@ -143,10 +164,14 @@ void MgDonutDialogManager::fillCategories()
     // As the catalogue files commands that are in no menu.
     const QString others = QObject::tr("Others");
 
-    CHxSystemServices *services = GetHxSystemServices();
-    const CHxUIMenuItemCollection *menuBars = services ? services->GetMenuItems() : nullptr;
+    std::optional<QStringList> captions;
+    hostCall([&captions] {
+        CHxSystemServices *services = GetHxSystemServices();
+        if (const CHxUIMenuItemCollection *menuBars = services ? services->GetMenuItems() : nullptr)
+            captions = menuCaptions(*menuBars);
+    });
     ui.category_comboBox->addItem(m_allCommands);
-    ui.category_comboBox->addItems(menuBars ? menuCaptions(*menuBars) : usedCategories(others));
+    ui.category_comboBox->addItems(captions ? *captions : usedCategories(others));
     ui.category_comboBox->addItem(others);
     ui.category_comboBox->setCurrentIndex(0);
 }
@@ -169,7 +194,8 @@ void MgDonutDialogManager::connectControls()
     const auto filterByState = QOverload<int>::of(&Self::applyFilter);
     const auto filterByText = QOverload<const QString &>::of(&Self::applyFilter);
 
-    connect(ui.buttonBox->button(QDialogButtonBox::Help), &QPushButton::clicked, this, &Self::Help);
+    connect(ui.buttonBox->button(QDialogButtonBox::Help), &QPushButton::clicked, this,
+            [this] { hostCall([this] { Help(); }); });
     // The box's accepted() stays unconnected on purpose: OK saves before it accepts.
     connect(ui.buttonBox->button(QDialogButtonBox::Ok), &QPushButton::clicked, this, &Self::okPressed);
     connect(ui.reset_pushButton, &QPushButton::clicked, this, &Self::applyDefaultSettings);
@@ -211,6 +237,8 @@ void MgDonutDialogManager::setUpRowsAndColumns()
 {
     MgCommandTableView *table = ui.command_tableView;
     QHeaderView *columns = table->horizontalHeader();
+    // The columns have their share of a dialog that had to be wider.
+    columns->setDefaultSectionSize(columns->defaultSectionSize() * width() / kFormWidth);
     columns->resizeSection(MgCommandDSModel::kCommandColumn,
                            static_cast<int>(columns->defaultSectionSize() * 2.1));
     // Only asked for: the last section takes the width that is left.
@@ -220,6 +248,100 @@ void MgDonutDialogManager::setUpRowsAndColumns()
     rows->setStyleSheet(
         QStringLiteral("QHeaderView::section {padding-bottom: 0px;padding-top: 0px;padding-left: 0px;"
                        "padding-right: 0px;margin: 0px;}"));
+}
+
+void MgDonutDialogManager::setUpKeys()
+{
+    const auto connectKey = [this](const QKeySequence &key, auto &&action) {
+        auto *shortcut = new QShortcut(key, this);
+        connect(shortcut, &QShortcut::activated, this, std::forward<decltype(action)>(action));
+    };
+    connectKey(QKeySequence::Undo, [this] { takeBack(); });
+    connectKey(QKeySequence::Find, [this] {
+        ui.search_lineEdit->setFocus(Qt::ShortcutFocusReason);
+        ui.search_lineEdit->selectAll();
+    });
+    // The header takes no keys.
+    for (int column = 0; column < MgCommandDSModel::kColumnCount; ++column)
+        connectKey(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + column)),
+                   [this, column] { sortByKey(column); });
+    ui.command_tableView->horizontalHeader()->viewport()->setToolTip(
+        tr("Click to sort, or press Ctrl+1, Ctrl+2 or Ctrl+3"));
+    ui.search_lineEdit->installEventFilter(this);
+    ui.search_lineEdit->setFocus();
+}
+
+bool MgDonutDialogManager::eventFilter(QObject *object, QEvent *event)
+{
+    if (object != ui.search_lineEdit || event->type() != QEvent::KeyPress)
+        return CHxDialog::eventFilter(object, event);
+    switch (static_cast<QKeyEvent *>(event)->key()) {
+    case Qt::Key_Down:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        // Enter would press OK, in the middle of a search.
+        goToFirstCommand();
+        return true;
+    default:
+        return CHxDialog::eventFilter(object, event);
+    }
+}
+
+void MgDonutDialogManager::goToFirstCommand()
+{
+    MgCommandTableView *table = ui.command_tableView;
+    const QModelIndex first = proxy->index(0, MgCommandDSModel::kDirectionColumn);
+    if (!first.isValid())
+        return;
+    table->setFocus(Qt::TabFocusReason);
+    table->selectionModel()->setCurrentIndex(first, QItemSelectionModel::ClearAndSelect
+                                                        | QItemSelectionModel::Rows);
+    showSelectedCommand();
+}
+
+void MgDonutDialogManager::sortByKey(int column)
+{
+    const bool isAscending = proxy->sortColumn() == column && proxy->sortOrder() == Qt::AscendingOrder;
+    ui.command_tableView->sortByColumn(column, isAscending ? Qt::DescendingOrder : Qt::AscendingOrder);
+}
+
+void MgDonutDialogManager::takeBack()
+{
+    if (model->takeBack())
+        nameHolders();
+}
+
+void MgDonutDialogManager::directionAssigned(int row, int robbedRow)
+{
+    nameHolders();
+    if (robbedRow >= 0)
+        showRobbed(row, model->getCommandDisplayName(robbedRow));
+}
+
+// Each entry of the list of directions says which command has the direction now.
+void MgDonutDialogManager::nameHolders()
+{
+    for (int row = 1; model && row < directionList.rowCount(); ++row) {
+        const auto direction = static_cast<unsigned char>(row);
+        const QString name = getDirectionName(direction);
+        const QString holder = model->getHolderNames(direction);
+        const QString text = holder.isEmpty() ? name : tr("%1: %2").arg(name, holder);
+        QStandardItem *item = directionList.item(row);
+        item->setData(name, MgCommandModelDelegate::kDirectionNameRole);
+        item->setData(text, Qt::AccessibleTextRole);
+        item->setToolTip(text.toHtmlEscaped());
+    }
+}
+
+void MgDonutDialogManager::showRobbed(int row, const QString &robbedName)
+{
+    const QModelIndex cell = proxy->mapFromSource(model->index(row, MgCommandDSModel::kDirectionColumn));
+    if (!cell.isValid())
+        return;
+    MgCommandTableView *table = ui.command_tableView;
+    const QRect place = table->visualRect(cell);
+    m_robbedNotice->showFor(tr("Taken from: %1").arg(robbedName),
+                            {table->viewport()->mapTo(this, place.topLeft()), place.size()});
 }
 
 bool MgDonutDialogManager::isDefaultSettingsEnabled() const
@@ -253,6 +375,8 @@ QIcon MgDonutDialogManager::getDirectionIcon(unsigned char direction,
 
 QString MgDonutDialogManager::getDirectionName(unsigned char direction) const
 {
+    if (direction == 0)
+        return tr("None");
     const Direction *found = findDirection(scheme, direction);
     return found ? tr(found->name) : QString();
 }
@@ -306,11 +430,11 @@ void MgDonutDialogManager::radioButtonStateChanged(bool /*checked*/)
         const auto direction = static_cast<unsigned char>(row);
         auto *item = new QStandardItem;
         item->setIcon(getDirectionIcon(direction, Eight));
-        item->setData(getDirectionName(direction), Qt::AccessibleTextRole);
         // As high as a row of text with room around it; arrows alone would touch each other.
         item->setSizeHint(QSize(1, 1) * (fontMetrics().height() + 4));
         directionList.setItem(row, item);
     }
+    nameHolders();
     applyFilter();
 }
 
@@ -385,9 +509,12 @@ bool MgDonutDialogManager::isResetConfirmed()
     const QString question = tr("This will delete all of the user defined mouse gestures and reset to "
                                 "the factory defaults. Do you want to continue?");
     if (CHxSystemServices *services = GetHxSystemServices()) {
-        return services->ShowMessage(question, services->GetMessageCaption(),
-                                     CHxSystemServices::kMessageOkCancelWarning)
-            == CHxSystemServices::kMessageOk;
+        int answer = CHxSystemServices::kMessageCancel;
+        hostCall([&] {
+            answer = services->ShowMessage(question, services->GetMessageCaption(),
+                                           CHxSystemServices::kMessageOkCancelWarning);
+        });
+        return answer == CHxSystemServices::kMessageOk;
     }
     return QMessageBox::warning(this, windowTitle(), question, QMessageBox::Ok | QMessageBox::Cancel)
         == QMessageBox::Ok;
@@ -399,6 +526,7 @@ void MgDonutDialogManager::applyDefaultSettings()
         return;
     MgDonutDataContainer::instance()->applyDefaultSettings();
     model->resetToDefault();
+    nameHolders();
     ui.eight_radioButton->setChecked(true);
     ui.reset_pushButton->setEnabled(!isDefaultSettingsEnabled());
 }
@@ -412,9 +540,11 @@ int MgDonutDialogManager::runPrintDialog(QPrinter &printer)
 void MgDonutDialogManager::printList()
 {
     QPrinter printer(QPrinter::HighResolution);
+    // The title of a PDF, and what a queue of print jobs shows.
+    printer.setDocName(windowTitle());
     if (runPrintDialog(printer) != QDialog::Accepted)
         return;
     const std::unique_ptr<QTextDocument> document(
         createBindingListDocument(ui.command_tableView->model()));
-    document->print(&printer);
+    printBindingList(*document, printer);
 }

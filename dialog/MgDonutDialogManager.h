@@ -1,6 +1,7 @@
 #pragma once
 
 #include "bindings/DonutScheme.h"
+#include "dialog/ComboBoxAccessibility.h"
 #include "dialog/Ui_MgDonutDialogManagerClass.h"
 #include "sdk/chx/CHxDialog.h"
 
@@ -10,6 +11,7 @@
 
 class MgCommandDSModel;
 class MgCommandDSSortFilterProxyModel;
+class Notice;
 class QItemSelection;
 class QModelIndex;
 class QPrinter;
@@ -46,7 +48,7 @@ public:
     // The arrow of a direction (1 to 4 or 1 to 8); an empty icon for any other. The scheme
     // argument is not looked at: the scheme that the dialog shows decides.
     [[nodiscard]] QIcon getDirectionIcon(unsigned char direction, DonutScheme ignoredScheme) const;
-    // The same in words.
+    // The same in words; "None" for 0 and empty for a direction that the scheme does not have.
     [[nodiscard]] QString getDirectionName(unsigned char direction) const;
     // The topic of the dialog's help, 9000.
     [[nodiscard]] int GetHelpId() const override;
@@ -59,6 +61,9 @@ public:
     [[nodiscard]] const QString &allCommandsText() const { return m_allCommands; }
     // For the model: there are bindings now that could be reset.
     void enableReset();
+    // For the model: a row was given a direction, which another row had before (-1 for none).
+    // Says in the list of directions who has them now, and at the cell who has lost one.
+    void directionAssigned(int row, int robbedRow);
 
 public Q_SLOTS:
     void checkBoxStateChanged(int state);
@@ -74,6 +79,8 @@ public Q_SLOTS:
     void openEditor(const QModelIndex &index);
 
 protected:
+    // In the search field, Down and Enter go to the first command that is shown.
+    bool eventFilter(QObject *object, QEvent *event) override;
     // Asks the user where to print to; QDialog::Accepted says that the printer is set up.
     virtual int runPrintDialog(QPrinter &printer);
 
@@ -89,9 +96,17 @@ private:
     void setButtonIcons();
     void connectControls();
     void setUpTable();
+    void setUpKeys();
+    void goToFirstCommand();
+    void sortByKey(int column);
+    void takeBack();
+    void nameHolders();
+    void showRobbed(int row, const QString &robbedName);
     void setUpRowsAndColumns();
     void showSelectedCommand();
     [[nodiscard]] bool isResetConfirmed();
 
+    ComboBoxAccessibility m_accessibility;
     QString m_allCommands;
+    Notice *m_robbedNotice = nullptr; // a child of the dialog
 };

@@ -99,6 +99,7 @@ void Ui_MgDonutDialogManagerClass::createFilters(QDialog *dialog)
     search_label = newWidget<QLabel>("search_label", dialog);
     horizontalLayout_7->addWidget(search_label);
     search_lineEdit = newWidget<QLineEdit>("search_lineEdit", dialog);
+    search_lineEdit->setClearButtonEnabled(true);
     horizontalLayout_7->addWidget(search_lineEdit);
     verticalLayout_2->addLayout(horizontalLayout_7);
 
@@ -211,5 +212,4 @@ void Ui_MgDonutDialogManagerClass::retranslateUi(QDialog *dialog)
     category_comboBox->setAccessibleName(translated("Category"));
     search_lineEdit->setAccessibleName(translated("Search for commands"));
     command_tableView->setAccessibleName(translated("Commands and their gestures"));
-    description_label->setAccessibleName(translated("Description of the selected command"));
 }

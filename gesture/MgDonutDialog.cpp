@@ -8,8 +8,8 @@ namespace {
 constexpr double kFirstCentre = 90.0;
 constexpr double kFullTurn = 360.0;
 
-// Pi is 22/7 here, and meant to be: the labels are placed with the same value. An angle off
-// the axes comes out 0.04 % small, which decides for the right of two sectors on a diagonal.
+// Pi is deliberately 22/7; the labels are placed with the same value. An angle off the axes comes
+// out 0.04 % too small, which decides between two sectors on a diagonal.
 double degrees(double radians)
 {
     return radians * 7.0 * 180.0 / 22.0;
@@ -28,7 +28,7 @@ MgDonutDialog::~MgDonutDialog() = default;
 
 double MgDonutDialog::getAngle(double x, double y) const
 {
-    // The vertical axis has no arctangent; it alone yields exactly 90 and 270.
+    // The vertical axis has no arctangent. Only it yields exactly 90 and 270.
     if (x == 0.0)
         return y >= 0.0 ? 90.0 : 270.0;
 
@@ -41,13 +41,13 @@ double MgDonutDialog::getAngle(double x, double y) const
 bool MgDonutDialog::keepsActiveArc(double angle) const
 {
     const double half = keepSpan / 2.0;
-    // Deliberately not brought below 360: the range of the eighth of eight sectors (middle
-    // at 405) thereby begins at 0 instead of 12.5 degrees, and up-right stays active while
-    // the pointer sinks into the upper half of right.
+    // Deliberately not brought below 360. The range of the eighth of eight sectors (middle at
+    // 405) therefore begins at 0, not at 12.5 degrees: up-right stays active while the pointer
+    // sinks into the upper half of right.
     const double centre = activeArc * (kFullTurn / arcCount) + kFirstCentre;
     if (centre + half <= kFullTurn)
         return std::abs(angle - centre) <= half;
-    // Past 360 both borders are outside, and so is 0 itself.
+    // Past 360 the range includes neither of its borders, nor 0.
     return (angle > 0.0 && angle < centre + half - kFullTurn)
         || (angle > centre - half && angle < kFullTurn);
 }
@@ -63,8 +63,8 @@ void MgDonutDialog::setActiveArc(double x, double y)
 
     const double width = kFullTurn / arcCount;
     const double start = kFirstCentre - width / 2.0;
-    // An angle equal to `start` is moved up as well, and so falls one past the last sector.
-    // That is meant: whoever uses the index has to expect it.
+    // An angle equal to `start` is moved up as well and falls one past the last sector. This is
+    // meant; users of the index must expect it.
     const double turned = angle > start ? angle : angle + kFullTurn;
     const int wholeDegrees = static_cast<int>(turned - start);
     activeArc = static_cast<qint16>(wholeDegrees / width);

@@ -2,6 +2,7 @@
 
 #include "bindings/DonutHelperData.h"
 #include "bindings/MgDonutDataContainer.h"
+#include "gesture/MgRingAccessible.h"
 #include "sdk/chx/CHxApplication.h"
 #include "sdk/chx/CHxDocument.h"
 #include "sdk/chx/CHxSystemServices.h"
@@ -10,7 +11,6 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QImage>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScreen>
@@ -20,13 +20,13 @@
 
 namespace {
 
-// The pointer chooses its sector once it is farther out than this, straight, in pixels.
+// The pointer chooses its sector beyond this distance from the centre, in pixels.
 constexpr double kAcceptDistance = 69.0;
-// Moves that stay below this, in pixels across plus down, are ignored.
+// Shorter moves are ignored. In pixels across plus down.
 constexpr int kLeastMove = 21;
-// How long the last frame stays, in milliseconds.
+// The last frame stays this long, in milliseconds.
 constexpr int kFadeTime = 250;
-// What the host's mode is set to while a gesture is armed or on.
+// The host's mode while a gesture is armed or on.
 constexpr qint16 kFollowsPointer = 1;
 
 CHxApplication *hostApplication()
@@ -35,7 +35,15 @@ CHxApplication *hostApplication()
     return services ? services->GetApplication() : nullptr;
 }
 
-// The view that pointer positions are measured in; null when no drawing is open.
+// Shows a line of text in the host's status bar, if it has one.
+void showText(const QString &text, bool immediate)
+{
+    CHxSystemServices *services = GetHxSystemServices();
+    if (CHxTextOutput *output = services ? services->GetTextOutput() : nullptr)
+        output->SetText(CHxString(text), immediate);
+}
+
+// Pointer positions are measured in this view; null if no drawing is open.
 QWidget *activeView()
 {
     CHxDocument *active = ACTIVE_DOCUMENT();
@@ -47,21 +55,22 @@ QWidget *activeView()
 MgDonutDialogPVStyleImpl::MgDonutDialogPVStyleImpl(QWidget *parent, Qt::WindowFlags flags)
     : MgDonutDialog(parent, flags)
 {
-    donutSize = QImage(QStringLiteral(":/gesturewidgetimages/Resources/gesture_widget.png")).size();
+    donutSize =
+        m_images.image(QStringLiteral(":/gesturewidgetimages/Resources/gesture_widget.png"), 1.0).size();
     installEventFilter(this);
     bypassWindowManager();
+    MgRingAccessible::install();
+    setAccessibleName(tr("Mouse gesture"));
 }
 
 MgDonutDialogPVStyleImpl::~MgDonutDialogPVStyleImpl()
 {
-    // The main window may take the ring with it in the middle of a gesture.
+    // The main window may be destroyed during a gesture, and the ring with it.
     if (gesturing)
         StopGesturing(false);
     giveBackHost();
 
-    CHxSystemServices *services = GetHxSystemServices();
-    if (CHxTextOutput *output = services ? services->GetTextOutput() : nullptr)
-        output->SetText(CHxString(QString()), true);
+    showText(QString(), true);
 }
 
 void MgDonutDialogPVStyleImpl::WindUp(CHxDocument *doc)
@@ -93,6 +102,7 @@ void MgDonutDialogPVStyleImpl::TryStart(const QPoint &)
 
     sectorVisuals.clear();
     sectorTooltips.clear();
+    m_sectorNames.clear();
     activeArc = -1;
     const QPoint pointer = view->mapFromGlobal(QCursor::pos());
 
@@ -109,11 +119,14 @@ void MgDonutDialogPVStyleImpl::TryStart(const QPoint &)
                                     ? visual->second
                                     : std::make_pair(DonutHelperData::kText, QVariant(QString())));
         sectorTooltips.push_back(tooltip != shown.sectorTooltips.end() ? tooltip->second : QString());
+        const auto name = shown.sectorNames.find(i);
+        m_sectorNames.push_back(name != shown.sectorNames.end() ? name->second : QString());
     }
 
-    // The first choice is made from where the pointer is already. Is that far out, the fading
-    // runs here, before there is anything to see; the next move then ends the gesture.
+    // The pointer may already be anywhere. If it is far out, the fading runs here, before the ring
+    // is visible, and the next move ends the gesture.
     mousePositionChanged(pointer.x() - origin.x(), origin.y() - pointer.y());
+    bypassWindowManager(); // Qt 6 makes a new window after somebody closed the ring
     takeBackdrop();
     setVisible(true);
     // The X server maps an unmanaged window at once, so it grants both grabs.
@@ -123,6 +136,7 @@ void MgDonutDialogPVStyleImpl::TryStart(const QPoint &)
     }
     gesturing = true;
     armed = false;
+    tellSector();
 }
 
 void MgDonutDialogPVStyleImpl::StopGesturing(bool sectorChosen)
@@ -135,6 +149,7 @@ void MgDonutDialogPVStyleImpl::StopGesturing(bool sectorChosen)
     releaseMouse();
     releaseKeyboard();
     setVisible(false);
+    tellNothing();
 }
 
 bool MgDonutDialogPVStyleImpl::JustStopped()
@@ -147,10 +162,9 @@ bool MgDonutDialogPVStyleImpl::JustStopped()
 void MgDonutDialogPVStyleImpl::doFading()
 {
     fading = true;
-    // Paints at once, and Qt sends what it painted to the display by itself.
+    // Qt paints at once and sends the result to the display.
     repaint();
-    // Meant to be busy: the frame stands still, and no event gets in between the choice and
-    // the end of the gesture.
+    // The busy wait is meant: no event comes between the choice and the end of the gesture.
     QElapsedTimer timer;
     timer.start();
     while (timer.elapsed() < kFadeTime) { }
@@ -160,6 +174,8 @@ void MgDonutDialogPVStyleImpl::mousePositionChanged(double x, double y)
 {
     setActiveArc(x, y);
     distance = std::sqrt(x * x + y * y);
+    if (gesturing)
+        tellSector();
     if (distance > kAcceptDistance)
         doFading();
     else
@@ -168,8 +184,8 @@ void MgDonutDialogPVStyleImpl::mousePositionChanged(double x, double y)
 
 void MgDonutDialogPVStyleImpl::mouseMoveEvent(QMouseEvent *)
 {
-    // Moves that were under way when the gesture ended still arrive. They must not end it a
-    // second time, or the command would run twice.
+    // Moves can arrive after the end of the gesture. They must not end it again, or the command
+    // would run twice.
     const QWidget *view = activeView();
     if (!gesturing || !view)
         return;
@@ -184,8 +200,8 @@ void MgDonutDialogPVStyleImpl::mouseMoveEvent(QMouseEvent *)
 
 void MgDonutDialogPVStyleImpl::mouseReleaseEvent(QMouseEvent *event)
 {
-    // A quick hand lets go during the fading. That release arrives after the end and leaves
-    // the choice alone, but the view is told where the pointer is.
+    // A release during the fading arrives after the end. The choice stands, and the view learns
+    // where the pointer is.
     if (!gesturing) {
         postMoveToView(*event);
         return;
@@ -194,7 +210,7 @@ void MgDonutDialogPVStyleImpl::mouseReleaseEvent(QMouseEvent *event)
         StopGesturing(true);
         return;
     }
-    // Set and cleared again at once; without effect, and kept.
+    // StopGesturing() clears it again. Has no effect and is kept.
     fading = true;
     StopGesturing(false);
     postMoveToView(*event);
@@ -210,19 +226,19 @@ void MgDonutDialogPVStyleImpl::keyPressEvent(QKeyEvent *event)
 
 bool MgDonutDialogPVStyleImpl::eventFilter(QObject *watched, QEvent *event)
 {
-    // Accepted here, the key is no shortcut of the host.
+    // An accepted key does not become a shortcut of the host.
     if (watched == this && event->type() == QEvent::ShortcutOverride) {
         event->accept();
         return true;
     }
-    // Past the dialog's own, which would look for keys of its default button.
+    // Skips the dialog's own filter, which looks for keys of its default button.
     return QObject::eventFilter(watched, event); // NOLINT(bugprone-parent-virtual-call)
 }
 
 bool MgDonutDialogPVStyleImpl::event(QEvent *event)
 {
-    // Behind a modal window no release would ever come, and nobody could press the modal
-    // window's buttons while the ring holds the mouse.
+    // A blocked ring would never see the release, and its grab would keep the mouse from the
+    // modal window.
     if (event->type() == QEvent::WindowBlocked && gesturing)
         StopGesturing(false);
     return MgDonutDialog::event(event);
@@ -231,18 +247,53 @@ bool MgDonutDialogPVStyleImpl::event(QEvent *event)
 void MgDonutDialogPVStyleImpl::hideEvent(QHideEvent *event)
 {
     MgDonutDialog::hideEvent(event);
-    // Hidden or closed by somebody else: nothing may stay grabbed.
+    // If somebody else hid or closed the ring, nothing may stay grabbed.
     if (gesturing)
         StopGesturing(false);
 }
 
+void MgDonutDialogPVStyleImpl::tellSector()
+{
+    if (activeArc == m_toldArc)
+        return;
+    m_toldArc = activeArc;
+    const auto sector = static_cast<std::size_t>(activeArc);
+    QString text;
+    if (sector < m_sectorNames.size()) { // -1 is not, nor is one past the last sector
+        text = m_sectorNames[sector];
+        const QString &tip = sectorTooltips[sector];
+        if (text.isEmpty())
+            text = tip;
+        else if (!tip.isEmpty() && tip != text)
+            text = tr("%1: %2", "name of a command, what it does").arg(text, tip);
+    }
+    showText(text, false);
+    setAccessibleDescription(text); // sends the accessibility event
+}
+
+void MgDonutDialogPVStyleImpl::tellNothing()
+{
+    if (m_toldArc == -1)
+        return;
+    m_toldArc = -1;
+    showText(QString(), false);
+    setAccessibleDescription(QString());
+}
+
 void MgDonutDialogPVStyleImpl::bypassWindowManager()
 {
+    if (windowHandle() && windowHandle()->flags().testFlag(Qt::BypassWindowManagerHint))
+        return;
     // A window manager would give the ring the focus and a task-bar entry, push it away from
     // the edges of the screen or hide it as a tool of an inactive program. It learns of a
     // window when it is mapped, so the flag comes before. QWidget's own flags stay as they are.
     resize(donutSize); // first, so that the window has this size from the start
+    // Without OpenGL, which the ring never uses, the window is made a millisecond sooner. Qt has
+    // no such switch for one window.
+    const bool isForced = QCoreApplication::testAttribute(Qt::AA_ForceRasterWidgets);
+    QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets);
     winId(); // makes the window
+    QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets, isForced);
     windowHandle()->setFlag(Qt::BypassWindowManagerHint);
 }
 

@@ -1,12 +1,13 @@
-// How the ring looks: the painting half of MgDonutDialogPVStyleImpl.
+// The painting half of MgDonutDialogPVStyleImpl.
 
 #include "bindings/DonutHelperData.h"
 #include "gesture/MgDonutDialogPVStyleImpl.h"
+#include "sdk/QtBridge.h"
 
 #include <QFont>
 #include <QFontMetrics>
 #include <QIcon>
-#include <QImage>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPaintEvent>
 #include <QPen>
@@ -16,29 +17,37 @@
 
 namespace {
 
-// From the window's edge to the circle that the labels are centred on, in pixels.
+// From the window's edge to the circle of the labels' centres, in pixels.
 constexpr double kLabelInset = 32.0;
-// A full turn in radians with pi as 22/7, like the angles of MgDonutDialog.
+// A full turn in radians. Pi is 22/7, as in MgDonutDialog.
 constexpr double kFullTurn = 6.285714285714286;
-// The ring itself; highlight and active label stand on it undimmed.
+// The background's opacity. Highlight and labels are opaque.
 constexpr double kRingOpacity = 120.0 / 255.0;
 
-// Wider texts are cut, in pixels.
+// Texts wider than this, in pixels, are cut ...
 constexpr int kTextLimit = 50;
-// Characters left of a text that is cut. Deliberately one fewer in the active sector.
+// ... to this many characters. One fewer in the active sector, deliberately.
 constexpr int kCutLength = 8;
 constexpr int kActiveCutLength = 7;
-// From the label's point down to the text's baseline, in pixels.
+// From a label's point down to its text's baseline, in pixels.
 constexpr double kBaseline = 3.0;
 constexpr int kIconSize = 20;
 
-QImage loadImage(const QString &name)
+// Pixels of the device for each pixel of the widget. QPainter::device() would be the widget, even
+// when it is painted somewhere else.
+qreal deviceRatio(const QPainter &painter)
 {
-    return QImage(QLatin1String(":/gesturewidgetimages/Resources/") + name + QLatin1String(".png"));
+    return painter.paintEngine()->paintDevice()->devicePixelRatioF();
 }
 
-// From "targetDonut_" with number of sectors and index, one digit each, to the highlight's
-// name; empty when there is no such sector.
+// The path of an image in the embedded resources.
+QString imagePath(const QString &name)
+{
+    return QLatin1String(":/gesturewidgetimages/Resources/") + name + QLatin1String(".png");
+}
+
+// The name of a highlight. `composedName` is "targetDonut_" with the number of sectors and the
+// index, one digit each. Empty if there is no such sector.
 QString regionName(const QString &composedName)
 {
     const auto digits = composedName.indexOf(QLatin1Char('_')) + 1;
@@ -66,20 +75,20 @@ QString regionName(const QString &composedName)
     return {};
 }
 
-// Null, and then drawn as nothing, for an index that is no sector.
-QImage highlightOf(int sectorCount, int index)
+// Names no image for an index that is no sector; nothing is drawn then.
+QString highlightPath(int sectorCount, int index)
 {
-    return loadImage(regionName(QStringLiteral("targetDonut_%1%2").arg(sectorCount).arg(index)));
+    return imagePath(regionName(QStringLiteral("targetDonut_%1%2").arg(sectorCount).arg(index)));
 }
 
-// Logical (0, 0) becomes the window's centre.
+// Moves logical (0, 0) to the window's centre.
 void centrePainter(QPainter *painter, int width, int height)
 {
     painter->setViewport(0, 0, width, height);
     painter->setWindow(-(width / 2), -(height / 2), width, height);
 }
 
-// The painter's origin is where the label goes.
+// The painter's origin is the label's point.
 void drawText(QPainter *painter, const QString &whole, double rotation, int cutLength)
 {
     painter->setPen(QPen(Qt::SolidLine));
@@ -99,9 +108,13 @@ void drawText(QPainter *painter, const QString &whole, double rotation, int cutL
 
 void drawIcon(QPainter *painter, const QIcon &icon)
 {
-    const QPixmap pixmap = icon.pixmap(QSize(kIconSize, kIconSize), QIcon::Normal, QIcon::Off);
+    const qreal ratio = deviceRatio(*painter);
+    const QPixmap pixmap = qtbridge::pixmapOf(icon, QSize(kIconSize, kIconSize), ratio);
     if (pixmap.isNull())
         return;
+    // An icon without an image of this density is enlarged; any other is painted pixel by pixel.
+    if (pixmap.devicePixelRatio() < ratio)
+        painter->setRenderHint(QPainter::SmoothPixmapTransform);
     const QSize size = pixmap.size() / pixmap.devicePixelRatio();
     painter->drawPixmap(QPoint(-(size.width() / 2), -(size.height() / 2)), pixmap);
 }
@@ -113,15 +126,15 @@ void MgDonutDialogPVStyleImpl::paint(QPaintEvent *event)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setClipRect(event->rect());
-    // Without effect, and kept.
+    // Has no effect and is kept.
     painter.save();
     painter.restore();
-    // In place of what a compositor would let through, under either frame.
+    // Without a compositor, what lies under the window is painted here, in both kinds of frame.
     if (!m_backdrop.isNull())
         painter.drawPixmap(QPoint(0, 0), m_backdrop);
 
     if (fading) {
-        // A widget takes one painter at a time.
+        // A widget allows one painter at a time.
         painter.end();
         doFadingPaint();
         return;
@@ -131,7 +144,8 @@ void MgDonutDialogPVStyleImpl::paint(QPaintEvent *event)
     painter.setBrush(Qt::NoBrush);
     painter.save();
     painter.setOpacity(kRingOpacity);
-    painter.drawImage(QPoint(0, 0), loadImage(QStringLiteral("gesture_widget")));
+    painter.drawImage(QPoint(0, 0),
+                      m_images.image(imagePath(QStringLiteral("gesture_widget")), deviceRatio(painter)));
     painter.restore();
 
     if (activeArc == -1)
@@ -150,19 +164,18 @@ void MgDonutDialogPVStyleImpl::paint(QPaintEvent *event)
     }
     painter.restore();
 
-    painter.drawImage(QPoint(0, 0), highlightOf(arcCount, activeArc));
+    drawHighlight(&painter);
     centrePainter(&painter, width(), height());
     drawLabelOf(&painter, activeArc, kActiveCutLength);
 }
 
 void MgDonutDialogPVStyleImpl::doFadingPaint()
 {
-    const QImage highlight = highlightOf(arcCount, activeArc);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(Qt::NoBrush);
-    painter.drawImage(QPoint(0, 0), highlight);
+    drawHighlight(&painter);
     painter.save();
     centrePainter(&painter, width(), height());
     drawLabelOf(&painter, activeArc, kActiveCutLength);
@@ -176,11 +189,11 @@ double MgDonutDialogPVStyleImpl::setPainterOrigin(QPainter *painter, int sectorC
     const double radius = width() * 0.5 - kLabelInset;
     const int sectorWidth = sectorCount == 8 ? 45 : 90;
     const int degrees = index * sectorWidth + 90;
-    // Taken from a full turn, since the screen's y axis points down.
+    // Subtracted from a full turn, because the screen's y axis points down.
     const double angle = kFullTurn - (degrees * 22.0) / 1260.0;
     painter->translate(std::cos(angle) * radius, std::sin(angle) * radius);
 
-    // Along the ring, and never upside down.
+    // Texts run along the ring and are never upside down.
     if (sectorCount == 8) {
         switch (index) {
         case 1:
@@ -215,6 +228,12 @@ double MgDonutDialogPVStyleImpl::setPainterOrigin(QPainter *painter, int sectorC
     default:
         return -90.0;
     }
+}
+
+void MgDonutDialogPVStyleImpl::drawHighlight(QPainter *painter)
+{
+    const QImage highlight = m_images.image(highlightPath(arcCount, activeArc), deviceRatio(*painter));
+    painter->drawImage(QPoint(0, 0), highlight);
 }
 
 void MgDonutDialogPVStyleImpl::drawLabelOf(QPainter *painter, int index, int cutLength) const

@@ -15,7 +15,7 @@ namespace {
 // A drag is longer than this, in pixels across plus down.
 constexpr int kDragThreshold = 20;
 
-// Asked in this order, and no further than the first that says so.
+// Asks in this order and stops at the first that is true.
 bool isSuppressed(const CHxHitTestInfo &hit)
 {
     return hit.IsModalWindowOpen() || hit.IsPopupOpen() || hit.IsMouseGrabbed()
@@ -23,7 +23,7 @@ bool isSuppressed(const CHxHitTestInfo &hit)
         || hit.IsViewBlocked();
 }
 
-// The main window, or the desktop in its place.
+// The main window, or the desktop if there is none.
 QWidget *overlayParent()
 {
     CHxSystemServices *services = GetHxSystemServices();
@@ -84,7 +84,7 @@ void MgMouseGestureTracker::Update(CHxTrackerContext *, CHxHitTestInfo *hit)
     overlay()->TryStart(pressGlobalPoint);
     if (!overlay()->JustStopped())
         return;
-    // Read before the host is told of the end, in case it takes the ring away then.
+    // Read before the host learns of the end, because it may destroy the ring then.
     const bool accepted = overlay()->accepted;
     const qint16 sector = overlay()->getActiveArc();
     tracking = false;
@@ -117,10 +117,10 @@ void MgMouseGestureTracker::windUpOverlay(const CHxHitTestInfo &hit)
     CHxDocument *document = hit.GetDocument();
     const QPoint corner(pressPoint.x() - ring->getSize().width() / 2,
                         pressPoint.y() - ring->getSize().height() / 2);
-    // The active document's view, although another document may be handed on: meant.
+    // The active document's view is meant, although another document may be handed on.
     CHxDocument *active = ACTIVE_DOCUMENT();
     const QWidget *view = active ? active->GetViewWidget() : nullptr;
-    // Without a view there is no place to open at; a later drag may find one.
+    // Without a view there is no place to open at. A later drag may find one.
     if (!view)
         return;
     ring->move(view->mapToGlobal(corner));

@@ -5,8 +5,8 @@
 
 namespace launcher {
 
-// What came of a task: what to print, or one line that says why it could not be done. A
-// task that could not be done has changed nothing.
+// The result of a task: what to print, or one line that says why it could not be done. A task that
+// could not be done has changed nothing.
 struct Outcome
 {
     QByteArray output;

@@ -1,7 +1,7 @@
 #include "module/CHxGestureCommand.h"
 
+#include "bindings/HostCall.h"
 #include "dialog/MgDonutDialogManager.h"
-#include "module/HostCall.h"
 #include "sdk/chx/CHxMainFrame.h"
 #include "sdk/chx/CHxSystemServices.h"
 #include "sdk/QtBridge.h"

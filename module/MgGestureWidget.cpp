@@ -1,6 +1,6 @@
 #include "module/MgGestureWidget.h"
 
-#include "module/HostCall.h"
+#include "bindings/HostCall.h"
 #include "sdk/chx/CHxDocument.h"
 #include "sdk/chx/CHxDocumentManager.h"
 #include "sdk/chx/CHxInputPointManager.h"

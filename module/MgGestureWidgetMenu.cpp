@@ -1,7 +1,7 @@
 // The module's entry in the host's Tools menu.
 
+#include "bindings/HostCall.h"
 #include "bindings/MgDonutDataContainer.h"
-#include "module/HostCall.h"
 #include "module/MgGestureWidget.h"
 #include "sdk/chx/CHxSystemServices.h"
 #include "sdk/chx/CHxUICommandItem.h"

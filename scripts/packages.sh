@@ -3,21 +3,22 @@
 build_packages=(
   g++ cmake ninja-build
   qtbase5-dev
-  libdxflib-dev libxcb1-dev
+  libdxflib-dev libx11-dev libxcb1-dev
 )
 desktop_packages=(
   xvfb openbox picom kwin-x11 xfwm4 dbus-daemon x11-utils x11-xserver-utils xdotool imagemagick python3
-  libx11-dev libxtst-dev
+  libxtst-dev
   fonts-dejavu-core qt5-style-plugins
 )
-# The window managers that only ./test --desks runs.
+# What only ./test --desks needs: window managers, Wayland sessions and their input.
 desk_packages=(
   marco mate-desktop-common mate-settings-daemon-common mutter icewm i3-wm awesome fluxbox
-  tigervnc-standalone-server
+  tigervnc-standalone-server kwin-wayland sway xwayland x11-xkb-utils python3-dbus
 )
 test_packages=(
-  qt6-base-dev
+  qt6-base-dev qtbase5-private-dev qt6-base-private-dev
   librapidcheck-dev poppler-utils binutils file fonts-wine python3-jsonschema
+  breeze-icon-theme libqt5svg5 libqt6svg6
   git dpkg-dev debhelper lintian appstream desktop-file-utils pkg-config
 )
 

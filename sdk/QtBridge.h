@@ -7,7 +7,9 @@
 #include <QAction>
 #include <QApplication>
 #include <QEnterEvent>
+#include <QIcon>
 #include <QMouseEvent>
+#include <QPixmap>
 #include <QStyleOptionViewItem>
 #include <QWidget>
 
@@ -176,6 +178,26 @@ template <class Event> [[nodiscard]] std::unique_ptr<Event> copyOf(const Event &
     return std::make_unique<Event>(event);
 #else
     return std::unique_ptr<Event>(event.clone());
+#endif
+}
+
+// The icon's pixmap, Normal and Off, of at most `size` in pixels of a widget, for a device with
+// `ratio` pixels for each of them. Its device pixel ratio is lower than `ratio` if the icon has
+// no image that large.
+[[nodiscard]] inline QPixmap pixmapOf(const QIcon &icon, const QSize &size, qreal ratio)
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    // Qt 5 multiplies by the application's ratio itself, but only where a program asks for it.
+    const qreal factor = QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps)
+                           ? ratio / qApp->devicePixelRatio()
+                           : ratio;
+    QPixmap pixmap = icon.pixmap(size * factor, QIcon::Normal, QIcon::Off);
+    const qreal across = qreal(pixmap.width()) / size.width();
+    const qreal down = qreal(pixmap.height()) / size.height();
+    pixmap.setDevicePixelRatio(qMax(qreal(1), qMin(ratio, qMax(across, down))));
+    return pixmap;
+#else
+    return icon.pixmap(size, ratio, QIcon::Normal, QIcon::Off);
 #endif
 }
 

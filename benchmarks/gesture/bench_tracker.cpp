@@ -1,4 +1,4 @@
-// What an update costs the host while there is no gesture, beside the virtual calls alone.
+// What an update costs the host while no gesture is on. The baseline is the virtual call alone.
 
 #include "bindings/MgDonutDataContainer.h"
 #include "gesture/MgMouseGestureTracker.h"
@@ -11,7 +11,7 @@
 
 namespace {
 
-// Says no to everything, as it is when the pointer just moves.
+// Answers no to everything, as when the pointer just moves.
 class QuietHitTest : public CHxHitTestInfo
 {
 public:
@@ -46,7 +46,7 @@ void update(benchmark::State &state, CHxTracker &tracker)
     QuietHitTest hit;
     CHxTracker *called = &tracker;
     for (auto _ : state) {
-        benchmark::DoNotOptimize(called); // or the call would not be virtual
+        benchmark::DoNotOptimize(called); // keeps the call virtual
         called->Update(nullptr, &hit);
     }
 }

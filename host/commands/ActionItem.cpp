@@ -1,5 +1,6 @@
 #include "host/commands/ActionItem.h"
 
+#include "host/commands/ContrastIcon.h"
 #include "host/commands/RememberedIcon.h"
 #include "host/window/Captions.h"
 #include "host/window/EntryAction.h"
@@ -10,14 +11,14 @@
 namespace gesturewidget {
 namespace {
 
-// Opens what Qt keeps for those who derive.
+// Gives access to a protected member of Qt.
 struct WidgetActionAccess : QWidgetAction
 {
     using QWidgetAction::createdWidgets;
 };
 
-// Whether menus and toolbars show a widget in the action's place. Some programs derive all
-// their actions from QWidgetAction, most of which never bring one and are common entries.
+// True if menus and toolbars show a widget in place of the action. Some programs derive all their
+// actions from QWidgetAction although most of them never have a widget.
 bool bringsWidget(const QAction *action)
 {
     const auto *widgetAction = qobject_cast<const QWidgetAction *>(action);
@@ -40,7 +41,7 @@ void ActionItem::recall(const RememberedCommand &command)
 {
     m_caption = command.caption.isEmpty() ? m_key : command.caption;
     m_tip = command.tip;
-    m_icon = iconFromPng(command.icon);
+    setIcon(iconFromPng(command.icon));
     group = command.group;
     isInToolBar = command.isInToolBar;
 }
@@ -66,7 +67,16 @@ void ActionItem::read()
         m_tipSource = tip;
         m_tip = plainTip(tip);
     }
-    m_icon = m_action->icon();
+    setIcon(m_action->icon());
+}
+
+// Most changes of an action do not change its icon: keep the halo that was drawn.
+void ActionItem::setIcon(const QIcon &icon)
+{
+    if (icon.cacheKey() == m_icon.cacheKey())
+        return;
+    m_icon = icon;
+    m_contrastIcon = contrastIcon(icon);
 }
 
 bool ActionItem::isCommand(const QAction *action)

@@ -11,8 +11,7 @@
 namespace gesturewidget {
 namespace {
 
-// Milliseconds. A quarter of the time from one picture on screen to the next, and then time
-// enough for the program itself.
+// Milliseconds: a quarter of a frame, then enough time for the program itself.
 constexpr int kDrawingTime = 4;
 constexpr int kDrawingPause = 20;
 
@@ -39,8 +38,8 @@ CatalogueMemory::CatalogueMemory(CommandCatalogue &catalogue, const QString &fil
     connect(&m_quiet, &QTimer::timeout, this, &CatalogueMemory::look);
     m_drawing.setInterval(kDrawingPause);
     connect(&m_drawing, &QTimer::timeout, this, &CatalogueMemory::draw);
-    // Started only once, by the first of many changes: a program that never comes to rest
-    // would put it off for ever.
+    // Only the first of many changes starts the timer: a program that never rests would put it off
+    // for ever.
     connect(&m_catalogue, &CommandCatalogue::menusChanged, this, [this] {
         if (m_isStarted && !m_quiet.isActive())
             m_quiet.start();
@@ -79,7 +78,7 @@ void CatalogueMemory::look()
         m_compared.insert(identifier);
         RememberedCommand command = commandOf(*item);
         const RememberedCommand known = m_known.value(identifier);
-        const QIcon icon = item->GetLargeIcon();
+        const QIcon icon = item->icon();
         const bool isIconNew = known.icon.isEmpty() && !icon.isNull();
         command.icon = known.icon;
         if (isIconNew || !(command == known))
@@ -119,7 +118,7 @@ void CatalogueMemory::write(const QStringList &outlived)
     for (const News &news : m_news)
         commands.append(news.command);
     m_quiet.setInterval(std::min(2 * m_quiet.interval(), kLongestQuietTime));
-    // What cannot be written now is tried again with the next news.
+    // If writing fails, the next news tries again.
     if (m_file.merge(commands, outlived)) {
         for (const RememberedCommand &command : std::as_const(commands))
             m_known.insert(command.identifier, command);

@@ -14,37 +14,36 @@ namespace gesturewidget {
 
 class CommandCatalogue;
 
-// Carries a program's commands from start to start: gives the catalogue those of the file,
-// and writes to the file those that the program shows for the first time.
+// Keeps a program's commands from start to start: gives the catalogue the commands of the file,
+// and writes the commands to the file that the program shows for the first time.
 //
-// The person is not to notice. So it waits until the menus have been quiet for a while,
-// draws the icons of new commands a few at a time, while no button is down, and then writes
-// all of them at once. A start that shows nothing new writes nothing. A command is compared
-// with what the file says of it once, when it is first seen: programs change captions such
-// as "Undo Line" all the time.
+// The person must not notice. So this waits until the menus have been quiet for a while, draws the
+// icons of new commands a few at a time while no button is pressed, and then writes everything at
+// once. A start without new commands writes nothing. A command is compared with the file only when
+// it is first seen, because programs change captions such as "Undo Line" all the time.
 class CatalogueMemory : public QObject
 {
     Q_OBJECT
 
 public:
-    // To be made before anything is read from the catalogue, which must outlive it.
+    // Create this before anything is read from the catalogue. The catalogue must outlive it.
     CatalogueMemory(CommandCatalogue &catalogue, const QString &file);
     ~CatalogueMemory() override;
 
-    // The program's menus are complete. Before this nothing is written.
+    // Call this when the program's menus are complete. Nothing is written before.
     void start();
-    // Looks no more, and writes what it has seen and not written yet, without the icons that
-    // are not drawn. The main window may be half destroyed.
+    // Stops looking, and writes what was seen but not written yet, without icons that are not
+    // drawn yet. The main window may be half destroyed.
     void stop();
 
-    // Milliseconds from a change of the menus until they are looked at. Programs change
-    // hundreds of entries in a row. Doubles with each time that something was written: there
-    // are menus that show the time of day.
+    // Milliseconds from a change of the menus until they are read, because programs change
+    // hundreds of entries in a row. The time doubles after each writing, because some menus show
+    // the time of day.
     static constexpr int kQuietTime = 250;
     static constexpr int kLongestQuietTime = 10000;
 
 Q_SIGNALS:
-    // What the menus show has been compared with the file, and is in it if it can be.
+    // The menus have been compared with the file, and new commands are written if possible.
     void settled();
 
 private:
@@ -62,7 +61,7 @@ private:
     CatalogueFile m_file;
     QHash<QString, RememberedCommand> m_known; // as the file has them, by identifier
     QSet<QString> m_compared; // identifiers
-    std::vector<News> m_news; // what the file does not say yet
+    std::vector<News> m_news; // not in the file yet
     std::size_t m_drawn = 0; // of those
     QTimer m_quiet;
     QTimer m_drawing;

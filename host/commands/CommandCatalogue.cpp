@@ -37,9 +37,13 @@ CommandCatalogue::CommandCatalogue(QMainWindow *window, const QHash<QString, QSt
     }
     connect(&m_watcher, &MenuChanges::structureChanged, this, [this] {
         m_stale = true;
+        prepareSoon();
         Q_EMIT menusChanged();
     });
     connect(&m_watcher, &MenuChanges::actionChanged, this, &CommandCatalogue::onActionChanged);
+    m_preparation.setSingleShot(true);
+    m_preparation.setInterval(kPreparationTime);
+    connect(&m_preparation, &QTimer::timeout, this, &CommandCatalogue::prepare);
 }
 
 CommandCatalogue::~CommandCatalogue() = default;
@@ -112,7 +116,7 @@ void CommandCatalogue::remember(const QVector<RememberedCommand> &commands)
                     command.command.isEmpty() ? command.identifier : command.command);
     for (const RememberedCommand &command : commands) {
         QString key = keys.value(command.identifier);
-        // What the profile says may have changed since then, and counts.
+        // The profile may have changed since then, and it decides.
         const QStringList wellKnownKeys = m_wellKnown.value(command.identifier);
         if (!wellKnownKeys.isEmpty() && !wellKnownKeys.contains(key))
             key = wellKnownKeys.first();
@@ -163,6 +167,7 @@ void CommandCatalogue::onActionChanged(QAction *action)
 {
     if (qobject_cast<EntryAction *>(action))
         return;
+    prepareSoon();
     const ActionItem *item = m_byAction.value(action);
     if (item && item->isPresent && ActionItem::isCommand(action)) {
         m_changedActions.insert(action);
@@ -171,6 +176,20 @@ void CommandCatalogue::onActionChanged(QAction *action)
     // A separator, a menu, or something that has just become a command or ceased to be one.
     m_stale = true;
     Q_EMIT menusChanged();
+}
+
+// Started by the first of many changes only: a program that never rests would put it off for
+// ever, and starting a timer costs more than all else that a change costs here.
+void CommandCatalogue::prepareSoon()
+{
+    if (m_wasRead && !m_preparation.isActive())
+        m_preparation.start();
+}
+
+void CommandCatalogue::prepare()
+{
+    update();
+    Q_EMIT prepared();
 }
 
 void CommandCatalogue::update()
@@ -190,6 +209,7 @@ void CommandCatalogue::update()
 void CommandCatalogue::scan()
 {
     m_stale = false;
+    m_wasRead = true;
     for (const auto &item : m_items)
         item->wasPresent = std::exchange(item->isPresent, false);
     m_met.reserve(m_items.size());
@@ -202,7 +222,7 @@ void CommandCatalogue::scan()
         const QString title = plainCaption(bar->windowTitle());
         walk(bar, {title, title, true});
     }
-    // After all that are known: only now is it clear which of their keys are free.
+    // Newcomers come last: only now is it clear which keys are free.
     if (m_guesses)
         guess();
     for (const Newcomer &newcomer : m_newcomers)
@@ -212,6 +232,7 @@ void CommandCatalogue::scan()
     m_met.clear();
     m_newcomers.clear();
     m_guessed.clear();
+    m_nextNumbers.clear();
 }
 
 void CommandCatalogue::guess()
@@ -222,6 +243,8 @@ void CommandCatalogue::guess()
             || (m_byName.contains(identifier) && !expectedFor(identifier));
     };
     wanted.erase(std::remove_if(wanted.begin(), wanted.end(), isSettled), wanted.end());
+    if (wanted.isEmpty())
+        return;
     QVector<QAction *> actions;
     for (const Newcomer &newcomer : m_newcomers) {
         if (m_byName.value(newcomer.action->objectName()) == nullptr) // else it comes back
@@ -275,8 +298,7 @@ void CommandCatalogue::meet(QAction *action, const Place &place)
     m_met.push_back(item);
 }
 
-// Gives a command to an action that has none: the one that an action with this key had
-// before, or a new one.
+// Gives an action its command: the one that an action with this key had before, or a new one.
 void CommandCatalogue::admit(const Newcomer &newcomer)
 {
     if (const ActionItem *item = m_byAction.value(newcomer.action);
@@ -286,9 +308,15 @@ void CommandCatalogue::admit(const Newcomer &newcomer)
     QString key = name.isEmpty() ? newcomer.path : name;
     bool isTaken = false;
     ActionItem *item = reusable(key, &isTaken);
-    for (int number = 1; !item && isTaken; ++number) {
-        key = number == 1 ? newcomer.path : QStringLiteral("%1 (%2)").arg(newcomer.path).arg(number);
-        item = reusable(key, &isTaken);
+    if (!item && isTaken) {
+        // Lists repeat a caption thousands of times: the numbers that this scan has found taken
+        // are not tried again.
+        int &number = m_nextNumbers[newcomer.path];
+        for (; !item && isTaken; ++number) {
+            key = number == 0 ? newcomer.path
+                              : QStringLiteral("%1 (%2)").arg(newcomer.path).arg(number + 1);
+            item = reusable(key, &isTaken);
+        }
     }
     const QString wellKnown = wellKnownFor(newcomer, key);
     if (!item) {
@@ -312,8 +340,8 @@ void CommandCatalogue::admit(const Newcomer &newcomer)
     m_met.push_back(item);
 }
 
-// The command of that key whose action is not there; null when there is none, and then
-// `isTaken` says whether the key is in use.
+// Returns the command of that key if its action is gone. Returns null otherwise; `isTaken` then
+// says if the key is in use.
 ActionItem *CommandCatalogue::reusable(const QString &key, bool *isTaken) const
 {
     if (key.isEmpty() || !m_wellKnown.value(key, {key}).contains(key)) {
@@ -325,15 +353,15 @@ ActionItem *CommandCatalogue::reusable(const QString &key, bool *isTaken) const
     return item && item->key() == key && !item->isPresent ? item : nullptr;
 }
 
-// The well-known identifier of an action by the profile, else as it was guessed; empty if
-// it has none.
+// Returns the action's well-known identifier by the profile, else by a guess; empty if there is
+// none.
 QString CommandCatalogue::wellKnownFor(const Newcomer &newcomer, const QString &key) const
 {
     const QString byPath = m_identifiers.value(newcomer.path, m_guessed.value(newcomer.action));
     return m_identifiers.value(key, byPath);
 }
 
-// The command of that identifier while it is expected only, of whatever action; null
+// Returns the command of that identifier if it is only expected and has had no action; null
 // otherwise.
 ActionItem *CommandCatalogue::expectedFor(const QString &identifier) const
 {

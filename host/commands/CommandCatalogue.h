@@ -7,6 +7,7 @@
 #include <QHash>
 #include <QObject>
 #include <QSet>
+#include <QTimer>
 
 #include <memory>
 #include <vector>
@@ -15,80 +16,86 @@ class QMainWindow;
 
 namespace gesturewidget {
 
-// Every command that the program has offered since it started: the actions of its menus
-// and of its toolbars, each once.
+// Every command that the program has offered since it started: the actions of its menus and
+// toolbars, each once.
 //
-// A command's key finds its action again at the next start. It is the action's object
-// name; without one, or when another action has that name already, the captions on the
-// way to it, such as "File/Export/Drawing...". The identifier is the key too, unless the
-// program's profile gives the action a well-known one.
+// A command's key finds its action again at the next start. The key is the action's object name.
+// If there is none, or another action has the same name, the key is the path of captions to the
+// action, such as "File/Export/Drawing...". The identifier is the key too, unless the program's
+// profile gives the action a well-known identifier.
 //
-// A command is kept when its action goes, and taken up again by an action with the same
-// key: programs rebuild their menus, and a binding must outlive that. For the same reason
-// commands can be expected that no menu has had yet, and remembered from earlier starts.
+// A command is kept when its action is gone, and an action with the same key takes it over again:
+// programs rebuild their menus, and a binding must outlive that. For the same reason commands can
+// be expected before a menu has them, and remembered from earlier starts.
 //
-// Of the remembered ones without an object name some are the entries of lists: documents
-// that were opened last, windows. They are not offered again while the menu that had them
-// is there without them.
+// Some remembered commands without an object name are entries of lists, such as recent documents
+// and windows. They are not offered while their menu is shown without them.
 //
-// Reading is cheap: the menus are walked again only after they have changed.
+// Reading is cheap: the menus are walked again only after they have changed. Some time after a
+// change this happens by itself, so that a gesture does not have to wait for it.
 class CommandCatalogue : public QObject
 {
     Q_OBJECT
 
 public:
-    // `wellKnown`: identifier to keys, see ProgramProfile.
+    // `wellKnown` maps identifiers to keys, see ProgramProfile.
     CommandCatalogue(QMainWindow *window, const QHash<QString, QStringList> &wellKnown);
     ~CommandCatalogue() override;
 
-    // The commands by top-level menu in the order of the menu bar, then by toolbar. Both
-    // groups and commands stay valid as long as the catalogue does.
+    // Returns the commands by top-level menu, in the order of the menu bar, then by toolbar.
+    // Groups and commands live as long as the catalogue.
     [[nodiscard]] const std::vector<std::unique_ptr<CommandGroup>> &groups();
-    // The command with that identifier or key, also one that is gone; null if none.
+    // Returns the command with that identifier or key, also if its action is gone; null if there
+    // is none.
     [[nodiscard]] ActionItem *find(const QString &name);
-    // The command to run for that identifier or key: the first of the keys of a well-known
-    // identifier whose action can be used at the moment; otherwise as find().
+    // Returns the command to run for that identifier or key: for a well-known identifier, the
+    // first of its keys whose action is usable at the moment; otherwise the same as find().
     [[nodiscard]] ActionItem *findUsable(const QString &name);
-    // Offers a command from now on in any case, also while no action stands for it. The
-    // caption is for one that nothing is known of yet.
+    // Offers a command from now on in every case, also without an action. `caption` is used if
+    // nothing is known about the command.
     void expect(const QString &identifier, const QString &caption);
-    // Offers the commands that the program had when it ran before; they keep the identifiers
-    // that they had. To be called before anything else is known.
+    // Offers the commands from an earlier start, with the identifiers that they had. Call this
+    // before anything else is known.
     void remember(const QVector<RememberedCommand> &commands);
-    // From now on guesses which actions the well-known identifiers stand for that the
-    // profile leaves out. To be called before anything is read: a command keeps the
-    // identifier that it was first seen with.
+    // Starts guessing which actions the well-known identifiers stand for that the profile leaves
+    // out. Call this before anything is read, because a command keeps its first identifier.
     //
-    // They are all expected at first: many a program shows a part of its menus until a
-    // drawing is open, and what is not offered leaves its direction for good.
+    // All of them are expected at first: many programs show some menus only when a drawing is
+    // open, and a direction loses a command that is not offered.
     void guessWellKnown();
-    // The menus are as complete as they get: the well-known commands that no action was
-    // found for are not offered, until one is.
+    // The menus are complete: well-known commands without an action are not offered until they
+    // have one.
     void endGuessing();
-    // Why an action was taken for that identifier; empty unless it was guessed.
+    // Returns the reason for a guess; empty if the identifier was not guessed.
     [[nodiscard]] QString reasonFor(const QString &identifier) const
     {
         return m_reasons.value(identifier);
     }
-    // The command that stands for the action; null for separators, menus and strangers.
+    // Returns the action's command; null for separators, menus and unknown actions.
     [[nodiscard]] ActionItem *itemOf(const QAction *action);
     [[nodiscard]] bool contains(const CHxUICommandItem *item) const;
-    // All commands in the order of first sight, those that are not offered as well.
+    // Returns all commands in the order in which they were first seen, also those that are not
+    // offered.
     [[nodiscard]] const std::vector<std::unique_ptr<ActionItem>> &items();
-    // Whether a remembered command is taken for the entry of a list, which is gone.
+    // True if a remembered command is probably the entry of a list and no longer there.
     [[nodiscard]] bool isOutlived(const ActionItem &item) const;
-    // Whether the top-level menu or the toolbar of that name is there at the moment.
+    // True if the top-level menu or toolbar of that name is shown at the moment.
     [[nodiscard]] bool isShown(const QString &group) const { return m_places.contains(group); }
     [[nodiscard]] MenuChanges &watcher() { return m_watcher; }
 
-    // Walks the menus now if they have changed; every reading does so by itself.
+    // Walks the menus now if they have changed. Every reading does this.
     void update();
-    // Walks the menus again at the next reading, whether or not they have changed.
+    // Milliseconds from the first of many changes until they are read. Nothing is read by itself
+    // before the first reading, because guesses need complete menus.
+    static constexpr int kPreparationTime = 250;
+    // Makes the next reading walk the menus, also if they have not changed.
     void invalidate() { m_stale = true; }
 
 Q_SIGNALS:
-    // The menus' structure has changed; emitted at once, in the middle of the change.
+    // The structure of the menus has changed. Emitted in the middle of the change.
     void menusChanged();
+    // The changes are read. Emitted from the event loop, kPreparationTime after a change.
+    void prepared();
 
 private:
     // A menu, menu bar or toolbar.
@@ -99,7 +106,7 @@ private:
         bool isInToolBar = false;
     };
 
-    // An action that a scan met and no command stands for yet, with its place.
+    // An action that a scan has found and that has no command yet, with its place.
     struct Newcomer
     {
         QAction *action;
@@ -109,6 +116,8 @@ private:
     };
 
     void onActionChanged(QAction *action);
+    void prepareSoon();
+    void prepare();
     void scan();
     void walk(QWidget *widget, const Place &place);
     void meet(QAction *action, const Place &place);
@@ -135,12 +144,15 @@ private:
     QHash<QString, QString> m_reasons; // of guesses, by identifier
     bool m_guesses = false;
     bool m_stale = true;
+    bool m_wasRead = false;
+    QTimer m_preparation;
 
     // Only during a scan.
     QSet<const QWidget *> m_visited;
     std::vector<ActionItem *> m_met; // in the order of the menus
     std::vector<Newcomer> m_newcomers;
     QHash<const QAction *, QString> m_guessed; // newcomers, to identifier
+    QHash<QString, int> m_nextNumbers; // of equal captions, by path
 };
 
 } // namespace gesturewidget

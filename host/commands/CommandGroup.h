@@ -8,7 +8,7 @@
 
 namespace gesturewidget {
 
-// A named list of commands, none of which it owns.
+// A named list of commands. It owns none of them.
 class CommandGroup : public CHxUICommandGroup
 {
 public:

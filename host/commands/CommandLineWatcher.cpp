@@ -23,7 +23,7 @@ CommandLineWatcher::CommandLineWatcher(const QString &className, const CommandSt
     , m_stack(stack)
     , m_run(std::move(run))
 {
-    // Of the application, because the line may be made at any time, and made anew.
+    // The application is watched because the line may be created, and created again, at any time.
     if (!m_className.isEmpty() && QCoreApplication::instance())
         QCoreApplication::instance()->installEventFilter(this);
 }

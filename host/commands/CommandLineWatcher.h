@@ -12,16 +12,15 @@ namespace gesturewidget {
 
 class CommandStack;
 
-// Makes the commands of modules known to the program's own command line: when one's name
-// is typed there and Return is pressed, the command runs and the program never sees the
-// name. Everything else goes to the program untouched.
+// Makes module commands work in the program's own command line: when somebody types one and
+// presses Return, it runs, and the program does not get it. All other input goes to the program.
 class CommandLineWatcher : public QObject
 {
     Q_OBJECT
 
 public:
-    // `className` is the class, or a base class, of the line edit in which commands are
-    // typed; empty watches nothing. `run` is given the name as it was typed.
+    // `className` is the class, or a base class, of the command line's line edit; empty watches
+    // nothing. `run` gets the typed name.
     CommandLineWatcher(const QString &className, const CommandStack &stack,
                        std::function<void(const QString &name)> run);
     ~CommandLineWatcher() override;

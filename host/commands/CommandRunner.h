@@ -28,12 +28,12 @@ public:
                   CHxDocumentManager *documents);
     ~CommandRunner() override;
 
-    // See CHxSystemServices::RunCommand(). Each "^C" of a macro is an Escape for the active
-    // drawing view. What cannot be run is named in the status bar; the result then says
-    // that nothing was found.
+    // See CHxSystemServices::RunCommand(). Each "^C" of a macro sends Escape to the active drawing
+    // view. If a command cannot be run, the status bar says so and the result says that nothing
+    // was found.
     CHxCommandResultPtr run(const QString &command, bool wait);
 
-    // Runs a command of the command stack, when control is back in the event loop.
+    // Runs a command of the command stack from the event loop.
     void runStackCommand(const QString &name);
 
 private:

@@ -14,11 +14,11 @@ public:
     CommandStack();
     ~CommandStack() override;
 
-    // Null and a command that is there already are ignored.
+    // Ignores null and a command that was added before.
     void addCommand(OdEdCommand *command) override;
     void removeCommand(OdEdCommand *command) override;
-    // Letter case and one leading underscore do not matter; of two commands with one name
-    // the one added last is found.
+    // Ignores letter case and one leading underscore. If two commands have the same name, the one
+    // added last is found.
     [[nodiscard]] OdEdCommand *lookupCommand(const OdString &name) const override;
 
 private:

@@ -1,6 +1,7 @@
 #include "host/commands/ExpectedCommands.h"
 
 #include "host/commands/WellKnownGuess.h"
+#include "host/files/SettingsNames.h"
 
 namespace gesturewidget {
 namespace {
@@ -22,7 +23,7 @@ QMap<QString, QString> expectedCommands(const QHash<QString, QStringList> &wellK
     for (auto it = wellKnown.begin(); it != wellKnown.end(); ++it)
         expected.insert(it.key(), captionFor(it.key()));
     // Bindings are the settings whose keys are numbers, one for each direction.
-    const QString section = QStringLiteral("GestureWidget/");
+    const QString section = settingsnames::moduleSection() + QLatin1Char('/');
     for (auto it = settings.begin(); it != settings.end(); ++it) {
         bool isBinding = false;
         if (it.key().startsWith(section))

@@ -8,14 +8,13 @@
 
 namespace gesturewidget {
 
-// The commands that a program must be taken to have although no menu of it may show them
-// yet: a binding to a command that is not offered is lost, and programs that change their
-// menus with the task begin with a few of them only.
+// Returns the commands that a program must be taken to have even if no menu shows them yet, as
+// identifier to caption: the well-known ones of the profile, and those that the person has bound.
+// A direction loses a command that is not offered, and programs that change their menus with the
+// task show only a few at first.
 //
-// Those are the well-known ones of the profile, and whatever the person has bound before.
-//
-// `wellKnown`: identifier to keys, see ProgramProfile. `settings`: what the program's
-// settings hold. Returns identifier to caption.
+// `wellKnown` maps identifiers to keys, see ProgramProfile. `settings` is what the program's
+// settings hold.
 [[nodiscard]] QMap<QString, QString> expectedCommands(const QHash<QString, QStringList> &wellKnown,
                                                       const SettingsFile::Values &settings);
 

@@ -12,8 +12,8 @@ namespace {
 // A small file can claim to be a picture of gigabytes.
 constexpr quint32 kMaximalSide = 256; // pixels
 
-// Whether it begins as a PNG file of reasonable size does. Asked before the reader is, which
-// says on standard error what it does not like.
+// True if the file begins as a PNG file of reasonable size. This is checked first, because Qt's
+// reader prints its complaints to standard error.
 bool isAcceptable(const QByteArray &file)
 {
     const auto sideAt = [&file](int place) { return qFromBigEndian<quint32>(file.constData() + place); };
@@ -30,7 +30,7 @@ QPixmap pixmapFromPng(const QByteArray &file)
     return pixmap;
 }
 
-// Programs have a thousand commands, of which eight are painted.
+// Reads the file when it is painted: programs have a thousand commands, and eight are painted.
 class LazyIconEngine : public QIconEngine
 {
 public:

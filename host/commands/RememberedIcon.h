@@ -6,16 +6,15 @@
 // Icons as files, for commands that are remembered.
 namespace gesturewidget {
 
-// Side in pixels of the square that a remembered icon fits in. What the ring shows is no
-// larger.
+// Pixels: the side of the square of a remembered icon. The ring shows no larger one.
 inline constexpr int kRememberedIconSize = 32;
 
-// The icon as a PNG file, in its usual state; empty for one that shows nothing. May be slow,
-// a millisecond and more for a drawn icon.
+// Returns the icon as a PNG file, in its usual state; empty if it shows nothing. May take more
+// than a millisecond for a drawn icon.
 [[nodiscard]] QByteArray iconToPng(const QIcon &icon);
 
-// The way back. The file is looked at only when the icon is painted, and what is no picture
-// then, or an unreasonably large one, shows nothing. Null for an empty file.
+// Returns the icon of a PNG file; null for an empty file. The file is read when the icon is first
+// painted. If it is no picture or an unreasonably large one, the icon shows nothing.
 [[nodiscard]] QIcon iconFromPng(const QByteArray &file);
 
 } // namespace gesturewidget

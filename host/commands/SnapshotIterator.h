@@ -8,8 +8,7 @@
 
 namespace gesturewidget {
 
-// Walks the objects that a list held when the walk began, so that the list may change
-// meanwhile.
+// Walks the objects that a list held at the beginning. The list may change meanwhile.
 template <class T> class SnapshotIterator : public CHxIterator<T>
 {
 public:

@@ -336,10 +336,11 @@ bool isUnspaced(const QString &word)
 
 bool mentions(const QString &text, const Words &words)
 {
-    const QStringList parts = text.split(QLatin1Char(' '));
-    return std::any_of(words.begin(), words.end(), [&](const QString &word) {
-        return isUnspaced(word) ? text.contains(word) : parts.contains(word);
-    });
+    const QStringList parts = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    if (containsAny(parts, words))
+        return true;
+    return std::any_of(words.begin(), words.end(),
+                       [&text](const QString &word) { return isUnspaced(word) && text.contains(word); });
 }
 
 // What speaks for one identifier.
@@ -363,10 +364,10 @@ struct Signals
         };
         hasName = std::any_of(look.nameWords.begin(), look.nameWords.end(), isWord);
         hasCaption = isWord(look.captionWords);
-        isMentioned =
-            mentions(look.captionWords, signs.mentions)
-            || std::any_of(look.nameWords.begin(), look.nameWords.end(),
-                           [&signs](const QString &name) { return mentions(name, signs.mentions); });
+        const auto isMention = [&signs](const QString &text) { return mentions(text, signs.mentions); };
+        isMentioned = (hasIcon || !shortcut.isEmpty()) // asked for beside these only
+                   && (isMention(look.captionWords)
+                       || std::any_of(look.nameWords.begin(), look.nameWords.end(), isMention));
         const bool isInFirstMenu = isFileCommand && look.places.contains(0);
         isElsewhere = !look.places.isEmpty() && !isInMenu && !isInFirstMenu
                    && !containsAny(look.menusAbove, signs.menus);

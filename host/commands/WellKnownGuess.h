@@ -22,20 +22,20 @@ struct WellKnownGuess
 {
     QString identifier;
     QAction *action = nullptr;
-    // How much speaks for it; more than 0.
+    // The weight of the signs; more than 0.
     int weight = 0;
-    // One line for a person, such as: icon "document-open", caption "Open".
+    // The signs, one line for a person, such as: icon "document-open", caption "Open".
     QString reason;
 
-    // The identifiers that can be guessed, sorted.
+    // Returns the identifiers that can be guessed, sorted.
     [[nodiscard]] static QStringList identifiers();
-    // What a command of that identifier is called where the program does not say; empty
-    // for an identifier that is not well known.
+    // Returns a caption for that identifier, for the time when the program shows none; empty if
+    // the identifier is not well known.
     [[nodiscard]] static QString captionOf(const QString &identifier);
 
-    // For each of `wanted` the action that most speaks for; of equals the first in
-    // `actions`. An action stands for one identifier at most. What nothing speaks for is
-    // left out. `actions` holds no nulls.
+    // Returns the best action for each of `wanted`; among equals the first in `actions`. An action
+    // gets one identifier at most. Identifiers without any sign are left out. `actions` holds no
+    // nulls.
     [[nodiscard]] static QVector<WellKnownGuess> among(const QVector<QAction *> &actions,
                                                        const QStringList &wanted = identifiers());
 };

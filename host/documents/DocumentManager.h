@@ -15,37 +15,37 @@ class CHxDocumentManagerReactor;
 
 namespace gesturewidget {
 
-// One document for each drawing view. A document is closed when its view is destroyed,
-// and the object is kept until this one goes.
+// Keeps one document for each drawing view. A document is closed when its view is destroyed; the
+// object lives as long as the manager.
 class DocumentManager : public QObject, public CHxDocumentManager
 {
     Q_OBJECT
 
 public:
     DocumentManager();
-    // Tells nobody: whoever listens was told by closeAll() or has no interest any more.
+    // Sends no notification: reactors were told by the session's end.
     ~DocumentManager() override;
 
     void AddReactor(CHxDocumentManagerReactor *reactor) override;
     void RemoveReactor(CHxDocumentManagerReactor *reactor) override;
     // Walks the documents that were open when the walk began and still are.
     [[nodiscard]] CHxDocumentIteratorPtr NewIterator() override;
-    // The document whose view was last pressed or activated. When that is closed, the one
-    // before it that is still open; with none open the closed one stays, so that a module
-    // which asks in the middle of something still gets an answer.
+    // Returns the document whose view was pressed or activated last. When it is closed, the open
+    // one before it becomes active. If none is open, the closed one stays, because a module may
+    // ask in the middle of an operation.
     [[nodiscard]] CHxDocument *GetActiveDocument() override { return m_active; }
 
-    // Opens a document for a view, or finds the one that it has. The first document becomes
-    // the active one.
+    // Opens a document for a view, or returns the one that the view has. The first document
+    // becomes the active one.
     Document *open(QWidget *view);
     void activate(Document *document);
-    // Tells nobody anything from now on.
+    // Sends no notifications from now on.
     void dropReactors() { m_reactors.clear(); }
-    // Lets go of the stand-in widget. To be called while widgets may still be destroyed.
+    // Destroys the stand-in widget. Call this while widgets can still be destroyed.
     void releaseStandIn();
 
-    // The open document of this very widget; null when it is no view. Called for every
-    // mouse event of the program, most often for the same widget as the last time.
+    // Returns the open document of exactly this widget, or null if it is no view. This is called
+    // for every mouse event of the program, usually for the same widget as before.
     [[nodiscard]] Document *documentOf(const QObject *view) const
     {
         if (view != m_lastAsked) {
@@ -57,7 +57,7 @@ public:
     [[nodiscard]] bool isEmpty() const { return m_byView.isEmpty(); }
 
 Q_SIGNALS:
-    // The document's view is gone or going, its trackers are still there.
+    // The view is gone or about to go. The document still has its trackers.
     void documentAboutToClose(gesturewidget::Document *document);
 
 private:

@@ -20,9 +20,9 @@ public:
     void RemoveTracker(CHxTracker *tracker) override;
 
     [[nodiscard]] bool hasTrackers() const;
-    // Shows the event to every tracker in turn and lets those that are eager act.
-    // Allocates nothing; trackers may come and go meanwhile: one that went is not called
-    // any more, one that came hears of the next event.
+    // Shows the event to each tracker in turn and lets the eager ones act. Allocates nothing.
+    // Trackers may be added and removed meanwhile: a removed tracker is not called again, an added
+    // one gets the next event.
     void dispatch(CHxHitTestInfo &hit);
 
 private:

@@ -4,8 +4,8 @@
 
 namespace gesturewidget {
 
-// What a document gives out as its view once the real one is gone: a widget that takes
-// cursors, coordinates and posted events without any effect and that nothing can show.
+// The view of a document whose real view is gone: a widget that accepts cursors, coordinates and
+// posted events without effect, and that nothing can show.
 class StandInWidget : public QWidget
 {
     Q_OBJECT

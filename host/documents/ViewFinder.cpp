@@ -60,6 +60,12 @@ void ViewFinder::stop()
         application->removeEventFilter(this);
 }
 
+void ViewFinder::stopGuessing()
+{
+    if (m_guesses)
+        stop();
+}
+
 QWidget *ViewFinder::pointerWidget(QWidget *widget)
 {
     const auto *area = qobject_cast<QAbstractScrollArea *>(widget);

@@ -13,8 +13,8 @@ QT_END_NAMESPACE
 
 namespace gesturewidget {
 
-// Finds the widgets of a program that show drawings: those of certain classes, or those
-// that look like it, see ViewGuess; the ones that are there and the ones that come up later.
+// Finds the widgets that show drawings, those that exist and those that appear later: by their
+// class, or by a guess, see ViewGuess.
 class ViewFinder : public QObject
 {
     Q_OBJECT
@@ -27,18 +27,20 @@ public:
     explicit ViewFinder(const QStringList &viewClasses, bool mayGuess = false);
     ~ViewFinder() override;
 
-    // Reports every view that is there and watches for more. Called once.
+    // Reports every existing view and watches for more. Call this once.
     void start();
     void stop();
+    // Goes on looking for the classes that it was given, if there are any.
+    void stopGuessing();
 
-    // The widget that takes the pointer for `widget`: of a scroll area its viewport, else
-    // itself.
+    // Returns the widget that gets the pointer events of `widget`: the viewport of a scroll area,
+    // otherwise the widget itself.
     [[nodiscard]] static QWidget *pointerWidget(QWidget *widget);
 
     bool eventFilter(QObject *receiver, QEvent *event) override;
 
 Q_SIGNALS:
-    // The widget that takes the pointer in a view. May come more than once for one view.
+    // The widget that gets a view's pointer events. Can be emitted more than once for a view.
     void viewFound(QWidget *view);
 
 private:

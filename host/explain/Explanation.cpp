@@ -20,9 +20,9 @@
 namespace gesturewidget {
 namespace {
 
-// Milliseconds in which more that has changed goes into one report.
+// Milliseconds. Changes within this time go into one report.
 constexpr int kGatherTime = 100;
-// So many widgets that are no views are named, the largest ones.
+// At most this many widgets that are no views are named, the largest ones.
 constexpr int kMostOthers = 5;
 
 QString classOf(const QWidget *widget)
@@ -30,7 +30,7 @@ QString classOf(const QWidget *widget)
     return QString::fromLatin1(widget->metaObject()->className());
 }
 
-// Whether the widget's class is one of Qt's, as that of a widget without Q_OBJECT seems to be.
+// True if the widget's class is one of Qt's. A widget without Q_OBJECT looks like one.
 bool isOfQt(const QWidget *widget)
 {
     Dl_info info = {};
@@ -38,7 +38,7 @@ bool isOfQt(const QWidget *widget)
         && QFileInfo(QFile::decodeName(info.dli_fname)).fileName().startsWith(QLatin1String("libQt"));
 }
 
-// The widget to be judged: of a scroll area's viewport the area.
+// Returns the widget to judge: for a viewport, its scroll area.
 QWidget *judgedFor(QWidget *view)
 {
     auto *area = qobject_cast<QAbstractScrollArea *>(view->parentWidget());
@@ -50,8 +50,8 @@ QString describe(const QString &className, const QString &name)
     return name.isEmpty() ? className : QStringLiteral("%1 \"%2\"").arg(className, name);
 }
 
-// Why an action was taken for a well-known one. A guess is made once: at later starts the
-// command is remembered, and has no reason.
+// Returns why an action was taken for a well-known one. A guess is made once; at later starts the
+// command is remembered without a reason.
 QString guessReason(const ActionItem &item, const QString &identifier, const QString &known)
 {
     if (!known.isEmpty())

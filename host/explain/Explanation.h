@@ -15,8 +15,8 @@ namespace gesturewidget {
 class CommandCatalogue;
 class SystemServices;
 
-// Tells what the host takes for what in a program that nobody has described, and why: for a
-// person to check, and as a profile that says the same.
+// Reports what the host has found and guessed in a program without a profile, and why: as lines
+// for a person, and as a profile that says the same.
 class Explanation : public QObject
 {
     Q_OBJECT
@@ -27,12 +27,12 @@ public:
                 SystemServices &services);
     ~Explanation() override;
 
-    // A view was found, the widget that takes the pointer. Once more does nothing.
+    // Adds a view, the widget that gets the pointer. Adding it again has no effect.
     void addView(QWidget *view);
-    // The menus are complete. Nothing is told before.
+    // Call this when the menus are complete. Nothing is reported before.
     void menusSettled();
 
-    // What is known at the moment, as ExplanationChannel.h has it.
+    // Returns the findings so far in the format of ExplanationChannel.h.
     [[nodiscard]] QJsonObject report();
 
 private:

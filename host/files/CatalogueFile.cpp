@@ -1,34 +1,28 @@
 #include "host/files/CatalogueFile.h"
 
 #include "host/files/Complaint.h"
+#include "host/files/DocumentName.h"
+#include "host/files/FileContent.h"
+#include "host/files/FileLock.h"
+#include "host/files/FileWriter.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QLockFile>
-#include <QSaveFile>
 
-#include <cerrno>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include <algorithm>
 
 namespace gesturewidget {
 namespace {
 
 constexpr int kVersion = 1;
 
-// Milliseconds. Others hold the file for as long as it takes to write it; who comes too late
-// has another chance when menus change again.
+// Milliseconds. Others hold the lock for as long as it takes to write the file. If that is too
+// long, the next change of the menus tries again.
 constexpr int kLockPatience = 500;
-// Milliseconds after which a lock that says nothing of its owner counts as left behind, as by
-// one who was ended while making it. Whose owner is known goes with that.
-constexpr int kStaleLockAge = 5000;
 
 const QLatin1String kVersionKey("version");
 const QLatin1String kCommandsKey("commands");
@@ -40,11 +34,20 @@ const QLatin1String kGroupKey("group");
 const QLatin1String kIconKey("icon");
 const QLatin1String kToolBarKey("toolbar");
 
-// An identifier that was cut off would be another one.
+// An identifier must not be cut off: it would be another one.
 bool isAcceptable(const RememberedCommand &command)
 {
     return !command.identifier.isEmpty() && command.identifier.size() <= CatalogueFile::kMaximalText
         && command.command.size() <= CatalogueFile::kMaximalText;
+}
+
+// An identifier may be a path of captions.
+bool isPrivate(const RememberedCommand &command)
+{
+    const QStringList captions =
+        (command.identifier + QLatin1Char('/') + command.command).split(QLatin1Char('/'));
+    return namesADocument(command.caption)
+        || std::any_of(captions.begin(), captions.end(), namesADocument);
 }
 
 RememberedCommand bounded(const RememberedCommand &command)
@@ -54,6 +57,8 @@ RememberedCommand bounded(const RememberedCommand &command)
         text->truncate(CatalogueFile::kMaximalText);
     if (result.icon.size() > CatalogueFile::kMaximalIcon)
         result.icon.clear();
+    if (namesADocument(result.tip))
+        result.tip.clear();
     return result;
 }
 
@@ -83,7 +88,7 @@ QJsonObject toJson(const RememberedCommand &command)
     return object;
 }
 
-// A line for each command, for people who look into it.
+// One line for each command, so that people can read the file.
 QByteArray textOf(const QVector<RememberedCommand> &commands)
 {
     QByteArray text = "{\n\"version\": " + QByteArray::number(kVersion) + ",\n\"commands\": [";
@@ -95,7 +100,7 @@ QByteArray textOf(const QVector<RememberedCommand> &commands)
     return text + "\n]\n}\n";
 }
 
-// Brings `known` up to date. Whether that changed anything.
+// Updates `known`. Returns whether that changed anything.
 bool update(RememberedCommand &known, const RememberedCommand &seen)
 {
     RememberedCommand updated = seen;
@@ -129,7 +134,7 @@ bool apply(QVector<RememberedCommand> &commands, const QVector<RememberedCommand
     }
     bool hasChanged = false;
     for (const RememberedCommand &command : seen) {
-        if (!isAcceptable(command))
+        if (!isAcceptable(command) || isPrivate(command))
             continue;
         const int place = places.value(command.identifier, -1);
         if (place >= 0) {
@@ -170,10 +175,9 @@ bool CatalogueFile::merge(const QVector<RememberedCommand> &seen, const QStringL
     if (m_path.isEmpty())
         return false;
     QDir().mkpath(QFileInfo(m_path).absolutePath());
-    QLockFile lock(m_path + QLatin1String(".lock"));
-    lock.setStaleLockTime(kStaleLockAge);
-    if (!lock.tryLock(kLockPatience)) {
-        if (lock.error() != QLockFile::LockFailedError)
+    const FileLock lock(m_path, kLockPatience);
+    if (!lock.isHeld()) {
+        if (lock.result() == FileLock::Result::Impossible)
             complainOnce(QStringLiteral("%1 cannot be written, new commands are forgotten").arg(m_path));
         return false;
     }
@@ -181,9 +185,9 @@ bool CatalogueFile::merge(const QVector<RememberedCommand> &seen, const QStringL
     if (content.state == State::Foreign)
         return false;
     const bool hasChanged = apply(content.commands, seen, gone);
-    if (!hasChanged && content.state != State::Damaged)
+    if (!hasChanged && !content.isPrivate && content.state != State::Damaged)
         return true;
-    if (store(content.commands, content.state))
+    if (store(content.commands, content))
         return true;
     complainOnce(QStringLiteral("%1 cannot be written, new commands are forgotten").arg(m_path));
     return false;
@@ -199,6 +203,7 @@ CatalogueFile::Content CatalogueFile::lastGood()
         if (backup.state == State::Good) {
             complainOnce(QStringLiteral("%1 is damaged, %2 is used").arg(m_path, backupPath()));
             content.commands = backup.commands;
+            content.isPrivate = backup.isPrivate;
         } else {
             complainOnce(QStringLiteral("%1 is damaged, and there is no good copy of it").arg(m_path));
         }
@@ -208,19 +213,18 @@ CatalogueFile::Content CatalogueFile::lastGood()
 
 CatalogueFile::Content CatalogueFile::contentOf(const QString &path)
 {
-    Content foreign{State::Foreign, {}, QStringLiteral("cannot be read, its commands are not offered")};
-    struct stat status = {};
-    if (::stat(QFile::encodeName(path).constData(), &status) != 0)
-        return errno == ENOENT || errno == ENOTDIR ? Content() : foreign;
-    if (S_ISREG(status.st_mode) && status.st_size > kMaximalSize) {
-        foreign.problem = QStringLiteral("is too large, its commands are not offered");
-        return foreign;
+    const FileContent file = FileContent::read(path, kMaximalSize);
+    switch (file.state) {
+    case FileContent::State::Read:
+        return parsed(file.bytes);
+    case FileContent::State::Missing:
+        return {};
+    case FileContent::State::TooLarge:
+        return {State::Foreign, {}, false, QStringLiteral("is too large, its commands are not offered")};
+    default:
+        return {
+            State::Foreign, {}, false, QStringLiteral("cannot be read, its commands are not offered")};
     }
-    QFile file(path);
-    if (!S_ISREG(status.st_mode) || !file.open(QIODevice::ReadOnly))
-        return foreign;
-    const QByteArray text = file.read(kMaximalSize);
-    return file.error() == QFileDevice::NoError ? parsed(text) : foreign;
 }
 
 CatalogueFile::Content CatalogueFile::parsed(const QByteArray &text)
@@ -228,21 +232,25 @@ CatalogueFile::Content CatalogueFile::parsed(const QByteArray &text)
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(text, &error);
     if (error.error != QJsonParseError::NoError)
-        return {State::Damaged, {}, {}};
+        return {State::Damaged, {}, false, {}};
     const QJsonObject object = document.object();
     const int version = object.value(kVersionKey).toInt();
     if (version > kVersion)
         return {State::Foreign,
                 {},
+                false,
                 QStringLiteral("is of a later version (%1), its commands are not offered").arg(version)};
     if (version < 1 || !object.value(kCommandsKey).isArray())
-        return {State::Foreign, {}, QStringLiteral("is no list of commands and is left alone")};
-    Content content{State::Good, {}, {}};
+        return {State::Foreign, {}, false, QStringLiteral("is no list of commands and is left alone")};
+    Content content{State::Good, {}, false, {}};
     QHash<QString, bool> known;
     const QJsonArray commands = object.value(kCommandsKey).toArray();
     for (const QJsonValue &value : commands) {
         const RememberedCommand command = fromJson(value.toObject());
-        if (!isAcceptable(command) || known.contains(command.identifier))
+        const bool hasPrivateTip =
+            command.tip.isEmpty() && !value.toObject().value(kTipKey).toString().isEmpty();
+        content.isPrivate |= hasPrivateTip || isPrivate(command);
+        if (isPrivate(command) || !isAcceptable(command) || known.contains(command.identifier))
             continue;
         if (content.commands.size() == kMaximalCount)
             break;
@@ -252,7 +260,7 @@ CatalogueFile::Content CatalogueFile::parsed(const QByteArray &text)
     return content;
 }
 
-bool CatalogueFile::store(const QVector<RememberedCommand> &commands, State before)
+bool CatalogueFile::store(const QVector<RememberedCommand> &commands, const Content &before)
 {
     QByteArray text = textOf(commands);
     if (text.size() > kMaximalSize) {
@@ -261,23 +269,17 @@ bool CatalogueFile::store(const QVector<RememberedCommand> &commands, State befo
             command.icon.clear();
         text = textOf(plain);
     }
-    QSaveFile file(m_path);
-    // commit() overlooks that what was left in the buffer did not fit on the disk.
-    if (text.size() > kMaximalSize || !file.open(QIODevice::WriteOnly) || file.write(text) != text.size()
-        || !file.flush())
+    if (text.size() > kMaximalSize)
         return false;
-    if (before == State::Damaged) {
-        const QString kept = m_path + QLatin1String(".damaged");
-        QFile::remove(kept);
-        QFile::copy(m_path, kept);
-    } else if (before == State::Good) {
-        // The old file under a second name, which costs nothing: it is replaced, not changed.
-        const QByteArray backup = QFile::encodeName(backupPath());
-        ::unlink(backup.constData());
-        static_cast<void>(::linkat(AT_FDCWD, QFile::encodeName(m_path).constData(), AT_FDCWD,
-                                   backup.constData(), AT_SYMLINK_FOLLOW));
-    }
-    return file.commit();
+    const FileWriter writer(m_path, FileWriter::Readers::Owner);
+    const QString kept = before.state == State::Damaged ? m_path + QLatin1String(".damaged")
+                       : before.state == State::Good    ? backupPath()
+                                                        : QString();
+    // The new content matters more than the copy of the old one.
+    if (!(!kept.isEmpty() && writer.write(text, kept)) && !writer.write(text))
+        return false;
+    // The copy must not keep what the file has lost.
+    return !before.isPrivate || FileWriter(backupPath(), FileWriter::Readers::Owner).write(text);
 }
 
 QString CatalogueFile::backupPath() const

@@ -8,31 +8,34 @@
 
 namespace gesturewidget {
 
-// The commands that a program has ever shown, in a JSON file of its own that several copies
-// of the program may add to at once.
+// The commands that a program has ever shown, in a JSON file. Several copies of the program may
+// add to it at once.
 //
-// The file is replaced in one step, and what it was before stays beside it as "<file>.bak".
-// That copy is used when the file turns out to be damaged; the damaged one is then kept as
-// "<file>.damaged". A file that is not this class's to write, such as one of a later version
-// or one that cannot be read, is left alone.
+// The file is replaced in one step, and the old one stays beside it as "<file>.bak". If the file
+// is damaged, this class uses that copy and keeps the damaged file as "<file>.damaged". It leaves
+// files alone that are not its own to write: a file of a later version, or one that cannot be read.
 //
-// Whatever is wrong is said in one line on standard error, once in the life of an object.
+// Commands that name a document, such as entries of recent files, are never written. A file of an
+// earlier version that holds some is cleaned at the next merge().
+//
+// An object writes at most one line to standard error about what is wrong.
 class CatalogueFile
 {
 public:
-    // An empty path stands for no file.
+    // An empty path means that there is no file.
     explicit CatalogueFile(const QString &path);
 
-    // The commands in the order in which they were first seen; none when there is no file
-    // or it cannot be used. Writes nothing.
+    // The commands in the order in which they were first seen; empty when there is no file or it
+    // cannot be used. Writes nothing.
     [[nodiscard]] QVector<RememberedCommand> read();
-    // Adds `seen` to the file and takes the identifiers `gone` out of it, unless they were
-    // seen. Of a command that the file has already it brings texts and icon up to date; an
-    // empty one leaves what is there. A file that says all of this is not written. Returns
-    // whether the file now says so; false too, and silent, while another program holds it.
+    // Adds `seen` to the file and removes the identifiers `gone` from it, unless they were seen.
+    // Updates texts and icon of a command that the file already has; an empty text or icon keeps
+    // the old one. Writes only if something changes. Returns whether the file now holds all of
+    // this; false without a line when another program holds the lock.
     [[nodiscard]] bool merge(const QVector<RememberedCommand> &seen, const QStringList &gone = {});
 
-    // Far more than programs have. What is beyond these is left out, a caption or tip cut off.
+    // Far more than programs have. Commands and icons beyond these limits are left out, a longer
+    // caption or tip is cut off.
     static constexpr qint64 kMaximalSize = 32 * 1024 * 1024; // bytes of the file
     static constexpr int kMaximalCount = 8000;
     static constexpr int kMaximalText = 500; // characters
@@ -44,14 +47,15 @@ private:
     {
         State state = State::Missing;
         QVector<RememberedCommand> commands;
-        QString problem; // of a foreign one, follows the file's name
+        bool isPrivate = false; // the file holds names of documents, `commands` does not
+        QString problem; // for a foreign file: words that follow its name
     };
 
     [[nodiscard]] static Content contentOf(const QString &path);
     [[nodiscard]] static Content parsed(const QByteArray &text);
-    // That of the file or, when it is damaged, of its copy.
+    // The content of the file or, if that is damaged, of its copy.
     [[nodiscard]] Content lastGood();
-    [[nodiscard]] bool store(const QVector<RememberedCommand> &commands, State before);
+    [[nodiscard]] bool store(const QVector<RememberedCommand> &commands, const Content &before);
     [[nodiscard]] QString backupPath() const;
     void complainOnce(const QString &line);
 

@@ -4,7 +4,7 @@
 
 namespace gesturewidget {
 
-// Writes one line to standard error, under the name that all of this project's lines have.
+// Writes one line to standard error. It begins with the name that all lines of the host begin with.
 void complain(const QString &line);
 
 } // namespace gesturewidget

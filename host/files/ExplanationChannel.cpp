@@ -4,6 +4,7 @@
 
 #include <fcntl.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/time.h>
 #include <unistd.h>
 
@@ -14,14 +15,19 @@ constexpr int kPatience = 1; // seconds
 
 } // namespace
 
+QByteArray explanationValue(int socket)
+{
+    struct stat status = {};
+    if (::fstat(socket, &status) != 0 || !S_ISSOCK(status.st_mode))
+        return {};
+    return QByteArray::number(socket) + ':' + QByteArray::number(static_cast<qulonglong>(status.st_ino));
+}
+
 int explanationSocket(const QByteArray &value)
 {
     bool isNumber = false;
-    const int socket = value.toInt(&isNumber);
-    int type = 0;
-    socklen_t size = sizeof type;
-    if (!isNumber || socket <= STDERR_FILENO
-        || ::getsockopt(socket, SOL_SOCKET, SO_TYPE, &type, &size) != 0 || type != SOCK_STREAM)
+    const int socket = value.left(value.indexOf(':')).toInt(&isNumber);
+    if (!isNumber || socket <= STDERR_FILENO || value != explanationValue(socket))
         return -1;
     ::fcntl(socket, F_SETFD, FD_CLOEXEC);
     const timeval patience = {kPatience, 0};

@@ -3,23 +3,27 @@
 #include <QByteArray>
 #include <QJsonObject>
 
-// How a program that was started to be looked at tells the launcher what was found in it:
-// over a socket that it inherits, one JSON object a line. The other end being closed means
-// that the program is to quit.
+// How a program that was started by --explain tells the launcher what was found in it: over a
+// socket that it inherits, one JSON object a line. When the launcher closes its end, the program
+// is to quit.
 //
 //     {"process": 4711}                          the plug-in is loaded
 //     {"problem": "..."}                         gestures cannot work, and why
-//     {"profile": {...}, "lines": [...], "views": 1}   what is known by now; the last counts
+//     {"profile": {...}, "lines": [...], "views": 1}   what is known by now; the last one counts
 namespace gesturewidget {
 
-// Environment variable with the socket's number.
+// The environment variable that names the socket: its number, a colon, and the number of its
+// inode. Only the launcher that made the socket knows the second one, so an old or a made-up value
+// never means some other socket of the program, such as that of its X connection.
 inline constexpr char kExplanationVariable[] = "GESTUREWIDGET_EXPLAIN";
 
-// The socket that a value of the variable means, kept from programs that this one starts;
-// -1 for anything that is no such socket.
+// The variable's value for an open socket; empty for anything else.
+[[nodiscard]] QByteArray explanationValue(int socket);
+// The socket that a value means, from now on closed to programs that this one starts; -1 for any
+// value that explanationValue() does not give for an open socket.
 [[nodiscard]] int explanationSocket(const QByteArray &value);
 
-// Returns whether it was sent. Never raises a signal, and does not wait for long.
+// Returns whether the message was sent. Raises no signal, and waits at most a second.
 bool tell(int socket, const QJsonObject &message);
 
 } // namespace gesturewidget

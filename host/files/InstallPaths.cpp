@@ -28,8 +28,8 @@ QString configFolder()
          + QLatin1String("/gesturewidget");
 }
 
-// Scripts often start a program that lies beside them under their own name with an ending;
-// people know the script.
+// A script often starts a program beside it that has the script's name with an ending. People know
+// the script.
 QString withoutEnding(const QString &name)
 {
     for (const char *ending : {".bin", "-bin", ".real", ".py"}) {
@@ -39,7 +39,7 @@ QString withoutEnding(const QString &name)
     return name;
 }
 
-// The file of such a program is that of all programs in its language.
+// All programs in an interpreter's language have its file in common.
 bool isInterpreter(const QString &name)
 {
     static const QRegularExpression interpreter(QStringLiteral("^(python|pypy)[0-9.]*$"));
@@ -107,7 +107,7 @@ QStringList profileFolders(const QDir &folder)
     QStringList folders = qEnvironmentVariable("GESTUREWIDGET_PROFILES").split(QLatin1Char(':'));
     folders.removeAll(QString());
     folders.append(configFolder() + QLatin1String("/profiles"));
-    // A library is in lib/ or, by its architecture, one folder below it; a program in bin/.
+    // A library is in lib/ or, if sorted by architecture, one folder below; a program is in bin/.
     for (const char *up : {"..", "../.."}) {
         const QString path =
             folder.filePath(QLatin1String(up) + QLatin1String("/share/gesturewidget/profiles"));

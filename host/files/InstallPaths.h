@@ -4,16 +4,17 @@
 #include <QString>
 #include <QStringList>
 
-// Where a program's host finds what it needs, seen from this library's own file: in a build
-// tree and in an installation alike.
+// Where a program's host finds what it needs, relative to the file of this library. That works in a
+// build tree and in an installation.
 namespace gesturewidget {
 
 // The running program's name in lower case, see chooseProgramName().
 [[nodiscard]] QString programName();
-// A program may be started by a link that is named as people know it, to a file that is
-// not. Of the name `typed`, that of the `file` and that without an ending such as ".bin" it
-// is the first that one of `folders` has a profile for; without a profile, the last. A
-// program that an interpreter runs is called as its script.
+// Chooses the name by which settings and profile of a program are found. People know a program by
+// the name that they type, which may be a link to a file of another name. The candidates are, in
+// this order: the name `typed`, the name of `file`, and that without an ending such as ".bin". The
+// first one for which one of `folders` holds a profile is chosen; without a profile, the last one.
+// A program that an interpreter runs has the name of its script.
 [[nodiscard]] QString chooseProgramName(const QString &typed, const QString &file,
                                         const QStringList &folders);
 // The module of this Qt version, beside this library.
@@ -22,15 +23,16 @@ namespace gesturewidget {
 [[nodiscard]] QString settingsFile(const QString &program);
 // Where the commands that a program has ever shown are kept, see CatalogueFile.
 [[nodiscard]] QString catalogueFile(const QString &program);
-// The same for a program whose bindings are in the file `settings`: beside them. Empty when
-// that is.
+// The same for a program whose bindings are in the file `settings`: a file beside it. Empty if
+// `settings` is empty.
 [[nodiscard]] QString catalogueFileBeside(const QString &settings);
-// The profile of one's own for a program, whether or not there is one.
+// The user's own profile for a program. The file need not exist.
 [[nodiscard]] QString ownProfileFile(const QString &program);
-// Folders with profiles, in the order in which they count: those of the environment
-// variable GESTUREWIDGET_PROFILES, separated by colons, the user's own, the installed ones.
+// Folders with profiles; the first one that holds a profile counts. First come those of the
+// environment variable GESTUREWIDGET_PROFILES, separated by colons, then the user's own folder,
+// then the installed ones.
 [[nodiscard]] QStringList profileFolders();
-// The same, seen from a library or program in `folder`.
+// The same for a library or program in `folder`.
 [[nodiscard]] QStringList profileFolders(const QDir &folder);
 
 } // namespace gesturewidget

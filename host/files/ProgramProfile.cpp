@@ -1,11 +1,15 @@
 #include "host/files/ProgramProfile.h"
 
+#include "host/files/FileContent.h"
+#include "host/files/TriggerText.h"
+
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+
+#include <algorithm>
 
 namespace gesturewidget {
 namespace {
@@ -96,42 +100,22 @@ private:
     QString m_problem;
 };
 
-const QHash<QString, Qt::MouseButton> &buttonNames()
-{
-    static const QHash<QString, Qt::MouseButton> buttons{
-        {QStringLiteral("left"), Qt::LeftButton},       {QStringLiteral("middle"), Qt::MiddleButton},
-        {QStringLiteral("right"), Qt::RightButton},     {QStringLiteral("back"), Qt::BackButton},
-        {QStringLiteral("forward"), Qt::ForwardButton},
-    };
-    return buttons;
-}
-
-const QHash<QString, Qt::KeyboardModifier> &modifierNames()
-{
-    static const QHash<QString, Qt::KeyboardModifier> modifiers{
-        {QStringLiteral("shift"), Qt::ShiftModifier},
-        {QStringLiteral("control"), Qt::ControlModifier},
-        {QStringLiteral("alt"), Qt::AltModifier},
-        {QStringLiteral("meta"), Qt::MetaModifier},
-    };
-    return modifiers;
-}
-
 void readTrigger(Reader &profileReader, ProgramProfile &profile)
 {
-    const QHash<QString, Qt::MouseButton> &buttons = buttonNames();
-    const QHash<QString, Qt::KeyboardModifier> &modifiers = modifierNames();
     Reader reader(profileReader.object(QStringLiteral("trigger")), QStringLiteral("trigger."));
     reader.allow({QStringLiteral("button"), QStringLiteral("modifiers")});
     const QString button = reader.string(QStringLiteral("button"));
-    if (!reader.value(QStringLiteral("button")).isUndefined() && !buttons.contains(button))
-        reader.fail(QStringLiteral("\"trigger.button\" names no mouse button: \"%1\"").arg(button));
-    profile.triggerButton = buttons.value(button, profile.triggerButton);
+    if (!reader.value(QStringLiteral("button")).isUndefined()) {
+        profile.triggerButton = buttonNamed(button);
+        if (profile.triggerButton == Qt::NoButton)
+            reader.fail(QStringLiteral("\"trigger.button\" names no mouse button: \"%1\"").arg(button));
+    }
     const QStringList names = reader.strings(QStringLiteral("modifiers"));
     for (const QString &name : names) {
-        if (!modifiers.contains(name))
+        const Qt::KeyboardModifier modifier = modifierNamed(name);
+        if (modifier == Qt::NoModifier)
             reader.fail(QStringLiteral("\"trigger.modifiers\" names no key: \"%1\"").arg(name));
-        profile.triggerModifiers |= modifiers.value(name, Qt::NoModifier);
+        profile.triggerModifiers |= modifier;
     }
     if (!reader.problem().isEmpty())
         profileReader.fail(reader.problem());
@@ -160,7 +144,7 @@ QString fill(ProgramProfile &profile, const QByteArray &text)
                   QStringLiteral("trigger"), QStringLiteral("wellKnownCommands"),
                   QStringLiteral("toolsMenu"), QStringLiteral("commandLineClass"),
                   QStringLiteral("why")});
-    // For whoever reads the file: what the rest of it was concluded from.
+    // Reasons for the rest, for people who read the file.
     static_cast<void>(reader.object(QStringLiteral("why")));
     const QJsonValue version = reader.value(QStringLiteral("version"));
     if (!version.isDouble())
@@ -178,7 +162,7 @@ QString fill(ProgramProfile &profile, const QByteArray &text)
     return reader.problem();
 }
 
-// A name that is a file's name and nothing else: profiles come from the given folders only.
+// Returns whether the name is that of a file and no path: profiles come from the given folders.
 bool isFileName(const QString &program)
 {
     return !program.isEmpty() && !program.contains(QLatin1Char('/')) && !program.contains(QChar::Null)
@@ -189,14 +173,13 @@ bool isFileName(const QString &program)
 
 QJsonObject ProgramProfile::toJson() const
 {
-    QStringList modifiers;
-    for (auto it = modifierNames().cbegin(); it != modifierNames().cend(); ++it) {
-        if (triggerModifiers.testFlag(it.value()))
-            modifiers.append(it.key());
-    }
-    modifiers.sort();
+    QStringList modifiers = modifierNames();
+    const auto isNotHeld = [this](const QString &name) {
+        return !triggerModifiers.testFlag(modifierNamed(name));
+    };
+    modifiers.erase(std::remove_if(modifiers.begin(), modifiers.end(), isNotHeld), modifiers.end());
     QJsonObject trigger;
-    trigger.insert(QStringLiteral("button"), buttonNames().key(triggerButton));
+    trigger.insert(QStringLiteral("button"), triggerText(triggerButton, Qt::NoModifier));
     trigger.insert(QStringLiteral("modifiers"), QJsonArray::fromStringList(modifiers));
 
     QJsonObject commands;
@@ -226,20 +209,25 @@ ProgramProfile ProgramProfile::forProgram(const QString &program, const QStringL
         return defaults;
     for (const QString &folder : folders) {
         const QString path = QDir(folder).filePath(program + QLatin1String(".json"));
-        const QFileInfo info(path);
-        if (folder.isEmpty() || !info.exists())
+        if (folder.isEmpty() || !QFileInfo::exists(path))
             continue;
-        QFile file(path);
-        QString problem;
+        const FileContent file = FileContent::read(path, kMaximalSize);
         ProgramProfile profile = defaults;
-        if (!info.isFile()) // opening a pipe would wait for its writer
+        QString problem;
+        switch (file.state) {
+        case FileContent::State::Read:
+            problem = fill(profile, file.bytes);
+            break;
+        case FileContent::State::NotAFile:
             problem = QStringLiteral("it is not a file");
-        else if (info.size() > kMaximalSize)
+            break;
+        case FileContent::State::TooLarge:
             problem = QStringLiteral("it is too long");
-        else if (!file.open(QIODevice::ReadOnly))
-            problem = file.errorString();
-        else
-            problem = fill(profile, file.read(kMaximalSize));
+            break;
+        default:
+            problem = file.problem;
+            break;
+        }
         if (problem.isEmpty())
             return profile;
         if (message) {

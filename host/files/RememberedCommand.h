@@ -5,16 +5,16 @@
 
 namespace gesturewidget {
 
-// A command of a program, as it was when somebody last looked.
+// A command of a program, as it was seen last.
 struct RememberedCommand
 {
-    QString identifier; // what bindings are stored under; never empty
+    QString identifier; // by which bindings are stored; never empty
     QString command; // the key that finds its action again, see CommandCatalogue
     QString caption;
     QString tip; // one line, may be empty
-    QString group; // the top-level menu or the toolbar that had it, may be empty
+    QString group; // the top-level menu or the toolbar that it was in, may be empty
     QByteArray icon; // a PNG file, may be empty
-    bool isInToolBar = false; // and in no menu
+    bool isInToolBar = false; // and not in a menu
 
     friend bool operator==(const RememberedCommand &a, const RememberedCommand &b)
     {

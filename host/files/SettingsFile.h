@@ -3,17 +3,20 @@
 #include <QMap>
 #include <QString>
 
+#include <functional>
+
 #include <sys/types.h>
 
 namespace gesturewidget {
 
-// An INI file of strings that several programs may write at once and that nothing may be
-// lost from.
+// An INI file of strings that several programs may write at once without losing anything.
 //
-// Beside it stands a copy of its last good state, "<file>.bak". A file that has been cut
-// off or zeroed, as a power failure leaves it, is read without any error by QSettings; it
-// is noticed here, kept as "<file>.damaged" and restored. A file that was deleted is taken
-// as meant.
+// A copy of its last good state stands beside it, "<file>.bak". A file that a power failure cut
+// off or zeroed can still be read as INI, without any error. This class notices, keeps such a
+// file as "<file>.damaged" and restores the copy. A file that was deleted stays deleted.
+//
+// Only the owner may read these files. Nothing here waits longer than kLockPatience, whatever
+// other programs do or have left behind.
 class SettingsFile
 {
 public:
@@ -21,16 +24,25 @@ public:
 
     explicit SettingsFile(const QString &path);
 
-    // Whether the file differs from what was read last. Costs one look at the folder.
+    // Returns whether the file differs from what was read last. Costs one look at the folder.
     [[nodiscard]] bool hasChanged() const;
-    // All values; empty when there is no file or it cannot be read. Says on standard error
-    // what it had to restore.
+    // All values; empty when there is no file or it cannot be read. Writes one line to standard
+    // error about a file that it had to restore or cannot use.
     [[nodiscard]] Values read();
-    // Writes these values and leaves all others as they are in the file at that moment, in
-    // one step: a reader sees all of them or none. Returns whether they are on disk.
+    // Gives `edit` all values as they are in the file now, and writes those of its result that
+    // differ. No other program writes in between. All other values stay. The file is replaced in
+    // one step: a reader sees all changes or none. With `keepAs`, the file as it was is kept under
+    // that name. Returns whether all of this is on disk; if not, problem() says why.
+    [[nodiscard]] bool change(const std::function<Values(const Values &)> &edit,
+                              const QString &keepAs = {});
+    // The same with values that do not depend on the present ones.
     [[nodiscard]] bool write(const Values &values);
+    // One line that names the file, after change() or write() has failed.
+    [[nodiscard]] QString problem() const { return m_problem; }
 
-    // Name of a value in the file; sections and keys may hold any characters.
+    static constexpr int kLockPatience = 1000; // milliseconds
+
+    // The name of a value, see IniText::nameOf().
     [[nodiscard]] static QString nameOf(const QString &section, const QString &key);
 
 private:
@@ -55,9 +67,14 @@ private:
 
     [[nodiscard]] Stamp currentStamp() const;
     [[nodiscard]] QString backupPath() const;
-    Values restore();
+    // The content that counts: that of the file or, if that is damaged, of its copy. `mayWrite`
+    // says whether the lock is held, so that the file can be restored.
+    [[nodiscard]] QByteArray usable(const QByteArray &content, const QByteArray &backup, bool mayWrite);
+    void keepCopy(const QByteArray &content);
+    void complainOnce(const QString &line);
 
     QString m_path;
+    QString m_problem;
     Stamp m_stamp;
     bool m_wasRead = false;
     bool m_hasComplained = false;

@@ -1,7 +1,5 @@
 #include "host/files/TriggerText.h"
 
-#include <QStringList>
-
 namespace gesturewidget {
 namespace {
 
@@ -21,47 +19,57 @@ struct Key
     const char *name;
     Qt::KeyboardModifier modifier;
 };
-// The first name of a key is the one that is written.
 constexpr Key kKeys[] = {{"ctrl", Qt::ControlModifier},
                          {"shift", Qt::ShiftModifier},
                          {"alt", Qt::AltModifier},
                          {"meta", Qt::MetaModifier}};
+constexpr char kLongControl[] = "control";
 
-Qt::KeyboardModifier keyNamed(const QString &name)
+} // namespace
+
+QStringList buttonNames()
 {
-    if (name == QLatin1String("control"))
+    QStringList names;
+    for (const Button &button : kButtons)
+        names.append(QLatin1String(button.name));
+    return names;
+}
+
+QStringList modifierNames()
+{
+    QStringList names;
+    for (const Key &key : kKeys)
+        names.append(QLatin1String(key.name));
+    return names;
+}
+
+Qt::MouseButton buttonNamed(const QString &name)
+{
+    for (const Button &button : kButtons) {
+        if (name.compare(QLatin1String(button.name), Qt::CaseInsensitive) == 0)
+            return button.button;
+    }
+    return Qt::NoButton;
+}
+
+Qt::KeyboardModifier modifierNamed(const QString &name)
+{
+    if (name.compare(QLatin1String(kLongControl), Qt::CaseInsensitive) == 0)
         return Qt::ControlModifier;
     for (const Key &key : kKeys) {
-        if (name == QLatin1String(key.name))
+        if (name.compare(QLatin1String(key.name), Qt::CaseInsensitive) == 0)
             return key.modifier;
     }
     return Qt::NoModifier;
 }
 
-} // namespace
-
-QString triggerSection()
-{
-    return QStringLiteral("Host");
-}
-
-QString triggerKey()
-{
-    return QStringLiteral("Trigger");
-}
-
 bool parseTrigger(const QString &text, Qt::MouseButton &button, Qt::KeyboardModifiers &modifiers)
 {
-    QStringList names = text.toLower().split(QLatin1Char('+'));
-    const QString last = names.takeLast();
-    Qt::MouseButton foundButton = Qt::NoButton;
-    for (const Button &candidate : kButtons) {
-        if (last == QLatin1String(candidate.name))
-            foundButton = candidate.button;
-    }
+    QStringList names = text.split(QLatin1Char('+'));
+    const Qt::MouseButton foundButton = buttonNamed(names.takeLast());
     Qt::KeyboardModifiers foundKeys = Qt::NoModifier;
     for (const QString &name : std::as_const(names)) {
-        const Qt::KeyboardModifier key = keyNamed(name);
+        const Qt::KeyboardModifier key = modifierNamed(name);
         if (key == Qt::NoModifier || foundKeys.testFlag(key))
             return false;
         foundKeys |= key;

@@ -1,24 +1,30 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <Qt>
 
-// What starts a gesture, as a person writes it: a button, before it the keys that are held
-// with it, joined by "+": "right", "ctrl+right", "shift+alt+left".
+// What starts a gesture, as a person writes it: a button, and before it the keys that are held
+// with it, joined by "+": "right", "ctrl+right", "shift+alt+left". All names of buttons and keys
+// are here; profiles use the same ones.
 namespace gesturewidget {
 
-// Where the settings keep the one that somebody chose in place of the profile's. Empty
-// means that nobody did.
-[[nodiscard]] QString triggerSection();
-[[nodiscard]] QString triggerKey();
+// "left", "middle", "right", "back", "forward".
+[[nodiscard]] QStringList buttonNames();
+// "ctrl", "shift", "alt", "meta", in the order in which triggerText() writes them.
+[[nodiscard]] QStringList modifierNames();
+// The button or key of a name, in any case; "control" is "ctrl". Qt::NoButton and Qt::NoModifier
+// for any other text.
+[[nodiscard]] Qt::MouseButton buttonNamed(const QString &name);
+[[nodiscard]] Qt::KeyboardModifier modifierNamed(const QString &name);
 
 // Fills both and returns true, or leaves them and returns false when the text names no
-// trigger. Case does not matter, nor the order of the keys; "control" is "ctrl".
+// trigger. Case does not matter, nor the order of the keys.
 [[nodiscard]] bool parseTrigger(const QString &text, Qt::MouseButton &button,
                                 Qt::KeyboardModifiers &modifiers);
-// Whether it may be chosen: not the left button alone, with which people draw.
+// Returns whether a person may choose it: not the left button alone, with which people draw.
 [[nodiscard]] bool isUsableTrigger(Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
-// The way back, keys in the order ctrl, shift, alt, meta.
+// The text of a trigger; empty for a button that has no name here.
 [[nodiscard]] QString triggerText(Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
 
 } // namespace gesturewidget

@@ -8,9 +8,9 @@
 
 namespace inject {
 
-// What the plug-in leaves in an application without widgets, in which it does nothing. If
-// that one never gets to its event loop it was made for a moment only, and the next one
-// finds the variables again. Owned by the application object.
+// The plug-in's object in an application without widgets, where it has nothing to do. If that
+// application never reaches its event loop, it was made for a moment only, and the next one finds
+// the variables again. The application object owns this.
 class BareApplication : public QObject
 {
     Q_OBJECT

@@ -7,10 +7,10 @@
 
 namespace inject {
 
-// Takes the plug-in's variables out of the environment, and puts them back when it goes
-// unless they were kept. A program may make an application object for a moment, to ask the
-// graphics library something or to show a message, before it makes the one that it runs;
-// the second one, too, loads plug-ins by the environment.
+// Takes the plug-in's variables out of the environment, and restores them in the destructor unless
+// keep() was called. A program may create an application object for a moment, to ask the graphics
+// library something or to show a message, before it creates the one that it runs. That second one
+// also loads plug-ins by the environment.
 class BorrowedVariables
 {
 public:
@@ -18,10 +18,10 @@ public:
     ~BorrowedVariables();
     Q_DISABLE_COPY_MOVE(BorrowedVariables)
 
-    // The variables have done what they were for, and stay out of the environment.
+    // The variables are no longer needed, and stay out of the environment.
     void keep() { m_isKept = true; }
-    // The socket over which this program is to be explained, see
-    // host/files/ExplanationChannel.h; -1 when it is not.
+    // Returns the socket for explaining this program, see host/files/ExplanationChannel.h; -1 if
+    // nobody asked.
     [[nodiscard]] int explanation() const { return m_explanation; }
 
 private:

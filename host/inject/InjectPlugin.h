@@ -2,7 +2,7 @@
 
 #include <QGenericPlugin>
 
-// What Qt looks for when QT_QPA_GENERIC_PLUGINS names "mousegestures".
+// The plug-in that Qt loads when QT_QPA_GENERIC_PLUGINS contains "mousegestures".
 class InjectPlugin : public QGenericPlugin
 {
     Q_OBJECT
@@ -12,7 +12,7 @@ public:
     explicit InjectPlugin(QObject *parent = nullptr);
     ~InjectPlugin() override;
 
-    // Called while the application object is being constructed. Never throws. In a program
-    // without widgets the object that it returns does nothing.
+    // Qt calls this while the application object is being constructed. Never throws. In a program
+    // without widgets the returned object does nothing.
     QObject *create(const QString &key, const QString &arguments) override;
 };

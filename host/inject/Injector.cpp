@@ -1,5 +1,6 @@
 #include "host/inject/Injector.h"
 
+#include "host/files/Complaint.h"
 #include "host/files/ExplanationChannel.h"
 #include "host/session/ExplainedProgram.h"
 #include "host/session/GestureHost.h"
@@ -13,7 +14,6 @@
 
 #include <sys/socket.h>
 
-#include <cstdio>
 #include <exception>
 
 using gesturewidget::GestureHost;
@@ -23,7 +23,7 @@ namespace {
 
 void report(const char *text)
 {
-    std::fprintf(stderr, "mouse gestures: %s\n", text);
+    gesturewidget::complain(QString::fromUtf8(text));
 }
 
 } // namespace
@@ -49,7 +49,7 @@ bool Injector::eventFilter(QObject *receiver, QEvent *event)
             lookSoon();
         return false;
     }
-    // A main window comes up, or one that is up already gets its menus.
+    // A main window appears, or one that is shown gets its menus.
     const bool mayMatter = event->type() == QEvent::Show || event->type() == QEvent::ActionAdded;
     if (mayMatter && (qobject_cast<QMainWindow *>(receiver) || qobject_cast<QMenuBar *>(receiver)))
         lookSoon();
@@ -90,8 +90,8 @@ QMainWindow *Injector::findWindow() const
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget *widget : windows) {
         auto *window = qobject_cast<QMainWindow *>(widget);
-        // While the first one is only hidden, another kind of window, for help perhaps, is
-        // not what takes its place.
+        // While the first window is only hidden, a window of another class, such as help, does not
+        // take its place.
         const bool isOtherKind = window && m_window && m_window->metaObject() != window->metaObject();
         if (window && window->isVisible() && gesturewidget::hasMenuBar(window) && !isOtherKind)
             return window;
@@ -141,7 +141,7 @@ void Injector::onExplanationRead()
     if (::recv(m_explanation, &ignored, 1, MSG_DONTWAIT) > 0)
         return;
     m_explanationEnd->setEnabled(false);
-    // Not quit(), which asks windows and what they hold: nobody is there to answer.
+    // Do not use quit(): it asks the windows, and nobody is there to answer.
     QCoreApplication::exit(0);
 }
 

@@ -18,17 +18,17 @@ QT_END_NAMESPACE
 
 namespace inject {
 
-// Waits for the program's main window, the first visible one with a menu bar, and gives it
-// a host. When that window goes, or is hidden while another of its kind is there, the next
-// one gets the host. Owned by the application object.
+// Waits for the program's main window, the first visible one with a menu bar, and gives it a host.
+// If that window is destroyed, or hidden while another one of its class is shown, the next one
+// gets the host. The application object owns this.
 class Injector : public QObject
 {
     Q_OBJECT
 
 public:
-    // To be made as early as the application object exists; does nothing before the event
-    // loop runs. An application object that goes without having shown a main window gives
-    // the variables back.
+    // Create this as soon as the application object exists. It does nothing before the event loop
+    // runs. If the application object is destroyed without having shown a main window, the
+    // variables are restored.
     explicit Injector(std::unique_ptr<BorrowedVariables> variables);
     ~Injector() override;
 
@@ -38,12 +38,12 @@ private:
     // Looks for a main window from the event loop, once for any number of calls.
     void lookSoon();
     void look();
-    // The main window that is to have the host; null if none.
+    // Returns the main window for the host; null if there is none.
     [[nodiscard]] QMainWindow *findWindow() const;
     void startHost(QMainWindow *window);
     void onWindowGone();
     void explainProblem(const QString &text) const;
-    // Ends the program when whoever had it explained has closed the other end.
+    // Ends the program when the process that asked for an explanation has closed its end.
     void onExplanationRead();
 
     std::unique_ptr<gesturewidget::GestureHost> m_host;

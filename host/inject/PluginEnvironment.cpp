@@ -22,7 +22,7 @@ bool isOwnFolder(const QByteArray &folder)
         return false;
     const QStringList files = QDir(plugins.filePath(QStringLiteral("generic"))).entryList(kEverything);
     return !files.isEmpty() && std::all_of(files.begin(), files.end(), [](const QString &file) {
-        return file.startsWith(QLatin1String("libmousegestures-qt"));
+        return file.startsWith(QLatin1String(gesturewidget::kPluginFilePrefix));
     });
 }
 

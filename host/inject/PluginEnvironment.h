@@ -1,28 +1,29 @@
 #pragma once
 
+#include "host/files/PluginNames.h"
+
 #include <QByteArray>
 
-// What made Qt load the plug-in, and how it is taken out of the environment again, so that
-// programs started from this one do not load it as well.
+// The environment variables that made Qt load the plug-in, and how to remove them, so that
+// programs started from this one do not load it too.
 namespace inject {
 
-// The plug-in's key among Qt's generic plug-ins.
-inline constexpr char kPluginKey[] = "mousegestures";
+using gesturewidget::kPluginKey;
 
-// `plugins` is the value of QT_QPA_GENERIC_PLUGINS, entries "key" or "key:arguments"
-// separated by commas. Returns it without every entry of `key`, letter case ignored as Qt
-// does; the rest is unchanged.
+// `plugins` is the value of QT_QPA_GENERIC_PLUGINS: entries "key" or "key:arguments" separated by
+// commas. Returns it without the entries of `key`, ignoring letter case as Qt does. The rest is
+// unchanged.
 [[nodiscard]] QByteArray withoutPlugin(const QByteArray &plugins, const QByteArray &key);
 
-// `path` is the value of QT_PLUGIN_PATH, folders separated by colons. Returns it without
-// those that hold nothing but this plug-in, for whatever Qt version; the rest is unchanged.
+// `path` is the value of QT_PLUGIN_PATH: folders separated by colons. Returns it without the
+// folders that hold only this plug-in, for any Qt version. The rest is unchanged.
 [[nodiscard]] QByteArray withoutOwnFolders(const QByteArray &path);
 
-// Applies both to this process's environment. A variable that is left empty is removed.
+// Applies both functions to this process's environment. An empty variable is removed.
 void cleanEnvironment();
 
-// Takes the socket out of the environment over which this program is to be explained, see
-// host/files/ExplanationChannel.h; -1 when it is not.
+// Takes the socket for explaining this program out of the environment, see
+// host/files/ExplanationChannel.h. Returns -1 if there is none.
 [[nodiscard]] int takeExplanationSocket();
 
 } // namespace inject

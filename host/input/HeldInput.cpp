@@ -9,8 +9,8 @@
 namespace gesturewidget {
 namespace {
 
-// Whether Qt would keep input from the window because of a modal one, see the same
-// question in its own handling of mouse events from the window system.
+// True if Qt would keep input from the window because of a modal one. Qt asks the same question
+// for mouse events from the window system.
 bool isBlockedByModal(const QWindow *window)
 {
     const QWindow *modal = QGuiApplication::modalWindow();
@@ -81,9 +81,9 @@ void HeldInput::sendRest()
         if (item.mouse)
             event = item.mouse->event();
         const QEvent *outer = self ? std::exchange(self->m_sending, event.get()) : nullptr;
-        // Not sendEvent(), which would make it an event of the program's own again. And of
-        // one from the window system Qt notes which buttons are down; so also those that
-        // the program must not get go through there, to an object that makes nothing of it.
+        // Do not use sendEvent(), which marks the event as the program's own. Qt notes the pressed
+        // buttons from window-system events, so events that the program must not get go to an
+        // object that ignores them.
         QSpontaneKeyEvent::setSpontaneous(event.get());
         QObject nobody;
         const bool isLost = !item.window || isBlockedByModal(item.window);
@@ -94,9 +94,9 @@ void HeldInput::sendRest()
     while (!outgoing->empty() && qApp) {
         Item item = std::move(outgoing->front());
         outgoing->pop_front();
-        // Of a double click Qt makes two events at once. A menu that the first one opens
-        // must not get the second: that one waits for it, as it does without us, while the
-        // release that follows is the menu's.
+        // Qt makes two events of a double click at once. A menu that the first one opens must not
+        // get the second: as without this filter, the second waits for the menu, and the release
+        // that follows goes to the menu.
         std::optional<Item> twin;
         if (item.isA(QEvent::MouseButtonPress) && !outgoing->empty()
             && outgoing->front().isA(QEvent::MouseButtonDblClick)) {

@@ -14,14 +14,13 @@
 
 namespace gesturewidget {
 
-// Mouse events of windows that were kept from the program, in their order, until it is
-// known whether they become a gesture; and with them the keys and the turns of the wheel
-// that came meanwhile.
+// Input events of windows that the program does not get until it is known if they are a gesture:
+// mouse events, and the keys and wheel turns that came meanwhile, in their order.
 //
-// They are either dropped or sent to the same windows again, as if they came from the
-// window system just then. The program may enter an event loop inside one of them, as it
-// does for a context menu; what is left is then sent from within that loop, so that the
-// menu sees the release of the button that opened it.
+// They are either dropped or sent to the same windows again, as if they came from the window
+// system just then. The program may enter an event loop inside one of them, for a context menu for
+// example. The rest is then sent from that loop, so that the menu gets the release of the button
+// that opened it.
 class HeldInput : public QObject
 {
     Q_OBJECT
@@ -30,25 +29,25 @@ public:
     HeldInput();
     ~HeldInput() override;
 
-    // Keeps a copy.
+    // Holds a copy of the event.
     void hold(QWindow *window, const QMouseEvent &event);
     void hold(QWindow *window, const QKeyEvent &event);
     void hold(QWindow *window, const QWheelEvent &event);
-    // Drops the mouse events. The rest, which is no part of a gesture, is sent from the event
-    // loop, or with the next sendRest().
+    // Drops the mouse events. The other events are not part of a gesture; they are sent from the
+    // event loop, or by the next sendRest().
     void drop();
-    // Sends everything that is held. May run event loops, and this may be gone afterwards.
+    // Sends all held events. This may run event loops, and this object may be gone afterwards.
     void replay();
-    // Sends what a replay, stuck in an event loop, has not come to yet. To be called before
-    // the program gets anything newer. The same caution as with replay().
+    // Sends the events that a replay has not reached yet because it is in an event loop. Call this
+    // before the program gets a newer event. The object may be gone afterwards.
     void sendRest();
     [[nodiscard]] bool hasRest() const { return !m_outgoing->empty(); }
 
-    // Whether this very event is one that is being sent again.
+    // True for exactly the event that is being sent again.
     [[nodiscard]] bool isSending(const QEvent *event) const { return event == m_sending; }
 
-    // With more movements than this the newest takes the place of the one before it, as
-    // with movements that a program is too slow for.
+    // If more events are held, the newest movement replaces the one before it, as Qt does for a
+    // program that is too slow.
     static constexpr std::size_t kMostMovements = 512;
 
 private:
@@ -64,7 +63,7 @@ private:
     void handOver();
 
     std::deque<Item> m_held;
-    // Shared with a replay that is under way, which ends what it began though this is gone.
+    // Shared with a replay that is in progress, which finishes even if this object is gone.
     std::shared_ptr<std::deque<Item>> m_outgoing = std::make_shared<std::deque<Item>>();
     const QEvent *m_sending = nullptr;
 };

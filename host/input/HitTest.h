@@ -13,19 +13,19 @@ namespace gesturewidget {
 
 class Document;
 
-// What starts a gesture: one button with exactly these modifiers.
+// The trigger: one button with exactly these modifier keys.
 struct Trigger
 {
     Qt::MouseButton button = Qt::RightButton;
     Qt::KeyboardModifiers modifiers = Qt::NoModifier;
 
-    // Whether exactly the trigger's keys are held. What else a keyboard reports, such as
-    // the keypad or a second layout, does not count.
+    // True if exactly the trigger's keys are held. Other modifiers that a keyboard reports, such
+    // as the keypad or a second layout, do not count.
     [[nodiscard]] bool matches(Qt::KeyboardModifiers held) const;
 };
 
-// One pointer event in a view, as trackers see it. Lives on the stack of whoever handles
-// the event; every answer is computed when it is asked for.
+// One pointer event in a view, as trackers see it. It lives on the stack of its creator. Every
+// answer is computed when it is asked for.
 class HitTest : public CHxHitTestInfo
 {
 public:
@@ -35,16 +35,15 @@ public:
         Other, // a release, and whatever else a pointer does
     };
 
-    // How the event belongs to a gesture that may come or is on.
+    // What the event has to do with a gesture.
     enum class Role {
-        // Nothing of a gesture: the program gets the event. A trigger button that is held
-        // in it belongs to the program then, and so it is no button that starts gestures.
+        // It is not part of a gesture, and the program gets it. A trigger button that is held
+        // belongs to the program, so it does not count as the button that starts gestures.
         Program,
-        // The trigger is the host's at the moment.
+        // The host holds the trigger's events at the moment.
         Gesture,
-        // The host's own report that a gesture has ended. What has opened meanwhile is no
-        // reason for a tracker not to hear of it, or its command would wait for a later
-        // movement and run out of the blue.
+        // The host reports the end of a gesture. A window that has opened meanwhile must not keep
+        // a tracker from learning this, or its command would run at some later movement.
         GestureEnd,
     };
 
@@ -58,7 +57,7 @@ public:
         Qt::KeyboardModifiers modifiers;
     };
 
-    // `document` may be null; nothing is owned, and all of it must outlive this.
+    // `document` may be null. Nothing is owned, and everything must outlive this object.
     HitTest(Document *document, const Trigger &trigger, const Event &event);
     ~HitTest() override;
 
@@ -78,10 +77,10 @@ public:
     [[nodiscard]] bool IsButtonHeld() const override;
 
     void NotifyDrag() override { m_dragNotified = true; }
-    // Nothing: the pointer filter sees the end of a gesture by the overlay's grab.
+    // Does nothing: the pointer filter sees the end of a gesture by the overlay's grab.
     void NotifyEnd() override { }
 
-    // Whether one of the seven reasons to leave the event alone holds.
+    // True if one of the seven reasons to leave the event alone holds.
     [[nodiscard]] bool isSuppressed() const;
     // True once a tracker has taken the drag for a gesture.
     [[nodiscard]] bool dragNotified() const { return m_dragNotified; }

@@ -41,7 +41,7 @@ PointerFilter::~PointerFilter() = default;
 
 bool PointerFilter::eventFilter(QObject *receiver, QEvent *event)
 {
-    // Every event of the program comes by here: no work before it is known to matter.
+    // Every event of the program comes through here: do no work before it matters.
     switch (event->type()) {
     case QEvent::MouseMove:
     case QEvent::MouseButtonPress:
@@ -52,7 +52,7 @@ bool PointerFilter::eventFilter(QObject *receiver, QEvent *event)
                 showToTrackers(*document, *static_cast<QMouseEvent *>(event));
             return false;
         }
-        // Most of all are movements while nothing is under way.
+        // Nearly all events are moves while idle.
         if (event->type() == QEvent::MouseMove && m_state == State::Idle && !m_held.hasRest())
             return false;
         return receiver->isWindowType()
@@ -65,9 +65,10 @@ bool PointerFilter::eventFilter(QObject *receiver, QEvent *event)
         return m_state == State::Holding && receiver->isWindowType()
             && holdWheel(static_cast<QWindow *>(receiver), *static_cast<QWheelEvent *>(event));
     case QEvent::TabletPress:
-        // Of a pen beside the mouse. What it does, the program gets in order.
+        // A pen can act while a press is held. Replay the held press first, to keep the order.
+        // This object may be gone afterwards.
         if (m_state == State::Holding && receiver->isWindowType())
-            giveBack(); // this may be gone afterwards
+            giveBack();
         return false;
     case QEvent::Show:
     case QEvent::Hide:
@@ -94,7 +95,7 @@ void PointerFilter::showToTrackers(Document &document, const QMouseEvent &event)
     if (isPress(event))
         m_documents.activate(&document);
     if (m_state == State::Gesturing) {
-        // What an overlay posts to the view when it stops.
+        // An overlay posts this to the view when it stops.
         endGestureIfStopped();
         return;
     }
@@ -137,10 +138,9 @@ bool PointerFilter::isTriggerPress(const QMouseEvent &event) const
 Document *PointerFilter::documentUnder(QWindow *window, const QMouseEvent &event) const
 {
     QPoint position = qtbridge::localPosition(event);
-    // A window that is no widget may be one that a widget contains; then that widget is
-    // among the children of the nearest window above that is one. A window without a
-    // platform window is drawn by a widget that handed it the event: asking for its
-    // identifier would make one on screen.
+    // A window without a widget may be inside a widget, which is then a child of the nearest
+    // window above that has one. A window without a platform window gets its events from a widget;
+    // asking for its identifier would create one on screen.
     for (; window && window->handle(); position += window->position(), window = window->parent()) {
         const QWidget *widget = QWidget::find(window->winId());
         if (!widget)
@@ -189,7 +189,7 @@ bool PointerFilter::holdPress(QWindow *window, const QMouseEvent &event)
 
 bool PointerFilter::filterHolding(QWindow *window, const QMouseEvent &event)
 {
-    // Held in any case: what the program gets, it gets in order.
+    // Hold it in every case, to keep the order for the program.
     m_held.hold(window, event);
     const bool isDrag =
         event.type() == QEvent::MouseMove && event.buttons() == Qt::MouseButtons(m_trigger.button);
@@ -258,8 +258,8 @@ void PointerFilter::beginGesture(const HitTest::Event &motion)
     m_held.sendRest(); // now: the overlay takes the keyboard
     if (!self || m_state != State::Gesturing)
         return;
-    // A tracker prepares its overlay on one update and starts it on the next. Were that
-    // left to the next event, a quick flick could be over before the overlay came up.
+    // A tracker prepares its overlay on one update and starts it on the next. If the next update
+    // waited for the next event, a quick flick could end before the overlay appears.
     updateGesture(motion);
 }
 
@@ -269,7 +269,7 @@ void PointerFilter::updateGesture(const HitTest::Event &motion)
     m_document->inputPoints().dispatch(hit);
     if (m_state != State::Gesturing || m_overlayCame)
         return;
-    // Nothing held the mouse before, or there were no gesture.
+    // Nobody had grabbed the mouse, or no gesture would have begun.
     m_overlay = QWidget::mouseGrabber();
     m_overlayCame = !m_overlay.isNull();
 }
@@ -321,7 +321,7 @@ void PointerFilter::endGesture(Qt::MouseButtons buttons)
     HitTest hit(document, m_trigger, seen);
     const QPointer<QWidget> grabber = QWidget::mouseGrabber();
     document->inputPoints().dispatch(hit);
-    // An overlay that comes up only now would wait for a release that has been.
+    // An overlay that appears only now would wait for a release that has already happened.
     if (QWidget::mouseGrabber() != grabber) {
         m_overlay = QWidget::mouseGrabber();
         stopOverlay();
@@ -341,7 +341,7 @@ void PointerFilter::stopOverlay()
                         QGuiApplication::mouseButtons() & ~Qt::MouseButtons(m_trigger.button),
                         QGuiApplication::keyboardModifiers());
     QCoreApplication::sendEvent(overlay, &release);
-    // Whatever it made of that, nothing stays grabbed or in the way.
+    // Whatever the overlay did, no grab and no window may stay.
     if (overlay && QWidget::mouseGrabber() == overlay)
         overlay->releaseMouse();
     if (overlay && QWidget::keyboardGrabber() == overlay)
@@ -352,7 +352,7 @@ void PointerFilter::stopOverlay()
 
 bool PointerFilter::filterSwallowing(QWindow *window, const QMouseEvent &event)
 {
-    // The last release may have gone to another program; what comes first afterwards tells.
+    // The last release may have gone to another program. The first event afterwards shows it.
     const bool isFirstPress = isPress(event) && event.buttons() == Qt::MouseButtons(event.button());
     const bool isHovering = event.type() == QEvent::MouseMove && event.buttons() == Qt::NoButton;
     if (isFirstPress || isHovering) {
@@ -404,7 +404,7 @@ void PointerFilter::noteFocus(const QObject *receiver)
 {
     Document *document = m_documents.documentOf(receiver);
     if (!document) {
-        // Of a scroll area it is the viewport that is the view, but the area that gets focus.
+        // The viewport of a scroll area is the view, but the area gets the focus.
         if (const auto *area = qobject_cast<const QAbstractScrollArea *>(receiver))
             document = m_documents.documentOf(area->viewport());
     }

@@ -17,24 +17,23 @@ namespace gesturewidget {
 class Document;
 class DocumentManager;
 
-// Stands between the window system and the program: shows the trackers every pointer event
-// in a drawing view, and keeps the events of a gesture from the program.
+// Shows every pointer event in a drawing view to the trackers, and keeps a gesture's events from
+// the program.
 //
-// Whether a press of the trigger starts a gesture is known only later, while on X11 the
-// program opens its context menu with the press. So the press and what follows are held
-// back where Qt gets them, at the window, before Qt itself has taken note of them. They
-// are dropped when a tracker says that it is a gesture, and sent again when it is not one:
-// the button was let go, the pointer went too far without a tracker taking it, or something
-// came between, such as a key. The program then sees what it always saw, only later.
+// A press of the trigger becomes a gesture only later, but on X11 a program opens its context menu
+// on the press. So the filter holds the press and the events after it at the window, before Qt
+// takes note of them. When a tracker takes the drag, they are dropped. Otherwise they are sent
+// again, and the program sees what it always saw, only later: when the button is released, when
+// the pointer moves too far without a tracker taking the drag, or when something else happens,
+// such as a key press.
 //
 //     Idle --trigger pressed in a view--> Holding
 //     Holding --a tracker takes the drag--> Gesturing
-//     Holding --anything else--> Idle, and the program gets what was held
-//     Gesturing --the tracker's overlay has stopped--> Swallowing; Idle with no button down
+//     Holding --anything else--> Idle, and the program gets the held events
+//     Gesturing --the tracker's overlay has stopped--> Swallowing, or Idle if no button is down
 //     Swallowing --all buttons are up--> Idle
 //
-// To be installed as an event filter of the application. It answers for the user-interface
-// thread alone.
+// Install it as an event filter of the application. It handles the user-interface thread only.
 class PointerFilter : public QObject
 {
     Q_OBJECT
@@ -42,46 +41,46 @@ class PointerFilter : public QObject
 public:
     enum class State { Idle, Holding, Gesturing, Swallowing };
 
-    // `documents` must outlive this. `gesturesAreEnabled` is asked on each press of the
-    // trigger in a view; while it says no of that view, nothing is held back.
+    // `documents` must outlive this. `gesturesAreEnabled` is asked at each press of the trigger in
+    // a view; if it returns false for the view, nothing is held back.
     PointerFilter(DocumentManager &documents, const Trigger &trigger,
                   std::function<bool(const QWidget *view)> gesturesAreEnabled);
     ~PointerFilter() override;
 
     [[nodiscard]] State state() const { return m_state; }
-    // Ends whatever is under way, at once: what is held is dropped, an overlay is sent the
-    // release that makes it stop, and the trackers hear of the end.
+    // Ends the current state immediately: drops held events, sends an overlay the release that
+    // stops it, and tells the trackers about the end.
     void cancel();
 
     bool eventFilter(QObject *receiver, QEvent *event) override;
 
-    // Manhattan distance in pixels from the press beyond which a drag that no tracker has
-    // taken is the program's. Twice the 20 pixels that a tracker waits for.
+    // Pixels, Manhattan distance from the press. A drag that goes farther and that no tracker has
+    // taken belongs to the program. Twice the 20 pixels that a tracker waits for.
     static constexpr int kRefusedDistance = 40;
 
 private:
-    // Mouse events as a widget gets them: the trackers look on.
+    // A mouse event as a widget gets it: only shown to the trackers.
     void showToTrackers(Document &document, const QMouseEvent &event);
 
-    // Mouse events as a window gets them; true keeps them from the program.
+    // A mouse event as a window gets it. Returns true to keep it from the program.
     bool filterWindow(QWindow *window, const QMouseEvent &event);
     bool holdPress(QWindow *window, const QMouseEvent &event);
     bool filterHolding(QWindow *window, const QMouseEvent &event);
     bool filterGesturing(QWindow *window, const QMouseEvent &event);
     bool filterSwallowing(QWindow *window, const QMouseEvent &event);
-    // Follows which keys are down, and holds keys back while Holding.
+    // Notes which keys are down, and holds keys back while Holding.
     bool filterKey(QWindow *window, const QKeyEvent &event);
-    // The wheel while Holding.
+    // Holds the wheel back while Holding.
     bool holdWheel(QWindow *window, const QWheelEvent &event);
 
-    // The drag is a gesture.
+    // Starts a gesture with the drag.
     void beginGesture(const HitTest::Event &motion);
     void updateGesture(const HitTest::Event &motion);
-    // Tells the trackers that the overlay has stopped, if it has.
+    // Tells the trackers if the overlay has stopped.
     void endGestureIfStopped();
     void endGesture(Qt::MouseButtons buttons);
     void stopOverlay();
-    // The press is the program's: gives back what was held. This may be gone afterwards.
+    // Gives the held events back to the program. This object may be gone afterwards.
     void giveBack();
 
     void noteWindowEvent(QObject *receiver, QEvent::Type type);

@@ -10,15 +10,15 @@ namespace gesturewidget {
 
 class MenuMirror;
 
-// An entry of the program's own menus, or one of its menus. Modules may read it; setting
-// anything does nothing, the program's menus stay the program's.
+// One of the program's own menus or menu entries. Modules can read it. Setting anything has no
+// effect: the program's menus stay as they are.
 class ActionMenuItem : public CHxUIMenuItem
 {
 public:
     ActionMenuItem(MenuMirror &mirror, QAction *action);
     ~ActionMenuItem() override;
 
-    // Of a top-level menu "ID_Mn" and its name, of a command its identifier; empty otherwise.
+    // For a top-level menu "ID_Mn" and its name; for a command its identifier; otherwise empty.
     [[nodiscard]] CHxString GetIdentifier() const override;
     [[nodiscard]] CHxString GetText() const override;
     void SetText(const CHxString &) override { }

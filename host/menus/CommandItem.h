@@ -6,7 +6,7 @@
 
 namespace gesturewidget {
 
-// A command that a module has made: it runs a macro. Owned by the user-interface manager.
+// A command that a module has created; it runs a macro. The user-interface manager owns it.
 class CommandItem : public CHxUICommandItem
 {
 public:
@@ -19,7 +19,7 @@ public:
     [[nodiscard]] CHxString GetCaption() const override;
     // The status text.
     [[nodiscard]] CHxString GetTip() const override { return m_statusText; }
-    // None.
+    // No icons.
     [[nodiscard]] QIcon GetSmallIcon() const override { return {}; }
     [[nodiscard]] QIcon GetLargeIcon() const override { return {}; }
 

@@ -8,7 +8,7 @@ namespace gesturewidget {
 class CommandCatalogue;
 class UiManager;
 
-// All commands: the program's by menu and toolbar, then those of modules.
+// All commands: those of the program by menu and toolbar, then those of modules.
 class CommandManager : public CHxUICommandManager
 {
 public:

@@ -9,8 +9,8 @@ namespace gesturewidget {
 
 class MenuMirror;
 
-// A whole menu bar as an entry, whose sub-items are the top-level menus. Its texts are
-// empty, and it cannot be changed.
+// A menu bar as an entry whose sub-items are the top-level menus. Its texts are empty, and it
+// cannot be changed.
 class MenuBarItem : public CHxUIMenuItem
 {
 public:

@@ -9,8 +9,8 @@
 namespace gesturewidget {
 namespace {
 
-// How often an entry is put back within how many milliseconds, in a menu that is not
-// opened. Somebody else who wants to be last too must not keep both of us busy for ever.
+// An entry is moved back at most this many times in this many milliseconds, in a menu that nobody
+// opens. Two programs that both want to be last must not keep each other busy for ever.
 constexpr int kCorrections = 8;
 constexpr qint64 kCorrectionsPeriod = 1000;
 
@@ -121,8 +121,8 @@ void MenuEntries::prepare(QWidget *place)
     m_prepared.insert(place, {});
     m_watcher.watch(place);
     connect(place, &QObject::destroyed, this, [this](const QObject *gone) { m_prepared.remove(gone); });
-    // A program that fills a menu whenever it opens has connected before this did, so the
-    // entry is back before the menu shows.
+    // A program that fills a menu whenever it opens has connected before this. So the entry is
+    // back before the menu is shown.
     if (auto *menu = qobject_cast<QMenu *>(place)) {
         connect(menu, &QMenu::aboutToShow, this, [this, menu] {
             m_prepared[menu].count = 0;

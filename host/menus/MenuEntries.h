@@ -20,8 +20,8 @@ class MenuChanges;
 class ToolsMenu;
 class UiMenuItem;
 
-// Owns the entries of modules and keeps them at the end of the menus that they were put into, also when
-// the program clears a menu and fills it again or replaces it.
+// Owns the menu entries of modules, and keeps them at the end of their menus, also when the
+// program clears, refills or replaces a menu.
 class MenuEntries : public QObject
 {
     Q_OBJECT
@@ -31,21 +31,21 @@ public:
     ~MenuEntries() override;
 
     [[nodiscard]] UiMenuItem *create(const QString &identifier, const QString &text, const QString &tip);
-    // Takes the entry out of its menu and destroys it. Here and below, what is no entry of
-    // these, null or gone already, is ignored.
+    // Takes the entry out of its menu and destroys it. This and the functions below ignore items
+    // that are null, unknown or already destroyed.
     void destroy(const CHxUIMenuItem *item);
-    // The item as one of these entries; null if it is none. Only compares.
+    // Returns the item as one of these entries, or null. Compares addresses only.
     [[nodiscard]] UiMenuItem *entryOf(const CHxUIMenuItem *item) const;
-    // Entries that ran this command run nothing.
+    // Entries of this command run nothing from now on.
     void forgetCommand(const CHxUICommandItem *command);
 
-    // Puts an entry last into a menu or menu bar, at once; takes it out of where it was.
+    // Moves an entry to the end of a menu or menu bar.
     void append(UiMenuItem *item, QWidget *place);
-    // Takes an entry out; nothing happens to one that is in no menu.
+    // Takes an entry out of its menu, if it is in one.
     void remove(UiMenuItem *item);
-    // Puts every entry back to where it belongs, when control is in the event loop again.
+    // Moves every entry back to its place, from the event loop.
     void restoreLater();
-    // The same at once.
+    // Does the same now.
     void restore();
 
 private:

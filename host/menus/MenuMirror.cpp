@@ -9,12 +9,13 @@
 #include <QMenuBar>
 #include <QSet>
 
+#include <functional>
 #include <utility>
 
 namespace gesturewidget {
 namespace {
 
-// "ID_Mn" and what the menu is called, letters and digits only.
+// Returns "ID_Mn" and the menu's name, letters and digits only.
 QString menuIdentifier(const QAction &action)
 {
     const QString name = action.menu() && !action.menu()->objectName().isEmpty()
@@ -38,6 +39,7 @@ MenuMirror::MenuMirror(CommandCatalogue &catalogue, ToolsMenu &tools, MenuEntrie
     , m_nothing(*this, nullptr)
 {
     connect(&m_catalogue, &CommandCatalogue::menusChanged, this, &MenuMirror::invalidate);
+    connect(&m_catalogue, &CommandCatalogue::prepared, this, &MenuMirror::prepare);
 }
 
 MenuMirror::~MenuMirror() = default;
@@ -82,8 +84,8 @@ std::size_t MenuMirror::size() const
     return m_items.size() + m_collections.size() + m_menus.size() + m_barItems.size();
 }
 
-// Of a bar only what a person sees in it, and the made Tools menu, which may be empty and
-// hidden still.
+// Lists what a person sees in a menu bar, and the made Tools menu, which may still be empty and
+// hidden.
 std::vector<CHxUIMenuItem *> MenuMirror::listBar(const QMenuBar &bar)
 {
     const QMenu *tools = m_tools.find();
@@ -115,6 +117,24 @@ CHxUIMenuItem *MenuMirror::itemOf(QAction *action)
     if (const auto *entry = qobject_cast<EntryAction *>(action))
         return entry->item();
     return m_items.of(action, [&] { return std::make_unique<ActionMenuItem>(*this, action); });
+}
+
+void MenuMirror::prepare()
+{
+    QSet<const CHxUIMenuItemCollection *> visited; // menus may contain each other
+    const std::function<void(const CHxUIMenuItemCollection *)> read =
+        [&](const CHxUIMenuItemCollection *items) {
+            if (!items || visited.contains(items))
+                return;
+            visited.insert(items);
+            for (int i = 0; i < items->GetCount(); ++i) {
+                if (const CHxUIMenuItem *item = items->GetItem(i))
+                    read(item->GetSubItems());
+            }
+        };
+    const QVector<QMenuBar *> bars = menuBars();
+    for (QMenuBar *bar : bars)
+        read(itemsOf(bar));
 }
 
 void MenuMirror::clean()

@@ -22,9 +22,9 @@ class CommandCatalogue;
 class MenuEntries;
 class ToolsMenu;
 
-// The program's menu bars, menus and their actions as the objects that modules see, made
-// as they are asked for. One whose menu or action is gone stays, empty, until control is
-// back in the event loop.
+// The program's menu bars, menus and actions as the objects that modules see. They are made when
+// somebody asks, and again some time after the menus have changed, so that a gesture does not have
+// to wait. The object of a menu or action that is gone stays, empty, until the event loop runs.
 class MenuMirror : public QObject
 {
     Q_OBJECT
@@ -33,26 +33,27 @@ public:
     MenuMirror(CommandCatalogue &catalogue, ToolsMenu &tools, MenuEntries &entries);
     ~MenuMirror() override;
 
-    // The window's menu bars, its own one first.
+    // Returns the window's menu bars, its own one first.
     [[nodiscard]] const QVector<QMenuBar *> &menuBars();
-    // The items of a menu or menu bar; for null a collection that is always empty.
+    // Returns the items of a menu or menu bar; for null a collection that is always empty.
     [[nodiscard]] UiMenuItemCollection *itemsOf(QWidget *place);
     [[nodiscard]] UiMenu *menuOf(QMenuBar *bar);
     [[nodiscard]] MenuBarItem *barItemOf(QMenuBar *bar);
 
-    // The number of changes so far: who has listed something lists it again when this has
-    // moved on.
+    // Returns the number of changes so far. A list that was made before the number changed is out
+    // of date.
     [[nodiscard]] int generation() const { return m_generation; }
     void invalidate() { ++m_generation; }
     [[nodiscard]] std::vector<CHxUIMenuItem *> list(QWidget *place);
     [[nodiscard]] CommandCatalogue &catalogue() { return m_catalogue; }
     [[nodiscard]] MenuEntries &entries() { return m_entries; }
-    // How many objects there are at the moment.
+    // Returns the number of objects at the moment.
     [[nodiscard]] std::size_t size() const;
 
 private:
     [[nodiscard]] std::vector<CHxUIMenuItem *> listBar(const QMenuBar &bar);
     [[nodiscard]] CHxUIMenuItem *itemOf(QAction *action);
+    void prepare();
     void clean();
 
     CommandCatalogue &m_catalogue;

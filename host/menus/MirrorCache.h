@@ -7,19 +7,19 @@
 
 namespace gesturewidget {
 
-// Objects that each stand for one of the program's, by its address. `Item` has a member
-// source() that is null once the program's object is gone.
+// Objects that each stand for an object of the program, by its address. `Item` has a member
+// source() that returns null once the program's object is gone.
 //
-// An object whose source is gone is retired first and destroyed later: somebody who walks
-// the menus may hold it.
+// Such an item is first retired and destroyed later, because somebody who walks the menus may
+// still use it.
 template <class Item, class Source> class MirrorCache
 {
 public:
-    // The object that stands for `source`, made by `make` at first sight.
+    // Returns the item for `source`; `make` creates it at first.
     template <class Make> Item *of(Source *source, Make make)
     {
         std::unique_ptr<Item> &item = m_items[source];
-        if (item && item->source() != source) // something else was at this address before
+        if (item && item->source() != source) // another object had this address before
             m_retired.push_back(std::move(item));
         if (!item)
             item = make();

@@ -10,8 +10,8 @@ namespace gesturewidget {
 
 class MenuChanges;
 
-// The menu that modules put their entries into. The program's own one where it has one;
-// otherwise a menu that is made here and shows only while something is in it.
+// The menu for the entries of modules: the program's own Tools menu, otherwise a menu made here
+// that is visible only while it has entries.
 class ToolsMenu
 {
 public:
@@ -21,14 +21,14 @@ public:
     ~ToolsMenu();
     Q_DISABLE_COPY_MOVE(ToolsMenu)
 
-    // Null when there is none: the program has none and nobody has asked for one yet.
+    // Returns null if the program has none and nobody has asked for one yet.
     [[nodiscard]] QMenu *find() const;
-    // Null only without a menu bar. A menu that is made stands before Help;
-    // its caption is in the language of the program's other menus.
+    // Returns null only without a menu bar. A new menu is placed before Help; its caption is in
+    // the language of the program's other menus.
     [[nodiscard]] QMenu *findOrMake();
-    // The menu that was made; null if none.
+    // Returns the menu that was made here, or null.
     [[nodiscard]] QMenu *made() const { return m_made; }
-    // Hides the made menu when nothing is in it, and shows it again.
+    // Hides the made menu while it is empty, and shows it otherwise.
     void updateVisibility();
 
 private:

@@ -13,7 +13,7 @@ public:
     UiCommandItemCollection();
     ~UiCommandItemCollection() override;
 
-    // Null is ignored too.
+    // Ignores null and an item that was added before.
     void Add(CHxUICommandItem *item) override;
     void remove(const CHxUICommandItem *item);
     [[nodiscard]] const std::vector<CHxUICommandItem *> &items() const { return m_items; }

@@ -17,8 +17,8 @@ namespace gesturewidget {
 
 class CommandCatalogue;
 
-// The program's menus, and the commands and entries that modules have made. What modules
-// have made is taken out of the menus when this goes.
+// The program's menus, and the commands and entries of modules. The destructor takes these out of
+// the menus.
 class UiManager : public CHxUIManager
 {
 public:
@@ -32,13 +32,13 @@ public:
     [[nodiscard]] std::unique_ptr<CHxIterator<CHxUIWorkspace>> NewWorkspaceIterator() override;
     [[nodiscard]] std::unique_ptr<CHxIterator<CHxUIMenu>> NewMenuIterator() override;
 
-    // Also finds the program's commands.
+    // Finds the program's commands as well.
     [[nodiscard]] CHxUICommandItem *FindCommandItem(const CHxString &workspace,
                                                     const CHxString &identifier) override;
     [[nodiscard]] CHxUICommandItem *CreateCommandItem(const CHxString &identifier, int flags) override;
-    // Only compares, so that a pointer to something that is gone does no harm.
+    // Compares addresses only, so `item` may be gone.
     [[nodiscard]] bool Contains(const CHxUICommandItem *item) const override;
-    // Nothing happens to the program's commands.
+    // Ignores the program's own commands.
     void RemoveCommandItem(CHxUICommandItem *item) override;
 
     [[nodiscard]] CHxUIMenuItem *CreateMenuItem(int flags, const CHxString &identifier,
@@ -49,7 +49,7 @@ public:
 
     // For CHxSystemServices::GetMenuItems().
     [[nodiscard]] UiMenuBars &menuBars() { return m_menuBars; }
-    // The commands that modules have made, in that order.
+    // Returns the commands of modules in the order of their creation.
     [[nodiscard]] std::vector<CHxUICommandItem *> moduleCommands() const;
     [[nodiscard]] const ToolsMenu &toolsMenu() const { return m_tools; }
     [[nodiscard]] const MenuMirror &mirror() const { return m_mirror; }

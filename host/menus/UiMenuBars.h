@@ -6,7 +6,7 @@ namespace gesturewidget {
 
 class MenuMirror;
 
-// The window's menu bars, an entry each. Nothing can be put in or taken out.
+// The window's menu bars, one entry each. Nothing can be added or removed.
 class UiMenuBars : public CHxUIMenuItemCollection
 {
 public:

@@ -9,7 +9,7 @@
 
 namespace gesturewidget {
 
-// A menu entry that a module has made. Owned by the user-interface manager.
+// A menu entry of a module. The user-interface manager owns it.
 class UiMenuItem : public CHxUIMenuItem
 {
 public:
@@ -20,15 +20,15 @@ public:
     [[nodiscard]] CHxString GetText() const override { return m_action.text(); }
     void SetText(const CHxString &text) override { m_action.setText(text.toQString()); }
     [[nodiscard]] CHxUICommandItem *GetCommandItem() const override { return m_command; }
-    // The entry shows the command's tip in the status bar, unless it was made with its own.
+    // The entry shows the command's tip in the status bar, unless it has a tip of its own.
     void SetCommandItem(CHxUICommandItem *item) override;
     [[nodiscard]] CHxUIMenuItemCollection *GetSubItems() const override { return nullptr; }
 
     [[nodiscard]] EntryAction &action() { return m_action; }
 
-    // The menu or menu bar that it is in; null when it is in none.
+    // The menu or menu bar that contains it; null if none does.
     QPointer<QWidget> place;
-    // It belongs to the Tools menu, whichever that is at the moment.
+    // True if it belongs to the Tools menu, whichever menu that is at the moment.
     bool isForTools = false;
 
 private:

@@ -11,7 +11,7 @@ namespace gesturewidget {
 
 class MenuMirror;
 
-// What is in one of the program's menus or menu bars. Empty when that is gone.
+// The items of one of the program's menus or menu bars. Empty if that is gone.
 class UiMenuItemCollection : public CHxUIMenuItemCollection
 {
 public:
@@ -21,8 +21,7 @@ public:
 
     [[nodiscard]] int GetCount() const override;
     [[nodiscard]] CHxUIMenuItem *GetItem(int index) const override;
-    // Only entries that a module has made can be put in and taken out; the program's own
-    // stay where they are.
+    // Only entries of modules can be added and removed; the program's own entries stay.
     void Append(CHxUIMenuItem *item) override;
     void Remove(CHxUIMenuItem *item) override;
 

@@ -20,8 +20,8 @@ CHxString UiWorkspace::GetName() const
 
 CHxUIMenuItemCollection *UiWorkspace::GetMenuItems()
 {
-    // Not earlier than somebody asks: a program whose menus are being built may yet make
-    // a Tools menu of its own.
+    // Do not make a Tools menu before somebody asks: the program may still be building its menus
+    // and add its own.
     const QVector<QMenuBar *> &bars = m_mirror.menuBars();
     if (!bars.isEmpty())
         static_cast<void>(m_tools.findOrMake());

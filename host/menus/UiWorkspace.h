@@ -8,7 +8,7 @@ namespace gesturewidget {
 class MenuMirror;
 class ToolsMenu;
 
-// The one arrangement of menus that a program has: the one on screen.
+// The program's only workspace: the menus on screen.
 class UiWorkspace : public CHxUIWorkspace
 {
 public:
@@ -19,8 +19,7 @@ public:
     [[nodiscard]] CHxString GetName() const override;
     [[nodiscard]] bool IsCurrent() const override { return true; }
     [[nodiscard]] UiCommandItemCollection *GetCommandItems() override { return &m_commands; }
-    // The menus of the first menu bar, among them always one for tools; empty when there is
-    // no menu bar.
+    // The menus of the first menu bar, always with one for tools; empty without a menu bar.
     [[nodiscard]] CHxUIMenuItemCollection *GetMenuItems() override;
 
 private:

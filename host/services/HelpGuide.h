@@ -14,17 +14,17 @@ class HelpGuide
 public:
     using Opener = std::function<bool(const QUrl &url)>;
 
-    // Opens pages with the person's browser, and finds them near this library: in an
-    // installation's share/doc/gesturewidget, or in a source tree's docs.
+    // Opens pages in the person's browser. Looks for the guide near this library: in
+    // share/doc/gesturewidget of an installation, or in docs of a source tree.
     HelpGuide();
 
-    // Opens the guide at the topic's place; 0 is its beginning. Returns whether it opened.
+    // Opens the guide at a topic; 0 is the beginning. Returns false if that is impossible.
     bool open(int topic) const;
 
-    // Anchor of a topic in the guide: "topic-" and its number, empty for 0.
+    // Returns a topic's anchor in the guide: "topic-" and the number, empty for 0.
     [[nodiscard]] static QString anchorOf(int topic);
 
-    // What opens pages, and where they are looked for; tests set their own.
+    // What opens pages, and the files to try. Tests set their own.
     Opener opener;
     QStringList files;
 };

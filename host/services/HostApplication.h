@@ -4,9 +4,8 @@
 
 namespace gesturewidget {
 
-// The host as an application: keeps the mode that a module sets. The mode has no effect of
-// its own here, since the pointer filter knows from the grab when a module follows the
-// pointer by itself.
+// The application object that modules see. It stores the mode that a module sets. The mode has no
+// effect, because the pointer filter learns from the grab that a module follows the pointer.
 class HostApplication : public CHxApplication
 {
 public:

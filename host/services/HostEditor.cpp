@@ -66,7 +66,7 @@ void HostEditor::tellUninformed()
     }
 }
 
-// The reactor as one that hears of main windows; null when it is none, or not there any more.
+// Returns the reactor if it handles main windows and is still there; otherwise null.
 CHxEditorReactor *HostEditor::frameReactor(OdEditorReactor *reactor) const
 {
     const auto isReactor = [reactor](const Entry &entry) { return entry.reactor == reactor; };

@@ -13,9 +13,8 @@ class CHxEditorReactor;
 
 namespace gesturewidget {
 
-// Tells its reactors about the main window. Reactors that are CHxEditorReactor hear of it
-// also when they are added after it came up: from the event loop, so that whoever adds
-// one has finished doing so.
+// Tells its reactors about the main window. A CHxEditorReactor that is added after the window
+// appeared is told from the event loop, so that its owner can finish adding it.
 class HostEditor : public OdStaticRxObject<OdEditor>
 {
 public:
@@ -25,11 +24,11 @@ public:
     void addReactor(OdEditorReactor *reactor) override;
     void removeReactor(OdEditorReactor *reactor) override;
 
-    // The main window's menus are complete. A second call before notifyMainFrameDestroyed()
-    // does nothing.
+    // Call this when the main window's menus are complete. A second call before
+    // notifyMainFrameDestroyed() has no effect.
     void notifyMainFrameCreated(QWidget *frame);
-    // The main window goes away; `frame` may be half destroyed and is only handed on.
-    // Reactors that never heard of it do not hear of this.
+    // Call this when the main window goes away. `frame` may be half destroyed and is only passed
+    // on. Reactors that were never told about the window are not told now.
     void notifyMainFrameDestroyed(QWidget *frame);
 
 private:

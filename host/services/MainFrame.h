@@ -18,7 +18,7 @@ public:
     [[nodiscard]] QWidget *GetMainWindow() const override { return m_window; }
 
 private:
-    QPointer<QWidget> m_window; // while it is being destroyed it is no QMainWindow any more
+    QPointer<QWidget> m_window; // a plain widget while it is being destroyed
 };
 
 } // namespace gesturewidget

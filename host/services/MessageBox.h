@@ -5,11 +5,11 @@ class QWidget;
 
 namespace gesturewidget {
 
-// Shows a message over `parent`, which may be null, and waits for the answer. `style` and
-// the answer are the numbers of CHxSystemServices: 1 in the lowest four bits adds a Cancel
-// button, the next four are the sign: 16 error, 32 question, 48 warning, 64 information.
-// A box that is closed in another way than by its buttons answers Cancel, and so does one
-// that goes away with its parent; without a Cancel button the answer is always OK.
+// Shows a message over `parent`, which may be null, and waits for the answer. `style` and the
+// answer are numbers of CHxSystemServices: 1 in the lowest four bits of `style` adds a Cancel
+// button; the next four bits are the icon: 16 error, 32 question, 48 warning, 64 information.
+// Closing the box in any other way, or destroying it with its parent, answers Cancel. Without a
+// Cancel button the answer is always OK.
 [[nodiscard]] int showMessage(QWidget *parent, const QString &text, const QString &caption, int style);
 
 } // namespace gesturewidget

@@ -7,13 +7,12 @@
 
 namespace gesturewidget {
 
-// Keeps values in a file of the program's own, see SettingsFile. What is set counts at
-// once and is written together when control is back in the event loop, and at the latest
-// when this is destroyed. What cannot be written is kept until then in memory only, and
-// one line on standard error says so.
+// Keeps values in the program's own file, see SettingsFile. A value that is set counts
+// immediately. It is written with others from the event loop, at the latest in the destructor. If
+// writing fails, values stay in memory until then, and one line on standard error says so.
 //
-// Values that others have written are seen at the next look. Of two programs that set one
-// value the later one counts.
+// Values that other processes have written are seen at the next reading. If two programs set one
+// value, the later one wins.
 class ProfileStore : public QObject, public CHxProfileStore
 {
     Q_OBJECT
@@ -23,19 +22,19 @@ public:
     ~ProfileStore() override;
 
     [[nodiscard]] bool Exists(const CHxString &section, const CHxString &key) override;
-    // Nothing for a source other than kProfile.
+    // Returns null for a source other than kProfile.
     [[nodiscard]] OdResBufPtr Get(const CHxString &section, const CHxString &key, int source) override;
-    // False for anything but a string.
+    // Returns false for anything but a string.
     bool Set(const CHxString &section, const CHxString &key, const OdResBuf *value) override;
 
-    // All values that are in the file.
+    // Returns all values in the file.
     [[nodiscard]] const SettingsFile::Values &values();
-    // Writes what is not written yet. Returns whether nothing is left to write.
+    // Writes the values that are not written yet. Returns true if none is left.
     bool flush();
 
 private:
     void refresh();
-    // The value; null when there is none.
+    // Returns the value, or null if there is none.
     [[nodiscard]] const QString *valueOf(const QString &name);
 
     QString m_path;

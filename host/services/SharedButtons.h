@@ -2,9 +2,9 @@
 
 namespace gesturewidget {
 
-// Offers the images of dialog buttons that modules expect of a host: ":/images/shared/"
-// with ok.png, cancel.png and help.png. A program that has such images itself keeps its
-// own, each by itself. Calling it a second time does nothing.
+// Offers the images for dialog buttons that modules expect from a host: ok.png, cancel.png and
+// help.png in ":/images/shared/". If the program has one of them, its own is used. A second call
+// has no effect.
 void provideSharedButtons();
 
 } // namespace gesturewidget

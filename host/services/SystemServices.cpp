@@ -24,8 +24,7 @@
 namespace gesturewidget {
 namespace {
 
-// Icons of this height and more, in pixels, are what a person who has asked for large
-// ones sees; programs come with 16 to 25 as a rule.
+// Pixels. Icons of this height and more are large: most programs have icons of 16 to 25 pixels.
 constexpr int kLargeIcon = 32;
 
 } // namespace

@@ -17,21 +17,21 @@ class HostEditor;
 class ToolsMenu;
 struct ProgramProfile;
 
-// Everything that a module can ask of its host, over one main window. Owns all of it but
-// the documents, the application and the main frame.
+// Implements everything that a module can ask its host for, over one main window. Owns all of it
+// except the documents, the application and the main frame.
 //
 //     gesturewidget::SystemServices services(window, profile, &documents, settingsFile);
 //     odedSetCommandStack(&services.commandStack());
 //     odedSetEditor(&services.editor());
 //     SetHxSystemServices(&services);
 //
-// Takes down nothing of that itself: who set it takes it away before this is destroyed.
-// The window may go first.
+// The caller that sets these must reset them before this object is destroyed. The window may be
+// destroyed first.
 class SystemServices : public CHxSystemServices
 {
 public:
-    // `documents` may be null and must outlive this. `settingsFile` is the program's own
-    // INI file, see ProfileStore; the commands are kept beside it.
+    // `documents` may be null and must outlive this. `settingsFile` is the program's own INI file,
+    // see ProfileStore; the commands are kept beside it. `guide` is what ShowHelp() opens.
     SystemServices(QMainWindow *window, const ProgramProfile &profile, CHxDocumentManager *documents,
                    const QString &settingsFile, const HelpGuide &guide = HelpGuide());
     ~SystemServices() override;
@@ -39,8 +39,8 @@ public:
     [[nodiscard]] CommandStack &commandStack();
     [[nodiscard]] HostEditor &editor();
     [[nodiscard]] CommandCatalogue &catalogue();
-    // The program's menus are complete: the commands in them are remembered for its next
-    // start, see CatalogueMemory.
+    // Call this when the program's menus are complete. Their commands are then remembered for the
+    // next start, see CatalogueMemory.
     void startRemembering();
     void stopRemembering();
     [[nodiscard]] const ToolsMenu &toolsMenu() const;
@@ -59,7 +59,7 @@ public:
 
     CHxCommandResultPtr RunCommand(const CHxString &command, bool wait) override;
 
-    // Whether the main window's icons are 32 pixels or more in height.
+    // True if the main window's icons are 32 pixels high or more.
     [[nodiscard]] bool UsesLargeIcons() const override;
     [[nodiscard]] CHxString GetApplicationName() const override;
 

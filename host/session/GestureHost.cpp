@@ -28,7 +28,7 @@ GestureHost::Options GestureHost::optionsForThisProgram()
 }
 
 GestureHost::GestureHost(QMainWindow *window)
-    : GestureHost(window, Options())
+    : GestureHost(window, optionsForThisProgram())
 {
 }
 

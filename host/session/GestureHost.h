@@ -16,66 +16,80 @@ namespace gesturewidget {
 
 class HostSession;
 
-// Gives a Qt Widgets program mouse gestures: loads the module and stands for the platform
-// that it expects, over the program's main window. One at a time in a process.
+// Gives a Qt Widgets program mouse gestures: loads the gesture module and implements the
+// platform that the module expects over the program's main window.
 //
 //     MainWindow window;
 //     gesturewidget::GestureHost gestures(&window);
 //     gestures.addView(window.canvas());
 //     QString error;
 //     if (!gestures.start(&error))
-//         std::cerr << qPrintable(error) << '\n';
+//         std::cerr << qPrintable(error) << '\n'; // the program goes on without gestures
 //     window.show();
 //     return app.exec();
 //
-// The main window and its views stay the program's; they may go away before the host or
-// after it, in any order.
+// A process can run one host at a time. Everything here belongs to the thread of the user
+// interface. Nothing throws.
+//
+// The program owns the main window and the views. Both may be destroyed before or after the
+// host, in any order.
 class GESTUREWIDGET_HOST_EXPORT GestureHost
 {
 public:
-    // Whatever is left empty is found by itself.
+    // How the host finds what it needs. Options() takes nothing from outside the program;
+    // optionsForThisProgram() is what most programs want.
     struct Options
     {
-        // The program's name in lower case, by which its profile and its settings are
-        // found. Default: the name of the running program's file.
+        // The program's name in lower case; the host finds the profile and the settings by it.
+        // Empty: the name of the running program's file.
         QString program;
-        // Folders that are searched for "<program>.json", first match wins. Default: none,
-        // a program without a profile names its views with addView().
+        // Folders in which the host looks for the profile "<program>.json"; the first match
+        // wins. Empty: the program has no profile.
         QStringList profileFolders;
-        // Whether what no profile says is guessed from what the program looks like: which
-        // widgets are its views, which actions its well-known commands.
+        // True: the host guesses what no profile says, from how the program looks: which
+        // actions are the well-known commands of the first bindings, and which widgets are
+        // views. Views are guessed only while the program has named none with addView().
+        // False, and no profile: the ring is empty until the person binds commands.
         bool guesses = false;
-        // The module's file. Default: the one installed beside this library.
+        // The module's file. Empty: the module that is installed beside this library.
         QString moduleFile;
-        // Where the bindings are kept. Default: a file of the program's name in the user's
-        // configuration folder.
+        // The INI file for the bindings; created when needed. Commands that the program has
+        // shown are kept beside it. Empty: "<program>.ini" in the folder "gesturewidget" of the
+        // user's configuration folder.
         QString settingsFile;
     };
 
-    // Everything filled in for the running program as it is: its name, as profile folders
-    // those of GESTUREWIDGET_PROFILES, the user's and the installed ones, and guesses for
-    // the rest. To be called once the application object exists.
+    // Returns the options for the running program: its name; as profile folders those that the
+    // environment variable GESTUREWIDGET_PROFILES names, the user's and the installed ones; the
+    // default files; and guesses for the rest. Call this after creating the application object.
     [[nodiscard]] static Options optionsForThisProgram();
 
+    // Uses optionsForThisProgram(). Create the application object first. `window` is the main
+    // window whose menus hold the commands; without it start() fails.
     explicit GestureHost(QMainWindow *window);
     GestureHost(QMainWindow *window, const Options &options);
-    // Stops. What the module was given stays until the application ends.
+    // Stops the host. Objects that the module was given live on until the application ends,
+    // because the module may still use them.
     ~GestureHost();
     Q_DISABLE_COPY_MOVE(GestureHost)
 
-    // Loads the module and begins to watch the views. The module enters its own commands
-    // into the menus once the main window is shown and its menus are complete. Returns
-    // false, with one line in `error` when that is not null, if the module cannot be used
-    // or another host is running; the program is then as it was before.
+    // Loads the module and starts watching the views. The module puts its menu entry into the
+    // Tools menu once the window is shown and its menus are complete.
+    //
+    // Returns true if the host runs, also if it was running before. Returns false, and puts one
+    // line into `error` if that is not null, if there is no window or no QApplication, if
+    // another host is running, if this one was stopped before, or if the module cannot be
+    // loaded. The program is then unchanged.
     bool start(QString *error = nullptr);
-    // Takes everything out again. Happens by itself when the main window is destroyed or
-    // the application quits; a host that was stopped cannot be started again.
+    // Takes everything out of the program again. This also happens when the main window is
+    // destroyed and when the application quits. A stopped host cannot be started again.
     void stop();
+    // True between a successful start() and stop().
     [[nodiscard]] bool isRunning() const;
 
-    // Makes `view` a drawing view: dragging in it makes gestures. Not owned; for a scroll
-    // area it is the viewport that counts. May be called before start() and after it; null
-    // is ignored.
+    // Makes `view` a drawing view: a drag that begins in it can become a gesture. The caller
+    // keeps the ownership. For a scroll area its viewport counts. May be called before and after
+    // start(), and more than once for a view; null is ignored.
     void addView(QWidget *view);
 
 private:

@@ -4,6 +4,7 @@
 #include "host/commands/CommandStack.h"
 #include "host/files/Complaint.h"
 #include "host/files/ProgramProfile.h"
+#include "host/files/SettingsNames.h"
 #include "host/files/TriggerText.h"
 #include "host/services/HostEditor.h"
 #include "host/services/SystemServices.h"
@@ -18,17 +19,15 @@
 #include <QTimer>
 
 #include <algorithm>
-#include <cstdio>
 
 namespace gesturewidget {
 namespace {
 
-// Milliseconds from the first view to menus that are taken for complete: programs add to
-// them what a drawing brings when it opens.
+// Milliseconds from the first view to complete menus. Programs add entries when a drawing opens.
 constexpr int kTimeForMenus = 1000;
 
-// Plain pointers: nothing of this may run when the process ends by exit(), at a time when
-// Qt is half gone.
+// Plain pointers, so that nothing runs here when the process ends by exit(), when Qt is half
+// destroyed.
 HostSession *running = nullptr;
 HostSession *firstStarted = nullptr;
 
@@ -77,7 +76,7 @@ bool HostSession::start(QString *error)
     const ProgramProfile profile =
         ProgramProfile::forProgram(m_options.program, m_options.profileFolders, &message);
     if (!message.isEmpty())
-        std::fprintf(stderr, "mouse gestures: %s\n", qPrintable(message));
+        complain(message);
 
     m_services = std::make_unique<SystemServices>(window, profile, &m_documents, m_options.settingsFile);
     if (m_options.guesses)
@@ -91,7 +90,8 @@ bool HostSession::start(QString *error)
     m_pointerFilter = std::make_unique<PointerFilter>(
         m_documents, chosenTrigger({profile.triggerButton, profile.triggerModifiers}),
         [this](const QWidget *view) { return isOfThisWindow(view) && gesturesAreEnabled(); });
-    m_viewFinder = std::make_unique<ViewFinder>(profile.viewClasses, m_options.guesses);
+    m_viewFinder =
+        std::make_unique<ViewFinder>(profile.viewClasses, m_options.guesses && m_addedViews.isEmpty());
     connect(m_viewFinder.get(), &ViewFinder::viewFound, this, &HostSession::openView);
     connect(&m_menuReadiness, &MenuReadiness::settled, this, [this] {
         m_menusHaveSettled = true;
@@ -150,9 +150,8 @@ void HostSession::stop()
 
 void HostSession::stopWithoutWindow()
 {
-    // The window is no main window any more, only what is left of it, though pointers to it
-    // still say that it is there. There are no menus to take the module's entry out of; a
-    // module that finds no services leaves that be.
+    // The window is only a plain widget by now, although pointers to it are not null yet. Its
+    // menus are gone, and a module that finds no services does not look for its entry.
     m_windowIsGone = true;
     stop();
 }
@@ -163,10 +162,10 @@ void HostSession::finish()
     if (m_isFinished)
         return;
     m_isFinished = true;
-    // The command stack lets go of the module's command before that goes with the module.
+    // The command stack must release the module's command before the module is destroyed.
     m_pointerFilter.reset();
     m_services.reset();
-    // A library has one module object, however many hosts have loaded it in turn.
+    // A library has one module object, even if several hosts have loaded it in turn.
     bool isShared = false;
     for (const HostSession *other = firstStarted; other; other = other->m_next)
         isShared |= !other->m_isFinished && other->m_loader.module() == m_loader.module();
@@ -202,8 +201,10 @@ void HostSession::addView(QWidget *view)
     m_addedViews.removeAll(nullptr); // those that are gone
     if (m_isRunning || !m_wasStarted)
         m_addedViews.append(view);
-    if (m_isRunning)
-        openView(ViewFinder::pointerWidget(view));
+    if (!m_isRunning)
+        return;
+    m_viewFinder->stopGuessing(); // a program that names a view names all of them
+    openView(ViewFinder::pointerWidget(view));
 }
 
 void HostSession::openView(QWidget *view)
@@ -228,8 +229,9 @@ void HostSession::waitForAllMenus()
 Trigger HostSession::chosenTrigger(Trigger trigger) const
 {
     CHxProfileStore *store = m_services->GetProfileStore();
-    const OdResBufPtr value =
-        store ? store->Get(triggerSection(), triggerKey(), CHxProfileStore::kProfile) : OdResBufPtr();
+    const OdResBufPtr value = store ? store->Get(settingsnames::hostSection(),
+                                                 settingsnames::triggerKey(), CHxProfileStore::kProfile)
+                                    : OdResBufPtr();
     const QString text = value ? value->getString().toQString() : QString();
     if (text.isEmpty())
         return trigger;
@@ -247,9 +249,9 @@ bool HostSession::isOfThisWindow(const QWidget *view) const
         return added && ViewFinder::pointerWidget(added) == view;
     };
     if (std::any_of(m_addedViews.begin(), m_addedViews.end(), isAdded))
-        return true; // by the program itself, which knows what it does
-    // A window with menus of its own has commands of its own. Those of a view that was
-    // detached from this one, or that is in a dock, are the commands here.
+        return true; // the program itself has named it
+    // A window with its own menus has its own commands. A view that was detached from this window,
+    // or that is in a dock, uses the commands of this one.
     const QWidget *window = view ? view->window() : nullptr;
     return window == m_window.data() || !hasMenuBar(qobject_cast<const QMainWindow *>(window));
 }
@@ -259,14 +261,14 @@ bool HostSession::gesturesAreEnabled() const
     CHxProfileStore *store = m_services->GetProfileStore();
     if (!store)
         return true;
-    const OdResBufPtr value =
-        store->Get("GestureWidget", "EnableMouseGesture", CHxProfileStore::kProfile);
+    const OdResBufPtr value = store->Get(settingsnames::moduleSection(), settingsnames::enabledKey(),
+                                         CHxProfileStore::kProfile);
     return !value || value->getString().toQString() != QLatin1String("0");
 }
 
 bool HostSession::eventFilter(QObject *, QEvent *event)
 {
-    // The last moment at which the main window is still whole.
+    // This is the last moment at which the main window is complete.
     if (event->type() == QEvent::DeferredDelete)
         stop();
     return false;

@@ -22,13 +22,12 @@ namespace gesturewidget {
 class SystemServices;
 struct ProgramProfile;
 
-// One life of the host: puts the parts together, starts the module over them and takes
-// everything out again.
+// One life of the host: puts the parts together, starts the module and takes everything out again.
 //
-// It ends in two steps. stop() takes the module out of the program, at any time. The module
-// object and what it was given are destroyed only when the application has left its event
-// loop: stop() may come from deep inside the module's own code, from a dialog of it for
-// instance that was open while the main window was destroyed.
+// It ends in two steps. stop() takes the module out of the program at any time. The module object
+// and everything that it was given are destroyed only after the application has left its event
+// loop, because stop() may be called from inside the module: from a dialog, for example, that was
+// open when the main window was destroyed.
 class HostSession : public QObject
 {
     Q_OBJECT
@@ -50,28 +49,28 @@ public:
 private:
     void stopWithoutWindow();
     void openView(QWidget *view);
-    // Takes the menus for complete some time after a view is there and they have settled.
+    // Takes the menus as complete some time after they have settled and a view is open.
     void waitForAllMenus();
-    // The one that the person chose in the settings, else the one given.
+    // Returns the trigger from the person's settings, or else `trigger`.
     [[nodiscard]] Trigger chosenTrigger(Trigger trigger) const;
     [[nodiscard]] bool gesturesAreEnabled() const;
-    // Whether the commands of this session's main window are those for the view.
+    // True if the view belongs to this session's main window.
     [[nodiscard]] bool isOfThisWindow(const QWidget *view) const;
     // The application is over.
     static void finishAll();
     void finish();
 
     const GestureHost::Options m_options;
-    QPointer<QWidget> m_window; // while it is being destroyed it is no QMainWindow any more
-    QVector<QPointer<QWidget>> m_addedViews; // by the program itself
+    QPointer<QWidget> m_window; // a plain widget while it is being destroyed
+    QVector<QPointer<QWidget>> m_addedViews; // by the program with addView()
     bool m_isRunning = false;
     bool m_wasStarted = false;
     bool m_windowIsGone = false;
     bool m_isFinished = false;
     bool m_menusHaveSettled = false;
     bool m_waitsForAllMenus = false;
-    bool m_isRetired = false; // whoever owned it is gone
-    HostSession *m_next = nullptr; // of those that were started
+    bool m_isRetired = false; // its owner is gone
+    HostSession *m_next = nullptr; // the next started session
 
     // In the order in which one needs the other.
     DocumentManager m_documents;

@@ -4,9 +4,9 @@
 
 namespace gesturewidget {
 
-// Whether the system's loader can be given a file as a library. The loader answers for a
-// file that is none, but maps one that was cut short, by a full disk say, and then ends the
-// process at the first page that is not there.
+// Checks a library file before the system's loader gets it. The loader refuses a file that is no
+// library, but maps a file that is cut short, by a full disk for example, and then ends the
+// process at the first missing page.
 //
 // Returns an empty text, or what is wrong with the file.
 [[nodiscard]] QString problemOfLibraryFile(const QString &file);

@@ -20,7 +20,7 @@ QString versionText(const int (&version)[4])
     return QStringLiteral("%1.%2.%3.%4").arg(version[0]).arg(version[1]).arg(version[2]).arg(version[3]);
 }
 
-// Runs `call`; returns false, and what was thrown in `what`, if it throws.
+// Runs `call`. If it throws, returns false and puts the text of the exception into `what`.
 template <class Call> bool runGuarded(Call call, QString *what)
 {
     try {
@@ -52,7 +52,7 @@ bool ModuleLoader::load(const QString &file, QString *error)
         return false;
     }
     QLibrary library(file);
-    // A symbol that is missing shall show here, not when it is called.
+    // A missing symbol must fail here, not when it is called.
     library.setLoadHints(QLibrary::PreventUnloadHint | QLibrary::ResolveAllSymbolsHint);
     if (!library.load()) {
         *error =

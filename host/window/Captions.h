@@ -2,19 +2,19 @@
 
 #include <QString>
 
-// What a program writes on its menus, as plain text.
+// The texts on a program's menus as plain text.
 namespace gesturewidget {
 
-// A caption without its mnemonic and without a shortcut after a tab: "&Open...\tCtrl+O"
-// becomes "Open...", "Save && Close" becomes "Save & Close". A mnemonic in brackets of its
-// own, as Asian translations have it, goes with its brackets.
+// Returns a caption without its mnemonic and without a shortcut after a tab: "&Open...\tCtrl+O"
+// becomes "Open...", "Save && Close" becomes "Save & Close". A mnemonic in brackets of its own, as
+// in Asian translations, is removed with its brackets.
 [[nodiscard]] QString plainCaption(const QString &text);
 
-// A tip as one line: markup, line breaks and runs of spaces are taken out.
+// Returns a tip as one line, without markup, line breaks and repeated spaces.
 [[nodiscard]] QString plainTip(const QString &text);
 
-// What a top-level menu is for, from its object name or caption, to be compared: "Tools",
-// "&Tools", "toolsMenu" and "tools_menu" all make "tools".
+// Returns a short form of a top-level menu's object name or caption, for comparing: "Tools",
+// "&Tools", "toolsMenu" and "tools_menu" all give "tools".
 [[nodiscard]] QString menuRole(const QString &name);
 
 } // namespace gesturewidget

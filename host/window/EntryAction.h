@@ -6,14 +6,14 @@ class CHxUIMenuItem;
 
 namespace gesturewidget {
 
-// An entry that a module has put into the program's menus. A class of its own, so that
-// the catalogue never takes it for one of the program's commands.
+// A menu entry that a module has added. It has a class of its own so that the catalogue never
+// takes it for one of the program's commands.
 class EntryAction : public QAction
 {
     Q_OBJECT
 
 public:
-    // Belongs to `item`. It has no parent: a menu that is cleared deletes actions that
+    // Belongs to `item`. It has no parent, because a menu that is cleared deletes the actions that
     // are its children.
     explicit EntryAction(CHxUIMenuItem *item);
     ~EntryAction() override;

@@ -13,9 +13,8 @@ class QWidget;
 
 namespace gesturewidget {
 
-// Sees the program's menus and toolbars change. It asks for nothing and keeps nothing but
-// the list of what it watches, so a program that changes hundreds of actions at a time
-// pays for one look-up each.
+// Reports changes of the program's menus and toolbars. It stores only the list of what it watches,
+// so a program that changes hundreds of actions at a time pays for one look-up each.
 class MenuChanges : public QObject
 {
     Q_OBJECT
@@ -28,13 +27,13 @@ public:
     [[nodiscard]] QVector<QMenuBar *> menuBars() const;
     [[nodiscard]] QVector<QToolBar *> toolBars() const;
 
-    // Watches a menu, menu bar or toolbar from now on; a second time does nothing.
+    // Starts watching a menu, menu bar or toolbar. Watching it again has no effect.
     void watch(QWidget *widget);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
-    // Actions have come or gone, or a menu, menu bar or toolbar has.
+    // Actions were added or removed, or a menu, menu bar or toolbar was.
     void structureChanged();
     // An action has changed in text, state or anything else.
     void actionChanged(QAction *action);

@@ -36,7 +36,7 @@ Q_SIGNALS:
 private:
     void look();
 
-    QPointer<QWidget> m_window; // while it is being destroyed it is no QMainWindow any more
+    QPointer<QWidget> m_window; // a plain widget while it is being destroyed
     QuietWait m_wait;
 };
 

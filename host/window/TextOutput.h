@@ -10,7 +10,7 @@ class QString;
 
 namespace gesturewidget {
 
-// The program's status bar, if it has one.
+// Writes to the program's status bar, if there is one.
 class TextOutput : public CHxTextOutput
 {
 public:

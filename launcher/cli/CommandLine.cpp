@@ -5,49 +5,51 @@
 namespace launcher {
 namespace {
 
-// A task about a program that is not started.
+// A task about one program, and what is typed for it. To add an option: a row here, its text in
+// helpText(), and what it does in main.cpp's perform().
 struct TaskOption
 {
     const char *name;
     CommandLine::Task task;
-    int least; // of what follows the program
+    int least; // words after the program
     int most;
+    bool mayBeJson;
     const char *usage;
 };
 
 constexpr TaskOption kTaskOptions[] = {
-    {"--bindings", CommandLine::Task::ShowBindings, 0, 1, "PROGRAM [--json]"},
-    {"--list-commands", CommandLine::Task::ListCommands, 0, 1, "PROGRAM [--json]"},
-    {"--bind", CommandLine::Task::Bind, 2, 2, "PROGRAM DIRECTION COMMAND"},
-    {"--trigger", CommandLine::Task::SetTrigger, 1, 1, "PROGRAM TRIGGER"},
-    {"--reset", CommandLine::Task::Reset, 0, 0, "PROGRAM"},
-    {"--export", CommandLine::Task::Export, 0, 1, "PROGRAM [FILE]"},
-    {"--import", CommandLine::Task::Import, 1, 1, "PROGRAM FILE"},
-    {"--print", CommandLine::Task::Print, 1, 1, "PROGRAM FILE.pdf"},
-    {"--doctor", CommandLine::Task::Examine, 0, 0, "PROGRAM"},
-    {"--explain", CommandLine::Task::Explain, 0, std::numeric_limits<int>::max(),
+    {"--bindings", CommandLine::Task::ShowBindings, 0, 0, true, "PROGRAM [--json]"},
+    {"--list-commands", CommandLine::Task::ListCommands, 0, 0, true, "PROGRAM [--json]"},
+    {"--bind", CommandLine::Task::Bind, 2, 2, false, "PROGRAM DIRECTION COMMAND"},
+    {"--trigger", CommandLine::Task::SetTrigger, 1, 1, false, "PROGRAM TRIGGER"},
+    {"--reset", CommandLine::Task::Reset, 0, 0, false, "PROGRAM"},
+    {"--export", CommandLine::Task::Export, 0, 1, false, "PROGRAM [FILE]"},
+    {"--import", CommandLine::Task::Import, 1, 1, false, "PROGRAM FILE"},
+    {"--print", CommandLine::Task::Print, 1, 1, false, "PROGRAM FILE.pdf"},
+    {"--doctor", CommandLine::Task::Examine, 0, 0, false, "PROGRAM"},
+    {"--explain", CommandLine::Task::Explain, 0, std::numeric_limits<int>::max(), false,
      "PROGRAM [ARGUMENTS...]"},
-    {"--enable", CommandLine::Task::Enable, 0, 0, "PROGRAM"},
-    {"--disable", CommandLine::Task::Disable, 0, 0, "PROGRAM"},
+    {"--enable", CommandLine::Task::Enable, 0, 0, false, "PROGRAM"},
+    {"--disable", CommandLine::Task::Disable, 0, 0, false, "PROGRAM"},
 };
 
-CommandLine parseTask(const TaskOption &option, const QList<QByteArray> &words)
+constexpr char kJson[] = "--json";
+constexpr char kHelp[] = "--help";
+constexpr char kVersion[] = "--version";
+
+// `words` is what was typed after the option.
+CommandLine parseTask(const TaskOption &option, QList<QByteArray> words)
 {
     CommandLine line;
+    if (option.mayBeJson)
+        line.isJson = words.removeAll(kJson) > 0;
     const auto count = static_cast<int>(words.size()) - 1; // without the program
-    const bool mayBeJson =
-        option.task == CommandLine::Task::ShowBindings || option.task == CommandLine::Task::ListCommands;
-    if (count < option.least || count > option.most || words.first().isEmpty()
-        || (mayBeJson && count == 1 && words.last() != "--json")) {
+    if (count < option.least || count > option.most || words.first().isEmpty()) {
         line.complaint = QStringLiteral("usage: mouse-gestures %1 %2")
                              .arg(QLatin1String(option.name), QLatin1String(option.usage));
         return line;
     }
     line.task = option.task;
-    if (mayBeJson && count == 1)
-        line.task = option.task == CommandLine::Task::ShowBindings
-                      ? CommandLine::Task::ShowBindingsAsJson
-                      : CommandLine::Task::ListCommandsAsJson;
     line.program = words.first();
     line.arguments = words.mid(1);
     return line;
@@ -55,17 +57,28 @@ CommandLine parseTask(const TaskOption &option, const QList<QByteArray> &words)
 
 } // namespace
 
-CommandLine CommandLine::parse(const QList<QByteArray> &arguments)
+QStringList CommandLine::optionNames()
+{
+    QStringList names{QLatin1String(kJson), QLatin1String(kHelp), QLatin1String(kVersion)};
+    for (const TaskOption &option : kTaskOptions)
+        names.append(QLatin1String(option.name));
+    return names;
+}
+
+CommandLine CommandLine::parse(const QList<QByteArray> &typed)
 {
     CommandLine line;
+    QList<QByteArray> arguments = typed;
+    if (typed.value(0) == kJson && typed.value(1).startsWith("--"))
+        arguments.move(0, 1); // behind the option that it belongs to
     int next = 0;
     if (!arguments.isEmpty() && arguments.first().startsWith('-')) {
         const QByteArray &option = arguments.first();
-        if (option == "--help" || option == "-h") {
+        if (option == kHelp || option == "-h") {
             line.task = Task::ShowHelp;
             return line;
         }
-        if (option == "--version" || option == "-V") {
+        if (option == kVersion || option == "-V") {
             line.task = Task::ShowVersion;
             return line;
         }
@@ -98,34 +111,37 @@ QString helpText()
 
 Starts a drafting program with mouse gestures: hold the right button in the drawing,
 drag, and move on towards the command you want. "Mouse Gestures..." in the program's
-menus says which command lies in which direction.
+menus shows which command lies in which direction.
 
-PROGRAM is any program made with Qt Widgets, 5 or 6. Nothing of it is changed.
+PROGRAM is any program made with Qt Widgets, 5 or 6. It is not changed.
 
   --bindings PROGRAM [--json]       show which command lies in which direction
   --list-commands PROGRAM [--json]  show the commands that the program has shown so far
-  --bind PROGRAM DIRECTION COMMAND  put a command, by identifier or caption, or none
-                                    into a direction: up, left, down, right; of eight
-                                    also up-left, down-left, down-right, up-right
-  --trigger PROGRAM TRIGGER         what starts a gesture: right, middle, ctrl+right,
-                                    and so on; default for what is usual
-  --reset PROGRAM                   bring the first bindings back
+  --bind PROGRAM DIRECTION COMMAND  put a command into a direction. COMMAND is its
+                                    identifier or its caption, or "none". DIRECTION is
+                                    up, left, down or right; with eight gestures also
+                                    up-left, down-left, down-right or up-right
+  --trigger PROGRAM TRIGGER         choose what starts a gesture: right, middle,
+                                    ctrl+right, ...; "default" is the usual trigger
+  --reset PROGRAM                   bring the first bindings back; the trigger stays
   --export PROGRAM [FILE]           write all bindings as JSON
-  --import PROGRAM FILE             take such a file over, as a whole or not at all
+  --import PROGRAM FILE             take over such a file, all of it or nothing
   --print PROGRAM FILE.pdf          draw the ring with its commands, to pin on the wall
   --doctor PROGRAM                  say whether gestures can work in the program
-  --explain PROGRAM [ARGUMENTS...]  start it, say what in it is taken for what and why,
-                                    print that as a profile, and end it
+  --explain PROGRAM [ARGUMENTS...]  start the program, say what in it is taken for what
+                                    and why, print that as a profile, end the program
   --enable PROGRAM                  start it with gestures from the desktop's menus too
-  --disable PROGRAM                 start it from there as before
+  --disable PROGRAM                 start it from the desktop's menus as before
 
   -h, --help     show this text
   -V, --version  show the version
-  --             what follows is the program, even if it starts with "-"
+  --             the next word is the program, even if it starts with "-"
 
-Exit status: the program's own; 127 when there is no such program, 126 when it cannot be
-run with gestures, 125 when mouse-gestures itself is not set up or not used correctly.
-With one of the upper options: 1 when it could not be done, and nothing is changed then.
+FILE may be "-" for standard output or standard input.
+
+Exit status of a started program: its own. 127: there is no such program. 126: it cannot
+be run with gestures. 125: mouse-gestures is not set up or not used correctly. An option
+exits with 1 when it could not be done; nothing is changed then.
 )");
 }
 

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 namespace launcher {
 
@@ -17,15 +18,13 @@ struct CommandLine
         Run,
         ShowHelp,
         ShowVersion,
-        ShowBindings,
-        ShowBindingsAsJson,
-        ListCommands,
-        ListCommandsAsJson,
+        ShowBindings, // may be JSON
+        ListCommands, // may be JSON
         Bind, // direction, command
         SetTrigger, // trigger
         Reset,
-        Export, // file, or nothing for standard output
-        Import, // file
+        Export, // file; "-" or nothing for standard output
+        Import, // file; "-" for standard input
         Print, // file
         Examine,
         Explain, // the program's own arguments
@@ -36,14 +35,18 @@ struct CommandLine
 
     // `arguments` without the launcher's own name.
     [[nodiscard]] static CommandLine parse(const QList<QByteArray> &arguments);
+    // All options that a person may type, the short ones left out.
+    [[nodiscard]] static QStringList optionNames();
 
     Task task = Task::Complain;
     // One line that says what is wrong; only with Task::Complain.
     QString complaint;
-    // The program as typed, and its arguments or, with one of the other tasks about a
-    // program, what was typed after it.
+    // The program as typed.
     QByteArray program;
+    // With Task::Run and Task::Explain the program's arguments; with other tasks what was typed
+    // after the program.
     QList<QByteArray> arguments;
+    bool isJson = false; // the output is wanted as JSON
 };
 
 // What `mouse-gestures --help` prints.

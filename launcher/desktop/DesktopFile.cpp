@@ -1,12 +1,11 @@
 #include "launcher/desktop/DesktopFile.h"
 
-#include <QFile>
-#include <QFileInfo>
+#include "host/files/FileContent.h"
 
 namespace launcher {
 namespace {
 
-// Far more than any desktop entry has, with all its translations.
+// Bytes. Far more than any desktop entry has, with all its translations.
 constexpr qint64 kMaximalSize = 1024 * 1024;
 
 } // namespace
@@ -25,12 +24,11 @@ QByteArray DesktopFile::Line::value() const
 bool DesktopFile::read(const QString &path)
 {
     m_lines.clear();
-    const QFileInfo info(path);
-    QFile file(path);
-    if (!info.isFile() || info.size() > kMaximalSize || !file.open(QIODevice::ReadOnly))
+    const gesturewidget::FileContent file = gesturewidget::FileContent::read(path, kMaximalSize);
+    if (!file.isRead())
         return false;
     QByteArray group;
-    const QList<QByteArray> texts = file.read(kMaximalSize).split('\n');
+    const QList<QByteArray> texts = file.bytes.split('\n');
     for (const QByteArray &text : texts) {
         const QByteArray trimmed = text.trimmed();
         if (trimmed.startsWith('[') && trimmed.endsWith(']'))

@@ -1,5 +1,6 @@
 #include "launcher/desktop/DesktopMenu.h"
 
+#include "host/files/FileWriter.h"
 #include "launcher/desktop/DesktopFile.h"
 #include "launcher/programs/ProgramLookup.h"
 #include "launcher/programs/QtWidgetsUse.h"
@@ -8,7 +9,6 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 #include <utility>
@@ -17,12 +17,14 @@
 namespace launcher {
 namespace {
 
+using gesturewidget::FileWriter;
+
 QByteArray fileName(const QByteArray &path)
 {
     return path.mid(path.lastIndexOf('/') + 1);
 }
 
-// Whether something of that name is there, if only a link that leads nowhere.
+// Returns whether something has that name, if only a link that leads nowhere.
 bool isThere(const QString &path)
 {
     const QFileInfo info(path);
@@ -42,7 +44,8 @@ QStringList namesIn(const QString &folder)
     return names;
 }
 
-// What a desktop takes two entries for the same by: "kde/draw.desktop" is "kde-draw.desktop".
+// The desktop-file ID: "kde/draw.desktop" is "kde-draw.desktop". Entries with equal IDs are one
+// entry, and the one in the first folder counts.
 QString identifierOf(QString name)
 {
     return name.replace(QLatin1Char('/'), QLatin1Char('-'));
@@ -55,17 +58,24 @@ QString ownFileMessage(const QString &path)
 
 bool store(const QString &path, const QByteArray &content)
 {
-    if (!QDir().mkpath(QFileInfo(path).absolutePath()))
-        return false;
-    QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
+    return QDir().mkpath(QFileInfo(path).absolutePath())
+        && FileWriter(path, FileWriter::Readers::Usual).write(content);
 }
 
 QByteArray contentOf(const QString &path)
 {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
+
+// A copy of an entry, to be written.
+struct Copy
+{
+    QString path;
+    QByteArray content;
+    bool wasThere;
+    QByteArray before;
+};
 
 } // namespace
 
@@ -102,38 +112,53 @@ Outcome DesktopMenu::enable(const QByteArray &typed, const QByteArray &path) con
             QStringLiteral("%1: the desktop has no entry that starts it").arg(program));
     }
 
-    std::vector<std::pair<QString, QByteArray>> copies;
+    std::vector<Copy> copies;
+    QList<QByteArray> shown; // what a person sees of the entries
     for (const QString &name : names) {
         DesktopFile file;
         const QString source = installedFile(name);
         if (!file.read(source))
             return Outcome::failure(QStringLiteral("%1 cannot be read").arg(source));
+        // Two entries that look the same and do the same are one in the menu.
+        const QByteArray looks = file.value("Name") + '\n' + file.exec().arguments.join('\n');
+        if (file.value("NoDisplay") != "true" && shown.contains(looks))
+            file.setValue("NoDisplay", "true");
+        else if (file.value("NoDisplay") != "true")
+            shown.append(looks);
+
         const QByteArray started = file.exec().program;
-        if (file.value("TryExec").isEmpty()) // else it would outlive the program
-            file.setValue("TryExec", QByteArray(started).replace('\\', "\\\\"));
+        if (file.value("TryExec").isEmpty()) // otherwise the copy would outlive the program
+            file.setValue("TryExec", ExecLine::escaped(started));
         file.startBy(m_places.launcher, [&](const ExecLine &line) {
             return isProgram(line.program, path) || line.program == started;
         });
-        // Started by a message on the bus, it would start as ever.
+        // Started by a message on the bus, it would start without gestures.
         if (file.value("DBusActivatable") == "true")
             file.setValue("DBusActivatable", "false");
         file.setValue("X-MouseGestures", "true");
 
         const QString copy = QDir(m_places.own).filePath(name);
-        DesktopFile present;
-        if (isThere(copy) && !(present.read(copy) && present.isOurs()))
-            return Outcome::failure(ownFileMessage(copy));
-        copies.emplace_back(copy, file.content());
+        const QString own = ownFileFor(name);
+        if (!own.isEmpty())
+            return Outcome::failure(ownFileMessage(own));
+        copies.push_back({copy, file.content(), isThere(copy), contentOf(copy)});
     }
     Outcome outcome;
-    for (const auto &[copy, content] : copies) {
-        if (contentOf(copy) != content && !store(copy, content))
-            return Outcome::failure(QStringLiteral("%1 cannot be written").arg(copy));
-        outcome.output += "starts with gestures: " + QFile::encodeName(copy) + '\n';
+    for (std::size_t i = 0; i < copies.size(); ++i) {
+        const Copy &copy = copies[i];
+        if (copy.before != copy.content && !store(copy.path, copy.content)) {
+            for (std::size_t j = 0; j < i; ++j) {
+                if (!copies[j].wasThere || !store(copies[j].path, copies[j].before))
+                    QFile::remove(copies[j].path);
+            }
+            return Outcome::failure(QStringLiteral("%1 cannot be written").arg(copy.path));
+        }
+        outcome.output += "starts with gestures: " + QFile::encodeName(copy.path) + '\n';
     }
-    const QStringList all = copiesFor(typed, path);
+    // Copies of entries that are gone would be second entries of the program.
+    const QStringList all = copiesFor(typed, path, Named::Any);
     for (const QString &name : all) {
-        if (installedFile(name).isEmpty()) // its entry is gone
+        if (installedFile(name).isEmpty())
             QFile::remove(QDir(m_places.own).filePath(name));
     }
     return outcome;
@@ -142,12 +167,12 @@ Outcome DesktopMenu::enable(const QByteArray &typed, const QByteArray &path) con
 Outcome DesktopMenu::disable(const QByteArray &typed, const QByteArray &path) const
 {
     Outcome outcome;
-    const QStringList copies = copiesFor(typed, path);
+    const QStringList copies = copiesFor(typed, path, Named::AsTyped);
     for (const QString &name : copies) {
         const QString copy = QDir(m_places.own).filePath(name);
         if (!QFile::remove(copy))
             return Outcome::failure(QStringLiteral("%1 cannot be removed").arg(copy));
-        outcome.output += "starts as ever: " + QFile::encodeName(copy) + " is removed\n";
+        outcome.output += "starts as before: " + QFile::encodeName(copy) + " is removed\n";
     }
     if (outcome.output.isEmpty())
         outcome.output = typed + ": nothing was there to remove\n";
@@ -184,8 +209,8 @@ QString DesktopMenu::installedFile(const QString &name) const
 
 QStringList DesktopMenu::entriesOf(const QByteArray &typed, const QByteArray &path) const
 {
-    QStringList named; // start it by the name that was typed
-    QStringList others; // start the same file by another name
+    QStringList named; // these start it by the name that was typed
+    QStringList others; // these start the same file by another name
     QStringList seen;
     for (const QString &folder : m_places.installed) {
         const QStringList names = namesIn(folder);
@@ -204,7 +229,7 @@ QStringList DesktopMenu::entriesOf(const QByteArray &typed, const QByteArray &pa
     if (!named.isEmpty() || !others.isEmpty())
         return named.isEmpty() ? others : named;
 
-    // The entry may start a script that starts the program in the end.
+    // The entry may start a script that in turn starts the program.
     const QString name = QFile::decodeName(fileName(typed)) + QLatin1String(".desktop");
     DesktopFile file;
     if (!file.read(installedFile(name)) || !file.isApplication() || !file.exec().isValid)
@@ -216,9 +241,9 @@ QStringList DesktopMenu::entriesOf(const QByteArray &typed, const QByteArray &pa
     return canRun ? QStringList(name) : QStringList();
 }
 
-QStringList DesktopMenu::copiesFor(const QByteArray &typed, const QByteArray &path) const
+QStringList DesktopMenu::copiesFor(const QByteArray &typed, const QByteArray &path, Named which) const
 {
-    QStringList named; // as entriesOf() has it
+    QStringList named; // as in entriesOf()
     QStringList others;
     const QString usual = QFile::decodeName(fileName(typed)) + QLatin1String(".desktop");
     const QStringList own = namesIn(m_places.own);
@@ -226,8 +251,7 @@ QStringList DesktopMenu::copiesFor(const QByteArray &typed, const QByteArray &pa
         DesktopFile file;
         if (!file.read(QDir(m_places.own).filePath(name)) || !file.isOurs())
             continue;
-        // Of the arguments the first is what the launcher starts.
-        const QByteArray started = file.exec().arguments.value(0).replace("%%", "%");
+        const QByteArray started = file.exec().startedProgram();
         const bool isNamed = fileName(started) == fileName(typed);
         const bool isIt = path.isEmpty() ? isNamed : isProgram(started, path);
         if (name == usual || (isIt && isNamed))
@@ -235,7 +259,24 @@ QStringList DesktopMenu::copiesFor(const QByteArray &typed, const QByteArray &pa
         else if (isIt)
             others.append(name);
     }
+    if (which == Named::Any)
+        return named + others;
     return named.isEmpty() ? others : named;
+}
+
+QString DesktopMenu::ownFileFor(const QString &name) const
+{
+    QStringList names = namesIn(m_places.own);
+    if (!names.contains(name))
+        names.append(name); // it may be there and be no file
+    for (const QString &other : std::as_const(names)) {
+        const QString path = QDir(m_places.own).filePath(other);
+        DesktopFile present;
+        if (identifierOf(other) == identifierOf(name) && isThere(path)
+            && !(present.read(path) && present.isOurs()))
+            return path;
+    }
+    return {};
 }
 
 } // namespace launcher

@@ -8,46 +8,55 @@
 
 namespace launcher {
 
-// Makes a program start with gestures from the desktop's menus, and brings back how it was.
+// Makes a program start with gestures from the desktop's menus, and brings the old state back.
 //
-// A desktop entry in the user's own folder stands for the installed one of the same name. So
-// a copy of the installed one is put there that starts the program by the launcher; it bears
-// the key "X-MouseGestures=true". A file without that key is somebody's own and stays.
+// A desktop entry in the user's own folder replaces the installed entry with the same ID. So this
+// puts a copy of the installed entry there that starts the program by the launcher, and marks it
+// with the key "X-MouseGestures=true". A file without that key is the user's own and stays.
 class DesktopMenu
 {
 public:
     struct Places
     {
         QString own; // $XDG_DATA_HOME/applications
-        QStringList installed; // the folders of the others, the first counts most
+        QStringList installed; // the other folders; the first one counts most
         QByteArray searchPath; // PATH
         QByteArray launcher; // its full path
     };
 
-    // Places of the running process.
+    // The places of the running process.
     [[nodiscard]] static Places usualPlaces(const QByteArray &searchPath, const QByteArray &launcher);
 
     explicit DesktopMenu(const Places &places);
 
-    // `typed` is the program as typed, `path` its file. Writes a copy of each of its entries,
-    // or none. Once more renews them, and removes those whose entries are gone.
+    // `typed` is the program as typed, `path` its file. Writes a copy of each of its entries, or
+    // none. Two entries that look the same in a menu become one there. A second call renews the
+    // copies and removes those whose entries are gone.
     [[nodiscard]] Outcome enable(const QByteArray &typed, const QByteArray &path) const;
-    // Removes the copies. `path` is empty when the program is gone. Nothing to remove is fine,
+    // Removes the copies. `path` is empty when the program is gone. If there is nothing to remove,
     // the output says so.
     [[nodiscard]] Outcome disable(const QByteArray &typed, const QByteArray &path) const;
 
-    // What the desktop calls the program; empty when it has no entry for it.
+    // The desktop's name for the program; empty when the desktop has no entry for it.
     [[nodiscard]] QString nameOf(const QByteArray &typed, const QByteArray &path) const;
 
 private:
-    // Whether a program as an entry names it is the file `path`.
+    enum class Named {
+        AsTyped, // the copies that start the program by the typed name, if there are any
+        Any
+    };
+
+    // Returns whether a program as an entry names it is the file `path`.
     [[nodiscard]] bool isProgram(const QByteArray &named, const QByteArray &path) const;
     // Names of the installed entries that start the program, below their folder.
     [[nodiscard]] QStringList entriesOf(const QByteArray &typed, const QByteArray &path) const;
-    // Of the folders the file that counts; empty when there is none.
+    // The file of that name in the first folder that has one; empty when there is none.
     [[nodiscard]] QString installedFile(const QString &name) const;
     // Names of the copies that start the program, below the user's own folder.
-    [[nodiscard]] QStringList copiesFor(const QByteArray &typed, const QByteArray &path) const;
+    [[nodiscard]] QStringList copiesFor(const QByteArray &typed, const QByteArray &path,
+                                        Named which) const;
+    // What the user has put in the place of an entry; empty when there is nothing or a copy.
+    [[nodiscard]] QString ownFileFor(const QString &name) const;
 
     Places m_places;
 };

@@ -6,7 +6,11 @@
 namespace launcher {
 namespace {
 
-// A character of the value once its escapes are undone, and where it stood.
+// Started with the launcher's path and the program's command.
+constexpr char kShell[] = "/bin/sh";
+constexpr char kScript[] = R"([ -x "$0" ] && exec "$0" "$@"; exec "$@")";
+
+// A character of the value without escapes, and its place in the value.
 struct Letter
 {
     char value;
@@ -20,7 +24,7 @@ struct Word
 };
 
 constexpr char kReserved[] = " \t\n\r\"'\\><~|&;$*?#()`";
-// What a backslash stands before inside double quotes.
+// Inside double quotes a backslash escapes these.
 constexpr char kQuotable[] = "\"`$\\";
 
 bool isOneOf(const char *letters, char letter)
@@ -28,7 +32,7 @@ bool isOneOf(const char *letters, char letter)
     return letter != '\0' && std::strchr(letters, letter) != nullptr;
 }
 
-// What stands after a backslash in a value, and what the two mean.
+// What a backslash and this letter mean in a value; null when they mean themselves.
 char meaningOf(char letter)
 {
     switch (letter) {
@@ -59,7 +63,7 @@ std::vector<Letter> lettersOf(const QByteArray &value)
     return letters;
 }
 
-// Splits as a shell would, without any expansion. False when a quote is not closed.
+// Splits like a shell, without any expansion. Returns false when a quote is not closed.
 bool split(const std::vector<Letter> &letters, std::vector<Word> &words)
 {
     bool isInside = false; // of a word
@@ -106,7 +110,7 @@ std::size_t programAmong(const std::vector<Word> &words)
         if (word == "-S" || word.startsWith("--split-string"))
             return words.size();
         if (word == "-u" || word == "-C" || word == "--unset" || word == "--chdir")
-            ++i; // what follows belongs to it
+            ++i; // the next word belongs to the option
         else if (!word.startsWith('-') && !word.contains('='))
             break;
     }
@@ -147,14 +151,28 @@ QByteArray ExecLine::encoded(const QByteArray &argument)
     if (!isPlain)
         quoted = '"' + quoted + '"';
     quoted.replace("%", "%%");
-    // And now as every value of such a file.
-    quoted.replace("\\", "\\\\").replace("\n", "\\n").replace("\t", "\\t").replace("\r", "\\r");
-    return quoted;
+    return escaped(quoted);
+}
+
+QByteArray ExecLine::escaped(QByteArray text)
+{
+    text.replace("\\", "\\\\").replace("\n", "\\n").replace("\t", "\\t").replace("\r", "\\r");
+    if (text.startsWith(' ')) // spaces around a value do not count
+        text.replace(0, 1, "\\s");
+    return text;
 }
 
 QByteArray ExecLine::startedBy(const QByteArray &launcher) const
 {
-    return value.left(place) + encoded(launcher) + ' ' + value.mid(place);
+    const QByteArray start = QByteArray(kShell) + " -c " + encoded(kScript) + ' ' + encoded(launcher);
+    return value.left(place) + start + ' ' + value.mid(place);
+}
+
+QByteArray ExecLine::startedProgram() const
+{
+    const bool hasScript = program == kShell && arguments.value(1) == kScript;
+    // Earlier versions put the launcher itself there.
+    return arguments.value(hasScript ? 3 : 0).replace("%%", "%");
 }
 
 } // namespace launcher

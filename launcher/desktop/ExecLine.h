@@ -5,23 +5,27 @@
 
 namespace launcher {
 
-// The command of a desktop entry, the value of its key "Exec" as the file has it: escaped as
+// The command of a desktop entry, the value of its key "Exec" as the file has it: escaped like
 // every value there, quoted in double quotes, with field codes such as "%F".
 //
-// Where it begins with "env", the program is the one that env starts.
+// Where the command begins with "env", the program is the one that env starts.
 struct ExecLine
 {
-    // One that cannot be read, has no program, or lets env split a text, is not valid.
+    // A command is not valid if it cannot be read, has no program, or lets env split a text.
     [[nodiscard]] static ExecLine parse(const QByteArray &value);
-    // An argument as such a value has it; field codes in it are meant literally.
+    // An argument as such a value holds it. Field codes in it are meant literally.
     [[nodiscard]] static QByteArray encoded(const QByteArray &argument);
+    // Any text as a value of a desktop entry holds it: a line end in it begins no line.
+    [[nodiscard]] static QByteArray escaped(QByteArray text);
 
-    // The value with `launcher`, a path, put before the program. All else stays as it was, to
-    // the byte.
+    // The value with `launcher`, a path, put before the program; everything else stays as it was,
+    // to the byte. Where the launcher has been removed, the command starts the program alone.
     [[nodiscard]] QByteArray startedBy(const QByteArray &launcher) const;
+    // Of a value that startedBy() gave: the program that the launcher starts.
+    [[nodiscard]] QByteArray startedProgram() const;
 
     bool isValid = false;
-    QByteArray program; // as a shell would have it
+    QByteArray program; // as a shell would see it
     QList<QByteArray> arguments; // likewise, with their field codes
     // Where the program begins in the value.
     int place = 0;

@@ -2,7 +2,7 @@
 _mouse_gestures() {
     local current=${COMP_WORDS[COMP_CWORD]} option=${COMP_WORDS[1]-}
     local directions="up up-left left down-left down down-right right up-right"
-    local triggers="right middle back forward ctrl+right shift+right alt+right ctrl+middle default"
+    local triggers="middle right back forward ctrl+right shift+right alt+right meta+right default"
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then
         if [[ $current == -* ]]; then
@@ -32,7 +32,7 @@ _mouse_gestures() {
                     --export | --import | --print) mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
                 esac
             elif ((COMP_CWORD == 4)) && [[ $option == --bind ]]; then
-                # Only identifiers of plain characters, since compgen expands its words.
+                # Identifiers of plain letters only: compgen expands all others.
                 mapfile -t COMPREPLY < <(compgen -W "none $(mouse-gestures --list-commands \
                     "${COMP_WORDS[2]}" 2>/dev/null | sed -n 's/^  \([[:alnum:]_.:-]*\)\(  .*\)*$/\1/p')" -- "$current")
             fi

@@ -1,5 +1,6 @@
 #include "launcher/doctor/Doctor.h"
 
+#include "host/files/PluginNames.h"
 #include "host/files/ProgramProfile.h"
 #include "host/files/SettingsFile.h"
 #include "host/files/TriggerText.h"
@@ -15,22 +16,29 @@
 namespace launcher {
 namespace {
 
+// Beginnings of the lines. A problem stands in the way of gestures.
+constexpr char kFine[] = "  ";
+constexpr char kProblem[] = "! ";
+
 class Report
 {
 public:
-    void add(const char *what, const QString &text)
-    {
-        m_diagnosis.lines.append(
-            QStringLiteral("%1 %2").arg(QLatin1String(what) + QLatin1Char(':'), -12).arg(text));
-    }
+    void add(const char *what, const QString &text) { append(kFine, what, text); }
     void addProblem(const char *what, const QString &text)
     {
-        add(what, text);
+        append(kProblem, what, text);
         m_diagnosis.isHealthy = false;
     }
     [[nodiscard]] Diagnosis diagnosis() const { return m_diagnosis; }
 
 private:
+    void append(const char *mark, const char *what, const QString &text)
+    {
+        m_diagnosis.lines.append(QStringLiteral("%1%2 %3").arg(
+            QLatin1String(mark), QString(QLatin1String(what) + QLatin1Char(':')).leftJustified(12),
+            text));
+    }
+
     Diagnosis m_diagnosis;
 };
 
@@ -64,8 +72,8 @@ void reportPlugin(const Symptoms &symptoms, Report &report)
     QStringList found;
     for (const PluginFolder &folder : symptoms.plugins) {
         if (wanted == 0 || folder.qtMajor == wanted)
-            found.append(QFile::decodeName(folder.path)
-                         + QStringLiteral("/generic/libmousegestures-qt%1.so").arg(folder.qtMajor));
+            found.append(QFile::decodeName(folder.path) + QLatin1Char('/')
+                         + gesturewidget::pluginFile(folder.qtMajor));
     }
     if (found.isEmpty())
         report.addProblem("plug-in", wanted == 0
@@ -97,7 +105,7 @@ void reportDisplay(const Symptoms &symptoms, Report &report)
         report.add("compositor", QStringLiteral("running"));
         break;
     case Symptoms::Compositor::None:
-        // Gestures work, so this is no problem of theirs.
+        // Gestures work without one, so this is no problem.
         report.add("compositor", QStringLiteral("none; the ring will have an opaque ground"));
         break;
     case Symptoms::Compositor::Unknown:
@@ -139,7 +147,7 @@ void reportSettings(const Symptoms &symptoms, const gesturewidget::ProgramProfil
                     Report &report)
 {
     const QFileInfo file(symptoms.settingsFile);
-    // The nearest folder that is there; the others are made when something is kept.
+    // The nearest existing folder. The ones below it are made when something is kept.
     QString folder = file.absolutePath();
     while (!QFileInfo::exists(folder) && folder != QFileInfo(folder).path())
         folder = QFileInfo(folder).path();
@@ -173,6 +181,8 @@ Diagnosis diagnose(const Symptoms &symptoms)
 {
     Report report;
     reportProgram(symptoms, report);
+    if (symptoms.path.isEmpty())
+        return report.diagnosis(); // the rest would be about no program at all
     reportPlugin(symptoms, report);
     reportDisplay(symptoms, report);
     const gesturewidget::ProgramProfile profile = reportProfile(symptoms, report);

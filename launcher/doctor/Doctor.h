@@ -10,7 +10,7 @@
 
 namespace launcher {
 
-// What decides whether gestures work in a program, gathered by whoever asks.
+// What decides whether gestures work in a program. The caller gathers it.
 struct Symptoms
 {
     QString program; // its name, by which profile and settings are found
@@ -26,8 +26,9 @@ struct Symptoms
 
 struct Diagnosis
 {
-    QStringList lines; // "what: how it is", a line each
-    bool isHealthy = true; // nothing stands in the way of gestures
+    // "what: how it is", one line each. A line that begins with "!" stands in the way of gestures.
+    QStringList lines;
+    bool isHealthy = true; // there is no such line
 };
 
 [[nodiscard]] Diagnosis diagnose(const Symptoms &symptoms);

@@ -22,7 +22,7 @@ namespace launcher {
 namespace {
 
 constexpr int kSlice = 50; // milliseconds between two looks at the program
-// More than any report has; a program that says more is not listened to any longer.
+// Bytes. More than any report has. After more, no further message is read.
 constexpr int kMaximalSize = 8 * 1024 * 1024;
 constexpr int kCaught[] = {SIGINT, SIGTERM, SIGHUP};
 
@@ -65,11 +65,11 @@ std::vector<char *> pointersTo(const QList<QByteArray> &strings)
     return pointers;
 }
 
-// In the child; only what is allowed between fork() and exec().
+// Runs in the child, so it calls only what is allowed between fork() and exec().
 [[noreturn]] void become(const char *path, char *const *arguments, char *const *environment, int socket)
 {
     ::setpgid(0, 0);
-    ::fcntl(socket, F_SETFD, 0); // this one the program inherits
+    ::fcntl(socket, F_SETFD, 0); // the program inherits this one
     const int nothing = ::open("/dev/null", O_RDWR);
     ::dup2(nothing, STDIN_FILENO);
     ::dup2(nothing, STDOUT_FILENO);
@@ -123,7 +123,8 @@ bool ProgramExplainer::start(QString &complaint)
         complaint = QString::fromLocal8Bit(std::strerror(errno));
         return false;
     }
-    m_environment.insert(gesturewidget::kExplanationVariable, QByteArray::number(sockets[1]));
+    m_environment.insert(gesturewidget::kExplanationVariable,
+                         gesturewidget::explanationValue(sockets[1]));
     const QList<QByteArray> entries = environmentEntries(m_environment);
     const std::vector<char *> arguments = pointersTo(m_arguments);
     const std::vector<char *> environment = pointersTo(entries);
@@ -139,7 +140,7 @@ bool ProgramExplainer::start(QString &complaint)
         return false;
     }
     m_child = child;
-    ::setpgid(child, child); // whoever comes first, the child or this
+    ::setpgid(child, child); // the child does the same; one of the two is first
     return true;
 }
 
@@ -148,7 +149,6 @@ void ProgramExplainer::listen(ProgramExplanation &explanation)
     QElapsedTimer all; // since the start, then since the first report
     QElapsedTimer quiet;
     all.start();
-    QElapsedTimer gone; // since the program was found ended
     QByteArray text;
     bool isOpen = true;
     while (explanation.complaint.isEmpty() && caughtSignal == 0) {
@@ -176,11 +176,9 @@ void ProgramExplainer::listen(ProgramExplanation &explanation)
             continue;
         }
         const bool hasReport = !explanation.profile.isEmpty();
-        if (hasEnded() && !gone.isValid())
-            gone.start();
-        // What a wrapper has started may speak up yet.
-        if (gone.isValid()
-            && (m_teller != 0 || hasReport || !isOpen || gone.hasExpired(m_patience.end))) {
+        // A script may end before the program that it has started loads the plug-in. The socket
+        // stays open until the last of them has ended.
+        if (hasEnded() && (m_teller != 0 || !isOpen)) {
             if (!hasReport)
                 explanation.complaint =
                     QStringLiteral("it %1 before it had shown a main window with menus")
@@ -222,7 +220,8 @@ void ProgramExplainer::take(const QByteArray &line, ProgramExplanation &explanat
         explanation.lines.append(text.toString());
 }
 
-// The program that was started; what it has started in turn counts once that has spoken.
+// Returns whether the program has ended. Once a process has loaded the plug-in, that is the
+// program; before, it is the process that was started.
 bool ProgramExplainer::hasEnded()
 {
     if (!m_isReaped && m_child > 0)
@@ -231,7 +230,7 @@ bool ProgramExplainer::hasEnded()
     return m_isReaped && (!isElsewhere || ::kill(m_teller, 0) != 0);
 }
 
-// Whether anything is left of the program and of what it has started.
+// Returns whether the program or anything that it has started is alive.
 bool ProgramExplainer::isAlive()
 {
     return !hasEnded() || ::kill(-m_child, 0) == 0;
@@ -249,7 +248,7 @@ bool ProgramExplainer::waitForEnd()
 void ProgramExplainer::end()
 {
     if (m_socket >= 0)
-        ::close(m_socket); // the plug-in has the program quit
+        ::close(m_socket); // this tells the plug-in to quit the program
     m_socket = -1;
     if (m_child <= 0)
         return;
@@ -258,7 +257,7 @@ void ProgramExplainer::end()
         if (m_teller > 0 && m_teller != m_child && !hasEnded())
             ::kill(m_teller, number);
     };
-    // Without the plug-in nobody has it quit.
+    // Without the plug-in nobody tells it to quit.
     const bool mayQuit = m_teller != 0;
     if (!(mayQuit && waitForEnd())) {
         sendAll(SIGTERM);

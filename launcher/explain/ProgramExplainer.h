@@ -10,28 +10,28 @@
 
 namespace launcher {
 
-// What came of having a program explained.
+// The result of explaining a program.
 struct ProgramExplanation
 {
     QJsonObject profile;
-    QStringList lines; // for a person: what was taken for what, and why
+    QStringList lines; // for a person: what is taken for what, and why
     QString complaint; // one line when there is no profile
-    int signal = 0; // the signal by which the launcher itself was told to end
+    int signal = 0; // the signal that told the launcher itself to end; 0 for none
 };
 
-// Starts a program with gestures, waits until its host has said what it takes for what, and
-// ends the program again, however it behaves.
+// Starts a program with gestures, waits until its host has told what it takes for what, and ends
+// the program, however that behaves.
 class ProgramExplainer
 {
 public:
-    // All in milliseconds.
+    // How long to wait. All in milliseconds.
     struct Patience
     {
         int window = 60000; // until a main window is up and its menus are complete
-        int more = 3000; // without anything new, once a view was found
-        int firstView = 8000; // the same as long as there is none
-        int all = 30000; // from the first report on, whatever else is found
-        int end = 3000; // for the program to quit, and once more after it was told to
+        int more = 3000; // without news, once a view was found
+        int firstView = 8000; // without news, while no view was found
+        int all = 30000; // from the first report to the end, whatever is found
+        int end = 3000; // for the program to quit, and again after SIGTERM
     };
 
     ProgramExplainer(const QByteArray &path, const QList<QByteArray> &arguments,
@@ -42,7 +42,7 @@ public:
     ProgramExplainer(const ProgramExplainer &) = delete;
     ProgramExplainer &operator=(const ProgramExplainer &) = delete;
 
-    // Once. The program's standard input and output are closed to it, its errors pass.
+    // Call this once. The program's standard input and output lead nowhere; its errors pass.
     [[nodiscard]] ProgramExplanation run();
 
 private:
@@ -60,8 +60,8 @@ private:
     Environment m_environment;
     Patience m_patience;
     int m_socket = -1;
-    int m_child = 0; // process number, also of the group of all that it starts
-    int m_teller = 0; // process that the plug-in is in
+    int m_child = 0; // process that was started; its number is also that of its process group
+    int m_teller = 0; // process that has loaded the plug-in; 0 until it has told
     bool m_isReaped = false;
     int m_status = 0; // as waitpid() has it
     int m_views = 0;

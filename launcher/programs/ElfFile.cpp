@@ -10,7 +10,7 @@
 namespace launcher {
 namespace {
 
-// More than any real file has; a number beyond is damage.
+// More than any real file has. A larger number means damage.
 constexpr quint64 kMostHeaders = 4096;
 constexpr quint64 kMostDynamicBytes = 1U << 20;
 constexpr quint64 kMostStringBytes = 1U << 27;

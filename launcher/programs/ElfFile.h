@@ -5,22 +5,22 @@
 
 namespace launcher {
 
-// What the dynamic loader would read in the head of a program or library.
+// What the dynamic loader reads in the head of a program or library.
 //
-// Reads only files of this machine's byte order; anything else, and anything damaged, is
-// simply not an ELF file here.
+// Only files of this machine's byte order are read. Any other file, and a damaged one, is not valid
+// here.
 struct ElfFile
 {
     [[nodiscard]] static ElfFile read(const QByteArray &path);
 
     bool isValid = false;
-    // ELF class (1 for 32 bits, 2 for 64) and machine number: a library serves a program
-    // only when both are the same.
+    // ELF class (1 for 32 bits, 2 for 64) and machine number. A program can use a library only when
+    // both are equal.
     int bits = 0;
     int machine = 0;
     // Names of the libraries it needs, in its own order.
     QList<QByteArray> needed;
-    // Folders it wants searched, as written: may contain "$ORIGIN".
+    // Folders to search, as written; they may contain "$ORIGIN".
     QList<QByteArray> rpath;
     QList<QByteArray> runpath;
 };

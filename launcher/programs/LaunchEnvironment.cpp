@@ -1,11 +1,13 @@
 #include "launcher/programs/LaunchEnvironment.h"
 
+#include "host/files/PluginNames.h"
+
 #include <algorithm>
 
 namespace launcher {
 namespace {
 
-constexpr char kPluginKey[] = "mousegestures";
+using gesturewidget::kPluginKey;
 
 bool isWaylandDesktop(const Environment &environment)
 {
@@ -13,7 +15,7 @@ bool isWaylandDesktop(const Environment &environment)
         || !environment.value("WAYLAND_DISPLAY").isEmpty();
 }
 
-// Nobody chose a platform, or the one chosen is Wayland: "wayland", "wayland-egl",
+// Returns whether nobody chose a platform, or chose Wayland: "wayland", "wayland-egl",
 // "wayland;xcb".
 bool mayUseWayland(const Environment &environment)
 {

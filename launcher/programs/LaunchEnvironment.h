@@ -8,28 +8,28 @@
 
 namespace launcher {
 
-// An environment by name, as bytes: what is not the launcher's business passes unchanged.
+// An environment by name, as bytes, so that other programs' variables pass unchanged.
 using Environment = QMap<QByteArray, QByteArray>;
 
-// Reads "NAME=value" entries up to a null. Of a name that occurs twice the first counts,
-// as it does for getenv(); an entry without "=" is left out.
+// Reads "NAME=value" entries up to a null. If a name is repeated, the first value wins, as with
+// getenv(). An entry without "=" is left out.
 [[nodiscard]] Environment readEnvironment(const char *const *entries);
-// The way back: "NAME=value" entries.
+// The same environment as "NAME=value" entries.
 [[nodiscard]] QList<QByteArray> environmentEntries(const Environment &environment);
 
-// What a program is started with so that Qt loads the gestures' plug-in:
-// - QT_QPA_GENERIC_PLUGINS: our key after those that are there, once;
-// - QT_PLUGIN_PATH: our folders before those that are there, none twice;
-// - QT_QPA_PLATFORM: "xcb" under a Wayland desktop that offers an X11 display, since
-//   Wayland lets no program place the ring under the pointer. A platform that somebody
-//   chose stays, Wayland itself apart.
-// - QTWEBENGINE_DISABLE_SANDBOX: "1" for root, unless it is set: a web view refuses to
-//   start as root otherwise, and takes the program down with it.
+// The environment that makes Qt load the gestures' plug-in:
+// - QT_QPA_GENERIC_PLUGINS: our key after the others, once;
+// - QT_PLUGIN_PATH: our folders before the others, each folder once;
+// - QT_QPA_PLATFORM: "xcb" under a Wayland desktop that offers an X11 display, since Wayland lets
+//   no program place the ring under the pointer. Any other platform than Wayland that somebody
+//   chose stays;
+// - QTWEBENGINE_DISABLE_SANDBOX: "1" for root, unless it is set. Otherwise a web view refuses to
+//   start as root, and ends the program.
 [[nodiscard]] Environment withGestures(Environment environment, const QList<PluginFolder> &folders,
                                        bool isRoot);
 
-// Whether the program will run on Wayland for want of an X11 display: the ring cannot be
-// placed there. `environment` is what withGestures() gave.
+// Returns whether the program will run on Wayland because there is no X11 display. The ring cannot
+// be placed there. `environment` comes from withGestures().
 [[nodiscard]] bool lacksX11(const Environment &environment);
 
 } // namespace launcher

@@ -1,5 +1,7 @@
 #include "launcher/programs/PluginFolders.h"
 
+#include "host/files/PluginNames.h"
+
 #include <QDir>
 #include <QFile>
 
@@ -10,7 +12,7 @@ QList<PluginFolder> pluginFolders(const QByteArray &executableFolder)
     const QDir prefix(QDir::cleanPath(QFile::decodeName(executableFolder) + QLatin1String("/..")));
     QList<PluginFolder> result;
     for (const int major : {5, 6}) {
-        const QString file = QStringLiteral("/generic/libmousegestures-qt%1.so").arg(major);
+        const QString file = QLatin1Char('/') + gesturewidget::pluginFile(major);
         const QString below = QStringLiteral("/gesturewidget/qt%1/plugins").arg(major);
         QStringList candidates = {prefix.filePath(QStringLiteral("plugins")),
                                   prefix.filePath(QStringLiteral("lib")) + below,

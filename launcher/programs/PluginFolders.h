@@ -5,8 +5,8 @@
 
 namespace launcher {
 
-// A folder to put into QT_PLUGIN_PATH and the Qt major version, 5 or 6, that the plug-in
-// below it is built for. Qt skips a plug-in that is built for the other one.
+// A folder for QT_PLUGIN_PATH, and the Qt major version, 5 or 6, of the plug-in below it. Qt skips a
+// plug-in for the other version.
 struct PluginFolder
 {
     QByteArray path;
@@ -18,10 +18,10 @@ struct PluginFolder
     }
 };
 
-// The folders that hold the gestures' plug-in, seen from the folder of the launcher's own
-// executable: first the build tree's "../plugins", then where it is installed, below
-// "../lib" with or without a folder for the architecture. Only those that hold the file
-// are named, Qt 5 before Qt 6; a folder that holds both is named for each.
+// The folders that hold the gestures' plug-in, relative to the folder of the launcher's executable:
+// "../plugins" in a build tree, and folders below "../lib", with or without one for the
+// architecture, in an installation. Qt 5 comes before Qt 6. A folder that holds both plug-ins is
+// listed for each.
 [[nodiscard]] QList<PluginFolder> pluginFolders(const QByteArray &executableFolder);
 
 } // namespace launcher

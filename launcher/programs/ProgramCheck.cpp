@@ -4,6 +4,7 @@
 #include "launcher/programs/QtWidgetsUse.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace launcher {
 
@@ -15,11 +16,11 @@ ProgramCheck ProgramCheck::of(const QByteArray &program, const Environment &envi
         ProgramLookup::find(program, environment.value("PATH", kDefaultSearchPath));
     switch (lookup.result) {
     case ProgramLookup::Result::Missing:
-        return {kNotFound, QStringLiteral("%1: there is no such program").arg(name), {}};
+        return {kNotFound, QStringLiteral("%1: there is no such program").arg(name), {}, {}};
     case ProgramLookup::Result::NotExecutable:
-        return {kCannotRun, QStringLiteral("%1: the file may not be executed").arg(name), {}};
+        return {kCannotRun, QStringLiteral("%1: the file may not be executed").arg(name), {}, {}};
     case ProgramLookup::Result::IsFolder:
-        return {kCannotRun, QStringLiteral("%1: this is a folder, not a program").arg(name), {}};
+        return {kCannotRun, QStringLiteral("%1: this is a folder, not a program").arg(name), {}, {}};
     case ProgramLookup::Result::Found:
         break;
     }
@@ -31,22 +32,24 @@ ProgramCheck ProgramCheck::of(const QByteArray &program, const Environment &envi
                 QStringLiteral("%1: gestures need a program made with Qt Widgets, "
                                "which this one is not")
                     .arg(name),
+                {},
                 {}};
 
     const int wanted = use == QtWidgetsUse::Qt5 ? 5 : use == QtWidgetsUse::Qt6 ? 6 : 0;
-    const bool isThere =
-        std::any_of(plugins.begin(), plugins.end(), [wanted](const PluginFolder &folder) {
-            return wanted == 0 || folder.qtMajor == wanted;
-        });
-    if (!isThere)
+    QList<PluginFolder> fitting;
+    std::copy_if(
+        plugins.begin(), plugins.end(), std::back_inserter(fitting),
+        [wanted](const PluginFolder &folder) { return wanted == 0 || folder.qtMajor == wanted; });
+    if (fitting.isEmpty())
         return {kLauncherFailed,
                 wanted == 0 ? QStringLiteral("the plug-in libmousegestures is not installed")
                             : QStringLiteral("%1 uses Qt %2, for which the plug-in "
                                              "libmousegestures-qt%2.so is not installed")
                                   .arg(name)
                                   .arg(wanted),
+                {},
                 {}};
-    return {0, {}, lookup.path};
+    return {0, {}, lookup.path, fitting};
 }
 
 } // namespace launcher

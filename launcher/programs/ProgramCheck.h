@@ -9,7 +9,7 @@
 
 namespace launcher {
 
-// The statuses that env, nohup and timeout give for the same reasons.
+// The exit statuses that env, nohup and timeout have for the same reasons.
 constexpr int kLauncherFailed = 125;
 constexpr int kCannotRun = 126;
 constexpr int kNotFound = 127;
@@ -17,7 +17,7 @@ constexpr int kNotFound = 127;
 // Where execvp() looks when there is no PATH.
 constexpr char kDefaultSearchPath[] = "/bin:/usr/bin";
 
-// Whether a program can be started with gestures.
+// Says whether a program can be started with gestures.
 struct ProgramCheck
 {
     // `program` as typed; `plugins` are the folders that hold the plug-in.
@@ -27,6 +27,9 @@ struct ProgramCheck
     int status = 0; // one of the above when it cannot
     QString complaint; // one line then
     QByteArray path;
+    // The folders for the program's Qt. All of them if that is not known: a Qt that meets a
+    // plug-in for another version says so on standard error.
+    QList<PluginFolder> plugins;
 };
 
 } // namespace launcher

@@ -38,8 +38,8 @@ ProgramLookup ProgramLookup::find(const QByteArray &name, const QByteArray &sear
         const Result result = judge(path);
         if (result == Result::Found)
             return {result, path};
-        // A file that may not be run is worth telling about, a folder of that name is not:
-        // nobody means a folder when typing a program's name.
+        // Report a file that may not be run, but not a folder: nobody means a folder when typing a
+        // program's name.
         if (result == Result::NotExecutable && lookup.result == Result::Missing)
             lookup = {result, path};
     }

@@ -1,5 +1,6 @@
 #include "launcher/programs/QtWidgetsUse.h"
 
+#include "host/files/FileContent.h"
 #include "launcher/programs/ElfFile.h"
 
 #include <QFile>
@@ -12,13 +13,13 @@
 namespace launcher {
 namespace {
 
-// An include file may name itself; nobody nests them deeper than this on purpose.
-constexpr int kDeepestInclude = 8;
+// Bytes. Far more than any loader configuration has.
+constexpr qint64 kMaximalConfiguration = 1024 * 1024;
 
 struct Library
 {
     QByteArray path;
-    // Folders of DT_RPATH, which unlike DT_RUNPATH also hold for what its libraries need.
+    // Folders of DT_RPATH. Unlike DT_RUNPATH, they also apply to what its libraries need.
     QList<QByteArray> inherited;
 };
 
@@ -64,12 +65,15 @@ QByteArray findLibrary(const QByteArray &name, const ElfFile &user, const QList<
     return {};
 }
 
-void readConfiguration(const QByteArray &path, int depth, QList<QByteArray> &folders)
+// Reads each file once: files may include each other.
+void readConfiguration(const QByteArray &path, QSet<QByteArray> &known, QList<QByteArray> &folders)
 {
-    QFile file(QFile::decodeName(path));
-    if (depth > kDeepestInclude || !file.open(QIODevice::ReadOnly))
+    if (known.contains(realPath(path)))
         return;
-    const QList<QByteArray> lines = file.readAll().split('\n');
+    known.insert(realPath(path));
+    const QList<QByteArray> lines =
+        gesturewidget::FileContent::read(QFile::decodeName(path), kMaximalConfiguration)
+            .bytes.split('\n');
     for (QByteArray line : lines) {
         const auto comment = line.indexOf('#');
         if (comment >= 0)
@@ -86,7 +90,7 @@ void readConfiguration(const QByteArray &path, int depth, QList<QByteArray> &fol
         glob_t found = {};
         if (::glob(pattern.constData(), 0, nullptr, &found) == 0) {
             for (std::size_t i = 0; i < found.gl_pathc; ++i)
-                readConfiguration(found.gl_pathv[i], depth + 1, folders);
+                readConfiguration(found.gl_pathv[i], known, folders);
         }
         ::globfree(&found);
     }
@@ -133,7 +137,8 @@ QtWidgetsUse qtWidgetsUse(const QByteArray &program, const QByteArray &libraryPa
 QList<QByteArray> systemLibraryFolders(const QByteArray &configuration)
 {
     QList<QByteArray> folders;
-    readConfiguration(configuration, 0, folders);
+    QSet<QByteArray> known;
+    readConfiguration(configuration, known, folders);
     folders += {"/lib64", "/usr/lib64", "/lib", "/usr/lib"};
     return folders;
 }

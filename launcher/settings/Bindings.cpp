@@ -1,21 +1,24 @@
 #include "launcher/settings/Bindings.h"
 
 #include "bindings/SettingsKeys.h"
-#include "host/files/TriggerText.h"
+#include "host/files/SettingsNames.h"
+
+#include <algorithm>
 
 namespace launcher {
 namespace {
 
 using gesturewidget::SettingsFile;
+namespace settingsnames = gesturewidget::settingsnames;
 
 QString nameOf(const QString &key)
 {
-    return SettingsFile::nameOf(QStringLiteral("GestureWidget"), key);
+    return SettingsFile::nameOf(settingsnames::moduleSection(), key);
 }
 
 QString triggerName()
 {
-    return SettingsFile::nameOf(gesturewidget::triggerSection(), gesturewidget::triggerKey());
+    return SettingsFile::nameOf(settingsnames::hostSection(), settingsnames::triggerKey());
 }
 
 QStringList directionKeys(int scheme)
@@ -56,7 +59,7 @@ QStringList Bindings::directionNames(int scheme)
 Bindings Bindings::fromSettings(const SettingsFile::Values &values)
 {
     Bindings bindings;
-    // What is neither of the two values counts as the first one.
+    // Any other value counts as "1" here and as "8" below.
     bindings.enabled = values.value(nameOf(settingskeys::enableMouseGesture())) != QLatin1String("0");
     bindings.scheme = values.value(nameOf(settingskeys::activeScheme())) == QLatin1String("4") ? 4 : 8;
     bindings.four = commandsOf(4, values);
@@ -83,6 +86,29 @@ SettingsFile::Values Bindings::toSettings() const
     }
     values.insert(triggerName(), trigger);
     return values;
+}
+
+SettingsFile::Values Bindings::changesFrom(const SettingsFile::Values &now) const
+{
+    const SettingsFile::Values before = fromSettings(now).toSettings();
+    const SettingsFile::Values after = toSettings();
+    SettingsFile::Values changes;
+    for (auto it = after.cbegin(); it != after.cend(); ++it) {
+        if (before.value(it.key()) != it.value())
+            changes.insert(it.key(), it.value());
+    }
+    // Once one direction of a scheme is stored, those that are missing count as empty.
+    for (const int size : {4, 8}) {
+        const QStringList keys = directionKeys(size);
+        const bool hasChanged = std::any_of(keys.begin(), keys.end(), [&changes](const QString &key) {
+            return changes.contains(nameOf(key));
+        });
+        for (const QString &key : keys) {
+            if (hasChanged && !now.contains(nameOf(key)))
+                changes.insert(nameOf(key), after.value(nameOf(key)));
+        }
+    }
+    return changes;
 }
 
 } // namespace launcher

@@ -16,7 +16,7 @@ constexpr int kVersion = 1;
 
 QByteArray quoted(const QString &text)
 {
-    // As the only entry of a list, to have it escaped.
+    // QJsonDocument writes no single text, so this is the only entry of a list.
     const QByteArray list = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
     return list.mid(1, list.size() - 2);
 }
@@ -26,8 +26,31 @@ int lineAt(const QByteArray &text, qsizetype offset)
     return int(text.left(int(offset)).count('\n')) + 1;
 }
 
-// Where the keys of a text stand, which QJsonDocument does not tell. For texts that it has
-// found to be JSON.
+// Levels of objects and lists. A file of bindings has two; more are read for better complaints.
+constexpr int kDeepest = 8;
+
+// The line in which something is nested too deeply; 0 when nothing is. For any text.
+int lineTooDeep(const QByteArray &text)
+{
+    int depth = 0;
+    bool isInString = false;
+    for (int i = 0; i < text.size(); ++i) {
+        const char letter = text.at(i);
+        if (letter == '"')
+            isInString = !isInString;
+        else if (isInString && letter == '\\')
+            ++i;
+        else if (!isInString && (letter == '{' || letter == '['))
+            ++depth;
+        else if (!isInString && (letter == '}' || letter == ']'))
+            --depth;
+        if (depth > kDeepest)
+            return lineAt(text, i);
+    }
+    return 0;
+}
+
+// The lines of the keys of a text, which QJsonDocument does not tell. The text must be JSON.
 class KeyLines
 {
 public:
@@ -64,15 +87,15 @@ public:
         }
     }
 
-    // Line of a key, "object.key" for one of an object; that of the object or 1 when it is
-    // not there.
+    // The line of a key, "object.key" for a key of an inner object. If the key is missing, the
+    // line of the object, or 1.
     [[nodiscard]] int of(const QString &name) const
     {
         const auto dot = name.indexOf(QLatin1Char('.'));
         return m_lines.value(name, m_lines.value(name.left(dot), 1));
     }
 
-    QString repeated; // the first key that stands twice
+    QString repeated; // the first key that occurs twice
     int repeatedLine = 0;
 
 private:
@@ -181,6 +204,10 @@ QByteArray bindingsToJson(const Bindings &bindings, const QString &program)
 bool bindingsFromJson(const QByteArray &text, const QString &program, Bindings &bindings,
                       QString &problem)
 {
+    if (const int line = lineTooDeep(text)) {
+        problem = QStringLiteral("line %1: this is nested too deeply for bindings").arg(line);
+        return false;
+    }
     QJsonParseError parsing;
     const QJsonDocument document = QJsonDocument::fromJson(text, &parsing);
     if (parsing.error != QJsonParseError::NoError) {

@@ -7,13 +7,14 @@
 
 namespace launcher {
 
-// Bindings as a JSON text that people may read, keep and edit. The keys stand in the order
-// in which one looks for them.
+// Bindings as a JSON text that people may read, keep and edit. The keys stand in the order in
+// which a reader looks for them.
 [[nodiscard]] QByteArray bindingsToJson(const Bindings &bindings, const QString &program);
 
-// Reads such a text for `program`. Every key must be there, once, and nothing else; a
-// command may have one direction of a scheme. Returns true, or false with one line in
-// `problem` that names the line and what is wrong there, and `bindings` as it was.
+// Reads such a text for `program`. Each key must be there once, and no other key. A command may
+// have one direction of a scheme. Returns true; or returns false, leaves `bindings`, and puts one
+// line into `problem` that names the line of the text and what is wrong there. Memory and time are
+// in proportion to the text's size.
 [[nodiscard]] bool bindingsFromJson(const QByteArray &text, const QString &program, Bindings &bindings,
                                     QString &problem);
 

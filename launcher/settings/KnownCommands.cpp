@@ -5,6 +5,7 @@
 #include <QJsonObject>
 
 #include <algorithm>
+#include <iterator>
 
 namespace launcher {
 namespace {
@@ -12,7 +13,7 @@ namespace {
 using gesturewidget::RememberedCommand;
 
 constexpr int kVersion = 1;
-// Characters. A name that is longer does not push the others' captions away.
+// Characters. A longer name does not move the captions of the others.
 constexpr int kWidest = 40;
 
 QString simplifiedCaption(const QString &caption)
@@ -23,9 +24,15 @@ QString simplifiedCaption(const QString &caption)
     return text.trimmed().toCaseFolded();
 }
 
+// Where a person finds the command.
+QString placeOf(const RememberedCommand &command)
+{
+    return command.group + QLatin1Char('/') + command.caption;
+}
+
 Outcome nothingShown(const QString &program)
 {
-    return Outcome::failure(QStringLiteral("no command of %1 is known before it was started once with "
+    return Outcome::failure(QStringLiteral("no command of %1 is known yet; start it once with "
                                            "\"mouse-gestures %1\"")
                                 .arg(program));
 }
@@ -56,35 +63,55 @@ QString KnownCommands::captionOf(const QString &identifier) const
 QString KnownCommands::resolve(const QString &text, const QString &program, QString &identifier) const
 {
     identifier = text;
-    const auto firstWith = [this](const auto &isIt) {
-        const auto found = std::find_if(m_shown.begin(), m_shown.end(), isIt);
-        return found == m_shown.end() ? QString() : found->identifier;
+    if (m_shown.isEmpty())
+        return {};
+    const auto all = [this](const auto &isIt) {
+        QVector<RememberedCommand> found;
+        std::copy_if(m_shown.begin(), m_shown.end(), std::back_inserter(found), isIt);
+        return found;
     };
-    const QString own = firstWith([&](const RememberedCommand &one) { return one.identifier == text; });
-    if (m_shown.isEmpty() || !own.isEmpty() || m_wellKnown.contains(text))
-        return {};
-    const QString byKey = firstWith([&](const RememberedCommand &one) { return one.command == text; });
-    if (!byKey.isEmpty()) {
-        identifier = byKey;
-        return {};
-    }
-
-    QStringList found;
     const QString wanted = simplifiedCaption(text);
-    for (const RememberedCommand &command : m_shown) {
-        if (!wanted.isEmpty() && simplifiedCaption(command.caption) == wanted)
-            found.append(command.identifier);
+    const auto isNamedSo = [&](const RememberedCommand &one) { return one.identifier == text; };
+    const auto hasThatKey = [&](const RememberedCommand &one) { return one.command == text; };
+    const auto isCalledSo = [&](const RememberedCommand &one) {
+        return !wanted.isEmpty() && simplifiedCaption(one.caption) == wanted;
+    };
+    const auto standsThere = [&](const RememberedCommand &one) {
+        return !one.group.isEmpty() && simplifiedCaption(placeOf(one)) == wanted;
+    };
+
+    QVector<RememberedCommand> found = all(isNamedSo);
+    if (found.isEmpty() && m_wellKnown.contains(text))
+        return {};
+    if (found.isEmpty())
+        found = all(hasThatKey).mid(0, 1);
+    // One command's identifier may be another one's caption. A person may mean either.
+    const QVector<RememberedCommand> called = all(isCalledSo);
+    for (const RememberedCommand &command : called) {
+        if (found.isEmpty() || command.identifier != found.first().identifier)
+            found.append(command);
     }
+    if (found.isEmpty())
+        found = all(standsThere);
     if (found.size() == 1) {
-        identifier = found.first();
+        identifier = found.first().identifier;
         return {};
     }
     if (found.isEmpty())
         return QStringLiteral("%1 has never shown a command \"%2\"; mouse-gestures --list-commands %1 "
                               "says which it has")
             .arg(program, text);
+    // First those that a person sees in the menus.
+    std::stable_partition(found.begin(), found.end(),
+                          [](const RememberedCommand &one) { return !one.isInToolBar; });
+    QStringList names;
+    for (const RememberedCommand &command : std::as_const(found))
+        names.append(command.group.isEmpty()
+                         ? command.identifier
+                         : QStringLiteral("%1 (%2)").arg(command.identifier, placeOf(command)));
     return QStringLiteral("several commands are called \"%1\": %2")
-        .arg(text, found.join(QStringLiteral(", ")));
+        .arg(text, names.join(QStringLiteral(", ")))
+        .simplified();
 }
 
 Outcome KnownCommands::list(const QString &program) const

@@ -9,28 +9,28 @@
 
 namespace launcher {
 
-// The commands that a program is known to have: those that it has shown whenever it ran with
-// gestures, and those that any program may have under a well-known identifier.
+// The commands that a program is known to have: those that it showed when it ran with gestures, and
+// those that any program may have under a well-known identifier.
 class KnownCommands
 {
 public:
     KnownCommands() = default;
-    // `shown`: what CatalogueFile has; `wellKnown`: further identifiers.
+    // `shown` is the content of CatalogueFile, `wellKnown` are further identifiers.
     KnownCommands(const QVector<gesturewidget::RememberedCommand> &shown, const QStringList &wellKnown);
 
-    // What is known of a command that was shown; null otherwise.
+    // The command of that identifier if it was shown; otherwise null.
     [[nodiscard]] const gesturewidget::RememberedCommand *find(const QString &identifier) const;
-    // What a person calls the command; empty when that is not known.
+    // The command's caption; empty when it is not known.
     [[nodiscard]] QString captionOf(const QString &identifier) const;
-    // The identifier of a command that a person has named by it, by the name of its action,
-    // or by its caption, letter case and dots at the end ignored: in `identifier`. Returns an
-    // empty text, or one line that says why it means none or several. As long as nothing was
-    // ever shown, every text is taken for an identifier.
+    // Finds the command that a person means by its identifier, by the name of its action, by its
+    // caption, or by "menu/caption". Letter case and dots at the end of a caption do not count.
+    // Returns an empty text and fills `identifier`, or returns one line that says why the text
+    // means no command or several. While nothing was ever shown, every text is an identifier.
     [[nodiscard]] QString resolve(const QString &text, const QString &program,
                                   QString &identifier) const;
-    // All that was shown, by menu and toolbar; fails when nothing was.
+    // All commands that were shown, by menu and toolbar. Fails when none was.
     [[nodiscard]] Outcome list(const QString &program) const;
-    // The same as JSON, in the order of first sight.
+    // The same as JSON, in the order in which they were first seen.
     [[nodiscard]] Outcome listAsJson(const QString &program) const;
 
 private:

@@ -1,44 +1,30 @@
 #include "launcher/settings/SettingsTasks.h"
 
+#include "host/files/FileContent.h"
+#include "host/files/FileWriter.h"
 #include "host/files/SettingsFile.h"
+#include "host/files/SettingsNames.h"
 #include "host/files/TriggerText.h"
 #include "launcher/settings/Bindings.h"
 #include "launcher/settings/BindingsJson.h"
-
-#include <QFile>
-#include <QFileInfo>
-#include <QSaveFile>
 
 #include <algorithm>
 
 namespace launcher {
 namespace {
 
+using gesturewidget::FileContent;
+using gesturewidget::FileWriter;
 using gesturewidget::SettingsFile;
-
-// Far more than any export has; what is longer is some other file.
-constexpr qint64 kMaximalSize = 1024 * 1024;
 
 Bindings read(const QString &path)
 {
     return Bindings::fromSettings(SettingsFile(path).read());
 }
 
-Outcome write(const QString &path, const SettingsFile::Values &values)
+Outcome outcomeOf(bool isDone, const SettingsFile &file)
 {
-    SettingsFile file(path);
-    // A damaged file is restored before anything is merged into it.
-    static_cast<void>(file.read());
-    if (!file.write(values))
-        return Outcome::failure(QStringLiteral("%1 cannot be written").arg(path));
-    static_cast<void>(file.read()); // renews the copy of its last good state
-    return {};
-}
-
-bool save(const QString &path, const QByteArray &content)
-{
-    QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
+    return isDone ? Outcome() : Outcome::failure(file.problem());
 }
 
 void append(QByteArray &text, const QString &line)
@@ -68,10 +54,12 @@ void appendScheme(QByteArray &text, int scheme, const QStringList &commands, boo
 
 } // namespace
 
-SettingsTasks::SettingsTasks(const QString &program, const QString &file, const KnownCommands &commands)
+SettingsTasks::SettingsTasks(const QString &program, const QString &file, const KnownCommands &commands,
+                             const QString &usualTrigger)
     : m_program(program)
     , m_file(file)
     , m_commands(commands)
+    , m_usualTrigger(usualTrigger)
 {
 }
 
@@ -87,8 +75,9 @@ Outcome SettingsTasks::showBindings() const
     append(outcome.output,
            QStringLiteral("gestures in %1: %2")
                .arg(m_program, bindings.enabled ? QStringLiteral("on") : QStringLiteral("off")));
-    if (!bindings.trigger.isEmpty())
-        append(outcome.output, QStringLiteral("started with: %1").arg(bindings.trigger));
+    append(outcome.output, bindings.trigger.isEmpty()
+                               ? QStringLiteral("started with: %1 (default)").arg(m_usualTrigger)
+                               : QStringLiteral("started with: %1").arg(bindings.trigger));
     const bool isFour = bindings.scheme == 4;
     appendScheme(outcome.output, isFour ? 4 : 8, isFour ? bindings.four : bindings.eight, true,
                  m_commands);
@@ -106,14 +95,6 @@ Outcome SettingsTasks::showBindingsAsJson() const
 
 Outcome SettingsTasks::bind(const QString &direction, const QString &command)
 {
-    Bindings bindings = read(m_file);
-    const QStringList names = Bindings::directionNames(bindings.scheme);
-    const auto index = names.indexOf(direction.toLower());
-    if (index < 0)
-        return Outcome::failure(QStringLiteral("\"%1\" is none of the %2 directions: %3")
-                                    .arg(direction)
-                                    .arg(bindings.scheme)
-                                    .arg(names.join(QStringLiteral(", "))));
     const auto isControl = [](QChar letter) { return letter.category() == QChar::Other_Control; };
     if (std::any_of(command.begin(), command.end(), isControl))
         return Outcome::failure(QStringLiteral("a command's identifier has no control characters"));
@@ -124,64 +105,91 @@ Outcome SettingsTasks::bind(const QString &direction, const QString &command)
             return Outcome::failure(complaint);
     }
 
-    QStringList &commands = bindings.commands();
-    for (QString &other : commands) {
-        if (other == wanted)
-            other.clear();
-    }
-    commands[index] = wanted;
-    return write(m_file, bindings.toSettings());
+    SettingsFile file(m_file);
+    QString complaint;
+    const bool isDone = file.change([&](const SettingsFile::Values &now) -> SettingsFile::Values {
+        Bindings bindings = Bindings::fromSettings(now);
+        const QStringList names = Bindings::directionNames(bindings.scheme);
+        const auto index = names.indexOf(direction.toLower());
+        if (index < 0) {
+            complaint = QStringLiteral("\"%1\" is none of the %2 directions: %3")
+                            .arg(direction)
+                            .arg(bindings.scheme)
+                            .arg(names.join(QStringLiteral(", ")));
+            return {};
+        }
+        QStringList &commands = bindings.commands();
+        for (QString &other : commands) {
+            if (other == wanted)
+                other.clear();
+        }
+        commands[index] = wanted;
+        return bindings.changesFrom(now);
+    });
+    return complaint.isEmpty() ? outcomeOf(isDone, file) : Outcome::failure(complaint);
 }
 
 Outcome SettingsTasks::reset()
 {
-    Bindings bindings = Bindings::initial();
-    bindings.trigger = read(m_file).trigger;
-    return write(m_file, bindings.toSettings());
+    SettingsFile file(m_file);
+    QString trigger;
+    const bool isDone = file.change([&](const SettingsFile::Values &now) {
+        Bindings bindings = Bindings::initial();
+        bindings.trigger = trigger = Bindings::fromSettings(now).trigger;
+        return bindings.toSettings();
+    });
+    Outcome outcome = outcomeOf(isDone, file);
+    if (isDone)
+        append(outcome.output, QStringLiteral("gestures are still started with: %1")
+                                   .arg(trigger.isEmpty() ? m_usualTrigger : trigger));
+    return outcome;
 }
 
 Outcome SettingsTasks::exportTo(const QString &path) const
 {
-    if (!save(path, showBindingsAsJson().output))
+    if (!FileWriter(path, FileWriter::Readers::Usual).write(showBindingsAsJson().output))
         return Outcome::failure(QStringLiteral("%1 cannot be written").arg(path));
     return {};
 }
 
 Outcome SettingsTasks::importFrom(const QString &path)
 {
-    const QFileInfo info(path);
-    if (!info.exists())
+    const FileContent file = FileContent::read(path, kMaximalImport);
+    switch (file.state) {
+    case FileContent::State::Read:
+        return importText(file.bytes, path);
+    case FileContent::State::Missing:
         return Outcome::failure(QStringLiteral("%1: there is no such file").arg(path));
-    if (!info.isFile()) // opening a pipe would wait for its writer
+    case FileContent::State::NotAFile:
         return Outcome::failure(QStringLiteral("%1: this is not a file").arg(path));
-    if (info.size() > kMaximalSize)
+    case FileContent::State::TooLarge:
         return Outcome::failure(QStringLiteral("%1: this is too long for bindings").arg(path));
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return Outcome::failure(QStringLiteral("%1: %2").arg(path, file.errorString()));
+    default:
+        return Outcome::failure(QStringLiteral("%1: %2").arg(path, file.problem));
+    }
+}
 
+Outcome SettingsTasks::importText(const QByteArray &text, const QString &source)
+{
+    if (text.size() > kMaximalImport)
+        return Outcome::failure(QStringLiteral("%1: this is too long for bindings").arg(source));
     Bindings bindings;
     QString problem;
-    if (!bindingsFromJson(file.read(kMaximalSize), m_program, bindings, problem))
-        return Outcome::failure(QStringLiteral("%1, %2").arg(path, problem));
+    if (!bindingsFromJson(text, m_program, bindings, problem))
+        return Outcome::failure(QStringLiteral("%1, %2").arg(source, problem));
 
-    if (QFileInfo::exists(m_file)) {
-        const QString backup = m_file + QLatin1String(".before-import");
-        static_cast<void>(read(m_file)); // a damaged file is restored first
-        QFile settings(m_file);
-        if (!settings.open(QIODevice::ReadOnly) || !save(backup, settings.readAll()))
-            return Outcome::failure(
-                QStringLiteral("%1 cannot be written, so nothing is imported").arg(backup));
-    }
-    return write(m_file, bindings.toSettings());
+    SettingsFile file(m_file);
+    const bool isDone =
+        file.change([&bindings](const SettingsFile::Values &) { return bindings.toSettings(); },
+                    m_file + QLatin1String(".before-import"));
+    return isDone ? Outcome()
+                  : Outcome::failure(file.problem() + QLatin1String(", so nothing is imported"));
 }
 
 Outcome SettingsTasks::setTrigger(const QString &text)
 {
-    Bindings bindings = read(m_file);
-    if (text == QLatin1String("default")) {
-        bindings.trigger.clear();
-    } else {
+    QString wanted;
+    if (text != QLatin1String("default")) {
         Qt::MouseButton button = Qt::NoButton;
         Qt::KeyboardModifiers keys = Qt::NoModifier;
         if (!gesturewidget::parseTrigger(text, button, keys))
@@ -192,12 +200,14 @@ Outcome SettingsTasks::setTrigger(const QString &text)
             return Outcome::failure(
                 QStringLiteral("the left button alone is for drawing, add a key to it, "
                                "such as ctrl+left"));
-        bindings.trigger = gesturewidget::triggerText(button, keys);
+        wanted = gesturewidget::triggerText(button, keys);
     }
+    SettingsFile file(m_file);
     SettingsFile::Values values;
-    values.insert(SettingsFile::nameOf(gesturewidget::triggerSection(), gesturewidget::triggerKey()),
-                  bindings.trigger);
-    return write(m_file, values);
+    values.insert(SettingsFile::nameOf(gesturewidget::settingsnames::hostSection(),
+                                       gesturewidget::settingsnames::triggerKey()),
+                  wanted);
+    return outcomeOf(file.write(values), file);
 }
 
 } // namespace launcher

@@ -8,37 +8,46 @@
 
 namespace launcher {
 
-// Shows and changes what is kept for one program, in the file in which the host keeps it. A
-// program that is running sees it at its next gesture.
+// Shows and changes what is kept for one program, in the file where the host keeps it. A running
+// program sees the change at its next gesture. Two tasks at once lose nothing of each other.
 class SettingsTasks
 {
 public:
-    // The program's name, by which its settings are found, their file, and its commands.
-    SettingsTasks(const QString &program, const QString &file, const KnownCommands &commands = {});
+    // The program's name, by which its settings are found, their file, the commands of the
+    // program, and the trigger of its profile.
+    SettingsTasks(const QString &program, const QString &file, const KnownCommands &commands = {},
+                  const QString &usualTrigger = QStringLiteral("right"));
 
     // What is kept.
     [[nodiscard]] Bindings bindings() const;
     // Both schemes, the one in use first, with the captions of the commands that are known.
     [[nodiscard]] Outcome showBindings() const;
     [[nodiscard]] Outcome showBindingsAsJson() const;
-    // Puts a command, named as KnownCommands has it, into a direction of the scheme in use;
-    // "" and "none" empty it. A command that had another direction of that scheme leaves it.
+    // Puts a command, named as KnownCommands::resolve() takes it, into a direction of the scheme
+    // in use; "" and "none" empty the direction. A command that had another direction of that
+    // scheme leaves it.
     [[nodiscard]] Outcome bind(const QString &direction, const QString &command);
-    // All fourteen values as they are at first. What starts a gesture stays.
+    // Brings back all fourteen initial values. The trigger stays; the output says so.
     [[nodiscard]] Outcome reset();
-    // To a file, in one step.
+    // Writes all bindings as JSON to a file, in one step.
     [[nodiscard]] Outcome exportTo(const QString &path) const;
-    // Takes over a file that exportTo() wrote; the settings as they were are kept beside
-    // them as "<file>.before-import".
+    // Takes over a file that exportTo() wrote. The settings as they were are kept beside them as
+    // "<file>.before-import".
     [[nodiscard]] Outcome importFrom(const QString &path);
-    // What starts a gesture, see host/files/TriggerText.h; "default" is the profile's. Not the
-    // left button alone, with which people draw.
+    // The same with a text that came from elsewhere; `source` names it in complaints.
+    [[nodiscard]] Outcome importText(const QByteArray &text, const QString &source);
+    // Sets what starts a gesture, see host/files/TriggerText.h; "default" is the profile's trigger.
+    // Refuses the left button alone, with which people draw.
     [[nodiscard]] Outcome setTrigger(const QString &text);
+
+    // Bytes. Far more than any export has; a longer one is some other file.
+    static constexpr int kMaximalImport = 128 * 1024;
 
 private:
     QString m_program;
     QString m_file;
     KnownCommands m_commands;
+    QString m_usualTrigger;
 };
 
 } // namespace launcher

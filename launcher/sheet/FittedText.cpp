@@ -10,7 +10,7 @@
 namespace sheet {
 namespace {
 
-// Breaks between words only; a word that is wider makes a line that is too wide.
+// Breaks between words only. A word that is wider than the line makes the line too wide.
 QStringList brokenUp(const QString &text, const QFont &font, double width)
 {
     QTextLayout layout(text, font);
@@ -42,7 +42,7 @@ FittedText::FittedText(const QString &wanted, QFont wantedFont, const QSizeF &bo
                        int smallest, int lines)
     : font(wantedFont)
 {
-    // A step is small enough not to be seen.
+    // Nobody sees a difference of one step.
     const int step = std::max(1, (largest - smallest) / 30);
     for (int pixels = largest; pixels >= smallest; pixels -= step) {
         font.setPixelSize(pixels);

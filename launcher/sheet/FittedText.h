@@ -10,20 +10,20 @@ QT_END_NAMESPACE
 
 namespace sheet {
 
-// A text that is made to fit into a box: in the largest of some sizes, on several lines if
-// allowed, and cut off with dots when even the smallest is too large.
+// A text that fits into a box. It gets the largest font size that fits, on several lines if that is
+// allowed. If even the smallest size is too large, it is cut off with dots.
 struct FittedText
 {
     // `largest` and `smallest` are pixel sizes of `font`, `lines` is at least 1.
     FittedText(const QString &text, QFont font, const QSizeF &box, int largest, int smallest,
                int lines = 1);
 
-    // In the middle of `box` from top to bottom, `alignment` from left to right.
+    // Paints it in the vertical middle of `box`; `alignment` is the horizontal one.
     void paint(QPainter &painter, const QRectF &box, Qt::Alignment alignment) const;
 
-    QFont font; // of the size that was chosen
+    QFont font; // has the chosen size
     QString text; // lines separated by line ends
-    QSizeF size; // that it takes
+    QSizeF size; // of the text
 };
 
 } // namespace sheet

@@ -21,15 +21,16 @@ using namespace draw;
 constexpr double kDegree = 3.14159265358979323846 / 180.0;
 // Between a label and its sector's edges.
 constexpr double kMargin = 3.0;
-// Where the marks that point outwards lie, and how far labels keep away from the inner rim
-// for their sake.
+// The place of the marks that point outwards, and how far labels stay away from the inner rim to
+// leave room for them.
 constexpr double kMarkRadius = kInnerRadius + 5.0;
 constexpr double kLabelStart = kInnerRadius + 7.0;
 constexpr double kIconSize = 14.0;
 constexpr double kLargestText = 9.6;
 constexpr double kSmallestText = 4.4;
 
-// Whether a sector, less the margin, holds the box. Both seen from the ring's centre, y upward.
+// Returns whether a sector less its margin holds the box. Both are relative to the ring's centre,
+// y upward.
 bool isInside(const QRectF &box, int count, int index)
 {
     const double half = sectorWidth(count) / 2.0 * kDegree;
@@ -90,7 +91,7 @@ QRectF RingPicture::labelBox(int count, int index)
             }
         }
     }
-    // From the centre with y upward to the image's own corner with y downward.
+    // Converts from the centre with y upward to the image's corner with y downward.
     return {kCentre + best.left(), kCentre - best.bottom(), best.width(), best.height()};
 }
 
@@ -150,7 +151,7 @@ void RingPicture::paintLabel(QPainter &painter, const QRectF &box,
     const QSizeF room(box.width(), box.height() - iconSize);
     const FittedText text(command.caption, m_font, room, qRound(kLargestText * unit),
                           qRound(kSmallestText * unit), 4);
-    // Icon and text together in the middle, whatever each takes.
+    // Icon and text together are centred.
     const double top = box.center().y() - (iconSize + text.size.height()) / 2.0;
     if (!icon.isNull()) {
         const QSizeF size = QSizeF(icon.size()).scaled(iconSize, iconSize, Qt::KeepAspectRatio);
@@ -163,7 +164,7 @@ void RingPicture::paintLabel(QPainter &painter, const QRectF &box,
                Qt::AlignHCenter);
 }
 
-// How a gesture is made stands where it begins.
+// The text about making a gesture is in the middle, where the gesture begins.
 void RingPicture::paintMiddle(QPainter &painter, const QRectF &inner, double unit) const
 {
     painter.setPen(Qt::NoPen);

@@ -11,18 +11,18 @@ QT_END_NAMESPACE
 
 namespace sheet {
 
-// The ring as it opens under the pointer, drawn in the same proportions and colours, with a
-// label in each sector. Drawn anew, since an image made for a screen is coarse on paper.
+// The ring in the proportions and colours that it has under the pointer, with a label in each
+// sector. It is drawn anew, since an image for a screen is coarse on paper.
 class RingPicture
 {
 public:
     RingPicture(const launcher::SheetContent &content, const QFont &font);
 
-    // Into a square.
+    // Paints into a square.
     void paint(QPainter &painter, const QRectF &square) const;
 
-    // The room for a label in a sector, in units of which the whole ring is draw::kRingSize
-    // wide: inside the sector, with a margin, and as large as that allows.
+    // The room for a label: the largest box inside the sector less its margin. The unit is that in
+    // which the whole ring is draw::kRingSize wide.
     [[nodiscard]] static QRectF labelBox(int count, int index);
 
 private:

@@ -63,7 +63,7 @@ void SheetPainter::paint(QPainter &painter, const QRectF &page, double millimetr
         kRowHeight * millimetre * static_cast<double>(m_content.commands.size() + 1);
     const double room = page.bottom() - tableHeight - kGap * millimetre - top;
     const double side = std::min(room, page.width());
-    // What a page has left over goes around the ring.
+    // The ring gets the space that the rest of the page leaves.
     const QRectF square(page.center().x() - side / 2.0, top + (room - side) / 2.0, side, side);
     RingPicture(m_content, m_font).paint(painter, square);
     paintTable(painter, QRectF(page.left(), page.bottom() - tableHeight, page.width(), tableHeight),
@@ -76,7 +76,7 @@ bool SheetPainter::hasIcons() const
                        [](const launcher::SheetContent::Command &one) { return !one.icon.isEmpty(); });
 }
 
-// Returns where the rest begins.
+// Returns the top of the rest.
 double SheetPainter::paintTitle(QPainter &painter, const QRectF &page, double mm) const
 {
     QFont bold = m_font;

@@ -11,13 +11,13 @@ QT_END_NAMESPACE
 
 namespace sheet {
 
-// One page: a title, the ring with its labels, and under it a table of the directions.
+// Paints one page: a title, the ring with its labels, and a table of the directions below.
 class SheetPainter
 {
 public:
     explicit SheetPainter(const launcher::SheetContent &content);
 
-    // `page` is the paper without its margins, in pixels of which `millimetre` make one.
+    // `page` is the paper without its margins, in pixels; a millimetre has `millimetre` pixels.
     void paint(QPainter &painter, const QRectF &page, double millimetre) const;
 
 private:

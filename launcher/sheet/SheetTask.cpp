@@ -1,20 +1,20 @@
 #include "launcher/sheet/SheetTask.h"
 
+#include "host/files/FileWriter.h"
 #include "launcher/settings/Bindings.h"
 #include "launcher/settings/KnownCommands.h"
 
 #include <QFileInfo>
 #include <QProcess>
 #include <QProcessEnvironment>
-#include <QSaveFile>
 
 namespace launcher {
 namespace {
 
 constexpr int kPatience = 60000; // milliseconds
 
-// What a person may know a command by that has never been seen: "ID_LINE" is "Line", and of a
-// path of captions the last one counts.
+// A caption for a command that has never been seen: "Line" for "ID_LINE", and the last caption of a
+// path of captions.
 QString captionFrom(const QString &identifier)
 {
     const QLatin1String prefix("ID_");
@@ -53,12 +53,11 @@ SheetContent sheetContent(const QString &program, const Bindings &bindings, cons
 
 Outcome printSheet(const SheetContent &content, const QString &drawer, const QString &path)
 {
+    if (!path.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive))
+        return Outcome::failure(
+            QStringLiteral("%1: a sheet is a PDF, so its file ends in .pdf").arg(path));
     if (!QFileInfo(drawer).isExecutable())
         return Outcome::failure(QStringLiteral("%1 is not installed").arg(drawer));
-    // Before the work, so that what cannot be written is said at once.
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return Outcome::failure(QStringLiteral("%1 cannot be written").arg(path));
 
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
@@ -75,7 +74,7 @@ Outcome printSheet(const SheetContent &content, const QString &drawer, const QSt
         return Outcome::failure(
             QStringLiteral("the sheet could not be drawn: %1")
                 .arg(QString::fromLocal8Bit(process.readAllStandardError()).simplified()));
-    if (file.write(pdf) != pdf.size() || !file.commit())
+    if (!gesturewidget::FileWriter(path, gesturewidget::FileWriter::Readers::Usual).write(pdf))
         return Outcome::failure(QStringLiteral("%1 cannot be written").arg(path));
     return {};
 }

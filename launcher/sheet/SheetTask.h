@@ -10,12 +10,12 @@ namespace launcher {
 struct Bindings;
 class KnownCommands;
 
-// What to draw of the scheme in use. `usualTrigger` is that of the program's profile.
+// What to draw for the scheme in use. `usualTrigger` is the trigger of the program's profile.
 [[nodiscard]] SheetContent sheetContent(const QString &program, const Bindings &bindings,
                                         const KnownCommands &known, const QString &usualTrigger);
 
-// Has `drawer`, the path of mouse-gestures-sheet, draw it, and writes that as PDF to `path`, in
-// one step.
+// Starts `drawer`, the path of mouse-gestures-sheet, and writes the PDF that it draws to `path`, in
+// one step. `path` must end in ".pdf".
 [[nodiscard]] Outcome printSheet(const SheetContent &content, const QString &drawer,
                                  const QString &path);
 

@@ -1,5 +1,5 @@
-// mouse-gestures-sheet: draws what it is told on standard input, see SheetContent, and writes
-// it to standard output as PDF. For mouse-gestures --print, which does the rest.
+// mouse-gestures-sheet: reads a SheetContent from standard input, draws it, and writes it as PDF to
+// standard output. mouse-gestures --print starts it.
 
 #include "launcher/sheet/SheetContent.h"
 #include "launcher/sheet/SheetPainter.h"

@@ -9,13 +9,12 @@
 namespace draw {
 namespace {
 
-// A dark rim around a light filling is seen on light, dark and coloured rows alike.
+// A dark rim around a light filling shows on light, dark and coloured rows.
 constexpr double kRimWidth = 2.0;
 
-// The middle of the rim. Both shapes keep to odd coordinates where their edges run along
-// the pixels, so that the rim's own edges are even and stay sharp when the image is shown
-// at half its size. The heads are right-angled, which makes the slanting one's edges run
-// along the pixels too.
+// The middle of the rim. Edges along the pixels have odd coordinates. The rim's own edges are
+// then even and stay sharp when the image is shown at half its size. The heads are
+// right-angled, so the slanting one's edges run along the pixels too.
 const QPolygonF &upShape()
 {
     static const QPolygonF shape{
@@ -32,15 +31,16 @@ const QPolygonF &upLeftShape()
 
 } // namespace
 
-QImage arrow(int index)
+QImage arrow(int index, int ratio)
 {
-    QImage image(kArrowSize, kArrowSize, QImage::Format_ARGB32_Premultiplied);
+    QImage image(kArrowSize * ratio, kArrowSize * ratio, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(ratio);
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(palette::kArrowRim, kRimWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.setBrush(palette::kHighlightEdge);
-    // Each pair of directions is the pair before it, a quarter turn counter-clockwise.
+    // Each pair of directions is the pair before it, turned a quarter counter-clockwise.
     painter.translate(kArrowSize / 2.0, kArrowSize / 2.0);
     painter.rotate(-90.0 * (index / 2));
     painter.translate(-kArrowSize / 2.0, -kArrowSize / 2.0);

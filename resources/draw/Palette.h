@@ -2,17 +2,19 @@
 
 #include <QColor>
 
-// The colours of all images. The overlay lays the ring over the drawing at 120/255, and
-// black labels over the ring: on a black drawing only a ring that is white where the
-// labels are leaves them readable (contrast 4.7 to 1), and on a white drawing only its
-// darker edges show where it is.
+// The colours of all images. The overlay lays the ring over the drawing at 120/255 and black
+// labels over the ring. On a black drawing the labels need a ring that is white under them
+// (contrast 4.7 to 1). On a white drawing only the ring's darker edges show where it is.
 namespace draw::palette {
 
 constexpr QColor kBandMiddle{250, 252, 255};
 constexpr QColor kBandEdge{222, 231, 242};
 constexpr QColor kRim{22, 34, 48};
 constexpr QColor kGleam{255, 255, 255};
-constexpr QColor kMark{70, 92, 116};
+// At 120/255 only a colour this dark has a contrast of 3 to 1 on a white drawing.
+constexpr QColor kMark{4, 8, 14};
+// Seen on the ring, but quieter than anything that carries a meaning.
+constexpr QColor kSeparator{22, 34, 48, 64};
 constexpr QColor kShadow{10, 18, 28, 150};
 
 // The one strong colour, light enough for black text and for icons of any colour.

@@ -3,6 +3,7 @@
 #include "resources/draw/Palette.h"
 #include "resources/draw/RingGeometry.h"
 
+#include <QLineF>
 #include <QPainter>
 #include <QPen>
 #include <QRadialGradient>
@@ -12,12 +13,17 @@ namespace {
 
 constexpr double kRimWidth = 1.2;
 constexpr double kGleamWidth = 1.0;
-// Where the marks that point outwards lie: between the inner rim and the labels.
+// The marks that point outwards lie between the inner rim and the labels.
 constexpr double kMarkRadius = 72.5;
+// At this width some pixels lie wholly inside the line, at any slant.
+constexpr double kChevronWidth = 2.4;
+constexpr double kSeparatorWidth = 1.2;
 
-[[nodiscard]] QImage emptyImage()
+// All painting is in pixels of the smallest image; the painter enlarges by the ratio.
+[[nodiscard]] QImage emptyImage(int ratio)
 {
-    QImage image(kRingSize, kRingSize, QImage::Format_ARGB32_Premultiplied);
+    QImage image(kRingSize * ratio, kRingSize * ratio, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(ratio);
     image.fill(Qt::transparent);
     return image;
 }
@@ -38,10 +44,10 @@ constexpr double kMarkRadius = 72.5;
     return color;
 }
 
-// `middle` around the labels, turning into `edge` towards both rims.
+// `middle` around the labels, which turns into `edge` towards both rims.
 [[nodiscard]] QRadialGradient bandGradient(const QColor &middle, const QColor &edge)
 {
-    constexpr double kFlat = 14.0; // half the width that stays even, for labels of 20 pixels
+    constexpr double kFlat = 14.0; // half the width of the even part, for labels of 20 pixels
     QRadialGradient gradient = gradientFromCentre();
     gradient.setColorAt(atRadius(kInnerRadius), edge);
     gradient.setColorAt(atRadius(kLabelRadius - kFlat), middle);
@@ -53,7 +59,7 @@ constexpr double kMarkRadius = 72.5;
 // The soft dark edge outside and inside the band, which sets it off from a light drawing.
 void paintShadow(QPainter &painter)
 {
-    // Less than half the strength at half the way looks like a blur.
+    // To look like a blur, it has less than half its strength at half its width.
     constexpr double kHalfway = 0.3;
     const QColor dark = palette::kShadow;
     QRadialGradient gradient = gradientFromCentre();
@@ -75,7 +81,7 @@ void paintGleam(QPainter &painter, const QColor &color)
     painter.drawEllipse(circle(kOuterRadius - kRimWidth - kGleamWidth / 2.0));
 }
 
-// Turns the painter so that the direction `angle` is up and the mark's place is the origin.
+// Turns the painter so that `angle` points up, and moves its origin to the mark.
 void moveToMark(QPainter &painter, double angle)
 {
     painter.translate(kCentre, kCentre);
@@ -88,7 +94,7 @@ void paintChevron(QPainter &painter, double angle, const QColor &color)
 {
     painter.save();
     moveToMark(painter, angle);
-    painter.setPen(QPen(color, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(color, kChevronWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     const QPointF chevron[] = {{-3.5, 1.5}, {0.0, -2.0}, {3.5, 1.5}};
     painter.drawPolyline(chevron, 3);
     painter.restore();
@@ -104,24 +110,24 @@ void paintDot(QPainter &painter, double angle, const QColor &color)
     painter.restore();
 }
 
-[[nodiscard]] QImage sector(int count, int index, const QColor &middle, const QColor &edge,
+[[nodiscard]] QImage sector(int count, int index, int ratio, const QColor &middle, const QColor &edge,
                             const QColor &rim, const QColor &gleam)
 {
     const QPainterPath path = sectorPath(count, index, kInnerRadius, kOuterRadius);
-    QImage mask = emptyImage();
+    QImage mask = emptyImage(ratio);
     QPainter maskPainter(&mask);
     maskPainter.setRenderHint(QPainter::Antialiasing);
     maskPainter.fillPath(path, Qt::black);
     maskPainter.end();
 
-    QImage image = emptyImage();
+    QImage image = emptyImage(ratio);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillRect(image.rect(), bandGradient(middle, edge));
+    painter.fillRect(0, 0, kRingSize, kRingSize, bandGradient(middle, edge));
     paintGleam(painter, gleam);
-    // Of a line along the border the mask leaves the inner half, hence twice the width.
+    // The mask leaves only the inner half of a line along the border, so it is twice as wide.
     painter.strokePath(path, QPen(rim, 2.0 * kRimWidth));
-    // Cut out once and at the end: the edges are as opaque as the sector covers them, so
+    // Cut out once, at the end. An edge pixel is then as opaque as the sector covers it, and
     // neighbours together are exactly the ring.
     painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
     painter.drawImage(0, 0, mask);
@@ -139,9 +145,9 @@ void paintDot(QPainter &painter, double angle, const QColor &color)
 
 } // namespace
 
-QImage ringBackground()
+QImage ringBackground(int ratio)
 {
-    QImage image = emptyImage();
+    QImage image = emptyImage(ratio);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     paintShadow(painter);
@@ -152,8 +158,8 @@ QImage ringBackground()
     painter.drawEllipse(circle(kInnerRadius + kRimWidth / 2.0));
     painter.drawEllipse(circle(kOuterRadius - kRimWidth / 2.0));
     paintGleam(painter, palette::kGleam);
-    // Four and eight sectors share the directions along the axes; the diagonals between
-    // them are sectors of eight and the borders of four.
+    // Four and eight sectors share the directions along the axes. A diagonal is the middle of
+    // a sector of eight and a border of four.
     for (int i = 0; i < 8; ++i) {
         if (i % 2 == 0)
             paintChevron(painter, sectorCentre(8, i), palette::kMark);
@@ -163,16 +169,35 @@ QImage ringBackground()
     return image;
 }
 
-QImage sectorHighlight(int count, int index)
+QImage sectorHighlight(int count, int index, int ratio)
 {
-    return withChevron(sector(count, index, palette::kHighlightMiddle, palette::kHighlightEdge,
+    return withChevron(sector(count, index, ratio, palette::kHighlightMiddle, palette::kHighlightEdge,
                               palette::kHighlightRim, palette::kHighlightGleam),
                        count, index, palette::kHighlightRim);
 }
 
-QImage sectorChecked(int count, int index)
+QImage sectorHighlightWithSeparators(int count, int index, int ratio)
 {
-    QImage image = sector(count, index, palette::kCheckedMiddle, palette::kCheckedEdge,
+    QImage image = emptyImage(ratio);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(palette::kSeparator, kSeparatorWidth, Qt::SolidLine, Qt::FlatCap));
+    for (int i = 0; i < count; ++i) {
+        // The line after sector i. The lit sector has a rim of its own.
+        if (i == index || (i + 1) % count == index)
+            continue;
+        QLineF line = QLineF::fromPolar(kOuterRadius - kRimWidth,
+                                        sectorCentre(count, i) + sectorWidth(count) / 2.0);
+        line.setP1(line.pointAt(kInnerRadius / kOuterRadius));
+        painter.drawLine(line.translated(kCentre, kCentre));
+    }
+    painter.drawImage(0, 0, sectorHighlight(count, index, ratio));
+    return image;
+}
+
+QImage sectorChecked(int count, int index, int ratio)
+{
+    QImage image = sector(count, index, ratio, palette::kCheckedMiddle, palette::kCheckedEdge,
                           palette::kHighlightRim, palette::kGleam);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -184,11 +209,11 @@ QImage sectorChecked(int count, int index)
     return image;
 }
 
-QImage sectorPlain(int count, int index)
+QImage sectorPlain(int count, int index, int ratio)
 {
-    return withChevron(
-        sector(count, index, palette::kBandMiddle, palette::kBandEdge, palette::kRim, palette::kGleam),
-        count, index, palette::kMark);
+    return withChevron(sector(count, index, ratio, palette::kBandMiddle, palette::kBandEdge,
+                              palette::kRim, palette::kGleam),
+                       count, index, palette::kMark);
 }
 
 } // namespace draw

@@ -4,22 +4,21 @@
 #include <QPointF>
 #include <QRectF>
 
-// Where everything lies in the ring's images, in pixels. Angles are in degrees,
-// counter-clockwise from the direction right, as QPainterPath takes them.
+// The geometry of the ring's images, in pixels of the smallest size. Angles are in degrees,
+// counter-clockwise from the right, as QPainterPath takes them.
 namespace draw {
 
-// Every ring image is a square of this side.
+// The side of every ring image, at ratio 1.
 constexpr int kRingSize = 250;
 constexpr double kCentre = kRingSize / 2.0;
 
-// The band's middle is the circle of radius 93 on which the overlay puts its labels. The
-// inner edge lies just within the 69 pixels at which a gesture is accepted, so moving the
-// pointer into the band runs the command.
+// The overlay centres its labels on a circle of radius 93, the band's middle. A gesture is
+// accepted at 69 pixels, just inside the band, so moving into the band runs the command.
 constexpr double kInnerRadius = 66.0;
 constexpr double kOuterRadius = 120.0;
 constexpr double kLabelRadius = (kInnerRadius + kOuterRadius) / 2.0;
 
-// How far the soft edge reaches from the band to either side.
+// The soft edge reaches this far from the band to either side.
 constexpr double kShadowWidth = 5.0;
 static_assert(kOuterRadius + kShadowWidth <= kCentre, "the soft edge ends inside the image");
 

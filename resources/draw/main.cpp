@@ -2,7 +2,8 @@
 //
 //     gesturewidget_draw DIRECTORY NAME.png...
 //
-// A name that stands for no image, or a file that cannot be written, ends it with 1.
+// "NAME@2x.png" and "NAME@3x.png" are the same image with two and three times the pixels each
+// way, as Qt names them. Exits with 1 if a name stands for no image or a file cannot be written.
 
 #include "resources/draw/Arrow.h"
 #include "resources/draw/Ring.h"
@@ -15,6 +16,9 @@
 #include <cstdio>
 
 namespace {
+
+// Qt's "quality" of a PNG: 0 compresses most and loses nothing.
+constexpr int kSmallest = 0;
 
 struct Sector
 {
@@ -35,7 +39,7 @@ struct Sector
     return {8, (number + 5) % 8}; // region 3 is up, region 1 is right
 }
 
-[[nodiscard]] QImage regionImage(const QString &name)
+[[nodiscard]] QImage regionImage(const QString &name, int ratio)
 {
     static const QRegularExpression pattern(
         QStringLiteral("^gestureregion(_top|_left|_bottom|_right|[1-8])(_text_checked)?$"));
@@ -43,11 +47,12 @@ struct Sector
     const Sector sector = sectorOfRegion(match.captured(1));
     if (!match.hasMatch() || sector.count == 0)
         return {};
-    return match.captured(2).isEmpty() ? draw::sectorHighlight(sector.count, sector.index)
-                                       : draw::sectorChecked(sector.count, sector.index);
+    return match.captured(2).isEmpty()
+             ? draw::sectorHighlightWithSeparators(sector.count, sector.index, ratio)
+             : draw::sectorChecked(sector.count, sector.index, ratio);
 }
 
-[[nodiscard]] QImage numberedImage(const QString &name)
+[[nodiscard]] QImage numberedImage(const QString &name, int ratio)
 {
     static const QRegularExpression pattern(QStringLiteral("^targetDonut(Over)?_(?:4[0-3]|8[0-7])$"));
     const QRegularExpressionMatch match = pattern.match(name);
@@ -55,23 +60,28 @@ struct Sector
         return {};
     const int count = name.at(name.size() - 2).digitValue();
     const int index = name.back().digitValue();
-    return match.captured(1).isEmpty() ? draw::sectorPlain(count, index)
-                                       : draw::sectorHighlight(count, index);
+    return match.captured(1).isEmpty() ? draw::sectorPlain(count, index, ratio)
+                                       : draw::sectorHighlight(count, index, ratio);
 }
 
-// The image of that name, without its ".png"; null when the name stands for none.
-[[nodiscard]] QImage imageNamed(const QString &name)
+// The image of a name without its ".png"; null if the name stands for none.
+[[nodiscard]] QImage imageNamed(const QString &fullName)
 {
+    static const QRegularExpression enlarged(QStringLiteral("^(.*)@([23])x$"));
+    const QRegularExpressionMatch match = enlarged.match(fullName);
+    const QString name = match.hasMatch() ? match.captured(1) : fullName;
+    const int ratio = match.hasMatch() ? match.captured(2).toInt() : 1;
+
     static const QStringList directions{QStringLiteral("up"),    QStringLiteral("up_left"),
                                         QStringLiteral("left"),  QStringLiteral("down_left"),
                                         QStringLiteral("down"),  QStringLiteral("down_right"),
                                         QStringLiteral("right"), QStringLiteral("up_right")};
     if (directions.contains(name))
-        return draw::arrow(static_cast<int>(directions.indexOf(name)));
+        return draw::arrow(static_cast<int>(directions.indexOf(name)), ratio);
     if (name == QLatin1String("gesture_widget") || name == QLatin1String("backgroundDonut"))
-        return draw::ringBackground();
-    const QImage region = regionImage(name);
-    return region.isNull() ? numberedImage(name) : region;
+        return draw::ringBackground(ratio);
+    const QImage region = regionImage(name, ratio);
+    return region.isNull() ? numberedImage(name, ratio) : region;
 }
 
 } // namespace
@@ -91,7 +101,7 @@ int main(int argc, char *argv[])
             std::fprintf(stderr, "gesturewidget_draw: no image is called %s\n", argv[i]);
             return 1;
         }
-        if (!image.save(directory + QLatin1Char('/') + file, "PNG")) {
+        if (!image.save(directory + QLatin1Char('/') + file, "PNG", kSmallest)) {
             std::fprintf(stderr, "gesturewidget_draw: cannot write %s/%s\n", argv[1], argv[i]);
             return 1;
         }

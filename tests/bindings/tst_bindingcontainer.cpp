@@ -235,13 +235,16 @@ private Q_SLOTS:
         QVERIFY(host->store.values.isEmpty());
     }
 
+    // See HostFaultsTest for what that means to a container that has read before.
     void aStoreThatHandsOutNothing()
     {
         host->store.values = {{text("EnableMouseGesture"), text("0")}, {text("41"), text("ID_LINE")}};
         host->store.getFails = true;
         const tests::OpenContainer container;
-        QVERIFY(container.getGestureEnabled());
-        QCOMPARE(container.fourTable, Table(4, -1));
+        QVERIFY(container.hasReadingFailed());
+        QVERIFY(tests::writes(*host).isEmpty());
+        for (int d = 0; d < 8; ++d)
+            QCOMPARE(container.getCommandNameFromIndex(d), QString());
     }
 
     void withoutAProfileStoreTheDefaultsHold()
@@ -308,13 +311,28 @@ private Q_SLOTS:
         arc->largeIcon = QIcon();
         container.init();
         QVERIFY(container.getCommandsDS()[8].icon.isNull());
+        // And back.
+        host->largeIcons = false;
+        container.init();
+        QVERIFY(!container.largeIcons);
+        QCOMPARE(container.getCommandsDS()[8].icon.cacheKey(), arc->smallIcon.cacheKey());
+    }
+
+    void everyGroupIsAskedForItsName()
+    {
+        auto *first = static_cast<tests::FakeCommandGroup *>(host->commands.groups.front());
+        const tests::FakeCommandGroup *second = host->commands.addGroup(text("Nothing in it"));
+        const tests::OpenContainer container;
+        QCOMPARE(first->nameReadings, 1);
+        QCOMPARE(second->nameReadings, 1);
     }
 
     void commandsThatCannotBeUsedAreSkipped()
     {
         auto *first = static_cast<tests::FakeCommandGroup *>(host->commands.groups.front());
         first->commands = {nullptr, first->commands[2], nullptr};
-        host->commands.addCommand(text("ID_EMPTY"), QString(), text("Empty"));
+        host->commands.addCommand(text("ID_NULL"), QString(), text("Null"));
+        host->commands.addCommand(text("ID_EMPTY"), text(""), text("Empty"));
         host->commands.groups.push_back(nullptr);
         host->commands.addGroup(text("Nothing in it"));
         host->commands.addGroup(text("Last"));

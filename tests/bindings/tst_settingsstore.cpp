@@ -328,6 +328,29 @@ private Q_SLOTS:
         QCOMPARE(older->readFile(), QByteArray("[Other]\nkept=1\n"));
     }
 
+    // Emptied first: whatever is left there would come back for a key that is not written.
+    void deleteAllKeysEmptiesTheOlderGroupFirst()
+    {
+        class WatchingHost : public tests::FakeHost
+        {
+        public:
+            [[nodiscard]] CHxProfileStore *GetProfileStore() override
+            {
+                wasEmpty = wasEmpty && watched->entries().isEmpty();
+                ++asked;
+                return FakeHost::GetProfileStore();
+            }
+            const tests::OlderSettings *watched = nullptr;
+            bool wasEmpty = true;
+            int asked = 0;
+        } watching;
+        watching.watched = older.get();
+        older->set(entry("41"), text("ID_OLD"));
+        settings->deleteAllKeys();
+        QCOMPARE(watching.asked, 14);
+        QVERIFY(watching.wasEmpty);
+    }
+
     void withoutAProfileStoreNothingHappens_data()
     {
         QTest::addColumn<bool>("hasServices");

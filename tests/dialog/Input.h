@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QPointer>
 #include <QTest>
+#include <QWheelEvent>
 #include <QWindow>
 
 // Mouse and keys as a window gets them, so that grabs, focus and popups play their parts.
@@ -51,6 +52,17 @@ inline void key(QWidget *widget, Qt::Key which, Qt::KeyboardModifiers modifiers 
 {
     QTest::keyPress(keyWindow(widget), which, modifiers);
     QTest::keyRelease(keyWindow(widget), which, modifiers);
+}
+
+// One notch of the wheel is 120; positive values turn it away from the user.
+inline void wheel(QWidget *widget, const QPoint &position, int angle)
+{
+    QWidget *window = widget->window();
+    QWheelEvent event(widget->mapTo(window, position), widget->mapToGlobal(position), QPoint(),
+                      QPoint(0, angle), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    // As from the window system: what a widget ignores goes on to its parent.
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(window->windowHandle(), &event);
 }
 
 inline void type(QWidget *widget, const QString &text)

@@ -1,6 +1,7 @@
 #include "bindings/MgDonutDataContainer.h"
 #include "dialog/MgCommandDSModel.h"
 #include "dialog/MgCommandDSSortFilterProxyModel.h"
+#include "tests/dialog/AssignmentRules.h"
 #include "tests/dialog/DraftingCommands.h"
 #include "tests/dialog/TestDialog.h"
 #include "tests/fakehost/FakeHost.h"
@@ -15,57 +16,14 @@
 #include <memory>
 #include <random>
 
+using tests::Bytes;
+using tests::bytesOf;
 using tests::kCategory;
 using tests::kCommand;
 using tests::kDirection;
 using tests::TestDialog;
 
 namespace {
-
-// Both direction bytes of a record, four scheme first.
-using Bytes = QPair<int, int>;
-
-Bytes bytesOf(const MgCommandDS &record)
-{
-    return {record.fourDirection, record.eightDirection};
-}
-
-// The rules of assigning, stated a second time and in another way than the model has them:
-// as tables of what each direction is in the other scheme, and as the state that follows
-// from the one before.
-class Rules
-{
-public:
-    static std::vector<Bytes> after(const std::vector<Bytes> &before, bool fourScheme, std::size_t row,
-                                    int direction)
-    {
-        static constexpr int kEightOfFour[] = {0, 1, 3, 5, 7};
-        static constexpr int kKeep = -1;
-        static constexpr int kFourOfEight[] = {0, 1, kKeep, 2, kKeep, 3, kKeep, 4, kKeep};
-
-        std::vector<Bytes> state = before;
-        bool found = false;
-        for (std::size_t other = 0; other < state.size(); ++other) {
-            const int held = fourScheme ? before[other].first : before[other].second;
-            if (found || held != direction)
-                continue;
-            found = true;
-            state[other].second = 0;
-            const bool straight = direction % 2 == 1;
-            if (fourScheme || straight)
-                state[other].first = 0;
-        }
-
-        if (fourScheme) {
-            state[row] = {direction, kEightOfFour[direction]};
-        } else {
-            state[row].second = direction;
-            if (kFourOfEight[direction] != kKeep)
-                state[row].first = kFourOfEight[direction];
-        }
-        return state;
-    }
-};
 
 // The model, with rows only where a table has them.
 class RootOnlyModel : public MgCommandDSModel
@@ -128,6 +86,10 @@ private Q_SLOTS:
     void linkedDirections();
     void resetButtonFollowsChangesOnly();
     void randomWalkKeepsTheRules();
+
+    void takesChangesBackOneByOne();
+    void takesNothingBackAfterAReset();
+    void namesTheHolderOfADirection();
 
     void assignedOnlyShowsNonzeroCurrentDirections();
     void searchMatchesNamesNotCategories();
@@ -597,7 +559,7 @@ void CommandTableModelTest::randomWalkKeepsTheRules()
         const int row = upTo(11);
         const int direction = upTo(four ? 4 : 8);
         QVERIFY(model->setData(model->index(row, kDirection), direction, Qt::EditRole));
-        expected = Rules::after(expected, four, static_cast<std::size_t>(row), direction);
+        expected = tests::bytesAfter(expected, four, static_cast<std::size_t>(row), direction);
 
         const std::vector<MgCommandDS> records = model->getCommands();
         int ups = 0;
@@ -610,6 +572,63 @@ void CommandTableModelTest::randomWalkKeepsTheRules()
     }
     // The walk has been where two records share a four direction, or it has proved little.
     QVERIFY(shared > 1000);
+}
+
+void CommandTableModelTest::takesChangesBackOneByOne()
+{
+    for (int number = 0; number < 7; ++number)
+        m_host->commands.addCommand(QStringLiteral("X%1").arg(number), QStringLiteral("x"),
+                                    QStringLiteral("X"));
+    open("8");
+    MgCommandDSModel *model = m_dialog->model;
+    QVERIFY(!model->takeBack());
+    std::mt19937 random(7);
+    const auto upTo = [&random](int last) {
+        return std::uniform_int_distribution<int>(0, last)(random);
+    };
+    std::vector<std::vector<Bytes>> states{tests::bytesOf(model->getCommands())};
+    for (int step = 0; step < 300; ++step) {
+        const bool four = upTo(1) == 0;
+        m_dialog->scheme = four ? MgDonutDialogManager::Four : MgDonutDialogManager::Eight;
+        const QModelIndex cell = model->index(upTo(model->rowCount() - 1), kDirection);
+        QVERIFY(model->setData(cell, upTo(four ? 4 : 8), Qt::EditRole));
+        // A choice that changes nothing is none to take back.
+        const std::vector<Bytes> state = tests::bytesOf(model->getCommands());
+        if (state != states.back())
+            states.push_back(state);
+    }
+    QVERIFY(states.size() > 200);
+    QSignalSpy changed(model, &QAbstractItemModel::dataChanged);
+    for (states.pop_back(); !states.empty(); states.pop_back()) {
+        QVERIFY(model->takeBack());
+        QCOMPARE(tests::bytesOf(model->getCommands()), states.back());
+        QVERIFY(changed.count() > 0);
+        QCOMPARE(changed.takeFirst().at(0).toModelIndex().column(), kDirection);
+        changed.clear();
+    }
+    QVERIFY(!model->takeBack());
+}
+
+void CommandTableModelTest::takesNothingBackAfterAReset()
+{
+    open("8");
+    assign(QStringLiteral("A"), 3);
+    m_dialog->model->resetToDefault();
+    QVERIFY(!m_dialog->model->takeBack());
+    QCOMPARE(bytes(QStringLiteral("A")), Bytes(0, 0));
+}
+
+void CommandTableModelTest::namesTheHolderOfADirection()
+{
+    m_host->store.values = {{QStringLiteral("82"), QStringLiteral("A")},
+                            {QStringLiteral("42"), QStringLiteral("B")}};
+    open("8");
+    const QString a = m_dialog->record(QStringLiteral("A")).displayName;
+    QCOMPARE(m_dialog->model->getHolderNames(2), a);
+    QCOMPARE(m_dialog->model->getHolderNames(0), QString());
+    QCOMPARE(m_dialog->model->getHolderNames(3), QString());
+    m_dialog->scheme = MgDonutDialogManager::Four;
+    QCOMPARE(m_dialog->model->getHolderNames(2), m_dialog->record(QStringLiteral("B")).displayName);
 }
 
 void CommandTableModelTest::assignedOnlyShowsNonzeroCurrentDirections()
@@ -813,7 +832,8 @@ void CommandTableModelTest::proxyReadsDirectionsOut()
     open("8");
     QCOMPARE(m_dialog->cell(0, kDirection).data(Qt::AccessibleTextRole).toString(),
              QStringLiteral("Up left"));
-    QCOMPARE(m_dialog->cell(1, kDirection).data(Qt::AccessibleTextRole).toString(), QString());
+    QCOMPARE(m_dialog->cell(1, kDirection).data(Qt::AccessibleTextRole).toString(),
+             QStringLiteral("None"));
     QVERIFY(!m_dialog->cell(0, kCommand).data(Qt::AccessibleTextRole).isValid());
 }
 

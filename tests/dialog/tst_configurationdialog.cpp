@@ -521,7 +521,7 @@ void ConfigurationDialogTest::okButtonIsTheOnlyWayToAccept()
     QVERIFY(m_dialog->isVisible());
     QCOMPARE(storeWrites(), QStringList());
     // It is the default button.
-    m_dialog->ui.search_lineEdit->setFocus();
+    m_dialog->ui.filter_checkBox->setFocus();
     tests::key(m_dialog.get(), Qt::Key_Return);
     QVERIFY(!m_dialog->isVisible());
     QVERIFY(!storeWrites().isEmpty());

@@ -4,6 +4,7 @@
 #include "tests/dialog/Input.h"
 #include "tests/dialog/TestDialog.h"
 #include "tests/fakehost/FakeHost.h"
+#include "tests/support/FakeTranslator.h"
 #include "tests/support/FatalWarnings.h"
 
 #include <QAccessible>
@@ -14,6 +15,7 @@
 #include <QStyle>
 #include <QTest>
 
+#include <algorithm>
 #include <memory>
 
 using tests::TestDialog;
@@ -31,6 +33,7 @@ private Q_SLOTS:
     void widgets_data();
     void widgets();
     void texts();
+    void textsAreTranslatedInTheirContexts();
     void layouts_data();
     void layouts();
     void spacers_data();
@@ -143,6 +146,45 @@ void DialogFormTest::texts()
     Ui::MgDonutDialogManagerClass form;
     form.setupUi(&named);
     QCOMPARE(named.objectName(), QStringLiteral("mine"));
+}
+
+void DialogFormTest::textsAreTranslatedInTheirContexts()
+{
+    tests::FakeTranslator translator;
+    const QString other = QStringLiteral("in another language");
+    const char *const formTexts[] = {"Mouse Gestures",
+                                     "Category:",
+                                     "Mouse Gesture assigned commands",
+                                     "Search for:",
+                                     "Enable mouse gestures",
+                                     "4 Gestures",
+                                     "8 Gestures",
+                                     "Reset to Defaults",
+                                     "Print List",
+                                     "Description"};
+    for (const char *text : formTexts)
+        translator.add("MgDonutDialogManagerClass", text, other);
+    translator.add("MgDonutDialogManager", "All Commands", QStringLiteral("all"));
+    translator.add("MgDonutDialogManager", "None", QStringLiteral("none"));
+    translator.add("MgDonutDialogManager", "Others", QStringLiteral("the dialog's own"));
+    translator.add("QObject", "Others", QStringLiteral("others"));
+    translator.add("MgCommandDSModel", "Category", QStringLiteral("column"));
+    const TestDialog dialog;
+    QCOMPARE(dialog.windowTitle(), other);
+    QCOMPARE(dialog.ui.category_label->text(), other);
+    QCOMPARE(dialog.ui.filter_checkBox->text(), other);
+    QCOMPARE(dialog.ui.search_label->text(), other);
+    QCOMPARE(dialog.ui.enableGesture_checkBox->text(), other);
+    QCOMPARE(dialog.ui.four_radioButton->text(), other);
+    QCOMPARE(dialog.ui.eight_radioButton->text(), other);
+    QCOMPARE(dialog.ui.reset_pushButton->text(), other);
+    QCOMPARE(dialog.ui.print_pushButton->text(), other);
+    QCOMPARE(dialog.ui.description_groupBox->title(), other);
+    const QComboBox *categories = dialog.ui.category_comboBox;
+    QCOMPARE(categories->itemText(0), QStringLiteral("all"));
+    QCOMPARE(categories->itemText(categories->count() - 1), QStringLiteral("others"));
+    QCOMPARE(dialog.directionList.item(0)->text(), QStringLiteral("none"));
+    QCOMPARE(dialog.proxy->headerData(0, Qt::Horizontal).toString(), QStringLiteral("column"));
 }
 
 void DialogFormTest::layouts_data()
@@ -272,7 +314,7 @@ void DialogFormTest::widthCannotBeChanged()
 void DialogFormTest::growsWithTheFontAndClipsNothing_data()
 {
     QTest::addColumn<int>("pixels");
-    for (const int pixels : {8, 10, 12, 15, 20, 32})
+    for (const int pixels : {8, 10, 12, 15, 20, 26, 32, 39})
         QTest::addRow("%d pixels", pixels) << pixels;
 }
 
@@ -309,7 +351,23 @@ void DialogFormTest::growsWithTheFontAndClipsNothing()
     const MgCommandTableView *table = dialog.ui.command_tableView;
     QCOMPARE(table->rowHeight(0), table->fontMetrics().height() + 8);
     QVERIFY(dialog.ui.description_groupBox->geometry().right() < dialog.width());
-    QVERIFY(dialog.ui.description_groupBox->rect().contains(dialog.ui.description_label->geometry()));
+    const QGroupBox *box = dialog.ui.description_groupBox;
+    const QLabel *label = dialog.ui.description_label;
+    QVERIFY(box->rect().contains(label->geometry()));
+    // The label takes what its box has, below the title, for three lines.
+    QCOMPARE(box->width() - label->width(), 396 - 371);
+    QVERIFY(label->y() >= dialog.fontMetrics().height());
+    QVERIFY(label->height() >= 3 * dialog.fontMetrics().height());
+    // No header and no usual category is elided.
+    for (int column = 0; column < 3; ++column) {
+        const QString header = dialog.proxy->headerData(column, Qt::Horizontal).toString();
+        QVERIFY(table->columnWidth(column) >= table->fontMetrics().horizontalAdvance(header));
+    }
+    int category = 0;
+    for (const QString &text : dialog.shown(0))
+        category = std::max(category, table->fontMetrics().horizontalAdvance(text) + 8);
+    QVERIFY2(table->columnWidth(0) >= category,
+             qPrintable(QStringLiteral("%1 of %2").arg(table->columnWidth(0)).arg(category)));
 }
 
 void DialogFormTest::longMenuCaptionsDoNotWidenIt()

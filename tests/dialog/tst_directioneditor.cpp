@@ -2,18 +2,23 @@
 #include "dialog/MgCommandModelDelegate.h"
 #include "dialog/MgCommandTableView.h"
 #include "dialog/MyStyle.h"
+#include "dialog/Notice.h"
+#include "tests/dialog/AssignmentRules.h"
 #include "tests/dialog/Input.h"
 #include "tests/dialog/TestDialog.h"
 #include "tests/fakehost/FakeHost.h"
 #include "tests/support/FatalWarnings.h"
 
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QPainter>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QStandardItemModel>
 #include <QStyleFactory>
 #include <QStyleOption>
 #include <QTest>
+#include <QToolTip>
 
 #include <memory>
 
@@ -57,9 +62,18 @@ private Q_SLOTS:
     void choosingTheSelectedEntryStillCommits();
     void choosingWithTheMouse();
     void choosingWithTheKeyboard();
-    void arrowKeysChooseAtOnce();
+    void closedDropDownChoosesNothing_data();
+    void closedDropDownChoosesNothing();
+    void keysThatOpenTheList_data();
+    void keysThatOpenTheList();
+    void movingInTheOpenListChoosesNothing();
+    void wheelOverAClosedDropDownScrollsTheTable();
+    void arrowKeysGoOnToOtherCells();
+    void leavingTheCellChoosesNothing_data();
+    void leavingTheCellChoosesNothing();
     void editorComesBackOnlyInTheCurrentCell();
     void escapeKeepsTheDirection();
+    void escapeLeavesTheEditorThenTheDialog();
     void editorLeftByClickingElsewhereStaysAway();
     void closeEditorAsksForFocusFirst();
     void otherColumnsAreNotEdited();
@@ -71,6 +85,12 @@ private Q_SLOTS:
     void sizeHints();
     void lineBreaksAreDrawnOnOneLine();
     void editorsHaveAccessibleTexts();
+
+    void entriesSayWhoHasTheDirection();
+    void robbedCommandIsNamedAtTheCell();
+    void undoTakesTheLastChoiceBack();
+    void currentCellHasALine();
+    void onlyElidedTextsHaveTooltips();
 
     void styleIsPlastiqueWhereThereIsOne();
     void styleDrawsNoFocusRectangle();
@@ -237,17 +257,143 @@ void DirectionEditorTest::choosingWithTheKeyboard()
     QVERIFY(editor()->hasFocus());
 }
 
-void DirectionEditorTest::arrowKeysChooseAtOnce()
+void DirectionEditorTest::closedDropDownChoosesNothing_data()
+{
+    QTest::addColumn<int>("key");
+    const Qt::Key keys[] = {Qt::Key_Down,     Qt::Key_Up,   Qt::Key_Home,     Qt::Key_End,
+                            Qt::Key_PageDown, Qt::Key_N,    Qt::Key_PageUp,   Qt::Key_0,
+                            Qt::Key_Delete,   Qt::Key_Left, Qt::Key_Backspace};
+    for (const Qt::Key which : keys)
+        QTest::newRow(qPrintable(QKeySequence(which).toString())) << int(which);
+    QTest::newRow("wheel") << 0;
+}
+
+// A turn of the wheel or a key passes entries by, and each would take a direction from the
+// command that has it.
+void DirectionEditorTest::closedDropDownChoosesNothing()
+{
+    QFETCH(int, key);
+    for (const char *command : {"A", "B"}) {
+        open("8");
+        openEditor(QLatin1String(command));
+        const std::vector<MgCommandDS> before = m_dialog->model->getCommands();
+        for (int time = 0; time < 9; ++time) {
+            if (key == 0 && editor())
+                tests::wheel(editor(), editor()->rect().center(), time % 2 == 0 ? -120 : 120);
+            else if (key != 0)
+                tests::key(m_dialog.get(), static_cast<Qt::Key>(key));
+            QVERIFY(!QApplication::activePopupWidget());
+        }
+        QCOMPARE(tests::bytesOf(m_dialog->model->getCommands()), tests::bytesOf(before));
+        QVERIFY(!m_dialog->ui.reset_pushButton->isEnabled());
+        QVERIFY(m_dialog->isVisible());
+    }
+}
+
+void DirectionEditorTest::keysThatOpenTheList_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    QTest::newRow("F4") << int(Qt::Key_F4) << int(Qt::NoModifier);
+    QTest::newRow("Space") << int(Qt::Key_Space) << int(Qt::NoModifier);
+    QTest::newRow("Alt+Down") << int(Qt::Key_Down) << int(Qt::AltModifier);
+    QTest::newRow("Alt+Up") << int(Qt::Key_Up) << int(Qt::AltModifier);
+}
+
+void DirectionEditorTest::keysThatOpenTheList()
+{
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    open("8");
+    openEditor(QStringLiteral("B"));
+    tests::key(m_dialog.get(), static_cast<Qt::Key>(key), Qt::KeyboardModifiers(modifiers));
+    QVERIFY(editor()->view()->isVisible());
+    // Enter takes the entry that the list has moved to.
+    tests::key(m_dialog.get(), Qt::Key_Down);
+    tests::key(m_dialog.get(), Qt::Key_Down);
+    tests::key(m_dialog.get(), Qt::Key_Enter);
+    QCOMPARE(int(m_dialog->record(QStringLiteral("B")).eightDirection), 2);
+    QVERIFY(m_dialog->isVisible());
+}
+
+void DirectionEditorTest::movingInTheOpenListChoosesNothing()
 {
     open("8");
     openEditor(QStringLiteral("B"));
-    for (int direction = 1; direction <= 8; ++direction) {
+    const std::vector<MgCommandDS> before = m_dialog->model->getCommands();
+    tests::key(m_dialog.get(), Qt::Key_F4);
+    const QPointer<QAbstractItemView> list = editor()->view();
+    for (const Qt::Key which : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_End, Qt::Key_Up})
+        tests::key(m_dialog.get(), which);
+    QVERIFY(list->isVisible());
+    QCOMPARE(list->currentIndex().row(), 7);
+    tests::wheel(list->viewport(), QPoint(5, 5), -120);
+    QCOMPARE(tests::bytesOf(m_dialog->model->getCommands()), tests::bytesOf(before));
+    // Closed again without a choice.
+    tests::key(m_dialog.get(), Qt::Key_F4);
+    QVERIFY(!list->isVisible());
+    QCOMPARE(tests::bytesOf(m_dialog->model->getCommands()), tests::bytesOf(before));
+    QCOMPARE(editor()->currentIndex(), 0);
+}
+
+void DirectionEditorTest::wheelOverAClosedDropDownScrollsTheTable()
+{
+    for (int number = 0; number < 100; ++number)
+        m_host->commands.addCommand(QStringLiteral("X%1").arg(number), QStringLiteral("x"),
+                                    QStringLiteral("X"));
+    open("8");
+    openEditor(QStringLiteral("B"));
+    QScrollBar *bar = m_dialog->ui.command_tableView->verticalScrollBar();
+    const int before = bar->value();
+    tests::wheel(editor(), editor()->rect().center(), -120);
+    QVERIFY(bar->value() > before);
+}
+
+void DirectionEditorTest::arrowKeysGoOnToOtherCells()
+{
+    open("8");
+    openEditor(QStringLiteral("B"));
+    for (const char *command : {"C", "D", "E"}) {
         tests::key(m_dialog.get(), Qt::Key_Down);
-        QCOMPARE(int(m_dialog->record(QStringLiteral("B")).eightDirection), direction);
+        const QModelIndex cell = directionCell(QLatin1String(command));
+        QCOMPARE(m_dialog->ui.command_tableView->currentIndex(), cell);
         QVERIFY(editor());
         QVERIFY(editor()->hasFocus());
-        QCOMPARE(editor()->currentIndex(), direction);
+        QCOMPARE(editor()->geometry(), m_dialog->ui.command_tableView->visualRect(cell));
     }
+    tests::key(m_dialog.get(), Qt::Key_Left);
+    QTRY_VERIFY(!editor());
+    QCOMPARE(m_dialog->ui.command_tableView->currentIndex().column(), kCommand);
+    QVERIFY(m_dialog->ui.command_tableView->hasFocus());
+}
+
+void DirectionEditorTest::leavingTheCellChoosesNothing_data()
+{
+    QTest::addColumn<QString>("way");
+    for (const char *way : {"another cell", "another control", "Tab", "Escape", "Down"})
+        QTest::newRow(way) << QString(QLatin1String(way));
+}
+
+// In the four scheme, writing "none" to a command that has none clears the eight direction of
+// the first command without a four direction. Walking over unbound commands must not do it.
+void DirectionEditorTest::leavingTheCellChoosesNothing()
+{
+    QFETCH(QString, way);
+    m_host->store.values.insert(QStringLiteral("82"), QStringLiteral("B"));
+    open("4");
+    QCOMPARE(int(m_dialog->record(QStringLiteral("B")).fourDirection), 0);
+    QCOMPARE(int(m_dialog->record(QStringLiteral("B")).eightDirection), 2);
+    openEditor(QStringLiteral("D"));
+    if (way == QLatin1String("another cell"))
+        openEditor(QStringLiteral("E"));
+    else if (way == QLatin1String("another control"))
+        tests::click(m_dialog->ui.search_lineEdit, m_dialog->ui.search_lineEdit->rect().center());
+    else
+        tests::key(m_dialog.get(), QKeySequence(way)[0] == int(Qt::Key_Tab) ? Qt::Key_Tab
+                                   : way == QLatin1String("Escape")         ? Qt::Key_Escape
+                                                                            : Qt::Key_Down);
+    QCOMPARE(int(m_dialog->record(QStringLiteral("B")).eightDirection), 2);
+    QVERIFY(m_dialog->isVisible());
 }
 
 void DirectionEditorTest::editorComesBackOnlyInTheCurrentCell()
@@ -256,7 +402,9 @@ void DirectionEditorTest::editorComesBackOnlyInTheCurrentCell()
     // The row's editor opens, but the current cell is the one that was pressed.
     tests::click(m_dialog->ui.command_tableView, m_dialog->cell(1, kCommand));
     QVERIFY(editor());
+    tests::key(m_dialog.get(), Qt::Key_Space);
     tests::key(m_dialog.get(), Qt::Key_Down);
+    tests::key(m_dialog.get(), Qt::Key_Return);
     QCOMPARE(int(m_dialog->record(QStringLiteral("B")).eightDirection), 1);
     QVERIFY(!editor());
     QVERIFY(m_dialog->ui.command_tableView->hasFocus());
@@ -273,6 +421,24 @@ void DirectionEditorTest::escapeKeepsTheDirection()
     QVERIFY(!first->view()->isVisible());
     QCOMPARE(int(m_dialog->record(QStringLiteral("A")).eightDirection), 3);
     QVERIFY(m_dialog->isVisible());
+}
+
+void DirectionEditorTest::escapeLeavesTheEditorThenTheDialog()
+{
+    open("8");
+    openEditor(QStringLiteral("A"));
+    tests::key(m_dialog.get(), Qt::Key_Escape);
+    QTRY_VERIFY(!editor());
+    QVERIFY(m_dialog->ui.command_tableView->hasFocus());
+    QVERIFY(m_dialog->isVisible());
+    // From there the cell can be edited again.
+    tests::key(m_dialog.get(), Qt::Key_F2);
+    QVERIFY(editor());
+    tests::key(m_dialog.get(), Qt::Key_Escape);
+    QTRY_VERIFY(!editor());
+    tests::key(m_dialog.get(), Qt::Key_Escape);
+    QVERIFY(!m_dialog->isVisible());
+    QCOMPARE(m_dialog->result(), int(QDialog::Rejected));
 }
 
 void DirectionEditorTest::editorLeftByClickingElsewhereStaysAway()
@@ -493,6 +659,118 @@ void DirectionEditorTest::editorsHaveAccessibleTexts()
     QCOMPARE(editor()->itemData(4, Qt::AccessibleTextRole).toString(), QStringLiteral("Right"));
 }
 
+void DirectionEditorTest::entriesSayWhoHasTheDirection()
+{
+    open("8");
+    openEditor(QStringLiteral("B"));
+    const auto says = [this](int row, const QString &text) {
+        return editor()->itemData(row, Qt::AccessibleTextRole).toString() == text
+            && editor()->itemData(row, Qt::ToolTipRole).toString() == text;
+    };
+    QVERIFY(says(3, QStringLiteral("Left: A")));
+    QVERIFY(says(5, QStringLiteral("Down")));
+    // The rows themselves stay as they are.
+    QCOMPARE(editor()->itemText(3), QString());
+    QCOMPARE(editor()->itemText(0), QStringLiteral("None"));
+    // At once after a choice, and after another scheme was chosen.
+    tests::key(m_dialog.get(), Qt::Key_Space);
+    for (int step = 0; step < 5; ++step)
+        tests::key(m_dialog.get(), Qt::Key_Down);
+    tests::key(m_dialog.get(), Qt::Key_Return);
+    QCOMPARE(int(m_dialog->record(QStringLiteral("B")).eightDirection), 5);
+    QVERIFY(says(5, QStringLiteral("Down: B")));
+    m_dialog->ui.four_radioButton->setChecked(true);
+    // A direction of the four scheme may come to belong to two.
+    QVERIFY(says(3, QStringLiteral("Down: A, B")));
+    QVERIFY(says(2, QStringLiteral("Left")));
+}
+
+void DirectionEditorTest::robbedCommandIsNamedAtTheCell()
+{
+    open("8");
+    openEditor(QStringLiteral("B"));
+    const auto choose = [this](int direction) {
+        tests::key(m_dialog.get(), Qt::Key_Space);
+        tests::key(m_dialog.get(), Qt::Key_Home);
+        for (int step = 0; step < direction; ++step)
+            tests::key(m_dialog.get(), Qt::Key_Down);
+        tests::key(m_dialog.get(), Qt::Key_Return);
+    };
+    const auto *notice = m_dialog->findChild<Notice *>();
+    QVERIFY(notice);
+    // A direction that nobody had.
+    choose(2);
+    QVERIFY(!notice->isVisible());
+    choose(3);
+    QVERIFY(notice->isVisible());
+    QCOMPARE(notice->text(), QStringLiteral("Taken from: A"));
+    // Right below the cell.
+    const QRect cell = m_dialog->ui.command_tableView->visualRect(directionCell(QStringLiteral("B")));
+    QCOMPARE(notice->pos(), m_dialog->ui.command_tableView->viewport()->mapTo(
+                                m_dialog.get(), cell.bottomLeft() + QPoint(0, 1)));
+    QVERIFY(m_dialog->rect().contains(notice->geometry()));
+    // For a moment, and in nobody's way.
+    QVERIFY(editor()->hasFocus());
+    QTRY_VERIFY_WITH_TIMEOUT(!notice->isVisible(), 2 * Notice::kDuration);
+}
+
+void DirectionEditorTest::undoTakesTheLastChoiceBack()
+{
+    open("8");
+    openEditor(QStringLiteral("B"));
+    const std::vector<MgCommandDS> before = m_dialog->model->getCommands();
+    tests::key(m_dialog.get(), Qt::Key_Space);
+    for (int step = 0; step < 3; ++step)
+        tests::key(m_dialog.get(), Qt::Key_Down);
+    tests::key(m_dialog.get(), Qt::Key_Return);
+    QCOMPARE(int(m_dialog->record(QStringLiteral("A")).eightDirection), 0);
+    QCOMPARE(editor()->currentIndex(), 3);
+    tests::key(m_dialog.get(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(tests::bytesOf(m_dialog->model->getCommands()), tests::bytesOf(before));
+    // The open drop-down and the list follow.
+    QCOMPARE(editor()->currentIndex(), 0);
+    QCOMPARE(editor()->itemData(3, Qt::AccessibleTextRole).toString(), QStringLiteral("Left: A"));
+    tests::key(m_dialog.get(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(tests::bytesOf(m_dialog->model->getCommands()), tests::bytesOf(before));
+}
+
+void DirectionEditorTest::currentCellHasALine()
+{
+    open("8");
+    MgCommandTableView *table = m_dialog->ui.command_tableView;
+    const auto lineBelow = [this, table](int column) {
+        const QRect cell = table->visualRect(m_dialog->cell(1, column));
+        const QImage picture = table->viewport()->grab(cell).toImage();
+        return picture.pixelColor(cell.width() / 2, cell.height() - 1) == QColor(Qt::black);
+    };
+    table->setFocus();
+    table->setCurrentIndex(m_dialog->cell(1, kCommand));
+    QVERIFY(lineBelow(kCommand));
+    QVERIFY(!lineBelow(kCategory));
+    tests::key(m_dialog.get(), Qt::Key_Left);
+    QVERIFY(lineBelow(kCategory));
+    QVERIFY(!lineBelow(kCommand));
+    m_dialog->ui.search_lineEdit->setFocus();
+    QVERIFY(!lineBelow(kCategory));
+}
+
+void DirectionEditorTest::onlyElidedTextsHaveTooltips()
+{
+    const QString longName = QStringLiteral("A command with a name that no column shows whole");
+    m_host->commands.addCommand(QStringLiteral("L"), QStringLiteral("l"), longName);
+    open("8");
+    MgCommandTableView *table = m_dialog->ui.command_tableView;
+    const auto pointAt = [table](const QModelIndex &cell) {
+        const QPoint position = table->visualRect(cell).center();
+        QHelpEvent help(QEvent::ToolTip, position, table->viewport()->mapToGlobal(position));
+        QCoreApplication::sendEvent(table->viewport(), &help);
+        return QToolTip::isVisible() ? QToolTip::text() : QString();
+    };
+    QCOMPARE(pointAt(m_dialog->cell(m_dialog->rowOf(longName), kCommand)), longName);
+    QTRY_COMPARE(pointAt(directionCell(longName)), QString());
+    QTRY_COMPARE(pointAt(m_dialog->cell(0, kCommand)), QString());
+}
+
 void DirectionEditorTest::styleIsPlastiqueWhereThereIsOne()
 {
     const bool plastique =
@@ -531,6 +809,10 @@ void DirectionEditorTest::styleDrawsEverythingElse()
             ? QStringLiteral("Plastique")
             : QStringLiteral("Fusion")));
     QCOMPARE(drawn(style, primitive), drawn(*base, primitive));
+    // Something is drawn at all.
+    QImage empty(60, 30, QImage::Format_ARGB32_Premultiplied);
+    empty.fill(Qt::white);
+    QVERIFY(drawn(style, primitive) != empty);
 }
 
 void DirectionEditorTest::tableShowsNoFocusRectangle()

@@ -1,10 +1,10 @@
-"""Gestures in real programs, with real input, judged by what the programs did.
+"""Gestures in real programs, with real input. The tests check what the programs did.
 
     with-desktop.sh python3 test_gestures.py --build DIR --program NAME [TEST...]
 
-Every test starts the program anew, in folders of its own below DIR/e2e. What must not
-happen is never waited for: the test goes on to something that must happen after it, and
-then looks at all that happened up to there.
+Every test starts the program in new folders below DIR/e2e. A test never waits to see that
+something does not happen. It waits for a later event that must happen, and then checks
+everything up to there.
 """
 
 import configparser
@@ -17,7 +17,7 @@ from harness.programs import EIGHT, FOUR, PROGRAMS
 from harness.programtest import ProgramTest, option_parser, run_tests
 from harness.session import ANSWER_SECONDS, RING_SIZE
 
-# What reaches the program by mouse and keyboard, and what it makes of it.
+# The input that reaches the program, and what the program does with it.
 INPUT = ("press", "release", "doubleclick", "contextmenu", "key", "menu", "triggered")
 
 ALL_KEYS = ["enablemousegesture", "activescheme", *(f"4{n}" for n in range(1, 5)),
@@ -32,8 +32,8 @@ class GesturesTest(ProgramTest):
     # --- the instruments themselves
 
     def test_instruments(self):
-        """What the driver does, the spy sees, in a program without gestures: to be looked at
-        first when other tests fail."""
+        """The spy sees what the driver does, in a program without gestures. If other tests fail,
+        look at this one first."""
         with self.session(gestures=False) as session:
             x, y = session.middle()
             session.driver.ask("move", x + 10, y - 20)
@@ -44,7 +44,7 @@ class GesturesTest(ProgramTest):
             session.driver.ask("drag", -30, 15, 100, 5)
             session.driver.ask("release", 1)
             session.expect(mark, lambda line: line[0] == "release", "the release")
-            # What a view ignores, those that it is in see as well.
+            # Its parents also see the events that the view ignores.
             view = self.program.viewport or self.program.view
             seen = [line for line in session.spy.since(mark, "press", "release") if line[2] == view]
             self.assertEqual(seen, [["press", "1", view, f"{x + 10},{y - 20}"],
@@ -113,7 +113,7 @@ class GesturesTest(ProgramTest):
             self.end(session)
 
     def test_flick(self):
-        """The button is up again before the ring can be seen."""
+        """The button is released before the ring is visible."""
         with self.session() as session:
             for direction in FOUR:
                 session.gesture_runs(direction, self.program.eight[direction], milliseconds=150)
@@ -145,8 +145,8 @@ class GesturesTest(ProgramTest):
             self.end(session)
 
     def test_many_gestures_of_all_kinds(self):
-        """Fast and slow, straight and across, let go early: each runs its command once, or
-        none, and the program has the pointer and the keyboard back after it."""
+        """Fast and slow, straight and diagonal, released early: each gesture runs its command
+        once, or none, and then the program has the pointer and the keyboard back."""
         chance = random.Random(20)
         bindings = {"81": "ID_LINE", "82": "", "83": "ID_ZOOM_BOUNDS", "84": "", "85": "ID_LINE",
                     "86": "", "87": "ID_ZOOM_BOUNDS", "88": ""}
@@ -163,7 +163,7 @@ class GesturesTest(ProgramTest):
                     expected.append(self.program.eight[runs[direction]])
                     session.expect(start, lambda _: len(session.spy.since(start, "triggered"))
                                    >= len(expected), f"command {len(expected)}, {direction}")
-                    if self.program.cancel:  # another tool does not start while one is running
+                    if self.program.cancel:  # it does not start a tool while another one runs
                         session.cancel_tool()
                 session.settle()
             session.gesture_runs("left", self.program.eight["up"])
@@ -224,8 +224,8 @@ class GesturesTest(ProgramTest):
     # --- what is not a gesture
 
     def compare_with_the_bare_program(self, act, **how):
-        """Does the same in the program without gestures and in the one with them; both must
-        have seen the same."""
+        """Does the same in the program without gestures and with gestures. Both must see the
+        same."""
         seen = []
         for name, options in (("bare", {"gestures": False}), ("gestures", how)):
             with self.session(f"{self._testMethodName}-{name}", **options) as session:
@@ -243,7 +243,7 @@ class GesturesTest(ProgramTest):
     def test_right_click_is_unchanged(self):
         def act(session):
             session.right_click()
-            # Elsewhere, or it depends on the machine's speed whether it is a double click.
+            # At another place, or a slow machine would take it for a double click.
             x, y = session.middle()
             session.driver.ask("move", x + 60, y + 40)
             session.right_click()
@@ -253,12 +253,12 @@ class GesturesTest(ProgramTest):
         def act(session):
             mark = session.spy.mark()
             session.driver.ask("press", 3)
-            session.driver.ask("drag", 12, 8, 100)  # 20 pixels, one short of a gesture
+            session.driver.ask("drag", 12, 8, 100)  # 20 pixels; a gesture needs one more
             session.driver.ask("release", 3)
             if self.program.menu_on_release:
                 session.close_context_menu(mark)
             elif self.program.context_menu:
-                # It opened under the pointer, so the release is for the entry there.
+                # The menu opened under the pointer, so the release chooses the entry there.
                 session.expect(mark, lambda line: line[0] == "triggered", "an entry of the menu")
                 session.wait_for_free_input()
         self.compare_with_the_bare_program(act)
@@ -280,7 +280,7 @@ class GesturesTest(ProgramTest):
             session.right_click()
             session.driver.ask("drag", 40, 30, 50) # too far for a double click
             session.right_click()
-            if not self.program.cancel:  # elsewhere a panel may have taken the keyboard, or not yet
+            if not self.program.cancel:  # otherwise a panel may have the keyboard
                 session.driver.ask("key", "Escape")
         self.compare_with_the_bare_program(act)
 
@@ -334,7 +334,7 @@ class GesturesTest(ProgramTest):
     # --- the end
 
     def test_no_complaints(self):
-        """Nothing on standard error that the program does not say by itself."""
+        """Standard error has only lines that the program also prints without gestures."""
         complaints = []
         for name, gestures in (("bare", False), ("gestures", True)):
             with self.session(f"{self._testMethodName}-{name}", gestures=gestures) as session:
@@ -346,7 +346,7 @@ class GesturesTest(ProgramTest):
         self.assertEqual(complaints[1] - complaints[0], set())
 
     def test_a_hundred_starts(self):
-        """Each ends as a person ends it, in good health and with no word of ours."""
+        """Each start ends normally, and we print nothing on standard error."""
         with self.session(f"{self._testMethodName}-bare", gestures=False) as session:
             self.end(session)
             own = {without_numbers(line) for line in session.complaints()}

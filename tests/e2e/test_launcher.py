@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""What mouse-gestures says and prints of a real program, which runs without a screen."""
+"""What mouse-gestures reports and prints about a real program, which runs without a screen."""
 
 import json
 import os
@@ -15,7 +15,7 @@ from harness.programtest import option_parser, run_tests
 ROOT = Path(__file__).resolve().parents[2]
 PROGRAM = PROGRAMS["librecad"]
 DRAWING = ROOT / "samples" / "bracket.dxf"
-# What lies in each direction at first, in the order of EIGHT.
+# The default command of each direction, in the order of EIGHT.
 FIRST = ("ID_ZOOM_BOUNDS", "ID_OFFSET", "ID_OPEN", "ID_COPY", "ID_SAVE", "ID_DTEXT", "ID_LINE",
          "ID_TRIM")
 
@@ -50,7 +50,7 @@ class LauncherTest(unittest.TestCase):
         return json.loads(result.stdout), result.stderr
 
     def test_guesses(self):
-        """A copy that no profile knows is taken for what the profile says of the original."""
+        """For a copy without a profile, the guesses equal the profile of the original."""
         unknown = self.folder / "unknown-cad"
         shutil.copy(shutil.which(PROGRAM.executable), unknown)
         guessed, reasons = self.explain(unknown)
@@ -61,7 +61,7 @@ class LauncherTest(unittest.TestCase):
         self.assertIn(f"view: {PROGRAM.view}", reasons)
         self.assertIn("since shortcut \"Ctrl+O\"", reasons)
 
-        # Kept as it stands, it is the program's profile from then on.
+        # The output, saved as it is, becomes the program's profile.
         profile = self.folder / "gesturewidget" / "profiles" / f"{unknown.name}.json"
         profile.parent.mkdir(parents=True, exist_ok=True)
         profile.write_text(json.dumps(guessed))
@@ -70,14 +70,14 @@ class LauncherTest(unittest.TestCase):
         self.assertIn(f"since the profile names its class {PROGRAM.view}", reasons)
 
     def test_profile(self):
-        """What the installed profile names is there."""
+        """Everything that the installed profile names exists in the program."""
         installed = json.loads((ROOT / "host" / "profiles" / f"{PROGRAM.name}.json").read_text())
         found, reasons = self.explain(PROGRAM.executable)
         self.assertEqual({**found, "why": None}, {**installed, "why": None})
         self.assertNotIn("none", reasons)
 
     def test_commands(self):
-        """Once it has run, its commands are known by their captions, and are printed."""
+        """After the first run, commands can be bound by their captions, and are printed."""
         self.explain(PROGRAM.executable)
         listed = self.run_launcher("--list-commands", PROGRAM.name, "--json").stdout
         identifiers = {command["identifier"] for command in json.loads(listed)["commands"]}

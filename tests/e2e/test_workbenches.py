@@ -2,7 +2,7 @@
 
     with-desktop.sh python3 test_workbenches.py --build DIR [TEST...]
 
-See test_gestures.py for how a test is made.
+test_gestures.py describes how the tests work.
 """
 
 import configparser
@@ -14,9 +14,9 @@ from harness.programtest import ProgramTest, option_parser, run_tests
 
 PROGRAM = PROGRAMS["freecad"]
 ENTRY = "Mouse Gestures..."
-FIRST_SWITCH_SECONDS = 60  # the first time, a workbench is loaded
+FIRST_SWITCH_SECONDS = 60  # the first switch loads the workbench
 
-# Workbench to the key that follows W, and a menu that no other of them has.
+# For each workbench: the key that follows W, and a menu that only this workbench has.
 WORKBENCHES = {
     "DraftWorkbench": ("2", "Modification"),
     "ImageWorkbench": ("5", "Image"),
@@ -39,7 +39,7 @@ class WorkbenchesTest(ProgramTest):
                        FIRST_SWITCH_SECONDS)
 
     def tools_menu(self, session):
-        """The captions in the Tools menu, as a person who opens it sees them."""
+        """The captions in the open Tools menu."""
         mark = session.spy.mark()
         session.driver.ask("key", "alt+t")
         entries = session.expect(mark, lambda line: line[0] == "entries", "the Tools menu")[1:]
@@ -50,7 +50,7 @@ class WorkbenchesTest(ProgramTest):
         return entries
 
     def categories(self, session):
-        """What the dialog offers to choose from."""
+        """The categories in the dialog."""
         mark = session.open_dialog()
         choices = session.expect(mark, lambda line: line[0] == "choices" and "File" in line,
                                  "the dialog's categories")[1:]
@@ -73,7 +73,7 @@ class WorkbenchesTest(ProgramTest):
                 entries = self.tools_menu(session)
                 self.assertEqual(entries.count(ENTRY), 1, f"in {workbench}: {entries}")
                 self.assertEqual(entries[-1], ENTRY, f"in {workbench}")
-            # A workbench that has no drawing commands.
+            # The current workbench has no drawing commands.
             session.gesture_runs("up", PROGRAM.eight["up"])
             self.assertEqual(self.bindings(session), before)
             self.switch(session, "DraftWorkbench")
@@ -95,7 +95,7 @@ class WorkbenchesTest(ProgramTest):
             self.end(session)
 
     def test_a_workbench_that_was_never_loaded(self):
-        """Bindings to its commands outlive a gesture all the same."""
+        """A gesture keeps the bindings to its commands."""
         text = PROGRAM.configuration["FreeCAD/user.cfg"]
         program = dataclasses.replace(PROGRAM, configuration={
             "FreeCAD/user.cfg": text.replace("DraftWorkbench", "ImageWorkbench")})
@@ -109,7 +109,7 @@ class WorkbenchesTest(ProgramTest):
                              {key: value for key, value in given.items() if key != "ActiveScheme"})
 
     def test_a_command_of_an_earlier_start(self):
-        """It can be bound while its workbench was never loaded, and runs as soon as it is."""
+        """It can be bound before its workbench is loaded, and runs after that."""
         with self.session() as session:
             session.gesture_runs("up", PROGRAM.eight["up"])
             self.end(session)

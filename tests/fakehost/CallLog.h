@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tests/fakehost/FakeFault.h"
+
 #include <QStringList>
 
 #include <stdexcept>
@@ -13,7 +15,9 @@ class CallLog
 public:
     void add(const QString &call)
     {
-        calls.append(call);
+        FakeFault::pass();
+        if (isOn)
+            calls.append(call);
         if (!throwOn.isEmpty() && call.startsWith(throwOn))
             throw std::runtime_error("the fake host was told to throw");
     }
@@ -30,6 +34,8 @@ public:
     }
 
     QStringList calls;
+    // False: nothing is noted, for measuring.
+    bool isOn = true;
     // Beginning of the calls that throw; empty for none.
     QString throwOn;
 };

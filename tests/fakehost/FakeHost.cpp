@@ -52,42 +52,42 @@ FakeHost::~FakeHost()
 
 CHxMainFrame *FakeHost::GetMainFrame()
 {
-    return hasMainFrame ? this : nullptr;
+    return passed(hasMainFrame) ? this : nullptr;
 }
 
 CHxDocumentManager *FakeHost::GetDocumentManager()
 {
-    return hasDocumentManager ? &documents : nullptr;
+    return passed(hasDocumentManager) ? &documents : nullptr;
 }
 
 CHxApplication *FakeHost::GetApplication()
 {
-    return hasApplication ? this : nullptr;
+    return passed(hasApplication) ? this : nullptr;
 }
 
 CHxTextOutput *FakeHost::GetTextOutput()
 {
-    return hasTextOutput ? this : nullptr;
+    return passed(hasTextOutput) ? this : nullptr;
 }
 
 CHxProfileStore *FakeHost::GetProfileStore()
 {
-    return hasProfileStore ? &store : nullptr;
+    return passed(hasProfileStore) ? &store : nullptr;
 }
 
 CHxUIManager *FakeHost::GetUIManager()
 {
-    return hasUIManager ? &ui : nullptr;
+    return passed(hasUIManager) ? &ui : nullptr;
 }
 
 CHxUICommandManager *FakeHost::GetUICommandManager()
 {
-    return hasCommandManager ? &commands : nullptr;
+    return passed(hasCommandManager) ? &commands : nullptr;
 }
 
 CHxUIMenuItemCollection *FakeHost::GetMenuItems()
 {
-    return hasMenuItems ? &menuItems : nullptr;
+    return passed(hasMenuItems) ? &menuItems : nullptr;
 }
 
 CHxCommandResultPtr FakeHost::RunCommand(const CHxString &command, bool wait)

@@ -47,17 +47,17 @@ public:
     [[nodiscard]] CHxUICommandManager *GetUICommandManager() override;
     [[nodiscard]] CHxUIMenuItemCollection *GetMenuItems() override;
     CHxCommandResultPtr RunCommand(const CHxString &command, bool wait) override;
-    [[nodiscard]] bool UsesLargeIcons() const override { return largeIcons; }
-    [[nodiscard]] CHxString GetApplicationName() const override { return applicationName; }
+    [[nodiscard]] bool UsesLargeIcons() const override { return passed(largeIcons); }
+    [[nodiscard]] CHxString GetApplicationName() const override { return passed(applicationName); }
     int ShowMessage(const CHxString &text, const CHxString &caption, int style) override;
-    [[nodiscard]] CHxString GetMessageCaption() const override { return messageCaption; }
+    [[nodiscard]] CHxString GetMessageCaption() const override { return passed(messageCaption); }
     void ShowHelp(int topic) override;
 
     // CHxMainFrame
-    [[nodiscard]] QWidget *GetMainWindow() const override { return mainWindow; }
+    [[nodiscard]] QWidget *GetMainWindow() const override { return passed(mainWindow); }
 
     // CHxApplication
-    [[nodiscard]] qint16 GetMode() const override { return mode; }
+    [[nodiscard]] qint16 GetMode() const override { return passed(mode); }
     void SetMode(qint16 newMode) override;
 
     // CHxTextOutput

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "sdk/chx/CHxIterator.h"
+#include "tests/fakehost/FakeFault.h"
 
 #include <vector>
 
@@ -18,9 +19,13 @@ public:
     }
     ~FakeIterator() override { --*m_alive; }
 
-    [[nodiscard]] bool Done() const override { return m_index >= m_items.size(); }
-    void Next() override { ++m_index; }
-    [[nodiscard]] T *Current() const override { return m_items.at(m_index); }
+    [[nodiscard]] bool Done() const override { return passed(m_index) >= m_items.size(); }
+    void Next() override
+    {
+        FakeFault::pass();
+        ++m_index;
+    }
+    [[nodiscard]] T *Current() const override { return passed(m_items).at(m_index); }
 
 private:
     std::vector<T *> m_items;

@@ -8,7 +8,8 @@ namespace tests {
 
 CHxUIMenuItem *FakeMenuItemCollection::GetItem(int index) const
 {
-    if (index < 0 || index >= GetCount())
+    FakeFault::pass();
+    if (index < 0 || index >= static_cast<int>(items.size()))
         return nullptr;
     return items[static_cast<std::size_t>(index)];
 }
@@ -29,12 +30,16 @@ void FakeWorkspace::Add(CHxUICommandItem *item)
 std::unique_ptr<CHxIterator<CHxUIWorkspace>> FakeUIManager::NewWorkspaceIterator()
 {
     m_log->add(QStringLiteral("ui.workspaces"));
+    if (!hasWorkspaceIterator)
+        return nullptr;
     return std::make_unique<FakeIterator<CHxUIWorkspace>>(workspaces, &iteratorsAlive);
 }
 
 std::unique_ptr<CHxIterator<CHxUIMenu>> FakeUIManager::NewMenuIterator()
 {
     m_log->add(QStringLiteral("ui.menus"));
+    if (!hasMenuIterator)
+        return nullptr;
     return std::make_unique<FakeIterator<CHxUIMenu>>(menus, &iteratorsAlive);
 }
 
@@ -58,6 +63,7 @@ CHxUICommandItem *FakeUIManager::CreateCommandItem(const CHxString &identifier, 
 
 bool FakeUIManager::Contains(const CHxUICommandItem *item) const
 {
+    FakeFault::pass();
     return std::any_of(commandItems.begin(), commandItems.end(),
                        [item](const auto &held) { return held.get() == item; });
 }
@@ -125,11 +131,17 @@ FakeMenuItem *FakeUIManager::addItem(FakeMenuItemCollection *parent, const QStri
 
 std::unique_ptr<CHxIterator<CHxUICommandItem>> FakeCommandGroup::NewCommandIterator()
 {
+    FakeFault::pass();
+    if (!hasCommandIterator)
+        return nullptr;
     return std::make_unique<FakeIterator<CHxUICommandItem>>(commands, m_iteratorsAlive);
 }
 
 std::unique_ptr<CHxIterator<CHxUICommandGroup>> FakeCommandManager::NewGroupIterator()
 {
+    FakeFault::pass();
+    if (!hasGroupIterator)
+        return nullptr;
     return std::make_unique<FakeIterator<CHxUICommandGroup>>(groups, &iteratorsAlive);
 }
 

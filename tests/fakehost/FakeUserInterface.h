@@ -19,12 +19,12 @@ namespace tests {
 class FakeCommandItem : public CHxUICommandItem
 {
 public:
-    [[nodiscard]] CHxString GetIdentifier() const override { return identifier; }
-    [[nodiscard]] CHxString GetCommandString() const override { return command; }
-    [[nodiscard]] CHxString GetCaption() const override { return caption; }
-    [[nodiscard]] CHxString GetTip() const override { return tip; }
-    [[nodiscard]] QIcon GetSmallIcon() const override { return smallIcon; }
-    [[nodiscard]] QIcon GetLargeIcon() const override { return largeIcon; }
+    [[nodiscard]] CHxString GetIdentifier() const override { return passed(identifier); }
+    [[nodiscard]] CHxString GetCommandString() const override { return passed(command); }
+    [[nodiscard]] CHxString GetCaption() const override { return passed(caption); }
+    [[nodiscard]] CHxString GetTip() const override { return passed(tip); }
+    [[nodiscard]] QIcon GetSmallIcon() const override { return passed(smallIcon); }
+    [[nodiscard]] QIcon GetLargeIcon() const override { return passed(largeIcon); }
     void SetName(const CHxString &name) override { caption = name.toQString(); }
     void SetMacro(const CHxString &macro) override { command = macro.toQString(); }
     void SetStatusText(const CHxString &text) override { tip = text.toQString(); }
@@ -40,7 +40,7 @@ public:
 class FakeMenuItemCollection : public CHxUIMenuItemCollection
 {
 public:
-    [[nodiscard]] int GetCount() const override { return static_cast<int>(items.size()); }
+    [[nodiscard]] int GetCount() const override { return static_cast<int>(passed(items).size()); }
     [[nodiscard]] CHxUIMenuItem *GetItem(int index) const override;
     void Append(CHxUIMenuItem *item) override { items.push_back(item); }
     void Remove(CHxUIMenuItem *item) override;
@@ -52,12 +52,15 @@ public:
 class FakeMenuItem : public CHxUIMenuItem
 {
 public:
-    [[nodiscard]] CHxString GetIdentifier() const override { return identifier; }
-    [[nodiscard]] CHxString GetText() const override { return text; }
+    [[nodiscard]] CHxString GetIdentifier() const override { return passed(identifier); }
+    [[nodiscard]] CHxString GetText() const override { return passed(text); }
     void SetText(const CHxString &newText) override { text = newText.toQString(); }
-    [[nodiscard]] CHxUICommandItem *GetCommandItem() const override { return command; }
+    [[nodiscard]] CHxUICommandItem *GetCommandItem() const override { return passed(command); }
     void SetCommandItem(CHxUICommandItem *item) override { command = item; }
-    [[nodiscard]] CHxUIMenuItemCollection *GetSubItems() const override { return subItems.get(); }
+    [[nodiscard]] CHxUIMenuItemCollection *GetSubItems() const override
+    {
+        return passed(subItems).get();
+    }
 
     QString identifier;
     QString text;
@@ -69,7 +72,10 @@ public:
 class FakeMenu : public CHxUIMenu
 {
 public:
-    [[nodiscard]] CHxUIMenuItemCollection *GetItems() override { return hasItems ? &items : nullptr; }
+    [[nodiscard]] CHxUIMenuItemCollection *GetItems() override
+    {
+        return passed(hasItems) ? &items : nullptr;
+    }
 
     bool hasItems = true;
     FakeMenuItemCollection items;
@@ -84,8 +90,8 @@ public:
     {
     }
 
-    [[nodiscard]] CHxString GetName() const override { return name; }
-    [[nodiscard]] bool IsCurrent() const override { return current; }
+    [[nodiscard]] CHxString GetName() const override { return passed(name); }
+    [[nodiscard]] bool IsCurrent() const override { return passed(current); }
     [[nodiscard]] CHxUICommandItemCollection *GetCommandItems() override { return this; }
     [[nodiscard]] CHxUIMenuItemCollection *GetMenuItems() override { return &menus; }
     void Add(CHxUICommandItem *item) override;
@@ -132,6 +138,9 @@ public:
     FakeMenuItem *addItem(FakeMenuItemCollection *parent, const QString &text, bool isMenu,
                           const QString &identifier = {}, CHxUICommandItem *command = nullptr);
 
+    // False: the operation gives out null, which no host should do.
+    bool hasWorkspaceIterator = true;
+    bool hasMenuIterator = true;
     std::vector<CHxUIWorkspace *> workspaces;
     std::vector<CHxUIMenu *> menus;
     // Command items created by modules.
@@ -155,10 +164,17 @@ public:
     {
     }
 
-    [[nodiscard]] CHxString GetName() const override { return name; }
+    [[nodiscard]] CHxString GetName() const override
+    {
+        ++nameReadings;
+        return passed(name);
+    }
     [[nodiscard]] std::unique_ptr<CHxIterator<CHxUICommandItem>> NewCommandIterator() override;
 
     QString name;
+    mutable int nameReadings = 0;
+    // False: NewCommandIterator() gives out null, which no host should do.
+    bool hasCommandIterator = true;
     // May hold nulls.
     std::vector<CHxUICommandItem *> commands;
 
@@ -177,6 +193,8 @@ public:
     FakeCommandItem *addCommand(const QString &identifier, const QString &command,
                                 const QString &caption, const QString &tip = {});
 
+    // False: NewGroupIterator() gives out null, which no host should do.
+    bool hasGroupIterator = true;
     std::vector<CHxUICommandGroup *> groups;
     // Iterators that nobody deleted yet.
     int iteratorsAlive = 0;

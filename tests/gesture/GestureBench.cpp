@@ -43,7 +43,7 @@ GestureBench::GestureBench()
     document = host.documents.open();
     delete document->view;
     view = new NotingView;
-    // As drawing views have it; Qt drops moves without a button otherwise.
+    // Views of programs have it on. Otherwise Qt drops moves without a button.
     view->setMouseTracking(true);
     document->view = view;
     view->setGeometry(150, 150, 400, 400);
@@ -56,7 +56,7 @@ GestureBench::GestureBench()
 
 GestureBench::~GestureBench()
 {
-    // Qt keeps count of the buttons over all tests.
+    // Qt counts pressed buttons across all tests.
     if (m_pressed && view)
         release(QPoint(200, 200));
 }

@@ -10,7 +10,7 @@
 
 namespace tests {
 
-// A drawing view that notes what the pointer does in it.
+// A view that records what the pointer does in it.
 class NotingView : public QWidget
 {
 public:
@@ -33,7 +33,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 };
 
-// A ring that counts how often it was painted, and says with which flag.
+// A ring that counts its paints, and those while it fades.
 class CountingDonut : public MgDonutDialogPVStyleImpl
 {
 public:
@@ -48,32 +48,32 @@ public:
     int fadingPaints = 0;
 };
 
-// What a gesture needs around it: a host with the factory's commands and one open document,
-// whose view is on the screen, and a pointer to move over it.
+// Everything that a gesture needs: a host with the factory's commands, one open document with
+// its view on the screen, and a pointer to move over it.
 //
-// The commands are "ID_LINE" and the seven others that are bound at first; "ID_LINE" runs
-// "line", "ID_ZOOM_BOUNDS" "zoom_bounds" and so on. None has an icon.
+// The commands are the eight that are bound at first. "ID_LINE" runs "line", "ID_ZOOM_BOUNDS"
+// runs "zoom_bounds" and so on. None has an icon.
 class GestureBench
 {
 public:
     GestureBench();
     ~GestureBench();
 
-    // Four or eight sectors, and gestures on or off, from the next start of a gesture on.
+    // Four or eight sectors, and gestures on or off. The next gesture sees it.
     void setScheme(int sectors);
     void setEnabled(bool enabled);
-    // Another open document with a view of its own, which is not shown.
+    // Opens another document. Its view is not shown.
     FakeDocument *openDocument();
 
-    // Puts the system's pointer here, in pixels of the view, and delivers the move.
+    // Moves the system's pointer here, in pixels of the view, and delivers the move.
     void pointTo(const QPoint &viewPosition);
     // The same for an offset from the ring's centre, with y upward.
     void pointTo(const MgDonutDialogPVStyleImpl &donut, int x, int y);
-    // Presses and lets go of the button, as the window system reports it of the view.
+    // Presses and releases the right button in the view, as the window system reports it.
     void press(const QPoint &viewPosition);
     void release(const QPoint &viewPosition, Qt::KeyboardModifiers modifiers = {});
 
-    // Arms and starts a gesture with the centre here and the pointer on it.
+    // Arms and starts a gesture with its centre and the pointer here.
     void start(MgDonutDialogPVStyleImpl &donut, const QPoint &centre = QPoint(200, 200));
 
     FakeHost host;

@@ -20,7 +20,7 @@ int farthestChannel(QRgb a, QRgb b)
 QString compareWithGolden(const QImage &picture, const QString &name, const Tolerance &tolerance)
 {
     const QString path = QStringLiteral(TESTS_SOURCE_DIR "/gesture/golden/%1.png").arg(name);
-    // As a file holds it.
+    // The format of a file.
     const QImage found = picture.convertToFormat(QImage::Format_ARGB32);
     if (qEnvironmentVariableIntValue("GESTUREWIDGET_UPDATE_GOLDEN") == 1)
         return found.save(path) ? QString() : QStringLiteral("cannot write %1").arg(path);

@@ -5,17 +5,18 @@
 
 namespace tests {
 
-// How far a picture may be from its golden image.
+// The allowed difference between a picture and its golden image.
 struct Tolerance
 {
     int perChannel = 0; // of 255
     double pixels = 0.0; // the share of the pixels that may be farther off than that
 };
 
-// Compares a picture with tests/gesture/golden/NAME.png. Returns what is wrong, or an empty
-// text. The picture found is then kept beside the program, under its name in the message.
+// Compares a picture with tests/gesture/golden/NAME.png. Returns an empty text if they match.
+// Otherwise it returns what is wrong and saves the picture beside the program; the message names
+// the file.
 //
-// With GESTUREWIDGET_UPDATE_GOLDEN=1 in the environment the golden image is written instead.
+// With GESTUREWIDGET_UPDATE_GOLDEN=1 in the environment it writes the golden image instead.
 [[nodiscard]] QString compareWithGolden(const QImage &picture, const QString &name,
                                         const Tolerance &tolerance = {});
 

@@ -7,9 +7,10 @@ namespace tests {
 class PaintRecorder::Engine : public QPaintEngine
 {
 public:
-    explicit Engine(std::vector<Painted> *painted)
+    Engine(std::vector<Painted> *painted, qreal ratio)
         : QPaintEngine(AllFeatures)
         , m_painted(painted)
+        , m_ratio(ratio)
     {
     }
 
@@ -44,19 +45,22 @@ private:
     Painted &add(Painted::Kind kind, const QPointF &at)
     {
         const QPaintEngineState &now = *state;
-        m_painted->push_back({kind, QImage(), QString(), at, now.transform(), now.opacity(),
+        const QTransform toWidget = QTransform::fromScale(1.0 / m_ratio, 1.0 / m_ratio);
+        m_painted->push_back({kind, QImage(), QString(), at, now.transform() * toWidget, now.opacity(),
                               now.renderHints().testFlag(QPainter::Antialiasing), QFont(), now.pen(),
                               m_clip});
         return m_painted->back();
     }
 
     std::vector<Painted> *m_painted;
+    qreal m_ratio;
     QRect m_clip;
 };
 
-PaintRecorder::PaintRecorder(const QSize &size)
+PaintRecorder::PaintRecorder(const QSize &size, qreal ratio)
     : m_size(size)
-    , m_engine(new Engine(&painted))
+    , m_ratio(ratio)
+    , m_engine(new Engine(&painted, ratio))
 {
 }
 
@@ -85,7 +89,9 @@ int PaintRecorder::metric(PaintDeviceMetric metric) const
     case PdmPhysicalDpiY:
         return 96;
     case PdmDevicePixelRatio:
-        return 1;
+        return qRound(m_ratio);
+    case PdmDevicePixelRatioScaled:
+        return qRound(m_ratio * devicePixelRatioFScale());
     default:
         return QPaintDevice::metric(metric);
     }

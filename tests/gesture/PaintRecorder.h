@@ -11,16 +11,16 @@
 
 namespace tests {
 
-// Something that was painted, in order.
+// Something that was painted.
 struct Painted
 {
     enum Kind { Image, Pixmap, Text };
 
     Kind kind;
-    QImage image; // of Image and Pixmap
+    QImage image; // of an Image or a Pixmap
     QString text;
-    QPointF at; // top left, of a text the start of its baseline; before the transformation
-    QTransform transform; // to pixels of the device
+    QPointF at; // top left, or the start of a text's baseline; before the transformation
+    QTransform transform; // to pixels of the widget
     double opacity;
     bool antialiased;
     QFont font; // of a text
@@ -28,11 +28,12 @@ struct Painted
     QRect clip; // the last clip rectangle that was set
 };
 
-// A paint device that notes images, pixmaps and texts in place of painting them.
+// A paint device that writes images, pixmaps and texts down instead of painting them. It has
+// `ratio` pixels for each pixel of a widget.
 class PaintRecorder : public QPaintDevice
 {
 public:
-    explicit PaintRecorder(const QSize &size);
+    explicit PaintRecorder(const QSize &size, qreal ratio = 1.0);
     ~PaintRecorder() override;
 
     [[nodiscard]] QPaintEngine *paintEngine() const override;
@@ -45,6 +46,7 @@ protected:
 private:
     class Engine;
     QSize m_size;
+    qreal m_ratio;
     Engine *m_engine;
 };
 

@@ -12,7 +12,7 @@
 
 namespace {
 
-// The base class as it is, with the least that makes it a widget.
+// The base class, with the least that makes it a widget.
 class PlainDonut : public MgDonutDialog
 {
 public:
@@ -30,7 +30,7 @@ public:
     [[nodiscard]] QSize getSize() const override { return QSize(1, 2); }
     void paint(QPaintEvent *event) override { paintedRects.push_back(event->rect()); }
 
-    // The sector that a direction yields after the given one.
+    // The sector that a direction chooses while the given one is active.
     int sectorAfter(int previous, double x, double y)
     {
         activeArc = static_cast<qint16>(previous);
@@ -47,8 +47,8 @@ struct Offset
     double y;
 };
 
-// An offset whose angle is this double, or the nearest that was found. Steps through the
-// neighbours of the best guess at several distances, since rounding skips some doubles.
+// An offset whose angle is exactly this double, or the nearest one found. Rounding skips some
+// doubles, so this tries the neighbours of the best guess at several distances.
 Offset offsetAt(double angle)
 {
     if (angle == 90.0)
@@ -76,20 +76,19 @@ Offset offsetAt(double angle)
     return nearest;
 }
 
-// The same rules said once more, for the comparison with every offset: as tables of ranges,
-// and with lines through the centre in place of arctangents.
+// The same rules in another form, to compare every offset with: tables of ranges instead of
+// formulas, and lines through the centre instead of arctangents.
 namespace restated {
 
-// Where the angle of an offset lies: below (-1), at (0) or above (1) `degrees`. Turns the
-// line that stands for `degrees` by the length of arc that 22/7 makes of it, and asks on
-// which side of the line the offset is.
+// -1, 0 or 1 if the angle of an offset is below, at or above `degrees`. Draws a line through
+// the centre in that direction, with pi as 22/7, and looks on which side the offset lies.
 int sideOf(int x, int y, long double degrees)
 {
     if (x == 0) {
         const long double own = y < 0 ? 270.0L : 90.0L;
         return (own > degrees) - (own < degrees);
     }
-    // Each half plane has an axis that its angles are counted from.
+    // Angles of each half plane are counted from its axis.
     const long double axis = x < 0 ? 180.0L : y < 0 ? 360.0L : 0.0L;
     const long double turn = (degrees - axis) * 11.0L / 630.0L;
     const long double quarter = std::acos(-1.0L) / 2.0L;
@@ -101,8 +100,7 @@ int sideOf(int x, int y, long double degrees)
     const long double cross =
         along
         * (std::cos(turn) * static_cast<long double>(y) - std::sin(turn) * static_cast<long double>(x));
-    // On an axis a line through it is met exactly; nowhere else does one go through a point
-    // of the grid.
+    // An offset can lie exactly on a line only on an axis; no other line meets a grid point.
     if (y == 0 && degrees == axis)
         return 0;
     return cross > 0.0L ? 1 : -1;
@@ -122,7 +120,7 @@ bool contains(const Range &range, int x, int y)
     return range.bordersBelong ? low >= 0 && high <= 0 : low > 0 && high < 0;
 }
 
-// The ranges that keep each sector, index equal to the number of sectors included.
+// The ranges in which each sector stays active. Includes the index past the last sector.
 const std::vector<std::vector<Range>> &keepRanges(int sectors)
 {
     static const std::vector<std::vector<Range>> four{
@@ -144,8 +142,8 @@ const std::vector<std::vector<Range>> &keepRanges(int sectors)
     return sectors == 4 ? four : eight;
 }
 
-// The first border is where counting starts; the sectors follow it counter-clockwise, one of
-// them through the right-hand axis.
+// Counting starts at the first border and goes counter-clockwise. One sector crosses the axis to
+// the right.
 const std::vector<long double> &borders(int sectors)
 {
     static const std::vector<long double> four{45.0L, 135.0L, 225.0L, 315.0L};
@@ -154,7 +152,7 @@ const std::vector<long double> &borders(int sectors)
     return sectors == 4 ? four : eight;
 }
 
-// Whether something changes at exactly this angle.
+// True if something changes at exactly this angle.
 bool isBorder(int sectors, double angle)
 {
     for (const long double border : borders(sectors)) {
@@ -206,7 +204,7 @@ int sectorAfter(int sectors, int previous, int x, int y)
 
 } // namespace
 
-class tst_DonutGeometry : public QObject
+class DonutGeometryTest : public QObject
 {
     Q_OBJECT
 
@@ -235,7 +233,7 @@ private Q_SLOTS:
     void everyOffset();
 };
 
-void tst_DonutGeometry::startsWithoutSectorAndSize()
+void DonutGeometryTest::startsWithoutSectorAndSize()
 {
     const PlainDonut donut;
     QCOMPARE(donut.getActiveArc(), qint16(-1));
@@ -251,7 +249,7 @@ void tst_DonutGeometry::startsWithoutSectorAndSize()
     QCOMPARE(sized.sizeHint(), QSize(250, 250));
 }
 
-void tst_DonutGeometry::windowFlagsAreReplaced_data()
+void DonutGeometryTest::windowFlagsAreReplaced_data()
 {
     QTest::addColumn<int>("flags");
     QTest::newRow("none") << 0;
@@ -259,7 +257,7 @@ void tst_DonutGeometry::windowFlagsAreReplaced_data()
     QTest::newRow("dialog on top") << static_cast<int>(Qt::Dialog | Qt::WindowStaysOnTopHint);
 }
 
-void tst_DonutGeometry::windowFlagsAreReplaced()
+void DonutGeometryTest::windowFlagsAreReplaced()
 {
     QFETCH(int, flags);
     const PlainDonut donut(4, Qt::WindowFlags(flags));
@@ -267,7 +265,7 @@ void tst_DonutGeometry::windowFlagsAreReplaced()
     QCOMPARE(donut.windowFlags(), Qt::Tool | Qt::FramelessWindowHint);
 }
 
-void tst_DonutGeometry::paintEventOnlyCallsPaint()
+void DonutGeometryTest::paintEventOnlyCallsPaint()
 {
     PlainDonut donut;
     QPaintEvent event(QRect(1, 2, 3, 4));
@@ -276,7 +274,7 @@ void tst_DonutGeometry::paintEventOnlyCallsPaint()
     QCOMPARE(donut.paintedRects.front(), QRect(1, 2, 3, 4));
 }
 
-void tst_DonutGeometry::pointerChoosesAndPaints()
+void DonutGeometryTest::pointerChoosesAndPaints()
 {
     PlainDonut donut(4);
     donut.resize(50, 50);
@@ -288,7 +286,7 @@ void tst_DonutGeometry::pointerChoosesAndPaints()
     QTRY_VERIFY(!donut.paintedRects.empty());
 }
 
-void tst_DonutGeometry::commandEndedIsDeclared()
+void DonutGeometryTest::commandEndedIsDeclared()
 {
     PlainDonut donut(4);
     QSignalSpy ended(&donut, &MgDonutDialog::commandEnded);
@@ -297,7 +295,7 @@ void tst_DonutGeometry::commandEndedIsDeclared()
     QCOMPARE(ended.count(), 0);
 }
 
-void tst_DonutGeometry::angle_data()
+void DonutGeometryTest::angle_data()
 {
     QTest::addColumn<double>("x");
     QTest::addColumn<double>("y");
@@ -318,7 +316,7 @@ void tst_DonutGeometry::angle_data()
     QTest::newRow("steeply down, on the right") << 1e-12 << -1.0 << 270.036210375;
 }
 
-void tst_DonutGeometry::angle()
+void DonutGeometryTest::angle()
 {
     QFETCH(double, x);
     QFETCH(double, y);
@@ -333,7 +331,7 @@ void tst_DonutGeometry::angle()
         QVERIFY(found == std::atan(1.0) * 7.0 * 180.0 / 22.0);
 }
 
-void tst_DonutGeometry::anglesOffTheAxesStayOffThem()
+void DonutGeometryTest::anglesOffTheAxesStayOffThem()
 {
     const PlainDonut donut;
     double nearest = 1.0;
@@ -348,7 +346,7 @@ void tst_DonutGeometry::anglesOffTheAxesStayOffThem()
     QVERIFY(nearest > 0.0362);
 }
 
-void tst_DonutGeometry::sectorFromAngle_data()
+void DonutGeometryTest::sectorFromAngle_data()
 {
     QTest::addColumn<int>("sectors");
     QTest::addColumn<int>("previous");
@@ -384,7 +382,7 @@ void tst_DonutGeometry::sectorFromAngle_data()
     QTest::newRow("eight: up-right lost at exactly right") << 8 << 7 << 0.0 << 6;
     QTest::newRow("eight: up-right lost below right") << 8 << 7 << 359.0 << 6;
     QTest::newRow("eight: up-right kept below its border") << 8 << 7 << 77.4 << 7;
-    // No offset has exactly 77.5, its border.
+    // No offset lies exactly on its border, 77.5.
     QTest::newRow("eight: up-right lost past its border") << 8 << 7 << 77.6 << 0;
     QTest::newRow("eight: right kept on its upper side") << 8 << 6 << 32.4 << 6;
     QTest::newRow("eight: right lost at its upper border") << 8 << 6 << 32.5 << 7;
@@ -396,7 +394,7 @@ void tst_DonutGeometry::sectorFromAngle_data()
     QTest::newRow("eight: one past the last is lost") << 8 << 8 << 122.5 << 1;
 }
 
-void tst_DonutGeometry::sectorFromAngle()
+void DonutGeometryTest::sectorFromAngle()
 {
     QFETCH(int, sectors);
     QFETCH(int, previous);
@@ -413,7 +411,7 @@ void tst_DonutGeometry::sectorFromAngle()
     QCOMPARE(donut.sectorAfter(previous, offset.x, offset.y), expected);
 }
 
-void tst_DonutGeometry::sectorNumberConvention_data()
+void DonutGeometryTest::sectorNumberConvention_data()
 {
     QTest::addColumn<int>("sectors");
     QTest::addColumn<double>("x");
@@ -425,7 +423,7 @@ void tst_DonutGeometry::sectorNumberConvention_data()
     QTest::newRow("four: left") << 4 << -30.0 << 0.0 << 1;
     QTest::newRow("four: down") << 4 << 0.0 << -30.0 << 2;
     QTest::newRow("four: right") << 4 << 30.0 << 0.0 << 3;
-    // 22/7 for pi makes the diagonal a little less than 45 degrees.
+    // With pi as 22/7 the diagonal is a little less than 45 degrees.
     QTest::newRow("four: the diagonal is right") << 4 << 1.0 << 1.0 << 3;
     QTest::newRow("eight: centre") << 8 << 0.0 << 0.0 << 0;
     QTest::newRow("eight: up") << 8 << 0.0 << 30.0 << 0;
@@ -438,7 +436,7 @@ void tst_DonutGeometry::sectorNumberConvention_data()
     QTest::newRow("eight: up-right") << 8 << 30.0 << 30.0 << 7;
 }
 
-void tst_DonutGeometry::sectorNumberConvention()
+void DonutGeometryTest::sectorNumberConvention()
 {
     QFETCH(int, sectors);
     QFETCH(double, x);
@@ -449,7 +447,7 @@ void tst_DonutGeometry::sectorNumberConvention()
     QCOMPARE(donut.getActiveArc(), qint16(expected));
 }
 
-void tst_DonutGeometry::distancePlaysNoPart()
+void DonutGeometryTest::distancePlaysNoPart()
 {
     PlainDonut donut(8);
     for (const double scale : {1e-9, 1.0, 1e9}) {
@@ -458,21 +456,21 @@ void tst_DonutGeometry::distancePlaysNoPart()
     }
 }
 
-void tst_DonutGeometry::withoutSectorsNothingIsChosen()
+void DonutGeometryTest::withoutSectorsNothingIsChosen()
 {
     PlainDonut donut(0);
     QCOMPARE(donut.sectorAfter(-1, 10, 10), -1);
     QCOMPARE(donut.sectorAfter(2, 10, 10), 2);
 }
 
-void tst_DonutGeometry::everyOffset_data()
+void DonutGeometryTest::everyOffset_data()
 {
     QTest::addColumn<int>("sectors");
     QTest::newRow("four") << 4;
     QTest::newRow("eight") << 8;
 }
 
-void tst_DonutGeometry::everyOffset()
+void DonutGeometryTest::everyOffset()
 {
     QFETCH(int, sectors);
     PlainDonut donut(sectors);
@@ -496,5 +494,5 @@ void tst_DonutGeometry::everyOffset()
     QCOMPARE(compared, 201 * 201 * (sectors + 2));
 }
 
-QTEST_MAIN(tst_DonutGeometry)
+QTEST_MAIN(DonutGeometryTest)
 #include "tst_donutgeometry.moc"

@@ -21,7 +21,7 @@ using tests::PaintRecorder;
 
 namespace {
 
-// Debian's fonts-wine; a Tahoma that may be handed on.
+// From Debian's fonts-wine.
 const char kFontFile[] = "/usr/share/wine/fonts/tahoma.ttf";
 
 QImage resource(const QString &name)
@@ -35,7 +35,7 @@ bool same(const QImage &a, const QImage &b)
         && a.convertToFormat(QImage::Format_ARGB32) == b.convertToFormat(QImage::Format_ARGB32);
 }
 
-// An icon of one size with a shape that shows which way is up, without smooth edges.
+// An icon of one size. Its shape shows which way is up and has no smooth edges.
 QIcon makeIcon(int hue, int size = 20)
 {
     QPixmap pixmap(size, size);
@@ -71,22 +71,23 @@ public:
             addIcon(makeIcon(i * 43));
     }
 
-    std::vector<Painted> record(const QRegion &part = {})
+    std::vector<Painted> record(const QRegion &part = {}, qreal ratio = 1.0)
     {
-        PaintRecorder recorder(size());
+        PaintRecorder recorder(size(), ratio);
         render(&recorder, part.boundingRect().topLeft(), part, DrawChildren);
         return recorder.painted;
     }
-    QImage picture()
+    QImage picture(qreal ratio = 1.0)
     {
-        QImage image(size(), QImage::Format_ARGB32_Premultiplied);
+        QImage image(size() * ratio, QImage::Format_ARGB32_Premultiplied);
+        image.setDevicePixelRatio(ratio);
         image.fill(Qt::transparent);
         render(&image, QPoint(), QRegion(), DrawChildren);
         return image;
     }
 };
 
-// Where a label's origin is, from the ring's centre, y downward.
+// A label's origin, from the ring's centre, y downward.
 QPointF labelPoint(const Painted &painted)
 {
     return painted.transform.map(QPointF(0, 0)) - QPointF(125, 125);
@@ -119,7 +120,8 @@ const std::vector<QString> kEightRegions{
     QStringLiteral("gestureregion6"), QStringLiteral("gestureregion7"), QStringLiteral("gestureregion8"),
     QStringLiteral("gestureregion1"), QStringLiteral("gestureregion2")};
 
-// A text of at least `length` characters that is exactly this wide; empty if there is none.
+// A text of at least `length` characters that is exactly `width` pixels wide; empty if there
+// is none.
 QString textOfWidth(int width, int length)
 {
     const QFontMetrics metrics(QFont(QStringLiteral("TAHOMA"), 10));
@@ -140,7 +142,7 @@ QString textOfWidth(int width, int length)
 
 } // namespace
 
-class tst_DonutPainting : public QObject
+class DonutPaintingTest : public QObject
 {
     Q_OBJECT
 
@@ -169,6 +171,13 @@ private Q_SLOTS:
     void emptyTextDrawsNothing();
     void iconsAreNotRotated();
     void iconsOfOtherSizes();
+    void iconsShowTheirOffState();
+    void iconsAreOfTheDevicesRatio_data();
+    void iconsAreOfTheDevicesRatio();
+    void imagesAreOfTheDevicesRatio_data();
+    void imagesAreOfTheDevicesRatio();
+    void imagesAreSharp_data();
+    void imagesAreSharp();
     void wrongValuesDrawNothing();
     void missingEntriesDrawNothing();
     void goldenImage_data();
@@ -177,7 +186,7 @@ private Q_SLOTS:
     void goldenText();
 };
 
-void tst_DonutPainting::initTestCase()
+void DonutPaintingTest::initTestCase()
 {
     tests::failOnWarnings();
     QVERIFY2(QFontDatabase::addApplicationFont(QString::fromLatin1(kFontFile)) != -1,
@@ -187,7 +196,7 @@ void tst_DonutPainting::initTestCase()
     QVERIFY(tests::warnings().isEmpty());
 }
 
-void tst_DonutPainting::labelPointsAndRotations_data()
+void DonutPaintingTest::labelPointsAndRotations_data()
 {
     QTest::addColumn<int>("sectors");
     QTest::addColumn<int>("index");
@@ -203,14 +212,14 @@ void tst_DonutPainting::labelPointsAndRotations_data()
     }
 }
 
-void tst_DonutPainting::labelPointsAndRotations()
+void DonutPaintingTest::labelPointsAndRotations()
 {
     QFETCH(int, sectors);
     QFETCH(int, index);
     QFETCH(QPointF, point);
     QFETCH(double, rotation);
 
-    // Asked directly ...
+    // Once asked directly ...
     PaintedDonut donut(sectors, -1);
     QImage image(250, 250, QImage::Format_ARGB32);
     QPainter painter(&image);
@@ -219,7 +228,7 @@ void tst_DonutPainting::labelPointsAndRotations()
     QVERIFY(isNear(painter.transform().map(QPointF(0, 0)), point));
     QVERIFY(qFuzzyCompare(painter.transform().m11(), 1.0));
 
-    // ... and as it is painted, active and not.
+    // ... and once painted, both active and inactive.
     for (const int active : {index, (index + 1) % sectors}) {
         PaintedDonut shown(sectors, active);
         shown.addTexts();
@@ -236,7 +245,7 @@ void tst_DonutPainting::labelPointsAndRotations()
     }
 }
 
-void tst_DonutPainting::lowerHalfIsComputed()
+void DonutPaintingTest::lowerHalfIsComputed()
 {
     PaintedDonut donut(8, -1);
     QImage image(250, 250, QImage::Format_ARGB32);
@@ -252,7 +261,7 @@ void tst_DonutPainting::lowerHalfIsComputed()
         QCOMPARE(lowerHalf(8, i), i < 3 || i > 5);
 }
 
-void tst_DonutPainting::labelPointFollowsTheWidth()
+void DonutPaintingTest::labelPointFollowsTheWidth()
 {
     PaintedDonut donut(4, -1);
     donut.resize(300, 250);
@@ -263,7 +272,7 @@ void tst_DonutPainting::labelPointFollowsTheWidth()
     QVERIFY(isNear(painter.transform().map(QPointF(0, 0)), QPointF(118.0, 0.0)));
 }
 
-void tst_DonutPainting::orderOfPainting_data()
+void DonutPaintingTest::orderOfPainting_data()
 {
     QTest::addColumn<int>("sectors");
     QTest::addColumn<int>("active");
@@ -273,7 +282,7 @@ void tst_DonutPainting::orderOfPainting_data()
         QTest::addRow("eight %d", i) << 8 << i;
 }
 
-void tst_DonutPainting::orderOfPainting()
+void DonutPaintingTest::orderOfPainting()
 {
     QFETCH(int, sectors);
     QFETCH(int, active);
@@ -306,7 +315,7 @@ void tst_DonutPainting::orderOfPainting()
         QVERIFY(each.antialiased);
 }
 
-void tst_DonutPainting::onlyTheRingWithoutSector()
+void DonutPaintingTest::onlyTheRingWithoutSector()
 {
     PaintedDonut donut(4, -1);
     donut.addTexts();
@@ -316,7 +325,7 @@ void tst_DonutPainting::onlyTheRingWithoutSector()
     QCOMPARE(painted[0].opacity, 120.0 / 255.0);
 }
 
-void tst_DonutPainting::onlyTheEventsRectangle()
+void DonutPaintingTest::onlyTheEventsRectangle()
 {
     PaintedDonut donut(4, 1);
     donut.addTexts();
@@ -327,12 +336,12 @@ void tst_DonutPainting::onlyTheEventsRectangle()
         QCOMPARE(each.clip, part);
 }
 
-void tst_DonutPainting::fadingFrame_data()
+void DonutPaintingTest::fadingFrame_data()
 {
     orderOfPainting_data();
 }
 
-void tst_DonutPainting::fadingFrame()
+void DonutPaintingTest::fadingFrame()
 {
     QFETCH(int, sectors);
     QFETCH(int, active);
@@ -353,20 +362,20 @@ void tst_DonutPainting::fadingFrame()
     QVERIFY(painted[0].antialiased && painted[1].antialiased);
 }
 
-void tst_DonutPainting::indexPastTheLastSector_data()
+void DonutPaintingTest::indexPastTheLastSector_data()
 {
     QTest::addColumn<int>("sectors");
     QTest::newRow("four") << 4;
     QTest::newRow("eight") << 8;
 }
 
-void tst_DonutPainting::indexPastTheLastSector()
+void DonutPaintingTest::indexPastTheLastSector()
 {
     QFETCH(int, sectors);
     PaintedDonut donut(sectors, sectors);
     donut.addTexts();
     const std::vector<Painted> painted = donut.record();
-    // The ring and every label, no highlight.
+    // The ring and every label, but no highlight.
     QCOMPARE(painted.size(), static_cast<std::size_t>(sectors) + 1);
     for (std::size_t i = 1; i < painted.size(); ++i)
         QCOMPARE(painted[i].text, QStringLiteral("S%1").arg(i - 1));
@@ -374,9 +383,9 @@ void tst_DonutPainting::indexPastTheLastSector()
     QCOMPARE(donut.record().size(), std::size_t(0));
 }
 
-void tst_DonutPainting::otherSectorCountsAreDrawnLikeFour()
+void DonutPaintingTest::otherSectorCountsAreDrawnLikeFour()
 {
-    // Such a count has no highlights.
+    // There are no highlights for such a count.
     PaintedDonut donut(5, 4);
     donut.addTexts();
     const std::vector<Painted> painted = donut.record();
@@ -386,7 +395,7 @@ void tst_DonutPainting::otherSectorCountsAreDrawnLikeFour()
     QCOMPARE(rotationOf(painted[5]), -90.0);
 }
 
-void tst_DonutPainting::textStyle()
+void DonutPaintingTest::textStyle()
 {
     PaintedDonut donut(4, 0);
     donut.addTexts();
@@ -405,7 +414,7 @@ void tst_DonutPainting::textStyle()
     QCOMPARE(texts, 4);
 }
 
-void tst_DonutPainting::textIsCentred()
+void DonutPaintingTest::textIsCentred()
 {
     const QFontMetrics metrics(QFont(QStringLiteral("TAHOMA"), 10));
     for (const char *name : {"i", "Line", "Dtext", "Zoom"}) {
@@ -420,7 +429,7 @@ void tst_DonutPainting::textIsCentred()
     }
 }
 
-void tst_DonutPainting::longTextIsCut_data()
+void DonutPaintingTest::longTextIsCut_data()
 {
     QTest::addColumn<int>("width");
     QTest::addColumn<bool>("isCut");
@@ -430,7 +439,7 @@ void tst_DonutPainting::longTextIsCut_data()
     QTest::newRow("90 pixels") << 90 << true;
 }
 
-void tst_DonutPainting::longTextIsCut()
+void DonutPaintingTest::longTextIsCut()
 {
     QFETCH(int, width);
     QFETCH(bool, isCut);
@@ -451,7 +460,7 @@ void tst_DonutPainting::longTextIsCut()
             if (painted.kind != Painted::Text)
                 continue;
             texts.push_back(painted.text);
-            // Centred by what is left of it.
+            // The cut text is centred.
             QCOMPARE(painted.at, QPointF(-(metrics.horizontalAdvance(painted.text) / 2), 3.0));
         }
         if (fading)
@@ -461,7 +470,7 @@ void tst_DonutPainting::longTextIsCut()
     }
 }
 
-void tst_DonutPainting::emptyTextDrawsNothing()
+void DonutPaintingTest::emptyTextDrawsNothing()
 {
     PaintedDonut donut(4, 1);
     donut.addText(QStringLiteral("up"));
@@ -476,7 +485,7 @@ void tst_DonutPainting::emptyTextDrawsNothing()
     QVERIFY(same(painted[3].image, resource(QStringLiteral("gestureregion_left"))));
 }
 
-void tst_DonutPainting::iconsAreNotRotated()
+void DonutPaintingTest::iconsAreNotRotated()
 {
     PaintedDonut donut(8, 5);
     donut.addIcons();
@@ -496,7 +505,7 @@ void tst_DonutPainting::iconsAreNotRotated()
     QCOMPARE(icons, 8);
 }
 
-void tst_DonutPainting::iconsOfOtherSizes()
+void DonutPaintingTest::iconsOfOtherSizes()
 {
     PaintedDonut donut(4, 0);
     donut.addIcon(makeIcon(10, 20));
@@ -511,7 +520,133 @@ void tst_DonutPainting::iconsOfOtherSizes()
     QCOMPARE(corners, (std::vector<QPointF>{{-7, -7}, {-10, -10}, {-10, -10}, {-10, -10}}));
 }
 
-void tst_DonutPainting::wrongValuesDrawNothing()
+void DonutPaintingTest::iconsShowTheirOffState()
+{
+    QPixmap off(20, 20);
+    off.fill(Qt::darkGreen);
+    QPixmap on(20, 20);
+    on.fill(Qt::red);
+    QPixmap disabled(20, 20);
+    disabled.fill(Qt::gray);
+    QIcon icon;
+    icon.addPixmap(off, QIcon::Normal, QIcon::Off);
+    icon.addPixmap(on, QIcon::Normal, QIcon::On);
+    icon.addPixmap(disabled, QIcon::Disabled, QIcon::Off);
+    PaintedDonut donut(4, 0);
+    for (int i = 0; i < 4; ++i)
+        donut.addIcon(icon);
+    int icons = 0;
+    for (const Painted &painted : donut.record()) {
+        if (painted.kind != Painted::Pixmap)
+            continue;
+        ++icons;
+        QCOMPARE(QColor(painted.image.pixel(10, 10)), QColor(Qt::darkGreen));
+    }
+    QCOMPARE(icons, 4);
+}
+
+void DonutPaintingTest::iconsAreOfTheDevicesRatio_data()
+{
+    QTest::addColumn<double>("ratio");
+    QTest::addColumn<int>("pixels");
+    QTest::newRow("1") << 1.0 << 20;
+    QTest::newRow("1.25") << 1.25 << 25;
+    QTest::newRow("1.5") << 1.5 << 30;
+    QTest::newRow("2") << 2.0 << 40;
+    QTest::newRow("3") << 3.0 << 60;
+}
+
+void DonutPaintingTest::iconsAreOfTheDevicesRatio()
+{
+    QFETCH(double, ratio);
+    QFETCH(int, pixels);
+    // Programs decide this for Qt 5. Qt 6 knows the attribute and ignores it.
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    const Qt::ApplicationAttribute useHighDpiPixmaps = Qt::AA_UseHighDpiPixmaps;
+    QT_WARNING_POP
+    for (const bool programAsks : {false, true}) {
+        QCoreApplication::setAttribute(useHighDpiPixmaps, programAsks);
+        PaintedDonut donut(4, 0);
+        donut.addIcon(makeIcon(10, 128));
+        donut.addIcon(makeIcon(10, 128));
+        donut.addIcon(makeIcon(10, 16)); // too small: not enlarged, and still in the middle
+        donut.addIcon(makeIcon(10, 128));
+        std::vector<QSize> sizes;
+        std::vector<QPointF> corners;
+        for (const Painted &painted : donut.record({}, ratio)) {
+            if (painted.kind != Painted::Pixmap)
+                continue;
+            sizes.push_back(painted.image.size());
+            corners.push_back(painted.at);
+        }
+        QCoreApplication::setAttribute(useHighDpiPixmaps, false);
+        const QSize whole(pixels, pixels);
+        QCOMPARE(sizes, (std::vector<QSize>{whole, QSize(16, 16), whole, whole}));
+        QCOMPARE(corners, (std::vector<QPointF>{{-10, -10}, {-8, -8}, {-10, -10}, {-10, -10}}));
+    }
+}
+
+void DonutPaintingTest::imagesAreOfTheDevicesRatio_data()
+{
+    QTest::addColumn<double>("ratio");
+    QTest::addColumn<int>("pixels");
+    QTest::addColumn<QString>("suffix"); // of the file that is painted as it is; "" for none
+    QTest::newRow("1") << 1.0 << 250 << QString();
+    QTest::newRow("1.25") << 1.25 << 313 << QString();
+    QTest::newRow("1.5") << 1.5 << 375 << QString();
+    QTest::newRow("2") << 2.0 << 500 << QStringLiteral("@2x");
+    QTest::newRow("3") << 3.0 << 750 << QStringLiteral("@3x");
+    QTest::newRow("4") << 4.0 << 1000 << QString();
+}
+
+void DonutPaintingTest::imagesAreOfTheDevicesRatio()
+{
+    QFETCH(double, ratio);
+    QFETCH(int, pixels);
+    QFETCH(QString, suffix);
+    PaintedDonut donut(8, 6);
+    std::vector<QImage> images;
+    for (const Painted &painted : donut.record({}, ratio)) {
+        QCOMPARE(painted.at, QPointF(0, 0));
+        images.push_back(painted.image);
+    }
+    QCOMPARE(images.size(), std::size_t(2));
+    for (const QImage &image : images)
+        QCOMPARE(image.size(), QSize(pixels, pixels));
+    if (!suffix.isEmpty()) {
+        QVERIFY(same(images[0].copy(), resource(QLatin1String("gesture_widget") + suffix)));
+        QVERIFY(same(images[1].copy(), resource(QLatin1String("gestureregion1") + suffix)));
+    }
+}
+
+void DonutPaintingTest::imagesAreSharp_data()
+{
+    QTest::addColumn<double>("ratio");
+    for (const double ratio : {1.0, 1.25, 1.5, 2.0, 3.0})
+        QTest::addRow("%g", ratio) << ratio;
+}
+
+void DonutPaintingTest::imagesAreSharp()
+{
+    QFETCH(double, ratio);
+    PaintedDonut donut(8, 6);
+    const QImage picture = donut.picture(ratio);
+    // Looks to the right from the hole into the lit sector. Between bare and opaque lie only the
+    // soft shadow and one edge.
+    const int middle = static_cast<int>(125 * ratio);
+    const auto at = [&](double x) { return qAlpha(picture.pixel(static_cast<int>(x * ratio), middle)); };
+    QCOMPARE(at(125 + 55), 0);
+    QCOMPARE(at(125 + 80), 255);
+    int edge = 0;
+    for (int x = static_cast<int>((125 + 62) * ratio); x < static_cast<int>((125 + 70) * ratio); ++x) {
+        const int alpha = qAlpha(picture.pixel(x, middle));
+        edge += alpha > 100 && alpha < 250 ? 1 : 0;
+    }
+    QVERIFY2(edge <= 2, qPrintable(QString::number(edge)));
+}
+
+void DonutPaintingTest::wrongValuesDrawNothing()
 {
     PaintedDonut donut(4, 0);
     donut.sectorVisuals = {{0, QVariant(QStringLiteral("no icon"))},
@@ -520,7 +655,7 @@ void tst_DonutPainting::wrongValuesDrawNothing()
                            {1, QVariant()}};
     QCOMPARE(donut.record().size(), std::size_t(2)); // ring and highlight
 
-    // Every kind but that of icons is a text.
+    // Every other kind is a text.
     donut.sectorVisuals = {{7, QVariant(42)}, {-1, QVariant(QStringLiteral("text"))}};
     const std::vector<Painted> painted = donut.record();
     QCOMPARE(painted.size(), std::size_t(4));
@@ -528,7 +663,7 @@ void tst_DonutPainting::wrongValuesDrawNothing()
     QCOMPARE(painted[3].text, QStringLiteral("42"));
 }
 
-void tst_DonutPainting::missingEntriesDrawNothing()
+void DonutPaintingTest::missingEntriesDrawNothing()
 {
     PaintedDonut donut(8, 6);
     donut.addText(QStringLiteral("only one"));
@@ -540,7 +675,7 @@ void tst_DonutPainting::missingEntriesDrawNothing()
     QCOMPARE(painted.size(), std::size_t(1));
 }
 
-void tst_DonutPainting::goldenImage_data()
+void DonutPaintingTest::goldenImage_data()
 {
     QTest::addColumn<int>("sectors");
     QTest::addColumn<int>("active");
@@ -553,9 +688,12 @@ void tst_DonutPainting::goldenImage_data()
     QTest::newRow("eight-up") << 8 << 0 << false;
     QTest::newRow("eight-past-the-last") << 8 << 8 << false;
     QTest::newRow("eight-right-fading") << 8 << 6 << true;
+    QTest::newRow("four-left@2x") << 4 << 1 << false;
+    QTest::newRow("eight-right@2x") << 8 << 6 << false;
+    QTest::newRow("eight-right-fading@2x") << 8 << 6 << true;
 }
 
-void tst_DonutPainting::goldenImage()
+void DonutPaintingTest::goldenImage()
 {
     QFETCH(int, sectors);
     QFETCH(int, active);
@@ -563,14 +701,15 @@ void tst_DonutPainting::goldenImage()
     PaintedDonut donut(sectors, active);
     donut.addIcons();
     donut.fading = fading;
-    // The images are drawn while building, and processors round differently: a few pixels at
-    // the edges come out 1 of 255 lighter or darker. Nothing may be farther off.
+    // The images are drawn while building, and processors round differently. A few pixels at
+    // the edges come out 1 of 255 lighter or darker; none may be farther off.
+    const QString name = QString::fromLatin1(QTest::currentDataTag());
     const QString wrong = tests::compareWithGolden(
-        donut.picture(), QString::fromLatin1(QTest::currentDataTag()), {2, 0.0});
+        donut.picture(name.endsWith(QLatin1String("@2x")) ? 2.0 : 1.0), name, {2, 0.0});
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
 }
 
-void tst_DonutPainting::goldenText_data()
+void DonutPaintingTest::goldenText_data()
 {
     QTest::addColumn<int>("sectors");
     QTest::addColumn<int>("active");
@@ -580,7 +719,7 @@ void tst_DonutPainting::goldenText_data()
     QTest::newRow("eight-text-fading") << 8 << 3 << true;
 }
 
-void tst_DonutPainting::goldenText()
+void DonutPaintingTest::goldenText()
 {
     QFETCH(int, sectors);
     QFETCH(int, active);
@@ -600,10 +739,10 @@ void tst_DonutPainting::goldenText()
 
 int main(int argc, char **argv)
 {
-    // Read by the first font.
+    // The first font reads it.
     qputenv("FONTCONFIG_FILE", TESTS_SOURCE_DIR "/gesture/fonts.conf");
     const QApplication application(argc, argv);
-    tst_DonutPainting test;
+    DonutPaintingTest test;
     return QTest::qExec(&test, argc, argv);
 }
 

@@ -20,7 +20,7 @@ using tests::GestureBench;
 
 namespace {
 
-// The states of a ring by its flags, as one text to compare.
+// The state of a ring: its flags as one text.
 QString stateOf(const MgDonutDialogPVStyleImpl &donut)
 {
     QStringList flags;
@@ -41,6 +41,35 @@ QString stateOf(const MgDonutDialogPVStyleImpl &donut)
     return flags.join(QLatin1Char(' '));
 }
 
+// Records the state of a ring at each of its events of one type.
+class WatchedEvents : public QObject
+{
+public:
+    WatchedEvents(MgDonutDialogPVStyleImpl *donut, QEvent::Type type)
+        : m_donut(donut)
+        , m_type(type)
+    {
+        donut->installEventFilter(this);
+    }
+
+    QStringList states;
+    int grabbers = 0; // mouse and keyboard grabs that Qt held for any widget, over all events
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == m_type) {
+            states += stateOf(*m_donut);
+            grabbers += (QWidget::mouseGrabber() ? 1 : 0) + (QWidget::keyboardGrabber() ? 1 : 0);
+        }
+        return false;
+    }
+
+private:
+    MgDonutDialogPVStyleImpl *m_donut;
+    QEvent::Type m_type;
+};
+
 const QString kIdle;
 const QString kArmed = QStringLiteral("armed");
 const QString kGesturing = QStringLiteral("gesturing shown mouse keyboard");
@@ -48,7 +77,7 @@ const QString kStopped = QStringLiteral("stopped");
 
 } // namespace
 
-class tst_OverlayLifecycle : public QObject
+class OverlayLifecycleTest : public QObject
 {
     Q_OBJECT
 
@@ -81,11 +110,14 @@ private Q_SLOTS:
     void farMoveAccepts();
     void releaseCancels();
     void releasePostsAMoveToTheView();
+    void moveIsMeasuredInTheActiveView();
     void pressesAreSwallowed();
     void keysAreSwallowed();
     void shortcutsOfTheHostAreHeldBack();
     void otherFilteredEventsPass();
 
+    void isNotGesturingBeforeItIsShown();
+    void hidesAfterItLetGo();
     void justStoppedIsReportedOnce();
     void fadingBlocksForAQuarterOfASecond();
     void stoppingGivesEverythingBack();
@@ -113,13 +145,13 @@ private:
     std::unique_ptr<GestureBench> m_bench;
 };
 
-void tst_OverlayLifecycle::init()
+void OverlayLifecycleTest::init()
 {
     tests::resetWarnings();
     m_bench = std::make_unique<GestureBench>();
 }
 
-void tst_OverlayLifecycle::cleanup()
+void OverlayLifecycleTest::cleanup()
 {
     m_bench.reset();
     QCOMPARE(QWidget::mouseGrabber(), nullptr);
@@ -127,7 +159,7 @@ void tst_OverlayLifecycle::cleanup()
     QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
 }
 
-void tst_OverlayLifecycle::startsIdle()
+void OverlayLifecycleTest::startsIdle()
 {
     const CountingDonut donut;
     QCOMPARE(stateOf(donut), kIdle);
@@ -143,7 +175,7 @@ void tst_OverlayLifecycle::startsIdle()
     QCOMPARE(m_bench->host.log.calls, QStringList());
 }
 
-void tst_OverlayLifecycle::windUpTakesCursorAndMode()
+void OverlayLifecycleTest::windUpTakesCursorAndMode()
 {
     CountingDonut donut;
     m_bench->host.mode = 7;
@@ -161,7 +193,7 @@ void tst_OverlayLifecycle::windUpTakesCursorAndMode()
     QCOMPARE(m_bench->host.log.calls, QStringList(QStringLiteral("mode 1")));
 }
 
-void tst_OverlayLifecycle::windUpOfNothingIsIgnored()
+void OverlayLifecycleTest::windUpOfNothingIsIgnored()
 {
     CountingDonut donut;
     donut.WindUp(nullptr);
@@ -169,7 +201,7 @@ void tst_OverlayLifecycle::windUpOfNothingIsIgnored()
     QCOMPARE(m_bench->host.log.calls, QStringList());
 }
 
-void tst_OverlayLifecycle::secondWindUpKeepsTheFirst()
+void OverlayLifecycleTest::secondWindUpKeepsTheFirst()
 {
     CountingDonut donut;
     tests::FakeDocument *other = m_bench->openDocument();
@@ -190,7 +222,7 @@ void tst_OverlayLifecycle::secondWindUpKeepsTheFirst()
     QCOMPARE(m_bench->host.log.calls, QStringList(QStringLiteral("mode 1")));
 }
 
-void tst_OverlayLifecycle::windUpIsIgnoredWhileGesturing()
+void OverlayLifecycleTest::windUpIsIgnoredWhileGesturing()
 {
     CountingDonut donut;
     tests::FakeDocument *other = m_bench->openDocument();
@@ -201,7 +233,7 @@ void tst_OverlayLifecycle::windUpIsIgnoredWhileGesturing()
     m_bench->release(donut.origin);
 }
 
-void tst_OverlayLifecycle::startIsIgnoredWhenNotArmed()
+void OverlayLifecycleTest::startIsIgnoredWhenNotArmed()
 {
     CountingDonut donut;
     donut.TryStart(QPoint(1, 2));
@@ -215,7 +247,7 @@ void tst_OverlayLifecycle::startIsIgnoredWhenNotArmed()
     QCOMPARE(stateOf(donut), kStopped);
 }
 
-void tst_OverlayLifecycle::startIsIgnoredWhileGesturing()
+void OverlayLifecycleTest::startIsIgnoredWhileGesturing()
 {
     CountingDonut donut;
     m_bench->start(donut);
@@ -229,7 +261,7 @@ void tst_OverlayLifecycle::startIsIgnoredWhileGesturing()
     m_bench->release(donut.origin);
 }
 
-void tst_OverlayLifecycle::startFillsSectors_data()
+void OverlayLifecycleTest::startFillsSectors_data()
 {
     QTest::addColumn<int>("sectors");
     QTest::addColumn<double>("keepSpan");
@@ -244,7 +276,7 @@ void tst_OverlayLifecycle::startFillsSectors_data()
                                           QStringLiteral("LINE"),        QStringLiteral("TRIM")};
 }
 
-void tst_OverlayLifecycle::startFillsSectors()
+void OverlayLifecycleTest::startFillsSectors()
 {
     QFETCH(int, sectors);
     QFETCH(double, keepSpan);
@@ -272,7 +304,7 @@ void tst_OverlayLifecycle::startFillsSectors()
     m_bench->release(donut.origin);
 }
 
-void tst_OverlayLifecycle::startChoosesFromWhereThePointerIs()
+void OverlayLifecycleTest::startChoosesFromWhereThePointerIs()
 {
     CountingDonut donut;
     donut.origin = QPoint(200, 200);
@@ -284,17 +316,17 @@ void tst_OverlayLifecycle::startChoosesFromWhereThePointerIs()
     donut.StopGesturing(false);
 }
 
-void tst_OverlayLifecycle::startForgetsTheLastGesture()
+void OverlayLifecycleTest::startForgetsTheLastGesture()
 {
     CountingDonut donut;
     m_bench->start(donut);
     m_bench->pointTo(donut, 30, 0);
     QCOMPARE(donut.getActiveArc(), qint16(3));
     m_bench->release(donut.origin);
-    // Kept for whoever looks at how it ended ...
+    // The choice stays until somebody has read it ...
     QCOMPARE(donut.getActiveArc(), qint16(3));
     QVERIFY(donut.JustStopped());
-    // ... and not kept by the wider range of the next gesture's first choice.
+    // ... but the next gesture starts afresh.
     donut.origin = QPoint(200, 200);
     m_bench->pointTo(donut, 10, 12);
     donut.WindUp(m_bench->document);
@@ -305,7 +337,7 @@ void tst_OverlayLifecycle::startForgetsTheLastGesture()
     donut.StopGesturing(false);
 }
 
-void tst_OverlayLifecycle::startFarOutFadesBeforeShowing()
+void OverlayLifecycleTest::startFarOutFadesBeforeShowing()
 {
     CountingDonut donut;
     donut.origin = QPoint(200, 200);
@@ -327,7 +359,7 @@ void tst_OverlayLifecycle::startFarOutFadesBeforeShowing()
     QCOMPARE(donut.getActiveArc(), qint16(2));
 }
 
-void tst_OverlayLifecycle::releaseAfterAFarStartAccepts()
+void OverlayLifecycleTest::releaseAfterAFarStartAccepts()
 {
     CountingDonut donut;
     donut.origin = QPoint(200, 200);
@@ -343,7 +375,7 @@ void tst_OverlayLifecycle::releaseAfterAFarStartAccepts()
     QCOMPARE(m_bench->view->moves.size(), std::size_t(0));
 }
 
-void tst_OverlayLifecycle::armedIsLeftByStartingOnly()
+void OverlayLifecycleTest::armedIsLeftByStartingOnly()
 {
     CountingDonut donut;
     donut.origin = QPoint(200, 200);
@@ -363,7 +395,7 @@ void tst_OverlayLifecycle::armedIsLeftByStartingOnly()
     QCOMPARE(m_bench->host.mode, qint16(0));
 }
 
-void tst_OverlayLifecycle::smallMovesChangeNothing_data()
+void OverlayLifecycleTest::smallMovesChangeNothing_data()
 {
     QTest::addColumn<QPoint>("offset");
     QTest::newRow("20 left") << QPoint(-20, 0);
@@ -372,7 +404,7 @@ void tst_OverlayLifecycle::smallMovesChangeNothing_data()
     QTest::newRow("centre") << QPoint(0, 0);
 }
 
-void tst_OverlayLifecycle::smallMovesChangeNothing()
+void OverlayLifecycleTest::smallMovesChangeNothing()
 {
     QFETCH(QPoint, offset);
     CountingDonut donut;
@@ -389,7 +421,7 @@ void tst_OverlayLifecycle::smallMovesChangeNothing()
     m_bench->release(donut.origin);
 }
 
-void tst_OverlayLifecycle::longerMovesChooseASector()
+void OverlayLifecycleTest::longerMovesChooseASector()
 {
     CountingDonut donut;
     m_bench->start(donut);
@@ -408,19 +440,19 @@ void tst_OverlayLifecycle::longerMovesChooseASector()
     m_bench->release(donut.origin);
 }
 
-void tst_OverlayLifecycle::moveIgnoresTheEventsOwnPosition()
+void OverlayLifecycleTest::moveIgnoresTheEventsOwnPosition()
 {
     CountingDonut donut;
     m_bench->start(donut);
     m_bench->pointTo(donut, -30, 0);
-    // Says right, while the pointer is on the left.
+    // The event is on the right, the pointer on the left.
     QTest::mouseMove(donut.windowHandle(), QPoint(125 + 40, 125));
     QCOMPARE(donut.getActiveArc(), qint16(1));
     QCOMPARE(donut.distance, 30.0);
     m_bench->release(donut.origin);
 }
 
-void tst_OverlayLifecycle::fadesBeyond69Pixels_data()
+void OverlayLifecycleTest::fadesBeyond69Pixels_data()
 {
     QTest::addColumn<double>("x");
     QTest::addColumn<double>("y");
@@ -433,7 +465,7 @@ void tst_OverlayLifecycle::fadesBeyond69Pixels_data()
     QTest::newRow("70 across, down and straight") << -42.0 << -56.0 << true;
 }
 
-void tst_OverlayLifecycle::fadesBeyond69Pixels()
+void OverlayLifecycleTest::fadesBeyond69Pixels()
 {
     QFETCH(double, x);
     QFETCH(double, y);
@@ -448,7 +480,7 @@ void tst_OverlayLifecycle::fadesBeyond69Pixels()
     donut.StopGesturing(false);
 }
 
-void tst_OverlayLifecycle::farMoveAccepts()
+void OverlayLifecycleTest::farMoveAccepts()
 {
     CountingDonut donut;
     m_bench->view->setCursor(Qt::CrossCursor);
@@ -467,7 +499,7 @@ void tst_OverlayLifecycle::farMoveAccepts()
     QCOMPARE(m_bench->view->moves.size(), std::size_t(0));
 }
 
-void tst_OverlayLifecycle::releaseCancels()
+void OverlayLifecycleTest::releaseCancels()
 {
     CountingDonut donut;
     m_bench->view->setCursor(Qt::CrossCursor);
@@ -484,7 +516,7 @@ void tst_OverlayLifecycle::releaseCancels()
     QCOMPARE(m_bench->view->cursor().shape(), Qt::CrossCursor);
 }
 
-void tst_OverlayLifecycle::releasePostsAMoveToTheView()
+void OverlayLifecycleTest::releasePostsAMoveToTheView()
 {
     CountingDonut donut;
     m_bench->start(donut);
@@ -495,7 +527,7 @@ void tst_OverlayLifecycle::releasePostsAMoveToTheView()
                         Qt::MiddleButton, Qt::ControlModifier | Qt::ShiftModifier);
     QCoreApplication::sendEvent(&donut, &release);
     QCOMPARE(stateOf(donut), kStopped);
-    // Posted, not sent.
+    // It was posted, not sent.
     QCOMPARE(m_bench->view->moves.size(), std::size_t(0));
     QCoreApplication::sendPostedEvents(m_bench->view, QEvent::MouseMove);
     QCOMPARE(m_bench->view->moves.size(), std::size_t(1));
@@ -507,7 +539,35 @@ void tst_OverlayLifecycle::releasePostsAMoveToTheView()
     QCOMPARE(move.modifiers, Qt::ControlModifier | Qt::ShiftModifier);
 }
 
-void tst_OverlayLifecycle::pressesAreSwallowed()
+void OverlayLifecycleTest::moveIsMeasuredInTheActiveView()
+{
+    // The document given to WindUp() has another view, far away.
+    tests::FakeDocument *active = m_bench->openDocument();
+    QVERIFY(active->view->pos() != m_bench->view->pos());
+    m_bench->host.documents.active = active;
+    CountingDonut donut;
+    donut.origin = QPoint(200, 200);
+    const auto pointTo = [&](const QPoint &offset) {
+        QCursor::setPos(active->view->mapToGlobal(donut.origin + offset));
+        QCoreApplication::processEvents();
+    };
+    pointTo(QPoint(0, 30));
+    donut.WindUp(m_bench->document);
+    donut.TryStart(QPoint());
+    QCOMPARE(donut.getActiveArc(), qint16(2));
+    QCOMPARE(donut.distance, 30.0);
+
+    pointTo(QPoint(-40, 0));
+    QMouseEvent move(QEvent::MouseMove, QPoint(1, 1), donut.mapToGlobal(QPoint(1, 1)), Qt::NoButton,
+                     Qt::RightButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&donut, &move);
+    QCOMPARE(donut.getActiveArc(), qint16(1));
+    QCOMPARE(donut.distance, 40.0);
+    QVERIFY(donut.gesturing);
+    donut.StopGesturing(false);
+}
+
+void OverlayLifecycleTest::pressesAreSwallowed()
 {
     CountingDonut donut;
     m_bench->start(donut);
@@ -516,9 +576,15 @@ void tst_OverlayLifecycle::pressesAreSwallowed()
     QCOMPARE(m_bench->view->presses, 1); // the one that began it
     QTest::mouseRelease(m_bench->view->windowHandle(), Qt::LeftButton, {}, QPoint(5, 5));
     QCOMPARE(stateOf(donut), kStopped);
+
+    // QWidget's own handler would ignore the press.
+    QMouseEvent press(QEvent::MouseButtonPress, QPoint(5, 5), donut.mapToGlobal(QPoint(5, 5)),
+                      Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&donut, &press);
+    QVERIFY(press.isAccepted());
 }
 
-void tst_OverlayLifecycle::keysAreSwallowed()
+void OverlayLifecycleTest::keysAreSwallowed()
 {
     CountingDonut donut;
     m_bench->start(donut);
@@ -534,7 +600,7 @@ void tst_OverlayLifecycle::keysAreSwallowed()
     m_bench->release(donut.origin);
 }
 
-void tst_OverlayLifecycle::shortcutsOfTheHostAreHeldBack()
+void OverlayLifecycleTest::shortcutsOfTheHostAreHeldBack()
 {
     int activations = 0;
     QShortcut shortcut(QKeySequence(Qt::CTRL | Qt::Key_S), m_bench->view);
@@ -558,7 +624,7 @@ void tst_OverlayLifecycle::shortcutsOfTheHostAreHeldBack()
     QVERIFY(event.isAccepted());
 }
 
-void tst_OverlayLifecycle::otherFilteredEventsPass()
+void OverlayLifecycleTest::otherFilteredEventsPass()
 {
     CountingDonut donut;
     QKeyEvent press(QEvent::KeyPress, Qt::Key_S, Qt::NoModifier);
@@ -571,7 +637,28 @@ void tst_OverlayLifecycle::otherFilteredEventsPass()
     QVERIFY(override.isAccepted());
 }
 
-void tst_OverlayLifecycle::justStoppedIsReportedOnce()
+void OverlayLifecycleTest::isNotGesturingBeforeItIsShown()
+{
+    CountingDonut donut;
+    WatchedEvents events(&donut, QEvent::Show);
+    m_bench->start(donut);
+    QCOMPARE(events.states, QStringList(QStringLiteral("armed shown")));
+    m_bench->release(donut.origin);
+}
+
+void OverlayLifecycleTest::hidesAfterItLetGo()
+{
+    CountingDonut donut;
+    m_bench->start(donut);
+    WatchedEvents events(&donut, QEvent::Hide);
+    // Without a release of the button, because Qt then releases its mouse grab by itself.
+    donut.StopGesturing(false);
+    QCOMPARE(events.states, QStringList(QStringLiteral("stopped")));
+    QCOMPARE(events.grabbers, 0);
+    m_bench->release(donut.origin);
+}
+
+void OverlayLifecycleTest::justStoppedIsReportedOnce()
 {
     CountingDonut donut;
     QVERIFY(!donut.JustStopped());
@@ -585,7 +672,7 @@ void tst_OverlayLifecycle::justStoppedIsReportedOnce()
     }
 }
 
-void tst_OverlayLifecycle::fadingBlocksForAQuarterOfASecond()
+void OverlayLifecycleTest::fadingBlocksForAQuarterOfASecond()
 {
     CountingDonut donut;
     m_bench->start(donut);
@@ -602,7 +689,7 @@ void tst_OverlayLifecycle::fadingBlocksForAQuarterOfASecond()
     QVERIFY2(timer.elapsed() >= 250, qPrintable(QString::number(timer.elapsed())));
     QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
     QVERIFY(!processed);
-    // Painted at once, and only the last frame.
+    // It painted at once, and only the last frame.
     QCOMPARE(donut.paints, paints + 1);
     QCOMPARE(donut.fadingPaints, 1);
     QCOMPARE(stateOf(donut), QStringLiteral("gesturing fading shown mouse keyboard"));
@@ -611,7 +698,7 @@ void tst_OverlayLifecycle::fadingBlocksForAQuarterOfASecond()
     QVERIFY(donut.accepted);
 }
 
-void tst_OverlayLifecycle::stoppingGivesEverythingBack()
+void OverlayLifecycleTest::stoppingGivesEverythingBack()
 {
     for (const bool accepted : {false, true}) {
         CountingDonut donut;
@@ -623,13 +710,14 @@ void tst_OverlayLifecycle::stoppingGivesEverythingBack()
         donut.StopGesturing(accepted);
         QCOMPARE(stateOf(donut), kStopped);
         QCOMPARE(donut.accepted, accepted);
-        QCOMPARE(m_bench->host.log.calls, QStringList(QStringLiteral("mode 5")));
+        QCOMPARE(m_bench->host.log.calls,
+                 (QStringList{QStringLiteral("mode 5"), QStringLiteral("text  false")}));
         QCOMPARE(m_bench->view->cursor().shape(), Qt::CrossCursor);
         m_bench->release(donut.origin);
     }
 }
 
-void tst_OverlayLifecycle::stoppingTwiceTouchesTheHostOnce()
+void OverlayLifecycleTest::stoppingTwiceTouchesTheHostOnce()
 {
     CountingDonut donut;
     m_bench->start(donut);
@@ -649,8 +737,8 @@ void tst_OverlayLifecycle::stoppingTwiceTouchesTheHostOnce()
     QCOMPARE(m_bench->host.mode, qint16(9));
 }
 
-// Moves and the release are often under way when a quick gesture has ended already.
-void tst_OverlayLifecycle::lateEventsChangeNothing()
+// Moves and the release often arrive after a quick gesture has ended.
+void OverlayLifecycleTest::lateEventsChangeNothing()
 {
     CountingDonut donut;
     m_bench->start(donut);
@@ -671,19 +759,19 @@ void tst_OverlayLifecycle::lateEventsChangeNothing()
     QVERIFY(timer.elapsed() < 250);
     QCOMPARE(stateOf(donut), kStopped);
     QVERIFY(donut.accepted);
-    // The view learns where the button was let go, and its tracker of the end.
+    // The view learns where the button was released, and its tracker of the end.
     QCoreApplication::sendPostedEvents(m_bench->view, QEvent::MouseMove);
     QCOMPARE(m_bench->view->moves.size(), std::size_t(1));
     QCOMPARE(m_bench->view->moves.front().position, donut.origin + QPoint(0, -95));
 
-    // The same once the end has been reported.
+    // The same after the end was reported.
     QVERIFY(donut.JustStopped());
     QCoreApplication::sendEvent(&donut, &move);
     QCoreApplication::sendEvent(&donut, &release);
     QVERIFY(!donut.JustStopped());
 }
 
-void tst_OverlayLifecycle::anotherGestureFollows()
+void OverlayLifecycleTest::anotherGestureFollows()
 {
     CountingDonut donut;
     for (int gesture = 0; gesture < 3; ++gesture) {
@@ -699,7 +787,7 @@ void tst_OverlayLifecycle::anotherGestureFollows()
     }
 }
 
-void tst_OverlayLifecycle::hidingCancels()
+void OverlayLifecycleTest::hidingCancels()
 {
     CountingDonut donut;
     m_bench->view->setCursor(Qt::CrossCursor);
@@ -711,7 +799,7 @@ void tst_OverlayLifecycle::hidingCancels()
     QCOMPARE(m_bench->view->cursor().shape(), Qt::CrossCursor);
 }
 
-void tst_OverlayLifecycle::closingCancels()
+void OverlayLifecycleTest::closingCancels()
 {
     CountingDonut donut;
     m_bench->view->setCursor(Qt::CrossCursor);
@@ -733,7 +821,7 @@ void tst_OverlayLifecycle::closingCancels()
     QVERIFY(!donut.accepted);
 }
 
-void tst_OverlayLifecycle::modalWindowCancels()
+void OverlayLifecycleTest::modalWindowCancels()
 {
     CountingDonut donut;
     m_bench->view->setCursor(Qt::CrossCursor);
@@ -749,7 +837,7 @@ void tst_OverlayLifecycle::modalWindowCancels()
     m_bench->release(donut.origin);
 }
 
-void tst_OverlayLifecycle::destroyedWhileGesturing()
+void OverlayLifecycleTest::destroyedWhileGesturing()
 {
     auto donut = std::make_unique<CountingDonut>();
     m_bench->view->setCursor(Qt::CrossCursor);
@@ -762,10 +850,11 @@ void tst_OverlayLifecycle::destroyedWhileGesturing()
     QCOMPARE(m_bench->host.mode, qint16(6));
     QCOMPARE(m_bench->view->cursor().shape(), Qt::CrossCursor);
     QCOMPARE(m_bench->host.log.calls,
-             (QStringList{QStringLiteral("mode 6"), QStringLiteral("text  true")}));
+             (QStringList{QStringLiteral("mode 6"), QStringLiteral("text  false"),
+                          QStringLiteral("text  true")}));
 }
 
-void tst_OverlayLifecycle::destroyedWhileArmed()
+void OverlayLifecycleTest::destroyedWhileArmed()
 {
     auto donut = std::make_unique<CountingDonut>();
     m_bench->view->setCursor(Qt::CrossCursor);
@@ -776,7 +865,7 @@ void tst_OverlayLifecycle::destroyedWhileArmed()
     QCOMPARE(m_bench->view->cursor().shape(), Qt::CrossCursor);
 }
 
-void tst_OverlayLifecycle::destroyingClearsTheHostsText()
+void OverlayLifecycleTest::destroyingClearsTheHostsText()
 {
     auto donut = std::make_unique<CountingDonut>();
     m_bench->host.text = QStringLiteral("a hint");
@@ -785,9 +874,9 @@ void tst_OverlayLifecycle::destroyingClearsTheHostsText()
     QCOMPARE(m_bench->host.log.calls, QStringList(QStringLiteral("text  true")));
 }
 
-void tst_OverlayLifecycle::destroyedWithItsMainWindow()
+void OverlayLifecycleTest::destroyedWithItsMainWindow()
 {
-    // The view goes before the ring, as children do.
+    // The view is destroyed before the ring.
     auto window = std::make_unique<QWidget>();
     auto *view = new tests::NotingView;
     view->setParent(window.get());
@@ -813,7 +902,7 @@ void tst_OverlayLifecycle::destroyedWithItsMainWindow()
     QCOMPARE(m_bench->host.mode, qint16(0));
 }
 
-void tst_OverlayLifecycle::withoutActiveDocument()
+void OverlayLifecycleTest::withoutActiveDocument()
 {
     CountingDonut donut;
     donut.origin = QPoint(200, 200);
@@ -834,7 +923,7 @@ void tst_OverlayLifecycle::withoutActiveDocument()
     donut.StopGesturing(false);
 }
 
-void tst_OverlayLifecycle::withoutActiveView()
+void OverlayLifecycleTest::withoutActiveView()
 {
     CountingDonut donut;
     tests::FakeDocument *other = m_bench->openDocument();
@@ -845,7 +934,7 @@ void tst_OverlayLifecycle::withoutActiveView()
     QCOMPARE(stateOf(donut), kArmed);
     donut.StopGesturing(false);
 
-    // A document without a view can be wound up: nothing is taken from a view then.
+    // WindUp() accepts a document without a view.
     CountingDonut second;
     m_bench->host.documents.active = m_bench->document;
     second.WindUp(other);
@@ -856,7 +945,7 @@ void tst_OverlayLifecycle::withoutActiveView()
     QCOMPARE(stateOf(second), kStopped);
 }
 
-void tst_OverlayLifecycle::viewDestroyedWhileArmed()
+void OverlayLifecycleTest::viewDestroyedWhileArmed()
 {
     CountingDonut donut;
     donut.WindUp(m_bench->document);
@@ -868,7 +957,7 @@ void tst_OverlayLifecycle::viewDestroyedWhileArmed()
     QCOMPARE(m_bench->host.mode, qint16(0));
 }
 
-void tst_OverlayLifecycle::viewDestroyedWhileGesturing()
+void OverlayLifecycleTest::viewDestroyedWhileGesturing()
 {
     CountingDonut donut;
     m_bench->start(donut);
@@ -887,7 +976,7 @@ void tst_OverlayLifecycle::viewDestroyedWhileGesturing()
     QCOMPARE(m_bench->host.mode, qint16(0));
 }
 
-void tst_OverlayLifecycle::withoutServices()
+void OverlayLifecycleTest::withoutServices()
 {
     auto donut = std::make_unique<CountingDonut>();
     m_bench->host.setPresent(false);
@@ -901,7 +990,7 @@ void tst_OverlayLifecycle::withoutServices()
     m_bench->host.setPresent(true);
 }
 
-void tst_OverlayLifecycle::withoutApplication()
+void OverlayLifecycleTest::withoutApplication()
 {
     CountingDonut donut;
     m_bench->host.hasApplication = false;
@@ -912,7 +1001,7 @@ void tst_OverlayLifecycle::withoutApplication()
     QCOMPARE(m_bench->host.log.startingWith(QStringLiteral("mode")), QStringList());
 }
 
-void tst_OverlayLifecycle::withoutTextOutput()
+void OverlayLifecycleTest::withoutTextOutput()
 {
     auto donut = std::make_unique<CountingDonut>();
     m_bench->host.hasTextOutput = false;
@@ -920,5 +1009,5 @@ void tst_OverlayLifecycle::withoutTextOutput()
     QCOMPARE(m_bench->host.log.calls, QStringList());
 }
 
-QTEST_MAIN(tst_OverlayLifecycle)
+QTEST_MAIN(OverlayLifecycleTest)
 #include "tst_overlaylifecycle.moc"

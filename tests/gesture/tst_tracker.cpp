@@ -14,7 +14,7 @@ using tests::GestureBench;
 
 namespace {
 
-// The tracker with its members in reach.
+// Makes the members of the tracker public.
 class OpenTracker : public MgMouseGestureTracker
 {
 public:
@@ -40,7 +40,7 @@ const QStringList kSuppression{
 
 } // namespace
 
-class tst_Tracker : public QObject
+class TrackerTest : public QObject
 {
     Q_OBJECT
 
@@ -85,6 +85,7 @@ private Q_SLOTS:
     void indexPastTheLastSectorLeavesNothing();
     void endIsNotifiedWhileTheButtonIsHeld();
     void noSectorLeavesNothing();
+    void choiceIsReadBeforeTheEndIsTold();
     void doActionHandsOverAndForgets();
     void wholeGesture();
     void newPressMovesThePressPoint();
@@ -97,12 +98,12 @@ private Q_SLOTS:
     void withoutHitTest();
 
 private:
-    // One update with what the event is; the log holds its queries afterwards.
+    // One update for each kind of event. The hit test's log then holds its queries.
     void press(const QPoint &position);
     void drag(const QPoint &position);
     void look(const QPoint &position);
     void update();
-    // A gesture up to the ring being open.
+    // Starts a gesture and opens the ring.
     void open(const QPoint &position = QPoint(200, 200));
 
     std::unique_ptr<GestureBench> m_bench;
@@ -111,7 +112,7 @@ private:
     QPointer<QWidget> m_mainWindow;
 };
 
-void tst_Tracker::init()
+void TrackerTest::init()
 {
     tests::resetWarnings();
     m_bench = std::make_unique<GestureBench>();
@@ -122,7 +123,7 @@ void tst_Tracker::init()
     m_hit->document = m_bench->document;
 }
 
-void tst_Tracker::cleanup()
+void TrackerTest::cleanup()
 {
     m_tracker.reset();
     delete m_mainWindow;
@@ -131,13 +132,13 @@ void tst_Tracker::cleanup()
     QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
 }
 
-void tst_Tracker::update()
+void TrackerTest::update()
 {
     m_hit->log.clear();
     m_tracker->Update(nullptr, m_hit.get());
 }
 
-void tst_Tracker::press(const QPoint &position)
+void TrackerTest::press(const QPoint &position)
 {
     m_hit->position = position;
     m_hit->press = m_hit->buttonHeld = true;
@@ -145,7 +146,7 @@ void tst_Tracker::press(const QPoint &position)
     update();
 }
 
-void tst_Tracker::drag(const QPoint &position)
+void TrackerTest::drag(const QPoint &position)
 {
     m_hit->position = position;
     m_hit->motion = m_hit->buttonHeld = true;
@@ -153,14 +154,14 @@ void tst_Tracker::drag(const QPoint &position)
     update();
 }
 
-void tst_Tracker::look(const QPoint &position)
+void TrackerTest::look(const QPoint &position)
 {
     m_hit->position = position;
     m_hit->motion = m_hit->buttonHeld = m_hit->press = false;
     update();
 }
 
-void tst_Tracker::open(const QPoint &position)
+void TrackerTest::open(const QPoint &position)
 {
     m_bench->pointTo(position);
     m_bench->press(position);
@@ -171,7 +172,7 @@ void tst_Tracker::open(const QPoint &position)
     QVERIFY(m_tracker->ring() && m_tracker->ring()->gesturing);
 }
 
-void tst_Tracker::startsEmptyAndAsksNothing()
+void TrackerTest::startsEmptyAndAsksNothing()
 {
     m_bench->host.log.clear();
     const OpenTracker tracker;
@@ -189,7 +190,7 @@ void tst_Tracker::startsEmptyAndAsksNothing()
     QCOMPARE(m_bench->host.log.calls, QStringList());
 }
 
-void tst_Tracker::castsByName()
+void TrackerTest::castsByName()
 {
     MgMouseGestureTracker *tracker = m_tracker.get();
     QCOMPARE(QLatin1String(tracker->metaObject()->className()), QLatin1String("MgMouseGestureTracker"));
@@ -198,11 +199,11 @@ void tst_Tracker::castsByName()
             == static_cast<void *>(static_cast<CHxTracker *>(tracker)));
     QVERIFY(tracker->qt_metacast("QObject") == static_cast<void *>(static_cast<QObject *>(tracker)));
     QVERIFY(tracker->qt_metacast("QWidget") == nullptr);
-    // No signals, slots or properties of its own.
+    // It has no signals, slots or properties of its own.
     QCOMPARE(tracker->metaObject()->methodCount(), tracker->metaObject()->methodOffset());
 }
 
-void tst_Tracker::drawsNothing()
+void TrackerTest::drawsNothing()
 {
     m_bench->host.log.clear();
     m_tracker->DrawTracker(nullptr, m_hit.get());
@@ -211,7 +212,7 @@ void tst_Tracker::drawsNothing()
     QCOMPARE(m_bench->host.log.calls, QStringList());
 }
 
-void tst_Tracker::disabledDoesNothing()
+void TrackerTest::disabledDoesNothing()
 {
     m_bench->setEnabled(false);
     press(QPoint(10, 10));
@@ -224,14 +225,14 @@ void tst_Tracker::disabledDoesNothing()
     QCOMPARE(m_bench->host.log.calls, QStringList());
 }
 
-void tst_Tracker::suppressionIsAskedInOrder_data()
+void TrackerTest::suppressionIsAskedInOrder_data()
 {
     QTest::addColumn<int>("reason");
     for (int reason = 0; reason < kSuppression.size(); ++reason)
         QTest::newRow(qPrintable(kSuppression.at(reason))) << reason;
 }
 
-void tst_Tracker::suppressionIsAskedInOrder()
+void TrackerTest::suppressionIsAskedInOrder()
 {
     QFETCH(int, reason);
     m_hit->suppressed[reason] = true;
@@ -239,12 +240,12 @@ void tst_Tracker::suppressionIsAskedInOrder()
     QCOMPARE(m_hit->log.calls, QStringList(kSuppression.mid(0, reason + 1)));
 }
 
-void tst_Tracker::suppressedUpdateIsIgnored_data()
+void TrackerTest::suppressedUpdateIsIgnored_data()
 {
     suppressionIsAskedInOrder_data();
 }
 
-void tst_Tracker::suppressedUpdateIsIgnored()
+void TrackerTest::suppressedUpdateIsIgnored()
 {
     QFETCH(int, reason);
     m_hit->suppressed[reason] = true;
@@ -268,7 +269,7 @@ void tst_Tracker::suppressedUpdateIsIgnored()
     QVERIFY(!m_tracker->ring()->isVisible());
 }
 
-void tst_Tracker::suppressedUpdateKeepsTheStop()
+void TrackerTest::suppressedUpdateKeepsTheStop()
 {
     open();
     m_bench->pointTo(*m_tracker->ring(), 80, 0);
@@ -285,7 +286,7 @@ void tst_Tracker::suppressedUpdateKeepsTheStop()
     QVERIFY(m_tracker->IsEager(nullptr));
 }
 
-void tst_Tracker::idleCostsEightQueries()
+void TrackerTest::idleCostsEightQueries()
 {
     const QStringList eight = QStringList(kSuppression) << QStringLiteral("Press");
     m_bench->host.log.clear();
@@ -293,7 +294,7 @@ void tst_Tracker::idleCostsEightQueries()
     QCOMPARE(m_hit->log.calls, eight);
     look(QPoint(100, 100));
     QCOMPARE(m_hit->log.calls, eight);
-    // Also between gestures, with the ring there.
+    // The same between gestures, when there is a ring.
     open();
     m_bench->release(QPoint(200, 200));
     look(QPoint(200, 200));
@@ -303,7 +304,7 @@ void tst_Tracker::idleCostsEightQueries()
     QCOMPARE(m_bench->host.log.calls, QStringList());
 }
 
-void tst_Tracker::pressIsRecorded()
+void TrackerTest::pressIsRecorded()
 {
     m_bench->pointTo(QPoint(33, 44));
     press(QPoint(31, 41));
@@ -313,7 +314,7 @@ void tst_Tracker::pressIsRecorded()
     QVERIFY(m_tracker->donut.isNull());
 }
 
-void tst_Tracker::dragTestStopsAtTheFirstFailure()
+void TrackerTest::dragTestStopsAtTheFirstFailure()
 {
     const auto queriesAfterPress = [this] {
         QStringList calls = m_hit->log.calls.mid(kSuppression.size() + 1);
@@ -348,7 +349,7 @@ void tst_Tracker::dragTestStopsAtTheFirstFailure()
     QVERIFY(!m_tracker->donut.isNull());
 }
 
-void tst_Tracker::dragThreshold_data()
+void TrackerTest::dragThreshold_data()
 {
     QTest::addColumn<QPoint>("delta");
     QTest::addColumn<bool>("opens");
@@ -360,7 +361,7 @@ void tst_Tracker::dragThreshold_data()
     QTest::newRow("10 and 11") << QPoint(-10, 11) << true;
 }
 
-void tst_Tracker::dragThreshold()
+void TrackerTest::dragThreshold()
 {
     QFETCH(QPoint, delta);
     QFETCH(bool, opens);
@@ -374,7 +375,7 @@ void tst_Tracker::dragThreshold()
     }
 }
 
-void tst_Tracker::windsUpAroundThePressPoint()
+void TrackerTest::windsUpAroundThePressPoint()
 {
     press(QPoint(180, 190));
     drag(QPoint(150, 190));
@@ -389,7 +390,7 @@ void tst_Tracker::windsUpAroundThePressPoint()
     m_tracker->ring()->StopGesturing(false);
 }
 
-void tst_Tracker::cornerIsInTheActiveDocumentsView()
+void TrackerTest::cornerIsInTheActiveDocumentsView()
 {
     tests::FakeDocument *other = m_bench->openDocument();
     m_hit->document = other; // while the first is active
@@ -400,7 +401,7 @@ void tst_Tracker::cornerIsInTheActiveDocumentsView()
     QVERIFY(m_tracker->ring()->pos() != other->view->mapToGlobal(QPoint(55, 65)));
 }
 
-void tst_Tracker::showsOnTheFollowingUpdate_data()
+void TrackerTest::showsOnTheFollowingUpdate_data()
 {
     QTest::addColumn<bool>("motion");
     QTest::addColumn<bool>("held");
@@ -409,7 +410,7 @@ void tst_Tracker::showsOnTheFollowingUpdate_data()
     QTest::newRow("release") << false << false;
 }
 
-void tst_Tracker::showsOnTheFollowingUpdate()
+void TrackerTest::showsOnTheFollowingUpdate()
 {
     QFETCH(bool, motion);
     QFETCH(bool, held);
@@ -427,7 +428,7 @@ void tst_Tracker::showsOnTheFollowingUpdate()
     m_tracker->ring()->StopGesturing(false);
 }
 
-void tst_Tracker::dragIsNotifiedOnEachQualifyingUpdate()
+void TrackerTest::dragIsNotifiedOnEachQualifyingUpdate()
 {
     press(QPoint(100, 100));
     for (int i = 0; i < 3; ++i) {
@@ -441,7 +442,7 @@ void tst_Tracker::dragIsNotifiedOnEachQualifyingUpdate()
     m_tracker->ring()->StopGesturing(false);
 }
 
-void tst_Tracker::overlayBelongsToTheMainWindow()
+void TrackerTest::overlayBelongsToTheMainWindow()
 {
     press(QPoint(100, 100));
     drag(QPoint(130, 100));
@@ -450,14 +451,14 @@ void tst_Tracker::overlayBelongsToTheMainWindow()
     QCOMPARE(static_cast<int>(m_tracker->donut->windowFlags()), 0x80B);
 }
 
-void tst_Tracker::overlayBelongsToTheDesktop_data()
+void TrackerTest::overlayBelongsToTheDesktop_data()
 {
     QTest::addColumn<QString>("missing");
     QTest::newRow("main frame") << QStringLiteral("frame");
     QTest::newRow("main window") << QStringLiteral("window");
 }
 
-void tst_Tracker::overlayBelongsToTheDesktop()
+void TrackerTest::overlayBelongsToTheDesktop()
 {
     QFETCH(QString, missing);
     if (missing == QLatin1String("frame"))
@@ -467,12 +468,12 @@ void tst_Tracker::overlayBelongsToTheDesktop()
     press(QPoint(100, 100));
     drag(QPoint(130, 100));
     QVERIFY(m_tracker->donut);
-    // Qt keeps no window below the desktop: it is nobody's then.
+    // Qt gives a window on the desktop no parent.
     QVERIFY(m_tracker->donut->parentWidget() == nullptr);
     delete m_tracker->donut;
 }
 
-void tst_Tracker::oneOverlayServesAll()
+void TrackerTest::oneOverlayServesAll()
 {
     open();
     const MgDonutDialog *first = m_tracker->donut;
@@ -491,7 +492,7 @@ void tst_Tracker::oneOverlayServesAll()
     QCOMPARE(m_tracker->ring()->pos(), other->view->mapToGlobal(QPoint(-25, -25)));
 }
 
-void tst_Tracker::overlayDiesWithTheMainWindow()
+void TrackerTest::overlayDiesWithTheMainWindow()
 {
     open();
     m_bench->release(QPoint(200, 200));
@@ -514,7 +515,7 @@ void tst_Tracker::overlayDiesWithTheMainWindow()
     m_bench->release(QPoint(200, 200));
 }
 
-void tst_Tracker::overlayOutlivesTheTracker()
+void TrackerTest::overlayOutlivesTheTracker()
 {
     open();
     const QPointer<MgDonutDialog> ring = m_tracker->donut;
@@ -523,22 +524,22 @@ void tst_Tracker::overlayOutlivesTheTracker()
     QVERIFY(!ring.isNull());
 }
 
-void tst_Tracker::stoppedIsReportedBeforeWindingUpAgain()
+void TrackerTest::stoppedIsReportedBeforeWindingUpAgain()
 {
     open();
     m_bench->pointTo(*m_tracker->ring(), 0, 80);
     QVERIFY(m_tracker->ring()->justStopped);
-    // Still far from the press point and held: yet this update reports the stop.
+    // The drag is still far from the press point and held, but this update reports the stop.
     drag(QPoint(200, 120));
     QVERIFY(!m_tracker->ring()->armed);
     QVERIFY(!m_tracker->tracking);
     QVERIFY(m_tracker->IsEager(nullptr));
-    // Without a new press nothing opens.
+    // Nothing opens without a new press.
     drag(QPoint(200, 100));
     QVERIFY(!m_tracker->ring()->armed);
 }
 
-void tst_Tracker::acceptedSectorBecomesTheCommand_data()
+void TrackerTest::acceptedSectorBecomesTheCommand_data()
 {
     QTest::addColumn<int>("sectors");
     QTest::addColumn<int>("x");
@@ -559,7 +560,7 @@ void tst_Tracker::acceptedSectorBecomesTheCommand_data()
     QTest::newRow("eight up-right") << 8 << 60 << 60 << text("trim");
 }
 
-void tst_Tracker::acceptedSectorBecomesTheCommand()
+void TrackerTest::acceptedSectorBecomesTheCommand()
 {
     QFETCH(int, sectors);
     QFETCH(int, x);
@@ -574,7 +575,7 @@ void tst_Tracker::acceptedSectorBecomesTheCommand()
     QCOMPARE(m_tracker->pendingCommand.toQString(), command);
 }
 
-void tst_Tracker::cancelledLeavesNothing()
+void TrackerTest::cancelledLeavesNothing()
 {
     open();
     m_bench->pointTo(*m_tracker->ring(), 60, 0);
@@ -586,7 +587,7 @@ void tst_Tracker::cancelledLeavesNothing()
     QVERIFY(m_tracker->pendingCommand.isEmpty());
 }
 
-void tst_Tracker::unboundSectorLeavesNothing()
+void TrackerTest::unboundSectorLeavesNothing()
 {
     m_bench->host.store.values.insert(QStringLiteral("44"), QString());
     open();
@@ -598,7 +599,7 @@ void tst_Tracker::unboundSectorLeavesNothing()
     QVERIFY(!m_tracker->IsEager(nullptr));
 }
 
-void tst_Tracker::indexPastTheLastSectorLeavesNothing()
+void TrackerTest::indexPastTheLastSectorLeavesNothing()
 {
     open();
     m_bench->pointTo(*m_tracker->ring(), 80, 0);
@@ -607,7 +608,7 @@ void tst_Tracker::indexPastTheLastSectorLeavesNothing()
     QVERIFY(!m_tracker->IsEager(nullptr));
 }
 
-void tst_Tracker::noSectorLeavesNothing()
+void TrackerTest::noSectorLeavesNothing()
 {
     open();
     m_bench->pointTo(*m_tracker->ring(), 80, 0);
@@ -617,7 +618,42 @@ void tst_Tracker::noSectorLeavesNothing()
     QVERIFY(!m_tracker->IsEager(nullptr));
 }
 
-void tst_Tracker::endIsNotifiedWhileTheButtonIsHeld()
+void TrackerTest::choiceIsReadBeforeTheEndIsTold()
+{
+    // A host may clean up when it learns of the end.
+    class CleaningHitTest : public FakeHitTest
+    {
+    public:
+        explicit CleaningHitTest(OpenTracker *tracker)
+            : m_tracker(tracker)
+        {
+        }
+        void NotifyEnd() override
+        {
+            FakeHitTest::NotifyEnd();
+            m_tracker->ring()->accepted = false;
+            m_tracker->ring()->activeArc = -1;
+            delete m_tracker->ring();
+        }
+
+    private:
+        OpenTracker *m_tracker;
+    };
+
+    open();
+    m_bench->pointTo(*m_tracker->ring(), 80, 0);
+    CleaningHitTest hit(m_tracker.get());
+    hit.document = m_bench->document;
+    hit.position = QPoint(280, 200);
+    hit.motion = hit.buttonHeld = true;
+    m_tracker->Update(nullptr, &hit);
+    QCOMPARE(hit.log.startingWith(QStringLiteral("NotifyEnd")).size(), 1);
+    QVERIFY(m_tracker->donut.isNull());
+    QCOMPARE(m_tracker->pendingCommand.toQString(), QStringLiteral("line"));
+    m_bench->release(QPoint(280, 200));
+}
+
+void TrackerTest::endIsNotifiedWhileTheButtonIsHeld()
 {
     open();
     m_bench->pointTo(*m_tracker->ring(), 80, 0);
@@ -627,7 +663,7 @@ void tst_Tracker::endIsNotifiedWhileTheButtonIsHeld()
     QCOMPARE(m_hit->log.startingWith(QStringLiteral("NotifyEnd")).size(), 0);
     m_bench->release(QPoint(281, 200));
 
-    // Cancelled with another button still held counts as well.
+    // A cancelled gesture counts too, if a button is still held.
     open();
     m_tracker->ring()->StopGesturing(false);
     drag(QPoint(200, 200));
@@ -641,7 +677,7 @@ void tst_Tracker::endIsNotifiedWhileTheButtonIsHeld()
     QVERIFY(!m_tracker->tracking);
 }
 
-void tst_Tracker::doActionHandsOverAndForgets()
+void TrackerTest::doActionHandsOverAndForgets()
 {
     m_tracker->pendingCommand = CHxString("^C^C_Mixed Case  ");
     m_bench->host.log.clear();
@@ -653,14 +689,14 @@ void tst_Tracker::doActionHandsOverAndForgets()
     QVERIFY(m_tracker->pendingCommand.isEmpty());
     QCOMPARE(m_hit->log.calls, QStringList());
 
-    // It does not look whether there is a command, and a result may be missing.
+    // It runs an empty command too, and a result may be missing.
     m_bench->host.hasCommandResult = false;
     m_bench->host.log.clear();
     QVERIFY(m_tracker->DoAction(nullptr));
     QCOMPARE(m_bench->host.log.calls, QStringList(QStringLiteral("run  false")));
 }
 
-void tst_Tracker::wholeGesture()
+void TrackerTest::wholeGesture()
 {
     for (int gesture = 0; gesture < 2; ++gesture) {
         open();
@@ -677,7 +713,7 @@ void tst_Tracker::wholeGesture()
     }
 }
 
-void tst_Tracker::newPressMovesThePressPoint()
+void TrackerTest::newPressMovesThePressPoint()
 {
     press(QPoint(100, 100));
     press(QPoint(300, 300));
@@ -688,7 +724,7 @@ void tst_Tracker::newPressMovesThePressPoint()
     QCOMPARE(m_tracker->ring()->origin, QPoint(300, 300));
 }
 
-void tst_Tracker::trackingStaysAfterAReleaseWithoutDrag()
+void TrackerTest::trackingStaysAfterAReleaseWithoutDrag()
 {
     press(QPoint(100, 100));
     look(QPoint(100, 100)); // let go
@@ -702,7 +738,7 @@ void tst_Tracker::trackingStaysAfterAReleaseWithoutDrag()
     QCOMPARE(m_tracker->pressPoint, QPoint(150, 150));
 }
 
-void tst_Tracker::withoutServices()
+void TrackerTest::withoutServices()
 {
     m_tracker->pendingCommand = CHxString("line");
     m_bench->host.setPresent(false);
@@ -717,14 +753,14 @@ void tst_Tracker::withoutServices()
     m_bench->host.setPresent(true);
 }
 
-void tst_Tracker::withoutActiveView_data()
+void TrackerTest::withoutActiveView_data()
 {
     QTest::addColumn<bool>("document");
     QTest::newRow("no active document") << false;
     QTest::newRow("active document without view") << true;
 }
 
-void tst_Tracker::withoutActiveView()
+void TrackerTest::withoutActiveView()
 {
     QFETCH(bool, document);
     tests::FakeDocument *blind = m_bench->openDocument();
@@ -740,7 +776,7 @@ void tst_Tracker::withoutActiveView()
     QVERIFY(m_tracker->ring()->armed);
 }
 
-void tst_Tracker::withoutDocument()
+void TrackerTest::withoutDocument()
 {
     m_hit->document = nullptr;
     press(QPoint(100, 100));
@@ -751,11 +787,11 @@ void tst_Tracker::withoutDocument()
     QCOMPARE(m_bench->host.mode, qint16(0));
 }
 
-void tst_Tracker::withoutHitTest()
+void TrackerTest::withoutHitTest()
 {
     m_tracker->Update(nullptr, nullptr);
     QVERIFY(!m_tracker->tracking);
 }
 
-QTEST_MAIN(tst_Tracker)
+QTEST_MAIN(TrackerTest)
 #include "tst_tracker.moc"

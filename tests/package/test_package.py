@@ -87,6 +87,8 @@ def common_files():
         "libexec/gesturewidget/mouse-gestures-sheet",
         "share/applications/mouse-gestures.desktop",
         "share/bash-completion/completions/mouse-gestures",
+        "share/doc/gesturewidget/images/dialog.png",
+        "share/doc/gesturewidget/images/ring.png",
         "share/doc/gesturewidget/user-guide.html",
         "share/gesturewidget/bindings.schema.json",
         "share/icons/hicolor/scalable/apps/mouse-gestures.svg",
@@ -166,7 +168,10 @@ def use_by_pkg_config(prefix, folder):
     """Builds the program, and a file with all headers, with the flags of the pkg-config file."""
     environment = clean_environment(folder)
     environment["PKG_CONFIG_PATH"] = str(prefix / options.libdir / "pkgconfig")
-    name = f"gesturewidget-host-qt{options.qt}"
+    for library_name in ("sdk", "host"):
+        name = f"gesturewidget-{library_name}-qt{options.qt}"
+        found = run("pkg-config", "--variable=prefix", name, environment=environment).strip()
+        assert Path(found).resolve() == prefix, f"{name} is for {found}"
     flags = run("pkg-config", "--cflags", "--libs", name, environment=environment).split()
     assert run("pkg-config", "--modversion", name, environment=environment).strip() == version()
     headers = folder / "headers.cpp"

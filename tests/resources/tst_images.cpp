@@ -1,5 +1,3 @@
-// The embedded images: all there, of the right size, and each highlight in its own sector.
-
 #include "tests/support/FatalWarnings.h"
 
 #include <QDir>
@@ -18,14 +16,18 @@ constexpr int kSize = 250;
 constexpr double kCentre = 125.0;
 constexpr double kLabelRadius = 93.0;
 constexpr double kAcceptRadius = 69.0;
-// The overlay's opacity for the ring.
+// The overlay paints the ring with this opacity.
 constexpr double kRingOpacity = 120.0 / 255.0;
 
-// How far in pixels an antialiased edge may reach to either side of a sector's border:
-// half a pixel's diagonal is 0.71. The band's own radii are read off the pixels of the
-// ring, which adds as much once more.
+// An antialiased edge may reach this far to either side of a sector's border, in pixels: half
+// a pixel's diagonal is 0.71. The band's own radii are read off the ring's pixels, which adds
+// as much again.
 constexpr double kEdge = 1.0;
 constexpr double kRadialEdge = 1.5;
+// Separators are quieter than this, of 255.
+constexpr int kSeparatorAlpha = 90;
+// The images for screens of higher density.
+constexpr int kEnlarged[] = {2, 3};
 
 const QStringList &fourNames()
 {
@@ -35,7 +37,7 @@ const QStringList &fourNames()
     return names;
 }
 
-// In the order of the sectors: 0 is up, then counter-clockwise.
+// By sector: 0 is up, the others follow counter-clockwise.
 const QStringList &eightNames()
 {
     static const QStringList names{QStringLiteral("gestureregion3"), QStringLiteral("gestureregion4"),
@@ -75,7 +77,7 @@ struct Place
     double angle; // degrees in [0, 360), counter-clockwise from right
 };
 
-// Of the middle of a pixel.
+// The place of a pixel's middle.
 Place placeOf(int x, int y)
 {
     const double dx = x + 0.5 - kCentre;
@@ -84,8 +86,8 @@ Place placeOf(int x, int y)
     return {std::hypot(dx, dy), angle < 0.0 ? angle + 360.0 : angle};
 }
 
-// Signed distance in pixels, along the circle, of a place from the nearer border of a
-// sector; positive inside.
+// The distance of a place from the nearer border of a sector, in pixels along the circle;
+// positive inside.
 double depthInSector(const Place &place, int count, int index)
 {
     const double centre = 90.0 + index * 360.0 / count;
@@ -93,7 +95,15 @@ double depthInSector(const Place &place, int count, int index)
     return (180.0 / count - off) * M_PI / 180.0 * place.radius;
 }
 
-// The band, as the ring's own opaque pixels show it.
+// The distance of a place from the nearest border between sectors, in pixels along the circle.
+double distanceFromBorder(const Place &place, int count)
+{
+    const double width = 360.0 / count;
+    const double off = std::abs(std::remainder(place.angle - 90.0 - width / 2.0, width));
+    return off * M_PI / 180.0 * place.radius;
+}
+
+// The band's radii, as the ring's opaque pixels show them.
 struct Band
 {
     double inner = kSize;
@@ -143,7 +153,9 @@ QRgb blend(QRgb top, double opacity, QRgb ground)
 
 } // namespace
 
-class tst_Images : public QObject
+// The embedded images are all there, have the right size, and each highlight lies in its own
+// sector.
+class ImagesTest : public QObject
 {
     Q_OBJECT
 
@@ -167,6 +179,12 @@ private Q_SLOTS:
     void sectorKeepsToItself();
     void sectorsCoverTheRing_data();
     void sectorsCoverTheRing();
+    void separatorsAreThoseOfTheScheme_data();
+    void separatorsAreThoseOfTheScheme();
+    void chevronsAreReadable_data();
+    void chevronsAreReadable();
+    void enlargedImagesAreTheSame_data();
+    void enlargedImagesAreTheSame();
     void variantsDiffer_data();
     void variantsDiffer();
 
@@ -178,7 +196,7 @@ private Q_SLOTS:
     void arrowShowsOnEveryRow();
 };
 
-void tst_Images::sizes_data()
+void ImagesTest::sizes_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QSize>("size");
@@ -188,13 +206,18 @@ void tst_Images::sizes_data()
     const auto add = [](const QString &path, const QSize &size) {
         QTest::newRow(qPrintable(path)) << path << size;
     };
-    add(kFolder + QStringLiteral("gesture_widget.png"), ring);
+    const auto addEnlarged = [add](const QString &name, const QSize &plain) {
+        add(kFolder + name + QStringLiteral(".png"), plain);
+        for (const int ratio : kEnlarged)
+            add(kFolder + QStringLiteral("%1@%2x.png").arg(name).arg(ratio), plain * ratio);
+    };
+    addEnlarged(QStringLiteral("gesture_widget"), ring);
     for (const QString &name : fourNames() + eightNames()) {
-        add(kFolder + name + QStringLiteral(".png"), ring);
+        addEnlarged(name, ring);
         add(kFolder + name + QStringLiteral("_text_checked.png"), ring);
     }
     for (const QString &name : arrowNames())
-        add(kFolder + name + QStringLiteral(".png"), arrow);
+        addEnlarged(name, arrow);
     add(kRoot + QStringLiteral("backgroundDonut.png"), ring);
     for (const QString &number : numbers()) {
         add(kRoot + QStringLiteral("targetDonut_%1.png").arg(number), ring);
@@ -202,7 +225,7 @@ void tst_Images::sizes_data()
     }
 }
 
-void tst_Images::sizes()
+void ImagesTest::sizes()
 {
     QFETCH(QString, path);
     QFETCH(QSize, size);
@@ -214,27 +237,26 @@ void tst_Images::sizes()
     QCOMPARE(qAlpha(image.pixel(0, 0)), 0);
 }
 
-void tst_Images::nothingElseIsEmbedded()
+void ImagesTest::nothingElseIsEmbedded()
 {
-    // The ring, 12 regions twice, 8 arrows.
-    QCOMPARE(QDir(kFolder).entryList(QDir::Files).size(), 33);
+    // The ring, 12 regions and 8 arrows in three sizes, and 12 more variants.
+    QCOMPARE(QDir(kFolder).entryList(QDir::Files).size(), 3 * 21 + 12);
     // The ring once more, 12 numbered sectors twice.
     QCOMPARE(QDir(kRoot).entryList(QDir::Files).size(), 25);
 }
 
-void tst_Images::ringHasAHoleAndRoomForLabels()
+void ImagesTest::ringHasAHoleAndRoomForLabels()
 {
     const QImage ring = load(kFolder + QStringLiteral("gesture_widget.png"));
     const Band band = bandOf(ring);
 
-    // Entering the band runs the command: its edge lies within the accepting distance,
-    // and not far within.
+    // Entering the band runs the command. So its edge lies just within the accepting distance.
     QVERIFY2(band.inner < kAcceptRadius, qPrintable(QString::number(band.inner)));
     QVERIFY2(band.inner > kAcceptRadius - 8.0, qPrintable(QString::number(band.inner)));
-    // An icon of 20 pixels, turned by any angle, fits into the band around radius 93.
+    // An icon of 20 pixels fits into the band around radius 93 at any angle.
     QVERIFY(band.inner < kLabelRadius - 15.0);
     QVERIFY(band.outer > kLabelRadius + 15.0);
-    // The labels run along the band's middle.
+    // The labels lie in the band's middle.
     QVERIFY(std::abs((band.inner + band.outer) / 2.0 - kLabelRadius) < 1.0);
 
     QStringList offending;
@@ -252,7 +274,7 @@ void tst_Images::ringHasAHoleAndRoomForLabels()
     QVERIFY2(offending.isEmpty(), qPrintable(offending.mid(0, 5).join(QLatin1Char('\n'))));
 }
 
-void tst_Images::ringIsTheSameInEverySector()
+void ImagesTest::ringIsTheSameInEverySector()
 {
     const QImage ring = load(kFolder + QStringLiteral("gesture_widget.png"));
     const QImage turned = ring.transformed(QTransform().rotate(90.0)).convertToFormat(ring.format());
@@ -269,13 +291,13 @@ void tst_Images::ringIsTheSameInEverySector()
     QVERIFY2(worst <= 12, qPrintable(QString::number(worst)));
 }
 
-void tst_Images::labelsAreReadable_data()
+void ImagesTest::labelsAreReadable_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<double>("opacity");
     QTest::addColumn<double>("wanted");
 
-    // 4.5 to 1 is what small text needs; a black drawing is the worst there is.
+    // Small text needs 4.5 to 1. A black drawing is the worst case.
     QTest::newRow("ring") << QStringLiteral("gesture_widget") << kRingOpacity << 4.5;
     for (const QString &name : fourNames() + eightNames()) {
         QTest::newRow(qPrintable(name)) << name << 1.0 << 7.0;
@@ -284,7 +306,7 @@ void tst_Images::labelsAreReadable_data()
     }
 }
 
-void tst_Images::labelsAreReadable()
+void ImagesTest::labelsAreReadable()
 {
     QFETCH(QString, name);
     QFETCH(double, opacity);
@@ -296,7 +318,7 @@ void tst_Images::labelsAreReadable()
     for (int y = 0; y < kSize; ++y) {
         for (int x = 0; x < kSize; ++x) {
             const Place place = placeOf(x, y);
-            // The strip that texts and icons lie on, away from the borders of sectors.
+            // Only the strip of texts and icons, away from the borders of sectors.
             const double border = std::abs(std::remainder(place.angle, 22.5));
             if (std::abs(place.radius - kLabelRadius) > 10.0 || border < 2.0
                 || qAlpha(image.pixel(x, y)) < 255)
@@ -310,14 +332,14 @@ void tst_Images::labelsAreReadable()
     QVERIFY2(worst >= wanted, qPrintable(QString::number(worst)));
 }
 
-void tst_Images::ringShowsOnEveryDrawing_data()
+void ImagesTest::ringShowsOnEveryDrawing_data()
 {
     QTest::addColumn<int>("gray");
     for (const int gray : {0, 64, 128, 192, 255})
         QTest::newRow(qPrintable(QString::number(gray))) << gray;
 }
 
-void tst_Images::ringShowsOnEveryDrawing()
+void ImagesTest::ringShowsOnEveryDrawing()
 {
     QFETCH(int, gray);
     const QRgb ground = qRgb(gray, gray, gray);
@@ -336,19 +358,20 @@ void tst_Images::ringShowsOnEveryDrawing()
     }
 }
 
-void tst_Images::sectorKeepsToItself_data()
+void ImagesTest::sectorKeepsToItself_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<int>("count");
     QTest::addColumn<int>("index");
+    QTest::addColumn<bool>("hasSeparators");
 
-    const auto add = [](const QString &path, int count, int index) {
-        QTest::newRow(qPrintable(path)) << path << count << index;
+    const auto add = [](const QString &path, int count, int index, bool hasSeparators = false) {
+        QTest::newRow(qPrintable(path)) << path << count << index << hasSeparators;
     };
     for (const int count : {4, 8}) {
         const QStringList names = count == 4 ? fourNames() : eightNames();
         for (int i = 0; i < count; ++i) {
-            add(kFolder + names.at(i) + QStringLiteral(".png"), count, i);
+            add(kFolder + names.at(i) + QStringLiteral(".png"), count, i, true);
             add(kFolder + names.at(i) + QStringLiteral("_text_checked.png"), count, i);
             add(kRoot + QStringLiteral("targetDonut_%1%2.png").arg(count).arg(i), count, i);
             add(kRoot + QStringLiteral("targetDonutOver_%1%2.png").arg(count).arg(i), count, i);
@@ -356,11 +379,12 @@ void tst_Images::sectorKeepsToItself_data()
     }
 }
 
-void tst_Images::sectorKeepsToItself()
+void ImagesTest::sectorKeepsToItself()
 {
     QFETCH(QString, path);
     QFETCH(int, count);
     QFETCH(int, index);
+    QFETCH(bool, hasSeparators);
 
     const QImage image = load(path);
     const Band band = bandOf(load(kFolder + QStringLiteral("gesture_widget.png")));
@@ -371,8 +395,11 @@ void tst_Images::sectorKeepsToItself()
             const Place place = placeOf(x, y);
             const double depth = depthInSector(place, count, index);
             const int alpha = qAlpha(image.pixel(x, y));
-            const bool outside = depth < -kEdge || place.radius < band.inner - kRadialEdge
-                              || place.radius > band.outer + kRadialEdge;
+            const bool inBand =
+                place.radius > band.inner - kRadialEdge && place.radius < band.outer + kRadialEdge;
+            const bool onSeparator = hasSeparators && inBand && alpha < kSeparatorAlpha
+                                  && distanceFromBorder(place, count) < 2.0 * kEdge;
+            const bool outside = (depth < -kEdge || !inBand) && !onSeparator;
             const bool inside = depth > kEdge && place.radius > band.inner + kRadialEdge
                              && place.radius < band.outer - kRadialEdge;
             if ((outside && alpha != 0) || (inside && alpha != 255)) {
@@ -387,20 +414,20 @@ void tst_Images::sectorKeepsToItself()
         }
     }
     QVERIFY2(offending.isEmpty(), qPrintable(offending.mid(0, 5).join(QLatin1Char('\n'))));
-    // Its share of the ring, the edges' pixels apart.
+    // It covers its share of the ring, without the pixels of edges.
     const double share = M_PI * (band.outer * band.outer - band.inner * band.inner) / count;
     QVERIFY2(covered > share * 0.9 && covered < share * 1.02,
              qPrintable(QString::number(covered / share)));
 }
 
-void tst_Images::sectorsCoverTheRing_data()
+void ImagesTest::sectorsCoverTheRing_data()
 {
     QTest::addColumn<QStringList>("names");
     QTest::newRow("four") << fourNames();
     QTest::newRow("eight") << eightNames();
 }
 
-void tst_Images::sectorsCoverTheRing()
+void ImagesTest::sectorsCoverTheRing()
 {
     QFETCH(QStringList, names);
 
@@ -415,10 +442,14 @@ void tst_Images::sectorsCoverTheRing()
             const double radius = placeOf(x, y).radius;
             if (radius < band.inner + kRadialEdge || radius > band.outer - kRadialEdge)
                 continue;
-            // On a border the pixel belongs to two sectors, a share to each.
+            // A pixel on a border belongs to two sectors, a share to each. Other sectors may
+            // show a separator there.
             int sum = 0;
-            for (const QImage &image : std::as_const(images))
-                sum += qAlpha(image.pixel(x, y));
+            const int count = static_cast<int>(images.size());
+            for (int i = 0; i < count; ++i) {
+                if (depthInSector(placeOf(x, y), count, i) > -2.0 * kEdge)
+                    sum += qAlpha(images.at(i).pixel(x, y));
+            }
             if (sum < 250 || sum > 262)
                 offending << QStringLiteral("(%1, %2): %3").arg(x).arg(y).arg(sum);
         }
@@ -426,21 +457,144 @@ void tst_Images::sectorsCoverTheRing()
     QVERIFY2(offending.isEmpty(), qPrintable(offending.mid(0, 5).join(QLatin1Char('\n'))));
 }
 
-void tst_Images::variantsDiffer_data()
+void ImagesTest::separatorsAreThoseOfTheScheme_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("count");
+    QTest::addColumn<int>("index");
+    for (const int count : {4, 8}) {
+        const QStringList names = count == 4 ? fourNames() : eightNames();
+        for (int i = 0; i < count; ++i)
+            QTest::newRow(qPrintable(names.at(i))) << names.at(i) << count << i;
+    }
+}
+
+void ImagesTest::separatorsAreThoseOfTheScheme()
+{
+    QFETCH(QString, name);
+    QFETCH(int, count);
+    QFETCH(int, index);
+
+    const QImage image = load(kFolder + name + QStringLiteral(".png"));
+    const QImage ring = load(kFolder + QStringLiteral("gesture_widget.png"));
+    const double width = 360.0 / count;
+    for (int i = 0; i < count; ++i) {
+        // The border after sector i; the highlight's own borders are drawn in its own colour.
+        if (i == index || (i + 1) % count == index)
+            continue;
+        const double angle = (90.0 + i * width + width / 2.0) * M_PI / 180.0;
+        const auto at = [&](double radius, double aside) {
+            const double turned = angle + aside / radius;
+            return QPoint(static_cast<int>(kCentre + std::cos(turned) * radius),
+                          static_cast<int>(kCentre - std::sin(turned) * radius));
+        };
+        for (double radius = 80.0; radius < 110.0; radius += 5.0) {
+            for (const QRgb ground : {qRgb(0, 0, 0), qRgb(128, 128, 128), qRgb(255, 255, 255)}) {
+                const auto shown = [&](const QPoint &place) {
+                    const QRgb plate = blend(ring.pixel(place), kRingOpacity, ground);
+                    return luminance(blend(image.pixel(place), 1.0, plate));
+                };
+                const double beside = shown(at(radius, 5.0));
+                double best = 1.0;
+                for (double aside = -1.0; aside <= 1.0; aside += 0.5)
+                    best = std::max(best, contrast(shown(at(radius, aside)), beside));
+                // It can be seen, but less than a label.
+                QVERIFY2(best > 1.1 && best < 2.0, qPrintable(QString::number(best)));
+            }
+        }
+    }
+}
+
+void ImagesTest::chevronsAreReadable_data()
+{
+    QTest::addColumn<int>("gray");
+    for (const int gray : {0, 64, 128, 192, 255})
+        QTest::newRow(qPrintable(QString::number(gray))) << gray;
+}
+
+void ImagesTest::chevronsAreReadable()
+{
+    QFETCH(int, gray);
+    const QRgb ground = qRgb(gray, gray, gray);
+    const QImage ring = load(kFolder + QStringLiteral("gesture_widget.png"));
+    const auto shown = [&](int x, int y) {
+        return luminance(blend(ring.pixel(x, y), kRingOpacity, ground));
+    };
+    // Chevrons point along the axes, just outside the inner edge.
+    for (const QPoint &direction : {QPoint(0, -1), QPoint(-1, 0), QPoint(0, 1), QPoint(1, 0)}) {
+        const QPoint centre = QPoint(125, 125) + direction * 73;
+        const QPoint beside = centre + QPoint(direction.y(), direction.x()) * 9;
+        const double plate = shown(beside.x(), beside.y());
+        int readable = 0;
+        for (int y = centre.y() - 6; y <= centre.y() + 6; ++y) {
+            for (int x = centre.x() - 6; x <= centre.x() + 6; ++x)
+                readable += contrast(shown(x, y), plate) >= 3.0 ? 1 : 0;
+        }
+        QVERIFY2(readable >= 8, qPrintable(QString::number(readable)));
+    }
+}
+
+void ImagesTest::enlargedImagesAreTheSame_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("ratio");
+    for (const QString &name :
+         fourNames() + eightNames() + arrowNames() + QStringList(QStringLiteral("gesture_widget"))) {
+        for (const int ratio : kEnlarged)
+            QTest::addRow("%s %d", qPrintable(name), ratio) << name << ratio;
+    }
+}
+
+void ImagesTest::enlargedImagesAreTheSame()
+{
+    QFETCH(QString, name);
+    QFETCH(int, ratio);
+
+    const QImage plain = load(kFolder + name + QStringLiteral(".png"));
+    const QImage enlarged =
+        load(kFolder + QStringLiteral("%1@%2x.png").arg(name).arg(ratio)).copy(); // without a ratio
+    const QImage reduced = enlarged.scaled(plain.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                               .convertToFormat(QImage::Format_ARGB32);
+    double difference = 0.0;
+    for (int y = 0; y < plain.height(); ++y) {
+        for (int x = 0; x < plain.width(); ++x)
+            difference += std::abs(qAlpha(plain.pixel(x, y)) - qAlpha(reduced.pixel(x, y)));
+    }
+    difference /= plain.width() * plain.height();
+    QVERIFY2(difference < 1.0, qPrintable(QString::number(difference)));
+
+    // It is drawn for this density: its edges are sharper than those of the enlarged small one.
+    const QImage blownUp = plain.scaled(enlarged.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                               .convertToFormat(QImage::Format_ARGB32);
+    const auto halfOpaque = [](const QImage &image) {
+        int count = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                const int alpha = qAlpha(image.pixel(x, y));
+                count += alpha > 100 && alpha < 250 ? 1 : 0;
+            }
+        }
+        return count;
+    };
+    if (name != QLatin1String("gesture_widget")) // its soft edge is as wide as before
+        QVERIFY(halfOpaque(enlarged) < halfOpaque(blownUp));
+}
+
+void ImagesTest::variantsDiffer_data()
 {
     QTest::addColumn<QString>("name");
     for (const QString &name : fourNames() + eightNames())
         QTest::newRow(qPrintable(name)) << name;
 }
 
-void tst_Images::variantsDiffer()
+void ImagesTest::variantsDiffer()
 {
     QFETCH(QString, name);
     QVERIFY(load(kFolder + name + QStringLiteral(".png"))
             != load(kFolder + name + QStringLiteral("_text_checked.png")));
 }
 
-void tst_Images::arrowsAreAllDifferent()
+void ImagesTest::arrowsAreAllDifferent()
 {
     for (int i = 0; i < 8; ++i) {
         const QImage a = load(kFolder + arrowNames().at(i) + QStringLiteral(".png"));
@@ -455,19 +609,18 @@ void tst_Images::arrowsAreAllDifferent()
     }
 }
 
-void tst_Images::arrowPointsItsWay_data()
+void ImagesTest::arrowPointsItsWay_data()
 {
     QTest::addColumn<int>("index");
     for (int i = 0; i < 8; ++i)
         QTest::newRow(qPrintable(arrowNames().at(i))) << i;
 }
 
-void tst_Images::arrowPointsItsWay()
+void ImagesTest::arrowPointsItsWay()
 {
     QFETCH(int, index);
 
-    // Looked at along its direction an arrow is the same on both sides, broad where its
-    // head is and narrow behind.
+    // Along its direction an arrow is symmetrical, broad at its head and narrow behind.
     const QImage image = load(kFolder + arrowNames().at(index) + QStringLiteral(".png"));
     const double angle = (90.0 + 45.0 * index) * M_PI / 180.0;
     const auto coverage = [&](double along, double across) {
@@ -495,7 +648,7 @@ void tst_Images::arrowPointsItsWay()
     QVERIFY2(unequal < 0.08 * both, qPrintable(QString::number(unequal / both)));
 }
 
-void tst_Images::arrowsAreTurnsOfEachOther()
+void ImagesTest::arrowsAreTurnsOfEachOther()
 {
     for (int i = 0; i < 8; ++i) {
         const QImage arrow = load(kFolder + arrowNames().at(i) + QStringLiteral(".png"));
@@ -511,7 +664,7 @@ void tst_Images::arrowsAreTurnsOfEachOther()
     }
 }
 
-void tst_Images::arrowShowsOnEveryRow_data()
+void ImagesTest::arrowShowsOnEveryRow_data()
 {
     QTest::addColumn<QRgb>("row");
     QTest::newRow("white") << qRgb(255, 255, 255);
@@ -521,11 +674,11 @@ void tst_Images::arrowShowsOnEveryRow_data()
     QTest::newRow("black") << qRgb(0, 0, 0);
 }
 
-void tst_Images::arrowShowsOnEveryRow()
+void ImagesTest::arrowShowsOnEveryRow()
 {
     QFETCH(QRgb, row);
     for (const QString &name : arrowNames()) {
-        // As an ordinary table row shows it.
+        // The size in an ordinary table row.
         const QImage image = load(kFolder + name + QStringLiteral(".png"))
                                  .scaled(16, 16, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
                                  .convertToFormat(QImage::Format_ARGB32);
@@ -540,5 +693,5 @@ void tst_Images::arrowShowsOnEveryRow()
     }
 }
 
-QTEST_MAIN(tst_Images)
+QTEST_MAIN(ImagesTest)
 #include "tst_images.moc"

@@ -58,9 +58,10 @@ start_window_manager() { # NAME COMPOSITOR(0 or 1)
   esac
 }
 
-# A session bus for those that need one.
-start_bus() {
-  start bus dbus-daemon --session --nofork --nopidfile --address="unix:path=$XDG_RUNTIME_DIR/bus"
+# A session bus, for those that need one.
+start_bus() { # [COMMAND that runs it as another user...]
+  start bus "$@" dbus-daemon --session --nofork --nopidfile \
+    --address="unix:path=$XDG_RUNTIME_DIR/bus"
   await "the session bus" test -S "$XDG_RUNTIME_DIR/bus"
   export DBUS_SESSION_BUS_ADDRESS=unix:path=$XDG_RUNTIME_DIR/bus
 }

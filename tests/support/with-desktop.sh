@@ -12,7 +12,8 @@
 # DESKTOP_SCREEN        size and depth of the screen (default: 1600x1000x24)
 # DESKTOP_SERVER        the X server: xvfb (default) or tigervnc
 # DESKTOP_WM            the window manager: openbox (default), kwin, xfwm4, marco, mutter,
-#                       icewm, i3, awesome, fluxbox or none
+#                       icewm, i3, awesome, fluxbox or none; or a Wayland session with
+#                       XWayland: kwin_wayland, mutter_wayland or sway
 # DESKTOP_COMPOSITOR=0  no compositor
 set -u
 
@@ -23,6 +24,7 @@ fi
 
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 source "$here/window-managers.sh"
+source "$here/wayland-sessions.sh"
 base=$(mktemp -d "${TMPDIR:-/tmp}/desktop.XXXXXX") || exit 125
 pids=()
 command_pid=
@@ -86,18 +88,21 @@ export QT_QPA_PLATFORM=xcb QT_QPA_PLATFORMTHEME= LANG=${LANG:-C.UTF-8}
 unset WAYLAND_DISPLAY XAUTHORITY DISPLAY
 
 # The server chooses a free display and writes its number once it takes connections.
-screen=${DESKTOP_SCREEN:-1600x1000x24}
-case ${DESKTOP_SERVER:-xvfb} in
-    xvfb) server=(Xvfb -screen 0 "$screen" -nolisten tcp -noreset) ;;
-    tigervnc) server=(Xtigervnc -geometry "${screen%x*}" -depth "${screen##*x}" -nolisten tcp
-        -noreset -SecurityTypes None -rfbunixpath "$base/vnc") ;;
-    *) fail "unknown X server $DESKTOP_SERVER" ;;
-esac
-setpriv --pdeathsig KILL "${server[@]}" -displayfd 3 3>"$base/display" >"$base/server.log" 2>&1 &
-pids+=($!)
-await "the X server" test -s "$base/display"
-DISPLAY=:$(tr -d '[:space:]' <"$base/display")
-export DISPLAY
+start_x_server() { # SIZExDEPTH
+    local server
+    case ${DESKTOP_SERVER:-xvfb} in
+        xvfb) server=(Xvfb -screen 0 "$1") ;;
+        tigervnc) server=(Xtigervnc -geometry "${1%x*}" -depth "${1##*x}" -SecurityTypes None
+            -rfbunixpath "$base/vnc") ;;
+        *) fail "unknown X server $DESKTOP_SERVER" ;;
+    esac
+    setpriv --pdeathsig KILL "${server[@]}" -nolisten tcp -noreset -displayfd 3 \
+        3>"$base/display" >"$base/server.log" 2>&1 &
+    pids+=($!)
+    await "the X server" test -s "$base/display"
+    DISPLAY=:$(tr -d '[:space:]' <"$base/display")
+    export DISPLAY
+}
 
 # A window manager is up if the window that it names on the root names itself.
 manager_is_up() {
@@ -105,13 +110,6 @@ manager_is_up() {
     window=$(xprop -root -notype _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -o '0x[0-9a-f]*') || return 1
     xprop -id "$window" -notype _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q "$window"
 }
-manager=${DESKTOP_WM:-openbox}
-compositor=${DESKTOP_COMPOSITOR:-1}
-if [ "$manager" != none ]; then
-    start_window_manager "$manager" "$compositor"
-    await "the window manager" manager_is_up
-fi
-
 # A compositor is up if somebody owns its selection.
 compositor_is_up() {
     python3 - <<'PYTHON'
@@ -126,9 +124,21 @@ display = x11.XOpenDisplay(None)
 sys.exit(not (display and x11.XGetSelectionOwner(display, x11.XInternAtom(display, b"_NET_WM_CM_S0", 0))))
 PYTHON
 }
-if [ "$compositor" != 0 ]; then
-    composites_itself "$manager" || start picom picom --backend xrender --config /dev/null
-    await "the compositor" compositor_is_up
+screen=${DESKTOP_SCREEN:-1600x1000x24}
+manager=${DESKTOP_WM:-openbox}
+compositor=${DESKTOP_COMPOSITOR:-1}
+if is_wayland_session "$manager"; then
+    start_wayland_session "$manager" "${screen%x*}"
+else
+    start_x_server "$screen"
+    if [ "$manager" != none ]; then
+        start_window_manager "$manager" "$compositor"
+        await "the window manager" manager_is_up
+    fi
+    if [ "$compositor" != 0 ]; then
+        composites_itself "$manager" || start picom picom --backend xrender --config /dev/null
+        await "the compositor" compositor_is_up
+    fi
 fi
 
 # Runs in the background, so that a signal to this script is handled at once.

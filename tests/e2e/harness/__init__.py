@@ -1,1 +1,1 @@
-"""What the tests in real programs, and perform-gestures, are made of."""
+"""The parts that the tests in real programs and perform-gestures share."""

@@ -1,4 +1,4 @@
-"""The hands: one gesture-driver process, see xinput/Commands.h for its language."""
+"""Input: one gesture-driver process. xinput/Commands.h describes its commands."""
 
 import subprocess
 
@@ -14,7 +14,7 @@ class Driver:
             stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True, bufsize=1)
 
     def ask(self, *words):
-        """Gives one command; returns what follows "ok", as a string."""
+        """Sends one command. Returns what follows "ok", as a string."""
         line = " ".join(f'"{word}"' if " " in str(word) else str(word) for word in words)
         self._process.stdin.write(line + "\n")
         answer = self._process.stdout.readline().rstrip("\n")

@@ -1,7 +1,7 @@
-"""The programs in which the tests perform gestures, and what each direction runs in them.
+"""The programs in which the tests perform gestures, and what each direction runs there.
 
-What is expected is written down here by hand and not read from the program's profile:
-the profile is one of the things under test.
+These expectations are written by hand and not read from the program's profile, because the
+profile is under test too.
 """
 
 from dataclasses import dataclass, field
@@ -20,39 +20,39 @@ STEPS = {
 @dataclass
 class Program:
     name: str
-    executable: str  # found on PATH; relative to the build folder when it has a slash
-    view: str  # class name of its drawing view
+    executable: str  # found on PATH; relative to the build folder if it has a slash
+    view: str  # class name of its view
     # Object name of the action that each direction runs with the first bindings.
     eight: dict
-    # What finds a command in the dialog that no direction has at first, and its action.
+    # A search text that finds a command without a direction in the dialog, and its action.
     unbound: tuple = ()
     # Actions that open a dialog, which Escape closes.
     dialogs: tuple = ()
-    # What the driver does to start the line tool, and to get to the command line.
+    # Commands for the driver: to start the line tool, and to get to the command line.
     start_line: tuple = ()
-    # Whether starting the line tool that way opens a menu.
+    # True if starting the line tool that way opens a menu.
     line_in_menu: bool = False
     command_line: tuple = ()
-    # What the driver does where the program asks whether to save, to lose the changes.
+    # Commands for the driver: to discard the changes if the program asks whether to save.
     discard: tuple = ()
-    # Whether a right click in the view opens a menu.
+    # True if a right click in the view opens a menu.
     context_menu: bool = False
-    # Where that menu opens with the release and not with the press: the class of what sees the
-    # release last, once the menu has closed.
+    # Set this if that menu opens on the release, not on the press: the class of the widget that
+    # gets the release last, after the menu has closed.
     menu_on_release: str = ""
-    # Files of its configuration folder, so that it starts without questions.
+    # Files for its configuration folder, so that it starts without questions.
     configuration: dict = field(default_factory=dict)
-    # Whether it has gestures without being started through mouse-gestures.
+    # True if it has gestures without being started by mouse-gestures.
     links_host: bool = False
-    # The name's ending and the text of a file that makes the drawing when it is opened; empty
-    # for a program that opens the drawing itself. It must put the drawing's name into the
-    # main window's title.
+    # A file that creates the drawing when the program opens it: the ending of its name, and its
+    # text. Empty for a program that opens the drawing itself. The file must put the drawing's
+    # name into the main window's title.
     macro: tuple = ()
-    # Class name of what takes the pointer in the view, where that is not the view itself.
+    # Class name of the widget in the view that gets the pointer, if it is not the view itself.
     viewport: str = ""
-    # What the driver does before Escape, to end a command that Escape does not reach.
+    # Commands for the driver: to end a command that Escape does not reach.
     cancel: tuple = ()
-    # What it needs in the environment.
+    # Environment variables that it needs.
     environment: dict = field(default_factory=dict)
 
     @property
@@ -60,8 +60,8 @@ class Program:
         return {direction: self.eight[direction] for direction in FOUR}
 
 
-# The commands of the first bindings are those of this workbench; neither a start page nor a
-# splash screen.
+# The default bindings are commands of this workbench. There is no start page and no splash
+# screen.
 FREECAD_SETTINGS = """<?xml version="1.0" encoding="UTF-8" standalone="no" ?>
 <FCParameters><FCParamGroup Name="Root"><FCParamGroup Name="BaseApp">
   <FCParamGroup Name="Preferences">
@@ -76,9 +76,9 @@ FREECAD_SETTINGS = """<?xml version="1.0" encoding="UTF-8" standalone="no" ?>
   </FCParamGroup>
 </FCParamGroup></FCParamGroup></FCParameters>
 """
-# A selected line, saved, seen from above. F12 puts an end to a command whose panel takes the
-# keyboard a moment later, which Escape may be too early for, and selects the line again:
-# some commands can be used only while something is selected.
+# Draws a line, saves it, shows it from above and selects it. F12 ends a command and selects the
+# line again. Escape may come too early, before the command's panel takes the keyboard, and some
+# commands need a selection.
 FREECAD_MACRO = """
 import FreeCAD
 import FreeCADGui
@@ -185,7 +185,7 @@ PROGRAMS = {
             macro=(".FCMacro", FREECAD_MACRO),
             cancel=("key F12",),
             configuration={"FreeCAD/user.cfg": FREECAD_SETTINGS},
-            # It scales itself by the screen's resolution; the tests count in pixels.
+            # It scales with the screen's resolution, but the tests count in pixels.
             environment={"QT_FONT_DPI": "96"},
         ),
     )

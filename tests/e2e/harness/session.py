@@ -1,4 +1,4 @@
-"""One program on the desktop, started, watched and ended by a test."""
+"""A program that a test starts, watches and ends."""
 
 import os
 import resource
@@ -16,18 +16,18 @@ from .wayland import WaylandDriver
 
 TESTS = Path(__file__).resolve().parents[2]
 
-START_SECONDS = 120  # a cold start on a busy machine
+START_SECONDS = 120  # for a cold start on a busy machine
 ANSWER_SECONDS = 15
 RING_SIZE = (250, 250)
-# What tests click in the dialog, by object name.
+# The widgets that tests click in the dialog, by object name.
 WIDGETS = ("search_lineEdit", "command_tableView", "buttonBox")
-# Well beyond the 69 pixels at which a direction is chosen, diagonals included.
+# Pixels: well beyond the 69 that choose a direction, also diagonally.
 FAR = 110
 
-# Every drafting program shows its drawing's name in the main window's title, and no other
-# window's title has it: a window without a title of its own is given the program's name.
+# This identifies the main window: every drafting program shows the drawing's name in its title,
+# and no other window does.
 DRAWING_NAME = "drawing.dxf"
-# A drawing of two lines, enough to be opened, zoomed and saved.
+# A drawing of two lines, to open, zoom and save.
 DRAWING = "".join(
     f"{code}\n{value}\n"
     for code, value in [
@@ -39,18 +39,18 @@ DRAWING = "".join(
 
 
 class Failure(AssertionError):
-    """Something that should have happened did not."""
+    """Something expected did not happen."""
 
 
 class Session:
-    """Use as a context manager. On the way out of a test that failed, it leaves a picture of
-    the screen, the spy's log and the program's output in `folder`."""
+    """Use as a context manager. If the test fails, it leaves a picture of the screen, the spy's
+    log and the program's output in `folder`."""
 
     def __init__(self, program, build, folder, gestures=True, settings=None, drawing=None,
                  through_launcher=None, launcher=None):
         self.program = program
         self.build = Path(build).resolve()
-        # Of the build, or one that is installed.
+        # The one of the build, or an installed one.
         self.launcher = launcher or self.build / "bin" / "mouse-gestures"
         self.folder = Path(folder).resolve()
         self.gestures = gestures
@@ -115,7 +115,7 @@ class Session:
         return self.program.executable
 
     def start_again(self):
-        """Starts the program once more after it has ended, with all that it has kept."""
+        """Starts the program again after it has ended, with the same folders."""
         self._start()
         self._wait_until_ready()
 
@@ -135,7 +135,7 @@ class Session:
             ACTIONSPY_WIDGETS=",".join(WIDGETS),
             ACTIONSPY_ENTRY="Mouse Gestures..." if self.gestures else "",
             LANG="C.UTF-8",
-            QTWEBENGINE_DISABLE_SANDBOX="1",  # web views do not start for root otherwise
+            QTWEBENGINE_DISABLE_SANDBOX="1",  # for web views that run as root
             **self.program.environment,
         )
         if not self.gestures and self.program.links_host:
@@ -151,8 +151,8 @@ class Session:
                 preexec_fn=allow_cores)
 
     def _libraries_without_module(self):
-        """A program that links the host library goes on without gestures when there is no
-        module beside that library."""
+        """A program that links the host library runs without gestures if there is no module
+        beside that library."""
         folder = self.folder / "lib"
         folder.mkdir()
         for name in ("host", "sdk"):
@@ -166,8 +166,8 @@ class Session:
         if any("Splash" in line[1] for line in self.spy.since(self._born, "window")):
             self.expect(self._born, lambda line: line[0] == "gone" and "Splash" in line[1],
                         "the splash screen to go", START_SECONDS)
-        # Windows still move and grow after they have come up: the view's place counts once
-        # the window manager has placed the main window and the screen shows no change.
+        # Windows still move and grow after they appear. Take the view's place only when the
+        # window manager has placed the main window and the screen does not change any more.
         self.driver.ask("wait-window", DRAWING_NAME, START_SECONDS * 1000)
         if os.environ.get("DESKTOP_WM") == "none":
             self.driver.ask("focus-on", DRAWING_NAME)
@@ -181,7 +181,7 @@ class Session:
         return int(width), int(height)
 
     def locate_view(self):
-        """Takes the view's last known geometry from the spy; returns its middle."""
+        """Reads the view's latest geometry from the spy; returns its middle."""
         views = self.spy.since(0, "view")
         self.view = tuple(int(number) for number in views[-1][2].split(","))
         return self.middle()
@@ -191,8 +191,8 @@ class Session:
         return x + width // 2, y + height // 2
 
     def quit(self):
-        """Closes the main window as a person does. Returns the exit status, negative for a
-        signal."""
+        """Closes the main window as a person does. Returns the exit status; it is negative if a
+        signal ended the program."""
         mark = self.spy.mark()
         self.driver.ask("close", DRAWING_NAME)
         seen = self.expect(mark, lambda line: line[0] in ("quit", "dialog"), "the program's end")
@@ -209,7 +209,7 @@ class Session:
 
     def move_to_middle(self):
         self.driver.ask("move", *self.middle())
-        # The frame of a window that has closed is there for a moment longer.
+        # The frame of a closed window stays for a moment.
         self.driver.ask("wait-pointer-in", DRAWING_NAME, ANSWER_SECONDS * 1000)
 
     def offset(self, direction, length):
@@ -221,17 +221,17 @@ class Session:
         self.driver.ask("drag", *self.offset(direction, length), milliseconds)
 
     def gesture(self, direction, length=FAR, milliseconds=300):
-        """A whole gesture, from the middle of the view."""
+        """Performs a gesture from the middle of the view."""
         self.move_to_middle()
         self.driver.ask("press", 3)
         self.drag(direction, length, milliseconds)
         self.driver.ask("release", 3)
 
     def gesture_runs(self, direction, action, **how):
-        """Performs a gesture and waits for the action; nothing else may have run."""
+        """Performs a gesture and waits for the action. Fails if any other action ran."""
         mark = self.spy.mark()
         self.gesture(direction, **how)
-        # The spy hears of an action when the program has dealt with it, so after its dialog.
+        # The spy reports an action when it has finished, so after its dialog.
         if action in self.program.dialogs:
             self.dismiss_dialog(mark)
         self.expect(mark, lambda line: line[0] == "triggered", f'"{action}" by a gesture {direction}')
@@ -245,8 +245,8 @@ class Session:
         return tuple(int(number) for number in answer.split()[1:])
 
     def wait_for_grabbing_ring(self, mark):
-        """The ring grabs when it gets on screen. Whoever asks for the grabs before that takes
-        them for a moment himself, and the ring would be refused."""
+        """Waits until the ring has taken its grabs. Do not probe for grabs before: a probe takes
+        them for a moment, and the ring would not get them."""
         self.expect(mark, lambda line: line[0] == "exposed" and "DonutDialog" in line[1],
                     "the ring to get on screen")
 
@@ -254,7 +254,7 @@ class Session:
         self.driver.ask("wait-no-size", *RING_SIZE, ANSWER_SECONDS * 1000)
 
     def dismiss_dialog(self, mark):
-        """Waits for a dialog that came up after `mark` and closes it."""
+        """Waits for a dialog that opened after `mark`, and closes it."""
         opened = self.expect(mark, lambda line: line[0] == "dialog", "a dialog")
         self.focus(opened[3])
         self.driver.ask("key", "Escape")
@@ -262,12 +262,12 @@ class Session:
         self.focus(DRAWING_NAME)
 
     def cancel_tool(self):
-        """Ends what a command left running in the view."""
+        """Ends a command that still runs in the view."""
         mark = self.spy.mark()
         self.focus(DRAWING_NAME)
         self.carry_out(self.program.cancel)
         self.driver.ask("key", "Escape")
-        # Where Escape is a shortcut it runs an action and reaches no widget.
+        # If Escape is a shortcut, it triggers an action and reaches no widget.
         self.expect(mark, lambda line: line[:2] == ["key", "Escape"] or line[0] == "triggered",
                     "Escape to arrive")
 
@@ -275,8 +275,8 @@ class Session:
         self.driver.ask("wait-focus", title, ANSWER_SECONDS * 1000)
 
     def settle(self):
-        """Waits until the program has dealt with all input so far: it gets it in order, so a
-        key that has arrived was the last."""
+        """Waits until the program has handled all input so far. Input arrives in order, so it
+        sends a key and waits for that."""
         mark = self.spy.mark()
         self.driver.ask("key", "F9")
         self.expect(mark, lambda line: line[:2] == ["key", "F9"], "a key to arrive")
@@ -284,7 +284,7 @@ class Session:
         self.wait_for_free_input()
 
     def right_click(self):
-        """Clicks, and closes the menu if the program has one for it."""
+        """Clicks with the right button, and closes the menu if one opens."""
         mark = self.spy.mark()
         self.driver.ask("click", 3)
         self.close_context_menu(mark)
@@ -300,7 +300,7 @@ class Session:
             self.wait_for_free_input()
 
     def start_line(self):
-        """Starts the line tool. After it the pointer and the keyboard are the view's again."""
+        """Starts the line tool. Afterwards the view gets the pointer and the keyboard."""
         mark = self.spy.mark()
         self.carry_out(self.program.start_line)
         if self.program.line_in_menu:
@@ -327,7 +327,7 @@ class Session:
     # --- the dialog
 
     def open_dialog(self):
-        """From the Tools menu, in which its entry is the last. Returns a mark from before."""
+        """Opens the dialog through the last entry of the Tools menu. Returns a mark from before."""
         mark = self.spy.mark()
         self.driver.ask("key", "alt+t")
         self.expect(mark, lambda line: line[0] == "menu", "the Tools menu")
@@ -341,7 +341,7 @@ class Session:
         self.focus(DRAWING_NAME)
 
     def place_of(self, widget, mark):
-        """Where a widget of the dialog is that was opened after `mark`."""
+        """The place of a widget in the dialog that opened after `mark`."""
         self.expect(mark, lambda line: line[:2] == ["widget", widget], f"the dialog's {widget}")
         place = [line[2] for line in self.spy.since(mark, "widget") if line[1] == widget][-1]
         return tuple(int(number) for number in place.split(","))
@@ -351,8 +351,8 @@ class Session:
         self.driver.ask("click", 1)
 
     def bind(self, caption, direction_number):
-        """Binds the first command that is found by its caption, as a person does: searches for
-        it, clicks it and chooses from the list of arrows; then presses OK."""
+        """Binds a command as a person does: searches for its caption, clicks the first match,
+        chooses from the list of arrows, and presses OK."""
         opened = self.open_dialog()
         x, y, width, height = self.place_of("search_lineEdit", opened)
         self.click_at(x + width // 2, y + height // 2)
@@ -365,13 +365,13 @@ class Session:
         self.expect(mark, lambda line: line[0] == "window" and "Combo" in line[1], "the list of arrows")
         self.carry_out(("key Home",) + ("key Down",) * direction_number + ("key Return",))
         self.expect(mark, lambda line: line[0] == "gone" and "Combo" in line[1], "the list to close")
-        # OK is the first of three.
+        # OK is the first of three buttons.
         x, y, width, height = self.place_of("buttonBox", opened)
         self.click_at(x + width // 6, y + height // 2)
         self.dialog_is_gone()
 
     def carry_out(self, commands):
-        """Commands of the driver as whole lines."""
+        """Sends commands for the driver, each a whole line."""
         for command in commands:
             self.driver.ask(*command.split())
 
@@ -380,16 +380,16 @@ class Session:
     def expect(self, mark, wanted, what, timeout=ANSWER_SECONDS):
         line = self.spy.wait(mark, wanted, timeout, lambda: self.process.poll() is None)
         if line is None:
-            # Its last words may still be in the pipe when it has ended.
+            # The pipe may still hold the last lines of a program that has ended.
             line = self.spy.wait(mark, wanted, 0.5)
         if line is None:
             status = self.process.poll()
             ended = "" if status is None else f"; it ended with {describe_status(status)}"
-            raise Failure(f"{self.program.name}: waited in vain for {what}{ended}")
+            raise Failure(f"{self.program.name}: waited too long for {what}{ended}")
         return line
 
     def complaints(self):
-        """What the program wrote to standard error."""
+        """The lines that the program wrote to standard error."""
         return (self.folder / "stderr.log").read_text(errors="replace").splitlines()
 
     def cores(self):
@@ -408,7 +408,7 @@ class Session:
 
 
 def allow_cores():
-    """As large as this user may have them."""
+    """Allows core files as large as this user may have them."""
     _, most = resource.getrlimit(resource.RLIMIT_CORE)
     resource.setrlimit(resource.RLIMIT_CORE, (most, most))
 

@@ -1,4 +1,4 @@
-"""The eyes inside the program: what the spy writes, see spy/ActionSpy.h."""
+"""What the spy in the program writes, see spy/ActionSpy.h."""
 
 import os
 import select
@@ -9,8 +9,8 @@ import time
 class SpyLog:
     """Reads a named pipe in a thread of its own, so that the program never waits for it.
 
-    Lines are lists of fields. Positions in the log are what the tests hold on to: take
-    mark() before doing something, then wait for what happens after it.
+    A line is a list of fields. A mark is a position in the log: take a mark() before an action,
+    then wait for lines after it.
     """
 
     def __init__(self, pipe, copy):
@@ -18,7 +18,7 @@ class SpyLog:
         self._lines = []
         self._changed = threading.Condition()
         os.mkfifo(pipe)
-        # Read and write, so that the pipe stays open whatever the program does.
+        # Opened to read and write, so that the pipe stays open when the program closes it.
         self._descriptor = os.open(pipe, os.O_RDWR | os.O_NONBLOCK)
         self._copy = open(copy, "w", encoding="utf-8", buffering=1)
         self._closing = os.pipe()
@@ -30,13 +30,13 @@ class SpyLog:
             return len(self._lines)
 
     def since(self, mark, *names):
-        """The lines after `mark`, of the kinds named or of all."""
+        """The lines after `mark`, of these kinds or of all."""
         with self._changed:
             return [line for line in self._lines[mark:] if not names or line[0] in names]
 
     def wait(self, mark, wanted, timeout, alive=lambda: True):
-        """Waits for a line after `mark` that `wanted` accepts; returns it, or None when
-        `timeout` seconds are over or `alive` says that no more will come."""
+        """Waits for a line after `mark` that `wanted` accepts, and returns it. Returns None after
+        `timeout` seconds, or if `alive` returns False: no more lines will come."""
         end = time.monotonic() + timeout
         with self._changed:
             while True:

@@ -1,7 +1,7 @@
-"""Input for Wayland sessions, where XTEST reaches only X programs and not the compositor.
+"""Input for Wayland sessions, in which XTEST reaches X programs but not the compositor.
 
-The program under test runs on the session's X server (XWayland), so windows, focus and grabs
-are still read through gesture-driver. Only pointer and keyboard go to the compositor, by the
+The program under test runs on the session's X server (XWayland), so gesture-driver still reads
+windows, focus and grabs. Only the pointer and the keyboard go to the compositor, through the
 protocol that it has for this.
 """
 
@@ -41,6 +41,9 @@ class Connection:
         self._registry = self.new_id()
         self.request(1, 1, "n", self._registry)  # wl_display.get_registry
         self.round_trip()
+
+    def close(self):
+        self._socket.close()
 
     def new_id(self):
         self._last_id += 1
@@ -105,8 +108,8 @@ class Connection:
 def connect(client, path):
     """Connects to a compositor that runs as the user DESKTOP_USER.
 
-    KWin offers input only to programs whose file it can find out. It cannot for those of other
-    users, so a process of that user connects, and stays as long as this one.
+    KWin offers input only to a process whose executable it can identify, which it cannot for
+    other users. So a process of that user connects, and lives as long as this one.
     """
     user = os.environ.get("DESKTOP_USER")
     if not user:
@@ -140,6 +143,9 @@ class KWinInput:
         self._connection = Connection(wayland)
         self._input = self._connection.bind("org_kde_kwin_fake_input", 4)
         self._connection.request(self._input, 0, "ss", "gesture tests", "input of a test")
+
+    def close(self):
+        self._connection.close()
 
     def move(self, x, y):
         self._send(9, "ff", x, y)
@@ -176,6 +182,9 @@ class WlrootsInput:
         self._connection.round_trip()
         os.close(memory)
 
+    def close(self):
+        self._connection.close()
+
     def move(self, x, y):
         self._send(self._pointer, 1, "uuuuu", now(), x, y, *self._size)
         self._send(self._pointer, 4, "")
@@ -207,6 +216,12 @@ class MutterInput:
         self._session.Start()
         self._at = (0, 0)
         self._session.NotifyPointerMotionRelative(-10000.0, -10000.0)
+        # The session has no keyboard before the first key, which is therefore lost.
+        self.key(KEYS["shift"], 1, 0)
+        self.key(KEYS["shift"], 0, 0)
+
+    def close(self):
+        self._session.Stop()
 
     def move(self, x, y):
         self._session.NotifyPointerMotionRelative(float(x - self._at[0]), float(y - self._at[1]))
@@ -234,6 +249,10 @@ class WaylandDriver(Driver):
         # Started last: a process that connects for this one must not inherit its pipes.
         super().__init__(build)
 
+    def close(self):
+        super().close()
+        self._input.close()
+
     def ask(self, *words):
         name, *values = words
         action = {"move": self._move, "press": self._press, "release": self._release,
@@ -245,6 +264,12 @@ class WaylandDriver(Driver):
         return ""
 
     def _move(self, x, y):
+        # XWayland takes a movement twice that brings the pointer into another window; the
+        # next one puts it right.
+        self._step(x + 1, y)
+        self._step(x, y)
+
+    def _step(self, x, y):
         self._input.move(x, y)
         self._at = (x, y)
 
@@ -265,7 +290,7 @@ class WaylandDriver(Driver):
         steps = max(8, round(milliseconds / 1000 / SECONDS_PER_STEP))
         for step in range(1, steps + 1):
             time.sleep(max(0, begun + milliseconds / 1000 * step / steps - time.monotonic()))
-            self._move(start[0] + x * step // steps, start[1] + y * step // steps)
+            self._step(start[0] + x * step // steps, start[1] + y * step // steps)
 
     # The X server does not see the screen here, so the windows stand in for its picture.
 

@@ -188,12 +188,8 @@ QString Commands::windows(const QString &name, const QStringList &words)
         m_desktop.watch();
         return kOk;
     }
-    if (name == QLatin1String("changes") && words.isEmpty()) {
-        const XDesktop::Changes changes = m_desktop.changes();
-        return QStringLiteral("ok active %1 windows %2")
-            .arg(changes.activeWindow)
-            .arg(changes.windowList);
-    }
+    if (name == QLatin1String("activations") && words.isEmpty())
+        return QStringLiteral("ok %1").arg(m_desktop.activations());
 
     const bool absent = name.startsWith(QLatin1String("wait-no-"));
     const QString what = name.mid(absent ? 8 : 5);

@@ -28,9 +28,8 @@ class XDesktop;
 //     focus-on TITLE         gives it the keyboard where there is no window manager
 //     focus                  -> "active ID focus ID": the window manager's active window, and
 //                            the root's child that has the keyboard
-//     watch                  starts to count the window manager's announcements
-//     changes                -> "active N windows N": announcements since then of another
-//                            active window, of another list of windows
+//     watch                  starts to count the announcements of an active window
+//     activations            -> N, the announcements since then or since the last time
 //     screenshot FILE [X Y W H]
 //     remember X Y W H       what the screen shows there
 //     wait-change MS         the screen shows something else there

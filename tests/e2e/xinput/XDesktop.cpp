@@ -260,23 +260,19 @@ void XDesktop::watch()
     XSync(m_watcher, False);
 }
 
-XDesktop::Changes XDesktop::changes()
+int XDesktop::activations()
 {
-    Changes result;
     if (!m_watcher)
-        return result;
+        return 0;
     XSync(m_watcher, False);
     const Atom active = XInternAtom(m_watcher, "_NET_ACTIVE_WINDOW", False);
-    const Atom list = XInternAtom(m_watcher, "_NET_CLIENT_LIST", False);
+    int count = 0;
     while (XPending(m_watcher) > 0) {
         XEvent event = {};
         XNextEvent(m_watcher, &event);
-        if (event.type == PropertyNotify) {
-            result.activeWindow += event.xproperty.atom == active;
-            result.windowList += event.xproperty.atom == list;
-        }
+        count += event.type == PropertyNotify && event.xproperty.atom == active;
     }
-    return result;
+    return count;
 }
 
 bool XDesktop::isUnderPointer(unsigned long id) const
@@ -294,7 +290,9 @@ bool XDesktop::isUnderPointer(unsigned long id) const
 
 void XDesktop::closeWindow(unsigned long id)
 {
-    if (isManaged()) {
+    const auto supported = identifiers(m_display, m_root, "_NET_SUPPORTED", XA_ATOM);
+    const unsigned long close = XInternAtom(m_display, "_NET_CLOSE_WINDOW", False);
+    if (std::find(supported.begin(), supported.end(), close) != supported.end()) {
         sendToManager(id, "_NET_CLOSE_WINDOW", CurrentTime);
         return;
     }

@@ -68,17 +68,11 @@ public:
     void placeWindow(unsigned long id, const QRect &place);
     void focusOn(unsigned long id);
 
-    // How often the window manager has announced another active window, or another list of
-    // windows: a title bar or a task bar may have flickered.
-    struct Changes
-    {
-        int activeWindow = 0;
-        int windowList = 0;
-    };
-    // Starts counting changes.
+    // Starts to count how often the window manager announces an active window. Each time, a
+    // title bar may flicker.
     void watch();
-    // The changes since watch() or the last call.
-    [[nodiscard]] Changes changes();
+    // The announcements since watch() or the last call.
+    [[nodiscard]] int activations();
 
     // A picture of the screen; null if `area` is not within the screen.
     [[nodiscard]] QImage look(const QRect &area) const;

@@ -8,8 +8,8 @@
 
 namespace tests {
 
-// Hands the pointer events of a view to a tracker, as hosts do it: an update that winds the
-// ring up is given once more, so that the ring is there before the button can be let go.
+// Hands the pointer events of a view to a tracker, as hosts do. An update that winds the ring up
+// is given twice, so the ring opens before the button can be released.
 class ViewInput : public QObject
 {
 public:
@@ -17,7 +17,7 @@ public:
 
     // The tracker's ring; null before the first gesture.
     [[nodiscard]] MgDonutDialogPVStyleImpl *ring() const { return m_tracker.ring(); }
-    // Forgets a gesture whose end nobody reported, as the next move in the view does.
+    // Reports the end of the last gesture, as the next move in the view does.
     void look();
 
     int wheels = 0; // wheel events that the view got

@@ -38,7 +38,7 @@ public:
     [[nodiscard]] QSize sizeOf(unsigned long window);
     // True if the window and all its parents are mapped.
     [[nodiscard]] bool isViewable(unsigned long window);
-    // What is on the screen.
+    // The pixels on the screen.
     [[nodiscard]] QColor colorAt(const QPoint &global);
     [[nodiscard]] QImage screenAt(const QRect &global);
 

@@ -19,7 +19,7 @@ using tests::CountingDonut;
 using tests::X11Bench;
 using tests::X11Peer;
 
-// Which grabs the X server really gives the ring, under a window manager and a compositor: a
+// The grabs that the X server really gives the ring, under a window manager and a compositor. A
 // second client looks. Run it with tests/support/with-desktop.sh.
 class X11GrabTest : public QObject
 {
@@ -136,7 +136,7 @@ void X11GrabTest::givenBackAfterEveryEnd()
     modal.setModal(true);
     for (int gesture = 0; gesture < 5; ++gesture) {
         m_bench->pressAndDrag(QPoint(200, 200), QPoint(0, 25));
-        // The odd ones end before the ring is on the screen.
+        // Every other gesture ends before the ring is on the screen.
         if (gesture % 2 == 0) {
             QTRY_VERIFY(m_bench->isRingUp());
             m_bench->settle();
@@ -195,7 +195,7 @@ void X11GrabTest::nothingStaysAfterRandomGestures()
         m_bench->peer.movePointer(m_bench->global(centre));
         m_bench->peer.setButton(X11Peer::kRight, true);
         pass(2);
-        // Some let go at once, some go far, some linger.
+        // Some release at once, some go far, some wait.
         const double direction = upTo(359) * 3.14159265 / 180.0;
         const double length = 15 + upTo(upTo(2) == 0 ? 90 : 45);
         const int steps = 1 + upTo(4);
@@ -216,11 +216,11 @@ void X11GrabTest::nothingStaysAfterRandomGestures()
             accepted += m_bench->ring()->accepted;
             m_bench->ring()->windUpPos = QPoint();
         }
-        // By the server's word, and by Qt's, which hands all input to whom it believes in.
+        // Asks the server and Qt. Qt hands all input to the widget that it believes has a grab.
         if (m_bench->peer.isPointerGrabbed() || m_bench->peer.isKeyboardGrabbed()
             || QWidget::mouseGrabber() || QWidget::keyboardGrabber()) {
             ++stuck;
-            // Let go for the ones that follow.
+            // Release everything for the next gestures.
             m_bench->ring()->releaseMouse();
             m_bench->ring()->releaseKeyboard();
             m_bench->ring()->windowHandle()->setMouseGrabEnabled(false);
@@ -252,19 +252,19 @@ void X11GrabTest::fadingFrameIsSeenDuringTheWait()
     donut.TryStart(QPoint());
     QTRY_VERIFY(donut.windowHandle()->isExposed() && donut.paints > 0);
 
-    // On the ring, aside of labels: to the left, which will be chosen, and to the right.
+    // Two places on the ring beside labels: left, which will be chosen, and right.
     const QPoint left = m_bench->global(centre) + QPoint(-93, 30);
     const QPoint right = m_bench->global(centre) + QPoint(93, 30);
     const QPoint outside = m_bench->global(centre) + QPoint(0, 140);
-    const QColor bare = m_bench->peer.colorAt(outside);
-    QCOMPARE(bare, QColor(Qt::white));
+    const QColor bare(Qt::white);
+    QTRY_COMPARE(m_bench->peer.colorAt(outside), bare);
     m_bench->peer.movePointer(m_bench->global(centre) + QPoint(-40, 0));
-    // A highlight is yellow and the ring greys the drawing.
+    // A highlight is yellow, the rest of the ring is grey.
     const auto isHighlight = [](const QColor &color) { return color.blue() < color.red() - 80; };
     QTRY_VERIFY(isHighlight(m_bench->peer.colorAt(left)));
     QTRY_VERIFY(m_bench->peer.colorAt(right) != bare);
 
-    // Looks at the screen while this thread is busy with the fading.
+    // Looks at the screen while the fading keeps this thread busy.
     std::atomic<bool> ended{false};
     std::atomic<int> framesWithRing{0};
     std::atomic<int> fadingFrames{0};

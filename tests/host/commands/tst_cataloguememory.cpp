@@ -3,6 +3,7 @@
 #include "host/commands/CommandCatalogue.h"
 #include "host/commands/RememberedIcon.h"
 #include "tests/host/support/DraftWindow.h"
+#include "tests/host/support/Files.h"
 #include "tests/host/support/StandardErrorCapture.h"
 #include "tests/support/FatalWarnings.h"
 
@@ -491,11 +492,7 @@ void CatalogueMemoryTest::whatIsNotWrittenIsTriedAgain()
 void CatalogueMemoryTest::aFileThatCannotBeUsedHarmsNothing()
 {
     for (const char *text : {"", "{", "{\"version\": 99}", "[]"}) {
-        {
-            QFile file(m_path);
-            QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-            file.write(text);
-        }
+        tests::writeFile(m_path, text);
         tests::StandardErrorCapture errors;
         Start start(m_path);
         QCOMPARE(start.identifierOf(start.window.line), QStringLiteral("drawLine"));

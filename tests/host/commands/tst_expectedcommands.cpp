@@ -7,6 +7,7 @@
 #include "host/files/InstallPaths.h"
 #include "host/window/TextOutput.h"
 #include "tests/host/support/DraftWindow.h"
+#include "tests/host/support/Files.h"
 #include "tests/support/FatalWarnings.h"
 
 #include <QFile>
@@ -334,10 +335,8 @@ void ExpectedCommandsTest::theProgramsNameIsThatOfItsProfile()
     QFETCH(QString, file);
     QFETCH(QString, name);
     QTemporaryDir folder;
-    for (const char *profile : {"drafter.json", "sketcher.json"}) {
-        QFile stub(folder.filePath(QLatin1String(profile)));
-        QVERIFY(stub.open(QIODevice::WriteOnly));
-    }
+    for (const char *profile : {"drafter.json", "sketcher.json"})
+        tests::writeFile(folder.filePath(QLatin1String(profile)), {});
     QCOMPARE(gesturewidget::chooseProgramName(typed, file, {QString(), folder.path()}), name);
 }
 

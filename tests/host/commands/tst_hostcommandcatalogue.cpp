@@ -2,6 +2,7 @@
 #include "host/menus/CommandManager.h"
 #include "host/menus/UiManager.h"
 #include "tests/host/support/DraftWindow.h"
+#include "tests/host/support/Texts.h"
 #include "tests/support/FatalWarnings.h"
 
 #include <QDockWidget>
@@ -20,13 +21,9 @@
 using gesturewidget::ActionItem;
 using gesturewidget::CommandCatalogue;
 using tests::DraftWindow;
+using tests::text;
 
 namespace {
-
-QString text(const CHxString &string)
-{
-    return string.toQString();
-}
 
 // "group: identifier identifier ..." for each group that has commands.
 QStringList listing(CommandCatalogue &catalogue)
@@ -81,6 +78,9 @@ private Q_SLOTS:
     void menusThatContainEachOtherEnd();
     void namesOfActionsWithoutText();
     void readingAgainDoesNotWalkAgain();
+    void changesAreReadBeforeSomebodyAsks();
+    void nothingIsReadBeforeTheFirstReading();
+    void manyEqualCaptionsAreNumbered();
     void changesAreSeen_data();
     void changesAreSeen();
     void aMenuFilledLaterIsSeen();
@@ -274,6 +274,56 @@ void HostCommandCatalogueTest::readingAgainDoesNotWalkAgain()
     QCOMPARE(listing(catalogue), before);
     catalogue.invalidate();
     QCOMPARE(listing(catalogue).last(), QStringLiteral("Sketching: drawArc"));
+}
+
+// A gesture then finds everything done.
+void HostCommandCatalogueTest::changesAreReadBeforeSomebodyAsks()
+{
+    CommandCatalogue catalogue(m_window.get(), {});
+    catalogue.update();
+    QSignalSpy prepared(&catalogue, &CommandCatalogue::prepared);
+    m_window->line->setText(QStringLiteral("&Segment"));
+    DraftWindow::addAction(m_window->draw, "&Ellipse", "drawEllipse");
+    QVERIFY(prepared.wait());
+    // A toolbar's title is read only while the menus are walked: not now.
+    m_window->toolBar->setWindowTitle(QStringLiteral("Sketching"));
+    QCOMPARE(text(catalogue.find(QStringLiteral("drawLine"))->GetCaption()), QStringLiteral("Segment"));
+    QVERIFY(catalogue.find(QStringLiteral("drawEllipse")));
+    QCOMPARE(listing(catalogue).last(), QStringLiteral("Drawing: drawArc"));
+    QCOMPARE(prepared.count(), 1);
+}
+
+// While a program starts, its menus are not complete, and guesses would be made too early.
+void HostCommandCatalogueTest::nothingIsReadBeforeTheFirstReading()
+{
+    CommandCatalogue catalogue(m_window.get(), {});
+    QSignalSpy prepared(&catalogue, &CommandCatalogue::prepared);
+    m_window->addToolBar(QStringLiteral("Later"));
+    QVERIFY(!prepared.wait(2 * CommandCatalogue::kPreparationTime));
+}
+
+void HostCommandCatalogueTest::manyEqualCaptionsAreNumbered()
+{
+    QMenu *menu = m_window->addMenu("&List", "listMenu");
+    for (int i = 0; i < 20000; ++i)
+        menu->addAction(QStringLiteral("Entry"));
+    CommandCatalogue catalogue(m_window.get(), {});
+    QElapsedTimer elapsed;
+    elapsed.start();
+    catalogue.update();
+    // Trying every number for every entry took more than two minutes.
+    QVERIFY2(elapsed.elapsed() < 10000, qPrintable(QString::number(elapsed.elapsed())));
+    const QList<QAction *> actions = menu->actions();
+    QCOMPARE(text(catalogue.itemOf(actions.first())->GetIdentifier()), QStringLiteral("List/Entry"));
+    QCOMPARE(text(catalogue.itemOf(actions.at(1))->GetIdentifier()), QStringLiteral("List/Entry (2)"));
+    QCOMPARE(text(catalogue.itemOf(actions.last())->GetIdentifier()),
+             QStringLiteral("List/Entry (20000)"));
+    // A menu that is filled anew has its commands again, in their order.
+    menu->clear();
+    for (int i = 0; i < 3; ++i)
+        menu->addAction(QStringLiteral("Entry"));
+    QCOMPARE(text(catalogue.itemOf(menu->actions().last())->GetIdentifier()),
+             QStringLiteral("List/Entry (3)"));
 }
 
 void HostCommandCatalogueTest::changesAreSeen_data()

@@ -1,5 +1,6 @@
 #include "host/captions/KnownCaptions.h"
 #include "host/commands/WellKnownGuess.h"
+#include "tests/host/support/Files.h"
 #include "tests/support/FatalWarnings.h"
 
 #include <QAction>
@@ -94,12 +95,9 @@ void WellKnownGuessTest::initTestCase()
     tests::failOnWarnings();
     const QDir folder(m_themes.path());
     QVERIFY(folder.mkpath(QStringLiteral("plain/16/actions")));
-    QFile index(folder.filePath(QStringLiteral("plain/index.theme")));
-    QVERIFY(index.open(QIODevice::WriteOnly));
-    QVERIFY(index.write("[Icon Theme]\nName=plain\nDirectories=16/actions\n"
-                        "[16/actions]\nSize=16\nContext=Actions\nType=Fixed\n")
-            > 0);
-    index.close();
+    tests::writeFile(folder.filePath(QStringLiteral("plain/index.theme")),
+                     "[Icon Theme]\nName=plain\nDirectories=16/actions\n"
+                     "[16/actions]\nSize=16\nContext=Actions\nType=Fixed\n");
     QImage image(16, 16, QImage::Format_ARGB32);
     image.fill(Qt::red);
     for (const char *name : {"document-open", "document-save", "edit-copy", "zoom-fit-best", "edit-cut"})

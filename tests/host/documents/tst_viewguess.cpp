@@ -266,6 +266,36 @@ void ViewGuessTest::guesses_data()
         "not in the middle");
     row("graphics view in an MDI child", mdiChild<QGraphicsView>, true, "graphics view");
     row(
+        "canvas that a plain widget holds in a scroll area",
+        [](QMainWindow &w) {
+            auto *canvas = new Canvas;
+            auto *frame = new QWidget;
+            canvas->setParent(frame);
+            canvas->setGeometry(10, 10, 200, 120); // a small picture in a large window
+            inScrollArea(w, frame);
+            return static_cast<QWidget *>(canvas);
+        },
+        true, "content of a scroll area");
+    row(
+        "canvas with buttons in its corner",
+        [](QMainWindow &w) {
+            auto *canvas = new Canvas;
+            for (int i = 0; i < 6; ++i)
+                (new QPushButton(QStringLiteral("+"), canvas))->setGeometry(20 * i, 0, 18, 18);
+            w.setCentralWidget(canvas);
+            return static_cast<QWidget *>(canvas);
+        },
+        true, "paints itself");
+    row(
+        "canvas in a dialog inside an MDI child",
+        [](QMainWindow &w) {
+            auto *dialog = static_cast<QDialog *>(mdiChild<QDialog>(w));
+            auto *canvas = new Canvas;
+            filledBy(dialog, canvas);
+            return static_cast<QWidget *>(canvas);
+        },
+        true, "paints itself");
+    row(
         "graphics view beside others", [](QMainWindow &w) { return beside(w, 30, new QGraphicsView); },
         true, "graphics view");
     row(

@@ -289,10 +289,19 @@ void ExplanationTest::whatIsNoSocket()
     const int file = ::open("/dev/null", O_RDWR);
     for (const QByteArray &value :
          {QByteArray(), QByteArray("x"), QByteArray("-1"), QByteArray("0"), QByteArray("2"),
-          QByteArray("99999"), QByteArray::number(file), QByteArray("3x")})
+          QByteArray("99999"), QByteArray::number(file), QByteArray("3x"), QByteArray("3:")})
         QCOMPARE(gesturewidget::explanationSocket(value), -1);
+    QCOMPARE(gesturewidget::explanationValue(file), QByteArray());
     ::close(file);
-    QCOMPARE(gesturewidget::explanationSocket(QByteArray::number(m_sockets[0])), m_sockets[0]);
+    // A socket that another one has made: that of an X connection, say.
+    const QByteArray value = gesturewidget::explanationValue(m_sockets[0]);
+    const QByteArray number = QByteArray::number(m_sockets[0]);
+    const QByteArray inode = value.mid(value.indexOf(':'));
+    for (const QByteArray &other : {number, number + ':', number + ":1", value + '0', value + ' ',
+                                    ' ' + value, QByteArray::number(m_sockets[1]) + inode})
+        QCOMPARE(gesturewidget::explanationSocket(other), -1);
+    QVERIFY(!(::fcntl(m_sockets[0], F_GETFD) & FD_CLOEXEC));
+    QCOMPARE(gesturewidget::explanationSocket(value), m_sockets[0]);
     QVERIFY(::fcntl(m_sockets[0], F_GETFD) & FD_CLOEXEC);
     QVERIFY(!gesturewidget::tell(-1, {}));
 }

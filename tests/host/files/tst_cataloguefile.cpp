@@ -1,14 +1,14 @@
 #include "host/files/CatalogueFile.h"
+#include "host/files/DocumentName.h"
 #include "host/files/InstallPaths.h"
 #include "tests/host/support/StandardErrorCapture.h"
-#include "tests/support/FatalWarnings.h"
+#include "tests/support/FolderTest.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <algorithm>
@@ -52,20 +52,16 @@ QStringList identifiers(const Commands &commands)
 
 } // namespace
 
-class CatalogueFileTest : public QObject
+class CatalogueFileTest : public tests::FolderTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { tests::failOnWarnings(); }
     void init()
     {
-        tests::resetWarnings();
-        m_folder = std::make_unique<QTemporaryDir>();
-        QVERIFY(m_folder->isValid());
-        m_path = m_folder->filePath(QStringLiteral("config/drafter.commands.json"));
+        FolderTest::init();
+        m_path = place("config/drafter.commands.json");
     }
-    void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
 
     void liesBesideTheSettings();
     void withoutAFileNothingIsKnown();
@@ -77,6 +73,10 @@ private Q_SLOTS:
     void whatIsGoneIsTakenOut();
     void commandsWithoutIdentifierAreLeftOut();
     void countsAndSizesAreBounded();
+    void documentNames_data();
+    void documentNames();
+    void whatIsPrivateIsNeverWritten();
+    void anOldFileIsCleaned();
     void iconsGoBeforeCommands();
     void twoCopiesMerge();
     void aFileHeldByAnotherIsLeftForLater();
@@ -94,18 +94,11 @@ private Q_SLOTS:
     void aWriterThatIsKilledLeavesAWholeFile();
 
 private:
-    QByteArray content(const QString &suffix = {}) const
-    {
-        QFile file(m_path + suffix);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<no file>");
-    }
+    QByteArray content(const QString &suffix = {}) const { return tests::contentOf(m_path + suffix); }
     void write(const QByteArray &text, const QString &suffix = {}) const
     {
-        QVERIFY(QDir().mkpath(QFileInfo(m_path).absolutePath()));
-        QFile::remove(m_path + suffix); // not through a second name of the file
-        QFile file(m_path + suffix);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(text), text.size());
+        QFile::remove(m_path + suffix); // so that its second name keeps its content
+        FolderTest::write(m_path + suffix, text);
     }
     bool merge(const Commands &seen, const QStringList &gone = {}) const
     {
@@ -118,7 +111,6 @@ private:
         return ::stat(QFile::encodeName(m_path).constData(), &status) == 0 ? status.st_ino : 0;
     }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
     QString m_path;
 };
 
@@ -152,7 +144,7 @@ void CatalogueFileTest::keepsCommandsFromStartToStart()
     const Commands first = numbered(3);
     QVERIFY(merge(first));
     QCOMPARE(read(), first);
-    // What is new comes last, what is known keeps its place.
+    // New commands come last, known ones keep their places.
     Commands second{command(QStringLiteral("new")), first.at(1)};
     second[1].caption = QStringLiteral("Other words");
     second[1].icon = "picture";
@@ -249,7 +241,7 @@ void CatalogueFileTest::countsAndSizesAreBounded()
     QCOMPARE(known.at(0).icon, QByteArray());
     QCOMPARE(known.at(1).icon.size(), kIcon);
     const ino_t before = node();
-    QVERIFY(merge({large})); // cut off again, it is nothing new
+    QVERIFY(merge({large})); // cut off again, it is the same
     QCOMPARE(node(), before);
 
     Commands many;
@@ -260,7 +252,67 @@ void CatalogueFileTest::countsAndSizesAreBounded()
     QCOMPARE(read().first(), known.first());
 }
 
-// So that the file never grows beyond what is read again.
+void CatalogueFileTest::documentNames_data()
+{
+    QTest::addColumn<QString>("caption");
+    QTest::addColumn<bool>("isOne");
+    const auto row = [](const char *caption, bool isOne) {
+        QTest::newRow(caption) << QString::fromUtf8(caption) << isOne;
+    };
+    for (const char *caption :
+         {"/home/me/house.dxf", "1 /home/me/house", "&2: ~/house", "Open \"/tmp/my house/plan\"",
+          "C:\\Drawings\\house.dwg", "file:///home/x", "house.dxf", "1 my house.FCStd",
+          "&3. house.dxf *", "house.dxf [read only]", "Größe.dxf (2)", "plan.v2.kicad_pcb.svg"})
+        row(caption, true);
+    for (const char *caption :
+         {"Line", "Open...", "Save as…", "On / Off", "Line/Arc", "Draw/Line/2 Points", "Version 2.0",
+          "Import .dxf", "Export as DXF...", "1:2", "~", "x.y", "Zoom 1.5x", "By 3 points, radius", ""})
+        row(caption, false);
+}
+
+void CatalogueFileTest::documentNames()
+{
+    QFETCH(QString, caption);
+    QFETCH(bool, isOne);
+    QCOMPARE(gesturewidget::namesADocument(caption), isOne);
+}
+
+void CatalogueFileTest::whatIsPrivateIsNeverWritten()
+{
+    RememberedCommand tip = command(QStringLiteral("new"));
+    tip.tip = QStringLiteral("Opens /home/me/secret/plan");
+    QVERIFY(merge({command(QStringLiteral("recent1"), QStringLiteral("1 /home/me/secret.dxf")),
+                   command(QStringLiteral("Window/secret.dxf"), QStringLiteral("Close")),
+                   command(QStringLiteral("recent2"), QStringLiteral("&2 secret.dxf")), tip}));
+    tip.tip.clear();
+    QCOMPARE(read(), Commands{tip});
+    // A known command may later be called like a document.
+    QVERIFY(merge({command(QStringLiteral("new"), QStringLiteral("secret.dxf"))}));
+    QCOMPARE(read(), Commands{tip});
+    for (const char *suffix : {"", ".bak"})
+        QVERIFY2(!content(QLatin1String(suffix)).contains("secret"), suffix);
+}
+
+void CatalogueFileTest::anOldFileIsCleaned()
+{
+    const QByteArray old = R"({"version": 1, "commands": [
+        {"identifier": "a", "caption": "1 /home/me/secret.dxf"},
+        {"identifier": "b", "caption": "Line", "tip": "of ~/secret/plan"},
+        {"identifier": "c", "caption": "Arc", "tip": "An arc"}]})";
+    for (const bool hasNews : {false, true}) {
+        write(old);
+        write(old, QStringLiteral(".bak"));
+        QCOMPARE(identifiers(read()), QStringList({QStringLiteral("b"), QStringLiteral("c")}));
+        QCOMPARE(content(), old); // reading changes nothing
+        QVERIFY(merge(hasNews ? numbered(1) : Commands()));
+        QCOMPARE(read().size(), hasNews ? 3 : 2);
+        QCOMPARE(read().at(1).tip, QStringLiteral("An arc"));
+        for (const char *suffix : {"", ".bak"})
+            QVERIFY2(!content(QLatin1String(suffix)).contains("secret"), suffix);
+    }
+}
+
+// Otherwise the file could grow larger than what is read.
 void CatalogueFileTest::iconsGoBeforeCommands()
 {
     Commands many;
@@ -310,11 +362,11 @@ void CatalogueFileTest::aFileCutOffAnywhereLosesNothing()
 {
     const Commands commands = numbered(2);
     QVERIFY(merge({command(QStringLiteral("first"))}));
-    QVERIFY(merge(commands)); // the copy has the first alone
+    QVERIFY(merge(commands)); // the copy has only the first
     const QByteArray whole = content();
     const QByteArray copy = content(QStringLiteral(".bak"));
     QVERIFY(whole.size() > copy.size());
-    // Without the line's end at the end nothing is missing.
+    // A file without its last line end is whole.
     for (int length = 0; length < whole.size() - 1; ++length) {
         write(whole.left(length));
         tests::StandardErrorCapture errors;
@@ -356,7 +408,7 @@ void CatalogueFileTest::aDamagedFileIsReplacedByItsCopyAndWhatIsNew()
     QCOMPARE(content(QStringLiteral(".bak")), copy); // still the last good one
     QCOMPARE(errors.lines().size(), 1);
 
-    // It is mended also when nothing is new.
+    // The file is restored even if nothing is new.
     write(damaged);
     QVERIFY(file.merge({}));
     QCOMPARE(file.read(), numbered(2));
@@ -445,8 +497,8 @@ void CatalogueFileTest::whatCannotBeReadIsLeftAlone()
     }
     QVERIFY(QFile::remove(m_path));
 
-    // One that somebody else wrote, for their eyes only. Root may read it, so the child runs
-    // without that privilege.
+    // A file that this user may not read. Root may read any file, so the child runs without that
+    // privilege.
     QVERIFY(merge(numbered(1)));
     QVERIFY(QFile::setPermissions(m_path, QFile::WriteOwner));
     QStringList arguments{QCoreApplication::applicationFilePath(), QStringLiteral("child-merge"),
@@ -480,8 +532,7 @@ void CatalogueFileTest::aFolderThatCannotBeWrittenIsSaidOnce()
     QVERIFY2(lines.first().contains(QStringLiteral("cannot be written")), qPrintable(lines.first()));
 }
 
-// The child may write no byte to any file for a while, or some but too few, as on a disk
-// that is full.
+// As on a full disk: for a while the child may write no byte to any file, then too few.
 void CatalogueFileTest::aFullDiskKeepsTheOldFile()
 {
     QVERIFY(merge(numbered(3)));
@@ -496,7 +547,7 @@ void CatalogueFileTest::aFullDiskKeepsTheOldFile()
     QVERIFY2(said.contains("cannot be written"), said.constData());
     QCOMPARE(read().size(), 4);
     QCOMPARE(content(QStringLiteral(".bak")), before);
-    // Nothing of the attempts is left behind.
+    // The attempts leave nothing behind.
     const QDir folder(QFileInfo(m_path).absolutePath());
     QCOMPARE(folder.entryList(QDir::Files | QDir::Hidden).size(), 2);
 }
@@ -512,7 +563,7 @@ void CatalogueFileTest::manyWritersLoseNothing()
             QCoreApplication::applicationFilePath(),
             {QStringLiteral("child-write"), m_path, QString::number(i), QString::number(kRounds)});
     }
-    // A file that is read meanwhile is whole at any moment.
+    // Whoever reads the file meanwhile finds it whole.
     tests::StandardErrorCapture errors;
     for (const auto &writer : writers) {
         while (!writer->waitForFinished(1) && writer->state() != QProcess::NotRunning)
@@ -542,22 +593,21 @@ void CatalogueFileTest::aWriterThatIsKilledLeavesAWholeFile()
             {QStringLiteral("child-write"), m_path, QString::number(round), QStringLiteral("1000000")});
         QVERIFY(writer.waitForStarted());
         const int known = int(read().size());
-        QTRY_VERIFY(read().size() > known + round); // it is in the middle of its work
+        QTRY_VERIFY(read().size() > known + round); // the writer is busy
         writer.kill();
         QVERIFY(writer.waitForFinished());
         tests::StandardErrorCapture errors;
         CatalogueFile file(m_path);
         QCOMPARE(file.read().mid(0, 50), numbered(50));
-        // A lock that was being made when its owner ended counts for a while.
-        const QString after = QStringLiteral("after%1").arg(round);
-        QTRY_VERIFY_WITH_TIMEOUT(file.merge({command(after)}), 20000);
+        // The kernel has freed its lock.
+        QVERIFY(file.merge({command(QStringLiteral("after%1").arg(round))}));
         QCOMPARE(errors.lines(), QStringList());
     }
 }
 
 namespace {
 
-// What the tests run in processes of their own.
+// The tests start this program again with these arguments.
 int runChild(const QStringList &arguments)
 {
     const QString path = arguments.at(2);

@@ -1,10 +1,13 @@
 #include "host/files/ProgramProfile.h"
-#include "tests/support/FatalWarnings.h"
+
+#include "host/files/TriggerText.h"
+#include "tests/support/FolderTest.h"
 
 #include <QDir>
 #include <QFile>
+#include <QJsonArray>
 #include <QJsonDocument>
-#include <QTemporaryDir>
+#include <QJsonObject>
 #include <QTest>
 
 #include <sys/stat.h>
@@ -22,23 +25,17 @@ bool isDefault(const ProgramProfile &profile)
 
 } // namespace
 
-class ProgramProfileTest : public QObject
+class ProgramProfileTest : public tests::FolderTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { tests::failOnWarnings(); }
-    void init()
-    {
-        tests::resetWarnings();
-        m_folder = std::make_unique<QTemporaryDir>();
-        QVERIFY(m_folder->isValid());
-    }
-    void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
-
     void missingFileGivesDefaultsQuietly();
     void readsEverything();
+    void mayBeBuiltIntoTheProgram();
     void isWrittenAsItIsRead();
+    void namesOfButtonsAndKeys_data();
+    void namesOfButtonsAndKeys();
     void whatIsLeftOutIsDefault();
     void firstFolderWithAProfileCounts();
     void brokenProfileIsNamed_data();
@@ -51,34 +48,34 @@ private Q_SLOTS:
     void everyShippedProfileIsSound();
 
 private:
-    void write(const QString &name, const QByteArray &text) const
-    {
-        QFile file(m_folder->filePath(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(text), text.size());
-    }
     ProgramProfile read(QString *message = nullptr) const
     {
         return ProgramProfile::forProgram(QStringLiteral("drafter"), {m_folder->path()}, message);
     }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
 };
 
 void ProgramProfileTest::missingFileGivesDefaultsQuietly()
 {
     QString message = QStringLiteral("left over");
     const ProgramProfile profile = ProgramProfile::forProgram(
-        QStringLiteral("drafter"), {m_folder->path(), m_folder->filePath(QStringLiteral("none")), {}},
-        &message);
+        QStringLiteral("drafter"), {m_folder->path(), place(QStringLiteral("none")), {}}, &message);
     QCOMPARE(profile.program, QStringLiteral("drafter"));
     QVERIFY(isDefault(profile));
     QCOMPARE(message, QString());
 }
 
+void ProgramProfileTest::mayBeBuiltIntoTheProgram()
+{
+    QString message;
+    const ProgramProfile profile = ProgramProfile::forProgram(
+        QStringLiteral("builtin"), {QStringLiteral(":/none"), QStringLiteral(":/profiles")}, &message);
+    QCOMPARE(message, QString());
+    QCOMPARE(profile.viewClasses, QStringList(QStringLiteral("Canvas")));
+}
+
 void ProgramProfileTest::readsEverything()
 {
-    write(QStringLiteral("drafter.json"), R"({
+    write("drafter.json", R"({
         "version": 1, "program": "drafter", "viewClasses": ["Canvas", "ns::View"],
         "trigger": { "button": "middle", "modifiers": ["control", "shift"] },
         "wellKnownCommands": { "ID_LINE": "drawLine", "ID_OPEN": ["File/Open...", "fileOpen"] },
@@ -117,7 +114,7 @@ void ProgramProfileTest::isWrittenAsItIsRead()
             profile = ProgramProfile();
             profile.program = QStringLiteral("drafter");
         }
-        write(QStringLiteral("drafter.json"), QJsonDocument(profile.toJson()).toJson());
+        write("drafter.json", QJsonDocument(profile.toJson()).toJson());
         QString message;
         const ProgramProfile again = read(&message);
         QCOMPARE(message, QString());
@@ -131,9 +128,47 @@ void ProgramProfileTest::isWrittenAsItIsRead()
     }
 }
 
+void ProgramProfileTest::namesOfButtonsAndKeys_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("key");
+    QStringList keys = gesturewidget::modifierNames();
+    keys.append({QStringLiteral("control"), QStringLiteral("Ctrl"), QStringLiteral("SHIFT")});
+    const QStringList buttons = gesturewidget::buttonNames();
+    for (const QString &button : buttons) {
+        for (const QString &key : std::as_const(keys))
+            QTest::newRow(qPrintable(key + QLatin1Char('+') + button)) << button << key;
+    }
+}
+
+// A profile takes every trigger that a person may type.
+void ProgramProfileTest::namesOfButtonsAndKeys()
+{
+    QFETCH(QString, button);
+    QFETCH(QString, key);
+    write("drafter.json", QStringLiteral(R"({"version": 1, "program": "drafter",
+        "trigger": {"button": "%1", "modifiers": ["%2"]}})")
+                              .arg(button, key)
+                              .toUtf8());
+    QString message;
+    const ProgramProfile profile = read(&message);
+    QCOMPARE(message, QString());
+    Qt::MouseButton expectedButton = Qt::NoButton;
+    Qt::KeyboardModifiers expectedKeys = Qt::NoModifier;
+    QVERIFY(gesturewidget::parseTrigger(key + QLatin1Char('+') + button, expectedButton, expectedKeys));
+    QCOMPARE(profile.triggerButton, expectedButton);
+    QCOMPARE(profile.triggerModifiers, expectedKeys);
+    // It is always written in the same way.
+    const QJsonObject trigger = profile.toJson().value(QStringLiteral("trigger")).toObject();
+    QCOMPARE(trigger.value(QStringLiteral("button")).toString(), button);
+    QCOMPARE(trigger.value(QStringLiteral("modifiers")).toArray().at(0).toString() + QLatin1Char('+')
+                 + button,
+             gesturewidget::triggerText(expectedButton, expectedKeys));
+}
+
 void ProgramProfileTest::whatIsLeftOutIsDefault()
 {
-    write(QStringLiteral("drafter.json"), R"({"version": 1, "program": "drafter"})");
+    write("drafter.json", R"({"version": 1, "program": "drafter"})");
     QString message;
     QVERIFY(isDefault(read(&message)));
     QCOMPARE(message, QString());
@@ -144,11 +179,10 @@ void ProgramProfileTest::firstFolderWithAProfileCounts()
     QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("a")));
     QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("b")));
     QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("c")));
-    write(QStringLiteral("b/drafter.json"), R"({"version": 1, "program": "drafter", "toolsMenu": "b"})");
-    write(QStringLiteral("c/drafter.json"), R"({"version": 1, "program": "drafter", "toolsMenu": "c"})");
-    const QStringList folders{m_folder->filePath(QStringLiteral("a")),
-                              m_folder->filePath(QStringLiteral("b")),
-                              m_folder->filePath(QStringLiteral("c"))};
+    write("b/drafter.json", R"({"version": 1, "program": "drafter", "toolsMenu": "b"})");
+    write("c/drafter.json", R"({"version": 1, "program": "drafter", "toolsMenu": "c"})");
+    const QStringList folders{place(QStringLiteral("a")), place(QStringLiteral("b")),
+                              place(QStringLiteral("c"))};
     QString message;
     QCOMPARE(ProgramProfile::forProgram(QStringLiteral("drafter"), folders, &message).toolsMenu,
              QStringLiteral("b"));
@@ -205,35 +239,34 @@ void ProgramProfileTest::brokenProfileIsNamed()
 {
     QFETCH(QByteArray, text);
     QFETCH(QString, wrong);
-    write(QStringLiteral("drafter.json"), text);
+    write("drafter.json", text);
     QString message;
     const ProgramProfile profile = read(&message);
     QVERIFY(isDefault(profile));
     QCOMPARE(profile.program, QStringLiteral("drafter"));
-    QVERIFY2(message.contains(m_folder->filePath(QStringLiteral("drafter.json"))), qPrintable(message));
+    QVERIFY2(message.contains(place(QStringLiteral("drafter.json"))), qPrintable(message));
     QVERIFY2(message.contains(wrong), qPrintable(message));
     QVERIFY2(!message.contains(QLatin1Char('\n')), qPrintable(message));
 }
 
-// A mistake in the person's own profile must show, not vanish behind the installed one.
+// The installed profile must not hide a mistake in the user's own one.
 void ProgramProfileTest::aBrokenProfileIsNotReplacedByALaterOne()
 {
     QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("a")));
-    write(QStringLiteral("a/drafter.json"), "{");
-    write(QStringLiteral("drafter.json"), R"({"version": 1, "program": "drafter", "toolsMenu": "b"})");
+    write("a/drafter.json", "{");
+    write("drafter.json", R"({"version": 1, "program": "drafter", "toolsMenu": "b"})");
     QString message;
     QVERIFY(isDefault(ProgramProfile::forProgram(
-        QStringLiteral("drafter"), {m_folder->filePath(QStringLiteral("a")), m_folder->path()},
-        &message)));
+        QStringLiteral("drafter"), {place(QStringLiteral("a")), m_folder->path()}, &message)));
     QVERIFY(!message.isEmpty());
 }
 
 void ProgramProfileTest::whatIsNoFileIsNotOpened()
 {
-    const QByteArray pipe = QFile::encodeName(m_folder->filePath(QStringLiteral("drafter.json")));
+    const QByteArray pipe = QFile::encodeName(place(QStringLiteral("drafter.json")));
     QCOMPARE(::mkfifo(pipe.constData(), 0600), 0);
     QString message;
-    QVERIFY(isDefault(read(&message))); // opening it would never return
+    QVERIFY(isDefault(read(&message))); // opening a pipe would wait for its writer
     QVERIFY2(message.contains(QStringLiteral("it is not a file")), qPrintable(message));
 }
 
@@ -242,7 +275,7 @@ void ProgramProfileTest::namesThatLeaveTheFolderFindNothing_data()
     QTest::addColumn<QString>("program");
     QTest::newRow("empty") << QString();
     QTest::newRow("up") << QStringLiteral("../drafter");
-    QTest::newRow("absolute") << m_folder->filePath(QStringLiteral("drafter"));
+    QTest::newRow("absolute") << QStringLiteral("/drafter");
     QTest::newRow("hidden") << QStringLiteral(".drafter");
     QTest::newRow("null") << QStringLiteral("drafter") + QChar() + QStringLiteral("x");
 }
@@ -251,17 +284,17 @@ void ProgramProfileTest::namesThatLeaveTheFolderFindNothing()
 {
     QFETCH(QString, program);
     QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("a")));
-    write(QStringLiteral("drafter.json"), "{");
-    write(QStringLiteral(".drafter.json"), "{");
+    write("drafter.json", "{");
+    write(".drafter.json", "{");
     QString message;
-    QVERIFY(isDefault(ProgramProfile::forProgram(
-        program, {m_folder->filePath(QStringLiteral("a")), m_folder->path()}, &message)));
+    QVERIFY(isDefault(
+        ProgramProfile::forProgram(program, {place(QStringLiteral("a")), m_folder->path()}, &message)));
     QCOMPARE(message, QString());
 }
 
 void ProgramProfileTest::messageMayBeNull()
 {
-    write(QStringLiteral("drafter.json"), "{");
+    write("drafter.json", "{");
     QVERIFY(isDefault(read(nullptr)));
 }
 

@@ -1,3 +1,4 @@
+#include "tests/host/support/Files.h"
 #include "tests/support/FatalWarnings.h"
 
 #include <QDir>
@@ -10,8 +11,8 @@
 
 #include <unistd.h>
 
-// The plug-in in a program of its own process: that it gets in, that gestures work there,
-// and that the program ends as it would without it, whatever is destroyed first.
+// Runs the plug-in in another process: it gets in, gestures work, and the program ends as it would
+// without it, whatever is destroyed first.
 class InjectTest : public QObject
 {
     Q_OBJECT
@@ -66,7 +67,7 @@ InjectTest::Result InjectTest::runIn(const QString &home, const QStringList &com
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
     environment.insert(QStringLiteral("QT_QPA_GENERIC_PLUGINS"), keys);
     environment.insert(QStringLiteral("QT_PLUGIN_PATH"), plugins);
-    // One in the home counts before the other.
+    // A profile in the home folder wins.
     environment.insert(QStringLiteral("GESTUREWIDGET_PROFILES"),
                        home + QStringLiteral("/own:" TESTS_SOURCE_DIR "/host/inject/guest/profiles"));
     for (const char *name : {"HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
@@ -84,7 +85,7 @@ InjectTest::Result InjectTest::runIn(const QString &home, const QStringList &com
     };
     result.output = lines(process.readAllStandardOutput());
     result.errors = lines(process.readAllStandardError());
-    // The platform without a screen says these of itself.
+    // The offscreen platform itself prints these.
     for (const char *known : {"This plugin does not support", "QStandardPaths: "}) {
         for (int i = int(result.errors.size()) - 1; i >= 0; --i) {
             if (result.errors.at(i).startsWith(QLatin1String(known)))
@@ -195,7 +196,7 @@ void InjectTest::environmentIsClean()
     QVERIFY(result.output.contains(QStringLiteral("unknownplugin|/nowhere")));
     QCOMPARE(result.status, 0);
 
-    // A program without widgets has no gestures and does not hand them on either.
+    // A program without widgets has no gestures, and does not pass the variables on.
     const Result bare = run(QStringLiteral("without-widgets"));
     QCOMPARE(bare.errors, QStringList());
     QCOMPARE(bare.output, QStringList(QStringLiteral("unset|unset")));
@@ -216,7 +217,7 @@ void InjectTest::brokenModuleLeavesTheProgramAlone_data()
                                 << QStringLiteral("it is no library");
 }
 
-// The module is looked for beside the host library: a copy of the libraries without it, or
+// The module is searched beside the host library, so use a copy of the libraries without it, or
 // with another one in its place.
 void InjectTest::brokenModuleLeavesTheProgramAlone()
 {
@@ -252,13 +253,13 @@ void InjectTest::brokenModuleLeavesTheProgramAlone()
 
 void InjectTest::anotherPluginIsStillLoaded()
 {
-    // Qt itself complains of a plug-in that it does not know; ours is loaded all the same.
+    // Qt complains about an unknown plug-in, and still loads this one.
     const Result result = run(QStringLiteral("quit"), QStringLiteral(PLUGINS_DIR),
                               QStringLiteral("unknownplugin,mousegestures"));
     QVERIFY(result.output.contains(QStringLiteral("entry")));
     QCOMPARE(result.status, 0);
 
-    // One that somebody had asked for before is loaded, and handed on to other programs.
+    // Another plug-in that somebody asked for is loaded too, and passed on to other programs.
     for (const char *keys : {"otherplugin:left/a,mousegestures", "mousegestures,otherplugin:left/a"}) {
         const Result both =
             run(QStringLiteral("environment"), QStringLiteral(OTHER_PLUGINS_DIR ":" PLUGINS_DIR),
@@ -274,14 +275,6 @@ void InjectTest::anotherPluginIsStillLoaded()
 
 namespace {
 
-void write(const QString &path, const QByteArray &text)
-{
-    QVERIFY(QDir().mkpath(QFileInfo(path).absolutePath()));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(text), text.size());
-}
-
 const QString kSettings = QStringLiteral("gesturewidget/guest.ini");
 const QString kCatalogue = QStringLiteral("gesturewidget/guest.commands.json");
 const QString kProfile = QStringLiteral("own/guest.json");
@@ -294,7 +287,7 @@ const QStringList &gestureWorks()
     return output;
 }
 
-// Root may read and write anything, so the program runs without that privilege.
+// Root can read and write every file, so run the program without that privilege.
 QStringList unprivileged(const QStringList &command)
 {
     if (::getuid() != 0)
@@ -324,7 +317,7 @@ void InjectTest::badFilesLeaveGesturesAlone_data()
         "[GestureWidget]\nActiveScheme=12\nEnableMouseGesture=perhaps\n87=\"ID_LINE\"\n"
         "[Host]\nTrigger=elbow\n",
         1);
-    // Twice: it cannot be read, and so it cannot be written.
+    // Two lines: it can be neither read nor written.
     row("settings too large", kSettings, QByteArray(5 * 1024 * 1024, ';'), 2);
     row("catalogue of garbage", kCatalogue, garbage, 1);
     row("catalogue cut off", kCatalogue, R"({"version": 1, "commands": [{"identifier": "ID_L)", 1);
@@ -336,7 +329,7 @@ void InjectTest::badFilesLeaveGesturesAlone_data()
             "caption": "<b>&%1%2", "group": "%3", "icon": "iVBORw0KGgo="},
             {"identifier": "drawLine", "command": "ID_LINE"}]})",
         0);
-    // What the profile says is guessed then.
+    // The profile's content is guessed then.
     row("profile of garbage", kProfile, garbage, 1);
     row("profile cut off", kProfile, R"({"version": 1, "program": "guest", "viewCl)", 1);
     row("profile of a later version", kProfile, R"({"version": 2, "program": "guest"})", 1);
@@ -349,7 +342,7 @@ void InjectTest::badFilesLeaveGesturesAlone()
     QFETCH(QByteArray, text);
     QFETCH(int, lines);
     const QTemporaryDir home;
-    write(home.filePath(file), text);
+    tests::writeFile(home.filePath(file), text);
     const Result result = runIn(home.path(), {QStringLiteral(GUEST), QStringLiteral("gesture")});
     QCOMPARE(result.output, gestureWorks());
     QCOMPARE(result.status, 0);
@@ -377,7 +370,7 @@ void InjectTest::filesOfOthersLeaveGesturesAlone()
     const QString path = home.filePath(closed);
     const bool isFile = closed.contains(QLatin1Char('/'));
     if (isFile)
-        write(path, "{}");
+        tests::writeFile(path, "{}");
     else
         QVERIFY(QDir().mkpath(path));
     const QFile::Permissions before = QFile::permissions(path);
@@ -389,7 +382,7 @@ void InjectTest::filesOfOthersLeaveGesturesAlone()
     QCOMPARE(result.output, gestureWorks());
     QCOMPARE(result.status, 0);
     QVERIFY(!result.errors.filter(complaint).isEmpty());
-    // Each file that is in trouble has one line, or one each for reading and writing.
+    // Each such file gives one line, or one each for reading and writing.
     QVERIFY2(result.errors.size() <= 2, qPrintable(result.errors.join(QLatin1Char('\n'))));
     for (const QString &line : result.errors)
         QVERIFY2(line.startsWith(QStringLiteral("mouse gestures: ")), qPrintable(line));
@@ -398,7 +391,7 @@ void InjectTest::filesOfOthersLeaveGesturesAlone()
 void InjectTest::aFullDiskLeavesGesturesAlone()
 {
     const QTemporaryDir home;
-    // Not a byte may be written to any file.
+    // No file may grow by a byte.
     const Result result =
         runIn(home.path(), {QStringLiteral("bash"), QStringLiteral("-c"),
                             QStringLiteral("trap '' XFSZ; ulimit -f 0; exec \"$@\""),

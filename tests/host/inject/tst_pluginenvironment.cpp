@@ -1,5 +1,6 @@
 #include "host/inject/BorrowedVariables.h"
 #include "host/inject/PluginEnvironment.h"
+#include "tests/host/support/Files.h"
 #include "tests/support/FatalWarnings.h"
 
 #include <QDir>
@@ -8,17 +9,6 @@
 #include <QTest>
 
 #include <memory>
-
-namespace {
-
-void touch(const QString &path)
-{
-    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-}
-
-} // namespace
 
 class PluginEnvironmentTest : public QObject
 {
@@ -48,15 +38,15 @@ void PluginEnvironmentTest::init()
 {
     tests::resetWarnings();
     m_root = std::make_unique<QTemporaryDir>();
-    touch(m_root->filePath(QStringLiteral("qt5/generic/libmousegestures-qt5.so")));
-    touch(m_root->filePath(QStringLiteral("qt6/generic/libmousegestures-qt6.so")));
-    touch(m_root->filePath(QStringLiteral("both/generic/libmousegestures-qt5.so")));
-    touch(m_root->filePath(QStringLiteral("both/generic/libmousegestures-qt6.so")));
+    tests::writeFile(m_root->filePath(QStringLiteral("qt5/generic/libmousegestures-qt5.so")));
+    tests::writeFile(m_root->filePath(QStringLiteral("qt6/generic/libmousegestures-qt6.so")));
+    tests::writeFile(m_root->filePath(QStringLiteral("both/generic/libmousegestures-qt5.so")));
+    tests::writeFile(m_root->filePath(QStringLiteral("both/generic/libmousegestures-qt6.so")));
     // Folders in which somebody else's plug-ins are as well.
-    touch(m_root->filePath(QStringLiteral("shared/generic/libmousegestures-qt5.so")));
-    touch(m_root->filePath(QStringLiteral("shared/generic/libother.so")));
-    touch(m_root->filePath(QStringLiteral("styles/generic/libmousegestures-qt5.so")));
-    touch(m_root->filePath(QStringLiteral("styles/styles/libpretty.so")));
+    tests::writeFile(m_root->filePath(QStringLiteral("shared/generic/libmousegestures-qt5.so")));
+    tests::writeFile(m_root->filePath(QStringLiteral("shared/generic/libother.so")));
+    tests::writeFile(m_root->filePath(QStringLiteral("styles/generic/libmousegestures-qt5.so")));
+    tests::writeFile(m_root->filePath(QStringLiteral("styles/styles/libpretty.so")));
     QVERIFY(QDir().mkpath(m_root->filePath(QStringLiteral("empty/generic"))));
 }
 

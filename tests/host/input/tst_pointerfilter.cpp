@@ -505,7 +505,7 @@ void PointerFilterTest::dialogOpenedByThePressBlocksTheRest()
     QCOMPARE(desk.state(), PointerFilter::State::Idle);
 }
 
-// Who types fast has not let go of the last key yet when the drag begins.
+// A fast typist has not released the last key yet when the drag begins.
 void PointerFilterTest::keysOfBeforeLetTheGestureBe()
 {
     Desk desk;
@@ -566,8 +566,8 @@ void PointerFilterTest::aKeyPressedAgainGivesBack()
     desk.release(kPress);
 }
 
-// Nobody has seen the release of a key that was let go in another program: it does not stay
-// down for ever.
+// Nobody sees the release of a key that is let go in another program. It must not count as down
+// for ever.
 void PointerFilterTest::aKeyLetGoElsewhereIsForgotten()
 {
     Desk desk;
@@ -584,7 +584,7 @@ void PointerFilterTest::aKeyLetGoElsewhereIsForgotten()
     desk.release(kPress);
 }
 
-// A key gives back the press, and the program does with that what it likes.
+// A key gives the press back, and the program may do anything with it.
 void PointerFilterTest::keyGivesBackAPressThatClosesTheWindow()
 {
     Desk desk;
@@ -877,7 +877,7 @@ void PointerFilterTest::dragGivenToTheProgramStaysThere()
     QCOMPARE(desk.state(), PointerFilter::State::Holding);
     desk.move(kPress + QPoint(41, 0));
     QCOMPARE(desk.state(), PointerFilter::State::Idle);
-    // Even a tracker that changes its mind does not get it any more.
+    // A tracker that changes its mind does not get it either.
     desk.tracker.takesDrags = true;
     desk.move(kPress + QPoint(60, 0));
     QCOMPARE(desk.tracker.drags, 0);

@@ -2,6 +2,7 @@
 #include "host/menus/UiManager.h"
 #include "sdk/chx/CHxUIMenu.h"
 #include "tests/host/support/DraftWindow.h"
+#include "tests/host/support/Texts.h"
 #include "tests/support/FatalWarnings.h"
 
 #include <QElapsedTimer>
@@ -12,13 +13,9 @@
 using gesturewidget::CommandCatalogue;
 using gesturewidget::UiManager;
 using tests::DraftWindow;
+using tests::text;
 
 namespace {
-
-QString text(const CHxString &string)
-{
-    return string.toQString();
-}
 
 QStringList captions(const QWidget &menu)
 {
@@ -97,6 +94,7 @@ private Q_SLOTS:
     void theWindowMayGoFirst();
     void objectsOfGoneMenusAreFreed();
     void aWalkOutlivesTheMenusItWalks();
+    void changedMenusAreReadBeforeSomebodyAsks();
 
 private:
     void start(const QString &toolsMenu = {})
@@ -657,6 +655,17 @@ void UiManagerTest::aWalkOutlivesTheMenusItWalks()
     QCOMPARE(draw->GetSubItems(), nullptr);
     QCOMPARE(text(line->GetText()), QString());
     QCOMPARE(line->GetCommandItem(), nullptr);
+}
+
+void UiManagerTest::changedMenusAreReadBeforeSomebodyAsks()
+{
+    m_manager->NewMenuIterator(); // the first reading
+    const std::size_t before = m_manager->mirror().size();
+    QMenu *more = m_window->addMenu("&More", "moreMenu");
+    for (const char *name : {"one", "two", "three"})
+        DraftWindow::addAction(more, name, name);
+    more->addMenu(m_window->file); // menus may contain each other
+    QTRY_VERIFY(m_manager->mirror().size() >= before + 4);
 }
 
 QTEST_MAIN(UiManagerTest)

@@ -1,4 +1,5 @@
 #include "host/services/ProfileStore.h"
+#include "tests/host/support/Files.h"
 #include "tests/host/support/StandardErrorCapture.h"
 #include "tests/support/FatalWarnings.h"
 
@@ -86,17 +87,10 @@ private Q_SLOTS:
     void manyWritersLoseNothing();
 
 private:
-    QByteArray content(const QString &suffix = {}) const
-    {
-        QFile file(m_path + suffix);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<no file>");
-    }
+    QByteArray content(const QString &suffix = {}) const { return tests::contentOf(m_path + suffix); }
     void write(const QByteArray &text, const QString &suffix = {}) const
     {
-        QVERIFY(QDir().mkpath(QFileInfo(m_path).absolutePath()));
-        QFile file(m_path + suffix);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(text), text.size());
+        tests::writeFile(m_path + suffix, text);
     }
     // Fills a file with all keys a module has, as it stands after a session.
     void fill() const

@@ -15,6 +15,7 @@
 #include "sdk/chx/CHxUIMenuItemCollection.h"
 #include "sdk/chx/CHxUIWorkspace.h"
 #include "tests/host/support/DraftWindow.h"
+#include "tests/host/support/Files.h"
 #include "tests/host/support/ScriptedCommand.h"
 #include "tests/host/support/StubDocuments.h"
 #include "tests/support/FatalWarnings.h"
@@ -294,8 +295,7 @@ void SystemServicesTest::helpOpensTheGuide()
     QFETCH(int, topic);
     QFETCH(QString, anchor);
     const QString guide = m_folder->filePath(QStringLiteral("a guide.html"));
-    QFile file(guide);
-    QVERIFY(file.open(QIODevice::WriteOnly));
+    tests::writeFile(guide, "<html>");
     QList<QUrl> opened;
     m_guide.files =
         QStringList{m_folder->filePath(QStringLiteral("missing.html")), m_folder->path(), guide};
@@ -320,8 +320,7 @@ void SystemServicesTest::missingHelpIsSaid()
     QVERIFY(!m_window->statusBar()->currentMessage().isEmpty());
 
     m_window->statusBar()->clearMessage();
-    QFile file(m_folder->filePath(QStringLiteral("missing.html")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
+    tests::writeFile(m_folder->filePath(QStringLiteral("missing.html")), "<html>");
     m_guide.opener = [](const QUrl &) { return false; }; // no browser
     m_services = make(m_window.get());
     m_services->ShowHelp(9000);

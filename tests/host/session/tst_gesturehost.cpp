@@ -14,7 +14,9 @@
 #include "sdk/od/OdEditor.h"
 #include "tests/host/session/modules/StubModule.h"
 #include "tests/host/support/FakeTracker.h"
+#include "tests/host/support/Files.h"
 #include "tests/host/support/StandardErrorCapture.h"
+#include "tests/host/support/StubModules.h"
 #include "tests/support/FatalWarnings.h"
 
 #include <QElapsedTimer>
@@ -33,15 +35,11 @@
 
 namespace {
 
-QString stub(const QString &name)
-{
-    return QStringLiteral(STUB_MODULES_DIR "/%1.so").arg(name);
-}
-
 StubModule::Calls callsOf(const QString &name)
 {
     using Function = StubModule::Calls *(*)();
-    const auto function = reinterpret_cast<Function>(QLibrary::resolve(stub(name), "stubCalls"));
+    const auto function =
+        reinterpret_cast<Function>(QLibrary::resolve(tests::stubModule(name), "stubCalls"));
     return function ? *function() : StubModule::Calls{};
 }
 
@@ -68,7 +66,7 @@ private Q_SLOTS:
         m_folder = std::make_unique<QTemporaryDir>();
         m_options = {};
         m_options.program = QStringLiteral("program");
-        m_options.moduleFile = stub(QStringLiteral("good"));
+        m_options.moduleFile = tests::stubModule(QStringLiteral("good"));
         m_options.settingsFile = m_folder->filePath(QStringLiteral("program.ini"));
     }
     void cleanup()
@@ -186,7 +184,7 @@ void GestureHostTest::startWithBrokenModule_data()
 void GestureHostTest::startWithBrokenModule()
 {
     QFETCH(QString, module);
-    m_options.moduleFile = stub(module);
+    m_options.moduleFile = tests::stubModule(module);
     QMainWindow window;
     QWidget view(&window);
     gesturewidget::GestureHost host(&window, m_options);
@@ -201,7 +199,7 @@ void GestureHostTest::startWithBrokenModule()
 
 void GestureHostTest::errorIsOptional()
 {
-    m_options.moduleFile = stub(QStringLiteral("missing"));
+    m_options.moduleFile = tests::stubModule(QStringLiteral("missing"));
     QMainWindow window;
     gesturewidget::GestureHost host(&window, m_options);
     QVERIFY(!host.start());
@@ -239,10 +237,8 @@ void GestureHostTest::addedViewsBecomeDocuments()
 
 void GestureHostTest::profileNamesViews()
 {
-    QFile profile(m_folder->filePath(QStringLiteral("program.json")));
-    QVERIFY(profile.open(QIODevice::WriteOnly));
-    profile.write(R"({"version": 1, "program": "program", "viewClasses": ["QPlainTextEdit"]})");
-    profile.close();
+    tests::writeFile(m_folder->filePath(QStringLiteral("program.json")),
+                     R"({"version": 1, "program": "program", "viewClasses": ["QPlainTextEdit"]})");
     m_options.profileFolders << m_folder->path();
     QMainWindow window;
     auto *view = new QPlainTextEdit(&window);
@@ -341,13 +337,6 @@ private:
     gesturewidget::GestureHost m_host;
 };
 
-void write(const QString &path, const QByteArray &text)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(text), text.size());
-}
-
 } // namespace
 
 void GestureHostTest::theSettingsChooseTheTrigger_data()
@@ -387,11 +376,11 @@ void GestureHostTest::theSettingsChooseTheTrigger()
     QFETCH(int, button);
     QFETCH(int, modifiers);
     QFETCH(bool, isComplaint);
-    write(m_folder->filePath(QStringLiteral("program.json")),
-          R"({"version": 1, "program": "program", "trigger": )" + profile + "}");
+    tests::writeFile(m_folder->filePath(QStringLiteral("program.json")),
+                     R"({"version": 1, "program": "program", "trigger": )" + profile + "}");
     m_options.profileFolders << m_folder->path();
     if (!chosen.isEmpty())
-        write(m_options.settingsFile, "[Host]\nTrigger=" + chosen + "\n");
+        tests::writeFile(m_options.settingsFile, "[Host]\nTrigger=" + chosen + "\n");
 
     tests::StandardErrorCapture errors;
     Drawing drawing(m_options);
@@ -427,7 +416,7 @@ void GestureHostTest::aNewTriggerCountsFromTheNextStart()
         QVERIFY(drawing.isTrigger(Qt::MiddleButton));
         QVERIFY(!drawing.isTrigger(Qt::RightButton));
         // Taken back, as with "default".
-        write(m_options.settingsFile, "[Host]\nTrigger=\n");
+        tests::writeFile(m_options.settingsFile, "[Host]\nTrigger=\n");
         QVERIFY(drawing.isTrigger(Qt::MiddleButton));
     }
     Drawing drawing(m_options);
@@ -464,8 +453,8 @@ void GestureHostTest::viewsOfOtherWindows()
     protected:
         void mousePressEvent(QMouseEvent *) override { ++presses; }
     };
-    write(m_folder->filePath(QStringLiteral("program.json")),
-          R"({"version": 1, "program": "program", "viewClasses": ["QFrame"]})");
+    tests::writeFile(m_folder->filePath(QStringLiteral("program.json")),
+                     R"({"version": 1, "program": "program", "viewClasses": ["QFrame"]})");
     m_options.profileFolders << m_folder->path();
     QMainWindow window;
     window.menuBar()->addMenu(QStringLiteral("Tools"));

@@ -1,5 +1,7 @@
 #include "host/session/ModuleLoader.h"
 #include "tests/host/session/modules/StubModule.h"
+#include "tests/host/support/Files.h"
+#include "tests/host/support/StubModules.h"
 #include "tests/support/FatalWarnings.h"
 
 #include <QFile>
@@ -11,15 +13,11 @@ using gesturewidget::ModuleLoader;
 
 namespace {
 
-QString stub(const QString &name)
-{
-    return QStringLiteral(STUB_MODULES_DIR "/%1.so").arg(name);
-}
-
 StubModule::Calls &callsOf(const QString &name)
 {
     using Function = StubModule::Calls *(*)();
-    const auto function = reinterpret_cast<Function>(QLibrary::resolve(stub(name), "stubCalls"));
+    const auto function =
+        reinterpret_cast<Function>(QLibrary::resolve(tests::stubModule(name), "stubCalls"));
     return *function();
 }
 
@@ -49,7 +47,7 @@ void ModuleLoaderTest::goodModuleLivesThroughEverything()
 {
     ModuleLoader loader;
     QString error;
-    QVERIFY2(loader.load(stub(QStringLiteral("good")), &error), qPrintable(error));
+    QVERIFY2(loader.load(tests::stubModule(QStringLiteral("good")), &error), qPrintable(error));
     QVERIFY(loader.module());
     StubModule::Calls &calls = callsOf(QStringLiteral("good"));
     QCOMPARE(calls.creations, 1);
@@ -91,7 +89,7 @@ void ModuleLoaderTest::refusedModulesSayWhy()
     QFETCH(QString, expected);
     ModuleLoader loader;
     QString error;
-    QVERIFY(!loader.load(stub(name), &error));
+    QVERIFY(!loader.load(tests::stubModule(name), &error));
     QVERIFY2(error.contains(expected), qPrintable(error));
     QVERIFY2(error.contains(name + QStringLiteral(".so")), qPrintable(error));
     QVERIFY(!error.contains(QLatin1Char('\n')));
@@ -106,7 +104,7 @@ void ModuleLoaderTest::filesThatAreNoLibrary_data()
     QTest::addColumn<QString>("expected");
     QTest::newRow("empty") << QByteArray() << QStringLiteral("it is no library");
     QTest::newRow("text") << QByteArray(200, 'x') << QStringLiteral("it is no library");
-    QFile file(stub(QStringLiteral("good")));
+    QFile file(tests::stubModule(QStringLiteral("good")));
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray good = file.readAll();
     // Such a file would end the process inside the system's loader.
@@ -124,10 +122,7 @@ void ModuleLoaderTest::filesThatAreNoLibrary()
     QFETCH(QString, expected);
     QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("module.so"));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-    file.close();
+    tests::writeFile(path, content);
     ModuleLoader loader;
     QString error;
     QVERIFY(!loader.load(path, &error));
@@ -142,7 +137,7 @@ void ModuleLoaderTest::moduleThatThrowsAtItsStart()
 {
     ModuleLoader loader;
     QString error;
-    QVERIFY(loader.load(stub(QStringLiteral("init_throws")), &error));
+    QVERIFY(loader.load(tests::stubModule(QStringLiteral("init_throws")), &error));
     QVERIFY(!loader.initialize(&error));
     QVERIFY2(error.contains(QStringLiteral("could not start: no start today")), qPrintable(error));
     loader.uninitialize();
@@ -154,7 +149,7 @@ void ModuleLoaderTest::moduleThatThrowsAtItsEnd()
 {
     ModuleLoader loader;
     QString error;
-    QVERIFY(loader.load(stub(QStringLiteral("end_throws")), &error));
+    QVERIFY(loader.load(tests::stubModule(QStringLiteral("end_throws")), &error));
     QVERIFY(loader.initialize(&error));
     loader.uninitialize();
     loader.destroy();
@@ -175,12 +170,12 @@ void ModuleLoaderTest::codeStaysAfterTheModule()
     QString error;
     {
         ModuleLoader loader;
-        QVERIFY(loader.load(stub(QStringLiteral("good")), &error));
+        QVERIFY(loader.load(tests::stubModule(QStringLiteral("good")), &error));
         loader.destroy();
     }
     QFile maps(QStringLiteral("/proc/self/maps"));
     QVERIFY(maps.open(QIODevice::ReadOnly));
-    QVERIFY(maps.readAll().contains(stub(QStringLiteral("good")).toLocal8Bit()));
+    QVERIFY(maps.readAll().contains(tests::stubModule(QStringLiteral("good")).toLocal8Bit()));
 }
 
 QTEST_GUILESS_MAIN(ModuleLoaderTest)

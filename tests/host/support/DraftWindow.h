@@ -9,9 +9,9 @@
 
 namespace tests {
 
-// The menus of a small drafting program: "&File" (new, open, a separator, "Export" with
-// two unnamed entries), "&Draw" (line, circle), "&Help". One toolbar, "Drawing", with line
-// and with arc, which no menu has.
+// A small drafting program's menus: "&File" (new, open, a separator, "Export" with two unnamed
+// entries), "&Draw" (line, circle), "&Help". One toolbar, "Drawing", has line and arc; arc is in
+// no menu.
 class DraftWindow : public QMainWindow
 {
 public:

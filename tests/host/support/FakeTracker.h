@@ -15,8 +15,8 @@
 
 namespace tests {
 
-// What a tracker shows during its gesture: holds the mouse, stops on a release or when the
-// pointer is 70 pixels away from the first movement that it saw.
+// The window that a tracker shows during a gesture. It grabs the mouse, and stops on a release or
+// when the pointer is 70 pixels away from the first movement that it saw.
 class FakeOverlay : public QWidget
 {
 public:
@@ -72,8 +72,8 @@ private:
     QPoint m_first;
 };
 
-// A tracker that takes every drag of more than 20 pixels: prepares its overlay on one
-// update, starts it on the next, and runs one command for each overlay that was accepted.
+// A tracker that takes every drag of more than 20 pixels. It prepares its overlay on one update,
+// starts it on the next, and runs one command for each accepted overlay.
 class FakeTracker : public CHxTracker
 {
 public:

@@ -16,7 +16,7 @@
 
 namespace tests {
 
-// Writes down what a program's view gets to see of its input, one line an event.
+// Logs the input events that a program's view gets, one line for each.
 class LoggingView : public QWidget
 {
 public:
@@ -97,7 +97,7 @@ public:
         }
         return line;
     }
-    // Whether it is one of the events that are written down.
+    // True for the events that are logged.
     [[nodiscard]] static bool isInput(const QEvent &event)
     {
         switch (event.type()) {

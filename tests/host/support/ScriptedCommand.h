@@ -10,7 +10,7 @@
 
 namespace tests {
 
-// A command of the stack that does what the test says.
+// A command of the command stack that runs the test's own function.
 class ScriptedCommand : public CHxCommand
 {
 public:
@@ -21,7 +21,7 @@ public:
     }
     ~ScriptedCommand() override { --alive; }
 
-    // Commands of this kind that are not destroyed yet.
+    // The number of these commands that exist.
     static inline int alive = 0;
 
     [[nodiscard]] static OdSmartPtr<ScriptedCommand> make(const char *name)

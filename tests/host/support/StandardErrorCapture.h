@@ -9,7 +9,7 @@
 
 namespace tests {
 
-// Collects what is written to standard error while it lives.
+// Collects the text that is written to standard error during its lifetime.
 class StandardErrorCapture
 {
 public:
@@ -28,7 +28,7 @@ public:
     }
     Q_DISABLE_COPY_MOVE(StandardErrorCapture)
 
-    // The lines so far.
+    // Returns the lines so far.
     [[nodiscard]] QStringList lines()
     {
         std::fflush(stderr);

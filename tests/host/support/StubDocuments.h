@@ -11,7 +11,7 @@ namespace tests {
 class StubDocuments : public CHxDocumentManager
 {
 public:
-    // The view of the active document; without one there is no document. Not owned.
+    // The active document's view, not owned. Null means that there is no document.
     QWidget *view = nullptr;
 
     void AddReactor(CHxDocumentManagerReactor *) override { }

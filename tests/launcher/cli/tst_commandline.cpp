@@ -50,8 +50,8 @@ private Q_SLOTS:
         QTest::newRow("--list-commands") << Arguments{"--list-commands", "draw"} << Task::ListCommands
                                          << QByteArray("draw") << Arguments{};
         QTest::newRow("--list-commands as JSON")
-            << Arguments{"--list-commands", "draw", "--json"} << Task::ListCommandsAsJson
-            << QByteArray("draw") << Arguments{"--json"};
+            << Arguments{"--list-commands", "draw", "--json"} << Task::ListCommands << QByteArray("draw")
+            << Arguments{};
         QTest::newRow("--print") << Arguments{"--print", "draw", "a b.pdf"} << Task::Print
                                  << QByteArray("draw") << Arguments{"a b.pdf"};
         QTest::newRow("--explain") << Arguments{"--explain", "draw", "--json", "a", ""} << Task::Explain
@@ -78,6 +78,43 @@ private Q_SLOTS:
         QCOMPARE(line.arguments, arguments);
         QCOMPARE(line.complaint.isEmpty(), task != Task::Complain);
         QVERIFY(!line.complaint.contains(QLatin1Char('\n')));
+    }
+
+    void jsonStandsAnywhere_data()
+    {
+        QTest::addColumn<Arguments>("given");
+        QTest::addColumn<bool>("isJson");
+        const auto row = [](const Arguments &given, bool isJson) {
+            QTest::newRow(given.join(' ').constData()) << given << isJson;
+        };
+        for (const char *option : {"--bindings", "--list-commands"}) {
+            row({option, "draw"}, false);
+            row({option, "draw", "--json"}, true);
+            row({option, "--json", "draw"}, true);
+            row({"--json", option, "draw"}, true);
+        }
+    }
+
+    void jsonStandsAnywhere()
+    {
+        QFETCH(Arguments, given);
+        QFETCH(bool, isJson);
+        const CommandLine line = CommandLine::parse(given);
+        QCOMPARE(line.task, given.contains("--bindings") ? Task::ShowBindings : Task::ListCommands);
+        QCOMPARE(line.program, QByteArray("draw"));
+        QCOMPARE(line.arguments, Arguments());
+        QCOMPARE(line.isJson, isJson);
+    }
+
+    void jsonOfNothing()
+    {
+        for (const Arguments &given :
+             {Arguments{"--json"}, Arguments{"--json", "draw"}, Arguments{"--json", "--reset", "draw"},
+              Arguments{"--bindings", "--json"}, Arguments{"--reset", "draw", "--json"}})
+            QCOMPARE(CommandLine::parse(given).task, Task::Complain);
+        const CommandLine line = CommandLine::parse({"draw", "--json"}); // the program's own
+        QCOMPARE(line.task, Task::Run);
+        QCOMPARE(line.arguments, Arguments{"--json"});
     }
 
     void complaintNamesTheOption()

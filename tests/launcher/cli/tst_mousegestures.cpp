@@ -1,4 +1,4 @@
-// The command itself, copied beside plug-in folders of the test's own.
+// The command itself, copied into a folder with plug-in folders of the test.
 
 #include "tests/support/FatalWarnings.h"
 
@@ -138,7 +138,7 @@ private Q_SLOTS:
         QCOMPARE(outcome.errors, QByteArray("oops\n"));
     }
 
-    // The program takes the launcher's place, so whatever is sent to the launcher reaches it.
+    // The program replaces the launcher's process, so it gets the signals.
     void signalsReachTheProgram()
     {
         QProcess process;

@@ -1,15 +1,18 @@
-// The options about a program that is not started, as a person types them.
+// The options that start no program, as a person types them.
 
 #include "host/files/CatalogueFile.h"
-#include "tests/support/FatalWarnings.h"
+#include "host/files/TriggerText.h"
+#include "launcher/cli/CommandLine.h"
+#include "launcher/settings/Bindings.h"
+#include "tests/support/FolderTest.h"
 
 #include <QDir>
 #include <QFile>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <QtTest>
 
-#include <memory>
+using tests::contentOf;
+using tests::text;
 
 namespace {
 
@@ -20,29 +23,20 @@ struct Outcome
     QByteArray errors;
 };
 
-QString text(const char *latin)
-{
-    return QString::fromLatin1(latin);
-}
-
 const QString kProgram = QStringLiteral(FIXTURES "/launcher_fixture_direct");
 
 } // namespace
 
-class SettingsOptionsTest : public QObject
+class SettingsOptionsTest : public tests::FolderTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { tests::failOnWarnings(); }
     void init()
     {
-        tests::resetWarnings();
-        m_home = std::make_unique<QTemporaryDir>();
-        QVERIFY(m_home->isValid());
-        m_file = m_home->filePath(QStringLiteral("gesturewidget/launcher_fixture_direct.ini"));
+        FolderTest::init();
+        m_file = place(QStringLiteral("gesturewidget/launcher_fixture_direct.ini"));
     }
-    void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
 
     void aDayWithBindings()
     {
@@ -52,14 +46,14 @@ private Q_SLOTS:
         const QByteArray json =
             expect({text("--bindings"), kProgram, text("--json")}, "\"up-left\": \"DrawArc\"");
         QCOMPARE(expect({text("--export"), kProgram}, ""), json);
-        const QString kept = m_home->filePath(QStringLiteral("kept.json"));
+        const QString kept = place(QStringLiteral("kept.json"));
         QCOMPARE(expect({text("--export"), kProgram, kept}, ""), QByteArray());
-        QCOMPARE(content(kept), json);
+        QCOMPARE(contentOf(kept), json);
 
         expect({text("--bind"), kProgram, text("up-left"), text("")}, "");
         expect({text("--bindings"), kProgram}, "  up-left    none\n");
         expect({text("--trigger"), kProgram, text("ctrl+right")}, "");
-        expect({text("--bindings"), kProgram}, "started with: ctrl+right\n");
+        expect({text("--bindings"), kProgram}, "\nstarted with: ctrl+right\n8 ");
         expect({text("--reset"), kProgram}, "");
         expect({text("--bindings"), kProgram}, "  up-left    ID_OFFSET\n");
         expect({text("--import"), kProgram, kept}, "");
@@ -115,6 +109,8 @@ private Q_SLOTS:
             "/etc/passwd, line 1: ");
         row("a sheet that cannot be written", {text("--print"), kProgram, text("/nowhere/sheet.pdf")}, 1,
             "/nowhere/sheet.pdf cannot be written");
+        row("a sheet that is no PDF", {text("--print"), kProgram, text("/nowhere/sheet.png")}, 1,
+            "/nowhere/sheet.png: a sheet is a PDF, so its file ends in .pdf");
         row("a file that cannot be written", {text("--export"), kProgram, text("/nowhere/kept.json")}, 1,
             "/nowhere/kept.json cannot be written");
     }
@@ -125,7 +121,7 @@ private Q_SLOTS:
         QFETCH(int, status);
         QFETCH(QByteArray, says);
         expect({text("--bind"), kProgram, text("up"), text("DrawArc")}, "");
-        const QByteArray before = content(m_file);
+        const QByteArray before = contentOf(m_file);
         QVERIFY(before.contains("81=DrawArc"));
         const Outcome outcome = run(arguments);
         QCOMPARE(outcome.status, status);
@@ -133,68 +129,98 @@ private Q_SLOTS:
         QVERIFY2(outcome.errors.startsWith("mouse-gestures: "), outcome.errors.constData());
         QVERIFY2(outcome.errors.contains(says), outcome.errors.constData());
         QCOMPARE(outcome.errors.count('\n'), 1);
-        QCOMPARE(content(m_file), before);
-        QCOMPARE(QDir(m_home->filePath(QStringLiteral("gesturewidget")))
-                     .entryList({QStringLiteral("*.ini")})
-                     .size(),
-                 1);
+        QCOMPARE(contentOf(m_file), before);
+        QCOMPARE(
+            QDir(place(QStringLiteral("gesturewidget"))).entryList({QStringLiteral("*.ini")}).size(), 1);
     }
 
-    // A program that was removed leaves settings behind that somebody may want to keep.
+    // Somebody may want to keep the settings of a program that was removed.
     void settingsOutliveTheProgram()
     {
-        QVERIFY(QDir().mkpath(m_home->filePath(QStringLiteral("gesturewidget"))));
-        QFile file(m_home->filePath(QStringLiteral("gesturewidget/no-such-program-here.ini")));
+        QVERIFY(QDir().mkpath(place(QStringLiteral("gesturewidget"))));
+        QFile file(place(QStringLiteral("gesturewidget/no-such-program-here.ini")));
         QVERIFY(file.open(QIODevice::WriteOnly));
         QVERIFY(file.write("[GestureWidget]\n81=DrawArc\n") > 0);
         file.close();
         expect({text("--export"), text("no-such-program-here")}, "\"up\": \"DrawArc\"");
     }
 
-    // A link is the program that it leads to, unless a profile knows it by its own name.
+    // A link means the program that it leads to, unless a profile has the name of the link.
     void aLinkIsTheProgram()
     {
-        const QString link = m_home->filePath(QStringLiteral("Draw"));
+        const QString link = place(QStringLiteral("Draw"));
         QVERIFY(QFile::link(kProgram, link));
         expect({text("--bind"), link, text("up"), text("DrawArc")}, "");
         QVERIFY(QFile::exists(m_file));
 
-        const QString profiles = m_home->filePath(QStringLiteral("gesturewidget/profiles"));
+        const QString profiles = place(QStringLiteral("gesturewidget/profiles"));
         QVERIFY(QDir().mkpath(profiles));
         QFile profile(profiles + QStringLiteral("/draw.json"));
         QVERIFY(profile.open(QIODevice::WriteOnly));
         profile.close();
         expect({text("--bind"), link, text("up"), text("DrawArc")}, "");
-        QVERIFY(QFile::exists(m_home->filePath(QStringLiteral("gesturewidget/draw.ini"))));
+        QVERIFY(QFile::exists(place(QStringLiteral("gesturewidget/draw.ini"))));
     }
 
     void theDoctor()
     {
         const Outcome outcome = run({text("--doctor"), kProgram});
         QCOMPARE(outcome.status, 1); // there is no display
-        QVERIFY2(outcome.output.startsWith("program:     launcher_fixture_direct, " FIXTURES),
+        QVERIFY2(outcome.output.startsWith("  program:     launcher_fixture_direct, " FIXTURES),
                  outcome.output.constData());
-        QVERIFY(outcome.output.contains("\nQt:          " + QByteArray::number(QT_MAJOR) + '\n'));
-        QVERIFY(outcome.output.contains("\ndisplay:     none\n"));
-        QVERIFY(outcome.output.contains("\nsettings:    " + QFile::encodeName(m_file)));
+        QVERIFY(outcome.output.contains("\n  Qt:          " + QByteArray::number(QT_MAJOR) + '\n'));
+        QVERIFY(outcome.output.contains("\n! display:     none\n"));
+        QVERIFY(outcome.output.contains("\n  settings:    " + QFile::encodeName(m_file)));
         QCOMPARE(outcome.errors.count('\n'), 1);
         QVERIFY(outcome.errors.startsWith("mouse-gestures: gestures cannot work well in "));
 
         const Outcome missing = run({text("--doctor"), text("no-such-program-here")});
         QCOMPARE(missing.status, 1);
-        QVERIFY(missing.output.contains("program:     no-such-program-here, not found\n"));
+        QCOMPARE(missing.output, QByteArray("! program:     no-such-program-here, not found\n"));
+    }
+
+    // Both streams in one pipe: what is wrong comes last.
+    void theDoctorInAPipe()
+    {
+        const Outcome outcome = run({text("--doctor"), kProgram}, {}, true);
+        const QList<QByteArray> lines = outcome.output.split('\n');
+        QVERIFY(lines.size() > 5);
+        QVERIFY(lines.first().startsWith("  program: "));
+        QVERIFY2(
+            lines.value(lines.size() - 2).startsWith("mouse-gestures: gestures cannot work well in "),
+            outcome.output.constData());
+    }
+
+    void standardInputAndOutput()
+    {
+        expect({text("--bind"), kProgram, text("up-left"), text("DrawArc")}, "");
+        const QByteArray json = expect({text("--export"), kProgram, text("-")}, "\"DrawArc\"");
+        QCOMPARE(json, expect({text("--export"), kProgram}, ""));
+        QVERIFY(!QFile::exists(text("-")));
+        expect({text("--reset"), kProgram}, "gestures are still started with: right\n");
+        const Outcome taken = run({text("--import"), kProgram, text("-")}, json);
+        QCOMPARE(taken.errors, QByteArray());
+        QCOMPARE(taken.status, 0);
+        QCOMPARE(expect({text("--export"), kProgram}, ""), json);
+        const Outcome refused = run({text("--import"), kProgram, text("-")}, "{}");
+        QCOMPARE(refused.status, 1);
+        QVERIFY2(refused.errors.startsWith("mouse-gestures: standard input, line 1: "),
+                 refused.errors.constData());
+        const Outcome large = run({text("--import"), kProgram, text("-")}, QByteArray(200000, ' '));
+        QVERIFY2(large.errors.contains("this is too long"), large.errors.constData());
+        QCOMPARE(expect({text("--export"), kProgram}, ""), json);
     }
 
     void commandsThatWereShown()
     {
         const Outcome before = run({text("--list-commands"), kProgram});
         QCOMPARE(before.status, 1);
-        QVERIFY2(before.errors.contains("no command of launcher_fixture_direct is known before"),
+        QVERIFY2(before.errors.contains("no command of launcher_fixture_direct is known yet"),
                  before.errors.constData());
         QCOMPARE(before.errors.count('\n'), 1);
 
         gesturewidget::CatalogueFile file(
-            m_home->filePath(text("gesturewidget/launcher_fixture_direct.commands.json")));
+            place(text("gesturewidget/launcher_fixture_direct.commands.json")));
         QVERIFY(file.merge({{text("drawArc"), {}, text("Arc..."), {}, text("Draw"), {}, false}}));
         expect({text("--list-commands"), kProgram}, "Draw\n  drawArc  Arc...\n");
         expect({text("--list-commands"), kProgram, text("--json")}, "\"identifier\": \"drawArc\"");
@@ -210,16 +236,16 @@ private Q_SLOTS:
 
     void aSheetForTheWall()
     {
-        const QString sheet = m_home->filePath(text("sheet.pdf"));
+        const QString sheet = place(text("sheet.pdf"));
         QCOMPARE(expect({text("--print"), kProgram, sheet}, ""), QByteArray());
-        const QByteArray pdf = content(sheet);
+        const QByteArray pdf = contentOf(sheet);
         QVERIFY(pdf.startsWith("%PDF-"));
         QVERIFY(pdf.trimmed().endsWith("%%EOF"));
     }
 
     void theDesktopsMenus()
     {
-        const QString entries = m_home->filePath(QStringLiteral("usr/applications"));
+        const QString entries = place(QStringLiteral("usr/applications"));
         QVERIFY(QDir().mkpath(entries));
         QFile entry(entries + QStringLiteral("/draw.desktop"));
         QVERIFY(entry.open(QIODevice::WriteOnly));
@@ -227,12 +253,13 @@ private Q_SLOTS:
                             + " %F\n")
                 > 0);
         entry.close();
-        const QString copy = m_home->filePath(QStringLiteral("data/applications/draw.desktop"));
+        const QString copy = place(QStringLiteral("data/applications/draw.desktop"));
         for (int i = 0; i < 2; ++i) {
             expect({text("--enable"), kProgram}, "starts with gestures: " + QFile::encodeName(copy));
-            QVERIFY2(content(copy).contains("\nExec=" + QFile::encodeName(QStringLiteral(MOUSE_GESTURES))
-                                            + ' ' + QFile::encodeName(kProgram) + " %F\n"),
-                     content(copy).constData());
+            QVERIFY2(contentOf(copy).contains("; exec \\\\\"\\\\$@\\\\\"\" "
+                                              + QFile::encodeName(QStringLiteral(MOUSE_GESTURES)) + ' '
+                                              + QFile::encodeName(kProgram) + " %F\n"),
+                     contentOf(copy).constData());
         }
         expect({text("--disable"), kProgram}, "draw.desktop is removed\n");
         QVERIFY(!QFile::exists(copy));
@@ -242,36 +269,54 @@ private Q_SLOTS:
     void helpNamesThemAll()
     {
         const Outcome help = run({text("--help")});
+        const QStringList options = launcher::CommandLine::optionNames();
+        QVERIFY(options.size() > 12);
         QFile page(QStringLiteral(TESTS_SOURCE_DIR "/../docs/mouse-gestures.1"));
         QVERIFY(page.open(QIODevice::ReadOnly));
         const QByteArray manual = page.readAll().replace("\\-", "-");
         QFile file(QStringLiteral(TESTS_SOURCE_DIR "/../launcher/desktop/mouse-gestures.bash"));
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QByteArray completion = file.readAll();
-        for (const char *option : {"--bindings", "--json", "--bind ", "--trigger", "--reset", "--export",
-                                   "--import", "--doctor", "--enable", "--disable", "--explain",
-                                   "--list-commands", "--help", "--version"}) {
-            QVERIFY2(help.output.contains(option), option);
-            QVERIFY2(manual.contains(option), option);
-            QVERIFY2(completion.contains(option), option);
+        for (const QString &option : options) {
+            // As a whole word, not as the beginning of another option.
+            const QRegularExpression word(option + text("(?![a-z-])"));
+            for (const QByteArray &place : {help.output, manual, completion})
+                QVERIFY2(QString::fromUtf8(place).contains(word), qPrintable(option));
         }
+        // The completion offers exactly what is accepted.
+        QStringList triggers = gesturewidget::buttonNames();
+        triggers.removeAll(text("left")); // alone it is for drawing
+        const QStringList keys = gesturewidget::modifierNames();
+        for (const QString &key : keys)
+            triggers.append(key + text("+right"));
+        triggers.append(text("default"));
+        const QByteArray directions =
+            launcher::Bindings::directionNames(8).join(QLatin1Char(' ')).toLatin1();
+        QVERIFY(completion.contains("directions=\"" + directions + "\"\n"));
+        QVERIFY2(
+            completion.contains("triggers=\"" + triggers.join(QLatin1Char(' ')).toLatin1() + "\"\n"),
+            qPrintable(triggers.join(QLatin1Char(' '))));
         const QList<QByteArray> lines = help.output.split('\n');
         for (const QByteArray &line : lines)
             QVERIFY2(line.size() <= 88, line.constData());
     }
 
 private:
-    Outcome run(const QStringList &arguments) const
+    Outcome run(const QStringList &arguments, const QByteArray &input = {}, bool isMerged = false) const
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_home->path());
-        environment.insert(QStringLiteral("XDG_DATA_HOME"), m_home->filePath(QStringLiteral("data")));
-        environment.insert(QStringLiteral("XDG_DATA_DIRS"), m_home->filePath(QStringLiteral("usr")));
+        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_folder->path());
+        environment.insert(QStringLiteral("XDG_DATA_HOME"), place(QStringLiteral("data")));
+        environment.insert(QStringLiteral("XDG_DATA_DIRS"), place(QStringLiteral("usr")));
         for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "XDG_SESSION_TYPE"})
             environment.remove(QLatin1String(name));
         QProcess process;
         process.setProcessEnvironment(environment);
+        if (isMerged)
+            process.setProcessChannelMode(QProcess::MergedChannels);
         process.start(QStringLiteral(MOUSE_GESTURES), arguments);
+        process.write(input);
+        process.closeWriteChannel();
         Outcome outcome;
         if (process.waitForFinished() && process.exitStatus() == QProcess::NormalExit)
             outcome.status = process.exitCode();
@@ -280,7 +325,7 @@ private:
         return outcome;
     }
 
-    // Runs it, which must go well and print `says` somewhere; returns all that it printed.
+    // Runs the command. It must succeed and print `says` somewhere. Returns its whole output.
     QByteArray expect(const QStringList &arguments, const QByteArray &says) const
     {
         const Outcome outcome = run(arguments);
@@ -293,13 +338,6 @@ private:
         return outcome.output;
     }
 
-    QByteArray content(const QString &path) const
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<none>");
-    }
-
-    std::unique_ptr<QTemporaryDir> m_home;
     QString m_file;
 };
 

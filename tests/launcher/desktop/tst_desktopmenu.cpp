@@ -1,23 +1,24 @@
-// Starting a program with gestures from the desktop's menus: in folders of the test's own.
+// Starting a program with gestures from the desktop's menus, in folders of the test.
 
 #include "launcher/desktop/DesktopMenu.h"
 
 #include "launcher/desktop/DesktopFile.h"
-#include "tests/support/FatalWarnings.h"
+#include "tests/support/FolderTest.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
 #include <QtTest>
-
-#include <memory>
 
 using launcher::DesktopFile;
 using launcher::DesktopMenu;
 using launcher::Outcome;
 
 namespace {
+
+// The text before the launcher's path.
+const QByteArray kStart =
+    R"(/bin/sh -c "[ -x \\"\\$0\\" ] && exec \\"\\$0\\" \\"\\$@\\"; exec \\"\\$@\\"" )";
 
 const QByteArray kEntry = "# drafting\n"
                           "[Desktop Entry]\n"
@@ -42,7 +43,9 @@ const QByteArray kCopy = "# drafting\n"
                          "Type=Application\n"
                          "Name=Draw\n"
                          "Name[de]=Zeichnen\n"
-                         "Exec=\"/opt/my tools/mouse-gestures\" draw --new %F\n"
+                         "Exec="
+                       + kStart
+                       + "\"/opt/my tools/mouse-gestures\" draw --new %F\n"
                          "Exec[de]=nothing that counts\n"
                          "Actions=Empty;Web;\n"
                          "TryExec=draw\n"
@@ -50,7 +53,9 @@ const QByteArray kCopy = "# drafting\n"
                          "\n"
                          "[Desktop Action Empty]\n"
                          "Name=Empty\n"
-                         "Exec=env A=\"b c\" \"/opt/my tools/mouse-gestures\" draw --empty\n"
+                         "Exec=env A=\"b c\" "
+                       + kStart
+                       + "\"/opt/my tools/mouse-gestures\" draw --empty\n"
                          "\n"
                          "[Desktop Action Web]\n"
                          "Exec=browse http://draw\n"
@@ -64,14 +69,12 @@ QByteArray entryFor(const QByteArray &exec, const QByteArray &more = {})
 
 } // namespace
 
-class DesktopMenuTest : public QObject
+class DesktopMenuTest : public tests::FolderTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { tests::failOnWarnings(); }
     void init();
-    void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
 
     void aCopyStartsItByTheLauncher();
     void twiceIsOnce();
@@ -81,6 +84,11 @@ private Q_SLOTS:
     void somebodysOwnFileStays_data();
     void somebodysOwnFileStays();
     void tryExecIsKept();
+    void tryExecIsOneLine();
+    void twoEntriesThatLookTheSameAreOne();
+    void aCopyOfAnotherProgramNameGoesWithItsEntry();
+    void anEntryOfTheSameIdentifierStays();
+    void allCopiesOrNone();
     void aProgramThatIsStartedByTheBus();
     void foundByItsFile_data();
     void foundByItsFile();
@@ -94,27 +102,15 @@ private Q_SLOTS:
     void onlyItsOwnCopiesAreRemoved();
 
 private:
-    QString place(const char *name) const { return m_folder->filePath(QLatin1String(name)); }
     QByteArray draw() const { return QFile::encodeName(place("bin/draw")); }
     DesktopMenu menu() const { return DesktopMenu(m_places); }
-    void write(const char *name, const QByteArray &content) const
-    {
-        QVERIFY(QDir().mkpath(QFileInfo(place(name)).absolutePath()));
-        QFile file(place(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(content), content.size());
-    }
     void writeProgram(const char *name, const QByteArray &content = "#!/bin/sh\n") const
     {
         write(name, content);
         QVERIFY(
             QFile::setPermissions(place(name), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     }
-    QByteArray content(const char *name) const
-    {
-        QFile file(place(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<none>");
-    }
+    QByteArray content(const char *name) const { return tests::contentOf(place(name)); }
     QStringList ownFiles() const { return QDir(m_places.own).entryList(QDir::Files | QDir::Hidden); }
     void expectEnabled() const
     {
@@ -122,15 +118,12 @@ private:
         QVERIFY2(outcome.isDone(), qPrintable(outcome.complaint));
     }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
     DesktopMenu::Places m_places;
 };
 
 void DesktopMenuTest::init()
 {
-    tests::resetWarnings();
-    m_folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_folder->isValid());
+    FolderTest::init();
     m_places.own = place("home/applications");
     m_places.installed = QStringList{place("local/applications"), place("usr/applications")};
     m_places.searchPath = QFile::encodeName(place("bin"));
@@ -163,7 +156,7 @@ void DesktopMenuTest::twiceIsOnce()
 {
     write("usr/applications/draw.desktop", kEntry);
     expectEnabled();
-    // Written again, it would have another time or another place on the disk.
+    // If it were written again, it would have another time.
     QFile copy(place("home/applications/draw.desktop"));
     QVERIFY(copy.setPermissions(QFile::ReadOwner));
     QVERIFY(copy.open(QIODevice::ReadOnly));
@@ -229,7 +222,7 @@ void DesktopMenuTest::somebodysOwnFileStays()
     QVERIFY(menu().disable("draw", draw()).output.contains("nothing was there"));
     QCOMPARE(content("home/applications/draw.desktop"), own);
 
-    // The only entry that there is, and a link that leads nowhere.
+    // A link that leads nowhere is the user's own too.
     QVERIFY(QFile::remove(place("home/applications/draw.desktop")));
     QVERIFY(QFile::link(place("nowhere"), place("home/applications/draw.desktop")));
     QVERIFY(!menu().enable("draw", draw()).isDone());
@@ -243,6 +236,86 @@ void DesktopMenuTest::tryExecIsKept()
     const QByteArray copy = content("home/applications/draw.desktop");
     QCOMPARE(copy.count("TryExec"), 1);
     QVERIFY(copy.contains("TryExec=/somewhere/draw\n"));
+}
+
+// A line end in a path must not begin a line of the entry.
+void DesktopMenuTest::tryExecIsOneLine()
+{
+    const QByteArray folder = QFile::encodeName(place("bin/a\nHidden=true\nx\\y"));
+    writeProgram("bin/a\nHidden=true\nx\\y/draw");
+    const QByteArray escaped = QByteArray(folder).replace('\\', "\\\\").replace("\n", "\\n");
+    // Quotes double a backslash, and the value doubles each of the two again.
+    const QByteArray quoted = QByteArray(folder).replace("\\", "\\\\\\\\").replace("\n", "\\n");
+    write("usr/applications/draw.desktop", entryFor('"' + quoted + "/draw\" %F"));
+    const Outcome outcome = menu().enable("draw", folder + "/draw");
+    QVERIFY2(outcome.isDone(), qPrintable(outcome.complaint));
+    const QByteArray copy = content("home/applications/draw.desktop");
+    QVERIFY2(copy.contains("\nTryExec=" + escaped + "/draw\n"), copy.constData());
+    DesktopFile file;
+    QVERIFY(file.read(place("home/applications/draw.desktop")));
+    QVERIFY(file.isApplication());
+    QVERIFY(file.value("Hidden").isNull());
+    QCOMPARE(file.exec().startedProgram(), folder + "/draw");
+}
+
+void DesktopMenuTest::twoEntriesThatLookTheSameAreOne()
+{
+    write("local/applications/org.draw.desktop", kEntry);
+    write("usr/applications/draw.desktop", kEntry);
+    write("usr/applications/other.desktop", entryFor("draw --other"));
+    write("usr/applications/types.desktop",
+          QByteArray(kEntry).replace("Name=Draw", "NoDisplay=true\nName=Draw"));
+    expectEnabled();
+    QCOMPARE(ownFiles(), QStringList({tests::text("draw.desktop"), tests::text("org.draw.desktop"),
+                                      tests::text("other.desktop"), tests::text("types.desktop")}));
+    int shown = 0;
+    for (const char *name : {"draw", "org.draw", "other", "types"})
+        shown += !content(qPrintable(tests::text("home/applications/%1.desktop").arg(tests::text(name))))
+                      .contains("NoDisplay=true\n");
+    QCOMPARE(shown, 2); // one of the two that look the same, and "other"
+    QVERIFY(!content("home/applications/org.draw.desktop").contains("NoDisplay"));
+    expectEnabled();
+    QVERIFY(menu().disable("draw", draw()).isDone());
+    QCOMPARE(ownFiles(), QStringList());
+}
+
+void DesktopMenuTest::aCopyOfAnotherProgramNameGoesWithItsEntry()
+{
+    QVERIFY(QFile::link(place("bin/draw"), place("bin/drafter")));
+    write("usr/applications/old.desktop", entryFor("drafter"));
+    expectEnabled();
+    QCOMPARE(ownFiles(), QStringList(tests::text("old.desktop")));
+    QVERIFY(QFile::remove(place("usr/applications/old.desktop")));
+    write("usr/applications/new.desktop", entryFor("draw"));
+    expectEnabled();
+    QCOMPARE(ownFiles(), QStringList(tests::text("new.desktop")));
+}
+
+void DesktopMenuTest::anEntryOfTheSameIdentifierStays()
+{
+    write("usr/applications/kde/draw.desktop", kEntry);
+    write("home/applications/kde-draw.desktop", entryFor("draw --mine"));
+    const Outcome outcome = menu().enable("draw", draw());
+    QVERIFY2(outcome.complaint.contains(tests::text("kde-draw.desktop is your own and stays")),
+             qPrintable(outcome.complaint));
+    QCOMPARE(content("home/applications/kde-draw.desktop"), entryFor("draw --mine"));
+    QVERIFY(!QFileInfo::exists(place("home/applications/kde/draw.desktop")));
+}
+
+void DesktopMenuTest::allCopiesOrNone()
+{
+    write("usr/applications/a.desktop", entryFor("draw --old"));
+    expectEnabled();
+    const QByteArray before = content("home/applications/a.desktop");
+    write("usr/applications/a.desktop", entryFor("draw --new"));
+    write("usr/applications/b.desktop", entryFor("draw --b"));
+    write("usr/applications/sub/c.desktop", entryFor("draw --c"));
+    write("home/applications/sub", "a file in place of the folder");
+    const Outcome outcome = menu().enable("draw", draw());
+    QCOMPARE(outcome.complaint,
+             place("home/applications/sub/c.desktop") + QStringLiteral(" cannot be written"));
+    QCOMPARE(content("home/applications/a.desktop"), before);
+    QCOMPARE(ownFiles(), QStringList({tests::text("a.desktop"), tests::text("sub")}));
 }
 
 void DesktopMenuTest::aProgramThatIsStartedByTheBus()
@@ -273,12 +346,12 @@ void DesktopMenuTest::foundByItsFile()
     DesktopFile copy;
     QVERIFY(copy.read(place("home/applications/sub/x.desktop")));
     QVERIFY(copy.isOurs());
-    QCOMPARE(copy.exec().program, m_places.launcher);
+    QCOMPARE(copy.exec().arguments.value(2), m_places.launcher);
     QVERIFY(menu().disable("draw", draw()).output.contains("sub/x.desktop is removed"));
     QVERIFY(!QFileInfo::exists(place("home/applications/sub/x.desktop")));
 }
 
-// One file may be many programs, by the name that it is started by.
+// One file may be several programs, depending on the name that starts it.
 void DesktopMenuTest::theNameThatWasTypedCounts()
 {
     QVERIFY(QFile::link(place("bin/draw"), place("bin/paint")));
@@ -312,7 +385,7 @@ void DesktopMenuTest::anEntryThatStartsAScript()
     write("usr/applications/draw.desktop", entryFor("start-drawing %F"));
     expectEnabled();
     QVERIFY(content("home/applications/draw.desktop")
-                .contains("Exec=\"/opt/my tools/mouse-gestures\" start-drawing %F\n"));
+                .contains("Exec=" + kStart + "\"/opt/my tools/mouse-gestures\" start-drawing %F\n"));
     QVERIFY(menu().disable("draw", draw()).output.contains("draw.desktop is removed"));
 }
 

@@ -1,13 +1,24 @@
-// The command of a desktop entry: what a shell makes of it, and the launcher put into it.
+// The command of a desktop entry: how it is split, and how the launcher is put into it.
 
 #include "launcher/desktop/ExecLine.h"
 
 #include "tests/support/FatalWarnings.h"
 
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
 #include <QtTest>
 
 using launcher::ExecLine;
 using Words = QList<QByteArray>;
+
+namespace {
+
+// The text before the launcher's path.
+const QByteArray kStart =
+    R"(/bin/sh -c "[ -x \\"\\$0\\" ] && exec \\"\\$0\\" \\"\\$@\\"; exec \\"\\$@\\"" )";
+
+} // namespace
 
 class ExecLineTest : public QObject
 {
@@ -24,6 +35,8 @@ private Q_SLOTS:
     void whatIsNoCommand();
     void anArgumentComesBack_data();
     void anArgumentComesBack();
+    void startsTheProgramAlone();
+    void anyTextIsOneLine();
 };
 
 void ExecLineTest::reads_data()
@@ -68,13 +81,17 @@ void ExecLineTest::reads()
     QVERIFY(line.isValid);
     QCOMPARE(line.program, program);
     QCOMPARE(line.arguments, arguments);
+    started.replace("/usr/bin/mg ", kStart + "/usr/bin/mg ");
     QCOMPARE(line.startedBy("/usr/bin/mg"), started);
-    // The launcher is the program then, and gets what the program was.
+    // The program is a shell now. It gets the launcher, the program and its arguments.
     const ExecLine after = ExecLine::parse(started);
     QVERIFY(after.isValid);
-    QCOMPARE(after.program, QByteArray("/usr/bin/mg"));
-    QCOMPARE(QByteArray(after.arguments.value(0)).replace("%%", "%"), program);
-    QCOMPARE(after.arguments.mid(1), arguments);
+    QCOMPARE(after.program, QByteArray("/bin/sh"));
+    QCOMPARE(after.arguments.value(2), QByteArray("/usr/bin/mg"));
+    QCOMPARE(after.startedProgram(), program);
+    QCOMPARE(after.arguments.mid(4), arguments);
+    // Copies of earlier versions start the launcher itself.
+    QCOMPARE(ExecLine::parse("/usr/bin/mg " + ExecLine::encoded(program)).startedProgram(), program);
 }
 
 void ExecLineTest::whatIsNoCommand_data()
@@ -116,6 +133,47 @@ void ExecLineTest::anArgumentComesBack()
     const ExecLine line = ExecLine::parse(ExecLine::encoded(argument) + " %F");
     QVERIFY(line.isValid);
     QCOMPARE(line.program, argument);
+}
+
+void ExecLineTest::startsTheProgramAlone()
+{
+    const QTemporaryDir folder;
+    const auto script = [&folder](const char *name, const QByteArray &body) {
+        QFile file(folder.filePath(QLatin1String(name)));
+        const QByteArray text = "#!/bin/sh\n" + body + '\n';
+        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size()
+            || !file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner))
+            return QByteArray();
+        return QFile::encodeName(file.fileName());
+    };
+    const QByteArray program = script("a $b", R"(echo "program|$1|$2"; exit 7)");
+    const QByteArray launcher = script("the launcher", R"(echo "launcher|$1|$2|$3"; exit 9)");
+    const ExecLine started =
+        ExecLine::parse(ExecLine::parse(ExecLine::encoded(program) + " \"x y\" z").startedBy(launcher));
+    QVERIFY(started.isValid);
+    const auto run = [&started](int &status) {
+        QStringList arguments;
+        for (const QByteArray &argument : started.arguments)
+            arguments.append(QFile::decodeName(argument));
+        QProcess process;
+        process.start(QFile::decodeName(started.program), arguments);
+        process.waitForFinished();
+        status = process.exitCode();
+        return process.readAllStandardOutput();
+    };
+    int status = 0;
+    QCOMPARE(run(status), "launcher|" + program + "|x y|z\n");
+    QCOMPARE(status, 9);
+    QVERIFY(QFile::remove(QFile::decodeName(launcher)));
+    QCOMPARE(run(status), QByteArray("program|x y|z\n"));
+    QCOMPARE(status, 7);
+}
+
+void ExecLineTest::anyTextIsOneLine()
+{
+    QCOMPARE(ExecLine::escaped("/opt/a\nb\\c\td\re"), QByteArray(R"(/opt/a\nb\\c\td\re)"));
+    QCOMPARE(ExecLine::escaped(" x"), QByteArray(R"(\sx)"));
+    QCOMPARE(ExecLine::escaped("/usr/bin/draw"), QByteArray("/usr/bin/draw"));
 }
 
 QTEST_GUILESS_MAIN(ExecLineTest)

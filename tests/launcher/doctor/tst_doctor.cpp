@@ -1,4 +1,4 @@
-// What is said about a program in which gestures are to work, finding by finding.
+// What --doctor says about a program, finding by finding.
 
 #include "launcher/doctor/Doctor.h"
 
@@ -44,19 +44,20 @@ private Q_SLOTS:
         const Diagnosis diagnosis = diagnose(healthy(folder.path()));
         QVERIFY2(diagnosis.isHealthy, qPrintable(diagnosis.lines.join(QLatin1Char('\n'))));
         const QStringList expected{
-            QStringLiteral("program:     drafter, /opt/drafter"),
-            QStringLiteral("Qt:          5"),
-            QStringLiteral("plug-in:     /plugins/generic/libmousegestures-qt5.so"),
-            QStringLiteral("display:     X11, :7"),
-            QStringLiteral("compositor:  running"),
-            QStringLiteral("profile:     none of its own"),
-            QStringLiteral("views:       looked for in the running program, see --explain"),
-            QStringLiteral("settings:    %1/drafter.ini, not there yet").arg(folder.path()),
-            QStringLiteral("gestures:    on, 8 of them"),
-            QStringLiteral("trigger:     right"),
+            QStringLiteral("  program:     drafter, /opt/drafter"),
+            QStringLiteral("  Qt:          5"),
+            QStringLiteral("  plug-in:     /plugins/generic/libmousegestures-qt5.so"),
+            QStringLiteral("  display:     X11, :7"),
+            QStringLiteral("  compositor:  running"),
+            QStringLiteral("  profile:     none of its own"),
+            QStringLiteral("  views:       looked for in the running program, see --explain"),
+            QStringLiteral("  settings:    %1/drafter.ini, not there yet").arg(folder.path()),
+            QStringLiteral("  gestures:    on, 8 of them"),
+            QStringLiteral("  trigger:     right"),
         };
         QCOMPARE(diagnosis.lines, expected);
-        QVERIFY(!QFile::exists(folder.filePath(QStringLiteral("drafter.ini")))); // only looks
+        QVERIFY(
+            !QFile::exists(folder.filePath(QStringLiteral("drafter.ini")))); // --doctor writes nothing
     }
 
     void findings_data()
@@ -67,31 +68,31 @@ private Q_SLOTS:
         const auto row = [](const char *name, bool isHealthy, const char *says, const Change &change) {
             QTest::newRow(name) << change << isHealthy << QString::fromLatin1(says);
         };
-        row("no program", false, "program:     drafter, not found",
+        row("no program", false, "\n! program:     drafter, not found",
             [](Symptoms &symptoms, const QDir &) { symptoms.path.clear(); });
-        row("no Qt Widgets", false, "Qt:          none;",
+        row("no Qt Widgets", false, "\n! Qt:          none;",
             [](Symptoms &symptoms, const QDir &) { symptoms.use = QtWidgetsUse::None; });
-        row("a script", true, "Qt:          not known",
+        row("a script", true, "\n  Qt:          not known",
             [](Symptoms &symptoms, const QDir &) { symptoms.use = QtWidgetsUse::Unknown; });
-        row("plug-in for the other Qt only", false, "plug-in:     not installed for Qt 6",
+        row("plug-in for the other Qt only", false, "\n! plug-in:     not installed for Qt 6",
             [](Symptoms &symptoms, const QDir &) { symptoms.use = QtWidgetsUse::Qt6; });
-        row("no plug-in", false, "plug-in:     not installed", [](Symptoms &symptoms, const QDir &) {
+        row("no plug-in", false, "\n! plug-in:     not installed", [](Symptoms &symptoms, const QDir &) {
             symptoms.use = QtWidgetsUse::Unknown;
             symptoms.plugins.clear();
         });
-        row("no display", false, "display:     none",
+        row("no display", false, "\n! display:     none",
             [](Symptoms &symptoms, const QDir &) { symptoms.environment.clear(); });
-        row("Wayland with X11", true, "display:     Wayland; the program will use X11, :7",
+        row("Wayland with X11", true, "\n  display:     Wayland; the program will use X11, :7",
             [](Symptoms &symptoms, const QDir &) {
                 symptoms.environment.insert("WAYLAND_DISPLAY", "wayland-0");
             });
-        row("Wayland without X11", false, "display:     Wayland without X11",
+        row("Wayland without X11", false, "\n! display:     Wayland without X11",
             [](Symptoms &symptoms, const QDir &) {
                 symptoms.environment = {{"WAYLAND_DISPLAY", "wayland-0"}};
             });
-        row("no compositor", true, "compositor:  none",
+        row("no compositor", true, "\n  compositor:  none",
             [](Symptoms &symptoms, const QDir &) { symptoms.compositor = Symptoms::Compositor::None; });
-        row("compositor not known", true, "compositor:  not known",
+        row("compositor not known", true, "\n  compositor:  not known",
             [](Symptoms &symptoms, const QDir &) {
                 symptoms.compositor = Symptoms::Compositor::Unknown;
             });
@@ -100,31 +101,31 @@ private Q_SLOTS:
                       R"({"version": 1, "program": "drafter"})");
             symptoms.profileFolders = QStringList{folder.path()};
         });
-        row("views of the profile", true, "views:       Canvas, Sheet, by the profile",
+        row("views of the profile", true, "\n  views:       Canvas, Sheet, by the profile",
             [](Symptoms &symptoms, const QDir &folder) {
                 writeFile(folder.filePath(QStringLiteral("drafter.json")),
                           R"({"version": 1, "program": "drafter",)"
                           R"("viewClasses": ["Canvas", "Sheet"]})");
                 symptoms.profileFolders = QStringList{folder.path()};
             });
-        row("trigger of the profile", true, "trigger:     shift+middle",
+        row("trigger of the profile", true, "\n  trigger:     shift+middle",
             [](Symptoms &symptoms, const QDir &folder) {
                 writeFile(folder.filePath(QStringLiteral("drafter.json")),
                           R"({"version": 1, "program": "drafter",)"
                           R"("trigger": {"button": "middle", "modifiers": ["shift"]}})");
                 symptoms.profileFolders = QStringList{folder.path()};
             });
-        row("broken profile", false, "profile:     the profile ",
+        row("broken profile", false, "\n! profile:     the profile ",
             [](Symptoms &symptoms, const QDir &folder) {
                 writeFile(folder.filePath(QStringLiteral("drafter.json")), "{");
                 symptoms.profileFolders = QStringList{folder.path()};
             });
-        row("trigger of the settings", true, "trigger:     ctrl+right",
+        row("trigger of the settings", true, "\n  trigger:     ctrl+right",
             [](Symptoms &, const QDir &folder) {
                 writeFile(folder.filePath(QStringLiteral("drafter.ini")),
                           "[Host]\nTrigger=ctrl+right\n");
             });
-        row("switched off", false, "gestures:    switched off", [](Symptoms &, const QDir &folder) {
+        row("switched off", false, "\n! gestures:    switched off", [](Symptoms &, const QDir &folder) {
             writeFile(folder.filePath(QStringLiteral("drafter.ini")),
                       "[GestureWidget]\nEnableMouseGesture=0\n");
         });
@@ -152,9 +153,19 @@ private Q_SLOTS:
         Symptoms symptoms = healthy(folder.path());
         change(symptoms, QDir(folder.path()));
         const Diagnosis diagnosis = diagnose(symptoms);
-        const QString lines = diagnosis.lines.join(QLatin1Char('\n'));
+        const QString lines = QLatin1Char('\n') + diagnosis.lines.join(QLatin1Char('\n'));
         QVERIFY2(lines.contains(says), qPrintable(lines));
         QCOMPARE(diagnosis.isHealthy, isHealthy);
+        QCOMPARE(lines.contains(QStringLiteral("\n! ")), !isHealthy);
+    }
+
+    void ofNoProgramNothingElseIsSaid()
+    {
+        const QTemporaryDir folder;
+        Symptoms symptoms = healthy(folder.path());
+        symptoms.path.clear();
+        QCOMPARE(diagnose(symptoms).lines,
+                 QStringList(QStringLiteral("! program:     drafter, not found")));
     }
 
     void aDisplayThatDoesNotAnswer()

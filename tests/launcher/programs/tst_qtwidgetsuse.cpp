@@ -67,8 +67,8 @@ private Q_SLOTS:
         QCOMPARE(launcher::qtWidgetsUse(path, {}, systemFolders()), use);
     }
 
-    // The program alone, its library somewhere else: found only where the loader is told
-    // to look.
+    // The program's library is in another folder. It is found only where the loader is told to
+    // look.
     void libraryPath()
     {
         const QByteArray moved = write("moved", contents(fixture("origin")));
@@ -109,7 +109,7 @@ private Q_SLOTS:
         QVERIFY(ElfFile::read(fixture("origin")).runpath.contains("$ORIGIN"));
     }
 
-    // Every cut and many a flipped byte must end in an answer.
+    // Every damaged file gets an answer.
     void damagedFiles()
     {
         const QByteArray whole = contents(fixture("direct"));
@@ -146,6 +146,20 @@ private Q_SLOTS:
     {
         const QByteArray path = write("self.conf", "include self.conf\n/opt/a\n");
         QVERIFY(launcher::systemLibraryFolders(path).contains("/opt/a"));
+    }
+
+    // If a file were read again for each include line, these would take minutes.
+    void loaderConfigurationsThatIncludeEachOther()
+    {
+        QVERIFY(QDir().mkpath(m_folder.filePath(QStringLiteral("circle"))));
+        for (char name = 'a'; name <= 'f'; ++name)
+            write(qPrintable(QStringLiteral("circle/%1.conf").arg(QLatin1Char(name))),
+                  QByteArray("include *.conf\n/opt/") + name + '\n');
+        const QByteArray path = QFile::encodeName(m_folder.filePath(QStringLiteral("circle/a.conf")));
+        const QList<QByteArray> folders = launcher::systemLibraryFolders(path);
+        QCOMPARE(folders.size(), 6 + 4);
+        for (char name = 'a'; name <= 'f'; ++name)
+            QCOMPARE(folders.count(QByteArray("/opt/") + name), 1);
     }
 
     void noLoaderConfiguration()

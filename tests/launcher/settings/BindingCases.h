@@ -8,25 +8,25 @@
 #include <QString>
 #include <QVector>
 
-// Files of bindings and what is said of them: fixtures/cases.json, which the schema
-// is judged by as well, see test_schema.py.
+// Files of bindings, and what is said about them. They are in fixtures/cases.json; test_schema.py
+// tries the schema with the same files.
 namespace tests {
 
 struct BindingCase
 {
     QByteArray name;
     QByteArray text; // the file
-    QString says; // where it is refused, some of what is said; empty where it is taken
+    QString says; // for a refused file, a part of the complaint; empty for an accepted one
 };
 
-// What is exported for a program called "drafter" that has its first bindings.
+// The export of a program called "drafter" with its first bindings.
 inline QByteArray exportedBindings()
 {
     QFile file(QStringLiteral(TESTS_SOURCE_DIR "/launcher/settings/fixtures/exported.json"));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-// None when there is anything wrong with the table.
+// Empty when something is wrong with the table.
 inline QVector<BindingCase> bindingCases()
 {
     QFile file(QStringLiteral(TESTS_SOURCE_DIR "/launcher/settings/fixtures/cases.json"));

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Judges the files of fixtures/ by docs/bindings.schema.json, as the code is."""
+"""Tries docs/bindings.schema.json with the files of fixtures/ that the code is tried with."""
 
 import json
 import sys
@@ -34,7 +34,7 @@ def main():
     assert len(cases) > 50
     wrong = []
     for case in cases:
-        # Some of what the code refuses no schema can say.
+        # A schema cannot express some of the rules.
         expected = case["says"] == "" or case.get("beyondSchema", False)
         if is_valid(validator, text_of(case, exported)) != expected:
             wrong.append(f"{case['name']}: should be {'taken' if expected else 'refused'}")

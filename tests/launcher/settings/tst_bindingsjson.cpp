@@ -1,11 +1,14 @@
-// Bindings as JSON: what is taken and what is refused, and that the schema says the same.
+// Bindings as JSON: what is accepted, what is refused, and that the schema says the same.
 
 #include "launcher/settings/BindingsJson.h"
 
+#include "host/files/TriggerText.h"
 #include "tests/launcher/settings/BindingCases.h"
 #include "tests/support/FatalWarnings.h"
 
 #include <QtTest>
+
+#include <algorithm>
 
 using launcher::Bindings;
 
@@ -68,14 +71,14 @@ private Q_SLOTS:
         QCOMPARE(bindings.eight.at(0) == QLatin1String("as it was"), !isTaken);
         if (!isTaken)
             return;
-        // What was taken is exported in a way that is taken as the same.
+        // The export of what was accepted means the same.
         Bindings again;
         const QByteArray exported = launcher::bindingsToJson(bindings, kProgram);
         QVERIFY(launcher::bindingsFromJson(exported, kProgram, again, problem));
         QCOMPARE(again.toSettings(), bindings.toSettings());
     }
 
-    // What the schema allows is what is written, no key more and none less.
+    // The schema allows exactly the keys that are written.
     void schemaNamesTheKeys()
     {
         QFile file(QStringLiteral(TESTS_SOURCE_DIR "/../docs/bindings.schema.json"));
@@ -91,6 +94,50 @@ private Q_SLOTS:
         const QJsonObject properties = schema.value(QStringLiteral("properties")).toObject();
         compare(properties.value(QStringLiteral("four")).toObject(), Bindings::directionNames(4));
         compare(properties.value(QStringLiteral("eight")).toObject(), Bindings::directionNames(8));
+    }
+
+    // A schema cannot ignore the case, so its pattern has each letter twice.
+    void schemaNamesTheTriggers()
+    {
+        const auto anyCase = [](const QString &name) {
+            QString pattern;
+            for (const QChar letter : name)
+                pattern += QStringLiteral("[%1%2]").arg(letter.toUpper()).arg(letter);
+            return pattern;
+        };
+        QStringList keys;
+        QString once;
+        const QStringList modifiers = gesturewidget::modifierNames();
+        for (const QString &name : modifiers) {
+            const bool isControl = name == QLatin1String("ctrl");
+            const QString key =
+                isControl
+                    ? QStringLiteral("(%1|%2)").arg(anyCase(name), anyCase(QStringLiteral("control")))
+                    : anyCase(name);
+            keys.append(key + QStringLiteral("\\+"));
+            once += QStringLiteral("(?!.*%1\\+.*%1\\+)").arg(key);
+        }
+        QStringList buttons = gesturewidget::buttonNames();
+        buttons.removeAll(QStringLiteral("left"));
+        std::transform(buttons.begin(), buttons.end(), buttons.begin(), anyCase);
+        const QString held = keys.join(QLatin1Char('|'));
+        const QString pattern =
+            QStringLiteral("^%1((%2)*(%3)|(%2)+%4)$")
+                .arg(once, held, buttons.join(QLatin1Char('|')), anyCase(QStringLiteral("left")));
+        QFile file(QStringLiteral(TESTS_SOURCE_DIR "/../docs/bindings.schema.json"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QJsonObject schema = QJsonDocument::fromJson(file.readAll()).object();
+        const QJsonObject trigger = schema.value(QStringLiteral("properties"))
+                                        .toObject()
+                                        .value(QStringLiteral("trigger"))
+                                        .toObject();
+        QCOMPARE(trigger.value(QStringLiteral("anyOf"))
+                     .toArray()
+                     .at(1)
+                     .toObject()
+                     .value(QStringLiteral("pattern"))
+                     .toString(),
+                 pattern);
     }
 };
 

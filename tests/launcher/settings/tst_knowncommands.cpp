@@ -1,8 +1,9 @@
-// The commands that a program has shown: listed, and found by what people call them.
+// The commands that a program has shown: listing them, and finding one by what a person types.
 
 #include "launcher/settings/KnownCommands.h"
 
 #include "tests/support/FatalWarnings.h"
+#include "tests/support/FolderTest.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -11,13 +12,9 @@
 
 using launcher::KnownCommands;
 using launcher::Outcome;
+using tests::text;
 
 namespace {
-
-QString text(const char *latin)
-{
-    return QString::fromLatin1(latin);
-}
 
 const QString kProgram = QStringLiteral("drafter");
 
@@ -30,7 +27,9 @@ KnownCommands shown()
          {text("File/Export/Picture..."), {}, text("Picture..."), {}, text("File"), {}, false},
          {text("viewGrid"), {}, text("Grid"), {}, text("View"), {}, false},
          {text("snapGrid"), {}, text("Grid"), {}, text("Snap"), {}, true},
-         {text("odd"), {}, {}, {}, {}, {}, false}},
+         {text("odd"), {}, {}, {}, {}, {}, false},
+         {text("Save"), {}, text("Save"), {}, text("Main"), {}, true},
+         {text("fileSave"), {}, text("Save..."), {}, text("File"), {}, false}},
         {text("ID_TRIM"), text("ID_LINE")});
 }
 
@@ -72,7 +71,14 @@ void KnownCommandsTest::resolves_data()
     row("viewGrid", "viewGrid");
     row("ID_TRIM", "ID_TRIM"); // well known, though not shown
     row("odd", "odd");
-    row("Grid", "", "several commands are called \"Grid\": viewGrid, snapGrid");
+    row("Grid", "", "several commands are called \"Grid\": viewGrid (View/Grid), snapGrid (Snap/Grid)");
+    row("view/grid", "viewGrid");
+    row("Snap/Grid", "snapGrid");
+    // The identifier of an action in a toolbar is the caption of an action in a menu.
+    row("Save", "", "several commands are called \"Save\": fileSave (File/Save...), Save (Main/Save)");
+    row("file/save", "fileSave");
+    row("Main/Save", "Save");
+    row("fileSave", "fileSave");
     row("Circle", "",
         "drafter has never shown a command \"Circle\"; mouse-gestures --list-commands drafter says "
         "which it has");
@@ -103,7 +109,7 @@ void KnownCommandsTest::nothingShownYet()
         QCOMPARE(nothing.resolve(text(given), kProgram, found), QString());
         QCOMPARE(found, text(given));
     }
-    const QString says = text("no command of drafter is known before it was started once with "
+    const QString says = text("no command of drafter is known yet; start it once with "
                               "\"mouse-gestures drafter\"");
     QCOMPARE(nothing.list(kProgram).complaint, says);
     QCOMPARE(nothing.listAsJson(kProgram).complaint, says);
@@ -125,12 +131,15 @@ void KnownCommandsTest::list()
                                         "  drawArc                 Arc...\n"
                                         "File\n"
                                         "  File/Export/Picture...  Picture...\n"
+                                        "  fileSave                Save...\n"
                                         "View\n"
                                         "  viewGrid                Grid\n"
                                         "Snap\n"
                                         "  snapGrid                Grid\n"
                                         "-\n"
-                                        "  odd\n"));
+                                        "  odd\n"
+                                        "Main\n"
+                                        "  Save                    Save\n"));
 }
 
 void KnownCommandsTest::listAsJson()
@@ -139,7 +148,7 @@ void KnownCommandsTest::listAsJson()
     QCOMPARE(list.value(text("version")), QJsonValue(1));
     QCOMPARE(list.value(text("program")), QJsonValue(kProgram));
     const QJsonArray commands = list.value(text("commands")).toArray();
-    QCOMPARE(commands.size(), 6);
+    QCOMPARE(commands.size(), 8);
     const QJsonObject arc{{text("identifier"), text("drawArc")},
                           {text("caption"), text("Arc...")},
                           {text("tip"), text("Draws an arc")},

@@ -1,4 +1,4 @@
-// Showing and changing what is kept for a program, in a file that the host reads too.
+// Showing and changing what is kept for a program, in the file that the host reads too.
 
 #include "launcher/settings/SettingsTasks.h"
 
@@ -7,47 +7,37 @@
 #include "launcher/settings/Bindings.h"
 #include "launcher/settings/BindingsJson.h"
 #include "tests/launcher/settings/BindingCases.h"
-#include "tests/support/FatalWarnings.h"
+#include "tests/support/FolderTest.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
 #include <QtTest>
-
-#include <memory>
 
 using gesturewidget::SettingsFile;
 using launcher::Bindings;
 using launcher::Outcome;
 using launcher::SettingsTasks;
+using tests::contentOf;
+using tests::text;
 
 namespace {
 
 const QString kProgram = QStringLiteral("drafter");
 
-QString text(const char *latin)
-{
-    return QString::fromLatin1(latin);
-}
-
 } // namespace
 
-class SettingsTasksTest : public QObject
+class SettingsTasksTest : public tests::FolderTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { tests::failOnWarnings(); }
     void init()
     {
-        tests::resetWarnings();
-        m_folder = std::make_unique<QTemporaryDir>();
-        QVERIFY(m_folder->isValid());
-        m_file = m_folder->filePath(QStringLiteral("config/drafter.ini"));
-        m_export = m_folder->filePath(QStringLiteral("kept.json"));
+        FolderTest::init();
+        m_file = place(QStringLiteral("config/drafter.ini"));
+        m_export = place(QStringLiteral("kept.json"));
     }
-    void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
 
     void withoutSettingsTheFirstBindingsAreShown();
     void theSchemeInUseIsShownFirst();
@@ -67,25 +57,13 @@ private Q_SLOTS:
     void importRefusesWithItsLine_data();
     void importRefusesWithItsLine();
     void whatIsNoFileIsRefused();
+    void deepNestingIsRefusedAtOnce();
+    void onlyWhatChangedIsWritten();
     void whatCannotBeWrittenIsSaid();
 
 private:
     SettingsTasks tasks() const { return SettingsTasks(kProgram, m_file); }
     Bindings kept() const { return Bindings::fromSettings(SettingsFile(m_file).read()); }
-    void write(const QString &path, const QByteArray &content) const
-    {
-        QVERIFY(QDir().mkpath(QFileInfo(path).absolutePath()));
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(content), content.size());
-    }
-    QByteArray content(const QString &path) const
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<none>");
-    }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
     QString m_file;
     QString m_export;
 };
@@ -95,6 +73,7 @@ void SettingsTasksTest::withoutSettingsTheFirstBindingsAreShown()
     const Outcome outcome = tasks().showBindings();
     QVERIFY(outcome.isDone());
     QCOMPARE(outcome.output, QByteArray("gestures in drafter: on\n"
+                                        "started with: right (default)\n"
                                         "8 gestures (in use)\n"
                                         "  up         ID_ZOOM_BOUNDS\n"
                                         "  up-left    ID_OFFSET\n"
@@ -109,7 +88,7 @@ void SettingsTasksTest::withoutSettingsTheFirstBindingsAreShown()
                                         "  left       ID_OPEN\n"
                                         "  down       ID_SAVE\n"
                                         "  right      ID_LINE\n"));
-    QVERIFY(!QFileInfo::exists(m_file)); // looking is not touching
+    QVERIFY(!QFileInfo::exists(m_file)); // showing writes nothing
 }
 
 void SettingsTasksTest::theSchemeInUseIsShownFirst()
@@ -185,9 +164,9 @@ void SettingsTasksTest::aCommandByItsCaption()
     QCOMPARE(kept().eight.at(0), text("ID_LINE"));
     QCOMPARE(kept().eight.at(6), QString()); // where it was before
 
-    const QByteArray before = content(m_file);
+    const QByteArray before = contentOf(m_file);
     QVERIFY(named.bind(text("down"), text("Circle")).complaint.contains(text("never shown")));
-    QCOMPARE(content(m_file), before);
+    QCOMPARE(contentOf(m_file), before);
     QVERIFY(named.bind(text("up-left"), text("none")).isDone());
     QCOMPARE(kept().eight.at(1), QString());
 
@@ -205,7 +184,7 @@ void SettingsTasksTest::aCommandHasOneDirection()
     QCOMPARE(kept().eight.at(0), text("ID_LINE"));
     QCOMPARE(kept().eight.at(6), QString());
     QCOMPARE(kept().four, Bindings::initial().four); // the other scheme keeps its own
-    // Empty directions are not one command that moves about.
+    // Several directions may be empty.
     QVERIFY(tasks().bind(text("left"), text("none")).isDone());
     QCOMPARE(kept().eight.count(QString()), 2);
     QCOMPARE(kept().eight.at(1), text("ID_OFFSET"));
@@ -219,14 +198,16 @@ void SettingsTasksTest::otherProgramsValuesStay()
     QCOMPARE(values.value(text("Window/width")), text("700"));
     QCOMPARE(values.value(text("GestureWidget/EnableMouseGesture")), text("0"));
     QCOMPARE(values.value(text("GestureWidget/81")), text("Draw%,\xe4;\""));
-    QCOMPARE(content(m_file + text(".bak")), content(m_file)); // the last good copy is up to date
+    QCOMPARE(contentOf(m_file + text(".bak")), contentOf(m_file)); // the last good copy is up to date
 }
 
 void SettingsTasksTest::resetKeepsTheTrigger()
 {
     QVERIFY(tasks().setTrigger(text("middle")).isDone());
     QVERIFY(tasks().bind(text("up"), text("DrawArc")).isDone());
-    QVERIFY(tasks().reset().isDone());
+    const Outcome outcome = tasks().reset();
+    QVERIFY(outcome.isDone());
+    QCOMPARE(outcome.output, QByteArray("gestures are still started with: middle\n"));
     QCOMPARE(kept().eight, Bindings::initial().eight);
     QCOMPARE(kept().trigger, text("middle"));
     const SettingsFile::Values values = SettingsFile(m_file).read();
@@ -260,7 +241,7 @@ void SettingsTasksTest::badInputChangesNothing()
     QVERIFY(!outcome.isDone());
     QVERIFY2(outcome.complaint.contains(says), qPrintable(outcome.complaint));
     QVERIFY(!outcome.complaint.contains(QLatin1Char('\n')));
-    QCOMPARE(content(m_file), before);
+    QCOMPARE(contentOf(m_file), before);
 }
 
 void SettingsTasksTest::triggers_data()
@@ -299,7 +280,7 @@ void SettingsTasksTest::triggers()
     const QString now = SettingsFile(m_file).read().value(text("Host/Trigger"));
     if (kept == text("<refused>")) {
         QVERIFY(!outcome.isDone());
-        QCOMPARE(content(m_file), QByteArray("[Host]\nTrigger=shift+middle\n"));
+        QCOMPARE(contentOf(m_file), QByteArray("[Host]\nTrigger=shift+middle\n"));
         return;
     }
     QVERIFY(outcome.isDone());
@@ -321,7 +302,7 @@ void SettingsTasksTest::exportAndImportAreInverse()
     SettingsFile settings(m_file);
     QVERIFY(settings.write(bindings.toSettings()));
     QVERIFY(tasks().exportTo(m_export).isDone());
-    QCOMPARE(content(m_export), tasks().showBindingsAsJson().output);
+    QCOMPARE(contentOf(m_export), tasks().showBindingsAsJson().output);
     const SettingsFile::Values before = SettingsFile(m_file).read();
 
     QVERIFY(tasks().reset().isDone());
@@ -340,12 +321,12 @@ void SettingsTasksTest::importKeepsTheOldSettings()
     QVERIFY(!QFileInfo::exists(backup)); // there was nothing to keep
 
     QVERIFY(tasks().bind(text("up"), text("DrawArc")).isDone());
-    const QByteArray old = content(m_file);
+    const QByteArray old = contentOf(m_file);
     QVERIFY(tasks().importFrom(m_export).isDone());
-    QCOMPARE(content(backup), old);
-    QVERIFY(content(m_file) != old);
+    QCOMPARE(contentOf(backup), old);
+    QVERIFY(contentOf(m_file) != old);
 
-    // Where nothing can be kept, nothing is taken over.
+    // If the old settings cannot be kept, nothing is imported.
     QVERIFY(QFile::remove(backup));
     QVERIFY(QDir().mkpath(backup));
     QVERIFY(tasks().bind(text("up"), text("DrawArc")).isDone());
@@ -372,13 +353,13 @@ void SettingsTasksTest::importRefusesWithItsLine()
     QVERIFY(tasks().bind(text("up"), text("DrawArc")).isDone());
     write(m_export, json);
 
-    const QByteArray before = content(m_file);
+    const QByteArray before = contentOf(m_file);
     const Outcome outcome = tasks().importFrom(m_export);
     QVERIFY(!outcome.isDone());
     QVERIFY2(outcome.complaint.contains(says), qPrintable(outcome.complaint));
     QVERIFY(outcome.complaint.startsWith(m_export));
     QVERIFY(!outcome.complaint.contains(QLatin1Char('\n')));
-    QCOMPARE(content(m_file), before);
+    QCOMPARE(contentOf(m_file), before);
     QVERIFY(!QFileInfo::exists(m_file + text(".before-import")));
 }
 
@@ -386,7 +367,7 @@ void SettingsTasksTest::whatIsNoFileIsRefused()
 {
     QVERIFY(tasks().importFrom(m_export).complaint.contains(text("there is no such file")));
     QVERIFY(tasks().importFrom(m_folder->path()).complaint.contains(text("this is not a file")));
-    write(m_export, QByteArray(1024 * 1024 + 1, ' '));
+    write(m_export, QByteArray(SettingsTasks::kMaximalImport + 1, ' '));
     QVERIFY(tasks().importFrom(m_export).complaint.contains(text("too long")));
     for (const char *nothing : {"", "[]", "7", "\"text\"", "{}"}) {
         write(m_export, nothing);
@@ -395,14 +376,50 @@ void SettingsTasksTest::whatIsNoFileIsRefused()
     QVERIFY(!QFileInfo::exists(m_file));
 }
 
+// Qt parses up to 1024 levels. With many keys in them, reading all that would take gigabytes.
+void SettingsTasksTest::deepNestingIsRefusedAtOnce()
+{
+    QByteArray keys;
+    for (int i = 0; keys.size() < 100000; ++i)
+        keys += "\"" + QByteArray::number(i) + "\":0,";
+    QByteArray nested;
+    for (int i = 0; i < 1000; ++i)
+        nested += "{\n\"key\":";
+    write(m_export, nested + '{' + keys + "\"x\":0}" + QByteArray(1000, '}'));
+    const Outcome outcome = tasks().importFrom(m_export);
+    QCOMPARE(outcome.complaint, m_export + text(", line 9: this is nested too deeply for bindings"));
+    write(m_export, QByteArray(60000, '['));
+    QVERIFY(tasks().importFrom(m_export).complaint.contains(text("line 1: this is nested too deeply")));
+    // Brackets inside a text do not count.
+    write(m_export, "{\"a\": \"" + QByteArray(100, '{') + "\\\"" + QByteArray(100, '[') + "\"}");
+    QVERIFY(tasks().importFrom(m_export).complaint.contains(text("line 1: \"a\" is no key")));
+}
+
+// Keys that a task does not change may be changed by another program meanwhile.
+void SettingsTasksTest::onlyWhatChangedIsWritten()
+{
+    const auto keys = [this] { return SettingsFile(m_file).read().keys(); };
+    QVERIFY(tasks().setTrigger(text("middle")).isDone());
+    QCOMPARE(keys(), QStringList(text("Host/Trigger")));
+    QVERIFY(tasks().bind(text("up"), text("DrawArc")).isDone());
+    QStringList expected; // all directions of the scheme, since a missing one would count as empty
+    for (int i = 1; i <= 8; ++i)
+        expected.append(text("GestureWidget/8%1").arg(i));
+    QCOMPARE(keys(), expected + QStringList(text("Host/Trigger")));
+    QVERIFY(tasks().bind(text("down"), text("DrawArc")).isDone());
+    QCOMPARE(kept().eight.at(0), QString());
+    QCOMPARE(kept().eight.at(4), text("DrawArc"));
+    QCOMPARE(kept().four, Bindings::initial().four);
+}
+
 void SettingsTasksTest::whatCannotBeWrittenIsSaid()
 {
-    QVERIFY(QDir().mkpath(m_folder->filePath(QStringLiteral("config/drafter.json"))));
-    const QString folder = m_folder->filePath(QStringLiteral("config/drafter.json"));
+    QVERIFY(QDir().mkpath(place(QStringLiteral("config/drafter.json"))));
+    const QString folder = place(QStringLiteral("config/drafter.json"));
     QCOMPARE(tasks().exportTo(folder).complaint, folder + text(" cannot be written"));
-    // Where the settings should lie, there is a file in place of their folder.
-    write(m_folder->filePath(QStringLiteral("file")), "x");
-    const QString impossible = m_folder->filePath(QStringLiteral("file/drafter.ini"));
+    // There is a file in place of the folder of the settings.
+    write(place(QStringLiteral("file")), "x");
+    const QString impossible = place(QStringLiteral("file/drafter.ini"));
     SettingsTasks tasks(kProgram, impossible);
     QCOMPARE(tasks.bind(text("up"), text("DrawArc")).complaint, impossible + text(" cannot be written"));
     QCOMPARE(tasks.reset().complaint, impossible + text(" cannot be written"));

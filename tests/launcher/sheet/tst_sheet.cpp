@@ -1,4 +1,4 @@
-// The sheet to pin on the wall: what stands on it, and that all of it has its room.
+// The sheet to pin on the wall: its texts, and that each has enough room.
 
 #include "launcher/settings/Bindings.h"
 #include "launcher/settings/KnownCommands.h"
@@ -8,7 +8,9 @@
 #include "launcher/sheet/SheetTask.h"
 #include "resources/draw/RingGeometry.h"
 #include "tests/support/FatalWarnings.h"
+#include "tests/support/FolderTest.h"
 
+#include <QDir>
 #include <QFontMetricsF>
 #include <QImage>
 #include <QPainter>
@@ -19,13 +21,9 @@
 using launcher::Bindings;
 using launcher::KnownCommands;
 using launcher::SheetContent;
+using tests::text;
 
 namespace {
-
-QString text(const char *latin)
-{
-    return QString::fromLatin1(latin);
-}
 
 SheetContent content(int count, const QString &caption)
 {
@@ -93,7 +91,7 @@ void SheetTest::labelsLieInTheirSectors()
     const QRectF box = sheet::RingPicture::labelBox(count, index);
     const QPainterPath sector = draw::sectorPath(count, index, draw::kInnerRadius, draw::kOuterRadius);
     QVERIFY(sector.contains(box));
-    QVERIFY(sector.contains(box.adjusted(-2.0, -2.0, 2.0, 2.0))); // with some air around it
+    QVERIFY(sector.contains(box.adjusted(-2.0, -2.0, 2.0, 2.0))); // with a margin
     QVERIFY2(box.width() >= 34.0 && box.height() >= 20.0,
              qPrintable(QStringLiteral("%1 x %2").arg(box.width()).arg(box.height())));
 }
@@ -343,7 +341,8 @@ void SheetTest::whatCannotBePrinted()
     QVERIFY(launcher::printSheet(wrong, text(DRAWER), file)
                 .complaint.contains(text("this is started by mouse-gestures --print")));
     QVERIFY(isKept());
-    for (const QString &path : {place("no/such/folder.pdf"), m_folder.path()})
+    QVERIFY(QDir(m_folder.path()).mkdir(text("folder.pdf")));
+    for (const QString &path : {place("no/such/folder.pdf"), place("folder.pdf")})
         QCOMPARE(launcher::printSheet(wanted, text(DRAWER), path).complaint,
                  path + text(" cannot be written"));
     QCOMPARE(QDir(m_folder.path()).entryList({text("kept*")}, QDir::Files).size(), 1);

@@ -14,7 +14,7 @@ public:
     using QWidget::QWidget;
 };
 
-// The main window of a program that knows nothing of gestures.
+// The main window of a program that does not know gestures.
 class GuestWindow : public QMainWindow
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ public:
     GuestWindow();
     ~GuestWindow() override;
 
-    // Whether the Tools menu holds the entry of the module.
+    // True if the Tools menu has the module's entry.
     [[nodiscard]] bool hasEntry() const;
     [[nodiscard]] QAction *entry() const;
     // Presses the right button in the middle of the view and drags to the right.
@@ -31,9 +31,9 @@ public:
     void dragTo(int distance);
     void release(int distance);
 
-    // A new view in place of the one that is there, if any.
+    // Opens a view in place of the present one, if any.
     void openView();
-    // A new menu bar with the same menus, as programs make one for another task.
+    // Replaces the menu bar by one with the same menus, as programs do for another task.
     void replaceMenuBar();
 
     GuestView *view = nullptr;

@@ -19,8 +19,8 @@
 #include <functional>
 #include <memory>
 
-// A program that ends in the way its first argument says. Writes one line on standard
-// output for each thing that it saw.
+// A program that ends in the way that its first argument names. It writes a line to standard
+// output for each event that matters.
 namespace {
 
 constexpr int kNoEntry = 90; // the exit status when the module's entry never came
@@ -93,7 +93,8 @@ int runWithoutWidgets(int argc, char **argv)
     return QGuiApplication::exec();
 }
 
-// The window is a local of main() and goes after the event loop, before the application.
+// The window is a local variable of main(): it is destroyed after the event loop and before the
+// application.
 int runWith(int argc, char **argv, const std::function<void(GuestWindow &)> &script)
 {
     QApplication app(argc, argv);
@@ -134,7 +135,7 @@ int runWindowFirst(int argc, char **argv, bool isLater)
     return QApplication::exec();
 }
 
-// The dialog runs an event loop inside the module, and the window is destroyed from within it.
+// The dialog runs an event loop inside the module. The window is destroyed from that loop.
 int runWindowGoneWithDialog(int argc, char **argv)
 {
     QApplication app(argc, argv);
@@ -178,7 +179,7 @@ int runSecondWindow(int argc, char **argv)
     return QApplication::exec();
 }
 
-// Two windows at a time, of which the first is closed, or destroyed.
+// Two windows exist, and the first one is closed or destroyed.
 int runTwoWindows(int argc, char **argv, bool isDestroyed)
 {
     QApplication app(argc, argv);
@@ -256,7 +257,7 @@ int runWithoutEventLoop(int argc, char **argv)
     return 0;
 }
 
-// Logs what it gets of a script. Without a plug-in there is no entry to wait for.
+// Logs the events of a script. Without a plug-in there is no menu entry to wait for.
 int runEvents(int argc, char **argv)
 {
     const QByteArray script = argc > 2 ? argv[2] : "";
@@ -271,7 +272,7 @@ int runEvents(int argc, char **argv)
     return QApplication::exec();
 }
 
-// The command of a gesture opens a modal dialog, which is there until somebody closes it.
+// A gesture's command opens a modal dialog, which stays until it is closed.
 void runDialogCommand(GuestWindow &window)
 {
     auto *dialog = new QDialog(&window);
@@ -282,7 +283,7 @@ void runDialogCommand(GuestWindow &window)
         QObject::disconnect(window.line, nullptr, dialog, nullptr);
         dialog->setProperty("isDone", true);
     });
-    // Asked for before the gesture, which comes back when the dialog is closed.
+    // Ask before the gesture, which returns only when the dialog is closed.
     when([dialog] { return dialog->isVisible(); },
          [&window, dialog] {
              // Behind the dialog nothing happens.
@@ -300,7 +301,7 @@ void runDialogCommand(GuestWindow &window)
     runGesture(window);
 }
 
-// The view goes, in some way, and another comes.
+// The view is destroyed in some way, and a new one opens.
 void runInNextView(GuestWindow &window)
 {
     window.openView();
@@ -316,7 +317,7 @@ void runInNextView(GuestWindow &window)
          });
 }
 
-// Waits for what the host says in place of an entry, as long as a module would have taken.
+// Waits for the host's message in place of a menu entry, as long as a module would have needed.
 int runWithoutModule(int argc, char **argv)
 {
     QApplication app(argc, argv);
@@ -334,7 +335,7 @@ int runWithoutModule(int argc, char **argv)
     return QApplication::exec();
 }
 
-// Stays until it is told to quit; its drawing opens after its menus are complete.
+// Runs until it is told to quit. Its drawing opens after its menus are complete.
 int runLateView(int argc, char **argv)
 {
     QApplication app(argc, argv);

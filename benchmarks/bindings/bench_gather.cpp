@@ -1,0 +1,137 @@
+// What it takes to gather the ring's data when a gesture begins, beside one pass over the same
+// commands.
+
+#include "bindings/MgDonutDataContainer.h"
+#include "tests/fakehost/FakeHost.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QPixmap>
+#include <QStandardPaths>
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <vector>
+
+namespace {
+
+// A host with so many commands, all of them in its menus and each with an icon of its own.
+class Program
+{
+public:
+    explicit Program(int count)
+    {
+        QPixmap pixmap(16, 16);
+        constexpr int kMenus = 10;
+        tests::FakeMenuItem *menus[kMenus];
+        for (int menu = 0; menu < kMenus; ++menu)
+            menus[menu] = host.addTopLevelMenu(QStringLiteral("&Menu %1").arg(menu));
+        // Menu by menu, as programs do.
+        for (int number = 0; number < count; ++number) {
+            const QString name = QString::number(number);
+            tests::FakeCommandItem *item = host.commands.addCommand(
+                QLatin1String("ID_COMMAND_") + name, QLatin1String("command ") + name,
+                QLatin1String("Command ") + name, QLatin1String("What it does, number ") + name);
+            item->smallIcon = QIcon(pixmap);
+            tests::FakeMenuItem *entry = host.ui.addItem(menus[number * kMenus / count]->subItems.get(),
+                                                         item->caption, false, {}, item);
+            items.push_back(item);
+            entries.push_back(entry);
+        }
+        // As a user has them: spread over the commands.
+        for (int direction = 1; direction <= 8; ++direction) {
+            const QString id = items[count / 9 * direction]->identifier;
+            host.store.values.insert(QString::number(80 + direction), id);
+            if (direction <= 4)
+                host.store.values.insert(QString::number(40 + direction), id);
+        }
+        host.store.values.insert(QStringLiteral("ActiveScheme"), QStringLiteral("8"));
+        host.store.values.insert(QStringLiteral("EnableMouseGesture"), QStringLiteral("1"));
+        host.log.isOn = false;
+    }
+
+    tests::FakeHost host;
+    std::vector<tests::FakeCommandItem *> items;
+    std::vector<const CHxUIMenuItem *> entries;
+};
+
+// The same program for all that is measured with so many commands: where its parts lie in
+// memory decides as much as what is done with them.
+Program &programOf(const benchmark::State &state)
+{
+    static std::map<std::int64_t, std::unique_ptr<Program>> programs;
+    std::unique_ptr<Program> &program = programs[state.range(0)];
+    if (!program)
+        program = std::make_unique<Program>(static_cast<int>(state.range(0)));
+    program->host.setPresent(true);
+    return *program;
+}
+
+void gather(benchmark::State &state)
+{
+    programOf(state);
+    MgDonutDataContainer *container = MgDonutDataContainer::instance();
+    container->init();
+    for (auto _ : state)
+        benchmark::DoNotOptimize(container->getDonutHelperData());
+    if (container->getCommandNameFromIndex(7).isEmpty())
+        state.SkipWithError("the ring is empty");
+}
+
+// The reading after the last command of the menus has become another one.
+void gatherAfterAChange(benchmark::State &state)
+{
+    Program &program = programOf(state);
+    MgDonutDataContainer *container = MgDonutDataContainer::instance();
+    container->init();
+    const QString command = program.items.back()->command;
+    int number = 0;
+    for (auto _ : state) {
+        program.items.back()->command = command + QString::number(++number);
+        benchmark::DoNotOptimize(container->getDonutHelperData());
+    }
+    program.items.back()->command = command;
+}
+
+// The baseline: the five texts, of which the category is the text of a menu entry, and the icon
+// of every command, read once.
+void onePass(benchmark::State &state)
+{
+    const Program &program = programOf(state);
+    for (auto _ : state) {
+        for (std::size_t place = 0; place < program.items.size(); ++place) {
+            const CHxUICommandItem *item = program.items[place];
+            benchmark::DoNotOptimize(item->GetIdentifier());
+            benchmark::DoNotOptimize(item->GetCommandString());
+            benchmark::DoNotOptimize(item->GetCaption());
+            benchmark::DoNotOptimize(item->GetTip());
+            benchmark::DoNotOptimize(program.entries[place]->GetText());
+            benchmark::DoNotOptimize(item->GetSmallIcon());
+        }
+    }
+}
+
+void sizes(benchmark::internal::Benchmark *benchmark)
+{
+    for (const int count : {300, 1000, 10000, 100000})
+        benchmark->Arg(count);
+    benchmark->Unit(benchmark::kMicrosecond);
+}
+
+BENCHMARK(onePass)->Apply(sizes);
+BENCHMARK(gather)->Apply(sizes);
+BENCHMARK(gatherAfterAChange)->Apply(sizes);
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QStandardPaths::setTestModeEnabled(true);
+    const QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

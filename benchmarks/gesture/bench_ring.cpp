@@ -1,0 +1,386 @@
+// How long a person waits for the ring: from an event to a frame that the X server has finished.
+// The baselines are windows that do as little as a window can, measured in the same way.
+//
+// Needs an X server and a window manager: tests/support/with-desktop.sh bench_ring
+
+#include "bindings/MgDonutDataContainer.h"
+#include "gesture/MgDonutDialogPVStyleImpl.h"
+#include "gesture/MgMouseGestureTracker.h"
+#include "sdk/QtBridge.h"
+#include "tests/fakehost/FakeHitTest.h"
+#include "tests/fakehost/FakeHost.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QCursor>
+#include <QMainWindow>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPixmap>
+#include <QWindow>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace {
+
+const QPoint kPress(400, 300); // in the view
+constexpr int kDrag = 30; // pixels, more than opens the ring and less than accepts
+
+// Sees a window's paint events.
+class PaintWatch : public QObject
+{
+public:
+    bool isPainted = false;
+
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            isPainted = true;
+        return false;
+    }
+};
+
+// A round trip: the server has then done everything that it was asked before.
+void finishFrame()
+{
+    static_cast<void>(QCursor::pos());
+}
+
+void settle()
+{
+    for (int round = 0; round < 5; ++round) {
+        finishFrame();
+        QCoreApplication::processEvents();
+    }
+}
+
+// Seconds from calling `begin` until the frame that it leads to is finished; 0 if none came.
+double secondsUntilPainted(QWidget *window, const std::function<void()> &begin)
+{
+    PaintWatch watch;
+    if (window)
+        window->installEventFilter(&watch);
+    else
+        qApp->installEventFilter(&watch);
+    const auto start = std::chrono::steady_clock::now();
+    begin();
+    for (int i = 0; !watch.isPainted && i < 100000; ++i)
+        QCoreApplication::processEvents();
+    finishFrame();
+    const auto end = std::chrono::steady_clock::now();
+    return watch.isPainted ? std::chrono::duration<double>(end - start).count() : 0.0;
+}
+
+// The timed parts of a benchmark's iterations. Their median is the counter "median_us", in
+// microseconds: a mean would show how busy the machine was.
+class Stopwatch
+{
+public:
+    explicit Stopwatch(benchmark::State &state)
+        : m_state(state)
+    {
+    }
+    ~Stopwatch()
+    {
+        if (m_seconds.empty())
+            return;
+        std::sort(m_seconds.begin(), m_seconds.end());
+        m_state.counters["median_us"] = 1e6 * m_seconds[m_seconds.size() / 2];
+    }
+    Stopwatch(const Stopwatch &) = delete;
+    Stopwatch &operator=(const Stopwatch &) = delete;
+
+    // Times one iteration: from calling `begin` to the frame of `window`, or of any window if
+    // it is null. False if nothing was painted; the benchmark is then over.
+    bool time(QWidget *window, const std::function<void()> &begin)
+    {
+        const double seconds = secondsUntilPainted(window, begin);
+        if (seconds <= 0.0) {
+            m_state.SkipWithError("nothing was painted");
+            return false;
+        }
+        m_state.SetIterationTime(seconds);
+        m_seconds.push_back(seconds);
+        return true;
+    }
+
+private:
+    benchmark::State &m_state;
+    std::vector<double> m_seconds;
+};
+
+// A program with one drawing and a tracker on it.
+class Program
+{
+public:
+    explicit Program(int commands)
+        : tracker(std::make_unique<Tracker>())
+    {
+        QPixmap picture(20, 20);
+        picture.fill(Qt::darkBlue);
+        for (const char *name :
+             {"ZOOM_BOUNDS", "OPEN", "SAVE", "LINE", "OFFSET", "COPY", "DTEXT", "TRIM"})
+            add(QLatin1String("ID_") + QLatin1String(name), picture);
+        for (int i = 8; i < commands; ++i)
+            add(QStringLiteral("ID_COMMAND_%1").arg(i), picture);
+        window.resize(800, 600);
+        host.mainWindow = &window;
+        tests::FakeDocument *document = host.documents.open();
+        delete document->view;
+        auto *view = new QWidget(&window);
+        view->resize(800, 600);
+        document->view = view;
+        hit.document = document;
+        host.store.values.insert(QStringLiteral("EnableMouseGesture"), QStringLiteral("1"));
+        host.store.values.insert(QStringLiteral("ActiveScheme"), QStringLiteral("8"));
+        MgDonutDataContainer::instance()->init();
+        window.show();
+        settle();
+        press();
+    }
+
+    [[nodiscard]] MgDonutDialogPVStyleImpl *ring() const { return tracker->ring(); }
+
+    // What a host does with the press.
+    void press()
+    {
+        pointTo(kPress);
+        hit.position = kPress;
+        hit.press = hit.buttonHeld = true;
+        hit.motion = false;
+        tracker->Update(nullptr, &hit);
+    }
+    // What a host does with the movement that opens the ring.
+    void drag()
+    {
+        hit.position = kPress + QPoint(0, kDrag);
+        hit.press = false;
+        hit.motion = true;
+        tracker->Update(nullptr, &hit);
+        tracker->Update(nullptr, &hit);
+    }
+    void pointTo(const QPoint &inView)
+    {
+        QCursor::setPos(hit.document->GetViewWidget()->mapToGlobal(inView));
+    }
+    void end()
+    {
+        if (ring())
+            ring()->StopGesturing(false);
+        hit.motion = hit.buttonHeld = false;
+        tracker->Update(nullptr, &hit);
+        settle();
+    }
+
+    class Tracker : public MgMouseGestureTracker
+    {
+    public:
+        [[nodiscard]] MgDonutDialogPVStyleImpl *ring() const
+        {
+            return qobject_cast<MgDonutDialogPVStyleImpl *>(donut.data());
+        }
+    };
+
+    tests::FakeHost host;
+    QMainWindow window;
+    tests::FakeHitTest hit;
+    std::unique_ptr<Tracker> tracker;
+
+private:
+    void add(const QString &id, const QPixmap &picture)
+    {
+        host.commands.addCommand(id, id.toLower(), id, QStringLiteral("Tip of ") + id)->smallIcon =
+            QIcon(picture);
+    }
+};
+
+// From the movement that opens the ring to its first frame.
+void ringOpens(benchmark::State &state)
+{
+    Stopwatch stopwatch(state);
+    Program program(static_cast<int>(state.range(0)));
+    program.drag(); // the ring is there from now on
+    settle();
+    program.end();
+    for (auto _ : state) {
+        program.press();
+        program.pointTo(kPress + QPoint(0, kDrag));
+        settle();
+        if (!stopwatch.time(program.ring(), [&program] { program.drag(); }))
+            break;
+        program.end();
+        program.host.log.clear();
+    }
+}
+
+// The same for the first gesture, which makes the ring.
+void firstRingOpens(benchmark::State &state)
+{
+    Stopwatch stopwatch(state);
+    Program program(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        delete program.ring();
+        program.press();
+        program.pointTo(kPress + QPoint(0, kDrag));
+        settle();
+        if (!stopwatch.time(nullptr, [&program] { program.drag(); }))
+            break;
+        program.end();
+        program.host.log.clear();
+    }
+}
+
+// From a movement into the next sector to the frame that lights it.
+void ringFollows(benchmark::State &state)
+{
+    Stopwatch stopwatch(state);
+    Program program(8);
+    program.pointTo(kPress + QPoint(0, kDrag));
+    program.drag();
+    settle();
+    const QPoint offsets[] = {{0, 50}, {50, 0}, {0, -50}, {-50, 0}};
+    std::size_t next = 0;
+    for (auto _ : state) {
+        const QPoint offset = offsets[next++ % 4];
+        program.pointTo(kPress + offset);
+        settle();
+        MgDonutDialogPVStyleImpl *ring = program.ring();
+        ring->setActiveArc(-offset.x(), offset.y()); // the opposite sector
+        ring->repaint();
+        settle();
+        const bool isTimed = stopwatch.time(ring, [ring] {
+            const QPoint middle = ring->rect().center();
+            QMouseEvent move(QEvent::MouseMove, middle, ring->mapToGlobal(middle), Qt::NoButton,
+                             Qt::RightButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(ring, &move);
+        });
+        if (!isTimed)
+            break;
+    }
+    program.end();
+}
+
+// A window of the ring's size and kind that draws two pictures it has ready.
+class PlainWindow : public QWidget
+{
+public:
+    explicit PlainWindow(bool isManaged)
+        : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint)
+        , ring(QStringLiteral(":/gesturewidgetimages/Resources/gesture_widget.png"))
+        , highlight(QStringLiteral(":/gesturewidgetimages/Resources/gestureregion1.png"))
+    {
+        setAttribute(Qt::WA_TranslucentBackground);
+        setGeometry(300, 200, 250, 250);
+        winId();
+        if (!isManaged)
+            windowHandle()->setFlag(Qt::BypassWindowManagerHint);
+    }
+
+protected:
+    void paintEvent(QPaintEvent * /*event*/) override
+    {
+        QPainter painter(this);
+        painter.drawPixmap(0, 0, ring);
+        painter.drawPixmap(0, 0, highlight);
+    }
+
+private:
+    QPixmap ring;
+    QPixmap highlight;
+};
+
+void plainWindowOpens(benchmark::State &state)
+{
+    Stopwatch stopwatch(state);
+    PlainWindow window(state.range(0) != 0);
+    for (auto _ : state) {
+        if (!stopwatch.time(&window, [&window] { window.show(); }))
+            break;
+        settle();
+        window.hide();
+        settle();
+    }
+}
+
+void plainWindowFollows(benchmark::State &state)
+{
+    Stopwatch stopwatch(state);
+    PlainWindow window(state.range(0) != 0);
+    window.show();
+    settle();
+    for (auto _ : state) {
+        settle();
+        if (!stopwatch.time(&window, [&window] { window.update(); }))
+            break;
+    }
+}
+
+void menuOpens(benchmark::State &state)
+{
+    Stopwatch stopwatch(state);
+    QMenu menu;
+    QPixmap picture(20, 20);
+    picture.fill(Qt::darkBlue);
+    for (int i = 0; i < 8; ++i)
+        menu.addAction(QIcon(picture), QStringLiteral("Command %1").arg(i));
+    for (auto _ : state) {
+        if (!stopwatch.time(&menu, [&menu] { menu.popup(QPoint(300, 200)); }))
+            break;
+        settle();
+        menu.hide();
+        settle();
+    }
+}
+
+} // namespace
+
+BENCHMARK(plainWindowOpens)
+    ->ArgName("managed")
+    ->Arg(0)
+    ->Arg(1)
+    ->UseManualTime()
+    ->Iterations(200)
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(menuOpens)->UseManualTime()->Iterations(200)->Unit(benchmark::kMicrosecond);
+BENCHMARK(ringOpens)
+    ->ArgName("commands")
+    ->Arg(8)
+    ->Arg(300)
+    ->Arg(1000)
+    ->Arg(10000)
+    ->UseManualTime()
+    ->Iterations(100)
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(firstRingOpens)
+    ->ArgName("commands")
+    ->Arg(8)
+    ->Arg(1000)
+    ->UseManualTime()
+    ->Iterations(30)
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(plainWindowFollows)
+    ->ArgName("managed")
+    ->Arg(0)
+    ->Arg(1)
+    ->UseManualTime()
+    ->Iterations(500)
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(ringFollows)->UseManualTime()->Iterations(500)->Unit(benchmark::kMicrosecond);
+
+int main(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    if (QGuiApplication::platformName() != QLatin1String("xcb")) {
+        std::fputs("bench_ring: needs an X server, see tests/support/with-desktop.sh\n", stderr);
+        return 1;
+    }
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,211 @@
+// What it costs to read the ring's data from the host, beside one pass over the same actions
+// that reads the same texts and the icon; and what many equal captions cost.
+
+#include "bindings/MgDonutDataContainer.h"
+#include "host/commands/CommandCatalogue.h"
+#include "host/commands/ContrastIcon.h"
+#include "host/files/ProgramProfile.h"
+#include "host/services/SystemServices.h"
+#include "sdk/chx/CHxUICommandManager.h"
+#include "sdk/chx/CHxUIManager.h"
+#include "sdk/chx/CHxUIMenu.h"
+#include "sdk/chx/CHxUIMenuItem.h"
+#include "sdk/chx/CHxUIMenuItemCollection.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QIcon>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPainter>
+#include <QTemporaryDir>
+
+#include <memory>
+#include <vector>
+
+namespace {
+
+constexpr int kMenus = 8;
+
+// The five texts and the icon that a module reads of a command.
+struct Record
+{
+    QString identifier;
+    QString command;
+    QString caption;
+    QString category;
+    QString tip;
+    QIcon icon;
+};
+
+// A main window with so many commands in its menus, each with a name, a tip and an icon.
+class Program
+{
+public:
+    explicit Program(int commands)
+    {
+        QPixmap image(24, 24);
+        image.fill(Qt::darkBlue);
+        const QIcon icon(image);
+        for (int i = 0; i < kMenus; ++i) {
+            QMenu *menu = window.menuBar()->addMenu(QStringLiteral("Menu %1").arg(i));
+            for (int j = i; j < commands; j += kMenus) {
+                QAction *action = menu->addAction(icon, QStringLiteral("Command %1").arg(j));
+                action->setObjectName(QStringLiteral("command%1").arg(j));
+                action->setStatusTip(QStringLiteral("What command %1 does").arg(j));
+            }
+        }
+    }
+
+    QTemporaryDir folder;
+    QMainWindow window;
+};
+
+// Stands for the program's host while it lives.
+class Services
+{
+public:
+    explicit Services(Program &program)
+        : services(&program.window, {}, nullptr, program.folder.filePath(QStringLiteral("bench.ini")))
+    {
+        SetHxSystemServices(&services);
+        services.catalogue().update();
+    }
+    ~Services() { SetHxSystemServices(nullptr); }
+    Q_DISABLE_COPY_MOVE(Services)
+
+    gesturewidget::SystemServices services;
+};
+
+void plainPass(benchmark::State &state)
+{
+    const Program program(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        std::vector<Record> records;
+        const QList<QAction *> menus = program.window.menuBar()->actions();
+        for (const QAction *entry : menus) {
+            const QList<QAction *> actions = entry->menu()->actions();
+            for (const QAction *action : actions)
+                records.push_back({action->objectName(), action->objectName(), action->text(),
+                                   entry->text(), action->statusTip(), action->icon()});
+        }
+        benchmark::DoNotOptimize(records.data());
+    }
+    state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
+int readItems(CHxUIMenuItemCollection *items)
+{
+    int commands = 0;
+    for (int i = 0; items && i < items->GetCount(); ++i) {
+        const CHxUIMenuItem *item = items->GetItem(i);
+        const CHxString text = item->GetText();
+        benchmark::DoNotOptimize(&text);
+        if (const CHxUICommandItem *command = item->GetCommandItem()) {
+            const CHxString string = command->GetCommandString();
+            benchmark::DoNotOptimize(&string);
+            ++commands;
+        }
+        commands += readItems(item->GetSubItems());
+    }
+    return commands;
+}
+
+// The host's part of the reading: what the module asks it for, and nothing made of it.
+void hostPart(benchmark::State &state)
+{
+    Program program(static_cast<int>(state.range(0)));
+    Services host(program);
+    for (auto _ : state) {
+        int seen = 0;
+        const auto menu = host.services.GetUIManager()->NewMenuIterator();
+        for (; !menu->Done(); menu->Next())
+            seen += readItems(menu->Current()->GetItems());
+        std::vector<Record> records;
+        const auto group = host.services.GetUICommandManager()->NewGroupIterator();
+        for (; !group->Done(); group->Next()) {
+            const QString category = group->Current()->GetName().toQString();
+            const auto command = group->Current()->NewCommandIterator();
+            for (; !command->Done(); command->Next()) {
+                const CHxUICommandItem *item = command->Current();
+                records.push_back({item->GetIdentifier().toQString(),
+                                   item->GetCommandString().toQString(), item->GetCaption().toQString(),
+                                   category, item->GetTip().toQString(), item->GetSmallIcon()});
+            }
+        }
+        if (seen < state.range(0) || static_cast<int>(records.size()) < state.range(0))
+            state.SkipWithError("not all commands were read");
+        benchmark::DoNotOptimize(records.data());
+    }
+    state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
+// All of it, as at each gesture: the module's container over the host.
+void ringData(benchmark::State &state)
+{
+    Program program(static_cast<int>(state.range(0)));
+    const Services host(program);
+    MgDonutDataContainer *container = MgDonutDataContainer::instance();
+    for (auto _ : state)
+        benchmark::DoNotOptimize(container->getDonutHelperData());
+    state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
+// Entries of one menu with one caption and no object names, at the program's start.
+void equalCaptions(benchmark::State &state)
+{
+    QMainWindow window;
+    QMenu *menu = window.menuBar()->addMenu(QStringLiteral("List"));
+    for (int i = 0; i < state.range(0); ++i)
+        menu->addAction(QStringLiteral("Entry"));
+    for (auto _ : state) {
+        gesturewidget::CommandCatalogue catalogue(&window, {});
+        catalogue.update();
+        benchmark::DoNotOptimize(catalogue.items().size());
+    }
+    state.SetComplexityN(state.range(0));
+}
+
+// The picture of one icon in the ring, when it is asked for the first time. Ratio in quarters.
+void firstHalo(benchmark::State &state)
+{
+    QPixmap pixmap(48, 48);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setPen(QPen(Qt::darkBlue, 4));
+    painter.drawEllipse(8, 8, 32, 32);
+    painter.setPen(QPen(Qt::yellow, 4));
+    painter.drawLine(4, 4, 44, 44);
+    painter.end();
+    const QIcon icon(pixmap);
+    const qreal ratio = static_cast<qreal>(state.range(0)) / 4;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(
+            gesturewidget::withHalo(gesturewidget::ringShape(icon, ratio), ratio).isNull());
+}
+
+} // namespace
+
+BENCHMARK(plainPass)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(hostPart)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(ringData)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(firstHalo)->ArgName("quarters")->Arg(4)->Arg(8)->Arg(12)->Unit(benchmark::kMicrosecond);
+BENCHMARK(equalCaptions)
+    ->Arg(1000)
+    ->Arg(2000)
+    ->Arg(5000)
+    ->Arg(10000)
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity();
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,153 @@
+#!/usr/bin/env python3
+"""Runs the benchmark programs and prints each figure beside its baseline. ./bench calls it."""
+
+import argparse
+import json
+import platform
+import re
+import statistics
+import subprocess
+import sys
+from dataclasses import dataclass
+from pathlib import Path
+from typing import Optional
+
+ROOT = Path(__file__).resolve().parent.parent
+PAGE = ROOT / "benchmarks/README.md"
+BEGIN, END = "<!-- table: written by ./bench --write -->", "<!-- end of the table -->"
+REPETITIONS = 5
+
+
+@dataclass
+class Row:
+    """A figure and its baseline, both of one program and one run."""
+    title: str
+    program: str
+    name: str
+    baseline_title: str
+    baseline: str
+    bound: Optional[float]  # the largest ratio that is fine; None: for information
+    surplus: Optional[float] = None  # the largest difference that is fine, in bytes
+
+
+ROWS = [
+    Row("the ring opens, 1,000 commands: event to finished frame", "bench_ring",
+        "ringOpens/commands:1000", "an empty window of its kind", "plainWindowOpens/managed:0", 2.0),
+    Row("the ring opens, 10,000 commands", "bench_ring",
+        "ringOpens/commands:10000", "the same", "plainWindowOpens/managed:0", 8 / 0.7),
+    Row("the first ring after the start, 1,000 commands", "bench_ring",
+        "firstRingOpens/commands:1000", "a later one", "ringOpens/commands:1000", None),
+    Row("the ring opens, 1,000 commands", "bench_ring",
+        "ringOpens/commands:1000", "a `QMenu` of eight entries", "menuOpens", None),
+    Row("the pointer crosses into a sector: event to finished frame", "bench_ring",
+        "ringFollows", "that window painted again", "plainWindowFollows/managed:0", 1.5),
+    *(Row(f"the ring's data is gathered, {count:,} commands", "bench_gather", f"ringData/{count}",
+          "one pass over the same actions", f"plainPass/{count}", 2.5)
+      for count in (1000, 10000, 100000)),
+    Row("10,000 equal captions are numbered", "bench_gather", "equalCaptions/10000",
+        "5,000 of them (twice the work)", "equalCaptions/5000", 2.6),
+    Row("an update while gestures are off", "bench_tracker", "gesturesOff",
+        "an empty virtual call", "emptyTracker", None),
+    Row("an update while no gesture is on", "bench_tracker", "gesturesIdle",
+        "an empty virtual call", "emptyTracker", None),
+    Row("a movement over a drawing, the host's filter in place", "bench_pointerfilter",
+        "moveInView/filter:1", "without it", "moveInView/filter:0", 1.08),
+    Row("a movement over a drawing, the whole host running", "bench_gesturehost",
+        "moveInView/gestures:1", "without gestures", "moveInView/gestures:0", 1.08),
+    Row("LibreCAD starts with gestures: until it shows the drawing", "start.py", "start/gestures:1",
+        "without", "start/gestures:0", 1.03),
+    Row("processor time of that start until it is idle", "start.py", "work/gestures:1",
+        "without", "work/gestures:0", None),
+    Row("memory of LibreCAD then", "start.py", "memory/gestures:1", "without", "memory/gestures:0",
+        None, 4e6),
+    *(row for count in (250, 10000) for row in (
+        Row(f"the dialog opens, {count:,} commands", "bench_dialog", f"openDialog/{count}",
+            "a `QTableView` over a `QStandardItemModel`", f"openPlainView/{count}", 2.0),
+        Row(f"a key in the search field, {count:,} commands", "bench_dialog", f"typeInDialog/{count}",
+            "a `QSortFilterProxyModel` with a fixed string", f"typeInPlainView/{count}", 1.5))),
+]
+
+# Figures are nanoseconds or bytes.
+SIZES = {"ns": 1.0, "us": 1e3, "ms": 1e6, "s": 1e9, "kB": 1024.0}
+
+
+def measured(folder, program, quick):
+    """Returns name -> median of every benchmark of the program."""
+    if program.endswith(".py"):
+        command = [sys.executable, "-B", ROOT / "benchmarks" / program, "--build", folder]
+        command += ["--rounds=2"] if quick else []
+    else:
+        command = [folder / "bin" / program, "--benchmark_format=json",
+                   "--benchmark_enable_random_interleaving=true"]
+        command += ["--benchmark_min_time=0.05"] if quick else [f"--benchmark_repetitions={REPETITIONS}"]
+    result = subprocess.run(command, stdout=subprocess.PIPE, text=True, check=True)
+    runs = {}
+    for run in json.loads(result.stdout)["benchmarks"]:
+        if run.get("error_occurred"):
+            sys.exit(f"bench: {program}: {run['run_name']}: {run['error_message']}")
+        if run["run_type"] != "iteration":
+            continue
+        value = run.get("median_us")
+        value = value * 1e3 if value is not None else run["real_time"] * SIZES[run["time_unit"]]
+        name = re.sub(r"/(iterations:\d+|manual_time|real_time|min_time:[\d.]+|repeats:\d+)", "", run["run_name"])
+        runs.setdefault(name, []).append(value)
+    return {name: statistics.median(values) for name, values in runs.items()}
+
+
+def amount(row, value):
+    if row.surplus is not None:
+        return f"{value / 1e6:.1f} MB"
+    for unit, size in (("ns", 1.0), ("µs", 1e3)):
+        if value < 1000 * size:
+            return f"{value / size:.3g} {unit}"
+    return f"{value / 1e6:.3g} ms"
+
+
+def machine():
+    text = Path("/proc/cpuinfo").read_text(encoding="utf-8")
+    model = re.search(r"model name\s*: (.*)", text)
+    cores = len(re.findall(r"^processor", text, re.M))
+    return f"{model[1] if model else platform.machine()}, {cores} cores"
+
+
+def table(rows, figures):
+    """Returns the lines of the table and whether every ratio keeps its bound."""
+    lines = ["| what | takes | baseline | ratio | at most |", "|---|---|---|---|---|"]
+    is_fine = True
+    for row in rows:
+        value, baseline = figures[row.program][row.name], figures[row.program][row.baseline]
+        ratio = value / baseline
+        is_over = (row.bound is not None and ratio > row.bound) or (
+            row.surplus is not None and value - baseline > row.surplus)
+        is_fine &= not is_over
+        bound = f"{row.bound:.3g}" if row.bound is not None else \
+            f"+ {row.surplus / 1e6:.0f} MB" if row.surplus is not None else ""
+        bound += " **over**" if is_over else ""
+        lines.append(f"| {row.title} | {amount(row, value)} | {amount(row, baseline)}, {row.baseline_title} "
+                     f"| {ratio:.2f} | {bound} |")
+    return lines, is_fine
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("--build", type=Path, required=True)
+    parser.add_argument("--write", action="store_true")
+    parser.add_argument("--quick", action="store_true")
+    options = parser.parse_args()
+
+    figures = {}
+    for program in dict.fromkeys(row.program for row in ROWS):
+        print(f"{program}...", file=sys.stderr, flush=True)
+        figures[program] = measured(options.build, program, options.quick)
+    lines, is_fine = table(ROWS, figures)
+    lines = [f"Measured on {machine()}.", "", *lines]
+    print("\n".join(lines))
+    if options.write:
+        before, rest = PAGE.read_text(encoding="utf-8").split(BEGIN)
+        text = before + "\n".join([BEGIN, "", *lines, "", END]) + rest.split(END)[1]
+        PAGE.write_text(text, encoding="utf-8")
+    sys.exit(0 if is_fine else 1)
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,104 @@
+#!/usr/bin/env python3
+"""What gestures cost a real program at its start: starts it in turn without and with them.
+
+Prints the same JSON as a Google Benchmark program: "start", milliseconds from starting the program
+until its main window shows the drawing; "work", milliseconds of processor time until the program is
+idle after that; "memory", kilobytes of proportional memory (PSS) then. Needs an X server.
+"""
+
+import argparse
+import json
+import os
+import subprocess
+import sys
+import tempfile
+import time
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parent.parent
+sys.path.insert(0, str(ROOT / "tests/e2e"))
+from harness.programs import PROGRAMS  # noqa: E402
+
+DRAWING = ROOT / "samples/bracket.dxf"
+IDLE_SECONDS = 1.5  # longer than every wait of the host and of the program
+POLL_SECONDS = 0.05
+START_SECONDS = 60
+
+
+def processor_time(pid):
+    """Milliseconds of processor time of the process so far."""
+    fields = Path(f"/proc/{pid}/stat").read_text(encoding="utf-8").rpartition(")")[2].split()
+    return (int(fields[11]) + int(fields[12])) * 1000 / os.sysconf("SC_CLK_TCK")
+
+
+def memory(pid):
+    """Kilobytes of memory of the process, its part of what it shares counted."""
+    for line in Path(f"/proc/{pid}/smaps_rollup").read_text(encoding="utf-8").splitlines():
+        if line.startswith("Pss:"):
+            return int(line.split()[1])
+    raise AssertionError("the kernel reports no PSS")
+
+
+def work_until_idle(pid):
+    work, since = processor_time(pid), time.monotonic()
+    while time.monotonic() - since < IDLE_SECONDS:
+        time.sleep(POLL_SECONDS)
+        now = processor_time(pid)
+        if now - work > 20:  # milliseconds; a blinking cursor is idle too
+            work, since = now, time.monotonic()
+    return processor_time(pid)
+
+
+def wait_until_shown():
+    search = ["xdotool", "search", "--onlyvisible", "--name", DRAWING.name]
+    end = time.monotonic() + START_SECONDS
+    # It fails while there is no such window, and when a window goes during its search.
+    while subprocess.run(search, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                         check=False).returncode != 0:
+        if time.monotonic() > end:
+            raise AssertionError("the program did not show the drawing")
+
+
+def measure(program, command, folder):
+    for name, text in program.configuration.items():
+        path = folder / "config" / name
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_text(text, encoding="utf-8")
+    environment = dict(os.environ, HOME=str(folder), XDG_CONFIG_HOME=str(folder / "config"),
+                       XDG_DATA_HOME=str(folder / "data"), LANG="C.UTF-8")
+    start = time.monotonic()
+    process = subprocess.Popen([*command, str(DRAWING)], env=environment, stdin=subprocess.DEVNULL,
+                               stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    try:
+        wait_until_shown()
+        until_shown = (time.monotonic() - start) * 1000
+        work = work_until_idle(process.pid)
+        return {"start": until_shown, "work": work, "memory": memory(process.pid)}
+    finally:
+        process.kill()
+        process.wait()
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("--build", type=Path, required=True)
+    parser.add_argument("--rounds", type=int, default=10)
+    options = parser.parse_args()
+    program = PROGRAMS["librecad"]
+    commands = ([program.executable],
+                [str(options.build.resolve() / "bin/mouse-gestures"), program.executable])
+    runs = []
+    with tempfile.TemporaryDirectory() as base:
+        for round_number in range(-1, options.rounds):  # the first one only warms up
+            for gestures, command in enumerate(commands):
+                folder = Path(base) / str(gestures)
+                found = measure(program, command, folder)
+                if round_number >= 0:
+                    runs += [{"run_name": f"{name}/gestures:{gestures}", "run_type": "iteration",
+                              "real_time": value, "time_unit": "kB" if name == "memory" else "ms"}
+                             for name, value in found.items()]
+    print(json.dumps({"benchmarks": runs}))
+
+
+if __name__ == "__main__":
+    main()

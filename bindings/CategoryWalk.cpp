@@ -1,0 +1,49 @@
+#include "bindings/CategoryWalk.h"
+
+#include "bindings/SameText.h"
+
+void CategoryWalk::begin()
+{
+    m_next = 0;
+    m_isAsBefore = true;
+}
+
+void CategoryWalk::file(const QString &command, const QString &category)
+{
+    if (m_isAsBefore && m_next < m_entries.size() && isSameText(m_entries[m_next].command, command)
+        && isSameText(m_entries[m_next].category, category)) {
+        ++m_next;
+        return;
+    }
+    leaveTheLastWalk();
+    m_entries.push_back({command, category});
+    m_map.insert(command, category);
+}
+
+QMap<QString, QString> CategoryWalk::end()
+{
+    // It may have found less.
+    if (m_isAsBefore && m_next < m_entries.size())
+        leaveTheLastWalk();
+    return m_map;
+}
+
+void CategoryWalk::forget()
+{
+    m_entries.clear();
+    m_next = 0;
+    m_isAsBefore = false;
+    m_map = {};
+}
+
+// From here on this walk is another one: what it has found so far makes a new map.
+void CategoryWalk::leaveTheLastWalk()
+{
+    if (!m_isAsBefore)
+        return;
+    m_isAsBefore = false;
+    m_entries.resize(m_next);
+    m_map = {};
+    for (const Entry &entry : m_entries)
+        m_map.insert(entry.command, entry.category);
+}

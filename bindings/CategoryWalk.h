@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QMap>
+#include <QString>
+
+#include <cstddef>
+#include <vector>
+
+// Files commands under categories, in the order of a walk through all menus. Every walk reads
+// everything; one that finds what the last walk found does not build the map again, which would
+// take most of the time of opening the ring.
+class CategoryWalk
+{
+public:
+    void begin();
+    // A later call for the same command replaces an earlier one.
+    void file(const QString &command, const QString &category);
+    // Ends the walk and gives the map from command strings to categories.
+    [[nodiscard]] QMap<QString, QString> end();
+
+    // Whether the walk that ended last found what the one before it found.
+    [[nodiscard]] bool isAsBefore() const { return m_isAsBefore; }
+    // Forgets a walk that did not come to its end.
+    void forget();
+
+private:
+    struct Entry
+    {
+        QString command;
+        QString category;
+    };
+    void leaveTheLastWalk();
+
+    std::vector<Entry> m_entries; // of the last walk; while as before, those from m_next on lie ahead
+    std::size_t m_next = 0;
+    bool m_isAsBefore = false;
+    QMap<QString, QString> m_map;
+};

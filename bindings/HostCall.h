@@ -1,0 +1,17 @@
+#pragma once
+
+#include <utility>
+
+// Calls into the host. An exception of the host ends here: a module reports no errors, and one
+// failed call must not keep the others from being made, least of all those that take
+// registrations back. Returns whether the call came back without an exception.
+template <class Call> bool hostCall(Call &&call) noexcept
+{
+    try {
+        std::forward<Call>(call)();
+        return true;
+    } catch (...) {
+        // The host knows what it threw; the module carries on without that call's effect.
+        return false;
+    }
+}

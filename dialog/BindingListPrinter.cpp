@@ -1,0 +1,129 @@
+#include "dialog/BindingListPrinter.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QPainter>
+#include <QPrinter>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextTable>
+
+#include <algorithm>
+#include <memory>
+#include <vector>
+
+namespace {
+
+constexpr qreal kMargin = 2 / 2.54; // inches, around the page: 2 cm
+constexpr qreal kDocumentDpi = 96; // that lengths in formats are given in
+constexpr qreal kPageNumberGap = 5 / 72.0; // inches, above a page number
+
+// A horizontal strip of the laid-out document, in pixels of the printer.
+struct Strip
+{
+    qreal top;
+    qreal bottom;
+    [[nodiscard]] qreal height() const { return bottom - top; }
+};
+
+QTextTable *tableOf(const QTextDocument &document)
+{
+    const QList<QTextFrame *> frames = document.rootFrame()->childFrames();
+    return frames.isEmpty() ? nullptr : qobject_cast<QTextTable *>(frames.front());
+}
+
+// The highest cell of a row fills it; its blocks, their margins and the padding are the row.
+Strip stripOf(QTextTable &table, int row, qreal scale)
+{
+    const QAbstractTextDocumentLayout *layout = table.document()->documentLayout();
+    const qreal padding = table.format().cellPadding() * scale;
+    Strip strip{layout->frameBoundingRect(&table).bottom(), 0};
+    for (int column = 0; column < table.columns(); ++column) {
+        const QTextTableCell cell = table.cellAt(row, column);
+        const QTextBlock first = cell.firstCursorPosition().block();
+        const QTextBlock last = cell.lastCursorPosition().block();
+        strip.top = std::min(strip.top, layout->blockBoundingRect(first).top()
+                                            - first.blockFormat().topMargin() * scale - padding);
+        strip.bottom = std::max(strip.bottom, layout->blockBoundingRect(last).bottom()
+                                                  + last.blockFormat().bottomMargin() * scale + padding);
+    }
+    return strip;
+}
+
+// The rows below the header by page. `room` is what a page has for them.
+std::vector<Strip> pagesOf(QTextTable &table, qreal scale, qreal room)
+{
+    std::vector<Strip> pages;
+    for (int row = 1; row < table.rows(); ++row) {
+        const Strip strip = stripOf(table, row, scale);
+        if (pages.empty() || strip.bottom - pages.back().top > room)
+            pages.push_back({strip.top, strip.top});
+        for (; strip.bottom - pages.back().top > room; pages.push_back({pages.back().bottom, 0}))
+            pages.back().bottom = pages.back().top + room;
+        pages.back().bottom = strip.bottom;
+    }
+    // The header alone is a page, too.
+    if (pages.empty())
+        pages.push_back({0, 0});
+    return pages;
+}
+
+void draw(const QTextDocument &document, QPainter &painter, const Strip &strip, const QPointF &position)
+{
+    QAbstractTextDocumentLayout::PaintContext context;
+    context.clip = QRectF(0, strip.top, document.textWidth(), strip.height());
+    context.palette.setColor(QPalette::Text, Qt::black);
+    painter.save();
+    painter.translate(position.x(), position.y() - strip.top);
+    painter.setClipRect(context.clip);
+    document.documentLayout()->draw(&painter, context);
+    painter.restore();
+}
+
+void drawPageNumber(const QTextDocument &document, QPainter &painter, const QRectF &body, int number)
+{
+    painter.setFont(document.defaultFont());
+    const QFontMetrics metrics(document.defaultFont(), painter.device());
+    const QString text = QString::number(number);
+    painter.drawText(
+        QPointF(body.right() - metrics.horizontalAdvance(text),
+                body.bottom() + metrics.ascent() + kPageNumberGap * painter.device()->logicalDpiY()),
+        text);
+}
+
+} // namespace
+
+void printBindingList(const QTextDocument &source, QPrinter &printer)
+{
+    QPainter painter(&printer);
+    const std::unique_ptr<QTextDocument> document(source.clone());
+    QTextTable *table = tableOf(*document);
+    if (!painter.isActive() || !table)
+        return;
+
+    const qreal scale = printer.logicalDpiY() / kDocumentDpi;
+    const qreal across = kMargin * printer.logicalDpiX();
+    const qreal down = kMargin * printer.logicalDpiY();
+    const QRectF body =
+        QRectF(0, 0, printer.width(), printer.height()).adjusted(across, down, -across, -down);
+    document->setDocumentMargin(0);
+    document->documentLayout()->setPaintDevice(&printer);
+    document->setTextWidth(body.width());
+
+    const Strip header = stripOf(*table, 0, scale);
+    const qreal spacing = table->format().cellSpacing() * scale;
+    const qreal rowsTop = body.top() + header.height() + spacing;
+    const std::vector<Strip> pages = pagesOf(*table, scale, body.bottom() - rowsTop);
+
+    const int last = static_cast<int>(pages.size());
+    const int from = std::clamp(printer.fromPage(), 1, last);
+    const int to = printer.toPage() > 0 ? std::clamp(printer.toPage(), from, last) : last;
+    const bool backwards = printer.pageOrder() == QPrinter::LastPageFirst;
+    for (int count = 0; count <= to - from; ++count) {
+        if (count > 0 && !printer.newPage())
+            return;
+        const int page = backwards ? to - count : from + count;
+        draw(*document, painter, header, body.topLeft());
+        draw(*document, painter, pages[page - 1], QPointF(body.left(), rowsTop));
+        drawPageNumber(*document, painter, body, page);
+    }
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QAccessibleWidget>
+
+class MgDonutDialogPVStyleImpl;
+
+// What assistive programs learn about the ring: it is a menu that pops up. Its description is
+// what the lit sector would run.
+class MgRingAccessible : public QAccessibleWidget
+{
+public:
+    explicit MgRingAccessible(MgDonutDialogPVStyleImpl *ring);
+
+    // Makes Qt ask this class about rings from now on. Further calls do nothing.
+    static void install();
+};

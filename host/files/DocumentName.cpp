@@ -1,0 +1,19 @@
+#include "host/files/DocumentName.h"
+
+#include <QRegularExpression>
+
+namespace gesturewidget {
+
+bool namesADocument(const QString &caption)
+{
+    // "/home/me/", "~/", "C:\", "file://" at the beginning of a word. Not "On / Off".
+    static const QRegularExpression path(
+        QStringLiteral(R"((^|[\s"'(\[:=])(/[^/\s]+/|~/|[A-Za-z]:[\\/]|file:/))"));
+    // A word, a dot and an ending of 2 to 7 letters or digits. Behind it only a mark such as "*" or
+    // words in brackets. Not "Save as..." nor "Version 2.0".
+    static const QRegularExpression file(
+        QStringLiteral(R"(\w\.[A-Za-z][A-Za-z0-9]{1,6}"?'?\s*([*•]|\[.*\]|\(.*\))?\s*$)"));
+    return path.match(caption).hasMatch() || file.match(caption).hasMatch();
+}
+
+} // namespace gesturewidget

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+
+namespace gesturewidget {
+
+// Returns whether a caption names a document, as the entries of recent files and open windows do:
+// it holds the path of a file, or ends with the name of one, such as "1 drawing.dxf *". What a
+// person works on is private, so such entries are not remembered.
+[[nodiscard]] bool namesADocument(const QString &caption);
+
+} // namespace gesturewidget

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QString>
+
+namespace gesturewidget {
+
+// Keeps other writers of a file away: it locks the file "<path>.lock" until it is destroyed.
+//
+// The kernel frees the lock when its owner ends, however it ends. A lock file that is left behind
+// therefore stands in nobody's way, whereas a QLockFile that was killed while writing its own
+// blocks everybody for its stale time.
+class FileLock
+{
+public:
+    enum class Result {
+        Held,
+        Busy, // somebody else has held it for all this time
+        Impossible // the folder cannot be written, or something that is no file has the name
+    };
+
+    // Waits for the lock for at most `patience` milliseconds; does not wait where it is impossible.
+    FileLock(const QString &path, int patience);
+    ~FileLock();
+    FileLock(const FileLock &) = delete;
+    FileLock &operator=(const FileLock &) = delete;
+
+    [[nodiscard]] Result result() const { return m_result; }
+    [[nodiscard]] bool isHeld() const { return m_result == Result::Held; }
+
+private:
+    QString m_path;
+    int m_file = -1;
+    Result m_result = Result::Impossible;
+};
+
+} // namespace gesturewidget

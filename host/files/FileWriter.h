@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace gesturewidget {
+
+// Replaces a file in one step. Everything that this project keeps on disk is written here.
+//
+// The new content goes into a file beside the old one, is flushed to the disk, read back and
+// compared, and only then takes the old one's name. So a reader sees the old or the new content,
+// whole, and a full disk leaves the old one.
+//
+//     FileWriter writer(path, FileWriter::Readers::Owner);
+//     if (!writer.write(content, path + QStringLiteral(".bak")))
+//         ...
+class FileWriter
+{
+public:
+    // Who may read the file afterwards.
+    enum class Readers {
+        Owner, // mode 0600, also where the old file had another
+        Usual // the mode of the old file, or what the process's mask leaves of 0666
+    };
+
+    // A link is followed: the file that it leads to is replaced.
+    FileWriter(const QString &path, Readers readers);
+
+    // Returns whether the file has this content. False leaves everything as it was. Refuses to
+    // replace anything but a file, and makes no folders.
+    [[nodiscard]] bool write(const QByteArray &content) const;
+    // The same, and keeps the old file under the name `second`, as soon as the new content is on
+    // the disk. That takes no room on the disk where a file can have two names; elsewhere it is
+    // copied. Replaces an older file of that name, but never a folder, a pipe or a link: then, and
+    // when there is no old file, nothing is done and the result is false.
+    [[nodiscard]] bool write(const QByteArray &content, const QString &second) const;
+
+private:
+    [[nodiscard]] bool write(const QByteArray &content, const QString *second) const;
+    [[nodiscard]] bool keepAs(const QString &second) const;
+
+    QString m_path; // without links at its end
+    Readers m_readers;
+};
+
+} // namespace gesturewidget

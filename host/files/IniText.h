@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QByteArray>
+#include <QMap>
+#include <QString>
+#include <QVector>
+
+namespace gesturewidget {
+
+// The text of an INI file whose values are strings, as QSettings writes and reads it. Lines that
+// are not asked for stay as they are, comments included. Lines that no INI file can have, as damage
+// leaves them, are dropped.
+//
+// QSettings itself is not used: it waits for its lock file for as long as that takes, does not
+// see that its last flush failed, takes a file for unchanged that has the same size and the same
+// millisecond, and drops comments.
+class IniText
+{
+public:
+    explicit IniText(const QByteArray &text);
+
+    // Whether each line is one that an INI file can have. A file that a power failure cut off or
+    // zeroed often is not.
+    [[nodiscard]] static bool isWellFormed(const QByteArray &text);
+    // The name of a value, "section/key". Section and key may hold any characters.
+    [[nodiscard]] static QString nameOf(const QString &section, const QString &key);
+
+    // All values by name. If a key is repeated, the last value wins.
+    [[nodiscard]] QMap<QString, QString> values() const;
+    // Changes a value where it stands, or adds it at the end of its section.
+    void set(const QString &name, const QString &value);
+    [[nodiscard]] QByteArray text() const;
+
+private:
+    struct Line
+    {
+        QByteArray text;
+        QString section; // "section/", empty before the first section and in "[General]"
+        QString name; // of the line's value; empty when it has none
+    };
+
+    QVector<Line> m_lines;
+};
+
+} // namespace gesturewidget

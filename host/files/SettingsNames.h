@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QString>
+
+// The names of what is kept in the settings of a program, as far as the host needs them itself.
+// The module names its own in bindings/SettingsKeys.h; a test compares the two.
+namespace gesturewidget::settingsnames {
+
+// The module's section.
+[[nodiscard]] inline QString moduleSection()
+{
+    return QStringLiteral("GestureWidget");
+}
+
+// In the module's section: "0" while gestures are off, else "1".
+[[nodiscard]] inline QString enabledKey()
+{
+    return QStringLiteral("EnableMouseGesture");
+}
+
+// The host's section.
+[[nodiscard]] inline QString hostSection()
+{
+    return QStringLiteral("Host");
+}
+
+// In the host's section: the trigger that a person chose in place of the profile's, see
+// TriggerText.h. Missing or empty means that nobody chose one.
+[[nodiscard]] inline QString triggerKey()
+{
+    return QStringLiteral("Trigger");
+}
+
+} // namespace gesturewidget::settingsnames

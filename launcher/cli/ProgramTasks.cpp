@@ -1,0 +1,145 @@
+#include "launcher/cli/ProgramTasks.h"
+
+#include "host/files/CatalogueFile.h"
+#include "host/files/ProgramProfile.h"
+#include "host/files/TriggerText.h"
+#include "launcher/cli/Report.h"
+#include "launcher/cli/Subject.h"
+#include "launcher/desktop/DesktopMenu.h"
+#include "launcher/doctor/Doctor.h"
+#include "launcher/programs/ProgramCheck.h"
+#include "launcher/programs/QtWidgetsUse.h"
+#include "launcher/settings/Bindings.h"
+#include "launcher/settings/KnownCommands.h"
+#include "launcher/settings/SettingsTasks.h"
+#include "launcher/sheet/SheetTask.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <cstdio>
+#include <iterator>
+
+namespace launcher {
+namespace {
+
+using Task = CommandLine::Task;
+
+// From the folder of the launcher.
+constexpr char kSheet[] = "/../libexec/gesturewidget/mouse-gestures-sheet";
+// In place of a file's name: standard input or output.
+constexpr char kStandard[] = "-";
+
+DesktopMenu desktopMenu(const Subject &subject)
+{
+    const QByteArray searchPath = subject.environment.value("PATH", kDefaultSearchPath);
+    return DesktopMenu(DesktopMenu::usualPlaces(searchPath, launcherPath()));
+}
+
+KnownCommands knownCommands(const Subject &subject, const gesturewidget::ProgramProfile &profile)
+{
+    QStringList wellKnown = Bindings::initial().eight;
+    std::copy(profile.wellKnownCommands.keyBegin(), profile.wellKnownCommands.keyEnd(),
+              std::back_inserter(wellKnown));
+    return KnownCommands(gesturewidget::CatalogueFile(subject.catalogueFile()).read(), wellKnown);
+}
+
+Outcome print(const Subject &subject, const QString &path, const Bindings &bindings,
+              const KnownCommands &commands, const QString &usualTrigger)
+{
+    const QString called = desktopMenu(subject).nameOf(subject.typed, subject.path);
+    const SheetContent content =
+        sheetContent(called.isEmpty() ? subject.name : called, bindings, commands, usualTrigger);
+    return printSheet(content, QFile::decodeName(launcherFolder() + kSheet), path);
+}
+
+Outcome importStandardInput(SettingsTasks &tasks)
+{
+    QByteArray text(SettingsTasks::kMaximalImport + 1, '\0'); // one byte too many is told
+    const std::size_t count = std::fread(text.data(), 1, static_cast<std::size_t>(text.size()), stdin);
+    if (std::ferror(stdin) != 0)
+        return Outcome::failure(QStringLiteral("standard input cannot be read"));
+    text.truncate(static_cast<int>(count));
+    return tasks.importText(text, QStringLiteral("standard input"));
+}
+
+} // namespace
+
+int examineProgram(const CommandLine &line)
+{
+    const Subject subject = Subject::of(line.program);
+    Symptoms symptoms;
+    symptoms.program = subject.name;
+    symptoms.path = subject.path;
+    if (!subject.path.isEmpty())
+        symptoms.use = qtWidgetsUse(subject.path, subject.environment.value("LD_LIBRARY_PATH"),
+                                    systemLibraryFolders("/etc/ld.so.conf"));
+    symptoms.plugins = subject.plugins;
+    symptoms.environment = subject.environment;
+    symptoms.compositor = findCompositor(subject.environment.value("DISPLAY"));
+    symptoms.profileFolders = subject.profileFolders;
+    symptoms.settingsFile = subject.settingsFile();
+    const Diagnosis diagnosis = diagnose(symptoms);
+    Outcome outcome;
+    outcome.output = diagnosis.lines.join(QLatin1Char('\n')).toLocal8Bit() + '\n';
+    if (!diagnosis.isHealthy)
+        outcome.complaint = QStringLiteral("gestures cannot work well in %1, see the lines with \"!\"")
+                                .arg(QString::fromLocal8Bit(line.program));
+    return report(outcome);
+}
+
+int changeMenus(const CommandLine &line)
+{
+    const Subject subject = Subject::of(line.program);
+    if (line.task == Task::Disable)
+        return report(desktopMenu(subject).disable(line.program, subject.path));
+    const ProgramCheck check = ProgramCheck::of(line.program, subject.environment, subject.plugins);
+    if (check.status != 0)
+        return complain(check.complaint, check.status);
+    return report(desktopMenu(subject).enable(line.program, check.path));
+}
+
+int doSettingsTask(const CommandLine &line)
+{
+    const Subject subject = Subject::of(line.program);
+    // A program that is gone may still have settings, which somebody wants to keep.
+    if (subject.path.isEmpty() && !QFileInfo::exists(subject.settingsFile())
+        && !QFileInfo::exists(subject.catalogueFile()))
+        return complain(
+            QStringLiteral("%1: there is no such program").arg(QString::fromLocal8Bit(line.program)),
+            kNotFound);
+
+    const gesturewidget::ProgramProfile profile =
+        gesturewidget::ProgramProfile::forProgram(subject.name, subject.profileFolders, nullptr);
+    const QString usualTrigger =
+        gesturewidget::triggerText(profile.triggerButton, profile.triggerModifiers);
+    const KnownCommands commands = knownCommands(subject, profile);
+    SettingsTasks tasks(subject.name, subject.settingsFile(), commands, usualTrigger);
+    const QByteArray first = line.arguments.value(0);
+    const QString path = QFile::decodeName(first);
+    switch (line.task) {
+    case Task::ShowBindings:
+        return report(line.isJson ? tasks.showBindingsAsJson() : tasks.showBindings());
+    case Task::ListCommands:
+        return report(line.isJson ? commands.listAsJson(subject.name) : commands.list(subject.name));
+    case Task::Bind:
+        return report(
+            tasks.bind(QString::fromLocal8Bit(first), QString::fromLocal8Bit(line.arguments.value(1))));
+    case Task::SetTrigger:
+        return report(tasks.setTrigger(QString::fromLocal8Bit(first)));
+    case Task::Reset:
+        return report(tasks.reset());
+    case Task::Export:
+        return report(first.isEmpty() || first == kStandard ? tasks.showBindingsAsJson()
+                                                            : tasks.exportTo(path));
+    case Task::Import:
+        return report(first == kStandard ? importStandardInput(tasks) : tasks.importFrom(path));
+    case Task::Print:
+        return report(print(subject, path, tasks.bindings(), commands, usualTrigger));
+    default:
+        return complain(QStringLiteral("this is no task about settings"), kLauncherFailed);
+    }
+}
+
+} // namespace launcher

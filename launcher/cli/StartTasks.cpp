@@ -1,0 +1,102 @@
+#include "launcher/cli/StartTasks.h"
+
+#include "host/files/InstallPaths.h"
+#include "launcher/cli/Report.h"
+#include "launcher/cli/Subject.h"
+#include "launcher/explain/ProgramExplainer.h"
+#include "launcher/programs/LaunchEnvironment.h"
+#include "launcher/programs/ProgramCheck.h"
+
+#include <QJsonDocument>
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <cstring>
+#include <vector>
+
+namespace launcher {
+namespace {
+
+// What a program is started with.
+struct Start
+{
+    // Complains where the program cannot be started with gestures; `status` is not 0 then.
+    explicit Start(const CommandLine &line)
+        : arguments(QList<QByteArray>{line.program} + line.arguments)
+    {
+        const Environment own = readEnvironment(::environ);
+        const ProgramCheck check = ProgramCheck::of(line.program, own, pluginFolders(launcherFolder()));
+        status = check.status;
+        path = check.path;
+        if (status != 0)
+            complain(check.complaint, status);
+        else
+            environment = withGestures(own, check.plugins, ::geteuid() == 0);
+    }
+
+    int status = 0;
+    QByteArray path;
+    QList<QByteArray> arguments; // the first is the program as typed
+    Environment environment;
+};
+
+// Returns only when that failed, with the reason in errno. Signals and the exit status need no
+// passing on.
+void replaceProcess(const Start &start)
+{
+    const auto pointers = [](const QList<QByteArray> &strings) {
+        std::vector<char *> result;
+        for (const QByteArray &string : strings)
+            result.push_back(
+                const_cast<char *>(string.constData())); // exec's interface, it writes nothing
+        result.push_back(nullptr);
+        return result;
+    };
+    const QList<QByteArray> entries = environmentEntries(start.environment);
+    // The "p" is for scripts without a "#!" line, which it hands to the shell.
+    ::execvpe(start.path.constData(), pointers(start.arguments).data(), pointers(entries).data());
+}
+
+} // namespace
+
+int startProgram(const CommandLine &line)
+{
+    const Start start(line);
+    if (start.status != 0)
+        return start.status;
+    if (lacksX11(start.environment))
+        complain(QStringLiteral("warning: there is no X11 display; under Wayland the ring may open "
+                                "away from the pointer"),
+                 0);
+    replaceProcess(start);
+    const int reason = errno;
+    return complain(QStringLiteral("%1: %2").arg(QString::fromLocal8Bit(line.program),
+                                                 QString::fromLocal8Bit(std::strerror(reason))),
+                    reason == ENOENT ? kNotFound : kCannotRun);
+}
+
+int explainProgram(const CommandLine &line)
+{
+    const Start start(line);
+    if (start.status != 0)
+        return start.status;
+    ProgramExplainer explainer(start.path, start.arguments, start.environment);
+    const ProgramExplanation found = explainer.run();
+    if (found.signal != 0)
+        return ::raise(found.signal); // ends this too, as it would have without a program
+    if (!found.complaint.isEmpty())
+        return complain(
+            QStringLiteral("%1: %2").arg(QString::fromLocal8Bit(line.program), found.complaint),
+            kTaskFailed);
+    for (const QString &text : found.lines)
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+    const QString program = found.profile.value(QStringLiteral("program")).toString();
+    std::fprintf(stderr, "To change any of it, edit this profile and keep it as %s\n",
+                 qPrintable(gesturewidget::ownProfileFile(program)));
+    return report({QJsonDocument(found.profile).toJson(), {}});
+}
+
+} // namespace launcher

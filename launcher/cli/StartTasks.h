@@ -1,0 +1,15 @@
+#pragma once
+
+#include "launcher/cli/CommandLine.h"
+
+namespace launcher {
+
+// The tasks that start the program. Each returns the exit status.
+
+// Replaces this process by the program with gestures. Returns only when that failed.
+int startProgram(const CommandLine &line);
+// Starts the program, prints what in it is taken for what, and ends it. The profile goes to
+// standard output, the explanation for the person to standard error.
+int explainProgram(const CommandLine &line);
+
+} // namespace launcher

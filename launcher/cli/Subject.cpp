@@ -1,0 +1,60 @@
+#include "launcher/cli/Subject.h"
+
+#include "host/files/InstallPaths.h"
+#include "launcher/programs/ProgramCheck.h"
+#include "launcher/programs/ProgramLookup.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <unistd.h>
+
+#include <filesystem>
+
+namespace launcher {
+
+QByteArray launcherPath()
+{
+    std::error_code error;
+    return QByteArray::fromStdString(std::filesystem::read_symlink("/proc/self/exe", error).string());
+}
+
+QByteArray launcherFolder()
+{
+    const QByteArray path = launcherPath();
+    return path.left(path.lastIndexOf('/'));
+}
+
+Subject Subject::of(const QByteArray &typed)
+{
+    Subject subject;
+    subject.typed = typed;
+    subject.environment = readEnvironment(::environ);
+    subject.profileFolders = gesturewidget::profileFolders(QDir(QFile::decodeName(launcherFolder())));
+    subject.plugins = pluginFolders(launcherFolder());
+
+    const ProgramLookup lookup =
+        ProgramLookup::find(typed, subject.environment.value("PATH", kDefaultSearchPath));
+    const QString name = QFile::decodeName(typed);
+    if (lookup.result == ProgramLookup::Result::Found) {
+        subject.path = lookup.path;
+        const QString file = QFileInfo(QFile::decodeName(lookup.path)).canonicalFilePath();
+        subject.name = gesturewidget::chooseProgramName(name, file, subject.profileFolders);
+    } else {
+        subject.name = QFileInfo(name).fileName().toLower();
+    }
+    return subject;
+}
+
+QString Subject::settingsFile() const
+{
+    return gesturewidget::settingsFile(name);
+}
+
+QString Subject::catalogueFile() const
+{
+    return gesturewidget::catalogueFile(name);
+}
+
+} // namespace launcher

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "launcher/programs/LaunchEnvironment.h"
+#include "launcher/programs/PluginFolders.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+namespace launcher {
+
+// The full path of the running mouse-gestures, and its folder.
+[[nodiscard]] QByteArray launcherPath();
+[[nodiscard]] QByteArray launcherFolder();
+
+// The program that a person typed, and where everything about it is.
+struct Subject
+{
+    // Looks the program up and starts nothing.
+    [[nodiscard]] static Subject of(const QByteArray &typed);
+
+    [[nodiscard]] QString settingsFile() const;
+    [[nodiscard]] QString catalogueFile() const;
+
+    QByteArray typed;
+    QByteArray path; // empty when there is no such program
+    QString name; // by which its host finds its profile and its settings
+    Environment environment; // of this process
+    QStringList profileFolders;
+    QList<PluginFolder> plugins; // that are installed, for either Qt
+};
+
+} // namespace launcher

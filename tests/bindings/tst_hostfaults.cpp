@@ -1,0 +1,229 @@
+#include "bindings/MgDonutSettings.h"
+#include "tests/bindings/OlderSettings.h"
+#include "tests/bindings/OpenContainer.h"
+#include "tests/bindings/StandardCommands.h"
+#include "tests/fakehost/FakeHost.h"
+#include "tests/support/FatalWarnings.h"
+#include "tests/support/Text.h"
+
+#include <QtTest>
+
+#include <memory>
+
+using tests::text;
+
+namespace {
+
+using Table = std::vector<int>;
+
+// A host that throws something that is no exception of the standard library.
+class OddHost : public tests::FakeHost
+{
+public:
+    [[nodiscard]] bool UsesLargeIcons() const override
+    {
+        if (throwsNumbers)
+            throw 42;
+        return FakeHost::UsesLargeIcons();
+    }
+    bool throwsNumbers = false;
+};
+
+} // namespace
+
+// A host that throws at any of its operations, or does not hand out what it has. No binding
+// is lost by that, and no exception leaves the bindings.
+class HostFaultsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { tests::failOnWarnings(); }
+
+    void init()
+    {
+        tests::resetWarnings();
+        older = std::make_unique<tests::OlderSettings>();
+        host = std::make_unique<OddHost>();
+        tests::addStandardCommands(*host);
+        tests::FakeMenuItem *draw = host->addTopLevelMenu(text("&Draw"));
+        auto *group = static_cast<tests::FakeCommandGroup *>(host->commands.groups.front());
+        host->ui.addItem(draw->subItems.get(), text("Line"), false, {}, group->commands[2]);
+        // As a user has them, with an unbound direction in either scheme.
+        const QStringList ids = tests::standardIdentifiers();
+        host->store.values = {{text("EnableMouseGesture"), text("0")},
+                              {text("ActiveScheme"), text("4")}};
+        for (int number = 1; number <= 4; ++number)
+            host->store.values.insert(QString::number(40 + number), ids.value(number));
+        for (int number = 1; number <= 8; ++number)
+            host->store.values.insert(QString::number(80 + number), ids.value(8 - number));
+        host->store.values.insert(text("43"), QString());
+        host->store.values.insert(text("86"), QString());
+        stored = host->store.values;
+    }
+
+    void cleanup()
+    {
+        QCOMPARE(host->commands.iteratorsAlive, 0);
+        QCOMPARE(host->ui.iteratorsAlive, 0);
+        host.reset();
+        QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
+    }
+
+    // At every single call of a reading.
+    void aFailedReadingKeepsTheLastOne()
+    {
+        tests::OpenContainer container;
+        const Table four = container.fourTable;
+        const Table eight = container.eightTable;
+        const auto categories = container.categoryMap;
+        QCOMPARE(four, (Table{1, 2, -1, 4}));
+        int calls = 0;
+        for (bool reached = true; reached; ++calls) {
+            const tests::FakeFault fault(calls);
+            container.init();
+            reached = fault.wasReached();
+            QCOMPARE(host->store.values, stored);
+            QCOMPARE(container.fourTable, four);
+            QCOMPARE(container.eightTable, eight);
+            QCOMPARE(container.categoryMap, categories);
+            QCOMPARE(container.commands.size(), std::size_t(8));
+            QCOMPARE(container.commands[2].fourDirection, static_cast<unsigned char>(2));
+            QCOMPARE(container.commands[2].category, text("Draw"));
+            QVERIFY(!container.getGestureEnabled());
+            QCOMPARE(container.getScheme(), DonutScheme::Four);
+            QCOMPARE(container.getCommandNameFromIndex(0), text("dtext"));
+        }
+        QVERIFY2(calls > 100, qPrintable(QString::number(calls)));
+        QVERIFY(!container.hasReadingFailed());
+    }
+
+    // OK in the dialog hands back what the container has: after a first reading that failed,
+    // next to nothing.
+    void aFailedReadingIsNotSavedOver()
+    {
+        int calls = 0;
+        for (bool reached = true; reached; ++calls) {
+            std::unique_ptr<tests::OpenContainer> container;
+            {
+                const tests::FakeFault fault(calls);
+                container = std::make_unique<tests::OpenContainer>();
+                reached = fault.wasReached();
+            }
+            container->update(container->getCommandsDS(), container->getGestureEnabled(),
+                              container->getScheme());
+            QCOMPARE(host->store.values, stored);
+            // The next reading that succeeds makes good for it.
+            container->init();
+            QVERIFY(!container->hasReadingFailed());
+            QCOMPARE(container->fourTable, (Table{1, 2, -1, 4}));
+            container->update(container->getCommandsDS(), true, DonutScheme::Four);
+            QCOMPARE(host->store.values.value(text("EnableMouseGesture")), text("1"));
+            host->store.values = stored;
+        }
+        QVERIFY2(calls > 100, qPrintable(QString::number(calls)));
+    }
+
+    void aValueThatIsNotHandedOutIsNotReplaced()
+    {
+        host->store.getFails = true;
+        tests::OpenContainer container;
+        QVERIFY(container.hasReadingFailed());
+        QCOMPARE(host->store.values, stored);
+        container.update({}, true, DonutScheme::Eight);
+        QCOMPARE(host->store.values, stored);
+        host->store.getFails = false;
+        QCOMPARE(container.getDonutHelperData().sectorCount, 4);
+        QCOMPARE(container.fourTable, (Table{1, 2, -1, 4}));
+    }
+
+    void settingsAreLeftAloneWhenReadOneByOne()
+    {
+        tests::OpenContainer container;
+        container.commands.clear();
+        host->throwsNumbers = true;
+        container.init();
+        QVERIFY(container.hasReadingFailed());
+        container.applyCommonSettings();
+        container.applyFourSettings();
+        container.applyEightSettings();
+        QCOMPARE(host->store.values, stored);
+    }
+
+    // Each key that is written stands alone.
+    void aWriteThatFailsKeepsNoOtherFromBeingMade()
+    {
+        tests::OpenContainer container;
+        for (const QString &key : tests::allKeys()) {
+            host->store.values = stored;
+            container.init();
+            host->log.throwOn = text("store.set ") + key;
+            container.update({}, true, DonutScheme::Eight);
+            host->log.throwOn.clear();
+            QMap<QString, QString> expected;
+            for (const QString &other : tests::allKeys())
+                expected.insert(other, QString());
+            expected.insert(text("EnableMouseGesture"), text("1"));
+            expected.insert(text("ActiveScheme"), text("8"));
+            expected.insert(key, stored.value(key));
+            QCOMPARE(host->store.values, expected);
+            QVERIFY(container.getGestureEnabled());
+        }
+    }
+
+    void resettingGoesOnToo()
+    {
+        older->set(text("Settings\\41"), text("ID_OLD"));
+        tests::OpenContainer container;
+        host->log.throwOn = text("store.set EnableMouseGesture");
+        container.applyDefaultSettings();
+        host->log.throwOn.clear();
+        QVERIFY(older->entries().isEmpty());
+        QCOMPARE(host->store.values.value(text("EnableMouseGesture")), text("0"));
+        QCOMPARE(host->store.values.value(text("88")), text("ID_TRIM"));
+        QVERIFY(container.isDefaultSettingsEnabled());
+    }
+
+    void menusReadOutsideAReading()
+    {
+        tests::OpenContainer container;
+        auto *menus = static_cast<tests::FakeMenu *>(host->ui.menus.front());
+        for (int call = 0; call < 3; ++call) {
+            const tests::FakeFault fault(call);
+            container.fcParseRecursive({}, &menus->items);
+            QVERIFY(fault.wasReached());
+            QVERIFY(container.hasReadingFailed());
+            container.init();
+            QVERIFY(!container.hasReadingFailed());
+        }
+    }
+
+    void nullIterators_data()
+    {
+        QTest::addColumn<QString>("which");
+        for (const char *which : {"menus", "groups", "commands"})
+            QTest::newRow(which) << QString(QLatin1String(which));
+    }
+
+    void nullIterators()
+    {
+        QFETCH(QString, which);
+        auto *group = static_cast<tests::FakeCommandGroup *>(host->commands.groups.front());
+        host->ui.hasMenuIterator = which != QLatin1String("menus");
+        host->commands.hasGroupIterator = which != QLatin1String("groups");
+        group->hasCommandIterator = which != QLatin1String("commands");
+        const tests::OpenContainer container;
+        QVERIFY(!container.hasReadingFailed());
+        QCOMPARE(container.commands.empty(), which != QLatin1String("menus"));
+        if (which == QLatin1String("menus"))
+            QCOMPARE(container.commands[2].category, text("Others"));
+    }
+
+private:
+    QMap<QString, QString> stored;
+    std::unique_ptr<tests::OlderSettings> older;
+    std::unique_ptr<OddHost> host;
+};
+
+QTEST_MAIN(HostFaultsTest)
+#include "tst_hostfaults.moc"

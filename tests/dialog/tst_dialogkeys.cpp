@@ -1,0 +1,183 @@
+#include "bindings/MgDonutDataContainer.h"
+#include "tests/dialog/DraftingCommands.h"
+#include "tests/dialog/Input.h"
+#include "tests/dialog/TestDialog.h"
+#include "tests/fakehost/FakeHost.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QHeaderView>
+#include <QTest>
+#include <QToolButton>
+
+#include <memory>
+
+using tests::kCommand;
+using tests::kDirection;
+using tests::TestDialog;
+
+// The dialog without a mouse.
+class DialogKeysTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { tests::failOnWarnings(); }
+    void init();
+    void cleanup();
+
+    void searchFieldHasTheFocusFirst();
+    void searchFieldCanBeClearedWithOneClick();
+    void controlFGoesToTheSearchField();
+    void goesFromTheSearchFieldToTheFirstHit_data();
+    void goesFromTheSearchFieldToTheFirstHit();
+    void enterInTheSearchFieldPressesNothing();
+    void bindsACommandWithoutTheMouse();
+    void sortsByKeys();
+    void headerTellsOfTheKeys();
+
+private:
+    void open();
+
+    std::unique_ptr<tests::FakeHost> m_host;
+    std::unique_ptr<TestDialog> m_dialog;
+};
+
+void DialogKeysTest::init()
+{
+    tests::resetWarnings();
+    m_host = std::make_unique<tests::FakeHost>();
+    tests::addDraftingCommands(*m_host, 40, false);
+}
+
+void DialogKeysTest::cleanup()
+{
+    m_dialog.reset();
+    m_host.reset();
+    QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
+}
+
+void DialogKeysTest::open()
+{
+    MgDonutDataContainer::instance()->init();
+    m_dialog = std::make_unique<TestDialog>();
+    QVERIFY(tests::showActive(*m_dialog));
+}
+
+void DialogKeysTest::searchFieldHasTheFocusFirst()
+{
+    open();
+    QVERIFY(m_dialog->ui.search_lineEdit->hasFocus());
+    // While gestures are off there is nothing to search for.
+    m_host->store.values.insert(QStringLiteral("EnableMouseGesture"), QStringLiteral("0"));
+    open();
+    QVERIFY(m_dialog->ui.enableGesture_checkBox->hasFocus());
+}
+
+void DialogKeysTest::searchFieldCanBeClearedWithOneClick()
+{
+    open();
+    tests::type(m_dialog.get(), QStringLiteral("line"));
+    QVERIFY(m_dialog->proxy->rowCount() < 40);
+    const auto *clear = m_dialog->ui.search_lineEdit->findChild<QToolButton *>();
+    QVERIFY(clear);
+    QVERIFY(m_dialog->ui.search_lineEdit->isClearButtonEnabled());
+}
+
+void DialogKeysTest::controlFGoesToTheSearchField()
+{
+    open();
+    tests::type(m_dialog.get(), QStringLiteral("line"));
+    tests::click(m_dialog->ui.command_tableView, m_dialog->cell(0, kDirection));
+    QVERIFY(!m_dialog->ui.search_lineEdit->hasFocus());
+    tests::key(m_dialog.get(), Qt::Key_F, Qt::ControlModifier);
+    QVERIFY(m_dialog->ui.search_lineEdit->hasFocus());
+    // What is typed next replaces what was there.
+    QCOMPARE(m_dialog->ui.search_lineEdit->selectedText(), QStringLiteral("line"));
+}
+
+void DialogKeysTest::goesFromTheSearchFieldToTheFirstHit_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("Down") << int(Qt::Key_Down);
+    QTest::newRow("Return") << int(Qt::Key_Return);
+    QTest::newRow("Enter") << int(Qt::Key_Enter);
+}
+
+void DialogKeysTest::goesFromTheSearchFieldToTheFirstHit()
+{
+    QFETCH(int, key);
+    open();
+    const MgCommandTableView *table = m_dialog->ui.command_tableView;
+    for (const char *search : {"poly", "trim", "e"}) {
+        tests::key(m_dialog.get(), Qt::Key_F, Qt::ControlModifier);
+        tests::type(m_dialog.get(), QLatin1String(search));
+        tests::key(m_dialog.get(), static_cast<Qt::Key>(key));
+        QCOMPARE(table->currentIndex(), m_dialog->cell(0, kDirection));
+        QCOMPARE(table->selectionModel()->selectedRows().size(), 1);
+        QCOMPARE(table->selectionModel()->selectedRows().front().row(), 0);
+        QVERIFY(m_dialog->editor());
+        QVERIFY(m_dialog->editor()->hasFocus());
+        QCOMPARE(m_dialog->ui.description_label->text(),
+                 QStringLiteral("What \"%1\" does to a drawing.").arg(m_dialog->shown().front()));
+    }
+    QVERIFY(m_dialog->isVisible());
+}
+
+void DialogKeysTest::enterInTheSearchFieldPressesNothing()
+{
+    open();
+    tests::type(m_dialog.get(), QStringLiteral("no such command"));
+    for (const Qt::Key which : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Down}) {
+        tests::key(m_dialog.get(), which);
+        QVERIFY(m_dialog->isVisible());
+        QVERIFY(m_dialog->ui.search_lineEdit->hasFocus());
+    }
+}
+
+void DialogKeysTest::bindsACommandWithoutTheMouse()
+{
+    open();
+    tests::type(m_dialog.get(), QStringLiteral("copy"));
+    tests::key(m_dialog.get(), Qt::Key_Down);
+    tests::key(m_dialog.get(), Qt::Key_Space);
+    tests::key(m_dialog.get(), Qt::Key_Home);
+    tests::key(m_dialog.get(), Qt::Key_Down);
+    tests::key(m_dialog.get(), Qt::Key_Return);
+    QCOMPARE(int(m_dialog->record(QStringLiteral("ID_COPY")).eightDirection), 1);
+    // Pressed once more it does nothing, in the cell that is edited again.
+    tests::key(m_dialog.get(), Qt::Key_Return);
+    QVERIFY(m_dialog->isVisible());
+    tests::key(m_dialog.get(), Qt::Key_Escape);
+    tests::key(m_dialog.get(), Qt::Key_Return);
+    QVERIFY(!m_dialog->isVisible());
+    QCOMPARE(m_host->store.values.value(QStringLiteral("81")), QStringLiteral("ID_COPY"));
+}
+
+void DialogKeysTest::sortsByKeys()
+{
+    open();
+    const QHeaderView *header = m_dialog->ui.command_tableView->horizontalHeader();
+    for (int column = 0; column < 3; ++column) {
+        const auto which = static_cast<Qt::Key>(Qt::Key_1 + column);
+        // By category, ascending, it is sorted already.
+        for (const Qt::SortOrder order : {column == 0 ? Qt::DescendingOrder : Qt::AscendingOrder,
+                                          column == 0 ? Qt::AscendingOrder : Qt::DescendingOrder}) {
+            tests::key(m_dialog.get(), which, Qt::ControlModifier);
+            QCOMPARE(m_dialog->proxy->sortColumn(), column);
+            QCOMPARE(m_dialog->proxy->sortOrder(), order);
+            QCOMPARE(header->sortIndicatorSection(), column);
+            QCOMPARE(header->sortIndicatorOrder(), order);
+        }
+    }
+    QCOMPARE(m_dialog->shownDirections().front(), 8);
+}
+
+void DialogKeysTest::headerTellsOfTheKeys()
+{
+    open();
+    const QString tip = m_dialog->ui.command_tableView->horizontalHeader()->viewport()->toolTip();
+    QVERIFY(tip.contains(QLatin1String("Ctrl+1")));
+}
+
+QTEST_MAIN(DialogKeysTest)
+#include "tst_dialogkeys.moc"

@@ -1,0 +1,263 @@
+#include "examples/sketchpad/Icons.h"
+#include "host/commands/ContrastIcon.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QIconEngine>
+#include <QPainter>
+#include <QTest>
+
+using gesturewidget::contrastIcon;
+using gesturewidget::contrastOf;
+using gesturewidget::kRingIconSide;
+using gesturewidget::luminanceOf;
+
+namespace {
+
+// What the ring shows under its icons: its plate over black, white and mid-grey, and the two
+// colours of the highlight.
+const QVector<QColor> &plates()
+{
+    static const QVector<QColor> colours{QColor(0x75, 0x76, 0x77), QColor(0xfd, 0xfe, 0xff),
+                                         QColor(0xb9, 0xba, 0xbb), QColor(0xff, 0xce, 0x5c),
+                                         QColor(0xff, 0xb0, 0x20)};
+    return colours;
+}
+
+int alphaAt(const QImage &shape, int x, int y)
+{
+    return shape.valid(x, y) ? qAlpha(shape.pixel(x, y)) : 0;
+}
+
+// Per cent of the shape's outline that stands out from what is next to it, outside the shape, at
+// 3:1 or more, with the picture over the plate. A pixel between the two, which is neither, is
+// the soft edge of the shape.
+int readablePart(const QImage &shape, const QImage &picture, const QColor &plate)
+{
+    constexpr int kInside = 128;
+    constexpr int kOutside = 64;
+    QImage seen(picture.size(), QImage::Format_RGB32);
+    seen.fill(plate);
+    QImage unscaled = picture;
+    unscaled.setDevicePixelRatio(1);
+    QPainter(&seen).drawImage(0, 0, unscaled);
+    int outline = 0;
+    int readable = 0;
+    for (int y = 0; y < shape.height(); ++y) {
+        for (int x = 0; x < shape.width(); ++x) {
+            if (alphaAt(shape, x, y) < kInside)
+                continue;
+            const qreal own = luminanceOf(seen.pixel(x, y));
+            qreal best = 0;
+            for (int j = y - 2; j <= y + 2; ++j) {
+                for (int i = x - 2; i <= x + 2; ++i) {
+                    // Only where nothing of the shape is between the two.
+                    const bool isNear = alphaAt(shape, (x + i) / 2, (y + j) / 2) < kInside
+                                     || (std::abs(x - i) <= 1 && std::abs(y - j) <= 1);
+                    if (!isNear || alphaAt(shape, i, j) >= kOutside)
+                        continue;
+                    const QRgb beside = seen.valid(i, j) ? seen.pixel(i, j) : plate.rgb();
+                    best = std::max(best, contrastOf(own, luminanceOf(beside)));
+                }
+            }
+            outline += best > 0 ? 1 : 0;
+            readable += best >= 3 ? 1 : 0;
+        }
+    }
+    return outline == 0 ? 0 : 100 * readable / outline;
+}
+
+// A small drawing of lines, one for each colour, as a person draws icons.
+QIcon strokes(const QVector<QColor> &colours)
+{
+    QPixmap pixmap(64, 64);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    int place = 8;
+    for (const QColor &colour : colours) {
+        painter.setPen(QPen(colour, 6));
+        painter.drawLine(8, place, 56, 56);
+        painter.drawEllipse(place, 12, 24, 24);
+        place += 24;
+    }
+    return QIcon(pixmap);
+}
+
+// Counts how often it is drawn.
+class CountingEngine : public QIconEngine
+{
+public:
+    explicit CountingEngine(int &paints)
+        : m_paints(paints)
+    {
+    }
+    void paint(QPainter *painter, const QRect &place, QIcon::Mode, QIcon::State) override
+    {
+        ++m_paints;
+        painter->fillRect(place.adjusted(4, 4, -4, -4), Qt::black);
+    }
+    [[nodiscard]] QIconEngine *clone() const override { return new CountingEngine(m_paints); }
+
+private:
+    int &m_paints;
+};
+
+} // namespace
+
+class ContrastIconTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { tests::failOnWarnings(); }
+    void init() { tests::resetWarnings(); }
+    void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
+
+    void outlinesStandOut_data();
+    void outlinesStandOut();
+    void onlyTheRingsSizeHasAHalo();
+    void theHaloStaysInsideTheSquare();
+    void theLastPictureIsKept();
+    void nothingIsNothing();
+};
+
+void ContrastIconTest::outlinesStandOut_data()
+{
+    QTest::addColumn<QIcon>("icon");
+    for (const char *name : {"document-new",
+                             "document-open",
+                             "document-print",
+                             "document-save",
+                             "edit-copy",
+                             "edit-cut",
+                             "edit-delete",
+                             "edit-paste",
+                             "edit-redo",
+                             "edit-select-all",
+                             "edit-undo",
+                             "view-refresh",
+                             "zoom-fit-best",
+                             "zoom-in",
+                             "zoom-out",
+                             "go-home",
+                             "draw-bezier-curves",
+                             "draw-circle",
+                             "draw-ellipse",
+                             "draw-freehand",
+                             "draw-line",
+                             "draw-polygon",
+                             "draw-polyline",
+                             "draw-rectangle",
+                             "draw-text",
+                             "insert-image",
+                             "insert-text",
+                             "measure",
+                             "object-group",
+                             "object-ungroup",
+                             "transform-move",
+                             "transform-rotate",
+                             "transform-scale",
+                             "view-grid",
+                             "layer-visible-on",
+                             "snap-node",
+                             "align-horizontal-left",
+                             "configure",
+                             "dialog-cancel",
+                             "dialog-ok",
+                             "help-contents"}) {
+        for (const char *folder : {"breeze/actions/16", "breeze/actions/22", "breeze-dark/actions/16",
+                                   "breeze-dark/actions/22"}) {
+            const QString file = QStringLiteral("/usr/share/icons/%1/%2.svg")
+                                     .arg(QLatin1String(folder), QLatin1String(name));
+            QTest::newRow(qPrintable(file)) << QIcon(file);
+        }
+    }
+    for (const char *name : {"fileNew", "fileOpen", "fileSave", "editUndo", "editErase", "drawLine",
+                             "drawCircle", "drawText", "viewZoomBounds", "viewZoomIn", "viewGrid",
+                             "modifyOffset", "modifyCopy", "modifyTrim", "toolsSnap", "helpAbout"})
+        QTest::newRow(name) << icons::named(QLatin1String(name));
+    // One colour each: icons that can hardly be seen without a halo.
+    for (const QColor &colour : {QColor(0x2b, 0x2b, 0x2b), QColor(0xe6, 0xe6, 0xe6), QColor(Qt::red),
+                                 QColor(Qt::yellow), QColor(Qt::blue), QColor(0x75, 0x76, 0x77)})
+        QTest::newRow(qPrintable(colour.name())) << strokes({colour});
+    QTest::newRow("dark and light") << strokes({QColor(0x2b, 0x2b, 0x2b), QColor(0xe6, 0xe6, 0xe6)});
+}
+
+void ContrastIconTest::outlinesStandOut()
+{
+    QFETCH(QIcon, icon);
+    QVERIFY(!icon.pixmap(kRingIconSide).isNull());
+    for (const qreal ratio : {1.0, 1.25, 1.5, 2.0, 3.0}) {
+        const QImage shape = gesturewidget::ringShape(icon, ratio);
+        const QImage picture = gesturewidget::withHalo(shape, ratio);
+        for (const QColor &plate : plates()) {
+            const int part = readablePart(shape, picture, plate);
+            QVERIFY2(
+                part >= 90,
+                qPrintable(QStringLiteral("%1 % at %2 on %3").arg(part).arg(ratio).arg(plate.name())));
+        }
+    }
+}
+
+void ContrastIconTest::onlyTheRingsSizeHasAHalo()
+{
+    const QIcon plain = strokes({QColor(0x2b, 0x2b, 0x2b)});
+    const QIcon icon = contrastIcon(plain);
+    const QSize ring(kRingIconSide, kRingIconSide);
+    const QImage shown = icon.pixmap(ring).toImage();
+    QCOMPARE(shown.size(), ring);
+    QCOMPARE(shown, gesturewidget::withHalo(gesturewidget::ringShape(plain, 1), 1));
+    for (const int side : {16, 22, 24, 32, 48}) {
+        const QSize size(side, side);
+        QCOMPARE(icon.pixmap(size).toImage(), plain.pixmap(size).toImage());
+        QCOMPARE(icon.actualSize(size), plain.actualSize(size));
+    }
+    // As a print paints it.
+    QImage painted(32, 32, QImage::Format_ARGB32_Premultiplied);
+    painted.fill(Qt::white);
+    QImage expected = painted;
+    QPainter paintedPainter(&painted);
+    icon.paint(&paintedPainter, painted.rect());
+    QPainter expectedPainter(&expected);
+    plain.paint(&expectedPainter, expected.rect());
+    QCOMPARE(painted, expected);
+}
+
+void ContrastIconTest::theHaloStaysInsideTheSquare()
+{
+    QPixmap full(64, 64);
+    full.fill(Qt::black);
+    for (const qreal ratio : {1.0, 1.25, 1.5, 2.0, 3.0}) {
+        const QImage picture =
+            gesturewidget::withHalo(gesturewidget::ringShape(QIcon(full), ratio), ratio);
+        const int side = qRound(kRingIconSide * ratio);
+        QCOMPARE(picture.size(), QSize(side, side));
+        QCOMPARE(picture.devicePixelRatio(), ratio);
+        // There is room for all of it: the shape is black, then comes white, then nothing.
+        const int middle = side / 2;
+        QCOMPARE(QColor(picture.pixel(middle, middle)), QColor(Qt::black));
+        const int edge = qRound(2 * ratio);
+        QVERIFY(qAlpha(picture.pixel(edge - 1, middle)) > 200);
+        QVERIFY(qGray(picture.pixel(edge - 1, middle)) > 200);
+        QVERIFY(qAlpha(picture.pixel(0, middle)) < 200);
+    }
+}
+
+void ContrastIconTest::theLastPictureIsKept()
+{
+    int paints = 0;
+    const QIcon icon = contrastIcon(QIcon(new CountingEngine(paints)));
+    QCOMPARE(paints, 0); // nothing is drawn before it is asked for
+    const QIcon copy = icon;
+    QVERIFY(!icon.pixmap(kRingIconSide).isNull());
+    QVERIFY(!copy.pixmap(kRingIconSide).isNull());
+    QCOMPARE(paints, 1);
+}
+
+void ContrastIconTest::nothingIsNothing()
+{
+    QVERIFY(contrastIcon(QIcon()).isNull());
+}
+
+QTEST_MAIN(ContrastIconTest)
+#include "tst_contrasticon.moc"
