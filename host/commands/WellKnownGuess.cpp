@@ -23,14 +23,17 @@ namespace {
 
 // Each kind of sign outweighs all those after it together. The menu tells "Insert > Text" from
 // "Convert to > Text"; alone it says nothing.
-constexpr int kShortcutWeight = 16;
-constexpr int kIconWeight = 8;
-constexpr int kNameWeight = 4;
-constexpr int kCaptionWeight = 2;
+constexpr int kShortcutWeight = 32;
+constexpr int kIconWeight = 16;
+constexpr int kNameWeight = 8;
+constexpr int kCaptionWeight = 4;
 constexpr int kMenuWeight = 1;
 // Of a file command's shortcut in another menu than the first: some program runs something
 // else by it.
 constexpr int kDoubtfulWeight = 1;
+// Of a shortcut or icon where caption and object name say it only in part: "Save All" may have
+// Ctrl+S beside "Save".
+constexpr int kPartlyWeight = 1;
 
 using Words = QSet<QString>;
 
@@ -180,7 +183,7 @@ QVector<Signs> makeSigns()
         {"ID_ZOOM_BOUNDS",
          QT_TRANSLATE_NOOP("host", "Zoom to Fit"),
          QKeySequence::UnknownKey,
-         list("zoom-fit-best|zoom-fit|zoom-fit-page|page-zoom"),
+         list("zoom-fit-best|zoom-fit|zoom-fit-page"),
          kViewRole,
          {},
          {},
@@ -202,7 +205,7 @@ QVector<Signs> makeSigns()
                 sign.mentions.insert(words);
         }
         if (sign.menuRoles == kViewRole)
-            sign.mentions |= sign.menus; // "Zoom ..." with the icon for it
+            sign.mentions.insert(QStringLiteral("zoom"));
     }
     return signs;
 }
@@ -333,10 +336,11 @@ bool isUnspaced(const QString &word)
 
 bool mentions(const QString &text, const Words &words)
 {
-    const QStringList parts = text.split(QLatin1Char(' '));
-    return std::any_of(words.begin(), words.end(), [&](const QString &word) {
-        return isUnspaced(word) ? text.contains(word) : parts.contains(word);
-    });
+    const QStringList parts = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    if (containsAny(parts, words))
+        return true;
+    return std::any_of(words.begin(), words.end(),
+                       [&text](const QString &word) { return isUnspaced(word) && text.contains(word); });
 }
 
 // What speaks for one identifier.
@@ -360,10 +364,10 @@ struct Signals
         };
         hasName = std::any_of(look.nameWords.begin(), look.nameWords.end(), isWord);
         hasCaption = isWord(look.captionWords);
-        isMentioned =
-            mentions(look.captionWords, signs.mentions)
-            || std::any_of(look.nameWords.begin(), look.nameWords.end(),
-                           [&signs](const QString &name) { return mentions(name, signs.mentions); });
+        const auto isMention = [&signs](const QString &text) { return mentions(text, signs.mentions); };
+        isMentioned = (hasIcon || !shortcut.isEmpty()) // asked for beside these only
+                   && (isMention(look.captionWords)
+                       || std::any_of(look.nameWords.begin(), look.nameWords.end(), isMention));
         const bool isInFirstMenu = isFileCommand && look.places.contains(0);
         isElsewhere = !look.places.isEmpty() && !isInMenu && !isInFirstMenu
                    && !containsAny(look.menusAbove, signs.menus);
@@ -385,14 +389,15 @@ struct Signals
 // which another speaks.
 bool isConvincing(const Signs &signs, const Signals &has, const Look &look)
 {
-    // What stays switched on is a mode. Only tools and "keep it fitting" are such.
     const bool isTool = signs.shortcut == QKeySequence::UnknownKey;
-    if (look.isCheckable && (!isTool || (signs.menuRoles == kViewRole && !has.hasIcon)))
-        return false;
     const bool isSaid = has.hasName || has.hasCaption;
+    // What stays switched on is a mode. Only tools and "keep it fitted" are such.
+    const bool isZoom = signs.menuRoles == kViewRole;
+    if (look.isCheckable && (!isTool || (isZoom && !(has.hasIcon && isSaid))))
+        return false;
     if (!has.shortcut.isEmpty() && (has.hasCaption || !has.isDoubtful) && (isSaid || has.isMentioned))
         return true;
-    if (has.isElsewhere && signs.menuRoles != kViewRole)
+    if (has.isElsewhere && !isZoom)
         return false;
     // Of a button that is in no menu, "Save" may mean anything, and the command comes later.
     if (look.isButtonOnly && !isTool && !has.hasName && !has.hasIcon)
@@ -414,9 +419,11 @@ WellKnownGuess judge(const Signs &signs, const Look &look)
         guess.weight += weight;
         reasons.append(QStringLiteral("%1 \"%2\"").arg(kind, what));
     };
-    weigh(!has.shortcut.isEmpty(), has.isDoubtful ? kDoubtfulWeight : kShortcutWeight,
+    const bool isPartly = !has.hasName && !has.hasCaption && (has.shortcut.isEmpty() || !has.hasIcon);
+    const auto weightOf = [isPartly](int weight) { return isPartly ? kPartlyWeight : weight; };
+    weigh(!has.shortcut.isEmpty(), has.isDoubtful ? kDoubtfulWeight : weightOf(kShortcutWeight),
           QStringLiteral("shortcut"), has.shortcut);
-    weigh(has.hasIcon, kIconWeight, QStringLiteral("icon"), look.icon);
+    weigh(has.hasIcon, weightOf(kIconWeight), QStringLiteral("icon"), look.icon);
     weigh(has.hasName, kNameWeight, QStringLiteral("object name"), look.name);
     weigh(has.hasCaption, kCaptionWeight, QStringLiteral("caption"), look.caption);
     if (has.isInMenu)

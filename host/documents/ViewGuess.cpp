@@ -20,6 +20,7 @@
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QProgressBar>
+#include <QRegularExpression>
 #include <QScrollArea>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -113,14 +114,10 @@ bool takesText(const QWidget *widget)
 
 bool isStartPage(const QWidget *widget)
 {
-    for (const QString &name : {className(widget), widget->objectName()}) {
-        const QString lower = name.toLower();
-        for (const char *word : {"startpage", "start_page", "startscreen", "startview", "welcome"}) {
-            if (lower.contains(QLatin1String(word)))
-                return true;
-        }
-    }
-    return false;
+    static const QRegularExpression startPage(QStringLiteral("welcome|start[a-z_]*(page|screen|view)"),
+                                              QRegularExpression::CaseInsensitiveOption);
+    return startPage.match(className(widget)).hasMatch()
+        || startPage.match(widget->objectName()).hasMatch();
 }
 
 // The child of an MDI area, or the central widget of a main window, that `widget` is in or is;
@@ -212,6 +209,14 @@ const QWidget *viewportOf(const QWidget *widget)
     return area ? area->viewport() : nullptr;
 }
 
+// Whether a child keeps clear of all edges by more than the margin of a layout. It is a note or
+// the like over a picture then.
+bool liesOver(const QWidget &child, const QWidget &widget)
+{
+    constexpr int kMargin = 16; // pixels
+    return widget.rect().marginsRemoved({kMargin, kMargin, kMargin, kMargin}).contains(child.geometry());
+}
+
 // A visible child that fills most of `widget` and takes its input; null if none. Of a
 // scroll area the content, however large it is.
 const QWidget *contentOf(const QWidget *widget)
@@ -223,7 +228,7 @@ const QWidget *contentOf(const QWidget *widget)
     for (const QObject *object : children) {
         const auto *child = qobject_cast<const QWidget *>(object);
         if (child && !child->isWindow() && child->isVisible()
-            && !child->testAttribute(Qt::WA_TransparentForMouseEvents)
+            && !child->testAttribute(Qt::WA_TransparentForMouseEvents) && !liesOver(*child, *widget)
             && percentOf(child, widget) >= ViewGuess::kShare)
             return child;
     }

@@ -48,6 +48,7 @@ private Q_SLOTS:
     void someWordsCountInTheirMenuOnly();
     void whatASignContradictsStaysEmpty_data();
     void whatASignContradictsStaysEmpty();
+    void thePlainCaptionWinsOverAPart();
     void aMenuFurtherUpSpeaksForIt();
     void aModeIsNoCommand();
     void aButtonIsNoFileCommandByItsCaption();
@@ -233,10 +234,10 @@ void WellKnownGuessTest::theMoreTrustedSignWins()
     // All that are weaker together do not outweigh it.
     add(weaker >= 1 ? QStringLiteral("fileOpen") : QString(), QStringLiteral("Open"),
         weaker >= 2 ? QStringLiteral("document-open") : QString());
-    QAction *wins =
-        add(stronger == 1 ? QStringLiteral("fileOpen") : QString(), QStringLiteral("Open Image"),
-            stronger == 2 ? QStringLiteral("document-open") : QString(),
-            stronger == 3 ? QKeySequence(QKeySequence::Open) : QKeySequence());
+    QAction *wins = add(stronger == 1 ? QStringLiteral("fileOpen") : QString(),
+                        stronger >= 2 ? QStringLiteral("Open") : QStringLiteral("Open Image"),
+                        stronger == 2 ? QStringLiteral("document-open") : QString(),
+                        stronger == 3 ? QKeySequence(QKeySequence::Open) : QKeySequence());
     QCOMPARE(WellKnownGuess::among(actions()).value(0).action, wins);
 }
 
@@ -337,6 +338,14 @@ void WellKnownGuessTest::whatASignContradictsStaysEmpty()
     QVERIFY2(found.isEmpty(), found.isEmpty() ? "" : qPrintable(found.first().reason));
 }
 
+// "Save All" has Ctrl+S in some program, and "Save" has none.
+void WellKnownGuessTest::thePlainCaptionWinsOverAPart()
+{
+    add(QStringLiteral("actionSaveAll"), QStringLiteral("Save All"), QString(), QKeySequence::Save);
+    QAction *save = add(QStringLiteral("actionSave"), QStringLiteral("Save"));
+    QCOMPARE(WellKnownGuess::among(actions()).value(0).action, save);
+}
+
 void WellKnownGuessTest::aMenuFurtherUpSpeaksForIt()
 {
     QMenuBar bar;
@@ -354,8 +363,11 @@ void WellKnownGuessTest::aModeIsNoCommand()
     all->setCheckable(true);
     zoom->addAction(all);
     QVERIFY(WellKnownGuess::among(actions()).isEmpty());
-    // The icon tells that it keeps the drawing fitted.
+    // The icon tells that it keeps the drawing fitted, but not alone.
     all->setIcon(QIcon::fromTheme(QStringLiteral("zoom-fit-best")));
+    QAction *select = add(QString(), QStringLiteral("Select and Zoom"), QStringLiteral("zoom-fit-best"));
+    select->setCheckable(true);
+    QVERIFY(WellKnownGuess::among({select}).isEmpty());
     QCOMPARE(WellKnownGuess::among(actions()).value(0).action, all);
 }
 

@@ -505,6 +505,23 @@ void ViewGuessTest::guesses_data()
         },
         true, "it paints itself");
     row(
+        "canvas under a note",
+        [](QMainWindow &w) {
+            auto *canvas = new Canvas;
+            filledBy(canvas, new Editor)->layout()->setContentsMargins(25, 25, 25, 25);
+            w.setCentralWidget(canvas);
+            return canvas;
+        },
+        true, "fills 100 %");
+    row(
+        "start page by a longer name",
+        [](QMainWindow &w) {
+            QWidget *page = central<Canvas>(w);
+            page->setObjectName(QStringLiteral("StartMainPage"));
+            return page;
+        },
+        false, "start page");
+    row(
         "canvas with three labels",
         [](QMainWindow &w) {
             QWidget *canvas = canvasWithLabels(3);
