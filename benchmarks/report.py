@@ -1,4 +1,7 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 GestureWidget developers
+# SPDX-License-Identifier: MIT
+
 """Runs the benchmark programs and prints each figure beside its baseline. ./bench calls it."""
 
 import argparse

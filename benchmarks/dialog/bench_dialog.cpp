@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // What the configuration dialog costs beside the plainest Qt classes that show the same rows.
 // Each pair of benchmarks does the same with either.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // How long a person waits for the ring: from an event to a frame that the X server has finished.
 // The baselines are windows that do as little as a window can, measured in the same way.
 //

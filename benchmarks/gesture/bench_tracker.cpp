@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // What an update costs the host while no gesture is on. The baseline is the virtual call alone.
 
 #include "bindings/MgDonutDataContainer.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // A whole program with gestures, the real host and the real module, beside the same program
 // without: what a movement of the mouse costs it, and how long a ring takes to open.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // What it costs to read the ring's data from the host, beside one pass over the same actions
 // that reads the same texts and the icon; and what many equal captions cost.
 

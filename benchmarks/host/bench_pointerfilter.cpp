@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // What a movement of the mouse costs with the pointer filter, beside what Qt's own delivery
 // of it costs: in a view, in another widget, and what any other event pays.
 

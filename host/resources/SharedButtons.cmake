@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 GestureWidget developers
+# SPDX-License-Identifier: MIT
+
 # The images of dialog buttons, drawn while building. Included by the folder above, whose
 # target embeds them: gesturewidget_hostcode.
 #

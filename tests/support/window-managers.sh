@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 GestureWidget developers
+# SPDX-License-Identifier: MIT
+
 # How each window manager is started for a test. Sourced by with-desktop.sh.
 #
 # Every one runs with the settings that it has after installation, as far as this leaves the

@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 GestureWidget developers
+# SPDX-License-Identifier: MIT
+#
 # Runs a command on a desktop of its own: an X server without a screen, a window manager
 # and a compositor. The command starts once all three are up. However it ends, and also if
 # this script is killed, nothing of them stays behind.

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // What is said of a program that nobody has described, and over which socket.
 
 #include "host/explain/Explanation.h"

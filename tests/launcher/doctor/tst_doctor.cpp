@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // What --doctor says about a program, finding by finding.
 
 #include "launcher/doctor/Doctor.h"

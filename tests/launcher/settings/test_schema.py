@@ -1,4 +1,7 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 GestureWidget developers
+# SPDX-License-Identifier: MIT
+
 """Tries docs/bindings.schema.json with the files of fixtures/ that the code is tried with."""
 
 import json

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "tests/host/session/modules/StubModule.h"
 
 // One file for every fixture; what the fixture lacks or does wrong is chosen by a
