@@ -18,7 +18,7 @@ public:
     // Ends the walk and gives the map from command strings to categories.
     [[nodiscard]] QMap<QString, QString> end();
 
-    // Whether the walk that ended last found what the one before it found.
+    // True if the last walk found the same as the walk before it.
     [[nodiscard]] bool isAsBefore() const { return m_isAsBefore; }
     // Forgets a walk that did not come to its end.
     void forget();

@@ -6,11 +6,11 @@
 #include <map>
 #include <utility>
 
-// What the donut shows, by direction: sectors counter-clockwise from the top, from 0. The
-// maps hold every direction below sectorCount.
+// The contents of the ring by direction. Directions count the sectors counter-clockwise from
+// the top, from 0. The maps hold every direction below sectorCount.
 struct DonutHelperData
 {
-    // What the first half of a sector's pair says of the second.
+    // Values of the first half of a sector's pair: they tell what the second half is.
     static constexpr int kIcon = 0; // a QIcon to draw in the sector
     static constexpr int kText = 1; // a QString to write in the sector; empty when unbound
 

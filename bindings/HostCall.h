@@ -3,8 +3,8 @@
 #include <utility>
 
 // Calls into the host. An exception of the host ends here: a module reports no errors, and one
-// failed call must not keep the others from being made, least of all those that take
-// registrations back. Returns whether the call came back without an exception.
+// failed call must not prevent the others. This matters most where registrations are removed. Returns
+// whether the call came back without an exception.
 template <class Call> bool hostCall(Call &&call) noexcept
 {
     try {

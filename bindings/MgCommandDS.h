@@ -11,10 +11,10 @@ public:
                 const QString &category, const QString &tooltip, const QIcon &icon,
                 unsigned char fourDirection, unsigned char eightDirection);
 
-    // By category alone: records of one category are equivalent and keep no order of their
-    // own when sorted.
+    // Compares categories only. Records of one category are equivalent: sorting gives them no
+    // particular order.
     [[nodiscard]] bool operator<(const MgCommandDS &other) const;
-    // Whether `id` is that string: how a stored setting finds its record.
+    // True if `id` equals the string. A stored setting finds its record this way.
     [[nodiscard]] bool operator==(const QString &otherId) const;
 
     QString id; // the host's identifier, such as "ID_LINE"; the value kept in the settings

@@ -43,18 +43,18 @@ public:
     // direction is unbound or there is no such direction. A pointer on a sector's border can
     // really yield the sector count as its index.
     [[nodiscard]] QString getCommandNameFromIndex(int direction) const;
-    // What the donut shows in each sector. Calls init() first, so that it shows what the
-    // host and the settings hold now.
+    // The contents of the ring. Calls init() first, so the ring shows what the host and the
+    // settings hold now.
     [[nodiscard]] DonutHelperData getDonutHelperData();
 
-    // Reads the host's commands and all settings anew. When the host throws in the middle, or
+    // Reads the host's commands and all settings again. When the host throws in the middle, or
     // does not hand out a value that it has, the reading has failed: everything stays as it was
     // read last, and nothing is written until a reading succeeds.
     void init();
-    // Whether the last reading failed; see init().
+    // True if the last reading failed; see init().
     [[nodiscard]] bool hasReadingFailed() const { return m_readingFailed; }
     // The enable flag and the scheme from the settings; what is missing or malformed is
-    // written anew.
+    // replaced and written.
     void applyCommonSettings();
     // The directions of one scheme from the settings. Afterwards all keys of the scheme
     // exist, and one whose command the host does not offer is empty.
@@ -68,8 +68,8 @@ public:
     void update(const std::vector<MgCommandDS> &records, bool enabled, DonutScheme activeScheme);
     // Writes the factory defaults and reads them back.
     void applyDefaultSettings();
-    // Whether the eight scheme's directions are the factory defaults. Deliberately asks
-    // nothing else: neither the four scheme nor the flag nor the scheme in use.
+    // True if the eight scheme's directions are the factory defaults. Ignores the four scheme,
+    // the enable flag and the scheme in use; this is deliberate.
     [[nodiscard]] bool isDefaultSettingsEnabled() const;
 
     // Walks all of the host's menus, see fcParseRecursive().
@@ -87,8 +87,8 @@ protected:
     ~MgDonutDataContainer();
 
     std::vector<MgCommandDS> commands;
-    // By direction index: the place in `commands` of the bound record, or -1. Always of
-    // these lengths.
+    // By direction index: the place of the bound record in `commands`, or -1. The lengths never
+    // change.
     std::vector<int> fourTable; // 4
     std::vector<int> eightTable; // 8
     bool gestureEnabled = true;
@@ -96,7 +96,7 @@ protected:
     QMap<QString, QString> categoryMap; // command string to category
     bool largeIcons = false; // the host's setting as of the last init()
 
-    // What instance() gave out last; null before its first call.
+    // The object that instance() returns; null before its first call.
     static MgDonutDataContainer *_pinstance;
 
 private:
@@ -123,7 +123,7 @@ private:
     bool m_readingFailed = false;
     CategoryWalk m_categoryWalk;
     bool m_isWalking = false; // through all menus, by fillCommandCategoryMap()
-    // Whether the records have the categories of the last walk, with this word for "Others".
+    // True if the records have the categories of the last walk, with this word for "Others".
     bool m_categoriesHold = false;
     QString m_others;
     bool m_isListAsBefore = false;

@@ -23,8 +23,8 @@ CHxProfileStore *profileStore()
     return services ? services->GetProfileStore() : nullptr;
 }
 
-// Where programs of older days kept the settings. Made anew for each use: programs that
-// run at the same time may write there too.
+// Older programs kept the settings here. Create one for each use: other programs may write to
+// it at the same time.
 class OlderSettings
 {
 public:
@@ -58,7 +58,7 @@ MgDonutSettings *MgDonutSettings::instance()
 QString MgDonutSettings::getInitialValue(const QString &key) const
 {
     if (key == settingskeys::activeScheme())
-        return QStringLiteral("8"); // meant to differ from settingskeys::initialValue()
+        return QStringLiteral("8"); // deliberately not settingskeys::initialValue()
     return settingskeys::initialValue(key);
 }
 

@@ -4,8 +4,8 @@
 #include <QtGlobal>
 
 // Keeps the settings: strings under the keys of SettingsKeys.h, in the section
-// "GestureWidget" of the host's profile store. Programs of older days kept them in
-// QSettings; what is found only there is copied over the first time it is read.
+// "GestureWidget" of the host's profile store. Older programs kept them in
+// QSettings. A value that is found only there is copied when it is first read.
 //
 // Writing ends what the host throws. Reading and asking for keys pass it on: whoever takes a
 // value that could not be read for a missing one would write over it.
@@ -20,26 +20,25 @@ public:
     // The one object; never null.
     [[nodiscard]] static MgDonutSettings *instance();
 
-    // What a key holds at first; empty for a key that is none of the fourteen.
+    // The initial value of a key; empty for an unknown key.
     [[nodiscard]] QString getInitialValue(const QString &key) const;
 
-    // Always true: what the host makes of it is not looked at.
+    // Always true: the host's result is ignored.
     bool write(const QString &key, const QString &value);
     // Fills `value` from the profile store, else from the older settings, else with the
     // initial value, and keeps in the profile store what was not there yet. False, with
     // `value` as it was and nothing kept, when the older settings hold a null value.
     bool read(const QString &key, QString &value);
-    // Whether the profile store or the older settings hold the key.
+    // True if the profile store or the older settings hold the key.
     [[nodiscard]] bool keyExists(const QString &key) const;
 
-    // Empties the older settings and writes the initial value of all fourteen keys. The
-    // name notwithstanding, the profile store is full afterwards: the container reads the
-    // defaults back from it.
+    // Empties the older settings and writes the initial value of all fourteen keys. Despite
+    // its name it leaves the profile store full: the container reads the defaults from it.
     void deleteAllKeys();
 
-    // Whether none of "41" to "44" exists.
+    // True if none of "41" to "44" exists.
     [[nodiscard]] bool noFourKeyExists() const;
-    // Whether none of "81" to "88" exists.
+    // True if none of "81" to "88" exists.
     [[nodiscard]] bool noEightKeyExists() const;
 
 protected:

@@ -69,7 +69,7 @@ QString initialValue(const QString &key)
     if (key == enableMouseGesture())
         return QStringLiteral("1");
     if (key == activeScheme())
-        return QStringLiteral("4"); // meant to differ from the store's, see the header
+        return QStringLiteral("4"); // deliberately not the store's, see the header
     for (int i = 0; i < kFourCount; ++i) {
         if (key == fourDirections()[i].key)
             return fourDirections()[i].command;

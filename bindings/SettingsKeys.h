@@ -4,7 +4,7 @@
 
 #include <QString>
 
-// The fourteen keys of the settings and what they hold before anybody has chosen anything.
+// The fourteen keys of the settings and their initial values.
 // All values are strings.
 namespace settingskeys {
 
@@ -20,9 +20,9 @@ constexpr int kEightCount = 8;
 // scheme. `number` is the direction index + 1. Empty for any other scheme or number.
 [[nodiscard]] QString directionKey(DonutScheme scheme, int number);
 
-// What a key holds at first, as the binding container sees it; empty for a key that is none
-// of the fourteen. "4" for activeScheme(), where the settings store says "8": the container
-// asks for direction keys only, so the two never meet. Meant to stay different.
+// The initial value of a key for the binding container; empty for an unknown key. It is "4" for
+// activeScheme(), but "8" in the settings store. The container asks for direction keys only, so
+// the difference never shows. It is deliberate.
 [[nodiscard]] QString initialValue(const QString &key);
 
 } // namespace settingskeys

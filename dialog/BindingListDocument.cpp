@@ -24,7 +24,7 @@ QFont fontOf(const QVariant &value)
     return value.userType() == qMetaTypeId<QFont>() ? value.value<QFont>() : QFont();
 }
 
-// Of a colour or of a brush, which these roles may be as well; invalid for anything else.
+// These roles may hold a colour or a brush. Invalid for anything else.
 QColor colorOf(const QVariant &value)
 {
     return value.value<QColor>();
@@ -47,7 +47,7 @@ void setUpCell(QTextTableCell cell, const QColor &background)
     cell.setFormat(format);
 }
 
-// In the middle of the line, beside the text.
+// The image is centred on the line of the text.
 void insertImage(QTextCursor cursor, const QImage &image)
 {
     const int start = cursor.position();
@@ -58,7 +58,7 @@ void insertImage(QTextCursor cursor, const QImage &image)
     cursor.mergeCharFormat(format);
 }
 
-// Always of the full size; an icon that only has smaller pictures sits in its middle.
+// Always full size. A smaller icon is centred.
 QImage render(const QIcon &icon)
 {
     QImage image(kIconSize, kIconSize, QImage::Format_ARGB32_Premultiplied);
@@ -88,7 +88,7 @@ void fillCell(const QModelIndex &index, const QTextTableCell &cell)
 
     QString text = index.data(Qt::DisplayRole).toString();
     QTextBlockFormat block;
-    // Only decides about the block: what is printed keeps its white space.
+    // Trimming only decides the block format. The printed text keeps its white space.
     if (text.trimmed().isEmpty()) {
         block.setTopMargin(kEmptyCellMargin);
         block.setBottomMargin(kEmptyCellMargin);

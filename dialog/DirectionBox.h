@@ -15,7 +15,7 @@ class DirectionBox : public QComboBox
 public:
     explicit DirectionBox(QWidget *parent);
 
-    // Whether the user has chosen an entry, also the one that was current already.
+    // True once the user has chosen an entry, even the current one.
     [[nodiscard]] bool isChosen() const { return m_chosen; }
 
 protected:

@@ -9,14 +9,14 @@
 
 class MgDonutDialogManager;
 
-// The dialog's working copy of all commands, a row each: category, command, direction. It
-// takes the bindings from the binding container and never writes them back: the dialog does
-// so with getCommands().
+// The dialog's working copy of all commands. Each row has a category, a command and a
+// direction. The model reads the bindings from the binding container but never writes them
+// back: the dialog does that with getCommands().
 //
-// "The current direction" is the one of the scheme that the dialog shows. Without a dialog
-// no row passes the filter, nothing has a direction and nothing can be changed.
+// "The current direction" is the direction in the scheme that the dialog shows. Without a
+// dialog no row passes the filter, no row has a direction and nothing can be changed.
 //
-// rowCount() and columnCount() answer the same for every parent, also for a cell.
+// rowCount() and columnCount() ignore the parent.
 class MgCommandDSModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -27,30 +27,29 @@ public:
     static constexpr int kDirectionColumn = 2;
     static constexpr int kColumnCount = 3;
 
-    // `dialog` is the MgDonutDialogManager that the model works for. It does not become the
-    // parent and must live as long as the model is used.
+    // `dialog` is the MgDonutDialogManager that owns the model. It does not become the QObject
+    // parent and must outlive the model's use.
     explicit MgCommandDSModel(QObject *dialog);
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     // Gives a record a direction (Qt::EditRole, the last column; 0 for none) and takes it
-    // away from the record that has it. Emits no dataChanged(): views show the change when
-    // the editor closes, and the filter and the order stay as they are until they are asked
-    // for anew.
+    // away from the record that has it. Emits no dataChanged(): views show the change
+    // when the editor closes. The filter and the order change only at the next applyFilter().
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
                                       int role = Qt::DisplayRole) const override;
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex &index) const override;
 
-    // Of a row that does not exist: an empty string, direction 0.
+    // For a row that does not exist: an empty string, direction 0.
     [[nodiscard]] QString getCommandDisplayName(int row) const;
     [[nodiscard]] QString getCategory(int row) const;
     [[nodiscard]] unsigned char getInvokerType(int row) const;
     // The current direction in words, for screen readers; "None" for none.
     [[nodiscard]] QString getDirectionName(int row) const;
 
-    // Whether a row with these values passes the dialog's filter controls as they are now.
+    // True if a row with these values passes the dialog's filter controls as they are now.
     [[nodiscard]] bool checkFilterCondition(const QString &displayName, const QString &category,
                                             unsigned char direction) const;
 
@@ -84,7 +83,7 @@ private:
     static void assignInFourScheme(MgCommandDS &record, MgCommandDS *holder, unsigned char direction);
     static void assignInEightScheme(MgCommandDS &record, MgCommandDS *holder, unsigned char direction);
 
-    // What a record's direction bytes were before a change.
+    // A record's direction bytes before a change.
     struct Bytes
     {
         int row;
@@ -92,6 +91,6 @@ private:
         unsigned char eight;
     };
     [[nodiscard]] Bytes bytesOf(const MgCommandDS &record) const;
-    // By change, oldest first: the bytes of the one or two records that it changed.
+    // One entry a change, oldest first: the bytes of the one or two changed records.
     std::vector<std::vector<Bytes>> m_changes;
 };

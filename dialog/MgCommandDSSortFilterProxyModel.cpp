@@ -18,8 +18,8 @@ void MgCommandDSSortFilterProxyModel::applyFilter()
 
 void MgCommandDSSortFilterProxyModel::sort(int column, Qt::SortOrder order)
 {
-    // A table view asks twice for what it shows. Texts never change, so that order stands;
-    // directions do, without a word from the model.
+    // A table view asks twice for the same order. Texts never change, so their order stays
+    // right. Directions change without a signal from the model.
     const bool isByText =
         column == MgCommandDSModel::kCategoryColumn || column == MgCommandDSModel::kCommandColumn;
     if (isByText && column == sortColumn() && order == sortOrder()
@@ -61,8 +61,8 @@ bool MgCommandDSSortFilterProxyModel::lessThan(const QModelIndex &left, const QM
     if (left.column() == MgCommandDSModel::kDirectionColumn)
         return commands->getInvokerType(left.row()) < commands->getInvokerType(right.row());
 
-    // What the base class would find with these settings, the ones it starts with, without
-    // wrapping every text in a variant: thousands of commands are sorted when the dialog opens.
+    // Compares as the base class does with its default settings, but without wrapping every text
+    // in a variant: thousands of commands are sorted when the dialog opens.
     const MgCommandDS *first = commands->recordAt(left.row());
     const MgCommandDS *second = commands->recordAt(right.row());
     if (first && second && sortRole() == Qt::DisplayRole && sortCaseSensitivity() == Qt::CaseSensitive

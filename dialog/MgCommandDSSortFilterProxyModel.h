@@ -12,15 +12,15 @@ class MgCommandDSSortFilterProxyModel : public QSortFilterProxyModel
 public:
     MgCommandDSSortFilterProxyModel();
 
-    // Filters and sorts again: to be called when a filter control or the scheme has changed.
+    // Filters and sorts again. Call this when a filter control or the scheme has changed.
     void applyFilter();
 
     // Rows that compare equal keep the order of the source model, whatever was sorted by
     // before. A column below 0 gives that order back.
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
 
-    // As the source model, and besides the direction in words for screen readers and each text
-    // as its own tooltip.
+    // Adds two roles to the source model's: the direction in words for screen readers, and each
+    // text as its own tooltip.
     [[nodiscard]] QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
 
 protected:
@@ -30,6 +30,6 @@ protected:
     // compares them.
     [[nodiscard]] bool lessThan(const QModelIndex &left, const QModelIndex &right) const override;
 
-    // Always empty; kept for who derives from this class.
+    // Always empty; kept for derived classes.
     QString filterText;
 };

@@ -15,8 +15,8 @@ public:
     // accessible text also says which command has it.
     static constexpr int kDirectionNameRole = Qt::UserRole;
 
-    // `directions` lists the choices. It is not taken over, is shared by all editors and must
-    // outlive them.
+    // `directions` lists the choices. The caller keeps it. All editors share it, so it
+    // must outlive them.
     MgCommandModelDelegate(QStandardItemModel *directions, QObject *parent);
 
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,

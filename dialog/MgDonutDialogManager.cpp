@@ -51,7 +51,7 @@ struct Direction
     const char *name;
 };
 
-// By direction number - 1 in the eight scheme. The four scheme has every other one.
+// Indexed by direction number - 1 in the eight scheme. The four scheme uses every other entry.
 constexpr Direction kDirections[] = {
     {"up.png", QT_TRANSLATE_NOOP("MgDonutDialogManager", "Up")},
     {"up_left.png", QT_TRANSLATE_NOOP("MgDonutDialogManager", "Up left")},
@@ -104,7 +104,7 @@ QStringList usedCategories(const QString &others)
 MgDonutDialogManager::MgDonutDialogManager(QWidget *parent, Qt::WindowFlags flags)
     : CHxDialog(parent, flags != Qt::WindowFlags(), Qt::WindowTitleHint | Qt::WindowSystemMenuHint)
 {
-    // What the container could not read could not be saved either.
+    // Try a failed reading again: the container saves nothing after it.
     if (MgDonutDataContainer::instance()->hasReadingFailed())
         MgDonutDataContainer::instance()->init();
     ui.setupUi(this);
@@ -158,10 +158,10 @@ void MgDonutDialogManager::fixWidth()
 
 void MgDonutDialogManager::fillCategories()
 {
-    // Kept, so that a language that changes while the dialog is open cannot make the box's
-    // own entry unknown to the filter.
+    // Kept for the filter: it still finds the entry if the language changes while the dialog
+    // is open.
     m_allCommands = tr("All Commands");
-    // As the catalogue files commands that are in no menu.
+    // The category of commands that are in no menu.
     const QString others = QObject::tr("Others");
 
     std::optional<QStringList> captions;
@@ -307,6 +307,7 @@ void MgDonutDialogManager::sortByKey(int column)
 
 void MgDonutDialogManager::takeBack()
 {
+    m_robbedNotice->hide();
     if (model->takeBack())
         nameHolders();
 }
@@ -314,6 +315,7 @@ void MgDonutDialogManager::takeBack()
 void MgDonutDialogManager::directionAssigned(int row, int robbedRow)
 {
     nameHolders();
+    m_robbedNotice->hide();
     if (robbedRow >= 0)
         showRobbed(row, model->getCommandDisplayName(robbedRow));
 }
@@ -406,7 +408,7 @@ void MgDonutDialogManager::enableReset()
     ui.reset_pushButton->setEnabled(true);
 }
 
-// Also enables "Reset to Defaults" when the bindings are the defaults; meant.
+// Also enables "Reset to Defaults" when the bindings are the defaults. This is deliberate.
 void MgDonutDialogManager::checkBoxStateChanged(int state)
 {
     disableControls(state == Qt::Checked);
@@ -422,7 +424,7 @@ void MgDonutDialogManager::radioButtonStateChanged(bool /*checked*/)
         count = 4;
     }
 
-    // One row more than this comes of the rows that are put in: "none" and each direction.
+    // Setting the items adds one more row: "None" and each direction.
     directionList.setRowCount(count);
     directionList.setColumnCount(1);
     directionList.setItem(0, new QStandardItem(tr("None")));
@@ -430,7 +432,7 @@ void MgDonutDialogManager::radioButtonStateChanged(bool /*checked*/)
         const auto direction = static_cast<unsigned char>(row);
         auto *item = new QStandardItem;
         item->setIcon(getDirectionIcon(direction, Eight));
-        // As high as a row of text with room around it; arrows alone would touch each other.
+        // The height of a line of text plus some room: arrows alone would touch each other.
         item->setSizeHint(QSize(1, 1) * (fontMetrics().height() + 4));
         directionList.setItem(row, item);
     }

@@ -33,15 +33,15 @@ public:
     static constexpr DonutScheme Four = DonutSchemes::Four;
     static constexpr DonutScheme Eight = DonutSchemes::Eight;
 
-    // `flags` only decides whether the host's dialog is told to keep the window flags: it is
-    // when any is set. The window flags themselves are the dialog's own.
+    // If any of `flags` is set, the host's dialog is told to keep the window flags. The flags
+    // themselves are not used: the dialog has its own.
     MgDonutDialogManager(QWidget *parent, Qt::WindowFlags flags);
     ~MgDonutDialogManager() override;
 
     // The scheme that the dialog shows.
     [[nodiscard]] DonutScheme getScheme() const { return scheme; }
-    // Whether the container, not the dialog's copy, holds the factory bindings. Never in the
-    // four scheme: the factory's is the eight scheme.
+    // True if the container, not the dialog's copy, holds the factory bindings. Always false in
+    // the four scheme: the factory setting is the eight scheme.
     [[nodiscard]] bool isDefaultSettingsEnabled() const;
     // Shows the container's scheme and enable flag.
     void initDialogState();
@@ -53,7 +53,7 @@ public:
     // The topic of the dialog's help, 9000.
     [[nodiscard]] int GetHelpId() const override;
 
-    // What the filter controls say now.
+    // The filter controls as they are now.
     [[nodiscard]] QString searchText() const;
     [[nodiscard]] QString categoryText() const;
     [[nodiscard]] bool showsAssignedOnly() const;

@@ -20,7 +20,7 @@ QString fileFor(const QString &path, qreal ratio)
     const auto dot = path.lastIndexOf(QLatin1Char('.'));
     const int wanted = static_cast<int>(std::ceil(std::min<qreal>(ratio, kLargestRatio)));
     for (int n = wanted; n > 1; --n) {
-        const QString file = path.left(dot) + QStringLiteral("@%1x").arg(n) + path.mid(dot);
+        QString file = path.left(dot) + QStringLiteral("@%1x").arg(n) + path.mid(dot);
         if (QFile::exists(file))
             return file;
     }
@@ -56,7 +56,7 @@ QImage MgRingImages::image(const QString &path, qreal ratio)
     }
     if (const QImage *kept = m_images.object(path))
         return *kept;
-    const QImage image = decoded(path, ratio);
+    QImage image = decoded(path, ratio);
     m_images.insert(path, new QImage(image), std::max(static_cast<int>(image.sizeInBytes()), 1));
     return image;
 }

@@ -4,7 +4,7 @@
 
 class OdRxModule;
 
-// What a host looks up in the module's file, by these exact names.
+// A host looks these functions up in the module's file by their exact names.
 
 // The one module object: created by the first call, returned unchanged by every later one,
 // whose arguments are ignored. Registers nothing with the host; that is initApp()'s task.

@@ -16,25 +16,25 @@ class QWidget;
 // host, follows the host's documents and main frame, and takes everything back when the
 // main frame goes.
 //
-// Where a host object is missing, what needs it is left out silently. Nothing that a host
-// throws gets out of these operations; what it was thrown in is left undone.
+// If a host object is missing, the steps that need it are skipped silently. Exceptions of the
+// host do not leave these operations; the call that threw is skipped.
 class MgGestureWidget : public hx_OdRxModule, public CHxDocumentManagerReactor, public CHxEditorReactor
 {
 public:
     // Touches no host service and registers nothing.
     MgGestureWidget();
-    // Unregisters nothing: that has happened in mainFrameDestroyed().
+    // Unregisters nothing: mainFrameDestroyed() has done that.
     ~MgGestureWidget() override;
 
     // Registers the command, this object as reactor, and the tracker with every open
     // document.
     void initApp() override;
-    // Empty; mainFrameDestroyed() undoes what initApp() did.
+    // Does nothing. mainFrameDestroyed() undoes initApp().
     void uninitApp() override;
 
     // A new document gets the tracker.
     void DocumentCreated(CHxDocument *document) override;
-    // It loses it here, and not in any of the notifications of its end.
+    // The document loses the tracker here, not in the notifications of its destruction.
     void DatabaseDetached(CHxDocument *document) override;
 
     // The menus are complete: adds the menu entry. `frame` is not used.
@@ -53,7 +53,7 @@ public:
     void UnLoadMenu();
 
 protected:
-    // Both live and die with this object; the host is only lent them.
+    // Both belong to this object; the host must not delete them.
     MgMouseGestureTracker tracker;
     OdStaticRxObject<CHxGestureCommand> command;
 

@@ -98,7 +98,7 @@ void appendEntry(CHxUIMenuItemCollection &entries, CHxUIManager &manager, CHxUIW
     CHxUICommandItem *item = commandItem(manager, workspace.GetName(), commandName);
     if (!item)
         return;
-    // Whether found or made just now.
+    // This is done for an item that existed before, too.
     if (CHxUICommandItemCollection *items = workspace.GetCommandItems())
         items->Add(item);
     CHxUIMenuItem *entry = manager.CreateMenuItem(0, CHxString(), CHxString(), CHxString());

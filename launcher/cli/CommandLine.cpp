@@ -57,14 +57,6 @@ CommandLine parseTask(const TaskOption &option, QList<QByteArray> words)
 
 } // namespace
 
-QStringList CommandLine::optionNames()
-{
-    QStringList names{QLatin1String(kJson), QLatin1String(kHelp), QLatin1String(kVersion)};
-    for (const TaskOption &option : kTaskOptions)
-        names.append(QLatin1String(option.name));
-    return names;
-}
-
 CommandLine CommandLine::parse(const QList<QByteArray> &typed)
 {
     CommandLine line;

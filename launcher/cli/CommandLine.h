@@ -3,7 +3,6 @@
 #include <QByteArray>
 #include <QList>
 #include <QString>
-#include <QStringList>
 
 namespace launcher {
 
@@ -35,8 +34,6 @@ struct CommandLine
 
     // `arguments` without the launcher's own name.
     [[nodiscard]] static CommandLine parse(const QList<QByteArray> &arguments);
-    // All options that a person may type, the short ones left out.
-    [[nodiscard]] static QStringList optionNames();
 
     Task task = Task::Complain;
     // One line that says what is wrong; only with Task::Complain.

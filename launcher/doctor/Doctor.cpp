@@ -106,7 +106,7 @@ void reportDisplay(const Symptoms &symptoms, Report &report)
         break;
     case Symptoms::Compositor::None:
         // Gestures work without one, so this is no problem.
-        report.add("compositor", QStringLiteral("none; the ring will have an opaque ground"));
+        report.add("compositor", QStringLiteral("none; the ring shows what was under it when it opened"));
         break;
     case Symptoms::Compositor::Unknown:
         report.add("compositor", QStringLiteral("not known"));

@@ -18,7 +18,7 @@ public:
     // Stores an entry the way an older program did, in group "Gesture".
     void set(const QString &entry, const QVariant &value,
              const QString &application = QStringLiteral("fakehost"));
-    // What an entry of group "Gesture" holds on disk now; invalid when it is not there.
+    // The value of an entry of group "Gesture" on disk; invalid when there is none.
     [[nodiscard]] QVariant value(const QString &entry) const;
     // Entry names of group "Gesture" as they are on disk now.
     [[nodiscard]] QStringList entries() const;

@@ -17,7 +17,7 @@ void addStandardCommands(FakeHost &host);
 // The profile store's fourteen keys, in the order in which the container writes them.
 [[nodiscard]] QStringList allKeys();
 
-// What the module has written since the log was cleared, in order: "KEY=VALUE".
+// The module's writes since the log was cleared, in order: "KEY=VALUE".
 [[nodiscard]] QStringList writes(const FakeHost &host);
 
 // Icons that are not null, told apart by their cacheKey().

@@ -9,7 +9,7 @@
 #include <QWheelEvent>
 #include <QWindow>
 
-// Mouse and keys as a window gets them, so that grabs, focus and popups play their parts.
+// Sends mouse and key events to windows, so grabs, focus and popups work as in real use.
 namespace tests {
 
 // Shows a window and waits until it has the keyboard.
@@ -27,27 +27,27 @@ inline void click(QWidget *widget, const QPoint &position, Qt::KeyboardModifiers
                       widget->mapTo(window, position));
 }
 
-// On the left edge of a button, where check boxes and radio buttons have their mark.
+// Clicks the left edge of a button, where check boxes and radio buttons have their mark.
 inline void click(QAbstractButton *button)
 {
     click(button, QPoint(8, button->height() / 2));
 }
 
-// In the middle of an item.
+// Clicks the middle of an item.
 inline void click(QAbstractItemView *view, const QModelIndex &index,
                   Qt::KeyboardModifiers modifiers = {})
 {
     click(view->viewport(), view->visualRect(index).center(), modifiers);
 }
 
-// The window that keys go to: an open popup takes them from any other.
+// The window that receives keys: an open popup takes them from other windows.
 [[nodiscard]] inline QWindow *keyWindow(QWidget *widget)
 {
     QWidget *popup = QApplication::activePopupWidget();
     return (popup ? popup : widget->window())->windowHandle();
 }
 
-// Asked for once more in between, as the press may have closed a popup for good.
+// Looks the window up again for the release: the press may have closed a popup.
 inline void key(QWidget *widget, Qt::Key which, Qt::KeyboardModifiers modifiers = {})
 {
     QTest::keyPress(keyWindow(widget), which, modifiers);
@@ -60,7 +60,7 @@ inline void wheel(QWidget *widget, const QPoint &position, int angle)
     QWidget *window = widget->window();
     QWheelEvent event(widget->mapTo(window, position), widget->mapToGlobal(position), QPoint(),
                       QPoint(0, angle), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    // As from the window system: what a widget ignores goes on to its parent.
+    // Marked as coming from the window system: only then an ignored event goes to the parent.
     QSpontaneKeyEvent::setSpontaneous(&event);
     qApp->notify(window->windowHandle(), &event);
 }

@@ -725,7 +725,9 @@ void DirectionEditorTest::undoTakesTheLastChoiceBack()
     tests::key(m_dialog.get(), Qt::Key_Return);
     QCOMPARE(int(m_dialog->record(QStringLiteral("A")).eightDirection), 0);
     QCOMPARE(editor()->currentIndex(), 3);
+    QVERIFY(m_dialog->findChild<Notice *>()->isVisible());
     tests::key(m_dialog.get(), Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(!m_dialog->findChild<Notice *>()->isVisible());
     QCOMPARE(tests::bytesOf(m_dialog->model->getCommands()), tests::bytesOf(before));
     // The open drop-down and the list follow.
     QCOMPARE(editor()->currentIndex(), 0);
@@ -796,7 +798,7 @@ void DirectionEditorTest::styleDrawsEverythingElse_data()
     QTest::newRow("check box") << int(QStyle::PE_IndicatorCheckBox);
     QTest::newRow("radio button") << int(QStyle::PE_IndicatorRadioButton);
     QTest::newRow("arrow") << int(QStyle::PE_IndicatorArrowDown);
-    QTest::newRow("frame") << int(QStyle::PE_FrameGroupBox);
+    QTest::newRow("other arrow") << int(QStyle::PE_IndicatorArrowUp);
 }
 
 void DirectionEditorTest::styleDrawsEverythingElse()

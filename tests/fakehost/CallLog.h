@@ -8,7 +8,7 @@
 
 namespace tests {
 
-// What the module asked of the fake host, in order. A call named in `throwOn` throws
+// The module's calls to the fake host, in order. A call named in `throwOn` throws
 // std::runtime_error after it has been noted.
 class CallLog
 {

@@ -77,7 +77,7 @@ public:
     std::vector<FakeDocument *> openDocuments;
     std::vector<CHxDocumentManagerReactor *> reactors;
     CHxDocument *active = nullptr;
-    // Document iterators that nobody released yet.
+    // Number of document iterators that still exist.
     int iteratorsAlive = 0;
 
 private:

@@ -24,7 +24,7 @@ public:
     explicit FakeFault(int call) { s_callsLeft = call; }
     ~FakeFault() { s_callsLeft = kNone; }
 
-    // Whether so many calls were made that one threw.
+    // True if enough calls were made and one threw.
     [[nodiscard]] bool wasReached() const { return s_callsLeft == kReached; }
 
     // Every operation of the fake host begins with this.

@@ -77,7 +77,7 @@ public:
     FakeProfileStore store{&log};
     FakeUIManager ui{&log};
     FakeCommandManager commands;
-    // What GetMenuItems() gives out.
+    // GetMenuItems() returns this.
     FakeMenuItemCollection menuItems;
 
     bool hasMainFrame = true;
@@ -99,7 +99,7 @@ public:
     QString messageCaption = QStringLiteral("Fake host");
     // The text shown at the moment.
     QString text;
-    // What ShowMessage() answers, and what it was last given.
+    // The answer of ShowMessage() and its last arguments.
     int messageAnswer = kMessageOk;
     QString messageText;
     QString lastMessageCaption;

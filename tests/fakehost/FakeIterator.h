@@ -7,7 +7,7 @@
 
 namespace tests {
 
-// Walks a copy of a list and counts, in `alive`, the iterators that nobody deleted yet.
+// Walks a copy of a list and counts, in `alive`, the iterators that still exist.
 template <class T> class FakeIterator : public CHxIterator<T>
 {
 public:

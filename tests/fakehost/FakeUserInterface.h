@@ -147,7 +147,7 @@ public:
     std::vector<std::unique_ptr<FakeCommandItem>> commandItems;
     // Menu items created by modules or by addItem and not destroyed.
     std::vector<std::unique_ptr<FakeMenuItem>> menuItems;
-    // Iterators that nobody deleted yet.
+    // Number of iterators that still exist.
     int iteratorsAlive = 0;
 
 private:
@@ -196,7 +196,7 @@ public:
     // False: NewGroupIterator() gives out null, which no host should do.
     bool hasGroupIterator = true;
     std::vector<CHxUICommandGroup *> groups;
-    // Iterators that nobody deleted yet.
+    // Number of iterators that still exist.
     int iteratorsAlive = 0;
 
 private:

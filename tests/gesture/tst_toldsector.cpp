@@ -17,15 +17,19 @@ using tests::GestureBench;
 
 namespace {
 
-// The accessibility events that were sent for descriptions, as the descriptions.
-QStringList describedAs;
+// The descriptions that accessibility events were sent for.
+QStringList &describedAs()
+{
+    static QStringList descriptions;
+    return descriptions;
+}
 
 void noteEvent(QAccessibleEvent *event)
 {
     if (event->type() != QAccessible::DescriptionChanged)
         return;
     if (QAccessibleInterface *changed = QAccessible::queryAccessibleInterface(event->object()))
-        describedAs += changed->text(QAccessible::Description);
+        describedAs() += changed->text(QAccessible::Description);
 }
 
 } // namespace
@@ -79,7 +83,7 @@ void ToldSectorTest::init()
 {
     tests::resetWarnings();
     m_bench = std::make_unique<GestureBench>();
-    describedAs.clear();
+    describedAs().clear();
 }
 
 void ToldSectorTest::cleanup()
@@ -261,8 +265,8 @@ void ToldSectorTest::descriptionSendsItsEvent()
     m_bench->pointTo(donut, -30, 0);
     m_bench->pointTo(donut, -31, 0);
     m_bench->release(donut.origin);
-    QCOMPARE(describedAs, (QStringList{QStringLiteral("ZOOM_BOUNDS: Tip of ZOOM_BOUNDS"),
-                                       QStringLiteral("OPEN: Tip of OPEN"), QString()}));
+    QCOMPARE(describedAs(), (QStringList{QStringLiteral("ZOOM_BOUNDS: Tip of ZOOM_BOUNDS"),
+                                         QStringLiteral("OPEN: Tip of OPEN"), QString()}));
 }
 
 void ToldSectorTest::withoutTextOutput()

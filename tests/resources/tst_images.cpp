@@ -47,6 +47,12 @@ const QStringList &eightNames()
     return names;
 }
 
+const QStringList &regionNames()
+{
+    static const QStringList names = fourNames() + eightNames();
+    return names;
+}
+
 const QStringList &arrowNames()
 {
     static const QStringList names{QStringLiteral("up"),    QStringLiteral("up_left"),
@@ -212,14 +218,15 @@ void ImagesTest::sizes_data()
             add(kFolder + QStringLiteral("%1@%2x.png").arg(name).arg(ratio), plain * ratio);
     };
     addEnlarged(QStringLiteral("gesture_widget"), ring);
-    for (const QString &name : fourNames() + eightNames()) {
+    for (const QString &name : regionNames()) {
         addEnlarged(name, ring);
         add(kFolder + name + QStringLiteral("_text_checked.png"), ring);
     }
     for (const QString &name : arrowNames())
         addEnlarged(name, arrow);
     add(kRoot + QStringLiteral("backgroundDonut.png"), ring);
-    for (const QString &number : numbers()) {
+    const QStringList all = numbers();
+    for (const QString &number : all) {
         add(kRoot + QStringLiteral("targetDonut_%1.png").arg(number), ring);
         add(kRoot + QStringLiteral("targetDonutOver_%1.png").arg(number), ring);
     }
@@ -299,7 +306,7 @@ void ImagesTest::labelsAreReadable_data()
 
     // Small text needs 4.5 to 1. A black drawing is the worst case.
     QTest::newRow("ring") << QStringLiteral("gesture_widget") << kRingOpacity << 4.5;
-    for (const QString &name : fourNames() + eightNames()) {
+    for (const QString &name : regionNames()) {
         QTest::newRow(qPrintable(name)) << name << 1.0 << 7.0;
         const QString checked = name + QStringLiteral("_text_checked");
         QTest::newRow(qPrintable(checked)) << checked << 1.0 << 7.0;
@@ -538,8 +545,9 @@ void ImagesTest::enlargedImagesAreTheSame_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("ratio");
-    for (const QString &name :
-         fourNames() + eightNames() + arrowNames() + QStringList(QStringLiteral("gesture_widget"))) {
+    const QStringList names =
+        regionNames() + arrowNames() + QStringList(QStringLiteral("gesture_widget"));
+    for (const QString &name : names) {
         for (const int ratio : kEnlarged)
             QTest::addRow("%s %d", qPrintable(name), ratio) << name << ratio;
     }
@@ -583,7 +591,7 @@ void ImagesTest::enlargedImagesAreTheSame()
 void ImagesTest::variantsDiffer_data()
 {
     QTest::addColumn<QString>("name");
-    for (const QString &name : fourNames() + eightNames())
+    for (const QString &name : regionNames())
         QTest::newRow(qPrintable(name)) << name;
 }
 

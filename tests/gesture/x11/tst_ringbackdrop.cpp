@@ -13,7 +13,6 @@
 #include <memory>
 
 using tests::X11Bench;
-using tests::X11Peer;
 
 namespace {
 

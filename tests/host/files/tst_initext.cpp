@@ -25,7 +25,7 @@ public:
     {
         static const QString letters =
             QString::fromUtf8("abX019 _-.,;=\"\\[]#%@/'\t\n\r\x01$()ÄßЖ線") + QChar(0) + QChar(0xd83d);
-        std::uniform_int_distribution<int> letter(0, letters.size() - 1);
+        std::uniform_int_distribution<int> letter(0, int(letters.size()) - 1);
         QString result;
         for (int size = std::uniform_int_distribution<int>(least, 8)(m_random); size > 0; --size)
             result += letters.at(letter(m_random));
