@@ -1,4 +1,4 @@
-// What an update costs the host while no gesture is on. The baseline is the virtual call alone.
+// Measures the cost of an update for the host while idle. The baseline is the virtual call alone.
 
 #include "bindings/MgDonutDataContainer.h"
 #include "gesture/MgMouseGestureTracker.h"
