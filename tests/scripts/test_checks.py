@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The checks of the sources find what they are for: run on small trees with one fault each."""
+"""Tests that each check of the sources finds its fault, in small trees with one fault each."""
 
 import shutil
 import subprocess

@@ -1,4 +1,4 @@
-"""What the spy in the program writes, see spy/ActionSpy.h."""
+"""Reads what the spy in the program writes, see spy/ActionSpy.h."""
 
 import os
 import select

@@ -1,4 +1,4 @@
-// What --doctor says about a program, finding by finding.
+// Tests each finding that --doctor reports about a program.
 
 #include "launcher/doctor/Doctor.h"
 
