@@ -23,14 +23,14 @@ REPETITIONS = 5
 
 @dataclass
 class Row:
-    """A figure and its baseline, both of one program and one run."""
+    """A figure and its baseline, from the same run of one program."""
     title: str
     program: str
     name: str
     baseline_title: str
     baseline: str
-    bound: Optional[float]  # the largest ratio that is fine; None: for information
-    surplus: Optional[float] = None  # the largest difference that is fine, in bytes
+    bound: Optional[float]  # the largest allowed ratio; None: for information only
+    surplus: Optional[float] = None  # the largest allowed difference, in bytes
 
 
 ROWS = [

@@ -1,8 +1,5 @@
 #!/usr/bin/env python3
-# SPDX-FileCopyrightText: 2026 GestureWidget developers
-# SPDX-License-Identifier: MIT
-
-"""What gestures cost a real program at its start: starts it in turn without and with them.
+"""Measures what gestures cost a real program at its start: starts it in turn without and with them.
 
 Prints the same JSON as a Google Benchmark program: "start", milliseconds from starting the program
 until its main window shows the drawing; "work", milliseconds of processor time until the program is
@@ -35,7 +32,7 @@ def processor_time(pid):
 
 
 def memory(pid):
-    """Kilobytes of memory of the process, its part of what it shares counted."""
+    """Kilobytes of memory of the process, with its part of shared memory."""
     for line in Path(f"/proc/{pid}/smaps_rollup").read_text(encoding="utf-8").splitlines():
         if line.startswith("Pss:"):
             return int(line.split()[1])

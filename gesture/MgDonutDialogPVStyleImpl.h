@@ -120,7 +120,7 @@ private:
     qint16 m_toldArc = -1;
     MgRingImages m_images;
     MgCompositorProbe m_compositor;
-    // What the ring is painted on; null while a compositor runs.
+    // The picture of the screen under the ring; null while a compositor runs.
     QPixmap m_backdrop;
     // WindUp() has set the host's mode and the view's cursor, and they are not restored yet.
     bool m_holdsHost = false;

@@ -7,8 +7,8 @@
 
 class MgDonutDialogPVStyleImpl;
 
-// What assistive programs learn about the ring: it is a menu that pops up. Its description is
-// what the lit sector would run.
+// Describes the ring to assistive programs: it is a popup menu. Its description is what the lit
+// sector would run.
 class MgRingAccessible : public QAccessibleWidget
 {
 public:

@@ -13,7 +13,7 @@ desktop_packages=(
   libxtst-dev
   fonts-dejavu-core qt5-style-plugins
 )
-# What only ./test --desks needs: window managers, Wayland sessions and their input.
+# Only ./test --desks needs these: window managers, Wayland sessions and their input.
 desk_packages=(
   marco mate-desktop-common mate-settings-daemon-common mutter icewm i3-wm awesome fluxbox
   tigervnc-standalone-server kwin-wayland sway xwayland x11-xkb-utils python3-dbus
@@ -27,8 +27,8 @@ test_packages=(
 
 lint_packages=(clang-format clang-tidy clazy hunspell hunspell-en-gb reuse)
 
-# install_packages NAME...: installs those that are missing; asks nothing. Returns apt-get's
-# status, 0 when nothing was missing.
+# install_packages NAME...: installs the missing ones without asking. Returns apt-get's status, 0
+# when nothing was missing.
 install_packages() {
   local missing=() name
   for name in "$@"; do

@@ -1,8 +1,5 @@
-// SPDX-FileCopyrightText: 2026 GestureWidget developers
-// SPDX-License-Identifier: MIT
-
-// What it takes to gather the ring's data when a gesture begins, beside one pass over the same
-// commands.
+// Measures how long it takes to gather the ring's data when a gesture begins. The baseline is one
+// pass over the same commands.
 
 #include "bindings/MgDonutDataContainer.h"
 #include "tests/fakehost/FakeHost.h"
@@ -20,7 +17,7 @@
 
 namespace {
 
-// A host with so many commands, all of them in its menus and each with an icon of its own.
+// A host with `count` commands. All of them are in its menus, and each has its own icon.
 class Program
 {
 public:
@@ -31,7 +28,7 @@ public:
         tests::FakeMenuItem *menus[kMenus];
         for (int menu = 0; menu < kMenus; ++menu)
             menus[menu] = host.addTopLevelMenu(QStringLiteral("&Menu %1").arg(menu));
-        // Menu by menu, as programs do.
+        // Programs build one menu after the other.
         for (int number = 0; number < count; ++number) {
             const QString name = QString::number(number);
             tests::FakeCommandItem *item = host.commands.addCommand(
@@ -43,7 +40,7 @@ public:
             items.push_back(item);
             entries.push_back(entry);
         }
-        // As a user has them: spread over the commands.
+        // A user's bindings are spread over the commands.
         for (int direction = 1; direction <= 8; ++direction) {
             const QString id = items[count / 9 * direction]->identifier;
             host.store.values.insert(QString::number(80 + direction), id);
@@ -60,8 +57,8 @@ public:
     std::vector<const CHxUIMenuItem *> entries;
 };
 
-// The same program for all that is measured with so many commands: where its parts lie in
-// memory decides as much as what is done with them.
+// Returns the same program for every benchmark with this number of commands. Where its parts lie in
+// memory affects the time as much as the work does.
 Program &programOf(const benchmark::State &state)
 {
     static std::map<std::int64_t, std::unique_ptr<Program>> programs;
@@ -83,7 +80,7 @@ void gather(benchmark::State &state)
         state.SkipWithError("the ring is empty");
 }
 
-// The reading after the last command of the menus has become another one.
+// Gathers after the last command of the menus has changed.
 void gatherAfterAChange(benchmark::State &state)
 {
     Program &program = programOf(state);
@@ -98,8 +95,8 @@ void gatherAfterAChange(benchmark::State &state)
     program.items.back()->command = command;
 }
 
-// The baseline: the five texts, of which the category is the text of a menu entry, and the icon
-// of every command, read once.
+// The baseline: reads the icon and the five texts of every command once. The category is the text
+// of a menu entry.
 void onePass(benchmark::State &state)
 {
     const Program &program = programOf(state);

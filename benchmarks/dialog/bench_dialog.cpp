@@ -1,8 +1,5 @@
-// SPDX-FileCopyrightText: 2026 GestureWidget developers
-// SPDX-License-Identifier: MIT
-
-// What the configuration dialog costs beside the plainest Qt classes that show the same rows.
-// Each pair of benchmarks does the same with either.
+// Compares the configuration dialog with the plainest Qt classes that show the same rows. Each pair
+// of benchmarks does the same work with both.
 
 #include "bindings/MgDonutDataContainer.h"
 #include "dialog/BindingListDocument.h"
@@ -53,7 +50,7 @@ std::unique_ptr<QStandardItemModel> plainModel()
     return model;
 }
 
-// Up to the moment when the window has painted itself.
+// Returns when the window has painted itself.
 void showAndPaint(QWidget &window)
 {
     window.show();
@@ -61,7 +58,7 @@ void showAndPaint(QWidget &window)
     QCoreApplication::sendPostedEvents();
 }
 
-// What somebody types who looks for "Polyline", and deletes again.
+// The texts in the filter while a person types "Polyline" and deletes it again.
 const QString &typed(int step)
 {
     static const QStringList texts{QStringLiteral("p"),
@@ -95,7 +92,7 @@ void openPlainView(benchmark::State &state)
     }
 }
 
-// Beside the bar: a view that sorts as the dialog does when it opens.
+// Not the baseline, but for comparison: a view that sorts as the dialog does when it opens.
 void openPlainSortedView(benchmark::State &state)
 {
     offerCommands(static_cast<int>(state.range(0)));
@@ -146,7 +143,7 @@ void typeInPlainView(benchmark::State &state)
     }
 }
 
-// The proxies by themselves, no view asking them anything.
+// The proxies alone, without a view that reads them.
 void filterDialogProxy(benchmark::State &state)
 {
     offerCommands(static_cast<int>(state.range(0)));
@@ -156,7 +153,7 @@ void filterDialogProxy(benchmark::State &state)
     auto *search = dialog.findChild<QLineEdit *>(QStringLiteral("search_lineEdit"));
     search->blockSignals(true);
     table->setModel(nullptr);
-    // The dialog finds its proxy as the table's model, so here it is asked directly.
+    // The dialog's proxy is the table's model. This calls it directly.
     int step = 0;
     for (auto _ : state) {
         search->setText(typed(step++));
@@ -192,7 +189,7 @@ void buildPrintedDocument(benchmark::State &state)
     }
 }
 
-// A menu of a usual size and one far above.
+// The usual number of commands, and far more.
 void sizes(benchmark::internal::Benchmark *benchmark)
 {
     benchmark->Arg(250)->Arg(10000)->Unit(benchmark::kMillisecond);
@@ -209,7 +206,7 @@ BENCHMARK(buildPrintedDocument)->Apply(sizes);
 
 } // namespace
 
-// The offscreen platform says of every window that it does not support size hints.
+// For every window, the offscreen platform warns that it does not support size hints.
 void beQuiet(QtMsgType /*type*/, const QMessageLogContext & /*context*/, const QString & /*text*/) { }
 
 int main(int argc, char **argv)

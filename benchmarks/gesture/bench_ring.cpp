@@ -1,8 +1,5 @@
-// SPDX-FileCopyrightText: 2026 GestureWidget developers
-// SPDX-License-Identifier: MIT
-
-// How long a person waits for the ring: from an event to a frame that the X server has finished.
-// The baselines are windows that do as little as a window can, measured in the same way.
+// Measures how long a person waits for the ring: from an event until the X server has finished the
+// frame. The baselines are windows that do as little as possible, measured in the same way.
 //
 // Needs an X server and a window manager: tests/support/with-desktop.sh bench_ring
 
@@ -50,7 +47,7 @@ public:
     }
 };
 
-// A round trip: the server has then done everything that it was asked before.
+// Makes a round trip. The server has then finished all earlier requests.
 void finishFrame()
 {
     static_cast<void>(QCursor::pos());
@@ -64,7 +61,8 @@ void settle()
     }
 }
 
-// Seconds from calling `begin` until the frame that it leads to is finished; 0 if none came.
+// Returns the seconds from calling `begin` until the frame that it causes is finished; 0 if there
+// was none.
 double secondsUntilPainted(QWidget *window, const std::function<void()> &begin)
 {
     PaintWatch watch;
@@ -151,7 +149,7 @@ public:
 
     [[nodiscard]] MgDonutDialogPVStyleImpl *ring() const { return tracker->ring(); }
 
-    // What a host does with the press.
+    // Does what a host does with the press.
     void press()
     {
         pointTo(kPress);
@@ -160,7 +158,7 @@ public:
         hit.motion = false;
         tracker->Update(nullptr, &hit);
     }
-    // What a host does with the movement that opens the ring.
+    // Does what a host does with the movement that opens the ring.
     void drag()
     {
         hit.position = kPress + QPoint(0, kDrag);
@@ -209,7 +207,7 @@ void ringOpens(benchmark::State &state)
 {
     Stopwatch stopwatch(state);
     Program program(static_cast<int>(state.range(0)));
-    program.drag(); // the ring is there from now on
+    program.drag(); // opens the ring
     settle();
     program.end();
     for (auto _ : state) {
@@ -223,7 +221,7 @@ void ringOpens(benchmark::State &state)
     }
 }
 
-// The same for the first gesture, which makes the ring.
+// The same for the first gesture, which also creates the ring.
 void firstRingOpens(benchmark::State &state)
 {
     Stopwatch stopwatch(state);
@@ -270,7 +268,7 @@ void ringFollows(benchmark::State &state)
     program.end();
 }
 
-// A window of the ring's size and kind that draws two pictures it has ready.
+// A window of the ring's size and kind that draws two prepared images.
 class PlainWindow : public QWidget
 {
 public:

@@ -1,7 +1,4 @@
-// SPDX-FileCopyrightText: 2026 GestureWidget developers
-// SPDX-License-Identifier: MIT
-
-// What an update costs the host while no gesture is on. The baseline is the virtual call alone.
+// Measures the cost of an update for the host while idle. The baseline is the virtual call alone.
 
 #include "bindings/MgDonutDataContainer.h"
 #include "gesture/MgMouseGestureTracker.h"

@@ -1,8 +1,5 @@
-// SPDX-FileCopyrightText: 2026 GestureWidget developers
-// SPDX-License-Identifier: MIT
-
-// A whole program with gestures, the real host and the real module, beside the same program
-// without: what a movement of the mouse costs it, and how long a ring takes to open.
+// Measures a whole program with the real host and the real module: the cost of a mouse movement,
+// and the time until the ring is open. The baseline is the same program without gestures.
 
 #include "host/session/GestureHost.h"
 
@@ -28,7 +25,7 @@ namespace {
 constexpr int kMenus = 8;
 const QPoint kPress(300, 300);
 
-// As a drawing program has it: a view, and menus full of commands with images.
+// Like a drawing program: a view, and menus full of commands with icons.
 class Program
 {
 public:
@@ -68,7 +65,7 @@ public:
             QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
     }
 
-    // As the platform reports it to Qt, delivered before this returns.
+    // Sends a mouse event as the platform does. Returns after it is delivered.
     void mouse(QEvent::Type type, QPoint inView, Qt::MouseButton button, Qt::MouseButtons buttons)
     {
         const QPoint position = view->mapTo(&window, inView);
@@ -165,7 +162,7 @@ public:
     bool isPainted = false;
 };
 
-// A window of that size and kind that draws one image.
+// A window of the ring's size and kind that draws one image.
 void plainWindowOpens(benchmark::State &state)
 {
     PlainWindow window;
@@ -192,7 +189,7 @@ BENCHMARK(ringOpens)
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(plainWindowOpens)->Unit(benchmark::kMillisecond);
 
-// The offscreen platform says of every window that it does not support size hints.
+// For every window, the offscreen platform warns that it does not support size hints.
 void beQuiet(QtMsgType type, const QMessageLogContext & /*context*/, const QString &text)
 {
     if (type == QtFatalMsg)

@@ -1,8 +1,6 @@
-// SPDX-FileCopyrightText: 2026 GestureWidget developers
-// SPDX-License-Identifier: MIT
-
-// What it costs to read the ring's data from the host, beside one pass over the same actions
-// that reads the same texts and the icon; and what many equal captions cost.
+// Measures how long it takes to read the ring's data from the host. The baseline is one pass over
+// the same actions that reads the same texts and the icon. Also measures the cost of many equal
+// captions.
 
 #include "bindings/MgDonutDataContainer.h"
 #include "host/commands/CommandCatalogue.h"
@@ -44,7 +42,7 @@ struct Record
     QIcon icon;
 };
 
-// A main window with so many commands in its menus, each with a name, a tip and an icon.
+// A main window with `count` commands in its menus, each with a name, a tip and an icon.
 class Program
 {
 public:
@@ -67,7 +65,7 @@ public:
     QMainWindow window;
 };
 
-// Stands for the program's host while it lives.
+// Makes these the process's services for its lifetime.
 class Services
 {
 public:
@@ -117,7 +115,7 @@ int readItems(CHxUIMenuItemCollection *items)
     return commands;
 }
 
-// The host's part of the reading: what the module asks it for, and nothing made of it.
+// The host's part of the reading: makes the module's calls and drops the results.
 void hostPart(benchmark::State &state)
 {
     Program program(static_cast<int>(state.range(0)));
@@ -146,7 +144,7 @@ void hostPart(benchmark::State &state)
     state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 
-// All of it, as at each gesture: the module's container over the host.
+// The whole reading, as at each gesture: the module's container over the host.
 void ringData(benchmark::State &state)
 {
     Program program(static_cast<int>(state.range(0)));
@@ -157,7 +155,7 @@ void ringData(benchmark::State &state)
     state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 
-// Entries of one menu with one caption and no object names, at the program's start.
+// At the program's start: a menu whose entries all have the same caption and no object name.
 void equalCaptions(benchmark::State &state)
 {
     QMainWindow window;
@@ -172,7 +170,7 @@ void equalCaptions(benchmark::State &state)
     state.SetComplexityN(state.range(0));
 }
 
-// The picture of one icon in the ring, when it is asked for the first time. Ratio in quarters.
+// Draws the image of one icon for the ring for the first time. The ratio is in quarters.
 void firstHalo(benchmark::State &state)
 {
     QPixmap pixmap(48, 48);

@@ -1,8 +1,5 @@
-// SPDX-FileCopyrightText: 2026 GestureWidget developers
-// SPDX-License-Identifier: MIT
-
-// What a movement of the mouse costs with the pointer filter, beside what Qt's own delivery
-// of it costs: in a view, in another widget, and what any other event pays.
+// Measures the cost of a mouse movement with the pointer filter, in a view and in another widget,
+// and the cost of any other event. The baseline is Qt's own delivery.
 
 #include "host/documents/DocumentManager.h"
 #include "host/input/PointerFilter.h"
@@ -20,7 +17,7 @@
 
 namespace {
 
-// Asks what a tracker asks on each update while no gesture is under way.
+// Asks the questions that a tracker asks on each update while idle.
 class IdleTracker : public CHxTracker
 {
 public:
@@ -59,7 +56,7 @@ public:
             qApp->installEventFilter(filter.get());
     }
 
-    // A movement as the platform reports it to Qt, delivered before this returns.
+    // Sends a mouse movement as the platform does. Returns after it is delivered.
     void moveTo(QPoint position)
     {
         qt_handleMouseEvent(window.windowHandle(), position, window.mapToGlobal(position), Qt::NoButton,

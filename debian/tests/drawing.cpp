@@ -13,9 +13,9 @@
 
 #include <cstdio>
 
-// A drafting program that knows nothing of gestures. It writes "ready X Y" when gestures have come
-// into its menus: the middle of its view in global pixels. It writes the name of a command that
-// runs, then ends. The status is 1 when nothing of that happens within a minute.
+// A drafting program without gestures of its own. When its menus have the entry for gestures, it
+// writes "ready X Y": the middle of its view in global pixels. When a command runs, it writes the
+// command's name and ends. The status is 1 if this does not happen within a minute.
 int main(int argc, char **argv)
 {
     QApplication app(argc, argv);

@@ -28,7 +28,7 @@ struct Sheet
     // Lengths of dashes (positive), gaps (negative) and dots (0), in drawing units.
     QMap<QString, QVector<double>> lineTypes{{QStringLiteral("CONTINUOUS"), {}}};
     int units = 0; // values of $INSUNITS: 0 none, 1 inches, 4 millimetres, 6 metres
-    // What else the file holds, with its count. Replacing the file would lose it.
+    // Other kinds of objects in the file, with their count. Replacing the file would lose them.
     QMap<QString, int> unread;
     int polylines = 0; // number of polylines that were split into lines and arcs
 };

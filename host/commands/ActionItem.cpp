@@ -53,7 +53,7 @@ void ActionItem::setAction(QAction *action)
 {
     m_action = action;
     m_address = action;
-    m_tip.clear(); // may be one of another start
+    m_tip.clear(); // may be from an earlier start
     m_tipSource.clear();
     read();
 }
@@ -66,7 +66,7 @@ void ActionItem::read()
     if (m_caption.isEmpty())
         m_caption = m_key;
     const QString tip = m_action->statusTip().isEmpty() ? m_action->toolTip() : m_action->statusTip();
-    if (tip != m_tipSource) { // markup is slow to read, and most changes are of the state
+    if (tip != m_tipSource) { // markup is slow to read, and most changes concern the state
         m_tipSource = tip;
         m_tip = plainTip(tip);
     }

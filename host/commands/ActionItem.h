@@ -70,8 +70,8 @@ public:
     // True if the key belongs to an action that it had at an earlier start.
     bool isRemembered = false;
 
-    // True for an action that a person can see and run as a command. Separators, menus and
-    // invisible actions are none.
+    // True for an action that a person can see and run as a command. False for separators, menus
+    // and invisible actions.
     [[nodiscard]] static bool isCommand(const QAction *action);
     // Returns what a person sees of an action without an icon; may be empty.
     [[nodiscard]] static QString captionOf(const QAction *action);

@@ -181,8 +181,8 @@ void CommandCatalogue::onActionChanged(QAction *action)
     Q_EMIT menusChanged();
 }
 
-// Started by the first of many changes only: a program that never rests would put it off for
-// ever, and starting a timer costs more than all else that a change costs here.
+// Only the first of many changes starts the timer. Otherwise a program that never rests would put
+// it off for ever. Also, starting a timer takes longer than all other work for a change.
 void CommandCatalogue::prepareSoon()
 {
     if (m_wasRead && !m_preparation.isActive())
@@ -250,7 +250,7 @@ void CommandCatalogue::guess()
         return;
     QVector<QAction *> actions;
     for (const Newcomer &newcomer : m_newcomers) {
-        if (m_byName.value(newcomer.action->objectName()) == nullptr) // else it comes back
+        if (m_byName.value(newcomer.action->objectName()) == nullptr) // else a known one is back
             actions.append(newcomer.action);
     }
     const QVector<WellKnownGuess> guesses = WellKnownGuess::among(actions, wanted);
@@ -285,7 +285,7 @@ void CommandCatalogue::meet(QAction *action, const Place &place)
     const auto groupOf = [action, &place] {
         return place.group.isEmpty() ? ActionItem::captionOf(action) : place.group;
     };
-    // The address may be that of an action which is gone, taken by a new one.
+    // A new action may have the address of a deleted one.
     if (!item || item->action() != action) {
         m_newcomers.push_back(
             {action, groupOf(), joined(place.path, ActionItem::captionOf(action)), place.isInToolBar});
@@ -295,7 +295,7 @@ void CommandCatalogue::meet(QAction *action, const Place &place)
         return;
     item->isPresent = true;
     if (!item->wasPresent)
-        item->read(); // nobody told of its changes while it was in no menu
+        item->read(); // its changes were not reported while it was in no menu
     item->group = groupOf();
     item->isInToolBar = place.isInToolBar;
     m_met.push_back(item);
@@ -326,7 +326,7 @@ void CommandCatalogue::admit(const Newcomer &newcomer)
         item = expectedFor(wellKnown);
         if (item) {
             if (item->key() != wellKnown)
-                m_byName.remove(item->key()); // which may turn up yet as another command
+                m_byName.remove(item->key()); // its action may still appear, as another command
             item->setKey(key);
             m_byName.insert(key, item);
         }

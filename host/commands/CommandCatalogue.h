@@ -60,8 +60,8 @@ public:
     // Offers the commands from an earlier start, with the identifiers that they had. Call this
     // before anything else is known.
     void remember(const QVector<RememberedCommand> &commands);
-    // Starts guessing which actions the well-known identifiers stand for that the profile leaves
-    // out. Call this before anything is read, because a command keeps its first identifier.
+    // Starts guessing the actions of the well-known identifiers that the profile leaves out. Call
+    // this before anything is read, because a command keeps its first identifier.
     //
     // All of them are expected at first: many programs show some menus only when a drawing is
     // open, and a direction loses a command that is not offered.

@@ -145,7 +145,7 @@ void CommandRunner::trigger(const QString &name)
     }
 }
 
-// Why a command cannot be run whose action is not there, and where it lives.
+// Says why a command without an action cannot run, and which menu or toolbar it belongs to.
 QString CommandRunner::absence(const ActionItem &item) const
 {
     QString line = translated("%1: not available at the moment.").arg(item.GetCaption().toQString());
@@ -162,7 +162,7 @@ QString CommandRunner::absence(const ActionItem &item) const
     return line + QLatin1Char(' ') + place.arg(item.group);
 }
 
-// Cancels what runs in the drawing, the way a person does.
+// Cancels the command that runs in the drawing, as a person does.
 void CommandRunner::cancel() const
 {
     CHxDocument *document = m_documents ? m_documents->GetActiveDocument() : nullptr;

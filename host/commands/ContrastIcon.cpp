@@ -17,14 +17,14 @@
 namespace gesturewidget {
 namespace {
 
-// Of 255. A pixel of less alpha is not part of the shape: it is the soft edge of one.
+// Of 255. A pixel with less alpha belongs to the soft edge, not to the shape.
 constexpr int kShapeAlpha = 128;
-// Logical pixels. Leaves room for the halo, and is a size that icons are made for, at every
-// usual device pixel ratio: they come out sharp.
+// Logical pixels. Leaves room for the halo. Icons are made for this size at every usual device
+// pixel ratio, so they are sharp.
 constexpr int kShapeSide = 16;
 // Contrast at which a line can be read, by the Web Content Accessibility Guidelines 2.1.
 constexpr qreal kReadable = 3;
-// The part of the outline that one colour of halo must suit to be the only one.
+// If one colour of halo suits this part of the outline or more, the whole halo has that colour.
 constexpr qreal kNearlyAll = 0.9;
 
 constexpr QRgb kLight = qRgb(255, 255, 255);
@@ -77,7 +77,7 @@ Halo haloFor(const QImage &shape)
     return suitsDark >= kNearlyAll * outline ? Halo::Dark : Halo::Mixed;
 }
 
-// What one pixel of the shape does to the halo around it.
+// How one pixel of the shape affects the halo around it.
 struct Influence
 {
     float alpha = 0; // 0 to 1
@@ -99,8 +99,8 @@ Influence influenceOf(QRgb colour)
     return influence;
 }
 
-// The influences of a picture's pixels, with an empty frame around them, so that a walk over
-// the neighbours of a pixel needs no question for the border.
+// The influences of a picture's pixels, with an empty frame around them. Because of the frame, code
+// that visits the neighbours of a pixel need not check for the border.
 class InfluenceMap
 {
 public:
@@ -130,8 +130,8 @@ private:
 struct Neighbour
 {
     int offset; // in an InfluenceMap
-    float weight; // of its alpha: 1 beside the shape, falling to 0 where the halo ends
-    float voice; // in the choice of the colour: the nearest ones speak loudest
+    float weight; // for its alpha: 1 beside the shape, falling to 0 where the halo ends
+    float voice; // for the choice of the colour: the nearest pixels count most
 };
 
 std::vector<Neighbour> neighbours(qreal width, int reach, int stride)
@@ -194,7 +194,7 @@ public:
     }
     [[nodiscard]] QIconEngine *clone() const override { return new ContrastIconEngine(m_icon); }
 
-    // What Qt 5 and Qt 6 both ask in this way.
+    // Qt 5 and Qt 6 both make these requests through this function.
     void virtual_hook(int id, void *data) override
     {
         if (id == QIconEngine::IsNullHook) {
@@ -202,7 +202,7 @@ public:
         } else if (id == QIconEngine::ScaledPixmapHook) {
             auto &wanted = *static_cast<ScaledPixmapArgument *>(data);
             const qreal ratio = ratioOf(wanted.size, wanted.scale);
-            // QIcon multiplies by the application's ratio what is asked of it in this way.
+            // QIcon::pixmap() multiplies the size by the application's ratio.
             wanted.pixmap = ratio > 0 ? ringPixmap(ratio, wanted.mode, wanted.state)
                                       : m_icon.pixmap(wanted.size / qGuiApp->devicePixelRatio(),
                                                       wanted.mode, wanted.state);
@@ -212,9 +212,9 @@ public:
     }
 
 private:
-    // The device pixel ratio at which a picture of `size` device pixels is the ring's; 0 if it
-    // is not. `scale`: the ratio if Qt has told it. Qt 5 tells 1 unless the program has asked
-    // for fine pixmaps, so a picture may also be for the ratio of a screen.
+    // Returns the device pixel ratio at which the ring's icon has `size` device pixels; 0 if the
+    // size is not one of the ring's. `scale` is the ratio that Qt gives. Qt 5 gives 1 unless the
+    // program has asked for high-density pixmaps, so the ratios of the screens are tried too.
     static qreal ratioOf(const QSize &size, qreal scale)
     {
         const auto isRing = [&size](qreal ratio) {
@@ -232,7 +232,7 @@ private:
         return 0;
     }
 
-    // In device pixels, as engines give pictures: who asks sets the ratio.
+    // In device pixels with ratio 1, as icon engines return pixmaps. The caller sets the ratio.
     const QPixmap &ringPixmap(qreal ratio, QIcon::Mode mode, QIcon::State state)
     {
         if (m_pixmap.isNull() || !qFuzzyCompare(ratio, m_ratio) || mode != m_mode || state != m_state) {

@@ -9,7 +9,7 @@
 namespace gesturewidget {
 namespace {
 
-// What a person may recognise the command by before its action has been seen.
+// Returns a caption by which a person may recognise the command before its action was seen.
 QString captionFor(const QString &identifier)
 {
     const QString wellKnown = WellKnownGuess::captionOf(identifier);

@@ -12,8 +12,8 @@
 
 namespace gesturewidget {
 
-// Documents are kept until the manager goes, so a list of them cannot dangle while one
-// walks; closed ones are passed over.
+// Documents live as long as the manager, so the pointers stay valid during a walk. Closed documents
+// are skipped.
 class DocumentManager::Iterator : public CHxDocumentIterator
 {
 public:
@@ -140,7 +140,7 @@ QWidget *DocumentManager::standIn()
 
 void DocumentManager::releaseStandIn()
 {
-    // Once the application is gone, so are its widgets' means to be destroyed.
+    // Widgets cannot be destroyed after the application is gone.
     if (QCoreApplication::instance())
         delete m_standIn.data();
     m_standIn.clear();

@@ -29,8 +29,8 @@ public:
     void dispatch(CHxHitTestInfo &hit);
 
 private:
-    std::vector<CHxTracker *> m_trackers; // with null in place of those that go during a dispatch
-    int m_dispatches = 0; // that are under way
+    std::vector<CHxTracker *> m_trackers; // null for one removed during a dispatch
+    int m_dispatches = 0; // in progress
     bool m_hasGaps = false;
 };
 

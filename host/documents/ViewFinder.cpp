@@ -81,7 +81,7 @@ bool ViewFinder::eventFilter(QObject *receiver, QEvent *event)
         noteChange(receiver, *event);
         return false;
     }
-    // A widget has its final class from the first time that it is polished or shown on.
+    // When a widget is first polished or shown, it has its final class.
     if ((event->type() == QEvent::Show || event->type() == QEvent::Polish) && receiver->isWidgetType())
         look(static_cast<QWidget *>(receiver));
     return false;

@@ -45,7 +45,7 @@ private:
         QString className;
         QString name; // may be empty
         QString reason;
-        bool isQtsOwn; // its class is one of Qt's, which other widgets are of too
+        bool isQtsOwn; // its class is one of Qt's, so other widgets have it too
     };
 
     // What was found so far, gathered for one report.

@@ -19,7 +19,7 @@ namespace {
 // without an error.
 bool readAll(int file, qint64 size, qint64 limit, QByteArray &bytes)
 {
-    // One byte more, so that the end is seen without growing.
+    // One byte more, so that the end is found without enlarging the buffer.
     qint64 room = qMin(size, limit) + 1;
     qint64 count = 0;
     while (count <= limit) {
@@ -39,7 +39,7 @@ bool readAll(int file, qint64 size, qint64 limit, QByteArray &bytes)
     return true;
 }
 
-// A program may have its profile built in. Qt's resources are no files of the system.
+// A program may have its profile built in. Qt's resources are not files of the system.
 FileContent readResource(const QString &path, qint64 limit)
 {
     QFile file(path);

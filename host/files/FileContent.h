@@ -8,8 +8,8 @@
 
 namespace gesturewidget {
 
-// What a file holds, read at once. Reading never waits for another program: a pipe or a device
-// of that name is not opened for long, and counts as no file.
+// The whole content of a file. Reading never waits for another program: a pipe or a device of that
+// name is closed at once and does not count as a file.
 struct FileContent
 {
     enum class State {

@@ -19,7 +19,7 @@ namespace {
 
 constexpr int kSlice = 5; // milliseconds between two attempts
 
-// Whether `path` is still the name of the open file.
+// Returns whether `path` is still the name of the open file.
 bool isNameOf(const QByteArray &path, int file)
 {
     struct stat named = {};

@@ -27,7 +27,7 @@ QByteArray encoded(const QString &path)
     return QFile::encodeName(path);
 }
 
-// The end of a chain of links, also when nothing is there yet. The kernel follows 40 links.
+// Returns the end of a chain of links, also if nothing is there yet. The kernel follows 40 links.
 QString withoutLinks(QString path)
 {
     for (int i = 0; i < 40 && QFileInfo(path).isSymLink(); ++i)
@@ -35,7 +35,7 @@ QString withoutLinks(QString path)
     return path;
 }
 
-// Whether a name is free or has a file that may be replaced.
+// Returns whether the name is free or belongs to a file that may be replaced.
 bool isReplaceable(const QByteArray &path)
 {
     struct stat status = {};
@@ -47,14 +47,14 @@ mode_t usualMode(const QByteArray &path)
     struct stat status = {};
     if (::stat(path.constData(), &status) == 0)
         return status.st_mode & 0777U;
-    // Asking for the mask means setting it. Another thread that makes a file in between gets one
-    // that only its owner may use.
+    // The mask can only be read by setting it. If another thread makes a file in between, only the
+    // owner may use that file.
     const mode_t mask = ::umask(077);
     ::umask(mask);
     return 0666U & ~mask;
 }
 
-// A new empty file beside `path`, under a name that nobody has; removed unless it was renamed.
+// A new empty file beside `path`, under an unused name. Removed unless it was renamed.
 class NeighbourFile
 {
 public:
@@ -101,14 +101,14 @@ private:
         }
         return true;
     }
-    // Some file systems have nothing to flush and say so; all else means that something is lost.
+    // Some file systems have nothing to flush and say so. Any other error means that data is lost.
     [[nodiscard]] bool isOnDisk() const
     {
         return ::fsync(m_file) == 0 || errno == EINVAL || errno == ENOSYS;
     }
     [[nodiscard]] bool holds(const QByteArray &content) const
     {
-        QByteArray found(content.size() + 1, '\0'); // a byte too many would show
+        QByteArray found(content.size() + 1, '\0'); // one byte more, to notice a longer file
         qsizetype done = 0;
         while (done < found.size()) {
             const ssize_t count = ::pread(m_file, found.data() + done,
@@ -143,12 +143,12 @@ bool FileWriter::keepAs(const QString &second) const
         return false;
     if (m_readers == Readers::Owner)
         static_cast<void>(::chmod(path.constData(), kOwnerOnly)); // fails on somebody else's file
-    // Linked under a third name and renamed, so that the second name is never missing.
+    // Link under a third name and rename that, so that the second name is never missing.
     const QByteArray third = name + ".new";
     ::unlink(third.constData());
     if (::link(path.constData(), third.constData()) == 0) {
         const bool isKept = ::rename(third.constData(), name.constData()) == 0;
-        ::unlink(third.constData()); // of two names of one file a rename leaves both
+        ::unlink(third.constData()); // rename() leaves both if they name one file
         return isKept;
     }
     const FileContent content = FileContent::read(m_path, std::numeric_limits<int>::max() / 2);

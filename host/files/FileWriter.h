@@ -11,8 +11,8 @@ namespace gesturewidget {
 // Replaces a file in one step. Everything that this project keeps on disk is written here.
 //
 // The new content goes into a file beside the old one, is flushed to the disk, read back and
-// compared, and only then takes the old one's name. So a reader sees the old or the new content,
-// whole, and a full disk leaves the old one.
+// compared, and only then takes the old one's name. So a reader sees either the whole old or the
+// whole new content, and a full disk leaves the old one.
 //
 //     FileWriter writer(path, FileWriter::Readers::Owner);
 //     if (!writer.write(content, path + QStringLiteral(".bak")))
@@ -32,10 +32,10 @@ public:
     // Returns whether the file has this content. False leaves everything as it was. Refuses to
     // replace anything but a file, and makes no folders.
     [[nodiscard]] bool write(const QByteArray &content) const;
-    // The same, and keeps the old file under the name `second`, as soon as the new content is on
-    // the disk. That takes no room on the disk where a file can have two names; elsewhere it is
-    // copied. Replaces an older file of that name, but never a folder, a pipe or a link: then, and
-    // when there is no old file, nothing is done and the result is false.
+    // Does the same, and keeps the old file under the name `second` when the new content is on the
+    // disk. This takes no space if a file can have two names there; otherwise the old file is
+    // copied. Replaces an older file of that name, but never a folder, a pipe or a link. In that
+    // case, and if there is no old file, does nothing and returns false.
     [[nodiscard]] bool write(const QByteArray &content, const QString &second) const;
 
 private:

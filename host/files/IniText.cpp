@@ -116,7 +116,7 @@ QByteArray escapedValue(const QString &value)
     QByteArray result;
     bool needsQuotes = letters.startsWith(' ') || letters.endsWith(' ');
     if (letters.startsWith('@'))
-        result += '@'; // a single one would begin a value that is no text
+        result += '@'; // a single "@" would begin a value that is not a text
     for (const char letter : letters) {
         needsQuotes = needsQuotes || letter == ';' || letter == ',' || letter == '=';
         if (letter == '"' || letter == '\\')
@@ -126,7 +126,7 @@ QByteArray escapedValue(const QString &value)
     return needsQuotes ? '"' + result + '"' : result;
 }
 
-// What the character after a backslash means; null for a number, which follows it.
+// Returns the meaning of the character after a backslash; null if a number follows it.
 char meaningOf(char letter)
 {
     constexpr char kLetters[] = "abfnrtv\"?'\\";
@@ -135,13 +135,13 @@ char meaningOf(char letter)
     return found ? kMeanings[found - kLetters] : '\0';
 }
 
-// Undoes escapedValue(). A person may have written it: spaces around it do not count, and outside
-// of quotes a ";" begins a comment.
+// Undoes escapedValue(). A person may have written the value, so spaces around it do not count, and
+// a ";" outside quotes begins a comment.
 QString unescapedValue(const QByteArray &escaped)
 {
     const QString text = QString::fromUtf8(escaped.trimmed());
     QString result;
-    int end = 0; // behind the last character that is no space outside of quotes
+    int end = 0; // after the last character, without spaces outside quotes
     bool isQuoted = false;
     for (int i = 0; i < text.size(); ++i) {
         const QChar letter = text.at(i);

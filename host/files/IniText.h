@@ -10,20 +10,20 @@
 
 namespace gesturewidget {
 
-// The text of an INI file whose values are strings, as QSettings writes and reads it. Lines that
-// are not asked for stay as they are, comments included. Lines that no INI file can have, as damage
-// leaves them, are dropped.
+// The text of an INI file whose values are strings, as QSettings writes and reads it. Other lines
+// stay as they are, including comments. Lines that no INI file can have, as after damage, are
+// dropped.
 //
-// QSettings itself is not used: it waits for its lock file for as long as that takes, does not
-// see that its last flush failed, takes a file for unchanged that has the same size and the same
-// millisecond, and drops comments.
+// QSettings itself is not used. It waits for its lock file without limit, does not notice that its
+// last flush failed, treats a file with the same size and the same millisecond as unchanged, and
+// drops comments.
 class IniText
 {
 public:
     explicit IniText(const QByteArray &text);
 
-    // Whether each line is one that an INI file can have. A file that a power failure cut off or
-    // zeroed often is not.
+    // Returns whether an INI file can have every line. Often false for a file that a power failure
+    // cut off or zeroed.
     [[nodiscard]] static bool isWellFormed(const QByteArray &text);
     // The name of a value, "section/key". Section and key may hold any characters.
     [[nodiscard]] static QString nameOf(const QString &section, const QString &key);

@@ -42,7 +42,7 @@ QString withoutEnding(const QString &name)
     return name;
 }
 
-// All programs in an interpreter's language have its file in common.
+// All programs that an interpreter runs have its file in common.
 bool isInterpreter(const QString &name)
 {
     static const QRegularExpression interpreter(QStringLiteral("^(python|pypy)[0-9.]*$"));

@@ -49,7 +49,7 @@ public:
     [[nodiscard]] static QString nameOf(const QString &section, const QString &key);
 
 private:
-    // What tells two states of a file apart without reading it.
+    // Tells two states of a file apart without reading the file.
     struct Stamp
     {
         bool exists = false;

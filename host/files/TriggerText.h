@@ -7,9 +7,9 @@
 #include <QStringList>
 #include <Qt>
 
-// What starts a gesture, as a person writes it: a button, and before it the keys that are held
-// with it, joined by "+": "right", "ctrl+right", "shift+alt+left". All names of buttons and keys
-// are here; profiles use the same ones.
+// A trigger as a person writes it: a button, and before it the keys that are held with it, joined
+// by "+": "right", "ctrl+right", "shift+alt+left". All names of buttons and keys are here; profiles
+// use the same ones.
 namespace gesturewidget {
 
 // "left", "middle", "right", "back", "forward".
@@ -21,11 +21,11 @@ namespace gesturewidget {
 [[nodiscard]] Qt::MouseButton buttonNamed(const QString &name);
 [[nodiscard]] Qt::KeyboardModifier modifierNamed(const QString &name);
 
-// Fills both and returns true, or leaves them and returns false when the text names no
-// trigger. Case does not matter, nor the order of the keys.
+// Fills both and returns true. If the text names no trigger, leaves them and returns false. Letter
+// case and the order of the keys do not matter.
 [[nodiscard]] bool parseTrigger(const QString &text, Qt::MouseButton &button,
                                 Qt::KeyboardModifiers &modifiers);
-// Returns whether a person may choose it: not the left button alone, with which people draw.
+// Returns whether a person may choose it. False for the left button alone, with which people draw.
 [[nodiscard]] bool isUsableTrigger(Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
 // The text of a trigger; empty for a button that has no name here.
 [[nodiscard]] QString triggerText(Qt::MouseButton button, Qt::KeyboardModifiers modifiers);

@@ -11,9 +11,9 @@
 
 namespace inject {
 
-// The plug-in's object in an application without widgets, where it has nothing to do. If that
-// application never reaches its event loop, it was made for a moment only, and the next one finds
-// the variables again. The application object owns this.
+// The plug-in's object in an application without widgets, where the plug-in has nothing to do. If
+// that application never reaches its event loop, it was short-lived, and the next one finds the
+// variables again. The application object owns this.
 class BareApplication : public QObject
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ public:
     ~BareApplication() override;
 
 private:
-    // It is the program's own one.
+    // The application reached its event loop, so it is the one that the program runs.
     void onEventLoop();
 
     std::unique_ptr<BorrowedVariables> m_variables;

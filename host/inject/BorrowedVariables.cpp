@@ -28,7 +28,7 @@ BorrowedVariables::~BorrowedVariables()
     if (m_isKept)
         return;
     for (const Variable &variable : m_variables) {
-        // What the program has set meanwhile is the program's.
+        // Keep a value that the program has set in the meantime.
         if (variable.wasSet && qgetenv(variable.name) == variable.after)
             qputenv(variable.name, variable.before);
     }

@@ -225,11 +225,11 @@ bool PointerFilter::filterKey(QWindow *window, const QKeyEvent &event)
     m_keys.note(event);
     if (m_state != State::Holding)
         return false;
-    // The program must get the key after the press, or a menu that the press opens must.
+    // The key must come after the press, for the program or for a menu that the press opens.
     m_held.hold(window, event);
-    // A key that was down before the press does not end the holding: a fast typist has not let
-    // go of it yet. Nor do its repeats, which X11 does not always mark and may report as
-    // releases and presses.
+    // A key that was down before the press does not end the holding: a fast typist may not have
+    // released it yet. Its repeats do not end it either. X11 does not always mark repeats and may
+    // report them as releases and presses.
     if (event.type() == QEvent::KeyPress && !event.isAutoRepeat() && !m_keysOfPress.contains(event))
         giveBack();
     return true;
@@ -388,9 +388,9 @@ void PointerFilter::noteWindowEvent(QObject *receiver, QEvent::Type type)
     const bool isOfView = view && (widget == view || widget->isAncestorOf(view));
     const bool isPopup = type == QEvent::Show && widget->windowType() == Qt::Popup;
     if (m_state == State::Holding) {
-        // Deactivation says nothing: the button is down, so the window system goes on sending
-        // the pointer here. It may also be that of an overlay that has just gone, and come
-        // late; a press given back for it would open a menu under a drag.
+        // Ignore deactivation. The button is down, so the window system goes on sending the pointer
+        // here. A late deactivation may also come from an overlay that has just gone. If the press
+        // were given back for it, a menu would open under a drag.
         if (isPopup || (isOfView && type != QEvent::Show && type != QEvent::WindowDeactivate))
             queue(&PointerFilter::giveBack);
     } else if (m_state == State::Gesturing) {

@@ -6,7 +6,7 @@
 //     gesturewidget_drawbuttons DIRECTORY
 //
 // writes ok.png, cancel.png and help.png, 32 pixels wide, and each at twice the size for
-// screens with fine pixels. All lines lie so that half the size, 16 pixels, is sharp too.
+// high-density screens. All lines are placed so that half the size, 16 pixels, is sharp too.
 
 #include <QColor>
 #include <QImage>
@@ -28,7 +28,7 @@ struct Button
     QColor bottom;
     QColor rim;
     QPainterPath mark; // drawn as a line
-    QPointF dot; // drawn as a spot, unless it is null
+    QPointF dot; // drawn as a dot, unless it is null
 };
 
 QPainterPath tick()

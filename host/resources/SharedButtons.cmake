@@ -1,11 +1,8 @@
-# SPDX-FileCopyrightText: 2026 GestureWidget developers
-# SPDX-License-Identifier: MIT
-
-# The images of dialog buttons, drawn while building. Included by the folder above, whose
-# target embeds them: gesturewidget_hostcode.
+# Draws the images of dialog buttons at build time. The folder above includes this file; its target
+# gesturewidget_hostcode embeds the images.
 #
-# They go into a resource file of their own, and that goes into the library as one piece:
-# the images appear only when the host registers it, see SharedButtons.cpp.
+# The images are in a separate resource file, and the library embeds that file as a whole. So the
+# images appear only when the host registers the file, see SharedButtons.cpp.
 add_executable(gesturewidget_drawbuttons resources/DrawButtons.cpp)
 gesturewidget_defaults(gesturewidget_drawbuttons)
 target_link_libraries(gesturewidget_drawbuttons PRIVATE Qt${GESTUREWIDGET_QT}::Gui)

@@ -27,7 +27,7 @@ public:
     // Returns a topic's anchor in the guide: "topic-" and the number, empty for 0.
     [[nodiscard]] static QString anchorOf(int topic);
 
-    // What opens pages, and the files to try. Tests set their own.
+    // `opener` opens a page, `files` are the files to try. Tests set their own.
     Opener opener;
     QStringList files;
 };

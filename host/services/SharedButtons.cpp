@@ -8,7 +8,7 @@
 namespace gesturewidget {
 namespace {
 
-// Takes the images back when this library goes: Qt keeps nothing but their address.
+// Unregisters the images when this library is unloaded, because Qt keeps only their address.
 class Registration
 {
 public:
@@ -28,9 +28,9 @@ private:
 
 void provideSharedButtons()
 {
-    // The images are a resource file inside a resource file, so that they are not offered
-    // before this is called: of two files with one name Qt gives the one that was
-    // registered first, and that must be the program's.
+    // The images are a resource file inside a resource file, so they are not offered before this
+    // call. If two files have the same name, Qt returns the one that was registered first, which
+    // must be the program's.
     static const Registration registration(
         QResource(QStringLiteral(":/gesturewidget-host/buttons.rcc")).data());
 }

@@ -51,7 +51,7 @@ public:
         , guide(helpGuide)
     {
         if (!mainWindow)
-            return; // no program to expect anything of
+            return; // without a program, nothing can be expected
         memory = std::make_unique<CatalogueMemory>(catalogue, catalogueFileBeside(settingsFile));
         const QMap<QString, QString> expected =
             expectedCommands(profile.wellKnownCommands, profileStore.values());

@@ -5,13 +5,13 @@
 
 #include "HostExport.h"
 
-// Where hosts of this process tell what they find in the program, for `mouse-gestures --explain`.
-// Set by the plug-in before any host starts, so that it also serves a program that hosts
-// gestures itself. Not installed: programs have no use for it.
+// Sets where the hosts of this process report what they find in the program, for
+// `mouse-gestures --explain`. The plug-in sets it before any host starts, so it also works in a
+// program that hosts gestures itself. Not installed, because programs do not need it.
 namespace gesturewidget {
 
-// `socket`: see host/files/ExplanationChannel.h; stays the caller's. -1, the initial state,
-// means that nobody listens. Counts for hosts that start afterwards.
+// `socket`: see host/files/ExplanationChannel.h. The caller keeps the ownership. -1, the initial
+// state, means that nobody listens. Affects hosts that start afterwards.
 GESTUREWIDGET_HOST_EXPORT void explainTo(int socket);
 
 [[nodiscard]] int explanationListener();

@@ -192,7 +192,7 @@ void HostSession::retire(std::unique_ptr<HostSession> session)
 {
     session->stop();
     if (!session->m_wasStarted || session->m_isFinished)
-        return; // nothing of it is in use
+        return; // not in use
     session->m_isRetired = true;
     static_cast<void>(session.release()); // finishAll() has it from now on
 }

@@ -32,7 +32,7 @@ QString problemOfLibraryFile(const QString &path)
     if (!read(file, 0, &header) || std::memcmp(header.e_ident, ELFMAG, SELFMAG) != 0)
         return QStringLiteral("it is no library");
     if (header.e_phentsize != sizeof(Segment))
-        return {}; // of another kind of machine: the loader says so
+        return {}; // for another kind of machine: the loader reports it
     const auto size = static_cast<quint64>(file.size());
     for (quint64 i = 0; i < header.e_phnum; ++i) {
         Segment segment;

@@ -9,12 +9,11 @@
 
 namespace gesturewidget {
 
-// Loads one module's library and creates the module object in it. Nothing that a file may
-// hold leaves here as a crash or an exception, short of code that runs wild while it is
-// being loaded.
+// Loads one module's library and creates the module object in it. No file causes a crash or an
+// exception here, unless its code misbehaves while it is loaded.
 //
-// The library is never unloaded: windows that the module has made may be destroyed later
-// than the module object, and their code is in there.
+// The library is never unloaded. It holds the code of the module's windows, which may be destroyed
+// later than the module object.
 class ModuleLoader
 {
 public:
@@ -22,15 +21,15 @@ public:
     ~ModuleLoader(); // leaves the module object alone
     Q_DISABLE_COPY_MOVE(ModuleLoader)
 
-    // Returns false, with one line that says why in `error`, if the file is no module or one
-    // for another version of the platform; module() is null then.
+    // If the file is not a module, or is one for another version of the platform, returns false and
+    // puts one line that says why into `error`; module() is null then.
     bool load(const QString &file, QString *error);
     [[nodiscard]] OdRxModule *module() const { return m_module; }
 
     // Calls the module's initApp(). Returns false, with one line in `error`, if it throws.
     bool initialize(QString *error);
-    // Calls uninitApp(), or destroys the module object; both do nothing without one, and
-    // swallow what the module throws.
+    // Calls uninitApp(), or destroys the module object. Both do nothing without one, and swallow
+    // the module's exceptions.
     void uninitialize();
     void destroy();
 

@@ -59,7 +59,7 @@ bool MenuChanges::eventFilter(QObject *watched, QEvent *event)
         break;
     case QEvent::ChildAdded:
     case QEvent::ChildPolished: {
-        // A child that is being constructed is a plain widget still; it is polished later.
+        // A child that is being constructed is still a plain widget; it is polished later.
         const QObject *child = static_cast<QChildEvent *>(event)->child();
         if (watched == m_window
             && (qobject_cast<const QToolBar *>(child) || qobject_cast<const QMenuBar *>(child)))

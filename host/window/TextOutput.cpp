@@ -37,7 +37,7 @@ void TextOutput::showForAWhile(const QString &text)
         bar->showMessage(text.simplified(), kAWhile);
 }
 
-// Looked for among the children: QMainWindow::statusBar() would make one.
+// Searches the children, because QMainWindow::statusBar() would make a status bar.
 QStatusBar *TextOutput::statusBar() const
 {
     return m_window ? m_window->findChild<QStatusBar *>(QString(), Qt::FindDirectChildrenOnly) : nullptr;

@@ -9,7 +9,7 @@
 
 namespace launcher {
 
-// What the person who typed `mouse-gestures ...` wants.
+// The task that a person has typed as `mouse-gestures ...`.
 //
 // Only options before the program are the launcher's own; everything after the program
 // belongs to the program. Arguments stay bytes, so that they arrive unchanged in any
@@ -49,7 +49,7 @@ struct CommandLine
     bool isJson = false; // the output is wanted as JSON
 };
 
-// What `mouse-gestures --help` prints.
+// Returns the text that `mouse-gestures --help` prints.
 [[nodiscard]] QString helpText();
 
 } // namespace launcher

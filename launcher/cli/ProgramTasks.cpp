@@ -59,7 +59,7 @@ Outcome print(const Subject &subject, const QString &path, const Bindings &bindi
 
 Outcome importStandardInput(SettingsTasks &tasks)
 {
-    QByteArray text(SettingsTasks::kMaximalImport + 1, '\0'); // one byte too many is told
+    QByteArray text(SettingsTasks::kMaximalImport + 1, '\0'); // one more, to notice a longer text
     const std::size_t count = std::fread(text.data(), 1, static_cast<std::size_t>(text.size()), stdin);
     if (std::ferror(stdin) != 0)
         return Outcome::failure(QStringLiteral("standard input cannot be read"));

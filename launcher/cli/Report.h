@@ -14,7 +14,7 @@ constexpr int kTaskFailed = 1;
 
 // Writes one line to standard error, after all that was printed before. Returns `status`.
 int complain(QString text, int status);
-// Prints what came of a task. Returns the exit status.
+// Prints the result of a task. Returns the exit status.
 int report(const Outcome &outcome);
 
 } // namespace launcher

@@ -23,10 +23,10 @@
 namespace launcher {
 namespace {
 
-// What a program is started with.
+// Everything that is needed to start a program.
 struct Start
 {
-    // Complains where the program cannot be started with gestures; `status` is not 0 then.
+    // If the program cannot be started with gestures, complains and sets `status` to other than 0.
     explicit Start(const CommandLine &line)
         : arguments(QList<QByteArray>{line.program} + line.arguments)
     {
@@ -46,8 +46,8 @@ struct Start
     Environment environment;
 };
 
-// Returns only when that failed, with the reason in errno. Signals and the exit status need no
-// passing on.
+// Returns only on failure, with the reason in errno. Because the process is replaced, nobody has to
+// forward signals and the exit status.
 void replaceProcess(const Start &start)
 {
     const auto pointers = [](const QList<QByteArray> &strings) {
@@ -59,7 +59,7 @@ void replaceProcess(const Start &start)
         return result;
     };
     const QList<QByteArray> entries = environmentEntries(start.environment);
-    // The "p" is for scripts without a "#!" line, which it hands to the shell.
+    // The variant with "p" passes scripts without a "#!" line to the shell.
     ::execvpe(start.path.constData(), pointers(start.arguments).data(), pointers(entries).data());
 }
 
@@ -89,7 +89,7 @@ int explainProgram(const CommandLine &line)
     ProgramExplainer explainer(start.path, start.arguments, start.environment);
     const ProgramExplanation found = explainer.run();
     if (found.signal != 0)
-        return ::raise(found.signal); // ends this too, as it would have without a program
+        return ::raise(found.signal); // ends the launcher too, as the signal should
     if (!found.complaint.isEmpty())
         return complain(
             QStringLiteral("%1: %2").arg(QString::fromLocal8Bit(line.program), found.complaint),

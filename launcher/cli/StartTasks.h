@@ -9,9 +9,9 @@ namespace launcher {
 
 // The tasks that start the program. Each returns the exit status.
 
-// Replaces this process by the program with gestures. Returns only when that failed.
+// Replaces this process by the program with gestures. Returns only on failure.
 int startProgram(const CommandLine &line);
-// Starts the program, prints what in it is taken for what, and ends it. The profile goes to
+// Starts the program, prints what the host has recognised in it, and ends it. The profile goes to
 // standard output, the explanation for the person to standard error.
 int explainProgram(const CommandLine &line);
 

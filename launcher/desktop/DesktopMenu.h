@@ -58,7 +58,7 @@ private:
     // Names of the copies that start the program, below the user's own folder.
     [[nodiscard]] QStringList copiesFor(const QByteArray &typed, const QByteArray &path,
                                         Named which) const;
-    // What the user has put in the place of an entry; empty when there is nothing or a copy.
+    // The user's own file in place of an entry; empty when there is none or only a copy.
     [[nodiscard]] QString ownFileFor(const QString &name) const;
 
     Places m_places;

@@ -35,7 +35,7 @@ bool isOneOf(const char *letters, char letter)
     return letter != '\0' && std::strchr(letters, letter) != nullptr;
 }
 
-// What a backslash and this letter mean in a value; null when they mean themselves.
+// Returns what a backslash and this letter mean in a value; null when they mean themselves.
 char meaningOf(char letter)
 {
     switch (letter) {

@@ -11,20 +11,21 @@ namespace launcher {
 // The command of a desktop entry, the value of its key "Exec" as the file has it: escaped like
 // every value there, quoted in double quotes, with field codes such as "%F".
 //
-// Where the command begins with "env", the program is the one that env starts.
+// If the command begins with "env", the program is the one that env starts.
 struct ExecLine
 {
     // A command is not valid if it cannot be read, has no program, or lets env split a text.
     [[nodiscard]] static ExecLine parse(const QByteArray &value);
-    // An argument as such a value holds it. Field codes in it are meant literally.
+    // Returns an argument in the form of such a value. Field codes in it are literal text.
     [[nodiscard]] static QByteArray encoded(const QByteArray &argument);
-    // Any text as a value of a desktop entry holds it: a line end in it begins no line.
+    // Returns any text in the form of a value of a desktop entry. A line end in it does not begin a
+    // line of the file.
     [[nodiscard]] static QByteArray escaped(QByteArray text);
 
     // The value with `launcher`, a path, put before the program; everything else stays as it was,
-    // to the byte. Where the launcher has been removed, the command starts the program alone.
+    // to the byte. If the launcher is removed later, the command starts the program alone.
     [[nodiscard]] QByteArray startedBy(const QByteArray &launcher) const;
-    // Of a value that startedBy() gave: the program that the launcher starts.
+    // For a value from startedBy(), returns the program that the launcher starts.
     [[nodiscard]] QByteArray startedProgram() const;
 
     bool isValid = false;

@@ -186,7 +186,7 @@ Diagnosis diagnose(const Symptoms &symptoms)
     Report report;
     reportProgram(symptoms, report);
     if (symptoms.path.isEmpty())
-        return report.diagnosis(); // the rest would be about no program at all
+        return report.diagnosis(); // without a program there is nothing more to say
     reportPlugin(symptoms, report);
     reportDisplay(symptoms, report);
     const gesturewidget::ProgramProfile profile = reportProfile(symptoms, report);

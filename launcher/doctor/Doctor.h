@@ -13,7 +13,7 @@
 
 namespace launcher {
 
-// What decides whether gestures work in a program. The caller gathers it.
+// The facts that decide whether gestures work in a program. The caller gathers them.
 struct Symptoms
 {
     QString program; // its name, by which profile and settings are found
@@ -21,7 +21,7 @@ struct Symptoms
     QtWidgetsUse use = QtWidgetsUse::Unknown;
     QList<PluginFolder> plugins;
     Environment environment;
-    // Whether a compositor is running on the X11 display.
+    // Says whether a compositor is running on the X11 display.
     enum class Compositor { Running, None, Unknown } compositor = Compositor::Unknown;
     QStringList profileFolders;
     QString settingsFile;
@@ -29,7 +29,8 @@ struct Symptoms
 
 struct Diagnosis
 {
-    // "what: how it is", one line each. A line that begins with "!" stands in the way of gestures.
+    // "what: how it is", one line each. A line that begins with "!" names a problem that prevents
+    // gestures.
     QStringList lines;
     bool isHealthy = true; // there is no such line
 };

@@ -17,12 +17,12 @@ namespace launcher {
 struct ProgramExplanation
 {
     QJsonObject profile;
-    QStringList lines; // for a person: what is taken for what, and why
+    QStringList lines; // for a person: what the host recognises, and why
     QString complaint; // one line when there is no profile
     int signal = 0; // the signal that told the launcher itself to end; 0 for none
 };
 
-// Starts a program with gestures, waits until its host has told what it takes for what, and ends
+// Starts a program with gestures, waits until its host has reported what it recognises, and ends
 // the program, however that behaves.
 class ProgramExplainer
 {

@@ -8,7 +8,7 @@
 
 namespace launcher {
 
-// What the dynamic loader reads in the head of a program or library.
+// The data that the dynamic loader reads at the start of a program or library.
 //
 // Only files of this machine's byte order are read. Any other file, and a damaged one, is not valid
 // here.

@@ -17,7 +17,7 @@ constexpr int kLauncherFailed = 125;
 constexpr int kCannotRun = 126;
 constexpr int kNotFound = 127;
 
-// Where execvp() looks when there is no PATH.
+// The folders where execvp() looks when there is no PATH.
 constexpr char kDefaultSearchPath[] = "/bin:/usr/bin";
 
 // Says whether a program can be started with gestures.

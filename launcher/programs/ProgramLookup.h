@@ -7,7 +7,7 @@
 
 namespace launcher {
 
-// Where a program is, by the rules of execvp().
+// Finds a program by the rules of execvp().
 struct ProgramLookup
 {
     enum class Result { Found, Missing, NotExecutable, IsFolder };

@@ -10,7 +10,7 @@
 
 namespace launcher {
 
-// What is kept for one program: which command lies in which direction, and what starts a gesture.
+// The settings of one program: which command lies in which direction, and the trigger.
 struct Bindings
 {
     // Direction names by direction index, counter-clockwise from up. `scheme` is 4 or 8.
@@ -21,9 +21,9 @@ struct Bindings
     [[nodiscard]] static Bindings fromSettings(const gesturewidget::SettingsFile::Values &values);
     // The bindings before anybody has chosen anything. The trigger is the profile's.
     [[nodiscard]] static Bindings initial();
-    // All of it as the settings hold it.
+    // Returns everything in the form of the settings.
     [[nodiscard]] gesturewidget::SettingsFile::Values toSettings() const;
-    // What has to be written so that the settings, which hold `now`, mean this.
+    // Returns the values to write so that settings that hold `now` mean these bindings.
     [[nodiscard]] gesturewidget::SettingsFile::Values
     changesFrom(const gesturewidget::SettingsFile::Values &now) const;
 

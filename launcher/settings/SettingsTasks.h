@@ -12,35 +12,35 @@
 namespace launcher {
 
 // Shows and changes what is kept for one program, in the file where the host keeps it. A running
-// program sees the change at its next gesture. Two tasks at once lose nothing of each other.
+// program sees the change at its next gesture. Two tasks at once keep each other's changes.
 class SettingsTasks
 {
 public:
-    // The program's name, by which its settings are found, their file, the commands of the
-    // program, and the trigger of its profile.
+    // `program` is the name by which the settings are found, `file` their file, `commands` are the
+    // program's commands, and `usualTrigger` is the trigger of its profile.
     SettingsTasks(const QString &program, const QString &file, const KnownCommands &commands = {},
                   const QString &usualTrigger = QStringLiteral("right"));
 
-    // What is kept.
+    // Reads the bindings from the file.
     [[nodiscard]] Bindings bindings() const;
     // Both schemes, the one in use first, with the captions of the commands that are known.
     [[nodiscard]] Outcome showBindings() const;
     [[nodiscard]] Outcome showBindingsAsJson() const;
-    // Puts a command, named as KnownCommands::resolve() takes it, into a direction of the scheme
-    // in use; "" and "none" empty the direction. A command that had another direction of that
-    // scheme leaves it.
+    // Binds a command to a direction of the scheme in use. KnownCommands::resolve() says how to
+    // name the command; "" and "none" empty the direction. If the command had another direction of
+    // that scheme, it loses that one.
     [[nodiscard]] Outcome bind(const QString &direction, const QString &command);
     // Brings back all fourteen initial values. The trigger stays; the output says so.
     [[nodiscard]] Outcome reset();
     // Writes all bindings as JSON to a file, in one step.
     [[nodiscard]] Outcome exportTo(const QString &path) const;
-    // Takes over a file that exportTo() wrote. The settings as they were are kept beside them as
+    // Imports a file that exportTo() wrote. Keeps the old settings beside the new ones as
     // "<file>.before-import".
     [[nodiscard]] Outcome importFrom(const QString &path);
     // The same with a text that came from elsewhere; `source` names it in complaints.
     [[nodiscard]] Outcome importText(const QByteArray &text, const QString &source);
-    // Sets what starts a gesture, see host/files/TriggerText.h; "default" is the profile's trigger.
-    // Refuses the left button alone, with which people draw.
+    // Sets the trigger, see host/files/TriggerText.h; "default" is the profile's trigger. Refuses
+    // the left button alone, with which people draw.
     [[nodiscard]] Outcome setTrigger(const QString &text);
 
     // Bytes. Far more than any export has; a longer one is some other file.

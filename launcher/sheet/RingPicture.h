@@ -15,7 +15,7 @@ QT_END_NAMESPACE
 namespace sheet {
 
 // The ring in the proportions and colours that it has under the pointer, with a label in each
-// sector. It is drawn anew, since an image for a screen is coarse on paper.
+// sector. It is drawn again, because an image for a screen is coarse on paper.
 class RingPicture
 {
 public:

@@ -16,7 +16,7 @@ constexpr QColor kRim{22, 34, 48};
 constexpr QColor kGleam{255, 255, 255};
 // At 120/255 only a colour this dark has a contrast of 3 to 1 on a white drawing.
 constexpr QColor kMark{4, 8, 14};
-// Seen on the ring, but quieter than anything that carries a meaning.
+// Visible on the ring, but fainter than anything that has a meaning.
 constexpr QColor kSeparator{22, 34, 48, 64};
 constexpr QColor kShadow{10, 18, 28, 150};
 

@@ -12,7 +12,7 @@ namespace draw {
 // The whole ring without sectors. Four and eight sectors share it, so it shows no borders.
 [[nodiscard]] QImage ringBackground(int ratio);
 
-// A sector as it looks when the pointer is in it, and nothing else.
+// Only one sector, as it looks when the pointer is in it.
 [[nodiscard]] QImage sectorHighlight(int count, int index, int ratio);
 
 // The same with quiet lines between all other sectors. The overlay always shows one of these

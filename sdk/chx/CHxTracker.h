@@ -11,7 +11,7 @@
 class CHxHitTestInfo;
 class CHxInputPointManager;
 
-// What a tracker draws with. It belongs to the host; modules cannot look inside.
+// The context in which a tracker draws. It belongs to the host; modules cannot look inside.
 class CHxTrackerContext;
 
 // Follows the pointer in the views of documents. Register it with the CHxInputPointManager of each

@@ -38,8 +38,9 @@ def is_elf(path):
 
 
 def run_path_faults(path):
-    """What is wrong with the folders that the dynamic loader searches for a binary's libraries. It
-    takes an empty or relative entry for the current folder of whoever starts the program."""
+    """Returns the wrong entries among the folders that the dynamic loader searches for a binary's
+    libraries. For the loader, an empty or relative entry is the current folder of whoever starts
+    the program."""
     found = re.search(r"\((?:RUNPATH|RPATH)\)[^\[]*\[(.*)\]", run("readelf", "-dW", path))
     entries = found.group(1).split(":") if found else []
     return [entry for entry in entries if not entry.startswith(("/", "$ORIGIN"))]

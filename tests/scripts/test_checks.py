@@ -1,8 +1,5 @@
 #!/usr/bin/env python3
-# SPDX-FileCopyrightText: 2026 GestureWidget developers
-# SPDX-License-Identifier: MIT
-
-"""The checks of the sources find what they are for: run on small trees with one fault each."""
+"""Tests that each check of the sources finds its fault, in small trees with one fault each."""
 
 import shutil
 import subprocess

@@ -1,8 +1,5 @@
-# SPDX-FileCopyrightText: 2026 GestureWidget developers
-# SPDX-License-Identifier: MIT
-
-# How each Wayland session is started for a test: a compositor that draws nowhere, with its own
-# X server for the program under test. Sourced by with-desktop.sh.
+# Starts each Wayland session for a test: a compositor that draws nowhere, with its own X server for
+# the program under test. Sourced by with-desktop.sh.
 
 is_wayland_session() { # NAME
   case $1 in
@@ -11,8 +8,8 @@ is_wayland_session() { # NAME
   esac
 }
 
-# Sets DISPLAY, and for the harness: DESKTOP_INPUT, the way of its input; DESKTOP_WAYLAND, the
-# compositor's socket; DESKTOP_USER, the user that it runs as if it is another one.
+# Sets DISPLAY, and for the harness: DESKTOP_INPUT, the protocol for its input; DESKTOP_WAYLAND, the
+# compositor's socket; DESKTOP_USER, the user that it runs as, if that is another one.
 start_wayland_session() { # NAME WIDTHxHEIGHT
   local size=$2 as_user=()
   # KWin and sway refuse to run as root. Mutter must be the same user as the test, or the

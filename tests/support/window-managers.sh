@@ -1,12 +1,9 @@
-# SPDX-FileCopyrightText: 2026 GestureWidget developers
-# SPDX-License-Identifier: MIT
-
-# How each window manager is started for a test. Sourced by with-desktop.sh.
+# Starts each window manager for a test. Sourced by with-desktop.sh.
 #
-# Every one runs with the settings that it has after installation, as far as this leaves the
-# pointer and the keyboard alone: menus of its own would grab them.
+# Each one runs with the settings of its installation, except where they would grab the pointer or
+# the keyboard, as its own menus do.
 
-# Those that bring their own compositor. Mutter cannot do without.
+# True for a window manager with its own compositor. Mutter always composites.
 composites_itself() { # NAME
   case $1 in
     kwin | xfwm4 | marco | mutter) return 0 ;;

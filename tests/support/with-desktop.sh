@@ -3,8 +3,8 @@
 # SPDX-License-Identifier: MIT
 #
 # Runs a command on a desktop of its own: an X server without a screen, a window manager
-# and a compositor. The command starts once all three are up. However it ends, and also if
-# this script is killed, nothing of them stays behind.
+# and a compositor. The command starts when all three are up. All of them end with the
+# command, however it ends, and also if this script is killed.
 #
 #     with-desktop.sh COMMAND [ARGUMENT...]
 #

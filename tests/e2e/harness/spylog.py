@@ -1,7 +1,4 @@
-# SPDX-FileCopyrightText: 2026 GestureWidget developers
-# SPDX-License-Identifier: MIT
-
-"""What the spy in the program writes, see spy/ActionSpy.h."""
+"""Reads what the spy in the program writes, see spy/ActionSpy.h."""
 
 import os
 import select

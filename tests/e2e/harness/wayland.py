@@ -267,8 +267,8 @@ class WaylandDriver(Driver):
         return ""
 
     def _move(self, x, y):
-        # XWayland takes a movement twice that brings the pointer into another window; the
-        # next one puts it right.
+        # If a movement brings the pointer into another window, XWayland applies it twice. The next
+        # movement corrects the position.
         self._step(x + 1, y)
         self._step(x, y)
 

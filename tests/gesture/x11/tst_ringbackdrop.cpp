@@ -22,7 +22,7 @@ namespace {
 constexpr int kSize = 250;
 constexpr double kRingOpacity = 120.0 / 255.0;
 
-// A drawing without two equal neighbours, so that a picture of it is seen to lie right.
+// A drawing whose neighbouring pixels differ, so that a picture at the wrong place is noticed.
 class Drawing : public QWidget
 {
 public:
@@ -60,7 +60,7 @@ int distance(QRgb a, QRgb b)
         {std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)), std::abs(qBlue(a) - qBlue(b))});
 }
 
-// What the screen shows where the ring's image is laid over `before` at `opacity`.
+// Returns what the screen shows if the ring's image lies over `before` at `opacity`.
 QImage blended(const QImage &before, const QImage &image, double opacity)
 {
     QImage result = before;

@@ -19,8 +19,8 @@
 using tests::X11Bench;
 using tests::X11Peer;
 
-// What the desktop makes of the ring's window: it lies on the press point and nothing else on
-// the desktop changes. Run it with tests/support/with-desktop.sh, under any window manager.
+// Tests what the desktop does with the ring's window: it lies on the press point, and nothing else
+// on the desktop changes. Run it with tests/support/with-desktop.sh, under any window manager.
 class RingWindowTest : public QObject
 {
     Q_OBJECT

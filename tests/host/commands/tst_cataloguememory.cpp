@@ -38,7 +38,7 @@ namespace {
 
 const QString kLine = QStringLiteral("ID_LINE");
 
-// A program that runs: its main window, and what the host knows of it.
+// A running program: its main window, and what the host knows about it.
 struct Start
 {
     explicit Start(const QString &file, const WellKnown &wellKnown = {})
@@ -48,7 +48,7 @@ struct Start
     {
     }
 
-    // Waits until what the menus show is in the file.
+    // Waits until the file has what the menus show. Returns false if that takes too long.
     bool isWritten()
     {
         memory.start();
@@ -59,7 +59,7 @@ struct Start
         const ActionItem *item = catalogue.itemOf(action);
         return item ? item->GetIdentifier().toQString() : QStringLiteral("<none>");
     }
-    // Whether a person can choose it.
+    // Returns true if a person can choose the command.
     [[nodiscard]] bool isOffered(const QString &identifier)
     {
         int count = 0;
@@ -133,12 +133,12 @@ private:
         }
         return {};
     }
-    [[nodiscard]] ino_t node() const // another one for each time it was written
+    [[nodiscard]] ino_t node() const // differs after each writing
     {
         struct stat status = {};
         return ::stat(QFile::encodeName(m_path).constData(), &status) == 0 ? status.st_ino : 0;
     }
-    // One start of the program, to its end. `before` changes the window.
+    // Starts the program once and ends it. `before` changes the window first.
     void runOnce(const std::function<void(DraftWindow &)> &before = {},
                  const WellKnown &wellKnown = {}) const
     {
@@ -212,7 +212,7 @@ void CatalogueMemoryTest::captionsThatChangeAllTheTimeAreNotWritten()
     QVERIFY(start.isWritten());
     const ino_t before = node();
     start.window.line->setText(QStringLiteral("Line again"));
-    start.window.draw->addSeparator(); // the menus have changed
+    start.window.draw->addSeparator(); // changes the menus
     QVERIFY(start.settled.wait());
     QCOMPARE(node(), before);
     QCOMPARE(inFile(QStringLiteral("drawLine")).caption, QStringLiteral("Line"));
@@ -265,7 +265,7 @@ void CatalogueMemoryTest::iconsWaitWhileAButtonIsDown()
     QVERIFY(QFileInfo::exists(m_path));
 }
 
-// A person may start the program, look at something and be gone before all icons are drawn.
+// A person may start the program, look at something and quit before all icons are drawn.
 void CatalogueMemoryTest::theStopWritesWhatWasSeen()
 {
     {
@@ -274,14 +274,14 @@ void CatalogueMemoryTest::theStopWritesWhatWasSeen()
         QVERIFY(QTest::qWaitForWindowExposed(&start.window));
         QTest::mousePress(start.window.windowHandle(), Qt::LeftButton, {}, QPoint(90, 90));
         start.memory.start();
-        QVERIFY(!start.settled.wait(2 * CatalogueMemory::kQuietTime)); // seen, and not drawn
+        QVERIFY(!start.settled.wait(2 * CatalogueMemory::kQuietTime)); // seen, but not drawn
         QTest::mouseRelease(start.window.windowHandle(), Qt::LeftButton, {}, QPoint(90, 90));
         start.memory.stop();
         QCOMPARE(file().size(), 8);
         QCOMPARE(inFile(QStringLiteral("drawLine")).caption, QStringLiteral("Line"));
         QVERIFY(inFile(QStringLiteral("drawLine")).icon.isEmpty());
     }
-    runOnce(); // has the time for them
+    runOnce(); // has enough time for the icons
     QVERIFY(!inFile(QStringLiteral("drawLine")).icon.isEmpty());
 }
 
@@ -301,7 +301,7 @@ void CatalogueMemoryTest::commandsOfEarlierStartsAreOffered()
     QCOMPARE(shown(line->GetSmallIcon()), icon);
     QCOMPARE(shown(line->GetLargeIcon()), icon);
     QVERIFY(start.isOffered(QStringLiteral("drawLine")));
-    QVERIFY(start.isOffered(QStringLiteral("drawArc"))); // of a toolbar only
+    QVERIFY(start.isOffered(QStringLiteral("drawArc"))); // only in a toolbar
     QVERIFY(start.catalogue.find(QStringLiteral("drawArc"))->isInToolBar);
     const auto &groups = start.catalogue.groups();
     const auto isDraw = [](const auto &group) {
@@ -331,7 +331,7 @@ void CatalogueMemoryTest::theyAreTakenUpByTheirActions()
     QVERIFY(start.isOffered(QStringLiteral("drawLine")));
 }
 
-// Of two names of one well-known command that name has its identifier which came first ever.
+// Of two names of one well-known command, the one that was ever seen first keeps the identifier.
 void CatalogueMemoryTest::identifiersStayThoughMenusComeInAnotherOrder()
 {
     const WellKnown wellKnown{{kLine, {QStringLiteral("sketchLine"), QStringLiteral("drawLine")}}};
@@ -344,7 +344,7 @@ void CatalogueMemoryTest::identifiersStayThoughMenusComeInAnotherOrder()
         start.window.toolBar->removeAction(start.window.line);
         const QAction *sketch = DraftWindow::addAction(start.window.file, "Sketch line", "sketchLine");
         QCOMPARE(start.identifierOf(sketch), QStringLiteral("sketchLine"));
-        // Both of them run it, whatever they are called.
+        // Both names run it, whatever identifiers they have.
         QCOMPARE(start.catalogue.findUsable(kLine), start.catalogue.itemOf(sketch));
         start.window.draw->addAction(start.window.line);
         QCOMPARE(start.identifierOf(line), kLine);
@@ -365,7 +365,7 @@ void CatalogueMemoryTest::guessesStay()
     QAction *line = start.window.line;
     start.window.draw->removeAction(line);
     start.window.toolBar->removeAction(line);
-    // Without what was seen before this would be taken for it.
+    // Without the remembered commands, this action would be taken for the line.
     const QAction *other = DraftWindow::addAction(start.window.file, "Line", "otherLine");
     QCOMPARE(start.identifierOf(other), QStringLiteral("otherLine"));
     start.window.draw->addAction(line);
@@ -405,7 +405,7 @@ void CatalogueMemoryTest::anotherLanguageChangesNoIdentifier()
     QCOMPARE(start.identifierOf(start.window.line), QStringLiteral("drawLine"));
     QCOMPARE(start.identifierOf(start.window.circle), QStringLiteral("drawCircle"));
     QVERIFY(start.isWritten());
-    // What is not there at the next start speaks the language in which it was last seen.
+    // A command that is missing at the next start keeps the language in which it was last seen.
     const RememberedCommand line = inFile(QStringLiteral("drawLine"));
     QCOMPARE(line.caption, QStringLiteral("Linie"));
     QCOMPARE(line.tip, QStringLiteral("Zeichnet eine Linie"));
@@ -437,7 +437,7 @@ void CatalogueMemoryTest::entriesOfListsAreNotOfferedForEver()
                            QStringLiteral("Window"), QStringLiteral("Window")});
     });
     {
-        // Without their menu nobody knows what they are.
+        // Without their menu, the host cannot tell what they are.
         Start start(m_path);
         for (const QString &name : {first, path, twin})
             QVERIFY2(start.isOffered(name), qPrintable(name));
@@ -447,11 +447,11 @@ void CatalogueMemoryTest::entriesOfListsAreNotOfferedForEver()
     QVERIFY(start.isOffered(first));
     QVERIFY(!start.isOffered(path));
     QVERIFY(!start.isOffered(twin));
-    // One that was there since the start stays offered, as every other command does.
+    // A command that was there at the start stays offered, like every other command.
     QMenu *recent = start.window.file->actions().last()->menu();
     recent->clear();
     QVERIFY(start.isOffered(first));
-    // They go from the file when something else is written to it.
+    // They leave the file when something else is written to it.
     QVERIFY(start.isWritten());
     QVERIFY(!inFile(path).identifier.isEmpty());
     DraftWindow::addAction(start.window.draw, "Spline", "drawSpline");
@@ -541,7 +541,7 @@ void CatalogueMemoryTest::iconsAreReadWhenPainted()
     };
     QCOMPARE(painted(icon), painted(original));
     QIcon changed = icon;
-    changed.addPixmap(pixmap, QIcon::Selected); // detaches
+    changed.addPixmap(pixmap, QIcon::Selected); // detaches the copy
     QCOMPARE(painted(icon), painted(original));
 
     QVERIFY(gesturewidget::iconToPng(QIcon()).isEmpty());
@@ -586,7 +586,7 @@ void CatalogueMemoryTest::whatIsNoPictureShowsNothing()
     QCOMPARE(errors.lines(), QStringList());
 }
 
-// Nothing that the user-interface thread does at a time may last long.
+// No single piece of work on the user-interface thread may take long.
 void CatalogueMemoryTest::thousandCommandsCostNoStutter()
 {
     const auto fill = [](DraftWindow &window) {
@@ -607,7 +607,7 @@ void CatalogueMemoryTest::thousandCommandsCostNoStutter()
             }
         }
     };
-    // How long the event loop was kept from going round.
+    // Measures the longest time between two turns of the event loop.
     class Pauses : public QObject
     {
     public:

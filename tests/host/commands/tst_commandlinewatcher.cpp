@@ -15,7 +15,7 @@
 
 using gesturewidget::CommandLineWatcher;
 
-// The program's command line and one made from it.
+// The program's command line, and a class derived from it.
 class DraftCommandEdit : public QLineEdit
 {
     Q_OBJECT
@@ -99,7 +99,7 @@ void CommandLineWatcherTest::aCommandIsTakenOutAndRun()
     QCOMPARE(m_run, QStringList(typed.trimmed()));
     QCOMPARE(line.text(), QString());
     QCOMPARE(returned.count(), 0);
-    QTest::keyClick(&line, Qt::Key_Return); // an empty line is the program's again
+    QTest::keyClick(&line, Qt::Key_Return); // an empty line goes to the program
     QCOMPARE(returned.count(), 1);
     QCOMPARE(m_run.size(), 1);
 }
@@ -155,7 +155,7 @@ void CommandLineWatcherTest::otherLinesAreLeftAlone()
     QLineEdit line;
     line.setText(QStringLiteral("GESTURE"));
     QTest::keyClick(&line, Qt::Key_Return);
-    watch(QStringLiteral("QTextEdit")); // no line edit at all
+    watch(QStringLiteral("QTextEdit")); // not a line edit
     QTextEdit text;
     text.setPlainText(QStringLiteral("GESTURE"));
     QTest::keyClick(&text, Qt::Key_Return);

@@ -23,7 +23,7 @@ using tests::ScriptedCommand;
 
 namespace {
 
-// A drawing view that notes its keys.
+// A view that records its keys.
 class View : public QWidget
 {
 public:
@@ -168,7 +168,7 @@ void CommandRunnerTest::aMacroOfCancelsOnlyRunsNothing()
 
 void CommandRunnerTest::withoutAViewNothingIsCancelled()
 {
-    m_view->hide(); // as a stand-in is, which is never shown
+    m_view->hide(); // like a stand-in, which is never shown
     QVERIFY(run("^C^C_GESTURE"));
     QCOMPARE(m_view->keys, QStringList());
     m_documents->view = nullptr;
@@ -183,7 +183,7 @@ void CommandRunnerTest::anUnknownMacroIsSaid()
     QVERIFY(!run("^C^C_NOTHING"));
     QCOMPARE(m_view->keys.size(), 4);
     QVERIFY2(said().contains(QStringLiteral("_NOTHING")), qPrintable(said()));
-    QVERIFY(!run("^C^CdrawLine")); // an action is no command of the stack
+    QVERIFY(!run("^C^CdrawLine")); // an action is not a command of the stack
 }
 
 void CommandRunnerTest::anActionIsTriggered_data()
@@ -339,7 +339,7 @@ void CommandRunnerTest::aCommandMayEndTheWindow()
     };
     QVERIFY(run("^C^C_GESTURE"));
     QVERIFY(!m_window);
-    m_runner->run(QStringLiteral("ID_LINE"), true); // says it to nobody
+    m_runner->run(QStringLiteral("ID_LINE"), true); // there is nobody to tell
     m_runner->run(QStringLiteral("^C^C_NOTHING"), true);
 }
 

@@ -16,8 +16,8 @@ using gesturewidget::luminanceOf;
 
 namespace {
 
-// What the ring shows under its icons: its plate over black, white and mid-grey, and the two
-// colours of the highlight.
+// The colours that the ring shows under its icons: its plate over black, white and mid-grey, and
+// the two colours of the highlight.
 const QVector<QColor> &plates()
 {
     static const QVector<QColor> colours{QColor(0x75, 0x76, 0x77), QColor(0xfd, 0xfe, 0xff),
@@ -31,9 +31,9 @@ int alphaAt(const QImage &shape, int x, int y)
     return shape.valid(x, y) ? qAlpha(shape.pixel(x, y)) : 0;
 }
 
-// Per cent of the shape's outline that stands out from what is next to it, outside the shape, at
-// 3:1 or more, with the picture over the plate. A pixel between the two, which is neither, is
-// the soft edge of the shape.
+// Returns how much of the shape's outline can be read, in per cent: where its contrast with what is
+// next to it outside the shape is 3:1 or more, with the picture over the plate. A pixel between
+// inside and outside belongs to the soft edge of the shape and does not count.
 int readablePart(const QImage &shape, const QImage &picture, const QColor &plate)
 {
     constexpr int kInside = 128;
@@ -53,7 +53,7 @@ int readablePart(const QImage &shape, const QImage &picture, const QColor &plate
             qreal best = 0;
             for (int j = y - 2; j <= y + 2; ++j) {
                 for (int i = x - 2; i <= x + 2; ++i) {
-                    // Only where nothing of the shape is between the two.
+                    // Only if no part of the shape is between the two.
                     const bool isNear = alphaAt(shape, (x + i) / 2, (y + j) / 2) < kInside
                                      || (std::abs(x - i) <= 1 && std::abs(y - j) <= 1);
                     if (!isNear || alphaAt(shape, i, j) >= kOutside)
@@ -69,7 +69,7 @@ int readablePart(const QImage &shape, const QImage &picture, const QColor &plate
     return outline == 0 ? 0 : 100 * readable / outline;
 }
 
-// A small drawing of lines, one for each colour, as a person draws icons.
+// An icon as a person draws it: one line for each colour.
 QIcon strokes(const QVector<QColor> &colours)
 {
     QPixmap pixmap(64, 64);
@@ -179,7 +179,7 @@ void ContrastIconTest::outlinesStandOut_data()
                              "drawCircle", "drawText", "viewZoomBounds", "viewZoomIn", "viewGrid",
                              "modifyOffset", "modifyCopy", "modifyTrim", "toolsSnap", "helpAbout"})
         QTest::newRow(name) << icons::named(QLatin1String(name));
-    // One colour each: icons that can hardly be seen without a halo.
+    // Icons of one colour are hard to see without a halo.
     for (const QColor &colour : {QColor(0x2b, 0x2b, 0x2b), QColor(0xe6, 0xe6, 0xe6), QColor(Qt::red),
                                  QColor(Qt::yellow), QColor(Qt::blue), QColor(0x75, 0x76, 0x77)})
         QTest::newRow(qPrintable(colour.name())) << strokes({colour});
@@ -215,7 +215,7 @@ void ContrastIconTest::onlyTheRingsSizeHasAHalo()
         QCOMPARE(icon.pixmap(size).toImage(), plain.pixmap(size).toImage());
         QCOMPARE(icon.actualSize(size), plain.actualSize(size));
     }
-    // As a print paints it.
+    // Paint it as printing does.
     QImage painted(32, 32, QImage::Format_ARGB32_Premultiplied);
     painted.fill(Qt::white);
     QImage expected = painted;
@@ -236,7 +236,7 @@ void ContrastIconTest::theHaloStaysInsideTheSquare()
         const int side = qRound(kRingIconSide * ratio);
         QCOMPARE(picture.size(), QSize(side, side));
         QCOMPARE(picture.devicePixelRatio(), ratio);
-        // There is room for all of it: the shape is black, then comes white, then nothing.
+        // The halo has enough room: first comes the black shape, then white, then nothing.
         const int middle = side / 2;
         QCOMPARE(QColor(picture.pixel(middle, middle)), QColor(Qt::black));
         const int edge = qRound(2 * ratio);

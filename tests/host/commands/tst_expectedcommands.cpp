@@ -52,8 +52,8 @@ QString caption(const ActionItem *item)
 
 } // namespace
 
-// Commands that are offered before any menu has them, those with several names, and those
-// that are guessed.
+// Commands that are offered before any menu has them, commands with several names, and guessed
+// commands.
 class ExpectedCommandsTest : public QObject
 {
     Q_OBJECT
@@ -169,7 +169,7 @@ void ExpectedCommandsTest::whatIsThereIsNotExpected()
     QCOMPARE(caption(line), QStringLiteral("Line"));
 }
 
-// The second name takes the identifier, and the first is a command of its own when it comes.
+// The second name takes the identifier. When the first one appears, it is a separate command.
 void ExpectedCommandsTest::anotherNameMayTurnUpLater()
 {
     CommandCatalogue catalogue(m_window.get(),
@@ -218,7 +218,7 @@ void ExpectedCommandsTest::guessesFillWhatTheProfileLeavesOut()
     QCOMPARE(id(catalogue.itemOf(m_window->fileOpen)), QStringLiteral("ID_OPEN"));
     QCOMPARE(id(catalogue.itemOf(trim)), QStringLiteral("ID_TRIM"));
     QCOMPARE(catalogue.reasonFor(QStringLiteral("ID_TRIM")), QStringLiteral("caption \"Trim\""));
-    // What the profile says is not guessed.
+    // Nothing is guessed that the profile says.
     QCOMPARE(id(catalogue.itemOf(m_window->circle)), kLine);
     QCOMPARE(id(catalogue.itemOf(m_window->line)), QStringLiteral("drawLine"));
     QCOMPARE(catalogue.reasonFor(kLine), QString());
@@ -262,7 +262,7 @@ void ExpectedCommandsTest::guessesStayWhenMenusAreRebuilt()
     QVERIFY(line->isUsable());
 }
 
-// Until a drawing is open, a program may show a part of its menus.
+// A program may show only some of its menus until a drawing is open.
 void ExpectedCommandsTest::guessesMayComeLate()
 {
     CommandCatalogue catalogue(m_window.get(), {});
@@ -274,7 +274,7 @@ void ExpectedCommandsTest::guessesMayComeLate()
     catalogue.endGuessing();
     QVERIFY(isOffered(catalogue, kTrim));
     QVERIFY(isOffered(catalogue, kLine));
-    // As they are when a menu is rebuilt.
+    // As when a menu is rebuilt.
     delete trim;
     QVERIFY(isOffered(catalogue, kTrim));
 }
@@ -282,7 +282,7 @@ void ExpectedCommandsTest::guessesMayComeLate()
 void ExpectedCommandsTest::whatIsLackingIsOfferedOnceItComes()
 {
     CommandCatalogue catalogue(m_window.get(), {});
-    catalogue.expect(kTrim, QStringLiteral("Trim")); // it was bound at the last start
+    catalogue.expect(kTrim, QStringLiteral("Trim")); // bound at the last start
     catalogue.expect(QStringLiteral("drawSpline"), QStringLiteral("Spline"));
     catalogue.guessWellKnown();
     catalogue.endGuessing();

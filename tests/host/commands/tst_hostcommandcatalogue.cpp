@@ -123,7 +123,7 @@ void HostCommandCatalogueTest::commandsHaveTextsAndIcons()
     QCOMPARE(text(line->GetIdentifier()), QStringLiteral("drawLine"));
     QCOMPARE(text(line->GetCommandString()), QStringLiteral("drawLine"));
     QCOMPARE(text(line->GetCaption()), QStringLiteral("Line"));
-    QCOMPARE(text(line->GetTip()), QStringLiteral("Draws a line")); // rather than the tool tip
+    QCOMPARE(text(line->GetTip()), QStringLiteral("Draws a line")); // not the tool tip
     QVERIFY(!line->GetSmallIcon().isNull());
     QVERIFY(!line->GetLargeIcon().isNull());
     const ActionItem *circle = catalogue.find(QStringLiteral("drawCircle"));
@@ -195,13 +195,13 @@ void HostCommandCatalogueTest::whatIsNoCommandIsLeftOut()
     QMenu *hidden = m_window->addMenu("Secret", "secretMenu");
     hidden->addAction(QStringLiteral("Inside"));
     hidden->menuAction()->setVisible(false);
-    m_window->circle->setEnabled(false); // is a command all the same
+    m_window->circle->setEnabled(false); // a disabled action is a command too
     CommandCatalogue catalogue(m_window.get(), {});
     QCOMPARE(listing(catalogue).at(1), QStringLiteral("Draw: drawLine | drawCircle"));
     QCOMPARE(listing(catalogue).size(), 4);
 }
 
-// A program may derive all of its actions from the class that can bring a widget.
+// A program may derive all its actions from the class that can bring a widget.
 void HostCommandCatalogueTest::actionsThatMightBringAWidget()
 {
     class Slider : public QWidgetAction
@@ -268,7 +268,7 @@ void HostCommandCatalogueTest::readingAgainDoesNotWalkAgain()
     const auto before = listing(catalogue);
     // A toolbar's title is read only while the menus are walked.
     m_window->toolBar->setWindowTitle(QStringLiteral("Sketching"));
-    m_window->line->setEnabled(false); // what programs do all the time
+    m_window->line->setEnabled(false); // programs do this all the time
     m_window->line->setEnabled(true);
     m_window->line->setText(QStringLiteral("&Segment"));
     QCOMPARE(listing(catalogue), before);
@@ -279,7 +279,7 @@ void HostCommandCatalogueTest::readingAgainDoesNotWalkAgain()
     QCOMPARE(listing(catalogue).last(), QStringLiteral("Sketching: drawArc"));
 }
 
-// A gesture then finds everything done.
+// So a gesture does not have to wait for the reading.
 void HostCommandCatalogueTest::changesAreReadBeforeSomebodyAsks()
 {
     CommandCatalogue catalogue(m_window.get(), {});
@@ -288,7 +288,7 @@ void HostCommandCatalogueTest::changesAreReadBeforeSomebodyAsks()
     m_window->line->setText(QStringLiteral("&Segment"));
     DraftWindow::addAction(m_window->draw, "&Ellipse", "drawEllipse");
     QVERIFY(prepared.wait());
-    // A toolbar's title is read only while the menus are walked: not now.
+    // A toolbar's title is read only while the menus are walked, so not now.
     m_window->toolBar->setWindowTitle(QStringLiteral("Sketching"));
     QCOMPARE(text(catalogue.find(QStringLiteral("drawLine"))->GetCaption()), QStringLiteral("Segment"));
     QVERIFY(catalogue.find(QStringLiteral("drawEllipse")));
@@ -296,7 +296,7 @@ void HostCommandCatalogueTest::changesAreReadBeforeSomebodyAsks()
     QCOMPARE(prepared.count(), 1);
 }
 
-// While a program starts, its menus are not complete, and guesses would be made too early.
+// While a program starts, its menus are not complete. Guesses would come too early.
 void HostCommandCatalogueTest::nothingIsReadBeforeTheFirstReading()
 {
     CommandCatalogue catalogue(m_window.get(), {});
@@ -321,7 +321,7 @@ void HostCommandCatalogueTest::manyEqualCaptionsAreNumbered()
     QCOMPARE(text(catalogue.itemOf(actions.at(1))->GetIdentifier()), QStringLiteral("List/Entry (2)"));
     QCOMPARE(text(catalogue.itemOf(actions.last())->GetIdentifier()),
              QStringLiteral("List/Entry (20000)"));
-    // A menu that is filled anew has its commands again, in their order.
+    // A menu that is filled again has the same commands in the same order.
     menu->clear();
     for (int i = 0; i < 3; ++i)
         menu->addAction(QStringLiteral("Entry"));
@@ -429,8 +429,8 @@ void HostCommandCatalogueTest::aMenuBarIsNeverMade()
     QVERIFY(window.findChildren<QMenuBar *>().isEmpty());
 }
 
-// An editor for texts that belongs to the main window has a File menu too, and what floats
-// is still a part of the main window.
+// A text editor that belongs to the main window has a File menu too. Floating docks and toolbars
+// are still parts of the main window.
 void HostCommandCatalogueTest::otherWindowsAreLeftOut()
 {
     DraftWindow window;
@@ -494,7 +494,7 @@ void HostCommandCatalogueTest::aCommandComesBackWithItsKey()
     QCOMPARE(line->group, QStringLiteral("Help"));
 }
 
-// Memory of actions that are gone is given to new ones.
+// A new action may get the address of a deleted one.
 void HostCommandCatalogueTest::aCommandComesBackThoughItsAddressIsTaken()
 {
     CommandCatalogue catalogue(m_window.get(), {});
@@ -548,7 +548,7 @@ void HostCommandCatalogueTest::anActionOutOfTheMenusIsNotPresent()
     QCOMPARE(catalogue.itemOf(m_window->circle), nullptr);
     QVERIFY(!circle->isPresent);
     QCOMPARE(circle->action(), m_window->circle);
-    m_window->circle->setText(QStringLiteral("&Ring")); // nobody hears of this
+    m_window->circle->setText(QStringLiteral("&Ring")); // nobody is told
     m_window->draw->addAction(m_window->circle);
     QCOMPARE(catalogue.itemOf(m_window->circle), circle);
     QVERIFY(circle->isPresent);
@@ -641,7 +641,7 @@ void HostCommandCatalogueTest::thousandCommandsCostLittle()
                 walkMenus(item->GetSubItems());
             }
         };
-    const auto startGesture = [&] { // everything that a module asks for at a gesture's start
+    const auto startGesture = [&] { // asks for everything that a module needs at a gesture's start
         int count = 0;
         for (const auto menus = manager.NewMenuIterator(); !menus->Done(); menus->Next())
             walkMenus(menus->Current()->GetItems());

@@ -92,7 +92,7 @@ private:
     std::vector<std::unique_ptr<QAction>> m_actions;
 };
 
-// A theme of the tests' own: which one the machine has must not matter.
+// Uses the tests' own theme, so the machine's theme does not matter.
 void WellKnownGuessTest::initTestCase()
 {
     tests::failOnWarnings();
@@ -234,7 +234,7 @@ void WellKnownGuessTest::theMoreTrustedSignWins()
 {
     QFETCH(int, weaker);
     QFETCH(int, stronger);
-    // All that are weaker together do not outweigh it.
+    // All weaker signs together do not outweigh it.
     add(weaker >= 1 ? QStringLiteral("fileOpen") : QString(), QStringLiteral("Open"),
         weaker >= 2 ? QStringLiteral("document-open") : QString());
     QAction *wins = add(stronger == 1 ? QStringLiteral("fileOpen") : QString(),
@@ -272,7 +272,7 @@ void WellKnownGuessTest::ofEqualsTheOneInTheRightMenuWins()
     const QVector<WellKnownGuess> found = WellKnownGuess::among(actions());
     QCOMPARE(found.size(), 1);
     QCOMPARE(found.first().action, inserts);
-    // But what is called so outweighs where it is.
+    // But the name outweighs the place.
     QAction *named = add(QStringLiteral("drawText"), QStringLiteral("x"));
     QCOMPARE(WellKnownGuess::among(actions()).value(0).action, named);
 }
@@ -294,7 +294,7 @@ void WellKnownGuessTest::someWordsCountInTheirMenuOnly()
 
 void WellKnownGuessTest::whatASignContradictsStaysEmpty_data()
 {
-    QTest::addColumn<QStringList>("menus"); // from the top down; the second one of a bar
+    QTest::addColumn<QStringList>("menus"); // from the top down; in the second menu of a bar
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("caption");
     QTest::addColumn<QString>("icon");
@@ -341,7 +341,7 @@ void WellKnownGuessTest::whatASignContradictsStaysEmpty()
     QVERIFY2(found.isEmpty(), found.isEmpty() ? "" : qPrintable(found.first().reason));
 }
 
-// "Save All" has Ctrl+S in some program, and "Save" has none.
+// In some programs "Save All" has Ctrl+S and "Save" has no shortcut.
 void WellKnownGuessTest::thePlainCaptionWinsOverAPart()
 {
     add(QStringLiteral("actionSaveAll"), QStringLiteral("Save All"), QString(), QKeySequence::Save);
@@ -366,7 +366,7 @@ void WellKnownGuessTest::aModeIsNoCommand()
     all->setCheckable(true);
     zoom->addAction(all);
     QVERIFY(WellKnownGuess::among(actions()).isEmpty());
-    // The icon tells that it keeps the drawing fitted, but not alone.
+    // The icon says that it keeps the drawing fitted, but the icon alone is not enough.
     all->setIcon(QIcon::fromTheme(QStringLiteral("zoom-fit-best")));
     QAction *select = add(QString(), QStringLiteral("Select and Zoom"), QStringLiteral("zoom-fit-best"));
     select->setCheckable(true);
@@ -374,7 +374,7 @@ void WellKnownGuessTest::aModeIsNoCommand()
     QCOMPARE(WellKnownGuess::among(actions()).value(0).action, all);
 }
 
-// A program whose File menu is filled with its first document has buttons before that.
+// Some programs fill the File menu when the first document opens. Their buttons are there earlier.
 void WellKnownGuessTest::aButtonIsNoFileCommandByItsCaption()
 {
     QToolBar bar;
@@ -386,13 +386,14 @@ void WellKnownGuessTest::aButtonIsNoFileCommandByItsCaption()
     QVERIFY(WellKnownGuess::among(actions()).isEmpty());
     saves->setShortcut(QKeySequence::Save);
     QCOMPARE(WellKnownGuess::among(actions()).value(0).action, saves);
-    // A tool to draw with is often nowhere else.
+    // A drawing tool is often only in a toolbar.
     QAction *line = add(QString(), QStringLiteral("Line"));
     bar.addAction(line);
     QCOMPARE(WellKnownGuess::among(actions()).value(0).action, line);
 }
 
-// Ctrl+O goes back to where one was in some programs; what opens files is in the first menu.
+// In some programs Ctrl+O goes back to the last place. The command that opens files is in the first
+// menu.
 void WellKnownGuessTest::aShortcutInALaterMenuIsDoubtful()
 {
     QMenuBar bar;
@@ -411,7 +412,7 @@ void WellKnownGuessTest::aShortcutInALaterMenuIsDoubtful()
     QCOMPARE(WellKnownGuess::among({back, patchbay}).value(0).action, patchbay);
 }
 
-// Nor is it that of an editor in a dock, which is a main window of its own in the main window.
+// A shortcut does not count in an editor that is a main window inside the main window.
 void WellKnownGuessTest::aPartOfTheWindowHasNoFileCommands()
 {
     QMainWindow window;
@@ -432,7 +433,7 @@ void WellKnownGuessTest::theMenuAloneSaysNothing()
     QVERIFY(WellKnownGuess::among(actions()).isEmpty());
 }
 
-// They bear the title of the bar that they show and hide.
+// The switch of a bar has the bar's title as its caption.
 void WellKnownGuessTest::switchesOfBarsAreNone()
 {
     QToolBar bar(QStringLiteral("Lines"));
@@ -496,7 +497,7 @@ void WellKnownGuessTest::everyLanguageHasEveryCommand()
             const QStringList all = known + captions.commandsInTheirMenus.value(identifier);
             for (const QString &caption : all) {
                 QCOMPARE(caption, caption.toLower().simplified());
-                // In all languages together it names one command.
+                // A caption means the same command in all languages.
                 QCOMPARE(commands.value(caption, identifier), identifier);
                 commands.insert(caption, identifier);
             }

@@ -136,7 +136,7 @@ void DocumentsTest::openingTellsInOrder()
     QCOMPARE(manager.documentOf(&view), document);
     QCOMPARE(manager.documentOf(&manager), nullptr);
 
-    // The second one does not take the place of the first by itself.
+    // A second document does not become active by itself.
     QWidget other;
     manager.open(&other);
     QCOMPARE(reactor.takeLog(), lines("create started d2, attached d2, created d2"));
@@ -216,7 +216,7 @@ void DocumentsTest::activeDocumentIsNeverLost()
     second.reset();
     QCOMPARE(manager.GetActiveDocument(), static_cast<CHxDocument *>(two));
     Q_UNUSED(one)
-    // A closed one does not come back, the next to be opened takes over.
+    // A closed document does not come back; the next one that opens takes over.
     manager.activate(three);
     QCOMPARE(manager.GetActiveDocument(), static_cast<CHxDocument *>(two));
     QWidget fourth;
@@ -265,7 +265,7 @@ void DocumentsTest::standInSurvivesItsDestruction()
     auto view = std::make_unique<QWidget>();
     Document *document = manager.open(view.get());
     view.reset();
-    delete document->GetViewWidget(); // a program that destroys every window it finds
+    delete document->GetViewWidget(); // as a program does that destroys every window it finds
     QVERIFY(document->GetViewWidget());
     QVERIFY(!document->GetViewWidget()->isVisible());
 }

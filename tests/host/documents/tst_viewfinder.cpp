@@ -25,7 +25,7 @@ private Q_SLOTS:
     void aWidgetThatNeverRestsIsFound();
 };
 
-// A program may animate a panel, or fit a widget to its content, all the time.
+// A program may keep animating a panel or fitting a widget to its content.
 void ViewFinderTest::aWidgetThatNeverRestsIsFound()
 {
     QMainWindow window;

@@ -32,7 +32,8 @@ using gesturewidget::ViewGuess;
 
 namespace {
 
-// What a drafting program paints on. Without Q_OBJECT, as many are: its name is QWidget.
+// The widget that a drafting program paints on. Like many, it has no Q_OBJECT, so its class name is
+// QWidget.
 class Canvas : public QWidget
 {
 public:
@@ -51,7 +52,7 @@ public:
     using QTextEdit::QTextEdit;
 };
 
-// A text editor that is none of Qt's, and a canvas on which text may be typed.
+// A text editor that is not one of Qt's, or a canvas on which a person can type text.
 class TypedInto : public QWidget
 {
 public:
@@ -69,7 +70,7 @@ private:
     QVariant m_surrounding;
 };
 
-// These stand for widgets of libraries that are not linked here, by their names alone.
+// These have the names of widgets from libraries that are not linked here.
 class QWebEngineView : public QWidget
 {
     Q_OBJECT
@@ -102,7 +103,7 @@ public:
     using QWidget::QWidget;
 };
 
-// Puts something into a main window and returns the widget that is asked about.
+// Puts something into a main window and returns the widget to judge.
 using Build = std::function<QWidget *(QMainWindow &)>;
 
 template <class Widget> QWidget *central(QMainWindow &window)
@@ -132,7 +133,7 @@ template <class Widget> QWidget *mdiChild(QMainWindow &window)
     return widget;
 }
 
-// In a dock of that width, in pixels, beside `middle`, which may be null.
+// Puts a widget into a dock of this width, in pixels, beside `middle`, which may be null.
 template <class Widget> QWidget *dockedBeside(QMainWindow &window, QWidget *middle, int width)
 {
     window.setCentralWidget(middle);
@@ -144,7 +145,7 @@ template <class Widget> QWidget *dockedBeside(QMainWindow &window, QWidget *midd
     return widget;
 }
 
-// Beside something else in a plain widget, at that share of the width in per cent.
+// Puts `widget` beside another one into a plain widget. `share`: its part of the width in per cent.
 QWidget *beside(QMainWindow &window, int share, QWidget *widget, QWidget *other = new QWidget)
 {
     auto *frame = new QWidget;
@@ -189,7 +190,7 @@ QWidget *tableOfOwn()
     return table;
 }
 
-// The form's own widget, as a designer of forms shows it.
+// Shows a form's own widget, as a form designer does.
 template <class Widget> QWidget *formIn(QMainWindow &window)
 {
     auto *form =
@@ -648,7 +649,7 @@ void ViewGuessTest::theFinderReportsTheViewport()
     finder.stop();
 }
 
-// A frame that gets its content a moment later is not taken for a canvas.
+// A frame that is filled a moment later is not taken for a canvas.
 void ViewGuessTest::theFinderWaitsUntilThingsAreInPlace()
 {
     QMainWindow window;

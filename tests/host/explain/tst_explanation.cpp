@@ -1,7 +1,4 @@
-// SPDX-FileCopyrightText: 2026 GestureWidget developers
-// SPDX-License-Identifier: MIT
-
-// What is said of a program that nobody has described, and over which socket.
+// Tests what is reported about a program without a profile, and over which socket.
 
 #include "host/explain/Explanation.h"
 
@@ -72,7 +69,7 @@ private:
     {
         return lines().contains(QLatin1Char('\n') + QLatin1String(line) + QLatin1Char('\n'));
     }
-    // The profile that a host would make of the report.
+    // The profile that a host would read from the report.
     ProgramProfile reported() const;
     bool hasLine();
     QJsonObject next();
@@ -141,7 +138,7 @@ ProgramProfile ExplanationTest::reported() const
     return found;
 }
 
-// Whether a line has come over the socket; next() takes it.
+// Returns true if a line has arrived over the socket; next() takes it.
 bool ExplanationTest::hasLine()
 {
     char part[4096];
@@ -173,7 +170,7 @@ void ExplanationTest::viewsOfItsOwnClass()
     QCOMPARE(reported().viewClasses, QStringList(QStringLiteral("ExplainedCanvas")));
 }
 
-// A profile that named the class would make views of what merely looks the same.
+// If a profile named the class, every other widget of that class would become a view too.
 void ExplanationTest::viewsOfAClassOfQt()
 {
     QWidget *view = show(new QGraphicsView);
@@ -249,7 +246,7 @@ void ExplanationTest::commandsThatAProfileNames()
     QVERIFY2(says("ID_ROUND: drawCircle, since the profile names it"), qPrintable(lines()));
     QVERIFY2(says("ID_TRIM: none, since the profile names modifyTrim, which is not there at the moment"),
              qPrintable(lines()));
-    // What the profile says stays, and what was guessed is added.
+    // Guesses are added to what the profile says.
     QHash<QString, QStringList> expected = named;
     expected.insert(QStringLiteral("ID_OPEN"), {QStringLiteral("fileOpen")});
     QCOMPARE(reported().wellKnownCommands, expected);
@@ -272,7 +269,7 @@ void ExplanationTest::tellsWhatChangesOnly()
     m_explanation->menusSettled();
     QTRY_VERIFY(hasLine());
     QCOMPARE(next().value(QStringLiteral("views")), QJsonValue(0));
-    // The menus change, but not in what is told: the next line is that of the view.
+    // This change of the menus does not change the report, so the next line is about the view.
     m_window->addMenu("&View", "viewMenu");
     m_explanation->addView(canvas);
     QTRY_VERIFY(hasLine());
@@ -296,7 +293,7 @@ void ExplanationTest::whatIsNoSocket()
         QCOMPARE(gesturewidget::explanationSocket(value), -1);
     QCOMPARE(gesturewidget::explanationValue(file), QByteArray());
     ::close(file);
-    // A socket that another one has made: that of an X connection, say.
+    // A socket that somebody else made, such as that of an X connection.
     const QByteArray value = gesturewidget::explanationValue(m_sockets[0]);
     const QByteArray number = QByteArray::number(m_sockets[0]);
     const QByteArray inode = value.mid(value.indexOf(':'));
@@ -309,7 +306,7 @@ void ExplanationTest::whatIsNoSocket()
     QVERIFY(!gesturewidget::tell(-1, {}));
 }
 
-// Nobody listens any more; a signal would end the program.
+// Nobody listens any more. A signal would end the program.
 void ExplanationTest::anEndThatIsClosed()
 {
     ::close(m_sockets[1]);

@@ -31,7 +31,7 @@ int modeOf(const QString &path)
     return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 0777 : -1;
 }
 
-// While this object lives, no file may grow beyond so many bytes.
+// While this object lives, no file may grow beyond `bytes`.
 class SmallFiles
 {
 public:

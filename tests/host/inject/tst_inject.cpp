@@ -159,7 +159,7 @@ void InjectTest::programEndsAsItWould()
 
 void InjectTest::programSeesWhatItAlwaysSaw_data()
 {
-    QTest::addColumn<int>("lines"); // that the program logs at least
+    QTest::addColumn<int>("lines"); // the least number of lines that the program logs
     QTest::newRow("hover") << 3;
     QTest::newRow("clicks") << 11;
     QTest::newRow("double-clicks") << 9;
@@ -176,7 +176,7 @@ void InjectTest::programSeesWhatItAlwaysSaw_data()
     QTest::newRow("greedy-application") << 10;
 }
 
-// Event by event: a process with the plug-in and one without.
+// Compares a process with the plug-in and one without, event by event.
 void InjectTest::programSeesWhatItAlwaysSaw()
 {
     QFETCH(int, lines);
@@ -199,7 +199,8 @@ void InjectTest::environmentIsClean()
     QVERIFY(result.output.contains(QStringLiteral("unknownplugin|/nowhere")));
     QCOMPARE(result.status, 0);
 
-    // A program without widgets has no gestures, and does not pass the variables on.
+    // A program without widgets has no gestures, and programs that it starts do not get the
+    // variables.
     const Result bare = run(QStringLiteral("without-widgets"));
     QCOMPARE(bare.errors, QStringList());
     QCOMPARE(bare.output, QStringList(QStringLiteral("unset|unset")));
@@ -313,7 +314,7 @@ void InjectTest::badFilesLeaveGesturesAlone_data()
     };
     const QByteArray garbage("\x00\x01\xff\xfe[{\"\n=;\x80", 12);
     row("settings of garbage", kSettings, garbage, 1);
-    row("settings cut off", kSettings, "[GestureWidget]\n41=ID_", 0); // as somebody may write it
+    row("settings cut off", kSettings, "[GestureWidget]\n41=ID_", 0); // a person may write this
     row("settings with nothing in them", kSettings, "", 0);
     row("settings zeroed", kSettings, QByteArray(200, '\0'), 1);
     row("settings of values that mean nothing", kSettings,
@@ -332,7 +333,7 @@ void InjectTest::badFilesLeaveGesturesAlone_data()
             "caption": "<b>&%1%2", "group": "%3", "icon": "iVBORw0KGgo="},
             {"identifier": "drawLine", "command": "ID_LINE"}]})",
         0);
-    // The profile's content is guessed then.
+    // Without a valid profile, the host guesses.
     row("profile of garbage", kProfile, garbage, 1);
     row("profile cut off", kProfile, R"({"version": 1, "program": "guest", "viewCl)", 1);
     row("profile of a later version", kProfile, R"({"version": 2, "program": "guest"})", 1);
@@ -356,8 +357,8 @@ void InjectTest::badFilesLeaveGesturesAlone()
 
 void InjectTest::filesOfOthersLeaveGesturesAlone_data()
 {
-    QTest::addColumn<QString>("closed"); // to this person
-    QTest::addColumn<QString>("complaint"); // about it
+    QTest::addColumn<QString>("closed"); // this person may not read or write it
+    QTest::addColumn<QString>("complaint"); // the expected complaint
     QTest::newRow("settings") << kSettings << QStringLiteral("cannot be read");
     QTest::newRow("catalogue") << kCatalogue << QStringLiteral("cannot be read");
     QTest::newRow("profile") << kProfile << QStringLiteral("is not used");
@@ -385,7 +386,7 @@ void InjectTest::filesOfOthersLeaveGesturesAlone()
     QCOMPARE(result.output, gestureWorks());
     QCOMPARE(result.status, 0);
     QVERIFY(!result.errors.filter(complaint).isEmpty());
-    // Each such file gives one line, or one each for reading and writing.
+    // For each such file there is one line, or one for reading and one for writing.
     QVERIFY2(result.errors.size() <= 2, qPrintable(result.errors.join(QLatin1Char('\n'))));
     for (const QString &line : result.errors)
         QVERIFY2(line.startsWith(QStringLiteral("mouse gestures: ")), qPrintable(line));
@@ -394,7 +395,7 @@ void InjectTest::filesOfOthersLeaveGesturesAlone()
 void InjectTest::aFullDiskLeavesGesturesAlone()
 {
     const QTemporaryDir home;
-    // No file may grow by a byte.
+    // No file may grow, not even by a byte.
     const Result result =
         runIn(home.path(), {QStringLiteral("bash"), QStringLiteral("-c"),
                             QStringLiteral("trap '' XFSZ; ulimit -f 0; exec \"$@\""),

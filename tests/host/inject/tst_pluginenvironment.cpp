@@ -45,7 +45,7 @@ void PluginEnvironmentTest::init()
     tests::writeFile(m_root->filePath(QStringLiteral("qt6/generic/libmousegestures-qt6.so")));
     tests::writeFile(m_root->filePath(QStringLiteral("both/generic/libmousegestures-qt5.so")));
     tests::writeFile(m_root->filePath(QStringLiteral("both/generic/libmousegestures-qt6.so")));
-    // Folders in which somebody else's plug-ins are as well.
+    // These folders also hold other plug-ins.
     tests::writeFile(m_root->filePath(QStringLiteral("shared/generic/libmousegestures-qt5.so")));
     tests::writeFile(m_root->filePath(QStringLiteral("shared/generic/libother.so")));
     tests::writeFile(m_root->filePath(QStringLiteral("styles/generic/libmousegestures-qt5.so")));

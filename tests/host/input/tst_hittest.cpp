@@ -160,7 +160,7 @@ void HitTestTest::triggerWithModifiers()
     HitTest::Event press = seenAs(Kind::Press);
     press.modifiers = Qt::KeyboardModifiers(held);
     QCOMPARE(HitTest(m_document, m_trigger, press).IsModifierMismatch(), isMismatch);
-    // Keys that are pressed or let go later do not matter.
+    // Keys that are pressed or released later do not matter.
     HitTest::Event motion = seenAs(Kind::Motion);
     motion.modifiers = press.modifiers;
     QVERIFY(!HitTest(m_document, m_trigger, motion).IsModifierMismatch());
@@ -190,7 +190,7 @@ void HitTestTest::controls()
     QVERIFY(!HitTest(m_document, m_trigger, motion).IsOverControl());
     control.move(100, 100);
     QVERIFY(!HitTest(m_document, m_trigger, press).IsOverControl());
-    // What lets the pointer through is no control.
+    // A widget that lets the pointer through is not a control.
     control.move(20, 30);
     control.setAttribute(Qt::WA_TransparentForMouseEvents);
     QVERIFY(!HitTest(m_document, m_trigger, press).IsOverControl());

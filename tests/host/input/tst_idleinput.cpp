@@ -13,7 +13,7 @@
 
 #include <cstdlib>
 
-// Takes the C library's place in this program, Qt's calls included, and counts.
+// Replaces the C library's allocation functions in this program, also for Qt, and counts calls.
 namespace {
 bool isCounting = false;
 int allocations = 0;
@@ -41,7 +41,7 @@ void *realloc(void *memory, std::size_t size)
 }
 }
 
-// What runs on every movement of the mouse while there is no gesture.
+// Tests the code that runs on every mouse movement while idle.
 class IdleInputTest : public QObject
 {
     Q_OBJECT
@@ -100,7 +100,7 @@ void IdleInputTest::movementsAllocateNothing()
         isCounting = false;
         return isTaken;
     };
-    QVERIFY(!moveOn(0)); // a first one may make what is kept
+    QVERIFY(!moveOn(0)); // the first one may allocate what is kept
     allocations = 0;
     for (int x = 1; x < 300; ++x)
         QVERIFY(!moveOn(x));

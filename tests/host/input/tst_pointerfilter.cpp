@@ -25,7 +25,7 @@ namespace {
 
 const QPoint kPress(150, 150);
 
-// A program with one view, and the filter over it when a test wants it.
+// A program with one view. A test can add the filter.
 class Desk
 {
 public:
@@ -49,7 +49,7 @@ public:
         qApp->installEventFilter(filter.get());
     }
 
-    // Positions are those of the view.
+    // Positions are in pixels of the view.
     void press(QPoint position, Qt::MouseButton button = Qt::RightButton,
                Qt::KeyboardModifiers modifiers = {})
     {
@@ -70,7 +70,7 @@ public:
         QSpontaneKeyEvent::setSpontaneous(&wheel);
         qApp->notify(window.windowHandle(), &wheel);
     }
-    // From the press until the overlay has taken a direction; the button is still down.
+    // Presses and drags until the overlay has chosen a direction. The button stays down.
     void chooseSector()
     {
         press(kPress);
@@ -104,7 +104,7 @@ QStringList play(const Script &script, bool hasFilter)
     Desk desk;
     if (!QTest::qWaitForWindowExposed(&desk.window))
         return {QStringLiteral("no window")};
-    // The same start for all: nothing pressed, the pointer outside the view.
+    // Every test starts like this: no button is pressed, the pointer is outside the view.
     desk.move(QPoint(-10, -10));
     desk.view->log.clear();
     if (hasFilter)
@@ -380,7 +380,7 @@ void PointerFilterTest::contextMenuOpenedByThePressGetsTheRelease()
 
         bool isReleased = false;
         desk.view->onContextMenu = [&](QPoint global) {
-            // With the filter the release has been already: it is what opened the menu.
+            // With the filter, the release has already happened: it opened the menu.
             QMetaObject::invokeMethod(
                 &menu,
                 [&] {
@@ -412,8 +412,8 @@ void PointerFilterTest::contextMenuOpenedByThePressGetsTheRelease()
     QCOMPARE(run(true), without);
 }
 
-// Qt makes two events of the second press: what opens the menu, and the double click. The
-// menu must not get the latter, or it would run the entry under the pointer.
+// Qt makes two events of the second press: the one that opens the menu, and the double click. The
+// menu must not get the double click, or it would run the entry under the pointer.
 void PointerFilterTest::doubleClickWaitsForTheMenu()
 {
     Desk desk;
@@ -439,8 +439,8 @@ void PointerFilterTest::doubleClickWaitsForTheMenu()
     QVERIFY2(log.indexOf(doubleClicks.first()) > log.lastIndexOf(done),
              qPrintable(log.join(QLatin1Char(';'))));
     QCOMPARE(triggered, 0);
-    // Qt counts the button of the double click as down, the release having been before it,
-    // until the next event tells it otherwise.
+    // The release came before the double click, so Qt believes that the button is down until the
+    // next event.
     desk.press(kPress, Qt::LeftButton);
     desk.release(kPress, Qt::LeftButton);
 }
@@ -508,7 +508,7 @@ void PointerFilterTest::dialogOpenedByThePressBlocksTheRest()
     QCOMPARE(desk.state(), PointerFilter::State::Idle);
 }
 
-// A fast typist has not released the last key yet when the drag begins.
+// A fast typist may not have released the last key when the drag begins.
 void PointerFilterTest::keysOfBeforeLetTheGestureBe()
 {
     Desk desk;
@@ -524,7 +524,7 @@ void PointerFilterTest::keysOfBeforeLetTheGestureBe()
     QCOMPARE(desk.state(), PointerFilter::State::Holding);
     desk.move(kPress + QPoint(30, 0));
     QVERIFY(desk.tracker.overlay->isOn);
-    // They are no part of the gesture, and were there before it.
+    // The keys are not part of the gesture. They were pressed before it.
     QCOMPARE(desk.view->log.size(), 2);
     QVERIFY(desk.view->log.first().startsWith(QStringLiteral("KeyPress spontaneous key 76")));
     QVERIFY(desk.view->log.last().startsWith(QStringLiteral("KeyRelease spontaneous key 76")));
@@ -554,7 +554,7 @@ void PointerFilterTest::unmarkedRepeatsLetTheGestureBe()
     QTest::keyRelease(desk.window.windowHandle(), Qt::Key_L);
 }
 
-// A key that was let go before the press is a new one when it is pressed during it.
+// A key that was released before the press counts as new when it is pressed during the press.
 void PointerFilterTest::aKeyPressedAgainGivesBack()
 {
     Desk desk;
@@ -569,8 +569,8 @@ void PointerFilterTest::aKeyPressedAgainGivesBack()
     desk.release(kPress);
 }
 
-// Nobody sees the release of a key that is let go in another program. It must not count as down
-// for ever.
+// The host does not see a key's release in another program. The key must not count as down for
+// ever.
 void PointerFilterTest::aKeyLetGoElsewhereIsForgotten()
 {
     Desk desk;
@@ -587,7 +587,7 @@ void PointerFilterTest::aKeyLetGoElsewhereIsForgotten()
     desk.release(kPress);
 }
 
-// A key gives the press back, and the program may do anything with it.
+// A key gives the press back, and the program may do anything with the press.
 void PointerFilterTest::keyGivesBackAPressThatClosesTheWindow()
 {
     Desk desk;
@@ -610,7 +610,7 @@ void PointerFilterTest::keyGivesBackAPressThatClosesTheWindow()
     QCoreApplication::processEvents();
     QCOMPARE(desk.state(), PointerFilter::State::Idle);
     QTRY_VERIFY(!guard);
-    desk.press(kPress); // which button is down is up to date again
+    desk.press(kPress); // updates Qt's record of the pressed buttons
     desk.release(kPress);
 }
 
@@ -627,7 +627,7 @@ void PointerFilterTest::pressIsHeldBack()
     QCOMPARE(desk.view->log.filter(QStringLiteral("ContextMenu")), QStringList());
     desk.release(kPress);
     QCOMPARE(desk.state(), PointerFilter::State::Idle);
-    // The press that the program gets afterwards is no second one for the trackers.
+    // The trackers do not see the press again when the program gets it.
     QCOMPARE(desk.tracker.presses, 1);
     QCOMPARE(desk.view->log.filter(QStringLiteral("Press")).size(), 1);
     QCOMPARE(desk.view->log.filter(QStringLiteral("Release")).size(), 1);
@@ -743,7 +743,7 @@ void PointerFilterTest::acceptedGestureRunsOneCommand()
     QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
     desk.addFilter();
     desk.chooseSector();
-    // Without any further movement.
+    // This needs no further movement.
     QTRY_COMPARE(desk.tracker.commands, 1);
     QCOMPARE(desk.tracker.stops, 1);
     QCOMPARE(desk.state(), PointerFilter::State::Swallowing);
@@ -797,7 +797,7 @@ void PointerFilterTest::releaseElsewhereEndsTheSwallowing()
     desk.addFilter();
     desk.chooseSector();
     QTRY_COMPARE(desk.state(), PointerFilter::State::Swallowing);
-    // The release went to another program: the next movement comes without buttons.
+    // The release went to another program, so the next movement comes without buttons.
     const QPoint position = desk.inWindow(kPress);
     QMouseEvent hover(QEvent::MouseMove, position, desk.window.mapToGlobal(position), Qt::NoButton,
                       Qt::NoButton, Qt::NoModifier);
@@ -830,7 +830,7 @@ void PointerFilterTest::gesturesFollowEachOther()
     for (int i = 1; i <= 5; ++i) {
         desk.chooseSector();
         desk.release(kPress + QPoint(110, 0));
-        // The next press may come before the event loop has been reached.
+        // The next press may come before the event loop runs.
     }
     QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
     QCOMPARE(desk.tracker.starts, 5);
@@ -880,7 +880,7 @@ void PointerFilterTest::dragGivenToTheProgramStaysThere()
     QCOMPARE(desk.state(), PointerFilter::State::Holding);
     desk.move(kPress + QPoint(41, 0));
     QCOMPARE(desk.state(), PointerFilter::State::Idle);
-    // A tracker that changes its mind does not get it either.
+    // A tracker that changes its mind does not get the drag either.
     desk.tracker.takesDrags = true;
     desk.move(kPress + QPoint(60, 0));
     QCOMPARE(desk.tracker.drags, 0);
@@ -938,7 +938,7 @@ void PointerFilterTest::lostWindowGivesBack()
     desk.view->log.clear();
     desk.press(kPress);
     happens(desk);
-    // Not from within whatever happens, but from the event loop.
+    // The press is given back from the event loop, not during the call.
     QCOMPARE(desk.state(), PointerFilter::State::Holding);
     QCoreApplication::processEvents();
     QCOMPARE(!desk.view->log.filter(QStringLiteral("MouseButtonPress")).isEmpty(), isSeen);
@@ -1045,7 +1045,7 @@ void PointerFilterTest::cancelKeepsNoKeys()
     desk.view->log.clear();
     QTest::keyRelease(desk.window.windowHandle(), Qt::Key_L);
     desk.filter->cancel();
-    // Not at once: whoever cancels may be destroying the view.
+    // Nothing is sent at once, because the caller may be destroying the view.
     QCOMPARE(desk.view->log, QStringList());
     QTRY_COMPARE(desk.view->log.filter(QStringLiteral("KeyRelease")).size(), 1);
     QCOMPARE(desk.view->log.filter(QStringLiteral("MouseButton")).size(), 0);
@@ -1060,7 +1060,7 @@ void PointerFilterTest::overlayThatIgnoresTheReleaseIsForcedToLetGo()
     desk.addFilter();
     desk.press(kPress);
     desk.move(kPress + QPoint(30, 0));
-    desk.tracker.overlay->isOn = false; // it does not react any more
+    desk.tracker.overlay->isOn = false; // does not react any more
     desk.tracker.overlay->grabKeyboard();
     desk.filter->cancel();
     QVERIFY(!QWidget::mouseGrabber());
@@ -1097,7 +1097,7 @@ void PointerFilterTest::filterDestroyedDuringTheReplay()
     desk.press(kPress);
     desk.release(kPress);
     QVERIFY(!desk.filter);
-    // What had begun was ended.
+    // The press that the program got was followed by its release.
     QCOMPARE(desk.view->log.filter(QStringLiteral("Release")).size(), 1);
 }
 
@@ -1115,7 +1115,7 @@ void PointerFilterTest::trackersSeeMovements()
     QCOMPARE(desk.tracker.updates, 2);
     desk.move(kPress);
     QCOMPARE(desk.tracker.updates, 3);
-    // A button that starts no gesture.
+    // This button does not start gestures.
     desk.press(kPress, Qt::LeftButton);
     desk.move(kPress + QPoint(60, 0));
     QCOMPARE(desk.tracker.updates, 5);
@@ -1144,8 +1144,8 @@ void PointerFilterTest::viewLearnsPositionsInItsOwnPixels()
     desk.move(QPoint(-10, -10));
     desk.addFilter();
     desk.document->inputPoints().AddTracker(&tracker, 0);
-    desk.move(kPress); // as the view gets it
-    desk.press(kPress); // as its window gets it
+    desk.move(kPress); // seen by the view
+    desk.press(kPress); // seen by its window
     desk.move(kPress + QPoint(3, -4));
     const QVector<QPoint> expected{kPress, kPress, kPress + QPoint(3, -4)};
     QCOMPARE(tracker.positions, expected);

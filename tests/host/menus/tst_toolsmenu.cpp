@@ -101,7 +101,7 @@ void ToolsMenuTest::aMadeOneSpeaksTheProgramsLanguage()
     QCOMPARE(captions(*window.menuBar()), QStringList({file, made, help}));
 }
 
-// A word of another language does not win over one that the program's own language has.
+// A word of the program's own language wins over a word of another language.
 void ToolsMenuTest::toolsBesideExtras()
 {
     QMainWindow window;

@@ -119,7 +119,7 @@ private:
         }
         return nullptr;
     }
-    // What a module does to enter itself into the Tools menu.
+    // Adds an entry to the Tools menu, as a module does.
     CHxUIMenuItem *enter(const char *name = "Gestures...")
     {
         CHxUICommandItem *command = m_manager->FindCommandItem("Default", "_CONFIG");
@@ -254,7 +254,7 @@ void UiManagerTest::aToolsMenuIsMade()
     QCOMPARE(identifiers(*menus()), words("ID_MnFile ID_MnDraw ID_MnTools ID_MnHelp"));
     QCOMPARE(captions(*m_window->menuBar()), words("&File &Draw &Tools &Help"));
     const QAction *made = m_window->menuBar()->actions().at(2);
-    QVERIFY(!made->isVisible()); // nothing is in it yet
+    QVERIFY(!made->isVisible()); // still empty
     CHxUIMenuItem *entry = enter();
     QVERIFY(made->isVisible());
     QCOMPARE(captions(*made->menu()), QStringList(QStringLiteral("Gestures...")));
@@ -304,7 +304,7 @@ void UiManagerTest::anEntryIsPutLastAtOnce()
     QCOMPARE(m_tools->actions().last()->statusTip(), QStringLiteral("Tip"));
     entry->SetText("Gestures...");
     QCOMPARE(captions(*m_tools).last(), QStringLiteral("Gestures..."));
-    m_tools->actions().last()->trigger(); // it has no command
+    m_tools->actions().last()->trigger(); // the entry has no command
     QVERIFY(m_run.isEmpty());
 }
 
@@ -336,9 +336,9 @@ void UiManagerTest::anEntryIsInOnePlace()
     menu("ID_MnDraw")->GetSubItems()->Append(entry);
     QCOMPARE(m_tools->actions().size(), 1);
     QCOMPARE(captions(*m_window->draw).last(), QStringLiteral("Gestures..."));
-    menu("ID_MnTools")->GetSubItems()->Remove(entry); // it is not there
+    menu("ID_MnTools")->GetSubItems()->Remove(entry); // no effect: it is not there
     QCOMPARE(captions(*m_window->draw).last(), QStringLiteral("Gestures..."));
-    m_tools->clear(); // and does not come back
+    m_tools->clear(); // the entry does not come back
     m_manager->Refresh(false);
     QVERIFY(m_tools->actions().isEmpty());
     menus()->Append(entry);
@@ -443,7 +443,7 @@ void UiManagerTest::commandItemsAreRemoved()
     QCOMPARE(m_manager->FindCommandItem("Default", "_CONFIG"), nullptr);
     m_tools->actions().last()->trigger();
     QVERIFY(m_run.isEmpty());
-    m_manager->RemoveCommandItem(command); // a second time, and nothing
+    m_manager->RemoveCommandItem(command); // again: no effect
     m_manager->RemoveCommandItem(nullptr);
     QVERIFY(!m_manager->Contains(command));
 }
@@ -467,7 +467,7 @@ void UiManagerTest::anActionAddedLaterComesBeforeTheEntry()
                                                   QStringLiteral("Gestures...")}));
 }
 
-// Programs fill menus at the last moment; what a person sees is complete all the same.
+// Some programs fill a menu just before it opens. A person still sees the complete menu.
 void UiManagerTest::aMenuFilledOnOpeningShowsTheEntryLast()
 {
     m_manager.reset();
@@ -543,7 +543,7 @@ void UiManagerTest::twoWhoWantToBeLastDoNotFight()
     Rival rival(m_tools);
     QElapsedTimer timer;
     timer.start();
-    int idle = 0; // turns of the event loop in which nobody moved
+    int idle = 0; // turns of the event loop in which nobody moved an entry
     while (idle < 100 && timer.elapsed() < 5000) {
         const int moves = rival.moves;
         QCoreApplication::processEvents();
@@ -653,7 +653,7 @@ void UiManagerTest::aWalkOutlivesTheMenusItWalks()
     const CHxUIMenuItem *line = items->GetItem(0);
     QCOMPARE(text(line->GetText()), QStringLiteral("&Line"));
     delete m_window->draw;
-    QCOMPARE(menus()->GetCount(), 3); // lists anew, what is gone is on its way out
+    QCOMPARE(menus()->GetCount(), 3); // lists the menus again; the old items are retired
     QCOMPARE(items->GetCount(), 0);
     QCOMPARE(draw->GetSubItems(), nullptr);
     QCOMPARE(text(line->GetText()), QString());

@@ -38,7 +38,7 @@ public:
     std::function<void()> onDestroyed;
 };
 
-// A reactor that knows nothing of main windows.
+// A reactor that does not know about main windows.
 class PlainReactor : public OdEditorReactor
 {
 };
@@ -125,7 +125,7 @@ void HostEditorTest::aLateReactorThatIsRemovedAtOnceIsNotTold()
         editor.addReactor(&reactor);
         editor.removeReactor(&reactor);
     }
-    QCoreApplication::processEvents(); // the reactor is gone: telling it would be seen by the sanitizer
+    QCoreApplication::processEvents(); // the sanitizer would report a call to the dead reactor
     Reactor again;
     editor.addReactor(&again);
     editor.removeReactor(&again);

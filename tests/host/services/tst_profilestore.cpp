@@ -95,7 +95,7 @@ private:
     {
         tests::writeFile(m_path + suffix, text);
     }
-    // Fills a file with all keys a module has, as it stands after a session.
+    // Fills a file with all keys of a module, as it is after a session.
     void fill() const
     {
         ProfileStore store(m_path);
@@ -134,7 +134,7 @@ void ProfileStoreTest::keepsValuesFromStartToStart()
         ProfileStore store(m_path);
         QVERIFY(set(store, QStringLiteral("41"), QStringLiteral("ID_LINE")));
         QVERIFY(set(store, QStringLiteral("42"), QString()));
-    } // writes at its end at the latest
+    } // the destructor writes what is not written yet
     ProfileStore store(m_path);
     QVERIFY(store.Exists(kSection, "41"));
     QCOMPARE(get(store, QStringLiteral("41")), QStringLiteral("ID_LINE"));
@@ -273,7 +273,7 @@ void ProfileStoreTest::editsOfOthersAreSeen()
     ProfileStore mine(m_path);
     ProfileStore others(m_path);
     QCOMPARE(get(mine, QStringLiteral("41")), QStringLiteral("<none>"));
-    for (int i = 0; i < 20; ++i) { // texts of one length: the size does not tell
+    for (int i = 0; i < 20; ++i) { // equal lengths: the size does not show a change
         const QString value = QStringLiteral("ID_%1").arg(i, 3, 10, QLatin1Char('0'));
         QVERIFY(set(others, QStringLiteral("41"), value));
         QVERIFY(others.flush());
@@ -356,7 +356,7 @@ void ProfileStoreTest::aFileCutOffAnywhereIsRestored()
 void ProfileStoreTest::aZeroedFileIsRestored_data()
 {
     QTest::addColumn<int>("from");
-    QTest::addColumn<int>("to"); // from the end when negative
+    QTest::addColumn<int>("to"); // a negative number counts from the end
     QTest::newRow("all") << 0 << 0;
     QTest::newRow("beginning") << 0 << 50;
     QTest::newRow("middle") << 60 << 61;
@@ -430,7 +430,7 @@ void ProfileStoreTest::aDamagedCopyIsNotUsed()
         QCOMPARE(errors.lines(), QStringList());
     }
     QCOMPARE(content(), whole);
-    QCOMPARE(content(QStringLiteral(".bak")), whole); // made anew
+    QCOMPARE(content(QStringLiteral(".bak")), whole); // written again
 
     write(QByteArray(whole.size(), '\0'), QStringLiteral(".bak"));
     write(QByteArray(whole.size(), '\0'));
@@ -518,7 +518,7 @@ void ProfileStoreTest::withoutAFileChangesStayInMemory()
     QCOMPARE(errors.lines().size(), 1);
 }
 
-// The child may write no byte to any file for a while, as on a disk that is full.
+// For a while the child cannot write a byte to any file, as on a full disk.
 void ProfileStoreTest::aFullDiskKeepsTheOldFile()
 {
     QProcess self;
@@ -532,7 +532,7 @@ void ProfileStoreTest::aFullDiskKeepsTheOldFile()
     QVERIFY2(said.contains(QStringLiteral("cannot be written")), qPrintable(said));
 }
 
-// Some bytes still fit: half a file must not take the place of the whole one.
+// Some bytes still fit. Half a file must not replace the whole one.
 void ProfileStoreTest::aNearlyFullDiskKeepsTheOldFile()
 {
     QProcess self;
@@ -562,7 +562,7 @@ void ProfileStoreTest::aHugeFileIsLeftAlone()
     QCOMPARE(errors.lines().size(), 2); // it cannot be read, and it cannot be written
 }
 
-// All directions are written at once, and whoever writes last has all of them.
+// Each copy writes all directions at once, so the last writer's choices all stay.
 void ProfileStoreTest::twoCopiesPressingOkLeaveOneOfTheirChoices()
 {
     constexpr int kRounds = 60;
@@ -666,7 +666,7 @@ int runNearlyFull(const QString &path)
             found += get(store, QString::number(i)) == value(i);
         return QStringLiteral("%1 of %2").arg(found).arg(count);
     };
-    // Not by way of QSettings, which keeps in memory what it has written.
+    // Does not read with QSettings, which keeps in memory what it has written.
     const auto onDisk = [&](int count) {
         QFile file(path);
         const QByteArray text = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
@@ -692,7 +692,7 @@ int runNearlyFull(const QString &path)
     return 0;
 }
 
-// What the tests run in processes of their own.
+// The tests run these functions in separate processes.
 int runChild(const QStringList &arguments)
 {
     const auto out = [](const QString &line) { std::printf("%s\n", qPrintable(line)); };

@@ -8,7 +8,7 @@
 #include <QFile>
 #include <QTest>
 
-// The program of this test has a help.png of its own, see fixtures/sharedbuttons.qrc.
+// This test program has its own help.png, see fixtures/sharedbuttons.qrc.
 class SharedButtonsTest : public QObject
 {
     Q_OBJECT

@@ -101,7 +101,7 @@ private:
         return std::make_unique<SystemServices>(
             window, profile, &m_documents, m_folder->filePath(QStringLiteral("drafter.ini")), m_guide);
     }
-    // Does something with the message box that comes up next.
+    // Calls `how` with the next message box that opens.
     static void answer(const std::function<void(QMessageBox *)> &how)
     {
         QTimer::singleShot(0, [how] {
@@ -114,7 +114,7 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<DraftWindow> m_window;
     tests::StubDocuments m_documents;
-    gesturewidget::HelpGuide m_guide; // that make() hands on
+    gesturewidget::HelpGuide m_guide; // make() passes it on
     std::unique_ptr<SystemServices> m_services;
 };
 
@@ -172,7 +172,7 @@ void SystemServicesTest::commandsRunFromEverywhere()
     entry->SetCommandItem(item);
     const auto workspaces = manager->NewWorkspaceIterator();
     CHxUIMenuItemCollection *menus = workspaces->Current()->GetMenuItems();
-    QCOMPARE(menus->GetItem(1)->GetIdentifier(), CHxString("ID_MnTools")); // the profile says so
+    QCOMPARE(menus->GetItem(1)->GetIdentifier(), CHxString("ID_MnTools")); // as the profile says
     menus->GetItem(1)->GetSubItems()->Append(entry);
     m_window->draw->actions().last()->trigger();
     QCOMPARE(command->runs, 1); // not in the middle of the menu
@@ -330,8 +330,8 @@ void SystemServicesTest::missingHelpIsSaid()
     QVERIFY(!m_window->statusBar()->currentMessage().isEmpty());
 }
 
-// Seen from an installation the guide is in share/doc; the folders above a library are
-// looked through from the nearest on.
+// An installation has the guide in share/doc. The search goes up from the library's folder and
+// takes the nearest one.
 void SystemServicesTest::theGuideIsLookedForAboveTheLibrary()
 {
     const QStringList files = gesturewidget::HelpGuide().files;

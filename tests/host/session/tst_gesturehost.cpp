@@ -134,14 +134,14 @@ void GestureHostTest::startAndStopOnce()
     gesturewidget::GestureHost host(&window, m_options);
     host.stop();
     QVERIFY(host.start());
-    QVERIFY(host.start()); // it runs already
+    QVERIFY(host.start()); // already running
     host.stop();
     host.stop();
     QVERIFY(!host.isRunning());
     const StubModule::Calls after = callsOf(QStringLiteral("good"));
     QCOMPARE(after.initializations, before.initializations + 1);
     QCOMPARE(after.endings, before.endings + 1);
-    // The module object goes only when nothing of it can be running any more.
+    // The module object is deleted only when none of its code can be running.
     QCOMPARE(after.deletions, before.deletions);
     QString error;
     QVERIFY(!host.start(&error));
@@ -291,7 +291,7 @@ void GestureHostTest::enableFlagIsRead()
 
 namespace {
 
-// A program under way, with a view that a tracker watches.
+// A running program with a view that a tracker watches.
 class Drawing
 {
 public:
@@ -312,7 +312,7 @@ public:
         m_window.show();
         return QTest::qWaitForWindowExposed(&m_window);
     }
-    // Whether a press is held back, to see whether it becomes a gesture.
+    // Returns true if a press is held back until it is clear whether it is a gesture.
     bool isTrigger(Qt::MouseButton button, Qt::KeyboardModifiers modifiers = {})
     {
         m_view->presses = 0;
@@ -344,9 +344,9 @@ private:
 
 void GestureHostTest::theSettingsChooseTheTrigger_data()
 {
-    QTest::addColumn<QByteArray>("chosen"); // in the settings; empty for none
+    QTest::addColumn<QByteArray>("chosen"); // the setting; empty for none
     QTest::addColumn<QByteArray>("profile");
-    QTest::addColumn<int>("button"); // that starts gestures
+    QTest::addColumn<int>("button"); // the button that starts gestures
     QTest::addColumn<int>("modifiers");
     QTest::addColumn<bool>("isComplaint");
     const QByteArray right = R"({"button": "right", "modifiers": []})";
@@ -418,7 +418,7 @@ void GestureHostTest::aNewTriggerCountsFromTheNextStart()
         QVERIFY(drawing.start());
         QVERIFY(drawing.isTrigger(Qt::MiddleButton));
         QVERIFY(!drawing.isTrigger(Qt::RightButton));
-        // Taken back, as with "default".
+        // An empty value resets the choice, as "default" does.
         tests::writeFile(m_options.settingsFile, "[Host]\nTrigger=\n");
         QVERIFY(drawing.isTrigger(Qt::MiddleButton));
     }
@@ -432,7 +432,7 @@ void GestureHostTest::viewsOfOtherWindows_data()
 {
     QTest::addColumn<bool>("isMainWindow");
     QTest::addColumn<bool>("hasMenus");
-    QTest::addColumn<bool>("isAdded"); // by the program itself
+    QTest::addColumn<bool>("isAdded"); // the program adds the view itself
     QTest::addColumn<bool>("isHeld");
     QTest::newRow("dialog") << false << false << false << true;
     QTest::newRow("detached view") << true << false << false << true;
@@ -485,7 +485,7 @@ void GestureHostTest::viewsOfOtherWindows()
     QCOMPARE(view->presses, 1);
 }
 
-// A program that comes up with other menus than it had the last time.
+// The program starts with other menus than the last time.
 void GestureHostTest::commandsAreRememberedForTheNextStart()
 {
     const auto offered = [] {
@@ -532,7 +532,7 @@ void GestureHostTest::frameIsCreatedOnceMenusAreQuiet()
     window.show();
     QElapsedTimer elapsed;
     elapsed.start();
-    // A program that fills its menus for a while.
+    // The program goes on filling its menus for a while.
     qint64 lastAdded = 0;
     QTimer filling;
     connect(&filling, &QTimer::timeout, this, [&] {
@@ -551,7 +551,7 @@ void GestureHostTest::frameIsCreatedOnceMenusAreQuiet()
     QCOMPARE(reactor.destroyed, 1);
 }
 
-// A menu may show the time of day, or a list that some device changes.
+// A menu may show the time, or a list that a device keeps changing.
 void GestureHostTest::menusThatNeverRestGetTheFrameToo()
 {
     QMainWindow window;

@@ -110,7 +110,7 @@ void ModuleLoaderTest::filesThatAreNoLibrary_data()
     QFile file(tests::stubModule(QStringLiteral("good")));
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray good = file.readAll();
-    // Such a file would end the process inside the system's loader.
+    // Given such a file, the system's loader would end the process.
     for (const int size : {64, 65, 1000, 5000})
         QTest::addRow("cut at %d", size) << good.left(size) << QStringLiteral("it is cut short");
     QTest::newRow("header cut") << good.left(63) << QStringLiteral("it is no library");
@@ -167,7 +167,7 @@ void ModuleLoaderTest::withoutAModuleNothingIsDone()
     QVERIFY(!loader.module());
 }
 
-// Windows of a module may be destroyed after the module object.
+// A module's windows may be destroyed after the module object.
 void ModuleLoaderTest::codeStaysAfterTheModule()
 {
     QString error;

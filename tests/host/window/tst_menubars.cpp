@@ -39,7 +39,7 @@ void MenuBarsTest::aWindowWithoutABarGetsNone()
     QVERIFY(!hasMenuBar(&window));
     QVERIFY(menuBarsOf(&window).isEmpty());
     QVERIFY(toolBarsOf(&window).isEmpty());
-    QCOMPARE(window.menuWidget(), nullptr); // asking has not made one
+    QCOMPARE(window.menuWidget(), nullptr); // the question has not created a bar
 }
 
 void MenuBarsTest::itsOwnBarComesFirst()

@@ -201,7 +201,7 @@ void WritingTest::aFullDiskChangesNothing_data()
     addOptions();
 }
 
-// No file may grow beyond so many bytes. Of 200 bytes, each file needs more.
+// No file may grow beyond this number of bytes. Every file needs more than 200.
 void WritingTest::aFullDiskChangesNothing()
 {
     QFETCH(QByteArray, name);

@@ -1,7 +1,4 @@
-// SPDX-FileCopyrightText: 2026 GestureWidget developers
-// SPDX-License-Identifier: MIT
-
-// What --doctor says about a program, finding by finding.
+// Tests each finding that --doctor reports about a program.
 
 #include "launcher/doctor/Doctor.h"
 

@@ -1,8 +1,5 @@
 #!/usr/bin/env python3
-# SPDX-FileCopyrightText: 2026 GestureWidget developers
-# SPDX-License-Identifier: MIT
-
-"""Tries docs/bindings.schema.json with the files of fixtures/ that the code is tried with."""
+"""Checks docs/bindings.schema.json with the same files of fixtures/ as the code."""
 
 import json
 import sys

@@ -7,8 +7,8 @@
 
 #include <functional>
 
-// Writes down the input of the widgets and windows that it filters the events of, one line
-// an event on standard output, and takes from the program what `eats` says yes to.
+// An event filter that writes one line to standard output for each input event of a widget or
+// window. The program does not get the events for which `eats` returns true.
 class EventLog : public QObject
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ public:
     ~EventLog() override;
 
     std::function<bool(const QEvent &event)> eats;
-    // Of all receivers only those whose class is derived from this; empty for every one.
+    // Logs only receivers whose class is derived from this one; empty logs all of them.
     const char *only = "";
 
     bool eventFilter(QObject *receiver, QEvent *event) override;

@@ -25,7 +25,7 @@
 
 namespace {
 
-// Where things are done, in pixels of the view.
+// Positions in pixels of the view.
 const QPoint kHere(150, 150);
 
 class Hand
@@ -76,7 +76,7 @@ public:
         const QPoint position = inWindow(place);
         notify(*qtbridge::tabletEvent(type, position, m_window.mapToGlobal(position), button, buttons));
     }
-    // What Qt makes of a pen that the program does not take for one.
+    // Sends the mouse event that Qt makes from a pen when the program ignores the pen's event.
     void penAsMouse(QEvent::Type type, QPoint place, Qt::MouseButton button,
                     Qt::MouseButtons buttons) const
     {
@@ -109,7 +109,7 @@ bool isRightPress(const QEvent &event)
         && static_cast<const QMouseEvent &>(event).button() == Qt::RightButton;
 }
 
-// Opens a menu where the context-menu event is, as programs do.
+// Opens a menu at the position of the context-menu event, as programs do.
 class MenuOpener : public QObject
 {
 public:
@@ -144,7 +144,7 @@ private:
     QAction *m_entry = nullptr;
 };
 
-// Takes one step after the other from the event loop, also from one that a step has begun.
+// Runs the steps in turn from the event loop, or from an event loop that a step has started.
 void takeSteps(QObject *context, const QVector<std::function<void()>> &steps, int first = 0)
 {
     if (first == steps.size())
@@ -180,7 +180,7 @@ bool playEvents(const char *name, GuestWindow &window)
     } else if (is("double-clicks")) {
         hand.doubleClick(kHere, Qt::LeftButton);
         hand.doubleClick(kHere, Qt::RightButton);
-        hand.click(kHere, Qt::LeftButton); // after which Qt knows what is down
+        hand.click(kHere, Qt::LeftButton); // afterwards Qt knows which buttons are down
     } else if (is("drags")) {
         hand.drag(kHere, kHere + QPoint(90, 0), Qt::LeftButton);
         hand.drag(kHere, kHere + QPoint(0, 90), Qt::MiddleButton);
@@ -216,7 +216,7 @@ bool playEvents(const char *name, GuestWindow &window)
             hand.pen(QEvent::TabletMove, kHere + QPoint(50, 0), Qt::NoButton, button);
             hand.pen(QEvent::TabletRelease, kHere + QPoint(50, 0), button, Qt::NoButton);
         }
-        // While a press of the mouse is held.
+        // The pen acts while a mouse press is held.
         hand.press(kHere);
         hand.pen(QEvent::TabletPress, kHere, Qt::LeftButton, Qt::LeftButton);
         hand.pen(QEvent::TabletRelease, kHere, Qt::LeftButton, Qt::NoButton);
@@ -255,7 +255,7 @@ bool playEvents(const char *name, GuestWindow &window)
         hand.click(kHere, Qt::LeftButton);
         hand.drag(kHere, kHere + QPoint(12, 8), Qt::RightButton);
     } else if (is("greedy-application")) {
-        // Takes right presses before anybody else gets to see them.
+        // Takes right presses before anybody else sees them.
         early.eats = isRightPress;
         qApp->installEventFilter(&early);
         hand.drag(kHere, kHere + QPoint(90, 0), Qt::RightButton);

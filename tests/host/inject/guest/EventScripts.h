@@ -5,6 +5,6 @@
 
 class GuestWindow;
 
-// What a person does in the drawing without making a gesture, for the program to log. False
-// when there is no script of that name.
+// Does what a person may do in the drawing without making a gesture; the program logs it. Returns
+// false if there is no script of that name.
 bool playEvents(const char *name, GuestWindow &window);

@@ -70,7 +70,7 @@ void GuestWindow::press()
 
 void GuestWindow::dragTo(int distance)
 {
-    // Moves the pointer itself: the ring asks where it is.
+    // Moves the real pointer too, because the ring asks for its position.
     QCursor::setPos(view->mapToGlobal(view->rect().center() + QPoint(distance, 0)));
     QCoreApplication::processEvents();
 }

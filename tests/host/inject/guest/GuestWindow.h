@@ -17,7 +17,7 @@ public:
     using QWidget::QWidget;
 };
 
-// The main window of a program that does not know gestures.
+// The main window of a program without gestures of its own.
 class GuestWindow : public QMainWindow
 {
     Q_OBJECT
@@ -34,9 +34,9 @@ public:
     void dragTo(int distance);
     void release(int distance);
 
-    // Opens a view in place of the present one, if any.
+    // Opens a view and closes the current one, if any.
     void openView();
-    // Replaces the menu bar by one with the same menus, as programs do for another task.
+    // Replaces the menu bar by one with the same menus, as programs do when the task changes.
     void replaceMenuBar();
 
     GuestView *view = nullptr;

@@ -5,7 +5,7 @@
 
 #include <QGenericPlugin>
 
-// A plug-in that says that it was loaded, and with which arguments.
+// A plug-in that prints that it was loaded, and with which arguments.
 class OtherPlugin : public QGenericPlugin
 {
     Q_OBJECT

@@ -22,11 +22,11 @@
 #include <functional>
 #include <memory>
 
-// A program that ends in the way that its first argument names. It writes a line to standard
-// output for each event that matters.
+// A program whose first argument chooses how it ends. It writes a line to standard output for each
+// important event.
 namespace {
 
-constexpr int kNoEntry = 90; // the exit status when the module's entry never came
+constexpr int kNoEntry = 90; // the exit status if the module's entry does not appear
 constexpr int kPatience = 20000; // milliseconds
 
 void say(const char *text)
@@ -41,7 +41,7 @@ void sayWhether(const char *text, bool holds)
     std::fflush(stdout);
 }
 
-// Calls `then` from the event loop once `holds`, gives up after kPatience.
+// Calls `then` from the event loop when `holds` returns true. Gives up after kPatience.
 void when(const std::function<bool()> &holds, const std::function<void()> &then)
 {
     auto *timer = new QTimer(qApp);
@@ -159,7 +159,7 @@ int runWindowGoneWithDialog(int argc, char **argv)
     return QApplication::exec();
 }
 
-// One window after the other.
+// A second window opens after the first one.
 int runSecondWindow(int argc, char **argv)
 {
     QApplication app(argc, argv);
@@ -182,7 +182,7 @@ int runSecondWindow(int argc, char **argv)
     return QApplication::exec();
 }
 
-// Two windows exist, and the first one is closed or destroyed.
+// Of two windows, the first one is closed or destroyed.
 int runTwoWindows(int argc, char **argv, bool isDestroyed)
 {
     QApplication app(argc, argv);
@@ -208,7 +208,7 @@ int runTwoWindows(int argc, char **argv, bool isDestroyed)
              second.show();
              when([&] { return second.windowHandle()->isExposed(); },
                   [&] {
-                      // The commands of the first are not for drawings of the second.
+                      // The first window's commands do not act on the second window's drawing.
                       openRing(second);
                       second.release(40);
                       sayWhether("menu", menus == 1);
@@ -289,7 +289,7 @@ void runDialogCommand(GuestWindow &window)
     // Ask before the gesture, which returns only when the dialog is closed.
     when([dialog] { return dialog->isVisible(); },
          [&window, dialog] {
-             // Behind the dialog nothing happens.
+             // A press behind the dialog does nothing.
              window.press();
              window.dragTo(40);
              sayWhether("ring behind the dialog", ringIsOpen());
@@ -356,7 +356,7 @@ int runLateView(int argc, char **argv)
     return QApplication::exec();
 }
 
-// Neither quits when it is asked to nor when it is told to.
+// Ignores both the request to quit and the signal.
 int runDeaf(int argc, char **argv)
 {
     std::signal(SIGTERM, SIG_IGN);
@@ -375,7 +375,7 @@ int runWithoutWindow(int argc, char **argv)
     return question.exec();
 }
 
-// Asks something of an application object made for that alone, before the real one.
+// Creates a short-lived application object to ask it something, and then the real one.
 int runAfterAnother(int argc, char **argv, bool hasWidgets)
 {
     if (hasWidgets)
@@ -391,7 +391,7 @@ int runAfterAnother(int argc, char **argv, bool hasWidgets)
 int runHeap(int argc, char **argv)
 {
     auto *app = new QApplication(argc, argv);
-    auto *window = new GuestWindow; // neither is ever destroyed
+    auto *window = new GuestWindow; // window and application are never destroyed
     window->show();
     when([=] { return window->hasEntry(); }, [] { QCoreApplication::quit(); });
     return app->exec();
@@ -411,8 +411,8 @@ int runApplicationFirst(int argc, char **argv)
 
 int runStatic(int argc, char **argv)
 {
-    // A static application crashes at its end on Qt 6.4, with or without gestures; there it
-    // is left alone.
+    // On Qt 6.4 a static application crashes at its end, with or without gestures. So it is not
+    // static there.
     if (qtbridge::kQtMajor < 6)
         static QApplication app(argc, argv);
     else
@@ -493,7 +493,7 @@ int main(int argc, char **argv)
     if (mode == "view-gone-mid-fade")
         return with([=](GuestWindow &window) {
             openRing(window);
-            // The ring fades for a quarter of a second, from within the next movement on.
+            // The next movement starts the fading, which takes a quarter of a second.
             QTimer::singleShot(100, &window, [&window] {
                 delete window.view;
                 say("view gone");

@@ -85,7 +85,7 @@ private:
     QTemporaryDir m_home;
 };
 
-// What the class comment of GestureHost and docs/hosting.md show, to the letter.
+// This is exactly the code that GestureHost's class comment and docs/hosting.md show.
 void HostingTest::theShortestWayGivesAFullRing()
 {
     Drafter window;

@@ -3,8 +3,8 @@
 
 #include "tests/host/session/modules/StubModule.h"
 
-// One file for every fixture; what the fixture lacks or does wrong is chosen by a
-// definition on its target.
+// All fixtures are built from this file. A definition on the target chooses what the fixture
+// lacks or does wrong.
 
 #ifndef STUB_VERSION
 #    define STUB_VERSION 3, 8, 1, 0

@@ -10,8 +10,8 @@
 
 #include <stdexcept>
 
-// The least that a module object can be. It counts what it is asked to do; the test reads
-// that through the exported function stubCalls().
+// The smallest possible module object. It counts the calls that it gets. The test reads the
+// counts through the exported function stubCalls().
 class StubModule : public OdRxModule
 {
 public:
