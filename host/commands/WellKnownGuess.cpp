@@ -307,6 +307,8 @@ struct Look
                 const QStringList titles = titlesUpFrom(menu);
                 menus.append(titles.first());
                 menusAbove += titles.mid(1);
+            } else if (const auto *bar = qobject_cast<const QToolBar *>(widget)) {
+                menus.append(plainWords(plainCaption(bar->windowTitle())));
             }
         }
     }

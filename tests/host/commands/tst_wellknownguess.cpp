@@ -53,6 +53,7 @@ private Q_SLOTS:
     void whatASignContradictsStaysEmpty();
     void thePlainCaptionWinsOverAPart();
     void aMenuFurtherUpSpeaksForIt();
+    void aToolbarsTitleSpeaksForIt();
     void aModeIsNoCommand();
     void aButtonIsNoFileCommandByItsCaption();
     void aShortcutInALaterMenuIsDoubtful();
@@ -357,6 +358,19 @@ void WellKnownGuessTest::aMenuFurtherUpSpeaksForIt()
     QCOMPARE(WellKnownGuess::among(actions()).value(0).action, line);
 }
 
+// A table's "Ajouter une ligne" is not the one in the toolbar of drawing tools.
+void WellKnownGuessTest::aToolbarsTitleSpeaksForIt()
+{
+    QMenuBar menus;
+    menus.addMenu(QString::fromUtf8("&Édition"))
+        ->addAction(add(QString(), QStringLiteral("Ajouter une ligne")));
+    QToolBar bar(QStringLiteral("Ajouter"));
+    QAction *line = add(QString(), QStringLiteral("Ajouter une ligne"));
+    line->setCheckable(true);
+    bar.addAction(line);
+    QCOMPARE(WellKnownGuess::among(actions()).value(0).action, line);
+}
+
 // "View > Zoom > All" may choose which direction a zoom acts on.
 void WellKnownGuessTest::aModeIsNoCommand()
 {
@@ -559,6 +573,7 @@ void WellKnownGuessTest::wordsThatMeanSomethingElseElsewhere_data()
         QTest::newRow(caption) << QString::fromUtf8(menu) << QString::fromUtf8(caption);
     };
     row("&Transport", "&Enregistrer"); // records sound
+    row("&Édition", "Ajouter une ligne"); // of a table
     row("&Transporte", "&Gravar"); // likewise
     row("&Bild", "Einpassen");
     row("&Immagine", "Miglior adattamento"); // of a curve

@@ -271,7 +271,7 @@ void RebuiltActions::place(QAction &action, const QJsonArray &path)
         }
         in = m_part->menuBar();
     } else {
-        in = new QToolBar(&m_window);
+        in = new QToolBar(path.at(1).toString(), &m_window);
     }
     const int first = kind == QLatin1String("toolbar") ? 2 : 1;
     for (int i = first; i < path.size(); ++i) {
