@@ -326,7 +326,7 @@ void OverlayLifecycleTest::startForgetsTheLastGesture()
     // The choice stays until somebody has read it ...
     QCOMPARE(donut.getActiveArc(), qint16(3));
     QVERIFY(donut.JustStopped());
-    // ... but the next gesture starts afresh.
+    // ... but the next gesture starts without it.
     donut.origin = QPoint(200, 200);
     m_bench->pointTo(donut, 10, 12);
     donut.WindUp(m_bench->document);
@@ -573,7 +573,7 @@ void OverlayLifecycleTest::pressesAreSwallowed()
     m_bench->start(donut);
     QTest::mousePress(m_bench->view->windowHandle(), Qt::LeftButton, {}, QPoint(5, 5));
     QCOMPARE(stateOf(donut), kGesturing);
-    QCOMPARE(m_bench->view->presses, 1); // the one that began it
+    QCOMPARE(m_bench->view->presses, 1); // the press that began the gesture
     QTest::mouseRelease(m_bench->view->windowHandle(), Qt::LeftButton, {}, QPoint(5, 5));
     QCOMPARE(stateOf(donut), kStopped);
 
