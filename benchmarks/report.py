@@ -1,4 +1,7 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 GestureWidget developers
+# SPDX-License-Identifier: MIT
+
 """Runs the benchmark programs and prints each figure beside its baseline. ./bench calls it."""
 
 import argparse
@@ -41,10 +44,14 @@ ROWS = [
         "ringOpens/commands:1000", "a `QMenu` of eight entries", "menuOpens", None),
     Row("the pointer crosses into a sector: event to finished frame", "bench_ring",
         "ringFollows", "that window painted again", "plainWindowFollows/managed:0", 1.5),
-    *(Row(f"the ring's data is gathered, {count:,} commands", "bench_gather", f"ringData/{count}",
-          "one pass over the same actions", f"plainPass/{count}", 2.5)
+    *(Row(f"the ring's data is gathered from the fake host, {count:,} commands", "bench_gather",
+          f"gather/{count}", "one pass over the same commands", f"onePass/{count}", 2.5)
+      for count in (300, 1000, 10000, 100000)),
+    *(Row(f"the ring's data is gathered from a real program's menus, {count:,} commands",
+          "bench_hostgather", f"ringData/{count}", "one pass over the same actions",
+          f"plainPass/{count}", 2.5)
       for count in (1000, 10000, 100000)),
-    Row("10,000 equal captions are numbered", "bench_gather", "equalCaptions/10000",
+    Row("10,000 equal captions are numbered", "bench_hostgather", "equalCaptions/10000",
         "5,000 of them (twice the work)", "equalCaptions/5000", 2.6),
     Row("an update while gestures are off", "bench_tracker", "gesturesOff",
         "an empty virtual call", "emptyTracker", None),

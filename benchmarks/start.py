@@ -1,4 +1,7 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 GestureWidget developers
+# SPDX-License-Identifier: MIT
+
 """Measures what gestures cost a real program at its start: starts it in turn without and with them.
 
 Prints the same JSON as a Google Benchmark program: "start", milliseconds from starting the program

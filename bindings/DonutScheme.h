@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 // Holds the enumeration, so that `Four` and `Eight` stay out of the global namespace. The

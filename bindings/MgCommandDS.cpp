@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "bindings/MgCommandDS.h"
 
 MgCommandDS::MgCommandDS(const QString &identifier, const QString &commandString, const QString &caption,

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // The part of the binding container that files the host's commands under its menus.
 
 #include "bindings/MgDonutDataContainer.h"

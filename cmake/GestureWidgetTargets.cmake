@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 GestureWidget developers
+# SPDX-License-Identifier: MIT
+
 # Settings and functions that all targets of this project share.
 
 # Builds for Qt 5 and Qt 6 share one prefix. Most files have the Qt version in their name. The rest

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "dialog/BindingListPrinter.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -15,6 +18,7 @@ namespace {
 
 constexpr qreal kMargin = 2 / 2.54; // inches, around the page: 2 cm
 constexpr qreal kDocumentDpi = 96; // that lengths in formats are given in
+constexpr qreal kRounding = 4; // pixels of the printer, far less than a row
 constexpr qreal kPageNumberGap = 5 / 72.0; // inches, above a page number
 
 // A horizontal strip of the laid-out document, in pixels of the printer.
@@ -31,7 +35,7 @@ QTextTable *tableOf(const QTextDocument &document)
     return frames.isEmpty() ? nullptr : qobject_cast<QTextTable *>(frames.front());
 }
 
-// The highest cell of a row fills it; its blocks, their margins and the padding are the row.
+// The highest cell of a row fills it: its blocks and the padding are the row.
 Strip stripOf(QTextTable &table, int row, qreal scale)
 {
     const QAbstractTextDocumentLayout *layout = table.document()->documentLayout();
@@ -39,12 +43,11 @@ Strip stripOf(QTextTable &table, int row, qreal scale)
     Strip strip{layout->frameBoundingRect(&table).bottom(), 0};
     for (int column = 0; column < table.columns(); ++column) {
         const QTextTableCell cell = table.cellAt(row, column);
+        // Their margins take no room at the edges of a cell.
         const QTextBlock first = cell.firstCursorPosition().block();
         const QTextBlock last = cell.lastCursorPosition().block();
-        strip.top = std::min(strip.top, layout->blockBoundingRect(first).top()
-                                            - first.blockFormat().topMargin() * scale - padding);
-        strip.bottom = std::max(strip.bottom, layout->blockBoundingRect(last).bottom()
-                                                  + last.blockFormat().bottomMargin() * scale + padding);
+        strip.top = std::min(strip.top, layout->blockBoundingRect(first).top() - padding);
+        strip.bottom = std::max(strip.bottom, layout->blockBoundingRect(last).bottom() + padding);
     }
     return strip;
 }
@@ -70,11 +73,14 @@ std::vector<Strip> pagesOf(QTextTable &table, qreal scale, qreal room)
 void draw(const QTextDocument &document, QPainter &painter, const Strip &strip, const QPointF &position)
 {
     QAbstractTextDocumentLayout::PaintContext context;
-    context.clip = QRectF(0, strip.top, document.textWidth(), strip.height());
+    const QRectF area(0, strip.top, document.textWidth(), strip.height());
+    // A little smaller, or the layout also writes the clipped text of the rows next to it, which
+    // a search in the file would find.
+    context.clip = area.adjusted(0, kRounding, 0, -kRounding);
     context.palette.setColor(QPalette::Text, Qt::black);
     painter.save();
     painter.translate(position.x(), position.y() - strip.top);
-    painter.setClipRect(context.clip);
+    painter.setClipRect(area);
     document.documentLayout()->draw(&painter, context);
     painter.restore();
 }

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "dialog/Ui_MgDonutDialogManagerClass.h"
 
 #include "dialog/MgCommandTableView.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "module/EntryPoints.h"
 
 #include "module/OdRxUnixModuleMgGestureWidget.h"

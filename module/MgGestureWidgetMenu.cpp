@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // The module's entry in the host's Tools menu.
 
 #include "bindings/HostCall.h"

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 GestureWidget developers
+# SPDX-License-Identifier: MIT
+
 # Debian packages this project needs, and how to get them. Sourced by ./run and ./test.
 
 build_packages=(

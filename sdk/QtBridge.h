@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 // The only place that knows Qt 5 from Qt 6. All other files include this header and never check

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // Measures how long it takes to gather the ring's data when a gesture begins. The baseline is one
 // pass over the same commands.
 

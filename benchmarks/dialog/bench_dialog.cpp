@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // Compares the configuration dialog with the plainest Qt classes that show the same rows. Each pair
 // of benchmarks does the same work with both.
 

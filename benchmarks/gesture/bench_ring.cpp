@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // Measures how long a person waits for the ring: from an event until the X server has finished the
 // frame. The baselines are windows that do as little as possible, measured in the same way.
 //

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // Measures the cost of an update for the host while idle. The baseline is the virtual call alone.
 
 #include "bindings/MgDonutDataContainer.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "examples/sketchpad/Canvas.h"
 
 #include "examples/sketchpad/CommandLine.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // Replaces DxfFile.cpp in a build without dxflib.
 #include "examples/sketchpad/DxfFile.h"
 

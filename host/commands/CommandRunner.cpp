@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "host/commands/CommandRunner.h"
 
 #include "host/commands/CommandCatalogue.h"

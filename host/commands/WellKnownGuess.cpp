@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "host/commands/WellKnownGuess.h"
 
 #include "host/captions/KnownCaptions.h"
@@ -148,7 +151,7 @@ QVector<Signs> makeSigns()
          QT_TRANSLATE_NOOP("host", "Offset"),
          QKeySequence::UnknownKey,
          list("object-offset|offset"),
-         "edit draft",
+         "edit draft draw",
          {},
          {},
          {},
@@ -175,7 +178,7 @@ QVector<Signs> makeSigns()
          QT_TRANSLATE_NOOP("host", "Trim"),
          QKeySequence::UnknownKey,
          list("trim"),
-         "edit draft",
+         "edit draft draw",
          {},
          {},
          {},

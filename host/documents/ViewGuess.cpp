@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "host/documents/ViewGuess.h"
 
 #include <QAbstractButton>
@@ -235,15 +238,49 @@ const QWidget *contentOf(const QWidget *widget)
     return nullptr;
 }
 
-// Those at the scroll bars and in the corner between them are not in the picture.
-int controlsIn(const QWidget *widget)
+// More controls than this in one widget make it a page of them. A drawing may have a label
+// that shows a coordinate.
+constexpr int kMostControls = 3;
+// Per cent of a widget. Buttons that all stand in so small a part of it do not count: drawings
+// have them in a corner, to zoom for example.
+constexpr int kCornerShare = 10;
+// Pixels between those buttons and the nearest corner, in both directions, at most.
+constexpr int kCornerMargin = 32;
+
+bool isInCorner(const QRect &rect, const QRect &whole)
+{
+    const QRect inner =
+        whole.marginsRemoved({kCornerMargin, kCornerMargin, kCornerMargin, kCornerMargin});
+    const bool isNearSide = rect.left() < inner.left() || rect.right() > inner.right();
+    const bool isNearEnd = rect.top() < inner.top() || rect.bottom() > inner.bottom();
+    return isNearSide && isNearEnd;
+}
+
+// Controls at scroll bars and in the corner between them do not count.
+bool isPageOfControls(const QWidget *widget)
 {
     const QWidget *viewport = viewportOf(widget);
-    int count = 0;
-    const auto all = (viewport ? viewport : widget)->findChildren<QWidget *>();
-    for (const QWidget *child : all)
-        count += isControl(child) && child->isVisible() ? 1 : 0;
-    return count;
+    const QWidget *picture = viewport ? viewport : widget;
+    int buttons = 0;
+    int others = 0;
+    QRect aroundButtons;
+    const auto all = picture->findChildren<QWidget *>();
+    for (const QWidget *child : all) {
+        if (!isControl(child) || !child->isVisible())
+            continue;
+        if (!isAnyOf<QAbstractButton>(child)) {
+            ++others;
+            continue;
+        }
+        ++buttons;
+        const QPoint corner = child->mapTo(const_cast<QWidget *>(picture), QPoint(0, 0));
+        aroundButtons |= QRect(corner, child->size());
+    }
+    const qint64 size = qint64(picture->width()) * picture->height();
+    const bool isCorner =
+        isInCorner(aroundButtons, picture->rect())
+        && 100 * qint64(aroundButtons.width()) * aroundButtons.height() <= kCornerShare * size;
+    return others + (isCorner ? 0 : buttons) > kMostControls;
 }
 
 bool hasTableHeader(const QWidget *widget)
@@ -252,10 +289,6 @@ bool hasTableHeader(const QWidget *widget)
     return std::any_of(headers.begin(), headers.end(),
                        [](const QWidget *header) { return header->isVisible(); });
 }
-
-// More controls than this in one make it a page of them; a drawing may have a corner
-// button, or a label that shows a coordinate.
-constexpr int kMostControls = 3;
 
 ViewGuess no(const QString &reason)
 {
@@ -299,19 +332,23 @@ QString whyNoCanvas(const QWidget *widget, const QWidget *area)
         return QStringLiteral("it is a text editor by the way it takes text");
     if (hasTableHeader(widget))
         return QStringLiteral("it is a table by its header");
-    if (controlsIn(widget) > kMostControls)
+    if (isPageOfControls(widget))
         return QStringLiteral("it is a page of controls");
     return {};
 }
 
-// The scroll area whose content `widget` is or fills, inside `area`; null if none. A plain
-// widget may stand in between.
-const QScrollArea *scrollAreaOf(const QWidget *widget, const QWidget *area)
+// The scroll area whose content `widget` is, or only holds it: programs put a plain widget
+// between the two, to centre a small picture. Null if there is none.
+const QScrollArea *scrollAreaOf(const QWidget *widget)
 {
-    for (const QWidget *up = widget; up != area && up->parentWidget(); up = up->parentWidget()) {
-        const auto *scrolled = qobject_cast<const QScrollArea *>(up->parentWidget()->parentWidget());
-        if (scrolled && scrolled->widget() == up)
-            return percentOf(widget, up) >= ViewGuess::kShare ? scrolled : nullptr;
+    const QWidget *content = widget;
+    while (content->parentWidget() && !content->isWindow()) {
+        const auto *area = qobject_cast<const QScrollArea *>(content->parentWidget()->parentWidget());
+        if (area && area->widget() == content)
+            return content == widget || !isPageOfControls(content) ? area : nullptr;
+        content = content->parentWidget();
+        if (!isPlain(content))
+            return nullptr;
     }
     return nullptr;
 }
@@ -329,18 +366,17 @@ bool isAlone(const QWidget *widget, const QWidget *area)
 
 ViewGuess judgeShare(const QWidget *widget, const QWidget *area)
 {
-    const QScrollArea *scrolled = scrollAreaOf(widget, area);
+    const QScrollArea *scrolled = scrollAreaOf(widget);
     const int share = percentOf(scrolled ? static_cast<const QWidget *>(scrolled) : widget, area);
     const QString what = scrolled ? QStringLiteral("it is the content of a scroll area that fills")
                                   : QStringLiteral("it paints itself and fills");
     if (share >= ViewGuess::kShare)
-        return yes(QStringLiteral("%1 %2 % of %3").arg(what).arg(share).arg(className(area)));
+        return yes(QStringLiteral("%1 %2 % of the area").arg(what).arg(share));
     // At another size of the window, what stands beside it may be larger than it.
     if (share >= ViewGuess::kLeastShare && isAlone(widget, area))
-        return yes(QStringLiteral("%1 %2 % of %3, where nothing else could show a drawing")
+        return yes(QStringLiteral("%1 %2 % of the area, where nothing else could show a drawing")
                        .arg(what)
-                       .arg(share)
-                       .arg(className(area)));
+                       .arg(share));
     return no(QStringLiteral("it fills %1 % of the area only").arg(share));
 }
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // Draws the images of dialog buttons that the host offers:
 //
 //     gesturewidget_drawbuttons DIRECTORY

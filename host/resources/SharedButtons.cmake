@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 GestureWidget developers
+# SPDX-License-Identifier: MIT
+
 # Draws the images of dialog buttons at build time. The folder above includes this file; its target
 # gesturewidget_hostcode embeds the images.
 #

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // mouse-gestures PROGRAM [ARGUMENTS...]: starts a program with mouse gestures, or does one of the
 // other tasks that CommandLine.cpp lists.
 

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 GestureWidget developers
+# SPDX-License-Identifier: MIT
+
 # Completion of mouse-gestures for bash.
 _mouse_gestures() {
     local current=${COMP_WORDS[COMP_CWORD]} option=${COMP_WORDS[1]-}

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "launcher/doctor/Doctor.h"
 
 #include "host/files/PluginNames.h"
@@ -106,7 +109,8 @@ void reportDisplay(const Symptoms &symptoms, Report &report)
         break;
     case Symptoms::Compositor::None:
         // Gestures work without one, so this is no problem.
-        report.add("compositor", QStringLiteral("none; the ring shows what was under it when it opened"));
+        report.add("compositor",
+                   QStringLiteral("none; the ring shows what was under it when it opened"));
         break;
     case Symptoms::Compositor::Unknown:
         report.add("compositor", QStringLiteral("not known"));

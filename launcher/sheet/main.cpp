@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // mouse-gestures-sheet: reads a SheetContent from standard input, draws it, and writes it as PDF to
 // standard output. mouse-gestures --print starts it.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "resources/draw/Arrow.h"
 
 #include "resources/draw/Palette.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // Draws the images that are named on the command line:
 //
 //     gesturewidget_draw DIRECTORY NAME.png...

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 // Makes `Base` an object that is held by value, as a member or on the stack. It does not count

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "bindings/DonutHelperData.h"
 #include "bindings/DonutScheme.h"
 #include "bindings/MgCommandDS.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "tests/bindings/OlderSettings.h"
 #include "tests/bindings/OpenContainer.h"
 #include "tests/bindings/StandardCommands.h"

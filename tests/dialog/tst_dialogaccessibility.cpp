@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "bindings/MgDonutDataContainer.h"
 #include "tests/dialog/DraftingCommands.h"
 #include "tests/dialog/Input.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "bindings/MgDonutDataContainer.h"
 #include "dialog/MgCommandModelDelegate.h"
 #include "dialog/MgCommandTableView.h"

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 GestureWidget developers
+# SPDX-License-Identifier: MIT
+
 """Gestures under every window manager, which must not notice the ring.
 
     DESKTOP_WM=kwin with-desktop.sh python3 test_desk.py --build DIR [TEST...]

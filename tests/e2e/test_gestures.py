@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 GestureWidget developers
+# SPDX-License-Identifier: MIT
+
 """Gestures in real programs, with real input. The tests check what the programs did.
 
     with-desktop.sh python3 test_gestures.py --build DIR --program NAME [TEST...]

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 GestureWidget developers
+# SPDX-License-Identifier: MIT
+
 """Gestures in a program that changes its menus with the task: FreeCAD and its workbenches.
 
     with-desktop.sh python3 test_workbenches.py --build DIR [TEST...]

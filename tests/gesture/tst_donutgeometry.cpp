@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "gesture/MgDonutDialog.h"
 #include "tests/support/FatalWarnings.h"
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "gesture/MgDonutDialogPVStyleImpl.h"
 #include "sdk/QtBridge.h"
 #include "tests/gesture/GoldenImage.h"

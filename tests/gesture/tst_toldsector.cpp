@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "gesture/MgDonutDialogPVStyleImpl.h"
 #include "tests/gesture/GestureBench.h"
 #include "tests/support/FatalWarnings.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // The command GESTURE: its names, what it opens over which window, and what it returns.
 
 #include "dialog/MgDonutDialogManager.h"

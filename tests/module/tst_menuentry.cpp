@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // The entry in the host's Tools menu: found by identifier, put in place, found again by its
 // text and taken away.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // The module as hosts meet it: a file that is loaded, asked for its entry points, used and
 // closed again.
 

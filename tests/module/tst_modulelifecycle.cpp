@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // What the module object registers with a host, when, and how it takes it back.
 
 #include "sdk/chx/CHxString.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // The defaults of the interfaces, and the process-wide accessors.
 
 #include "sdk/chx/CHxCommand.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // Reference counting: which objects count, and what deletes them.
 
 #include "sdk/chx/hx_OdRxModule.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // The strings and the result buffer.
 
 #include "sdk/chx/CHxString.h"

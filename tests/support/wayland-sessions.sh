@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 GestureWidget developers
+# SPDX-License-Identifier: MIT
+
 # Starts each Wayland session for a test: a compositor that draws nowhere, with its own X server for
 # the program under test. Sourced by with-desktop.sh.
 

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 GestureWidget developers
+# SPDX-License-Identifier: MIT
+
 # Starts each window manager for a test. Sourced by with-desktop.sh.
 #
 # Each one runs with the settings of its installation, except where they would grab the pointer or

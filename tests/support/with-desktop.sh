@@ -1,4 +1,7 @@
 #!/bin/bash
+# SPDX-FileCopyrightText: 2026 GestureWidget developers
+# SPDX-License-Identifier: MIT
+#
 # Runs a command on a desktop of its own: an X server without a screen, a window manager
 # and a compositor. The command starts when all three are up. All of them end with the
 # command, however it ends, and also if this script is killed.

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 GestureWidget developers
+# SPDX-License-Identifier: MIT
+
 """Input: one gesture-driver process. xinput/Commands.h describes its commands."""
 
 import subprocess

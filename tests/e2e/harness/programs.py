@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 GestureWidget developers
+# SPDX-License-Identifier: MIT
+
 """The programs in which the tests perform gestures, and what each direction runs there.
 
 These expectations are written by hand and not read from the program's profile, because the

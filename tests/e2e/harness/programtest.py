@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 GestureWidget developers
+# SPDX-License-Identifier: MIT
+
 """What the test scripts share: a session for each test, and the options of the scripts."""
 
 import argparse

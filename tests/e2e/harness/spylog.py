@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 GestureWidget developers
+# SPDX-License-Identifier: MIT
+
 """Reads what the spy in the program writes, see spy/ActionSpy.h."""
 
 import os

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 GestureWidget developers
+# SPDX-License-Identifier: MIT
+
 """Input for Wayland sessions, in which XTEST reaches X programs but not the compositor.
 
 The program under test runs on the session's X server (XWayland), so gesture-driver still reads

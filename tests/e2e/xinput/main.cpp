@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // gesture-driver [COMMAND...]: carries out each argument as a command or, without arguments,
 // each line of standard input. See Commands.h. Exits 1 at the first argument that fails.
 

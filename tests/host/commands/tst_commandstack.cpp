@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "host/commands/CommandStack.h"
 #include "sdk/od/OdEdCommand.h"
 #include "sdk/od/OdRxObjectImpl.h"

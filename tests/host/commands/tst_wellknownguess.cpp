@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "host/captions/KnownCaptions.h"
 #include "host/commands/WellKnownGuess.h"
 #include "tests/host/support/Files.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "host/commands/WellKnownGuess.h"
 #include "host/documents/ViewGuess.h"
 #include "tests/host/corpus/RebuiltProgram.h"

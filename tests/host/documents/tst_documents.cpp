@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "host/documents/DocumentManager.h"
 #include "host/documents/ViewFinder.h"
 #include "host/input/HitTest.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "host/documents/ViewFinder.h"
 #include "host/documents/ViewGuess.h"
 #include "tests/support/FatalWarnings.h"
@@ -288,6 +291,16 @@ void ViewGuessTest::guesses_data()
         },
         true, "paints itself");
     row(
+        "small buttons in the middle",
+        [](QMainWindow &w) {
+            auto *page = new Canvas;
+            for (int i = 0; i < 6; ++i)
+                (new QPushButton(QStringLiteral("+"), page))->setGeometry(300 + 20 * i, 200, 18, 18);
+            w.setCentralWidget(page);
+            return static_cast<QWidget *>(page);
+        },
+        false, "page of controls");
+    row(
         "canvas in a dialog inside an MDI child",
         [](QMainWindow &w) {
             auto *dialog = static_cast<QDialog *>(mdiChild<QDialog>(w));
@@ -371,7 +384,7 @@ void ViewGuessTest::guesses_data()
     row(
         "canvas that fills 30 % beside a list",
         [](QMainWindow &w) { return beside(w, 30, new Canvas, new QListWidget); }, true,
-        "fills 30 % of QWidget, where nothing else");
+        "fills 30 % of the area, where nothing else");
     row(
         "canvas that fills 30 % beside a table of the program's own",
         [](QMainWindow &w) { return beside(w, 30, new Canvas, tableOfOwn()); }, true,
@@ -445,6 +458,8 @@ void ViewGuessTest::guesses_data()
         [](QMainWindow &w) {
             auto *frame = new QWidget;
             auto *canvas = new Canvas(frame);
+            for (int i = 0; i < 4; ++i)
+                (new QLabel(QStringLiteral("x"), frame))->move(130, 20 * i);
             inScrollArea(w, frame);
             canvas->resize(120, 120);
             return canvas;

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // Tests what is reported about a program without a profile, and over which socket.
 
 #include "host/explain/Explanation.h"

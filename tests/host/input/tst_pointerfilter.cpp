@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "host/documents/DocumentManager.h"
 #include "host/input/PointerFilter.h"
 #include "tests/host/support/FakeTracker.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // The command itself, copied into a folder with plug-in folders of the test.
 
 #include "tests/support/FatalWarnings.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // The options that start no program, as a person types them.
 
 #include "host/files/CatalogueFile.h"

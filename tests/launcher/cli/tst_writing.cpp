@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // Every option that writes a file: on a full disk, beside other writers, and where something else
 // has the file's name. The old content stays whole, and one line says what is wrong.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // Starting a program with gestures from the desktop's menus, in folders of the test.
 
 #include "launcher/desktop/DesktopMenu.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // The command of a desktop entry: how it is split, and how the launcher is put into it.
 
 #include "launcher/desktop/ExecLine.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // Tests each finding that --doctor reports about a program.
 
 #include "launcher/doctor/Doctor.h"

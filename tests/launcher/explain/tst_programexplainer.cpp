@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // Programs that --explain starts: what it finds in them, and that it ends them all.
 
 #include "launcher/explain/ProgramExplainer.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // Which programs can be started with gestures, and with which plug-in.
 
 #include "launcher/programs/ProgramCheck.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "launcher/programs/ElfFile.h"
 #include "launcher/programs/QtWidgetsUse.h"
 #include "tests/support/FatalWarnings.h"

@@ -1,4 +1,7 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 GestureWidget developers
+# SPDX-License-Identifier: MIT
+
 """Checks docs/bindings.schema.json with the same files of fixtures/ as the code."""
 
 import json

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // Bindings as JSON: what is accepted, what is refused, and that the schema says the same.
 
 #include "launcher/settings/BindingsJson.h"

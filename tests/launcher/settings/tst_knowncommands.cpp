@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // The commands that a program has shown: listing them, and finding one by what a person types.
 
 #include "launcher/settings/KnownCommands.h"

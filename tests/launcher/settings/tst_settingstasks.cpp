@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // Showing and changing what is kept for a program, in the file that the host reads too.
 
 #include "launcher/settings/SettingsTasks.h"

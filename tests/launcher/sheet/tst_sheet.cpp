@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // The sheet to pin on the wall: its texts, and that each has enough room.
 
 #include "launcher/settings/Bindings.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "tests/host/inject/guest/EventLog.h"
 
 #include "tests/host/support/LoggingView.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "sdk/QtBridge.h"
 #include "tests/host/inject/guest/EventScripts.h"
 #include "tests/host/inject/guest/GuestWindow.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "host/session/GestureHost.h"
 #include "sdk/chx/CHxProfileStore.h"
 #include "sdk/chx/CHxString.h"

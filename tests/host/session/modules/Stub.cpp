@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 #include "tests/host/session/modules/StubModule.h"
 
 // All fixtures are built from this file. A definition on the target chooses what the fixture

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
 // Measures how long it takes to read the ring's data from the host. The baseline is one pass over
 // the same actions that reads the same texts and the icon. Also measures the cost of many equal
 // captions.
