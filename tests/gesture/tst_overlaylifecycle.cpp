@@ -654,7 +654,7 @@ void OverlayLifecycleTest::hidesAfterItLetGo()
     CountingDonut donut;
     m_bench->start(donut);
     WatchedEvents events(&donut, QEvent::Hide);
-    // Without a release of the button, because Qt then releases its mouse grab by itself.
+    // The button is not released here, because Qt would then release its mouse grab by itself.
     donut.StopGesturing(false);
     QCOMPARE(events.states, QStringList(QStringLiteral("stopped")));
     QCOMPARE(events.grabbers, 0);
