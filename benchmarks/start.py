@@ -55,7 +55,7 @@ def work_until_idle(pid):
 def wait_until_shown():
     search = ["xdotool", "search", "--onlyvisible", "--name", DRAWING.name]
     end = time.monotonic() + START_SECONDS
-    # It fails while there is no such window, and when a window goes during its search.
+    # It fails while there is no such window, and if a window disappears during the search.
     while subprocess.run(search, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
                          check=False).returncode != 0:
         if time.monotonic() > end:

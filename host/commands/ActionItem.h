@@ -63,7 +63,7 @@ public:
     QString group;
     // True if that group is a toolbar, false if it is a menu.
     bool isInToolBar = false;
-    // True if it is offered in every case, because somebody has bound it or may bind it.
+    // True if it is always offered, because somebody has bound it or may bind it.
     bool isExpected = false;
     // True if it is not offered before it has its first action, because the program has none.
     bool isLacking = false;

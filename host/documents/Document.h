@@ -17,8 +17,8 @@ namespace gesturewidget {
 class Document : public CHxDocument
 {
 public:
-    // `view` must not be null. `standIn` gives the widget that stands in for the view once
-    // it is gone; it must never give null.
+    // `view` must not be null. `standIn` returns the widget that replaces the view when the view is
+    // gone. It must never return null.
     Document(QWidget *view, std::function<QWidget *()> standIn);
     ~Document() override;
 

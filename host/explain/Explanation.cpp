@@ -25,7 +25,7 @@ namespace {
 
 // Milliseconds. Changes within this time go into one report.
 constexpr int kGatherTime = 100;
-// At most this many widgets that are no views are named, the largest ones.
+// The report names at most this many widgets that are not views: the largest ones.
 constexpr int kMostOthers = 5;
 
 QString classOf(const QWidget *widget)

@@ -9,19 +9,19 @@ namespace gesturewidget {
 
 // Keeps other writers of a file away: it locks the file "<path>.lock" until it is destroyed.
 //
-// The kernel frees the lock when its owner ends, however it ends. A lock file that is left behind
-// therefore stands in nobody's way, whereas a QLockFile that was killed while writing its own
-// blocks everybody for its stale time.
+// The kernel frees the lock when its owner ends, however it ends. So a lock file that is left
+// behind blocks nobody. A QLockFile whose owner was killed while writing it blocks everybody for
+// its stale time.
 class FileLock
 {
 public:
     enum class Result {
         Held,
         Busy, // somebody else has held it for all this time
-        Impossible // the folder cannot be written, or something that is no file has the name
+        Impossible // the folder cannot be written, or the name is not that of a file
     };
 
-    // Waits for the lock for at most `patience` milliseconds; does not wait where it is impossible.
+    // Waits for the lock for at most `patience` milliseconds. Does not wait if it is impossible.
     FileLock(const QString &path, int patience);
     ~FileLock();
     FileLock(const FileLock &) = delete;

@@ -68,7 +68,7 @@ SettingsFile::Values SettingsFile::read()
         return IniText(content.bytes).values();
     // Whoever holds the lock at the moment renews the copy.
     const FileLock lock(m_path, seemsDamaged ? kLockPatience : 0);
-    if (lock.isHeld()) { // somebody may have written until it was
+    if (lock.isHeld()) { // somebody may have written before that
         backup = contentOf(backupPath()).bytes;
         const FileContent again = contentOf(m_path);
         content = again.isRead() ? again : content;

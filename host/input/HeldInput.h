@@ -58,7 +58,7 @@ private:
     {
         QPointer<QWindow> window;
         std::optional<qtbridge::KeptMouseEvent> mouse;
-        std::unique_ptr<QInputEvent> other; // when it is none of the mouse's buttons
+        std::unique_ptr<QInputEvent> other; // when it is not a mouse event
 
         [[nodiscard]] bool isA(QEvent::Type type) const { return mouse && mouse->type() == type; }
     };

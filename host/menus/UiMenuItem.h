@@ -31,7 +31,7 @@ public:
 
     // The menu or menu bar that contains it; null if none does.
     QPointer<QWidget> place;
-    // True if it belongs to the Tools menu, whichever menu that is at the moment.
+    // True if it belongs to the Tools menu. Which menu that is may change.
     bool isForTools = false;
 
 private:

@@ -75,7 +75,7 @@ private:
     bool m_isRetired = false; // its owner is gone
     HostSession *m_next = nullptr; // the next started session
 
-    // In the order in which one needs the other.
+    // Each of these may need the ones before it.
     DocumentManager m_documents;
     HostApplication m_application;
     MainFrame m_mainFrame;

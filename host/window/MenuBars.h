@@ -12,7 +12,7 @@ class QToolBar;
 QT_END_NAMESPACE
 
 // The menu bars and toolbars that act on what one main window shows. This is the only place
-// that says when a window has a menu bar: whoever asks gets the same answer.
+// that says when a window has a menu bar, so every caller gets the same answer.
 //
 // Bars inside another window that belongs to the main window, such as a text editor or a
 // dialog, act on that window and do not count. A floating toolbar and a bar in a floating

@@ -22,7 +22,7 @@ public:
     explicit QuietWait(int quietTime);
     ~QuietWait() override;
 
-    // Something has happened: begins a wait, or prolongs the one that is on.
+    // Something has happened: begins a wait, or prolongs the current one.
     void note();
     // Ends the wait without a signal.
     void stop();

@@ -29,9 +29,9 @@ namespace {
 
 using Task = CommandLine::Task;
 
-// From the folder of the launcher.
+// Relative to the launcher's folder.
 constexpr char kSheet[] = "/../libexec/gesturewidget/mouse-gestures-sheet";
-// In place of a file's name: standard input or output.
+// Stands for standard input or output in place of a file's name.
 constexpr char kStandard[] = "-";
 
 DesktopMenu desktopMenu(const Subject &subject)

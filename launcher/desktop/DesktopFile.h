@@ -18,7 +18,7 @@ namespace launcher {
 class DesktopFile
 {
 public:
-    // False when there is no such file, or it is none that can be read.
+    // Returns false when the file does not exist or cannot be read.
     [[nodiscard]] bool read(const QString &path);
     [[nodiscard]] QByteArray content() const;
 

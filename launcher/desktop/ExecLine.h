@@ -30,7 +30,7 @@ struct ExecLine
 
     bool isValid = false;
     QByteArray program; // as a shell would see it
-    QList<QByteArray> arguments; // likewise, with their field codes
+    QList<QByteArray> arguments; // also as a shell would see them, with their field codes
     // Where the program begins in the value.
     int place = 0;
     QByteArray value;

@@ -19,7 +19,7 @@
 namespace launcher {
 namespace {
 
-// Beginnings of the lines. A problem stands in the way of gestures.
+// Beginnings of the lines. A problem prevents gestures.
 constexpr char kFine[] = "  ";
 constexpr char kProblem[] = "! ";
 

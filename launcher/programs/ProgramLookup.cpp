@@ -41,8 +41,8 @@ ProgramLookup ProgramLookup::find(const QByteArray &name, const QByteArray &sear
         const Result result = judge(path);
         if (result == Result::Found)
             return {result, path};
-        // Report a file that may not be run, but not a folder: nobody means a folder when typing a
-        // program's name.
+        // Report a file that may not be run, but not a folder: a person who types a program's name
+        // does not mean a folder.
         if (result == Result::NotExecutable && lookup.result == Result::Missing)
             lookup = {result, path};
     }

@@ -10,8 +10,8 @@
 
 namespace launcher {
 
-// Bindings as a JSON text that people may read, keep and edit. The keys stand in the order in
-// which a reader looks for them.
+// Bindings as a JSON text that people may read, keep and edit. The order of the keys is the order
+// in which a reader looks for them.
 [[nodiscard]] QByteArray bindingsToJson(const Bindings &bindings, const QString &program);
 
 // Reads such a text for `program`. Each key must be there once, and no other key. A command may

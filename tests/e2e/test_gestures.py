@@ -246,7 +246,7 @@ class GesturesTest(ProgramTest):
     def test_right_click_is_unchanged(self):
         def act(session):
             session.right_click()
-            # At another place, or a slow machine would take it for a double click.
+            # Clicks at another place. Otherwise a slow machine would take it for a double click.
             x, y = session.middle()
             session.driver.ask("move", x + 60, y + 40)
             session.right_click()

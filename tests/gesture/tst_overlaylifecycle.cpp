@@ -329,7 +329,7 @@ void OverlayLifecycleTest::startForgetsTheLastGesture()
     // The choice stays until somebody has read it ...
     QCOMPARE(donut.getActiveArc(), qint16(3));
     QVERIFY(donut.JustStopped());
-    // ... but the next gesture starts afresh.
+    // ... but the next gesture starts without it.
     donut.origin = QPoint(200, 200);
     m_bench->pointTo(donut, 10, 12);
     donut.WindUp(m_bench->document);
@@ -576,7 +576,7 @@ void OverlayLifecycleTest::pressesAreSwallowed()
     m_bench->start(donut);
     QTest::mousePress(m_bench->view->windowHandle(), Qt::LeftButton, {}, QPoint(5, 5));
     QCOMPARE(stateOf(donut), kGesturing);
-    QCOMPARE(m_bench->view->presses, 1); // the one that began it
+    QCOMPARE(m_bench->view->presses, 1); // the press that began the gesture
     QTest::mouseRelease(m_bench->view->windowHandle(), Qt::LeftButton, {}, QPoint(5, 5));
     QCOMPARE(stateOf(donut), kStopped);
 
@@ -654,7 +654,7 @@ void OverlayLifecycleTest::hidesAfterItLetGo()
     CountingDonut donut;
     m_bench->start(donut);
     WatchedEvents events(&donut, QEvent::Hide);
-    // Without a release of the button, because Qt then releases its mouse grab by itself.
+    // The button is not released here, because Qt would then release its mouse grab by itself.
     donut.StopGesturing(false);
     QCOMPARE(events.states, QStringList(QStringLiteral("stopped")));
     QCOMPARE(events.grabbers, 0);

@@ -37,7 +37,7 @@ void noteEvent(QAccessibleEvent *event)
 
 } // namespace
 
-// The name of what the pointer is on: in the host's status bar and for assistive programs.
+// The name of the lit command, in the host's status bar and for assistive programs.
 class ToldSectorTest : public QObject
 {
     Q_OBJECT
@@ -164,7 +164,7 @@ void ToldSectorTest::unboundSectorSaysNothing()
     QCOMPARE(donut.getActiveArc(), qint16(1));
     QCOMPARE(shown(), QString());
     QCOMPARE(donut.accessibleDescription(), QString());
-    // An index past the last sector is none either.
+    // An index past the last sector is not a sector either.
     donut.activeArc = -1;
     donut.mousePositionChanged(21, 21);
     donut.activeArc = 4;

@@ -227,7 +227,7 @@ def check_launcher(launcher, prefix, folder, versions):
 
 def installation(folder):
     """Installs the components one by one, then everything."""
-    # A Qt 6 build has components of its own for the files that are the same for both Qt versions.
+    # A Qt 6 build has separate components for the files that are the same for both Qt versions.
     expected = {"Runtime": built_files(options.qt),
                 "Devel": built_devel_files(build_type(), options.qt)}
     if options.qt == "5":

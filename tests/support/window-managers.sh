@@ -51,7 +51,7 @@ start_window_manager() { # NAME COMPOSITOR(0 or 1)
       ;;
     fluxbox)
       mkdir -p "$HOME/.fluxbox"
-      # Without this it starts a program that complains about the missing background.
+      # Otherwise it starts a program that complains about the missing background.
       echo 'background: none' >"$HOME/.fluxbox/overlay"
       start fluxbox fluxbox
       ;;

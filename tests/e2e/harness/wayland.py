@@ -295,7 +295,7 @@ class WaylandDriver(Driver):
             time.sleep(max(0, begun + milliseconds / 1000 * step / steps - time.monotonic()))
             self._step(start[0] + x * step // steps, start[1] + y * step // steps)
 
-    # The X server does not see the screen here, so the windows stand in for its picture.
+    # The X server does not see the screen here. So these compare the windows, not the picture.
 
     def _remember(self, *_area):
         pass

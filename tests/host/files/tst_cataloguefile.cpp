@@ -535,7 +535,7 @@ void CatalogueFileTest::aFolderThatCannotBeWrittenIsSaidOnce()
     QVERIFY2(lines.first().contains(QStringLiteral("cannot be written")), qPrintable(lines.first()));
 }
 
-// As on a full disk: for a while the child may write no byte to any file, then too few.
+// As on a full disk: the child cannot write a byte to any file for a while, then too few bytes.
 void CatalogueFileTest::aFullDiskKeepsTheOldFile()
 {
     QVERIFY(merge(numbered(3)));

@@ -41,7 +41,7 @@ public:
         isOn = false;
         hasStopped = true;
         accepted = isAccepted;
-        // Qt 5 takes the grab from whoever has it.
+        // Qt 5 takes the grab from its current owner.
         if (QWidget::mouseGrabber() == this)
             releaseMouse();
         hide();

@@ -291,7 +291,7 @@ private Q_SLOTS:
         QCOMPARE(optionsIn(manual), options);
         QCOMPARE(optionsIn(completion), options);
         for (const QString &option : options)
-            QVERIFY2(option == text("--json") // goes with another one
+            QVERIFY2(option == text("--json") // goes with another option
                          || !run({option}).errors.contains("unknown option"),
                      qPrintable(option));
         // The completion offers exactly what is accepted.

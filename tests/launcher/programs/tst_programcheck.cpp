@@ -25,7 +25,7 @@ class ProgramCheckTest : public tests::FolderTest
     Q_OBJECT
 
 private Q_SLOTS:
-    // With the other plug-in too, Qt writes to standard error that it cannot load that.
+    // If it found the other plug-in too, Qt would complain on standard error.
     void onlyThePluginOfItsQt()
     {
         const ProgramCheck check = ProgramCheck::of(FIXTURES "/launcher_fixture_direct", {}, kBoth);
