@@ -424,8 +424,8 @@ void CatalogueMemoryTest::withoutObjectNamesTheLanguageCounts()
 
 void CatalogueMemoryTest::entriesOfListsAreNotOfferedForEver()
 {
-    const QString first = QStringLiteral("File/Recent/1 a.dxf");
-    const QString path = QStringLiteral("File/Recent/2 /home/me/b.dxf");
+    const QString first = QStringLiteral("File/Recent/Plate one");
+    const QString path = QStringLiteral("File/Recent/Plate two");
     const QString twin = QStringLiteral("File/Recent/Window (2)");
     const auto addRecent = [](DraftWindow &window, const QStringList &names) {
         QMenu *recent = window.file->addMenu(QStringLiteral("Recent"));
@@ -433,7 +433,7 @@ void CatalogueMemoryTest::entriesOfListsAreNotOfferedForEver()
             recent->addAction(name);
     };
     runOnce([&](DraftWindow &window) {
-        addRecent(window, {QStringLiteral("1 a.dxf"), QStringLiteral("2 /home/me/b.dxf"),
+        addRecent(window, {QStringLiteral("Plate one"), QStringLiteral("Plate two"),
                            QStringLiteral("Window"), QStringLiteral("Window")});
     });
     {
@@ -443,7 +443,7 @@ void CatalogueMemoryTest::entriesOfListsAreNotOfferedForEver()
             QVERIFY2(start.isOffered(name), qPrintable(name));
     }
     Start start(m_path);
-    addRecent(start.window, {QStringLiteral("1 a.dxf")});
+    addRecent(start.window, {QStringLiteral("Plate one")});
     QVERIFY(start.isOffered(first));
     QVERIFY(!start.isOffered(path));
     QVERIFY(!start.isOffered(twin));
