@@ -18,6 +18,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStringList>
+#include <QTest>
+#include <QVariantAnimation>
 
 #include <functional>
 
@@ -37,7 +39,14 @@ public:
     explicit TestDialog(QWidget *parent = nullptr)
         : MgDonutDialogManager(parent, {})
     {
+        connect(ui.search_lineEdit, &QLineEdit::textChanged, this, [this] { m_mayFade = true; });
     }
+    ~TestDialog() override
+    {
+        if (m_mayFade)
+            outlastFading();
+    }
+    Q_DISABLE_COPY_MOVE(TestDialog)
 
     using MgDonutDialogManager::directionList;
     using MgDonutDialogManager::model;
@@ -100,6 +109,24 @@ protected:
     {
         return printDialog ? printDialog(printer) : MgDonutDialogManager::runPrintDialog(printer);
     }
+
+private:
+    // The button that clears the search field fades in and out, for 160 ms. If the process ends
+    // first, Qt leaks the animation. No other animation tells when Qt's own has ended, so this
+    // waits for a longer one that starts later.
+    static void outlastFading()
+    {
+        QVariantAnimation longer;
+        longer.setStartValue(0);
+        longer.setEndValue(1);
+        longer.setDuration(200);
+        longer.start();
+        static_cast<void>(
+            QTest::qWaitFor([&longer] { return longer.state() == QAbstractAnimation::Stopped; }));
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    bool m_mayFade = false;
 };
 
 } // namespace tests
