@@ -59,7 +59,7 @@ public:
             catalogue.expect(it.key(), it.value());
     }
 
-    QPointer<QMainWindow> window;
+    QPointer<QWidget> window; // while it is being destroyed it is no QMainWindow any more
     CHxDocumentManager *documents;
     CHxApplication *application = nullptr;
     CHxMainFrame *mainFrame = nullptr;
@@ -175,7 +175,8 @@ CHxCommandResultPtr SystemServices::RunCommand(const CHxString &command, bool wa
 
 bool SystemServices::UsesLargeIcons() const
 {
-    return m_d->window && m_d->window->iconSize().height() >= kLargeIcon;
+    const auto *window = qobject_cast<const QMainWindow *>(m_d->window.data());
+    return window && window->iconSize().height() >= kLargeIcon;
 }
 
 CHxString SystemServices::GetApplicationName() const

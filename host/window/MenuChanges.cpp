@@ -24,12 +24,12 @@ MenuChanges::~MenuChanges() = default;
 
 QVector<QMenuBar *> MenuChanges::menuBars() const
 {
-    return menuBarsOf(m_window);
+    return menuBarsOf(qobject_cast<const QMainWindow *>(m_window.data()));
 }
 
 QVector<QToolBar *> MenuChanges::toolBars() const
 {
-    return toolBarsOf(m_window);
+    return toolBarsOf(qobject_cast<const QMainWindow *>(m_window.data()));
 }
 
 void MenuChanges::watch(QWidget *widget)

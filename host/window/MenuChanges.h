@@ -42,7 +42,7 @@ Q_SIGNALS:
     void actionChanged(QAction *action);
 
 private:
-    QPointer<QMainWindow> m_window;
+    QPointer<QWidget> m_window; // while it is being destroyed it is no QMainWindow any more
     QSet<const QObject *> m_watched;
 };
 

@@ -40,7 +40,8 @@ void TextOutput::showForAWhile(const QString &text)
 // Searches the children, because QMainWindow::statusBar() would make a status bar.
 QStatusBar *TextOutput::statusBar() const
 {
-    return m_window ? m_window->findChild<QStatusBar *>(QString(), Qt::FindDirectChildrenOnly) : nullptr;
+    const auto *window = qobject_cast<const QMainWindow *>(m_window.data());
+    return window ? window->findChild<QStatusBar *>(QString(), Qt::FindDirectChildrenOnly) : nullptr;
 }
 
 } // namespace gesturewidget

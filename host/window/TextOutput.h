@@ -28,7 +28,7 @@ public:
 private:
     [[nodiscard]] QStatusBar *statusBar() const;
 
-    QPointer<QMainWindow> m_window;
+    QPointer<QWidget> m_window; // while it is being destroyed it is no QMainWindow any more
 };
 
 } // namespace gesturewidget

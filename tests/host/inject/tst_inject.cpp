@@ -151,7 +151,7 @@ void InjectTest::programEndsAsItWould()
     QFETCH(int, status);
     QFETCH(QString, output);
     const Result result = run(QString::fromLatin1(QTest::currentDataTag()));
-    QCOMPARE(result.errors, QStringList());
+    QCOMPARE(result.errors.join(QLatin1Char('\n')), QString());
     QCOMPARE(result.output.join(QStringLiteral(", ")), output);
     QVERIFY(result.ended);
     QCOMPARE(result.status, status);
