@@ -39,7 +39,7 @@ public:
 
     // Far more than programs have. Commands and icons beyond these limits are left out, a longer
     // caption or tip is cut off.
-    static constexpr qint64 kMaximalSize = 32 * 1024 * 1024; // bytes of the file
+    static constexpr qint64 kMaximalSize = qint64(32) * 1024 * 1024; // bytes of the file
     static constexpr int kMaximalCount = 8000;
     static constexpr int kMaximalText = 500; // characters
     static constexpr int kMaximalIcon = 16 * 1024; // bytes
