@@ -36,7 +36,7 @@ QString storedValue(const QString &key)
 QString readChoice(const QString &key, const QString &initial, const QString &other)
 {
     MgDonutSettings *settings = MgDonutSettings::instance();
-    const QString value = settings->keyExists(key) ? storedValue(key) : QString();
+    QString value = settings->keyExists(key) ? storedValue(key) : QString();
     if (value == initial || value == other)
         return value;
     settings->write(key, initial);

@@ -44,8 +44,8 @@ const QVector<KnownCaptions> &KnownCaptions::languages()
 {
     static const QVector<KnownCaptions> all = [] {
         QVector<KnownCaptions> list;
-        for (const char *language : {"en", "de", "fr", "es", "it", "pt", "pl", "ru", "ja", "zh"})
-            list.append(read(QLatin1String(language)));
+        for (const char *code : {"en", "de", "fr", "es", "it", "pt", "pl", "ru", "ja", "zh"})
+            list.append(read(QLatin1String(code)));
         return list;
     }();
     return all;
