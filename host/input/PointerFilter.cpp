@@ -180,12 +180,16 @@ bool PointerFilter::holdPress(QWindow *window, const QMouseEvent &event)
         m_document = nullptr;
         return false;
     }
+    m_documents.activate(document); // while idle: the current window may still change
+    if (!document->isOpen()) {
+        m_document = nullptr;
+        return false;
+    }
     m_state = State::Holding;
     ++m_press;
     m_keysOfPress = m_keys;
     m_pressPosition = qtbridge::globalPosition(event);
     m_held.hold(window, event);
-    m_documents.activate(document);
     document->inputPoints().dispatch(hit);
     return true;
 }

@@ -431,22 +431,29 @@ void GestureHostTest::aNewTriggerCountsFromTheNextStart()
 void GestureHostTest::viewsOfOtherWindows_data()
 {
     QTest::addColumn<bool>("isMainWindow");
+    QTest::addColumn<bool>("hasMenuBar");
     QTest::addColumn<bool>("hasMenus");
     QTest::addColumn<bool>("isAdded"); // the program adds the view itself
     QTest::addColumn<bool>("isHeld");
-    QTest::newRow("dialog") << false << false << false << true;
-    QTest::newRow("detached view") << true << false << false << true;
-    QTest::newRow("another drawing") << true << true << false << false;
-    QTest::newRow("another drawing, added") << true << true << true << true;
+    QTest::addColumn<bool>("isCurrent"); // its window becomes the current one
+    QTest::newRow("dialog") << false << false << false << false << true << false;
+    QTest::newRow("detached view") << true << false << false << false << true << false;
+    QTest::newRow("another drawing") << true << true << true << false << true << true;
+    QTest::newRow("another drawing, added") << true << true << true << true << true << true;
+    // Its own menus are still to come, and the commands of the first window would be wrong.
+    QTest::newRow("before its menus") << true << true << false << false << false << false;
+    QTest::newRow("before its menus, added") << true << true << false << true << false << false;
 }
 
-// The commands of a gesture are those of the host's main window.
+// The commands of a gesture are those of the window that it is made in.
 void GestureHostTest::viewsOfOtherWindows()
 {
     QFETCH(bool, isMainWindow);
+    QFETCH(bool, hasMenuBar);
     QFETCH(bool, hasMenus);
     QFETCH(bool, isAdded);
     QFETCH(bool, isHeld);
+    QFETCH(bool, isCurrent);
     class View : public QFrame
     {
     public:
@@ -464,6 +471,8 @@ void GestureHostTest::viewsOfOtherWindows()
     auto *mainWindow = new QMainWindow;
     const std::unique_ptr<QWidget> other(isMainWindow ? mainWindow : new QWidget);
     const std::unique_ptr<QWidget> unused(isMainWindow ? nullptr : mainWindow);
+    if (hasMenuBar)
+        mainWindow->menuBar()->show();
     if (hasMenus)
         mainWindow->menuBar()->addMenu(QStringLiteral("Tools"));
     other->resize(200, 200);
@@ -478,7 +487,9 @@ void GestureHostTest::viewsOfOtherWindows()
     tests::FakeTracker tracker;
     ACTIVE_DOCUMENT()->GetInputPointManager()->AddTracker(&tracker, 0);
     other->show();
-    QVERIFY(QTest::qWaitForWindowExposed(other.get()));
+    other->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(other.get()));
+    QTRY_COMPARE(host.mainWindow() == other.get(), isCurrent);
     QTest::mousePress(other->windowHandle(), Qt::RightButton, {}, QPoint(100, 100));
     QCOMPARE(view->presses == 0, isHeld);
     QTest::mouseRelease(other->windowHandle(), Qt::RightButton, {}, QPoint(100, 100));
