@@ -193,6 +193,8 @@ void ActionSpy::watchAction(QAction *action)
     connect(action, &QObject::destroyed, this, [this, action] { m_actions.remove(action); });
     connect(action, &QAction::triggered, this, [this, action] {
         write({QStringLiteral("triggered"), action->objectName(), plain(action->text())});
+        if (const auto *owner = qobject_cast<QWidget *>(action->parent()))
+            write({QStringLiteral("where"), action->objectName(), owner->window()->windowTitle()});
     });
 }
 

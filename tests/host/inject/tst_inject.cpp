@@ -145,7 +145,7 @@ void InjectTest::programEndsAsItWould_data()
     rowOfTwo("second-again", "two windows, ring: yes, lines: 0 and 1, ring: yes, lines: gone and 2");
     rowOfTwo("gone-with-ring", "ring: yes, ring: no, ring: yes, lines: 1 and gone");
     rowOfTwo("first-gone-with-ring",
-             "ring: yes, lines: 1 and 0, ring: yes, ring: yes, lines: gone and 1");
+             "ring: yes, lines: 1 and 0, ring: yes, ring: no, ring: yes, lines: gone and 1");
     rowOfTwo("gone-while-holding", "ring: yes, lines: 1 and gone");
     rowOfTwo("gone-before-the-command", "ring: yes, ring: yes, lines: 1 and gone");
     rowOfTwo("closed-by-the-command", "ring: yes, lines: 0 and gone, ring: yes, lines: 1 and gone");

@@ -107,7 +107,12 @@ std::vector<Step> stepsOf(const QByteArray &mode, Windows &all)
              ranIn(all, first, 1),
              {always, [&] { openRing(*second); }},
              close(first),
-             {always, [&] { second->release(40); }},
+             {always,
+              [&] {
+                  second->release(40);
+                  second->dragTo(60); // nothing is pressed any more
+                  sayWhether("ring", ringIsOpen());
+              }},
              gesture(second),
              ranIn(all, second, 1)});
     if (mode == "gone-while-holding")
