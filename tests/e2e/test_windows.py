@@ -17,25 +17,24 @@ FIRST = DRAWING_NAME
 SECOND = "New drawing"
 # Where the tests put the windows: x, y, width, height. They lie side by side.
 PLACES = {FIRST: (10, 30, 760, 900), SECOND: (800, 30, 760, 900)}
-ENTRY = "Mouse Gestures..."
 
 
 class WindowsTest(ProgramTest):
     folder = "windows"
     program = PROGRAM
+    first_is_placed = None  # the session in which it is
 
     def open_second(self, session):
         """Opens a second window beside the first. Waits until it has gestures."""
+        if self.first_is_placed is not session:
+            self.first_is_placed = session
+            self.place(session, FIRST)
         mark = session.spy.mark()
-        self.place(session, FIRST)
         session.focus(FIRST)
         session.driver.ask("key", "ctrl+shift+n")
         session.driver.ask("wait-window", SECOND, ANSWER_SECONDS * 1000)
         self.place(session, SECOND)
-        # Its menu has the entry when its menus were quiet for a moment.
-        while ENTRY not in self.tools_menu(session, SECOND):
-            pass
-        session.expect(mark, lambda line: line[0] == "view" and self.is_in(line, SECOND), "its view")
+        session.expect(mark, lambda line: line == ["hasentry", "2"], "the entry in its menu")
 
     def place(self, session, title):
         mark = session.spy.mark()
@@ -55,18 +54,6 @@ class WindowsTest(ProgramTest):
         x, y, width, height = (int(number) for number in views[-1][2].split(","))
         return x + width // 2, y + height // 2
 
-    def tools_menu(self, session, title):
-        """The captions in the window's Tools menu."""
-        mark = session.spy.mark()
-        session.focus(title)
-        session.driver.ask("key", "alt+t")
-        entries = session.expect(mark, lambda line: line[0] == "entries", "the Tools menu")[1:]
-        session.driver.ask("key", "Escape")
-        session.expect(mark, lambda line: line[:2] == ["gone", "QMenu"], "the menu to close")
-        session.wait_for_free_input()
-        session.driver.ask("key", "Escape")
-        return entries
-
     def point_at(self, session, title):
         session.driver.ask("move", *self.middle(session, title))
         session.driver.ask("wait-pointer-in", title, ANSWER_SECONDS * 1000)
@@ -83,6 +70,10 @@ class WindowsTest(ProgramTest):
         self.assertEqual(line[1], self.program.eight[direction])
         self.assertIn(title, line[2])
         self.assertEqual(len(session.spy.since(mark, "triggered")), 1)
+        self.stop_tool(session, title)
+
+    def stop_tool(self, session, title):
+        mark = session.spy.mark()
         session.focus(title)
         session.driver.ask("key", "Escape")
         session.expect(mark, lambda line: line[:2] == ["where", "toolsStop"], "the tool to end")
@@ -111,7 +102,9 @@ class WindowsTest(ProgramTest):
         session.expect(mark, lambda line: line[0] == "quit", "the program's end")
         self.assertEqual(session.process.wait(timeout=ANSWER_SECONDS), 0)
         self.assertEqual(session.cores(), [])
-        self.assertEqual(session.complaints(), [])
+        # Qt asks for the place of a window's frame, and the window manager may have destroyed it.
+        own = [line for line in session.complaints() if "(BadWindow)" not in line]
+        self.assertEqual(own, [])
 
     def test_both_windows_and_then_the_second_alone(self):
         with self.session() as session:
