@@ -303,9 +303,9 @@ void MgDonutDialogPVStyleImpl::bypassWindowManager()
 
 void MgDonutDialogPVStyleImpl::followWindowOf(const QWidget &view)
 {
-    // The ring's parent is the main window of the first gesture. Desktops hide what belongs to a
-    // minimised window, and Qt blocks it with that window's dialogs, so the native window belongs
-    // to the one that the gesture is made in.
+    // The ring's parent is the main window of the first gesture. Qt blocks what belongs to a window
+    // with that window's dialogs, and a desktop may hide it when the window is minimised. So the
+    // native window belongs to the one that the gesture is made in.
     QWindow *below = view.window()->windowHandle();
     if (below && windowHandle()->transientParent() != below)
         windowHandle()->setTransientParent(below);
