@@ -11,6 +11,9 @@
 #include <QMenu>
 #include <QWidgetAction>
 
+#include <algorithm>
+#include <utility>
+
 namespace gesturewidget {
 namespace {
 
@@ -53,9 +56,49 @@ void ActionItem::setAction(QAction *action)
 {
     m_action = action;
     m_address = action;
+    m_hasHadAction = true;
     m_tip.clear(); // may be from an earlier start
     m_tipSource.clear();
     read();
+}
+
+void ActionItem::showIn(const QWidget *from, const QWidget *to)
+{
+    if (m_address)
+        m_others.push_back({from, m_action, m_address, m_caption, m_tip, m_tipSource, m_icon,
+                            m_contrastIcon, group, isPresent, wasPresent, isInToolBar});
+    m_action.clear();
+    m_address = nullptr;
+    isPresent = false;
+    wasPresent = false;
+    const auto isShown = [to](const Look &look) { return look.window == to; };
+    const auto found = std::find_if(m_others.begin(), m_others.end(), isShown);
+    if (found == m_others.end())
+        return;
+    m_action = found->action;
+    m_address = found->address;
+    m_caption = std::move(found->caption);
+    m_tip = std::move(found->tip);
+    m_tipSource = std::move(found->tipSource);
+    m_icon = std::move(found->icon);
+    m_contrastIcon = std::move(found->contrastIcon);
+    group = std::move(found->group);
+    isPresent = found->isPresent;
+    wasPresent = found->wasPresent;
+    isInToolBar = found->isInToolBar;
+    m_others.erase(found);
+}
+
+bool ActionItem::isPresentIn(const QWidget *window) const
+{
+    return std::any_of(m_others.begin(), m_others.end(),
+                       [window](const Look &look) { return look.window == window && look.isPresent; });
+}
+
+void ActionItem::forget(const QWidget *window)
+{
+    const auto isOfWindow = [window](const Look &look) { return look.window == window; };
+    m_others.erase(std::remove_if(m_others.begin(), m_others.end(), isOfWindow), m_others.end());
 }
 
 void ActionItem::read()
