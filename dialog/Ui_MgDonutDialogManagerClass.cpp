@@ -154,8 +154,8 @@ void Ui_MgDonutDialogManagerClass::createList(QDialog *dialog)
     tablePolicy.setVerticalStretch(1);
     command_tableView->setSizePolicy(tablePolicy);
     command_tableView->setWordWrap(false);
-    // The arrow keys walk the cells; Tab goes on to the buttons below, which no other key
-    // would reach.
+    // The arrow keys move between cells. Tab leaves the table, because no other key reaches the buttons
+    // below.
     command_tableView->setTabKeyNavigation(false);
     verticalLayout_5->addWidget(command_tableView);
 }
@@ -167,10 +167,10 @@ void Ui_MgDonutDialogManagerClass::createDescription(QDialog *dialog)
     description_groupBox->setMinimumSize(396, 91);
     description_label = newWidget<QLabel>("description_label", description_groupBox);
     description_label->setGeometry(10, 20, 371, 61);
-    // Clear of the frame, which is drawn where the label begins.
+    // Keep the text off the frame, which is drawn where the label begins.
     description_label->setContentsMargins(0, 4, 0, 0);
     description_label->setWordWrap(true);
-    // A tip comes from the program's menus: whatever looks like markup in it is text.
+    // A tip comes from the program's menus. Anything in it that looks like markup is text.
     description_label->setTextFormat(Qt::PlainText);
     verticalLayout_5->addWidget(description_groupBox);
 }

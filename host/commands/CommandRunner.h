@@ -20,7 +20,7 @@ class TextOutput;
 // Runs commands by name: macros, which run commands that modules have registered, and the
 // program's own actions.
 //
-// What runs may do anything, such as close the window or end this object.
+// A command may do anything, such as close the window or destroy this object.
 class CommandRunner : public QObject
 {
     Q_OBJECT

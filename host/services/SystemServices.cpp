@@ -59,7 +59,7 @@ public:
             catalogue.expect(it.key(), it.value());
     }
 
-    QPointer<QWidget> window; // while it is being destroyed it is no QMainWindow any more
+    QPointer<QWidget> window; // during its destruction it is no longer a QMainWindow
     CHxDocumentManager *documents;
     CHxApplication *application = nullptr;
     CHxMainFrame *mainFrame = nullptr;

@@ -331,8 +331,8 @@ private Q_SLOTS:
         QCOMPARE(older->readFile(), QByteArray("[Other]\nkept=1\n"));
     }
 
-    // The older settings are emptied first. Otherwise a key that cannot be written would get its old value
-    // back from there.
+    // The older settings are emptied first. Otherwise a key that cannot be written would get its old
+    // value back from there.
     void deleteAllKeysEmptiesTheOlderGroupFirst()
     {
         class WatchingHost : public tests::FakeHost

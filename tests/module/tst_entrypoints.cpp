@@ -19,7 +19,7 @@
 
 namespace {
 
-// Whether odrxAlloc fails next, and the blocks that it and odrxFree have handled.
+// True to make odrxAlloc fail. The blocks that it and odrxFree have handled follow.
 bool memoryIsShort = false;
 std::vector<void *> allocated;
 std::vector<void *> freed;

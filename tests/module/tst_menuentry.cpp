@@ -373,7 +373,8 @@ void MenuEntryTest::itemGoesToTheCurrentWorkspace()
 
     module.LoadMenu();
 
-    // The menu is the first one in any workspace. The command item belongs to the first current workspace.
+    // The menu is the first one in any workspace. The command item belongs to the first current
+    // workspace.
     QCOMPARE(texts(*tools), QStringList{kEntryText});
     QVERIFY(first->commandItems.empty());
     QCOMPARE(second->commandItems.size(), std::size_t(1));

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
-// What the module object registers with a host, when, and how it unregisters it.
+// Tests what the module object registers with a host, when, and how it unregisters it.
 
 #include "sdk/chx/CHxString.h"
 #include "tests/bindings/OlderSettings.h"

@@ -72,7 +72,7 @@ class Arrows(unittest.TestCase):
 
     def test_a_file_without_a_room_is_a_fault(self):
         self.assertEqual(self.said_of({"attic/A.h": ""}),
-                         (1, "attic/A.h:1: stands in no room that docs/rooms.md names"))
+                         (1, "attic/A.h:1: is in no room that docs/rooms.md names"))
 
     def test_a_circle_is_a_fault(self):
         status, said = self.said_of({}, ROOMS.replace("low:\n", "low: high\n"))

@@ -182,7 +182,7 @@ int runSecondWindow(int argc, char **argv)
     return QApplication::exec();
 }
 
-// Of two windows, the first one is closed or destroyed.
+// Opens two windows and closes or destroys the first one.
 int runTwoWindows(int argc, char **argv, bool isDestroyed)
 {
     QApplication app(argc, argv);
