@@ -111,6 +111,7 @@ MgDonutDialogManager::MgDonutDialogManager(QWidget *parent, Qt::WindowFlags flag
     if (MgDonutDataContainer::instance()->hasReadingFailed())
         MgDonutDataContainer::instance()->init();
     ui.setupUi(this);
+    translateButtons();
     setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
     fixWidth();
     fillCategories();
@@ -189,6 +190,20 @@ void MgDonutDialogManager::setButtonIcons()
     setIcon(QDialogButtonBox::Ok, QStringLiteral(":/images/shared/ok.png"));
     setIcon(QDialogButtonBox::Cancel, QStringLiteral(":/images/shared/cancel.png"));
     setIcon(QDialogButtonBox::Help, QStringLiteral(":/images/shared/help.png"));
+}
+
+// The style's texts are in Qt's own translation, which few programs load. English stays as the
+// style has it, with its mnemonics.
+void MgDonutDialogManager::translateButtons()
+{
+    const auto translate = [this](QDialogButtonBox::StandardButton button, const char *english) {
+        const QString text = tr(english);
+        if (text != QLatin1String(english))
+            ui.buttonBox->button(button)->setText(text);
+    };
+    translate(QDialogButtonBox::Ok, QT_TR_NOOP("OK"));
+    translate(QDialogButtonBox::Cancel, QT_TR_NOOP("Cancel"));
+    translate(QDialogButtonBox::Help, QT_TR_NOOP("Help"));
 }
 
 void MgDonutDialogManager::connectControls()

@@ -97,6 +97,7 @@ private:
     void fixWidth();
     void fillCategories();
     void setButtonIcons();
+    void translateButtons();
     void connectControls();
     void setUpTable();
     void setUpKeys();

@@ -9,6 +9,7 @@
 #include "host/files/ProgramProfile.h"
 #include "host/files/SettingsNames.h"
 #include "host/files/TriggerText.h"
+#include "host/language/ProgramLanguage.h"
 #include "host/services/HostEditor.h"
 #include "host/services/SystemServices.h"
 #include "host/session/ExplainedProgram.h"
@@ -19,6 +20,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QLocale>
 #include <QTimer>
 
 #include <algorithm>
@@ -111,7 +113,12 @@ bool HostSession::start(QString *error)
     connect(qApp, &QCoreApplication::aboutToQuit, this, &HostSession::finish);
     m_window->installEventFilter(this);
 
-    if (!m_loader.load(m_options.moduleFile, reason) || !m_loader.initialize(reason)) {
+    bool isLoaded = m_loader.load(m_options.moduleFile, reason);
+    // Here the module's library has brought its texts, and has shown none of them yet.
+    m_translations.install(
+        programLanguage(window, QLocale::system().uiLanguages(), Translations::languages()));
+    isLoaded = isLoaded && m_loader.initialize(reason);
+    if (!isLoaded) {
         stop();
         return false;
     }
@@ -149,6 +156,7 @@ void HostSession::stop()
     odedSetEditor(nullptr);
     odedSetCommandStack(nullptr);
     SetHxSystemServices(nullptr);
+    m_translations.remove(); // the module has found its menu entry by a translated text
 }
 
 void HostSession::stopWithoutWindow()

@@ -7,6 +7,7 @@
 #include "tests/dialog/Input.h"
 #include "tests/dialog/TestDialog.h"
 #include "tests/fakehost/FakeHost.h"
+#include "tests/support/EmbeddedLanguage.h"
 #include "tests/support/FakeTranslator.h"
 #include "tests/support/FatalWarnings.h"
 
@@ -316,14 +317,23 @@ void DialogFormTest::widthCannotBeChanged()
 
 void DialogFormTest::growsWithTheFontAndClipsNothing_data()
 {
+    QTest::addColumn<QString>("language");
     QTest::addColumn<int>("pixels");
     for (const int pixels : {8, 10, 12, 15, 20, 26, 32, 39})
-        QTest::addRow("%d pixels", pixels) << pixels;
+        QTest::addRow("%d pixels", pixels) << QStringLiteral("en") << pixels;
+    // From 100 to 300 % of a usual font.
+    for (const char *language : tests::kLanguages) {
+        for (const int pixels : {13, 16, 20, 26, 39})
+            QTest::addRow("%s, %d pixels", language, pixels) << QString::fromLatin1(language) << pixels;
+    }
 }
 
 void DialogFormTest::growsWithTheFontAndClipsNothing()
 {
+    QFETCH(QString, language);
     QFETCH(int, pixels);
+    const tests::EmbeddedLanguage embedded(QStringLiteral("module"), language);
+    QCOMPARE(embedded.isLoaded(), language != QLatin1String("en"));
     QFont font = m_font;
     font.setPixelSize(pixels);
     QApplication::setFont(font);
@@ -364,7 +374,12 @@ void DialogFormTest::growsWithTheFontAndClipsNothing()
     // No header and no usual category is elided.
     for (int column = 0; column < 3; ++column) {
         const QString header = dialog.proxy->headerData(column, Qt::Horizontal).toString();
-        QVERIFY(table->columnWidth(column) >= table->fontMetrics().horizontalAdvance(header));
+        const int needed = std::max(table->horizontalHeader()->sectionSizeHint(column),
+                                    table->fontMetrics().horizontalAdvance(header));
+        QVERIFY2(
+            table->columnWidth(column) >= needed,
+            qPrintable(
+                QStringLiteral("%1: %2 of %3").arg(header).arg(table->columnWidth(column)).arg(needed)));
     }
     int category = 0;
     for (const QString &text : dialog.shown(0))
