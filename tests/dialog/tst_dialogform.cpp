@@ -374,8 +374,10 @@ void DialogFormTest::growsWithTheFontAndClipsNothing()
     // No header and no usual category is elided.
     for (int column = 0; column < 3; ++column) {
         const QString header = dialog.proxy->headerData(column, Qt::Horizontal).toString();
-        const int needed = std::max(table->horizontalHeader()->sectionSizeHint(column),
-                                    table->fontMetrics().horizontalAdvance(header));
+        const auto headerFont =
+            dialog.proxy->headerData(column, Qt::Horizontal, Qt::FontRole).value<QFont>();
+        const int margin = table->style()->pixelMetric(QStyle::PM_HeaderMargin);
+        const int needed = QFontMetrics(headerFont).horizontalAdvance(header) + 2 * margin;
         QVERIFY2(
             table->columnWidth(column) >= needed,
             qPrintable(
