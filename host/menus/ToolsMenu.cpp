@@ -4,7 +4,7 @@
 #include "host/menus/ToolsMenu.h"
 
 #include "host/captions/KnownCaptions.h"
-#include "host/language/MenuLanguage.h"
+#include "host/menus/MenuLanguage.h"
 #include "host/window/Captions.h"
 #include "host/window/MenuChanges.h"
 

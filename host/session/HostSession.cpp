@@ -9,7 +9,7 @@
 #include "host/files/ProgramProfile.h"
 #include "host/files/SettingsNames.h"
 #include "host/files/TriggerText.h"
-#include "host/language/ProgramLanguage.h"
+#include "host/menus/ProgramLanguage.h"
 #include "host/services/HostEditor.h"
 #include "host/services/SystemServices.h"
 #include "host/session/ExplainedProgram.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
-#include "host/language/MenuLanguage.h"
+#include "host/menus/MenuLanguage.h"
 
 #include "host/captions/KnownCaptions.h"
 #include "host/window/Captions.h"

@@ -16,10 +16,8 @@ namespace gesturewidget {
 // code from `available`, or "en".
 //
 // The menus decide if they are clearly in a language other than English, because programs let a
-// person choose the language. Otherwise it is the first of `preferred` that is available: an
-// English menu may only mean that the program has no other language. `preferred` are names such
-// as "de-AT", as QLocale::uiLanguages() returns them; "en" is always available. `window` may be
-// null.
+// person choose the language. Otherwise chooseLanguage() does: an English menu may only mean that
+// the program has no other language. `window` may be null.
 [[nodiscard]] QString programLanguage(const QMainWindow *window, const QStringList &preferred,
                                       const QStringList &available);
 

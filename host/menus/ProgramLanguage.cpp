@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
-#include "host/language/ProgramLanguage.h"
+#include "host/menus/ProgramLanguage.h"
 
-#include "host/language/MenuLanguage.h"
+#include "host/language/LanguageChoice.h"
+#include "host/menus/MenuLanguage.h"
 #include "host/window/MenuBars.h"
 
 #include <QMenuBar>
@@ -13,11 +14,6 @@ namespace {
 
 // One caption may be the same word in another language.
 constexpr int kClearCount = 2;
-
-QString english()
-{
-    return QStringLiteral("en");
-}
 
 } // namespace
 
@@ -30,12 +26,7 @@ QString programLanguage(const QMainWindow *window, const QStringList &preferred,
         if (menus.count >= kClearCount && menus.count > menus.english && available.contains(menus.code))
             return menus.code;
     }
-    for (const QString &name : preferred) {
-        const QString code = name.left(name.indexOf(QLatin1Char('-')));
-        if (code == english() || code == QLatin1String("C") || available.contains(code))
-            return available.contains(code) ? code : english();
-    }
-    return english();
+    return chooseLanguage(preferred, available);
 }
 
 } // namespace gesturewidget

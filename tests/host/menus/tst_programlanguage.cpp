@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
-#include "host/language/MenuLanguage.h"
-#include "host/language/ProgramLanguage.h"
+#include "host/menus/MenuLanguage.h"
+#include "host/menus/ProgramLanguage.h"
 #include "tests/support/FatalWarnings.h"
 
 #include <QMainWindow>
