@@ -114,7 +114,7 @@ function(gesturewidget_test name)
                                         Qt${GESTUREWIDGET_QT}::Test)
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LANG=C.UTF-8;QT_QPA_PLATFORMTHEME=;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0"
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LANG=C.UTF-8;LANGUAGE=;QT_QPA_PLATFORMTHEME=;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0"
     TIMEOUT 120
     LABELS "${arg_LABELS}")
 endfunction()

@@ -255,7 +255,7 @@ void CommandCatalogue::onActionChanged(Window &window, QAction *action)
 }
 
 // Only the first of many changes starts the timer. Otherwise a program that never rests would put
-// it off for ever. Also, starting a timer takes longer than all other work for a change.
+// it off forever. Also, starting a timer takes longer than all other work for a change.
 void CommandCatalogue::prepareSoon()
 {
     if (m_wasRead && !m_preparation.isActive())

@@ -141,7 +141,7 @@ int doSettingsTask(const CommandLine &line)
     case Task::Print:
         return report(print(subject, path, tasks.bindings(), commands, usualTrigger));
     default:
-        return complain(QStringLiteral("this is no task about settings"), kLauncherFailed);
+        return complain(QStringLiteral("this is not a task about settings"), kLauncherFailed);
     }
 }
 

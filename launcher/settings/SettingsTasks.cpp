@@ -115,7 +115,7 @@ Outcome SettingsTasks::bind(const QString &direction, const QString &command)
         const QStringList names = Bindings::directionNames(bindings.scheme);
         const auto index = names.indexOf(direction.toLower());
         if (index < 0) {
-            complaint = QStringLiteral("\"%1\" is none of the %2 directions: %3")
+            complaint = QStringLiteral("\"%1\" is not one of the %2 directions: %3")
                             .arg(direction)
                             .arg(bindings.scheme)
                             .arg(names.join(QStringLiteral(", ")));
