@@ -4,6 +4,8 @@
 #include "host/commands/CommandCatalogue.h"
 
 #include "host/commands/WellKnownGuess.h"
+#include "host/files/CommandNames.h"
+#include "host/files/DocumentName.h"
 #include "host/window/Captions.h"
 #include "host/window/EntryAction.h"
 
@@ -147,7 +149,7 @@ bool CommandCatalogue::isOutlived(const ActionItem &item) const
         return false;
     // A key that is a path ends with the caption, and with a number if there are several.
     static const QRegularExpression number(QStringLiteral(" \\(\\d+\\)$"));
-    const QString caption = QLatin1Char('/') + item.GetCaption().toQString();
+    const QString caption = QLatin1Char('/') + item.caption();
     QString path = item.key();
     if (!path.endsWith(caption))
         path.remove(number);
@@ -172,7 +174,10 @@ void CommandCatalogue::onActionChanged(QAction *action)
         return;
     prepareSoon();
     const ActionItem *item = m_byAction.value(action);
-    if (item && item->isPresent && ActionItem::isCommand(action)) {
+    // Some programs keep an action for each recent document and change its caption.
+    const bool isStill = ActionItem::isCommand(action)
+                      && (item && (item->isListEntry || !namesADocument(ActionItem::captionOf(action))));
+    if (item && item->isPresent && isStill) {
         m_changedActions.insert(action);
         return;
     }
@@ -199,14 +204,14 @@ void CommandCatalogue::update()
 {
     if (m_stale)
         scan();
-    if (m_changedActions.isEmpty())
-        return;
     for (const QAction *action : std::as_const(m_changedActions)) {
         ActionItem *item = m_byAction.value(action);
         if (item && item->action() == action)
-            item->read();
+            m_namesAreStale |= item->read();
     }
     m_changedActions.clear();
+    if (m_namesAreStale)
+        giveNames();
 }
 
 void CommandCatalogue::scan()
@@ -216,6 +221,7 @@ void CommandCatalogue::scan()
     for (const auto &item : m_items)
         item->wasPresent = std::exchange(item->isPresent, false);
     m_met.reserve(m_items.size());
+    m_lists = {};
     m_places.clear();
     const QVector<QMenuBar *> menuBars = m_watcher.menuBars();
     for (QMenuBar *bar : menuBars)
@@ -223,7 +229,7 @@ void CommandCatalogue::scan()
     const QVector<QToolBar *> toolBars = m_watcher.toolBars();
     for (QToolBar *bar : toolBars) {
         const QString title = plainCaption(bar->windowTitle());
-        walk(bar, {title, title, true});
+        walk(bar, {title, title, true, {}, false});
     }
     // Newcomers come last: only now is it clear which keys are free.
     if (m_guesses)
@@ -268,27 +274,48 @@ void CommandCatalogue::walk(QWidget *widget, const Place &place)
     m_places.insert(place.path);
     m_watcher.watch(widget);
     const QList<QAction *> actions = widget->actions();
+    const bool isTopLevel = place.way.isEmpty() && !place.isInToolBar;
+    const auto kind = ListEntries::kindOf(place.way.value(place.way.size() - 1), isTopLevel);
+    const QSet<const QAction *> entries =
+        place.isOfList ? QSet<const QAction *>() : m_lists.among(actions, kind);
     for (QAction *action : actions) {
         if (ActionItem::isCommand(action)) {
-            meet(action, place);
+            meet(action, place, place.isOfList || entries.contains(action));
         } else if (QMenu *menu = action->menu(); menu && action->isVisible()) {
             const QString title = ActionItem::captionOf(action);
-            walk(menu, {place.group.isEmpty() ? title : place.group, joined(place.path, title),
-                        place.isInToolBar});
+            const bool isTop = place.group.isEmpty();
+            const bool isOfList =
+                place.isOfList || entries.contains(action) || (!isTop && m_lists.isOfOneDocument(title));
+            walk(menu, {isTop ? title : place.group, joined(place.path, title), place.isInToolBar,
+                        isTop ? QStringList() : place.way + QStringList(title), isOfList});
         }
     }
 }
 
-void CommandCatalogue::meet(QAction *action, const Place &place)
+bool CommandCatalogue::isBound(const QAction &action, const QString &path) const
+{
+    for (const QString &key : {action.objectName(), path}) {
+        const ActionItem *item = key.isEmpty() ? nullptr : m_byName.value(key);
+        if (item && item->isExpected)
+            return true;
+    }
+    return false;
+}
+
+void CommandCatalogue::meet(QAction *action, const Place &place, bool isListEntry)
 {
     ActionItem *item = m_byAction.value(action);
+    const auto pathOf = [action, &place] { return joined(place.path, ActionItem::captionOf(action)); };
+    if (item && item->action() == action)
+        item->isListEntry = isListEntry;
+    if (isListEntry && !isBound(*action, pathOf()))
+        return;
     const auto groupOf = [action, &place] {
         return place.group.isEmpty() ? ActionItem::captionOf(action) : place.group;
     };
     // A new action may have the address of a deleted one.
     if (!item || item->action() != action) {
-        m_newcomers.push_back(
-            {action, groupOf(), joined(place.path, ActionItem::captionOf(action)), place.isInToolBar});
+        m_newcomers.push_back({action, groupOf(), pathOf(), place.way, place.isInToolBar, isListEntry});
         return;
     }
     if (item->isPresent)
@@ -297,6 +324,7 @@ void CommandCatalogue::meet(QAction *action, const Place &place)
     if (!item->wasPresent)
         item->read(); // its changes were not reported while it was in no menu
     item->group = groupOf();
+    item->way = place.way;
     item->isInToolBar = place.isInToolBar;
     m_met.push_back(item);
 }
@@ -337,7 +365,9 @@ void CommandCatalogue::admit(const Newcomer &newcomer)
         m_byAction.remove(item->address());
     item->setAction(newcomer.action);
     item->isPresent = true;
+    item->isListEntry = newcomer.isListEntry;
     item->group = newcomer.group;
+    item->way = newcomer.way;
     item->isInToolBar = newcomer.isInToolBar;
     m_byAction.insert(newcomer.action, item);
     m_met.push_back(item);
@@ -392,9 +422,31 @@ void CommandCatalogue::arrangeGroups()
         groupNamed(item->group).items.push_back(item);
     for (const auto &item : m_items) {
         const bool isLacking = item->isLacking && !item->address();
-        if (!item->isPresent && !isLacking && !isOutlived(*item))
+        const bool isListEntry = item->isListEntry && !item->isExpected;
+        if (!item->isPresent && !isLacking && !isListEntry && !isOutlived(*item))
             groupNamed(item->group).items.push_back(item.get());
     }
+    giveNames();
+}
+
+// Tells the commands that are offered apart.
+void CommandCatalogue::giveNames()
+{
+    m_namesAreStale = false;
+    QVector<RememberedCommand> commands;
+    std::vector<ActionItem *> named;
+    for (const auto &group : m_groups) {
+        for (CHxUICommandItem *offered : group->items) {
+            auto *item = static_cast<ActionItem *>(offered);
+            if (item->group.isEmpty())
+                continue; // expected, and nobody knows where it will be
+            commands.append(item->remembered());
+            named.push_back(item);
+        }
+    }
+    const QStringList names = commandNames(commands);
+    for (std::size_t i = 0; i < named.size(); ++i)
+        named[i]->setName(names.at(static_cast<int>(i)));
 }
 
 CommandGroup &CommandCatalogue::groupNamed(const QString &name)

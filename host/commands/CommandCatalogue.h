@@ -5,11 +5,13 @@
 
 #include "host/commands/ActionItem.h"
 #include "host/commands/CommandGroup.h"
+#include "host/commands/ListEntries.h"
 #include "host/window/MenuChanges.h"
 
 #include <QHash>
 #include <QObject>
 #include <QSet>
+#include <QStringList>
 #include <QTimer>
 
 #include <memory>
@@ -31,8 +33,10 @@ namespace gesturewidget {
 // programs rebuild their menus, and a binding must outlive that. For the same reason commands can
 // be expected before a menu has them, and remembered from earlier starts.
 //
-// Some remembered commands without an object name are entries of lists, such as recent documents
-// and windows. They are not offered while their menu is shown without them.
+// Entries of lists, such as recent documents, open windows, layers and steps to undo, are no
+// commands, see ListEntries. One that somebody has bound is offered all the same. Remembered
+// commands without an object name that are not recognised as such are not offered while their menu
+// is shown without them.
 //
 // Reading is cheap: the menus are walked again only after they have changed. Some time after a
 // change this happens by itself, so that a gesture does not have to wait for it.
@@ -107,6 +111,8 @@ private:
         QString group; // empty in a menu bar
         QString path; // the captions on the way to it
         bool isInToolBar = false;
+        QStringList way = {}; // the captions below the top-level menu or toolbar
+        bool isOfList = false; // all its entries are those of a list
     };
 
     // An action that a scan has found and that has no command yet, with its place.
@@ -115,7 +121,9 @@ private:
         QAction *action;
         QString group;
         QString path; // with its own caption
+        QStringList way; // as in Place
         bool isInToolBar;
+        bool isListEntry; // bound all the same
     };
 
     void onActionChanged(QAction *action);
@@ -123,7 +131,9 @@ private:
     void prepare();
     void scan();
     void walk(QWidget *widget, const Place &place);
-    void meet(QAction *action, const Place &place);
+    void meet(QAction *action, const Place &place, bool isListEntry);
+    // True if somebody has bound the action with that path of captions.
+    [[nodiscard]] bool isBound(const QAction &action, const QString &path) const;
     void admit(const Newcomer &newcomer);
     ActionItem *reusable(const QString &key, bool *isTaken) const;
     void guess();
@@ -131,6 +141,7 @@ private:
     ActionItem *expectedFor(const QString &identifier) const;
     ActionItem *add(const QString &identifier, const QString &key);
     void arrangeGroups();
+    void giveNames();
     CommandGroup &groupNamed(const QString &name);
 
     MenuChanges m_watcher;
@@ -147,6 +158,7 @@ private:
     QHash<QString, QString> m_reasons; // of guesses, by identifier
     bool m_guesses = false;
     bool m_stale = true;
+    bool m_namesAreStale = false;
     bool m_wasRead = false;
     QTimer m_preparation;
 
@@ -154,6 +166,7 @@ private:
     QSet<const QWidget *> m_visited;
     std::vector<ActionItem *> m_met; // in the order of the menus
     std::vector<Newcomer> m_newcomers;
+    ListEntries m_lists;
     QHash<const QAction *, QString> m_guessed; // newcomers, to identifier
     QHash<QString, int> m_nextNumbers; // of equal captions, by path
 };
