@@ -75,7 +75,8 @@ public:
     bool isInToolBar = false;
     // True if it is always offered, because somebody has bound it or may bind it.
     bool isExpected = false;
-    // True if it is not offered before it has its first action, because the program has none.
+    // True if it is not offered before it has its first action, because the program seems to have
+    // none.
     bool isLacking = false;
     // True if the key belongs to an action that it had at an earlier start.
     bool isRemembered = false;

@@ -40,6 +40,8 @@ CatalogueMemory::CatalogueMemory(CommandCatalogue &catalogue, const QString &fil
     for (const RememberedCommand &command : commands)
         m_known.insert(command.identifier, command);
     m_catalogue.remember(commands);
+    if (!m_file.isComplete())
+        m_catalogue.trustAll();
 }
 
 CatalogueMemory::~CatalogueMemory() = default;

@@ -100,17 +100,32 @@ void CommandCatalogue::guessWellKnown()
     }
 }
 
+void CommandCatalogue::trust(const QStringList &identifiers)
+{
+    for (const QString &identifier : identifiers)
+        m_trusted.insert(identifier);
+}
+
 void CommandCatalogue::endGuessing()
 {
-    if (!m_guesses)
-        return;
     update();
-    const QStringList identifiers = WellKnownGuess::identifiers();
-    for (const QString &identifier : identifiers) {
-        if (ActionItem *item = expectedFor(identifier); item && !m_wellKnown.contains(identifier))
+    const QStringList wellKnown = WellKnownGuess::identifiers();
+    QStringList unseen;
+    for (const auto &item : m_items) {
+        const QString identifier = item->GetIdentifier().toQString();
+        if (!item->isExpected || item->isLacking || !expectedFor(identifier)
+            || m_wellKnown.contains(identifier))
+            continue;
+        if (wellKnown.contains(identifier)) {
+            item->isLacking = m_guesses;
+        } else if (!m_trustsAll && !m_trusted.contains(identifier)) {
             item->isLacking = true;
+            unseen.append(identifier);
+        }
     }
     m_stale = true;
+    if (!unseen.isEmpty())
+        Q_EMIT dropped(unseen);
 }
 
 void CommandCatalogue::remember(const QVector<RememberedCommand> &commands)

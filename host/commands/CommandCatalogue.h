@@ -61,6 +61,11 @@ public:
     // Offers a command from now on in every case, also without an action. `caption` is used if
     // nothing is known about the command.
     void expect(const QString &identifier, const QString &caption);
+    // Goes on offering such a command although nobody has seen it when the menus are complete.
+    void trust(const QStringList &identifiers);
+    // The same for every command that somebody has bound, because what earlier starts have seen is
+    // not known.
+    void trustAll() { m_trustsAll = true; }
     // Offers the commands from an earlier start, with the identifiers that they had. Call this
     // before anything else is known.
     void remember(const QVector<RememberedCommand> &commands);
@@ -70,8 +75,9 @@ public:
     // All of them are expected at first: many programs show some menus only when a drawing is
     // open, and a direction loses a command that is not offered.
     void guessWellKnown();
-    // The menus are complete: well-known commands without an action are not offered until they
-    // have one.
+    // The menus are complete: guessed commands without an action are not offered until they have
+    // one. The same goes for bound commands that no start has ever seen, because their identifiers
+    // are probably mistyped. Commands that the profile names or that are trusted stay.
     void endGuessing();
     // Returns the reason for a guess; empty if the identifier was not guessed.
     [[nodiscard]] QString reasonFor(const QString &identifier) const
@@ -101,6 +107,8 @@ public:
 Q_SIGNALS:
     // The structure of the menus has changed. Emitted in the middle of the change.
     void menusChanged();
+    // Bound commands are no longer offered, because the program has never shown them.
+    void dropped(const QStringList &identifiers);
     // The changes are read. Emitted from the event loop, kPreparationTime after a change.
     void prepared();
 
@@ -156,6 +164,8 @@ private:
     QSet<QString> m_places; // the paths of the menus and toolbars that the last scan met
     QSet<const QAction *> m_changedActions;
     QHash<QString, QString> m_reasons; // of guesses, by identifier
+    QSet<QString> m_trusted; // identifiers
+    bool m_trustsAll = false;
     bool m_guesses = false;
     bool m_stale = true;
     bool m_namesAreStale = false;

@@ -180,7 +180,11 @@ CatalogueFile::CatalogueFile(const QString &path)
 
 QVector<RememberedCommand> CatalogueFile::read()
 {
-    return m_path.isEmpty() ? QVector<RememberedCommand>() : lastGood().commands;
+    if (m_path.isEmpty())
+        return {};
+    const Content content = lastGood();
+    m_isComplete = content.state == State::Good || content.state == State::Missing;
+    return content.commands;
 }
 
 bool CatalogueFile::merge(const QVector<RememberedCommand> &seen, const QStringList &gone)

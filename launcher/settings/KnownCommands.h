@@ -32,6 +32,11 @@ public:
     // means no command or several. While nothing was ever shown, every text is an identifier.
     [[nodiscard]] QString resolve(const QString &text, const QString &program,
                                   QString &identifier) const;
+    // Returns whether resolve() can tell if the program has a command of that identifier.
+    [[nodiscard]] bool canJudge(const QString &identifier) const
+    {
+        return !m_shown.isEmpty() || m_wellKnown.contains(identifier);
+    }
     // All commands that were shown, by menu and toolbar. Fails when none was.
     [[nodiscard]] Outcome list(const QString &program) const;
     // The same as JSON, in the order in which they were first seen.
