@@ -30,6 +30,19 @@ Outcome outcomeOf(bool isDone, const SettingsFile &file)
     return isDone ? Outcome() : Outcome::failure(file.problem());
 }
 
+// The settings for imported bindings. Their commands may be new to this computer.
+SettingsFile::Values imported(const Bindings &bindings)
+{
+    SettingsFile::Values values = bindings.toSettings();
+    QStringList identifiers = bindings.four + bindings.eight;
+    identifiers.removeAll(QString());
+    identifiers.removeDuplicates();
+    values.insert(SettingsFile::nameOf(gesturewidget::settingsnames::hostSection(),
+                                       gesturewidget::settingsnames::importedKey()),
+                  identifiers.join(QLatin1Char('\n')));
+    return values;
+}
+
 void append(QByteArray &text, const QString &line)
 {
     text += line.toLocal8Bit() + '\n';
@@ -129,7 +142,15 @@ Outcome SettingsTasks::bind(const QString &direction, const QString &command)
         commands[index] = wanted;
         return bindings.changesFrom(now);
     });
-    return complaint.isEmpty() ? outcomeOf(isDone, file) : Outcome::failure(complaint);
+    if (!complaint.isEmpty())
+        return Outcome::failure(complaint);
+    Outcome outcome = outcomeOf(isDone, file);
+    if (isDone && !wanted.isEmpty() && !m_commands.canJudge(wanted))
+        append(outcome.output,
+               QStringLiteral("%1 has not run with gestures yet; if it has no command \"%2\", the "
+                              "direction becomes empty")
+                   .arg(m_program, wanted.simplified()));
+    return outcome;
 }
 
 Outcome SettingsTasks::reset()
@@ -183,7 +204,7 @@ Outcome SettingsTasks::importText(const QByteArray &text, const QString &source)
 
     SettingsFile file(m_file);
     const bool isDone =
-        file.change([&bindings](const SettingsFile::Values &) { return bindings.toSettings(); },
+        file.change([&bindings](const SettingsFile::Values &) { return imported(bindings); },
                     m_file + QLatin1String(".before-import"));
     return isDone ? Outcome()
                   : Outcome::failure(file.problem() + QLatin1String(", so nothing is imported"));
