@@ -31,6 +31,8 @@ public:
     // means no command or several. While nothing was ever shown, every text is an identifier.
     [[nodiscard]] QString resolve(const QString &text, const QString &program,
                                   QString &identifier) const;
+    // The commands that were shown, in the order in which they were first seen.
+    [[nodiscard]] const QVector<gesturewidget::RememberedCommand> &shown() const { return m_shown; }
     // All commands that were shown, by menu and toolbar. Fails when none was.
     [[nodiscard]] Outcome list(const QString &program) const;
     // The same as JSON, in the order in which they were first seen.
@@ -40,5 +42,9 @@ private:
     QVector<gesturewidget::RememberedCommand> m_shown;
     QStringList m_wellKnown;
 };
+
+// A caption for a command that has never been seen: "Line" for "ID_LINE", and the last caption of a
+// path of captions.
+[[nodiscard]] QString captionFrom(const QString &identifier);
 
 } // namespace launcher
