@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QSortFilterProxyModel>
+#include <QStyledItemDelegate>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -46,6 +47,20 @@ int directionOfKey(int key)
         return -1;
     }
 }
+
+// Rows with the same height, with and without an icon, and some air.
+class RowDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem &option,
+                                 const QModelIndex &index) const override
+    {
+        const QSize size = QStyledItemDelegate::sizeHint(option, index);
+        return {size.width(), qMax(size.height(), qMax(kIconSize, option.fontMetrics.height()) + 6)};
+    }
+};
 
 } // namespace
 
@@ -90,6 +105,7 @@ CommandPanel::CommandPanel(QWidget *parent)
         tr("Ctrl and an arrow key puts the chosen command into that direction; Ctrl with Home, "
            "Page Up, End or Page Down into the one between."));
     m_view->setModel(m_filter);
+    m_view->setItemDelegate(new RowDelegate(m_view));
     m_view->setIconSize({kIconSize, kIconSize});
     m_view->setUniformRowHeights(true);
     m_view->setDragEnabled(true);

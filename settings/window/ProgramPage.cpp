@@ -25,6 +25,7 @@ namespace settings {
 namespace {
 
 constexpr int kIconSize = 48; // pixels
+constexpr int kBetween = 14; // pixels
 constexpr double kTitleGrowth = 1.5;
 
 } // namespace
@@ -36,6 +37,7 @@ ProgramPage::ProgramPage(QWidget *parent)
     layout->addWidget(createHeader());
     auto *middle = new QSplitter(this);
     middle->setChildrenCollapsible(false);
+    middle->setHandleWidth(kBetween);
     middle->addWidget(createRing());
     middle->addWidget(createCommands());
     middle->setStretchFactor(0, 1);

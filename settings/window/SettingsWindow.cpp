@@ -28,6 +28,8 @@
 
 #include <unistd.h>
 
+#include <algorithm>
+
 namespace settings {
 namespace {
 
@@ -42,6 +44,15 @@ launcher::DesktopMenu::Places placesOfMenus()
         environment.value("PATH", launcher::kDefaultSearchPath), launcher::launcherPath());
 }
 
+bool hasProfile(const launcher::Subject &subject)
+{
+    return std::any_of(subject.profileFolders.begin(), subject.profileFolders.end(),
+                       [&subject](const QString &folder) {
+                           return QFileInfo::exists(
+                               QDir(folder).filePath(subject.name + QLatin1String(".json")));
+                       });
+}
+
 } // namespace
 
 SettingsWindow::SettingsWindow()
@@ -54,7 +65,7 @@ SettingsWindow::SettingsWindow()
     m_programs = new ProgramPanel(&m_model, this);
     m_page = new ProgramPage(this);
     m_message = new MessageBar(this);
-    m_empty = new QLabel(tr("Choose a program."), this);
+    m_empty = new QLabel(tr("Looking for programs..."), this);
     m_empty->setAlignment(Qt::AlignCenter);
     m_pages = new QStackedWidget(this);
     m_pages->addWidget(m_empty);
@@ -91,7 +102,6 @@ SettingsWindow::SettingsWindow()
     connect(m_exchange, &Exchange::done, m_message, &MessageBar::tell);
     connect(&m_finder, &ProgramFinder::found, this, [this](const launcher::MenuProgram &program) {
         m_model.add(program);
-        offerFirst();
     });
     connect(&m_finder, &ProgramFinder::progressed, m_programs, &ProgramPanel::showProgress);
     connect(&m_finder, &ProgramFinder::finished, this, &SettingsWindow::endSearch);
@@ -207,15 +217,28 @@ void SettingsWindow::endSearch()
 {
     m_model.endSearch();
     m_programs->hideProgress();
+    offerFirst();
     // A chosen program that is gone stays on its page, with what stands in the way.
     m_page->examine();
 }
 
-// The first program in the list is shown until somebody chooses.
+// Until somebody chooses, a program is shown that starts with gestures, or else one that a profile
+// describes, or else the first.
 void SettingsWindow::offerFirst()
 {
-    if (!m_editor && m_model.rowCount() > 0)
-        m_programs->choose(0);
+    if (m_editor || m_model.rowCount() == 0)
+        return;
+    int row = 0;
+    int rank = 0;
+    for (int i = 0; i < m_model.rowCount(); ++i) {
+        const launcher::Subject subject = launcher::Subject::of(m_model.program(i).typed);
+        const int own = m_model.isOn(i) ? 2 : hasProfile(subject) ? 1 : 0;
+        if (own > rank) {
+            row = i;
+            rank = own;
+        }
+    }
+    m_programs->choose(row);
 }
 
 void SettingsWindow::choose(int row)
