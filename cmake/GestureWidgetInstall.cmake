@@ -37,7 +37,7 @@ install(TARGETS gesturewidget_inject_installed
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}/gesturewidget/qt${qt}/plugins/generic"
   COMPONENT Runtime)
 
-install(TARGETS mouse-gestures
+install(TARGETS mouse-gestures mouse-gestures-settings
   RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT Runtime${common})
 install(TARGETS mouse-gestures-sheet
   RUNTIME DESTINATION libexec/gesturewidget COMPONENT Runtime${common})

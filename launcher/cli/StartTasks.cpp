@@ -5,10 +5,10 @@
 
 #include "host/files/InstallPaths.h"
 #include "launcher/cli/Report.h"
-#include "launcher/programs/Subject.h"
 #include "launcher/explain/ProgramExplainer.h"
 #include "launcher/programs/LaunchEnvironment.h"
 #include "launcher/programs/ProgramCheck.h"
+#include "launcher/programs/Subject.h"
 
 #include <QJsonDocument>
 
@@ -87,8 +87,8 @@ int startProgram(const CommandLine &line)
 int openWindow(const CommandLine &line)
 {
     const Environment environment = readEnvironment(::environ);
-    const bool hasDisplay = !environment.value("DISPLAY").isEmpty()
-                         || !environment.value("WAYLAND_DISPLAY").isEmpty();
+    const bool hasDisplay =
+        !environment.value("DISPLAY").isEmpty() || !environment.value("WAYLAND_DISPLAY").isEmpty();
     const QByteArray window = launcherFolder() + kWindow;
     if (hasDisplay)
         ::execl(window.constData(), window.constData(), static_cast<char *>(nullptr));

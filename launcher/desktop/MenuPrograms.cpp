@@ -45,8 +45,7 @@ QString canonical(const QByteArray &path)
 
 bool isShown(const DesktopFile &file)
 {
-    return file.isApplication() && file.value("NoDisplay") != "true"
-        && file.value("Terminal") != "true";
+    return file.isApplication() && file.value("NoDisplay") != "true" && file.value("Terminal") != "true";
 }
 
 } // namespace
@@ -119,8 +118,8 @@ bool MenuPrograms::canHaveGestures(const MenuProgram &program, const QByteArray 
     const QList<QByteArray> words = categories.split(';');
     if (words.contains("Qt"))
         return true;
-    const QString name = gesturewidget::chooseProgramName(
-        QFile::decodeName(program.typed), canonical(program.path), m_profileFolders);
+    const QString name = gesturewidget::chooseProgramName(QFile::decodeName(program.typed),
+                                                          canonical(program.path), m_profileFolders);
     return QFileInfo::exists(gesturewidget::settingsFile(name))
         || std::any_of(m_profileFolders.begin(), m_profileFolders.end(), [&name](const QString &folder) {
                return QFileInfo::exists(QDir(folder).filePath(name + QLatin1String(".json")));

@@ -87,7 +87,8 @@ void reportProgram(const Symptoms &symptoms, Report &report)
         report.add(Matter::Qt, QStringLiteral("not known before it runs: a script"));
         break;
     case QtWidgetsUse::None:
-        report.addProblem(Matter::Qt, QStringLiteral("none; gestures need a program made with Qt Widgets"));
+        report.addProblem(Matter::Qt,
+                          QStringLiteral("none; gestures need a program made with Qt Widgets"));
         break;
     }
 }
@@ -103,8 +104,8 @@ void reportPlugin(const Symptoms &symptoms, Report &report)
     }
     if (found.isEmpty())
         report.addProblem(Matter::PlugIn, wanted == 0
-                                         ? QStringLiteral("not installed")
-                                         : QStringLiteral("not installed for Qt %1").arg(wanted));
+                                              ? QStringLiteral("not installed")
+                                              : QStringLiteral("not installed for Qt %1").arg(wanted));
     else
         report.add(Matter::PlugIn, found.join(QStringLiteral(", ")));
 }
@@ -118,11 +119,12 @@ void reportDisplay(const Symptoms &symptoms, Report &report)
         !wayland.isEmpty() || symptoms.environment.value("XDG_SESSION_TYPE") == "wayland";
     if (lacksX11(prepared))
         report.addProblem(Matter::Display, QStringLiteral("Wayland without X11; the ring may open away "
-                                                    "from the pointer"));
+                                                          "from the pointer"));
     else if (display.isEmpty())
         report.addProblem(Matter::Display, QStringLiteral("none"));
     else if (isWayland)
-        report.add(Matter::Display, QStringLiteral("Wayland; the program will use X11, %1").arg(display));
+        report.add(Matter::Display,
+                   QStringLiteral("Wayland; the program will use X11, %1").arg(display));
     else
         report.add(Matter::Display, QStringLiteral("X11, %1").arg(display));
 
@@ -185,9 +187,9 @@ void reportSettings(const Symptoms &symptoms, const gesturewidget::ProgramProfil
         report.addProblem(Matter::Settings,
                           QStringLiteral("%1, cannot be written").arg(symptoms.settingsFile));
     else
-        report.add(Matter::Settings, file.exists()
-                                   ? symptoms.settingsFile
-                                   : QStringLiteral("%1, not there yet").arg(symptoms.settingsFile));
+        report.add(Matter::Settings,
+                   file.exists() ? symptoms.settingsFile
+                                 : QStringLiteral("%1, not there yet").arg(symptoms.settingsFile));
 
     const Bindings bindings =
         canWrite && file.exists()
@@ -198,8 +200,8 @@ void reportSettings(const Symptoms &symptoms, const gesturewidget::ProgramProfil
     else
         report.add(Matter::Gestures, QStringLiteral("on, %1 of them").arg(bindings.scheme));
     report.add(Matter::Trigger, bindings.trigger.isEmpty() ? gesturewidget::triggerText(
-                              profile.triggerButton, profile.triggerModifiers)
-                                                     : bindings.trigger);
+                                    profile.triggerButton, profile.triggerModifiers)
+                                                           : bindings.trigger);
 }
 
 } // namespace

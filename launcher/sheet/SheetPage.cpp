@@ -6,9 +6,9 @@
 #include "launcher/sheet/SheetPainter.h"
 
 #include <QLocale>
+#include <QPagedPaintDevice>
 #include <QPageLayout>
 #include <QPageSize>
-#include <QPagedPaintDevice>
 #include <QPainter>
 
 namespace sheet {

@@ -46,15 +46,14 @@ QString wellKnownCaption(const QString &identifier)
 
 QString directionInWords(const QString &name)
 {
-    static constexpr const char *kNames[] = {
-        QT_TRANSLATE_NOOP("settings::Directions", "up"),
-        QT_TRANSLATE_NOOP("settings::Directions", "up-left"),
-        QT_TRANSLATE_NOOP("settings::Directions", "left"),
-        QT_TRANSLATE_NOOP("settings::Directions", "down-left"),
-        QT_TRANSLATE_NOOP("settings::Directions", "down"),
-        QT_TRANSLATE_NOOP("settings::Directions", "down-right"),
-        QT_TRANSLATE_NOOP("settings::Directions", "right"),
-        QT_TRANSLATE_NOOP("settings::Directions", "up-right")};
+    static constexpr const char *kNames[] = {QT_TRANSLATE_NOOP("settings::Directions", "up"),
+                                             QT_TRANSLATE_NOOP("settings::Directions", "up-left"),
+                                             QT_TRANSLATE_NOOP("settings::Directions", "left"),
+                                             QT_TRANSLATE_NOOP("settings::Directions", "down-left"),
+                                             QT_TRANSLATE_NOOP("settings::Directions", "down"),
+                                             QT_TRANSLATE_NOOP("settings::Directions", "down-right"),
+                                             QT_TRANSLATE_NOOP("settings::Directions", "right"),
+                                             QT_TRANSLATE_NOOP("settings::Directions", "up-right")};
     for (const char *one : kNames) {
         if (name == QLatin1String(one))
             return QCoreApplication::translate("settings::Directions", one)
@@ -103,7 +102,7 @@ BindingsEditor::BindingsEditor(const launcher::Subject &subject, const QString &
     , m_subject(subject)
     , m_title(title)
     , m_settings(launcher::ProgramSettings::of(subject))
-    , m_bindings(m_settings.tasks.bindings())
+    , m_bindings(m_settings.tasks.bindings(&m_notice))
 {
     m_reload.setSingleShot(true);
     m_reload.setInterval(kSettle);
@@ -113,8 +112,7 @@ BindingsEditor::BindingsEditor(const launcher::Subject &subject, const QString &
         if (m_seen != stateOfFiles())
             reload();
     });
-    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, &m_reload,
-            qOverload<>(&QTimer::start));
+    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, &m_reload, qOverload<>(&QTimer::start));
     watch();
     m_seen = stateOfFiles();
 }
@@ -167,9 +165,10 @@ bool BindingsEditor::swap(int direction, int other)
             return QString();
         },
         &made);
-    return finish(outcome, made,
-                  tr("Exchange %1 and %2")
-                      .arg(directionInWords(names.value(direction)), directionInWords(names.value(other))));
+    return finish(
+        outcome, made,
+        tr("Exchange %1 and %2")
+            .arg(directionInWords(names.value(direction)), directionInWords(names.value(other))));
 }
 
 bool BindingsEditor::setScheme(int scheme)
@@ -231,15 +230,15 @@ void BindingsEditor::reload()
 {
     const QVector<gesturewidget::RememberedCommand> before = m_settings.commands.shown();
     m_settings = launcher::ProgramSettings::of(m_subject);
-    QString notice;
-    m_bindings = m_settings.tasks.bindings(&notice);
+    const QString noticeBefore = m_notice;
+    m_bindings = m_settings.tasks.bindings(&m_notice);
     watch();
     m_seen = stateOfFiles();
     if (before != m_settings.commands.shown())
         Q_EMIT commandsChanged();
     Q_EMIT bindingsChanged();
-    if (!notice.isEmpty())
-        Q_EMIT noticed(notice);
+    if (!m_notice.isEmpty() && m_notice != noticeBefore)
+        Q_EMIT noticed(m_notice);
 }
 
 QString BindingsEditor::stateOfFiles() const

@@ -35,6 +35,8 @@ public:
     [[nodiscard]] QString trigger() const;
     [[nodiscard]] const QString &usualTrigger() const { return m_settings.usualTrigger; }
     [[nodiscard]] const launcher::SettingsTasks &tasks() const { return m_settings.tasks; }
+    // One line about the file, such as that it was damaged; empty if all is well.
+    [[nodiscard]] const QString &notice() const { return m_notice; }
     [[nodiscard]] QUndoStack *undoStack() { return &m_undo; }
     // What a person reads for a command: its caption, or a word for an identifier that the program
     // has not shown yet.
@@ -61,7 +63,7 @@ Q_SIGNALS:
     void commandsChanged();
     // One line about something that could not be done; nothing is changed then.
     void failed(const QString &complaint);
-    // One line about the file, such as that it was damaged.
+    // There is a new notice().
     void noticed(const QString &notice);
 
 private:
@@ -77,7 +79,8 @@ private:
     launcher::Subject m_subject;
     QString m_title;
     launcher::ProgramSettings m_settings;
-    launcher::Bindings m_bindings;
+    QString m_notice;
+    launcher::Bindings m_bindings; // reading them fills the notice
     QUndoStack m_undo;
     QFileSystemWatcher m_watcher;
     QTimer m_reload;

@@ -34,9 +34,9 @@ Exchange::Exchange(QWidget *window)
 
 void Exchange::exportBindings(const BindingsEditor &editor)
 {
-    const QString proposed = QDir::home().filePath(editor.subject().name + QLatin1String("-gestures.json"));
-    const QString path =
-        QFileDialog::getSaveFileName(m_window, tr("Export"), proposed, filterOf());
+    const QString proposed =
+        QDir::home().filePath(editor.subject().name + QLatin1String("-gestures.json"));
+    const QString path = QFileDialog::getSaveFileName(m_window, tr("Export"), proposed, filterOf());
     if (path.isEmpty())
         return;
     const launcher::Outcome outcome = editor.tasks().exportTo(path);

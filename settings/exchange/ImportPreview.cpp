@@ -37,7 +37,8 @@ ImportPreview::ImportPreview(const BindingsEditor &editor, const launcher::Bindi
     QPushButton *import = buttons->addButton(tr("&Import"), QDialogButtonBox::AcceptRole);
     buttons->addButton(QDialogButtonBox::Cancel);
     if (changes() == 0) {
-        label->setText(tr("%1 has what %2 has already. Nothing would change.").arg(source, editor.title()));
+        label->setText(
+            tr("%1 has what %2 has already. Nothing would change.").arg(source, editor.title()));
         import->setEnabled(false);
         m_list->hide();
     } else {
@@ -73,7 +74,8 @@ void ImportPreview::compare(const BindingsEditor &editor, const launcher::Bindin
     if (present.enabled != wanted.enabled)
         addLine(tr("Gestures"), onOrOff(present.enabled), onOrOff(wanted.enabled));
     if (present.scheme != wanted.scheme)
-        addLine(tr("Directions in use"), QString::number(present.scheme), QString::number(wanted.scheme));
+        addLine(tr("Directions in use"), QString::number(present.scheme),
+                QString::number(wanted.scheme));
     if (present.trigger != wanted.trigger)
         addLine(tr("A gesture starts with"), trigger(present.trigger), trigger(wanted.trigger));
     for (const int scheme : {4, 8}) {

@@ -39,7 +39,8 @@ public:
             return {tr("Changes cannot be kept: %1").arg(finding.text),
                     tr("Make that file and its folder yours, and writable.")};
         case Matter::Gestures:
-            return {tr("Gestures are switched off in the settings of %1.").arg(title), {},
+            return {tr("Gestures are switched off in the settings of %1.").arg(title),
+                    {},
                     Advice::Remedy::EnableGestures};
         default:
             return {finding.line().mid(2).simplified(), {}};

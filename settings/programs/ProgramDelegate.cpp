@@ -76,9 +76,8 @@ void ProgramDelegate::paint(QPainter *painter, const QStyleOptionViewItem &given
         small.setPointSizeF(small.pointSizeF() * 0.88);
     painter->setFont(small);
     const QString note = index.data(ProgramModel::NoteRole).toString();
-    painter->drawText(
-        visual(name.translated(0, height)), alignment,
-        QFontMetrics(small).elidedText(note, Qt::ElideRight, name.width()));
+    painter->drawText(visual(name.translated(0, height)), alignment,
+                      QFontMetrics(small).elidedText(note, Qt::ElideRight, name.width()));
     painter->restore();
 
     // On the colour of a selected row, a switch of that colour would not be seen.
@@ -90,8 +89,7 @@ void ProgramDelegate::paint(QPainter *painter, const QStyleOptionViewItem &given
         QStyleOptionFocusRect focus;
         focus.QStyleOption::operator=(option);
         focus.rect = row.adjusted(1, 1, -1, -1);
-        focus.backgroundColor =
-            option.palette.color(isSelected ? QPalette::Highlight : QPalette::Base);
+        focus.backgroundColor = option.palette.color(isSelected ? QPalette::Highlight : QPalette::Base);
         style->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, painter, option.widget);
     }
 }
@@ -103,7 +101,9 @@ bool ProgramDelegate::editorEvent(QEvent *event, QAbstractItemModel *model,
     if (event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::MouseButtonDblClick) {
         const auto *mouse = static_cast<QMouseEvent *>(event);
         isToggled = mouse->button() == Qt::LeftButton
-                 && switchRect(option).adjusted(-kMargin, -kMargin, kMargin, kMargin).contains(qtbridge::localPosition(*mouse));
+                 && switchRect(option)
+                        .adjusted(-kMargin, -kMargin, kMargin, kMargin)
+                        .contains(qtbridge::localPosition(*mouse));
     } else if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent *>(event)->key();
         isToggled = key == Qt::Key_Space || key == Qt::Key_Select;

@@ -106,8 +106,7 @@ void CommandModel::showDirections(const BindingsEditor &editor)
             QStandardItem *place = menu->child(i, DirectionColumn);
             const auto direction =
                 static_cast<int>(bound.indexOf(command->data(IdentifierRole).toString()));
-            if (place->data(DirectionRole).isValid()
-                && place->data(DirectionRole).toInt() == direction
+            if (place->data(DirectionRole).isValid() && place->data(DirectionRole).toInt() == direction
                 && place->text() == directionInWords(names.value(direction)))
                 continue;
             place->setData(direction, DirectionRole);

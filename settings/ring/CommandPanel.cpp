@@ -114,8 +114,7 @@ CommandPanel::CommandPanel(QWidget *parent)
     m_view->setContextMenuPolicy(Qt::CustomContextMenu);
     m_view->header()->setStretchLastSection(false);
     m_view->header()->setSectionResizeMode(CommandModel::CommandColumn, QHeaderView::Stretch);
-    m_view->header()->setSectionResizeMode(CommandModel::DirectionColumn,
-                                           QHeaderView::ResizeToContents);
+    m_view->header()->setSectionResizeMode(CommandModel::DirectionColumn, QHeaderView::ResizeToContents);
     m_view->header()->setSectionsMovable(false);
 
     m_put->setObjectName(QStringLiteral("put_button"));
@@ -165,11 +164,10 @@ void CommandPanel::showCommands(const BindingsEditor &editor)
     const QString before = chosenCommand().identifier;
     m_model->showCommands(editor);
     m_view->expandAll();
-    const QModelIndexList same =
-        before.isEmpty()
-            ? QModelIndexList()
-            : m_filter->match(m_filter->index(0, 0), CommandModel::IdentifierRole, before, 1,
-                              Qt::MatchExactly | Qt::MatchRecursive);
+    const QModelIndexList same = before.isEmpty()
+                                   ? QModelIndexList()
+                                   : m_filter->match(m_filter->index(0, 0), CommandModel::IdentifierRole,
+                                                     before, 1, Qt::MatchExactly | Qt::MatchRecursive);
     if (!same.isEmpty())
         m_view->setCurrentIndex(same.first());
     showDirections(editor);
@@ -220,12 +218,12 @@ void CommandPanel::fillMenu(QMenu &menu)
             present = i;
         QString text = directionInWords(names.at(i));
         text = text.left(1).toUpper() + text.mid(1);
-        QAction *action =
-            menu.addAction(arrowIcon(names.at(i)),
-                           holder.isEmpty() ? text
-                                            : tr("%1 (now %2)", "a direction and its command")
-                                                  .arg(text, QString(holder).replace(
-                                                                 QLatin1Char('&'), QLatin1String("&&"))));
+        QAction *action = menu.addAction(
+            arrowIcon(names.at(i)),
+            holder.isEmpty()
+                ? text
+                : tr("%1 (now %2)", "a direction and its command")
+                      .arg(text, QString(holder).replace(QLatin1Char('&'), QLatin1String("&&"))));
         action->setEnabled(m_ring.at(i).identifier != command.identifier);
         connect(action, &QAction::triggered, this,
                 [this, i, command] { Q_EMIT wanted(command.identifier, i); });

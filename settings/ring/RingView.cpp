@@ -19,10 +19,10 @@ namespace settings {
 namespace {
 
 // Pixels at the ring's own size of draw::kRingSize.
-constexpr double kIconSize = 18.0;
-constexpr double kLargestText = 9.0;
-constexpr double kSmallestText = 6.0;
-constexpr double kFocusInset = 3.5;
+constexpr double kIconSize = 15.0;
+constexpr double kLargestText = 7.4;
+constexpr double kSmallestText = 5.4;
+constexpr double kOutline = 2.2;
 
 } // namespace
 
@@ -46,8 +46,8 @@ void RingView::setCommands(const QVector<ShownCommand> &commands)
         m_target = m_taken = m_pickedUp = -1;
         for (int i = 0; i < count; ++i) {
             auto *button = new SectorButton(this);
-            button->setObjectName(
-                QStringLiteral("sector_") + launcher::Bindings::directionNames(count).at(i));
+            button->setObjectName(QStringLiteral("sector_")
+                                  + launcher::Bindings::directionNames(count).at(i));
             connect(button, &SectorButton::clicked, this, [this, i] { Q_EMIT activated(i); });
             connect(button, &SectorButton::lookChanged, this, [this, i](bool hasFocus) {
                 if (hasFocus)
@@ -76,8 +76,8 @@ void RingView::describe()
     for (int i = 0; i < count; ++i) {
         const QString caption = m_commands.at(i).caption;
         const QString name = directionInWords(names.at(i));
-        m_buttons.at(i)->setAccessibleName(
-            caption.isEmpty() ? tr("%1: nothing").arg(name) : tr("%1: %2").arg(name, caption));
+        m_buttons.at(i)->setAccessibleName(caption.isEmpty() ? tr("%1: nothing").arg(name)
+                                                             : tr("%1: %2").arg(name, caption));
         m_buttons.at(i)->setAccessibleDescription(
             i == m_pickedUp
                 ? tr("Picked up. Space at another direction exchanges the two.")
@@ -256,31 +256,17 @@ void RingView::paintEvent(QPaintEvent * /*event*/)
 
     const QRectF middle = ringart::middleBox(box.width());
     painter.setPen(palette().color(QPalette::WindowText));
-    sheet::FittedText(m_middleText, font(), middle.size(), qRound(9.0 * scale), qRound(6.0 * scale), 6)
+    sheet::FittedText(m_middleText, font(), middle.size(), qRound(8.0 * scale), qRound(5.0 * scale), 6)
         .paint(painter, middle, Qt::AlignHCenter);
 
     const auto outline = [&](int direction, const QColor &color, Qt::PenStyle style) {
+        const QPainterPath sector =
+            draw::sectorPath(count, direction, draw::kInnerRadius, draw::kOuterRadius);
         painter.save();
         painter.scale(scale, scale);
-        painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(color, 2.0, style, Qt::RoundCap, Qt::RoundJoin));
-        // Inside the sector, so that the neighbours stay as they are.
-        const double half = draw::sectorWidth(count) / 2.0;
-        const double centre = draw::sectorCentre(count, direction);
-        const auto arc = [&](QPainterPath &path, double radius, bool isBackwards) {
-            const double inset = kFocusInset / radius * 180.0 / 3.14159265358979323846;
-            const double start = centre - half + inset;
-            const double sweep = 2.0 * (half - inset);
-            if (path.elementCount() == 0)
-                path.arcMoveTo(draw::circle(radius), start);
-            path.arcTo(draw::circle(radius), isBackwards ? start + sweep : start,
-                       isBackwards ? -sweep : sweep);
-        };
-        QPainterPath path;
-        arc(path, draw::kOuterRadius - kFocusInset, false);
-        arc(path, draw::kInnerRadius + kFocusInset, true);
-        path.closeSubpath();
-        painter.drawPath(path);
+        painter.setClipPath(sector); // only the inner half of the line, the neighbours stay as they are
+        painter.setPen(QPen(color, 2.0 * kOutline, style, Qt::FlatCap, Qt::MiterJoin));
+        painter.drawPath(sector);
         painter.restore();
     };
     if (m_pickedUp >= 0)

@@ -35,7 +35,7 @@ bool SectorButton::event(QEvent *event)
     return isDone;
 }
 
-void SectorButton::paintEvent(QPaintEvent * /*event*/) {}
+void SectorButton::paintEvent(QPaintEvent * /*event*/) { }
 
 void SectorButton::mousePressEvent(QMouseEvent *event)
 {

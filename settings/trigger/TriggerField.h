@@ -17,6 +17,7 @@ public:
     explicit TriggerField(QWidget *parent = nullptr);
 
     [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
 Q_SIGNALS:
     // Written as in host/files/TriggerText.h. It may be one that nobody may choose.

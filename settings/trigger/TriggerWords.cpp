@@ -49,10 +49,10 @@ QString triggerInWords(const QString &trigger)
 
 QStringList commonTriggers()
 {
-    return {QStringLiteral("right"),       QStringLiteral("middle"),      QStringLiteral("back"),
-            QStringLiteral("forward"),     QStringLiteral("ctrl+right"),  QStringLiteral("shift+right"),
-            QStringLiteral("alt+right"),   QStringLiteral("ctrl+middle"), QStringLiteral("shift+middle"),
-            QStringLiteral("ctrl+left"),   QStringLiteral("alt+left")};
+    return {QStringLiteral("right"),     QStringLiteral("middle"),      QStringLiteral("back"),
+            QStringLiteral("forward"),   QStringLiteral("ctrl+right"),  QStringLiteral("shift+right"),
+            QStringLiteral("alt+right"), QStringLiteral("ctrl+middle"), QStringLiteral("shift+middle"),
+            QStringLiteral("ctrl+left"), QStringLiteral("alt+left")};
 }
 
 } // namespace settings

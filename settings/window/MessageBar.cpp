@@ -59,10 +59,10 @@ QString MessageBar::text() const
 void MessageBar::showText(const QString &text, bool isComplaint)
 {
     const int side = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
-    m_icon->setPixmap(style()
-                          ->standardIcon(isComplaint ? QStyle::SP_MessageBoxWarning
-                                                     : QStyle::SP_MessageBoxInformation)
-                          .pixmap(side, side));
+    m_icon->setPixmap(
+        style()
+            ->standardIcon(isComplaint ? QStyle::SP_MessageBoxWarning : QStyle::SP_MessageBoxInformation)
+            .pixmap(side, side));
     m_label->setText(text);
     setAccessibleName(text);
     show();

@@ -144,8 +144,9 @@ void ProgramPage::connectParts()
     connect(m_four, &QRadioButton::clicked, this, [chooseScheme] { chooseScheme(4); });
     connect(m_eight, &QRadioButton::clicked, this, [chooseScheme] { chooseScheme(8); });
 
-    connect(m_commands, &CommandPanel::dragBegun, this,
-            [this](const ShownCommand &command, QWidget *source) { m_drag->begin(command, -1, source); });
+    connect(
+        m_commands, &CommandPanel::dragBegun, this,
+        [this](const ShownCommand &command, QWidget *source) { m_drag->begin(command, -1, source); });
     connect(m_ring, &RingView::dragBegun, this, [this](int direction, QWidget *source) {
         m_drag->begin(m_ring->commands().at(direction), direction, source);
     });

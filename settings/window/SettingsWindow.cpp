@@ -20,6 +20,7 @@
 #include <QLocale>
 #include <QMenuBar>
 #include <QProcess>
+#include <QScreen>
 #include <QShowEvent>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -33,24 +34,24 @@
 namespace settings {
 namespace {
 
-constexpr QSize kSize(1120, 720); // pixels
-constexpr int kProgramsWidth = 300; // pixels
+// In heights of a line of text.
+constexpr QSize kSize(75, 48);
+constexpr int kProgramsWidth = 20;
 constexpr int kSettle = 300; // milliseconds; an installation writes many entries
 
 launcher::DesktopMenu::Places placesOfMenus()
 {
     const launcher::Environment environment = launcher::readEnvironment(::environ);
-    return launcher::DesktopMenu::usualPlaces(
-        environment.value("PATH", launcher::kDefaultSearchPath), launcher::launcherPath());
+    return launcher::DesktopMenu::usualPlaces(environment.value("PATH", launcher::kDefaultSearchPath),
+                                              launcher::launcherPath());
 }
 
 bool hasProfile(const launcher::Subject &subject)
 {
-    return std::any_of(subject.profileFolders.begin(), subject.profileFolders.end(),
-                       [&subject](const QString &folder) {
-                           return QFileInfo::exists(
-                               QDir(folder).filePath(subject.name + QLatin1String(".json")));
-                       });
+    return std::any_of(
+        subject.profileFolders.begin(), subject.profileFolders.end(), [&subject](const QString &folder) {
+            return QFileInfo::exists(QDir(folder).filePath(subject.name + QLatin1String(".json")));
+        });
 }
 
 } // namespace
@@ -80,11 +81,12 @@ SettingsWindow::SettingsWindow()
     splitter->setChildrenCollapsible(false);
     splitter->addWidget(m_programs);
     splitter->addWidget(right);
-    splitter->setSizes({kProgramsWidth, kSize.width() - kProgramsWidth});
+    const int line = fontMetrics().height();
+    splitter->setSizes({kProgramsWidth * line, (kSize.width() - kProgramsWidth) * line});
     splitter->setStretchFactor(1, 1);
     setCentralWidget(splitter);
     createActions();
-    resize(kSize);
+    resize((kSize * line).boundedTo(screen()->availableSize()));
 
     connect(m_programs, &ProgramPanel::chosen, this, &SettingsWindow::choose);
     connect(&m_model, &ProgramModel::failed, m_message, &MessageBar::complain);
@@ -100,9 +102,8 @@ SettingsWindow::SettingsWindow()
     });
     connect(m_exchange, &Exchange::failed, m_message, &MessageBar::complain);
     connect(m_exchange, &Exchange::done, m_message, &MessageBar::tell);
-    connect(&m_finder, &ProgramFinder::found, this, [this](const launcher::MenuProgram &program) {
-        m_model.add(program);
-    });
+    connect(&m_finder, &ProgramFinder::found, this,
+            [this](const launcher::MenuProgram &program) { m_model.add(program); });
     connect(&m_finder, &ProgramFinder::progressed, m_programs, &ProgramPanel::showProgress);
     connect(&m_finder, &ProgramFinder::finished, this, &SettingsWindow::endSearch);
 
@@ -130,8 +131,8 @@ void SettingsWindow::createActions()
     bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     addToolBar(bar);
 
-    const auto add = [this](QMenu &menu, const QString &text, const char *icon,
-                            const QKeySequence &keys, const std::function<void()> &run) {
+    const auto add = [this](QMenu &menu, const QString &text, const char *icon, const QKeySequence &keys,
+                            const std::function<void()> &run) {
         QAction *action = menu.addAction(QIcon::fromTheme(QLatin1String(icon)), text);
         action->setShortcut(keys);
         connect(action, &QAction::triggered, this, run);
@@ -143,8 +144,8 @@ void SettingsWindow::createActions()
         return action;
     };
     QMenu &file = *menuBar()->addMenu(tr("&File"));
-    QAction *start = ofProgram(add(file, tr("&Start the Program"), "system-run", {},
-                                   [this] { startProgram(); }));
+    QAction *start =
+        ofProgram(add(file, tr("&Start the Program"), "system-run", {}, [this] { startProgram(); }));
     file.addSeparator();
     QAction *import = ofProgram(add(file, tr("&Import..."), "document-open", QKeySequence::Open,
                                     [this] { m_exchange->importBindings(*m_editor); }));
@@ -263,6 +264,8 @@ BindingsEditor *SettingsWindow::editorOf(const launcher::MenuProgram &program)
         connect(editor, &BindingsEditor::failed, m_message, &MessageBar::complain);
         connect(editor, &BindingsEditor::noticed, m_message, &MessageBar::complain);
         m_undo.addStack(editor->undoStack());
+        if (!editor->notice().isEmpty())
+            m_message->complain(editor->notice());
     }
     return editor;
 }

@@ -88,6 +88,7 @@ def common_files():
     assert "share/gesturewidget/profiles/librecad.json" in profiles
     return profiles | {
         "bin/mouse-gestures",
+        "bin/mouse-gestures-settings",
         "libexec/gesturewidget/mouse-gestures-sheet",
         "share/applications/mouse-gestures.desktop",
         "share/bash-completion/completions/mouse-gestures",
