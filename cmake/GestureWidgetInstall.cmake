@@ -48,7 +48,7 @@ install(FILES docs/bindings.schema.json
   DESTINATION "${CMAKE_INSTALL_DATADIR}/gesturewidget" COMPONENT Runtime${common})
 install(FILES docs/user-guide.html
   DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/gesturewidget" COMPONENT Runtime${common})
-install(FILES docs/images/dialog.png docs/images/ring.png
+install(FILES docs/images/dialog.png docs/images/ring.png docs/images/settings.png
   DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/gesturewidget/images" COMPONENT Runtime${common})
 install(FILES docs/mouse-gestures.1
   DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT Runtime${common})

@@ -63,7 +63,8 @@ void MenuPrograms::find(const std::function<void(const MenuProgram &)> &found,
                         const std::function<bool(int, int)> &progress) const
 {
     const QList<QByteArray> libraryFolders = systemLibraryFolders("/etc/ld.so.conf");
-    const QString ownFolder = QFileInfo(canonical(m_places.launcher)).path();
+    const QString ownFolder =
+        canonical(QFile::encodeName(QFileInfo(QFile::decodeName(m_places.launcher)).path()));
     const QList<Entry> entries = allEntries(m_places);
     QSet<QString> seenEntries;
     QSet<QString> seenPrograms;

@@ -157,7 +157,8 @@ bool ProgramModel::setData(const QModelIndex &index, const QVariant &value, int 
 
 Qt::ItemFlags ProgramModel::flags(const QModelIndex &index) const
 {
-    return QAbstractListModel::flags(index) | Qt::ItemIsUserCheckable;
+    const Qt::ItemFlags flags = QAbstractListModel::flags(index);
+    return index.isValid() ? flags | Qt::ItemIsUserCheckable : flags;
 }
 
 } // namespace settings

@@ -35,6 +35,9 @@ ProgramPanel::ProgramPanel(ProgramModel *model, QWidget *parent)
     m_list->setAccessibleName(tr("Programs"));
     m_list->setAccessibleDescription(tr("Space switches a program's gestures on or off."));
     m_list->setItemDelegate(new ProgramDelegate(m_list));
+    // Before the list itself hears of it.
+    connect(m_filter, &QAbstractItemModel::rowsAboutToBeRemoved, this,
+            [this](const QModelIndex &, int first, int last) { leaveRows(first, last); });
     m_list->setModel(m_filter);
     m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
@@ -56,12 +59,16 @@ ProgramPanel::ProgramPanel(ProgramModel *model, QWidget *parent)
     layout->addWidget(m_nothing, 1);
     layout->addWidget(m_progress);
 
-    connect(m_search, &QLineEdit::textChanged, this, [this](const QString &text) {
-        m_filter->setFilterFixedString(text);
-        showWhetherEmpty();
-    });
+    connect(m_search, &QLineEdit::textChanged, this, &ProgramPanel::filter);
     connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            [this] { Q_EMIT chosen(chosenRow()); });
+            [this](const QModelIndex &index) {
+                if (!index.isValid())
+                    return;
+                const QModelIndex before = m_chosen;
+                m_chosen = m_filter->mapToSource(index);
+                if (m_chosen != before)
+                    Q_EMIT chosen(m_chosen.row());
+            });
     connect(m_filter, &QAbstractItemModel::rowsInserted, this, [this] { showWhetherEmpty(); });
     connect(m_filter, &QAbstractItemModel::rowsRemoved, this, [this] { showWhetherEmpty(); });
 }
@@ -90,7 +97,23 @@ void ProgramPanel::choose(int row)
 
 int ProgramPanel::chosenRow() const
 {
-    return m_filter->mapToSource(m_list->currentIndex()).row();
+    return m_chosen.row();
+}
+
+void ProgramPanel::filter(const QString &text)
+{
+    m_filter->setFilterFixedString(text.trimmed());
+    const QModelIndex index = m_filter->mapFromSource(m_chosen);
+    if (index.isValid())
+        m_list->setCurrentIndex(index);
+    showWhetherEmpty();
+}
+
+void ProgramPanel::leaveRows(int first, int last)
+{
+    const int row = m_list->currentIndex().row();
+    if (row >= first && row <= last)
+        m_list->selectionModel()->clear();
 }
 
 void ProgramPanel::showWhetherEmpty()

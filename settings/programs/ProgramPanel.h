@@ -5,6 +5,7 @@
 
 #include "settings/programs/ProgramModel.h"
 
+#include <QPersistentModelIndex>
 #include <QWidget>
 
 QT_BEGIN_NAMESPACE
@@ -34,18 +35,23 @@ public:
     [[nodiscard]] int chosenRow() const; // -1 for none
 
 Q_SIGNALS:
-    // The row of the model; -1 for none.
+    // A person has chosen a row of the model.
     void chosen(int row);
 
 private:
+    void showWhetherEmpty();
+    void filter(const QString &text);
+    // A row that goes is no longer the current one. The list would make its neighbour the current
+    // one, and a person who looks for a program would change another one's page.
+    void leaveRows(int first, int last);
+
     ProgramModel *m_model;
     QSortFilterProxyModel *m_filter;
     QLineEdit *m_search;
     QListView *m_list;
     QLabel *m_nothing;
     QProgressBar *m_progress;
-
-    void showWhetherEmpty();
+    QPersistentModelIndex m_chosen; // of the model
     bool m_isSearching = false;
 };
 

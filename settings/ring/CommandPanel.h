@@ -58,7 +58,7 @@ public:
     void focusSearch();
 
 Q_SIGNALS:
-    void dragBegun(const ShownCommand &command, QWidget *source);
+    void dragBegun(const settings::ShownCommand &command, QWidget *source);
     // A person wants the command in a direction of the scheme in use.
     void wanted(const QString &identifier, int direction);
     // The chosen command is to leave its direction.

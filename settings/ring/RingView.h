@@ -3,7 +3,8 @@
 
 #pragma once
 
-#include <QIcon>
+#include <QMetaType>
+#include <QPixmap>
 #include <QString>
 #include <QVector>
 #include <QWidget>
@@ -85,3 +86,5 @@ private:
 };
 
 } // namespace settings
+
+Q_DECLARE_METATYPE(settings::ShownCommand)

@@ -166,7 +166,9 @@ void SettingsWindow::createActions()
     redo->setObjectName(QStringLiteral("redo"));
     redo->setIcon(QIcon::fromTheme(QStringLiteral("edit-redo")));
     redo->setIconText(tr("Redo"));
-    redo->setShortcut(QKeySequence::Redo);
+    // Both of the shortcuts that people know, on every desktop.
+    redo->setShortcuts({QKeySequence(int(Qt::CTRL) + int(Qt::SHIFT) + int(Qt::Key_Z)),
+                        QKeySequence(int(Qt::CTRL) + int(Qt::Key_Y))});
     edit.addActions({undo, redo});
     edit.addSeparator();
     QAction *find = ofProgram(add(edit, tr("&Find a Command"), "edit-find", QKeySequence::Find,
@@ -203,8 +205,11 @@ void SettingsWindow::changeEvent(QEvent *event)
 void SettingsWindow::search()
 {
     QStringList folders = QStringList(m_places.own) + m_places.installed;
-    for (const QString &folder : std::as_const(folders)) {
-        if (QFileInfo(folder).isDir() && !m_watcher.directories().contains(folder))
+    for (QString folder : std::as_const(folders)) {
+        // A folder that is missing shows in the folder in which it will be.
+        while (!QFileInfo(folder).isDir() && folder != QFileInfo(folder).path())
+            folder = QFileInfo(folder).path();
+        if (!m_watcher.directories().contains(folder))
             m_watcher.addPath(folder);
     }
     const launcher::Environment environment = launcher::readEnvironment(::environ);
@@ -217,7 +222,9 @@ void SettingsWindow::search()
 void SettingsWindow::endSearch()
 {
     m_model.endSearch();
+    m_model.updateSwitches();
     m_programs->hideProgress();
+    m_empty->setText(tr("No program"));
     offerFirst();
     // A chosen program that is gone stays on its page, with what stands in the way.
     m_page->examine();
@@ -244,8 +251,6 @@ void SettingsWindow::offerFirst()
 
 void SettingsWindow::choose(int row)
 {
-    if (row < 0)
-        return; // hidden by a search; it stays the chosen one
     m_chosen = m_model.program(row);
     m_editor = editorOf(m_chosen);
     m_undo.setActiveStack(m_editor->undoStack());
