@@ -22,6 +22,7 @@ namespace settings {
 namespace {
 
 constexpr int kIconSize = 20; // pixels
+constexpr int kIndentation = 16; // pixels
 
 // The direction of eight that a key has on a number pad; -1 for other keys.
 int directionOfKey(int key)
@@ -108,6 +109,7 @@ CommandPanel::CommandPanel(QWidget *parent)
     m_view->setItemDelegate(new RowDelegate(m_view));
     m_view->setIconSize({kIconSize, kIconSize});
     m_view->setUniformRowHeights(true);
+    m_view->setIndentation(kIndentation);
     m_view->setDragEnabled(true);
     m_view->setAlternatingRowColors(false);
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);

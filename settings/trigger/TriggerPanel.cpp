@@ -9,7 +9,7 @@
 
 #include <QComboBox>
 #include <QEvent>
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QLabel>
 #include <QSignalBlocker>
 
@@ -31,11 +31,13 @@ TriggerPanel::TriggerPanel(QWidget *parent)
     m_list->installEventFilter(this);
     auto *field = new TriggerField(this);
 
-    auto *layout = new QHBoxLayout(this);
+    auto *layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(label);
-    layout->addWidget(m_list);
-    layout->addWidget(field, 1);
+    layout->addWidget(label, 0, 0, 1, 2);
+    layout->addWidget(m_list, 1, 0);
+    layout->addWidget(field, 1, 1);
+    layout->setColumnStretch(0, 1);
+    layout->setColumnStretch(1, 1);
 
     connect(m_list, qOverload<int>(&QComboBox::activated), this,
             [this](int index) { Q_EMIT wanted(m_list->itemData(index).toString()); });

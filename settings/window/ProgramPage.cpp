@@ -40,8 +40,10 @@ ProgramPage::ProgramPage(QWidget *parent)
     middle->setHandleWidth(kBetween);
     middle->addWidget(createRing());
     middle->addWidget(createCommands());
-    middle->setStretchFactor(0, 1);
-    middle->setStretchFactor(1, 1);
+    // Of the whole; the ring needs a little more.
+    middle->setSizes({1100, 900});
+    middle->setStretchFactor(0, 11);
+    middle->setStretchFactor(1, 9);
     layout->addWidget(middle, 1);
     m_drag = new CommandDrag(m_ring, this);
     connectParts();

@@ -36,7 +36,9 @@ namespace {
 
 // In heights of a line of text.
 constexpr QSize kSize(75, 48);
-constexpr int kProgramsWidth = 20;
+constexpr int kProgramsWidth = 17;
+// What the frame of a window may need, in pixels.
+constexpr QSize kFrame(16, 48);
 constexpr int kSettle = 300; // milliseconds; an installation writes many entries
 
 launcher::DesktopMenu::Places placesOfMenus()
@@ -86,7 +88,7 @@ SettingsWindow::SettingsWindow()
     splitter->setStretchFactor(1, 1);
     setCentralWidget(splitter);
     createActions();
-    resize((kSize * line).boundedTo(screen()->availableSize()));
+    resize((kSize * line).boundedTo(screen()->availableSize() - kFrame));
 
     connect(m_programs, &ProgramPanel::chosen, this, &SettingsWindow::choose);
     connect(&m_model, &ProgramModel::failed, m_message, &MessageBar::complain);
