@@ -50,7 +50,7 @@ install(FILES docs/user-guide.html
   DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/gesturewidget" COMPONENT Runtime${common})
 install(FILES docs/images/dialog.png docs/images/ring.png docs/images/settings.png
   DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/gesturewidget/images" COMPONENT Runtime${common})
-install(FILES docs/mouse-gestures.1
+install(FILES docs/mouse-gestures.1 docs/mouse-gestures-settings.1
   DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT Runtime${common})
 install(FILES launcher/desktop/mouse-gestures.bash
   DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions"

@@ -19,11 +19,11 @@ constexpr double kMillimetresPerInch = 25.4;
 
 } // namespace
 
-void setUpPage(QPagedPaintDevice &device)
+bool setUpPage(QPagedPaintDevice &device)
 {
     const bool isAmerican = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
-    device.setPageSize(QPageSize(isAmerican ? QPageSize::Letter : QPageSize::A4));
-    device.setPageMargins(QMarginsF(kMargin, kMargin, kMargin, kMargin), QPageLayout::Millimeter);
+    return device.setPageSize(QPageSize(isAmerican ? QPageSize::Letter : QPageSize::A4))
+        && device.setPageMargins(QMarginsF(kMargin, kMargin, kMargin, kMargin), QPageLayout::Millimeter);
 }
 
 bool drawPage(const launcher::SheetContent &content, QPagedPaintDevice &device, int resolution)

@@ -46,38 +46,53 @@ CommandModel::CommandModel(QObject *parent)
 void CommandModel::showCommands(const BindingsEditor &editor)
 {
     removeRows(0, rowCount());
+    // A menu with one command says little, so such commands are together, at the end.
+    QHash<QString, int> sizes;
+    for (const gesturewidget::RememberedCommand &command : editor.commands().shown())
+        ++sizes[command.group.simplified()];
     QHash<QString, QStandardItem *> menus;
+    QStandardItem *others = nullptr;
     for (const gesturewidget::RememberedCommand &command : editor.commands().shown()) {
         const QString group = command.group.simplified();
-        QStandardItem *&menu = menus[group];
+        const bool isAlone = group.isEmpty() || sizes.value(group) == 1;
+        if (isAlone && !others)
+            others = newMenu(tr("Others"));
+        QStandardItem *&menu = isAlone ? others : menus[group];
         if (!menu)
-            menu = addMenu(group.isEmpty() ? tr("Others") : group);
-        addCommand(*menu, command.identifier, command.caption.simplified(), command.tip,
+            menu = appendMenu(newMenu(group));
+        addCommand(*menu, command.identifier, editor.captionOf(command.identifier), command.tip,
                    QIcon(pixmapOf(command.icon)));
     }
-    if (menus.isEmpty()) {
+    if (others)
+        appendMenu(others);
+    if (rowCount() == 0) {
         QStringList identifiers = editor.profile().wellKnownCommands.keys();
         identifiers += launcher::Bindings::initial().eight;
         identifiers.removeDuplicates();
         std::sort(identifiers.begin(), identifiers.end(), [&](const QString &one, const QString &other) {
             return QString::localeAwareCompare(editor.captionOf(one), editor.captionOf(other)) < 0;
         });
-        QStandardItem *menu = addMenu(tr("First commands"));
+        QStandardItem *menu = appendMenu(newMenu(tr("First commands")));
         for (const QString &identifier : std::as_const(identifiers))
             addCommand(*menu, identifier, editor.captionOf(identifier), {}, {});
     }
     showDirections(editor);
 }
 
-QStandardItem *CommandModel::addMenu(const QString &caption)
+QStandardItem *CommandModel::newMenu(const QString &caption)
 {
     auto *menu = new QStandardItem(caption);
-    auto *beside = new QStandardItem;
     menu->setFlags(Qt::ItemIsEnabled);
-    beside->setFlags(Qt::ItemIsEnabled);
     QFont bold = menu->font();
     bold.setBold(true);
     menu->setFont(bold);
+    return menu;
+}
+
+QStandardItem *CommandModel::appendMenu(QStandardItem *menu)
+{
+    auto *beside = new QStandardItem;
+    beside->setFlags(Qt::ItemIsEnabled);
     appendRow({menu, beside});
     return menu;
 }

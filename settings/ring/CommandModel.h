@@ -34,9 +34,11 @@ public:
     [[nodiscard]] static ShownCommand commandAt(const QModelIndex &index);
 
 private:
-    void addCommand(QStandardItem &menu, const QString &identifier, const QString &caption,
-                    const QString &tip, const QIcon &icon);
-    QStandardItem *addMenu(const QString &caption);
+    static void addCommand(QStandardItem &menu, const QString &identifier, const QString &caption,
+                           const QString &tip, const QIcon &icon);
+    [[nodiscard]] static QStandardItem *newMenu(const QString &caption);
+    // The model owns it from then on.
+    QStandardItem *appendMenu(QStandardItem *menu);
 };
 
 // A command with its caption and its icon.

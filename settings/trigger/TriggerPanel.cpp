@@ -28,6 +28,9 @@ TriggerPanel::TriggerPanel(QWidget *parent)
     auto *label = new QLabel(tr("A gesture &starts with:"), this);
     label->setBuddy(m_list);
     m_list->setAccessibleName(tr("What starts a gesture"));
+    const QString when = tr("It takes effect at the program's next start.");
+    m_list->setToolTip(when);
+    m_list->setAccessibleDescription(when);
     m_list->installEventFilter(this);
     auto *field = new TriggerField(this);
 

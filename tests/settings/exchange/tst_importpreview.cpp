@@ -5,6 +5,8 @@
 
 #include "settings/exchange/ImportPreview.h"
 
+#include "launcher/sheet/SheetPage.h"
+#include "launcher/sheet/SheetTask.h"
 #include "settings/editing/BindingsEditor.h"
 #include "settings/exchange/Exchange.h"
 #include "tests/settings/support/HomeTest.h"
@@ -12,6 +14,8 @@
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QFile>
+#include <QPrinter>
+#include <QProcess>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTimer>
@@ -86,6 +90,23 @@ private Q_SLOTS:
         });
         exchange.importFile(editor, place("kept.json"));
         QCOMPARE(editor.bindings().eight.at(6), isAccepted ? text("ID_LINE") : QString());
+    }
+
+    void aSheetIsPrintedToAFile()
+    {
+        const BindingsEditor editor(subject("draw"), text("Draw"));
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setOutputFileName(place("ring.pdf"));
+        const launcher::SheetContent content = launcher::sheetContent(
+            editor.title(), editor.bindings(), editor.commands(), editor.usualTrigger());
+        QVERIFY(sheet::setUpPage(printer));
+        QVERIFY(sheet::drawPage(content, printer, printer.resolution()));
+        QVERIFY(tests::contentOf(place("ring.pdf")).startsWith("%PDF"));
+        QProcess reader;
+        reader.start(text("/usr/bin/pdftotext"), {text("-layout"), place("ring.pdf"), text("-")});
+        QVERIFY(reader.waitForFinished());
+        const QByteArray words = reader.readAllStandardOutput();
+        QVERIFY2(words.contains("Mouse gestures in Draw"), words.constData());
     }
 
     void aFileWithAFaultIsNamedAndChangesNothing()

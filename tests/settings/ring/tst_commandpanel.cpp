@@ -75,6 +75,19 @@ private Q_SLOTS:
         QCOMPARE(lines(model), (QStringList{text("Draw/The ID_LINE: right"), text("Draw/The ARC: ")}));
     }
 
+    void aMenuWithOneCommandIsAmongTheOthers()
+    {
+        remember(text("draw"), {text("A")}, text("File"));
+        remember(text("draw"), {text("B"), text("C")}, text("Edit"));
+        remember(text("draw"), {text("D")}, text(""));
+        const BindingsEditor editor(subject("draw"), text("Draw"));
+        CommandModel model;
+        const QAbstractItemModelTester tester(&model);
+        model.showCommands(editor);
+        QCOMPARE(lines(model), (QStringList{text("Edit/The B: "), text("Edit/The C: "),
+                                            text("Others/The A: "), text("Others/The D: ")}));
+    }
+
     void whatIsTypedChoosesTheFirstHit()
     {
         const BindingsEditor editor(subject("draw"), text("Draw"));

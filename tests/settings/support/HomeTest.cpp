@@ -95,14 +95,14 @@ launcher::Subject HomeTest::subject(const char *name)
     return launcher::Subject::of(name);
 }
 
-void HomeTest::remember(const QString &name, const QStringList &identifiers) const
+void HomeTest::remember(const QString &name, const QStringList &identifiers, const QString &menu) const
 {
     QVector<gesturewidget::RememberedCommand> commands;
     for (const QString &identifier : identifiers) {
         gesturewidget::RememberedCommand command;
         command.identifier = command.command = identifier;
         command.caption = QStringLiteral("The %1").arg(identifier);
-        command.group = QStringLiteral("Draw");
+        command.group = menu;
         commands.append(command);
     }
     QVERIFY(QDir().mkpath(place("config/gesturewidget")));

@@ -31,8 +31,9 @@ protected:
     // What the settings hold for a key of the module; "<none>" if it is not there.
     [[nodiscard]] QString stored(const QString &name, const QString &key) const;
     [[nodiscard]] static launcher::Subject subject(const char *name);
-    // Remembers commands of a program, as if it had run with gestures.
-    void remember(const QString &name, const QStringList &identifiers) const;
+    // Remembers commands in a menu of a program, as if it had run with gestures.
+    void remember(const QString &name, const QStringList &identifiers,
+                  const QString &menu = QStringLiteral("Draw")) const;
 
 protected Q_SLOTS:
     void init();
