@@ -6,6 +6,7 @@
 #include "host/files/FileContent.h"
 #include "host/files/FileWriter.h"
 #include "host/files/SettingsFile.h"
+#include "host/files/SettingsNames.h"
 #include "host/files/TriggerText.h"
 #include "launcher/settings/Bindings.h"
 #include "launcher/settings/BindingsJson.h"
