@@ -55,7 +55,7 @@ endfunction()
 
 # The headers of Qt and of the standard library take most of the time of a build. They are compiled
 # once if GESTUREWIDGET_PRECOMPILE is on. A source that lacks an include is then found by the builds
-# that have it off: packages and benchmarks.
+# that have it off, such as that of the benchmarks.
 if(GESTUREWIDGET_PRECOMPILE)
   find_package(Qt${GESTUREWIDGET_QT} REQUIRED COMPONENTS Widgets)
   file(WRITE "${CMAKE_BINARY_DIR}/precompiled.cpp" "// Only its headers matter.\n")
