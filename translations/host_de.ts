@@ -4,6 +4,10 @@
 <context>
     <name>host</name>
     <message>
+        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
+        <translation>Das Programm hat keinen Befehl „%1“; die Richtung ist leer.</translation>
+    </message>
+    <message>
         <source>There is no command &quot;%1&quot;.</source>
         <translation>Den Befehl „%1“ gibt es nicht.</translation>
     </message>

@@ -4,6 +4,10 @@
 <context>
     <name>host</name>
     <message>
+        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
+        <translation>El programa no tiene la orden «%1»; su dirección queda vacía.</translation>
+    </message>
+    <message>
         <source>There is no command &quot;%1&quot;.</source>
         <translation>El comando «%1» no existe.</translation>
     </message>

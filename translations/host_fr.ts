@@ -4,6 +4,10 @@
 <context>
     <name>host</name>
     <message>
+        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
+        <translation>Le programme n’a pas de commande « %1 » ; sa direction est vide.</translation>
+    </message>
+    <message>
         <source>There is no command &quot;%1&quot;.</source>
         <translation>La commande « %1 » n’existe pas.</translation>
     </message>
