@@ -4,7 +4,7 @@
 #include "host/commands/ExpectedCommands.h"
 
 #include "host/commands/WellKnownGuess.h"
-#include "host/files/SettingsNames.h"
+#include "host/files/RingSettings.h"
 
 namespace gesturewidget {
 namespace {
@@ -25,16 +25,9 @@ QMap<QString, QString> expectedCommands(const QHash<QString, QStringList> &wellK
     QMap<QString, QString> expected;
     for (auto it = wellKnown.begin(); it != wellKnown.end(); ++it)
         expected.insert(it.key(), captionFor(it.key()));
-    // Bindings are the settings whose keys are numbers, one for each direction.
-    const QString section = settingsnames::moduleSection() + QLatin1Char('/');
-    for (auto it = settings.begin(); it != settings.end(); ++it) {
-        bool isBinding = false;
-        if (it.key().startsWith(section))
-            static_cast<void>(
-                it.key().mid(section.size()).toUInt(&isBinding)); // clazy:exclude=qstring-ref
-        if (isBinding && !it.value().isEmpty())
-            expected.insert(it.value(), captionFor(it.value()));
-    }
+    const QStringList bound = ringsettings::boundCommands(settings);
+    for (const QString &identifier : bound)
+        expected.insert(identifier, captionFor(identifier));
     return expected;
 }
 

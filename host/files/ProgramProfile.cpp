@@ -139,6 +139,46 @@ void readCommands(Reader &profileReader, ProgramProfile &profile)
         profileReader.fail(reader.problem());
 }
 
+void readRing(Reader &tasksReader, const QString &task, const QJsonObject &object,
+              ProgramProfile &profile)
+{
+    const QString path = QStringLiteral("tasks.firstBindings.%1.").arg(task);
+    Reader reader(object, path);
+    const QStringList keys = reader.keys();
+    for (const QString &key : keys) {
+        const int scheme = key.size() == 2 ? key.at(0).digitValue() : 0;
+        const int direction = key.size() == 2 ? key.at(1).digitValue() : 0;
+        if ((scheme != 4 && scheme != 8) || direction < 1 || direction > scheme)
+            reader.fail(QStringLiteral("\"%1\" is no direction").arg(path + key));
+        profile.taskBindings[task].insert(key, reader.string(key));
+    }
+    if (!reader.problem().isEmpty())
+        tasksReader.fail(reader.problem());
+}
+
+void readTasks(Reader &profileReader, ProgramProfile &profile)
+{
+    Reader reader(profileReader.object(QStringLiteral("tasks")), QStringLiteral("tasks."));
+    reader.allow({QStringLiteral("checkedActionBeside"), QStringLiteral("classOfView"),
+                  QStringLiteral("firstBindings")});
+    if (!reader.value(QStringLiteral("checkedActionBeside")).isUndefined())
+        profile.taskActions = reader.namesOf(QStringLiteral("checkedActionBeside"));
+    const QJsonValue byView = reader.value(QStringLiteral("classOfView"));
+    if (!byView.isUndefined() && !byView.isBool())
+        reader.fail(QStringLiteral("\"tasks.classOfView\" is not true or false"));
+    profile.isTaskOfView = byView.toBool();
+    if (profile.isTaskOfView && !profile.taskActions.isEmpty())
+        reader.fail(QStringLiteral("\"tasks\" names two ways to know the task"));
+    const QJsonObject rings = reader.object(QStringLiteral("firstBindings"));
+    for (auto it = rings.begin(); it != rings.end(); ++it) {
+        if (!it.value().isObject() || it.key().isEmpty())
+            reader.fail(QStringLiteral("\"tasks.firstBindings.%1\" is not an object").arg(it.key()));
+        readRing(reader, it.key(), it.value().toObject(), profile);
+    }
+    if (!reader.problem().isEmpty())
+        profileReader.fail(reader.problem());
+}
+
 // Returns what is wrong with the text; empty when `profile` could be filled.
 QString fill(ProgramProfile &profile, const QByteArray &text)
 {
@@ -146,7 +186,7 @@ QString fill(ProgramProfile &profile, const QByteArray &text)
     reader.allow({QStringLiteral("version"), QStringLiteral("program"), QStringLiteral("viewClasses"),
                   QStringLiteral("trigger"), QStringLiteral("wellKnownCommands"),
                   QStringLiteral("toolsMenu"), QStringLiteral("commandLineClass"),
-                  QStringLiteral("why")});
+                  QStringLiteral("tasks"), QStringLiteral("why")});
     // Reasons for the rest, for people who read the file.
     static_cast<void>(reader.object(QStringLiteral("why")));
     const QJsonValue version = reader.value(QStringLiteral("version"));
@@ -160,6 +200,7 @@ QString fill(ProgramProfile &profile, const QByteArray &text)
     profile.viewClasses = reader.strings(QStringLiteral("viewClasses"));
     readTrigger(reader, profile);
     readCommands(reader, profile);
+    readTasks(reader, profile);
     profile.toolsMenu = reader.string(QStringLiteral("toolsMenu"));
     profile.commandLineClass = reader.string(QStringLiteral("commandLineClass"));
     return reader.problem();
@@ -192,13 +233,33 @@ QJsonObject ProgramProfile::toJson() const
                                                     : QJsonValue(QJsonArray::fromStringList(names)));
     }
 
-    return {{QStringLiteral("version"), kVersion},
-            {QStringLiteral("program"), program},
-            {QStringLiteral("viewClasses"), QJsonArray::fromStringList(viewClasses)},
-            {QStringLiteral("trigger"), trigger},
-            {QStringLiteral("wellKnownCommands"), commands},
-            {QStringLiteral("toolsMenu"), toolsMenu},
-            {QStringLiteral("commandLineClass"), commandLineClass}};
+    QJsonObject profile{{QStringLiteral("version"), kVersion},
+                        {QStringLiteral("program"), program},
+                        {QStringLiteral("viewClasses"), QJsonArray::fromStringList(viewClasses)},
+                        {QStringLiteral("trigger"), trigger},
+                        {QStringLiteral("wellKnownCommands"), commands},
+                        {QStringLiteral("toolsMenu"), toolsMenu},
+                        {QStringLiteral("commandLineClass"), commandLineClass}};
+    if (knowsTasks())
+        profile.insert(QStringLiteral("tasks"), tasksToJson());
+    return profile;
+}
+
+QJsonObject ProgramProfile::tasksToJson() const
+{
+    QJsonObject rings;
+    for (auto task = taskBindings.cbegin(); task != taskBindings.cend(); ++task) {
+        QJsonObject ring;
+        for (auto it = task.value().cbegin(); it != task.value().cend(); ++it)
+            ring.insert(it.key(), it.value());
+        rings.insert(task.key(), ring);
+    }
+    QJsonObject tasks{{QStringLiteral("firstBindings"), rings}};
+    if (isTaskOfView)
+        tasks.insert(QStringLiteral("classOfView"), true);
+    else
+        tasks.insert(QStringLiteral("checkedActionBeside"), QJsonArray::fromStringList(taskActions));
+    return tasks;
 }
 
 ProgramProfile ProgramProfile::forProgram(const QString &program, const QStringList &folders,

@@ -32,8 +32,19 @@ struct ProgramProfile
     // Object name or caption of the menu that gets the entry of the module; empty to look
     // for one called "Tools".
     QString toolsMenu;
+    // How the person's task is known, such as a workbench: the names of actions, of which the first
+    // that exists is in a group; the task is the object name of the group's checked action. Empty if
+    // the program has no such group.
+    QStringList taskActions;
+    // True if the task is the class of the active MDI child, or of the active view outside of any.
+    bool isTaskOfView = false;
+    // By task, the first bindings of a ring of its own: identifiers by the directions' keys, "81" to
+    // "88" and "41" to "44". What is missing comes from the shared ring.
+    QHash<QString, QHash<QString, QString>> taskBindings;
     // Class name of the line edit in which people type commands; empty when there is none.
     QString commandLineClass;
+
+    [[nodiscard]] bool knowsTasks() const { return isTaskOfView || !taskActions.isEmpty(); }
 
     // The content of a profile's file.
     [[nodiscard]] QJsonObject toJson() const;
@@ -44,6 +55,9 @@ struct ProgramProfile
     // with it. `message` may be null.
     [[nodiscard]] static ProgramProfile forProgram(const QString &program, const QStringList &folders,
                                                    QString *message);
+
+private:
+    [[nodiscard]] QJsonObject tasksToJson() const;
 };
 
 } // namespace gesturewidget

@@ -21,6 +21,12 @@ namespace gesturewidget::settingsnames {
     return QStringLiteral("EnableMouseGesture");
 }
 
+// In the module's section: "4" or "8", the number of gestures.
+[[nodiscard]] inline QString schemeKey()
+{
+    return QStringLiteral("ActiveScheme");
+}
+
 // The host's section.
 [[nodiscard]] inline QString hostSection()
 {

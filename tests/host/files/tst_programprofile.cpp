@@ -112,6 +112,9 @@ void ProgramProfileTest::isWrittenAsItIsRead()
                                      {QStringLiteral("File/Open..."), QStringLiteral("fileOpen")});
     profile.toolsMenu = QStringLiteral("extras");
     profile.commandLineClass = QStringLiteral("CommandEdit");
+    profile.taskActions = QStringList{QStringLiteral("SketchBench"), QStringLiteral("PartBench")};
+    profile.taskBindings[QStringLiteral("SketchBench")].insert(QStringLiteral("87"),
+                                                               QStringLiteral("ID_LINE"));
     for (const bool isEmpty : {false, true}) {
         if (isEmpty) {
             profile = ProgramProfile();
@@ -128,6 +131,9 @@ void ProgramProfileTest::isWrittenAsItIsRead()
         QCOMPARE(again.wellKnownCommands, profile.wellKnownCommands);
         QCOMPARE(again.toolsMenu, profile.toolsMenu);
         QCOMPARE(again.commandLineClass, profile.commandLineClass);
+        QCOMPARE(again.taskActions, profile.taskActions);
+        QCOMPARE(again.isTaskOfView, profile.isTaskOfView);
+        QCOMPARE(again.taskBindings, profile.taskBindings);
     }
 }
 
@@ -233,6 +239,16 @@ void ProgramProfileTest::brokenProfileIsNamed_data()
         "\"wellKnownCommands.ID_LINE\"");
     row("number among commands", R"("wellKnownCommands": {"ID_LINE": ["a", 1]})",
         "\"wellKnownCommands.ID_LINE\"");
+    row("tasks as text", R"("tasks": "workbench")", "\"tasks\" is not an object");
+    row("unknown in tasks", R"("tasks": {"group": "x"})", "unknown key \"tasks.group\"");
+    row("two ways", R"("tasks": {"checkedActionBeside": "x", "classOfView": true})", "two ways");
+    row("class as text", R"("tasks": {"classOfView": "yes"})", "\"tasks.classOfView\" is not true");
+    row("ring as text", R"("tasks": {"firstBindings": {"a": "b"}})",
+        "\"tasks.firstBindings.a\" is not an object");
+    row("no direction", R"("tasks": {"firstBindings": {"a": {"45": "b"}}})",
+        "\"tasks.firstBindings.a.45\" is no direction");
+    row("command of a ring as number", R"("tasks": {"firstBindings": {"a": {"44": 1}}})",
+        "\"tasks.firstBindings.a.44\" is not a string");
     row("reasons as text", R"("why": "because")", "\"why\" is not an object");
     row("menu as list", R"("toolsMenu": [])", "\"toolsMenu\" is not a string");
     row("class as null", R"("commandLineClass": null)", "\"commandLineClass\" is not a string");
