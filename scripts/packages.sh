@@ -9,7 +9,7 @@ build_packages=(
   libdxflib-dev libx11-dev libxcb1-dev
 )
 desktop_packages=(
-  xvfb openbox picom kwin-x11 xfwm4 dbus-daemon x11-utils x11-xserver-utils xdotool imagemagick python3
+  xvfb openbox picom kwin-x11 xfwm4 dbus-daemon libglib2.0-bin x11-utils x11-xserver-utils xdotool imagemagick python3
   libxtst-dev
   fonts-dejavu-core fonts-droid-fallback qt5-style-plugins
 )

@@ -18,7 +18,8 @@ namespace gesturewidget {
 struct KnownCaptions
 {
     QString language; // ISO 639-1, such as "de"
-    // By role: "tools", "help", "file", "edit", "view", "draw", "draft". The usual one first.
+    // By role: "tools", "help", "file", "edit", "view", "draw", "draft", and menus of entries that
+    // are no commands: "recent", "undo", "redo", "layers". The usual one first.
     QHash<QString, QStringList> menus;
     // By identifier, such as "ID_LINE".
     QHash<QString, QStringList> commands;

@@ -5,6 +5,7 @@
 
 #include "host/commands/CommandCatalogue.h"
 #include "host/commands/CommandStack.h"
+#include "host/window/MainWindows.h"
 #include "host/window/TextOutput.h"
 #include "sdk/chx/CHxDocument.h"
 #include "sdk/chx/CHxDocumentManager.h"
@@ -48,11 +49,12 @@ void pressEscape(QWidget *view)
 } // namespace
 
 CommandRunner::CommandRunner(CommandStack &stack, CommandCatalogue &catalogue, TextOutput &output,
-                             CHxDocumentManager *documents)
+                             CHxDocumentManager *documents, MainWindows *windows)
     : m_stack(stack)
     , m_catalogue(catalogue)
     , m_output(output)
     , m_documents(documents)
+    , m_windows(windows)
 {
 }
 
@@ -64,15 +66,28 @@ CHxCommandResultPtr CommandRunner::run(const QString &command, bool wait)
     if (wait)
         execute(command);
     else
-        QMetaObject::invokeMethod(
-            this, [this, command] { execute(command); }, Qt::QueuedConnection);
+        queue([this, command] { execute(command); });
     return result;
 }
 
 void CommandRunner::runStackCommand(const QString &name)
 {
+    queue([this, name] { executeStackCommand(name); });
+}
+
+template <class Run> void CommandRunner::queue(Run run)
+{
+    const QPointer<QWidget> window = m_windows ? m_windows->current() : nullptr;
+    const bool hadWindow = !window.isNull();
     QMetaObject::invokeMethod(
-        this, [this, name] { executeStackCommand(name); }, Qt::QueuedConnection);
+        this,
+        [this, window, hadWindow, run] {
+            if (hadWindow && !m_windows->contains(window))
+                return;
+            const MainWindows::Turn turn(m_windows, window);
+            run();
+        },
+        Qt::QueuedConnection);
 }
 
 CommandRunner::Macro CommandRunner::parsed(const QString &command)
@@ -119,6 +134,7 @@ void CommandRunner::executeStackCommand(const QString &name)
 {
     // The pointer keeps the command while it runs, also when it is removed meanwhile.
     const OdSmartPtr<OdEdCommand> command = m_stack.lookupCommand(OdString(name));
+    const MainWindows::Hold hold(m_windows); // the command may show a dialog
     if (command)
         command->execute(nullptr);
     else

@@ -21,6 +21,9 @@ public:
     explicit TextOutput(QMainWindow *window);
     ~TextOutput() override;
 
+    // Writes to another main window from now on. Not owned; may be null.
+    void setWindow(QWidget *window) { m_window = window; }
+
     void SetText(const CHxString &text, bool immediate) override;
     // Shows a line for some seconds.
     void showForAWhile(const QString &text);

@@ -116,7 +116,7 @@ void ExplanationTest::explain()
     m_services = std::make_unique<SystemServices>(m_window.get(), m_profile, &m_documents,
                                                   m_folder->filePath(QStringLiteral("drafter.ini")));
     m_services->catalogue().guessWellKnown();
-    m_explanation = std::make_unique<Explanation>(m_sockets[0], m_window.get(), m_profile, *m_services);
+    m_explanation = std::make_unique<Explanation>(m_sockets[0], m_profile, *m_services);
 }
 
 QWidget *ExplanationTest::show(QWidget *central)

@@ -313,7 +313,14 @@ void SettingsTasksTest::exportAndImportAreInverse()
     QVERIFY(SettingsFile(m_file).read() != before);
     const Outcome outcome = tasks().importFrom(m_export);
     QVERIFY2(outcome.isDone(), qPrintable(outcome.complaint));
-    QCOMPARE(SettingsFile(m_file).read(), before);
+    SettingsFile::Values after = SettingsFile(m_file).read();
+    // What was imported counts as known, although the program has never shown it here.
+    const QStringList imported = after.take(text("Host/Imported")).split(QLatin1Char('\n'));
+    QStringList bound = bindings.four + bindings.eight;
+    bound.removeAll(QString());
+    bound.removeDuplicates();
+    QCOMPARE(imported, bound);
+    QCOMPARE(after, before);
 }
 
 void SettingsTasksTest::importKeepsTheOldSettings()
