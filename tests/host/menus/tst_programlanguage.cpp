@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
+#include "host/captions/KnownCaptions.h"
 #include "host/menus/MenuLanguage.h"
 #include "host/menus/ProgramLanguage.h"
 #include "tests/support/FatalWarnings.h"
 
+#include <QDir>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QTest>
@@ -23,6 +25,7 @@ private Q_SLOTS:
     void language();
     void menusCount();
     void windowWithoutMenus();
+    void everyFileOfCaptionsIsRead();
 };
 
 void ProgramLanguageTest::language_data()
@@ -84,6 +87,15 @@ void ProgramLanguageTest::windowWithoutMenus()
     QCOMPARE(programLanguage(&window, german, german), QStringLiteral("de"));
     QCOMPARE(programLanguage(nullptr, german, german), QStringLiteral("de"));
     QCOMPARE(programLanguage(nullptr, german, {}), QStringLiteral("en"));
+}
+
+void ProgramLanguageTest::everyFileOfCaptionsIsRead()
+{
+    const QDir files(QStringLiteral(":/gesturewidget-host/captions"));
+    QCOMPARE(gesturewidget::KnownCaptions::languages().size(), static_cast<int>(files.count()));
+    for (const gesturewidget::KnownCaptions &language : gesturewidget::KnownCaptions::languages())
+        QVERIFY2(files.exists(language.language + QStringLiteral(".json")),
+                 qPrintable(language.language));
 }
 
 QTEST_MAIN(ProgramLanguageTest)
