@@ -8,6 +8,8 @@
 #include <QObject>
 #include <QString>
 
+#include <vector>
+
 class OdEdCommand;
 
 namespace gesturewidget {
@@ -50,6 +52,7 @@ private:
     [[nodiscard]] bool isFound(const QString &command) const;
     void execute(const QString &command);
     void executeMacro(const Macro &macro);
+    // Runs it, unless it runs already: then its dialog comes to the front.
     void executeStackCommand(const QString &name);
     void trigger(const QString &name);
     [[nodiscard]] QString absence(const ActionItem &item) const;
@@ -59,6 +62,7 @@ private:
     CommandCatalogue &m_catalogue;
     TextOutput &m_output;
     CHxDocumentManager *m_documents;
+    std::vector<const OdEdCommand *> m_running; // commands of the stack that have not returned
 };
 
 } // namespace gesturewidget

@@ -8,7 +8,6 @@
 #include "host/files/Complaint.h"
 #include "host/files/ProgramProfile.h"
 #include "host/files/SettingsNames.h"
-#include "host/files/TriggerText.h"
 #include "host/services/HostEditor.h"
 #include "host/services/SystemServices.h"
 #include "host/session/ExplainedProgram.h"
@@ -90,8 +89,9 @@ bool HostSession::start(QString *error)
     odedSetCommandStack(&m_services->commandStack());
     odedSetEditor(&m_services->editor());
 
+    m_triggerChoice = std::make_unique<TriggerChoice>(profile, m_services->GetProfileStore());
     m_pointerFilter = std::make_unique<PointerFilter>(
-        m_documents, chosenTrigger({profile.triggerButton, profile.triggerModifiers}),
+        m_documents, m_triggerChoice->trigger(),
         [this](const QWidget *view) { return isOfThisWindow(view) && gesturesAreEnabled(); });
     m_viewFinder =
         std::make_unique<ViewFinder>(profile.viewClasses, m_options.guesses && m_addedViews.isEmpty());
@@ -106,6 +106,7 @@ bool HostSession::start(QString *error)
         m_explanation = std::make_unique<Explanation>(listener, window, profile, *m_services);
         connect(&m_menuReadiness, &MenuReadiness::settled, m_explanation.get(),
                 &Explanation::menusSettled);
+        explainTrigger();
     }
     connect(m_window, &QObject::destroyed, this, &HostSession::stopWithoutWindow);
     connect(qApp, &QCoreApplication::aboutToQuit, this, &HostSession::finish);
@@ -213,9 +214,20 @@ void HostSession::addView(QWidget *view)
 void HostSession::openView(QWidget *view)
 {
     m_documents.open(view);
+    // A program that names its views itself knows what its right button does.
+    if (m_options.guesses && m_triggerChoice->noteView(*view))
+        m_pointerFilter->setTrigger(m_triggerChoice->trigger());
+    explainTrigger();
     waitForAllMenus();
     if (m_explanation)
         m_explanation->addView(view);
+}
+
+void HostSession::explainTrigger()
+{
+    const Trigger trigger = m_triggerChoice->trigger();
+    if (m_explanation)
+        m_explanation->noteTrigger(trigger.button, trigger.modifiers, m_triggerChoice->reason());
 }
 
 void HostSession::waitForAllMenus()
@@ -224,26 +236,12 @@ void HostSession::waitForAllMenus()
         return;
     m_waitsForAllMenus = true;
     QTimer::singleShot(kTimeForMenus, this, [this] {
-        if (m_isRunning)
-            m_services->catalogue().endGuessing();
+        if (!m_isRunning)
+            return;
+        m_services->catalogue().endGuessing();
+        if (const QString text = m_triggerChoice->introduction(); !text.isEmpty())
+            m_services->showForAWhile(text);
     });
-}
-
-Trigger HostSession::chosenTrigger(Trigger trigger) const
-{
-    CHxProfileStore *store = m_services->GetProfileStore();
-    const OdResBufPtr value = store ? store->Get(settingsnames::hostSection(),
-                                                 settingsnames::triggerKey(), CHxProfileStore::kProfile)
-                                    : OdResBufPtr();
-    const QString text = value ? value->getString().toQString() : QString();
-    if (text.isEmpty())
-        return trigger;
-    Trigger chosen = trigger;
-    if (parseTrigger(text, chosen.button, chosen.modifiers)
-        && isUsableTrigger(chosen.button, chosen.modifiers))
-        return chosen;
-    complain(QStringLiteral("the settings name no trigger: \"%1\"").arg(text));
-    return trigger;
 }
 
 bool HostSession::isOfThisWindow(const QWidget *view) const

@@ -11,6 +11,7 @@
 #include "host/services/MainFrame.h"
 #include "host/session/GestureHost.h"
 #include "host/session/ModuleLoader.h"
+#include "host/session/TriggerChoice.h"
 #include "host/window/MenuReadiness.h"
 
 #include <QMainWindow>
@@ -52,10 +53,9 @@ public:
 private:
     void stopWithoutWindow();
     void openView(QWidget *view);
+    void explainTrigger();
     // Takes the menus as complete some time after they have settled and a view is open.
     void waitForAllMenus();
-    // Returns the trigger from the person's settings, or else `trigger`.
-    [[nodiscard]] Trigger chosenTrigger(Trigger trigger) const;
     [[nodiscard]] bool gesturesAreEnabled() const;
     // True if the view belongs to this session's main window.
     [[nodiscard]] bool isOfThisWindow(const QWidget *view) const;
@@ -81,6 +81,7 @@ private:
     MainFrame m_mainFrame;
     std::unique_ptr<SystemServices> m_services;
     ModuleLoader m_loader;
+    std::unique_ptr<TriggerChoice> m_triggerChoice;
     std::unique_ptr<PointerFilter> m_pointerFilter;
     std::unique_ptr<ViewFinder> m_viewFinder;
     std::unique_ptr<Explanation> m_explanation; // null unless somebody asked for it

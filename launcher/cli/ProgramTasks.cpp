@@ -5,7 +5,8 @@
 
 #include "host/files/CatalogueFile.h"
 #include "host/files/ProgramProfile.h"
-#include "host/files/TriggerText.h"
+#include "host/files/SettingsFile.h"
+#include "host/files/SiteSettings.h"
 #include "launcher/cli/Report.h"
 #include "launcher/cli/Subject.h"
 #include "launcher/desktop/DesktopMenu.h"
@@ -115,8 +116,9 @@ int doSettingsTask(const CommandLine &line)
 
     const gesturewidget::ProgramProfile profile =
         gesturewidget::ProgramProfile::forProgram(subject.name, subject.profileFolders, nullptr);
-    const QString usualTrigger =
-        gesturewidget::triggerText(profile.triggerButton, profile.triggerModifiers);
+    const gesturewidget::SiteSettings site(subject.settingsFile());
+    const QString usualTrigger = Bindings::usualTrigger(
+        profile, site.under(gesturewidget::SettingsFile(subject.settingsFile()).read()));
     const KnownCommands commands = knownCommands(subject, profile);
     SettingsTasks tasks(subject.name, subject.settingsFile(), commands, usualTrigger);
     const QByteArray first = line.arguments.value(0);

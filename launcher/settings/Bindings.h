@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "host/files/ProgramProfile.h"
 #include "host/files/SettingsFile.h"
 
 #include <QString>
@@ -28,6 +29,11 @@ struct Bindings
     changesFrom(const gesturewidget::SettingsFile::Values &now) const;
 
     [[nodiscard]] QStringList &commands() { return scheme == 4 ? four : eight; }
+
+    // What starts a gesture if the person chooses nothing: the profile's trigger, or what the host
+    // has found to suit the program when it ran; the right button before.
+    [[nodiscard]] static QString usualTrigger(const gesturewidget::ProgramProfile &profile,
+                                              const gesturewidget::SettingsFile::Values &settings);
 
     bool enabled = true;
     int scheme = 8; // 4 or 8

@@ -20,11 +20,6 @@ using gesturewidget::FileContent;
 using gesturewidget::FileWriter;
 using gesturewidget::SettingsFile;
 
-Bindings read(const QString &path)
-{
-    return Bindings::fromSettings(SettingsFile(path).read());
-}
-
 Outcome outcomeOf(bool isDone, const SettingsFile &file)
 {
     return isDone ? Outcome() : Outcome::failure(file.problem());
@@ -74,19 +69,25 @@ SettingsTasks::SettingsTasks(const QString &program, const QString &file, const 
                              const QString &usualTrigger)
     : m_program(program)
     , m_file(file)
+    , m_site(file)
     , m_commands(commands)
     , m_usualTrigger(usualTrigger)
 {
 }
 
+SettingsFile::Values SettingsTasks::settings() const
+{
+    return m_site.under(SettingsFile(m_file).read());
+}
+
 Bindings SettingsTasks::bindings() const
 {
-    return read(m_file);
+    return Bindings::fromSettings(settings());
 }
 
 Outcome SettingsTasks::showBindings() const
 {
-    const Bindings bindings = read(m_file);
+    const Bindings bindings = this->bindings();
     Outcome outcome;
     append(outcome.output,
            QStringLiteral("gestures in %1: %2")
@@ -105,7 +106,7 @@ Outcome SettingsTasks::showBindings() const
 Outcome SettingsTasks::showBindingsAsJson() const
 {
     Outcome outcome;
-    outcome.output = bindingsToJson(read(m_file), m_program);
+    outcome.output = bindingsToJson(bindings(), m_program);
     return outcome;
 }
 
@@ -123,7 +124,8 @@ Outcome SettingsTasks::bind(const QString &direction, const QString &command)
 
     SettingsFile file(m_file);
     QString complaint;
-    const bool isDone = file.change([&](const SettingsFile::Values &now) -> SettingsFile::Values {
+    const bool isDone = file.change([&](const SettingsFile::Values &own) -> SettingsFile::Values {
+        const SettingsFile::Values now = m_site.under(own);
         Bindings bindings = Bindings::fromSettings(now);
         const QStringList names = Bindings::directionNames(bindings.scheme);
         const auto index = names.indexOf(direction.toLower());
@@ -157,10 +159,22 @@ Outcome SettingsTasks::reset()
 {
     SettingsFile file(m_file);
     QString trigger;
-    const bool isDone = file.change([&](const SettingsFile::Values &now) {
+    const bool isDone = file.change([&](const SettingsFile::Values &own) {
+        trigger = Bindings::fromSettings(m_site.under(own)).trigger;
         Bindings bindings = Bindings::initial();
-        bindings.trigger = trigger = Bindings::fromSettings(now).trigger;
-        return bindings.toSettings();
+        bindings.trigger = Bindings::fromSettings(own).trigger;
+        SettingsFile::Values values = bindings.toSettings();
+        for (auto it = values.begin(); it != values.end(); ++it) {
+            const bool isOfModule =
+                it.key().startsWith(gesturewidget::settingsnames::moduleSection() + QLatin1Char('/'));
+            if (isOfModule && m_site.values().contains(it.key()))
+                it.value() = QString(); // so that the administrator's counts
+        }
+        const QString name = SettingsFile::nameOf(gesturewidget::settingsnames::hostSection(),
+                                                  gesturewidget::settingsnames::triggerKey());
+        if (bindings.trigger.isEmpty() && m_site.values().contains(name))
+            values.remove(name);
+        return values;
     });
     Outcome outcome = outcomeOf(isDone, file);
     if (isDone)
@@ -228,9 +242,10 @@ Outcome SettingsTasks::setTrigger(const QString &text)
     }
     SettingsFile file(m_file);
     SettingsFile::Values values;
-    values.insert(SettingsFile::nameOf(gesturewidget::settingsnames::hostSection(),
-                                       gesturewidget::settingsnames::triggerKey()),
-                  wanted);
+    const QString name = SettingsFile::nameOf(gesturewidget::settingsnames::hostSection(),
+                                              gesturewidget::settingsnames::triggerKey());
+    const bool isOfSite = wanted.isEmpty() && m_site.values().contains(name);
+    values.insert(name, isOfSite ? QString() : wanted.isNull() ? QStringLiteral("") : wanted);
     return outcomeOf(file.write(values), file);
 }
 
