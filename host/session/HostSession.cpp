@@ -239,6 +239,8 @@ void HostSession::waitForAllMenus()
         if (!m_isRunning)
             return;
         m_services->catalogue().endGuessing();
+        if (m_explanation)
+            return; // nobody is looking
         if (const QString text = m_triggerChoice->introduction(); !text.isEmpty())
             m_services->showForAWhile(text);
     });

@@ -25,7 +25,7 @@ QString translated(const char *text)
     return QCoreApplication::translate("host", text);
 }
 
-// "Ctrl and the right button".
+// "Ctrl + right button".
 QString inWords(const Trigger &trigger)
 {
     QStringList parts;
@@ -38,13 +38,11 @@ QString inWords(const Trigger &trigger)
         if (trigger.modifiers.testFlag(modifier))
             parts.append(translated(name));
     }
-    const char *button =
-        trigger.button == Qt::LeftButton     ? QT_TRANSLATE_NOOP("host", "the left mouse button")
-        : trigger.button == Qt::MiddleButton ? QT_TRANSLATE_NOOP("host", "the middle mouse button")
-        : trigger.button == Qt::RightButton  ? QT_TRANSLATE_NOOP("host", "the right mouse button")
-        : trigger.button == Qt::BackButton
-            ? QT_TRANSLATE_NOOP("host", "the back button of the mouse")
-            : QT_TRANSLATE_NOOP("host", "the forward button of the mouse");
+    const char *button = trigger.button == Qt::LeftButton   ? QT_TRANSLATE_NOOP("host", "left button")
+                       : trigger.button == Qt::MiddleButton ? QT_TRANSLATE_NOOP("host", "middle button")
+                       : trigger.button == Qt::RightButton  ? QT_TRANSLATE_NOOP("host", "right button")
+                       : trigger.button == Qt::BackButton   ? QT_TRANSLATE_NOOP("host", "back button")
+                                                          : QT_TRANSLATE_NOOP("host", "forward button");
     parts.append(translated(button));
     return parts.join(QStringLiteral(" + "));
 }
@@ -95,8 +93,7 @@ QString TriggerChoice::introduction()
         || !stored(settingsnames::hostSection(), settingsnames::introducedKey()).isEmpty())
         return {};
     store(settingsnames::introducedKey(), QStringLiteral("1"));
-    return translated("Mouse gestures: drag in the drawing with %1. "
-                      "\"mouse-gestures --trigger %2\" changes that.")
+    return translated("Mouse gestures start with %1. Set it by mouse-gestures --trigger %2")
         .arg(inWords(m_trigger), m_program);
 }
 

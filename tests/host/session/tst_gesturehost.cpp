@@ -388,7 +388,7 @@ void GestureHostTest::theFirstStartSaysWhatStartsAGesture()
     window.show();
     const auto isSaid = [&messages] {
         return std::any_of(messages.begin(), messages.end(), [](const QList<QVariant> &message) {
-            return message.first().toString().contains(QStringLiteral("Ctrl + the right mouse"));
+            return message.first().toString().contains(QStringLiteral("Ctrl + right button"));
         });
     };
     QTRY_VERIFY_WITH_TIMEOUT(isSaid(), 20000);

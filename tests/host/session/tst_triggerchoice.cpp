@@ -139,7 +139,7 @@ void TriggerChoiceTest::theIntroductionComesOnce()
     {
         ProfileStore store(m_file);
         TriggerChoice choice(m_profile, &store);
-        QVERIFY(choice.introduction().contains(QStringLiteral("the right mouse button")));
+        QVERIFY(choice.introduction().contains(QStringLiteral("right button")));
         QCOMPARE(choice.introduction(), QString());
     }
     ProfileStore store(m_file); // the next start
@@ -152,8 +152,8 @@ void TriggerChoiceTest::theIntroductionNamesTheTrigger()
     TriggerChoice choice(m_profile, &store);
     QVERIFY(choice.noteView(QGLWidget()));
     QCOMPARE(choice.introduction(),
-             QStringLiteral("Mouse gestures: drag in the drawing with Ctrl + the right mouse button. "
-                            "\"mouse-gestures --trigger program\" changes that."));
+             QStringLiteral("Mouse gestures start with Ctrl + right button. Set it by mouse-gestures "
+                            "--trigger program"));
 }
 
 void TriggerChoiceTest::nothingIsIntroducedWhileGesturesAreOff()
