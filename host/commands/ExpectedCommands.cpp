@@ -5,6 +5,7 @@
 
 #include "host/commands/WellKnownGuess.h"
 #include "host/files/RingSettings.h"
+#include "host/files/SettingsNames.h"
 
 namespace gesturewidget {
 namespace {
@@ -31,13 +32,13 @@ QMap<QString, QString> expectedCommands(const QHash<QString, QStringList> &wellK
     return expected;
 }
 
-QStringList trustedCommands(const SettingsFile::Values &settings)
+QStringList trustedCommands(const SettingsFile::Values &settings, const SettingsFile::Values &site)
 {
     QStringList identifiers =
         settings.value(SettingsFile::nameOf(settingsnames::hostSection(), settingsnames::importedKey()))
             .split(QLatin1Char('\n'));
     identifiers.removeAll(QString());
-    return identifiers;
+    return identifiers + QStringList(expectedCommands({}, site).keys());
 }
 
 } // namespace gesturewidget

@@ -11,6 +11,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QStandardPaths>
 
 #include <algorithm>
 
@@ -94,6 +95,14 @@ public:
         return value.toObject();
     }
 
+    bool flag(const QString &key)
+    {
+        const QJsonValue value = m_object.value(key);
+        if (!value.isUndefined() && !value.isBool())
+            fail(QStringLiteral("\"%1\" is neither true nor false").arg(m_path + key));
+        return value.toBool();
+    }
+
     QJsonValue value(const QString &key) const { return m_object.value(key); }
     QStringList keys() const { return m_object.keys(); }
 
@@ -119,6 +128,55 @@ void readTrigger(Reader &profileReader, ProgramProfile &profile)
         if (modifier == Qt::NoModifier)
             reader.fail(QStringLiteral("\"trigger.modifiers\" names no key: \"%1\"").arg(name));
         profile.triggerModifiers |= modifier;
+    }
+    profile.hasTrigger = !reader.keys().isEmpty();
+    if (!reader.problem().isEmpty())
+        profileReader.fail(reader.problem());
+}
+
+// Reads what the program itself is set to, from one of its files in the folder for configuration.
+// Returns null if the file or the value is not there.
+QString ownSetting(const QString &file, const QString &before, const QString &behind)
+{
+    constexpr qint64 kMaximalFile = qint64(16) * 1024 * 1024;
+    const QString path =
+        QDir(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)).filePath(file);
+    const FileContent content = FileContent::read(path, kMaximalFile);
+    const QString text = QString::fromUtf8(content.bytes);
+    const auto found = content.isRead() ? text.indexOf(before) : -1;
+    if (found < 0)
+        return {};
+    const auto start = found + before.size();
+    const auto end = text.indexOf(behind, start);
+    return end < 0 ? QString() : text.mid(start, end - start);
+}
+
+// A trigger that depends on a setting of the program, such as how the mouse turns things.
+void readTriggerSetting(Reader &profileReader, ProgramProfile &profile)
+{
+    const QString key = QStringLiteral("triggerBySetting");
+    if (profileReader.value(key).isUndefined())
+        return;
+    Reader reader(profileReader.object(key), key + QLatin1Char('.'));
+    reader.allow({QStringLiteral("file"), QStringLiteral("before"), QStringLiteral("behind"),
+                  QStringLiteral("triggers")});
+    const QString file = reader.string(QStringLiteral("file"));
+    const QString before = reader.string(QStringLiteral("before"));
+    const QString behind = reader.string(QStringLiteral("behind"));
+    if (file.isEmpty() || QDir::isAbsolutePath(file) || before.isEmpty() || behind.isEmpty())
+        reader.fail(QStringLiteral("\"%1\" needs a file and what is around the value").arg(key));
+    const QJsonObject triggers = reader.object(QStringLiteral("triggers"));
+    const QString value = reader.problem().isEmpty() ? ownSetting(file, before, behind) : QString();
+    for (auto it = triggers.begin(); it != triggers.end(); ++it) {
+        Qt::MouseButton button = Qt::NoButton;
+        Qt::KeyboardModifiers modifiers = Qt::NoModifier;
+        if (!parseTrigger(it->toString(), button, modifiers) || !isUsableTrigger(button, modifiers)) {
+            reader.fail(QStringLiteral("\"%1.triggers.%2\" names no trigger").arg(key, it.key()));
+        } else if (it.key() == value) {
+            profile.triggerButton = button;
+            profile.triggerModifiers = modifiers;
+            profile.hasTrigger = true;
+        }
     }
     if (!reader.problem().isEmpty())
         profileReader.fail(reader.problem());
@@ -186,6 +244,7 @@ QString fill(ProgramProfile &profile, const QByteArray &text)
     reader.allow({QStringLiteral("version"), QStringLiteral("program"), QStringLiteral("viewClasses"),
                   QStringLiteral("trigger"), QStringLiteral("wellKnownCommands"),
                   QStringLiteral("toolsMenu"), QStringLiteral("commandLineClass"),
+                  QStringLiteral("changesMenus"), QStringLiteral("triggerBySetting"),
                   QStringLiteral("tasks"), QStringLiteral("why")});
     // Reasons for the rest, for people who read the file.
     static_cast<void>(reader.object(QStringLiteral("why")));
@@ -199,10 +258,12 @@ QString fill(ProgramProfile &profile, const QByteArray &text)
         reader.fail(QStringLiteral("\"program\" is \"%1\", not \"%2\"").arg(program, profile.program));
     profile.viewClasses = reader.strings(QStringLiteral("viewClasses"));
     readTrigger(reader, profile);
+    readTriggerSetting(reader, profile);
     readCommands(reader, profile);
     readTasks(reader, profile);
     profile.toolsMenu = reader.string(QStringLiteral("toolsMenu"));
     profile.commandLineClass = reader.string(QStringLiteral("commandLineClass"));
+    profile.changesMenus = reader.flag(QStringLiteral("changesMenus"));
     return reader.problem();
 }
 
@@ -240,6 +301,8 @@ QJsonObject ProgramProfile::toJson() const
                         {QStringLiteral("wellKnownCommands"), commands},
                         {QStringLiteral("toolsMenu"), toolsMenu},
                         {QStringLiteral("commandLineClass"), commandLineClass}};
+    if (changesMenus)
+        profile.insert(QStringLiteral("changesMenus"), true);
     if (knowsTasks())
         profile.insert(QStringLiteral("tasks"), tasksToJson());
     return profile;

@@ -21,14 +21,20 @@ struct ProgramProfile
     QString program;
     // Class names of the views, the widgets that show drawings, or of their base classes.
     QStringList viewClasses;
-    // The button, and the keys held with it, that start a gesture.
+    // The button, and the keys held with it, that start a gesture. A profile may let them depend on
+    // a setting of the program ("triggerBySetting"). This is read once.
     Qt::MouseButton triggerButton = Qt::RightButton;
     Qt::KeyboardModifiers triggerModifiers = Qt::NoModifier;
+    // True if the file says so. Otherwise a program without flat drawings gets another trigger.
+    bool hasTrigger = false;
     // From a well-known identifier, such as "ID_LINE", to the names of the program's own action:
     // its object name, or its path of captions such as "File/Open...". A program that changes its
     // menus with the task may have several names; the first one counts whose action can be used at
     // the moment.
     QHash<QString, QStringList> wellKnownCommands;
+    // True if the program shows other menus and commands with each task. A command that was never
+    // seen may then turn up at any time.
+    bool changesMenus = false;
     // Object name or caption of the menu that gets the entry of the module; empty to look
     // for one called "Tools".
     QString toolsMenu;

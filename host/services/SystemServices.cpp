@@ -80,7 +80,9 @@ public:
             expectedCommands(profile.wellKnownCommands, profileStore.values());
         for (auto it = expected.begin(); it != expected.end(); ++it)
             catalogue.expect(it.key(), it.value());
-        catalogue.trust(trustedCommands(profileStore.values()));
+        if (profile.changesMenus)
+            catalogue.trustAll();
+        catalogue.trust(trustedCommands(profileStore.values(), profileStore.site().values()));
         QObject::connect(
             &catalogue, &CommandCatalogue::dropped, &catalogue, [this](const QStringList &identifiers) {
                 textOutput.showForAWhile(
@@ -172,6 +174,11 @@ void SystemServices::stopRemembering()
 {
     if (m_d->memory)
         m_d->memory->stop();
+}
+
+void SystemServices::showForAWhile(const QString &text)
+{
+    m_d->textOutput.showForAWhile(text);
 }
 
 const ToolsMenu &SystemServices::toolsMenu() const

@@ -37,6 +37,7 @@ constexpr TaskOption kTaskOptions[] = {
 };
 
 constexpr char kJson[] = "--json";
+constexpr char kAlways[] = "--always";
 constexpr char kHelp[] = "--help";
 constexpr char kVersion[] = "--version";
 
@@ -81,7 +82,8 @@ CommandLine CommandLine::parse(const QList<QByteArray> &typed)
             if (option == task.name)
                 return parseTask(task, arguments.mid(1));
         }
-        if (option != "--") {
+        line.isAlways = option == kAlways;
+        if (option != "--" && !line.isAlways) {
             line.complaint = QStringLiteral("unknown option %1, see mouse-gestures --help")
                                  .arg(QString::fromLocal8Bit(option));
             return line;
@@ -130,6 +132,7 @@ program, a window opens in which a person can do all of this with the mouse.
                                     and why, print that as a profile, end the program
   --enable PROGRAM                  start it with gestures from the desktop's menus too
   --disable PROGRAM                 start it from the desktop's menus as before
+  --always PROGRAM [ARGUMENTS...]   start it without gestures if it cannot have them
 
   -h, --help     show this text
   -V, --version  show the version

@@ -48,6 +48,7 @@ struct CommandLine
     // after the program.
     QList<QByteArray> arguments;
     bool isJson = false; // the output is wanted as JSON
+    bool isAlways = false; // with Task::Run: start the program without gestures if need be
 };
 
 // Returns the text that `mouse-gestures --help` prints.

@@ -20,11 +20,6 @@ using gesturewidget::FileContent;
 using gesturewidget::FileWriter;
 using gesturewidget::SettingsFile;
 
-Bindings read(const QString &path)
-{
-    return Bindings::fromSettings(SettingsFile(path).read());
-}
-
 // What differs between two states of the settings.
 SettingsChange changeBetween(const Bindings &before, const Bindings &after)
 {
@@ -38,6 +33,24 @@ SettingsChange changeBetween(const Bindings &before, const Bindings &after)
         change.after.insert(it.key(), it.value());
     }
     return change;
+}
+
+QString triggerName()
+{
+    return SettingsFile::nameOf(gesturewidget::settingsnames::hostSection(),
+                                gesturewidget::settingsnames::triggerKey());
+}
+
+// What a file with the values `own` holds after `written`.
+SettingsFile::Values merged(SettingsFile::Values own, const SettingsFile::Values &written)
+{
+    for (auto it = written.cbegin(); it != written.cend(); ++it) {
+        if (it.value().isNull())
+            own.remove(it.key());
+        else
+            own.insert(it.key(), it.value());
+    }
+    return own;
 }
 
 void report(const SettingsChange &change, SettingsChange *made)
@@ -114,6 +127,7 @@ SettingsTasks::SettingsTasks(const QString &program, const QString &file, const 
                              const QString &usualTrigger)
     : m_program(program)
     , m_file(file)
+    , m_site(file)
     , m_commands(commands)
     , m_usualTrigger(usualTrigger)
 {
@@ -122,7 +136,7 @@ SettingsTasks::SettingsTasks(const QString &program, const QString &file, const 
 Bindings SettingsTasks::bindings(QString *notice) const
 {
     SettingsFile file(m_file);
-    const Bindings bindings = Bindings::fromSettings(file.read());
+    const Bindings bindings = Bindings::fromSettings(m_site.under(file.read()));
     if (notice)
         *notice = file.notice();
     return bindings;
@@ -133,7 +147,8 @@ Outcome SettingsTasks::edit(const std::function<QString(Bindings &)> &edit, Sett
     SettingsFile file(m_file);
     QString complaint;
     SettingsChange change;
-    const bool isDone = file.change([&](const SettingsFile::Values &now) -> SettingsFile::Values {
+    const bool isDone = file.change([&](const SettingsFile::Values &own) -> SettingsFile::Values {
+        const SettingsFile::Values now = m_site.under(own);
         const Bindings before = Bindings::fromSettings(now);
         Bindings after = before;
         complaint = edit(after);
@@ -175,7 +190,7 @@ Outcome SettingsTasks::replace(const SettingsFile::Values &from, const SettingsF
 
 Outcome SettingsTasks::showBindings() const
 {
-    const Bindings bindings = read(m_file);
+    const Bindings bindings = this->bindings();
     Outcome outcome;
     append(outcome.output,
            QStringLiteral("gestures in %1: %2")
@@ -194,7 +209,7 @@ Outcome SettingsTasks::showBindings() const
 Outcome SettingsTasks::showBindingsAsJson() const
 {
     Outcome outcome;
-    outcome.output = bindingsToJson(read(m_file), m_program);
+    outcome.output = bindingsToJson(bindings(), m_program);
     return outcome;
 }
 
@@ -234,12 +249,23 @@ Outcome SettingsTasks::reset(SettingsChange *made)
     SettingsFile file(m_file);
     QString trigger;
     SettingsChange change;
-    const bool isDone = file.change([&](const SettingsFile::Values &now) {
-        const Bindings before = Bindings::fromSettings(now);
+    const bool isDone = file.change([&](const SettingsFile::Values &own) {
+        const Bindings before = Bindings::fromSettings(m_site.under(own));
+        trigger = before.trigger;
         Bindings bindings = Bindings::initial();
-        bindings.trigger = trigger = before.trigger;
-        change = changeBetween(before, bindings);
-        return bindings.toSettings();
+        bindings.trigger = Bindings::fromSettings(own).trigger;
+        SettingsFile::Values values = bindings.toSettings();
+        for (auto it = values.begin(); it != values.end(); ++it) {
+            const bool isOfModule =
+                it.key().startsWith(gesturewidget::settingsnames::moduleSection() + QLatin1Char('/'));
+            if (isOfModule && m_site.values().contains(it.key()))
+                it.value() = QString(); // so that the administrator's counts
+        }
+        const QString name = triggerName();
+        if (bindings.trigger.isEmpty() && m_site.values().contains(name))
+            values.remove(name);
+        change = changeBetween(before, Bindings::fromSettings(m_site.under(merged(own, values))));
+        return values;
     });
     report(isDone ? change : SettingsChange(), made);
     Outcome outcome = outcomeOf(isDone, file);
@@ -292,7 +318,7 @@ Outcome SettingsTasks::importText(const QByteArray &text, const QString &source,
     SettingsChange change;
     const bool isDone = file.change(
         [&](const SettingsFile::Values &now) {
-            change = changeBetween(Bindings::fromSettings(now), bindings);
+            change = changeBetween(Bindings::fromSettings(m_site.under(now)), bindings);
             return imported(bindings);
         },
         m_file + QLatin1String(".before-import"));
@@ -317,12 +343,20 @@ Outcome SettingsTasks::setTrigger(const QString &text, SettingsChange *made)
                                "such as ctrl+left"));
         wanted = gesturewidget::triggerText(button, keys);
     }
-    return edit(
-        [&wanted](Bindings &bindings) {
-            bindings.trigger = wanted;
-            return QString();
-        },
-        made);
+    SettingsFile file(m_file);
+    SettingsChange change;
+    const bool isDone = file.change([&](const SettingsFile::Values &own) {
+        const bool isOfSite = wanted.isEmpty() && m_site.values().contains(triggerName());
+        SettingsFile::Values values;
+        values.insert(triggerName(), isOfSite          ? QString()
+                                     : wanted.isNull() ? QStringLiteral("")
+                                                       : wanted);
+        change = changeBetween(Bindings::fromSettings(m_site.under(own)),
+                               Bindings::fromSettings(m_site.under(merged(own, values))));
+        return values;
+    });
+    report(isDone ? change : SettingsChange(), made);
+    return outcomeOf(isDone, file);
 }
 
 } // namespace launcher

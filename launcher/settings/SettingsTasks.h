@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "host/files/SiteSettings.h"
 #include "launcher/Outcome.h"
 #include "launcher/settings/Bindings.h"
 #include "launcher/settings/KnownCommands.h"
@@ -52,7 +53,8 @@ public:
     // name the command; "" and "none" empty the direction. If the command had another direction of
     // that scheme, it loses that one.
     [[nodiscard]] Outcome bind(const QString &direction, const QString &command);
-    // Brings back all fourteen initial values. The trigger stays; the output says so.
+    // Brings back all fourteen initial values, which are the administrator's where there are some.
+    // The trigger stays; the output says so.
     [[nodiscard]] Outcome reset(SettingsChange *made = nullptr);
     // Writes all bindings as JSON to a file, in one step.
     [[nodiscard]] Outcome exportTo(const QString &path) const;
@@ -80,6 +82,7 @@ private:
 
     QString m_program;
     QString m_file;
+    gesturewidget::SiteSettings m_site;
     KnownCommands m_commands;
     QString m_usualTrigger;
 };

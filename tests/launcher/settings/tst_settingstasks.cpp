@@ -5,6 +5,7 @@
 
 #include "launcher/settings/SettingsTasks.h"
 
+#include "host/files/InstallPaths.h"
 #include "host/files/SettingsFile.h"
 #include "host/files/TriggerText.h"
 #include "launcher/settings/Bindings.h"
@@ -51,6 +52,7 @@ private Q_SLOTS:
     void aCommandHasOneDirection();
     void otherProgramsValuesStay();
     void resetKeepsTheTrigger();
+    void theAdministratorsSettings();
     void badInputChangesNothing_data();
     void badInputChangesNothing();
     void triggers_data();
@@ -216,6 +218,41 @@ void SettingsTasksTest::resetKeepsTheTrigger()
     const SettingsFile::Values values = SettingsFile(m_file).read();
     QCOMPARE(values.value(text("GestureWidget/ActiveScheme")), text("8"));
     QCOMPARE(values.value(text("GestureWidget/EnableMouseGesture")), text("1"));
+}
+
+void SettingsTasksTest::theAdministratorsSettings()
+{
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(place("own")));
+    qputenv("XDG_CONFIG_DIRS", QFile::encodeName(place("site")));
+    m_file = gesturewidget::settingsFile(kProgram);
+    write(place("site/gesturewidget/drafter.ini"),
+          "[GestureWidget]\nActiveScheme=4\n41=siteLine\n[Host]\nTrigger=ctrl+right\n");
+    SettingsTasks tasks(kProgram, m_file);
+    qunsetenv("XDG_CONFIG_HOME");
+    qunsetenv("XDG_CONFIG_DIRS");
+    const QByteArray shown = tasks.showBindings().output;
+    QVERIFY2(shown.contains("started with: ctrl+right\n4 gestures (in use)\n  up         siteLine\n"),
+             shown.constData());
+    // Only what differs is kept.
+    QVERIFY(tasks.bind(text("left"), text("ownArc")).isDone());
+    SettingsFile::Values own = SettingsFile(m_file).read();
+    QVERIFY(!own.contains(text("GestureWidget/41")));
+    QVERIFY(!own.contains(text("GestureWidget/ActiveScheme")));
+    QCOMPARE(own.value(text("GestureWidget/42")), text("ownArc"));
+    QVERIFY(tasks.bind(text("up"), text("none")).isDone());
+    QCOMPARE(tasks.bindings().four, (QStringList{QString(), text("ownArc"), QString(), QString()}));
+    QVERIFY(tasks.setTrigger(text("middle")).isDone());
+    QCOMPARE(tasks.bindings().trigger, text("middle"));
+
+    const Outcome outcome = tasks.reset();
+    QCOMPARE(outcome.output, QByteArray("gestures are still started with: middle\n"));
+    QCOMPARE(tasks.bindings().four.first(), text("siteLine"));
+    QCOMPARE(tasks.bindings().scheme, 4);
+    QVERIFY(tasks.setTrigger(text("default")).isDone());
+    QCOMPARE(tasks.bindings().trigger, text("ctrl+right"));
+    own = SettingsFile(m_file).read();
+    for (const char *key : {"GestureWidget/41", "GestureWidget/ActiveScheme", "Host/Trigger"})
+        QVERIFY2(!own.contains(text(key)), key);
 }
 
 void SettingsTasksTest::badInputChangesNothing_data()
