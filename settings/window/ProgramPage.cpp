@@ -194,6 +194,7 @@ void ProgramPage::showProgram(BindingsEditor *editor, const QIcon &icon, bool is
         examine();
     });
     connect(editor, &BindingsEditor::commandsChanged, this, &ProgramPage::showCommands);
+    m_commands->clearSearch();
     m_icon->setPixmap(icon.pixmap(kIconSize, kIconSize));
     m_title->setText(editor->title());
     m_isOn = isOn;

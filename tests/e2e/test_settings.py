@@ -23,7 +23,8 @@ from harness.spylog import SpyLog
 
 PROGRAM = PROGRAMS["librecad"]
 TITLE = "Mouse Gestures"
-WIDGETS = ("program_search", "program_list", "ring", "command_search", "command_view")
+WIDGETS = ("program_search", "program_list", "ring", "command_search", "command_view",
+           "trigger_field")
 # The ring's own size, and how far a direction's label is from its middle.
 RING_SIZE = 250
 LABEL_RADIUS = 93
@@ -155,11 +156,11 @@ class SettingsTest(unittest.TestCase):
         x, y, _, _ = self.place_of("command_view")
         return x + 70, y + 24 + 26 + 13
 
-    def stored(self, key):
+    def stored(self, key, section="GestureWidget"):
         settings = configparser.RawConfigParser()
         settings.optionxform = str
         settings.read(self.folder / "config" / "gesturewidget" / f"{PROGRAM.name}.ini")
-        return settings.get("GestureWidget", key, fallback=None)
+        return settings.get(section, key, fallback=None)
 
     # --- the tests
 
@@ -233,6 +234,30 @@ class SettingsTest(unittest.TestCase):
         self.driver.ask("wait-focus", TITLE, ANSWER_SECONDS * 1000)
         self.type_into("command_search", "points")
         self.picture("7-its-own-commands")
+
+    def test_by_keys_and_by_doing_it(self):
+        """Binds a command with the keyboard alone, and records a mouse button."""
+        self.open_window()
+        self.choose_program("librecad")
+        self.driver.ask("key", "ctrl+f")
+        self.driver.ask("type", "offset")
+        self.driver.ask("key", "Return")
+        self.driver.ask("key", "ctrl+Right")
+        self.until(lambda: (self.stored("82"), self.stored("87")) == ("", "ID_OFFSET"),
+                   "the command in its direction")
+        self.driver.ask("key", "ctrl+z")
+        self.until(lambda: (self.stored("82"), self.stored("87")) == ("ID_OFFSET", "ID_LINE"),
+                   "the binding taken back")
+
+        x, y, width, height = self.place_of("trigger_field")
+        for button, trigger in ((2, "middle"), (3, "right")):
+            self.driver.ask("move", x + width // 2, y + height // 2)
+            self.driver.ask("click", button)
+            self.until(lambda: self.stored("Trigger", "Host") == trigger, f"{trigger} as the trigger")
+        self.driver.ask("click", 1)  # with which people draw
+        self.settle()
+        self.assertEqual(self.stored("Trigger", "Host"), "right")
+        self.picture("left-refused")
 
 
 if __name__ == "__main__":

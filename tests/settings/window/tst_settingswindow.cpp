@@ -297,6 +297,33 @@ private Q_SLOTS:
         }));
     }
 
+    void anotherProgramBeginsAnew()
+    {
+        write(settingsFile(text("draw")), QByteArray(200, '\0'));
+        SettingsWindow window;
+        open(window);
+        auto *search = find<QLineEdit>(window, "command_search");
+        QTest::keyClicks(search, text("line"));
+        QVERIFY(!message(window).isEmpty());
+        auto *list = find<QListView>(window, "program_list");
+        list->setFocus();
+        QTest::keyClick(window.windowHandle(), Qt::Key_Down);
+        QCOMPARE(title(window), text("Sketch"));
+        QCOMPARE(search->text(), QString());
+        QCOMPARE(message(window), QString());
+        QTest::keyClick(window.windowHandle(), Qt::Key_Up);
+        QVERIFY(!message(window).isEmpty());
+    }
+
+    void lookingForAProgramKeepsTheChosenOne()
+    {
+        SettingsWindow window;
+        open(window);
+        QTest::keyClicks(find<QLineEdit>(window, "program_search"), text("ske"));
+        QCOMPARE(find<QListView>(window, "program_list")->model()->rowCount(), 1);
+        QCOMPARE(title(window), text("Draw"));
+    }
+
     void eachProgramKeepsItsOwnUndo()
     {
         SettingsWindow window;
