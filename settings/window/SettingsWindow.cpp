@@ -271,6 +271,8 @@ BindingsEditor *SettingsWindow::editorOf(const launcher::MenuProgram &program)
     BindingsEditor *&editor = m_editors[program.typed];
     if (!editor) {
         editor = new BindingsEditor(launcher::Subject::of(program.typed), program.name, this);
+        // What was said before is done with. What went wrong now is said after this.
+        connect(editor, &BindingsEditor::bindingsChanged, m_message, &QWidget::hide);
         connect(editor, &BindingsEditor::failed, m_message, &MessageBar::complain);
         connect(editor, &BindingsEditor::noticed, m_message, &MessageBar::complain);
         m_undo.addStack(editor->undoStack());

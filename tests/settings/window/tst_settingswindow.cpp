@@ -273,6 +273,17 @@ private Q_SLOTS:
         QFile::setPermissions(place("config"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
 
+    void aComplaintGoesWithTheNextChange()
+    {
+        SettingsWindow window;
+        open(window);
+        auto *field = find<QWidget>(window, "trigger_field");
+        QTest::mouseClick(field, Qt::LeftButton);
+        QVERIFY2(message(window).startsWith(text("The left button")), qPrintable(message(window)));
+        QTest::mouseClick(field, Qt::MiddleButton);
+        QCOMPARE(message(window), QString());
+    }
+
     void gesturesThatAreOffAreSwitchedOnHere()
     {
         write(settingsFile(text("draw")), "[GestureWidget]\nEnableMouseGesture=0\n");
