@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 GestureWidget developers
 # SPDX-License-Identifier: MIT
 
-# What is installed, and where. The component Runtime holds what runs. Devel holds what a program
+# Lists the installed files. The component Runtime holds what runs. Devel holds what a program
 # needs to host gestures itself; its headers are listed beside their sources.
 include(CMakePackageConfigHelpers)
 

@@ -10,11 +10,18 @@
 #include <QIcon>
 #include <QPointer>
 #include <QString>
+#include <QStringList>
+
+#include <vector>
+
+class QWidget;
 
 namespace gesturewidget {
 
-// One command of the program: a QAction of its menus or toolbars. The catalogue owns it and keeps
-// it when the action is gone; texts and icon then stay as they were.
+// One command of the program: a QAction of its menus or toolbars, one in each main window. The
+// catalogue owns it and keeps it when the action is gone; texts and icon then stay as they were.
+//
+// Texts, icon, action and place are those of one window, which the catalogue chooses.
 class ActionItem : public CHxUICommandItem
 {
 public:
@@ -25,7 +32,8 @@ public:
     [[nodiscard]] CHxString GetIdentifier() const override { return m_identifier; }
     // The identifier. The catalogue finds the action by it.
     [[nodiscard]] CHxString GetCommandString() const override { return m_identifier; }
-    [[nodiscard]] CHxString GetCaption() const override { return m_caption; }
+    // The name that tells it apart from other commands, see CommandNames.
+    [[nodiscard]] CHxString GetCaption() const override { return m_name; }
     [[nodiscard]] CHxString GetTip() const override { return m_tip; }
     // Both are the same, because a QIcon holds all its sizes: the program's icon, with a halo at
     // the size that the ring shows.
@@ -37,12 +45,17 @@ public:
     void SetMacro(const CHxString &) override { }
     void SetStatusText(const CHxString &) override { }
 
+    // What its entry says.
+    [[nodiscard]] const QString &caption() const { return m_caption; }
+    void setName(const QString &name);
+    // Everything that can be known about the command in a later start, but the icon.
+    [[nodiscard]] RememberedCommand remembered() const;
     // The icon as the program has it.
     [[nodiscard]] const QIcon &icon() const { return m_icon; }
     [[nodiscard]] const QString &key() const { return m_key; }
     void setKey(const QString &key) { m_key = key; }
     // Sets the caption for the time before the command has an action.
-    void setCaption(const QString &caption) { m_caption = caption; }
+    void setCaption(const QString &caption);
     // Sets everything that was known about the command when the program ran last.
     void recall(const RememberedCommand &command);
     // Returns the command's latest action; null if that is destroyed.
@@ -50,10 +63,28 @@ public:
     // Returns the address of that action, for comparing only: the action may be gone.
     [[nodiscard]] const QAction *address() const { return m_address; }
     void setAction(QAction *action);
+    // True if it has had an action since the program started, in any window.
+    [[nodiscard]] bool hasHadAction() const { return m_hasHadAction; }
+    // Shows the command as it is in the window `to`, after it was shown as in `from`. If it has
+    // never been in that window, the texts and the icon stay as they are.
+    void showIn(const QWidget *from, const QWidget *to);
+    // The same as isPresent, for a window that is not shown.
+    [[nodiscard]] bool isPresentIn(const QWidget *window) const;
+    // Forgets what it was in a window. This must not be the one that is shown.
+    void forget(const QWidget *window);
+    // Calls `visit` with the address of its action in each window.
+    template <class Visit> void forEachAddress(Visit visit) const
+    {
+        if (m_address)
+            visit(m_address);
+        for (const Look &look : m_others)
+            visit(look.address);
+    }
     // True if running the command would do something at the moment.
     [[nodiscard]] bool isUsable() const { return isPresent && m_action && m_action->isEnabled(); }
-    // Reads the texts and the icon again.
-    void read();
+    // Reads the texts and the icon again. Returns whether there are new texts. The name is then the
+    // caption until setName().
+    bool read();
 
     // True if the last scan found the action in a menu or toolbar.
     bool isPresent = false;
@@ -61,14 +92,20 @@ public:
     bool wasPresent = false;
     // The name of the group in which it was seen last.
     QString group;
+    // The captions of the menus between the group and the command.
+    QStringList way;
     // True if that group is a toolbar, false if it is a menu.
     bool isInToolBar = false;
     // True if it is always offered, because somebody has bound it or may bind it.
     bool isExpected = false;
-    // True if it is not offered before it has its first action, because the program has none.
+    // True if it is not offered before it has its first action, because the program seems to have
+    // none.
     bool isLacking = false;
     // True if the key belongs to an action that it had at an earlier start.
     bool isRemembered = false;
+    // True if its action is the entry of a list, see ListEntries. Such an entry is offered only if
+    // somebody has bound it, and never remembered.
+    bool isListEntry = false;
 
     // True for an action that a person can see and run as a command. False for separators, menus
     // and invisible actions.
@@ -77,15 +114,40 @@ public:
     [[nodiscard]] static QString captionOf(const QAction *action);
 
 private:
+    // What the command is in a window that is not shown.
+    struct Look
+    {
+        const QWidget *window;
+        QPointer<QAction> action;
+        const QAction *address;
+        QString caption;
+        QString name;
+        QString tip;
+        QString plainTip;
+        QStringList texts;
+        QIcon icon;
+        QIcon contrastIcon;
+        QString group;
+        QStringList way;
+        bool isPresent;
+        bool wasPresent;
+        bool isInToolBar;
+        bool isListEntry;
+    };
+
     void setIcon(const QIcon &icon);
 
+    std::vector<Look> m_others; // of the windows in which it has an action
+    bool m_hasHadAction = false;
     QString m_identifier;
     QString m_key;
     QPointer<QAction> m_action;
     const QAction *m_address = nullptr;
     QString m_caption;
+    QString m_name;
     QString m_tip;
-    QString m_tipSource; // the text from which m_tip was made
+    QString m_plainTip; // without the name
+    QStringList m_texts; // of the action, as they were read last
     QIcon m_icon;
     QIcon m_contrastIcon;
 };

@@ -5,11 +5,13 @@
 
 #include "host/commands/ActionItem.h"
 #include "host/commands/CommandGroup.h"
+#include "host/commands/ListEntries.h"
 #include "host/window/MenuChanges.h"
 
 #include <QHash>
 #include <QObject>
 #include <QSet>
+#include <QStringList>
 #include <QTimer>
 
 #include <memory>
@@ -22,6 +24,10 @@ namespace gesturewidget {
 // Every command that the program has offered since it started: the actions of its menus and
 // toolbars, each once.
 //
+// In a program with several main windows a command has an action in each of them, and one window is
+// the current one. Everything here is about that window: the order of commands, their texts, and
+// which of them are there.
+//
 // A command's key finds its action again at the next start. The key is the action's object name.
 // If there is none, or another action has the same name, the key is the path of captions to the
 // action, such as "File/Export/Drawing...". The identifier is the key too, unless the program's
@@ -31,8 +37,10 @@ namespace gesturewidget {
 // programs rebuild their menus, and a binding must outlive that. For the same reason commands can
 // be expected before a menu has them, and remembered from earlier starts.
 //
-// Some remembered commands without an object name are entries of lists, such as recent documents
-// and windows. They are not offered while their menu is shown without them.
+// Entries of lists, such as recent documents, open windows, layers and steps to undo, are no
+// commands, see ListEntries. One that somebody has bound is offered all the same. Remembered
+// commands without an object name that are not recognised as such are not offered while their menu
+// is shown without them.
 //
 // Reading is cheap: the menus are walked again only after they have changed. Some time after a
 // change this happens by itself, so that a gesture does not have to wait for it.
@@ -41,9 +49,18 @@ class CommandCatalogue : public QObject
     Q_OBJECT
 
 public:
-    // `wellKnown` maps identifiers to keys, see ProgramProfile.
+    // `window` is the current one; null if the program has none. `wellKnown` maps identifiers to
+    // keys, see ProgramProfile.
     CommandCatalogue(QMainWindow *window, const QHash<QString, QStringList> &wellKnown);
     ~CommandCatalogue() override;
+
+    void addWindow(QMainWindow *window);
+    // Makes a window the current one. Ignores a window that is not known.
+    void setCurrentWindow(const QWidget *window);
+    // Forgets a window and the actions of its commands. It may be half destroyed. The current
+    // window stays.
+    void removeWindow(const QWidget *window);
+    [[nodiscard]] const QWidget *currentWindow() const { return m_current->window; }
 
     // Returns the commands by top-level menu, in the order of the menu bar, then by toolbar.
     // Groups and commands live as long as the catalogue.
@@ -57,6 +74,11 @@ public:
     // Offers a command from now on in every case, also without an action. `caption` is used if
     // nothing is known about the command.
     void expect(const QString &identifier, const QString &caption);
+    // Goes on offering such a command although nobody has seen it when the menus are complete.
+    void trust(const QStringList &identifiers);
+    // The same for every command that somebody has bound, because what earlier starts have seen is
+    // not known.
+    void trustAll() { m_trustsAll = true; }
     // Offers the commands from an earlier start, with the identifiers that they had. Call this
     // before anything else is known.
     void remember(const QVector<RememberedCommand> &commands);
@@ -66,8 +88,9 @@ public:
     // All of them are expected at first: many programs show some menus only when a drawing is
     // open, and a direction loses a command that is not offered.
     void guessWellKnown();
-    // The menus are complete: well-known commands without an action are not offered until they
-    // have one.
+    // The menus are complete: guessed commands without an action are not offered until they have
+    // one. The same goes for bound commands that no start has ever seen, because their identifiers
+    // are probably mistyped. Commands that the profile names or that are trusted stay.
     void endGuessing();
     // Returns the reason for a guess; empty if the identifier was not guessed.
     [[nodiscard]] QString reasonFor(const QString &identifier) const
@@ -83,8 +106,10 @@ public:
     // True if a remembered command is probably the entry of a list and no longer there.
     [[nodiscard]] bool isOutlived(const ActionItem &item) const;
     // True if the top-level menu or toolbar of that name is shown at the moment.
-    [[nodiscard]] bool isShown(const QString &group) const { return m_places.contains(group); }
-    [[nodiscard]] MenuChanges &watcher() { return m_watcher; }
+    [[nodiscard]] bool isShown(const QString &group) const { return m_current->places.contains(group); }
+    [[nodiscard]] MenuChanges &watcher() { return m_current->watcher; }
+    // Returns the one of a window. When the window is removed, it stays until the event loop runs.
+    [[nodiscard]] MenuChanges &watcherOf(const QWidget *window);
 
     // Walks the menus now if they have changed. Every reading does this.
     void update();
@@ -92,12 +117,17 @@ public:
     // before the first reading, because guesses need complete menus.
     static constexpr int kPreparationTime = 250;
     // Makes the next reading walk the menus, also if they have not changed.
-    void invalidate() { m_stale = true; }
+    void invalidate();
 
 Q_SIGNALS:
-    // The structure of the menus has changed. Emitted in the middle of the change.
-    void menusChanged();
-    // The changes are read. Emitted from the event loop, kPreparationTime after a change.
+    // The structure of the menus of a window has changed. Emitted in the middle of the change.
+    void menusChanged(QObject *watcher);
+    // Another window is the current one.
+    void currentWindowChanged();
+    // Bound commands are no longer offered, because the program has never shown them.
+    void dropped(const QStringList &identifiers);
+    // The changes of the current window are read. Emitted from the event loop, kPreparationTime after a
+    // change.
     void prepared();
 
 private:
@@ -107,6 +137,8 @@ private:
         QString group; // empty in a menu bar
         QString path; // the captions on the way to it
         bool isInToolBar = false;
+        QStringList way = {}; // the captions below the top-level menu or toolbar
+        bool isOfList = false; // all its entries are those of a list
     };
 
     // An action that a scan has found and that has no command yet, with its place.
@@ -115,15 +147,33 @@ private:
         QAction *action;
         QString group;
         QString path; // with its own caption
+        QStringList way; // as in Place
         bool isInToolBar;
+        bool isListEntry; // bound all the same
     };
 
-    void onActionChanged(QAction *action);
+    // What belongs to one main window.
+    struct Window
+    {
+        explicit Window(QMainWindow *mainWindow);
+
+        const QWidget *const window; // for comparing only
+        MenuChanges watcher;
+        std::vector<ActionItem *> met; // those that are there, in the order of the menus
+        QSet<QString> places; // the paths of the menus and toolbars that the last scan met
+        QSet<const QAction *> changedActions;
+        bool isStale = true;
+    };
+
+    [[nodiscard]] Window *windowFor(const QWidget *window) const;
+    void onActionChanged(Window &window, QAction *action);
     void prepareSoon();
     void prepare();
     void scan();
     void walk(QWidget *widget, const Place &place);
-    void meet(QAction *action, const Place &place);
+    void meet(QAction *action, const Place &place, bool isListEntry);
+    // True if somebody has bound the action with that path of captions.
+    [[nodiscard]] bool isBound(const QAction &action, const QString &path) const;
     void admit(const Newcomer &newcomer);
     ActionItem *reusable(const QString &key, bool *isTaken) const;
     void guess();
@@ -131,9 +181,12 @@ private:
     ActionItem *expectedFor(const QString &identifier) const;
     ActionItem *add(const QString &identifier, const QString &key);
     void arrangeGroups();
+    void giveNames();
     CommandGroup &groupNamed(const QString &name);
 
-    MenuChanges m_watcher;
+    std::vector<std::unique_ptr<Window>> m_windows;
+    std::vector<std::unique_ptr<Window>> m_removed; // until the event loop runs
+    Window *m_current; // never null
     QHash<QString, QStringList> m_wellKnown; // identifier to keys
     QHash<QString, QString> m_identifiers; // the other way round
     std::vector<std::unique_ptr<ActionItem>> m_items; // in the order of first sight
@@ -142,18 +195,18 @@ private:
     QHash<QString, ActionItem *> m_byName; // identifiers and keys
     std::vector<std::unique_ptr<CommandGroup>> m_groups;
     QHash<QString, CommandGroup *> m_groupsByName;
-    QSet<QString> m_places; // the paths of the menus and toolbars that the last scan met
-    QSet<const QAction *> m_changedActions;
     QHash<QString, QString> m_reasons; // of guesses, by identifier
+    QSet<QString> m_trusted; // identifiers
+    bool m_trustsAll = false;
     bool m_guesses = false;
-    bool m_stale = true;
+    bool m_namesAreStale = false;
     bool m_wasRead = false;
     QTimer m_preparation;
 
     // Only during a scan.
     QSet<const QWidget *> m_visited;
-    std::vector<ActionItem *> m_met; // in the order of the menus
     std::vector<Newcomer> m_newcomers;
+    ListEntries m_lists;
     QHash<const QAction *, QString> m_guessed; // newcomers, to identifier
     QHash<QString, int> m_nextNumbers; // of equal captions, by path
 };

@@ -15,20 +15,24 @@ namespace gesturewidget {
 class ActionItem;
 class CommandCatalogue;
 class CommandStack;
+class MainWindows;
 class TextOutput;
 
 // Runs commands by name: macros, which run commands that modules have registered, and the
 // program's own actions.
 //
-// What runs may do anything, such as close the window or end this object.
+// What is chosen runs later, but in the window that was current when it was chosen. If that window
+// is gone by then, nothing runs.
+//
+// A command may do anything, such as close the window or destroy this object.
 class CommandRunner : public QObject
 {
     Q_OBJECT
 
 public:
-    // `documents` may be null.
+    // `documents` and `windows` may be null.
     CommandRunner(CommandStack &stack, CommandCatalogue &catalogue, TextOutput &output,
-                  CHxDocumentManager *documents);
+                  CHxDocumentManager *documents, MainWindows *windows = nullptr);
     ~CommandRunner() override;
 
     // See CHxSystemServices::RunCommand(). Each "^C" of a macro sends Escape to the active drawing
@@ -48,6 +52,8 @@ private:
 
     [[nodiscard]] static Macro parsed(const QString &command);
     [[nodiscard]] bool isFound(const QString &command) const;
+    // Calls `run` from the event loop, with the window current that is current now.
+    template <class Run> void queue(Run run);
     void execute(const QString &command);
     void executeMacro(const Macro &macro);
     void executeStackCommand(const QString &name);
@@ -59,6 +65,7 @@ private:
     CommandCatalogue &m_catalogue;
     TextOutput &m_output;
     CHxDocumentManager *m_documents;
+    MainWindows *m_windows;
 };
 
 } // namespace gesturewidget

@@ -38,4 +38,13 @@ QMap<QString, QString> expectedCommands(const QHash<QString, QStringList> &wellK
     return expected;
 }
 
+QStringList trustedCommands(const SettingsFile::Values &settings)
+{
+    QStringList identifiers =
+        settings.value(SettingsFile::nameOf(settingsnames::hostSection(), settingsnames::importedKey()))
+            .split(QLatin1Char('\n'));
+    identifiers.removeAll(QString());
+    return identifiers;
+}
+
 } // namespace gesturewidget

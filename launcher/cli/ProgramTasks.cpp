@@ -110,7 +110,7 @@ int doSettingsTask(const CommandLine &line)
     case Task::Print:
         return report(print(subject, path, settings));
     default:
-        return complain(QStringLiteral("this is no task about settings"), kLauncherFailed);
+        return complain(QStringLiteral("this is not a task about settings"), kLauncherFailed);
     }
 }
 

@@ -18,7 +18,8 @@ namespace launcher {
 class DesktopFile
 {
 public:
-    // Returns false when the file does not exist or cannot be read.
+    // Returns false when the file does not exist, cannot be read, or has no "Type" as every desktop
+    // entry has.
     [[nodiscard]] bool read(const QString &path);
     [[nodiscard]] QByteArray content() const;
 

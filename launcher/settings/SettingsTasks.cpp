@@ -6,6 +6,7 @@
 #include "host/files/FileContent.h"
 #include "host/files/FileWriter.h"
 #include "host/files/SettingsFile.h"
+#include "host/files/SettingsNames.h"
 #include "host/files/TriggerText.h"
 #include "launcher/settings/Bindings.h"
 #include "launcher/settings/BindingsJson.h"
@@ -48,6 +49,19 @@ void report(const SettingsChange &change, SettingsChange *made)
 Outcome outcomeOf(bool isDone, const SettingsFile &file)
 {
     return isDone ? Outcome() : Outcome::failure(file.problem());
+}
+
+// The settings for imported bindings. Their commands may be new to this computer.
+SettingsFile::Values imported(const Bindings &bindings)
+{
+    SettingsFile::Values values = bindings.toSettings();
+    QStringList identifiers = bindings.four + bindings.eight;
+    identifiers.removeAll(QString());
+    identifiers.removeDuplicates();
+    values.insert(SettingsFile::nameOf(gesturewidget::settingsnames::hostSection(),
+                                       gesturewidget::settingsnames::importedKey()),
+                  identifiers.join(QLatin1Char('\n')));
+    return values;
 }
 
 void append(QByteArray &text, const QString &line)
@@ -196,17 +210,23 @@ Outcome SettingsTasks::bind(const QString &direction, const QString &command)
             return Outcome::failure(complaint);
     }
 
-    return edit([&](Bindings &bindings) -> QString {
+    Outcome outcome = edit([&](Bindings &bindings) -> QString {
         const QStringList names = Bindings::directionNames(bindings.scheme);
         const auto index = names.indexOf(direction.toLower());
         if (index < 0)
-            return QStringLiteral("\"%1\" is none of the %2 directions: %3")
+            return QStringLiteral("\"%1\" is not one of the %2 directions: %3")
                 .arg(direction)
                 .arg(bindings.scheme)
                 .arg(names.join(QStringLiteral(", ")));
         bindings.bind(static_cast<int>(index), wanted);
         return {};
     });
+    if (outcome.isDone() && !wanted.isEmpty() && !m_commands.canJudge(wanted))
+        append(outcome.output,
+               QStringLiteral("%1 has not run with gestures yet; if it has no command \"%2\", the "
+                              "direction becomes empty")
+                   .arg(m_program, wanted.simplified()));
+    return outcome;
 }
 
 Outcome SettingsTasks::reset(SettingsChange *made)
@@ -273,7 +293,7 @@ Outcome SettingsTasks::importText(const QByteArray &text, const QString &source,
     const bool isDone = file.change(
         [&](const SettingsFile::Values &now) {
             change = changeBetween(Bindings::fromSettings(now), bindings);
-            return bindings.toSettings();
+            return imported(bindings);
         },
         m_file + QLatin1String(".before-import"));
     report(isDone ? change : SettingsChange(), made);

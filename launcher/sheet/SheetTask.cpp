@@ -31,7 +31,7 @@ SheetContent sheetContent(const QString &program, const Bindings &bindings, cons
         SheetContent::Command command;
         command.direction = names.at(i);
         if (const gesturewidget::RememberedCommand *shown = known.find(identifiers.at(i))) {
-            command.caption = shown->caption;
+            command.caption = known.captionOf(identifiers.at(i));
             command.category = shown->group;
             command.icon = shown->icon;
         }

@@ -275,7 +275,7 @@ def build_packages(folder):
         old.unlink()
     copy_sources(folder / "source")
     environment = dict(os.environ, DEB_BUILD_OPTIONS=f"parallel={os.cpu_count()} noautodbgsym",
-                       DEB_CXXFLAGS_APPEND="-g0")
+                       DEB_CXXFLAGS_APPEND="-g0", GESTUREWIDGET_PRECOMPILE="ON")
     if shutil.which("ccache"):
         environment["CCACHE_DIR"] = run("ccache", "--get-config", "cache_dir").strip()
     run("dpkg-buildpackage", "-us", "-uc", "-b", directory=folder / "source", environment=environment)
