@@ -35,7 +35,7 @@ ImportPreview::ImportPreview(const BindingsEditor &editor, const launcher::Bindi
     label->setTextFormat(Qt::PlainText);
     auto *buttons = new QDialogButtonBox(this);
     QPushButton *import = buttons->addButton(tr("&Import"), QDialogButtonBox::AcceptRole);
-    buttons->addButton(QDialogButtonBox::Cancel);
+    buttons->addButton(tr("&Cancel"), QDialogButtonBox::RejectRole);
     if (changes() == 0) {
         label->setText(
             tr("%1 has what %2 has already. Nothing would change.").arg(source, editor.title()));
