@@ -26,6 +26,7 @@ namespace {
 
 constexpr int kIconSize = 48; // pixels
 constexpr int kBetween = 14; // pixels
+constexpr int kCommandsWidth = 14; // heights of a line of text
 constexpr double kTitleGrowth = 1.5;
 
 } // namespace
@@ -120,6 +121,7 @@ QWidget *ProgramPage::createRing()
 QWidget *ProgramPage::createCommands()
 {
     auto *side = new QWidget(this);
+    side->setMinimumWidth(kCommandsWidth * fontMetrics().height());
     m_commands = new CommandPanel(side);
     m_firstHint = new QLabel(side);
     m_firstHint->setObjectName(QStringLiteral("first_hint"));

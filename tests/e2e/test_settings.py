@@ -232,8 +232,23 @@ class SettingsTest(unittest.TestCase):
         # The window has noticed the program's own commands.
         self.driver.ask("activate", TITLE)
         self.driver.ask("wait-focus", TITLE, ANSWER_SECONDS * 1000)
-        self.type_into("command_search", "points")
+        self.type_into("command_search", "line > 2 points")
         self.picture("7-its-own-commands")
+        self.drag(self.first_command(), self.sector(LEFT))
+        self.until(lambda: self.stored("83") == "ID_LINE", "the command in another direction")
+
+        # The running program takes the change at its next gesture.
+        self.driver.ask("activate", "drawing.dxf")
+        self.driver.ask("wait-focus", "drawing.dxf", ANSWER_SECONDS * 1000)
+        self.driver.ask("move", *middle)
+        self.driver.ask("wait-pointer-in", "drawing.dxf", ANSWER_SECONDS * 1000)
+        mark = self.spy.mark()
+        self.driver.ask("press", 3)
+        self.driver.ask("drag", -120, 0, 400)
+        self.driver.ask("release", 3)
+        line = self.spy.wait(mark, lambda line: line[0] == "triggered", ANSWER_SECONDS)
+        self.assertEqual(line[1], "DrawLine")
+        self.driver.ask("wait-no-size", RING_SIZE, RING_SIZE, ANSWER_SECONDS * 1000)
 
     def test_by_keys_and_by_doing_it(self):
         """Binds a command with the keyboard alone, and records a mouse button."""

@@ -5,6 +5,7 @@
 
 #include "settings/window/SettingsWindow.h"
 
+#include "host/language/Translations.h"
 #include "settings/window/MessageBar.h"
 #include "tests/settings/support/HomeTest.h"
 
@@ -333,6 +334,42 @@ private Q_SLOTS:
         QTest::keyClicks(find<QLineEdit>(window, "program_search"), text("ske"));
         QCOMPARE(find<QListView>(window, "program_list")->model()->rowCount(), 1);
         QCOMPARE(title(window), text("Draw"));
+    }
+
+    void everyLanguageFits_data()
+    {
+        QTest::addColumn<QString>("language");
+        const QStringList languages = gesturewidget::Translations::languages();
+        QVERIFY(languages.contains(text("de")));
+        for (const QString &language : languages)
+            QTest::newRow(language.toLatin1().constData()) << language;
+    }
+    void everyLanguageFits()
+    {
+        QFETCH(QString, language);
+        gesturewidget::Translations translations;
+        translations.install(language);
+        SettingsWindow window;
+        open(window);
+        QVERIFY(window.windowTitle() != text("Mouse Gestures"));
+        QVERIFY(state(window) != QString());
+        int seen = 0;
+        const auto labels = window.findChildren<QLabel *>();
+        for (const QLabel *label : labels) {
+            if (!label->isVisible() || label->text().isEmpty())
+                continue;
+            const int needed =
+                label->wordWrap() ? label->heightForWidth(label->width()) : label->sizeHint().height();
+            QTRY_VERIFY2_WITH_TIMEOUT(label->height() >= needed, qPrintable(label->text()), 500);
+            QVERIFY2(label->wordWrap() || label->width() >= label->sizeHint().width(),
+                     qPrintable(label->text()));
+            ++seen;
+        }
+        QVERIFY(seen >= 5);
+        const auto buttons = window.findChildren<QAbstractButton *>();
+        for (const QAbstractButton *button : buttons)
+            QVERIFY2(!button->isVisible() || button->width() >= button->minimumSizeHint().width(),
+                     qPrintable(button->text()));
     }
 
     void eachProgramKeepsItsOwnUndo()
