@@ -4,10 +4,13 @@
 // mouse-gestures-settings: the window in which people who do not type choose programs, commands and
 // directions.
 
+#include "host/language/LanguageChoice.h"
+#include "host/language/Translations.h"
 #include "settings/window/SettingsWindow.h"
 
 #include <QApplication>
 #include <QIcon>
+#include <QLocale>
 
 int main(int argc, char **argv)
 {
@@ -16,6 +19,9 @@ int main(int argc, char **argv)
     QApplication::setApplicationDisplayName(QString());
     QGuiApplication::setDesktopFileName(QStringLiteral("mouse-gestures"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("mouse-gestures")));
+    gesturewidget::Translations translations;
+    translations.install(gesturewidget::chooseLanguage(QLocale::system().uiLanguages(),
+                                                       gesturewidget::Translations::languages()));
     settings::SettingsWindow window;
     window.show();
     return QApplication::exec();
