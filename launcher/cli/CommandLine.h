@@ -24,6 +24,7 @@ struct CommandLine
         ListCommands, // may be JSON
         Bind, // direction, command
         SetTrigger, // trigger
+        SetRing, // task, "own" or "shared"
         Reset,
         Export, // file; "-" or nothing for standard output
         Import, // file; "-" for standard input
@@ -47,6 +48,7 @@ struct CommandLine
     // after the program.
     QList<QByteArray> arguments;
     bool isJson = false; // the output is wanted as JSON
+    QByteArray ring; // with Task::Bind: the task whose own ring is meant; empty for the shared ring
 };
 
 // Returns the text that `mouse-gestures --help` prints.

@@ -57,6 +57,25 @@ Outcome print(const Subject &subject, const QString &path, const Bindings &bindi
     return printSheet(content, QFile::decodeName(launcherFolder() + kSheet), path);
 }
 
+Outcome setRing(SettingsTasks &tasks, const gesturewidget::ProgramProfile &profile,
+                const KnownCommands &commands, const CommandLine &line)
+{
+    if (!profile.knowsTasks())
+        return Outcome::failure(QStringLiteral("the profile of this program knows no tasks"));
+    const QString task = QString::fromLocal8Bit(line.arguments.value(0));
+    // A program's workbenches are entries of its menus; classes of views are not known here.
+    const bool isKnown = profile.isTaskOfView || profile.taskBindings.contains(task)
+                      || !commands.captionOf(task).isEmpty();
+    if (!isKnown) {
+        QStringList known = profile.taskBindings.keys();
+        known.sort();
+        return Outcome::failure(QStringLiteral("there is no task \"%1\"; known ones are %2")
+                                    .arg(task, known.join(QStringLiteral(", "))));
+    }
+    return tasks.setRing(task, QString::fromLocal8Bit(line.arguments.value(1)),
+                         profile.taskBindings.value(task));
+}
+
 Outcome importStandardInput(SettingsTasks &tasks)
 {
     QByteArray text(SettingsTasks::kMaximalImport + 1, '\0'); // one more, to notice a longer text
@@ -127,8 +146,11 @@ int doSettingsTask(const CommandLine &line)
     case Task::ListCommands:
         return report(line.isJson ? commands.listAsJson(subject.name) : commands.list(subject.name));
     case Task::Bind:
+        tasks.chooseRing(QString::fromLocal8Bit(line.ring));
         return report(
             tasks.bind(QString::fromLocal8Bit(first), QString::fromLocal8Bit(line.arguments.value(1))));
+    case Task::SetRing:
+        return report(setRing(tasks, profile, commands, line));
     case Task::SetTrigger:
         return report(tasks.setTrigger(QString::fromLocal8Bit(first)));
     case Task::Reset:

@@ -5,6 +5,7 @@
 
 #include "host/files/FileContent.h"
 #include "host/files/FileWriter.h"
+#include "host/files/RingSettings.h"
 #include "host/files/SettingsFile.h"
 #include "host/files/SettingsNames.h"
 #include "host/files/TriggerText.h"
@@ -19,6 +20,7 @@ namespace {
 using gesturewidget::FileContent;
 using gesturewidget::FileWriter;
 using gesturewidget::SettingsFile;
+namespace ringsettings = gesturewidget::ringsettings;
 
 Bindings read(const QString &path)
 {
@@ -55,6 +57,13 @@ void appendScheme(QByteArray &text, int scheme, const QStringList &commands, boo
     }
 }
 
+void appendRing(QByteArray &text, const Bindings &bindings, const KnownCommands &known)
+{
+    const bool isFour = bindings.scheme == 4;
+    appendScheme(text, isFour ? 4 : 8, isFour ? bindings.four : bindings.eight, true, known);
+    appendScheme(text, isFour ? 8 : 4, isFour ? bindings.eight : bindings.four, false, known);
+}
+
 } // namespace
 
 SettingsTasks::SettingsTasks(const QString &program, const QString &file, const KnownCommands &commands,
@@ -73,7 +82,8 @@ Bindings SettingsTasks::bindings() const
 
 Outcome SettingsTasks::showBindings() const
 {
-    const Bindings bindings = read(m_file);
+    const SettingsFile::Values values = SettingsFile(m_file).read();
+    const Bindings bindings = Bindings::fromSettings(values);
     Outcome outcome;
     append(outcome.output,
            QStringLiteral("gestures in %1: %2")
@@ -81,11 +91,13 @@ Outcome SettingsTasks::showBindings() const
     append(outcome.output, bindings.trigger.isEmpty()
                                ? QStringLiteral("started with: %1 (default)").arg(m_usualTrigger)
                                : QStringLiteral("started with: %1").arg(bindings.trigger));
-    const bool isFour = bindings.scheme == 4;
-    appendScheme(outcome.output, isFour ? 4 : 8, isFour ? bindings.four : bindings.eight, true,
-                 m_commands);
-    appendScheme(outcome.output, isFour ? 8 : 4, isFour ? bindings.eight : bindings.four, false,
-                 m_commands);
+    appendRing(outcome.output, bindings, m_commands);
+    const QStringList tasks = ringsettings::ownRings(values);
+    for (const QString &task : tasks) {
+        append(outcome.output, QStringLiteral("ring of %1").arg(task));
+        appendRing(outcome.output, Bindings::fromSettings(ringsettings::seenIn(values, task)),
+                   m_commands);
+    }
     return outcome;
 }
 
@@ -111,7 +123,13 @@ Outcome SettingsTasks::bind(const QString &direction, const QString &command)
     SettingsFile file(m_file);
     QString complaint;
     const bool isDone = file.change([&](const SettingsFile::Values &now) -> SettingsFile::Values {
-        Bindings bindings = Bindings::fromSettings(now);
+        if (!m_ring.isEmpty() && !ringsettings::hasOwnRing(now, m_ring)) {
+            complaint =
+                QStringLiteral("%1 has no ring of its own, see mouse-gestures --ring").arg(m_ring);
+            return {};
+        }
+        const SettingsFile::Values seen = ringsettings::seenIn(now, m_ring);
+        Bindings bindings = Bindings::fromSettings(seen);
         const QStringList names = Bindings::directionNames(bindings.scheme);
         const auto index = names.indexOf(direction.toLower());
         if (index < 0) {
@@ -127,9 +145,24 @@ Outcome SettingsTasks::bind(const QString &direction, const QString &command)
                 other.clear();
         }
         commands[index] = wanted;
-        return bindings.changesFrom(now);
+        const SettingsFile::Values changes = bindings.changesFrom(seen);
+        return m_ring.isEmpty() ? changes : ringsettings::movedTo(changes, m_ring);
     });
     return complaint.isEmpty() ? outcomeOf(isDone, file) : Outcome::failure(complaint);
+}
+
+Outcome SettingsTasks::setRing(const QString &task, const QString &kind,
+                               const QHash<QString, QString> &first)
+{
+    const bool isOwn = kind == QLatin1String("own");
+    if (!isOwn && kind != QLatin1String("shared"))
+        return Outcome::failure(QStringLiteral("a ring is \"own\" or \"shared\", not \"%1\"").arg(kind));
+    SettingsFile file(m_file);
+    const bool isDone = file.change([&](const SettingsFile::Values &now) {
+        return isOwn ? ringsettings::ownRing(now, task, first, Bindings::fromSettings(now).toSettings())
+                     : ringsettings::sharedRing(task);
+    });
+    return outcomeOf(isDone, file);
 }
 
 Outcome SettingsTasks::reset()

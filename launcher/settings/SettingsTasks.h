@@ -7,6 +7,7 @@
 #include "launcher/settings/Bindings.h"
 #include "launcher/settings/KnownCommands.h"
 
+#include <QHash>
 #include <QString>
 
 namespace launcher {
@@ -21,15 +22,24 @@ public:
     SettingsTasks(const QString &program, const QString &file, const KnownCommands &commands = {},
                   const QString &usualTrigger = QStringLiteral("right"));
 
-    // Reads the bindings from the file.
+    // Lets bind() change the ring that a task has of its own, see host/files/RingSettings.h; empty for
+    // the shared ring.
+    void chooseRing(const QString &task) { m_ring = task; }
+
+    // Reads the bindings of the shared ring from the file.
     [[nodiscard]] Bindings bindings() const;
-    // Both schemes, the one in use first, with the captions of the commands that are known.
+    // Both schemes, the one in use first, with the captions of the commands that are known; then the
+    // rings of single tasks.
     [[nodiscard]] Outcome showBindings() const;
     [[nodiscard]] Outcome showBindingsAsJson() const;
     // Binds a command to a direction of the scheme in use. KnownCommands::resolve() says how to
     // name the command; "" and "none" empty the direction. If the command had another direction of
     // that scheme, it loses that one.
     [[nodiscard]] Outcome bind(const QString &direction, const QString &command);
+    // Gives a task a ring of its own, or lets it use the shared one again. `first` are the profile's
+    // first bindings for the task, by key.
+    [[nodiscard]] Outcome setRing(const QString &task, const QString &kind,
+                                  const QHash<QString, QString> &first);
     // Brings back all fourteen initial values. The trigger stays; the output says so.
     [[nodiscard]] Outcome reset();
     // Writes all bindings as JSON to a file, in one step.
@@ -51,6 +61,7 @@ private:
     QString m_file;
     KnownCommands m_commands;
     QString m_usualTrigger;
+    QString m_ring;
 };
 
 } // namespace launcher
