@@ -10,7 +10,7 @@
 
 namespace gesturewidget {
 
-// What menus and well-known commands are called in one language. The lists are the JSON files
+// The captions of menus and well-known commands in one language. The lists are the JSON files
 // beside this header. All captions are in lower case, without mnemonics and ellipses.
 //
 // A program is never asked for its language: a caption counts if any language has it. So a list
@@ -18,7 +18,8 @@ namespace gesturewidget {
 struct KnownCaptions
 {
     QString language; // ISO 639-1, such as "de"
-    // By role: "tools", "help", "file", "edit", "view", "draw", "draft". The usual one first.
+    // By role: "tools", "help", "file", "edit", "view", "draw", "draft", and menus of entries that
+    // are no commands: "recent", "undo", "redo", "layers". The usual one first.
     QHash<QString, QStringList> menus;
     // By identifier, such as "ID_LINE".
     QHash<QString, QStringList> commands;
@@ -28,7 +29,7 @@ struct KnownCaptions
     // English first. Read on the first call.
     [[nodiscard]] static const QVector<KnownCaptions> &languages();
 
-    // What all languages together call menus of that role; English first.
+    // The captions of menus of that role in all languages; English first.
     [[nodiscard]] static QStringList menusOf(const QString &role);
 };
 

@@ -10,6 +10,7 @@
 #include <QIcon>
 #include <QPointer>
 #include <QString>
+#include <QStringList>
 
 #include <vector>
 
@@ -31,7 +32,8 @@ public:
     [[nodiscard]] CHxString GetIdentifier() const override { return m_identifier; }
     // The identifier. The catalogue finds the action by it.
     [[nodiscard]] CHxString GetCommandString() const override { return m_identifier; }
-    [[nodiscard]] CHxString GetCaption() const override { return m_caption; }
+    // The name that tells it apart from other commands, see CommandNames.
+    [[nodiscard]] CHxString GetCaption() const override { return m_name; }
     [[nodiscard]] CHxString GetTip() const override { return m_tip; }
     // Both are the same, because a QIcon holds all its sizes: the program's icon, with a halo at
     // the size that the ring shows.
@@ -43,12 +45,17 @@ public:
     void SetMacro(const CHxString &) override { }
     void SetStatusText(const CHxString &) override { }
 
+    // What its entry says.
+    [[nodiscard]] const QString &caption() const { return m_caption; }
+    void setName(const QString &name);
+    // Everything that can be known about the command in a later start, but the icon.
+    [[nodiscard]] RememberedCommand remembered() const;
     // The icon as the program has it.
     [[nodiscard]] const QIcon &icon() const { return m_icon; }
     [[nodiscard]] const QString &key() const { return m_key; }
     void setKey(const QString &key) { m_key = key; }
     // Sets the caption for the time before the command has an action.
-    void setCaption(const QString &caption) { m_caption = caption; }
+    void setCaption(const QString &caption);
     // Sets everything that was known about the command when the program ran last.
     void recall(const RememberedCommand &command);
     // Returns the command's latest action; null if that is destroyed.
@@ -75,8 +82,9 @@ public:
     }
     // True if running the command would do something at the moment.
     [[nodiscard]] bool isUsable() const { return isPresent && m_action && m_action->isEnabled(); }
-    // Reads the texts and the icon again.
-    void read();
+    // Reads the texts and the icon again. Returns whether there are new texts. The name is then the
+    // caption until setName().
+    bool read();
 
     // True if the last scan found the action in a menu or toolbar.
     bool isPresent = false;
@@ -84,14 +92,20 @@ public:
     bool wasPresent = false;
     // The name of the group in which it was seen last.
     QString group;
+    // The captions of the menus between the group and the command.
+    QStringList way;
     // True if that group is a toolbar, false if it is a menu.
     bool isInToolBar = false;
     // True if it is always offered, because somebody has bound it or may bind it.
     bool isExpected = false;
-    // True if it is not offered before it has its first action, because the program has none.
+    // True if it is not offered before it has its first action, because the program seems to have
+    // none.
     bool isLacking = false;
     // True if the key belongs to an action that it had at an earlier start.
     bool isRemembered = false;
+    // True if its action is the entry of a list, see ListEntries. Such an entry is offered only if
+    // somebody has bound it, and never remembered.
+    bool isListEntry = false;
 
     // True for an action that a person can see and run as a command. False for separators, menus
     // and invisible actions.
@@ -107,14 +121,18 @@ private:
         QPointer<QAction> action;
         const QAction *address;
         QString caption;
+        QString name;
         QString tip;
-        QString tipSource;
+        QString plainTip;
+        QStringList texts;
         QIcon icon;
         QIcon contrastIcon;
         QString group;
+        QStringList way;
         bool isPresent;
         bool wasPresent;
         bool isInToolBar;
+        bool isListEntry;
     };
 
     void setIcon(const QIcon &icon);
@@ -126,8 +144,10 @@ private:
     QPointer<QAction> m_action;
     const QAction *m_address = nullptr;
     QString m_caption;
+    QString m_name;
     QString m_tip;
-    QString m_tipSource; // the text from which m_tip was made
+    QString m_plainTip; // without the name
+    QStringList m_texts; // of the action, as they were read last
     QIcon m_icon;
     QIcon m_contrastIcon;
 };

@@ -18,18 +18,6 @@ namespace {
 constexpr int kDrawingTime = 4;
 constexpr int kDrawingPause = 20;
 
-RememberedCommand commandOf(const ActionItem &item)
-{
-    RememberedCommand command;
-    command.identifier = item.GetIdentifier().toQString();
-    command.command = item.key();
-    command.caption = item.GetCaption().toQString();
-    command.tip = item.GetTip().toQString();
-    command.group = item.group;
-    command.isInToolBar = item.isInToolBar;
-    return command;
-}
-
 } // namespace
 
 CatalogueMemory::CatalogueMemory(CommandCatalogue &catalogue, const QString &file)
@@ -41,8 +29,8 @@ CatalogueMemory::CatalogueMemory(CommandCatalogue &catalogue, const QString &fil
     connect(&m_quiet, &QTimer::timeout, this, &CatalogueMemory::look);
     m_drawing.setInterval(kDrawingPause);
     connect(&m_drawing, &QTimer::timeout, this, &CatalogueMemory::draw);
-    // Only the first of many changes starts the timer: a program that never rests would put it off
-    // for ever.
+    // Only the first of many changes starts the timer. Otherwise a program that never rests would put
+    // it off forever.
     const auto lookLater = [this] {
         if (m_isStarted && !m_quiet.isActive())
             m_quiet.start();
@@ -54,6 +42,8 @@ CatalogueMemory::CatalogueMemory(CommandCatalogue &catalogue, const QString &fil
     for (const RememberedCommand &command : commands)
         m_known.insert(command.identifier, command);
     m_catalogue.remember(commands);
+    if (!m_file.isComplete())
+        m_catalogue.trustAll();
 }
 
 CatalogueMemory::~CatalogueMemory() = default;
@@ -78,10 +68,10 @@ void CatalogueMemory::look()
 {
     for (const auto &item : m_catalogue.items()) {
         const QString identifier = item->GetIdentifier().toQString();
-        if (!item->isPresent || m_compared.contains(identifier))
+        if (!item->isPresent || item->isListEntry || m_compared.contains(identifier))
             continue;
         m_compared.insert(identifier);
-        RememberedCommand command = commandOf(*item);
+        RememberedCommand command = item->remembered();
         const RememberedCommand known = m_known.value(identifier);
         const QIcon icon = item->icon();
         const bool isIconNew = known.icon.isEmpty() && !icon.isNull();

@@ -4,6 +4,8 @@
 #include "host/commands/CommandCatalogue.h"
 
 #include "host/commands/WellKnownGuess.h"
+#include "host/files/CommandNames.h"
+#include "host/files/DocumentName.h"
 #include "host/window/Captions.h"
 #include "host/window/EntryAction.h"
 
@@ -168,17 +170,32 @@ void CommandCatalogue::guessWellKnown()
     }
 }
 
+void CommandCatalogue::trust(const QStringList &identifiers)
+{
+    for (const QString &identifier : identifiers)
+        m_trusted.insert(identifier);
+}
+
 void CommandCatalogue::endGuessing()
 {
-    if (!m_guesses)
-        return;
     update();
-    const QStringList identifiers = WellKnownGuess::identifiers();
-    for (const QString &identifier : identifiers) {
-        if (ActionItem *item = expectedFor(identifier); item && !m_wellKnown.contains(identifier))
+    const QStringList wellKnown = WellKnownGuess::identifiers();
+    QStringList unseen;
+    for (const auto &item : m_items) {
+        const QString identifier = item->GetIdentifier().toQString();
+        if (!item->isExpected || item->isLacking || !expectedFor(identifier)
+            || m_wellKnown.contains(identifier))
+            continue;
+        if (wellKnown.contains(identifier)) {
+            item->isLacking = m_guesses;
+        } else if (!m_trustsAll && !m_trusted.contains(identifier)) {
             item->isLacking = true;
+            unseen.append(identifier);
+        }
     }
     invalidate();
+    if (!unseen.isEmpty())
+        Q_EMIT dropped(unseen);
 }
 
 void CommandCatalogue::remember(const QVector<RememberedCommand> &commands)
@@ -217,7 +234,7 @@ bool CommandCatalogue::isOutlived(const ActionItem &item) const
         return false;
     // A key that is a path ends with the caption, and with a number if there are several.
     static const QRegularExpression number(QStringLiteral(" \\(\\d+\\)$"));
-    const QString caption = QLatin1Char('/') + item.GetCaption().toQString();
+    const QString caption = QLatin1Char('/') + item.caption();
     QString path = item.key();
     if (!path.endsWith(caption))
         path.remove(number);
@@ -244,8 +261,11 @@ void CommandCatalogue::onActionChanged(Window &window, QAction *action)
     if (isCurrent)
         prepareSoon();
     const ActionItem *item = m_byAction.value(action);
+    // Some programs keep an action for each recent document and change its caption.
+    const bool isStill = ActionItem::isCommand(action)
+                      && (item && (item->isListEntry || !namesADocument(ActionItem::captionOf(action))));
     const bool isPresent = item && (isCurrent ? item->isPresent : item->isPresentIn(window.window));
-    if (isPresent && ActionItem::isCommand(action)) {
+    if (isPresent && isStill) {
         window.changedActions.insert(action);
         return;
     }
@@ -255,7 +275,7 @@ void CommandCatalogue::onActionChanged(Window &window, QAction *action)
 }
 
 // Only the first of many changes starts the timer. Otherwise a program that never rests would put
-// it off for ever. Also, starting a timer takes longer than all other work for a change.
+// it off forever. Also, starting a timer takes longer than all other work for a change.
 void CommandCatalogue::prepareSoon()
 {
     if (m_wasRead && !m_preparation.isActive())
@@ -273,14 +293,14 @@ void CommandCatalogue::update()
     if (m_current->isStale)
         scan();
     QSet<const QAction *> &changed = m_current->changedActions;
-    if (changed.isEmpty())
-        return;
     for (const QAction *action : std::as_const(changed)) {
         ActionItem *item = m_byAction.value(action);
         if (item && item->action() == action)
-            item->read();
+            m_namesAreStale |= item->read();
     }
     changed.clear();
+    if (m_namesAreStale)
+        giveNames();
 }
 
 void CommandCatalogue::scan()
@@ -291,6 +311,7 @@ void CommandCatalogue::scan()
         item->wasPresent = std::exchange(item->isPresent, false);
     m_current->met.clear();
     m_current->met.reserve(m_items.size());
+    m_lists = {};
     m_current->places.clear();
     const QVector<QMenuBar *> menuBars = watcher().menuBars();
     for (QMenuBar *bar : menuBars)
@@ -298,7 +319,7 @@ void CommandCatalogue::scan()
     const QVector<QToolBar *> toolBars = watcher().toolBars();
     for (QToolBar *bar : toolBars) {
         const QString title = plainCaption(bar->windowTitle());
-        walk(bar, {title, title, true});
+        walk(bar, {title, title, true, {}, false});
     }
     // Newcomers come last: only now is it clear which keys are free.
     if (m_guesses)
@@ -342,27 +363,48 @@ void CommandCatalogue::walk(QWidget *widget, const Place &place)
     m_current->places.insert(place.path);
     watcher().watch(widget);
     const QList<QAction *> actions = widget->actions();
+    const bool isTopLevel = place.way.isEmpty() && !place.isInToolBar;
+    const auto kind = ListEntries::kindOf(place.way.value(place.way.size() - 1), isTopLevel);
+    const QSet<const QAction *> entries =
+        place.isOfList ? QSet<const QAction *>() : m_lists.among(actions, kind);
     for (QAction *action : actions) {
         if (ActionItem::isCommand(action)) {
-            meet(action, place);
+            meet(action, place, place.isOfList || entries.contains(action));
         } else if (QMenu *menu = action->menu(); menu && action->isVisible()) {
             const QString title = ActionItem::captionOf(action);
-            walk(menu, {place.group.isEmpty() ? title : place.group, joined(place.path, title),
-                        place.isInToolBar});
+            const bool isTop = place.group.isEmpty();
+            const bool isOfList =
+                place.isOfList || entries.contains(action) || (!isTop && m_lists.isOfOneDocument(title));
+            walk(menu, {isTop ? title : place.group, joined(place.path, title), place.isInToolBar,
+                        isTop ? QStringList() : place.way + QStringList(title), isOfList});
         }
     }
 }
 
-void CommandCatalogue::meet(QAction *action, const Place &place)
+bool CommandCatalogue::isBound(const QAction &action, const QString &path) const
+{
+    for (const QString &key : {action.objectName(), path}) {
+        const ActionItem *item = key.isEmpty() ? nullptr : m_byName.value(key);
+        if (item && item->isExpected)
+            return true;
+    }
+    return false;
+}
+
+void CommandCatalogue::meet(QAction *action, const Place &place, bool isListEntry)
 {
     ActionItem *item = m_byAction.value(action);
+    const auto pathOf = [action, &place] { return joined(place.path, ActionItem::captionOf(action)); };
+    if (item && item->action() == action)
+        item->isListEntry = isListEntry;
+    if (isListEntry && !isBound(*action, pathOf()))
+        return;
     const auto groupOf = [action, &place] {
         return place.group.isEmpty() ? ActionItem::captionOf(action) : place.group;
     };
     // A new action may have the address of a deleted one.
     if (!item || item->action() != action) {
-        m_newcomers.push_back(
-            {action, groupOf(), joined(place.path, ActionItem::captionOf(action)), place.isInToolBar});
+        m_newcomers.push_back({action, groupOf(), pathOf(), place.way, place.isInToolBar, isListEntry});
         return;
     }
     if (item->isPresent)
@@ -371,6 +413,7 @@ void CommandCatalogue::meet(QAction *action, const Place &place)
     if (!item->wasPresent)
         item->read(); // its changes were not reported while it was in no menu
     item->group = groupOf();
+    item->way = place.way;
     item->isInToolBar = place.isInToolBar;
     m_current->met.push_back(item);
 }
@@ -411,7 +454,9 @@ void CommandCatalogue::admit(const Newcomer &newcomer)
         m_byAction.remove(item->address());
     item->setAction(newcomer.action);
     item->isPresent = true;
+    item->isListEntry = newcomer.isListEntry;
     item->group = newcomer.group;
+    item->way = newcomer.way;
     item->isInToolBar = newcomer.isInToolBar;
     m_byAction.insert(newcomer.action, item);
     m_current->met.push_back(item);
@@ -466,9 +511,31 @@ void CommandCatalogue::arrangeGroups()
         groupNamed(item->group).items.push_back(item);
     for (const auto &item : m_items) {
         const bool isLacking = item->isLacking && !item->hasHadAction();
-        if (!item->isPresent && !isLacking && !isOutlived(*item))
+        const bool isListEntry = item->isListEntry && !item->isExpected;
+        if (!item->isPresent && !isLacking && !isListEntry && !isOutlived(*item))
             groupNamed(item->group).items.push_back(item.get());
     }
+    giveNames();
+}
+
+// Tells the commands that are offered apart.
+void CommandCatalogue::giveNames()
+{
+    m_namesAreStale = false;
+    QVector<RememberedCommand> commands;
+    std::vector<ActionItem *> named;
+    for (const auto &group : m_groups) {
+        for (CHxUICommandItem *offered : group->items) {
+            auto *item = static_cast<ActionItem *>(offered);
+            if (item->group.isEmpty())
+                continue; // expected, and nobody knows where it will be
+            commands.append(item->remembered());
+            named.push_back(item);
+        }
+    }
+    const QStringList names = commandNames(commands);
+    for (std::size_t i = 0; i < named.size(); ++i)
+        named[i]->setName(names.at(static_cast<int>(i)));
 }
 
 CommandGroup &CommandCatalogue::groupNamed(const QString &name)

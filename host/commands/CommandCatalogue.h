@@ -5,11 +5,13 @@
 
 #include "host/commands/ActionItem.h"
 #include "host/commands/CommandGroup.h"
+#include "host/commands/ListEntries.h"
 #include "host/window/MenuChanges.h"
 
 #include <QHash>
 #include <QObject>
 #include <QSet>
+#include <QStringList>
 #include <QTimer>
 
 #include <memory>
@@ -35,8 +37,10 @@ namespace gesturewidget {
 // programs rebuild their menus, and a binding must outlive that. For the same reason commands can
 // be expected before a menu has them, and remembered from earlier starts.
 //
-// Some remembered commands without an object name are entries of lists, such as recent documents
-// and windows. They are not offered while their menu is shown without them.
+// Entries of lists, such as recent documents, open windows, layers and steps to undo, are no
+// commands, see ListEntries. One that somebody has bound is offered all the same. Remembered
+// commands without an object name that are not recognised as such are not offered while their menu
+// is shown without them.
 //
 // Reading is cheap: the menus are walked again only after they have changed. Some time after a
 // change this happens by itself, so that a gesture does not have to wait for it.
@@ -70,6 +74,11 @@ public:
     // Offers a command from now on in every case, also without an action. `caption` is used if
     // nothing is known about the command.
     void expect(const QString &identifier, const QString &caption);
+    // Goes on offering such a command although nobody has seen it when the menus are complete.
+    void trust(const QStringList &identifiers);
+    // The same for every command that somebody has bound, because what earlier starts have seen is
+    // not known.
+    void trustAll() { m_trustsAll = true; }
     // Offers the commands from an earlier start, with the identifiers that they had. Call this
     // before anything else is known.
     void remember(const QVector<RememberedCommand> &commands);
@@ -79,8 +88,9 @@ public:
     // All of them are expected at first: many programs show some menus only when a drawing is
     // open, and a direction loses a command that is not offered.
     void guessWellKnown();
-    // The menus are complete: well-known commands without an action are not offered until they
-    // have one.
+    // The menus are complete: guessed commands without an action are not offered until they have
+    // one. The same goes for bound commands that no start has ever seen, because their identifiers
+    // are probably mistyped. Commands that the profile names or that are trusted stay.
     void endGuessing();
     // Returns the reason for a guess; empty if the identifier was not guessed.
     [[nodiscard]] QString reasonFor(const QString &identifier) const
@@ -114,6 +124,8 @@ Q_SIGNALS:
     void menusChanged(QObject *watcher);
     // Another window is the current one.
     void currentWindowChanged();
+    // Bound commands are no longer offered, because the program has never shown them.
+    void dropped(const QStringList &identifiers);
     // The changes of the current window are read. Emitted from the event loop, kPreparationTime after a
     // change.
     void prepared();
@@ -125,6 +137,8 @@ private:
         QString group; // empty in a menu bar
         QString path; // the captions on the way to it
         bool isInToolBar = false;
+        QStringList way = {}; // the captions below the top-level menu or toolbar
+        bool isOfList = false; // all its entries are those of a list
     };
 
     // An action that a scan has found and that has no command yet, with its place.
@@ -133,7 +147,9 @@ private:
         QAction *action;
         QString group;
         QString path; // with its own caption
+        QStringList way; // as in Place
         bool isInToolBar;
+        bool isListEntry; // bound all the same
     };
 
     // What belongs to one main window.
@@ -155,7 +171,9 @@ private:
     void prepare();
     void scan();
     void walk(QWidget *widget, const Place &place);
-    void meet(QAction *action, const Place &place);
+    void meet(QAction *action, const Place &place, bool isListEntry);
+    // True if somebody has bound the action with that path of captions.
+    [[nodiscard]] bool isBound(const QAction &action, const QString &path) const;
     void admit(const Newcomer &newcomer);
     ActionItem *reusable(const QString &key, bool *isTaken) const;
     void guess();
@@ -163,6 +181,7 @@ private:
     ActionItem *expectedFor(const QString &identifier) const;
     ActionItem *add(const QString &identifier, const QString &key);
     void arrangeGroups();
+    void giveNames();
     CommandGroup &groupNamed(const QString &name);
 
     std::vector<std::unique_ptr<Window>> m_windows;
@@ -177,13 +196,17 @@ private:
     std::vector<std::unique_ptr<CommandGroup>> m_groups;
     QHash<QString, CommandGroup *> m_groupsByName;
     QHash<QString, QString> m_reasons; // of guesses, by identifier
+    QSet<QString> m_trusted; // identifiers
+    bool m_trustsAll = false;
     bool m_guesses = false;
+    bool m_namesAreStale = false;
     bool m_wasRead = false;
     QTimer m_preparation;
 
     // Only during a scan.
     QSet<const QWidget *> m_visited;
     std::vector<Newcomer> m_newcomers;
+    ListEntries m_lists;
     QHash<const QAction *, QString> m_guessed; // newcomers, to identifier
     QHash<QString, int> m_nextNumbers; // of equal captions, by path
 };

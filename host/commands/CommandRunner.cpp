@@ -36,11 +36,6 @@ private:
     bool m_isFound;
 };
 
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("host", text);
-}
-
 void pressEscape(QWidget *view)
 {
     const QPointer<QWidget> guard(view);
@@ -143,19 +138,21 @@ void CommandRunner::executeStackCommand(const QString &name)
     if (command)
         command->execute(nullptr);
     else
-        m_output.showForAWhile(translated("There is no command \"%1\".").arg(name));
+        m_output.showForAWhile(
+            QCoreApplication::translate("host", "There is no command \"%1\".").arg(name));
 }
 
 void CommandRunner::trigger(const QString &name)
 {
     const ActionItem *item = m_catalogue.findUsable(name);
     if (!item) {
-        m_output.showForAWhile(translated("There is no command \"%1\".").arg(name));
+        m_output.showForAWhile(
+            QCoreApplication::translate("host", "There is no command \"%1\".").arg(name));
     } else if (!item->isPresent || !item->action()) {
         m_output.showForAWhile(absence(*item));
     } else if (!item->action()->isEnabled()) {
-        m_output.showForAWhile(
-            translated("%1: cannot be used at the moment.").arg(item->GetCaption().toQString()));
+        m_output.showForAWhile(QCoreApplication::translate("host", "%1: cannot be used at the moment.")
+                                   .arg(item->GetCaption().toQString()));
     } else {
         item->action()->trigger();
     }
@@ -164,17 +161,20 @@ void CommandRunner::trigger(const QString &name)
 // Says why a command without an action cannot run, and which menu or toolbar it belongs to.
 QString CommandRunner::absence(const ActionItem &item) const
 {
-    QString line = translated("%1: not available at the moment.").arg(item.GetCaption().toQString());
+    QString line = QCoreApplication::translate("host", "%1: not available at the moment.")
+                       .arg(item.GetCaption().toQString());
     if (item.group.isEmpty())
         return line;
     const bool isShown = m_catalogue.isShown(item.group);
     QString place;
     if (item.isInToolBar)
-        place = isShown ? translated("The toolbar \"%1\" does not have it now.")
-                        : translated("It belongs to the toolbar \"%1\", which is not there now.");
+        place = isShown ? QCoreApplication::translate("host", "The toolbar \"%1\" does not have it now.")
+                        : QCoreApplication::translate(
+                            "host", "It belongs to the toolbar \"%1\", which is not there now.");
     else
-        place = isShown ? translated("The menu \"%1\" does not have it now.")
-                        : translated("It belongs to the menu \"%1\", which is not there now.");
+        place = isShown ? QCoreApplication::translate("host", "The menu \"%1\" does not have it now.")
+                        : QCoreApplication::translate(
+                            "host", "It belongs to the menu \"%1\", which is not there now.");
     return line + QLatin1Char(' ') + place.arg(item.group);
 }
 

@@ -24,7 +24,7 @@ class TextOutput;
 // What is chosen runs later, but in the window that was current when it was chosen. If that window
 // is gone by then, nothing runs.
 //
-// What runs may do anything, such as close the window or end this object.
+// A command may do anything, such as close the window or destroy this object.
 class CommandRunner : public QObject
 {
     Q_OBJECT

@@ -5,6 +5,7 @@
 
 #include "host/commands/WellKnownGuess.h"
 #include "host/files/RingSettings.h"
+#include "host/files/SettingsNames.h"
 
 namespace gesturewidget {
 namespace {
@@ -29,6 +30,15 @@ QMap<QString, QString> expectedCommands(const QHash<QString, QStringList> &wellK
     for (const QString &identifier : bound)
         expected.insert(identifier, captionFor(identifier));
     return expected;
+}
+
+QStringList trustedCommands(const SettingsFile::Values &settings)
+{
+    QStringList identifiers =
+        settings.value(SettingsFile::nameOf(settingsnames::hostSection(), settingsnames::importedKey()))
+            .split(QLatin1Char('\n'));
+    identifiers.removeAll(QString());
+    return identifiers;
 }
 
 } // namespace gesturewidget

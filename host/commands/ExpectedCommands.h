@@ -21,4 +21,8 @@ namespace gesturewidget {
 [[nodiscard]] QMap<QString, QString> expectedCommands(const QHash<QString, QStringList> &wellKnown,
                                                       const SettingsFile::Values &settings);
 
+// Returns the identifiers that are commands even if the program has never shown them, because they
+// were imported.
+[[nodiscard]] QStringList trustedCommands(const SettingsFile::Values &settings);
+
 } // namespace gesturewidget

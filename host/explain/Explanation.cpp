@@ -61,8 +61,7 @@ QString guessReason(const ActionItem &item, const QString &identifier, const QSt
     if (!known.isEmpty())
         return known;
     const QVector<WellKnownGuess> again = WellKnownGuess::among({item.action()}, {identifier});
-    return again.isEmpty() ? QStringLiteral("it was taken for it at an earlier start")
-                           : again.first().reason;
+    return again.isEmpty() ? QStringLiteral("chosen at an earlier start") : again.first().reason;
 }
 
 } // namespace
@@ -248,7 +247,7 @@ void Explanation::explainCommands(Findings &findings)
         else if (isThere)
             reason = guessReason(*item, identifier, catalogue.reasonFor(identifier));
         else
-            reason = QStringLiteral("no shortcut, icon, object name or caption speaks for an action");
+            reason = QStringLiteral("no action has a matching shortcut, icon, object name or caption");
         if (named.isEmpty() && isThere && key != identifier)
             findings.profile.wellKnownCommands.insert(identifier, {key});
         findings.add(identifier, isThere ? QStringLiteral("%1, since %2").arg(key, reason)

@@ -47,7 +47,7 @@ private:
         bool isQtsOwn; // its class is one of Qt's, so other widgets have it too
     };
 
-    // What was found so far, gathered for one report.
+    // The findings so far, for one report.
     struct Findings
     {
         ProgramProfile profile;

@@ -36,6 +36,7 @@ const QLatin1String kTipKey("tip");
 const QLatin1String kGroupKey("group");
 const QLatin1String kIconKey("icon");
 const QLatin1String kToolBarKey("toolbar");
+const QLatin1String kWayKey("way");
 
 // An identifier must not be cut off: it would be another one.
 bool isAcceptable(const RememberedCommand &command)
@@ -50,6 +51,7 @@ bool isPrivate(const RememberedCommand &command)
     const QStringList captions =
         (command.identifier + QLatin1Char('/') + command.command).split(QLatin1Char('/'));
     return namesADocument(command.caption)
+        || std::any_of(command.way.begin(), command.way.end(), namesADocument)
         || std::any_of(captions.begin(), captions.end(), namesADocument);
 }
 
@@ -58,6 +60,8 @@ RememberedCommand bounded(const RememberedCommand &command)
     RememberedCommand result = command;
     for (QString *text : {&result.caption, &result.tip, &result.group})
         text->truncate(CatalogueFile::kMaximalText);
+    for (QString &caption : result.way)
+        caption.truncate(CatalogueFile::kMaximalText);
     if (result.icon.size() > CatalogueFile::kMaximalIcon)
         result.icon.clear();
     if (namesADocument(result.tip))
@@ -68,9 +72,13 @@ RememberedCommand bounded(const RememberedCommand &command)
 RememberedCommand fromJson(const QJsonObject &object)
 {
     const auto text = [&object](QLatin1String key) { return object.value(key).toString(); };
+    QStringList way;
+    const QJsonArray captions = object.value(kWayKey).toArray();
+    for (const QJsonValue &caption : captions)
+        way.append(caption.toString());
     return bounded({text(kIdentifierKey), text(kCommandKey), text(kCaptionKey), text(kTipKey),
                     text(kGroupKey), QByteArray::fromBase64(text(kIconKey).toLatin1()),
-                    object.value(kToolBarKey).toBool()});
+                    object.value(kToolBarKey).toBool(), way});
 }
 
 QJsonObject toJson(const RememberedCommand &command)
@@ -88,6 +96,8 @@ QJsonObject toJson(const RememberedCommand &command)
     insert(kIconKey, QString::fromLatin1(command.icon.toBase64()));
     if (command.isInToolBar)
         object.insert(kToolBarKey, true);
+    if (!command.way.isEmpty())
+        object.insert(kWayKey, QJsonArray::fromStringList(command.way));
     return object;
 }
 
@@ -170,7 +180,11 @@ CatalogueFile::CatalogueFile(const QString &path)
 
 QVector<RememberedCommand> CatalogueFile::read()
 {
-    return m_path.isEmpty() ? QVector<RememberedCommand>() : lastGood().commands;
+    if (m_path.isEmpty())
+        return {};
+    const Content content = lastGood();
+    m_isComplete = content.state == State::Good || content.state == State::Missing;
+    return content.commands;
 }
 
 bool CatalogueFile::merge(const QVector<RememberedCommand> &seen, const QStringList &gone)
@@ -244,7 +258,8 @@ CatalogueFile::Content CatalogueFile::parsed(const QByteArray &text)
                 false,
                 QStringLiteral("is of a later version (%1), its commands are not offered").arg(version)};
     if (version < 1 || !object.value(kCommandsKey).isArray())
-        return {State::Foreign, {}, false, QStringLiteral("is no list of commands and is left alone")};
+        return {
+            State::Foreign, {}, false, QStringLiteral("is not a list of commands and is left alone")};
     Content content{State::Good, {}, false, {}};
     QHash<QString, bool> known;
     const QJsonArray commands = object.value(kCommandsKey).toArray();

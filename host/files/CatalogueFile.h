@@ -31,6 +31,9 @@ public:
     // The commands in the order in which they were first seen; empty when there is no file or it
     // cannot be used. Writes nothing.
     [[nodiscard]] QVector<RememberedCommand> read();
+    // Returns whether read() has returned all that was ever written, or nothing was. False if the
+    // file is damaged, of a later version, or cannot be read.
+    [[nodiscard]] bool isComplete() const { return m_isComplete; }
     // Adds `seen` to the file and removes the identifiers `gone` from it, unless they were seen.
     // Updates texts and icon of a command that the file already has; an empty text or icon keeps
     // the old one. Writes only if something changes. Returns whether the file now holds all of
@@ -63,6 +66,7 @@ private:
     void complainOnce(const QString &line);
 
     QString m_path;
+    bool m_isComplete = true;
     bool m_hasComplained = false;
 };
 

@@ -5,10 +5,18 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
+
 namespace gesturewidget {
 
 bool namesADocument(const QString &caption)
 {
+    // Most captions have none of these, and menus are read while people wait.
+    const auto mayBePart = [](QChar letter) {
+        return letter == QLatin1Char('/') || letter == QLatin1Char('\\') || letter == QLatin1Char('.');
+    };
+    if (std::none_of(caption.begin(), caption.end(), mayBePart))
+        return false;
     // "/home/me/", "~/", "C:\", "file://" at the beginning of a word. Not "On / Off".
     static const QRegularExpression path(
         QStringLiteral(R"((^|[\s"'(\[:=])(/[^/\s]+/|~/|[A-Za-z]:[\\/]|file:/))"));

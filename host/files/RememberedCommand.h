@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 namespace gesturewidget {
 
@@ -18,12 +19,13 @@ struct RememberedCommand
     QString group; // the top-level menu or the toolbar that it was in, may be empty
     QByteArray icon; // a PNG file, may be empty
     bool isInToolBar = false; // and not in a menu
+    QStringList way{}; // the captions of the menus between the group and the command
 
     friend bool operator==(const RememberedCommand &a, const RememberedCommand &b)
     {
         return a.identifier == b.identifier && a.command == b.command && a.caption == b.caption
-            && a.tip == b.tip && a.group == b.group && a.icon == b.icon
-            && a.isInToolBar == b.isInToolBar;
+            && a.tip == b.tip && a.group == b.group && a.icon == b.icon && a.isInToolBar == b.isInToolBar
+            && a.way == b.way;
     }
 };
 

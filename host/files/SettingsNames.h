@@ -40,4 +40,11 @@ namespace gesturewidget::settingsnames {
     return QStringLiteral("Trigger");
 }
 
+// In the host's section: the identifiers that a person has imported, one a line. They come from
+// another computer, so the program may well have them although nobody has seen them on this one.
+[[nodiscard]] inline QString importedKey()
+{
+    return QStringLiteral("Imported");
+}
+
 } // namespace gesturewidget::settingsnames

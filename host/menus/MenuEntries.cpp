@@ -13,7 +13,7 @@ namespace gesturewidget {
 namespace {
 
 // An entry is moved back at most this many times in this many milliseconds, in a menu that nobody
-// opens. Two programs that both want to be last must not keep each other busy for ever.
+// opens. Two programs that both want to be last must not keep each other busy forever.
 constexpr int kCorrections = 8;
 constexpr qint64 kCorrectionsPeriod = 1000;
 

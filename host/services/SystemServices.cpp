@@ -80,6 +80,14 @@ public:
             expectedCommands(profile.wellKnownCommands, profileStore.values());
         for (auto it = expected.begin(); it != expected.end(); ++it)
             catalogue.expect(it.key(), it.value());
+        catalogue.trust(trustedCommands(profileStore.values()));
+        QObject::connect(
+            &catalogue, &CommandCatalogue::dropped, &catalogue, [this](const QStringList &identifiers) {
+                textOutput.showForAWhile(
+                    QCoreApplication::translate(
+                        "host", "The program has no command \"%1\"; its direction is empty.")
+                        .arg(identifiers.join(QStringLiteral("\", \""))));
+            });
     }
 
     void runIn(QWidget *window, const QString &macro)

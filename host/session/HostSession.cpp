@@ -9,6 +9,7 @@
 #include "host/files/ProgramProfile.h"
 #include "host/files/SettingsNames.h"
 #include "host/files/TriggerText.h"
+#include "host/menus/ProgramLanguage.h"
 #include "host/services/HostEditor.h"
 #include "host/services/SystemServices.h"
 #include "host/session/ExplainedProgram.h"
@@ -18,6 +19,7 @@
 #include "sdk/od/OdEditor.h"
 
 #include <QApplication>
+#include <QLocale>
 #include <QTimer>
 
 #include <algorithm>
@@ -102,7 +104,12 @@ bool HostSession::start(QString *error)
         m_explanation = std::make_unique<Explanation>(listener, profile, *m_services);
     connect(qApp, &QCoreApplication::aboutToQuit, this, &HostSession::finish);
 
-    if (!m_loader.load(m_options.moduleFile, reason) || !m_loader.initialize(reason)) {
+    bool isLoaded = m_loader.load(m_options.moduleFile, reason);
+    // Here the module's library has brought its texts, and has shown none of them yet.
+    m_translations.install(
+        programLanguage(window, QLocale::system().uiLanguages(), Translations::languages()));
+    isLoaded = isLoaded && m_loader.initialize(reason);
+    if (!isLoaded) {
         stop();
         return false;
     }
@@ -185,6 +192,7 @@ void HostSession::stop()
     odedSetEditor(nullptr);
     odedSetCommandStack(nullptr);
     SetHxSystemServices(nullptr);
+    m_translations.remove(); // the module has found its menu entry by a translated text
 }
 
 void HostSession::stopWithoutWindow()

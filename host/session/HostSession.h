@@ -7,6 +7,7 @@
 #include "host/documents/ViewFinder.h"
 #include "host/explain/Explanation.h"
 #include "host/input/PointerFilter.h"
+#include "host/language/Translations.h"
 #include "host/services/HostApplication.h"
 #include "host/services/MainFrame.h"
 #include "host/session/GestureHost.h"
@@ -81,6 +82,7 @@ private:
     HostSession *m_next = nullptr; // the next started session
 
     // Each of these may need the ones before it.
+    Translations m_translations;
     DocumentManager m_documents;
     HostApplication m_application;
     MainFrame m_mainFrame;

@@ -31,7 +31,7 @@ public:
 private:
     [[nodiscard]] QStatusBar *statusBar() const;
 
-    QPointer<QWidget> m_window; // while it is being destroyed it is no QMainWindow any more
+    QPointer<QWidget> m_window; // during its destruction it is no longer a QMainWindow
 };
 
 } // namespace gesturewidget

@@ -3,34 +3,32 @@
 
 #include "launcher/settings/KnownCommands.h"
 
+#include "host/files/CommandNames.h"
+
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 
 #include <algorithm>
-#include <iterator>
 
 namespace launcher {
 namespace {
 
+using gesturewidget::foldedCaption;
 using gesturewidget::RememberedCommand;
 
 constexpr int kVersion = 1;
 // Characters. A longer name does not move the captions of the others.
 constexpr int kWidest = 40;
 
-QString simplifiedCaption(const QString &caption)
+// The captions on a way for comparing, however a person separates them.
+QString simplifiedWay(const QString &way)
 {
-    QString text = caption.simplified();
-    while (text.endsWith(QLatin1Char('.')) || text.endsWith(QChar(0x2026)))
-        text.chop(1);
-    return text.trimmed().toCaseFolded();
-}
-
-// Where a person finds the command.
-QString placeOf(const RememberedCommand &command)
-{
-    return command.group + QLatin1Char('/') + command.caption;
+    static const QRegularExpression separator(QStringLiteral(R"(\s*[>/]\s*)"));
+    QString text = foldedCaption(way);
+    return text.replace(separator, QStringLiteral("/"));
 }
 
 Outcome nothingShown(const QString &program)
@@ -44,6 +42,7 @@ Outcome nothingShown(const QString &program)
 
 KnownCommands::KnownCommands(const QVector<RememberedCommand> &shown, const QStringList &wellKnown)
     : m_shown(shown)
+    , m_names(gesturewidget::commandNames(shown))
     , m_wellKnown(wellKnown)
 {
 }
@@ -60,7 +59,12 @@ const RememberedCommand *KnownCommands::find(const QString &identifier) const
 QString KnownCommands::captionOf(const QString &identifier) const
 {
     const RememberedCommand *command = find(identifier);
-    return command ? command->caption.simplified() : QString();
+    return command ? nameOf(*command) : QString();
+}
+
+QString KnownCommands::nameOf(const RememberedCommand &command) const
+{
+    return m_names.at(static_cast<int>(&command - m_shown.constData()));
 }
 
 QString KnownCommands::resolve(const QString &text, const QString &program, QString &identifier) const
@@ -69,35 +73,46 @@ QString KnownCommands::resolve(const QString &text, const QString &program, QStr
     if (m_shown.isEmpty())
         return {};
     const auto all = [this](const auto &isIt) {
-        QVector<RememberedCommand> found;
-        std::copy_if(m_shown.begin(), m_shown.end(), std::back_inserter(found), isIt);
+        QVector<const RememberedCommand *> found;
+        for (const RememberedCommand &one : m_shown) {
+            if (isIt(one))
+                found.append(&one);
+        }
         return found;
     };
-    const QString wanted = simplifiedCaption(text);
+    const QString wanted = foldedCaption(text);
+    const QString way = simplifiedWay(text);
     const auto isNamedSo = [&](const RememberedCommand &one) { return one.identifier == text; };
     const auto hasThatKey = [&](const RememberedCommand &one) { return one.command == text; };
     const auto isCalledSo = [&](const RememberedCommand &one) {
-        return !wanted.isEmpty() && simplifiedCaption(one.caption) == wanted;
+        return !wanted.isEmpty() && foldedCaption(one.caption) == wanted;
+    };
+    const auto hasThatName = [&](const RememberedCommand &one) {
+        return !way.isEmpty() && simplifiedWay(nameOf(one)) == way;
     };
     const auto standsThere = [&](const RememberedCommand &one) {
-        return !one.group.isEmpty() && simplifiedCaption(placeOf(one)) == wanted;
+        return !one.group.isEmpty()
+            && (simplifiedWay(gesturewidget::fullWayOf(one)) == way
+                || simplifiedWay(one.group + QLatin1Char('/') + one.caption) == way);
     };
 
-    QVector<RememberedCommand> found = all(isNamedSo);
+    QVector<const RememberedCommand *> found = all(isNamedSo);
     if (found.isEmpty() && m_wellKnown.contains(text))
         return {};
     if (found.isEmpty())
         found = all(hasThatKey).mid(0, 1);
     // One command's identifier may be another one's caption. A person may mean either.
-    const QVector<RememberedCommand> called = all(isCalledSo);
-    for (const RememberedCommand &command : called) {
-        if (found.isEmpty() || command.identifier != found.first().identifier)
+    const QVector<const RememberedCommand *> called = all(isCalledSo);
+    for (const RememberedCommand *command : called) {
+        if (found.isEmpty() || command->identifier != found.first()->identifier)
             found.append(command);
     }
     if (found.isEmpty())
+        found = all(hasThatName);
+    if (found.isEmpty())
         found = all(standsThere);
     if (found.size() == 1) {
-        identifier = found.first().identifier;
+        identifier = found.first()->identifier;
         return {};
     }
     if (found.isEmpty())
@@ -106,12 +121,13 @@ QString KnownCommands::resolve(const QString &text, const QString &program, QStr
             .arg(program, text);
     // First those that a person sees in the menus.
     std::stable_partition(found.begin(), found.end(),
-                          [](const RememberedCommand &one) { return !one.isInToolBar; });
+                          [](const RememberedCommand *one) { return !one->isInToolBar; });
     QStringList names;
-    for (const RememberedCommand &command : std::as_const(found))
-        names.append(command.group.isEmpty()
-                         ? command.identifier
-                         : QStringLiteral("%1 (%2)").arg(command.identifier, placeOf(command)));
+    for (const RememberedCommand *command : std::as_const(found))
+        names.append(command->group.isEmpty()
+                         ? command->identifier
+                         : QStringLiteral("%1 (%2)").arg(command->identifier,
+                                                         gesturewidget::fullWayOf(*command)));
     return QStringLiteral("several commands are called \"%1\": %2")
         .arg(text, names.join(QStringLiteral(", ")))
         .simplified();
@@ -121,23 +137,33 @@ Outcome KnownCommands::list(const QString &program) const
 {
     if (m_shown.isEmpty())
         return nothingShown(program);
-    QStringList groups;
+    // A heading for one command says little, so such commands are together, as in the dialog.
+    const QString others = QStringLiteral("Others");
+    QHash<QString, int> sizes;
+    for (const RememberedCommand &command : m_shown)
+        ++sizes[command.group.simplified()];
+    const auto headOf = [&](const RememberedCommand &command) {
+        const QString head = command.group.simplified();
+        return head.isEmpty() || sizes.value(head) == 1 ? others : head;
+    };
+    QStringList heads;
     qsizetype width = 0;
     for (const RememberedCommand &command : m_shown) {
-        if (!groups.contains(command.group))
-            groups.append(command.group);
+        if (const QString head = headOf(command); !heads.contains(head))
+            heads.append(head);
         if (command.identifier.size() <= kWidest)
             width = std::max<qsizetype>(width, command.identifier.size());
     }
+    if (heads.removeAll(others) > 0)
+        heads.append(others);
     Outcome outcome;
-    for (const QString &group : std::as_const(groups)) {
-        const QString head = group.simplified();
-        outcome.output += (head.isEmpty() ? QStringLiteral("-") : head).toLocal8Bit() + '\n';
+    for (const QString &head : std::as_const(heads)) {
+        outcome.output += head.toLocal8Bit() + '\n';
         for (const RememberedCommand &command : m_shown) {
-            if (command.group != group)
+            if (headOf(command) != head)
                 continue;
             const QString name = command.identifier.simplified().leftJustified(static_cast<int>(width));
-            QString line = QStringLiteral("  %1  %2").arg(name, command.caption.simplified());
+            QString line = QStringLiteral("  %1  %2").arg(name, nameOf(command));
             while (line.endsWith(QLatin1Char(' ')))
                 line.chop(1);
             outcome.output += line.toLocal8Bit() + '\n';
@@ -153,6 +179,7 @@ Outcome KnownCommands::listAsJson(const QString &program) const
     QJsonArray commands;
     for (const RememberedCommand &command : m_shown)
         commands.append(QJsonObject{{QStringLiteral("identifier"), command.identifier},
+                                    {QStringLiteral("name"), nameOf(command)},
                                     {QStringLiteral("caption"), command.caption},
                                     {QStringLiteral("tip"), command.tip},
                                     {QStringLiteral("category"), command.group},
@@ -161,6 +188,16 @@ Outcome KnownCommands::listAsJson(const QString &program) const
                            {QStringLiteral("program"), program},
                            {QStringLiteral("commands"), commands}};
     return {QJsonDocument(list).toJson(), {}};
+}
+
+QString captionFrom(const QString &identifier)
+{
+    const QLatin1String prefix("ID_");
+    if (!identifier.startsWith(prefix))
+        return identifier.section(QLatin1Char('/'), -1);
+    const QString words =
+        identifier.mid(prefix.size()).toLower().replace(QLatin1Char('_'), QLatin1Char(' '));
+    return words.left(1).toUpper() + words.mid(1);
 }
 
 } // namespace launcher

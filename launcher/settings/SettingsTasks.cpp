@@ -27,9 +27,43 @@ Bindings read(const QString &path)
     return Bindings::fromSettings(SettingsFile(path).read());
 }
 
+// What differs between two states of the settings.
+SettingsChange changeBetween(const Bindings &before, const Bindings &after)
+{
+    const SettingsFile::Values old = before.toSettings();
+    const SettingsFile::Values present = after.toSettings();
+    SettingsChange change;
+    for (auto it = present.cbegin(); it != present.cend(); ++it) {
+        if (old.value(it.key()) == it.value())
+            continue;
+        change.before.insert(it.key(), old.value(it.key()));
+        change.after.insert(it.key(), it.value());
+    }
+    return change;
+}
+
+void report(const SettingsChange &change, SettingsChange *made)
+{
+    if (made)
+        *made = change;
+}
+
 Outcome outcomeOf(bool isDone, const SettingsFile &file)
 {
     return isDone ? Outcome() : Outcome::failure(file.problem());
+}
+
+// The settings for imported bindings. Their commands may be new to this computer.
+SettingsFile::Values imported(const Bindings &bindings)
+{
+    SettingsFile::Values values = bindings.toSettings();
+    QStringList identifiers = bindings.four + bindings.eight;
+    identifiers.removeAll(QString());
+    identifiers.removeDuplicates();
+    values.insert(SettingsFile::nameOf(gesturewidget::settingsnames::hostSection(),
+                                       gesturewidget::settingsnames::importedKey()),
+                  identifiers.join(QLatin1Char('\n')));
+    return values;
 }
 
 void append(QByteArray &text, const QString &line)
@@ -64,6 +98,25 @@ void appendRing(QByteArray &text, const Bindings &bindings, const KnownCommands 
     appendScheme(text, isFour ? 8 : 4, isFour ? bindings.eight : bindings.four, false, known);
 }
 
+// Reads a file that is to be imported.
+Outcome readText(const QString &path, QByteArray &text)
+{
+    const FileContent file = FileContent::read(path, SettingsTasks::kMaximalImport);
+    text = file.bytes;
+    switch (file.state) {
+    case FileContent::State::Read:
+        return {};
+    case FileContent::State::Missing:
+        return Outcome::failure(QStringLiteral("%1: there is no such file").arg(path));
+    case FileContent::State::NotAFile:
+        return Outcome::failure(QStringLiteral("%1: this is not a file").arg(path));
+    case FileContent::State::TooLarge:
+        return Outcome::failure(QStringLiteral("%1: this is too long for bindings").arg(path));
+    default:
+        return Outcome::failure(QStringLiteral("%1: %2").arg(path, file.problem));
+    }
+}
+
 } // namespace
 
 SettingsTasks::SettingsTasks(const QString &program, const QString &file, const KnownCommands &commands,
@@ -75,9 +128,65 @@ SettingsTasks::SettingsTasks(const QString &program, const QString &file, const 
 {
 }
 
-Bindings SettingsTasks::bindings() const
+Bindings SettingsTasks::bindings(QString *notice) const
 {
-    return read(m_file);
+    SettingsFile file(m_file);
+    const Bindings bindings = Bindings::fromSettings(file.read());
+    if (notice)
+        *notice = file.notice();
+    return bindings;
+}
+
+Outcome SettingsTasks::edit(const std::function<QString(Bindings &)> &edit, SettingsChange *made)
+{
+    SettingsFile file(m_file);
+    QString complaint;
+    SettingsChange change;
+    const bool isDone = file.change([&](const SettingsFile::Values &now) -> SettingsFile::Values {
+        if (!m_ring.isEmpty() && !ringsettings::hasOwnRing(now, m_ring)) {
+            complaint =
+                QStringLiteral("%1 has no ring of its own, see mouse-gestures --ring").arg(m_ring);
+            return {};
+        }
+        const SettingsFile::Values seen = ringsettings::seenIn(now, m_ring);
+        const Bindings before = Bindings::fromSettings(seen);
+        Bindings after = before;
+        complaint = edit(after);
+        if (!complaint.isEmpty())
+            return {};
+        change = changeBetween(before, after);
+        const SettingsFile::Values changes = after.changesFrom(seen);
+        return m_ring.isEmpty() ? changes : ringsettings::movedTo(changes, m_ring);
+    });
+    if (!complaint.isEmpty())
+        return Outcome::failure(complaint);
+    report(isDone ? change : SettingsChange(), made);
+    return outcomeOf(isDone, file);
+}
+
+Outcome SettingsTasks::takeBack(const SettingsChange &change)
+{
+    return replace(change.after, change.before);
+}
+
+Outcome SettingsTasks::makeAgain(const SettingsChange &change)
+{
+    return replace(change.before, change.after);
+}
+
+Outcome SettingsTasks::replace(const SettingsFile::Values &from, const SettingsFile::Values &to)
+{
+    return edit([&](Bindings &bindings) -> QString {
+        SettingsFile::Values values = bindings.toSettings();
+        for (auto it = from.cbegin(); it != from.cend(); ++it) {
+            if (values.value(it.key()) != it.value())
+                return QStringLiteral("this was changed elsewhere meanwhile, so it stays");
+        }
+        for (auto it = to.cbegin(); it != to.cend(); ++it)
+            values.insert(it.key(), it.value());
+        bindings = Bindings::fromSettings(values);
+        return {};
+    });
 }
 
 Outcome SettingsTasks::showBindings() const
@@ -120,35 +229,23 @@ Outcome SettingsTasks::bind(const QString &direction, const QString &command)
             return Outcome::failure(complaint);
     }
 
-    SettingsFile file(m_file);
-    QString complaint;
-    const bool isDone = file.change([&](const SettingsFile::Values &now) -> SettingsFile::Values {
-        if (!m_ring.isEmpty() && !ringsettings::hasOwnRing(now, m_ring)) {
-            complaint =
-                QStringLiteral("%1 has no ring of its own, see mouse-gestures --ring").arg(m_ring);
-            return {};
-        }
-        const SettingsFile::Values seen = ringsettings::seenIn(now, m_ring);
-        Bindings bindings = Bindings::fromSettings(seen);
+    Outcome outcome = edit([&](Bindings &bindings) -> QString {
         const QStringList names = Bindings::directionNames(bindings.scheme);
         const auto index = names.indexOf(direction.toLower());
-        if (index < 0) {
-            complaint = QStringLiteral("\"%1\" is none of the %2 directions: %3")
-                            .arg(direction)
-                            .arg(bindings.scheme)
-                            .arg(names.join(QStringLiteral(", ")));
-            return {};
-        }
-        QStringList &commands = bindings.commands();
-        for (QString &other : commands) {
-            if (other == wanted)
-                other.clear();
-        }
-        commands[index] = wanted;
-        const SettingsFile::Values changes = bindings.changesFrom(seen);
-        return m_ring.isEmpty() ? changes : ringsettings::movedTo(changes, m_ring);
+        if (index < 0)
+            return QStringLiteral("\"%1\" is not one of the %2 directions: %3")
+                .arg(direction)
+                .arg(bindings.scheme)
+                .arg(names.join(QStringLiteral(", ")));
+        bindings.bind(static_cast<int>(index), wanted);
+        return {};
     });
-    return complaint.isEmpty() ? outcomeOf(isDone, file) : Outcome::failure(complaint);
+    if (outcome.isDone() && !wanted.isEmpty() && !m_commands.canJudge(wanted))
+        append(outcome.output,
+               QStringLiteral("%1 has not run with gestures yet; if it has no command \"%2\", the "
+                              "direction becomes empty")
+                   .arg(m_program, wanted.simplified()));
+    return outcome;
 }
 
 Outcome SettingsTasks::setRing(const QString &task, const QString &kind,
@@ -165,15 +262,19 @@ Outcome SettingsTasks::setRing(const QString &task, const QString &kind,
     return outcomeOf(isDone, file);
 }
 
-Outcome SettingsTasks::reset()
+Outcome SettingsTasks::reset(SettingsChange *made)
 {
     SettingsFile file(m_file);
     QString trigger;
+    SettingsChange change;
     const bool isDone = file.change([&](const SettingsFile::Values &now) {
+        const Bindings before = Bindings::fromSettings(now);
         Bindings bindings = Bindings::initial();
-        bindings.trigger = trigger = Bindings::fromSettings(now).trigger;
+        bindings.trigger = trigger = before.trigger;
+        change = changeBetween(before, bindings);
         return bindings.toSettings();
     });
+    report(isDone ? change : SettingsChange(), made);
     Outcome outcome = outcomeOf(isDone, file);
     if (isDone)
         append(outcome.output, QStringLiteral("gestures are still started with: %1")
@@ -188,41 +289,52 @@ Outcome SettingsTasks::exportTo(const QString &path) const
     return {};
 }
 
-Outcome SettingsTasks::importFrom(const QString &path)
+Outcome SettingsTasks::importFrom(const QString &path, SettingsChange *made)
 {
-    const FileContent file = FileContent::read(path, kMaximalImport);
-    switch (file.state) {
-    case FileContent::State::Read:
-        return importText(file.bytes, path);
-    case FileContent::State::Missing:
-        return Outcome::failure(QStringLiteral("%1: there is no such file").arg(path));
-    case FileContent::State::NotAFile:
-        return Outcome::failure(QStringLiteral("%1: this is not a file").arg(path));
-    case FileContent::State::TooLarge:
-        return Outcome::failure(QStringLiteral("%1: this is too long for bindings").arg(path));
-    default:
-        return Outcome::failure(QStringLiteral("%1: %2").arg(path, file.problem));
-    }
+    QByteArray text;
+    const Outcome reading = readText(path, text);
+    return reading.isDone() ? importText(text, path, made) : reading;
 }
 
-Outcome SettingsTasks::importText(const QByteArray &text, const QString &source)
+Outcome SettingsTasks::readImport(const QString &path, Bindings &bindings) const
+{
+    QByteArray text;
+    const Outcome reading = readText(path, text);
+    return reading.isDone() ? parseImport(text, path, bindings) : reading;
+}
+
+Outcome SettingsTasks::parseImport(const QByteArray &text, const QString &source,
+                                   Bindings &bindings) const
 {
     if (text.size() > kMaximalImport)
         return Outcome::failure(QStringLiteral("%1: this is too long for bindings").arg(source));
-    Bindings bindings;
     QString problem;
     if (!bindingsFromJson(text, m_program, bindings, problem))
         return Outcome::failure(QStringLiteral("%1, %2").arg(source, problem));
+    return {};
+}
+
+Outcome SettingsTasks::importText(const QByteArray &text, const QString &source, SettingsChange *made)
+{
+    Bindings bindings;
+    const Outcome parsing = parseImport(text, source, bindings);
+    if (!parsing.isDone())
+        return parsing;
 
     SettingsFile file(m_file);
-    const bool isDone =
-        file.change([&bindings](const SettingsFile::Values &) { return bindings.toSettings(); },
-                    m_file + QLatin1String(".before-import"));
+    SettingsChange change;
+    const bool isDone = file.change(
+        [&](const SettingsFile::Values &now) {
+            change = changeBetween(Bindings::fromSettings(now), bindings);
+            return imported(bindings);
+        },
+        m_file + QLatin1String(".before-import"));
+    report(isDone ? change : SettingsChange(), made);
     return isDone ? Outcome()
                   : Outcome::failure(file.problem() + QLatin1String(", so nothing is imported"));
 }
 
-Outcome SettingsTasks::setTrigger(const QString &text)
+Outcome SettingsTasks::setTrigger(const QString &text, SettingsChange *made)
 {
     QString wanted;
     if (text != QLatin1String("default")) {
@@ -238,12 +350,12 @@ Outcome SettingsTasks::setTrigger(const QString &text)
                                "such as ctrl+left"));
         wanted = gesturewidget::triggerText(button, keys);
     }
-    SettingsFile file(m_file);
-    SettingsFile::Values values;
-    values.insert(SettingsFile::nameOf(gesturewidget::settingsnames::hostSection(),
-                                       gesturewidget::settingsnames::triggerKey()),
-                  wanted);
-    return outcomeOf(file.write(values), file);
+    return edit(
+        [&wanted](Bindings &bindings) {
+            bindings.trigger = wanted;
+            return QString();
+        },
+        made);
 }
 
 } // namespace launcher

@@ -14,6 +14,7 @@ import configparser
 import dataclasses
 import random
 import re
+import time
 from pathlib import Path
 
 from harness.programs import EIGHT, FOUR, PROGRAMS
@@ -85,6 +86,20 @@ class GesturesTest(ProgramTest):
             session.gesture_runs("down", self.program.eight["up"])
             self.assertEqual([line[1] for line in session.spy.since(mark, "triggered")],
                              [self.program.eight["up"]], "an unbound direction ran something")
+            self.end(session)
+
+    def test_an_unknown_command_leaves_its_direction(self):
+        """As after a typing error before the program's first start."""
+        bindings = {"ActiveScheme": "4", "41": "ID_ZOOM_BOUNDS", "42": "DrawArcc"}
+        with self.session(settings=bindings) as session:
+            deadline = time.monotonic() + ANSWER_SECONDS
+            bound = "DrawArcc"
+            while bound and time.monotonic() < deadline:
+                session.gesture_runs("up", self.program.eight["up"])
+                settings = configparser.ConfigParser(interpolation=None)
+                settings.read(session.settings_file)
+                bound = settings["GestureWidget"]["42"].strip('"')
+            self.assertEqual(bound, "", "an unknown command is still bound")
             self.end(session)
 
     def test_first_gesture_fills_the_settings(self):

@@ -114,6 +114,7 @@ private Q_SLOTS:
     void anotherLanguageChangesNoIdentifier();
     void withoutObjectNamesTheLanguageCounts();
     void entriesOfListsAreNotOfferedForEver();
+    void entriesOfKnownListsAreNotWritten();
     void anEntryThatIsBoundStays();
     void whatIsNotWrittenIsTriedAgain();
     void aFileThatCannotBeUsedHarmsNothing();
@@ -331,7 +332,7 @@ void CatalogueMemoryTest::theyAreTakenUpByTheirActions()
     QVERIFY(start.isOffered(QStringLiteral("drawLine")));
 }
 
-// Of two names of one well-known command, the one that was ever seen first keeps the identifier.
+// If a well-known command has two names, the name that was seen first keeps the identifier.
 void CatalogueMemoryTest::identifiersStayThoughMenusComeInAnotherOrder()
 {
     const WellKnown wellKnown{{kLine, {QStringLiteral("sketchLine"), QStringLiteral("drawLine")}}};
@@ -424,16 +425,16 @@ void CatalogueMemoryTest::withoutObjectNamesTheLanguageCounts()
 
 void CatalogueMemoryTest::entriesOfListsAreNotOfferedForEver()
 {
-    const QString first = QStringLiteral("File/Recent/Plate one");
-    const QString path = QStringLiteral("File/Recent/Plate two");
-    const QString twin = QStringLiteral("File/Recent/Window (2)");
-    const auto addRecent = [](DraftWindow &window, const QStringList &names) {
-        QMenu *recent = window.file->addMenu(QStringLiteral("Recent"));
+    const QString first = QStringLiteral("File/Plates/Plate one");
+    const QString path = QStringLiteral("File/Plates/Plate two");
+    const QString twin = QStringLiteral("File/Plates/Window (2)");
+    const auto addPlates = [](DraftWindow &window, const QStringList &names) {
+        QMenu *plates = window.file->addMenu(QStringLiteral("Plates"));
         for (const QString &name : names)
-            recent->addAction(name);
+            plates->addAction(name);
     };
     runOnce([&](DraftWindow &window) {
-        addRecent(window, {QStringLiteral("Plate one"), QStringLiteral("Plate two"),
+        addPlates(window, {QStringLiteral("Plate one"), QStringLiteral("Plate two"),
                            QStringLiteral("Window"), QStringLiteral("Window")});
     });
     {
@@ -443,13 +444,13 @@ void CatalogueMemoryTest::entriesOfListsAreNotOfferedForEver()
             QVERIFY2(start.isOffered(name), qPrintable(name));
     }
     Start start(m_path);
-    addRecent(start.window, {QStringLiteral("Plate one")});
+    addPlates(start.window, {QStringLiteral("Plate one")});
     QVERIFY(start.isOffered(first));
     QVERIFY(!start.isOffered(path));
     QVERIFY(!start.isOffered(twin));
     // A command that was there at the start stays offered, like every other command.
-    QMenu *recent = start.window.file->actions().last()->menu();
-    recent->clear();
+    QMenu *plates = start.window.file->actions().last()->menu();
+    plates->clear();
     QVERIFY(start.isOffered(first));
     // They leave the file when something else is written to it.
     QVERIFY(start.isWritten());
@@ -462,6 +463,23 @@ void CatalogueMemoryTest::entriesOfListsAreNotOfferedForEver()
     QVERIFY(inFile(twin).identifier.isEmpty());
 }
 
+// Nobody offers them, not even if somebody has bound them once.
+void CatalogueMemoryTest::entriesOfKnownListsAreNotWritten()
+{
+    const QString bound = QStringLiteral("File/Open Recent/Plate one");
+    Start start(m_path);
+    start.catalogue.expect(bound, QString());
+    QMenu *recent = start.window.file->addMenu(QStringLiteral("Open Recent"));
+    recent->addAction(QStringLiteral("Plate one"));
+    recent->addAction(QStringLiteral("Plate two"));
+    QVERIFY(start.isWritten());
+    QVERIFY(start.isOffered(bound));
+    QVERIFY(!start.isOffered(QStringLiteral("File/Open Recent/Plate two")));
+    QFile written(m_path);
+    QVERIFY(written.open(QIODevice::ReadOnly));
+    QVERIFY(!written.readAll().contains("Plate"));
+}
+
 void CatalogueMemoryTest::anEntryThatIsBoundStays()
 {
     const QString picture = QStringLiteral("File/Export/Picture...");
@@ -471,7 +489,8 @@ void CatalogueMemoryTest::anEntryThatIsBoundStays()
     QVERIFY(!start.isOffered(picture));
     start.catalogue.expect(picture, QStringLiteral("Expected"));
     QVERIFY(start.isOffered(picture));
-    QCOMPARE(start.catalogue.find(picture)->GetCaption().toQString(), QStringLiteral("Picture..."));
+    QCOMPARE(start.catalogue.find(picture)->GetCaption().toQString(),
+             QStringLiteral("Export > Picture..."));
     DraftWindow::addAction(start.window.draw, "Spline", "drawSpline");
     QVERIFY(start.isWritten());
     QVERIFY(!inFile(picture).identifier.isEmpty());

@@ -23,6 +23,7 @@
 using gesturewidget::ActionItem;
 using gesturewidget::CommandCatalogue;
 using gesturewidget::expectedCommands;
+using gesturewidget::RememberedCommand;
 using tests::DraftWindow;
 using WellKnown = QHash<QString, QStringList>;
 
@@ -85,6 +86,8 @@ private Q_SLOTS:
     void guessesMayComeLate();
     void whatIsLackingIsOfferedOnceItComes();
     void whatNobodyGuessesIsNotLacking();
+    void whatNobodyHasEverSeenIsDropped();
+    void trustedCommandsStay();
     void theProgramsNameIsThatOfItsProfile_data();
     void theProgramsNameIsThatOfItsProfile();
 
@@ -283,13 +286,11 @@ void ExpectedCommandsTest::whatIsLackingIsOfferedOnceItComes()
 {
     CommandCatalogue catalogue(m_window.get(), {});
     catalogue.expect(kTrim, QStringLiteral("Trim")); // bound at the last start
-    catalogue.expect(QStringLiteral("drawSpline"), QStringLiteral("Spline"));
     catalogue.guessWellKnown();
     catalogue.endGuessing();
     QVERIFY(!isOffered(catalogue, kTrim));
     QVERIFY(!isOffered(catalogue, QStringLiteral("ID_OFFSET")));
     QVERIFY(isOffered(catalogue, kLine));
-    QVERIFY(isOffered(catalogue, QStringLiteral("drawSpline")));
     QAction *trim = DraftWindow::addAction(m_window->draw, "Trim", "cutOff");
     QCOMPARE(id(catalogue.itemOf(trim)), kTrim);
     QVERIFY(isOffered(catalogue, kTrim));
@@ -306,6 +307,49 @@ void ExpectedCommandsTest::whatNobodyGuessesIsNotLacking()
     unguessed.expect(kTrim, QStringLiteral("Trim"));
     unguessed.endGuessing();
     QVERIFY(isOffered(unguessed, kTrim));
+}
+
+// Such as a typing error before the first start.
+void ExpectedCommandsTest::whatNobodyHasEverSeenIsDropped()
+{
+    const QString mistyped = QStringLiteral("drawArcc");
+    const QString remembered = QStringLiteral("drawSpline");
+    CommandCatalogue catalogue(m_window.get(), {});
+    RememberedCommand spline;
+    spline.identifier = remembered;
+    catalogue.remember({spline});
+    for (const QString &identifier : {mistyped, remembered, QStringLiteral("drawArc")})
+        catalogue.expect(identifier, identifier);
+    QSignalSpy dropped(&catalogue, &CommandCatalogue::dropped);
+    QVERIFY(isOffered(catalogue, mistyped)); // more menus may come
+    catalogue.endGuessing();
+    QVERIFY(!isOffered(catalogue, mistyped));
+    QVERIFY(isOffered(catalogue, remembered));
+    QVERIFY(isOffered(catalogue, QStringLiteral("drawArc")));
+    QCOMPARE(dropped.count(), 1);
+    QCOMPARE(dropped.first().first().toStringList(), QStringList(mistyped));
+    catalogue.endGuessing();
+    QCOMPARE(dropped.count(), 1);
+    // It was right, and came late.
+    QAction *arc = DraftWindow::addAction(m_window->draw, "Arcc", "drawArcc");
+    QCOMPARE(id(catalogue.itemOf(arc)), mistyped);
+    QVERIFY(isOffered(catalogue, mistyped));
+}
+
+void ExpectedCommandsTest::trustedCommandsStay()
+{
+    const QString imported = QStringLiteral("Sketch/Line");
+    CommandCatalogue catalogue(m_window.get(), {});
+    catalogue.expect(imported, QStringLiteral("Line"));
+    catalogue.trust(gesturewidget::trustedCommands(
+        {{QStringLiteral("Host/Imported"), QStringLiteral("drawArc\nSketch/Line")}}));
+    catalogue.endGuessing();
+    QVERIFY(isOffered(catalogue, imported));
+    CommandCatalogue other(m_window.get(), {});
+    other.expect(imported, QStringLiteral("Line"));
+    other.trustAll(); // the list of remembered commands cannot be read
+    other.endGuessing();
+    QVERIFY(isOffered(other, imported));
 }
 
 void ExpectedCommandsTest::theProgramsNameIsThatOfItsProfile_data()

@@ -72,6 +72,8 @@ private Q_SLOTS:
 
     void listsMenusThenToolBars();
     void commandsHaveTextsAndIcons();
+    void theTipIsTheTextThatSaysMost();
+    void namesFollowTheMenus();
     void wellKnownIdentifiersComeFromTheProfile();
     void aWellKnownIdentifierIsNotTakenByAnother();
     void twoWithOneNameAreTold();
@@ -129,6 +131,11 @@ void HostCommandCatalogueTest::commandsHaveTextsAndIcons()
     const ActionItem *circle = catalogue.find(QStringLiteral("drawCircle"));
     QVERIFY(circle);
     QCOMPARE(text(circle->GetTip()), QStringLiteral("Circle By its centre"));
+    const ActionItem *picture = catalogue.itemOf(m_window->exportPicture);
+    QVERIFY(picture);
+    QCOMPARE(text(picture->GetIdentifier()), QStringLiteral("File/Export/Picture..."));
+    QCOMPARE(text(picture->GetCaption()), QStringLiteral("Export > Picture..."));
+    QCOMPARE(text(picture->GetTip()), QStringLiteral("Export > Picture..."));
     QVERIFY(circle->GetSmallIcon().isNull());
     const ActionItem *open = catalogue.find(QStringLiteral("fileOpen"));
     QVERIFY(open);
@@ -138,6 +145,45 @@ void HostCommandCatalogueTest::commandsHaveTextsAndIcons()
     QCOMPARE(catalogue.itemOf(nullptr), nullptr);
     QVERIFY(catalogue.contains(line));
     QVERIFY(!catalogue.contains(nullptr));
+}
+
+void HostCommandCatalogueTest::theTipIsTheTextThatSaysMost()
+{
+    CommandCatalogue catalogue(m_window.get(), {});
+    const ActionItem *arc = catalogue.itemOf(m_window->arc);
+    QVERIFY(arc);
+    QCOMPARE(text(arc->GetTip()), QStringLiteral("Arc"));
+    m_window->arc->setStatusTip(QStringLiteral("Arc"));
+    m_window->arc->setToolTip(QStringLiteral("Arc (A)"));
+    m_window->arc->setWhatsThis(QStringLiteral("<p>An arc through <b>three</b> points</p>"));
+    catalogue.update();
+    QCOMPARE(text(arc->GetTip()), QStringLiteral("An arc through three points"));
+    m_window->arc->setToolTip(QStringLiteral("By its centre"));
+    catalogue.update();
+    QCOMPARE(text(arc->GetTip()), QStringLiteral("Arc: By its centre"));
+    m_window->arc->setWhatsThis(QString(1000, QLatin1Char('x')));
+    m_window->arc->setToolTip(QString());
+    catalogue.update();
+    QCOMPARE(text(arc->GetTip()), QStringLiteral("Arc"));
+}
+
+void HostCommandCatalogueTest::namesFollowTheMenus()
+{
+    CommandCatalogue catalogue(m_window.get(), {});
+    const ActionItem *line = catalogue.itemOf(m_window->line);
+    QCOMPARE(text(line->GetCaption()), QStringLiteral("Line"));
+    m_window->arc->setText(QStringLiteral("Line")); // two of them
+    catalogue.update();
+    QCOMPARE(text(line->GetCaption()), QStringLiteral("Draw > Line"));
+    QCOMPARE(text(catalogue.itemOf(m_window->arc)->GetCaption()), QStringLiteral("Drawing > Line"));
+    m_window->arc->setText(QStringLiteral("Arc"));
+    catalogue.update();
+    QCOMPARE(text(line->GetCaption()), QStringLiteral("Line"));
+    m_window->draw->removeAction(m_window->line);
+    m_window->toolBar->removeAction(m_window->line);
+    m_window->exports->addAction(m_window->line);
+    QCOMPARE(text(catalogue.itemOf(m_window->line)->GetCaption()), QStringLiteral("Export > Line"));
+    QCOMPARE(text(line->GetIdentifier()), QStringLiteral("drawLine"));
 }
 
 void HostCommandCatalogueTest::wellKnownIdentifiersComeFromTheProfile()
@@ -374,20 +420,20 @@ void HostCommandCatalogueTest::changesAreSeen()
 
 void HostCommandCatalogueTest::aMenuFilledLaterIsSeen()
 {
-    QMenu *recent = m_window->file->addMenu(QStringLiteral("Recent"));
-    connect(recent, &QMenu::aboutToShow, recent, [recent] {
-        recent->clear();
-        recent->addAction(QStringLiteral("a.dxf"));
+    QMenu *views = m_window->file->addMenu(QStringLiteral("Views"));
+    connect(views, &QMenu::aboutToShow, views, [views] {
+        views->clear();
+        views->addAction(QStringLiteral("Front"));
     });
     CommandCatalogue catalogue(m_window.get(), {});
-    QVERIFY(!catalogue.find(QStringLiteral("File/Recent/a.dxf")));
-    Q_EMIT recent->aboutToShow();
-    const ActionItem *item = catalogue.find(QStringLiteral("File/Recent/a.dxf"));
+    QVERIFY(!catalogue.find(QStringLiteral("File/Views/Front")));
+    Q_EMIT views->aboutToShow();
+    const ActionItem *item = catalogue.find(QStringLiteral("File/Views/Front"));
     QVERIFY(item);
-    Q_EMIT recent->aboutToShow(); // another action, the same command
-    QCOMPARE(catalogue.find(QStringLiteral("File/Recent/a.dxf")), item);
+    Q_EMIT views->aboutToShow(); // another action, the same command
+    QCOMPARE(catalogue.find(QStringLiteral("File/Views/Front")), item);
     QVERIFY(item->isPresent);
-    QCOMPARE(item->action(), recent->actions().first());
+    QCOMPARE(item->action(), views->actions().first());
 }
 
 void HostCommandCatalogueTest::aToolBarAddedLaterIsSeen()

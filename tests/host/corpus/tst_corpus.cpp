@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
+#include "host/commands/CommandCatalogue.h"
 #include "host/commands/WellKnownGuess.h"
 #include "host/documents/ViewGuess.h"
 #include "tests/host/corpus/RebuiltProgram.h"
@@ -93,6 +94,8 @@ private Q_SLOTS:
     void initTestCase();
     void commands_data() { programs(); }
     void commands();
+    void names_data() { programs(); }
+    void names();
     void drawings_data() { programs(); }
     void drawings();
     void cleanupTestCase();
@@ -200,6 +203,39 @@ void CorpusTest::commands()
     m_commands.wrong += score.wrong;
     m_commands.missed += score.missed;
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
+}
+
+// No two commands have the same name, and the labelled ones are not taken for entries of lists.
+void CorpusTest::names()
+{
+    QFETCH(QJsonObject, record);
+    RebuiltActions rebuilt(record, true);
+    gesturewidget::CommandCatalogue catalogue(&rebuilt.window(), {});
+    QStringList offered;
+    for (const auto &group : catalogue.groups()) {
+        for (const CHxUICommandItem *item : group->items)
+            offered.append(item->GetCaption().toQString().toCaseFolded());
+    }
+    QVERIFY(offered.size() > 10);
+    QStringList unique = offered;
+    unique.removeDuplicates();
+    QCOMPARE(unique, offered);
+    const QJsonObject labels =
+        record.value(QStringLiteral("labels")).toObject().value(QStringLiteral("commands")).toObject();
+    QStringList labelled;
+    for (const auto &label : labels)
+        labelled += strings(label);
+    QStringList others;
+    const QVector<QAction *> actions = rebuilt.actions();
+    for (QAction *action : actions) {
+        if (!gesturewidget::ActionItem::isCommand(action) || catalogue.itemOf(action))
+            continue;
+        const QStringList keys = rebuilt.keysOf(*action);
+        QVERIFY2(!containsAny(labelled, keys), qPrintable(keys.join(QLatin1Char(' '))));
+        others.append(keys.value(0));
+    }
+    std::printf("    %d commands, no commands: %s\n", int(offered.size()),
+                qPrintable(others.join(QStringLiteral(", "))));
 }
 
 QSet<QString> CorpusTest::judgeDrawings(const QJsonObject &size, const QStringList &right, Score &score,

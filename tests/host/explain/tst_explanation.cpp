@@ -229,8 +229,9 @@ void ExplanationTest::commands()
              qPrintable(lines()));
     QVERIFY2(says("ID_LINE: drawLine, since object name \"drawLine\", caption \"Line\""),
              qPrintable(lines()));
-    QVERIFY2(says("ID_SAVE: none, since no shortcut, icon, object name or caption speaks for an action"),
-             qPrintable(lines()));
+    QVERIFY2(
+        says("ID_SAVE: none, since no action has a matching shortcut, icon, object name or caption"),
+        qPrintable(lines()));
     const QHash<QString, QStringList> found = reported().wellKnownCommands;
     QCOMPARE(found.size(), 2);
     QCOMPARE(found.value(QStringLiteral("ID_LINE")), QStringList(QStringLiteral("drawLine")));

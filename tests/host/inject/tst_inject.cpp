@@ -238,7 +238,7 @@ void InjectTest::brokenModuleLeavesTheProgramAlone_data()
     QTest::newRow("throws") << stubs.arg(QStringLiteral("init_throws"))
                             << QStringLiteral("could not start: no start today");
     QTest::newRow("no library") << QStringLiteral(TESTS_SOURCE_DIR "/host/inject/guest/main.cpp")
-                                << QStringLiteral("it is no library");
+                                << QStringLiteral("it is not a library");
 }
 
 // The module is searched beside the host library, so use a copy of the libraries without it, or

@@ -42,7 +42,12 @@ private Q_SLOTS:
 
     void aDayWithBindings()
     {
-        expect({text("--bind"), kProgram, text("up-left"), text("DrawArc")}, "");
+        expect({text("--bind"), kProgram, text("up-left"), text("DrawArc")},
+               "has not run with gestures yet; if it has no command \"DrawArc\", the direction becomes "
+               "empty\n");
+        QCOMPARE(expect({text("--bind"), kProgram, text("up"), text("ID_LINE")}, ""), QByteArray());
+        QCOMPARE(expect({text("--bind"), kProgram, text("up"), text("ID_ZOOM_BOUNDS")}, ""),
+                 QByteArray());
         const QByteArray shown = expect({text("--bindings"), kProgram}, "  up-left    DrawArc\n");
         QVERIFY(shown.startsWith("gestures in launcher_fixture_direct: on\n"));
         const QByteArray json =
@@ -100,7 +105,7 @@ private Q_SLOTS:
         row("no desktop entry", {text("--enable"), kProgram}, 1,
             "the desktop has no entry that starts it");
         row("no such direction", {text("--bind"), kProgram, text("north"), text("x")}, 1,
-            "\"north\" is none of the 8 directions");
+            "\"north\" is not one of the 8 directions");
         row("a line end in a direction", {text("--bind"), kProgram, text("a\nb"), text("x")}, 1,
             "\"a?b\"");
         row("no such trigger", {text("--trigger"), kProgram, text("wheel")}, 1,
@@ -224,7 +229,7 @@ private Q_SLOTS:
         gesturewidget::CatalogueFile file(
             place(text("gesturewidget/launcher_fixture_direct.commands.json")));
         QVERIFY(file.merge({{text("drawArc"), {}, text("Arc..."), {}, text("Draw"), {}, false}}));
-        expect({text("--list-commands"), kProgram}, "Draw\n  drawArc  Arc...\n");
+        expect({text("--list-commands"), kProgram}, "Others\n  drawArc  Arc...\n");
         expect({text("--list-commands"), kProgram, text("--json")}, "\"identifier\": \"drawArc\"");
         expect({text("--bind"), kProgram, text("up-left"), text("arc")}, "");
         expect({text("--bindings"), kProgram}, "  up-left    drawArc         Arc...\n");

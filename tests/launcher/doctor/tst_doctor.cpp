@@ -45,7 +45,7 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         const Diagnosis diagnosis = diagnose(healthy(folder.path()));
-        QVERIFY2(diagnosis.isHealthy, qPrintable(diagnosis.lines.join(QLatin1Char('\n'))));
+        QVERIFY2(diagnosis.isHealthy(), qPrintable(diagnosis.lines().join(QLatin1Char('\n'))));
         const QStringList expected{
             QStringLiteral("  program:     drafter, /opt/drafter"),
             QStringLiteral("  Qt:          5"),
@@ -58,7 +58,7 @@ private Q_SLOTS:
             QStringLiteral("  gestures:    on, 8 of them"),
             QStringLiteral("  trigger:     right"),
         };
-        QCOMPARE(diagnosis.lines, expected);
+        QCOMPARE(diagnosis.lines(), expected);
         QVERIFY(
             !QFile::exists(folder.filePath(QStringLiteral("drafter.ini")))); // --doctor writes nothing
     }
@@ -156,9 +156,9 @@ private Q_SLOTS:
         Symptoms symptoms = healthy(folder.path());
         change(symptoms, QDir(folder.path()));
         const Diagnosis diagnosis = diagnose(symptoms);
-        const QString lines = QLatin1Char('\n') + diagnosis.lines.join(QLatin1Char('\n'));
+        const QString lines = QLatin1Char('\n') + diagnosis.lines().join(QLatin1Char('\n'));
         QVERIFY2(lines.contains(says), qPrintable(lines));
-        QCOMPARE(diagnosis.isHealthy, isHealthy);
+        QCOMPARE(diagnosis.isHealthy(), isHealthy);
         QCOMPARE(lines.contains(QStringLiteral("\n! ")), !isHealthy);
     }
 
@@ -167,7 +167,7 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         Symptoms symptoms = healthy(folder.path());
         symptoms.path.clear();
-        QCOMPARE(diagnose(symptoms).lines,
+        QCOMPARE(diagnose(symptoms).lines(),
                  QStringList(QStringLiteral("! program:     drafter, not found")));
     }
 

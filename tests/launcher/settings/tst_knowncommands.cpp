@@ -23,17 +23,23 @@ const QString kProgram = QStringLiteral("drafter");
 
 KnownCommands shown()
 {
-    return KnownCommands(
-        {{text("ID_LINE"), text("drawLine"), text("Line"), {}, text("Draw"), {}, false},
-         {text("drawArc"), text("drawArc"), text("Arc..."), text("Draws an arc"), text("Draw"), "png",
-          false},
-         {text("File/Export/Picture..."), {}, text("Picture..."), {}, text("File"), {}, false},
-         {text("viewGrid"), {}, text("Grid"), {}, text("View"), {}, false},
-         {text("snapGrid"), {}, text("Grid"), {}, text("Snap"), {}, true},
-         {text("odd"), {}, {}, {}, {}, {}, false},
-         {text("Save"), {}, text("Save"), {}, text("Main"), {}, true},
-         {text("fileSave"), {}, text("Save..."), {}, text("File"), {}, false}},
-        {text("ID_TRIM"), text("ID_LINE")});
+    return KnownCommands({{text("ID_LINE"), text("drawLine"), text("Line"), {}, text("Draw"), {}, false},
+                          {text("drawArc"), text("drawArc"), text("Arc..."), text("Draws an arc"),
+                           text("Draw"), "png", false},
+                          {text("File/Export/Picture..."),
+                           {},
+                           text("Picture..."),
+                           {},
+                           text("File"),
+                           {},
+                           false,
+                           {text("Export")}},
+                          {text("viewGrid"), {}, text("Grid"), {}, text("View"), {}, false},
+                          {text("snapGrid"), {}, text("Grid"), {}, text("Snap"), {}, true},
+                          {text("odd"), {}, {}, {}, {}, {}, false},
+                          {text("Save"), {}, text("Save"), {}, text("Main"), {}, true},
+                          {text("fileSave"), {}, text("Save..."), {}, text("File"), {}, false}},
+                         {text("ID_TRIM"), text("ID_LINE")});
 }
 
 } // namespace
@@ -71,14 +77,20 @@ void KnownCommandsTest::resolves_data()
     row("arc...", "drawArc");
     row("File/Export/Picture...", "File/Export/Picture...");
     row("picture", "File/Export/Picture...");
+    row("export > picture", "File/Export/Picture...");
+    row("File/Export/picture", "File/Export/Picture...");
+    row("file > export > picture", "File/Export/Picture...");
+    row("File/Picture", "File/Export/Picture...");
     row("viewGrid", "viewGrid");
     row("ID_TRIM", "ID_TRIM"); // well known, though not shown
     row("odd", "odd");
-    row("Grid", "", "several commands are called \"Grid\": viewGrid (View/Grid), snapGrid (Snap/Grid)");
+    row("Grid", "",
+        "several commands are called \"Grid\": viewGrid (View > Grid), snapGrid (Snap > Grid)");
     row("view/grid", "viewGrid");
     row("Snap/Grid", "snapGrid");
     // The identifier of an action in a toolbar is the caption of an action in a menu.
-    row("Save", "", "several commands are called \"Save\": fileSave (File/Save...), Save (Main/Save)");
+    row("Save", "",
+        "several commands are called \"Save\": fileSave (File > Save...), Save (Main > Save)");
     row("file/save", "fileSave");
     row("Main/Save", "Save");
     row("fileSave", "fileSave");
@@ -133,16 +145,13 @@ void KnownCommandsTest::list()
                                         "  ID_LINE                 Line\n"
                                         "  drawArc                 Arc...\n"
                                         "File\n"
-                                        "  File/Export/Picture...  Picture...\n"
-                                        "  fileSave                Save...\n"
-                                        "View\n"
-                                        "  viewGrid                Grid\n"
-                                        "Snap\n"
-                                        "  snapGrid                Grid\n"
-                                        "-\n"
+                                        "  File/Export/Picture...  Export > Picture...\n"
+                                        "  fileSave                File > Save...\n"
+                                        "Others\n"
+                                        "  viewGrid                View > Grid\n"
+                                        "  snapGrid                Snap > Grid\n"
                                         "  odd\n"
-                                        "Main\n"
-                                        "  Save                    Save\n"));
+                                        "  Save                    Main > Save\n"));
 }
 
 void KnownCommandsTest::listAsJson()
@@ -152,11 +161,9 @@ void KnownCommandsTest::listAsJson()
     QCOMPARE(list.value(text("program")), QJsonValue(kProgram));
     const QJsonArray commands = list.value(text("commands")).toArray();
     QCOMPARE(commands.size(), 8);
-    const QJsonObject arc{{text("identifier"), text("drawArc")},
-                          {text("caption"), text("Arc...")},
-                          {text("tip"), text("Draws an arc")},
-                          {text("category"), text("Draw")},
-                          {text("toolbar"), false}};
+    const QJsonObject arc{{text("identifier"), text("drawArc")}, {text("name"), text("Arc...")},
+                          {text("caption"), text("Arc...")},     {text("tip"), text("Draws an arc")},
+                          {text("category"), text("Draw")},      {text("toolbar"), false}};
     QCOMPARE(commands.at(1).toObject(), arc);
     QCOMPARE(commands.at(4).toObject().value(text("toolbar")), QJsonValue(true));
 }

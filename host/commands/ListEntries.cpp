@@ -1,0 +1,184 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
+#include "host/commands/ListEntries.h"
+
+#include "host/captions/KnownCaptions.h"
+#include "host/files/CommandNames.h"
+#include "host/files/DocumentName.h"
+#include "host/window/Captions.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QRegularExpression>
+
+namespace gesturewidget {
+namespace {
+
+// Characters. A shorter title is too likely to be the caption of some command.
+constexpr int kShortestTitle = 3;
+
+QSet<QString> captionsOf(std::initializer_list<const char *> roles)
+{
+    QSet<QString> captions;
+    for (const char *role : roles) {
+        const QStringList list = KnownCaptions::menusOf(QLatin1String(role));
+        for (const QString &caption : list)
+            captions.insert(foldedCaption(caption));
+    }
+    return captions;
+}
+
+// Without the marks of a changed document.
+QString plainTitle(QString title)
+{
+    title.remove(QLatin1String("[*]"));
+    while (title.endsWith(QLatin1Char('*')))
+        title.chop(1);
+    while (title.startsWith(QLatin1Char('*')))
+        title.remove(0, 1);
+    return foldedCaption(title);
+}
+
+// Returns the number of an entry such as "&1 drawing", "1&0 drawing" or "2: drawing"; -1 if it has
+// none. `isMarked`: the number has the mnemonic.
+int numberOf(const QString &text, bool *isMarked)
+{
+    static const QRegularExpression marked(QStringLiteral(R"(^(&\d|\d&\d)[.:)]?\s+\S)"));
+    static const QRegularExpression plain(QStringLiteral(R"(^(\d{1,2})[.:)]?\s+\S)"));
+    QRegularExpressionMatch match = marked.match(text);
+    *isMarked = match.hasMatch();
+    if (!*isMarked)
+        match = plain.match(text);
+    return match.hasMatch() ? match.captured(1).remove(QLatin1Char('&')).toInt() : -1;
+}
+
+bool mayBeEntry(const QAction &action)
+{
+    return action.objectName().isEmpty() && action.shortcut().isEmpty();
+}
+
+// Without the name of a document in quotation marks.
+QString withoutDocument(QString caption)
+{
+    static const QRegularExpression quoted(QStringLiteral(R"(\s*["'“”„«‘]([^"'“”»’]+)["'“”»’])"));
+    if (!namesADocument(caption))
+        return caption;
+    const QRegularExpressionMatch match = quoted.match(caption);
+    const bool isRest = match.hasMatch() && match.capturedLength() < caption.size();
+    if (isRest && namesADocument(match.captured(1)))
+        caption.remove(match.capturedStart(), match.capturedLength());
+    return caption.trimmed();
+}
+
+QString withoutStep(const QAction &action, const QString &caption)
+{
+    static const QSet<QString> words = captionsOf({"undo", "redo"});
+    static const QList<QKeySequence> keys =
+        QKeySequence::keyBindings(QKeySequence::Undo) + QKeySequence::keyBindings(QKeySequence::Redo);
+    const QKeySequence shortcut = action.shortcut();
+    const bool isIt = (!shortcut.isEmpty() && keys.contains(shortcut)) || action.inherits("QUndoAction");
+    if (!isIt)
+        return caption;
+    const QString plain = caption.simplified();
+    for (const QString &word : words) {
+        const bool isFirst = plain.size() > word.size() && foldedCaption(plain).startsWith(word);
+        if (isFirst && !plain.at(word.size()).isLetterOrNumber())
+            return plain.left(word.size());
+    }
+    return caption;
+}
+
+} // namespace
+
+ListEntries::Kind ListEntries::kindOf(const QString &menu, bool isTopLevel)
+{
+    static const QSet<QString> documents = captionsOf({"recent", "undo", "redo"});
+    static const QSet<QString> layers = captionsOf({"layers"});
+    if (isTopLevel)
+        return Kind::Commands;
+    const QString caption = foldedCaption(menu);
+    return documents.contains(caption) ? Kind::Documents
+         : layers.contains(caption)    ? Kind::Layers
+                                       : Kind::Commands;
+}
+
+QSet<const QAction *> ListEntries::among(const QList<QAction *> &actions, Kind kind)
+{
+    QSet<const QAction *> entries;
+    int next = -1; // the number that continues the list
+    for (const QAction *action : actions) {
+        const QString text = action->text();
+        if (text.isEmpty())
+            continue;
+        const QString caption = lastingCaption(*action, plainCaption(text));
+        if (namesADocument(caption)) {
+            entries.insert(action);
+            continue;
+        }
+        if (!mayBeEntry(*action))
+            continue;
+        bool isMarked = false;
+        const int number = numberOf(text, &isMarked);
+        if (number == 0 || (number == 1 && next != 1))
+            next = number;
+        const bool isNext = number >= 0 && number == next;
+        if (isNext)
+            ++next;
+        const bool isNumbered =
+            isNext && action->icon().isNull() && (isMarked || action->data().isValid());
+        if (kind == Kind::Documents || isNumbered
+            || (kind == Kind::Layers && (action->isCheckable() || action->data().isValid()))
+            || (action->icon().isNull() && isWindowTitle(caption)))
+            entries.insert(action);
+    }
+    return entries;
+}
+
+bool ListEntries::isOfOneDocument(const QString &menu)
+{
+    return namesADocument(menu) || isWindowTitle(menu);
+}
+
+bool ListEntries::isWindowTitle(const QString &caption)
+{
+    if (!m_hasTitles) {
+        const auto add = [this](const QString &title) {
+            const QString plain = plainTitle(title);
+            if (plain.size() >= kShortestTitle)
+                m_titles.insert(plain);
+        };
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        for (const QWidget *window : windows) {
+            if (!qobject_cast<const QMainWindow *>(window))
+                continue;
+            add(window->windowTitle());
+            const auto areas = window->findChildren<QMdiArea *>();
+            for (const QMdiArea *area : areas) {
+                const auto inside = area->subWindowList();
+                for (const QMdiSubWindow *one : inside) {
+                    add(one->windowTitle());
+                    if (one->widget())
+                        add(one->widget()->windowTitle());
+                }
+            }
+        }
+        m_hasTitles = true;
+    }
+    if (m_titles.isEmpty())
+        return false;
+    static const QRegularExpression number(QStringLiteral(R"(^\d{1,2}[.:)]?\s+)"));
+    QString plain = caption;
+    plain.remove(number);
+    return m_titles.contains(plainTitle(plain)) || m_titles.contains(plainTitle(caption));
+}
+
+QString lastingCaption(const QAction &action, const QString &caption)
+{
+    return withoutStep(action, withoutDocument(caption));
+}
+
+} // namespace gesturewidget

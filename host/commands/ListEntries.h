@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QList>
+#include <QSet>
+#include <QString>
+
+QT_BEGIN_NAMESPACE
+class QAction;
+QT_END_NAMESPACE
+
+namespace gesturewidget {
+
+// Tells entries of lists from commands: recent documents, open windows, layers, steps to undo.
+// They come and go with a person's work, so they are no commands: nobody wants one in a ring
+// tomorrow, and what they say is private.
+//
+// A wrong answer costs a command, so an entry of a list is only what cannot be much else. Apart
+// from names of documents, an action with an object name, a shortcut or an icon is a command.
+//
+// Make one for each reading of the menus, because windows open and close in between.
+class ListEntries
+{
+public:
+    // What a menu holds. Only some entries of a menu are those of a list.
+    enum class Kind {
+        Commands, // and perhaps a list at the end
+        Documents, // recent documents, or steps to undo or redo
+        Layers
+    };
+
+    // Returns what a menu with that caption holds. `isTopLevel`: it is in the menu bar.
+    [[nodiscard]] static Kind kindOf(const QString &menu, bool isTopLevel);
+
+    // Returns the entries of lists among the actions of one menu or toolbar, which are in order.
+    [[nodiscard]] QSet<const QAction *> among(const QList<QAction *> &actions, Kind kind);
+    // Returns whether a menu with that caption belongs to one document or window. Then its entries
+    // are no commands either.
+    [[nodiscard]] bool isOfOneDocument(const QString &menu);
+
+private:
+    [[nodiscard]] bool isWindowTitle(const QString &caption);
+
+    QSet<QString> m_titles; // of open windows
+    bool m_hasTitles = false;
+};
+
+// Returns the part of a caption that stays the same from drawing to drawing: "Save" for
+// Save "plan.dxf", and "Undo" for "Undo Move 3 Objects" if the action is the one that undoes or
+// redoes steps.
+[[nodiscard]] QString lastingCaption(const QAction &action, const QString &caption);
+
+} // namespace gesturewidget

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
+#include "launcher/settings/ProgramSettings.h"
+
+#include "host/files/CatalogueFile.h"
+#include "host/files/TriggerText.h"
+#include "launcher/settings/Bindings.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace launcher {
+namespace {
+
+KnownCommands knownCommands(const Subject &subject, const gesturewidget::ProgramProfile &profile)
+{
+    QStringList wellKnown = Bindings::initial().eight;
+    std::copy(profile.wellKnownCommands.keyBegin(), profile.wellKnownCommands.keyEnd(),
+              std::back_inserter(wellKnown));
+    return KnownCommands(gesturewidget::CatalogueFile(subject.catalogueFile()).read(), wellKnown);
+}
+
+} // namespace
+
+ProgramSettings ProgramSettings::of(const Subject &subject)
+{
+    const gesturewidget::ProgramProfile profile =
+        gesturewidget::ProgramProfile::forProgram(subject.name, subject.profileFolders, nullptr);
+    const QString usualTrigger =
+        gesturewidget::triggerText(profile.triggerButton, profile.triggerModifiers);
+    const KnownCommands commands = knownCommands(subject, profile);
+    return {profile, usualTrigger, commands,
+            SettingsTasks(subject.name, subject.settingsFile(), commands, usualTrigger)};
+}
+
+} // namespace launcher

@@ -1,0 +1,235 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
+// Entries of lists are no commands: the catalogue does not offer them.
+
+#include "host/commands/CommandCatalogue.h"
+#include "tests/host/support/Texts.h"
+#include "tests/support/FatalWarnings.h"
+
+#include <QActionGroup>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTest>
+#include <QToolBar>
+#include <QUndoStack>
+
+#include <functional>
+
+using gesturewidget::ActionItem;
+using gesturewidget::CommandCatalogue;
+using tests::text;
+
+namespace {
+
+// A program with the command "&Close" in its menu "&Window".
+struct Program
+{
+    Program()
+    {
+        window.setWindowTitle(QStringLiteral("plan[*] - Draft"));
+        window.setCentralWidget(&area);
+        menu = window.menuBar()->addMenu(QStringLiteral("&Window"));
+        menu->addAction(QStringLiteral("&Close"));
+    }
+    ~Program() { area.setParent(nullptr); }
+    Q_DISABLE_COPY_MOVE(Program)
+
+    QMenu *submenu(const char *title) { return menu->addMenu(QString::fromUtf8(title)); }
+
+    QMainWindow window;
+    QMdiArea area;
+    QMenu *menu = nullptr;
+};
+
+// "name | name | ..." of the commands that are offered.
+QString offered(CommandCatalogue &catalogue)
+{
+    QStringList names;
+    for (const auto &group : catalogue.groups()) {
+        for (const auto *item : group->items)
+            names.append(text(item->GetCaption()));
+    }
+    return names.join(QStringLiteral(" | "));
+}
+
+class Step : public QUndoCommand
+{
+public:
+    explicit Step(const char *name)
+        : QUndoCommand(QString::fromUtf8(name))
+    {
+    }
+};
+
+using Fill = std::function<void(Program &)>;
+
+} // namespace
+
+Q_DECLARE_METATYPE(Fill)
+
+class ListEntriesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { tests::failOnWarnings(); }
+
+    void menus_data();
+    void menus();
+    void anActionThatBecomesADocument();
+    void aBoundEntryIsOffered();
+    void undoHasOneName();
+};
+
+void ListEntriesTest::menus_data()
+{
+    QTest::addColumn<Fill>("fill");
+    QTest::addColumn<QString>("commands");
+    const auto row = [](const char *name, const Fill &fill, const char *commands) {
+        QTest::newRow(name) << fill << QString::fromUtf8(commands);
+    };
+    const auto entry = [](const char *caption) {
+        return [caption](Program &p) { p.menu->addAction(QString::fromUtf8(caption)); };
+    };
+    row("a command", entry("&Tile"), "Close | Tile");
+    row("a document", entry("plan.dxf"), "Close");
+    row("a path", entry("/home/anna/plan"), "Close");
+    row(
+        "a document with a name of its own",
+        [](Program &p) {
+            p.menu->addAction(QStringLiteral("plan.dxf"))->setObjectName(QStringLiteral("recent1"));
+        },
+        "Close");
+    row(
+        "numbers that begin with one",
+        [](Program &p) {
+            p.menu->addAction(QStringLiteral("&1 house"));
+            p.menu->addAction(QStringLiteral("&2 garden"));
+        },
+        "Close");
+    row(
+        "numbers that are captions",
+        [](Program &p) {
+            p.menu->addAction(QStringLiteral("&2 Points"));
+            p.menu->addAction(QStringLiteral("&3 Points"));
+            p.menu->addAction(QStringLiteral("1 Stud"));
+        },
+        "Close | 2 Points | 3 Points | 1 Stud");
+    row(
+        "numbers of named actions",
+        [](Program &p) {
+            p.menu->addAction(QStringLiteral("&1 Point"))->setObjectName(QStringLiteral("point1"));
+            p.menu->addAction(QStringLiteral("&2 Points"))->setObjectName(QStringLiteral("point2"));
+        },
+        "Close | 1 Point | 2 Points");
+    row("the title of the window", entry("plan - Draft"), "Close");
+    row(
+        "the title of a window inside",
+        [](Program &p) {
+            p.area.addSubWindow(new QWidget)->setWindowTitle(QStringLiteral("Untitled project[*]"));
+            p.menu->addAction(QStringLiteral("Untitled project *"));
+        },
+        "Close");
+    row(
+        "a menu for one window",
+        [](Program &p) {
+            p.area.addSubWindow(new QWidget)->setWindowTitle(QStringLiteral("Untitled"));
+            p.submenu("Untitled")->addAction(QStringLiteral("Main window"));
+        },
+        "Close");
+    row(
+        "a menu for one document",
+        [](Program &p) { p.submenu("streets.osm")->addAction(QStringLiteral("Zoom")); }, "Close");
+    row(
+        "recent documents",
+        [](Program &p) {
+            QMenu *recent = p.submenu("Open &Recent");
+            recent->addAction(QStringLiteral("plan"));
+            recent->addAction(QStringLiteral("Clear List"))->setObjectName(QStringLiteral("clear"));
+        },
+        "Close | Open Recent > Clear List");
+    row(
+        "recent documents in German",
+        [](Program &p) { p.submenu("&Zuletzt geöffnet")->addAction(QStringLiteral("plan")); }, "Close");
+    row(
+        "layers",
+        [](Program &p) {
+            QMenu *layers = p.submenu("Send to &Layer");
+            layers->addAction(QStringLiteral("Background"))->setCheckable(true);
+            layers->addAction(QStringLiteral("New Layer..."));
+        },
+        "Close | Send to Layer > New Layer...");
+    row(
+        "steps to undo",
+        [](Program &p) {
+            auto *bar = p.window.addToolBar(QStringLiteral("Edit"));
+            auto *steps = new QMenu(QStringLiteral("&Undo"), bar);
+            steps->addAction(QStringLiteral("Add Property"));
+            steps->addAction(QStringLiteral("Move 0 Object(s)"));
+            bar->addAction(steps->menuAction());
+        },
+        "Close");
+}
+
+void ListEntriesTest::menus()
+{
+    QFETCH(Fill, fill);
+    QFETCH(QString, commands);
+    Program program;
+    fill(program);
+    CommandCatalogue catalogue(&program.window, {});
+    QCOMPARE(offered(catalogue), commands);
+}
+
+// Some programs keep an action for each recent document.
+void ListEntriesTest::anActionThatBecomesADocument()
+{
+    Program program;
+    QAction *slot = program.menu->addAction(QStringLiteral("Recent 1"));
+    slot->setObjectName(QStringLiteral("recent1"));
+    CommandCatalogue catalogue(&program.window, {});
+    QCOMPARE(offered(catalogue), QStringLiteral("Close | Recent 1"));
+    slot->setText(QStringLiteral("~/plan.dxf"));
+    QCOMPARE(offered(catalogue), QStringLiteral("Close"));
+    slot->setText(QStringLiteral("Recent 1"));
+    QCOMPARE(offered(catalogue), QStringLiteral("Close | Recent 1"));
+}
+
+void ListEntriesTest::aBoundEntryIsOffered()
+{
+    Program program;
+    QAction *plan = program.submenu("Open Recent")->addAction(QStringLiteral("plan.dxf"));
+    CommandCatalogue catalogue(&program.window, {});
+    catalogue.expect(QStringLiteral("Window/Open Recent/plan.dxf"), QStringLiteral("plan.dxf"));
+    const ActionItem *item = catalogue.find(QStringLiteral("Window/Open Recent/plan.dxf"));
+    QVERIFY(item);
+    QCOMPARE(item->action(), plan);
+    QVERIFY(item->isUsable());
+    QVERIFY(item->isListEntry); // so it is not remembered
+    QCOMPARE(offered(catalogue), QStringLiteral("Close | Open Recent > plan.dxf"));
+}
+
+void ListEntriesTest::undoHasOneName()
+{
+    Program program;
+    QUndoStack stack;
+    stack.push(new Step("Add Property"));
+    QAction *undo = stack.createUndoAction(&program.window);
+    QAction *other = new QAction(QStringLiteral("Undo Everything"), &program.window);
+    program.menu->addAction(undo);
+    program.menu->addAction(other);
+    CommandCatalogue catalogue(&program.window, {});
+    QCOMPARE(offered(catalogue), QStringLiteral("Close | Undo | Undo Everything"));
+    stack.push(new Step("Move 0 Object(s)"));
+    QCOMPARE(offered(catalogue), QStringLiteral("Close | Undo | Undo Everything"));
+    const ActionItem *item = catalogue.itemOf(undo);
+    QVERIFY(item);
+    QCOMPARE(text(item->GetIdentifier()), QStringLiteral("Window/Undo"));
+}
+
+QTEST_MAIN(ListEntriesTest)
+#include "tst_listentries.moc"
