@@ -23,7 +23,8 @@ struct TaskOption
 constexpr TaskOption kTaskOptions[] = {
     {"--bindings", CommandLine::Task::ShowBindings, 0, 0, true, "PROGRAM [--json]"},
     {"--list-commands", CommandLine::Task::ListCommands, 0, 0, true, "PROGRAM [--json]"},
-    {"--bind", CommandLine::Task::Bind, 2, 2, false, "PROGRAM DIRECTION COMMAND"},
+    {"--bind", CommandLine::Task::Bind, 2, 2, false, "PROGRAM DIRECTION COMMAND [--ring TASK]"},
+    {"--ring", CommandLine::Task::SetRing, 2, 2, false, "PROGRAM TASK own|shared"},
     {"--trigger", CommandLine::Task::SetTrigger, 1, 1, false, "PROGRAM TRIGGER"},
     {"--reset", CommandLine::Task::Reset, 0, 0, false, "PROGRAM"},
     {"--export", CommandLine::Task::Export, 0, 1, false, "PROGRAM [FILE]"},
@@ -38,6 +39,7 @@ constexpr TaskOption kTaskOptions[] = {
 
 constexpr char kJson[] = "--json";
 constexpr char kAlways[] = "--always";
+constexpr char kRing[] = "--ring";
 constexpr char kHelp[] = "--help";
 constexpr char kVersion[] = "--version";
 
@@ -47,8 +49,15 @@ CommandLine parseTask(const TaskOption &option, QList<QByteArray> words)
     CommandLine line;
     if (option.mayBeJson)
         line.isJson = words.removeAll(kJson) > 0;
+    if (const auto at = words.indexOf(kRing); option.task == CommandLine::Task::Bind && at >= 0) {
+        line.ring = words.value(at + 1);
+        if (!line.ring.isEmpty()) {
+            words.removeAt(at);
+            words.removeAt(at);
+        }
+    }
     const auto count = static_cast<int>(words.size()) - 1; // without the program
-    if (count < option.least || count > option.most || words.first().isEmpty()) {
+    if (words.isEmpty() || count < option.least || count > option.most || words.first().isEmpty()) {
         line.complaint = QStringLiteral("usage: mouse-gestures %1 %2")
                              .arg(QLatin1String(option.name), QLatin1String(option.usage));
         return line;
@@ -121,6 +130,9 @@ program, a window opens in which a person can do all of this with the mouse.
                                     identifier or its caption, or "none". DIRECTION is
                                     up, left, down or right; with eight gestures also
                                     up-left, down-left, down-right or up-right
+                                    --ring TASK after it: in the ring of that task
+  --ring PROGRAM TASK own|shared    give a task, such as FreeCAD's SketcherWorkbench, a
+                                    ring of its own, or the shared one again
   --trigger PROGRAM TRIGGER         choose what starts a gesture: right, middle,
                                     ctrl+right, ...; "default" is the usual trigger
   --reset PROGRAM                   bring the first bindings back; the trigger stays

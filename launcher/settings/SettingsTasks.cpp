@@ -5,6 +5,7 @@
 
 #include "host/files/FileContent.h"
 #include "host/files/FileWriter.h"
+#include "host/files/RingSettings.h"
 #include "host/files/SettingsFile.h"
 #include "host/files/SettingsNames.h"
 #include "host/files/TriggerText.h"
@@ -19,6 +20,7 @@ namespace {
 using gesturewidget::FileContent;
 using gesturewidget::FileWriter;
 using gesturewidget::SettingsFile;
+namespace ringsettings = gesturewidget::ringsettings;
 
 // What differs between two states of the settings.
 SettingsChange changeBetween(const Bindings &before, const Bindings &after)
@@ -102,6 +104,13 @@ void appendScheme(QByteArray &text, int scheme, const QStringList &commands, boo
     }
 }
 
+void appendRing(QByteArray &text, const Bindings &bindings, const KnownCommands &known)
+{
+    const bool isFour = bindings.scheme == 4;
+    appendScheme(text, isFour ? 4 : 8, isFour ? bindings.four : bindings.eight, true, known);
+    appendScheme(text, isFour ? 8 : 4, isFour ? bindings.eight : bindings.four, false, known);
+}
+
 // Reads a file that is to be imported.
 Outcome readText(const QString &path, QByteArray &text)
 {
@@ -149,13 +158,20 @@ Outcome SettingsTasks::edit(const std::function<QString(Bindings &)> &edit, Sett
     SettingsChange change;
     const bool isDone = file.change([&](const SettingsFile::Values &own) -> SettingsFile::Values {
         const SettingsFile::Values now = m_site.under(own);
-        const Bindings before = Bindings::fromSettings(now);
+        if (!m_ring.isEmpty() && !ringsettings::hasOwnRing(now, m_ring)) {
+            complaint =
+                QStringLiteral("%1 has no ring of its own, see mouse-gestures --ring").arg(m_ring);
+            return {};
+        }
+        const SettingsFile::Values seen = ringsettings::seenIn(now, m_ring);
+        const Bindings before = Bindings::fromSettings(seen);
         Bindings after = before;
         complaint = edit(after);
         if (!complaint.isEmpty())
             return {};
         change = changeBetween(before, after);
-        return after.changesFrom(now);
+        const SettingsFile::Values changes = after.changesFrom(seen);
+        return m_ring.isEmpty() ? changes : ringsettings::movedTo(changes, m_ring);
     });
     if (!complaint.isEmpty())
         return Outcome::failure(complaint);
@@ -190,7 +206,8 @@ Outcome SettingsTasks::replace(const SettingsFile::Values &from, const SettingsF
 
 Outcome SettingsTasks::showBindings() const
 {
-    const Bindings bindings = this->bindings();
+    const SettingsFile::Values values = m_site.under(SettingsFile(m_file).read());
+    const Bindings bindings = Bindings::fromSettings(values);
     Outcome outcome;
     append(outcome.output,
            QStringLiteral("gestures in %1: %2")
@@ -198,11 +215,13 @@ Outcome SettingsTasks::showBindings() const
     append(outcome.output, bindings.trigger.isEmpty()
                                ? QStringLiteral("started with: %1 (default)").arg(m_usualTrigger)
                                : QStringLiteral("started with: %1").arg(bindings.trigger));
-    const bool isFour = bindings.scheme == 4;
-    appendScheme(outcome.output, isFour ? 4 : 8, isFour ? bindings.four : bindings.eight, true,
-                 m_commands);
-    appendScheme(outcome.output, isFour ? 8 : 4, isFour ? bindings.eight : bindings.four, false,
-                 m_commands);
+    appendRing(outcome.output, bindings, m_commands);
+    const QStringList tasks = ringsettings::ownRings(values);
+    for (const QString &task : tasks) {
+        append(outcome.output, QStringLiteral("ring of %1").arg(task));
+        appendRing(outcome.output, Bindings::fromSettings(ringsettings::seenIn(values, task)),
+                   m_commands);
+    }
     return outcome;
 }
 
@@ -242,6 +261,20 @@ Outcome SettingsTasks::bind(const QString &direction, const QString &command)
                               "direction becomes empty")
                    .arg(m_program, wanted.simplified()));
     return outcome;
+}
+
+Outcome SettingsTasks::setRing(const QString &task, const QString &kind,
+                               const QHash<QString, QString> &first)
+{
+    const bool isOwn = kind == QLatin1String("own");
+    if (!isOwn && kind != QLatin1String("shared"))
+        return Outcome::failure(QStringLiteral("a ring is \"own\" or \"shared\", not \"%1\"").arg(kind));
+    SettingsFile file(m_file);
+    const bool isDone = file.change([&](const SettingsFile::Values &now) {
+        return isOwn ? ringsettings::ownRing(now, task, first, Bindings::fromSettings(now).toSettings())
+                     : ringsettings::sharedRing(task);
+    });
+    return outcomeOf(isDone, file);
 }
 
 Outcome SettingsTasks::reset(SettingsChange *made)

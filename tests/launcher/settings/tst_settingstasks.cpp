@@ -50,6 +50,8 @@ private Q_SLOTS:
     void bindsInTheSchemeInUse();
     void aCommandByItsCaption();
     void aCommandHasOneDirection();
+    void aTaskMayHaveARingOfItsOwn();
+    void aRingIsOwnOrShared();
     void otherProgramsValuesStay();
     void resetKeepsTheTrigger();
     void theAdministratorsSettings();
@@ -193,6 +195,44 @@ void SettingsTasksTest::aCommandHasOneDirection()
     QVERIFY(tasks().bind(text("left"), text("none")).isDone());
     QCOMPARE(kept().eight.count(QString()), 2);
     QCOMPARE(kept().eight.at(1), text("ID_OFFSET"));
+}
+
+void SettingsTasksTest::aTaskMayHaveARingOfItsOwn()
+{
+    const QString task = text("SketchBench");
+    QVERIFY(tasks().bind(text("up"), text("ID_SHARED")).isDone());
+    QVERIFY(tasks().setRing(task, text("own"), {{text("87"), text("Sketch_Line")}}).isDone());
+    SettingsTasks own = tasks();
+    own.chooseRing(task);
+    QVERIFY(own.bind(text("left"), text("Sketch_Arc")).isDone());
+    // The shared ring is as it was.
+    QCOMPARE(kept().eight.at(0), text("ID_SHARED"));
+    QCOMPARE(kept().eight.at(2), Bindings::initial().eight.at(2));
+    QCOMPARE(kept().eight.at(6), Bindings::initial().eight.at(6));
+    const QString shown = QString::fromLocal8Bit(tasks().showBindings().output);
+    const QString ring = shown.section(text("ring of SketchBench\n"), 1);
+    for (const char *line :
+         {"  up         ID_SHARED", "  left       Sketch_Arc", "  right      Sketch_Line"})
+        QVERIFY2(ring.contains(text(line)), qPrintable(shown));
+    QVERIFY(!shown.section(text("ring of"), 0, 0).contains(text("Sketch_")));
+    QVERIFY(tasks().setRing(task, text("shared"), {}).isDone());
+    QVERIFY(!tasks().showBindings().output.contains("ring of"));
+    // What it had comes back.
+    QVERIFY(tasks().setRing(task, text("own"), {}).isDone());
+    QVERIFY(tasks().showBindings().output.contains("  left       Sketch_Arc"));
+}
+
+void SettingsTasksTest::aRingIsOwnOrShared()
+{
+    const Outcome odd = tasks().setRing(text("SketchBench"), text("mine"), {});
+    QVERIFY(!odd.isDone());
+    QVERIFY(odd.complaint.contains(text("\"mine\"")));
+    SettingsTasks own = tasks();
+    own.chooseRing(text("SketchBench"));
+    const Outcome none = own.bind(text("up"), text("ID_LINE"));
+    QVERIFY(!none.isDone());
+    QVERIFY(none.complaint.contains(text("SketchBench has no ring of its own")));
+    QVERIFY(!QFileInfo::exists(m_file));
 }
 
 void SettingsTasksTest::otherProgramsValuesStay()
