@@ -67,6 +67,8 @@ ROWS = [
         "without", "work/gestures:0", None),
     Row("memory of LibreCAD then", "start.py", "memory/gestures:1", "without", "memory/gestures:0",
         None, 4e6),
+    Row("the window \"Mouse Gestures\" starts: until it is on the screen", "start_window.py",
+        "window/settings", "a bare Qt window", "window/plain", 2.0),
     *(row for count in (250, 10000) for row in (
         Row(f"the dialog opens, {count:,} commands", "bench_dialog", f"openDialog/{count}",
             "a `QTableView` over a `QStandardItemModel`", f"openPlainView/{count}", 2.0),

@@ -25,7 +25,7 @@ void CategoryWalk::file(const QString &command, const QString &category)
 
 QMap<QString, QString> CategoryWalk::end()
 {
-    // It may have found less.
+    // This walk may have found less than the last one.
     if (m_isAsBefore && m_next < m_entries.size())
         leaveTheLastWalk();
     return m_map;
@@ -39,7 +39,7 @@ void CategoryWalk::forget()
     m_map = {};
 }
 
-// From here on this walk is another one: what it has found so far makes a new map.
+// This walk now differs from the last one: start a new map with what it has found so far.
 void CategoryWalk::leaveTheLastWalk()
 {
     if (!m_isAsBefore)

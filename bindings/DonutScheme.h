@@ -14,8 +14,8 @@
 //         static constexpr DonutScheme Eight = DonutSchemes::Eight;
 struct DonutSchemes
 {
-    // How many sectors the donut has. Whoever reads a scheme takes every value but 0 for
-    // the eight sectors; the underlying type is fixed to give such values a meaning.
+    // The number of sectors of the ring. Every value but 0 counts as eight sectors; the fixed
+    // underlying type makes such values legal.
     enum DonutScheme : int { Four = 0, Eight = 1 };
 };
 

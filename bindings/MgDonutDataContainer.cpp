@@ -18,11 +18,11 @@
 
 namespace {
 
-// The value of a key that exists. Throws when the store does not hand it out: it may be a
-// binding, and what is missing would be replaced.
+// The value of a key that exists. Throws if the store does not return it: it may be a binding, and a
+// missing value would be replaced.
 QString storedValue(const QString &key)
 {
-    // Reading leaves the value as it is when nothing is handed out: this very string.
+    // A read that returns nothing leaves the value unchanged. This string shows that.
     const QString nothing = QStringLiteral("nothing");
     QString value = nothing;
     if (!MgDonutSettings::instance()->read(key, value))
@@ -32,7 +32,7 @@ QString storedValue(const QString &key)
     return value;
 }
 
-// One setting that is one of two strings; what is missing or neither becomes `initial`.
+// A setting that is one of two strings. If it is missing or something else, it becomes `initial`.
 QString readChoice(const QString &key, const QString &initial, const QString &other)
 {
     MgDonutSettings *settings = MgDonutSettings::instance();
@@ -137,7 +137,7 @@ void MgDonutDataContainer::init()
         for (std::size_t number = 0; number < bound.size(); ++number)
             last[bound[number]] = boundRecords[number];
     }
-    // The places are those of a list that is given up.
+    // The places belong to the old list.
     m_places.clear();
     m_categoryWalk.forget();
     commands = std::move(last);
@@ -155,7 +155,7 @@ void MgDonutDataContainer::readCommands(const std::vector<MgCommandDS> &last,
     const auto group = manager ? manager->NewGroupIterator() : nullptr;
 
     std::vector<MgCommandDS> found;
-    std::size_t holding = 0; // so many of the last records still hold, as long as nothing is new
+    std::size_t holding = 0; // the number of old records that still hold; used until something is new
     bool isNew = false;
     const auto leaveTheLast = [&] {
         if (isNew)
@@ -186,7 +186,7 @@ void MgDonutDataContainer::readCommands(const std::vector<MgCommandDS> &last,
             }
         }
         leaveTheLast();
-        // Not looked for in `found`: a command of two groups makes two records.
+        // `found` is not searched: a command in two groups makes two records.
         found.emplace_back(item.GetIdentifier().toQString(), command, item.GetCaption().toQString(),
                            getCategory(command), item.GetTip().toQString(), iconOf(item), 0, 0);
     };
@@ -195,7 +195,7 @@ void MgDonutDataContainer::readCommands(const std::vector<MgCommandDS> &last,
         CHxUICommandGroup *current = group->Current();
         if (!current)
             continue;
-        // Part of every walk over the groups, though a group's name decides nothing here.
+        // The name is fetched for every group and not used.
         static_cast<void>(current->GetName());
         const auto command = current->NewCommandIterator();
         for (; command && !command->Done(); command->Next()) {
@@ -313,7 +313,7 @@ void MgDonutDataContainer::update(const std::vector<MgCommandDS> &records, bool 
     unbindUnused(DonutScheme::Eight, eightTable, eightUsed);
 
     commands = records;
-    // They may be of before the last reading.
+    // The records may be older than the last reading.
     m_categoriesHold = false;
     m_places.clear();
     gestureEnabled = enabled;

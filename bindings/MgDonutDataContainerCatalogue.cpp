@@ -52,7 +52,7 @@ void MgDonutDataContainer::fileCommands(const QString &parentCategory, CHxUIMenu
 {
     if (!items)
         return;
-    // A menu that contains itself must not run the host out of stack.
+    // A menu that contains itself must not overflow the stack.
     if (std::find(m_openMenus.begin(), m_openMenus.end(), items) != m_openMenus.end())
         return;
 
@@ -60,7 +60,7 @@ void MgDonutDataContainer::fileCommands(const QString &parentCategory, CHxUIMenu
     const auto close = qScopeGuard([this] { m_openMenus.pop_back(); });
     QString category = parentCategory;
     category.remove(QLatin1Char('&'));
-    // Reading an entry may change the menu that it is in: the count is asked for every time.
+    // Reading an entry may change its menu, so ask for the count every time.
     for (int i = 0; i < items->GetCount(); ++i) {
         const CHxUIMenuItem *item = items->GetItem(i);
         if (!item)

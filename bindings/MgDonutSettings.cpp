@@ -19,7 +19,7 @@ const CHxString &section()
     return name;
 }
 
-// Null when there is nowhere to keep anything.
+// Null if the host has no store.
 CHxProfileStore *profileStore()
 {
     CHxSystemServices *services = GetHxSystemServices();
@@ -43,8 +43,8 @@ public:
     void clear() { m_settings.remove(QString()); }
 
 private:
-    // A backslash, not the slash that would open a subgroup: on this system it is a plain
-    // character of the entry's name, and stands in the file as "%5C".
+    // A backslash, because a slash would open a subgroup. On this system it is a plain character of the
+    // entry's name, written to the file as "%5C".
     static QString entry(const QString &key) { return QLatin1String("Settings\\") + key; }
 
     QSettings m_settings;
@@ -111,7 +111,7 @@ bool MgDonutSettings::keyExists(const QString &key) const
 
 void MgDonutSettings::deleteAllKeys()
 {
-    // First of all: what is left there would come back for a key that cannot be written.
+    // This comes first: otherwise a key that cannot be written would get its old value from there.
     hostCall([] {
         if (CHxSystemServices *services = GetHxSystemServices())
             OlderSettings(*services).clear();

@@ -10,8 +10,8 @@
 // "GestureWidget" of the host's profile store. Older programs kept them in
 // QSettings. A value that is found only there is copied when it is first read.
 //
-// Writing ends what the host throws. Reading and asking for keys pass it on: whoever takes a
-// value that could not be read for a missing one would write over it.
+// Writing swallows exceptions of the host. Reading and asking for keys pass them on: a caller that
+// took an unreadable value for a missing one would write over it.
 //
 // Without a profile store all of this does nothing: writes vanish, no key exists and reading
 // leaves the value as it was.

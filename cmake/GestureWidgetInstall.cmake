@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 GestureWidget developers
 # SPDX-License-Identifier: MIT
 
-# What is installed, and where. The component Runtime holds what runs. Devel holds what a program
+# Lists the installed files. The component Runtime holds what runs. Devel holds what a program
 # needs to host gestures itself; its headers are listed beside their sources.
 include(CMakePackageConfigHelpers)
 
@@ -37,7 +37,7 @@ install(TARGETS gesturewidget_inject_installed
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}/gesturewidget/qt${qt}/plugins/generic"
   COMPONENT Runtime)
 
-install(TARGETS mouse-gestures
+install(TARGETS mouse-gestures mouse-gestures-settings
   RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT Runtime${common})
 install(TARGETS mouse-gestures-sheet
   RUNTIME DESTINATION libexec/gesturewidget COMPONENT Runtime${common})
@@ -48,9 +48,9 @@ install(FILES docs/bindings.schema.json
   DESTINATION "${CMAKE_INSTALL_DATADIR}/gesturewidget" COMPONENT Runtime${common})
 install(FILES docs/user-guide.html docs/administrators-guide.html
   DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/gesturewidget" COMPONENT Runtime${common})
-install(FILES docs/images/dialog.png docs/images/ring.png
+install(FILES docs/images/dialog.png docs/images/ring.png docs/images/settings.png
   DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/gesturewidget/images" COMPONENT Runtime${common})
-install(FILES docs/mouse-gestures.1
+install(FILES docs/mouse-gestures.1 docs/mouse-gestures-settings.1
   DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT Runtime${common})
 install(FILES launcher/desktop/mouse-gestures.bash
   DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions"

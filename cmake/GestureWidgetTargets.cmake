@@ -13,12 +13,19 @@ endif()
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-  set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+  # ccache refuses precompiled headers unless it may ignore what they hold of times and macros.
+  # Builds of other clones share the cache if paths are relative to the clone.
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env
+    CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+    "CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}" CCACHE_NOHASHDIR=1
+    "${CCACHE_PROGRAM}")
 endif()
 
-# gesturewidget_defaults(TARGET): language, warnings, Qt's generators and the rules for this
-# project's sources. Sources include a file by its path from the project's root.
+# gesturewidget_defaults(TARGET [WITHOUT_WIDGETS]): language, warnings, Qt's generators and the rules
+# for this project's sources. Sources include a file by its path from the project's root. Targets
+# that do not link Qt Widgets say so.
 function(gesturewidget_defaults target)
+  cmake_parse_arguments(arg "WITHOUT_WIDGETS" "" "" ${ARGN})
   set_target_properties(${target} PROPERTIES
     CXX_STANDARD 17
     CXX_STANDARD_REQUIRED ON
@@ -34,11 +41,35 @@ function(gesturewidget_defaults target)
     QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
     QT_DISABLE_DEPRECATED_BEFORE=0x050d00)
   if(GESTUREWIDGET_SANITIZE)
-    target_compile_options(${target} PRIVATE -fsanitize=address,undefined
-                                             -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    target_compile_options(${target} PRIVATE
+      -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer
+      $<$<BOOL:${GESTUREWIDGET_FUZZ}>:-fsanitize=fuzzer-no-link>)
     target_link_options(${target} PRIVATE -fsanitize=address,undefined)
   endif()
+  if(GESTUREWIDGET_PRECOMPILE AND NOT arg_WITHOUT_WIDGETS)
+    target_precompile_headers(${target} REUSE_FROM gesturewidget_precompiled)
+    # Without it, GCC leaves ccache no trace of the headers.
+    target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
+  endif()
 endfunction()
+
+# The headers of Qt and of the standard library take most of the time of a build. They are compiled
+# once if GESTUREWIDGET_PRECOMPILE is on. A source that lacks an include is then found by the builds
+# that have it off: packages and benchmarks.
+if(GESTUREWIDGET_PRECOMPILE)
+  find_package(Qt${GESTUREWIDGET_QT} REQUIRED COMPONENTS Widgets)
+  file(WRITE "${CMAKE_BINARY_DIR}/precompiled.cpp" "// Only its headers matter.\n")
+  add_library(gesturewidget_precompiled OBJECT "${CMAKE_BINARY_DIR}/precompiled.cpp")
+  gesturewidget_defaults(gesturewidget_precompiled WITHOUT_WIDGETS)
+  set_target_properties(gesturewidget_precompiled PROPERTIES AUTOMOC OFF AUTORCC OFF)
+  target_link_libraries(gesturewidget_precompiled PRIVATE Qt${GESTUREWIDGET_QT}::Widgets)
+  # Those that most sources include, some by way of others. More of them would be slower to load.
+  target_precompile_headers(gesturewidget_precompiled PRIVATE
+    <QApplication> <QComboBox> <QDialog> <QDir> <QFile> <QHash> <QJsonArray> <QJsonDocument>
+    <QJsonObject> <QLabel> <QLineEdit> <QMainWindow> <QMenu> <QMenuBar> <QMouseEvent> <QPainter>
+    <QPointer> <QTimer> <QToolBar> <QVector>
+    <algorithm> <cmath> <functional> <memory> <optional> <utility> <vector>)
+endif()
 
 # gesturewidget_public_headers(FOLDER PATHS...): headers and folders of headers that are for other
 # programs, from the current source folder. Their names after <gesturewidget/FOLDER/ are the same in
@@ -83,7 +114,7 @@ function(gesturewidget_test name)
                                         Qt${GESTUREWIDGET_QT}::Test)
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LANG=C.UTF-8;QT_QPA_PLATFORMTHEME=;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0"
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LANG=C.UTF-8;LANGUAGE=;QT_QPA_PLATFORMTHEME=;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0"
     TIMEOUT 120
     LABELS "${arg_LABELS}")
 endfunction()

@@ -21,7 +21,7 @@ namespace {
 constexpr int kIconSize = 32; // pixels, width and height
 constexpr int kEmptyCellMargin = 8; // points, above and below a cell without text
 
-// The program's own font when the model answers anything but a font.
+// The program's own font if the model does not answer with a font.
 QFont fontOf(const QVariant &value)
 {
     return value.userType() == qMetaTypeId<QFont>() ? value.value<QFont>() : QFont();
@@ -41,7 +41,7 @@ QTextCharFormat charFormat(const QVariant &font, const QVariant &foreground)
     return format;
 }
 
-// Gives a cell its background and puts what it holds in the middle of its row.
+// Gives a cell its background and centres its content in the row.
 void setUpCell(QTextTableCell cell, const QColor &background)
 {
     QTextCharFormat format = cell.format();

@@ -17,7 +17,7 @@
 namespace {
 
 constexpr qreal kMargin = 2 / 2.54; // inches, around the page: 2 cm
-constexpr qreal kDocumentDpi = 96; // that lengths in formats are given in
+constexpr qreal kDocumentDpi = 96; // the unit of lengths in formats
 constexpr qreal kRounding = 4; // pixels of the printer, far less than a row
 constexpr qreal kPageNumberGap = 5 / 72.0; // inches, above a page number
 
@@ -35,7 +35,7 @@ QTextTable *tableOf(const QTextDocument &document)
     return frames.isEmpty() ? nullptr : qobject_cast<QTextTable *>(frames.front());
 }
 
-// The highest cell of a row fills it: its blocks and the padding are the row.
+// The highest cell of a row fills it, so its blocks and padding give the height of the row.
 Strip stripOf(QTextTable &table, int row, qreal scale)
 {
     const QAbstractTextDocumentLayout *layout = table.document()->documentLayout();
@@ -43,7 +43,7 @@ Strip stripOf(QTextTable &table, int row, qreal scale)
     Strip strip{layout->frameBoundingRect(&table).bottom(), 0};
     for (int column = 0; column < table.columns(); ++column) {
         const QTextTableCell cell = table.cellAt(row, column);
-        // Their margins take no room at the edges of a cell.
+        // Margins of blocks take no room at the edges of a cell.
         const QTextBlock first = cell.firstCursorPosition().block();
         const QTextBlock last = cell.lastCursorPosition().block();
         strip.top = std::min(strip.top, layout->blockBoundingRect(first).top() - padding);
@@ -52,7 +52,7 @@ Strip stripOf(QTextTable &table, int row, qreal scale)
     return strip;
 }
 
-// The rows below the header by page. `room` is what a page has for them.
+// The rows below the header, by page. `room` is the height for rows on a page.
 std::vector<Strip> pagesOf(QTextTable &table, qreal scale, qreal room)
 {
     std::vector<Strip> pages;
@@ -64,7 +64,7 @@ std::vector<Strip> pagesOf(QTextTable &table, qreal scale, qreal room)
             pages.back().bottom = pages.back().top + room;
         pages.back().bottom = strip.bottom;
     }
-    // The header alone is a page, too.
+    // A header without rows is a page too.
     if (pages.empty())
         pages.push_back({0, 0});
     return pages;
@@ -74,8 +74,8 @@ void draw(const QTextDocument &document, QPainter &painter, const Strip &strip, 
 {
     QAbstractTextDocumentLayout::PaintContext context;
     const QRectF area(0, strip.top, document.textWidth(), strip.height());
-    // A little smaller, or the layout also writes the clipped text of the rows next to it, which
-    // a search in the file would find.
+    // The clip is a little smaller. Otherwise the layout also writes the clipped text of the next rows,
+    // and a search in the file would find it.
     context.clip = area.adjusted(0, kRounding, 0, -kRounding);
     context.palette.setColor(QPalette::Text, Qt::black);
     painter.save();

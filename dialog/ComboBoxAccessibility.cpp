@@ -20,7 +20,7 @@ public:
     {
     }
 
-    // The list, also while it is closed.
+    // The child is the list, even while it is closed.
     [[nodiscard]] int childCount() const override { return 1; }
     [[nodiscard]] QAccessibleInterface *child(int index) const override
     {

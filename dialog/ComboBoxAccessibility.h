@@ -9,8 +9,8 @@
 // they show as the value. On this system Qt gives the value for both, and nothing at all for an
 // entry that is an icon.
 //
-// Concerns drop-downs of this dialog only, not those of the program around it. In force from
-// construction to destruction: Qt must not call into a module that is unloaded.
+// Affects only the drop-downs of this dialog, not those of the program around it. It works from
+// construction to destruction, because Qt must not call into a module that is unloaded.
 class ComboBoxAccessibility
 {
 public:

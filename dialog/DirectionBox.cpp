@@ -28,7 +28,7 @@ bool opensTheList(const QKeyEvent &event)
 DirectionBox::DirectionBox(QWidget *parent)
     : QComboBox(parent)
 {
-    // Connected first, so that all other receivers of the signal find the choice noted.
+    // Connect this first, so that all other receivers of the signal see the choice.
     connect(this, QOverload<int>::of(&QComboBox::activated), this, [this] { m_chosen = true; });
 }
 

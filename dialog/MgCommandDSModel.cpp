@@ -47,7 +47,7 @@ QVariant MgCommandDSModel::data(const QModelIndex &index, int role) const
             return record->icon;
         if (column == kDirectionColumn) {
             const unsigned char direction = getInvokerType(index.row());
-            // The scheme given here plays no part: the icon is of the scheme shown.
+            // The function ignores this scheme and uses the one that is shown.
             if (direction != 0)
                 return dialogManager()->getDirectionIcon(direction, MgDonutDialogManager::Eight);
         }

@@ -9,11 +9,11 @@ MgCommandDSSortFilterProxyModel::MgCommandDSSortFilterProxyModel() = default;
 
 void MgCommandDSSortFilterProxyModel::applyFilter()
 {
-    // Not only the filter: the model does not tell of new directions, so the order may be
-    // wrong, and invalidateFilter() would put rows that come back behind their equals. It
-    // would also take thousands of rows out one by one, each at the cost of all.
+    // Sort again too. The model does not announce new directions, so the order may be wrong, and
+    // invalidateFilter() would put rows that come back behind their equals. It would also remove
+    // thousands of rows one by one, each at the cost of all.
     invalidate();
-    // An open editor shows what its command has in the scheme shown now.
+    // An open editor must show its command's direction in the current scheme.
     if (rowCount() > 0)
         Q_EMIT dataChanged(index(0, MgCommandDSModel::kDirectionColumn),
                            index(rowCount() - 1, MgCommandDSModel::kDirectionColumn));

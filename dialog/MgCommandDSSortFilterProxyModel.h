@@ -18,8 +18,8 @@ public:
     // Filters and sorts again. Call this when a filter control or the scheme has changed.
     void applyFilter();
 
-    // Rows that compare equal keep the order of the source model, whatever was sorted by
-    // before. A column below 0 gives that order back.
+    // Rows that compare equal keep the order of the source model, even after other sorts. A column below
+    // 0 restores that order.
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
 
     // Adds two roles to the source model's: the direction in words for screen readers, and each

@@ -72,7 +72,7 @@ void MgCommandModelDelegate::updateEditorGeometry(QWidget *editor, const QStyleO
 QSize MgCommandModelDelegate::sizeHint(const QStyleOptionViewItem &option,
                                        const QModelIndex &index) const
 {
-    // The last column takes whatever width remains, so it asks for next to nothing.
+    // The last column gets the remaining width, so it asks for almost none.
     return index.column() == MgCommandDSModel::kDirectionColumn ? QSize(10, 10)
                                                                 : QItemDelegate::sizeHint(option, index);
 }
@@ -131,8 +131,8 @@ bool MgCommandModelDelegate::eventFilter(QObject *object, QEvent *event)
 
     const auto *key = static_cast<QKeyEvent *>(event);
     if (key->matches(QKeySequence::Cancel)) {
-        // The table opens an editor again that closes while it has the focus. Without it, the
-        // box closes for good.
+        // The table reopens an editor that closes with the focus. Take the focus away first, so that the
+        // box stays closed.
         box->parentWidget()->setFocus();
         return true;
     }
@@ -145,7 +145,7 @@ bool MgCommandModelDelegate::eventFilter(QObject *object, QEvent *event)
 
 void MgCommandModelDelegate::commitAndCloseEditor(int /*row*/)
 {
-    // One slot for the drop-downs of all cells: only the sender says which of them it was.
+    // The drop-downs of all cells share this slot; the sender tells which one it was.
     auto *editor = qobject_cast<QComboBox *>(sender());
     if (!editor)
         return;

@@ -34,7 +34,7 @@ public:
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem &option,
                                  const QModelIndex &index) const override;
 
-    // The tooltip of a text that its cell is too narrow for; no other.
+    // Shows a tooltip only if the cell is too narrow for its text.
     bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
                    const QModelIndex &index) override;
 
@@ -44,7 +44,7 @@ protected:
                    const QRect &rect) const override;
     // Escape gives the focus back to the table and closes the drop-down for good.
     bool eventFilter(QObject *object, QEvent *event) override;
-    // On one line, whatever line breaks the text has: a row is one line high.
+    // Puts the text on one line, because a row is one line high.
     void drawDisplay(QPainter *painter, const QStyleOptionViewItem &option, const QRect &rect,
                      const QString &text) const override;
 

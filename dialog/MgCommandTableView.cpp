@@ -24,10 +24,10 @@ void MgCommandTableView::commitData(QWidget *editor)
 
 void MgCommandTableView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
 {
-    // Asked first: closing takes the focus away.
+    // Ask first: closing takes the focus away.
     const bool hadFocus = editor && editor->hasFocus();
     QTableView::closeEditor(editor, hint);
-    // The current cell on purpose, which need not be the one whose editor closed. An editor
+    // This is deliberately the current cell, which may differ from the editor's cell. An editor
     // that closes because the user went elsewhere has no focus and does not come back.
     if (hadFocus)
         beginEditing(currentIndex());

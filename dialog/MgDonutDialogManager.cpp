@@ -44,8 +44,8 @@ namespace {
 
 constexpr int kHelpTopic = 9000;
 constexpr int kFormWidth = 414; // pixels, of the dialog as it is laid out
-// Characters of a description. The label has room for a few hundred; laying out a whole
-// million of them would stop the program for seconds.
+// The longest description, in characters. The label has room for a few hundred. The layout of a
+// million would stop the program for seconds.
 constexpr int kLongestDescription = 10000;
 
 struct Direction
@@ -91,7 +91,7 @@ QStringList menuCaptions(const CHxUIMenuItemCollection &menuBars)
     return captions;
 }
 
-// Stands in for the menus where the host does not tell of any.
+// Replaces the menus if the host returns none.
 QStringList usedCategories(const QString &others)
 {
     QStringList categories;
@@ -111,14 +111,15 @@ MgDonutDialogManager::MgDonutDialogManager(QWidget *parent, Qt::WindowFlags flag
     if (MgDonutDataContainer::instance()->hasReadingFailed())
         MgDonutDataContainer::instance()->init();
     ui.setupUi(this);
+    translateButtons();
     setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
     fixWidth();
     fillCategories();
     setButtonIcons();
     connectControls();
     model = new MgCommandDSModel(this);
-    // Made without a parent by design, then given one: model, proxy, delegate and style die
-    // with the dialog, after the widgets that use them, which are older children.
+    // These are created without a parent by design and then get one. So model, proxy, delegate and style
+    // are destroyed with the dialog, after the widgets that use them, which are older children.
     model->setParent(this);
     setUpTable();
     initDialogState();
@@ -130,8 +131,8 @@ MgDonutDialogManager::MgDonutDialogManager(QWidget *parent, Qt::WindowFlags flag
 
 MgDonutDialogManager::~MgDonutDialogManager() = default;
 
-// The width is laid out for a small font. Where the texts need more, in a larger font or
-// another language, the dialog is as much wider, and so is the description.
+// The form's width suits a small font. If the texts need more, in a larger font or another language,
+// the dialog and the description become wider by the difference.
 void MgDonutDialogManager::fixWidth()
 {
     const QMargins margins = ui.verticalLayout_5->contentsMargins();
@@ -149,7 +150,7 @@ void MgDonutDialogManager::fixWidth()
     setMinimumWidth(width());
     setMaximumWidth(width());
 
-    // Below its title the description has room for three lines.
+    // The description has room for three lines below its title.
     QGroupBox *box = ui.description_groupBox;
     QLabel *label = ui.description_label;
     const int line = fontMetrics().height();
@@ -161,8 +162,8 @@ void MgDonutDialogManager::fixWidth()
 
 void MgDonutDialogManager::fillCategories()
 {
-    // Kept for the filter: it still finds the entry if the language changes while the dialog
-    // is open.
+    // Keep the text for the filter, which must recognise the entry even if the language changes while
+    // the dialog is open.
     m_allCommands = tr("All Commands");
     // The category of commands that are in no menu.
     const QString others = QObject::tr("Others");
@@ -179,7 +180,7 @@ void MgDonutDialogManager::fillCategories()
     ui.category_comboBox->setCurrentIndex(0);
 }
 
-// The host's images; a host that has none leaves the buttons as the style draws them.
+// The images belong to the host. Without them the buttons look as the style draws them.
 void MgDonutDialogManager::setButtonIcons()
 {
     const auto setIcon = [this](QDialogButtonBox::StandardButton button, const QString &image) {
@@ -189,6 +190,20 @@ void MgDonutDialogManager::setButtonIcons()
     setIcon(QDialogButtonBox::Ok, QStringLiteral(":/images/shared/ok.png"));
     setIcon(QDialogButtonBox::Cancel, QStringLiteral(":/images/shared/cancel.png"));
     setIcon(QDialogButtonBox::Help, QStringLiteral(":/images/shared/help.png"));
+}
+
+// The style's texts are in Qt's own translation, which few programs load. English stays as the
+// style has it, with its mnemonics.
+void MgDonutDialogManager::translateButtons()
+{
+    const auto translate = [this](QDialogButtonBox::StandardButton button, const char *english) {
+        const QString text = tr(english);
+        if (text != QLatin1String(english))
+            ui.buttonBox->button(button)->setText(text);
+    };
+    translate(QDialogButtonBox::Ok, QT_TR_NOOP("OK"));
+    translate(QDialogButtonBox::Cancel, QT_TR_NOOP("Cancel"));
+    translate(QDialogButtonBox::Help, QT_TR_NOOP("Help"));
 }
 
 void MgDonutDialogManager::connectControls()
@@ -240,11 +255,11 @@ void MgDonutDialogManager::setUpRowsAndColumns()
 {
     MgCommandTableView *table = ui.command_tableView;
     QHeaderView *columns = table->horizontalHeader();
-    // The columns have their share of a dialog that had to be wider.
+    // The columns get their share of the additional width.
     columns->setDefaultSectionSize(columns->defaultSectionSize() * width() / kFormWidth);
     columns->resizeSection(MgCommandDSModel::kCommandColumn,
                            static_cast<int>(columns->defaultSectionSize() * 2.1));
-    // Only asked for: the last section takes the width that is left.
+    // This is only a request: the last section takes the remaining width.
     columns->resizeSection(MgCommandDSModel::kDirectionColumn, 10);
     QHeaderView *rows = table->verticalHeader();
     rows->setDefaultSectionSize(table->fontMetrics().height() + 8);
@@ -264,7 +279,7 @@ void MgDonutDialogManager::setUpKeys()
         ui.search_lineEdit->setFocus(Qt::ShortcutFocusReason);
         ui.search_lineEdit->selectAll();
     });
-    // The header takes no keys.
+    // The header accepts no keys, so these shortcuts sort.
     for (int column = 0; column < MgCommandDSModel::kColumnCount; ++column)
         connectKey(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + column)),
                    [this, column] { sortByKey(column); });
@@ -435,7 +450,7 @@ void MgDonutDialogManager::radioButtonStateChanged(bool /*checked*/)
         const auto direction = static_cast<unsigned char>(row);
         auto *item = new QStandardItem;
         item->setIcon(getDirectionIcon(direction, Eight));
-        // The height of a line of text plus some room: arrows alone would touch each other.
+        // A line of text and some room. With arrows alone, the entries would touch.
         item->setSizeHint(QSize(1, 1) * (fontMetrics().height() + 4));
         directionList.setItem(row, item);
     }
@@ -486,8 +501,8 @@ void MgDonutDialogManager::openEditor(const QModelIndex & /*index*/)
     showSelectedCommand();
 }
 
-// Shows what the one selected command does and opens the editor of its direction, whichever
-// cell of the row was pressed.
+// Shows what the selected command does and opens the editor of its direction, for any pressed cell of
+// the row.
 void MgDonutDialogManager::showSelectedCommand()
 {
     MgCommandTableView *table = ui.command_tableView;
@@ -545,7 +560,7 @@ int MgDonutDialogManager::runPrintDialog(QPrinter &printer)
 void MgDonutDialogManager::printList()
 {
     QPrinter printer(QPrinter::HighResolution);
-    // The title of a PDF, and what a queue of print jobs shows.
+    // PDF files and print queues show this title.
     printer.setDocName(windowTitle());
     if (runPrintDialog(printer) != QDialog::Accepted)
         return;

@@ -26,7 +26,7 @@ class QPrinter;
 //     dialog.exec();
 //
 // It works on a copy of the bindings. OK hands the copy to the binding container, Cancel
-// drops it; "Reset to Defaults" alone takes effect at once, whatever ends the dialog.
+// drops it. Only "Reset to Defaults" takes effect at once, even if Cancel follows.
 class MgDonutDialogManager : public CHxDialog
 {
     Q_OBJECT
@@ -56,16 +56,16 @@ public:
     // The topic of the dialog's help, 9000.
     [[nodiscard]] int GetHelpId() const override;
 
-    // The filter controls as they are now.
+    // The current state of the filter controls.
     [[nodiscard]] QString searchText() const;
     [[nodiscard]] QString categoryText() const;
     [[nodiscard]] bool showsAssignedOnly() const;
-    // The category that stands for all of them, as the category box has it.
+    // The text of the category box's entry for all categories.
     [[nodiscard]] const QString &allCommandsText() const { return m_allCommands; }
-    // For the model: there are bindings now that could be reset.
+    // The model calls this when a binding has changed and can be reset.
     void enableReset();
-    // For the model: a row was given a direction, which another row had before (-1 for none).
-    // Says in the list of directions who has them now, and at the cell who has lost one.
+    // The model calls this when a row gets a direction. `robbedRow` lost it; -1 for none.
+    // Updates the list of directions and shows a note at the cell that names the loser.
     void directionAssigned(int row, int robbedRow);
 
 public Q_SLOTS:
@@ -89,7 +89,7 @@ protected:
 
     Ui::MgDonutDialogManagerClass ui;
     QStandardItemModel directionList; // the choices of the direction editor
-    DonutScheme scheme = Eight; // as the radio buttons say
+    DonutScheme scheme = Eight; // mirrors the radio buttons
     MgCommandDSModel *model = nullptr; // a child of the dialog
     MgCommandDSSortFilterProxyModel *proxy = nullptr; // a child of the dialog
 
@@ -97,6 +97,7 @@ private:
     void fixWidth();
     void fillCategories();
     void setButtonIcons();
+    void translateButtons();
     void connectControls();
     void setUpTable();
     void setUpKeys();

@@ -7,7 +7,7 @@
 
 namespace {
 
-// The proxy takes the style over. Null, for neither being there, makes it use the
+// The proxy takes ownership of the style. If neither style exists, null makes it use the
 // program's own.
 QStyle *createBaseStyle()
 {

@@ -20,7 +20,7 @@ Notice::Notice(QWidget *window)
     setPalette(QToolTip::palette());
     setForegroundRole(QPalette::ToolTipText);
     setBackgroundRole(QPalette::ToolTipBase);
-    // Clicks go to what lies below.
+    // Clicks reach the widgets below.
     setAttribute(Qt::WA_TransparentForMouseEvents);
     m_end.setSingleShot(true);
     connect(&m_end, &QTimer::timeout, this, &QWidget::hide);

@@ -15,8 +15,8 @@ void PrintTableView::printTable(QPainter *painter, const QRect &area)
     qreal totalWidth = 0;
     for (int column = 0; column < columns; ++column)
         totalWidth += columnWidth(column);
-    // With no rows the height stays 0, and dividing by it is meant: the caller can tell from
-    // the degenerate scale that there was nothing to paint.
+    // Without rows the height stays 0. The division by 0 is meant: the degenerate scale tells the caller
+    // that there was nothing to paint.
     qreal totalHeight = 0;
     for (int row = 0; row < rows; ++row)
         totalHeight += rowHeight(row);

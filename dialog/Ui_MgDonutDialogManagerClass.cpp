@@ -45,11 +45,6 @@ QSpacerItem *newSpacer(int width, int height)
     return new QSpacerItem(width, height, QSizePolicy::Expanding, QSizePolicy::Minimum);
 }
 
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("MgDonutDialogManagerClass", text);
-}
-
 } // namespace
 
 void Ui_MgDonutDialogManagerClass::setupUi(QDialog *dialog)
@@ -154,8 +149,8 @@ void Ui_MgDonutDialogManagerClass::createList(QDialog *dialog)
     tablePolicy.setVerticalStretch(1);
     command_tableView->setSizePolicy(tablePolicy);
     command_tableView->setWordWrap(false);
-    // The arrow keys walk the cells; Tab goes on to the buttons below, which no other key
-    // would reach.
+    // The arrow keys move between cells. Tab leaves the table, because no other key reaches the buttons
+    // below.
     command_tableView->setTabKeyNavigation(false);
     verticalLayout_5->addWidget(command_tableView);
 }
@@ -167,10 +162,10 @@ void Ui_MgDonutDialogManagerClass::createDescription(QDialog *dialog)
     description_groupBox->setMinimumSize(396, 91);
     description_label = newWidget<QLabel>("description_label", description_groupBox);
     description_label->setGeometry(10, 20, 371, 61);
-    // Clear of the frame, which is drawn where the label begins.
+    // Keep the text off the frame, which is drawn where the label begins.
     description_label->setContentsMargins(0, 4, 0, 0);
     description_label->setWordWrap(true);
-    // A tip comes from the program's menus: whatever looks like markup in it is text.
+    // A tip comes from the program's menus. Anything in it that looks like markup is text.
     description_label->setTextFormat(Qt::PlainText);
     verticalLayout_5->addWidget(description_groupBox);
 }
@@ -201,18 +196,25 @@ void Ui_MgDonutDialogManagerClass::setTabOrder()
 
 void Ui_MgDonutDialogManagerClass::retranslateUi(QDialog *dialog)
 {
-    dialog->setWindowTitle(translated("Mouse Gestures"));
-    category_label->setText(translated("Category:"));
-    filter_checkBox->setText(translated("Mouse Gesture assigned commands"));
-    search_label->setText(translated("Search for:"));
-    enableGesture_checkBox->setText(translated("Enable mouse gestures"));
-    four_radioButton->setText(translated("4 Gestures"));
-    eight_radioButton->setText(translated("8 Gestures"));
-    reset_pushButton->setText(translated("Reset to Defaults"));
-    print_pushButton->setText(translated("Print List"));
-    description_groupBox->setTitle(translated("Description"));
+    dialog->setWindowTitle(QCoreApplication::translate("MgDonutDialogManagerClass", "Mouse Gestures"));
+    category_label->setText(QCoreApplication::translate("MgDonutDialogManagerClass", "Category:"));
+    filter_checkBox->setText(
+        QCoreApplication::translate("MgDonutDialogManagerClass", "Mouse Gesture assigned commands"));
+    search_label->setText(QCoreApplication::translate("MgDonutDialogManagerClass", "Search for:"));
+    enableGesture_checkBox->setText(
+        QCoreApplication::translate("MgDonutDialogManagerClass", "Enable mouse gestures"));
+    four_radioButton->setText(QCoreApplication::translate("MgDonutDialogManagerClass", "4 Gestures"));
+    eight_radioButton->setText(QCoreApplication::translate("MgDonutDialogManagerClass", "8 Gestures"));
+    reset_pushButton->setText(
+        QCoreApplication::translate("MgDonutDialogManagerClass", "Reset to Defaults"));
+    print_pushButton->setText(QCoreApplication::translate("MgDonutDialogManagerClass", "Print List"));
+    description_groupBox->setTitle(
+        QCoreApplication::translate("MgDonutDialogManagerClass", "Description"));
 
-    category_comboBox->setAccessibleName(translated("Category"));
-    search_lineEdit->setAccessibleName(translated("Search for commands"));
-    command_tableView->setAccessibleName(translated("Commands and their gestures"));
+    category_comboBox->setAccessibleName(
+        QCoreApplication::translate("MgDonutDialogManagerClass", "Category"));
+    search_lineEdit->setAccessibleName(
+        QCoreApplication::translate("MgDonutDialogManagerClass", "Search for commands"));
+    command_tableView->setAccessibleName(
+        QCoreApplication::translate("MgDonutDialogManagerClass", "Commands and their gestures"));
 }

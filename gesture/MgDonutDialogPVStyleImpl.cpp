@@ -130,6 +130,7 @@ void MgDonutDialogPVStyleImpl::TryStart(const QPoint &)
     // is visible, and the next move ends the gesture.
     mousePositionChanged(pointer.x() - origin.x(), origin.y() - pointer.y());
     bypassWindowManager(); // Qt 6 makes a new window after somebody closed the ring
+    followWindowOf(*view);
     takeBackdrop();
     setVisible(true);
     // The X server maps an unmanaged window at once, so it grants both grabs.
@@ -298,6 +299,16 @@ void MgDonutDialogPVStyleImpl::bypassWindowManager()
     winId(); // makes the window
     QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets, isForced);
     windowHandle()->setFlag(Qt::BypassWindowManagerHint);
+}
+
+void MgDonutDialogPVStyleImpl::followWindowOf(const QWidget &view)
+{
+    // The ring's parent is the main window of the first gesture. Qt blocks what belongs to a window
+    // with that window's dialogs, and a desktop may hide it when the window is minimised. So the
+    // native window belongs to the one that the gesture is made in.
+    QWindow *below = view.window()->windowHandle();
+    if (below && windowHandle()->transientParent() != below)
+        windowHandle()->setTransientParent(below);
 }
 
 void MgDonutDialogPVStyleImpl::takeBackdrop()

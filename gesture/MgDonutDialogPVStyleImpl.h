@@ -100,6 +100,8 @@ private:
     void tellNothing();
     // Makes the window one that the window manager leaves alone.
     void bypassWindowManager();
+    // Makes the native window belong to the window that shows the view.
+    void followWindowOf(const QWidget &view);
     // Keeps what is on the screen where the ring will be, if nothing blends the ring with it.
     void takeBackdrop();
     // The document's view; null when there is no document or no view.

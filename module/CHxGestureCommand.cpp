@@ -24,8 +24,8 @@ namespace {
 
 void runDialog()
 {
-    // On the heap and watched, where a local object would do: the main window may be
-    // destroyed while the dialog is open, and takes its children with it.
+    // The dialog is on the heap and watched, because the main window may be destroyed while it is open,
+    // and the dialog with it.
     const QPointer<MgDonutDialogManager> dialog(
         new MgDonutDialogManager(dialogParent(), Qt::WindowFlags()));
     const auto closing = qScopeGuard([&dialog] { delete dialog.data(); });

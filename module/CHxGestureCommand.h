@@ -16,7 +16,6 @@ public:
     [[nodiscard]] OdString globalName() const override;
     // "GESTURE".
     [[nodiscard]] OdString localName() const override;
-    // Runs the dialog until it is closed and returns kNormal (5100), whatever happened in
-    // it. `context` is not used.
+    // Runs the dialog until it is closed and always returns kNormal (5100). `context` is not used.
     int Execute(CHxCommandContext *context) override;
 };

@@ -18,6 +18,5 @@ extern "C" Q_DECL_EXPORT OdRxModule *odrxCreateModuleObject(void *sysData, const
 extern "C" Q_DECL_EXPORT void odrxGetAPIVersion(int &major, int &minor, int &majorBuild,
                                                 int &minorBuild);
 
-// Forgets the module object. Nothing else: the object lives on, for a host that deletes it
-// by itself.
+// Forgets the module object but does not delete it, for a host that deletes the object itself.
 extern "C" Q_DECL_EXPORT void deleteModuleObject();

@@ -51,8 +51,7 @@ void MgGestureWidget::initApp()
         hostCall([&] { manager->AddReactor(this); });
         forEachDocument(*manager, [this](CHxDocument *document) { addTracker(document); });
     });
-    // Never taken back, deliberately: the module stays a reactor for as long as it is
-    // loaded.
+    // Deliberately never removed: the module stays a reactor until it is unloaded.
     hostCall([this] {
         if (const OdEditorPtr editor = odedEditor())
             editor->addReactor(this);

@@ -42,7 +42,7 @@ public:
 
     // The menus are complete: adds the menu entry. `frame` is not used.
     void mainFrameCreated(QWidget *frame) override;
-    // Takes back everything but the editor reactor. `frame` is not used.
+    // Unregisters everything but the editor reactor. `frame` is not used.
     void mainFrameDestroyed(QWidget *frame) override;
 
     // The first top-level menu of any workspace with that identifier, letter case

@@ -152,8 +152,8 @@ void MgGestureWidget::addMenuEntry()
         appendEntry(*entries, *manager, *workspace, command.localName());
     manager->Refresh(false);
 
-    // The container reads the host's menus when it is made, so it is made here, now that
-    // they are complete and hold the new entry.
+    // The container reads the host's menus when it is created. So create it here, where they are
+    // complete and hold the new entry.
     static_cast<void>(MgDonutDataContainer::instance());
 }
 
@@ -162,8 +162,8 @@ void MgGestureWidget::removeMenuEntry()
     CHxUIManager *manager = userInterface();
     CHxUIMenuItem *tools = manager ? GetMenuItem(CHxString(kToolsMenu)) : nullptr;
     CHxUIMenuItemCollection *entries = tools ? tools->GetSubItems() : nullptr;
-    // Looked for by the text that is shown, although it was put in place by identifiers;
-    // deliberate, as is that nothing is refreshed afterwards.
+    // The entry is found by its text, although it was added through identifiers. This is deliberate, and
+    // so is the missing refresh afterwards.
     CHxUIMenuItem *entry = entries ? entryIn(*entries, entryText()) : nullptr;
     if (!entry)
         return;

@@ -6,8 +6,8 @@
 #include "module/MgGestureWidget.h"
 #include "sdk/od/OdRxUnixModule.h"
 
-// The class that is really created: the module with its reference count, the data given at
-// creation and deleteModule().
+// The concrete class of the module object. It adds the reference count, the data given at creation
+// and deleteModule().
 class OdRxUnixModuleMgGestureWidget final : public OdRxUnixModule<MgGestureWidget, MgGestureWidget>
 {
 public:

@@ -5,13 +5,13 @@
 
 build_packages=(
   g++ cmake ninja-build
-  qtbase5-dev
+  qtbase5-dev qttools5-dev-tools
   libdxflib-dev libx11-dev libxcb1-dev
 )
 desktop_packages=(
-  xvfb openbox picom kwin-x11 xfwm4 dbus-daemon x11-utils x11-xserver-utils xdotool imagemagick python3
+  xvfb openbox picom kwin-x11 xfwm4 dbus-daemon libglib2.0-bin x11-utils x11-xserver-utils xdotool imagemagick python3
   libxtst-dev
-  fonts-dejavu-core qt5-style-plugins
+  fonts-dejavu-core fonts-droid-fallback qt5-style-plugins
 )
 # Only ./test --desks needs these: window managers, Wayland sessions and their input.
 desk_packages=(

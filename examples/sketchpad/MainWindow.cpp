@@ -12,6 +12,7 @@
 #include <gesturewidget/sdk/od/OdEdCommandStack.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -60,6 +61,9 @@ const MainWindow::Command
                 {
                     {"fileNew", QT_TR_NOOP("&New"), QT_TR_NOOP("Starts an empty drawing"), "NEW",
                      "Ctrl+N", [](MainWindow &w) { w.fileNew(); }},
+                    {"fileNewWindow", QT_TR_NOOP("New &Window"),
+                     QT_TR_NOOP("Starts an empty drawing in a window of its own"), "NEWWINDOW",
+                     "Ctrl+Shift+N", [](MainWindow &w) { Q_EMIT w.newWindowWanted(); }},
                     {"fileOpen", QT_TR_NOOP("&Open..."), QT_TR_NOOP("Opens a drawing"), "OPEN", "Ctrl+O",
                      [](MainWindow &w) { w.fileOpen(); }},
                     {"fileSave", QT_TR_NOOP("&Save"), QT_TR_NOOP("Saves the drawing"), "SAVE QSAVE",
@@ -67,8 +71,10 @@ const MainWindow::Command
                     {"fileSaveAs", QT_TR_NOOP("Save &As..."),
                      QT_TR_NOOP("Saves the drawing under another name"), "SAVEAS", "Ctrl+Shift+S",
                      [](MainWindow &w) { w.fileSaveAs(); }},
-                    {"fileQuit", QT_TR_NOOP("&Quit"), QT_TR_NOOP("Closes Sketchpad"), "QUIT EXIT",
-                     "Ctrl+Q", [](MainWindow &w) { w.close(); }},
+                    {"fileClose", QT_TR_NOOP("&Close Window"), QT_TR_NOOP("Closes this window"), "CLOSE",
+                     "Ctrl+W", [](MainWindow &w) { w.close(); }},
+                    {"fileQuit", QT_TR_NOOP("&Quit"), QT_TR_NOOP("Closes all windows"), "QUIT EXIT",
+                     "Ctrl+Q", [](MainWindow &) { QApplication::closeAllWindows(); }},
                     {"editUndo", QT_TR_NOOP("&Undo"), QT_TR_NOOP("Undoes the last change"), "UNDO U",
                      "Ctrl+Z", [](MainWindow &w) { w.m_drawing.undo(); }},
                     {"editRedo", QT_TR_NOOP("&Redo"), QT_TR_NOOP("Repeats the change that was undone"),
@@ -156,8 +162,9 @@ void MainWindow::buildCommands()
     QToolBar *bar = nullptr;
     for (const Command &command : kCommands) {
         const QString name = QLatin1String(command.name);
-        if (name.startsWith(QLatin1String("file")) && !dxf::isSupported()
-            && name != QLatin1String("fileNew") && name != QLatin1String("fileQuit"))
+        const bool isAboutFiles =
+            name == QLatin1String("fileOpen") || name.startsWith(QLatin1String("fileSave"));
+        if (isAboutFiles && !dxf::isSupported())
             continue;
         QString place = name;
         place.truncate(int(std::find_if(name.begin(), name.end(), [](QChar c) { return c.isUpper(); })

@@ -14,7 +14,7 @@ QT_BEGIN_NAMESPACE
 class QLabel;
 QT_END_NAMESPACE
 
-// The window: menus, tool bars, the canvas, the command line and the status bar. Every
+// A window with a drawing: menus, tool bars, the canvas, the command line and the status bar. Every
 // command runs by triggering its action, wherever it was chosen.
 class MainWindow : public QMainWindow
 {
@@ -34,6 +34,10 @@ public:
     // Runs typed text: a step of the running command, a command of this program, or a
     // command that a module has registered.
     void run(const QString &typed);
+
+Q_SIGNALS:
+    // The person wants another window.
+    void newWindowWanted();
 
 protected:
     void closeEvent(QCloseEvent *event) override;

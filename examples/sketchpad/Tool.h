@@ -38,7 +38,8 @@ public:
     QString number(double value);
     QString words(const QString &words);
 
-    // What the next step would draw with the pointer at `cursor` and the text `typed` so far.
+    // The entities that the next step would draw with the pointer at `cursor` and the text `typed` so
+    // far.
     [[nodiscard]] std::vector<Entity> preview(const QPointF &cursor, const QString &typed) const;
 
 private:

@@ -8,6 +8,7 @@
 
 #include <QApplication>
 
+#include <functional>
 #include <iostream>
 
 int main(int argc, char **argv)
@@ -15,21 +16,33 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("sketchpad"));
     QApplication::setApplicationDisplayName(QString());
-    MainWindow window;
+    // Each window has a drawing of its own and deletes itself when it is closed.
+    auto *window = new MainWindow;
+    window->setAttribute(Qt::WA_DeleteOnClose);
 
     // This is all that a program needs for mouse gestures. The profile is built into this
     // program and says which of its actions are the well-known commands.
     gesturewidget::GestureHost::Options options;
     options.program = QStringLiteral("sketchpad");
     options.profileFolders = QStringList{QStringLiteral(":/profiles")};
-    gesturewidget::GestureHost gestures(&window, options);
-    gestures.addView(window.canvas());
+    gesturewidget::GestureHost gestures(window, options);
+    gestures.addView(window->canvas());
     QString error;
     if (!gestures.start(&error))
         std::cerr << "sketchpad: " << qPrintable(error) << '\n';
 
-    window.show();
+    // Gestures follow the person into every window whose view the host knows.
+    const std::function<void(MainWindow *)> show = [&](MainWindow *shown) {
+        QObject::connect(shown, &MainWindow::newWindowWanted, &app, [&] {
+            auto *another = new MainWindow;
+            another->setAttribute(Qt::WA_DeleteOnClose);
+            gestures.addView(another->canvas());
+            show(another);
+        });
+        shown->show();
+    };
+    show(window);
     if (QApplication::arguments().size() > 1)
-        window.openFile(QApplication::arguments().at(1));
+        window->openFile(QApplication::arguments().at(1));
     return QApplication::exec();
 }

@@ -10,7 +10,7 @@
 
 namespace gesturewidget {
 
-// What menus and well-known commands are called in one language. The lists are the JSON files
+// The captions of menus and well-known commands in one language. The lists are the JSON files
 // beside this header. All captions are in lower case, without mnemonics and ellipses.
 //
 // A program is never asked for its language: a caption counts if any language has it. So a list
@@ -29,7 +29,7 @@ struct KnownCaptions
     // English first. Read on the first call.
     [[nodiscard]] static const QVector<KnownCaptions> &languages();
 
-    // What all languages together call menus of that role; English first.
+    // The captions of menus of that role in all languages; English first.
     [[nodiscard]] static QStringList menusOf(const QString &role);
 };
 

@@ -13,6 +13,9 @@
 #include <QMenu>
 #include <QWidgetAction>
 
+#include <algorithm>
+#include <utility>
+
 namespace gesturewidget {
 namespace {
 
@@ -103,8 +106,53 @@ void ActionItem::setAction(QAction *action)
 {
     m_action = action;
     m_address = action;
+    m_hasHadAction = true;
     m_texts.clear(); // the tip may be from an earlier start
     read();
+}
+
+void ActionItem::showIn(const QWidget *from, const QWidget *to)
+{
+    if (m_address)
+        m_others.push_back({from, m_action, m_address, m_caption, m_name, m_tip, m_plainTip, m_texts,
+                            m_icon, m_contrastIcon, group, way, isPresent, wasPresent, isInToolBar,
+                            isListEntry});
+    m_action.clear();
+    m_address = nullptr;
+    isPresent = false;
+    wasPresent = false;
+    const auto isShown = [to](const Look &look) { return look.window == to; };
+    const auto found = std::find_if(m_others.begin(), m_others.end(), isShown);
+    if (found == m_others.end())
+        return;
+    m_action = found->action;
+    m_address = found->address;
+    m_caption = std::move(found->caption);
+    m_name = std::move(found->name);
+    m_tip = std::move(found->tip);
+    m_plainTip = std::move(found->plainTip);
+    m_texts = std::move(found->texts);
+    m_icon = std::move(found->icon);
+    m_contrastIcon = std::move(found->contrastIcon);
+    group = std::move(found->group);
+    way = std::move(found->way);
+    isPresent = found->isPresent;
+    wasPresent = found->wasPresent;
+    isInToolBar = found->isInToolBar;
+    isListEntry = found->isListEntry;
+    m_others.erase(found);
+}
+
+bool ActionItem::isPresentIn(const QWidget *window) const
+{
+    return std::any_of(m_others.begin(), m_others.end(),
+                       [window](const Look &look) { return look.window == window && look.isPresent; });
+}
+
+void ActionItem::forget(const QWidget *window)
+{
+    const auto isOfWindow = [window](const Look &look) { return look.window == window; };
+    m_others.erase(std::remove_if(m_others.begin(), m_others.end(), isOfWindow), m_others.end());
 }
 
 bool ActionItem::read()

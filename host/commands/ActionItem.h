@@ -12,10 +12,16 @@
 #include <QString>
 #include <QStringList>
 
+#include <vector>
+
+class QWidget;
+
 namespace gesturewidget {
 
-// One command of the program: a QAction of its menus or toolbars. The catalogue owns it and keeps
-// it when the action is gone; texts and icon then stay as they were.
+// One command of the program: a QAction of its menus or toolbars, one in each main window. The
+// catalogue owns it and keeps it when the action is gone; texts and icon then stay as they were.
+//
+// Texts, icon, action and place are those of one window, which the catalogue chooses.
 class ActionItem : public CHxUICommandItem
 {
 public:
@@ -57,6 +63,23 @@ public:
     // Returns the address of that action, for comparing only: the action may be gone.
     [[nodiscard]] const QAction *address() const { return m_address; }
     void setAction(QAction *action);
+    // True if it has had an action since the program started, in any window.
+    [[nodiscard]] bool hasHadAction() const { return m_hasHadAction; }
+    // Shows the command as it is in the window `to`, after it was shown as in `from`. If it has
+    // never been in that window, the texts and the icon stay as they are.
+    void showIn(const QWidget *from, const QWidget *to);
+    // The same as isPresent, for a window that is not shown.
+    [[nodiscard]] bool isPresentIn(const QWidget *window) const;
+    // Forgets what it was in a window. This must not be the one that is shown.
+    void forget(const QWidget *window);
+    // Calls `visit` with the address of its action in each window.
+    template <class Visit> void forEachAddress(Visit visit) const
+    {
+        if (m_address)
+            visit(m_address);
+        for (const Look &look : m_others)
+            visit(look.address);
+    }
     // True if running the command would do something at the moment.
     [[nodiscard]] bool isUsable() const { return isPresent && m_action && m_action->isEnabled(); }
     // Reads the texts and the icon again. Returns whether there are new texts. The name is then the
@@ -91,8 +114,31 @@ public:
     [[nodiscard]] static QString captionOf(const QAction *action);
 
 private:
+    // What the command is in a window that is not shown.
+    struct Look
+    {
+        const QWidget *window;
+        QPointer<QAction> action;
+        const QAction *address;
+        QString caption;
+        QString name;
+        QString tip;
+        QString plainTip;
+        QStringList texts;
+        QIcon icon;
+        QIcon contrastIcon;
+        QString group;
+        QStringList way;
+        bool isPresent;
+        bool wasPresent;
+        bool isInToolBar;
+        bool isListEntry;
+    };
+
     void setIcon(const QIcon &icon);
 
+    std::vector<Look> m_others; // of the windows in which it has an action
+    bool m_hasHadAction = false;
     QString m_identifier;
     QString m_key;
     QPointer<QAction> m_action;

@@ -29,12 +29,14 @@ CatalogueMemory::CatalogueMemory(CommandCatalogue &catalogue, const QString &fil
     connect(&m_quiet, &QTimer::timeout, this, &CatalogueMemory::look);
     m_drawing.setInterval(kDrawingPause);
     connect(&m_drawing, &QTimer::timeout, this, &CatalogueMemory::draw);
-    // Only the first of many changes starts the timer: a program that never rests would put it off
-    // for ever.
-    connect(&m_catalogue, &CommandCatalogue::menusChanged, this, [this] {
+    // Only the first of many changes starts the timer. Otherwise a program that never rests would put
+    // it off forever.
+    const auto lookLater = [this] {
         if (m_isStarted && !m_quiet.isActive())
             m_quiet.start();
-    });
+    };
+    connect(&m_catalogue, &CommandCatalogue::menusChanged, this, lookLater);
+    connect(&m_catalogue, &CommandCatalogue::currentWindowChanged, this, lookLater);
 
     const QVector<RememberedCommand> commands = m_file.read();
     for (const RememberedCommand &command : commands)

@@ -9,6 +9,7 @@
 #include "host/window/Captions.h"
 #include "host/window/EntryAction.h"
 
+#include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
@@ -27,9 +28,14 @@ QString joined(const QString &path, const QString &caption)
 
 } // namespace
 
+CommandCatalogue::Window::Window(QMainWindow *mainWindow)
+    : window(mainWindow)
+    , watcher(mainWindow)
+{
+}
+
 CommandCatalogue::CommandCatalogue(QMainWindow *window, const QHash<QString, QStringList> &wellKnown)
-    : m_watcher(window)
-    , m_wellKnown(wellKnown)
+    : m_wellKnown(wellKnown)
 {
     QStringList identifiers = wellKnown.keys();
     std::sort(identifiers.begin(), identifiers.end());
@@ -40,18 +46,82 @@ CommandCatalogue::CommandCatalogue(QMainWindow *window, const QHash<QString, QSt
                 m_identifiers.insert(key, identifier);
         }
     }
-    connect(&m_watcher, &MenuChanges::structureChanged, this, [this] {
-        m_stale = true;
-        prepareSoon();
-        Q_EMIT menusChanged();
-    });
-    connect(&m_watcher, &MenuChanges::actionChanged, this, &CommandCatalogue::onActionChanged);
+    addWindow(window);
+    m_current = m_windows.front().get();
     m_preparation.setSingleShot(true);
     m_preparation.setInterval(kPreparationTime);
     connect(&m_preparation, &QTimer::timeout, this, &CommandCatalogue::prepare);
 }
 
 CommandCatalogue::~CommandCatalogue() = default;
+
+void CommandCatalogue::addWindow(QMainWindow *window)
+{
+    if (windowFor(window))
+        return;
+    m_windows.push_back(std::make_unique<Window>(window));
+    Window *added = m_windows.back().get();
+    connect(&added->watcher, &MenuChanges::structureChanged, this, [this, added] {
+        added->isStale = true;
+        if (added == m_current)
+            prepareSoon();
+        Q_EMIT menusChanged(&added->watcher);
+    });
+    connect(&added->watcher, &MenuChanges::actionChanged, this,
+            [this, added](QAction *action) { onActionChanged(*added, action); });
+}
+
+void CommandCatalogue::setCurrentWindow(const QWidget *window)
+{
+    Window *next = windowFor(window);
+    if (!next || next == m_current)
+        return;
+    for (const auto &item : m_items)
+        item->showIn(m_current->window, next->window);
+    m_current = next;
+    arrangeGroups();
+    if (next->isStale)
+        prepareSoon();
+    Q_EMIT currentWindowChanged();
+}
+
+void CommandCatalogue::removeWindow(const QWidget *window)
+{
+    const auto isWindow = [window](const auto &known) { return known->window == window; };
+    const auto found = std::find_if(m_windows.begin(), m_windows.end(), isWindow);
+    if (found == m_windows.end() || found->get() == m_current)
+        return;
+    (*found)->watcher.disconnect(this);
+    m_removed.push_back(std::move(*found));
+    m_windows.erase(found);
+    // An action may be in several windows.
+    m_byAction.clear();
+    for (const auto &item : m_items) {
+        item->forget(window);
+        item->forEachAddress([&](const QAction *action) { m_byAction.insert(action, item.get()); });
+    }
+    QMetaObject::invokeMethod(
+        this, [this] { m_removed.clear(); }, Qt::QueuedConnection);
+}
+
+CommandCatalogue::Window *CommandCatalogue::windowFor(const QWidget *window) const
+{
+    const auto isWindow = [window](const auto &known) { return known->window == window; };
+    const auto found = std::find_if(m_windows.begin(), m_windows.end(), isWindow);
+    return found == m_windows.end() ? nullptr : found->get();
+}
+
+MenuChanges &CommandCatalogue::watcherOf(const QWidget *window)
+{
+    Window *known = windowFor(window);
+    return (known ? known : m_current)->watcher;
+}
+
+void CommandCatalogue::invalidate()
+{
+    for (const auto &window : m_windows)
+        window->isStale = true;
+}
 
 const std::vector<std::unique_ptr<CommandGroup>> &CommandCatalogue::groups()
 {
@@ -87,7 +157,7 @@ void CommandCatalogue::expect(const QString &identifier, const QString &caption)
         item->setCaption(caption);
     }
     item->isExpected = true;
-    m_stale = true; // the next reading gives it its place
+    invalidate(); // the next reading gives it its place
 }
 
 void CommandCatalogue::guessWellKnown()
@@ -123,7 +193,7 @@ void CommandCatalogue::endGuessing()
             unseen.append(identifier);
         }
     }
-    m_stale = true;
+    invalidate();
     if (!unseen.isEmpty())
         Q_EMIT dropped(unseen);
 }
@@ -149,7 +219,7 @@ void CommandCatalogue::remember(const QVector<RememberedCommand> &commands)
         item->recall(command);
         item->isRemembered = key == keys.value(command.identifier);
     }
-    m_stale = true;
+    invalidate();
 }
 
 const std::vector<std::unique_ptr<ActionItem>> &CommandCatalogue::items()
@@ -160,7 +230,7 @@ const std::vector<std::unique_ptr<ActionItem>> &CommandCatalogue::items()
 
 bool CommandCatalogue::isOutlived(const ActionItem &item) const
 {
-    if (item.isExpected || item.address())
+    if (item.isExpected || item.hasHadAction())
         return false;
     // A key that is a path ends with the caption, and with a number if there are several.
     static const QRegularExpression number(QStringLiteral(" \\(\\d+\\)$"));
@@ -168,7 +238,7 @@ bool CommandCatalogue::isOutlived(const ActionItem &item) const
     QString path = item.key();
     if (!path.endsWith(caption))
         path.remove(number);
-    return path.endsWith(caption) && m_places.contains(path.chopped(caption.size()));
+    return path.endsWith(caption) && m_current->places.contains(path.chopped(caption.size()));
 }
 
 ActionItem *CommandCatalogue::itemOf(const QAction *action)
@@ -183,26 +253,29 @@ bool CommandCatalogue::contains(const CHxUICommandItem *item) const
     return m_known.contains(item);
 }
 
-void CommandCatalogue::onActionChanged(QAction *action)
+void CommandCatalogue::onActionChanged(Window &window, QAction *action)
 {
     if (qobject_cast<EntryAction *>(action))
         return;
-    prepareSoon();
+    const bool isCurrent = &window == m_current;
+    if (isCurrent)
+        prepareSoon();
     const ActionItem *item = m_byAction.value(action);
     // Some programs keep an action for each recent document and change its caption.
     const bool isStill = ActionItem::isCommand(action)
                       && (item && (item->isListEntry || !namesADocument(ActionItem::captionOf(action))));
-    if (item && item->isPresent && isStill) {
-        m_changedActions.insert(action);
+    const bool isPresent = item && (isCurrent ? item->isPresent : item->isPresentIn(window.window));
+    if (isPresent && isStill) {
+        window.changedActions.insert(action);
         return;
     }
     // A separator, a menu, or something that has just become a command or ceased to be one.
-    m_stale = true;
-    Q_EMIT menusChanged();
+    window.isStale = true;
+    Q_EMIT menusChanged(&window.watcher);
 }
 
 // Only the first of many changes starts the timer. Otherwise a program that never rests would put
-// it off for ever. Also, starting a timer takes longer than all other work for a change.
+// it off forever. Also, starting a timer takes longer than all other work for a change.
 void CommandCatalogue::prepareSoon()
 {
     if (m_wasRead && !m_preparation.isActive())
@@ -217,31 +290,33 @@ void CommandCatalogue::prepare()
 
 void CommandCatalogue::update()
 {
-    if (m_stale)
+    if (m_current->isStale)
         scan();
-    for (const QAction *action : std::as_const(m_changedActions)) {
+    QSet<const QAction *> &changed = m_current->changedActions;
+    for (const QAction *action : std::as_const(changed)) {
         ActionItem *item = m_byAction.value(action);
         if (item && item->action() == action)
             m_namesAreStale |= item->read();
     }
-    m_changedActions.clear();
+    changed.clear();
     if (m_namesAreStale)
         giveNames();
 }
 
 void CommandCatalogue::scan()
 {
-    m_stale = false;
+    m_current->isStale = false;
     m_wasRead = true;
     for (const auto &item : m_items)
         item->wasPresent = std::exchange(item->isPresent, false);
-    m_met.reserve(m_items.size());
+    m_current->met.clear();
+    m_current->met.reserve(m_items.size());
     m_lists = {};
-    m_places.clear();
-    const QVector<QMenuBar *> menuBars = m_watcher.menuBars();
+    m_current->places.clear();
+    const QVector<QMenuBar *> menuBars = watcher().menuBars();
     for (QMenuBar *bar : menuBars)
         walk(bar, {});
-    const QVector<QToolBar *> toolBars = m_watcher.toolBars();
+    const QVector<QToolBar *> toolBars = watcher().toolBars();
     for (QToolBar *bar : toolBars) {
         const QString title = plainCaption(bar->windowTitle());
         walk(bar, {title, title, true, {}, false});
@@ -253,7 +328,6 @@ void CommandCatalogue::scan()
         admit(newcomer);
     arrangeGroups();
     m_visited.clear();
-    m_met.clear();
     m_newcomers.clear();
     m_guessed.clear();
     m_nextNumbers.clear();
@@ -286,8 +360,8 @@ void CommandCatalogue::walk(QWidget *widget, const Place &place)
     if (m_visited.contains(widget))
         return;
     m_visited.insert(widget);
-    m_places.insert(place.path);
-    m_watcher.watch(widget);
+    m_current->places.insert(place.path);
+    watcher().watch(widget);
     const QList<QAction *> actions = widget->actions();
     const bool isTopLevel = place.way.isEmpty() && !place.isInToolBar;
     const auto kind = ListEntries::kindOf(place.way.value(place.way.size() - 1), isTopLevel);
@@ -341,7 +415,7 @@ void CommandCatalogue::meet(QAction *action, const Place &place, bool isListEntr
     item->group = groupOf();
     item->way = place.way;
     item->isInToolBar = place.isInToolBar;
-    m_met.push_back(item);
+    m_current->met.push_back(item);
 }
 
 // Gives an action its command: the one that an action with this key had before, or a new one.
@@ -385,7 +459,7 @@ void CommandCatalogue::admit(const Newcomer &newcomer)
     item->way = newcomer.way;
     item->isInToolBar = newcomer.isInToolBar;
     m_byAction.insert(newcomer.action, item);
-    m_met.push_back(item);
+    m_current->met.push_back(item);
 }
 
 // Returns the command of that key if its action is gone. Returns null otherwise; `isTaken` then
@@ -414,7 +488,7 @@ QString CommandCatalogue::wellKnownFor(const Newcomer &newcomer, const QString &
 ActionItem *CommandCatalogue::expectedFor(const QString &identifier) const
 {
     ActionItem *item = identifier.isEmpty() ? nullptr : m_byName.value(identifier);
-    const bool isExpectedOnly = item && !item->address() && !item->isRemembered
+    const bool isExpectedOnly = item && !item->hasHadAction() && !item->isRemembered
                              && item->GetIdentifier() == CHxString(identifier);
     return isExpectedOnly ? item : nullptr;
 }
@@ -433,10 +507,10 @@ void CommandCatalogue::arrangeGroups()
 {
     for (const auto &group : m_groups)
         group->items.clear();
-    for (ActionItem *item : m_met)
+    for (ActionItem *item : m_current->met)
         groupNamed(item->group).items.push_back(item);
     for (const auto &item : m_items) {
-        const bool isLacking = item->isLacking && !item->address();
+        const bool isLacking = item->isLacking && !item->hasHadAction();
         const bool isListEntry = item->isListEntry && !item->isExpected;
         if (!item->isPresent && !isLacking && !isListEntry && !isOutlived(*item))
             groupNamed(item->group).items.push_back(item.get());

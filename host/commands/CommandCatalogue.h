@@ -24,6 +24,10 @@ namespace gesturewidget {
 // Every command that the program has offered since it started: the actions of its menus and
 // toolbars, each once.
 //
+// In a program with several main windows a command has an action in each of them, and one window is
+// the current one. Everything here is about that window: the order of commands, their texts, and
+// which of them are there.
+//
 // A command's key finds its action again at the next start. The key is the action's object name.
 // If there is none, or another action has the same name, the key is the path of captions to the
 // action, such as "File/Export/Drawing...". The identifier is the key too, unless the program's
@@ -45,9 +49,18 @@ class CommandCatalogue : public QObject
     Q_OBJECT
 
 public:
-    // `wellKnown` maps identifiers to keys, see ProgramProfile.
+    // `window` is the current one; null if the program has none. `wellKnown` maps identifiers to
+    // keys, see ProgramProfile.
     CommandCatalogue(QMainWindow *window, const QHash<QString, QStringList> &wellKnown);
     ~CommandCatalogue() override;
+
+    void addWindow(QMainWindow *window);
+    // Makes a window the current one. Ignores a window that is not known.
+    void setCurrentWindow(const QWidget *window);
+    // Forgets a window and the actions of its commands. It may be half destroyed. The current
+    // window stays.
+    void removeWindow(const QWidget *window);
+    [[nodiscard]] const QWidget *currentWindow() const { return m_current->window; }
 
     // Returns the commands by top-level menu, in the order of the menu bar, then by toolbar.
     // Groups and commands live as long as the catalogue.
@@ -93,8 +106,10 @@ public:
     // True if a remembered command is probably the entry of a list and no longer there.
     [[nodiscard]] bool isOutlived(const ActionItem &item) const;
     // True if the top-level menu or toolbar of that name is shown at the moment.
-    [[nodiscard]] bool isShown(const QString &group) const { return m_places.contains(group); }
-    [[nodiscard]] MenuChanges &watcher() { return m_watcher; }
+    [[nodiscard]] bool isShown(const QString &group) const { return m_current->places.contains(group); }
+    [[nodiscard]] MenuChanges &watcher() { return m_current->watcher; }
+    // Returns the one of a window. When the window is removed, it stays until the event loop runs.
+    [[nodiscard]] MenuChanges &watcherOf(const QWidget *window);
 
     // Walks the menus now if they have changed. Every reading does this.
     void update();
@@ -102,14 +117,17 @@ public:
     // before the first reading, because guesses need complete menus.
     static constexpr int kPreparationTime = 250;
     // Makes the next reading walk the menus, also if they have not changed.
-    void invalidate() { m_stale = true; }
+    void invalidate();
 
 Q_SIGNALS:
-    // The structure of the menus has changed. Emitted in the middle of the change.
-    void menusChanged();
+    // The structure of the menus of a window has changed. Emitted in the middle of the change.
+    void menusChanged(QObject *watcher);
+    // Another window is the current one.
+    void currentWindowChanged();
     // Bound commands are no longer offered, because the program has never shown them.
     void dropped(const QStringList &identifiers);
-    // The changes are read. Emitted from the event loop, kPreparationTime after a change.
+    // The changes of the current window are read. Emitted from the event loop, kPreparationTime after a
+    // change.
     void prepared();
 
 private:
@@ -134,7 +152,21 @@ private:
         bool isListEntry; // bound all the same
     };
 
-    void onActionChanged(QAction *action);
+    // What belongs to one main window.
+    struct Window
+    {
+        explicit Window(QMainWindow *mainWindow);
+
+        const QWidget *const window; // for comparing only
+        MenuChanges watcher;
+        std::vector<ActionItem *> met; // those that are there, in the order of the menus
+        QSet<QString> places; // the paths of the menus and toolbars that the last scan met
+        QSet<const QAction *> changedActions;
+        bool isStale = true;
+    };
+
+    [[nodiscard]] Window *windowFor(const QWidget *window) const;
+    void onActionChanged(Window &window, QAction *action);
     void prepareSoon();
     void prepare();
     void scan();
@@ -152,7 +184,9 @@ private:
     void giveNames();
     CommandGroup &groupNamed(const QString &name);
 
-    MenuChanges m_watcher;
+    std::vector<std::unique_ptr<Window>> m_windows;
+    std::vector<std::unique_ptr<Window>> m_removed; // until the event loop runs
+    Window *m_current; // never null
     QHash<QString, QStringList> m_wellKnown; // identifier to keys
     QHash<QString, QString> m_identifiers; // the other way round
     std::vector<std::unique_ptr<ActionItem>> m_items; // in the order of first sight
@@ -161,20 +195,16 @@ private:
     QHash<QString, ActionItem *> m_byName; // identifiers and keys
     std::vector<std::unique_ptr<CommandGroup>> m_groups;
     QHash<QString, CommandGroup *> m_groupsByName;
-    QSet<QString> m_places; // the paths of the menus and toolbars that the last scan met
-    QSet<const QAction *> m_changedActions;
     QHash<QString, QString> m_reasons; // of guesses, by identifier
     QSet<QString> m_trusted; // identifiers
     bool m_trustsAll = false;
     bool m_guesses = false;
-    bool m_stale = true;
     bool m_namesAreStale = false;
     bool m_wasRead = false;
     QTimer m_preparation;
 
     // Only during a scan.
     QSet<const QWidget *> m_visited;
-    std::vector<ActionItem *> m_met; // in the order of the menus
     std::vector<Newcomer> m_newcomers;
     ListEntries m_lists;
     QHash<const QAction *, QString> m_guessed; // newcomers, to identifier

@@ -5,6 +5,7 @@
 
 #include "host/commands/CommandCatalogue.h"
 #include "host/commands/CommandStack.h"
+#include "host/window/MainWindows.h"
 #include "host/window/TextOutput.h"
 #include "sdk/chx/CHxDocument.h"
 #include "sdk/chx/CHxDocumentManager.h"
@@ -37,11 +38,6 @@ private:
     bool m_isFound;
 };
 
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("host", text);
-}
-
 void bringDialogToFront()
 {
     QWidget *dialog = QApplication::activeModalWidget();
@@ -65,11 +61,12 @@ void pressEscape(QWidget *view)
 } // namespace
 
 CommandRunner::CommandRunner(CommandStack &stack, CommandCatalogue &catalogue, TextOutput &output,
-                             CHxDocumentManager *documents)
+                             CHxDocumentManager *documents, MainWindows *windows)
     : m_stack(stack)
     , m_catalogue(catalogue)
     , m_output(output)
     , m_documents(documents)
+    , m_windows(windows)
 {
 }
 
@@ -81,15 +78,28 @@ CHxCommandResultPtr CommandRunner::run(const QString &command, bool wait)
     if (wait)
         execute(command);
     else
-        QMetaObject::invokeMethod(
-            this, [this, command] { execute(command); }, Qt::QueuedConnection);
+        queue([this, command] { execute(command); });
     return result;
 }
 
 void CommandRunner::runStackCommand(const QString &name)
 {
+    queue([this, name] { executeStackCommand(name); });
+}
+
+template <class Run> void CommandRunner::queue(Run run)
+{
+    const QPointer<QWidget> window = m_windows ? m_windows->current() : nullptr;
+    const bool hadWindow = !window.isNull();
     QMetaObject::invokeMethod(
-        this, [this, name] { executeStackCommand(name); }, Qt::QueuedConnection);
+        this,
+        [this, window, hadWindow, run] {
+            if (hadWindow && !m_windows->contains(window))
+                return;
+            const MainWindows::Turn turn(m_windows, window);
+            run();
+        },
+        Qt::QueuedConnection);
 }
 
 CommandRunner::Macro CommandRunner::parsed(const QString &command)
@@ -137,7 +147,8 @@ void CommandRunner::executeStackCommand(const QString &name)
     // The pointer keeps the command while it runs, also when it is removed meanwhile.
     const OdSmartPtr<OdEdCommand> command = m_stack.lookupCommand(OdString(name));
     if (!command) {
-        m_output.showForAWhile(translated("There is no command \"%1\".").arg(name));
+        m_output.showForAWhile(
+            QCoreApplication::translate("host", "There is no command \"%1\".").arg(name));
         return;
     }
     const OdEdCommand *running = command.get();
@@ -145,6 +156,7 @@ void CommandRunner::executeStackCommand(const QString &name)
         bringDialogToFront();
         return;
     }
+    const MainWindows::Hold hold(m_windows); // the command may show a dialog
     const QPointer<CommandRunner> self(this);
     m_running.push_back(running);
     command->execute(nullptr);
@@ -156,12 +168,13 @@ void CommandRunner::trigger(const QString &name)
 {
     const ActionItem *item = m_catalogue.findUsable(name);
     if (!item) {
-        m_output.showForAWhile(translated("There is no command \"%1\".").arg(name));
+        m_output.showForAWhile(
+            QCoreApplication::translate("host", "There is no command \"%1\".").arg(name));
     } else if (!item->isPresent || !item->action()) {
         m_output.showForAWhile(absence(*item));
     } else if (!item->action()->isEnabled()) {
-        m_output.showForAWhile(
-            translated("%1: cannot be used at the moment.").arg(item->GetCaption().toQString()));
+        m_output.showForAWhile(QCoreApplication::translate("host", "%1: cannot be used at the moment.")
+                                   .arg(item->GetCaption().toQString()));
     } else {
         item->action()->trigger();
     }
@@ -170,17 +183,20 @@ void CommandRunner::trigger(const QString &name)
 // Says why a command without an action cannot run, and which menu or toolbar it belongs to.
 QString CommandRunner::absence(const ActionItem &item) const
 {
-    QString line = translated("%1: not available at the moment.").arg(item.GetCaption().toQString());
+    QString line = QCoreApplication::translate("host", "%1: not available at the moment.")
+                       .arg(item.GetCaption().toQString());
     if (item.group.isEmpty())
         return line;
     const bool isShown = m_catalogue.isShown(item.group);
     QString place;
     if (item.isInToolBar)
-        place = isShown ? translated("The toolbar \"%1\" does not have it now.")
-                        : translated("It belongs to the toolbar \"%1\", which is not there now.");
+        place = isShown ? QCoreApplication::translate("host", "The toolbar \"%1\" does not have it now.")
+                        : QCoreApplication::translate(
+                            "host", "It belongs to the toolbar \"%1\", which is not there now.");
     else
-        place = isShown ? translated("The menu \"%1\" does not have it now.")
-                        : translated("It belongs to the menu \"%1\", which is not there now.");
+        place = isShown ? QCoreApplication::translate("host", "The menu \"%1\" does not have it now.")
+                        : QCoreApplication::translate(
+                            "host", "It belongs to the menu \"%1\", which is not there now.");
     return line + QLatin1Char(' ') + place.arg(item.group);
 }
 

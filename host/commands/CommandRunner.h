@@ -17,20 +17,24 @@ namespace gesturewidget {
 class ActionItem;
 class CommandCatalogue;
 class CommandStack;
+class MainWindows;
 class TextOutput;
 
 // Runs commands by name: macros, which run commands that modules have registered, and the
 // program's own actions.
 //
-// What runs may do anything, such as close the window or end this object.
+// What is chosen runs later, but in the window that was current when it was chosen. If that window
+// is gone by then, nothing runs.
+//
+// A command may do anything, such as close the window or destroy this object.
 class CommandRunner : public QObject
 {
     Q_OBJECT
 
 public:
-    // `documents` may be null.
+    // `documents` and `windows` may be null.
     CommandRunner(CommandStack &stack, CommandCatalogue &catalogue, TextOutput &output,
-                  CHxDocumentManager *documents);
+                  CHxDocumentManager *documents, MainWindows *windows = nullptr);
     ~CommandRunner() override;
 
     // See CHxSystemServices::RunCommand(). Each "^C" of a macro sends Escape to the active drawing
@@ -50,6 +54,8 @@ private:
 
     [[nodiscard]] static Macro parsed(const QString &command);
     [[nodiscard]] bool isFound(const QString &command) const;
+    // Calls `run` from the event loop, with the window current that is current now.
+    template <class Run> void queue(Run run);
     void execute(const QString &command);
     void executeMacro(const Macro &macro);
     // Runs it, unless it runs already: then its dialog comes to the front.
@@ -63,6 +69,7 @@ private:
     TextOutput &m_output;
     CHxDocumentManager *m_documents;
     std::vector<const OdEdCommand *> m_running; // commands of the stack that have not returned
+    MainWindows *m_windows;
 };
 
 } // namespace gesturewidget

@@ -17,7 +17,7 @@
 namespace gesturewidget {
 namespace {
 
-// Of 255. A pixel with less alpha belongs to the soft edge, not to the shape.
+// Out of 255. A pixel with less alpha belongs to the soft edge, not to the shape.
 constexpr int kShapeAlpha = 128;
 // Logical pixels. Leaves room for the halo. Icons are made for this size at every usual device
 // pixel ratio, so they are sharp.

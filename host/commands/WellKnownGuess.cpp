@@ -31,10 +31,9 @@ constexpr int kIconWeight = 16;
 constexpr int kNameWeight = 8;
 constexpr int kCaptionWeight = 4;
 constexpr int kMenuWeight = 1;
-// Of a file command's shortcut in another menu than the first: some program runs something
-// else by it.
+// A file command's shortcut in a menu other than the first may run something else.
 constexpr int kDoubtfulWeight = 1;
-// Of a shortcut or icon where caption and object name say it only in part: "Save All" may have
+// A shortcut or icon whose caption and object name agree only in part: "Save All" may have
 // Ctrl+S beside "Save".
 constexpr int kPartlyWeight = 1;
 
@@ -53,7 +52,7 @@ const Words &kinds()
     return words;
 }
 
-// Those and the ones that say where it is, not what it does.
+// Those words, and words that say where it is, not what it does.
 const Words &noise()
 {
     static const Words words = Words(kinds()) | wordsIn("file edit draw modify view");
@@ -228,7 +227,7 @@ bool isSwitchOfBar(const QAction &action)
             || action.inherits("KToggleToolBarAction") || name.contains(QLatin1String("toolbar")));
 }
 
-// Whether it belongs to a main window inside another, such as an editor for notes in a dock.
+// True if it belongs to a main window inside another, such as an editor for notes in a dock.
 bool isOfAPart(const QMenuBar *bar)
 {
     const QWidget *up = bar->parentWidget();
@@ -287,7 +286,7 @@ QStringList titlesUpFrom(const QMenu *menu)
     return titles;
 }
 
-// What an action shows and is called, read once for all identifiers.
+// An action's texts, shortcuts and icon, read once for all identifiers.
 struct Look
 {
     explicit Look(const QAction &action)
@@ -348,7 +347,7 @@ bool mentions(const QString &text, const Words &words)
                        [&text](const QString &word) { return isUnspaced(word) && text.contains(word); });
 }
 
-// What speaks for one identifier.
+// The signs that an action shows for one identifier.
 struct Signals
 {
     Signals(const Signs &signs, const Look &look)
@@ -396,7 +395,7 @@ bool isConvincing(const Signs &signs, const Signals &has, const Look &look)
 {
     const bool isTool = signs.shortcut == QKeySequence::UnknownKey;
     const bool isSaid = has.hasName || has.hasCaption;
-    // What stays switched on is a mode. Only tools and "keep it fitted" are such.
+    // A checkable action is a mode. Among well-known commands only tools and "keep it fitted" are.
     const bool isZoom = signs.menuRoles == kViewRole;
     if (look.isCheckable && (!isTool || (isZoom && !(has.hasIcon && isSaid))))
         return false;
@@ -404,7 +403,7 @@ bool isConvincing(const Signs &signs, const Signals &has, const Look &look)
         return true;
     if (has.isElsewhere && !isZoom)
         return false;
-    // Of a button that is in no menu, "Save" may mean anything, and the command comes later.
+    // A button outside the menus that says "Save" may save anything. The command itself comes later.
     if (look.isButtonOnly && !isTool && !has.hasName && !has.hasIcon)
         return false;
     return isSaid || (has.hasIcon && (has.isMentioned || !has.shortcut.isEmpty()));

@@ -95,13 +95,21 @@ Document *DocumentManager::open(QWidget *view)
     notify([document](CHxDocumentManagerReactor &r) { r.DatabaseAttached(document); });
     notify([document](CHxDocumentManagerReactor &r) { r.DocumentCreated(document); });
     if (!m_active || !m_active->isOpen())
-        activate(document);
+        makeActive(document);
     return document;
 }
 
 void DocumentManager::activate(Document *document)
 {
-    if (document == m_active || !document || !document->isOpen())
+    if (!document || !document->isOpen())
+        return;
+    makeActive(document);
+    Q_EMIT documentUsed(document);
+}
+
+void DocumentManager::makeActive(Document *document)
+{
+    if (document == m_active)
         return;
     Document *previous = m_active;
     if (previous && previous->isOpen())
@@ -128,7 +136,7 @@ void DocumentManager::close(Document *document)
     document->close();
     notify([document](CHxDocumentManagerReactor &r) { r.DocumentDestroyed(document, CHxString()); });
     if (document == m_active && !m_activated.isEmpty())
-        activate(m_activated.last());
+        makeActive(m_activated.last());
 }
 
 QWidget *DocumentManager::standIn()

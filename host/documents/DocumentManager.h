@@ -42,6 +42,8 @@ public:
     // becomes the active one.
     Document *open(QWidget *view);
     void activate(Document *document);
+    // Returns the open documents, the one that was activated last comes last.
+    [[nodiscard]] const QVector<Document *> &openDocuments() const { return m_activated; }
     // Sends no notifications from now on.
     void dropReactors() { m_reactors.clear(); }
     // Destroys the stand-in widget. Call this while widgets can still be destroyed.
@@ -60,12 +62,15 @@ public:
     [[nodiscard]] bool isEmpty() const { return m_byView.isEmpty(); }
 
 Q_SIGNALS:
+    // The view was pressed, or got the focus. The document may have been active before.
+    void documentUsed(gesturewidget::Document *document);
     // The view is gone or about to go. The document still has its trackers.
     void documentAboutToClose(gesturewidget::Document *document);
 
 private:
     class Iterator;
 
+    void makeActive(Document *document);
     void close(Document *document);
     [[nodiscard]] QWidget *standIn();
     template <class Notification> void notify(Notification notification);

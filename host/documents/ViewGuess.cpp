@@ -50,7 +50,7 @@ QString className(const QWidget *widget)
     return QString::fromLatin1(widget->metaObject()->className());
 }
 
-// By name, since the libraries that these come from are none of ours.
+// Compares names, because we do not link the libraries of these classes.
 template <std::size_t Count>
 bool inheritsAny(const QWidget *widget, const std::array<const char *, Count> &names)
 {
@@ -67,8 +67,8 @@ bool isWebView(const QWidget *widget)
                                           "QtWebEngineCore::RenderWidgetHostViewQtDelegateWidget"});
 }
 
-// A widget that a drawing program draws on with the machine's graphics library, or that
-// stands for a window which is no widget.
+// A widget that is painted with the graphics library of the machine, or that contains a window
+// that is not a widget.
 bool isSurface(const QWidget *widget)
 {
     return inheritsAny(widget,
@@ -81,7 +81,7 @@ bool isControl(const QWidget *widget)
         widget);
 }
 
-// What never is a view, whatever derives from it.
+// Classes that never are views, and their subclasses.
 bool isOther(const QWidget *widget, QString *what)
 {
     if (isAnyOf<QTextEdit, QPlainTextEdit>(widget))
@@ -177,7 +177,7 @@ bool isGraphicsViewOrSurface(const QWidget *widget)
     return isAnyOf<QGraphicsView>(widget) || isSurface(widget);
 }
 
-// Whether the middle of a main window is for something else than drawings, or is not there.
+// True if the middle of a main window shows no drawing or does not exist.
 bool hasNoViewInside(const QWidget *middle)
 {
     if (!middle || !middle->isVisible() || isSmall(middle))
@@ -189,9 +189,9 @@ bool hasNoViewInside(const QWidget *middle)
                         [](const QWidget *child) { return ViewGuess::of(child).isView; });
 }
 
-// What the large dock holds that `widget` is in, where the drawing is there and not in the
-// middle: beside the text that describes it, or in a window of nothing but docks. Null for
-// any other dock: a picture in one is a preview, a map of the whole, a chooser of colours.
+// The content of the large dock around `widget`, if the drawing is in a dock: beside the text that
+// describes it, or in a window that has only docks. Null for any other dock: a picture there is a
+// preview, an overview or a colour chooser.
 const QWidget *dockAreaOf(const QWidget *widget)
 {
     if (!isGraphicsViewOrSurface(widget))
@@ -212,8 +212,8 @@ const QWidget *viewportOf(const QWidget *widget)
     return area ? area->viewport() : nullptr;
 }
 
-// Whether a child keeps clear of all edges by more than the margin of a layout. It is a note or
-// the like over a picture then.
+// True if a child keeps a distance from all edges that is larger than a layout's margin. Then it is
+// something like a note over a picture.
 bool liesOver(const QWidget &child, const QWidget &widget)
 {
     constexpr int kMargin = 16; // pixels
@@ -300,8 +300,7 @@ ViewGuess yes(const QString &reason)
     return {true, reason};
 }
 
-// Why a widget cannot be what a program paints a drawing on, wherever it stands and whatever
-// its share; empty if it can.
+// Says why a program cannot paint a drawing on this widget, at any place and size; empty if it can.
 QString whyNoCanvas(const QWidget *widget, const QWidget *area)
 {
     QString what;
@@ -353,7 +352,7 @@ const QScrollArea *scrollAreaOf(const QWidget *widget)
     return nullptr;
 }
 
-// Whether the area has no other widget that could show a drawing. Widgets of one class are
+// True if the area has no other widget that could show a drawing. Widgets of one class are
 // panes of one view.
 bool isAlone(const QWidget *widget, const QWidget *area)
 {
@@ -372,7 +371,7 @@ ViewGuess judgeShare(const QWidget *widget, const QWidget *area)
                                   : QStringLiteral("it paints itself and fills");
     if (share >= ViewGuess::kShare)
         return yes(QStringLiteral("%1 %2 % of the area").arg(what).arg(share));
-    // At another size of the window, what stands beside it may be larger than it.
+    // In a window of another size, its neighbours may be larger than it.
     if (share >= ViewGuess::kLeastShare && isAlone(widget, area))
         return yes(QStringLiteral("%1 %2 % of the area, where nothing else could show a drawing")
                        .arg(what)
@@ -389,7 +388,7 @@ ViewGuess ViewGuess::of(const QWidget *widget)
         area = dockAreaOf(widget);
     if (!area)
         return no(QStringLiteral("it is not in the middle of a main window"));
-    // A form's widgets are what is drawn there, whatever they are elsewhere.
+    // In a form the widgets are the drawing.
     const QWidget *form = formOf(widget);
     if (form && widget->parentWidget() != form)
         return widget->isVisible() ? yes(QStringLiteral("it is part of a form that is being designed"))

@@ -11,6 +11,7 @@
 #include "host/menus/ToolsMenu.h"
 #include "host/services/SystemServices.h"
 #include "host/window/Captions.h"
+#include "host/window/MainWindows.h"
 
 #include <QAbstractScrollArea>
 #include <QApplication>
@@ -61,8 +62,7 @@ QString guessReason(const ActionItem &item, const QString &identifier, const QSt
     if (!known.isEmpty())
         return known;
     const QVector<WellKnownGuess> again = WellKnownGuess::among({item.action()}, {identifier});
-    return again.isEmpty() ? QStringLiteral("it was taken for it at an earlier start")
-                           : again.first().reason;
+    return again.isEmpty() ? QStringLiteral("chosen at an earlier start") : again.first().reason;
 }
 
 } // namespace
@@ -72,10 +72,8 @@ void Explanation::Findings::add(const QString &what, const QString &text)
     lines.append(QStringLiteral("%1 %2").arg(what + QLatin1Char(':'), -15).arg(text).simplified());
 }
 
-Explanation::Explanation(int socket, QMainWindow *window, const ProgramProfile &profile,
-                         SystemServices &services)
+Explanation::Explanation(int socket, const ProgramProfile &profile, SystemServices &services)
     : m_socket(socket)
-    , m_window(window)
     , m_profile(profile)
     , m_services(services)
     , m_triggerButton(profile.triggerButton)
@@ -85,6 +83,8 @@ Explanation::Explanation(int socket, QMainWindow *window, const ProgramProfile &
     m_soon.setInterval(kGatherTime);
     connect(&m_soon, &QTimer::timeout, this, &Explanation::tellNow);
     connect(&services.catalogue(), &CommandCatalogue::menusChanged, this, &Explanation::tellSoon);
+    connect(&services.catalogue(), &CommandCatalogue::currentWindowChanged, this,
+            &Explanation::tellSoon);
 }
 
 Explanation::~Explanation() = default;
@@ -131,7 +131,7 @@ void Explanation::tellSoon()
 void Explanation::tellNow()
 {
     const QJsonObject now = report();
-    if (now == m_told || !m_window)
+    if (now == m_told || !window())
         return;
     m_told = now;
     tell(m_socket, now);
@@ -141,8 +141,8 @@ QJsonObject Explanation::report()
 {
     Findings findings;
     findings.profile = m_profile;
-    if (m_window)
-        findings.add(QStringLiteral("window"), describe(classOf(m_window), m_window->objectName()));
+    if (const QMainWindow *current = window())
+        findings.add(QStringLiteral("window"), describe(classOf(current), current->objectName()));
     explainViews(findings);
     explainTrigger(findings);
     explainToolsMenu(findings);
@@ -152,6 +152,11 @@ QJsonObject Explanation::report()
     return {{QStringLiteral("profile"), profile},
             {QStringLiteral("lines"), QJsonArray::fromStringList(findings.lines)},
             {QStringLiteral("views"), static_cast<int>(m_views.size())}};
+}
+
+QMainWindow *Explanation::window() const
+{
+    return qobject_cast<QMainWindow *>(m_services.windows().current());
 }
 
 void Explanation::explainViews(Findings &findings) const
@@ -189,7 +194,7 @@ void Explanation::explainOthers(Findings &findings) const
     QVector<const QWidget *> others;
     const QWidgetList widgets = QApplication::allWidgets();
     for (const QWidget *widget : widgets) {
-        if (m_window && m_window->isAncestorOf(widget) && widget->isVisible()
+        if (window() && window()->isAncestorOf(widget) && widget->isVisible()
             && widget->width() >= ViewGuess::kSmallest && widget->height() >= ViewGuess::kSmallest)
             others.append(widget);
     }
@@ -267,7 +272,7 @@ void Explanation::explainCommands(Findings &findings)
         else if (isThere)
             reason = guessReason(*item, identifier, catalogue.reasonFor(identifier));
         else
-            reason = QStringLiteral("no shortcut, icon, object name or caption speaks for an action");
+            reason = QStringLiteral("no action has a matching shortcut, icon, object name or caption");
         if (named.isEmpty() && isThere && key != identifier)
             findings.profile.wellKnownCommands.insert(identifier, {key});
         findings.add(identifier, isThere ? QStringLiteral("%1, since %2").arg(key, reason)

@@ -26,8 +26,7 @@ class Explanation : public QObject
 
 public:
     // `socket`: see ExplanationChannel.h; not owned. The others must outlive this.
-    Explanation(int socket, QMainWindow *window, const ProgramProfile &profile,
-                SystemServices &services);
+    Explanation(int socket, const ProgramProfile &profile, SystemServices &services);
     ~Explanation() override;
 
     // Adds a view, the widget that gets the pointer. Adding it again has no effect.
@@ -50,7 +49,7 @@ private:
         bool isQtsOwn; // its class is one of Qt's, so other widgets have it too
     };
 
-    // What was found so far, gathered for one report.
+    // The findings so far, for one report.
     struct Findings
     {
         ProgramProfile profile;
@@ -65,11 +64,12 @@ private:
     void explainViews(Findings &findings) const;
     void explainOthers(Findings &findings) const;
     void explainTrigger(Findings &findings) const;
+    // The current main window; null if there is none.
+    [[nodiscard]] QMainWindow *window() const;
     void explainToolsMenu(Findings &findings) const;
     void explainCommands(Findings &findings);
 
     int m_socket;
-    QPointer<QMainWindow> m_window;
     ProgramProfile m_profile;
     SystemServices &m_services;
     QVector<View> m_views;

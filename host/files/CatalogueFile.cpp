@@ -258,7 +258,8 @@ CatalogueFile::Content CatalogueFile::parsed(const QByteArray &text)
                 false,
                 QStringLiteral("is of a later version (%1), its commands are not offered").arg(version)};
     if (version < 1 || !object.value(kCommandsKey).isArray())
-        return {State::Foreign, {}, false, QStringLiteral("is no list of commands and is left alone")};
+        return {
+            State::Foreign, {}, false, QStringLiteral("is not a list of commands and is left alone")};
     Content content{State::Good, {}, false, {}};
     QHash<QString, bool> known;
     const QJsonArray commands = object.value(kCommandsKey).toArray();

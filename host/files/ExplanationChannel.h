@@ -6,7 +6,7 @@
 #include <QByteArray>
 #include <QJsonObject>
 
-// How a program that was started by --explain tells the launcher what was found in it: over a
+// A program that --explain started uses this to tell the launcher what was found in it: over a
 // socket that it inherits, one JSON object a line. When the launcher closes its end, the program
 // is to quit.
 //

@@ -20,7 +20,7 @@ namespace gesturewidget {
 class FileWriter
 {
 public:
-    // Who may read the file afterwards.
+    // The users who may read the file afterwards.
     enum class Readers {
         Owner, // mode 0600, also where the old file had another
         Usual // the mode of the old file, or what the process's mask leaves of 0666

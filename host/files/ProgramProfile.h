@@ -11,7 +11,7 @@
 
 namespace gesturewidget {
 
-// What is special about one program, read from <folder>/<program>.json.
+// The special features of one program, read from <folder>/<program>.json.
 //
 // A profile is data only. A program without one gets the defaults below, and the host guesses what
 // a profile would say.

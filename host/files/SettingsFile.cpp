@@ -89,7 +89,7 @@ QByteArray SettingsFile::usable(const QByteArray &content, const QByteArray &bac
         complainOnce(QStringLiteral("%1 is damaged, and there is no good copy of it").arg(m_path));
         return content;
     }
-    complain(QStringLiteral("%1 was damaged and is restored from %2").arg(m_path, backupPath()));
+    complainAlways(QStringLiteral("%1 was damaged and is restored from %2").arg(m_path, backupPath()));
     if (mayWrite && store(m_path, backup))
         m_stamp = currentStamp();
     return backup;
@@ -160,8 +160,14 @@ QString SettingsFile::nameOf(const QString &section, const QString &key)
 void SettingsFile::complainOnce(const QString &line)
 {
     if (!m_hasComplained)
-        complain(line);
+        complainAlways(line);
     m_hasComplained = true;
+}
+
+void SettingsFile::complainAlways(const QString &line)
+{
+    m_notice = line;
+    complain(line);
 }
 
 QString SettingsFile::backupPath() const

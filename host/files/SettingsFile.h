@@ -44,6 +44,9 @@ public:
     // One line that names the file, after change() or write() has failed.
     [[nodiscard]] QString problem() const { return m_problem; }
 
+    // The line that was written to standard error last; empty when there was none.
+    [[nodiscard]] QString notice() const { return m_notice; }
+
     static constexpr int kLockPatience = 1000; // milliseconds
 
     // The name of a value, see IniText::nameOf().
@@ -76,9 +79,11 @@ private:
     [[nodiscard]] QByteArray usable(const QByteArray &content, const QByteArray &backup, bool mayWrite);
     void keepCopy(const QByteArray &content);
     void complainOnce(const QString &line);
+    void complainAlways(const QString &line);
 
     QString m_path;
     QString m_problem;
+    QString m_notice;
     Stamp m_stamp;
     bool m_wasRead = false;
     bool m_hasComplained = false;

@@ -52,11 +52,6 @@ Injector::~Injector() = default;
 
 bool Injector::eventFilter(QObject *receiver, QEvent *event)
 {
-    if (m_host) { // all that is seen now are the events of its window
-        if (event->type() == QEvent::Hide)
-            lookSoon();
-        return false;
-    }
     // A main window appears, or one that is shown gets its menus.
     const bool mayMatter = event->type() == QEvent::Show || event->type() == QEvent::ActionAdded;
     if (mayMatter && (qobject_cast<QMainWindow *>(receiver) || qobject_cast<QMenuBar *>(receiver)))
@@ -80,11 +75,6 @@ void Injector::look()
         return;
     m_variables->keep();
     QCoreApplication::instance()->removeEventFilter(this);
-    if (m_window) {
-        m_window->removeEventFilter(this);
-        disconnect(m_window, nullptr, this, nullptr);
-    }
-    m_host.reset();
     if (!GetHxSystemServices()) // a program may have a host of its own
         startHost(window);
     else
@@ -93,15 +83,12 @@ void Injector::look()
 
 QMainWindow *Injector::findWindow() const
 {
-    if (m_window && m_window->isVisible())
-        return nullptr; // it has what it needs
+    if (m_host)
+        return nullptr;
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget *widget : windows) {
         auto *window = qobject_cast<QMainWindow *>(widget);
-        // While the first window is only hidden, a window of another class, such as help, does not
-        // take its place.
-        const bool isOtherKind = window && m_window && m_window->metaObject() != window->metaObject();
-        if (window && window->isVisible() && gesturewidget::hasMenuBar(window) && !isOtherKind)
+        if (window && window->isVisible() && gesturewidget::hasMenuBar(window))
             return window;
     }
     return nullptr;
@@ -113,9 +100,7 @@ void Injector::startHost(QMainWindow *window)
         m_host = std::make_unique<GestureHost>(window, GestureHost::optionsForThisProgram());
         QString error;
         if (m_host->start(&error)) {
-            m_window = window;
-            window->installEventFilter(this);
-            connect(window, &QObject::destroyed, this, &Injector::onWindowGone);
+            follow(window);
             return;
         }
         report(qPrintable(error));
@@ -127,9 +112,18 @@ void Injector::startHost(QMainWindow *window)
     }
 }
 
+// The host has connected to the window before, so it knows first that the window is gone.
+void Injector::follow(QMainWindow *window)
+{
+    connect(window, &QObject::destroyed, this, &Injector::onWindowGone);
+}
+
 void Injector::onWindowGone()
 {
-    m_window.clear();
+    if (m_host && m_host->isRunning()) {
+        follow(m_host->mainWindow());
+        return;
+    }
     m_host.reset();
     QCoreApplication *application = QCoreApplication::instance();
     if (!application || QCoreApplication::closingDown())

@@ -6,7 +6,6 @@
 #include "host/inject/BorrowedVariables.h"
 
 #include <QObject>
-#include <QPointer>
 #include <QSocketNotifier>
 
 #include <memory>
@@ -21,9 +20,9 @@ QT_END_NAMESPACE
 
 namespace inject {
 
-// Waits for the program's main window, the first visible one with a menu bar, and gives it a host.
-// If that window is destroyed, or hidden while another one of its class is shown, the next one
-// gets the host. The application object owns this.
+// Waits for the program's main window, the first visible one with a menu bar, and starts a host,
+// which finds later windows itself. When the last window of the host is destroyed, the next main
+// window gets a new host. The application object owns this.
 class Injector : public QObject
 {
     Q_OBJECT
@@ -44,6 +43,7 @@ private:
     // Returns the main window for the host; null if there is none.
     [[nodiscard]] QMainWindow *findWindow() const;
     void startHost(QMainWindow *window);
+    void follow(QMainWindow *window);
     void onWindowGone();
     void explainProblem(const QString &text) const;
     // Ends the program when the process that asked for an explanation has closed its end.
@@ -52,7 +52,6 @@ private:
     void endProgram() const;
 
     std::unique_ptr<gesturewidget::GestureHost> m_host;
-    QPointer<QMainWindow> m_window; // that has it
     bool m_isLookQueued = false;
     std::unique_ptr<BorrowedVariables> m_variables;
     int m_explanation; // the socket, see host/files/ExplanationChannel.h; -1 for none

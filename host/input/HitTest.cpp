@@ -7,12 +7,33 @@
 
 #include <QApplication>
 #include <QWidget>
+#include <QWindow>
+
+#include <algorithm>
 
 namespace gesturewidget {
 namespace {
 
 constexpr Qt::KeyboardModifiers kKeys =
     Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+
+// True if a modal window keeps the input from `window`: any window if it is modal to the program, the
+// windows that it belongs to and those beside it otherwise. Null stands for any window.
+bool isBlocking(const QWindow &modal, const QWindow *window)
+{
+    if (!modal.isVisible() || modal.modality() == Qt::NonModal)
+        return false;
+    if (modal.modality() == Qt::ApplicationModal || !window)
+        return true;
+    for (const QWindow *blocked = &modal; blocked;
+         blocked = blocked->parent(QWindow::IncludeTransients)) {
+        for (const QWindow *above = window; above; above = above->parent(QWindow::IncludeTransients)) {
+            if (above == blocked)
+                return true;
+        }
+    }
+    return false;
+}
 
 } // namespace
 
@@ -37,7 +58,13 @@ CHxDocument *HitTest::GetDocument() const
 
 bool HitTest::IsModalWindowOpen() const
 {
-    return mayBeSuppressed() && QGuiApplication::modalWindow();
+    if (!mayBeSuppressed() || !QGuiApplication::modalWindow())
+        return false;
+    const QWidget *view = m_document ? m_document->view() : nullptr;
+    const QWindow *window = view ? view->window()->windowHandle() : nullptr;
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    return std::any_of(windows.begin(), windows.end(),
+                       [window](const QWindow *other) { return isBlocking(*other, window); });
 }
 
 bool HitTest::IsPopupOpen() const

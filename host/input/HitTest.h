@@ -38,7 +38,7 @@ public:
         Other, // a release, and whatever else a pointer does
     };
 
-    // What the event has to do with a gesture.
+    // The part that the event plays in a gesture.
     enum class Role {
         // It is not part of a gesture, and the program gets it. A trigger button that is held
         // belongs to the program, so it does not count as the button that starts gestures.

@@ -186,12 +186,16 @@ bool PointerFilter::holdPress(QWindow *window, const QMouseEvent &event)
         m_document = nullptr;
         return false;
     }
+    m_documents.activate(document); // while idle: the current window may still change
+    if (!document->isOpen()) {
+        m_document = nullptr;
+        return false;
+    }
     m_state = State::Holding;
     ++m_press;
     m_keysOfPress = m_keys;
     m_pressPosition = qtbridge::globalPosition(event);
     m_held.hold(window, event);
-    m_documents.activate(document);
     document->inputPoints().dispatch(hit);
     return true;
 }
@@ -316,6 +320,8 @@ void PointerFilter::endGesture(Qt::MouseButtons buttons)
     if (m_state != State::Gesturing)
         return;
     Document *document = m_document;
+    // With an overlay that was destroyed, a held button would look like the drag of a new gesture.
+    const bool isOverlayGone = m_overlayCame && !m_overlay;
     m_document = nullptr;
     m_overlay.clear();
     m_state = buttons == Qt::NoButton ? State::Idle : State::Swallowing;
@@ -325,7 +331,7 @@ void PointerFilter::endGesture(Qt::MouseButtons buttons)
                               HitTest::Role::GestureEnd,
                               view ? view->mapFromGlobal(global) : global,
                               Qt::NoButton,
-                              buttons,
+                              isOverlayGone ? Qt::MouseButtons(Qt::NoButton) : buttons,
                               QGuiApplication::keyboardModifiers()};
     HitTest hit(document, m_trigger, seen);
     const QPointer<QWidget> grabber = QWidget::mouseGrabber();

@@ -3,8 +3,8 @@
 
 #include "host/menus/MenuEntries.h"
 
+#include "host/menus/ModuleEntries.h"
 #include "host/menus/ToolsMenu.h"
-#include "host/menus/UiMenuItem.h"
 #include "host/window/MenuChanges.h"
 
 #include <algorithm>
@@ -13,76 +13,77 @@ namespace gesturewidget {
 namespace {
 
 // An entry is moved back at most this many times in this many milliseconds, in a menu that nobody
-// opens. Two programs that both want to be last must not keep each other busy for ever.
+// opens. Two programs that both want to be last must not keep each other busy forever.
 constexpr int kCorrections = 8;
 constexpr qint64 kCorrectionsPeriod = 1000;
 
 } // namespace
 
-MenuEntries::MenuEntries(MenuChanges &watcher, ToolsMenu &tools)
-    : m_watcher(watcher)
+MenuEntries::MenuEntries(ModuleEntries &entries, QWidget *window, MenuChanges &watcher, ToolsMenu &tools)
+    : m_entries(entries)
+    , m_window(window)
+    , m_watcher(watcher)
     , m_tools(tools)
 {
+    m_entries.addMenus(this);
 }
 
-MenuEntries::~MenuEntries() = default;
-
-UiMenuItem *MenuEntries::create(const QString &identifier, const QString &text, const QString &tip)
+MenuEntries::~MenuEntries()
 {
-    m_items.push_back(std::make_unique<UiMenuItem>(identifier, text, tip));
-    return m_items.back().get();
-}
-
-void MenuEntries::destroy(const CHxUIMenuItem *item)
-{
-    UiMenuItem *entry = entryOf(item);
-    if (!entry)
-        return;
-    remove(entry);
-    const auto isEntry = [entry](const auto &known) { return known.get() == entry; };
-    m_items.erase(std::find_if(m_items.begin(), m_items.end(), isEntry));
+    m_entries.removeMenus(this);
 }
 
 UiMenuItem *MenuEntries::entryOf(const CHxUIMenuItem *item) const
 {
-    const auto isItem = [item](const auto &known) { return known.get() == item; };
-    const auto found = std::find_if(m_items.begin(), m_items.end(), isItem);
-    return found == m_items.end() ? nullptr : found->get();
-}
-
-void MenuEntries::forgetCommand(const CHxUICommandItem *command)
-{
-    for (const auto &item : m_items) {
-        if (item->GetCommandItem() == command)
-            item->SetCommandItem(nullptr);
-    }
+    return m_entries.entryOf(item);
 }
 
 void MenuEntries::append(UiMenuItem *item, QWidget *place)
 {
     if (!place)
         return;
-    remove(item);
-    m_placed.push_back(item);
-    item->place = place;
-    item->isForTools = place == m_tools.find();
-    prepare(place);
+    if (place == m_tools.find()) {
+        m_entries.appendToTools(item);
+    } else {
+        m_entries.remove(item);
+        put(item, place, false);
+    }
+}
+
+void MenuEntries::remove(UiMenuItem *item, const QWidget *place)
+{
+    const auto isThere = [item, place](const Placed &placed) {
+        return placed.item == item && placed.place == place;
+    };
+    if (std::any_of(m_placed.begin(), m_placed.end(), isThere))
+        m_entries.remove(item);
+}
+
+void MenuEntries::putIntoTools(UiMenuItem *item)
+{
+    put(item, m_tools.findOrMake(), true);
+}
+
+void MenuEntries::put(UiMenuItem *item, QWidget *place, bool isForTools)
+{
+    std::unique_ptr<EntryAction> action = item->newAction();
+    connect(action.get(), &QAction::triggered, this,
+            [this, item] { m_entries.choose(*item, m_window); });
     m_isRestoring = true;
-    place->addAction(&item->action());
+    if (place) { // a window without a menu bar may get one
+        prepare(place);
+        place->addAction(action.get());
+    }
+    m_placed.push_back({item, std::move(action), place, isForTools});
     m_tools.updateVisibility();
     m_isRestoring = false;
 }
 
-void MenuEntries::remove(UiMenuItem *item)
+void MenuEntries::takeOut(const UiMenuItem *item)
 {
-    const auto found = std::find(m_placed.begin(), m_placed.end(), item);
-    if (found == m_placed.end())
-        return;
-    m_placed.erase(found);
     m_isRestoring = true;
-    if (item->place)
-        item->place->removeAction(&item->action());
-    item->place.clear();
+    const auto isItem = [item](const Placed &placed) { return placed.item == item; };
+    m_placed.erase(std::remove_if(m_placed.begin(), m_placed.end(), isItem), m_placed.end());
     m_tools.updateVisibility();
     m_isRestoring = false;
 }
@@ -103,13 +104,13 @@ void MenuEntries::restore()
         return;
     m_isRestoring = true;
     QHash<QWidget *, QVector<QAction *>> byPlace;
-    for (UiMenuItem *item : m_placed) {
-        QWidget *place = item->isForTools ? m_tools.findOrMake() : item->place.data();
-        if (place != item->place && item->place)
-            item->place->removeAction(&item->action());
-        item->place = place;
+    for (Placed &placed : m_placed) {
+        QWidget *place = placed.isForTools ? m_tools.findOrMake() : placed.place.data();
+        if (place != placed.place && placed.place)
+            placed.place->removeAction(placed.action.get());
+        placed.place = place;
         if (place)
-            byPlace[place].append(&item->action());
+            byPlace[place].append(placed.action.get());
     }
     for (auto it = byPlace.cbegin(); it != byPlace.cend(); ++it)
         restoreIn(it.key(), it.value());

@@ -35,14 +35,22 @@ QString menuIdentifier(const QAction &action)
 
 } // namespace
 
-MenuMirror::MenuMirror(CommandCatalogue &catalogue, ToolsMenu &tools, MenuEntries &entries)
+MenuMirror::MenuMirror(CommandCatalogue &catalogue, MenuChanges &watcher, ToolsMenu &tools,
+                       MenuEntries &entries)
     : m_catalogue(catalogue)
+    , m_watcher(watcher)
     , m_tools(tools)
     , m_entries(entries)
     , m_nothing(*this, nullptr)
 {
-    connect(&m_catalogue, &CommandCatalogue::menusChanged, this, &MenuMirror::invalidate);
-    connect(&m_catalogue, &CommandCatalogue::prepared, this, &MenuMirror::prepare);
+    connect(&m_catalogue, &CommandCatalogue::menusChanged, this, [this](const QObject *changed) {
+        if (changed == &m_watcher)
+            invalidate();
+    });
+    connect(&m_catalogue, &CommandCatalogue::prepared, this, [this] {
+        if (&m_catalogue.watcher() == &m_watcher)
+            prepare();
+    });
 }
 
 MenuMirror::~MenuMirror() = default;
@@ -146,7 +154,7 @@ void MenuMirror::clean()
     if (m_cleanGeneration == m_generation)
         return;
     m_cleanGeneration = m_generation;
-    m_menuBars = m_catalogue.watcher().menuBars();
+    m_menuBars = m_watcher.menuBars();
     m_items.retireGone();
     m_collections.retireGone();
     m_menus.retireGone();

@@ -22,18 +22,21 @@ class QWidget;
 namespace gesturewidget {
 
 class CommandCatalogue;
+class MenuChanges;
 class MenuEntries;
 class ToolsMenu;
 
-// The program's menu bars, menus and actions as the objects that modules see. They are made when
-// somebody asks, and again some time after the menus have changed, so that a gesture does not have
+// The menu bars, menus and actions of one main window as the objects that modules see. They are made
+// when somebody asks, and again some time after the menus have changed, so that a gesture does not have
 // to wait. The object of a menu or action that is gone stays, empty, until the event loop runs.
 class MenuMirror : public QObject
 {
     Q_OBJECT
 
 public:
-    MenuMirror(CommandCatalogue &catalogue, ToolsMenu &tools, MenuEntries &entries);
+    // `watcher` is the catalogue's of the window whose menus these are.
+    MenuMirror(CommandCatalogue &catalogue, MenuChanges &watcher, ToolsMenu &tools,
+               MenuEntries &entries);
     ~MenuMirror() override;
 
     // Returns the window's menu bars, its own one first.
@@ -60,6 +63,7 @@ private:
     void clean();
 
     CommandCatalogue &m_catalogue;
+    MenuChanges &m_watcher;
     ToolsMenu &m_tools;
     MenuEntries &m_entries;
     int m_generation = 0;

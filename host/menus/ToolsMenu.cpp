@@ -4,6 +4,7 @@
 #include "host/menus/ToolsMenu.h"
 
 #include "host/captions/KnownCaptions.h"
+#include "host/menus/MenuLanguage.h"
 #include "host/window/Captions.h"
 #include "host/window/MenuChanges.h"
 
@@ -32,34 +33,19 @@ bool hasRole(const QMenu &menu, const QString &role, const QVector<KnownCaptions
     });
 }
 
-// How many of the bar's menus bear a caption of that language.
-int captionsIn(const QMenuBar &bar, const KnownCaptions &language)
-{
-    int count = 0;
-    const QList<QAction *> actions = bar.actions();
-    for (const QAction *action : actions) {
-        const QString caption = menuRole(plainCaption(action->text()));
-        const auto &menus = language.menus;
-        count += std::any_of(menus.begin(), menus.end(),
-                             [&caption](const QStringList &known) { return known.contains(caption); })
-                   ? 1
-                   : 0;
-    }
-    return count;
-}
-
-// "Tools" in the language of the bar's menus; of equals the first language known.
+// "Tools" in the language of the bar's menus, or in the host's language if none of them is known.
 QString toolsCaption(const QMenuBar &bar)
 {
-    const QVector<KnownCaptions> &languages = KnownCaptions::languages();
-    const KnownCaptions *best = &languages.first();
-    for (const KnownCaptions &language : languages) {
-        if (captionsIn(bar, language) > captionsIn(bar, *best))
-            best = &language;
-    }
-    if (best == &languages.first())
+    const MenuLanguage menus = MenuLanguage::of(bar);
+    if (menus.count == 0)
         return QCoreApplication::translate("host", "&Tools");
-    QString caption = best->menus.value(QStringLiteral("tools")).value(0);
+    if (menus.code == QLatin1String("en"))
+        return QStringLiteral("&Tools");
+    QString caption;
+    for (const KnownCaptions &language : KnownCaptions::languages()) {
+        if (language.language == menus.code)
+            caption = language.menus.value(QStringLiteral("tools")).value(0);
+    }
     caption[0] = caption.at(0).toUpper();
     return caption;
 }

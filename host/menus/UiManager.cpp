@@ -10,20 +10,46 @@
 
 namespace gesturewidget {
 
-UiManager::UiManager(CommandCatalogue &catalogue, const QString &toolsMenu, Runner runner)
+UiManager::UiManager(CommandCatalogue &catalogue, const QString &toolsMenu, Runner runner,
+                     QWidget *window)
     : m_catalogue(catalogue)
     , m_runner(std::move(runner))
-    , m_tools(catalogue.watcher(), toolsMenu)
-    , m_entries(catalogue.watcher(), m_tools)
-    , m_mirror(catalogue, m_tools, m_entries)
-    , m_menuBars(m_mirror)
-    , m_workspace(m_mirror, m_tools)
+    , m_toolsMenu(toolsMenu)
+    , m_entries([this](const UiMenuItem &item, QWidget *where) { onChosen(item, where); })
+    , m_menuBars(*this)
+    , m_workspace(*this)
 {
-    QObject::connect(&m_catalogue, &CommandCatalogue::menusChanged, &m_entries,
-                     &MenuEntries::restoreLater);
+    addWindow(window);
+    m_current = m_windows.front().get();
 }
 
 UiManager::~UiManager() = default;
+
+void UiManager::addWindow(QWidget *window)
+{
+    m_windows.push_back(std::make_unique<WindowMenus>(window, m_catalogue, m_catalogue.watcherOf(window),
+                                                      m_entries, m_toolsMenu));
+}
+
+void UiManager::setCurrentWindow(const QWidget *window)
+{
+    for (const auto &known : m_windows) {
+        if (known->window == window)
+            m_current = known.get();
+    }
+}
+
+void UiManager::removeWindow(const QWidget *window)
+{
+    const auto isWindow = [window](const auto &known) { return known->window == window; };
+    const auto found = std::find_if(m_windows.begin(), m_windows.end(), isWindow);
+    if (found == m_windows.end() || found->get() == m_current)
+        return;
+    m_removed.push_back(std::move(*found));
+    m_windows.erase(found);
+    QMetaObject::invokeMethod(
+        &m_context, [this] { m_removed.clear(); }, Qt::QueuedConnection);
+}
 
 std::unique_ptr<CHxIterator<CHxUIWorkspace>> UiManager::NewWorkspaceIterator()
 {
@@ -34,9 +60,9 @@ std::unique_ptr<CHxIterator<CHxUIWorkspace>> UiManager::NewWorkspaceIterator()
 std::unique_ptr<CHxIterator<CHxUIMenu>> UiManager::NewMenuIterator()
 {
     std::vector<CHxUIMenu *> menus;
-    const QVector<QMenuBar *> bars = m_mirror.menuBars();
+    const QVector<QMenuBar *> bars = m_current->mirror.menuBars();
     for (QMenuBar *bar : bars)
-        menus.push_back(m_mirror.menuOf(bar));
+        menus.push_back(m_current->mirror.menuOf(bar));
     return std::make_unique<SnapshotIterator<CHxUIMenu>>(std::move(menus));
 }
 
@@ -78,10 +104,7 @@ void UiManager::RemoveCommandItem(CHxUICommandItem *item)
 CHxUIMenuItem *UiManager::CreateMenuItem(int, const CHxString &identifier, const CHxString &text,
                                          const CHxString &tip)
 {
-    UiMenuItem *item = m_entries.create(identifier.toQString(), text.toQString(), tip.toQString());
-    QObject::connect(&item->action(), &QAction::triggered, &item->action(),
-                     [this, item] { onTriggered(*item); });
-    return item;
+    return m_entries.create(identifier.toQString(), text.toQString(), tip.toQString());
 }
 
 void UiManager::DestroyMenuItem(CHxUIMenuItem *item)
@@ -93,8 +116,10 @@ void UiManager::Refresh(bool rebuild)
 {
     if (rebuild)
         m_catalogue.invalidate();
-    m_mirror.invalidate();
-    m_entries.restore();
+    for (const auto &window : m_windows) {
+        window->mirror.invalidate();
+        window->entries.restore();
+    }
 }
 
 std::vector<CHxUICommandItem *> UiManager::moduleCommands() const
@@ -105,11 +130,11 @@ std::vector<CHxUICommandItem *> UiManager::moduleCommands() const
     return commands;
 }
 
-void UiManager::onTriggered(const UiMenuItem &item)
+void UiManager::onChosen(const UiMenuItem &item, QWidget *window) const
 {
     const CHxUICommandItem *command = item.GetCommandItem();
     if (command && !command->GetCommandString().isEmpty())
-        m_runner(command->GetCommandString().toQString());
+        m_runner(command->GetCommandString().toQString(), window);
 }
 
 } // namespace gesturewidget

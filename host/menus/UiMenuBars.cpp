@@ -3,12 +3,12 @@
 
 #include "host/menus/UiMenuBars.h"
 
-#include "host/menus/MenuMirror.h"
+#include "host/menus/UiManager.h"
 
 namespace gesturewidget {
 
-UiMenuBars::UiMenuBars(MenuMirror &mirror)
-    : m_mirror(mirror)
+UiMenuBars::UiMenuBars(UiManager &manager)
+    : m_manager(manager)
 {
 }
 
@@ -16,13 +16,13 @@ UiMenuBars::~UiMenuBars() = default;
 
 int UiMenuBars::GetCount() const
 {
-    return static_cast<int>(m_mirror.menuBars().size());
+    return static_cast<int>(m_manager.menus().mirror.menuBars().size());
 }
 
 CHxUIMenuItem *UiMenuBars::GetItem(int index) const
 {
-    return index >= 0 && index < GetCount() ? m_mirror.barItemOf(m_mirror.menuBars().at(index))
-                                            : nullptr;
+    MenuMirror &mirror = m_manager.menus().mirror;
+    return index >= 0 && index < GetCount() ? mirror.barItemOf(mirror.menuBars().at(index)) : nullptr;
 }
 
 } // namespace gesturewidget

@@ -7,13 +7,13 @@
 
 namespace gesturewidget {
 
-class MenuMirror;
+class UiManager;
 
-// The window's menu bars, one entry each. Nothing can be added or removed.
+// The current window's menu bars, one entry each. Nothing can be added or removed.
 class UiMenuBars : public CHxUIMenuItemCollection
 {
 public:
-    explicit UiMenuBars(MenuMirror &mirror);
+    explicit UiMenuBars(UiManager &manager);
     ~UiMenuBars() override;
 
     [[nodiscard]] int GetCount() const override;
@@ -22,7 +22,7 @@ public:
     void Remove(CHxUIMenuItem *) override { }
 
 private:
-    MenuMirror &m_mirror;
+    UiManager &m_manager;
 };
 
 } // namespace gesturewidget

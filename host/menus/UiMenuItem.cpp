@@ -10,10 +10,9 @@ namespace gesturewidget {
 UiMenuItem::UiMenuItem(const QString &identifier, const QString &text, const QString &tip)
     : m_identifier(identifier)
     , m_tip(tip)
-    , m_action(this)
 {
-    m_action.setText(text);
-    m_action.setStatusTip(tip);
+    m_texts.setText(text);
+    m_texts.setStatusTip(tip);
 }
 
 UiMenuItem::~UiMenuItem() = default;
@@ -21,7 +20,22 @@ UiMenuItem::~UiMenuItem() = default;
 void UiMenuItem::SetCommandItem(CHxUICommandItem *item)
 {
     m_command = item;
-    m_action.setStatusTip(item && m_tip.isEmpty() ? item->GetTip().toQString() : m_tip);
+    m_texts.setStatusTip(item && m_tip.isEmpty() ? item->GetTip().toQString() : m_tip);
+}
+
+std::unique_ptr<EntryAction> UiMenuItem::newAction()
+{
+    auto action = std::make_unique<EntryAction>(this);
+    copyTexts(action.get());
+    QObject::connect(&m_texts, &QAction::changed, action.get(),
+                     [this, shown = action.get()] { copyTexts(shown); });
+    return action;
+}
+
+void UiMenuItem::copyTexts(EntryAction *action) const
+{
+    action->setText(m_texts.text());
+    action->setStatusTip(m_texts.statusTip());
 }
 
 } // namespace gesturewidget

@@ -6,13 +6,15 @@
 #include "host/window/EntryAction.h"
 #include "sdk/chx/CHxUIMenuItem.h"
 
-#include <QPointer>
+#include <QAction>
 #include <QString>
-#include <QWidget>
+
+#include <memory>
 
 namespace gesturewidget {
 
-// A menu entry of a module. The user-interface manager owns it.
+// A menu entry of a module. Each menu that shows it has an action of its own for it. The
+// user-interface manager owns it.
 class UiMenuItem : public CHxUIMenuItem
 {
 public:
@@ -20,24 +22,22 @@ public:
     ~UiMenuItem() override;
 
     [[nodiscard]] CHxString GetIdentifier() const override { return m_identifier; }
-    [[nodiscard]] CHxString GetText() const override { return m_action.text(); }
-    void SetText(const CHxString &text) override { m_action.setText(text.toQString()); }
+    [[nodiscard]] CHxString GetText() const override { return m_texts.text(); }
+    void SetText(const CHxString &text) override { m_texts.setText(text.toQString()); }
     [[nodiscard]] CHxUICommandItem *GetCommandItem() const override { return m_command; }
     // The entry shows the command's tip in the status bar, unless it has a tip of its own.
     void SetCommandItem(CHxUICommandItem *item) override;
     [[nodiscard]] CHxUIMenuItemCollection *GetSubItems() const override { return nullptr; }
 
-    [[nodiscard]] EntryAction &action() { return m_action; }
-
-    // The menu or menu bar that contains it; null if none does.
-    QPointer<QWidget> place;
-    // True if it belongs to the Tools menu. Which menu that is may change.
-    bool isForTools = false;
+    // Returns an action that shows the entry's texts, also after they have changed.
+    [[nodiscard]] std::unique_ptr<EntryAction> newAction();
 
 private:
+    void copyTexts(EntryAction *action) const;
+
     QString m_identifier;
     QString m_tip;
-    EntryAction m_action;
+    QAction m_texts; // is in no menu
     CHxUICommandItem *m_command = nullptr;
 };
 

@@ -36,8 +36,8 @@ void UiMenuItemCollection::Append(CHxUIMenuItem *item)
 void UiMenuItemCollection::Remove(CHxUIMenuItem *item)
 {
     UiMenuItem *entry = m_mirror.entries().entryOf(item);
-    if (entry && m_place && entry->place == m_place)
-        m_mirror.entries().remove(entry);
+    if (entry && m_place)
+        m_mirror.entries().remove(entry, m_place);
 }
 
 const std::vector<CHxUIMenuItem *> &UiMenuItemCollection::items() const

@@ -3,14 +3,12 @@
 
 #include "host/menus/UiWorkspace.h"
 
-#include "host/menus/MenuMirror.h"
-#include "host/menus/ToolsMenu.h"
+#include "host/menus/UiManager.h"
 
 namespace gesturewidget {
 
-UiWorkspace::UiWorkspace(MenuMirror &mirror, ToolsMenu &tools)
-    : m_mirror(mirror)
-    , m_tools(tools)
+UiWorkspace::UiWorkspace(UiManager &manager)
+    : m_manager(manager)
 {
 }
 
@@ -25,10 +23,11 @@ CHxUIMenuItemCollection *UiWorkspace::GetMenuItems()
 {
     // Do not make a Tools menu before somebody asks: the program may still be building its menus
     // and add its own.
-    const QVector<QMenuBar *> &bars = m_mirror.menuBars();
+    WindowMenus &menus = m_manager.menus();
+    const QVector<QMenuBar *> &bars = menus.mirror.menuBars();
     if (!bars.isEmpty())
-        static_cast<void>(m_tools.findOrMake());
-    return m_mirror.itemsOf(bars.isEmpty() ? nullptr : bars.first());
+        static_cast<void>(menus.tools.findOrMake());
+    return menus.mirror.itemsOf(bars.isEmpty() ? nullptr : bars.first());
 }
 
 } // namespace gesturewidget

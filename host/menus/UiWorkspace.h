@@ -8,14 +8,13 @@
 
 namespace gesturewidget {
 
-class MenuMirror;
-class ToolsMenu;
+class UiManager;
 
-// The program's only workspace: the menus on screen.
+// The program's only workspace: the menus of the current window.
 class UiWorkspace : public CHxUIWorkspace
 {
 public:
-    UiWorkspace(MenuMirror &mirror, ToolsMenu &tools);
+    explicit UiWorkspace(UiManager &manager);
     ~UiWorkspace() override;
 
     // "Default".
@@ -26,8 +25,7 @@ public:
     [[nodiscard]] CHxUIMenuItemCollection *GetMenuItems() override;
 
 private:
-    MenuMirror &m_mirror;
-    ToolsMenu &m_tools;
+    UiManager &m_manager;
     UiCommandItemCollection m_commands;
 };
 

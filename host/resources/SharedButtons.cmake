@@ -7,7 +7,7 @@
 # The images are in a separate resource file, and the library embeds that file as a whole. So the
 # images appear only when the host registers the file, see SharedButtons.cpp.
 add_executable(gesturewidget_drawbuttons resources/DrawButtons.cpp)
-gesturewidget_defaults(gesturewidget_drawbuttons)
+gesturewidget_defaults(gesturewidget_drawbuttons WITHOUT_WIDGETS)
 target_link_libraries(gesturewidget_drawbuttons PRIVATE Qt${GESTUREWIDGET_QT}::Gui)
 
 set(buttons "${CMAKE_CURRENT_BINARY_DIR}/buttons")

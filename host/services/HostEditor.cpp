@@ -39,6 +39,12 @@ void HostEditor::notifyMainFrameCreated(QWidget *frame)
     tellUninformed();
 }
 
+void HostEditor::setMainFrame(QWidget *frame)
+{
+    if (m_frameCreated)
+        m_frame = frame;
+}
+
 void HostEditor::notifyMainFrameDestroyed(QWidget *frame)
 {
     m_frameCreated = false;

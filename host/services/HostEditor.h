@@ -16,8 +16,9 @@ class CHxEditorReactor;
 
 namespace gesturewidget {
 
-// Tells its reactors about the main window. A CHxEditorReactor that is added after the window
-// appeared is told from the event loop, so that its owner can finish adding it.
+// Tells its reactors about the main frame: when the first main window is there, and when the last one
+// goes. A CHxEditorReactor that is added after the window appeared is told from the event loop, so that
+// its owner can finish adding it.
 class HostEditor : public OdStaticRxObject<OdEditor>
 {
 public:
@@ -30,6 +31,8 @@ public:
     // Call this when the main window's menus are complete. A second call before
     // notifyMainFrameDestroyed() has no effect.
     void notifyMainFrameCreated(QWidget *frame);
+    // Another main window is the current one. Reactors that are added later are told about it.
+    void setMainFrame(QWidget *frame);
     // Call this when the main window goes away. `frame` may be half destroyed and is only passed
     // on. Reactors that were never told about the window are not told now.
     void notifyMainFrameDestroyed(QWidget *frame);

@@ -10,13 +10,16 @@
 
 namespace gesturewidget {
 
-// The program's main window as the host's main frame.
+// The program's current main window as the host's main frame.
 class MainFrame : public CHxMainFrame
 {
 public:
     // Not owned; may go away before this.
     explicit MainFrame(QMainWindow *window);
     ~MainFrame() override;
+
+    // Not owned; may be null.
+    void setWindow(QWidget *window) { m_window = window; }
 
     [[nodiscard]] QWidget *GetMainWindow() const override { return m_window; }
 

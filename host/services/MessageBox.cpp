@@ -5,6 +5,8 @@
 
 #include "sdk/chx/CHxSystemServices.h"
 
+#include <QAbstractButton>
+#include <QCoreApplication>
 #include <QMessageBox>
 #include <QPointer>
 
@@ -27,6 +29,15 @@ QMessageBox::Icon signOf(int style)
     }
 }
 
+// The style's texts are in Qt's own translation, which few programs load.
+void translateButton(const QMessageBox &box, QMessageBox::StandardButton which, const char *english)
+{
+    QAbstractButton *button = box.button(which);
+    const QString text = QCoreApplication::translate("host", english);
+    if (button && text != QLatin1String(english))
+        button->setText(text);
+}
+
 } // namespace
 
 int showMessage(QWidget *parent, const QString &text, const QString &caption, int style)
@@ -38,6 +49,8 @@ int showMessage(QWidget *parent, const QString &text, const QString &caption, in
     box->setText(text);
     box->setWindowTitle(caption);
     box->setStandardButtons(hasCancel ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok);
+    translateButton(*box, QMessageBox::Ok, QT_TRANSLATE_NOOP("host", "OK"));
+    translateButton(*box, QMessageBox::Cancel, QT_TRANSLATE_NOOP("host", "Cancel"));
     box->setDefaultButton(QMessageBox::Ok);
     const int answer = box->exec();
     delete box;

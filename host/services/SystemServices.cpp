@@ -17,12 +17,12 @@
 #include "host/services/MessageBox.h"
 #include "host/services/ProfileStore.h"
 #include "host/services/SharedButtons.h"
+#include "host/window/MainWindows.h"
 #include "host/window/TextOutput.h"
 
 #include <QApplication>
 #include <QFileInfo>
 #include <QMainWindow>
-#include <QPointer>
 
 namespace gesturewidget {
 namespace {
@@ -37,19 +37,33 @@ class SystemServices::Private
 public:
     Private(QMainWindow *mainWindow, const ProgramProfile &profile, CHxDocumentManager *documentManager,
             const QString &settingsFile, const HelpGuide &helpGuide)
-        : window(mainWindow)
+        : windows(mainWindow)
         , documents(documentManager)
         , textOutput(mainWindow)
         , profileStore(settingsFile)
         , catalogue(mainWindow, profile.wellKnownCommands)
-        , runner(stack, catalogue, textOutput, documentManager)
-        , uiManager(catalogue, profile.toolsMenu,
-                    [this](const QString &macro) { runner.run(macro, false); })
+        , runner(stack, catalogue, textOutput, documentManager, &windows)
+        , uiManager(
+              catalogue, profile.toolsMenu,
+              [this](const QString &macro, QWidget *window) { runIn(window, macro); }, mainWindow)
         , commandManager(catalogue, uiManager)
         , commandLine(profile.commandLineClass, stack,
                       [this](const QString &name) { runner.runStackCommand(name); })
         , guide(helpGuide)
     {
+        QObject::connect(&windows, &MainWindows::added, &windows, [this](QMainWindow *window) {
+            catalogue.addWindow(window);
+            uiManager.addWindow(window);
+        });
+        QObject::connect(&windows, &MainWindows::currentChanged, &windows, [this] {
+            textOutput.setWindow(windows.current());
+            catalogue.setCurrentWindow(windows.current());
+            uiManager.setCurrentWindow(windows.current());
+        });
+        QObject::connect(&windows, &MainWindows::removed, &windows, [this](const QWidget *window) {
+            uiManager.removeWindow(window);
+            catalogue.removeWindow(window);
+        });
         if (!mainWindow)
             return; // without a program, nothing can be expected
         memory = std::make_unique<CatalogueMemory>(catalogue, catalogueFileBeside(settingsFile));
@@ -69,7 +83,13 @@ public:
             });
     }
 
-    QPointer<QWidget> window; // while it is being destroyed it is no QMainWindow any more
+    void runIn(QWidget *window, const QString &macro)
+    {
+        windows.makeCurrent(window);
+        runner.run(macro, false);
+    }
+
+    MainWindows windows;
     CHxDocumentManager *documents;
     CHxApplication *application = nullptr;
     CHxMainFrame *mainFrame = nullptr;
@@ -95,6 +115,11 @@ SystemServices::SystemServices(QMainWindow *window, const ProgramProfile &profil
 }
 
 SystemServices::~SystemServices() = default;
+
+MainWindows &SystemServices::windows()
+{
+    return m_d->windows;
+}
 
 CommandStack &SystemServices::commandStack()
 {
@@ -190,7 +215,7 @@ CHxCommandResultPtr SystemServices::RunCommand(const CHxString &command, bool wa
 
 bool SystemServices::UsesLargeIcons() const
 {
-    const auto *window = qobject_cast<const QMainWindow *>(m_d->window.data());
+    const auto *window = qobject_cast<const QMainWindow *>(m_d->windows.current());
     return window && window->iconSize().height() >= kLargeIcon;
 }
 
@@ -203,7 +228,7 @@ CHxString SystemServices::GetApplicationName() const
 int SystemServices::ShowMessage(const CHxString &text, const CHxString &caption, int style)
 {
     QWidget *dialog = QApplication::activeModalWidget();
-    return showMessage(dialog ? dialog : m_d->window.data(), text.toQString(), caption.toQString(),
+    return showMessage(dialog ? dialog : m_d->windows.current(), text.toQString(), caption.toQString(),
                        style);
 }
 

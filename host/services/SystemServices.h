@@ -17,28 +17,32 @@ namespace gesturewidget {
 class CommandCatalogue;
 class CommandStack;
 class HostEditor;
+class MainWindows;
 class ToolsMenu;
 struct ProgramProfile;
 
-// Implements everything that a module can ask its host for, over one main window. Owns all of it
-// except the documents, the application and the main frame.
+// Implements everything that a module can ask its host for, over the program's main windows: all
+// answers are about the current one. Owns all of it except the documents, the application and the
+// main frame.
 //
 //     gesturewidget::SystemServices services(window, profile, &documents, settingsFile);
 //     odedSetCommandStack(&services.commandStack());
 //     odedSetEditor(&services.editor());
 //     SetHxSystemServices(&services);
 //
-// The caller that sets these must reset them before this object is destroyed. The window may be
+// The caller that sets these must reset them before this object is destroyed. The windows may be
 // destroyed first.
 class SystemServices : public CHxSystemServices
 {
 public:
-    // `documents` may be null and must outlive this. `settingsFile` is the program's own INI file,
-    // see ProfileStore; the commands are kept beside it. `guide` is what ShowHelp() opens.
+    // `window` is the first window; more can be added to windows(). `documents` may be null and must
+    // outlive this. `settingsFile` is the program's own INI file, see ProfileStore; the commands are
+    // kept beside it. `guide` is what ShowHelp() opens.
     SystemServices(QMainWindow *window, const ProgramProfile &profile, CHxDocumentManager *documents,
                    const QString &settingsFile, const HelpGuide &guide = HelpGuide());
     ~SystemServices() override;
 
+    [[nodiscard]] MainWindows &windows();
     [[nodiscard]] CommandStack &commandStack();
     [[nodiscard]] HostEditor &editor();
     [[nodiscard]] CommandCatalogue &catalogue();
@@ -64,7 +68,7 @@ public:
 
     CHxCommandResultPtr RunCommand(const CHxString &command, bool wait) override;
 
-    // True if the main window's icons are 32 pixels high or more.
+    // True if the current window's icons are 32 pixels high or more.
     [[nodiscard]] bool UsesLargeIcons() const override;
     [[nodiscard]] CHxString GetApplicationName() const override;
 

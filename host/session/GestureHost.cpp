@@ -60,6 +60,11 @@ bool GestureHost::isRunning() const
     return m_session->isRunning();
 }
 
+QMainWindow *GestureHost::mainWindow() const
+{
+    return m_session->mainWindow();
+}
+
 void GestureHost::addView(QWidget *view)
 {
     m_session->addView(view);

@@ -90,6 +90,10 @@ public:
     // True between a successful start() and stop().
     [[nodiscard]] bool isRunning() const;
 
+    // Returns the main window in which the person works at the moment; null while the host does not
+    // run.
+    [[nodiscard]] QMainWindow *mainWindow() const;
+
     // Makes `view` a drawing view: a drag that begins in it can become a gesture. The caller
     // keeps the ownership. For a scroll area its viewport counts. May be called before and after
     // start(), and more than once for a view; null is ignored.

@@ -8,16 +8,17 @@
 #include "host/files/Complaint.h"
 #include "host/files/ProgramProfile.h"
 #include "host/files/SettingsNames.h"
+#include "host/menus/ProgramLanguage.h"
 #include "host/services/HostEditor.h"
 #include "host/services/SystemServices.h"
 #include "host/session/ExplainedProgram.h"
-#include "host/window/MenuBars.h"
+#include "host/window/MainWindows.h"
 #include "sdk/chx/CHxProfileStore.h"
 #include "sdk/od/OdEdCommandStack.h"
 #include "sdk/od/OdEditor.h"
 
 #include <QApplication>
-#include <QEvent>
+#include <QLocale>
 #include <QTimer>
 
 #include <algorithm>
@@ -37,7 +38,7 @@ HostSession *firstStarted = nullptr;
 
 HostSession::HostSession(QMainWindow *window, const GestureHost::Options &options)
     : m_options(options)
-    , m_window(window)
+    , m_firstWindow(window)
     , m_mainFrame(window)
     , m_menuReadiness(window)
 {
@@ -59,7 +60,7 @@ bool HostSession::start(QString *error)
     QString *reason = error ? error : &why;
     if (m_isRunning)
         return true;
-    auto *window = qobject_cast<QMainWindow *>(m_window.data());
+    auto *window = qobject_cast<QMainWindow *>(m_firstWindow.data());
     if (m_wasStarted || running || !window || !qobject_cast<QApplication *>(qApp)) {
         *reason = m_wasStarted ? QStringLiteral("a host that was stopped cannot start again")
                 : running      ? QStringLiteral("this program has a host already")
@@ -92,27 +93,24 @@ bool HostSession::start(QString *error)
     m_triggerChoice = std::make_unique<TriggerChoice>(profile, m_services->GetProfileStore());
     m_pointerFilter = std::make_unique<PointerFilter>(
         m_documents, m_triggerChoice->trigger(),
-        [this](const QWidget *view) { return isOfThisWindow(view) && gesturesAreEnabled(); });
+        [this](const QWidget *view) { return hasItsCommands(view) && gesturesAreEnabled(); });
     m_viewFinder =
         std::make_unique<ViewFinder>(profile.viewClasses, m_options.guesses && m_addedViews.isEmpty());
     connect(m_viewFinder.get(), &ViewFinder::viewFound, this, &HostSession::openView);
-    connect(&m_menuReadiness, &MenuReadiness::settled, this, [this] {
-        m_menusHaveSettled = true;
-        m_services->startRemembering();
-        m_services->editor().notifyMainFrameCreated(m_window);
-        waitForAllMenus();
-    });
-    if (const int listener = explanationListener(); listener >= 0) {
-        m_explanation = std::make_unique<Explanation>(listener, window, profile, *m_services);
-        connect(&m_menuReadiness, &MenuReadiness::settled, m_explanation.get(),
-                &Explanation::menusSettled);
-        explainTrigger();
-    }
-    connect(m_window, &QObject::destroyed, this, &HostSession::stopWithoutWindow);
+    m_windowFinder = std::make_unique<WindowFinder>(
+        m_services->windows(), [this](const QWidget *shown) { return hasDrawing(shown); });
+    connectWindows();
+    if (const int listener = explanationListener(); listener >= 0)
+        m_explanation = std::make_unique<Explanation>(listener, profile, *m_services);
+    explainTrigger();
     connect(qApp, &QCoreApplication::aboutToQuit, this, &HostSession::finish);
-    m_window->installEventFilter(this);
 
-    if (!m_loader.load(m_options.moduleFile, reason) || !m_loader.initialize(reason)) {
+    bool isLoaded = m_loader.load(m_options.moduleFile, reason);
+    // Here the module's library has brought its texts, and has shown none of them yet.
+    m_translations.install(
+        programLanguage(window, QLocale::system().uiLanguages(), Translations::languages()));
+    isLoaded = isLoaded && m_loader.initialize(reason);
+    if (!isLoaded) {
         stop();
         return false;
     }
@@ -121,9 +119,54 @@ bool HostSession::start(QString *error)
             openView(ViewFinder::pointerWidget(view));
     }
     m_viewFinder->start();
+    m_windowFinder->start();
     qApp->installEventFilter(m_pointerFilter.get());
     m_menuReadiness.start();
     return true;
+}
+
+void HostSession::connectWindows()
+{
+    MainWindows &windows = m_services->windows();
+    windows.setBusy([this] {
+        const PointerFilter::State state = m_pointerFilter->state();
+        return state == PointerFilter::State::Holding || state == PointerFilter::State::Gesturing;
+    });
+    connect(&m_documents, &DocumentManager::documentUsed, &windows,
+            [&windows](Document *document) { windows.makeCurrent(windows.ownerOf(document->view())); });
+    connect(&windows, &MainWindows::currentChanged, this, [this, &windows] {
+        m_mainFrame.setWindow(windows.current());
+        m_services->editor().setMainFrame(windows.current());
+        // A macro acts on the drawing of the window in which it was chosen.
+        Document *last = nullptr;
+        for (Document *document : m_documents.openDocuments()) {
+            if (windows.current() && windows.ownerOf(document->view()) == windows.current())
+                last = document;
+        }
+        m_documents.activate(last);
+    });
+    connect(&windows, &MainWindows::lastLeaves, this, [this](bool isComplete) {
+        if (isComplete)
+            stop();
+        else
+            stopWithoutWindow();
+    });
+    // Whichever of the windows is complete first.
+    connect(&m_menuReadiness, &MenuReadiness::settled, this, &HostSession::onMenusSettled);
+    connect(&windows, &MainWindows::added, this, &HostSession::onMenusSettled);
+}
+
+void HostSession::onMenusSettled()
+{
+    if (m_menusHaveSettled || !m_isRunning)
+        return;
+    m_menusHaveSettled = true;
+    m_menuReadiness.stop();
+    m_services->startRemembering();
+    m_services->editor().notifyMainFrameCreated(m_services->windows().current());
+    waitForAllMenus();
+    if (m_explanation)
+        m_explanation->menusSettled();
 }
 
 void HostSession::stop()
@@ -136,20 +179,21 @@ void HostSession::stop()
     m_menuReadiness.stop();
     m_services->stopRemembering();
     m_viewFinder->stop();
+    m_windowFinder->stop();
     m_pointerFilter->cancel();
     if (qApp)
         qApp->removeEventFilter(m_pointerFilter.get());
-    if (m_window)
-        m_window->removeEventFilter(this);
 
     if (m_windowIsGone)
         SetHxSystemServices(nullptr);
-    m_services->editor().notifyMainFrameDestroyed(m_windowIsGone ? nullptr : m_window.data());
+    QWidget *window = m_services->windows().current();
+    m_services->editor().notifyMainFrameDestroyed(m_windowIsGone ? nullptr : window);
     m_loader.uninitialize();
     m_documents.dropReactors();
     odedSetEditor(nullptr);
     odedSetCommandStack(nullptr);
     SetHxSystemServices(nullptr);
+    m_translations.remove(); // the module has found its menu entry by a translated text
 }
 
 void HostSession::stopWithoutWindow()
@@ -218,6 +262,7 @@ void HostSession::openView(QWidget *view)
     if (m_options.guesses && m_triggerChoice->noteView(*view))
         m_pointerFilter->setTrigger(m_triggerChoice->trigger());
     explainTrigger();
+    m_windowFinder->consider(view->window());
     waitForAllMenus();
     if (m_explanation)
         m_explanation->addView(view);
@@ -246,17 +291,28 @@ void HostSession::waitForAllMenus()
     });
 }
 
-bool HostSession::isOfThisWindow(const QWidget *view) const
+bool HostSession::hasItsCommands(const QWidget *view)
 {
-    const auto isAdded = [view](const QPointer<QWidget> &added) {
-        return added && ViewFinder::pointerWidget(added) == view;
-    };
-    if (std::any_of(m_addedViews.begin(), m_addedViews.end(), isAdded))
-        return true; // the program itself has named it
-    // A window with its own menus has its own commands. A view that was detached from this window,
-    // or that is in a dock, uses the commands of this one.
-    const QWidget *window = view ? view->window() : nullptr;
-    return window == m_window.data() || !hasMenuBar(qobject_cast<const QMainWindow *>(window));
+    // A window with its own menus has its own commands. A view that was detached from its window
+    // uses the commands of the current one.
+    QWidget *window = m_services->windows().ownerOf(view);
+    if (!window || m_services->windows().contains(window))
+        return true;
+    m_windowFinder->consider(window); // its menus may have come after its view
+    return false;
+}
+
+bool HostSession::hasDrawing(const QWidget *window) const
+{
+    const QVector<Document *> &documents = m_documents.openDocuments();
+    return std::any_of(documents.begin(), documents.end(), [this, window](const Document *document) {
+        return m_services->windows().ownerOf(document->view()) == window;
+    });
+}
+
+QMainWindow *HostSession::mainWindow() const
+{
+    return m_isRunning ? qobject_cast<QMainWindow *>(m_services->windows().current()) : nullptr;
 }
 
 bool HostSession::gesturesAreEnabled() const
@@ -267,14 +323,6 @@ bool HostSession::gesturesAreEnabled() const
     const OdResBufPtr value = store->Get(settingsnames::moduleSection(), settingsnames::enabledKey(),
                                          CHxProfileStore::kProfile);
     return !value || value->getString().toQString() != QLatin1String("0");
-}
-
-bool HostSession::eventFilter(QObject *, QEvent *event)
-{
-    // This is the last moment at which the main window is complete.
-    if (event->type() == QEvent::DeferredDelete)
-        stop();
-    return false;
 }
 
 } // namespace gesturewidget

@@ -7,11 +7,13 @@
 #include "host/documents/ViewFinder.h"
 #include "host/explain/Explanation.h"
 #include "host/input/PointerFilter.h"
+#include "host/language/Translations.h"
 #include "host/services/HostApplication.h"
 #include "host/services/MainFrame.h"
 #include "host/session/GestureHost.h"
 #include "host/session/ModuleLoader.h"
 #include "host/session/TriggerChoice.h"
+#include "host/session/WindowFinder.h"
 #include "host/window/MenuReadiness.h"
 
 #include <QMainWindow>
@@ -44,27 +46,31 @@ public:
     void stop();
     [[nodiscard]] bool isRunning() const { return m_isRunning; }
     void addView(QWidget *view);
+    // Returns the current main window; null while the host does not run.
+    [[nodiscard]] QMainWindow *mainWindow() const;
 
     // Stops a session and destroys it as soon as that is safe.
     static void retire(std::unique_ptr<HostSession> session);
-
-    bool eventFilter(QObject *receiver, QEvent *event) override;
 
 private:
     void stopWithoutWindow();
     void openView(QWidget *view);
     void explainTrigger();
+    void connectWindows();
+    // The menus of the first window are complete.
+    void onMenusSettled();
     // Takes the menus as complete some time after they have settled and a view is open.
     void waitForAllMenus();
     [[nodiscard]] bool gesturesAreEnabled() const;
-    // True if the view belongs to this session's main window.
-    [[nodiscard]] bool isOfThisWindow(const QWidget *view) const;
+    // True if a gesture in the view would run the commands of the window that it belongs to.
+    [[nodiscard]] bool hasItsCommands(const QWidget *view);
+    [[nodiscard]] bool hasDrawing(const QWidget *window) const;
     // The application is over.
     static void finishAll();
     void finish();
 
     const GestureHost::Options m_options;
-    QPointer<QWidget> m_window; // a plain widget while it is being destroyed
+    QPointer<QWidget> m_firstWindow; // a plain widget while it is being destroyed
     QVector<QPointer<QWidget>> m_addedViews; // by the program with addView()
     bool m_isRunning = false;
     bool m_wasStarted = false;
@@ -76,6 +82,7 @@ private:
     HostSession *m_next = nullptr; // the next started session
 
     // Each of these may need the ones before it.
+    Translations m_translations;
     DocumentManager m_documents;
     HostApplication m_application;
     MainFrame m_mainFrame;
@@ -84,6 +91,7 @@ private:
     std::unique_ptr<TriggerChoice> m_triggerChoice;
     std::unique_ptr<PointerFilter> m_pointerFilter;
     std::unique_ptr<ViewFinder> m_viewFinder;
+    std::unique_ptr<WindowFinder> m_windowFinder;
     std::unique_ptr<Explanation> m_explanation; // null unless somebody asked for it
     MenuReadiness m_menuReadiness;
 };

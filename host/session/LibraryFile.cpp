@@ -30,7 +30,7 @@ QString problemOfLibraryFile(const QString &path)
         return file.errorString();
     Header header;
     if (!read(file, 0, &header) || std::memcmp(header.e_ident, ELFMAG, SELFMAG) != 0)
-        return QStringLiteral("it is no library");
+        return QStringLiteral("it is not a library");
     if (header.e_phentsize != sizeof(Segment))
         return {}; // for another kind of machine: the loader reports it
     const auto size = static_cast<quint64>(file.size());

@@ -66,7 +66,7 @@ bool ModuleLoader::load(const QString &file, QString *error)
     const auto create =
         reinterpret_cast<OdCreateModuleObject>(library.resolve("odrxCreateModuleObject"));
     if (!getVersion || !create) {
-        *error = QStringLiteral("'%1' is no module: it lacks %2")
+        *error = QStringLiteral("'%1' is not a module: it lacks %2")
                      .arg(file, getVersion ? QStringLiteral("odrxCreateModuleObject")
                                            : QStringLiteral("odrxGetAPIVersion"));
         return false;

@@ -42,7 +42,7 @@ Q_SIGNALS:
     void actionChanged(QAction *action);
 
 private:
-    QPointer<QWidget> m_window; // while it is being destroyed it is no QMainWindow any more
+    QPointer<QWidget> m_window; // during its destruction it is no longer a QMainWindow
     QSet<const QObject *> m_watched;
 };
 

@@ -12,8 +12,8 @@
 namespace gesturewidget {
 
 // Waits until a program's menus are complete: its main window is shown, its menu bar holds
-// something, and nothing was added to any menu for a moment. A program that changes its menus
-// all the time is waited for as long as QuietWait says.
+// something, and nothing was added to any menu for a moment. QuietWait limits the wait for a program
+// that changes its menus all the time.
 class MenuReadiness : public QObject
 {
     Q_OBJECT

@@ -21,6 +21,9 @@ public:
     explicit TextOutput(QMainWindow *window);
     ~TextOutput() override;
 
+    // Writes to another main window from now on. Not owned; may be null.
+    void setWindow(QWidget *window) { m_window = window; }
+
     void SetText(const CHxString &text, bool immediate) override;
     // Shows a line for some seconds.
     void showForAWhile(const QString &text);
@@ -28,7 +31,7 @@ public:
 private:
     [[nodiscard]] QStatusBar *statusBar() const;
 
-    QPointer<QWidget> m_window; // while it is being destroyed it is no QMainWindow any more
+    QPointer<QWidget> m_window; // during its destruction it is no longer a QMainWindow
 };
 
 } // namespace gesturewidget

@@ -92,6 +92,7 @@ CommandLine CommandLine::parse(const QList<QByteArray> &typed)
     }
 
     if (next >= arguments.size() || arguments.at(next).isEmpty()) {
+        line.task = arguments.isEmpty() ? Task::OpenWindow : Task::Complain;
         line.complaint = QStringLiteral("no program given, see mouse-gestures --help");
         return line;
     }
@@ -105,12 +106,14 @@ QString helpText()
 {
     return QStringLiteral(R"(Usage: mouse-gestures PROGRAM [ARGUMENTS...]
        mouse-gestures OPTION PROGRAM ...
+       mouse-gestures
 
 Starts a drafting program with mouse gestures: hold the right button in the drawing,
 drag, and move on towards the command you want. "Mouse Gestures..." in the program's
 menus shows which command lies in which direction.
 
-PROGRAM is any program made with Qt Widgets, 5 or 6. It is not changed.
+PROGRAM is any program made with Qt Widgets, 5 or 6. It is not changed. Without a
+program, a window opens in which a person can do all of this with the mouse.
 
   --bindings PROGRAM [--json]       show which command lies in which direction
   --list-commands PROGRAM [--json]  show the commands that the program has shown so far

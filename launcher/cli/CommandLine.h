@@ -18,6 +18,7 @@ struct CommandLine
 {
     enum class Task {
         Run,
+        OpenWindow, // the settings program; `complaint` is for where there is no display
         ShowHelp,
         ShowVersion,
         ShowBindings, // may be JSON
@@ -39,7 +40,7 @@ struct CommandLine
     [[nodiscard]] static CommandLine parse(const QList<QByteArray> &arguments);
 
     Task task = Task::Complain;
-    // One line that says what is wrong; only with Task::Complain.
+    // One line that says what is wrong; only with Task::Complain and Task::OpenWindow.
     QString complaint;
     // The program as typed.
     QByteArray program;

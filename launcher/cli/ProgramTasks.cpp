@@ -3,27 +3,18 @@
 
 #include "launcher/cli/ProgramTasks.h"
 
-#include "host/files/CatalogueFile.h"
-#include "host/files/ProgramProfile.h"
-#include "host/files/SettingsFile.h"
-#include "host/files/SiteSettings.h"
 #include "launcher/cli/Report.h"
-#include "launcher/cli/Subject.h"
 #include "launcher/desktop/DesktopMenu.h"
 #include "launcher/doctor/Doctor.h"
 #include "launcher/programs/ProgramCheck.h"
-#include "launcher/programs/QtWidgetsUse.h"
-#include "launcher/settings/Bindings.h"
-#include "launcher/settings/KnownCommands.h"
-#include "launcher/settings/SettingsTasks.h"
+#include "launcher/programs/Subject.h"
+#include "launcher/settings/ProgramSettings.h"
 #include "launcher/sheet/SheetTask.h"
 
 #include <QFile>
 #include <QFileInfo>
 
-#include <algorithm>
 #include <cstdio>
-#include <iterator>
 
 namespace launcher {
 namespace {
@@ -41,20 +32,12 @@ DesktopMenu desktopMenu(const Subject &subject)
     return DesktopMenu(DesktopMenu::usualPlaces(searchPath, launcherPath()));
 }
 
-KnownCommands knownCommands(const Subject &subject, const gesturewidget::ProgramProfile &profile)
-{
-    QStringList wellKnown = Bindings::initial().eight;
-    std::copy(profile.wellKnownCommands.keyBegin(), profile.wellKnownCommands.keyEnd(),
-              std::back_inserter(wellKnown));
-    return KnownCommands(gesturewidget::CatalogueFile(subject.catalogueFile()).read(), wellKnown);
-}
-
-Outcome print(const Subject &subject, const QString &path, const Bindings &bindings,
-              const KnownCommands &commands, const QString &usualTrigger)
+Outcome print(const Subject &subject, const QString &path, const ProgramSettings &settings)
 {
     const QString called = desktopMenu(subject).nameOf(subject.typed, subject.path);
     const SheetContent content =
-        sheetContent(called.isEmpty() ? subject.name : called, bindings, commands, usualTrigger);
+        sheetContent(called.isEmpty() ? subject.name : called, settings.tasks.bindings(),
+                     settings.commands, settings.usualTrigger);
     return printSheet(content, QFile::decodeName(launcherFolder() + kSheet), path);
 }
 
@@ -72,22 +55,10 @@ Outcome importStandardInput(SettingsTasks &tasks)
 
 int examineProgram(const CommandLine &line)
 {
-    const Subject subject = Subject::of(line.program);
-    Symptoms symptoms;
-    symptoms.program = subject.name;
-    symptoms.path = subject.path;
-    if (!subject.path.isEmpty())
-        symptoms.use = qtWidgetsUse(subject.path, subject.environment.value("LD_LIBRARY_PATH"),
-                                    systemLibraryFolders("/etc/ld.so.conf"));
-    symptoms.plugins = subject.plugins;
-    symptoms.environment = subject.environment;
-    symptoms.compositor = findCompositor(subject.environment.value("DISPLAY"));
-    symptoms.profileFolders = subject.profileFolders;
-    symptoms.settingsFile = subject.settingsFile();
-    const Diagnosis diagnosis = diagnose(symptoms);
+    const Diagnosis diagnosis = diagnose(Symptoms::of(Subject::of(line.program)));
     Outcome outcome;
-    outcome.output = diagnosis.lines.join(QLatin1Char('\n')).toLocal8Bit() + '\n';
-    if (!diagnosis.isHealthy)
+    outcome.output = diagnosis.lines().join(QLatin1Char('\n')).toLocal8Bit() + '\n';
+    if (!diagnosis.isHealthy())
         outcome.complaint = QStringLiteral("gestures cannot work well in %1, see the lines with \"!\"")
                                 .arg(QString::fromLocal8Bit(line.program));
     return report(outcome);
@@ -114,20 +85,16 @@ int doSettingsTask(const CommandLine &line)
             QStringLiteral("%1: there is no such program").arg(QString::fromLocal8Bit(line.program)),
             kNotFound);
 
-    const gesturewidget::ProgramProfile profile =
-        gesturewidget::ProgramProfile::forProgram(subject.name, subject.profileFolders, nullptr);
-    const gesturewidget::SiteSettings site(subject.settingsFile());
-    const QString usualTrigger = Bindings::usualTrigger(
-        profile, site.under(gesturewidget::SettingsFile(subject.settingsFile()).read()));
-    const KnownCommands commands = knownCommands(subject, profile);
-    SettingsTasks tasks(subject.name, subject.settingsFile(), commands, usualTrigger);
+    ProgramSettings settings = ProgramSettings::of(subject);
+    SettingsTasks &tasks = settings.tasks;
     const QByteArray first = line.arguments.value(0);
     const QString path = QFile::decodeName(first);
     switch (line.task) {
     case Task::ShowBindings:
         return report(line.isJson ? tasks.showBindingsAsJson() : tasks.showBindings());
     case Task::ListCommands:
-        return report(line.isJson ? commands.listAsJson(subject.name) : commands.list(subject.name));
+        return report(line.isJson ? settings.commands.listAsJson(subject.name)
+                                  : settings.commands.list(subject.name));
     case Task::Bind:
         return report(
             tasks.bind(QString::fromLocal8Bit(first), QString::fromLocal8Bit(line.arguments.value(1))));
@@ -141,9 +108,9 @@ int doSettingsTask(const CommandLine &line)
     case Task::Import:
         return report(first == kStandard ? importStandardInput(tasks) : tasks.importFrom(path));
     case Task::Print:
-        return report(print(subject, path, tasks.bindings(), commands, usualTrigger));
+        return report(print(subject, path, settings));
     default:
-        return complain(QStringLiteral("this is no task about settings"), kLauncherFailed);
+        return complain(QStringLiteral("this is not a task about settings"), kLauncherFailed);
     }
 }
 

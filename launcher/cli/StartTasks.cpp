@@ -5,10 +5,10 @@
 
 #include "host/files/InstallPaths.h"
 #include "launcher/cli/Report.h"
-#include "launcher/cli/Subject.h"
 #include "launcher/explain/ProgramExplainer.h"
 #include "launcher/programs/LaunchEnvironment.h"
 #include "launcher/programs/ProgramCheck.h"
+#include "launcher/programs/Subject.h"
 
 #include <QJsonDocument>
 
@@ -74,6 +74,9 @@ void replaceProcess(const Start &start)
     ::execvpe(start.path.constData(), pointers(start.arguments).data(), pointers(entries).data());
 }
 
+// In the launcher's folder.
+constexpr char kWindow[] = "/mouse-gestures-settings";
+
 } // namespace
 
 int startProgram(const CommandLine &line)
@@ -91,6 +94,17 @@ int startProgram(const CommandLine &line)
     return complain(QStringLiteral("%1: %2").arg(QString::fromLocal8Bit(line.program),
                                                  QString::fromLocal8Bit(std::strerror(reason))),
                     reason == ENOENT ? kNotFound : kCannotRun);
+}
+
+int openWindow(const CommandLine &line)
+{
+    const Environment environment = readEnvironment(::environ);
+    const bool hasDisplay =
+        !environment.value("DISPLAY").isEmpty() || !environment.value("WAYLAND_DISPLAY").isEmpty();
+    const QByteArray window = launcherFolder() + kWindow;
+    if (hasDisplay)
+        ::execl(window.constData(), window.constData(), static_cast<char *>(nullptr));
+    return complain(line.complaint, kLauncherFailed);
 }
 
 int explainProgram(const CommandLine &line)

@@ -22,6 +22,8 @@ int perform(const launcher::CommandLine &line)
         return launcher::report({"mouse-gestures " GESTUREWIDGET_VERSION "\n", {}});
     case Task::Complain:
         return launcher::complain(line.complaint, launcher::kLauncherFailed);
+    case Task::OpenWindow:
+        return launcher::openWindow(line);
     case Task::Run:
         return launcher::startProgram(line);
     case Task::Explain:

@@ -62,6 +62,19 @@ QByteArray DesktopFile::value(const QByteArray &key) const
     return found;
 }
 
+QByteArray DesktopFile::translated(const QByteArray &key, const QString &locale) const
+{
+    const QString language = locale.section(QLatin1Char('@'), 0, 0).section(QLatin1Char('_'), 0, 0);
+    QByteArray found;
+    for (const QString &name : {locale, locale.section(QLatin1Char('@'), 0, 0), language}) {
+        if (found.isNull() && !name.isEmpty())
+            found = value(key + '[' + name.toUtf8() + ']');
+    }
+    if (found.isNull())
+        found = value(key);
+    return found.replace("\\s", " ").replace("\\n", " ").replace("\\t", " ").replace("\\\\", "\\");
+}
+
 void DesktopFile::setValue(const QByteArray &key, const QByteArray &value)
 {
     int last = -1; // line of the entry with something in it

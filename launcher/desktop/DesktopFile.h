@@ -18,13 +18,17 @@ namespace launcher {
 class DesktopFile
 {
 public:
-    // Returns false when the file does not exist or cannot be read.
+    // Returns false when the file does not exist, cannot be read, or has no "Type" as every desktop
+    // entry has.
     [[nodiscard]] bool read(const QString &path);
     [[nodiscard]] QByteArray content() const;
 
     // The value of a key of the entry itself, as the file holds it. If a key is repeated, the last
     // value wins. Null when there is none.
     [[nodiscard]] QByteArray value(const QByteArray &key) const;
+    // The value of a key in the language of `locale`, such as "de_AT" or "sr@latin", as far as the
+    // entry has it, without escapes.
+    [[nodiscard]] QByteArray translated(const QByteArray &key, const QString &locale) const;
     // Sets a key of the entry itself where it stands, or adds it at the entry's end. `value` is
     // escaped already, see ExecLine::escaped().
     void setValue(const QByteArray &key, const QByteArray &value);

@@ -34,26 +34,6 @@ bool isThere(const QString &path)
     return info.exists() || info.isSymLink();
 }
 
-// Names of all entries in a folder and below it, in order.
-QStringList namesIn(const QString &folder)
-{
-    QStringList names;
-    const QDir base(folder);
-    QDirIterator files(folder, {QStringLiteral("*.desktop")}, QDir::Files | QDir::Hidden | QDir::System,
-                       QDirIterator::Subdirectories);
-    while (files.hasNext())
-        names.append(base.relativeFilePath(files.next()));
-    names.sort();
-    return names;
-}
-
-// The desktop-file ID: "kde/draw.desktop" is "kde-draw.desktop". Entries with equal IDs are one
-// entry, and the one in the first folder counts.
-QString identifierOf(QString name)
-{
-    return name.replace(QLatin1Char('/'), QLatin1Char('-'));
-}
-
 QString ownFileMessage(const QString &path)
 {
     return QStringLiteral("%1 is your own and stays as it is").arg(path);
@@ -91,6 +71,23 @@ DesktopMenu::Places DesktopMenu::usualPlaces(const QByteArray &searchPath, const
     places.searchPath = searchPath;
     places.launcher = launcher;
     return places;
+}
+
+QStringList DesktopMenu::namesIn(const QString &folder)
+{
+    QStringList names;
+    const QDir base(folder);
+    QDirIterator files(folder, {QStringLiteral("*.desktop")}, QDir::Files | QDir::Hidden | QDir::System,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext())
+        names.append(base.relativeFilePath(files.next()));
+    names.sort();
+    return names;
+}
+
+QString DesktopMenu::identifierOf(QString name)
+{
+    return name.replace(QLatin1Char('/'), QLatin1Char('-'));
 }
 
 DesktopMenu::DesktopMenu(const Places &places)
@@ -180,6 +177,11 @@ Outcome DesktopMenu::disable(const QByteArray &typed, const QByteArray &path) co
     if (outcome.output.isEmpty())
         outcome.output = typed + ": nothing was there to remove\n";
     return outcome;
+}
+
+bool DesktopMenu::isEnabled(const QByteArray &typed, const QByteArray &path) const
+{
+    return !copiesFor(typed, path, Named::AsTyped).isEmpty();
 }
 
 QString DesktopMenu::nameOf(const QByteArray &typed, const QByteArray &path) const

@@ -40,6 +40,15 @@ public:
     // the output says so.
     [[nodiscard]] Outcome disable(const QByteArray &typed, const QByteArray &path) const;
 
+    // Returns whether there is a copy that starts the program with gestures.
+    [[nodiscard]] bool isEnabled(const QByteArray &typed, const QByteArray &path) const;
+
+    // Names of all entries in a folder and below it, in order.
+    [[nodiscard]] static QStringList namesIn(const QString &folder);
+    // The desktop-file ID: "kde/draw.desktop" is "kde-draw.desktop". Entries with equal IDs are one
+    // entry, and the one in the first folder counts.
+    [[nodiscard]] static QString identifierOf(QString name);
+
     // The desktop's name for the program; empty when the desktop has no entry for it.
     [[nodiscard]] QString nameOf(const QByteArray &typed, const QByteArray &path) const;
 

@@ -18,57 +18,83 @@
 #include <dlfcn.h>
 #include <unistd.h>
 
+#include <algorithm>
+
 namespace launcher {
 namespace {
 
 namespace names = gesturewidget::settingsnames;
 
-// Beginnings of the lines. A problem prevents gestures.
+// Beginnings of the lines.
 constexpr char kFine[] = "  ";
 constexpr char kProblem[] = "! ";
+
+using Matter = Finding::Matter;
+
+const char *nameOf(Matter matter)
+{
+    switch (matter) {
+    case Matter::Program:
+        return "program";
+    case Matter::Qt:
+        return "Qt";
+    case Matter::PlugIn:
+        return "plug-in";
+    case Matter::Display:
+        return "display";
+    case Matter::Compositor:
+        return "compositor";
+    case Matter::Profile:
+        return "profile";
+    case Matter::Views:
+        return "views";
+    case Matter::Settings:
+        return "settings";
+    case Matter::Gestures:
+        return "gestures";
+    case Matter::Bindings:
+        return "bindings";
+    case Matter::Trigger:
+        return "trigger";
+    }
+    return "";
+}
 
 class Report
 {
 public:
-    void add(const char *what, const QString &text) { append(kFine, what, text); }
-    void addProblem(const char *what, const QString &text)
+    void add(Matter matter, const QString &text) { m_diagnosis.findings.append({matter, text, false}); }
+    void addProblem(Matter matter, const QString &text)
     {
-        append(kProblem, what, text);
-        m_diagnosis.isHealthy = false;
+        m_diagnosis.findings.append({matter, text, true});
     }
     [[nodiscard]] Diagnosis diagnosis() const { return m_diagnosis; }
 
 private:
-    void append(const char *mark, const char *what, const QString &text)
-    {
-        m_diagnosis.lines.append(QStringLiteral("%1%2 %3").arg(
-            QLatin1String(mark), QString(QLatin1String(what) + QLatin1Char(':')).leftJustified(12),
-            text));
-    }
-
     Diagnosis m_diagnosis;
 };
 
 void reportProgram(const Symptoms &symptoms, Report &report)
 {
     if (symptoms.path.isEmpty()) {
-        report.addProblem("program", QStringLiteral("%1, not found").arg(symptoms.program));
+        report.addProblem(Matter::Program, QStringLiteral("%1, not found").arg(symptoms.program));
         return;
     }
-    report.add("program",
+    report.add(Matter::Program,
                QStringLiteral("%1, %2").arg(symptoms.program, QFile::decodeName(symptoms.path)));
     switch (symptoms.use) {
     case QtWidgetsUse::Qt5:
-        report.add("Qt", QStringLiteral("5"));
+        report.add(Matter::Qt, QStringLiteral("5"));
         break;
     case QtWidgetsUse::Qt6:
-        report.add("Qt", QStringLiteral("6"));
+        report.add(Matter::Qt, QStringLiteral("6"));
         break;
     case QtWidgetsUse::Unknown:
-        report.add("Qt", QStringLiteral("not known before it runs: a script"));
+        report.add(Matter::Qt, QStringLiteral("not known before it runs: a script"));
         break;
     case QtWidgetsUse::None:
-        report.addProblem("Qt", QStringLiteral("none; gestures need a program made with Qt Widgets"));
+        report.addProblem(Matter::Qt,
+                          QStringLiteral("none; gestures need a program made with Qt Widgets"));
         break;
     }
 }
@@ -83,11 +109,11 @@ void reportPlugin(const Symptoms &symptoms, Report &report)
                          + gesturewidget::pluginFile(folder.qtMajor));
     }
     if (found.isEmpty())
-        report.addProblem("plug-in", wanted == 0
-                                         ? QStringLiteral("not installed")
-                                         : QStringLiteral("not installed for Qt %1").arg(wanted));
+        report.addProblem(Matter::PlugIn, wanted == 0
+                                              ? QStringLiteral("not installed")
+                                              : QStringLiteral("not installed for Qt %1").arg(wanted));
     else
-        report.add("plug-in", found.join(QStringLiteral(", ")));
+        report.add(Matter::PlugIn, found.join(QStringLiteral(", ")));
 }
 
 void reportDisplay(const Symptoms &symptoms, Report &report)
@@ -98,26 +124,27 @@ void reportDisplay(const Symptoms &symptoms, Report &report)
     const bool isWayland =
         !wayland.isEmpty() || symptoms.environment.value("XDG_SESSION_TYPE") == "wayland";
     if (lacksX11(prepared))
-        report.addProblem("display", QStringLiteral("Wayland without X11; the ring may open away "
-                                                    "from the pointer"));
+        report.addProblem(Matter::Display, QStringLiteral("Wayland without X11; the ring may open away "
+                                                          "from the pointer"));
     else if (display.isEmpty())
-        report.addProblem("display", QStringLiteral("none"));
+        report.addProblem(Matter::Display, QStringLiteral("none"));
     else if (isWayland)
-        report.add("display", QStringLiteral("Wayland; the program will use X11, %1").arg(display));
+        report.add(Matter::Display,
+                   QStringLiteral("Wayland; the program will use X11, %1").arg(display));
     else
-        report.add("display", QStringLiteral("X11, %1").arg(display));
+        report.add(Matter::Display, QStringLiteral("X11, %1").arg(display));
 
     switch (symptoms.compositor) {
     case Symptoms::Compositor::Running:
-        report.add("compositor", QStringLiteral("running"));
+        report.add(Matter::Compositor, QStringLiteral("running"));
         break;
     case Symptoms::Compositor::None:
         // Gestures work without one, so this is no problem.
-        report.add("compositor",
+        report.add(Matter::Compositor,
                    QStringLiteral("none; the ring shows what was under it when it opened"));
         break;
     case Symptoms::Compositor::Unknown:
-        report.add("compositor", QStringLiteral("not known"));
+        report.add(Matter::Compositor, QStringLiteral("not known"));
         break;
     }
 }
@@ -134,14 +161,14 @@ gesturewidget::ProgramProfile reportProfile(const Symptoms &symptoms, Report &re
             file = path;
     }
     if (!message.isEmpty())
-        report.addProblem("profile", message);
+        report.addProblem(Matter::Profile, message);
     else
-        report.add("profile", file.isEmpty() ? QStringLiteral("none of its own") : file);
+        report.add(Matter::Profile, file.isEmpty() ? QStringLiteral("none of its own") : file);
     if (profile.viewClasses.isEmpty())
-        report.add("views", QStringLiteral("looked for in the running program, see --explain"));
+        report.add(Matter::Views, QStringLiteral("looked for in the running program, see --explain"));
     else
         report.add(
-            "views",
+            Matter::Views,
             QStringLiteral("%1, by the profile").arg(profile.viewClasses.join(QStringLiteral(", "))));
     return profile;
 }
@@ -171,18 +198,18 @@ struct Sources
     }
 };
 
-// "5 by FILE, 3 by FILE" for the directions of the scheme in use.
+// "5 by FILE, 3 in no file" for the directions of the scheme in use.
 QString sourcesOfBindings(const Sources &sources, int scheme)
 {
     QMap<QString, int> counts;
     for (int number = 1; number <= scheme; ++number)
         ++counts[sources.fileOf(names::moduleSection(), QString::number(10 * scheme + number))];
+    const int inNone = counts.take(QString());
     QStringList texts;
-    for (auto it = counts.begin(); it != counts.end(); ++it) {
-        const QString text = it.key().isEmpty() ? QStringLiteral("%1 as nobody has chosen otherwise")
-                                                : QStringLiteral("%1 by ") + it.key();
-        texts.append(text.arg(it.value()));
-    }
+    for (auto it = counts.begin(); it != counts.end(); ++it)
+        texts.append(QStringLiteral("%1 by ").arg(it.value()) + it.key());
+    if (inNone > 0)
+        texts.append(QStringLiteral("%1 in no file").arg(inNone));
     return texts.join(QStringLiteral(", "));
 }
 
@@ -192,21 +219,23 @@ void reportChoices(const Sources &sources, const gesturewidget::ProgramProfile &
     const Bindings bindings = Bindings::fromSettings(values);
     const QString enabledBy = sources.of(names::moduleSection(), names::enabledKey());
     if (!bindings.enabled)
-        report.addProblem("gestures", QStringLiteral("switched off in the settings") + enabledBy);
+        report.addProblem(Matter::Gestures, QStringLiteral("switched off in the settings") + enabledBy);
     else
-        report.add("gestures", QStringLiteral("on, %1 of them").arg(bindings.scheme) + enabledBy);
-    report.add("bindings", sourcesOfBindings(sources, bindings.scheme));
+        report.add(Matter::Gestures, QStringLiteral("on, %1 of them").arg(bindings.scheme) + enabledBy);
+    report.add(Matter::Bindings, sourcesOfBindings(sources, bindings.scheme));
 
     const QString usual = Bindings::usualTrigger(profile, values);
     const QString found = sources.of(names::hostSection(), names::usualTriggerKey());
     if (!bindings.trigger.isEmpty())
-        report.add("trigger", bindings.trigger + sources.of(names::hostSection(), names::triggerKey()));
+        report.add(Matter::Trigger,
+                   bindings.trigger + sources.of(names::hostSection(), names::triggerKey()));
     else if (profile.hasTrigger)
-        report.add("trigger", QStringLiteral("%1, by the profile").arg(usual));
+        report.add(Matter::Trigger, QStringLiteral("%1, by the profile").arg(usual));
     else if (!found.isEmpty())
-        report.add("trigger", QStringLiteral("%1, as suits the drawings").arg(usual));
+        report.add(Matter::Trigger, QStringLiteral("%1, as suits the drawings").arg(usual));
     else
-        report.add("trigger", QStringLiteral("%1; ctrl+right if OpenGL paints the drawing").arg(usual));
+        report.add(Matter::Trigger,
+                   QStringLiteral("%1; ctrl+right if OpenGL paints the drawing").arg(usual));
 }
 
 void reportSettings(const Symptoms &symptoms, const gesturewidget::ProgramProfile &profile,
@@ -221,12 +250,12 @@ void reportSettings(const Symptoms &symptoms, const gesturewidget::ProgramProfil
         QFileInfo(folder).isDir() && isWritable(folder, W_OK | X_OK)
         && (!file.exists() || (file.isFile() && isWritable(file.filePath(), R_OK | W_OK)));
     if (!canWrite)
-        report.addProblem("settings",
+        report.addProblem(Matter::Settings,
                           QStringLiteral("%1, cannot be written").arg(symptoms.settingsFile));
     else
-        report.add("settings", file.exists()
-                                   ? symptoms.settingsFile
-                                   : QStringLiteral("%1, not there yet").arg(symptoms.settingsFile));
+        report.add(Matter::Settings,
+                   file.exists() ? symptoms.settingsFile
+                                 : QStringLiteral("%1, not there yet").arg(symptoms.settingsFile));
 
     const gesturewidget::SettingsFile::Values own =
         canWrite && file.exists() ? gesturewidget::SettingsFile(symptoms.settingsFile).read()
@@ -236,6 +265,43 @@ void reportSettings(const Symptoms &symptoms, const gesturewidget::ProgramProfil
 }
 
 } // namespace
+
+QString Finding::line() const
+{
+    return QStringLiteral("%1%2 %3").arg(
+        QLatin1String(isProblem ? kProblem : kFine),
+        QString(QLatin1String(nameOf(matter)) + QLatin1Char(':')).leftJustified(12), text);
+}
+
+QStringList Diagnosis::lines() const
+{
+    QStringList lines;
+    for (const Finding &finding : findings)
+        lines.append(finding.line());
+    return lines;
+}
+
+bool Diagnosis::isHealthy() const
+{
+    return std::none_of(findings.begin(), findings.end(),
+                        [](const Finding &finding) { return finding.isProblem; });
+}
+
+Symptoms Symptoms::of(const Subject &subject)
+{
+    Symptoms symptoms;
+    symptoms.program = subject.name;
+    symptoms.path = subject.path;
+    if (!subject.path.isEmpty())
+        symptoms.use = qtWidgetsUse(subject.path, subject.environment.value("LD_LIBRARY_PATH"),
+                                    systemLibraryFolders("/etc/ld.so.conf"));
+    symptoms.plugins = subject.plugins;
+    symptoms.environment = subject.environment;
+    symptoms.compositor = findCompositor(subject.environment.value("DISPLAY"));
+    symptoms.profileFolders = subject.profileFolders;
+    symptoms.settingsFile = subject.settingsFile();
+    return symptoms;
+}
 
 Diagnosis diagnose(const Symptoms &symptoms)
 {

@@ -6,6 +6,7 @@
 #include "launcher/programs/LaunchEnvironment.h"
 #include "launcher/programs/PluginFolders.h"
 #include "launcher/programs/QtWidgetsUse.h"
+#include "launcher/programs/Subject.h"
 
 #include <QByteArray>
 #include <QString>
@@ -13,9 +14,12 @@
 
 namespace launcher {
 
-// The facts that decide whether gestures work in a program. The caller gathers them.
+// The facts that decide whether gestures work in a program.
 struct Symptoms
 {
+    // Gathers the facts about a program. Starts nothing.
+    [[nodiscard]] static Symptoms of(const Subject &subject);
+
     QString program; // its name, by which profile and settings are found
     QByteArray path; // empty when there is no such program
     QtWidgetsUse use = QtWidgetsUse::Unknown;
@@ -27,12 +31,37 @@ struct Symptoms
     QString settingsFile;
 };
 
+// One thing that was looked at, and how it is.
+struct Finding
+{
+    enum class Matter {
+        Program,
+        Qt,
+        PlugIn,
+        Display,
+        Compositor,
+        Profile,
+        Views,
+        Settings,
+        Gestures,
+        Bindings,
+        Trigger
+    };
+
+    // "what: how it is". The line begins with "!" if it is a problem.
+    [[nodiscard]] QString line() const;
+
+    Matter matter = Matter::Program;
+    QString text; // how it is
+    bool isProblem = false; // it prevents gestures
+};
+
 struct Diagnosis
 {
-    // "what: how it is", one line each. A line that begins with "!" names a problem that prevents
-    // gestures.
-    QStringList lines;
-    bool isHealthy = true; // there is no such line
+    [[nodiscard]] QStringList lines() const;
+    [[nodiscard]] bool isHealthy() const; // there is no problem
+
+    QList<Finding> findings;
 };
 
 [[nodiscard]] Diagnosis diagnose(const Symptoms &symptoms);

@@ -89,6 +89,23 @@ Bindings Bindings::initial()
     return fromSettings({});
 }
 
+void Bindings::bind(int direction, const QString &command)
+{
+    for (QString &other : commands()) {
+        if (other == command)
+            other.clear();
+    }
+    commands()[direction] = command;
+}
+
+void Bindings::swap(int direction, int other)
+{
+    QStringList &all = commands();
+    const QString command = all.at(direction);
+    all[direction] = all.at(other);
+    all[other] = command;
+}
+
 SettingsFile::Values Bindings::toSettings() const
 {
     SettingsFile::Values values;

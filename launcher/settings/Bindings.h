@@ -28,7 +28,14 @@ struct Bindings
     [[nodiscard]] gesturewidget::SettingsFile::Values
     changesFrom(const gesturewidget::SettingsFile::Values &now) const;
 
+    // The commands of the scheme in use.
     [[nodiscard]] QStringList &commands() { return scheme == 4 ? four : eight; }
+    [[nodiscard]] const QStringList &commands() const { return scheme == 4 ? four : eight; }
+    // Puts a command into a direction of the scheme in use; an empty one empties it. If the command
+    // had another direction there, it loses that one.
+    void bind(int direction, const QString &command);
+    // Exchanges the commands of two directions of the scheme in use.
+    void swap(int direction, int other);
 
     // What starts a gesture if the person chooses nothing: the profile's trigger, or what the host
     // has found to suit the program when it ran; the right button before.

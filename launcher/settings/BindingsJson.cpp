@@ -134,7 +134,7 @@ public:
         const QStringList present = object.keys();
         for (const QString &key : present) {
             if (!keys.contains(key))
-                fail(prefix + key, QStringLiteral("is no key of such a file"));
+                fail(prefix + key, QStringLiteral("is not a key of such a file"));
         }
         for (const QString &key : keys) {
             if (!present.contains(key))

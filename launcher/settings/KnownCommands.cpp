@@ -190,4 +190,14 @@ Outcome KnownCommands::listAsJson(const QString &program) const
     return {QJsonDocument(list).toJson(), {}};
 }
 
+QString captionFrom(const QString &identifier)
+{
+    const QLatin1String prefix("ID_");
+    if (!identifier.startsWith(prefix))
+        return identifier.section(QLatin1Char('/'), -1);
+    const QString words =
+        identifier.mid(prefix.size()).toLower().replace(QLatin1Char('_'), QLatin1Char(' '));
+    return words.left(1).toUpper() + words.mid(1);
+}
+
 } // namespace launcher

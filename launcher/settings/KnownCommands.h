@@ -37,6 +37,8 @@ public:
     {
         return !m_shown.isEmpty() || m_wellKnown.contains(identifier);
     }
+    // The commands that were shown, in the order in which they were first seen.
+    [[nodiscard]] const QVector<gesturewidget::RememberedCommand> &shown() const { return m_shown; }
     // All commands that were shown, by menu and toolbar. Fails when none was.
     [[nodiscard]] Outcome list(const QString &program) const;
     // The same as JSON, in the order in which they were first seen.
@@ -50,5 +52,9 @@ private:
     QStringList m_names; // of those
     QStringList m_wellKnown;
 };
+
+// A caption for a command that has never been seen: "Line" for "ID_LINE", and the last caption of a
+// path of captions.
+[[nodiscard]] QString captionFrom(const QString &identifier);
 
 } // namespace launcher

@@ -20,6 +20,27 @@ using gesturewidget::FileContent;
 using gesturewidget::FileWriter;
 using gesturewidget::SettingsFile;
 
+// What differs between two states of the settings.
+SettingsChange changeBetween(const Bindings &before, const Bindings &after)
+{
+    const SettingsFile::Values old = before.toSettings();
+    const SettingsFile::Values present = after.toSettings();
+    SettingsChange change;
+    for (auto it = present.cbegin(); it != present.cend(); ++it) {
+        if (old.value(it.key()) == it.value())
+            continue;
+        change.before.insert(it.key(), old.value(it.key()));
+        change.after.insert(it.key(), it.value());
+    }
+    return change;
+}
+
+void report(const SettingsChange &change, SettingsChange *made)
+{
+    if (made)
+        *made = change;
+}
+
 Outcome outcomeOf(bool isDone, const SettingsFile &file)
 {
     return isDone ? Outcome() : Outcome::failure(file.problem());
@@ -63,6 +84,25 @@ void appendScheme(QByteArray &text, int scheme, const QStringList &commands, boo
     }
 }
 
+// Reads a file that is to be imported.
+Outcome readText(const QString &path, QByteArray &text)
+{
+    const FileContent file = FileContent::read(path, SettingsTasks::kMaximalImport);
+    text = file.bytes;
+    switch (file.state) {
+    case FileContent::State::Read:
+        return {};
+    case FileContent::State::Missing:
+        return Outcome::failure(QStringLiteral("%1: there is no such file").arg(path));
+    case FileContent::State::NotAFile:
+        return Outcome::failure(QStringLiteral("%1: this is not a file").arg(path));
+    case FileContent::State::TooLarge:
+        return Outcome::failure(QStringLiteral("%1: this is too long for bindings").arg(path));
+    default:
+        return Outcome::failure(QStringLiteral("%1: %2").arg(path, file.problem));
+    }
+}
+
 } // namespace
 
 SettingsTasks::SettingsTasks(const QString &program, const QString &file, const KnownCommands &commands,
@@ -80,9 +120,59 @@ SettingsFile::Values SettingsTasks::settings() const
     return m_site.under(SettingsFile(m_file).read());
 }
 
-Bindings SettingsTasks::bindings() const
+Bindings SettingsTasks::bindings(QString *notice) const
 {
-    return Bindings::fromSettings(settings());
+    SettingsFile file(m_file);
+    const Bindings bindings = Bindings::fromSettings(m_site.under(file.read()));
+    if (notice)
+        *notice = file.notice();
+    return bindings;
+}
+
+Outcome SettingsTasks::edit(const std::function<QString(Bindings &)> &edit, SettingsChange *made)
+{
+    SettingsFile file(m_file);
+    QString complaint;
+    SettingsChange change;
+    const bool isDone = file.change([&](const SettingsFile::Values &own) -> SettingsFile::Values {
+        const SettingsFile::Values now = m_site.under(own);
+        const Bindings before = Bindings::fromSettings(now);
+        Bindings after = before;
+        complaint = edit(after);
+        if (!complaint.isEmpty())
+            return {};
+        change = changeBetween(before, after);
+        return after.changesFrom(now);
+    });
+    if (!complaint.isEmpty())
+        return Outcome::failure(complaint);
+    report(isDone ? change : SettingsChange(), made);
+    return outcomeOf(isDone, file);
+}
+
+Outcome SettingsTasks::takeBack(const SettingsChange &change)
+{
+    return replace(change.after, change.before);
+}
+
+Outcome SettingsTasks::makeAgain(const SettingsChange &change)
+{
+    return replace(change.before, change.after);
+}
+
+Outcome SettingsTasks::replace(const SettingsFile::Values &from, const SettingsFile::Values &to)
+{
+    return edit([&](Bindings &bindings) -> QString {
+        SettingsFile::Values values = bindings.toSettings();
+        for (auto it = from.cbegin(); it != from.cend(); ++it) {
+            if (values.value(it.key()) != it.value())
+                return QStringLiteral("this was changed elsewhere meanwhile, so it stays");
+        }
+        for (auto it = to.cbegin(); it != to.cend(); ++it)
+            values.insert(it.key(), it.value());
+        bindings = Bindings::fromSettings(values);
+        return {};
+    });
 }
 
 Outcome SettingsTasks::showBindings() const
@@ -122,32 +212,18 @@ Outcome SettingsTasks::bind(const QString &direction, const QString &command)
             return Outcome::failure(complaint);
     }
 
-    SettingsFile file(m_file);
-    QString complaint;
-    const bool isDone = file.change([&](const SettingsFile::Values &own) -> SettingsFile::Values {
-        const SettingsFile::Values now = m_site.under(own);
-        Bindings bindings = Bindings::fromSettings(now);
+    Outcome outcome = edit([&](Bindings &bindings) -> QString {
         const QStringList names = Bindings::directionNames(bindings.scheme);
         const auto index = names.indexOf(direction.toLower());
-        if (index < 0) {
-            complaint = QStringLiteral("\"%1\" is none of the %2 directions: %3")
-                            .arg(direction)
-                            .arg(bindings.scheme)
-                            .arg(names.join(QStringLiteral(", ")));
-            return {};
-        }
-        QStringList &commands = bindings.commands();
-        for (QString &other : commands) {
-            if (other == wanted)
-                other.clear();
-        }
-        commands[index] = wanted;
-        return bindings.changesFrom(now);
+        if (index < 0)
+            return QStringLiteral("\"%1\" is not one of the %2 directions: %3")
+                .arg(direction)
+                .arg(bindings.scheme)
+                .arg(names.join(QStringLiteral(", ")));
+        bindings.bind(static_cast<int>(index), wanted);
+        return {};
     });
-    if (!complaint.isEmpty())
-        return Outcome::failure(complaint);
-    Outcome outcome = outcomeOf(isDone, file);
-    if (isDone && !wanted.isEmpty() && !m_commands.canJudge(wanted))
+    if (outcome.isDone() && !wanted.isEmpty() && !m_commands.canJudge(wanted))
         append(outcome.output,
                QStringLiteral("%1 has not run with gestures yet; if it has no command \"%2\", the "
                               "direction becomes empty")
@@ -155,27 +231,36 @@ Outcome SettingsTasks::bind(const QString &direction, const QString &command)
     return outcome;
 }
 
-Outcome SettingsTasks::reset()
+Outcome SettingsTasks::reset(SettingsChange *made)
 {
     SettingsFile file(m_file);
     QString trigger;
+    SettingsChange change;
     const bool isDone = file.change([&](const SettingsFile::Values &own) {
-        trigger = Bindings::fromSettings(m_site.under(own)).trigger;
+        const Bindings before = Bindings::fromSettings(m_site.under(own));
+        trigger = before.trigger;
         Bindings bindings = Bindings::initial();
         bindings.trigger = Bindings::fromSettings(own).trigger;
         SettingsFile::Values values = bindings.toSettings();
+        SettingsFile::Values after = m_site.under(values);
         for (auto it = values.begin(); it != values.end(); ++it) {
             const bool isOfModule =
                 it.key().startsWith(gesturewidget::settingsnames::moduleSection() + QLatin1Char('/'));
-            if (isOfModule && m_site.values().contains(it.key()))
-                it.value() = QString(); // so that the administrator's counts
+            if (!isOfModule || !m_site.values().contains(it.key()))
+                continue;
+            after.insert(it.key(), m_site.values().value(it.key()));
+            it.value() = QString(); // so that the administrator's counts
         }
         const QString name = SettingsFile::nameOf(gesturewidget::settingsnames::hostSection(),
                                                   gesturewidget::settingsnames::triggerKey());
-        if (bindings.trigger.isEmpty() && m_site.values().contains(name))
+        if (bindings.trigger.isEmpty() && m_site.values().contains(name)) {
             values.remove(name);
+            after.insert(name, trigger);
+        }
+        change = changeBetween(before, Bindings::fromSettings(after));
         return values;
     });
+    report(isDone ? change : SettingsChange(), made);
     Outcome outcome = outcomeOf(isDone, file);
     if (isDone)
         append(outcome.output, QStringLiteral("gestures are still started with: %1")
@@ -190,41 +275,52 @@ Outcome SettingsTasks::exportTo(const QString &path) const
     return {};
 }
 
-Outcome SettingsTasks::importFrom(const QString &path)
+Outcome SettingsTasks::importFrom(const QString &path, SettingsChange *made)
 {
-    const FileContent file = FileContent::read(path, kMaximalImport);
-    switch (file.state) {
-    case FileContent::State::Read:
-        return importText(file.bytes, path);
-    case FileContent::State::Missing:
-        return Outcome::failure(QStringLiteral("%1: there is no such file").arg(path));
-    case FileContent::State::NotAFile:
-        return Outcome::failure(QStringLiteral("%1: this is not a file").arg(path));
-    case FileContent::State::TooLarge:
-        return Outcome::failure(QStringLiteral("%1: this is too long for bindings").arg(path));
-    default:
-        return Outcome::failure(QStringLiteral("%1: %2").arg(path, file.problem));
-    }
+    QByteArray text;
+    const Outcome reading = readText(path, text);
+    return reading.isDone() ? importText(text, path, made) : reading;
 }
 
-Outcome SettingsTasks::importText(const QByteArray &text, const QString &source)
+Outcome SettingsTasks::readImport(const QString &path, Bindings &bindings) const
+{
+    QByteArray text;
+    const Outcome reading = readText(path, text);
+    return reading.isDone() ? parseImport(text, path, bindings) : reading;
+}
+
+Outcome SettingsTasks::parseImport(const QByteArray &text, const QString &source,
+                                   Bindings &bindings) const
 {
     if (text.size() > kMaximalImport)
         return Outcome::failure(QStringLiteral("%1: this is too long for bindings").arg(source));
-    Bindings bindings;
     QString problem;
     if (!bindingsFromJson(text, m_program, bindings, problem))
         return Outcome::failure(QStringLiteral("%1, %2").arg(source, problem));
+    return {};
+}
+
+Outcome SettingsTasks::importText(const QByteArray &text, const QString &source, SettingsChange *made)
+{
+    Bindings bindings;
+    const Outcome parsing = parseImport(text, source, bindings);
+    if (!parsing.isDone())
+        return parsing;
 
     SettingsFile file(m_file);
-    const bool isDone =
-        file.change([&bindings](const SettingsFile::Values &) { return imported(bindings); },
-                    m_file + QLatin1String(".before-import"));
+    SettingsChange change;
+    const bool isDone = file.change(
+        [&](const SettingsFile::Values &own) {
+            change = changeBetween(Bindings::fromSettings(m_site.under(own)), bindings);
+            return imported(bindings);
+        },
+        m_file + QLatin1String(".before-import"));
+    report(isDone ? change : SettingsChange(), made);
     return isDone ? Outcome()
                   : Outcome::failure(file.problem() + QLatin1String(", so nothing is imported"));
 }
 
-Outcome SettingsTasks::setTrigger(const QString &text)
+Outcome SettingsTasks::setTrigger(const QString &text, SettingsChange *made)
 {
     QString wanted;
     if (text != QLatin1String("default")) {
@@ -240,13 +336,26 @@ Outcome SettingsTasks::setTrigger(const QString &text)
                                "such as ctrl+left"));
         wanted = gesturewidget::triggerText(button, keys);
     }
-    SettingsFile file(m_file);
-    SettingsFile::Values values;
     const QString name = SettingsFile::nameOf(gesturewidget::settingsnames::hostSection(),
                                               gesturewidget::settingsnames::triggerKey());
-    const bool isOfSite = wanted.isEmpty() && m_site.values().contains(name);
-    values.insert(name, isOfSite ? QString() : wanted.isNull() ? QStringLiteral("") : wanted);
-    return outcomeOf(file.write(values), file);
+    if (!wanted.isEmpty() || !m_site.values().contains(name))
+        return edit(
+            [&wanted](Bindings &bindings) {
+                bindings.trigger = wanted;
+                return QString();
+            },
+            made);
+    SettingsFile file(m_file);
+    SettingsChange change;
+    const bool isDone = file.change([&](const SettingsFile::Values &own) -> SettingsFile::Values {
+        const Bindings before = Bindings::fromSettings(m_site.under(own));
+        Bindings after = before;
+        after.trigger = m_site.values().value(name);
+        change = changeBetween(before, after);
+        return {{name, QString()}}; // so that the administrator's counts
+    });
+    report(isDone ? change : SettingsChange(), made);
+    return outcomeOf(isDone, file);
 }
 
 } // namespace launcher

@@ -10,7 +10,19 @@
 
 #include <QString>
 
+#include <functional>
+
 namespace launcher {
+
+// What a task changed in the settings, to take it back.
+struct SettingsChange
+{
+    [[nodiscard]] bool isEmpty() const { return after.isEmpty(); }
+
+    // The values that changed. A value that was not stored has its initial value in `before`.
+    gesturewidget::SettingsFile::Values before;
+    gesturewidget::SettingsFile::Values after;
+};
 
 // Shows and changes what is kept for one program, in the file where the host keeps it. A running
 // program sees the change at its next gesture. Two tasks at once keep each other's changes.
@@ -22,8 +34,18 @@ public:
     SettingsTasks(const QString &program, const QString &file, const KnownCommands &commands = {},
                   const QString &usualTrigger = QStringLiteral("right"));
 
-    // Reads the bindings from the file.
-    [[nodiscard]] Bindings bindings() const;
+    // Reads the bindings from the file. `notice` is filled with one line if the file is damaged or
+    // cannot be read; it may be null.
+    [[nodiscard]] Bindings bindings(QString *notice = nullptr) const;
+    // Gives `edit` the bindings as they are in the file now, and writes what it changes. No other
+    // program writes in between. `edit` returns an empty text, or a line that says why nothing is
+    // to be changed. `made` is filled with what changed; it may be null.
+    [[nodiscard]] Outcome edit(const std::function<QString(Bindings &)> &edit,
+                               SettingsChange *made = nullptr);
+    // Takes a change back, or makes it again. Fails and changes nothing if somebody else has
+    // changed one of its values since.
+    [[nodiscard]] Outcome takeBack(const SettingsChange &change);
+    [[nodiscard]] Outcome makeAgain(const SettingsChange &change);
     // Both schemes, the one in use first, with the captions of the commands that are known.
     [[nodiscard]] Outcome showBindings() const;
     [[nodiscard]] Outcome showBindingsAsJson() const;
@@ -33,22 +55,31 @@ public:
     [[nodiscard]] Outcome bind(const QString &direction, const QString &command);
     // Brings back all fourteen initial values, which are the administrator's where there are some.
     // The trigger stays; the output says so.
-    [[nodiscard]] Outcome reset();
+    [[nodiscard]] Outcome reset(SettingsChange *made = nullptr);
     // Writes all bindings as JSON to a file, in one step.
     [[nodiscard]] Outcome exportTo(const QString &path) const;
     // Imports a file that exportTo() wrote. Keeps the old settings beside the new ones as
     // "<file>.before-import".
-    [[nodiscard]] Outcome importFrom(const QString &path);
+    [[nodiscard]] Outcome importFrom(const QString &path, SettingsChange *made = nullptr);
     // The same with a text that came from elsewhere; `source` names it in complaints.
-    [[nodiscard]] Outcome importText(const QByteArray &text, const QString &source);
+    [[nodiscard]] Outcome importText(const QByteArray &text, const QString &source,
+                                     SettingsChange *made = nullptr);
+    // Reads the bindings that importFrom() would import. Changes nothing.
+    [[nodiscard]] Outcome readImport(const QString &path, Bindings &bindings) const;
     // Sets the trigger, see host/files/TriggerText.h; "default" is the profile's trigger. Refuses
     // the left button alone, with which people draw.
-    [[nodiscard]] Outcome setTrigger(const QString &text);
+    [[nodiscard]] Outcome setTrigger(const QString &text, SettingsChange *made = nullptr);
 
     // Bytes. Far more than any export has; a longer one is some other file.
     static constexpr int kMaximalImport = 128 * 1024;
 
 private:
+    [[nodiscard]] Outcome parseImport(const QByteArray &text, const QString &source,
+                                      Bindings &bindings) const;
+    // Writes `to` where the file means `from`.
+    [[nodiscard]] Outcome replace(const gesturewidget::SettingsFile::Values &from,
+                                  const gesturewidget::SettingsFile::Values &to);
+
     QString m_program;
     // The user's settings, and the administrator's where there are none.
     [[nodiscard]] gesturewidget::SettingsFile::Values settings() const;

@@ -16,18 +16,6 @@ namespace {
 
 constexpr int kPatience = 60000; // milliseconds
 
-// A caption for a command that has never been seen: "Line" for "ID_LINE", and the last caption of a
-// path of captions.
-QString captionFrom(const QString &identifier)
-{
-    const QLatin1String prefix("ID_");
-    if (!identifier.startsWith(prefix))
-        return identifier.section(QLatin1Char('/'), -1);
-    const QString words =
-        identifier.mid(prefix.size()).toLower().replace(QLatin1Char('_'), QLatin1Char(' '));
-    return words.left(1).toUpper() + words.mid(1);
-}
-
 } // namespace
 
 SheetContent sheetContent(const QString &program, const Bindings &bindings, const KnownCommands &known,

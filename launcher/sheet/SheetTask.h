@@ -13,7 +13,7 @@ namespace launcher {
 struct Bindings;
 class KnownCommands;
 
-// What to draw for the scheme in use. `usualTrigger` is the trigger of the program's profile.
+// The sheet's content for the scheme in use. `usualTrigger` is the trigger of the program's profile.
 [[nodiscard]] SheetContent sheetContent(const QString &program, const Bindings &bindings,
                                         const KnownCommands &known, const QString &usualTrigger);
 

@@ -5,14 +5,11 @@
 // standard output. mouse-gestures --print starts it.
 
 #include "launcher/sheet/SheetContent.h"
-#include "launcher/sheet/SheetPainter.h"
+#include "launcher/sheet/SheetPage.h"
 
 #include <QBuffer>
 #include <QFile>
 #include <QGuiApplication>
-#include <QLocale>
-#include <QPageSize>
-#include <QPainter>
 #include <QPdfWriter>
 
 #include <cstdio>
@@ -20,29 +17,15 @@
 namespace {
 
 constexpr int kResolution = 1200; // pixels per inch
-constexpr double kMillimetre = kResolution / 25.4;
-constexpr double kMargin = 16.0; // millimetres
-
-QPageSize paper()
-{
-    const bool isAmerican = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
-    return QPageSize(isAmerican ? QPageSize::Letter : QPageSize::A4);
-}
 
 bool draw(const launcher::SheetContent &content, QIODevice &device)
 {
     QPdfWriter writer(&device);
     writer.setResolution(kResolution);
-    writer.setPageSize(paper());
-    writer.setPageMargins(QMarginsF(kMargin, kMargin, kMargin, kMargin), QPageLayout::Millimeter);
+    sheet::setUpPage(writer);
     writer.setTitle(QStringLiteral("Mouse gestures in %1").arg(content.program));
     writer.setCreator(QStringLiteral("mouse-gestures"));
-    QPainter painter;
-    if (!painter.begin(&writer))
-        return false;
-    sheet::SheetPainter(content).paint(painter, QRectF(0.0, 0.0, writer.width(), writer.height()),
-                                       kMillimetre);
-    return painter.end();
+    return sheet::drawPage(content, writer, kResolution);
 }
 
 } // namespace

@@ -22,7 +22,7 @@ public:
     [[nodiscard]] virtual CHxDocument *GetDocument() const = 0;
 
     // Seven reasons for a tracker to ignore the event. Trackers ask in this order.
-    // A modal window is open.
+    // A modal window keeps the input from the view.
     [[nodiscard]] virtual bool IsModalWindowOpen() const = 0;
     // A menu or another popup is open.
     [[nodiscard]] virtual bool IsPopupOpen() const = 0;

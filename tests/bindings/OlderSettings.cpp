@@ -26,7 +26,7 @@ OlderSettings::OlderSettings()
 {
     if (!m_folder.isValid())
         qFatal("no temporary folder for settings");
-    // The system's settings are a fallback of the user's: none of those either.
+    // The system's settings are a fallback for the user's, so hide them as well.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_folder.path());
     QSettings::setPath(QSettings::NativeFormat, QSettings::SystemScope,
                        m_folder.filePath(QStringLiteral("system")));

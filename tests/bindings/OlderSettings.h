@@ -11,8 +11,8 @@
 
 namespace tests {
 
-// A folder of its own for QSettings, so that no test sees or touches the user's. In force
-// from construction on; the next one takes over.
+// Gives QSettings an empty folder, so that no test sees or touches the user's settings. It takes
+// effect at construction and lasts until the next object is made.
 class OlderSettings
 {
 public:
@@ -23,9 +23,9 @@ public:
              const QString &application = QStringLiteral("fakehost"));
     // The value of an entry of group "Gesture" on disk; invalid when there is none.
     [[nodiscard]] QVariant value(const QString &entry) const;
-    // Entry names of group "Gesture" as they are on disk now.
+    // The names of all entries in group "Gesture" on disk.
     [[nodiscard]] QStringList entries() const;
-    // The file itself, to be read by whoever opens the settings next.
+    // Writes the whole file. The next object that opens the settings reads it.
     void writeFile(const QByteArray &contents);
     [[nodiscard]] QByteArray readFile() const;
 

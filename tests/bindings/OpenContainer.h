@@ -7,7 +7,7 @@
 
 namespace tests {
 
-// A binding container of a test's own, its members in reach.
+// A binding container that a test creates itself. Makes its members public.
 class OpenContainer : public MgDonutDataContainer
 {
 public:

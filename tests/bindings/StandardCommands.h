@@ -20,10 +20,10 @@ void addStandardCommands(FakeHost &host);
 // The profile store's fourteen keys, in the order in which the container writes them.
 [[nodiscard]] QStringList allKeys();
 
-// The module's writes since the log was cleared, in order: "KEY=VALUE".
+// The values that the module wrote since the log was cleared, in order: "KEY=VALUE".
 [[nodiscard]] QStringList writes(const FakeHost &host);
 
-// Icons that are not null, told apart by their cacheKey().
+// Icons that are not null and differ in their cacheKey().
 [[nodiscard]] QIcon anyIcon();
 
 } // namespace tests

@@ -108,7 +108,7 @@ private Q_SLOTS:
         const tests::OpenContainer container;
         QTEST(container.getGestureEnabled(), "enabled");
         QCOMPARE(host->store.values.value(text("EnableMouseGesture")), kept);
-        // A proper value is not written again.
+        // A valid value is not written again.
         QCOMPARE(host->log.startingWith(text("store.set EnableMouseGesture")).size(),
                  stored == kept ? 0 : 1);
     }
@@ -183,7 +183,7 @@ private Q_SLOTS:
                  (std::pair<int, QVariant>(1, QString())));
     }
 
-    // A host may have a command without an identifier. An empty value still is "unbound".
+    // A host may have a command without an identifier. An empty value still means "unbound".
     void anEmptyValueBindsNothing()
     {
         host->commands.addCommand(QString(), text("nameless"), text("Nameless"));
@@ -211,7 +211,7 @@ private Q_SLOTS:
         QCOMPARE(container.fourTable, (Table{-1, 6, -1, -1}));
         QCOMPARE(container.eightTable, Table(8, -1));
         QCOMPARE(container.getCommandNameFromIndex(1), text("trim"));
-        // What is read from there is kept as it is before it is judged.
+        // A value from the older settings is stored unchanged first and repaired afterwards.
         QCOMPARE(tests::writes(*host).join(QLatin1Char(' ')),
                  text("EnableMouseGesture=0 ActiveScheme=4 41= 42=ID_TRIM 42=ID_TRIM 43= 44= 81= 82= "
                       "83= 84= 85= 86= 87= 88=ID_GONE 88="));
@@ -238,7 +238,7 @@ private Q_SLOTS:
         QVERIFY(host->store.values.isEmpty());
     }
 
-    // See HostFaultsTest for what that means to a container that has read before.
+    // HostFaultsTest covers a container that has read before.
     void aStoreThatHandsOutNothing()
     {
         host->store.values = {{text("EnableMouseGesture"), text("0")}, {text("41"), text("ID_LINE")}};
@@ -373,7 +373,7 @@ private Q_SLOTS:
             QTest::addRow("eight %d", d) << 1 << d << eight.at(d);
             QTest::addRow("any other scheme %d", d) << 2 << d << eight.at(d);
         }
-        // One past the last: where the two ends of the circle meet.
+        // One past the last sector: where the two ends of the circle meet.
         QTest::newRow("four sector count") << 0 << 4 << QString();
         QTest::newRow("eight sector count") << 1 << 8 << QString();
         QTest::newRow("four none") << 0 << -1 << QString();
@@ -391,7 +391,7 @@ private Q_SLOTS:
         QTEST(container.getCommandNameFromIndex(direction), "command");
     }
 
-    // While the host is being read the tables are those of the records before.
+    // While the host is being read, the tables still belong to the previous records.
     void placesWithoutARecordRunNothing()
     {
         tests::OpenContainer container;

@@ -94,7 +94,7 @@ private Q_SLOTS:
         const tests::OpenContainer container;
         QCOMPARE(container.getCategory(text("save")), text("Standard"));
 
-        // Of two bars as well.
+        // The same holds for two bars.
         tests::FakeMenu *secondBar = host->ui.addMenu();
         tests::FakeMenuItem *extra = host->ui.addItem(&secondBar->items, text("E&xtra"), true);
         addEntry(extra, "Save", "save");
@@ -156,7 +156,7 @@ private Q_SLOTS:
         QCOMPARE(container.categoryMap, (Categories{{text("nameless"), QString()},
                                                     {text("line"), text("Line")},
                                                     {text("arctan"), text("Arcs")}}));
-        // Found with an empty category, which is not the same as not found.
+        // A command with an empty category is still found.
         QCOMPARE(container.getCategory(text("nameless")), QString());
     }
 
@@ -177,7 +177,7 @@ private Q_SLOTS:
     {
         addEntry(host->addTopLevelMenu(text("&Draw")), "Line", "line");
         host->commands.addCommand(text("ID_LINE"), text("line"), text("Line"));
-        // Its identifier is a command string of the menus, its own command string is not.
+        // Its identifier equals a command string in the menus; its own command string does not.
         host->commands.addCommand(text("line"), text("arc"), text("Arc"));
         const tests::OpenContainer container;
         QCOMPARE(container.commands.size(), std::size_t(2));
@@ -266,7 +266,7 @@ private Q_SLOTS:
         tests::OpenContainer container;
         QCOMPARE(container.categoryMap,
                  (Categories{{text("arctan"), text("Draw")}, {text("line"), text("Draw")}}));
-        // Nothing of one walk is left over for the next.
+        // Each walk starts empty.
         container.init();
         QCOMPARE(container.categoryMap.size(), 2);
         arcs->subItems->items.clear();
@@ -293,7 +293,7 @@ private:
         return item;
     }
 
-    // Null is the bar itself.
+    // Null means the bar itself.
     void addEntry(tests::FakeMenuItem *menu, const char *caption, const char *commandString)
     {
         tests::FakeMenuItemCollection *items =

@@ -26,7 +26,7 @@ MgCommandDS record(const char *id, const char *command, const char *displayName,
             0};
 }
 
-// The configuration dialog's way of showing the scheme under its own name.
+// Shows the scheme under another class's name, as the configuration dialog does.
 class SchemeUser
 {
 public:
@@ -93,7 +93,7 @@ private Q_SLOTS:
         QTEST(a < b, "less");
     }
 
-    // Nothing but the category counts: no order inside one.
+    // Only the category counts, so there is no order inside one.
     void oneCategoryHasNoOrder()
     {
         const MgCommandDS a = record("ID_A", "a", "A", "Draw");

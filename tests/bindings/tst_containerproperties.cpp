@@ -18,8 +18,8 @@
 
 namespace {
 
-// One thing that happens to the container or around it. What the numbers mean depends on
-// the kind, and any number has a meaning.
+// One thing that happens to the container or around it. The kind decides what the numbers mean.
+// Every number is valid.
 struct Step
 {
     enum Kind { Init, Update, Reset, Gesture, StoreValue, ForgetKey, OlderValue, HostChange };
@@ -77,7 +77,7 @@ rc::Gen<Step> someStep()
         rc::gen::set(&Step::value, someValue()));
 }
 
-// One container in one host, and what has to be true of it after each step.
+// One container in one host, and what must hold after each step.
 class Walk
 {
 public:
@@ -136,7 +136,7 @@ public:
     }
 
 private:
-    // What the settings say of a key before they are read; an absent key is a null string.
+    // The value of a key in the settings before they are read; a null string if it is absent.
     QString stored(const QString &key)
     {
         if (!MgDonutSettings::instance()->keyExists(key))
@@ -289,7 +289,7 @@ private:
     {
         return m_container->commands[static_cast<std::size_t>(place)];
     }
-    // Among what the host offers now; -1 when it is none of it.
+    // The place among the commands that the host offers now; -1 if it is not one of them.
     int firstPlaceOf(const QString &identifier) const
     {
         const auto *group = static_cast<const tests::FakeCommandGroup *>(m_host.commands.groups.front());
@@ -317,7 +317,7 @@ private Q_SLOTS:
     void init() { tests::resetWarnings(); }
     void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
 
-    // Whatever happens around it, the container agrees with the settings and with itself.
+    // The container always agrees with the settings and with itself.
     void holdsInAnyOrderOfEvents()
     {
         QVERIFY(rc::check([] {

@@ -56,7 +56,7 @@ private Q_SLOTS:
         QCOMPARE(tests::writes(*host).join(QLatin1Char(' ')),
                  text("85=ID_COPY 43=ID_LINE 81=ID_LINE 41=ID_TRIM 42= 44= 82= 83= 84= 86= 87= 88= "
                       "EnableMouseGesture=0 ActiveScheme=4"));
-        // It asks the store nothing.
+        // It writes without reading.
         QCOMPARE(host->log.calls.size(), 14);
         QCOMPARE(container->fourTable, (Table{6, -1, 2, -1}));
         QCOMPARE(container->eightTable, (Table{2, -1, -1, -1, 0, -1, -1, -1}));
@@ -90,7 +90,7 @@ private Q_SLOTS:
         QCOMPARE(container->fourTable, (Table{-1, 4, -1, -1}));
         QCOMPARE(container->getCommandNameFromIndex(1), text("open"));
         QCOMPARE(host->store.values.value(text("42")), text("ID_OPEN"));
-        // The earlier record says so still, until everything is read anew.
+        // The earlier record keeps its direction until everything is read again.
         QCOMPARE(container->commands[1].fourDirection, static_cast<unsigned char>(2));
         QCOMPARE(container->commands[1].eightDirection, static_cast<unsigned char>(6));
         container->init();
@@ -162,7 +162,7 @@ private Q_SLOTS:
         QTEST(tests::writes(*host).mid(12).join(QLatin1Char(' ')), "written");
         QCOMPARE(container->getGestureEnabled(), enabled);
         QCOMPARE(static_cast<int>(container->getScheme()), scheme);
-        // And back again.
+        // Back to the first state.
         container->init();
         QCOMPARE(container->getGestureEnabled(), enabled);
         QCOMPARE(container->getScheme(), scheme == 0 ? DonutScheme::Four : DonutScheme::Eight);
@@ -224,7 +224,7 @@ private Q_SLOTS:
                  text("EnableMouseGesture=1 ActiveScheme=8 41=ID_ZOOM_BOUNDS 42=ID_OPEN 43=ID_SAVE "
                       "44=ID_LINE 81=ID_ZOOM_BOUNDS 82=ID_OFFSET 83=ID_OPEN 84=ID_COPY 85=ID_SAVE "
                       "86=ID_DTEXT 87=ID_LINE 88=ID_TRIM"));
-        // Reading them back writes the directions once more, but not the two others.
+        // Reading them back writes the directions again, but not the other two keys.
         QCOMPARE(written.mid(14), written.mid(2, 12));
     }
 

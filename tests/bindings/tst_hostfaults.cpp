@@ -19,7 +19,7 @@ namespace {
 
 using Table = std::vector<int>;
 
-// A host that throws something that is no exception of the standard library.
+// A host that throws something other than a standard exception.
 class OddHost : public tests::FakeHost
 {
 public:
@@ -34,8 +34,8 @@ public:
 
 } // namespace
 
-// A host that throws at any of its operations, or does not hand out what it has. No binding
-// is lost by that, and no exception leaves the bindings.
+// The host throws in any of its operations or withholds a value. No binding is lost, and no exception
+// leaves the container.
 class HostFaultsTest : public QObject
 {
     Q_OBJECT
@@ -52,7 +52,7 @@ private Q_SLOTS:
         tests::FakeMenuItem *draw = host->addTopLevelMenu(text("&Draw"));
         auto *group = static_cast<tests::FakeCommandGroup *>(host->commands.groups.front());
         host->ui.addItem(draw->subItems.get(), text("Line"), false, {}, group->commands[2]);
-        // As a user has them, with an unbound direction in either scheme.
+        // Settings as a user has them, with an unbound direction in either scheme.
         const QStringList ids = tests::standardIdentifiers();
         host->store.values = {{text("EnableMouseGesture"), text("0")},
                               {text("ActiveScheme"), text("4")}};
@@ -73,7 +73,7 @@ private Q_SLOTS:
         QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
     }
 
-    // At every single call of a reading.
+    // Fails each call of a reading in turn.
     void aFailedReadingKeepsTheLastOne()
     {
         tests::OpenContainer container;
@@ -101,7 +101,7 @@ private Q_SLOTS:
         QVERIFY(!container.hasReadingFailed());
     }
 
-    // OK in the dialog hands back what the container has: after a first reading that failed,
+    // OK in the dialog hands back what the container has. After a failed first reading that is
     // next to nothing.
     void aFailedReadingIsNotSavedOver()
     {
@@ -116,7 +116,7 @@ private Q_SLOTS:
             container->update(container->getCommandsDS(), container->getGestureEnabled(),
                               container->getScheme());
             QCOMPARE(host->store.values, stored);
-            // The next reading that succeeds makes good for it.
+            // The next successful reading restores everything.
             container->init();
             QVERIFY(!container->hasReadingFailed());
             QCOMPARE(container->fourTable, (Table{1, 2, -1, 4}));
@@ -153,7 +153,7 @@ private Q_SLOTS:
         QCOMPARE(host->store.values, stored);
     }
 
-    // Each key that is written stands alone.
+    // Each key is written by a call of its own, so one failure loses one key.
     void aWriteThatFailsKeepsNoOtherFromBeingMade()
     {
         tests::OpenContainer container;

@@ -102,7 +102,7 @@ private Q_SLOTS:
         QVERIFY(settings->write(text("41"), text("ID_LINE")));
         QCOMPARE(buffers.buffers.lastSection, text("GestureWidget"));
         QCOMPARE(buffers.buffers.last->getString().toQString(), text("ID_LINE"));
-        // The module has let go of it.
+        // The module has released it.
         QCOMPARE(buffers.buffers.last->numRefs(), 1L);
     }
 
@@ -173,7 +173,7 @@ private Q_SLOTS:
         QVERIFY(tests::writes(*host).isEmpty());
     }
 
-    // What older programs left on disk, byte for byte.
+    // Files of older programs, byte for byte.
     void olderFiles_data()
     {
         QTest::addColumn<QByteArray>("file");
@@ -193,7 +193,7 @@ private Q_SLOTS:
         QTest::newRow("number") << QByteArray("[Gesture]\nSettings%5C41=17\n") << true << "17";
         // A list has no text.
         QTest::newRow("list") << QByteArray("[Gesture]\nSettings%5C41=a, b\n") << true << "";
-        // With a slash in place of the backslash it is an entry of a subgroup, another one.
+        // With a slash in place of the backslash it is a different entry, in a subgroup.
         QTest::newRow("slash") << QByteArray("[Gesture]\nSettings\\41=ID_X\n") << false
                                << "ID_ZOOM_BOUNDS";
         QTest::newRow("other group")
@@ -262,7 +262,7 @@ private Q_SLOTS:
         QVERIFY(!settings->keyExists(text("42")));
         host->store.values = {{text("42"), QString()}};
         QVERIFY(settings->keyExists(text("42")));
-        // Asking writes nothing.
+        // A query writes nothing.
         QVERIFY(tests::writes(*host).isEmpty());
     }
 
@@ -331,7 +331,8 @@ private Q_SLOTS:
         QCOMPARE(older->readFile(), QByteArray("[Other]\nkept=1\n"));
     }
 
-    // Emptied first: whatever is left there would come back for a key that is not written.
+    // The older settings are emptied first. Otherwise a key that cannot be written would get its old
+    // value back from there.
     void deleteAllKeysEmptiesTheOlderGroupFirst()
     {
         class WatchingHost : public tests::FakeHost
@@ -378,7 +379,7 @@ private Q_SLOTS:
         settings->deleteAllKeys();
         QVERIFY(host->log.calls.isEmpty());
         QVERIFY(host->store.values.isEmpty());
-        // Whose settings they are is known from the services alone.
+        // Only the services know the application's name, which the older settings are kept under.
         QCOMPARE(older->entries().isEmpty(), hasServices);
     }
 
@@ -403,7 +404,7 @@ private Q_SLOTS:
     void valuesPassUnchanged_data()
     {
         someValues();
-        // No text in any encoding, which is why QSettings does not keep it.
+        // No encoding can express this, so QSettings does not keep it.
         QTest::newRow("lone surrogate") << QString(QChar(0xd800));
     }
 

@@ -28,9 +28,9 @@ using Bytes = QPair<int, int>;
     return bytes;
 }
 
-// The bytes of all records after the record in `row` was given a direction. States the rules
-// of assigning a second time and in another way than the model has them: as tables of what
-// each direction is in the other scheme, and as the state that follows from the one before.
+// The bytes of all records after the record in `row` was given a direction. This is a second
+// implementation of the model's rules in another form: tables that give each direction in the other
+// scheme, and a function from the state before to the state after.
 [[nodiscard]] inline std::vector<Bytes> bytesAfter(const std::vector<Bytes> &before, bool fourScheme,
                                                    std::size_t row, int direction)
 {

@@ -20,7 +20,7 @@ struct Known
     int menu;
 };
 
-// Those that the factory binds to directions.
+// The commands of the factory bindings.
 constexpr Known kKnown[] = {
     {"ID_ZOOM_BOUNDS", "Zoom Bounds", 1},
     {"ID_OPEN", "Open...", 0},

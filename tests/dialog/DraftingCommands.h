@@ -11,7 +11,7 @@ namespace tests {
 
 class FakeHost;
 
-// An icon of one colour that has pictures for screens of one and of two pixels a point.
+// An icon of one colour, with images for pixel ratios 1 and 2.
 [[nodiscard]] QIcon squareIcon(const QColor &color);
 
 // Gives a host the menus of a drafting program ("&File", "&Edit", "&Draw", "&Modify",

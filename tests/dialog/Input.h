@@ -30,7 +30,7 @@ inline void click(QWidget *widget, const QPoint &position, Qt::KeyboardModifiers
                       widget->mapTo(window, position));
 }
 
-// Clicks the left edge of a button, where check boxes and radio buttons have their mark.
+// Clicks the left edge of a button. Check boxes and radio buttons have their mark there.
 inline void click(QAbstractButton *button)
 {
     click(button, QPoint(8, button->height() / 2));
@@ -63,7 +63,8 @@ inline void wheel(QWidget *widget, const QPoint &position, int angle)
     QWidget *window = widget->window();
     QWheelEvent event(widget->mapTo(window, position), widget->mapToGlobal(position), QPoint(),
                       QPoint(0, angle), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    // Marked as coming from the window system: only then an ignored event goes to the parent.
+    // Marks the event as coming from the window system. Otherwise Qt does not pass an ignored event to
+    // the parent.
     QSpontaneKeyEvent::setSpontaneous(&event);
     qApp->notify(window->windowHandle(), &event);
 }
@@ -74,11 +75,11 @@ inline void type(QWidget *widget, const QString &text)
         QTest::keyClick(widget->window()->windowHandle(), character.toLatin1());
 }
 
-// Points at an entry of an open drop-down and clicks it. True once it has closed: right after
-// it was opened with the mouse a drop-down takes no click, so this is tried again.
+// Points at an entry of an open drop-down and clicks it. Returns true once the list has closed. Call
+// it again otherwise: a drop-down ignores clicks for a moment after the mouse opened it.
 [[nodiscard]] inline bool chooseWithMouse(QComboBox *box, int row)
 {
-    // The choice may end the drop-down and its list.
+    // The choice may destroy the drop-down and its list.
     const QPointer<QAbstractItemView> list = box->view();
     if (!list->isVisible())
         return true;

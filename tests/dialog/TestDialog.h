@@ -32,7 +32,7 @@ constexpr int kCategory = 0;
 constexpr int kCommand = 1;
 constexpr int kDirection = 2;
 
-// The dialog with all of its parts in reach.
+// The dialog with all its parts public.
 class TestDialog : public MgDonutDialogManager
 {
 public:
@@ -54,7 +54,7 @@ public:
     using MgDonutDialogManager::scheme;
     using MgDonutDialogManager::ui;
 
-    // Answers in place of the print dialog when it is set.
+    // If set, this answers in place of the print dialog.
     std::function<int(QPrinter &)> printDialog;
 
     // The cells of one column that the table shows, from the top.
@@ -73,9 +73,9 @@ public:
             directions.append(cell(row, MgCommandDSModel::kDirectionColumn).data(Qt::EditRole).toInt());
         return directions;
     }
-    // A cell as the table has it.
+    // A cell of the table, by its row and column there.
     [[nodiscard]] QModelIndex cell(int row, int column) const { return proxy->index(row, column); }
-    // The row that shows a command; -1 when none does.
+    // The row that shows a command; -1 if there is none.
     [[nodiscard]] int rowOf(const QString &displayName) const
     {
         return static_cast<int>(shown().indexOf(displayName));
@@ -89,7 +89,7 @@ public:
         }
         return {{}, {}, {}, {}, {}, {}, 0xff, 0xff};
     }
-    // The drop-down that is open in the table; null for none.
+    // The editor in the table; null if there is none.
     [[nodiscard]] QComboBox *editor() const
     {
         const auto editors = ui.command_tableView->viewport()->findChildren<QComboBox *>();

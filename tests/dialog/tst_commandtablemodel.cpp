@@ -28,7 +28,7 @@ using tests::TestDialog;
 
 namespace {
 
-// The model, with rows only where a table has them.
+// The model, but without children below its cells.
 class RootOnlyModel : public MgCommandDSModel
 {
 public:
@@ -43,7 +43,7 @@ public:
     }
 };
 
-// What QAbstractItemModelTester complains of.
+// The faults that QAbstractItemModelTester reports.
 QStringList *complaints = nullptr;
 
 void collectComplaints(QtMsgType /*type*/, const QMessageLogContext &context, const QString &text)
@@ -120,7 +120,7 @@ void CommandTableModelTest::init()
 {
     tests::resetWarnings();
     m_host = std::make_unique<tests::FakeHost>();
-    // No direction is bound: the factory's commands are not offered.
+    // The host does not offer the factory's commands, so no direction is bound.
     for (const char *id : {"A", "B", "C", "D", "E"})
         m_host->commands.addCommand(QLatin1String(id), QString(QLatin1String(id)).toLower(),
                                     QStringLiteral("Name ") + QLatin1String(id),
@@ -134,7 +134,7 @@ void CommandTableModelTest::cleanup()
     QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
 }
 
-// Opens the dialog over what the host offers and keeps by now.
+// Opens a dialog for the host's current commands and settings.
 void CommandTableModelTest::open(const char *scheme)
 {
     m_host->store.values.insert(QStringLiteral("ActiveScheme"), QLatin1String(scheme));
@@ -201,7 +201,8 @@ void CommandTableModelTest::columnsAndRoles()
 
     const MgCommandDSModel *model = m_dialog->model;
     QCOMPARE(model->data(model->index(0, column), role), expected);
-    // The icons, which have no comparison: the command's own, and the arrow of its direction.
+    // Icons cannot be compared, so compare their images: the command's icon and the arrow of its
+    // direction.
     QVERIFY(!model->data(model->index(0, kCommand), Qt::DecorationRole).value<QIcon>().isNull());
     QVERIFY(!model->data(model->index(0, kDirection), Qt::DecorationRole).value<QIcon>().isNull());
     QVERIFY(!model->data(model->index(1, kDirection), Qt::DecorationRole).isValid());
@@ -253,7 +254,7 @@ void CommandTableModelTest::invalidIndexes()
         QCOMPARE(int(model->getInvokerType(row)), 0);
     }
 
-    // An index kept from before the commands became fewer.
+    // This index is from a time when there were more commands.
     const QModelIndex stale = model->index(4, kDirection);
     static_cast<tests::FakeCommandGroup *>(m_host->commands.groups.front())->commands.resize(2);
     MgDonutDataContainer::instance()->init();
@@ -272,7 +273,7 @@ void CommandTableModelTest::rowsAndColumnsWhateverTheParent()
     QCOMPARE(model->columnCount(model->index(1, 1)), 3);
 }
 
-// Whatever the tester finds in a model in every other respect, strictly.
+// Checks everything else that the tester knows, strictly.
 void CommandTableModelTest::passesTheModelTester()
 {
     open("8");
@@ -301,9 +302,9 @@ void CommandTableModelTest::passesTheModelTester()
     QCOMPARE(proxy.rowCount(), 5);
 }
 
-// The model as it is claims rows below its cells, too. The tester finds that such a cell has
-// no children and that what is said to be one has another parent, and nothing else; the same
-// of the proxy, which asks the model.
+// The real model claims rows below its cells too, which is specified. The tester finds two faults
+// that follow from it: the cell has no children, and its claimed child has another parent. It finds
+// nothing else, and the same in the proxy, which asks the model.
 void CommandTableModelTest::testerFindsOnlyTheRowsBelowCells()
 {
     open("8");
@@ -415,7 +416,7 @@ void CommandTableModelTest::setDataEmitsNothing()
     assign(QStringLiteral("A"), 1);
     QCOMPARE(changed.count() + reset.count(), 0);
     QVERIFY(!layout);
-    // So the filter does not notice until it is asked again.
+    // So the filter notices only when it is applied again.
     QCOMPARE(m_dialog->shown(), QStringList());
     m_dialog->applyFilter();
     QCOMPARE(m_dialog->shown(), QStringList(QStringLiteral("Name A")));
@@ -521,7 +522,7 @@ void CommandTableModelTest::linkedDirections()
     QFETCH(int, direction);
     QFETCH(int, four);
     QFETCH(int, eight);
-    // B begins with the four direction right, which only diagonals leave alone.
+    // B starts with "right" in the four scheme. Only diagonals do not change that.
     m_host->store.values = {{QStringLiteral("44"), QStringLiteral("B")}};
     open(qPrintable(scheme));
     assign(QStringLiteral("B"), direction);
@@ -573,7 +574,7 @@ void CommandTableModelTest::randomWalkKeepsTheRules()
         }
         shared += ups > 1 ? 1 : 0;
     }
-    // The walk has been where two records share a four direction, or it has proved little.
+    // The walk must have reached states where two records share a four direction.
     QVERIFY(shared > 1000);
 }
 
@@ -595,7 +596,7 @@ void CommandTableModelTest::takesChangesBackOneByOne()
         m_dialog->scheme = four ? MgDonutDialogManager::Four : MgDonutDialogManager::Eight;
         const QModelIndex cell = model->index(upTo(model->rowCount() - 1), kDirection);
         QVERIFY(model->setData(cell, upTo(four ? 4 : 8), Qt::EditRole));
-        // A choice that changes nothing is none to take back.
+        // A choice that changed nothing cannot be undone.
         const std::vector<Bytes> state = tests::bytesOf(model->getCommands());
         if (state != states.back())
             states.push_back(state);
@@ -644,7 +645,7 @@ void CommandTableModelTest::assignedOnlyShowsNonzeroCurrentDirections()
     m_dialog->ui.filter_checkBox->setChecked(true);
     QCOMPARE(m_dialog->shown(), QStringList({QStringLiteral("Name A"), QStringLiteral("Name D")}));
 
-    // Nothing asks the filter while only the scheme changes; then it is applied.
+    // The scheme alone does not apply the filter. Applying it afterwards does.
     m_dialog->scheme = MgDonutDialogManager::Four;
     QCOMPARE(m_dialog->shown(), QStringList({QStringLiteral("Name A"), QStringLiteral("Name D")}));
     m_dialog->proxy->applyFilter();
@@ -678,7 +679,7 @@ void CommandTableModelTest::filterCondition_data()
     const QString all = QStringLiteral("All Commands");
     const QString draw = QStringLiteral("Draw");
     const QString none;
-    // Asked of a row "Arc" in "Draw" that has no direction.
+    // The row is "Arc" in "Draw", without a direction.
     QTest::newRow("nothing asked") << all << false << none << true;
     QTest::newRow("assigned only") << all << true << none << false;
     QTest::newRow("its category") << draw << false << none << true;
@@ -745,12 +746,12 @@ void CommandTableModelTest::sortingTextsIsCaseSensitiveAndStable()
     QCOMPARE(m_dialog->shown(),
              QStringList({QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("a"),
                           QStringLiteral("b"), QString::fromUtf8("Ä")}));
-    // Not the order that was there before: equal rows keep the source's.
+    // Equal rows keep the order of the source model, not the order shown before.
     m_dialog->proxy->sort(kCategory, Qt::AscendingOrder);
     QCOMPARE(m_dialog->shown(), names);
     m_dialog->proxy->sort(kCategory, Qt::DescendingOrder);
     QCOMPARE(m_dialog->shown(), names);
-    // Also after rows were filtered out and have come back.
+    // The same after rows were filtered out and came back.
     for (const Qt::SortOrder order : {Qt::AscendingOrder, Qt::DescendingOrder}) {
         m_dialog->proxy->sort(kCategory, order);
         m_dialog->ui.search_lineEdit->setText(QStringLiteral("b"));
@@ -775,7 +776,7 @@ void CommandTableModelTest::sortsAgainWhenTheFilterIsApplied()
     QCOMPARE(m_dialog->shownDirections(), QList<int>({5, 1, 0, 0, 0}));
 }
 
-// Compared as the base class would, for which a model of the same texts stands here.
+// The result must equal that of the base class on a model with the same texts.
 void CommandTableModelTest::comparesTextsAsTheBaseClassDoes()
 {
     const QStringList names{QString(),
@@ -806,7 +807,7 @@ void CommandTableModelTest::comparesTextsAsTheBaseClassDoes()
                      plainProxy.index(row, kCommand).data().toString());
     }
 
-    // With other settings it is the base class that compares.
+    // With other settings the base class compares.
     m_dialog->proxy->setSortCaseSensitivity(Qt::CaseInsensitive);
     plainProxy.setSortCaseSensitivity(Qt::CaseInsensitive);
     plainProxy.sort(-1);

@@ -21,7 +21,7 @@ using tests::kCommand;
 using tests::kDirection;
 using tests::TestDialog;
 
-// The dialog as it is used: with the mouse and the keys of a window.
+// Uses the dialog with the mouse and the keyboard, as a person does.
 class ConfigurationDialogTest : public QObject
 {
     Q_OBJECT
@@ -125,7 +125,7 @@ void ConfigurationDialogTest::bind(const QString &command, int direction)
     m_dialog->ui.command_tableView->scrollTo(m_dialog->cell(row, kDirection));
     tests::click(m_dialog->ui.command_tableView, m_dialog->cell(row, kDirection));
     QVERIFY(m_dialog->editor());
-    // Clicked while it was open already, the drop-down has popped up.
+    // If the editor was there before the click, the click has opened its list.
     if (!QApplication::activePopupWidget())
         tests::key(m_dialog.get(), Qt::Key_F4);
     tests::key(m_dialog.get(), Qt::Key_Home);
@@ -166,12 +166,12 @@ void ConfigurationDialogTest::openingWithGesturesEnabled()
     QVERIFY(m_dialog->ui.enableGesture_checkBox->isChecked());
     QCOMPARE(m_dialog->getScheme(), TestDialog::Eight);
     QCOMPARE(m_dialog->directionList.rowCount(), 9);
-    // "Reset to Defaults" too, although there is nothing to reset: checking the enable box
-    // is the last step of opening, and that enables it.
+    // "Reset to Defaults" too, although there is nothing to reset. The last step of opening checks the
+    // enable box, and that enables the button.
     for (const QWidget *control : switchedControls())
         QVERIFY2(control->isEnabled(), qPrintable(control->objectName()));
 
-    // Asked again, with the box checked already, it is the defaults that decide.
+    // The second time the box is checked already, so the bindings decide.
     m_dialog->initDialogState();
     QVERIFY(!m_dialog->ui.reset_pushButton->isEnabled());
 }
@@ -199,7 +199,7 @@ void ConfigurationDialogTest::enableBoxSwitchesTheControls()
     tests::click(m_dialog->ui.enableGesture_checkBox);
     for (const QWidget *control : switchedControls())
         QVERIFY2(!control->isEnabled(), qPrintable(control->objectName()));
-    // With the key as well, and it enables "Reset to Defaults" whatever the bindings are.
+    // The key works as well. It enables "Reset to Defaults" for any bindings.
     QVERIFY(m_dialog->ui.enableGesture_checkBox->hasFocus());
     tests::key(m_dialog.get(), Qt::Key_Space);
     for (const QWidget *control : switchedControls())
@@ -238,7 +238,7 @@ void ConfigurationDialogTest::switchingToFourGestures()
     QCOMPARE(toggled.count(), 1);
     QCOMPARE(m_dialog->getScheme(), TestDialog::Four);
     QVERIFY(m_dialog->ui.reset_pushButton->isEnabled());
-    // Filtered again: those with a four direction. Their arrows are those of the four scheme.
+    // The filter was applied: it shows commands with a four direction, with the arrows of that scheme.
     QCOMPARE(m_dialog->proxy->rowCount(), 4);
     QCOMPARE(arrow(QStringLiteral("Open...")), image("left.png"));
     QCOMPARE(arrow(QStringLiteral("Save")), image("down.png"));
@@ -389,8 +389,7 @@ void ConfigurationDialogTest::pressingARowShowsAndEditsIt()
         QTest::mousePress(m_dialog->windowHandle(), Qt::LeftButton, {},
                           table->viewport()->mapTo(
                               m_dialog.get(), table->visualRect(m_dialog->cell(row, column)).center()));
-        // On the press, before the button is let go. Pressing the drop-down itself is not
-        // pressing the row.
+        // Already on the press, before the release. A press on the drop-down is not a press on the row.
         QVERIFY(m_dialog->editor());
         if (QApplication::activePopupWidget())
             tests::key(m_dialog.get(), Qt::Key_Escape);
@@ -448,7 +447,7 @@ void ConfigurationDialogTest::selectionChangesAloneDoNothing()
     m_dialog->ui.command_tableView->selectRow(2);
     QCOMPARE(m_dialog->ui.description_label->text(), QString());
     QVERIFY(!m_dialog->editor());
-    // The slot does what a press does, when somebody calls it.
+    // A call of the slot has the same effect as a press.
     m_dialog->viewSelectionChanged(QItemSelection(), QItemSelection());
     QVERIFY(!m_dialog->ui.description_label->text().isEmpty());
     QVERIFY(m_dialog->editor());
@@ -620,7 +619,7 @@ void ConfigurationDialogTest::resetConfirmed()
     QVERIFY(m_dialog->ui.reset_pushButton->isEnabled());
     bind(QStringLiteral("Line"), 2);
     tests::click(m_dialog->ui.reset_pushButton);
-    // At once, in the store, the container and the table.
+    // Store, container and table change at once.
     QCOMPARE(stored("81"), QStringLiteral("ID_ZOOM_BOUNDS"));
     QCOMPARE(stored("84"), QStringLiteral("ID_COPY"));
     QCOMPARE(stored("44"), QStringLiteral("ID_LINE"));
@@ -629,7 +628,7 @@ void ConfigurationDialogTest::resetConfirmed()
     QCOMPARE(int(m_dialog->record(QStringLiteral("ID_COPY")).eightDirection), 4);
     QVERIFY(m_dialog->isVisible());
     QVERIFY(!m_dialog->ui.reset_pushButton->isEnabled());
-    // The table goes on being usable.
+    // The table still works.
     bind(QStringLiteral("Line"), 2);
     QVERIFY(m_dialog->ui.reset_pushButton->isEnabled());
 }
@@ -677,8 +676,8 @@ void ConfigurationDialogTest::resetWithoutServices_data()
     QTest::newRow("Cancel") << false;
 }
 
-// The dialog asks by itself then. Without a store nothing is kept, and without commands
-// nothing can be bound, so an empty table is what shows that it was done.
+// The dialog asks with a box of its own then. Without a store nothing is kept and without commands
+// nothing can be bound, so only an empty table shows that the reset was done.
 void ConfigurationDialogTest::resetWithoutServices()
 {
     QFETCH(bool, confirmed);
@@ -752,21 +751,21 @@ void ConfigurationDialogTest::badTexts()
     const int row = m_dialog->rowOf(text);
     QVERIFY(row >= 0);
     tests::click(m_dialog->ui.command_tableView, m_dialog->cell(row, kCommand));
-    // Of an enormous one as much as the label could not show in any case.
+    // A very long description is cut far beyond what the label can show.
     QCOMPARE(m_dialog->ui.description_label->text(), text.left(10000));
     QVERIFY(m_dialog->editor());
     bind(text, 5);
     QCOMPARE(int(m_dialog->record(QStringLiteral("ID_BAD")).eightDirection), 5);
     QVERIFY(!m_dialog->grab().isNull());
 
-    // Found by itself, and as a category.
+    // The search finds it, and so does its category.
     m_dialog->ui.search_lineEdit->setMaxLength(200000);
     m_dialog->ui.search_lineEdit->setText(text.left(20));
     if (m_dialog->ui.search_lineEdit->text() == text.left(20))
         QVERIFY(m_dialog->rowOf(text) >= 0);
     m_dialog->ui.search_lineEdit->clear();
     m_dialog->ui.category_comboBox->setCurrentIndex(1);
-    // What is in a menu without a caption is filed under its own.
+    // A command in a menu without a caption is filed under its own caption.
     QCOMPARE(m_dialog->rowOf(text) >= 0, !text.isEmpty());
     tests::click(m_dialog->button(QDialogButtonBox::Ok));
     QCOMPARE(stored("85"), QStringLiteral("ID_BAD"));
@@ -782,7 +781,7 @@ void ConfigurationDialogTest::descriptionsAreNeverRendered()
     tests::click(m_dialog->ui.command_tableView, m_dialog->cell(m_dialog->rowOf(markup), kCommand));
     const QLabel *label = m_dialog->ui.description_label;
     QCOMPARE(label->text(), markup);
-    // As tall as text in lines, not as what the markup would make of it.
+    // The label is as tall as plain text, not as tall as rendered markup.
     QLabel plain;
     plain.setFont(label->font());
     plain.setWordWrap(true);
@@ -802,7 +801,7 @@ void ConfigurationDialogTest::twoCommandsWithOneIdentifier()
     m_host->commands.addCommand(QStringLiteral("ID_LINE"), QStringLiteral("other"),
                                 QStringLiteral("Another Line"));
     open();
-    // The first is the one that is bound; each can be given a direction of its own.
+    // The first one is bound. Each can get a direction of its own.
     QCOMPARE(m_dialog->model->rowCount(), 41);
     bind(QStringLiteral("Another Line"), 2);
     QCOMPARE(
@@ -811,7 +810,7 @@ void ConfigurationDialogTest::twoCommandsWithOneIdentifier()
     tests::click(m_dialog->button(QDialogButtonBox::Ok));
     QCOMPARE(stored("82"), QStringLiteral("ID_LINE"));
     QCOMPARE(stored("87"), QStringLiteral("ID_LINE"));
-    // Which of them that meant is not kept: both directions come back to the first.
+    // The settings hold only the identifier, so both directions come back to the first.
     open();
     QCOMPARE(m_dialog->cell(m_dialog->rowOf(QStringLiteral("Another Line")), kDirection)
                  .data(Qt::EditRole)

@@ -17,7 +17,7 @@ using tests::kCommand;
 using tests::kDirection;
 using tests::TestDialog;
 
-// The dialog as a screen reader has it.
+// The dialog as a screen reader sees it.
 class DialogAccessibilityTest : public QObject
 {
     Q_OBJECT
@@ -139,7 +139,7 @@ void DialogAccessibilityTest::everyControlIsAsserted()
 void DialogAccessibilityTest::description()
 {
     QLabel *label = m_dialog->ui.description_label;
-    // Empty, it is read as the box that it is in.
+    // An empty label has the name of its box.
     QCOMPARE(read(label)->text(QAccessible::Name), QStringLiteral("Description"));
     for (const int row : {1, 4}) {
         tests::click(m_dialog->ui.command_tableView, m_dialog->cell(row, kCommand));

@@ -15,7 +15,7 @@
 
 using tests::TestDialog;
 
-// The dialog in a host that throws at any of its operations.
+// The dialog in a host that throws in any of its operations.
 class DialogFaultsTest : public QObject
 {
     Q_OBJECT
@@ -54,8 +54,8 @@ void DialogFaultsTest::cleanup()
     QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
 }
 
-// The reading fails before the dialog opens, at every call that a reading makes, and the
-// reading that the dialog tries for itself fails as well.
+// Each call of a reading fails in turn before the dialog opens. The dialog's own attempt to read again
+// fails or succeeds.
 void DialogFaultsTest::okErasesNothingThatWasNotRead()
 {
     int calls = 0;
@@ -79,7 +79,7 @@ void DialogFaultsTest::okErasesNothingThatWasNotRead()
     QVERIFY2(calls > 100, qPrintable(QString::number(calls)));
 }
 
-// Without the menus there are still the categories of the commands.
+// If the menus throw, the categories come from the commands.
 void DialogFaultsTest::throwsWhileTheDialogOpens()
 {
     const int categories = TestDialog().ui.category_comboBox->count();

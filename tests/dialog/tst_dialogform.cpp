@@ -7,6 +7,7 @@
 #include "tests/dialog/Input.h"
 #include "tests/dialog/TestDialog.h"
 #include "tests/fakehost/FakeHost.h"
+#include "tests/support/EmbeddedLanguage.h"
 #include "tests/support/FakeTranslator.h"
 #include "tests/support/FatalWarnings.h"
 
@@ -23,7 +24,7 @@
 
 using tests::TestDialog;
 
-// The dialog as it is built: its form, its texts, its sizes, and who owns what.
+// How the dialog is built: its form, texts, sizes and owners.
 class DialogFormTest : public QObject
 {
     Q_OBJECT
@@ -285,7 +286,7 @@ void DialogFormTest::sizePolicies()
     QCOMPARE(dialog.ui.description_label->textFormat(), Qt::PlainText);
 }
 
-// In a font as small as the form was laid out for.
+// Uses a font as small as the form was designed for.
 void DialogFormTest::sizeForSmallTexts()
 {
     QFont small = m_font;
@@ -316,14 +317,23 @@ void DialogFormTest::widthCannotBeChanged()
 
 void DialogFormTest::growsWithTheFontAndClipsNothing_data()
 {
+    QTest::addColumn<QString>("language");
     QTest::addColumn<int>("pixels");
     for (const int pixels : {8, 10, 12, 15, 20, 26, 32, 39})
-        QTest::addRow("%d pixels", pixels) << pixels;
+        QTest::addRow("%d pixels", pixels) << QStringLiteral("en") << pixels;
+    // From 100 to 300 % of a usual font.
+    for (const char *language : tests::kLanguages) {
+        for (const int pixels : {13, 16, 20, 26, 39})
+            QTest::addRow("%s, %d pixels", language, pixels) << QString::fromLatin1(language) << pixels;
+    }
 }
 
 void DialogFormTest::growsWithTheFontAndClipsNothing()
 {
+    QFETCH(QString, language);
     QFETCH(int, pixels);
+    const tests::EmbeddedLanguage embedded(QStringLiteral("module"), language);
+    QCOMPARE(embedded.isLoaded(), language != QLatin1String("en"));
     QFont font = m_font;
     font.setPixelSize(pixels);
     QApplication::setFont(font);
@@ -350,21 +360,28 @@ void DialogFormTest::growsWithTheFontAndClipsNothing()
         const QRect inDialog(control->mapTo(&dialog, QPoint()), control->size());
         QVERIFY2(dialog.rect().contains(inDialog), qPrintable(what));
     }
-    // Row heights come from the font as well.
+    // Row heights follow the font as well.
     const MgCommandTableView *table = dialog.ui.command_tableView;
     QCOMPARE(table->rowHeight(0), table->fontMetrics().height() + 8);
     QVERIFY(dialog.ui.description_groupBox->geometry().right() < dialog.width());
     const QGroupBox *box = dialog.ui.description_groupBox;
     const QLabel *label = dialog.ui.description_label;
     QVERIFY(box->rect().contains(label->geometry()));
-    // The label takes what its box has, below the title, for three lines.
+    // The label fills its box below the title and has room for three lines.
     QCOMPARE(box->width() - label->width(), 396 - 371);
     QVERIFY(label->y() >= dialog.fontMetrics().height());
     QVERIFY(label->height() >= 3 * dialog.fontMetrics().height());
     // No header and no usual category is elided.
     for (int column = 0; column < 3; ++column) {
         const QString header = dialog.proxy->headerData(column, Qt::Horizontal).toString();
-        QVERIFY(table->columnWidth(column) >= table->fontMetrics().horizontalAdvance(header));
+        const auto headerFont =
+            dialog.proxy->headerData(column, Qt::Horizontal, Qt::FontRole).value<QFont>();
+        const int margin = table->style()->pixelMetric(QStyle::PM_HeaderMargin);
+        const int needed = QFontMetrics(headerFont).horizontalAdvance(header) + 2 * margin;
+        QVERIFY2(
+            table->columnWidth(column) >= needed,
+            qPrintable(
+                QStringLiteral("%1: %2 of %3").arg(header).arg(table->columnWidth(column)).arg(needed)));
     }
     int category = 0;
     for (const QString &text : dialog.shown(0))
@@ -391,7 +408,7 @@ void DialogFormTest::windowFlags()
     QVERIFY(!(plain.windowFlags() & Qt::WindowContextHelpButtonHint));
     QVERIFY(plain.windowFlags() & Qt::WindowTitleHint);
     QVERIFY(plain.windowFlags() & Qt::WindowSystemMenuHint);
-    // The host's dialog adds a close button unless it is told to keep the flags.
+    // The host's dialog adds a close button unless it is asked to keep the flags.
     QVERIFY(plain.windowFlags() & Qt::WindowCloseButtonHint);
     QVERIFY(plain.isWindow());
 
@@ -423,7 +440,7 @@ void DialogFormTest::buttonIcons()
         QCOMPARE(color(dialog.button(QDialogButtonBox::Cancel)), QColor(QStringLiteral("#b22222")));
         QCOMPARE(color(dialog.button(QDialogButtonBox::Help)), QColor(QStringLiteral("#4169e1")));
     }
-    // A host without the images: what the style has for these buttons.
+    // Without the host's images the buttons have the style's icons.
     Q_CLEANUP_RESOURCE(hosticons);
     const TestDialog dialog;
     QDialogButtonBox plain(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Help);
@@ -470,7 +487,7 @@ void DialogFormTest::columnsAndRows()
     QVERIFY(tests::showActive(dialog));
     QCOMPARE(view->columnWidth(0), header->defaultSectionSize());
     QCOMPARE(view->columnWidth(1), static_cast<int>(header->defaultSectionSize() * 2.1));
-    // Stretched over the rest.
+    // The column takes the remaining width.
     QCOMPARE(view->columnWidth(2),
              view->viewport()->width() - view->columnWidth(0) - view->columnWidth(1));
     QVERIFY(view->columnWidth(2) > 10);
@@ -507,7 +524,7 @@ void DialogFormTest::directionIcons()
         dialog.ui.four_radioButton->setChecked(fourShown);
         dialog.ui.eight_radioButton->setChecked(!fourShown);
         const QString expected = fourShown ? four : eight;
-        // The argument plays no part.
+        // The scheme argument is ignored.
         for (const DonutScheme ignored : {TestDialog::Four, TestDialog::Eight}) {
             const QIcon icon = dialog.getDirectionIcon(static_cast<unsigned char>(direction), ignored);
             QCOMPARE(icon.isNull(), expected.isEmpty());
@@ -559,7 +576,7 @@ void DialogFormTest::categoriesWithoutMenus()
             texts.append(dialog.ui.category_comboBox->itemText(item));
         return texts;
     };
-    // Those of the commands, in the order in which they come.
+    // The categories of the commands, in their order.
     const QStringList used{QStringLiteral("All Commands"), QStringLiteral("Edit"),
                            QStringLiteral("File"),         QStringLiteral("Draw"),
                            QStringLiteral("Modify"),       QStringLiteral("Tools"),
@@ -602,7 +619,7 @@ void DialogFormTest::tabReachesEveryControl()
         visited.append(focused);
         tests::key(&dialog, Qt::Key_Tab);
     }
-    // Of the two radio buttons one; the arrow keys go to the other.
+    // Tab reaches one of the two radio buttons; the arrow keys reach the other.
     const QList<QWidget *> expected{dialog.ui.category_comboBox,
                                     dialog.ui.filter_checkBox,
                                     dialog.ui.search_lineEdit,
@@ -627,7 +644,7 @@ void DialogFormTest::tabReachesEveryControl()
     tests::key(&dialog, Qt::Key_Up);
     QVERIFY(dialog.ui.four_radioButton->hasFocus());
 
-    // Also out of the cell that is edited.
+    // The same from the cell that is being edited.
     dialog.ui.command_tableView->setFocus();
     dialog.ui.command_tableView->setCurrentIndex(dialog.cell(0, 2));
     QVERIFY(dialog.editor());
@@ -650,7 +667,7 @@ void DialogFormTest::everythingDiesWithTheDialog()
 {
     auto dialog = std::make_unique<TestDialog>();
     QVERIFY(tests::showActive(*dialog));
-    // With an editor open, which writes to the model when it loses the focus.
+    // An editor is open, which writes to the model when it loses the focus.
     tests::click(dialog->ui.command_tableView, dialog->cell(0, 2));
     QVERIFY(dialog->editor());
     QList<QPointer<QObject>> parts{dialog->model, dialog->proxy,
@@ -663,7 +680,7 @@ void DialogFormTest::everythingDiesWithTheDialog()
         QVERIFY(!part);
 }
 
-// A leak in one of them is the leak checker's to find; nothing may be left alive.
+// The leak checker finds leaks. This test checks that no object stays alive.
 void DialogFormTest::thousandOpenings()
 {
     int deaths = 0;
@@ -677,7 +694,7 @@ void DialogFormTest::thousandOpenings()
         count(dialog.proxy);
         count(dialog.ui.command_tableView->itemDelegate());
         count(dialog.findChild<MyStyle *>());
-        // Every so often it is really used.
+        // Some of the dialogs are really used.
         if (opening % 50 == 0) {
             QVERIFY(tests::showActive(dialog));
             tests::click(dialog.ui.command_tableView, dialog.cell(3, 1));

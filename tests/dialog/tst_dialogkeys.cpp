@@ -18,7 +18,7 @@ using tests::kCommand;
 using tests::kDirection;
 using tests::TestDialog;
 
-// The dialog without a mouse.
+// Uses the dialog with the keyboard only.
 class DialogKeysTest : public QObject
 {
     Q_OBJECT
@@ -70,7 +70,7 @@ void DialogKeysTest::searchFieldHasTheFocusFirst()
 {
     open();
     QVERIFY(m_dialog->ui.search_lineEdit->hasFocus());
-    // While gestures are off there is nothing to search for.
+    // While gestures are off, the search field is disabled.
     m_host->store.values.insert(QStringLiteral("EnableMouseGesture"), QStringLiteral("0"));
     open();
     QVERIFY(m_dialog->ui.enableGesture_checkBox->hasFocus());
@@ -94,7 +94,7 @@ void DialogKeysTest::controlFGoesToTheSearchField()
     QVERIFY(!m_dialog->ui.search_lineEdit->hasFocus());
     tests::key(m_dialog.get(), Qt::Key_F, Qt::ControlModifier);
     QVERIFY(m_dialog->ui.search_lineEdit->hasFocus());
-    // What is typed next replaces what was there.
+    // The text is selected, so typing replaces it.
     QCOMPARE(m_dialog->ui.search_lineEdit->selectedText(), QStringLiteral("line"));
 }
 
@@ -147,7 +147,7 @@ void DialogKeysTest::bindsACommandWithoutTheMouse()
     tests::key(m_dialog.get(), Qt::Key_Down);
     tests::key(m_dialog.get(), Qt::Key_Return);
     QCOMPARE(int(m_dialog->record(QStringLiteral("ID_COPY")).eightDirection), 1);
-    // Pressed once more it does nothing, in the cell that is edited again.
+    // Pressed again in the new editor, it does nothing.
     tests::key(m_dialog.get(), Qt::Key_Return);
     QVERIFY(m_dialog->isVisible());
     tests::key(m_dialog.get(), Qt::Key_Escape);
@@ -162,7 +162,7 @@ void DialogKeysTest::sortsByKeys()
     const QHeaderView *header = m_dialog->ui.command_tableView->horizontalHeader();
     for (int column = 0; column < 3; ++column) {
         const auto which = static_cast<Qt::Key>(Qt::Key_1 + column);
-        // By category, ascending, it is sorted already.
+        // The table is sorted by category, ascending, from the start.
         for (const Qt::SortOrder order : {column == 0 ? Qt::DescendingOrder : Qt::AscendingOrder,
                                           column == 0 ? Qt::AscendingOrder : Qt::DescendingOrder}) {
             tests::key(m_dialog.get(), which, Qt::ControlModifier);

@@ -24,7 +24,7 @@ namespace {
 
 constexpr int kSteps = 20000;
 
-// What OK keeps: where several records name one direction, the last of them has it.
+// The bindings that OK stores. If several records name one direction, the last one gets it.
 std::vector<Bytes> saved(std::vector<Bytes> records)
 {
     for (std::size_t place = 0; place < records.size(); ++place) {
@@ -38,7 +38,7 @@ std::vector<Bytes> saved(std::vector<Bytes> records)
     return records;
 }
 
-// Which records have other bytes than expected; empty for none.
+// Names the records whose bytes differ from the expected ones; empty if none does.
 QString differences(const std::vector<Bytes> &expected, const std::vector<Bytes> &actual)
 {
     QStringList found;
@@ -77,9 +77,9 @@ private:
     QString turnTheWheel();
     QString pressAKey();
     QString clickSomewhere();
-    // The list that is open in the table; null for none.
+    // The open list of directions; null if none is open.
     QAbstractItemView *openList() const;
-    // What choosing an entry of the open list makes of all bindings.
+    // All bindings after the choice of an entry of the open list.
     std::vector<Bytes> chosen(const QModelIndex &entry) const;
     std::vector<Bytes> bytes() const { return tests::bytesOf(m_dialog->model->getCommands()); }
     int upTo(int last) { return std::uniform_int_distribution<int>(0, last)(m_random); }
@@ -169,7 +169,7 @@ QString DialogWalkTest::pressAKey()
         m_expected = chosen(list->currentIndex());
         ++m_choices;
     }
-    // Pressed in a button it would close the dialog or ask a question.
+    // On a button the key would close the dialog or ask a question.
     if (!list && qobject_cast<QPushButton *>(QApplication::focusWidget()))
         m_dialog->ui.command_tableView->setFocus();
     tests::key(m_dialog.get(), which, modifiers);
@@ -187,7 +187,7 @@ QString DialogWalkTest::clickSomewhere()
                          list->viewport()->mapTo(list->window(), position));
         const QPointer<QAbstractItemView> watched = list;
         tests::click(list->viewport(), position, modifiers);
-        // Right after it was opened with the mouse a list takes no click.
+        // A list ignores clicks for a moment after the mouse opened it.
         const bool taken = !watched || !watched->isVisible();
         if (taken) {
             m_expected = after;
@@ -208,7 +208,7 @@ QString DialogWalkTest::clickSomewhere()
                                 m_dialog->ui.eight_radioButton,
                                 table->horizontalHeader()->viewport()};
     QWidget *target = targets[upTo(static_cast<int>(std::size(targets)) - 1)];
-    // A cell that is scrolled away takes its drop-down along.
+    // A drop-down scrolls away with its cell.
     const bool isReachable =
         target
         && (target != m_dialog->editor() || table->viewport()->rect().contains(target->geometry()));
@@ -220,10 +220,10 @@ QString DialogWalkTest::clickSomewhere()
     return QStringLiteral("click on ") + name;
 }
 
-// What was done, for the report of a failure.
+// Describes the step, for the report of a failure.
 QString DialogWalkTest::step()
 {
-    // A list of its own, which the category box opens with a key, goes away unused.
+    // A key may open the list of the category box. Close it without a choice.
     if (QApplication::activePopupWidget() && !openList()) {
         tests::key(m_dialog.get(), Qt::Key_Escape);
         return QStringLiteral("close a popup");
@@ -260,17 +260,17 @@ void DialogWalkTest::nothingIsLostWithoutAChoice()
                                  .arg(last.join(QLatin1String(", ")), difference)));
         }
         if (!m_dialog->isVisible()) {
-            // Closed with Escape or Enter; the next dialog shows what was kept.
+            // Escape or Enter closed the dialog. The next one shows what was stored.
             const bool accepted = m_dialog->result() == QDialog::Accepted;
             const std::vector<Bytes> kept = accepted ? saved(m_expected) : m_opened;
             open();
             QCOMPARE(bytes(), kept);
         }
-        // Letters that were typed into the search field must not hide the table for good.
+        // Clears the search field, so that typed letters do not hide all rows from now on.
         if (number % 50 == 0 && !openList())
             m_dialog->ui.search_lineEdit->clear();
     }
-    // The walk has chosen often enough to have been among bound commands all the time.
+    // The walk must have made many choices, so that commands were bound all the time.
     QVERIFY2(m_choices > 100, qPrintable(QString::number(m_choices)));
 }
 

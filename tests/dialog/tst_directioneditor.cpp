@@ -209,7 +209,7 @@ void DirectionEditorTest::choosingTheSelectedEntryStillCommits()
     QCOMPARE(int(m_dialog->record(QStringLiteral("A")).eightDirection), 3);
     QVERIFY(!m_dialog->ui.reset_pushButton->isEnabled());
     QTRY_VERIFY(first.isNull());
-    // Another one is there already, not popped up.
+    // A new editor is in the cell, with its list closed.
     QVERIFY(editor());
     QVERIFY(editor()->hasFocus());
     QVERIFY(!editor()->view()->isVisible());
@@ -224,7 +224,7 @@ void DirectionEditorTest::choosingWithTheMouse()
     QVERIFY(first->view()->isVisible());
     QTRY_VERIFY(!first || tests::chooseWithMouse(first, 3));
 
-    // It was A's, and both schemes know of it.
+    // The direction was A's. Both schemes show the change.
     QCOMPARE(int(m_dialog->record(QStringLiteral("B")).eightDirection), 3);
     QCOMPARE(int(m_dialog->record(QStringLiteral("B")).fourDirection), 2);
     QCOMPARE(int(m_dialog->record(QStringLiteral("A")).eightDirection), 0);
@@ -243,7 +243,7 @@ void DirectionEditorTest::choosingWithTheKeyboard()
     tests::key(m_dialog.get(), Qt::Key_Down);
     tests::key(m_dialog.get(), Qt::Key_Right);
     QVERIFY(!editor());
-    // Going to the cell is enough to edit it.
+    // Moving to the cell starts editing.
     tests::key(m_dialog.get(), Qt::Key_Right);
     QVERIFY(editor());
     const QPointer<QComboBox> first = editor();
@@ -271,8 +271,7 @@ void DirectionEditorTest::closedDropDownChoosesNothing_data()
     QTest::newRow("wheel") << 0;
 }
 
-// A turn of the wheel or a key passes entries by, and each would take a direction from the
-// command that has it.
+// The wheel and keys pass entries. Each of them would take a direction from another command.
 void DirectionEditorTest::closedDropDownChoosesNothing()
 {
     QFETCH(int, key);
@@ -332,7 +331,7 @@ void DirectionEditorTest::movingInTheOpenListChoosesNothing()
     QCOMPARE(list->currentIndex().row(), 7);
     tests::wheel(list->viewport(), QPoint(5, 5), -120);
     QCOMPARE(tests::bytesOf(m_dialog->model->getCommands()), tests::bytesOf(before));
-    // Closed again without a choice.
+    // Closes the list without a choice.
     tests::key(m_dialog.get(), Qt::Key_F4);
     QVERIFY(!list->isVisible());
     QCOMPARE(tests::bytesOf(m_dialog->model->getCommands()), tests::bytesOf(before));
@@ -434,7 +433,7 @@ void DirectionEditorTest::escapeLeavesTheEditorThenTheDialog()
     QTRY_VERIFY(!editor());
     QVERIFY(m_dialog->ui.command_tableView->hasFocus());
     QVERIFY(m_dialog->isVisible());
-    // From there the cell can be edited again.
+    // The cell can be edited again from there.
     tests::key(m_dialog.get(), Qt::Key_F2);
     QVERIFY(editor());
     tests::key(m_dialog.get(), Qt::Key_Escape);
@@ -452,7 +451,7 @@ void DirectionEditorTest::editorLeftByClickingElsewhereStaysAway()
     QVERIFY(m_dialog->ui.search_lineEdit->hasFocus());
     QTRY_VERIFY(!editor());
     QCOMPARE(int(m_dialog->record(QStringLiteral("A")).eightDirection), 3);
-    // Into the cell of another command: only that one is edited.
+    // Moves to the cell of another command. Only that cell has an editor.
     openEditor(QStringLiteral("A"));
     openEditor(QStringLiteral("D"));
     QCOMPARE(editor()->geometry(),
@@ -473,7 +472,7 @@ void DirectionEditorTest::closeEditorAsksForFocusFirst()
     QPointer<QWidget> first = editors().front();
     QVERIFY(first->hasFocus());
 
-    // Closed by hand, it is back at once; closed by going to another cell, it is back there.
+    // After a close the editor comes back at once. After a move to another cell it comes back there.
     Q_EMIT table.itemDelegate()->closeEditor(first, QAbstractItemDelegate::NoHint);
     QTRY_VERIFY(first.isNull());
     QCOMPARE(editors().size(), 1);
@@ -491,7 +490,7 @@ void DirectionEditorTest::closeEditorAsksForFocusFirst()
     QTRY_VERIFY(second.isNull());
     QCOMPARE(editors().size(), 0);
 
-    // No current cell to come back to; nothing to close; nothing to edit.
+    // There is no current cell to come back to, then nothing to close, then nothing to edit.
     table.beginEditing(model.index(0, 0));
     first = editors().front();
     table.setCurrentIndex(QModelIndex());
@@ -541,7 +540,7 @@ void DirectionEditorTest::onlyTheDirectionIsWritten()
     QCOMPARE(written, QVariant(5));
     QCOMPARE(written.userType(), int(QMetaType::Int));
 
-    // The low byte is read back.
+    // Only the low byte counts.
     model.setData(model.index(0, kDirection), 0x102);
     delegate.setEditorData(&editor, model.index(0, kDirection));
     QCOMPARE(editor.currentIndex(), 2);
@@ -562,7 +561,7 @@ void DirectionEditorTest::editorWithoutChoiceWritesNothing()
     QVERIFY(!model.index(0, kDirection).data(Qt::EditRole).isValid());
 }
 
-// Only a program, such as a screen reader, switches without taking the focus away first.
+// A screen reader can switch the scheme without moving the focus first.
 void DirectionEditorTest::openEditorFollowsTheScheme()
 {
     m_host->store.values.insert(QStringLiteral("88"), QStringLiteral("B"));
@@ -576,7 +575,7 @@ void DirectionEditorTest::openEditorFollowsTheScheme()
     m_dialog->ui.eight_radioButton->setChecked(true);
     QCOMPARE(editor()->currentIndex(), 8);
     m_dialog->ui.four_radioButton->setChecked(true);
-    // Leaving it commits what it shows, which is what the command has.
+    // Leaving the editor commits what it shows, which is the command's direction.
     m_dialog->ui.reset_pushButton->setEnabled(false);
     tests::click(m_dialog->ui.search_lineEdit, m_dialog->ui.search_lineEdit->rect().center());
     QTRY_VERIFY(!editor());
@@ -672,10 +671,10 @@ void DirectionEditorTest::entriesSayWhoHasTheDirection()
     };
     QVERIFY(says(3, QStringLiteral("Left: A")));
     QVERIFY(says(5, QStringLiteral("Down")));
-    // The rows themselves stay as they are.
+    // The texts of the rows stay as they are.
     QCOMPARE(editor()->itemText(3), QString());
     QCOMPARE(editor()->itemText(0), QStringLiteral("None"));
-    // At once after a choice, and after another scheme was chosen.
+    // The texts change at once after a choice and after a change of the scheme.
     tests::key(m_dialog.get(), Qt::Key_Space);
     for (int step = 0; step < 5; ++step)
         tests::key(m_dialog.get(), Qt::Key_Down);
@@ -683,7 +682,7 @@ void DirectionEditorTest::entriesSayWhoHasTheDirection()
     QCOMPARE(int(m_dialog->record(QStringLiteral("B")).eightDirection), 5);
     QVERIFY(says(5, QStringLiteral("Down: B")));
     m_dialog->ui.four_radioButton->setChecked(true);
-    // A direction of the four scheme may come to belong to two.
+    // Two commands may share a direction of the four scheme.
     QVERIFY(says(3, QStringLiteral("Down: A, B")));
     QVERIFY(says(2, QStringLiteral("Left")));
 }
@@ -701,18 +700,18 @@ void DirectionEditorTest::robbedCommandIsNamedAtTheCell()
     };
     const auto *notice = m_dialog->findChild<Notice *>();
     QVERIFY(notice);
-    // A direction that nobody had.
+    // Nobody had this direction.
     choose(2);
     QVERIFY(!notice->isVisible());
     choose(3);
     QVERIFY(notice->isVisible());
     QCOMPARE(notice->text(), QStringLiteral("Taken from: A"));
-    // Right below the cell.
+    // The note lies right below the cell.
     const QRect cell = m_dialog->ui.command_tableView->visualRect(directionCell(QStringLiteral("B")));
     QCOMPARE(notice->pos(), m_dialog->ui.command_tableView->viewport()->mapTo(
                                 m_dialog.get(), cell.bottomLeft() + QPoint(0, 1)));
     QVERIFY(m_dialog->rect().contains(notice->geometry()));
-    // For a moment, and in nobody's way.
+    // The note takes no focus and goes away by itself.
     QVERIFY(editor()->hasFocus());
     QTRY_VERIFY_WITH_TIMEOUT(!notice->isVisible(), 2 * Notice::kDuration);
 }
@@ -814,7 +813,7 @@ void DirectionEditorTest::styleDrawsEverythingElse()
             ? QStringLiteral("Plastique")
             : QStringLiteral("Fusion")));
     QCOMPARE(drawn(style, primitive), drawn(*base, primitive));
-    // Something is drawn at all.
+    // The style does draw something.
     QImage empty(60, 30, QImage::Format_ARGB32_Premultiplied);
     empty.fill(Qt::white);
     QVERIFY(drawn(style, primitive) != empty);
@@ -840,7 +839,7 @@ void DirectionEditorTest::tableShowsNoFocusRectangle()
     QVERIFY(table->hasFocus());
     QCOMPARE(cellPicture(), plain);
 
-    // The same table in the style without MyStyle draws one, so the pictures would tell.
+    // Without MyStyle the same table draws a focus rectangle, so the pictures would differ.
     const std::unique_ptr<QStyle> base(QStyleFactory::create(QStringLiteral("Fusion")));
     table->setStyle(base.get());
     makeCurrent(false);

@@ -75,7 +75,7 @@ QTextFragment fragmentOf(const QTextTableCell &cell, int number)
     return fragment.fragment();
 }
 
-// What a tool says about a file; empty when it failed.
+// The output of a tool about a file; empty if it failed.
 QString run(const QString &program, const QStringList &arguments)
 {
     QProcess process;
@@ -85,7 +85,7 @@ QString run(const QString &program, const QStringList &arguments)
     return QString::fromUtf8(process.readAllStandardOutput());
 }
 
-// The words of a printed page, in reading order. Fonts print some pairs of letters as one.
+// The words of a printed page, in reading order, with ligatures split.
 QStringList wordsOf(const QString &file)
 {
     return run(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), file, QStringLiteral("-")})
@@ -162,7 +162,7 @@ void PrintingTest::initTestCase()
 {
     tests::failOnWarnings();
     QVERIFY(m_folder.isValid());
-    // The pages are read back with these.
+    // These tools read the pages back.
     QVERIFY(!run(QStringLiteral("which"),
                  {QStringLiteral("pdftotext"), QStringLiteral("pdfinfo"), QStringLiteral("pdftoppm")})
                  .isEmpty());
@@ -210,7 +210,7 @@ void PrintingTest::headerOnlyWhenNothingMatches()
     QCOMPARE(tableOf(*document)->columns(), 3);
     QCOMPARE(document->toPlainText().simplified(), QStringLiteral("Category Command Select"));
     printToFile();
-    // The page number follows.
+    // Below the rows is the page number.
     QCOMPARE(wordsOf(m_file), QStringList({QStringLiteral("Category"), QStringLiteral("Command"),
                                            QStringLiteral("Select"), QStringLiteral("1")}));
 }
@@ -266,7 +266,7 @@ void PrintingTest::cellWithIconAndNoTextHasMargins()
     const auto block = [table](int row) {
         return table->cellAt(row, 0).firstCursorPosition().blockFormat();
     };
-    // The image, and the two blanks that every image has behind it.
+    // The image is followed by two blanks.
     QCOMPARE(textOf(table->cellAt(1, 0)),
              QString(QChar(QChar::ObjectReplacementCharacter)) + QLatin1String("  "));
     for (const int row : {1, 2}) {
@@ -335,7 +335,7 @@ void PrintingTest::headerCells()
         QCOMPARE(format.foreground().style(), Qt::SolidPattern);
     }
 
-    // A model with fonts and colours of its own, and one that answers nonsense.
+    // One model has fonts and colours of its own, the other answers with wrong types.
     QStandardItemModel model(0, 2);
     const QFont font(QStringLiteral("Serif"), 20);
     model.setHorizontalHeaderLabels({QStringLiteral("own"), QStringLiteral("plain")});
@@ -368,7 +368,7 @@ void PrintingTest::rolesOfTheModel()
     QCOMPARE(format.font(), font);
     QCOMPARE(format.foreground(), QBrush(Qt::red, Qt::SolidPattern));
 
-    // Views take brushes for these roles, too.
+    // Views accept brushes for these roles too.
     model.setData(cell, QBrush(Qt::green), Qt::ForegroundRole);
     model.setData(cell, QBrush(Qt::cyan), Qt::BackgroundRole);
     const auto brushes = documentOf(&model);
@@ -411,7 +411,7 @@ void PrintingTest::iconsAreThirtyTwoPixels()
         QVERIFY(!image.allGray());
         QCOMPARE(textOf(table->cellAt(row, kCommand)).mid(1, 2), QStringLiteral("  "));
     }
-    // The direction: its icon where there is one, else nothing.
+    // The direction's icon if there is one, otherwise nothing.
     const int line = m_dialog->rowOf(QStringLiteral("Line"));
     QVERIFY(fragmentOf(table->cellAt(line + 1, kDirection), 0).charFormat().isImageFormat());
     const auto unbound = static_cast<int>(m_dialog->shownDirections().indexOf(0));
@@ -523,7 +523,7 @@ void PrintingTest::everyPageHasWholeRowsBelowTheHeader()
         QCOMPARE(words.mid(0, 3), QStringList({QStringLiteral("Category"), QStringLiteral("Command"),
                                                QStringLiteral("Select")}));
         QCOMPARE(words.takeLast(), number);
-        // Between the header and the page number there are rows, each with all of its words.
+        // Between header and page number there are whole rows only.
         words = words.mid(3);
         words.sort();
         QStringList expected;
@@ -628,7 +628,7 @@ void PrintingTest::cancelledPrintsNothing()
     tests::click(m_dialog->ui.print_pushButton);
     QCOMPARE(asked, 1);
     QVERIFY(!QFile::exists(m_file));
-    // Everything is as it was.
+    // The dialog's state is unchanged.
     QVERIFY(m_dialog->isVisible());
     QCOMPARE(m_dialog->ui.search_lineEdit->text(), QStringLiteral("line"));
     QCOMPARE(m_dialog->shown(), shown);
@@ -642,7 +642,7 @@ void PrintingTest::realPrintDialog_data()
     QTest::newRow("to a file") << true;
 }
 
-// Qt's own dialog, on a machine that may have no printer at all.
+// Opens Qt's own dialog. The machine may have no printer.
 void PrintingTest::realPrintDialog()
 {
     QFETCH(bool, printed);
@@ -694,8 +694,8 @@ void PrintingTest::everyPrintStartsAfresh()
     QCOMPARE(resolutions[0], QPrinter(QPrinter::HighResolution).resolution());
 }
 
-// A document that outlived its printing would be the leak checker's to find; that it is
-// printed at all and again is seen here.
+// The leak checker finds a document that outlives its printing. This test sees that printing works
+// more than once.
 void PrintingTest::documentIsFreed()
 {
     open(10);
@@ -768,7 +768,7 @@ void PrintingTest::tableViewPaintsRowsThatAreScrolledAway()
         QVERIFY(std::abs(image.pixelColor(25, row * 10 + 5).hue() - row * 3) <= 1);
 }
 
-// The vertical scale is left infinite.
+// The vertical scale stays infinite.
 void PrintingTest::tableViewWithoutRows()
 {
     QStandardItemModel model(0, 2);

@@ -13,6 +13,7 @@
 #include <QShortcut>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include <cmath>
 #include <memory>
@@ -100,6 +101,7 @@ private Q_SLOTS:
     void startFillsSectors();
     void startChoosesFromWhereThePointerIs();
     void startForgetsTheLastGesture();
+    void theNativeWindowBelongsToTheViewsWindow();
     void startFarOutFadesBeforeShowing();
     void releaseAfterAFarStartAccepts();
     void armedIsLeftByStartingOnly();
@@ -337,6 +339,30 @@ void OverlayLifecycleTest::startForgetsTheLastGesture()
     QCOMPARE(donut.getActiveArc(), qint16(0));
     QCOMPARE(donut.sectorVisuals.size(), std::size_t(4));
     QCOMPARE(donut.sectorTooltips.size(), std::size_t(4));
+    donut.StopGesturing(false);
+}
+
+// Its parent is another main window, which may be minimised or blocked by a dialog.
+void OverlayLifecycleTest::theNativeWindowBelongsToTheViewsWindow()
+{
+    QWidget first;
+    first.setGeometry(150, 150, 400, 400);
+    first.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&first));
+    CountingDonut donut(&first);
+    QDialog dialog(&first);
+    dialog.setWindowModality(Qt::WindowModal);
+    dialog.show();
+    m_bench->start(donut);
+    QCOMPARE(stateOf(donut), kGesturing);
+    QCOMPARE(donut.windowHandle()->transientParent(), m_bench->view->windowHandle());
+    QCOMPARE(donut.parentWidget(), &first);
+    donut.StopGesturing(false);
+    dialog.close();
+    first.hide();
+    QVERIFY(donut.JustStopped());
+    m_bench->start(donut);
+    QCOMPARE(stateOf(donut), kGesturing);
     donut.StopGesturing(false);
 }
 

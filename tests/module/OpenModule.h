@@ -7,7 +7,7 @@
 
 namespace tests {
 
-// A module object of a test's own, on the stack, its members in reach.
+// A module object that a test creates itself, on the stack. Makes its members public.
 class OpenModule : public OdRxUnixModule<MgGestureWidget, MgGestureWidget>
 {
 public:

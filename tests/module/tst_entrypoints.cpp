@@ -19,13 +19,13 @@
 
 namespace {
 
-// What odrxAlloc does next, and what went through it.
+// True to make odrxAlloc fail. The blocks that it and odrxFree have handled follow.
 bool memoryIsShort = false;
 std::vector<void *> allocated;
 std::vector<void *> freed;
 std::size_t lastSize = 0;
 
-// Counts down with every operator new; the one that reaches 0 fails. Negative: none does.
+// Every operator new counts this down and fails at 0. Nothing fails while it is negative.
 int newsUntilFailure = -1;
 
 } // namespace
@@ -172,7 +172,7 @@ void EntryPointsTest::shortMemoryThrowsAndIsTriedAgain()
 void EntryPointsTest::constructorFailureFreesAndLetsThrough()
 {
     bool thrown = false;
-    newsUntilFailure = 0; // the first thing that the tracker's base asks for
+    newsUntilFailure = 0; // the first allocation of the tracker's base
     try {
         static_cast<void>(odrxCreateModuleObject(nullptr, L"gestures"));
     } catch (const std::bad_alloc &) {
@@ -186,7 +186,7 @@ void EntryPointsTest::constructorFailureFreesAndLetsThrough()
     QCOMPARE(allocated.size(), std::size_t(1));
     QCOMPARE(freed, allocated);
 
-    // The pointer stayed null: the next call makes one.
+    // The pointer stayed null, so the next call creates the object.
     OdRxModule *module = odrxCreateModuleObject(nullptr, L"gestures");
     QVERIFY(module);
     QCOMPARE(allocated.size(), std::size_t(2));
@@ -200,7 +200,7 @@ void EntryPointsTest::deleteModuleFreesAndForgets()
 
     module->deleteModule();
 
-    // The whole object, and as one piece: what was allocated is what was freed.
+    // The whole object is one block. The block that was allocated is the one that was freed.
     QVERIFY(lastSize > 0);
     QCOMPARE(freed, allocated);
     OdRxModule *next = odrxCreateModuleObject(nullptr, L"next");
@@ -225,12 +225,12 @@ void EntryPointsTest::deleteModuleObjectForgetsAndNothingElse()
 
     OdRxModule *next = odrxCreateModuleObject(nullptr, L"second");
     QVERIFY(next != module);
-    // The host's own deletion of the one that was forgotten.
+    // The host itself deletes the forgotten object.
     delete module;
     QCOMPARE(freed.size(), std::size_t(1));
     next->deleteModule();
     QCOMPARE(freed.size(), std::size_t(2));
-    // A second time there is nothing to forget.
+    // The second call has nothing to forget.
     deleteModuleObject();
     deleteModuleObject();
 }

@@ -22,7 +22,7 @@ namespace {
 using tests::FakeHost;
 using tests::OpenModule;
 
-// Does something, once, with the dialog that a call is about to open.
+// Acts once on the dialog that a call is about to open.
 class WhileOpen : public QObject
 {
 public:
@@ -33,9 +33,9 @@ public:
         m_timer.start(0);
     }
 
-    // How many dialogs it has met: 1 after the call.
+    // The number of dialogs seen; 1 after the call.
     int met = 0;
-    // The dialog, as long as it lives.
+    // The dialog; null after its destruction.
     QPointer<MgDonutDialogManager> dialog;
 
 private:
@@ -53,7 +53,7 @@ private:
     QTimer m_timer;
 };
 
-// What a host does with "^C^C_GESTURE": cancels twice what is going on, then types the rest.
+// Does what a host does with "^C^C_GESTURE": cancels the running command twice, then types the rest.
 void typeMacro(FakeHost &host, QString macro)
 {
     while (macro.startsWith(QLatin1String("^C")))
@@ -190,7 +190,7 @@ void GestureCommandTest::dialogsParent()
 
     QCOMPARE(opened.met, 1);
     const bool complete = services && frame && window;
-    // A window on the desktop is nobody's child: Qt itself drops the desktop as a parent.
+    // Qt does not keep the desktop widget as a parent, so the dialog has none.
     QCOMPARE(parent, complete ? &mainWindow : nullptr);
 }
 

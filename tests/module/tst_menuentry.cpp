@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
-// The entry in the host's Tools menu: found by identifier, put in place, found again by its
-// text and taken away.
+// The entry in the host's Tools menu. The menu is found by its identifier, the entry later by its
+// text.
 
 #include "tests/bindings/OlderSettings.h"
 #include "tests/bindings/OpenContainer.h"
@@ -73,7 +73,7 @@ QStringList callsUpToRefresh(const FakeHost &host)
     return host.log.calls.mid(0, end + 1);
 }
 
-// The container looks as if nobody had asked for it yet.
+// Makes the container look as if it had not been created yet.
 void forgetContainer()
 {
     tests::OpenContainer::_pinstance = nullptr;
@@ -139,7 +139,7 @@ private:
     tests::OlderSettings m_settings;
 };
 
-// First, since the container is made once in a process.
+// This test runs first, because a process creates the container only once.
 void MenuEntryTest::containerReadsTheCompleteMenus()
 {
     FakeHost host;
@@ -149,7 +149,7 @@ void MenuEntryTest::containerReadsTheCompleteMenus()
     module.LoadMenu();
 
     QVERIFY(containerWasObtained());
-    // It read the menus after they had been refreshed, and the new entry was among them.
+    // It read the menus after the refresh, with the new entry in them.
     const int refreshed = static_cast<int>(host.log.calls.indexOf(QStringLiteral("ui.refresh false")));
     const int read = static_cast<int>(host.log.calls.indexOf(QStringLiteral("ui.menus")));
     QVERIFY(refreshed >= 0);
@@ -219,7 +219,7 @@ void MenuEntryTest::equalNullEndsItsWorkspaceOnly()
     FakeHost host;
     FakeWorkspace *first = host.ui.addWorkspace(QStringLiteral("First"), true);
     FakeWorkspace *second = host.ui.addWorkspace(QStringLiteral("Second"), false);
-    // A place without an object has an empty identifier, and so has this menu behind it.
+    // A place without an object counts as an empty identifier. The menu after it has an empty one too.
     first->menus.items.push_back(nullptr);
     host.ui.addItem(&first->menus, QStringLiteral("behind"), true);
     FakeMenuItem *other = host.ui.addItem(&second->menus, QStringLiteral("other"), true);
@@ -315,13 +315,13 @@ void MenuEntryTest::choosingTheEntryRunsTheMacro()
     module.mainFrameCreated(nullptr);
     host.log.clear();
 
-    // What a host does with a chosen entry: it runs what its command item says.
+    // Does what a host does with a chosen entry: runs the macro of its command item.
     const CHxUIMenuItem *entry = tools->subItems->GetItem(tools->subItems->GetCount() - 1);
     QVERIFY(entry && entry->GetCommandItem());
     host.RunCommand(entry->GetCommandItem()->GetCommandString(), false);
 
     QCOMPARE(host.log.calls, QStringList{QStringLiteral("run ^C^C_GESTURE false")});
-    // Past the two cancels the macro names the module's command.
+    // After the two cancels the macro names the module's command.
     QCOMPARE(host.stack.lookupCommand(OdString(kMacro.mid(4))), &module.command);
 }
 
@@ -357,7 +357,7 @@ void MenuEntryTest::foundCommandItemIsLeftAsItIs()
     QCOMPARE(host.log.startingWith(QStringLiteral("ui.createCommandItem")), QStringList());
     QCOMPARE(host.ui.commandItems.front()->caption, QStringLiteral("A name of old"));
     QCOMPARE(host.ui.commandItems.front()->command, QStringLiteral("old"));
-    // It is added to the workspace all the same.
+    // It is added to the workspace anyway.
     QCOMPARE(host.log.startingWith(QStringLiteral("workspace.addCommandItem")).size(), 1);
 }
 
@@ -373,7 +373,8 @@ void MenuEntryTest::itemGoesToTheCurrentWorkspace()
 
     module.LoadMenu();
 
-    // The menu is the first of any workspace, the command item the first current one's.
+    // The menu is the first one in any workspace. The command item belongs to the first current
+    // workspace.
     QCOMPARE(texts(*tools), QStringList{kEntryText});
     QVERIFY(first->commandItems.empty());
     QCOMPARE(second->commandItems.size(), std::size_t(1));
@@ -495,7 +496,7 @@ void MenuEntryTest::unloadRemovesOneEntryACall()
     QCOMPARE(texts(*tools), QStringList{kEntryText});
     QCOMPARE(host.log.startingWith(QStringLiteral("ui.removeCommandItem")).size(), 1);
 
-    // The second one's command item is gone already, so the host holds it no more.
+    // The command item of the second entry is gone already, so the host no longer holds it.
     module.UnLoadMenu();
     QCOMPARE(texts(*tools), QStringList());
     QCOMPARE(host.log.startingWith(QStringLiteral("ui.removeCommandItem")).size(), 1);
@@ -627,12 +628,12 @@ void MenuEntryTest::translatedHost()
 
     const tests::FakeCommandItem &item = *host.ui.commandItems.front();
     QCOMPARE(texts(*tools), QStringList{QStringLiteral("Mausgesten ...")});
-    // Of the status text the first part only, and the name not at all.
+    // Only the first part of the status text is translated, and the name is not.
     QCOMPARE(item.tip, QStringLiteral("Richtet Mausgesten ein:   GESTURE"));
     QCOMPARE(item.caption, QStringLiteral("Mouse Gestures"));
     QCOMPARE(item.command, kMacro);
 
-    // Found again by the text that is shown, and only while it is the same.
+    // The entry is found by its text, so only in the same language.
     translator.reset();
     module.UnLoadMenu();
     QCOMPARE(tools->subItems->GetCount(), 1);

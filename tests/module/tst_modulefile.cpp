@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
-// The module as hosts meet it: a file that is loaded, asked for its entry points, used and
-// closed again.
+// The module as hosts use it: load the file, look up its entry points, use it, close it.
 
 #include "sdk/chx/CHxEditorReactor.h"
 #include "sdk/chx/CHxTracker.h"
@@ -136,7 +135,7 @@ void ModuleFileTest::exportsExactlyTheEntryPoints()
             symbols << line.section(QLatin1Char(' '), 0, 1);
     }
     symbols.sort();
-    // T: functions, and neither weak nor unique.
+    // T marks functions that are neither weak nor unique.
     const QStringList expected{QStringLiteral("deleteModuleObject T"),
                                QStringLiteral("odrxCreateModuleObject T"),
                                QStringLiteral("odrxGetAPIVersion T")};
@@ -176,7 +175,7 @@ void ModuleFileTest::livesAWholeLife()
     QCOMPARE(host.log.calls, QStringList());
     module->initApp();
     QVERIFY(host.stack.lookupCommand(OdString(QStringLiteral("gesture"))));
-    // The host reaches it through the interfaces of the shared library between them.
+    // The host reaches it through the interfaces of the shared sdk library.
     auto *reactor = dynamic_cast<CHxEditorReactor *>(host.editor.reactors.front());
     QVERIFY(reactor);
     reactor->mainFrameCreated(&window);
@@ -210,7 +209,7 @@ void ModuleFileTest::ringOutlivesTheClosedFile()
     }
     const QList<QDialog *> rings = window->findChildren<QDialog *>();
     QCOMPARE(rings.size(), 1);
-    // Its code is still there, so the window can take it along.
+    // The ring's code is still loaded, so the window can destroy the ring.
     const QPointer<QDialog> ring = rings.front();
     window.reset();
     QVERIFY(ring.isNull());
@@ -247,7 +246,7 @@ void ModuleFileTest::sizeIsModest()
     std::size_t bytes = 0;
     dl_iterate_phdr(addSegments, &bytes);
     qInfo("the module takes %zu KiB of memory", bytes / 1024);
-    QVERIFY(bytes > 100u * 1024u); // it was found
+    QVERIFY(bytes > 100u * 1024u); // the file was found
     QVERIFY2(bytes < MODULE_SIZE_LIMIT, qPrintable(QString::number(bytes)));
 }
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
-// What the module object registers with a host, when, and how it takes it back.
+// Tests what the module object registers with a host, when, and how it unregisters it.
 
 #include "sdk/chx/CHxString.h"
 #include "tests/bindings/OlderSettings.h"
@@ -24,7 +24,7 @@ using tests::OpenModule;
 
 const QString kToolsMenu = QStringLiteral("ID_MnTools");
 
-// Nothing that the host gave out is still held.
+// True if the module has released everything that the host gave it.
 void verifyNothingHeld(const FakeHost &host)
 {
     QCOMPARE(host.stack.references, 0);
@@ -139,7 +139,7 @@ void ModuleLifecycleTest::initAppHandsOutItsParts()
              std::vector<CHxDocumentManagerReactor *>{module.asDocumentReactor()});
     QCOMPARE(host.editor.reactors, std::vector<OdEditorReactor *>{module.asEditorReactor()});
     QCOMPARE(document->input.trackers, std::vector<CHxTracker *>{&module.tracker});
-    // The command lives in the module object, whoever counts.
+    // The command is part of the module object and ignores reference counts.
     module.command.release();
     module.command.release();
     QCOMPARE(host.stack.commands.front()->localName().toQString(), QStringLiteral("GESTURE"));
@@ -341,7 +341,7 @@ void ModuleLifecycleTest::nothingIsLeftAfterMainFrameDestroyed()
     QVERIFY(host.documents.reactors.empty());
     QCOMPARE(tools->subItems->GetCount(), 0);
     QVERIFY(host.ui.commandItems.empty());
-    // The one registration that stays.
+    // Only this registration stays.
     QCOMPARE(host.editor.reactors, std::vector<OdEditorReactor *>{module.asEditorReactor()});
     QCOMPARE(host.log.startingWith(QStringLiteral("editor.remove")), QStringList());
 
@@ -415,7 +415,7 @@ void ModuleLifecycleTest::uninitAppDoesNothing()
 void ModuleLifecycleTest::releaseNeverFrees()
 {
     FakeHost host;
-    OpenModule module; // freed from the stack, this would not go unnoticed
+    OpenModule module; // freeing an object on the stack would crash
     QCOMPARE(module.numRefs(), 0L);
     module.addRef();
     QCOMPARE(module.numRefs(), 1L);
@@ -456,7 +456,7 @@ void ModuleLifecycleTest::hostThrowsInInitApp_data()
     const QString first = QStringLiteral("document0.addTracker 0");
     const QString second = QStringLiteral("document1.addTracker 0");
     const QString editor = QStringLiteral("editor.add");
-    // What is not even tried because of the call that failed.
+    // The calls that are skipped because one failed.
     QTest::newRow("command stack") << stack << QStringList();
     QTest::newRow("reactor") << reactor << QStringList();
     QTest::newRow("walk") << iterate << QStringList{first, second};
@@ -594,7 +594,7 @@ void ModuleLifecycleTest::mainWindowGoesBeforeTheModule()
         window.reset(); // and the ring with it
         module.mainFrameDestroyed(nullptr);
         module.uninitApp();
-        // A straggling event finds no ring and opens another, without a window to open it over.
+        // A late event finds no ring and opens another one, without a window below it.
         dragInView(module, *document);
     }
     const QWidgetList windows = QApplication::topLevelWidgets();
@@ -618,7 +618,7 @@ void ModuleLifecycleTest::moduleGoesBeforeTheMainWindow()
         module.mainFrameDestroyed(window.get());
         module.uninitApp();
     }
-    // The ring belongs to the window and goes with it.
+    // The ring belongs to the window and is destroyed with it.
     const QList<QDialog *> rings = window->findChildren<QDialog *>();
     QCOMPARE(rings.size(), 1);
     const QPointer<QDialog> ring = rings.front();

@@ -88,16 +88,19 @@ def common_files():
     assert "share/gesturewidget/profiles/librecad.json" in profiles
     return profiles | {
         "bin/mouse-gestures",
+        "bin/mouse-gestures-settings",
         "libexec/gesturewidget/mouse-gestures-sheet",
         "share/applications/mouse-gestures.desktop",
         "share/bash-completion/completions/mouse-gestures",
         "share/doc/gesturewidget/images/dialog.png",
         "share/doc/gesturewidget/images/ring.png",
+        "share/doc/gesturewidget/images/settings.png",
         "share/doc/gesturewidget/user-guide.html",
         "share/doc/gesturewidget/administrators-guide.html",
         "share/gesturewidget/bindings.schema.json",
         "share/icons/hicolor/scalable/apps/mouse-gestures.svg",
         "share/man/man1/mouse-gestures.1",
+        "share/man/man1/mouse-gestures-settings.1",
         "share/metainfo/org.gesturewidget.mouse_gestures.metainfo.xml"}
 
 
@@ -310,8 +313,9 @@ def package_files():
         files[f"gesturewidget{suffix}"] |= {
             f"{options.libdir}/gesturewidget/{Path(file).name}" for file in built_files(qt)
             if re.search(r"(?:\d\.\d\.\d|module-qt\d\.so)$", file)}
-    manual = "share/man/man1/mouse-gestures.1"
-    files["gesturewidget"] ^= {manual, f"{manual}.gz"}
+    for name in ("mouse-gestures", "mouse-gestures-settings"):
+        manual = f"share/man/man1/{name}.1"
+        files["gesturewidget"] ^= {manual, f"{manual}.gz"}
     for name, content in files.items():
         content |= {f"share/doc/{name}/changelog.gz", f"share/doc/{name}/copyright"}
     return {name: {f"usr/{file}" for file in content} for name, content in files.items()}

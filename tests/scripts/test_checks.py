@@ -43,10 +43,10 @@ class Tree:
     def __exit__(self, *_):
         self._folder.cleanup()
 
-    def run(self):
+    def run(self, *arguments):
         """Returns the exit status and what the check said."""
-        result = subprocess.run([self.root / "scripts" / self._check], capture_output=True, text=True,
-                                check=False)
+        result = subprocess.run([self.root / "scripts" / self._check, *arguments], capture_output=True,
+                                text=True, check=False)
         return result.returncode, (result.stdout + result.stderr).strip()
 
 
@@ -72,7 +72,7 @@ class Arrows(unittest.TestCase):
 
     def test_a_file_without_a_room_is_a_fault(self):
         self.assertEqual(self.said_of({"attic/A.h": ""}),
-                         (1, "attic/A.h:1: stands in no room that docs/rooms.md names"))
+                         (1, "attic/A.h:1: is in no room that docs/rooms.md names"))
 
     def test_a_circle_is_a_fault(self):
         status, said = self.said_of({}, ROOMS.replace("low:\n", "low: high\n"))
@@ -100,6 +100,62 @@ class Spelling(unittest.TestCase):
 
     def test_the_words_of_the_project_are_known(self):
         self.assertEqual(self.said_of({"a.md": "The donut's overlay.\n"}), (0, ""))
+
+
+SOURCE = """#include <QCoreApplication>
+QString say(int n)
+{
+    return QCoreApplication::translate("host", "Open %1") + QCoreApplication::translate("host", "Save...");
+}
+"""
+
+
+def texts(*pairs, language="de_DE"):
+    """A file of translations in the context "host"."""
+    messages = "".join(f"<message><source>{source}</source>{translation}</message>"
+                       for source, translation in pairs)
+    return (f'<?xml version="1.0" encoding="utf-8"?><!DOCTYPE TS><TS version="2.1" '
+            f'language="{language}" sourcelanguage="en_US"><context><name>host</name>{messages}</context></TS>')
+
+
+def finished(text):
+    return f"<translation>{text}</translation>"
+
+
+class TranslationsTest(unittest.TestCase):
+    """scripts/translations --check"""
+
+    def fault(self, *pairs):
+        with Tree("translations", {"host/Say.cpp": SOURCE, "translations/host_de.ts": texts(*pairs)}) as tree:
+            status, said = tree.run("--check")
+            return said if status else None
+
+    def test_complete(self):
+        self.assertIsNone(self.fault(("Open %1", finished("%1 öffnen")), ("Save...", finished("Sichern..."))))
+
+    def test_faults(self):
+        opened = ("Open %1", finished("%1 öffnen"))
+        for pairs, fault in (
+                ([opened], "'Save...' is missing"),
+                ([opened, ("Save...", '<translation type="unfinished"></translation>')],
+                 "'Save...' is not translated"),
+                ([opened, ("Save...", finished("Sichern"))], "'Save...' differs in its three dots"),
+                ([opened, ("Save...", finished(" Sichern..."))], "differs in its spaces"),
+                ([opened, ("Save...", finished("Sichern\n..."))], "another number of lines"),
+                ([("Open %1", finished("öffnen")), ("Save...", finished("Sichern..."))], "lost %1"),
+                ([("Open %1", finished("%1 und %2 öffnen")), ("Save...", finished("Sichern..."))],
+                 "a placeholder too many"),
+                ([opened, ("Save...", finished("Sichern...")), ("Gone", finished("Fort"))],
+                 "'Gone' is in no source")):
+            with self.subTest(fault):
+                self.assertIn(fault, self.fault(*pairs) or "no fault")
+
+    def test_language_without_a_part(self):
+        complete = texts(("Open %1", finished("%1 öffnen")), ("Save...", finished("Sichern...")))
+        with Tree("translations", {"host/Say.cpp": SOURCE, "module/None.cpp": "",
+                                   "translations/host_de.ts": complete,
+                                   "translations/module_fr.ts": texts(language="fr_FR")}) as tree:
+            self.assertIn("translations/host_fr.ts is missing", tree.run("--check")[1])
 
 
 if __name__ == "__main__":

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "tests/support/Text.h"
+
 #include <QByteArray>
 #include <QObject>
 #include <QString>
@@ -12,13 +14,7 @@
 
 namespace tests {
 
-// A text of plain ASCII or Latin-1 letters.
-[[nodiscard]] inline QString text(const char *latin)
-{
-    return QString::fromLatin1(latin);
-}
-
-// What contentOf() returns when there is no readable file.
+// contentOf() returns this if there is no readable file.
 inline constexpr char kNoFile[] = "<no file>";
 
 // The bytes of a file.

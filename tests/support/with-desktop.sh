@@ -87,7 +87,7 @@ mkdir -p "$home/.config" "$home/.local/share" "$home/.cache" "$base/runtime"
 chmod 700 "$base/runtime"
 export HOME=$home XDG_CONFIG_HOME=$home/.config XDG_DATA_HOME=$home/.local/share
 export XDG_CACHE_HOME=$home/.cache XDG_RUNTIME_DIR=$base/runtime
-export QT_QPA_PLATFORM=xcb QT_QPA_PLATFORMTHEME= LANG=${LANG:-C.UTF-8}
+export QT_QPA_PLATFORM=xcb QT_QPA_PLATFORMTHEME= LANG=${LANG:-C.UTF-8} LANGUAGE=${LANGUAGE-}
 unset WAYLAND_DISPLAY XAUTHORITY DISPLAY
 
 # The server chooses a free display and writes its number once it takes connections.

@@ -55,6 +55,8 @@ class Program:
     viewport: str = ""
     # Commands for the driver: to end a command that Escape does not reach.
     cancel: tuple = ()
+    # The dialog's title in the program's language. The menu entry adds three dots.
+    dialog: str = "Mouse Gestures"
     # Environment variables that it needs.
     environment: dict = field(default_factory=dict)
 

@@ -136,11 +136,12 @@ class Session:
             ACTIONSPY_LOG=str(self.spy.path),
             ACTIONSPY_VIEW=self.program.view,
             ACTIONSPY_WIDGETS=",".join(WIDGETS),
-            ACTIONSPY_ENTRY="Mouse Gestures..." if self.gestures else "",
+            ACTIONSPY_ENTRY=f"{self.program.dialog}..." if self.gestures else "",
             LANG="C.UTF-8",
+            LANGUAGE="",
             QTWEBENGINE_DISABLE_SANDBOX="1",  # for web views that run as root
-            **self.program.environment,
         )
+        environment.update(self.program.environment)
         if not self.gestures and self.program.links_host:
             environment["LD_LIBRARY_PATH"] = str(self._libraries_without_module())
         command = [self.executable(), str(self.drawing)]
@@ -336,11 +337,11 @@ class Session:
         self.expect(mark, lambda line: line[0] == "menu", "the Tools menu")
         self.driver.ask("key", "Up")  # from the top to the last entry
         self.driver.ask("key", "Return")
-        self.focus("Mouse Gestures")
+        self.focus(self.program.dialog)
         return mark
 
     def dialog_is_gone(self):
-        self.driver.ask("wait-no-window", "Mouse Gestures", ANSWER_SECONDS * 1000)
+        self.driver.ask("wait-no-window", self.program.dialog, ANSWER_SECONDS * 1000)
         self.focus(DRAWING_NAME)
 
     def place_of(self, widget, mark):

@@ -321,7 +321,8 @@ void CorpusRecorder::proceed()
     if (!m_steps.isEmpty()) {
         const QString step = m_steps.takeFirst();
         if (QAction *action = Actions(*window).find(step)) {
-            // It may open a dialog and return later. A timer does not fire inside itself.
+            // The action may open a dialog and return later. A timer does not fire inside its own slot,
+            // so use a new one.
             QMetaObject::invokeMethod(action, &QAction::trigger, Qt::QueuedConnection);
         } else {
             std::fprintf(stderr, "recorder: no action \"%s\"\n", qPrintable(step));

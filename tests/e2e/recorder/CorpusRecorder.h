@@ -63,7 +63,7 @@ private:
     QStringList m_steps;
     QVector<QSize> m_sizes;
     QByteArray m_state; // of the last poll
-    int m_steady = 0; // polls since it has changed
+    int m_steady = 0; // number of polls since the last change
     int m_polls = 0;
     int m_next = -1; // the size that is being waited for
     QJsonArray m_recorded;

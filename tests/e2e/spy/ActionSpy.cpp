@@ -18,6 +18,7 @@
 #include <QWidget>
 #include <QWindow>
 
+#include <algorithm>
 #include <cstdio>
 #include <utility>
 
@@ -193,6 +194,8 @@ void ActionSpy::watchAction(QAction *action)
     connect(action, &QObject::destroyed, this, [this, action] { m_actions.remove(action); });
     connect(action, &QAction::triggered, this, [this, action] {
         write({QStringLiteral("triggered"), action->objectName(), plain(action->text())});
+        if (const auto *owner = qobject_cast<QWidget *>(action->parent()))
+            write({QStringLiteral("where"), action->objectName(), owner->window()->windowTitle()});
     });
 }
 
@@ -210,7 +213,11 @@ void ActionSpy::lookAround()
         watchAction(action);
 
     reportPlaces();
-    if (!m_isReady && !m_views.empty() && hasEntry()) {
+    const int entries = countEntries();
+    if (entries != m_entries)
+        write({QStringLiteral("hasentry"), QString::number(entries)});
+    m_entries = entries;
+    if (!m_isReady && !m_views.empty() && (m_entry.isEmpty() || entries > 0)) {
         m_isReady = true;
         write({QStringLiteral("ready")});
     }
@@ -247,15 +254,12 @@ void ActionSpy::reportPlaces()
     m_widgets = std::move(named);
 }
 
-bool ActionSpy::hasEntry() const
+int ActionSpy::countEntries() const
 {
-    if (m_entry.isEmpty())
-        return true;
-    for (const QAction *action : m_actions) {
-        if (plain(action->text()) == m_entry)
-            return true;
-    }
-    return false;
+    return static_cast<int>(
+        std::count_if(m_actions.begin(), m_actions.end(), [this](const QAction *action) {
+            return !m_entry.isEmpty() && plain(action->text()) == m_entry;
+        }));
 }
 
 void ActionSpy::write(const QStringList &fields)

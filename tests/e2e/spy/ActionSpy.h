@@ -35,6 +35,8 @@ QT_END_NAMESPACE
 //     view       CLASS  X,Y,W,H             a view is visible; global pixels
 //     widget     OBJECTNAME  X,Y,W,H        a widget to look for is visible; global pixels
 //     ready                                 view and menu entry exist, see below
+//     hasentry   N                          how many menus have the entry
+//     where      OBJECTNAME  TITLE          the same action, and its window
 //     triggered  OBJECTNAME  CAPTION        an action ran; written when it has finished, so
 //                                           after a modal dialog that it opened
 //     press      BUTTON  CLASS  X,Y         a mouse event reached a widget; also "release"
@@ -67,7 +69,7 @@ private:
     void watchAction(QAction *action);
     void lookAround();
     void reportPlaces();
-    [[nodiscard]] bool hasEntry() const;
+    [[nodiscard]] int countEntries() const;
 
     QFile m_log;
     QStringList m_viewClasses;
@@ -78,5 +80,6 @@ private:
     using Places = std::map<const QWidget *, QRect>;
     Places m_views;
     Places m_widgets;
+    int m_entries = 0;
     bool m_isReady = false;
 };

@@ -177,8 +177,9 @@ QString Commands::windows(const QString &name, const QStringList &words)
     }
     const bool close = name == QLatin1String("close");
     const bool activate = name == QLatin1String("activate");
+    const bool minimize = name == QLatin1String("minimize");
     const bool focusOn = name == QLatin1String("focus-on");
-    if ((close || activate || focusOn) && words.size() == 1) {
+    if ((close || activate || minimize || focusOn) && words.size() == 1) {
         const auto window = titled(m_desktop, words.first());
         if (!window)
             return refuse(QStringLiteral("no such window"));
@@ -186,6 +187,8 @@ QString Commands::windows(const QString &name, const QStringList &words)
             m_desktop.closeWindow(window->id);
         else if (activate)
             m_desktop.activateWindow(window->id);
+        else if (minimize)
+            m_desktop.minimizeWindow(window->id);
         else
             m_desktop.focusOn(window->id);
         return kOk;

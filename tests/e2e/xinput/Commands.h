@@ -28,7 +28,7 @@ class XDesktop;
 //     wait-size W H MS       a window of that size -> ID X Y W H
 //     wait-no-size W H MS
 //     wait-no-popup MS       no menu and no list of a combo box is on screen
-//     close TITLE            activate TITLE
+//     close TITLE            activate TITLE          minimize TITLE
 //     place TITLE X Y W H    moves and resizes a window where there is no window manager
 //     focus-on TITLE         gives it the keyboard where there is no window manager
 //     focus                  -> "active ID focus ID": the window manager's active window, and

@@ -343,6 +343,11 @@ void XDesktop::activateWindow(unsigned long id)
     sendToManager(id, "_NET_ACTIVE_WINDOW", 2); // 2: the person asked for it, not a program
 }
 
+void XDesktop::minimizeWindow(unsigned long id)
+{
+    sendToManager(id, "WM_CHANGE_STATE", IconicState);
+}
+
 void XDesktop::sendToManager(unsigned long window, const char *message, long first)
 {
     XEvent event = {};

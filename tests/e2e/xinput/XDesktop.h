@@ -69,6 +69,8 @@ public:
     void closeWindow(unsigned long id);
     // Asks the window manager to raise a window and give it the keyboard.
     void activateWindow(unsigned long id);
+    // Minimises a window. activateWindow() brings it back.
+    void minimizeWindow(unsigned long id);
     // These two do a window manager's work where there is none.
     void placeWindow(unsigned long id, const QRect &place);
     void focusOn(unsigned long id);

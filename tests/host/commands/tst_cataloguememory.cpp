@@ -332,7 +332,7 @@ void CatalogueMemoryTest::theyAreTakenUpByTheirActions()
     QVERIFY(start.isOffered(QStringLiteral("drawLine")));
 }
 
-// Of two names of one well-known command, the one that was ever seen first keeps the identifier.
+// If a well-known command has two names, the name that was seen first keeps the identifier.
 void CatalogueMemoryTest::identifiersStayThoughMenusComeInAnotherOrder()
 {
     const WellKnown wellKnown{{kLine, {QStringLiteral("sketchLine"), QStringLiteral("drawLine")}}};

@@ -618,7 +618,7 @@ void HostCommandCatalogueTest::theWindowMayGoFirst()
 void HostCommandCatalogueTest::theManagerWalksGroupsAndModules()
 {
     CommandCatalogue catalogue(m_window.get(), {});
-    gesturewidget::UiManager manager(catalogue, {}, [](const QString &) {});
+    gesturewidget::UiManager manager(catalogue, {}, [](const QString &, QWidget *) {});
     gesturewidget::CommandManager commands(catalogue, manager);
     CHxUICommandItem *gestures = manager.CreateCommandItem("_CONFIG", 0);
     gestures->SetName("Mouse &Gestures");
@@ -646,7 +646,7 @@ void HostCommandCatalogueTest::theManagerWalksGroupsAndModules()
 void HostCommandCatalogueTest::theManagersWalkOutlivesChanges()
 {
     CommandCatalogue catalogue(m_window.get(), {});
-    gesturewidget::UiManager manager(catalogue, {}, [](const QString &) {});
+    gesturewidget::UiManager manager(catalogue, {}, [](const QString &, QWidget *) {});
     gesturewidget::CommandManager commands(catalogue, manager);
     const auto groups = commands.NewGroupIterator();
     QVERIFY(!groups->Done());
@@ -674,7 +674,7 @@ void HostCommandCatalogueTest::thousandCommandsCostLittle()
         }
     }
     CommandCatalogue catalogue(m_window.get(), {});
-    gesturewidget::UiManager manager(catalogue, {}, [](const QString &) {});
+    gesturewidget::UiManager manager(catalogue, {}, [](const QString &, QWidget *) {});
     gesturewidget::CommandManager commands(catalogue, manager);
     int length = 0;
     const std::function<void(CHxUIMenuItemCollection *)> walkMenus =

@@ -116,7 +116,7 @@ void ExplanationTest::explain()
     m_services = std::make_unique<SystemServices>(m_window.get(), m_profile, &m_documents,
                                                   m_folder->filePath(QStringLiteral("drafter.ini")));
     m_services->catalogue().guessWellKnown();
-    m_explanation = std::make_unique<Explanation>(m_sockets[0], m_window.get(), m_profile, *m_services);
+    m_explanation = std::make_unique<Explanation>(m_sockets[0], m_profile, *m_services);
 }
 
 QWidget *ExplanationTest::show(QWidget *central)
@@ -229,8 +229,9 @@ void ExplanationTest::commands()
              qPrintable(lines()));
     QVERIFY2(says("ID_LINE: drawLine, since object name \"drawLine\", caption \"Line\""),
              qPrintable(lines()));
-    QVERIFY2(says("ID_SAVE: none, since no shortcut, icon, object name or caption speaks for an action"),
-             qPrintable(lines()));
+    QVERIFY2(
+        says("ID_SAVE: none, since no action has a matching shortcut, icon, object name or caption"),
+        qPrintable(lines()));
     const QHash<QString, QStringList> found = reported().wellKnownCommands;
     QCOMPARE(found.size(), 2);
     QCOMPARE(found.value(QStringLiteral("ID_LINE")), QStringList(QStringLiteral("drawLine")));

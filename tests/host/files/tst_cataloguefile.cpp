@@ -449,7 +449,7 @@ void CatalogueFileTest::whatIsNotOursIsLeftAlone_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("line");
-    const QString foreign = QStringLiteral("is no list of commands");
+    const QString foreign = QStringLiteral("is not a list of commands");
     QTest::newRow("later version") << QByteArray(R"({"version": 2, "commands": 7})")
                                    << QStringLiteral("is of a later version (2)");
     QTest::newRow("other object") << QByteArray(R"({"name": "something", "commands": []})") << foreign;

@@ -132,11 +132,31 @@ void InjectTest::programEndsAsItWould_data()
     row("window-first", 0, "ring: yes, window gone");
     row("window-later", 0, "ring: yes, window gone");
     row("second-window", 0, "entry in the second window, ring: yes");
-    const char *const twoWindows = "ring: no, menu: yes, ring: yes, entry in the second window: no, "
-                                   "entry in the second window, ring: yes, command of the first: no, "
-                                   "entry in the first window: no";
-    row("two-windows-first-destroyed", 0, twoWindows);
-    row("two-windows-first-closed", 0, twoWindows);
+    const auto rowOfTwo = [&row](const char *mode, const QByteArray &output) {
+        row(QByteArray("two-windows-" + QByteArray(mode)).constData(), 0,
+            QByteArray("two windows, " + output).constData());
+    };
+    rowOfTwo("in-turn", "ring: yes, lines: 0 and 1, ring: yes, lines: 1 and 1, "
+                        "ring: yes, lines: 1 and 2");
+    rowOfTwo("first-destroyed", "ring: yes, lines: 1 and 0, ring: yes, lines: gone and 1");
+    rowOfTwo("first-closed", "ring: yes, lines: 1 and 0, ring: yes, lines: 1 and 1, "
+                             "ring: yes, lines: 2 and 1");
+    rowOfTwo("second-destroyed", "ring: yes, lines: 0 and 1, ring: yes, lines: 1 and gone");
+    rowOfTwo("second-again", "two windows, ring: yes, lines: 0 and 1, ring: yes, lines: gone and 2");
+    rowOfTwo("gone-with-ring", "ring: yes, ring: no, ring: yes, lines: 1 and gone");
+    rowOfTwo("first-gone-with-ring",
+             "ring: yes, lines: 1 and 0, ring: yes, ring: no, ring: yes, lines: gone and 1");
+    rowOfTwo("gone-while-holding", "ring: yes, lines: 1 and gone");
+    rowOfTwo("gone-before-the-command", "ring: yes, ring: yes, lines: 1 and gone");
+    rowOfTwo("closed-by-the-command", "ring: yes, lines: 0 and gone, ring: yes, lines: 1 and gone");
+    rowOfTwo("gone-with-dialog", "ring: yes, lines: 1 and 0, over the second: yes, dialog gone, "
+                                 "ring: yes, lines: 2 and gone");
+    rowOfTwo("first-gone-with-dialog", "ring: yes, lines: 1 and 0, over the second: yes, dialog gone, "
+                                       "ring: yes, lines: gone and 1");
+    rowOfTwo("both-destroyed", "ring: yes, lines: 0 and 1, entry, ring: yes, lines: 1 and gone");
+    for (const char *mode : {"before", "at-once", "later", "hidden"})
+        row(QByteArray("replaced-" + QByteArray(mode)).constData(), 0,
+            "entry in the start window, ring: yes, command");
     row("menus-in-a-child-window", 0, "entry in the child window, ring: yes");
     row("without-event-loop", 0, "entry: yes, ring: yes");
     row("after-bare-application", 0, "entry, unset|unset, entry after the event loop: no");
@@ -218,7 +238,7 @@ void InjectTest::brokenModuleLeavesTheProgramAlone_data()
     QTest::newRow("throws") << stubs.arg(QStringLiteral("init_throws"))
                             << QStringLiteral("could not start: no start today");
     QTest::newRow("no library") << QStringLiteral(TESTS_SOURCE_DIR "/host/inject/guest/main.cpp")
-                                << QStringLiteral("it is no library");
+                                << QStringLiteral("it is not a library");
 }
 
 // The module is searched beside the host library, so use a copy of the libraries without it, or

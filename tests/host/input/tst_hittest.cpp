@@ -53,6 +53,8 @@ private Q_SLOTS:
     void controls();
     void blockedView();
     void modalWindow();
+    void dialogOfAnotherWindow_data();
+    void dialogOfAnotherWindow();
     void popup();
     void grabbedMouse();
     void endOfAGestureIsNeverSuppressed();
@@ -203,6 +205,39 @@ void HitTestTest::blockedView()
     QVERIFY(HitTest(m_document, m_trigger, motion).IsViewBlocked());
     QVERIFY(HitTest(m_document, m_trigger, motion).isSuppressed());
     QVERIFY(HitTest(nullptr, m_trigger, motion).IsViewBlocked());
+}
+
+void HitTestTest::dialogOfAnotherWindow_data()
+{
+    QTest::addColumn<int>("modality");
+    QTest::addColumn<bool>("isOfView"); // the dialog belongs to the view's window
+    QTest::addColumn<bool>("blocks");
+    QTest::newRow("of the program") << int(Qt::ApplicationModal) << false << true;
+    QTest::newRow("of the view's window") << int(Qt::WindowModal) << true << true;
+    QTest::newRow("of another window") << int(Qt::WindowModal) << false << false;
+}
+
+// The dialog of a window leaves the other windows usable.
+void HitTestTest::dialogOfAnotherWindow()
+{
+    QFETCH(int, modality);
+    QFETCH(bool, isOfView);
+    QFETCH(bool, blocks);
+    QWidget other;
+    other.show();
+    QDialog dialog(isOfView ? m_view.get() : &other);
+    dialog.setWindowModality(Qt::WindowModality(modality));
+    dialog.show();
+    QVERIFY(QGuiApplication::modalWindow());
+    const HitTest::Event motion = seenAs(Kind::Motion);
+    QCOMPARE(HitTest(m_document, m_trigger, motion).IsModalWindowOpen(), blocks);
+    // Of two dialogs, the newer one does not hide the older.
+    QDialog newer(&other);
+    newer.setWindowModality(Qt::WindowModal);
+    newer.show();
+    QCOMPARE(HitTest(m_document, m_trigger, motion).IsModalWindowOpen(), blocks);
+    dialog.hide();
+    QVERIFY(!HitTest(m_document, m_trigger, motion).IsModalWindowOpen());
 }
 
 void HitTestTest::modalWindow()

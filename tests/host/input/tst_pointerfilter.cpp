@@ -205,6 +205,7 @@ private Q_SLOTS:
     void cancelKeepsNoKeys();
     void overlayThatIgnoresTheReleaseIsForcedToLetGo();
     void overlayThatLosesTheMouseIsStopped();
+    void overlayThatIsDestroyedIsNotReplaced();
     void filterDestroyedDuringTheReplay();
 
     void trackersSeeMovements();
@@ -1158,6 +1159,27 @@ void PointerFilterTest::overlayThatLosesTheMouseIsStopped()
     desk.control->releaseMouse();
     desk.release(kPress);
     QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+// An overlay goes with the main window that it belongs to, and the view may be in another one.
+void PointerFilterTest::overlayThatIsDestroyedIsNotReplaced()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    QVERIFY(desk.tracker.overlay->isVisible());
+    desk.tracker.overlay = std::make_unique<tests::FakeOverlay>();
+    desk.release(kPress + QPoint(30, 0));
+    desk.move(kPress + QPoint(35, 0));
+    QVERIFY(!desk.tracker.overlay->isVisible());
+    QCOMPARE(desk.tracker.starts, 1);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    QCOMPARE(desk.tracker.starts, 2);
+    desk.release(kPress + QPoint(30, 0));
 }
 
 void PointerFilterTest::filterDestroyedDuringTheReplay()

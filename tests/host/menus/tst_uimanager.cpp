@@ -105,7 +105,8 @@ private:
         m_manager.reset();
         m_catalogue = std::make_unique<CommandCatalogue>(m_window.get(), QHash<QString, QStringList>());
         m_manager = std::make_unique<UiManager>(
-            *m_catalogue, toolsMenu, [this](const QString &command) { m_run.append(command); });
+            *m_catalogue, toolsMenu,
+            [this](const QString &command, QWidget *) { m_run.append(command); });
         m_run.clear();
     }
     CHxUIWorkspace *workspace() const { return m_manager->NewWorkspaceIterator()->Current(); }
@@ -578,7 +579,7 @@ void UiManagerTest::withoutAMenuBarAllIsEmpty()
 {
     QMainWindow bare;
     CommandCatalogue catalogue(&bare, {});
-    UiManager manager(catalogue, {}, [](const QString &) {});
+    UiManager manager(catalogue, {}, [](const QString &, QWidget *) {});
     QVERIFY(manager.NewMenuIterator()->Done());
     const auto walk = manager.NewWorkspaceIterator();
     QVERIFY(!walk->Done());

@@ -105,6 +105,13 @@ private Q_SLOTS:
     void windowWithoutMenuBarGetsNone();
     void destroyedWindowStopsTheHost();
     void hostMayOutliveTheWindowAndItsViews();
+    void theFrameIsThereFromTheFirstWindowToTheLast_data();
+    void theFrameIsThereFromTheFirstWindowToTheLast();
+    void theFirstWindowMayGoBeforeItIsReady();
+    void windowsThatJoin_data();
+    void windowsThatJoin();
+    void aWindowMayGoBeforeItJoins();
+    void theActiveDocumentIsInTheCurrentWindow();
 
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -453,22 +460,29 @@ void GestureHostTest::aNewTriggerCountsFromTheNextStart()
 void GestureHostTest::viewsOfOtherWindows_data()
 {
     QTest::addColumn<bool>("isMainWindow");
+    QTest::addColumn<bool>("hasMenuBar");
     QTest::addColumn<bool>("hasMenus");
     QTest::addColumn<bool>("isAdded"); // the program adds the view itself
     QTest::addColumn<bool>("isHeld");
-    QTest::newRow("dialog") << false << false << false << true;
-    QTest::newRow("detached view") << true << false << false << true;
-    QTest::newRow("another drawing") << true << true << false << false;
-    QTest::newRow("another drawing, added") << true << true << true << true;
+    QTest::addColumn<bool>("isCurrent"); // its window becomes the current one
+    QTest::newRow("dialog") << false << false << false << false << true << false;
+    QTest::newRow("detached view") << true << false << false << false << true << false;
+    QTest::newRow("another drawing") << true << true << true << false << true << true;
+    QTest::newRow("another drawing, added") << true << true << true << true << true << true;
+    // Its own menus are still to come, and the commands of the first window would be wrong.
+    QTest::newRow("before its menus") << true << true << false << false << false << false;
+    QTest::newRow("before its menus, added") << true << true << false << true << false << false;
 }
 
-// The commands of a gesture are those of the host's main window.
+// The commands of a gesture are those of the window that it is made in.
 void GestureHostTest::viewsOfOtherWindows()
 {
     QFETCH(bool, isMainWindow);
+    QFETCH(bool, hasMenuBar);
     QFETCH(bool, hasMenus);
     QFETCH(bool, isAdded);
     QFETCH(bool, isHeld);
+    QFETCH(bool, isCurrent);
     class View : public QFrame
     {
     public:
@@ -486,6 +500,8 @@ void GestureHostTest::viewsOfOtherWindows()
     auto *mainWindow = new QMainWindow;
     const std::unique_ptr<QWidget> other(isMainWindow ? mainWindow : new QWidget);
     const std::unique_ptr<QWidget> unused(isMainWindow ? nullptr : mainWindow);
+    if (hasMenuBar)
+        mainWindow->menuBar()->show();
     if (hasMenus)
         mainWindow->menuBar()->addMenu(QStringLiteral("Tools"));
     other->resize(200, 200);
@@ -500,7 +516,9 @@ void GestureHostTest::viewsOfOtherWindows()
     tests::FakeTracker tracker;
     ACTIVE_DOCUMENT()->GetInputPointManager()->AddTracker(&tracker, 0);
     other->show();
-    QVERIFY(QTest::qWaitForWindowExposed(other.get()));
+    other->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(other.get()));
+    QTRY_COMPARE(host.mainWindow() == other.get(), isCurrent);
     QTest::mousePress(other->windowHandle(), Qt::RightButton, {}, QPoint(100, 100));
     QCOMPARE(view->presses == 0, isHeld);
     QTest::mouseRelease(other->windowHandle(), Qt::RightButton, {}, QPoint(100, 100));
@@ -656,6 +674,203 @@ void GestureHostTest::hostMayOutliveTheWindowAndItsViews()
     QCOMPARE(ACTIVE_DOCUMENT(), document);
     host.reset();
     window.reset();
+}
+
+namespace {
+
+// A main window with menus, and a view if a test wants one.
+class DocumentWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    DocumentWindow()
+    {
+        resize(300, 300);
+        menuBar()->addMenu(QStringLiteral("Tools"))->addAction(QStringLiteral("Options"));
+    }
+    // Adds a view for a profile that names QFrame.
+    void addView()
+    {
+        view = new QFrame;
+        setCentralWidget(view);
+        view->show();
+    }
+
+    QFrame *view = nullptr;
+};
+
+// Help, for example.
+class OtherWindow : public DocumentWindow
+{
+    Q_OBJECT
+};
+
+} // namespace
+
+void GestureHostTest::theFrameIsThereFromTheFirstWindowToTheLast_data()
+{
+    QTest::addColumn<bool>("isFirstGone"); // before the second
+    QTest::addColumn<bool>("isLater"); // from the event loop
+    QTest::newRow("first, at once") << true << false;
+    QTest::newRow("first, later") << true << true;
+    QTest::newRow("second, at once") << false << false;
+    QTest::newRow("second, later") << false << true;
+}
+
+void GestureHostTest::theFrameIsThereFromTheFirstWindowToTheLast()
+{
+    QFETCH(bool, isFirstGone);
+    QFETCH(bool, isLater);
+    auto first = std::make_unique<DocumentWindow>();
+    auto second = std::make_unique<DocumentWindow>();
+    gesturewidget::GestureHost host(first.get(), m_options);
+    QVERIFY(host.start());
+    FrameReactor reactor;
+    odedEditor()->addReactor(&reactor);
+    first->show();
+    QTRY_COMPARE(reactor.created, 1);
+    second->show();
+    QTRY_COMPARE(host.mainWindow(), second.get());
+    QCOMPARE(GetHxSystemServices()->GetMainFrame()->GetMainWindow(), second.get());
+    std::unique_ptr<DocumentWindow> &goes = isFirstGone ? first : second;
+    std::unique_ptr<DocumentWindow> &stays = isFirstGone ? second : first;
+    const auto end = [isLater](std::unique_ptr<DocumentWindow> &window) {
+        if (isLater)
+            window.release()->deleteLater();
+        else
+            window.reset();
+    };
+    QPointer<QWidget> gone = goes.get();
+    end(goes);
+    QTRY_VERIFY(!gone);
+    QVERIFY(host.isRunning());
+    QCOMPARE(host.mainWindow(), stays.get());
+    QCOMPARE(GetHxSystemServices()->GetMainFrame()->GetMainWindow(), stays.get());
+    QCOMPARE(reactor.destroyed, 0);
+    FrameReactor late;
+    odedEditor()->addReactor(&late);
+    QTRY_COMPARE(late.created, 1);
+    end(stays);
+    QTRY_VERIFY(!host.isRunning());
+    QCOMPARE(reactor.created, 1);
+    QCOMPARE(reactor.destroyed, 1);
+    QCOMPARE(late.destroyed, 1);
+    QCOMPARE(host.mainWindow(), nullptr);
+}
+
+// A start window that closes as soon as the real one is there.
+void GestureHostTest::theFirstWindowMayGoBeforeItIsReady()
+{
+    auto first = std::make_unique<QMainWindow>();
+    first->menuBar(); // never filled
+    DocumentWindow second;
+    second.addView();
+    gesturewidget::GestureHost host(first.get(), m_options);
+    host.addView(second.view);
+    QVERIFY(host.start());
+    FrameReactor reactor;
+    odedEditor()->addReactor(&reactor);
+    first->show();
+    second.show();
+    QTRY_COMPARE(reactor.created, 1);
+    first.reset();
+    QVERIFY(host.isRunning());
+    QCOMPARE(host.mainWindow(), &second);
+    QCOMPARE(reactor.destroyed, 0);
+    QCOMPARE(reactor.created, 1);
+}
+
+void GestureHostTest::windowsThatJoin_data()
+{
+    QTest::addColumn<bool>("isAlike"); // of the first window's class
+    QTest::addColumn<bool>("hasView");
+    QTest::addColumn<bool>("joins");
+    QTest::newRow("alike, with a view") << true << true << true;
+    QTest::newRow("alike, before a drawing is open") << true << false << true;
+    QTest::newRow("another one with a view") << false << true << true;
+    QTest::newRow("help") << false << false << false;
+}
+
+void GestureHostTest::windowsThatJoin()
+{
+    QFETCH(bool, isAlike);
+    QFETCH(bool, hasView);
+    QFETCH(bool, joins);
+    tests::writeFile(m_folder->filePath(QStringLiteral("program.json")),
+                     R"({"version": 1, "program": "program", "viewClasses": ["QFrame"]})");
+    m_options.profileFolders << m_folder->path();
+    DocumentWindow first;
+    const std::unique_ptr<DocumentWindow> second(isAlike ? new DocumentWindow : new OtherWindow);
+    gesturewidget::GestureHost host(&first, m_options);
+    QVERIFY(host.start());
+    if (hasView)
+        second->addView();
+    second->show();
+    second->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(second.get()));
+    gesturewidget::MenuReadiness other(second.get()); // settles when the host's own would
+    QSignalSpy settled(&other, &gesturewidget::MenuReadiness::settled);
+    other.start();
+    QTRY_COMPARE(settled.count(), 1);
+    if (!joins) {
+        // One more round: the host's may settle a moment later.
+        gesturewidget::MenuReadiness another(second.get());
+        QSignalSpy again(&another, &gesturewidget::MenuReadiness::settled);
+        another.start();
+        QTRY_COMPARE(again.count(), 1);
+    }
+    QTRY_COMPARE(host.mainWindow() == second.get(), joins);
+    // A drawing that is opened later makes any window one of them.
+    if (!joins) {
+        second->addView();
+        QTRY_COMPARE(host.mainWindow(), second.get());
+    }
+}
+
+void GestureHostTest::aWindowMayGoBeforeItJoins()
+{
+    DocumentWindow first;
+    gesturewidget::GestureHost host(&first, m_options);
+    QVERIFY(host.start());
+    FrameReactor reactor;
+    odedEditor()->addReactor(&reactor);
+    first.show();
+    QTRY_COMPARE(reactor.created, 1);
+    for (int i = 0; i < 3; ++i) {
+        DocumentWindow second;
+        second.addView();
+        host.addView(second.view);
+        second.show();
+        QVERIFY(QTest::qWaitForWindowActive(&second));
+        if (i == 2) {
+            host.stop();
+            QVERIFY(!host.isRunning());
+        } else {
+            QCOMPARE(host.mainWindow(), &first);
+        }
+    }
+    QCOMPARE(reactor.destroyed, 1);
+}
+
+// A macro sends Escape to the active document.
+void GestureHostTest::theActiveDocumentIsInTheCurrentWindow()
+{
+    DocumentWindow first;
+    DocumentWindow second;
+    gesturewidget::GestureHost host(&first, m_options);
+    for (DocumentWindow *window : {&first, &second}) {
+        window->addView();
+        host.addView(window->view);
+    }
+    QVERIFY(host.start());
+    first.show();
+    second.show();
+    QTRY_COMPARE(host.mainWindow(), &second);
+    QCOMPARE(ACTIVE_DOCUMENT()->GetViewWidget(), second.view);
+    first.activateWindow();
+    QTRY_COMPARE(host.mainWindow(), &first);
+    QCOMPARE(ACTIVE_DOCUMENT()->GetViewWidget(), first.view);
 }
 
 QTEST_MAIN(GestureHostTest)

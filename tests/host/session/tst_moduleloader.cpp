@@ -73,9 +73,9 @@ void ModuleLoaderTest::refusedModulesSayWhy_data()
     const auto row = [](const char *name, const char *expected) {
         QTest::newRow(name) << QString::fromLatin1(name) << QString::fromLatin1(expected);
     };
-    row("empty", "is no module: it lacks odrxGetAPIVersion");
-    row("without_version", "is no module: it lacks odrxGetAPIVersion");
-    row("without_create", "is no module: it lacks odrxCreateModuleObject");
+    row("empty", "is not a module: it lacks odrxGetAPIVersion");
+    row("without_version", "is not a module: it lacks odrxGetAPIVersion");
+    row("without_create", "is not a module: it lacks odrxCreateModuleObject");
     row("newer", "is for version 4.0.0.0 of the platform, this is 3.8.1.0");
     row("other_build", "is for version 3.8.1.1 of the platform, this is 3.8.1.0");
     row("version_throws", "failed to name its version: no version today");
@@ -105,15 +105,15 @@ void ModuleLoaderTest::filesThatAreNoLibrary_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("empty") << QByteArray() << QStringLiteral("it is no library");
-    QTest::newRow("text") << QByteArray(200, 'x') << QStringLiteral("it is no library");
+    QTest::newRow("empty") << QByteArray() << QStringLiteral("it is not a library");
+    QTest::newRow("text") << QByteArray(200, 'x') << QStringLiteral("it is not a library");
     QFile file(tests::stubModule(QStringLiteral("good")));
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray good = file.readAll();
     // Given such a file, the system's loader would end the process.
     for (const int size : {64, 65, 1000, 5000})
         QTest::addRow("cut at %d", size) << good.left(size) << QStringLiteral("it is cut short");
-    QTest::newRow("header cut") << good.left(63) << QStringLiteral("it is no library");
+    QTest::newRow("header cut") << good.left(63) << QStringLiteral("it is not a library");
     QByteArray otherMachine = good;
     otherMachine[18] = 0x28;
     QTest::newRow("other machine") << otherMachine << QStringLiteral("cannot be loaded");

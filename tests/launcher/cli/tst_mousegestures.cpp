@@ -84,7 +84,7 @@ private Q_SLOTS:
         QFETCH(QStringList, arguments);
         QFETCH(int, status);
         QFETCH(QByteArray, says);
-        const Outcome outcome = run(arguments);
+        const Outcome outcome = run(arguments, {QStringLiteral("DISPLAY=")});
         QCOMPARE(outcome.how, QProcess::NormalExit);
         QCOMPARE(outcome.status, status);
         QCOMPARE(outcome.output, QByteArray());
@@ -130,6 +130,23 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(other));
         QCOMPARE(direct.status, 125);
         QCOMPARE(script.status, 0);
+    }
+
+    void withoutArgumentsTheWindowOpensOnADisplay()
+    {
+        const QStringList none;
+        const QString window = m_prefix.filePath(QStringLiteral("bin/mouse-gestures-settings"));
+        QCOMPARE(run(none, {QStringLiteral("DISPLAY=:990")}).status, 125); // not installed
+        QVERIFY(QFile::copy(makeScript("echo window; exit 3"), window));
+        const Outcome x11 = run(none, {QStringLiteral("DISPLAY=:990")});
+        QCOMPARE(x11.output, QByteArray("window\n"));
+        QCOMPARE(x11.status, 3);
+        const Outcome wayland =
+            run(none, {QStringLiteral("DISPLAY="), QStringLiteral("WAYLAND_DISPLAY=wayland-0")});
+        QCOMPARE(wayland.output, QByteArray("window\n"));
+        const Outcome nothing = run(none, {QStringLiteral("DISPLAY=")});
+        QCOMPARE(nothing.status, 125);
+        QVERIFY(QFile::remove(window));
     }
 
     void aProgramRuns()

@@ -105,7 +105,7 @@ private Q_SLOTS:
         row("no desktop entry", {text("--enable"), kProgram}, 1,
             "the desktop has no entry that starts it");
         row("no such direction", {text("--bind"), kProgram, text("north"), text("x")}, 1,
-            "\"north\" is none of the 8 directions");
+            "\"north\" is not one of the 8 directions");
         row("a line end in a direction", {text("--bind"), kProgram, text("a\nb"), text("x")}, 1,
             "\"a?b\"");
         row("no such trigger", {text("--trigger"), kProgram, text("wheel")}, 1,

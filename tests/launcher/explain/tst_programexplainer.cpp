@@ -147,7 +147,7 @@ void ProgramExplainerTest::whatAGuessFinds()
           "view: GuestView, since it paints itself and fills 100 % of the area\n",
           "Tools menu: toolsMenu, since its object name says so\n",
           "ID_LINE: drawLine, since object name \"drawLine\", caption \"Line\"\n",
-          "ID_TRIM: none, since no shortcut, icon, object name or caption speaks for an action\n"})
+          "ID_TRIM: none, since no action has a matching shortcut, icon, object name or caption\n"})
         QVERIFY2(lines.contains(QLatin1String(line)), qPrintable(lines));
     // The second start has the commands of the first one.
     const ProgramExplanation again = explainGuest("stay");
@@ -221,8 +221,7 @@ void ProgramExplainerTest::endedInTheEnd_data()
     QTest::newRow("it quits") << QByteArray("exec '" GUEST "' stay\n");
     QTest::newRow("it is deaf") << QByteArray("exec '" GUEST "' deaf\n");
     QTest::newRow("it shows no window") << QByteArray("exec '" GUEST "' without-window\n");
-    QTest::newRow("it is no program of Qt")
-        << QByteArray("while :; do read x || exec sleep 1000; done\n");
+    QTest::newRow("not a program of Qt") << QByteArray("while :; do read x || exec sleep 1000; done\n");
     QTest::newRow("it is a deaf script") << QByteArray("trap '' TERM\nexec sleep 1000\n");
 }
 

@@ -264,7 +264,7 @@ void SettingsTasksTest::badInputChangesNothing_data()
     QTest::newRow("no direction") << 8 << text("north") << text("DrawArc") << text("\"north\"");
     QTest::newRow("empty direction") << 8 << QString() << text("DrawArc") << text("up-right");
     QTest::newRow("a direction of eight, with four")
-        << 4 << text("up-left") << text("DrawArc") << text("none of the 4 directions");
+        << 4 << text("up-left") << text("DrawArc") << text("not one of the 4 directions");
     QTest::newRow("line end") << 8 << text("up") << text("Draw\nArc") << text("control characters");
     QTest::newRow("null") << 8 << text("up") << QString(QChar::Null) << text("control characters");
 }
@@ -439,7 +439,7 @@ void SettingsTasksTest::deepNestingIsRefusedAtOnce()
     QVERIFY(tasks().importFrom(m_export).complaint.contains(text("line 1: this is nested too deeply")));
     // Brackets inside a text do not count.
     write(m_export, "{\"a\": \"" + QByteArray(100, '{') + "\\\"" + QByteArray(100, '[') + "\"}");
-    QVERIFY(tasks().importFrom(m_export).complaint.contains(text("line 1: \"a\" is no key")));
+    QVERIFY(tasks().importFrom(m_export).complaint.contains(text("line 1: \"a\" is not a key")));
 }
 
 // Keys that a task does not change may be changed by another program meanwhile.

@@ -4,6 +4,8 @@
 #include "sdk/QtBridge.h"
 #include "tests/host/inject/guest/EventScripts.h"
 #include "tests/host/inject/guest/GuestWindow.h"
+#include "tests/host/inject/guest/Steps.h"
+#include "tests/host/inject/guest/TwoWindows.h"
 
 #include <QAction>
 #include <QApplication>
@@ -18,69 +20,14 @@
 #include <QWindow>
 
 #include <csignal>
-#include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <functional>
 #include <memory>
 
 // A program whose first argument chooses how it ends. It writes a line to standard output for each
 // important event.
 namespace {
-
-constexpr int kNoEntry = 90; // the exit status if the module's entry does not appear
-constexpr int kPatience = 20000; // milliseconds
-
-void say(const char *text)
-{
-    std::printf("%s\n", text);
-    std::fflush(stdout);
-}
-
-void sayWhether(const char *text, bool holds)
-{
-    std::printf("%s: %s\n", text, holds ? "yes" : "no");
-    std::fflush(stdout);
-}
-
-// Calls `then` from the event loop when `holds` returns true. Gives up after kPatience.
-void when(const std::function<bool()> &holds, const std::function<void()> &then)
-{
-    auto *timer = new QTimer(qApp);
-    auto *elapsed = new QElapsedTimer;
-    elapsed->start();
-    QObject::connect(timer, &QObject::destroyed, [elapsed] { delete elapsed; });
-    QObject::connect(timer, &QTimer::timeout, timer, [=] {
-        if (!holds() && elapsed->elapsed() < kPatience)
-            return;
-        timer->stop();
-        timer->deleteLater();
-        if (!holds())
-            std::exit(kNoEntry);
-        then();
-    });
-    timer->start(5);
-}
-
-bool ringIsOpen()
-{
-    const QWidget *grabber = QWidget::mouseGrabber();
-    return grabber && grabber->inherits("MgDonutDialog");
-}
-
-void openRing(GuestWindow &window)
-{
-    window.press();
-    window.dragTo(25);
-    window.dragTo(40);
-    sayWhether("ring", ringIsOpen());
-}
-
-void runGesture(GuestWindow &window)
-{
-    openRing(window);
-    window.dragTo(90);
-    window.release(90);
-}
 
 QString environmentText()
 {
@@ -178,51 +125,6 @@ int runSecondWindow(int argc, char **argv)
                       say("entry in the second window");
                       runGesture(*second);
                       when([&] { return second->lines == 1; }, [] { QCoreApplication::quit(); });
-                  });
-         });
-    return QApplication::exec();
-}
-
-// Of two windows, the first one is closed or destroyed.
-int runTwoWindows(int argc, char **argv, bool isDestroyed)
-{
-    QApplication app(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
-    auto first = std::make_unique<GuestWindow>();
-    GuestWindow second;
-    int menus = 0;
-    second.view->setContextMenuPolicy(Qt::CustomContextMenu);
-    QObject::connect(second.view, &QWidget::customContextMenuRequested, [&menus] { ++menus; });
-    const auto runInSecond = [&] {
-        say("entry in the second window");
-        runGesture(second);
-        when([&] { return second.lines == 1; },
-             [&] {
-                 sayWhether("command of the first", first && first->lines != 1);
-                 sayWhether("entry in the first window", first && first->hasEntry());
-                 QCoreApplication::quit();
-             });
-    };
-    first->show();
-    when([&] { return first->hasEntry(); },
-         [&] {
-             second.show();
-             when([&] { return second.windowHandle()->isExposed(); },
-                  [&] {
-                      // The first window's commands do not act on the second window's drawing.
-                      openRing(second);
-                      second.release(40);
-                      sayWhether("menu", menus == 1);
-                      runGesture(*first);
-                      when([&] { return first->lines == 1; },
-                           [&] {
-                               sayWhether("entry in the second window", second.hasEntry());
-                               if (isDestroyed)
-                                   first.reset();
-                               else
-                                   first->close();
-                               when([&] { return second.hasEntry(); }, runInSecond);
-                           });
                   });
          });
     return QApplication::exec();
@@ -616,10 +518,10 @@ int main(int argc, char **argv)
         return runWindowFirst(argc, argv, true);
     if (mode == "second-window")
         return runSecondWindow(argc, argv);
-    if (mode == "two-windows-first-destroyed")
-        return runTwoWindows(argc, argv, true);
-    if (mode == "two-windows-first-closed")
-        return runTwoWindows(argc, argv, false);
+    if (mode.startsWith("two-windows-"))
+        return runTwoWindows(argc, argv, mode.mid(int(std::strlen("two-windows-"))));
+    if (mode.startsWith("replaced-"))
+        return runReplacedWindow(argc, argv, mode.mid(int(std::strlen("replaced-"))));
     if (mode == "menus-in-a-child-window")
         return runMenusInAChildWindow(argc, argv);
     if (mode == "without-event-loop")

@@ -80,6 +80,7 @@ private Q_SLOTS:
     void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
 
     void theShortestWayGivesAFullRing();
+    void speaksTheDesktopsLanguageAndLeavesNothing();
 
 private:
     QTemporaryDir m_home;
@@ -111,6 +112,26 @@ void HostingTest::theShortestWayGivesAFullRing()
     connect(window.line, &QAction::triggered, this, [&lines] { ++lines; });
     QVERIFY(GetHxSystemServices()->RunCommand("ID_LINE", true)->IsFound());
     QCOMPARE(lines, 1);
+}
+
+void HostingTest::speaksTheDesktopsLanguageAndLeavesNothing()
+{
+    const auto others = [] { return QObject::tr("Others"); };
+    qputenv("LANGUAGE", "de");
+    Drafter window;
+    {
+        gesturewidget::GestureHost gestures(&window);
+        gestures.addView(window.canvas());
+        QString error;
+        QVERIFY2(gestures.start(&error), qPrintable(error));
+        window.show();
+        QTRY_COMPARE(window.tools->actions().size(), 2);
+        QCOMPARE(window.tools->actions().last()->text(), QStringLiteral("Mausgesten..."));
+        QCOMPARE(others(), QStringLiteral("Sonstige"));
+    }
+    qunsetenv("LANGUAGE");
+    QCOMPARE(others(), QStringLiteral("Others"));
+    QCOMPARE(window.tools->actions().size(), 1); // found again by its German text
 }
 
 QTEST_MAIN(HostingTest)

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
-#include "launcher/cli/Subject.h"
+#include "launcher/programs/Subject.h"
 
 #include "host/files/InstallPaths.h"
 #include "launcher/programs/ProgramCheck.h"
@@ -17,16 +17,16 @@
 
 namespace launcher {
 
-QByteArray launcherPath()
-{
-    std::error_code error;
-    return QByteArray::fromStdString(std::filesystem::read_symlink("/proc/self/exe", error).string());
-}
-
 QByteArray launcherFolder()
 {
-    const QByteArray path = launcherPath();
-    return path.left(path.lastIndexOf('/'));
+    std::error_code error;
+    const std::filesystem::path path = std::filesystem::read_symlink("/proc/self/exe", error);
+    return QByteArray::fromStdString(path.parent_path().string());
+}
+
+QByteArray launcherPath()
+{
+    return launcherFolder() + "/mouse-gestures";
 }
 
 Subject Subject::of(const QByteArray &typed)

@@ -13,9 +13,10 @@
 
 namespace launcher {
 
-// The full path of the running mouse-gestures, and its folder.
-[[nodiscard]] QByteArray launcherPath();
+// The folder of the running program, where all programs of this project are installed.
 [[nodiscard]] QByteArray launcherFolder();
+// The full path of mouse-gestures in that folder.
+[[nodiscard]] QByteArray launcherPath();
 
 // The program that a person typed, and where everything about it is.
 struct Subject

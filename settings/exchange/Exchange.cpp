@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
+#include "settings/exchange/Exchange.h"
+
+#include "launcher/sheet/SheetPage.h"
+#include "launcher/sheet/SheetTask.h"
+#include "settings/editing/BindingsEditor.h"
+#include "settings/exchange/ImportPreview.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPushButton>
+
+namespace settings {
+namespace {
+
+QString filterOf()
+{
+    return Exchange::tr("Gestures (*.json)") + QStringLiteral(";;") + Exchange::tr("All files (*)");
+}
+
+} // namespace
+
+Exchange::Exchange(QWidget *window)
+    : QObject(window)
+    , m_window(window)
+{
+}
+
+void Exchange::exportBindings(const BindingsEditor &editor)
+{
+    const QString proposed =
+        QDir::home().filePath(editor.subject().name + QLatin1String("-gestures.json"));
+    const QString path = QFileDialog::getSaveFileName(m_window, tr("Export"), proposed, filterOf());
+    if (path.isEmpty())
+        return;
+    const launcher::Outcome outcome = editor.tasks().exportTo(path);
+    if (outcome.isDone())
+        Q_EMIT done(tr("Exported to %1").arg(QDir::toNativeSeparators(path)));
+    else
+        Q_EMIT failed(outcome.complaint);
+}
+
+void Exchange::importBindings(BindingsEditor &editor)
+{
+    const QString path =
+        QFileDialog::getOpenFileName(m_window, tr("Import"), QDir::homePath(), filterOf());
+    if (!path.isEmpty())
+        importFile(editor, path);
+}
+
+void Exchange::importFile(BindingsEditor &editor, const QString &path)
+{
+    launcher::Bindings wanted;
+    const launcher::Outcome outcome = editor.tasks().readImport(path, wanted);
+    if (!outcome.isDone()) {
+        Q_EMIT failed(outcome.complaint);
+        return;
+    }
+    ImportPreview preview(editor, wanted, QFileInfo(path).fileName(), m_window);
+    if (preview.exec() == QDialog::Accepted && editor.importFrom(path))
+        Q_EMIT done(tr("Imported from %1").arg(QDir::toNativeSeparators(path)));
+}
+
+void Exchange::print(const BindingsEditor &editor)
+{
+    QPrinter printer(QPrinter::HighResolution);
+    sheet::setUpPage(printer);
+    printer.setDocName(tr("Mouse gestures in %1").arg(editor.title()));
+    QPrintDialog dialog(&printer, m_window);
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const launcher::SheetContent content = launcher::sheetContent(
+        editor.title(), editor.bindings(), editor.commands(), editor.usualTrigger());
+    if (sheet::drawPage(content, printer, printer.resolution()))
+        Q_EMIT done(tr("Printed"));
+    else
+        Q_EMIT failed(tr("The printer did not take the sheet."));
+}
+
+void Exchange::reset(BindingsEditor &editor)
+{
+    QMessageBox question(QMessageBox::Question, tr("Reset"),
+                         tr("Bring the first commands of %1 back?").arg(editor.title()),
+                         QMessageBox::Cancel, m_window);
+    question.setInformativeText(
+        tr("All directions get the commands that they had before anybody chose any. What starts a "
+           "gesture stays. Undo takes this back."));
+    const QPushButton *yes = question.addButton(tr("&Reset"), QMessageBox::AcceptRole);
+    question.exec();
+    if (question.clickedButton() == yes)
+        editor.reset();
+}
+
+} // namespace settings

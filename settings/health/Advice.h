@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "launcher/doctor/Doctor.h"
+
+#include <QList>
+#include <QString>
+
+namespace settings {
+
+// Something that keeps gestures from working in a program, or how well they work, in plain words.
+struct Advice
+{
+    enum class Remedy {
+        None,
+        EnableGestures // the settings can do it: gestures are switched off there
+    };
+
+    QString text; // what is wrong
+    QString remedy; // what a person can do about it; may be empty
+    Remedy action = Remedy::None;
+};
+
+// What stands in the way; empty if nothing does. `title` is what people call the program.
+[[nodiscard]] QList<Advice> adviceFor(const launcher::Diagnosis &diagnosis, const QString &title);
+
+} // namespace settings

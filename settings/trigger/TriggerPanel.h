@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QWidget>
+
+QT_BEGIN_NAMESPACE
+class QComboBox;
+QT_END_NAMESPACE
+
+namespace settings {
+
+class BindingsEditor;
+
+// What starts a gesture: a list to choose from, and a field that records it.
+class TriggerPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit TriggerPanel(QWidget *parent = nullptr);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+    void showTrigger(const BindingsEditor &editor);
+
+Q_SIGNALS:
+    // See launcher::SettingsTasks::setTrigger().
+    void wanted(const QString &trigger);
+
+private:
+    QComboBox *m_list;
+};
+
+} // namespace settings

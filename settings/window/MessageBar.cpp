@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
+#include "settings/window/MessageBar.h"
+
+#include <QAccessible>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QStyle>
+#include <QToolButton>
+
+namespace settings {
+
+MessageBar::MessageBar(QWidget *parent)
+    : QFrame(parent)
+    , m_icon(new QLabel(this))
+    , m_label(new QLabel(this))
+    , m_close(new QToolButton(this))
+{
+    setObjectName(QStringLiteral("message_bar"));
+    setFrameShape(QFrame::StyledPanel);
+    setAutoFillBackground(true);
+    setBackgroundRole(QPalette::ToolTipBase);
+    setForegroundRole(QPalette::ToolTipText);
+    m_label->setForegroundRole(QPalette::ToolTipText);
+    m_label->setWordWrap(true);
+    m_label->setTextFormat(Qt::PlainText);
+    m_label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_close->setAutoRaise(true);
+    m_close->setIcon(style()->standardIcon(QStyle::SP_DialogCloseButton));
+    m_close->setAccessibleName(tr("Close message"));
+    m_close->setToolTip(tr("Close message"));
+    m_close->setFocusPolicy(Qt::StrongFocus);
+
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(8, 4, 4, 4);
+    layout->addWidget(m_icon);
+    layout->addWidget(m_label, 1);
+    layout->addWidget(m_close);
+    connect(m_close, &QToolButton::clicked, this, &QWidget::hide);
+    hide();
+}
+
+void MessageBar::complain(const QString &text)
+{
+    showText(text, true);
+}
+
+void MessageBar::tell(const QString &text)
+{
+    showText(text, false);
+}
+
+QString MessageBar::text() const
+{
+    return isHidden() ? QString() : m_label->text();
+}
+
+void MessageBar::showText(const QString &text, bool isComplaint)
+{
+    const int side = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
+    m_icon->setPixmap(
+        style()
+            ->standardIcon(isComplaint ? QStyle::SP_MessageBoxWarning : QStyle::SP_MessageBoxInformation)
+            .pixmap(side, side));
+    m_label->setText(text);
+    setAccessibleName(text);
+    show();
+    QAccessibleEvent event(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
+}
+
+} // namespace settings

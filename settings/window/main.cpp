@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
+// mouse-gestures-settings: the window in which people who do not type choose programs, commands and
+// directions.
+
+#include "settings/window/SettingsWindow.h"
+
+#include <QApplication>
+#include <QIcon>
+
+int main(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("mouse-gestures-settings"));
+    QApplication::setApplicationDisplayName(QString());
+    QGuiApplication::setDesktopFileName(QStringLiteral("mouse-gestures"));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("mouse-gestures")));
+    settings::SettingsWindow window;
+    window.show();
+    return QApplication::exec();
+}

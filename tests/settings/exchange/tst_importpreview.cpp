@@ -1,0 +1,127 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
+// What an import would change, and the import itself.
+
+#include "settings/exchange/ImportPreview.h"
+
+#include "launcher/sheet/SheetPage.h"
+#include "launcher/sheet/SheetTask.h"
+#include "settings/editing/BindingsEditor.h"
+#include "settings/exchange/Exchange.h"
+#include "tests/settings/support/HomeTest.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QFile>
+#include <QPrinter>
+#include <QProcess>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTimer>
+#include <QTreeWidget>
+#include <QtTest>
+
+using settings::BindingsEditor;
+using settings::Exchange;
+using settings::ImportPreview;
+using tests::text;
+
+class ImportPreviewTest : public tests::HomeTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        HomeTest::init();
+        install(text("draw"), text("Draw"));
+    }
+
+    void showsOnlyWhatChanges()
+    {
+        BindingsEditor editor(subject("draw"), text("Draw"));
+        launcher::Bindings wanted = editor.bindings();
+        wanted.scheme = 4;
+        wanted.trigger = text("ctrl+right");
+        wanted.eight[6] = QString();
+        ImportPreview preview(editor, wanted, text("kept.json"), nullptr);
+        const auto *list = preview.findChild<QTreeWidget *>(text("import_changes"));
+        QStringList lines;
+        for (int i = 0; i < list->topLevelItemCount(); ++i) {
+            const QTreeWidgetItem *line = list->topLevelItem(i);
+            lines.append(line->text(0) + text(": ") + line->text(1) + text(" -> ") + line->text(2));
+        }
+        QCOMPARE(lines, (QStringList{text("Directions in use: 8 -> 4"),
+                                     text("A gesture starts with: Right button (usual) -> "
+                                          "Ctrl + Right button"),
+                                     text("right of 8 directions: Line -> nothing")}));
+    }
+
+    void nothingToImportCannotBeImported()
+    {
+        const BindingsEditor editor(subject("draw"), text("Draw"));
+        const ImportPreview preview(editor, editor.bindings(), text("kept.json"), nullptr);
+        QCOMPARE(preview.changes(), 0);
+        const auto *buttons = preview.findChild<QDialogButtonBox *>();
+        for (QAbstractButton *button : buttons->buttons())
+            QCOMPARE(button->isEnabled(), buttons->buttonRole(button) != QDialogButtonBox::AcceptRole);
+    }
+
+    void importsAfterAYesOnly_data()
+    {
+        QTest::addColumn<bool>("isAccepted");
+        QTest::newRow("yes") << true;
+        QTest::newRow("no") << false;
+    }
+    void importsAfterAYesOnly()
+    {
+        QFETCH(bool, isAccepted);
+        BindingsEditor editor(subject("draw"), text("Draw"));
+        QVERIFY(editor.tasks().exportTo(place("kept.json")).isDone());
+        QVERIFY(editor.unbind(6));
+        QWidget window;
+        Exchange exchange(&window);
+        QTimer::singleShot(0, &window, [isAccepted] {
+            auto *preview = qobject_cast<ImportPreview *>(QApplication::activeModalWidget());
+            QVERIFY(preview);
+            QCOMPARE(preview->changes(), 1);
+            isAccepted ? preview->accept() : preview->reject();
+        });
+        exchange.importFile(editor, place("kept.json"));
+        QCOMPARE(editor.bindings().eight.at(6), isAccepted ? text("ID_LINE") : QString());
+    }
+
+    void aSheetIsPrintedToAFile()
+    {
+        const BindingsEditor editor(subject("draw"), text("Draw"));
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setOutputFileName(place("ring.pdf"));
+        const launcher::SheetContent content = launcher::sheetContent(
+            editor.title(), editor.bindings(), editor.commands(), editor.usualTrigger());
+        QVERIFY(sheet::setUpPage(printer));
+        QVERIFY(sheet::drawPage(content, printer, printer.resolution()));
+        QVERIFY(tests::contentOf(place("ring.pdf")).startsWith("%PDF"));
+        QProcess reader;
+        reader.start(text("/usr/bin/pdftotext"), {text("-layout"), place("ring.pdf"), text("-")});
+        QVERIFY(reader.waitForFinished());
+        const QByteArray words = reader.readAllStandardOutput();
+        QVERIFY2(words.contains("Mouse gestures in Draw"), words.constData());
+    }
+
+    void aFileWithAFaultIsNamedAndChangesNothing()
+    {
+        BindingsEditor editor(subject("draw"), text("Draw"));
+        write("kept.json", "{\n  \"version\": 1,\n");
+        QWidget window;
+        Exchange exchange(&window);
+        QSignalSpy failed(&exchange, &Exchange::failed);
+        exchange.importFile(editor, place("kept.json"));
+        QCOMPARE(failed.count(), 1);
+        QVERIFY(failed.at(0).at(0).toString().contains(text("kept.json, line")));
+        QVERIFY(!QFile::exists(settingsFile(text("draw"))));
+    }
+};
+
+QTEST_MAIN(ImportPreviewTest)
+#include "tst_importpreview.moc"

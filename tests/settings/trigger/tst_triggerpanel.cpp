@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
+// What starts a gesture: chosen from the list, or recorded.
+
+#include "settings/trigger/TriggerPanel.h"
+
+#include "settings/editing/BindingsEditor.h"
+#include "settings/trigger/TriggerField.h"
+#include "settings/trigger/TriggerWords.h"
+#include "tests/settings/support/HomeTest.h"
+
+#include <QAccessible>
+#include <QComboBox>
+#include <QSignalSpy>
+#include <QtTest>
+#include <QWheelEvent>
+
+using settings::BindingsEditor;
+using settings::TriggerPanel;
+using tests::text;
+
+class TriggerPanelTest : public tests::HomeTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        HomeTest::init();
+        install(text("draw"), text("Draw"));
+    }
+
+    void words_data()
+    {
+        QTest::addColumn<QString>("trigger");
+        QTest::addColumn<QString>("words");
+        QTest::newRow("a button") << text("middle") << text("Middle button");
+        QTest::newRow("keys") << text("ctrl+shift+left") << text("Ctrl + Shift + Left button");
+        QTest::newRow("all keys") << text("alt+meta+forward") << text("Alt + Meta + Forward button");
+        QTest::newRow("something else") << text("wheel") << text("wheel");
+    }
+    void words()
+    {
+        QFETCH(QString, trigger);
+        QTEST(settings::triggerInWords(trigger), "words");
+    }
+
+    void theListShowsWhatCounts()
+    {
+        BindingsEditor editor(subject("draw"), text("Draw"));
+        TriggerPanel panel;
+        const auto *list = panel.findChild<QComboBox *>(text("trigger_list"));
+        panel.showTrigger(editor);
+        QCOMPARE(list->currentText(), text("Right button (usual)"));
+        QVERIFY(editor.setTrigger(text("shift+alt+back"))); // none of the common ones
+        panel.showTrigger(editor);
+        QCOMPARE(list->currentText(), text("Shift + Alt + Back button"));
+        QVERIFY(editor.setTrigger(text("default")));
+        panel.showTrigger(editor);
+        QCOMPARE(list->currentIndex(), 0);
+    }
+
+    void aChoiceIsWanted()
+    {
+        const BindingsEditor editor(subject("draw"), text("Draw"));
+        TriggerPanel panel;
+        panel.showTrigger(editor);
+        QSignalSpy wanted(&panel, &TriggerPanel::wanted);
+        auto *list = panel.findChild<QComboBox *>(text("trigger_list"));
+        QTest::keyClick(list, Qt::Key_Down);
+        QCOMPARE(wanted, (QList<QVariantList>{{text("middle")}}));
+        QTest::keyClick(list, Qt::Key_Up);
+        QCOMPARE(wanted.at(1), QVariantList{text("default")});
+    }
+
+    void theWheelChangesNothing()
+    {
+        const BindingsEditor editor(subject("draw"), text("Draw"));
+        TriggerPanel panel;
+        panel.showTrigger(editor);
+        panel.show();
+        QSignalSpy wanted(&panel, &TriggerPanel::wanted);
+        auto *list = panel.findChild<QComboBox *>(text("trigger_list"));
+        list->setFocus();
+        QWheelEvent wheel({5, 5}, list->mapToGlobal(QPoint(5, 5)), {}, {0, -120}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(list, &wheel);
+        QCOMPARE(wanted.count(), 0);
+        QCOMPARE(list->currentIndex(), 0);
+    }
+
+    void theFieldRecords_data()
+    {
+        QTest::addColumn<int>("button");
+        QTest::addColumn<int>("keys");
+        QTest::addColumn<QString>("trigger");
+        QTest::newRow("right") << int(Qt::RightButton) << int(Qt::NoModifier) << text("right");
+        QTest::newRow("ctrl+left") << int(Qt::LeftButton) << int(Qt::ControlModifier)
+                                   << text("ctrl+left");
+        QTest::newRow("forward") << int(Qt::ForwardButton) << int(Qt::NoModifier) << text("forward");
+    }
+    void theFieldRecords()
+    {
+        QFETCH(int, button);
+        QFETCH(int, keys);
+        QFETCH(QString, trigger);
+        TriggerPanel panel;
+        panel.show();
+        QSignalSpy wanted(&panel, &TriggerPanel::wanted);
+        auto *field = panel.findChild<settings::TriggerField *>();
+        QTest::mousePress(field, static_cast<Qt::MouseButton>(button), Qt::KeyboardModifiers(keys));
+        QTest::mouseRelease(field, static_cast<Qt::MouseButton>(button), Qt::KeyboardModifiers(keys));
+        QCOMPARE(wanted, (QList<QVariantList>{{trigger}}));
+    }
+
+    void screenReadersReadIt()
+    {
+        TriggerPanel panel;
+        for (const char *name : {"trigger_list", "trigger_field"}) {
+            auto *widget = panel.findChild<QWidget *>(text(name));
+            QVERIFY(!QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name).isEmpty());
+        }
+    }
+};
+
+QTEST_MAIN(TriggerPanelTest)
+#include "tst_triggerpanel.moc"

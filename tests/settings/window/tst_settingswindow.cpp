@@ -1,0 +1,320 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
+// The whole window, in a home with programs of the test.
+
+#include "settings/window/SettingsWindow.h"
+
+#include "settings/window/MessageBar.h"
+#include "tests/settings/support/HomeTest.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QAction>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSet>
+#include <QtTest>
+
+#include <unistd.h>
+
+#include <algorithm>
+
+using settings::SettingsWindow;
+using tests::text;
+
+namespace {
+
+template <typename Widget> Widget *find(const SettingsWindow &window, const char *name)
+{
+    auto *widget = window.findChild<Widget *>(text(name));
+    if (!widget)
+        qFatal("there is no %s", name);
+    return widget;
+}
+
+QString title(const SettingsWindow &window)
+{
+    return find<QLabel>(window, "program_title")->text();
+}
+
+QString state(const SettingsWindow &window)
+{
+    return find<QLabel>(window, "program_state")->text();
+}
+
+QString message(const SettingsWindow &window)
+{
+    return find<settings::MessageBar>(window, "message_bar")->text();
+}
+
+} // namespace
+
+class SettingsWindowTest : public tests::HomeTest
+{
+    Q_OBJECT
+
+    // Opens a window and waits until it has found the programs and shows one.
+    static void open(SettingsWindow &window, int programs = 2)
+    {
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        const QAbstractItemModel *list = find<QListView>(window, "program_list")->model();
+        QTRY_COMPARE(list->rowCount(), programs);
+        QTRY_VERIFY(!find<QProgressBar>(window, "program_progress")->isVisible());
+        QVERIFY(programs == 0 || !title(window).isEmpty());
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        HomeTest::init();
+        install(text("draw"), text("Draw"));
+        install(text("sketch"), text("Sketch"));
+    }
+
+    void showsAProgramAtOnce()
+    {
+        SettingsWindow window;
+        open(window);
+        QCOMPARE(title(window), text("Draw"));
+        QVERIFY2(state(window).contains(text("Gestures")), qPrintable(state(window)));
+        QCOMPARE(message(window), QString());
+    }
+
+    void showsFirstAProgramThatStartsWithGestures()
+    {
+        {
+            SettingsWindow window;
+            open(window);
+            find<QListView>(window, "program_list")->setFocus();
+            QTest::keyClick(window.windowHandle(), Qt::Key_Down);
+            QCOMPARE(title(window), text("Sketch"));
+            QTest::keyClick(window.windowHandle(), Qt::Key_Space);
+            QVERIFY(QFile::exists(ownEntryFile(text("sketch"))));
+        }
+        SettingsWindow window;
+        open(window);
+        QCOMPARE(title(window), text("Sketch"));
+        QVERIFY(find<QAbstractButton>(window, "program_switch")->isChecked());
+    }
+
+    void theSwitchOfThePageAndTheOneInTheListAreOne()
+    {
+        SettingsWindow window;
+        open(window);
+        auto *button = find<QAbstractButton>(window, "program_switch");
+        const QModelIndex index = find<QListView>(window, "program_list")->model()->index(0, 0);
+        button->click();
+        QCOMPARE(index.data(Qt::CheckStateRole).toInt(), int(Qt::Checked));
+        QVERIFY(QFile::exists(ownEntryFile(text("draw"))));
+        find<QListView>(window, "program_list")->setFocus();
+        QTest::keyClick(window.windowHandle(), Qt::Key_Space);
+        QVERIFY(!button->isChecked());
+        QVERIFY(!QFile::exists(ownEntryFile(text("draw"))));
+    }
+
+    void aSwitchThatFailsStaysAndSaysWhy()
+    {
+        write(ownEntryFile(text("draw")), "[Desktop Entry]\nType=Application\nName=Draw\nExec=draw\n");
+        SettingsWindow window;
+        open(window);
+        auto *button = find<QAbstractButton>(window, "program_switch");
+        button->click();
+        QVERIFY(!button->isChecked());
+        QVERIFY2(message(window).contains(text("your own")), qPrintable(message(window)));
+    }
+
+    void everythingIsDoneByKeys()
+    {
+        SettingsWindow window;
+        open(window);
+        const auto press = [&](Qt::Key key, Qt::KeyboardModifiers keys = Qt::NoModifier) {
+            QTest::keyClick(window.windowHandle(), key, keys);
+        };
+        press(Qt::Key_F, Qt::ControlModifier);
+        QTest::keyClicks(QApplication::focusWidget(), text("offset"));
+        press(Qt::Key_Return); // to the list
+        press(Qt::Key_Right, Qt::ControlModifier);
+        QCOMPARE(stored(text("draw"), text("87")), text("ID_OFFSET"));
+        QCOMPARE(stored(text("draw"), text("82")), QString());
+        press(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(stored(text("draw"), text("87")), text("ID_LINE"));
+        QCOMPARE(stored(text("draw"), text("82")), text("ID_OFFSET"));
+        press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(stored(text("draw"), text("87")), text("ID_OFFSET"));
+
+        window.findChild<QWidget *>(text("sector_up"))->setFocus();
+        press(Qt::Key_Delete);
+        QCOMPARE(stored(text("draw"), text("81")), QString());
+        press(Qt::Key_Return); // puts the chosen command there
+        QCOMPARE(stored(text("draw"), text("81")), text("ID_OFFSET"));
+        press(Qt::Key_Space);
+        press(Qt::Key_Left);
+        press(Qt::Key_Space);
+        QCOMPARE(stored(text("draw"), text("82")), text("ID_OFFSET"));
+        press(Qt::Key_4, Qt::AltModifier);
+        QTRY_COMPARE(stored(text("draw"), text("ActiveScheme")),
+                     text("4")); // shows itself pressed first
+    }
+
+    void tabReachesEverythingThatCanBeUsed()
+    {
+        SettingsWindow window;
+        open(window);
+        QTest::keyClicks(find<QLineEdit>(window, "command_search"), text("line"));
+        QSet<QString> reached;
+        for (int i = 0; i < 60; ++i) {
+            QTest::keyClick(window.windowHandle(), Qt::Key_Tab);
+            if (QApplication::focusWidget())
+                reached.insert(QApplication::focusWidget()->objectName());
+        }
+        for (const char *name :
+             {"program_search", "program_list", "program_switch", "four_button", "sector_up",
+              "trigger_list", "command_search", "put_button", "command_view"})
+            QVERIFY2(reached.contains(text(name)),
+                     qPrintable(text(name) + text(" is not in ")
+                                + QStringList(reached.values()).join(QLatin1Char(' '))));
+    }
+
+    void everyControlHasANameAndARole()
+    {
+        SettingsWindow window;
+        open(window);
+        const auto widgets = window.findChildren<QWidget *>();
+        int seen = 0;
+        for (QWidget *widget : widgets) {
+            if (widget->focusPolicy() == Qt::NoFocus || !widget->isVisible()
+                || qobject_cast<QAbstractScrollArea *>(widget->parentWidget()))
+                continue;
+            const QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
+            QVERIFY(accessible);
+            const QByteArray what =
+                widget->metaObject()->className() + QByteArray(" ") + widget->objectName().toLatin1();
+            QVERIFY2(!accessible->text(QAccessible::Name).isEmpty(), what.constData());
+            QVERIFY2(accessible->role() != QAccessible::NoRole, what.constData());
+            ++seen;
+        }
+        QVERIFY(seen >= 15);
+    }
+
+    void aProgramThatIsInstalledMeanwhileAppears()
+    {
+        SettingsWindow window;
+        open(window);
+        install(text("arc"), text("Arc"));
+        const QAbstractItemModel *list = find<QListView>(window, "program_list")->model();
+        QTRY_COMPARE(list->rowCount(), 3);
+        QCOMPARE(title(window), text("Draw")); // the chosen one stays
+    }
+
+    void aProgramThatIsRemovedMeanwhileSaysSo()
+    {
+        SettingsWindow window;
+        open(window);
+        uninstall(text("draw"));
+        const QAbstractItemModel *list = find<QListView>(window, "program_list")->model();
+        QTRY_COMPARE(list->rowCount(), 1);
+        QCOMPARE(title(window), text("Draw"));
+        QTRY_VERIFY2(state(window).contains(text("no longer installed")), qPrintable(state(window)));
+        // What a person does now is kept all the same, and its switch does no harm.
+        window.findChild<QWidget *>(text("sector_up"))->setFocus();
+        QTest::keyClick(window.windowHandle(), Qt::Key_Delete);
+        QCOMPARE(stored(text("draw"), text("81")), QString());
+        find<QAbstractButton>(window, "program_switch")->click();
+        QVERIFY(!find<QAbstractButton>(window, "program_switch")->isChecked());
+    }
+
+    void twoWindowsStayRight()
+    {
+        SettingsWindow one;
+        SettingsWindow other;
+        open(one);
+        open(other);
+        one.findChild<QWidget *>(text("sector_up"))->setFocus();
+        one.activateWindow();
+        QTest::keyClick(one.findChild<QWidget *>(text("sector_up")), Qt::Key_Delete);
+        QCOMPARE(stored(text("draw"), text("81")), QString());
+        QTRY_COMPARE(QAccessible::queryAccessibleInterface(other.findChild<QWidget *>(text("sector_up")))
+                         ->text(QAccessible::Name),
+                     text("up: nothing"));
+        QTest::keyClick(other.findChild<QWidget *>(text("sector_right")), Qt::Key_Delete);
+        QCOMPARE(stored(text("draw"), text("81")), QString());
+        find<QAbstractButton>(one, "program_switch")->click();
+        QTRY_VERIFY(find<QAbstractButton>(other, "program_switch")->isChecked());
+    }
+
+    void damagedSettingsAreSaid()
+    {
+        write(settingsFile(text("draw")), QByteArray(200, '\0'));
+        SettingsWindow window;
+        open(window);
+        QVERIFY2(message(window).contains(text("draw.ini")), qPrintable(message(window)));
+    }
+
+    void aHomeThatCannotBeWrittenIsSaid()
+    {
+        if (::geteuid() == 0)
+            QVERIFY(QDir().rmdir(place("config")) && tests::writeFile(place("config"), "a file"));
+        else
+            QVERIFY(QFile::setPermissions(place("config"), QFile::ReadOwner | QFile::ExeOwner));
+        SettingsWindow window;
+        open(window);
+        QVERIFY2(state(window).contains(text("cannot be kept")), qPrintable(state(window)));
+        window.findChild<QWidget *>(text("sector_up"))->setFocus();
+        QTest::keyClick(window.windowHandle(), Qt::Key_Delete);
+        QVERIFY2(message(window).contains(text("draw.ini")), qPrintable(message(window)));
+        QVERIFY(!find<QAction>(window, "undo")->isEnabled());
+        QFile::setPermissions(place("config"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+
+    void gesturesThatAreOffAreSwitchedOnHere()
+    {
+        write(settingsFile(text("draw")), "[GestureWidget]\nEnableMouseGesture=0\n");
+        SettingsWindow window;
+        open(window);
+        auto *button = find<QPushButton>(window, "enable_button");
+        QVERIFY(button->isVisible());
+        button->click();
+        QCOMPARE(stored(text("draw"), text("EnableMouseGesture")), text("1"));
+        QVERIFY(!button->isVisible());
+    }
+
+    void noProgramIsSaid()
+    {
+        uninstall(text("draw"));
+        uninstall(text("sketch"));
+        SettingsWindow window;
+        open(window, 0);
+        const auto labels = window.findChildren<QLabel *>();
+        QTRY_VERIFY(std::any_of(labels.begin(), labels.end(), [](const QLabel *label) {
+            return label->isVisible() && label->text().contains(text("no program"));
+        }));
+    }
+
+    void eachProgramKeepsItsOwnUndo()
+    {
+        SettingsWindow window;
+        open(window);
+        auto *undo = find<QAction>(window, "undo");
+        window.findChild<QWidget *>(text("sector_up"))->setFocus();
+        QTest::keyClick(window.windowHandle(), Qt::Key_Delete);
+        QVERIFY(undo->isEnabled());
+        auto *list = find<QListView>(window, "program_list");
+        list->setFocus();
+        QTest::keyClick(window.windowHandle(), Qt::Key_Down);
+        QVERIFY(!undo->isEnabled());
+        QTest::keyClick(window.windowHandle(), Qt::Key_Up);
+        QVERIFY(undo->isEnabled());
+        undo->trigger();
+        QCOMPARE(stored(text("draw"), text("81")), text("ID_ZOOM_BOUNDS"));
+    }
+};
+
+QTEST_MAIN(SettingsWindowTest)
+#include "tst_settingswindow.moc"
