@@ -83,5 +83,49 @@
         <source>The guide to mouse gestures cannot be opened.</source>
         <translation>Die Anleitung zu den Mausgesten lässt sich nicht öffnen.</translation>
     </message>
+    <message>
+        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
+        <translation>Das Programm hat keinen Befehl „%1“; dessen Richtung ist leer.</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Strg</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Umschalt</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>left button</source>
+        <translation>linke Taste</translation>
+    </message>
+    <message>
+        <source>middle button</source>
+        <translation>mittlere Taste</translation>
+    </message>
+    <message>
+        <source>right button</source>
+        <translation>rechte Taste</translation>
+    </message>
+    <message>
+        <source>back button</source>
+        <translation>Zurück-Taste</translation>
+    </message>
+    <message>
+        <source>forward button</source>
+        <translation>Vorwärts-Taste</translation>
+    </message>
+    <message>
+        <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
+        <translation>Mausgesten beginnen mit %1. Ändern: mouse-gestures --trigger %2</translation>
+    </message>
 </context>
 </TS>

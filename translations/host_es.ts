@@ -83,5 +83,49 @@
         <source>The guide to mouse gestures cannot be opened.</source>
         <translation>No se puede abrir la guía de los gestos del ratón.</translation>
     </message>
+    <message>
+        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
+        <translation>El programa no tiene la orden «%1»; su dirección está vacía.</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Mayús</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>left button</source>
+        <translation>botón izquierdo</translation>
+    </message>
+    <message>
+        <source>middle button</source>
+        <translation>botón central</translation>
+    </message>
+    <message>
+        <source>right button</source>
+        <translation>botón derecho</translation>
+    </message>
+    <message>
+        <source>back button</source>
+        <translation>botón atrás</translation>
+    </message>
+    <message>
+        <source>forward button</source>
+        <translation>botón adelante</translation>
+    </message>
+    <message>
+        <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
+        <translation>Los gestos del ratón empiezan con %1. Para cambiarlo: mouse-gestures --trigger %2</translation>
+    </message>
 </context>
 </TS>

@@ -83,5 +83,49 @@
         <source>The guide to mouse gestures cannot be opened.</source>
         <translation>Impossible d’ouvrir le guide des gestes de la souris.</translation>
     </message>
+    <message>
+        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
+        <translation>Le programme n’a pas de commande « %1 » ; sa direction est vide.</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Maj</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Méta</translation>
+    </message>
+    <message>
+        <source>left button</source>
+        <translation>bouton gauche</translation>
+    </message>
+    <message>
+        <source>middle button</source>
+        <translation>bouton du milieu</translation>
+    </message>
+    <message>
+        <source>right button</source>
+        <translation>bouton droit</translation>
+    </message>
+    <message>
+        <source>back button</source>
+        <translation>bouton précédent</translation>
+    </message>
+    <message>
+        <source>forward button</source>
+        <translation>bouton suivant</translation>
+    </message>
+    <message>
+        <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
+        <translation>Les gestes de souris commencent par %1. Pour changer : mouse-gestures --trigger %2</translation>
+    </message>
 </context>
 </TS>

@@ -83,5 +83,49 @@
         <source>The guide to mouse gestures cannot be opened.</source>
         <translation>Impossibile aprire la guida ai gesti del mouse.</translation>
     </message>
+    <message>
+        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
+        <translation>Il programma non ha il comando «%1»; la sua direzione è vuota.</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Maiusc</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>left button</source>
+        <translation>pulsante sinistro</translation>
+    </message>
+    <message>
+        <source>middle button</source>
+        <translation>pulsante centrale</translation>
+    </message>
+    <message>
+        <source>right button</source>
+        <translation>pulsante destro</translation>
+    </message>
+    <message>
+        <source>back button</source>
+        <translation>pulsante indietro</translation>
+    </message>
+    <message>
+        <source>forward button</source>
+        <translation>pulsante avanti</translation>
+    </message>
+    <message>
+        <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
+        <translation>I gesti del mouse iniziano con %1. Per cambiare: mouse-gestures --trigger %2</translation>
+    </message>
 </context>
 </TS>

@@ -83,5 +83,49 @@
         <source>The guide to mouse gestures cannot be opened.</source>
         <translation>マウスジェスチャーのガイドを開けません。</translation>
     </message>
+    <message>
+        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
+        <translation>プログラムにコマンド「%1」がないため、その方向は空です。</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>left button</source>
+        <translation>左ボタン</translation>
+    </message>
+    <message>
+        <source>middle button</source>
+        <translation>中ボタン</translation>
+    </message>
+    <message>
+        <source>right button</source>
+        <translation>右ボタン</translation>
+    </message>
+    <message>
+        <source>back button</source>
+        <translation>戻るボタン</translation>
+    </message>
+    <message>
+        <source>forward button</source>
+        <translation>進むボタン</translation>
+    </message>
+    <message>
+        <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
+        <translation>マウスジェスチャーは %1 で始まります。変更: mouse-gestures --trigger %2</translation>
+    </message>
 </context>
 </TS>

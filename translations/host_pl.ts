@@ -83,5 +83,49 @@
         <source>The guide to mouse gestures cannot be opened.</source>
         <translation>Nie można otworzyć przewodnika po gestach myszy.</translation>
     </message>
+    <message>
+        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
+        <translation>Program nie ma polecenia „%1”; jego kierunek jest pusty.</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>left button</source>
+        <translation>lewy przycisk</translation>
+    </message>
+    <message>
+        <source>middle button</source>
+        <translation>środkowy przycisk</translation>
+    </message>
+    <message>
+        <source>right button</source>
+        <translation>prawy przycisk</translation>
+    </message>
+    <message>
+        <source>back button</source>
+        <translation>przycisk wstecz</translation>
+    </message>
+    <message>
+        <source>forward button</source>
+        <translation>przycisk dalej</translation>
+    </message>
+    <message>
+        <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
+        <translation>Gesty myszy zaczynają się od: %1. Zmiana: mouse-gestures --trigger %2</translation>
+    </message>
 </context>
 </TS>

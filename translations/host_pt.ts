@@ -83,5 +83,49 @@
         <source>The guide to mouse gestures cannot be opened.</source>
         <translation>Não foi possível abrir o guia dos gestos do mouse.</translation>
     </message>
+    <message>
+        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
+        <translation>O programa não tem o comando “%1”; a sua direção está vazia.</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>left button</source>
+        <translation>botão esquerdo</translation>
+    </message>
+    <message>
+        <source>middle button</source>
+        <translation>botão do meio</translation>
+    </message>
+    <message>
+        <source>right button</source>
+        <translation>botão direito</translation>
+    </message>
+    <message>
+        <source>back button</source>
+        <translation>botão recuar</translation>
+    </message>
+    <message>
+        <source>forward button</source>
+        <translation>botão avançar</translation>
+    </message>
+    <message>
+        <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
+        <translation>Os gestos do rato começam com %1. Para mudar: mouse-gestures --trigger %2</translation>
+    </message>
 </context>
 </TS>

@@ -83,5 +83,49 @@
         <source>The guide to mouse gestures cannot be opened.</source>
         <translation>Не удалось открыть руководство по жестам мыши.</translation>
     </message>
+    <message>
+        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
+        <translation>В программе нет команды «%1»; её направление пусто.</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>left button</source>
+        <translation>левая кнопка</translation>
+    </message>
+    <message>
+        <source>middle button</source>
+        <translation>средняя кнопка</translation>
+    </message>
+    <message>
+        <source>right button</source>
+        <translation>правая кнопка</translation>
+    </message>
+    <message>
+        <source>back button</source>
+        <translation>кнопка «назад»</translation>
+    </message>
+    <message>
+        <source>forward button</source>
+        <translation>кнопка «вперёд»</translation>
+    </message>
+    <message>
+        <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
+        <translation>Жесты мышью начинаются так: %1. Изменить: mouse-gestures --trigger %2</translation>
+    </message>
 </context>
 </TS>

@@ -83,5 +83,49 @@
         <source>The guide to mouse gestures cannot be opened.</source>
         <translation>无法打开鼠标手势指南。</translation>
     </message>
+    <message>
+        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
+        <translation>程序没有命令“%1”，其方向为空。</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>left button</source>
+        <translation>左键</translation>
+    </message>
+    <message>
+        <source>middle button</source>
+        <translation>中键</translation>
+    </message>
+    <message>
+        <source>right button</source>
+        <translation>右键</translation>
+    </message>
+    <message>
+        <source>back button</source>
+        <translation>后退键</translation>
+    </message>
+    <message>
+        <source>forward button</source>
+        <translation>前进键</translation>
+    </message>
+    <message>
+        <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
+        <translation>鼠标手势以 %1 开始。更改：mouse-gestures --trigger %2</translation>
+    </message>
 </context>
 </TS>
