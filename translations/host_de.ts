@@ -83,5 +83,13 @@
         <source>The guide to mouse gestures cannot be opened.</source>
         <translation>Die Anleitung zu den Mausgesten lässt sich nicht öffnen.</translation>
     </message>
+    <message>
+        <source>This is the ring of all tasks.</source>
+        <translation>Das ist der Ring aller Aufgaben.</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>Das ist der Ring von %1.</translation>
+    </message>
 </context>
 </TS>

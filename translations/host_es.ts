@@ -83,5 +83,13 @@
         <source>The guide to mouse gestures cannot be opened.</source>
         <translation>No se puede abrir la guía de los gestos del ratón.</translation>
     </message>
+    <message>
+        <source>This is the ring of all tasks.</source>
+        <translation>Este es el anillo de todas las tareas.</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>Este es el anillo de %1.</translation>
+    </message>
 </context>
 </TS>

@@ -83,5 +83,13 @@
         <source>The guide to mouse gestures cannot be opened.</source>
         <translation>Impossible d’ouvrir le guide des gestes de la souris.</translation>
     </message>
+    <message>
+        <source>This is the ring of all tasks.</source>
+        <translation>C’est l’anneau de toutes les tâches.</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>C’est l’anneau de %1.</translation>
+    </message>
 </context>
 </TS>

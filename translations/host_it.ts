@@ -83,5 +83,13 @@
         <source>The guide to mouse gestures cannot be opened.</source>
         <translation>Impossibile aprire la guida ai gesti del mouse.</translation>
     </message>
+    <message>
+        <source>This is the ring of all tasks.</source>
+        <translation>Questo è l’anello di tutte le attività.</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>Questo è l’anello di %1.</translation>
+    </message>
 </context>
 </TS>

@@ -83,5 +83,13 @@
         <source>The guide to mouse gestures cannot be opened.</source>
         <translation>マウスジェスチャーのガイドを開けません。</translation>
     </message>
+    <message>
+        <source>This is the ring of all tasks.</source>
+        <translation>これはすべての作業で使うリングです。</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>これは %1 のリングです。</translation>
+    </message>
 </context>
 </TS>

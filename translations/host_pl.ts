@@ -83,5 +83,13 @@
         <source>The guide to mouse gestures cannot be opened.</source>
         <translation>Nie można otworzyć przewodnika po gestach myszy.</translation>
     </message>
+    <message>
+        <source>This is the ring of all tasks.</source>
+        <translation>To jest pierścień wszystkich zadań.</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>To jest pierścień zadania %1.</translation>
+    </message>
 </context>
 </TS>

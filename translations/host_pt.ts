@@ -83,5 +83,13 @@
         <source>The guide to mouse gestures cannot be opened.</source>
         <translation>Não foi possível abrir o guia dos gestos do mouse.</translation>
     </message>
+    <message>
+        <source>This is the ring of all tasks.</source>
+        <translation>Este é o anel de todas as tarefas.</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>Este é o anel de %1.</translation>
+    </message>
 </context>
 </TS>

@@ -83,5 +83,13 @@
         <source>The guide to mouse gestures cannot be opened.</source>
         <translation>Не удалось открыть руководство по жестам мыши.</translation>
     </message>
+    <message>
+        <source>This is the ring of all tasks.</source>
+        <translation>Это кольцо для всех задач.</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>Это кольцо для задачи %1.</translation>
+    </message>
 </context>
 </TS>

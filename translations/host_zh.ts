@@ -83,5 +83,13 @@
         <source>The guide to mouse gestures cannot be opened.</source>
         <translation>无法打开鼠标手势指南。</translation>
     </message>
+    <message>
+        <source>This is the ring of all tasks.</source>
+        <translation>这是所有任务共用的圆环。</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>这是 %1 的圆环。</translation>
+    </message>
 </context>
 </TS>
