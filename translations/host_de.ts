@@ -127,5 +127,13 @@
         <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
         <translation>Mausgesten beginnen mit %1. Ändern: mouse-gestures --trigger %2</translation>
     </message>
+    <message>
+        <source>This is the ring of all tasks.</source>
+        <translation>Das ist der Ring aller Aufgaben.</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>Das ist der Ring von %1.</translation>
+    </message>
 </context>
 </TS>

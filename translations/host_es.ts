@@ -127,5 +127,13 @@
         <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
         <translation>Los gestos del ratón empiezan con %1. Para cambiarlo: mouse-gestures --trigger %2</translation>
     </message>
+    <message>
+        <source>This is the ring of all tasks.</source>
+        <translation>Este es el anillo de todas las tareas.</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>Este es el anillo de %1.</translation>
+    </message>
 </context>
 </TS>

@@ -127,5 +127,13 @@
         <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
         <translation>Les gestes de souris commencent par %1. Pour changer : mouse-gestures --trigger %2</translation>
     </message>
+    <message>
+        <source>This is the ring of all tasks.</source>
+        <translation>C’est l’anneau de toutes les tâches.</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>C’est l’anneau de %1.</translation>
+    </message>
 </context>
 </TS>

@@ -127,5 +127,13 @@
         <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
         <translation>I gesti del mouse iniziano con %1. Per cambiare: mouse-gestures --trigger %2</translation>
     </message>
+    <message>
+        <source>This is the ring of all tasks.</source>
+        <translation>Questo è l’anello di tutte le attività.</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>Questo è l’anello di %1.</translation>
+    </message>
 </context>
 </TS>

@@ -127,5 +127,13 @@
         <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
         <translation>マウスジェスチャーは %1 で始まります。変更: mouse-gestures --trigger %2</translation>
     </message>
+    <message>
+        <source>This is the ring of all tasks.</source>
+        <translation>これはすべての作業で使うリングです。</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>これは %1 のリングです。</translation>
+    </message>
 </context>
 </TS>

@@ -127,5 +127,13 @@
         <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
         <translation>Gesty myszy zaczynają się od: %1. Zmiana: mouse-gestures --trigger %2</translation>
     </message>
+    <message>
+        <source>This is the ring of all tasks.</source>
+        <translation>To jest pierścień wszystkich zadań.</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>To jest pierścień zadania %1.</translation>
+    </message>
 </context>
 </TS>

@@ -127,5 +127,13 @@
         <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
         <translation>Жесты мышью начинаются так: %1. Изменить: mouse-gestures --trigger %2</translation>
     </message>
+    <message>
+        <source>This is the ring of all tasks.</source>
+        <translation>Это кольцо для всех задач.</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>Это кольцо для задачи %1.</translation>
+    </message>
 </context>
 </TS>

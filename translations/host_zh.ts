@@ -127,5 +127,13 @@
         <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
         <translation>鼠标手势以 %1 开始。更改：mouse-gestures --trigger %2</translation>
     </message>
+    <message>
+        <source>This is the ring of all tasks.</source>
+        <translation>这是所有任务共用的圆环。</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>这是 %1 的圆环。</translation>
+    </message>
 </context>
 </TS>
