@@ -29,11 +29,11 @@ ProgramSettings ProgramSettings::of(const Subject &subject)
     const gesturewidget::ProgramProfile profile =
         gesturewidget::ProgramProfile::forProgram(subject.name, subject.profileFolders, nullptr);
     const gesturewidget::SiteSettings site(subject.settingsFile());
-    const QString usualTrigger = Bindings::usualTrigger(
-        profile, site.under(gesturewidget::SettingsFile(subject.settingsFile()).read()));
+    gesturewidget::SettingsFile file(subject.settingsFile());
+    const QString usualTrigger = Bindings::usualTrigger(profile, site.under(file.read()));
     const KnownCommands commands = knownCommands(subject, profile);
     return {profile, usualTrigger, commands,
-            SettingsTasks(subject.name, subject.settingsFile(), commands, usualTrigger)};
+            SettingsTasks(subject.name, subject.settingsFile(), commands, usualTrigger), file.notice()};
 }
 
 } // namespace launcher

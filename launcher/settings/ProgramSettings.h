@@ -21,6 +21,9 @@ struct ProgramSettings
     QString usualTrigger; // if the person has chosen none, see host/files/TriggerText.h
     KnownCommands commands;
     SettingsTasks tasks;
+    // One line if the settings were damaged or cannot be read. A damaged file is restored by the
+    // first who reads it, so nobody hears of it twice.
+    QString notice;
 };
 
 } // namespace launcher
