@@ -426,6 +426,18 @@
         <source>%1: hold, drag, and move on towards a command</source>
         <translation>%1: halten, ziehen und weiter zu einem Befehl</translation>
     </message>
+    <message>
+        <source>Ring of a task</source>
+        <translation>Ring einer Aufgabe</translation>
+    </message>
+    <message>
+        <source>&amp;Ring:</source>
+        <translation>&amp;Ring:</translation>
+    </message>
+    <message>
+        <source>For all tasks</source>
+        <translation>Für alle Aufgaben</translation>
+    </message>
 </context>
 <context>
     <name>settings::ProgramPanel</name>

@@ -426,6 +426,18 @@
         <source>%1: hold, drag, and move on towards a command</source>
         <translation>%1: mantener, arrastrar y seguir hacia un comando</translation>
     </message>
+    <message>
+        <source>Ring of a task</source>
+        <translation>Anillo de una tarea</translation>
+    </message>
+    <message>
+        <source>&amp;Ring:</source>
+        <translation>&amp;Anillo:</translation>
+    </message>
+    <message>
+        <source>For all tasks</source>
+        <translation>Para todas las tareas</translation>
+    </message>
 </context>
 <context>
     <name>settings::ProgramPanel</name>

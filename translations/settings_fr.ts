@@ -426,6 +426,18 @@
         <source>%1: hold, drag, and move on towards a command</source>
         <translation>%1 : maintenir, glisser et continuer vers une commande</translation>
     </message>
+    <message>
+        <source>Ring of a task</source>
+        <translation>Anneau d&apos;une tâche</translation>
+    </message>
+    <message>
+        <source>&amp;Ring:</source>
+        <translation>&amp;Anneau :</translation>
+    </message>
+    <message>
+        <source>For all tasks</source>
+        <translation>Pour toutes les tâches</translation>
+    </message>
 </context>
 <context>
     <name>settings::ProgramPanel</name>

@@ -426,6 +426,18 @@
         <source>%1: hold, drag, and move on towards a command</source>
         <translation>%1: tenere, trascinare e proseguire verso un comando</translation>
     </message>
+    <message>
+        <source>Ring of a task</source>
+        <translation>Anello di un&apos;attività</translation>
+    </message>
+    <message>
+        <source>&amp;Ring:</source>
+        <translation>&amp;Anello:</translation>
+    </message>
+    <message>
+        <source>For all tasks</source>
+        <translation>Per tutte le attività</translation>
+    </message>
 </context>
 <context>
     <name>settings::ProgramPanel</name>

@@ -426,6 +426,18 @@
         <source>%1: hold, drag, and move on towards a command</source>
         <translation>%1: 押したままドラッグし、コマンドの方向へ進む</translation>
     </message>
+    <message>
+        <source>Ring of a task</source>
+        <translation>作業のリング</translation>
+    </message>
+    <message>
+        <source>&amp;Ring:</source>
+        <translation>リング(&amp;R):</translation>
+    </message>
+    <message>
+        <source>For all tasks</source>
+        <translation>すべての作業</translation>
+    </message>
 </context>
 <context>
     <name>settings::ProgramPanel</name>

@@ -426,6 +426,18 @@
         <source>%1: hold, drag, and move on towards a command</source>
         <translation>%1: przytrzymaj, przeciągnij i dalej do polecenia</translation>
     </message>
+    <message>
+        <source>Ring of a task</source>
+        <translation>Pierścień zadania</translation>
+    </message>
+    <message>
+        <source>&amp;Ring:</source>
+        <translation>&amp;Pierścień:</translation>
+    </message>
+    <message>
+        <source>For all tasks</source>
+        <translation>Dla wszystkich zadań</translation>
+    </message>
 </context>
 <context>
     <name>settings::ProgramPanel</name>

@@ -426,6 +426,18 @@
         <source>%1: hold, drag, and move on towards a command</source>
         <translation>%1: manter, arrastar e seguir para um comando</translation>
     </message>
+    <message>
+        <source>Ring of a task</source>
+        <translation>Anel de uma tarefa</translation>
+    </message>
+    <message>
+        <source>&amp;Ring:</source>
+        <translation>&amp;Anel:</translation>
+    </message>
+    <message>
+        <source>For all tasks</source>
+        <translation>Para todas as tarefas</translation>
+    </message>
 </context>
 <context>
     <name>settings::ProgramPanel</name>

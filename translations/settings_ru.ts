@@ -426,6 +426,18 @@
         <source>%1: hold, drag, and move on towards a command</source>
         <translation>%1: удерживать, тянуть и дальше к команде</translation>
     </message>
+    <message>
+        <source>Ring of a task</source>
+        <translation>Кольцо задачи</translation>
+    </message>
+    <message>
+        <source>&amp;Ring:</source>
+        <translation>&amp;Кольцо:</translation>
+    </message>
+    <message>
+        <source>For all tasks</source>
+        <translation>Для всех задач</translation>
+    </message>
 </context>
 <context>
     <name>settings::ProgramPanel</name>

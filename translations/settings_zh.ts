@@ -426,6 +426,18 @@
         <source>%1: hold, drag, and move on towards a command</source>
         <translation>%1：按住并拖动，继续移向命令</translation>
     </message>
+    <message>
+        <source>Ring of a task</source>
+        <translation>任务的圆环</translation>
+    </message>
+    <message>
+        <source>&amp;Ring:</source>
+        <translation>圆环(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>For all tasks</source>
+        <translation>所有任务</translation>
+    </message>
 </context>
 <context>
     <name>settings::ProgramPanel</name>

@@ -115,7 +115,7 @@ int doSettingsTask(const CommandLine &line)
         return report(line.isJson ? settings.commands.listAsJson(subject.name)
                                   : settings.commands.list(subject.name));
     case Task::Bind:
-        tasks.chooseRing(QString::fromLocal8Bit(line.ring));
+        tasks.setTask(QString::fromLocal8Bit(line.ring));
         return report(
             tasks.bind(QString::fromLocal8Bit(first), QString::fromLocal8Bit(line.arguments.value(1))));
     case Task::SetRing:

@@ -21,6 +21,9 @@ struct ProgramSettings
     QString usualTrigger; // see Bindings::usualTrigger()
     KnownCommands commands;
     SettingsTasks tasks;
+    // One line if the settings were damaged or cannot be read. A damaged file is restored by the
+    // first who reads it, so nobody hears of it twice.
+    QString notice;
 };
 
 } // namespace launcher

@@ -13,6 +13,7 @@
 #include "launcher/settings/BindingsJson.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace launcher {
 namespace {
@@ -142,13 +143,15 @@ SettingsTasks::SettingsTasks(const QString &program, const QString &file, const 
 {
 }
 
-Bindings SettingsTasks::bindings(QString *notice) const
+Bindings SettingsTasks::bindings() const
 {
-    SettingsFile file(m_file);
-    const Bindings bindings = Bindings::fromSettings(m_site.under(file.read()));
-    if (notice)
-        *notice = file.notice();
-    return bindings;
+    return Bindings::fromSettings(
+        ringsettings::seenIn(m_site.under(SettingsFile(m_file).read()), m_task));
+}
+
+QStringList SettingsTasks::tasks() const
+{
+    return ringsettings::ownRings(m_site.under(SettingsFile(m_file).read()));
 }
 
 Outcome SettingsTasks::edit(const std::function<QString(Bindings &)> &edit, SettingsChange *made)
@@ -157,21 +160,22 @@ Outcome SettingsTasks::edit(const std::function<QString(Bindings &)> &edit, Sett
     QString complaint;
     SettingsChange change;
     const bool isDone = file.change([&](const SettingsFile::Values &own) -> SettingsFile::Values {
-        const SettingsFile::Values now = m_site.under(own);
-        if (!m_ring.isEmpty() && !ringsettings::hasOwnRing(now, m_ring)) {
+        const SettingsFile::Values all = m_site.under(own);
+        if (!m_task.isEmpty() && !ringsettings::hasOwnRing(all, m_task)) {
             complaint =
-                QStringLiteral("%1 has no ring of its own, see mouse-gestures --ring").arg(m_ring);
+                QStringLiteral("%1 has no ring of its own, see mouse-gestures --ring").arg(m_task);
             return {};
         }
-        const SettingsFile::Values seen = ringsettings::seenIn(now, m_ring);
-        const Bindings before = Bindings::fromSettings(seen);
+        const SettingsFile::Values now = ringsettings::seenIn(all, m_task);
+        const Bindings before = Bindings::fromSettings(now);
         Bindings after = before;
         complaint = edit(after);
         if (!complaint.isEmpty())
             return {};
         change = changeBetween(before, after);
-        const SettingsFile::Values changes = after.changesFrom(seen);
-        return m_ring.isEmpty() ? changes : ringsettings::movedTo(changes, m_ring);
+        change.task = m_task;
+        const SettingsFile::Values changes = after.changesFrom(now);
+        return m_task.isEmpty() ? changes : ringsettings::movedTo(changes, m_task);
     });
     if (!complaint.isEmpty())
         return Outcome::failure(complaint);
@@ -181,17 +185,19 @@ Outcome SettingsTasks::edit(const std::function<QString(Bindings &)> &edit, Sett
 
 Outcome SettingsTasks::takeBack(const SettingsChange &change)
 {
-    return replace(change.after, change.before);
+    return replace(change.after, change.before, change.task);
 }
 
 Outcome SettingsTasks::makeAgain(const SettingsChange &change)
 {
-    return replace(change.before, change.after);
+    return replace(change.before, change.after, change.task);
 }
 
-Outcome SettingsTasks::replace(const SettingsFile::Values &from, const SettingsFile::Values &to)
+Outcome SettingsTasks::replace(const SettingsFile::Values &from, const SettingsFile::Values &to,
+                               const QString &task)
 {
-    return edit([&](Bindings &bindings) -> QString {
+    const QString present = std::exchange(m_task, task);
+    const Outcome outcome = edit([&](Bindings &bindings) -> QString {
         SettingsFile::Values values = bindings.toSettings();
         for (auto it = from.cbegin(); it != from.cend(); ++it) {
             if (values.value(it.key()) != it.value())
@@ -202,6 +208,8 @@ Outcome SettingsTasks::replace(const SettingsFile::Values &from, const SettingsF
         bindings = Bindings::fromSettings(values);
         return {};
     });
+    m_task = present;
+    return outcome;
 }
 
 Outcome SettingsTasks::showBindings() const

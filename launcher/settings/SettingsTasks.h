@@ -23,6 +23,7 @@ struct SettingsChange
     // The values that changed. A value that was not stored has its initial value in `before`.
     gesturewidget::SettingsFile::Values before;
     gesturewidget::SettingsFile::Values after;
+    QString task; // whose ring it was, see SettingsTasks::setTask()
 };
 
 // Shows and changes what is kept for one program, in the file where the host keeps it. A running
@@ -35,13 +36,15 @@ public:
     SettingsTasks(const QString &program, const QString &file, const KnownCommands &commands = {},
                   const QString &usualTrigger = QStringLiteral("right"));
 
-    // Lets bind() and edit() change the ring that a task has of its own, see host/files/RingSettings.h;
-    // empty for the shared ring.
-    void chooseRing(const QString &task) { m_ring = task; }
+    // The tasks that have rings of their own, see host/files/RingSettings.h.
+    [[nodiscard]] QStringList tasks() const;
+    // From now on, bindings() and edit() are about the ring of a task; empty for the shared ring.
+    // All other functions are always about the shared one.
+    void setTask(const QString &task) { m_task = task; }
+    [[nodiscard]] const QString &task() const { return m_task; }
 
-    // Reads the bindings of the shared ring from the file. `notice` is filled with one line if the file
-    // is damaged or cannot be read; it may be null.
-    [[nodiscard]] Bindings bindings(QString *notice = nullptr) const;
+    // Reads the bindings from the file.
+    [[nodiscard]] Bindings bindings() const;
     // Gives `edit` the bindings as they are in the file now, and writes what it changes. No other
     // program writes in between. `edit` returns an empty text, or a line that says why nothing is
     // to be changed. `made` is filled with what changed; it may be null.
@@ -88,14 +91,14 @@ private:
                                       Bindings &bindings) const;
     // Writes `to` where the file means `from`.
     [[nodiscard]] Outcome replace(const gesturewidget::SettingsFile::Values &from,
-                                  const gesturewidget::SettingsFile::Values &to);
+                                  const gesturewidget::SettingsFile::Values &to, const QString &task);
 
     QString m_program;
     QString m_file;
     gesturewidget::SiteSettings m_site;
     KnownCommands m_commands;
     QString m_usualTrigger;
-    QString m_ring;
+    QString m_task;
 };
 
 } // namespace launcher

@@ -104,7 +104,8 @@ BindingsEditor::BindingsEditor(const launcher::Subject &subject, const QString &
     , m_subject(subject)
     , m_title(title)
     , m_settings(launcher::ProgramSettings::of(subject))
-    , m_bindings(m_settings.tasks.bindings(&m_notice))
+    , m_rings(m_settings.tasks.tasks())
+    , m_bindings(m_settings.tasks.bindings())
 {
     m_reload.setSingleShot(true);
     m_reload.setInterval(kSettle);
@@ -212,8 +213,15 @@ bool BindingsEditor::setTrigger(const QString &trigger)
     return finish(outcome, made, tr("Change What Starts a Gesture"));
 }
 
+void BindingsEditor::setRing(const QString &task)
+{
+    m_settings.tasks.setTask(task);
+    reload();
+}
+
 bool BindingsEditor::reset()
 {
+    setRing({});
     SettingsChange made;
     const Outcome outcome = m_settings.tasks.reset(&made);
     return finish(outcome, made, tr("Reset to First Commands"));
@@ -221,6 +229,7 @@ bool BindingsEditor::reset()
 
 bool BindingsEditor::importFrom(const QString &path)
 {
+    setRing({});
     SettingsChange made;
     const Outcome outcome = m_settings.tasks.importFrom(path, &made);
     return finish(outcome, made, tr("Import"));
@@ -239,16 +248,19 @@ bool BindingsEditor::finish(const Outcome &outcome, const SettingsChange &made, 
 void BindingsEditor::reload()
 {
     const QVector<gesturewidget::RememberedCommand> before = m_settings.commands.shown();
+    const QString ring = this->ring();
+    const QString noticeBefore = notice();
     m_settings = launcher::ProgramSettings::of(m_subject);
-    const QString noticeBefore = m_notice;
-    m_bindings = m_settings.tasks.bindings(&m_notice);
+    m_rings = m_settings.tasks.tasks();
+    m_settings.tasks.setTask(m_rings.contains(ring) ? ring : QString());
+    m_bindings = m_settings.tasks.bindings();
     watch();
     m_seen = stateOfFiles();
     if (before != m_settings.commands.shown())
         Q_EMIT commandsChanged();
     Q_EMIT bindingsChanged();
-    if (!m_notice.isEmpty() && m_notice != noticeBefore)
-        Q_EMIT noticed(m_notice);
+    if (!notice().isEmpty() && notice() != noticeBefore)
+        Q_EMIT noticed(notice());
 }
 
 QString BindingsEditor::stateOfFiles() const

@@ -36,7 +36,12 @@ public:
     [[nodiscard]] const QString &usualTrigger() const { return m_settings.usualTrigger; }
     [[nodiscard]] const launcher::SettingsTasks &tasks() const { return m_settings.tasks; }
     // One line about the file, such as that it was damaged; empty if all is well.
-    [[nodiscard]] const QString &notice() const { return m_notice; }
+    [[nodiscard]] const QString &notice() const { return m_settings.notice; }
+    // The tasks of the program that have rings of their own, and the one whose ring this is about;
+    // empty for the shared ring.
+    [[nodiscard]] const QStringList &rings() const { return m_rings; }
+    [[nodiscard]] const QString &ring() const { return m_settings.tasks.task(); }
+    void setRing(const QString &task);
     [[nodiscard]] QUndoStack *undoStack() { return &m_undo; }
     // What a person reads for a command: its caption, or a word for an identifier that the program
     // has not shown yet.
@@ -51,6 +56,7 @@ public:
     bool setEnabled(bool isEnabled);
     // See launcher::SettingsTasks::setTrigger().
     bool setTrigger(const QString &trigger);
+    // Both are about the shared ring, and show it.
     bool reset();
     bool importFrom(const QString &path);
 
@@ -79,8 +85,8 @@ private:
     launcher::Subject m_subject;
     QString m_title;
     launcher::ProgramSettings m_settings;
-    QString m_notice;
-    launcher::Bindings m_bindings; // reading them fills the notice
+    QStringList m_rings;
+    launcher::Bindings m_bindings;
     QUndoStack m_undo;
     QFileSystemWatcher m_watcher;
     QTimer m_reload;

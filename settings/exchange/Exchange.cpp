@@ -56,6 +56,7 @@ void Exchange::importBindings(BindingsEditor &editor)
 
 void Exchange::importFile(BindingsEditor &editor, const QString &path)
 {
+    editor.setRing({}); // the preview compares with the shared ring
     launcher::Bindings wanted;
     const launcher::Outcome outcome = editor.tasks().readImport(path, wanted);
     if (!outcome.isDone()) {

@@ -173,6 +173,7 @@ void CommandPanel::showCommands(const BindingsEditor &editor)
     if (!same.isEmpty())
         m_view->setCurrentIndex(same.first());
     showDirections(editor);
+    filter(m_search->text()); // the new commands may have it, or no longer
 }
 
 void CommandPanel::showDirections(const BindingsEditor &editor)
@@ -209,7 +210,12 @@ void CommandPanel::filter(const QString &text)
     const bool isEmpty = m_filter->rowCount() == 0;
     m_nothing->setVisible(isEmpty);
     m_view->setVisible(!isEmpty);
-    if (!text.trimmed().isEmpty() && !isEmpty)
+    // What was chosen by hand stays as long as it is in the list.
+    const bool isChosen = !chosenCommand().identifier.isEmpty()
+                       && chosenCommand().caption.contains(text.trimmed(), Qt::CaseInsensitive)
+                       && text == m_lastSearch;
+    m_lastSearch = text;
+    if (!text.trimmed().isEmpty() && !isEmpty && !isChosen)
         m_view->setCurrentIndex(bestHit(text.trimmed()));
     updateButton();
 }

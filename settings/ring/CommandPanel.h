@@ -81,6 +81,7 @@ private:
     CommandView *m_view;
     QToolButton *m_put;
     QLabel *m_nothing;
+    QString m_lastSearch;
     QVector<ShownCommand> m_ring; // by direction
 };
 

@@ -12,7 +12,7 @@
 #include "settings/trigger/TriggerPanel.h"
 #include "settings/trigger/TriggerWords.h"
 
-#include <QButtonGroup>
+#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -94,6 +94,12 @@ QWidget *ProgramPage::createRing()
     m_four->setObjectName(QStringLiteral("four_button"));
     m_eight = new QRadioButton(tr("&8 directions"), side);
     m_eight->setObjectName(QStringLiteral("eight_button"));
+    m_rings = new QComboBox(side);
+    m_rings->setObjectName(QStringLiteral("ring_list"));
+    m_rings->setAccessibleName(tr("Ring of a task"));
+    m_rings->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_ringLabel = new QLabel(tr("&Ring:"), side);
+    m_ringLabel->setBuddy(m_rings);
     m_ring = new RingView(side);
     m_hint = new QLabel(tr("Drag a command from the list into a direction. Drag it on to another "
                            "direction to exchange the two, or off the ring to take it away."),
@@ -108,8 +114,12 @@ QWidget *ProgramPage::createRing()
     schemes->addSpacing(16);
     schemes->addWidget(m_eight);
     schemes->addStretch();
+    auto *rings = new QHBoxLayout;
+    rings->addWidget(m_ringLabel);
+    rings->addWidget(m_rings, 1);
     auto *layout = new QVBoxLayout(side);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(rings);
     layout->addLayout(schemes);
     layout->addWidget(m_ring, 1);
     layout->addWidget(m_hint);
@@ -140,6 +150,10 @@ void ProgramPage::connectParts()
     connect(m_enable, &QPushButton::clicked, this, [this] {
         if (m_editor)
             m_editor->setEnabled(true);
+    });
+    connect(m_rings, qOverload<int>(&QComboBox::activated), this, [this](int index) {
+        if (m_editor)
+            m_editor->setRing(m_rings->itemData(index).toString());
     });
     const auto chooseScheme = [this](int scheme) {
         if (m_editor && m_editor->bindings().scheme != scheme)
@@ -260,10 +274,22 @@ void ProgramPage::showCommands()
                              .arg(m_editor->title()));
 }
 
+void ProgramPage::showRings()
+{
+    m_rings->clear();
+    m_rings->addItem(tr("For all tasks"), QString());
+    for (const QString &task : m_editor->rings())
+        m_rings->addItem(task, task);
+    m_rings->setCurrentIndex(qMax(0, m_rings->findData(m_editor->ring())));
+    m_rings->setVisible(!m_editor->rings().isEmpty());
+    m_ringLabel->setVisible(!m_editor->rings().isEmpty());
+}
+
 void ProgramPage::showBindings()
 {
     if (!m_editor)
         return;
+    showRings();
     const launcher::Bindings &bindings = m_editor->bindings();
     (bindings.scheme == 4 ? m_four : m_eight)->setChecked(true);
     QVector<ShownCommand> commands;

@@ -9,6 +9,7 @@
 #include <QWidget>
 
 QT_BEGIN_NAMESPACE
+class QComboBox;
 class QLabel;
 class QPushButton;
 class QRadioButton;
@@ -49,6 +50,7 @@ private:
     [[nodiscard]] QWidget *createCommands();
     void connectParts();
     void showBindings();
+    void showRings();
     void showCommands();
     void showAdvice();
 
@@ -64,6 +66,8 @@ private:
     QPushButton *m_enable = nullptr;
     QRadioButton *m_four = nullptr;
     QRadioButton *m_eight = nullptr;
+    QLabel *m_ringLabel = nullptr;
+    QComboBox *m_rings = nullptr;
     RingView *m_ring = nullptr;
     CommandPanel *m_commands = nullptr;
     QLabel *m_hint = nullptr;

@@ -232,6 +232,9 @@ class SettingsTest(unittest.TestCase):
         # The window has noticed the program's own commands.
         self.driver.ask("activate", TITLE)
         self.driver.ask("wait-focus", TITLE, ANSWER_SECONDS * 1000)
+        catalogue = self.folder / "config" / "gesturewidget" / f"{PROGRAM.name}.commands.json"
+        self.until(lambda: catalogue.exists() and '"2 Points"' in catalogue.read_text(),
+                   "the program's commands")
         self.type_into("command_search", "line > 2 points")
         self.picture("7-its-own-commands")
         self.drag(self.first_command(), self.sector(LEFT))

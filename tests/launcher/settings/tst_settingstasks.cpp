@@ -203,7 +203,7 @@ void SettingsTasksTest::aTaskMayHaveARingOfItsOwn()
     QVERIFY(tasks().bind(text("up"), text("ID_SHARED")).isDone());
     QVERIFY(tasks().setRing(task, text("own"), {{text("87"), text("Sketch_Line")}}).isDone());
     SettingsTasks own = tasks();
-    own.chooseRing(task);
+    own.setTask(task);
     QVERIFY(own.bind(text("left"), text("Sketch_Arc")).isDone());
     // The shared ring is as it was.
     QCOMPARE(kept().eight.at(0), text("ID_SHARED"));
@@ -228,7 +228,7 @@ void SettingsTasksTest::aRingIsOwnOrShared()
     QVERIFY(!odd.isDone());
     QVERIFY(odd.complaint.contains(text("\"mine\"")));
     SettingsTasks own = tasks();
-    own.chooseRing(text("SketchBench"));
+    own.setTask(text("SketchBench"));
     const Outcome none = own.bind(text("up"), text("ID_LINE"));
     QVERIFY(!none.isDone());
     QVERIFY(none.complaint.contains(text("SketchBench has no ring of its own")));

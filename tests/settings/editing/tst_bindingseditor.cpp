@@ -151,6 +151,35 @@ private Q_SLOTS:
         QCOMPARE(editor.bindings().scheme, 4);
     }
 
+    void aTaskHasARingOfItsOwn()
+    {
+        const QByteArray ring = "81=A\n82=\n83=\n84=\n85=\n86=\n87=\n88=\n";
+        write(settingsFile(text("draw")),
+              "[GestureWidget]\n" + ring + "[Ring Sketching]\nOwn=Sketching\n" + ring);
+        BindingsEditor editor(subject("draw"), text("Draw"));
+        QCOMPARE(editor.rings(), QStringList{text("Sketching")});
+        editor.setRing(text("Sketching"));
+        QVERIFY(editor.bind(6, text("B")));
+        QCOMPARE(editor.bindings().eight.at(6), text("B"));
+        QCOMPARE(stored(text("draw"), text("87")), QString());
+        editor.setRing({});
+        QCOMPARE(editor.bindings().eight.at(6), QString());
+        editor.undoStack()->undo(); // still about the task's ring
+        editor.setRing(text("Sketching"));
+        QCOMPARE(editor.bindings().eight.at(6), QString());
+        editor.undoStack()->redo();
+        QCOMPARE(editor.bindings().eight.at(6), text("B"));
+
+        // Somebody lets the task use the shared ring again.
+        write(settingsFile(text("draw")), "[GestureWidget]\n" + ring + "[Ring Sketching]\nOwn=\n");
+        QVERIFY(QFile::remove(settingsFile(text("draw")) + text(".bak")));
+        QSignalSpy failed(&editor, &BindingsEditor::failed);
+        QVERIFY(!editor.bind(6, text("C")));
+        QCOMPARE(failed.count(), 1);
+        QCOMPARE(editor.ring(), QString());
+        QCOMPARE(stored(text("draw"), text("87")), QString());
+    }
+
     void newCommandsOfTheProgramAreNoticed()
     {
         remember(text("draw"), {text("A")});

@@ -104,6 +104,27 @@ private Q_SLOTS:
         QVERIFY(panel.chosenCommand().identifier.isEmpty());
     }
 
+    void commandsThatComeLaterAreSearchedToo()
+    {
+        BindingsEditor editor(subject("draw"), text("Draw"));
+        CommandPanel panel;
+        panel.showCommands(editor);
+        panel.show();
+        auto *view = panel.findChild<CommandView *>();
+        QTest::keyClicks(panel.findChild<QLineEdit *>(text("command_search")), text("the arc"));
+        QVERIFY(!view->isVisible());
+        remember(text("draw"), {text("ARC"), text("ARC2")});
+        editor.reload();
+        panel.showCommands(editor);
+        QVERIFY(view->isVisible());
+        QCOMPARE(panel.chosenCommand().identifier, text("ARC"));
+        // What a person chooses then stays.
+        const QModelIndex menu = view->model()->index(0, 0);
+        view->setCurrentIndex(view->model()->index(1, 0, menu));
+        panel.showCommands(editor);
+        QCOMPARE(panel.chosenCommand().identifier, text("ARC2"));
+    }
+
     void keysPutTheChosenCommandIntoADirection_data()
     {
         QTest::addColumn<int>("scheme");
