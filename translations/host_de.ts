@@ -79,5 +79,9 @@
         <source>The guide to mouse gestures cannot be opened.</source>
         <translation>Die Anleitung zu den Mausgesten lässt sich nicht öffnen.</translation>
     </message>
+    <message>
+        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
+        <translation>Das Programm hat keinen Befehl „%1“; seine Richtung ist leer.</translation>
+    </message>
 </context>
 </TS>

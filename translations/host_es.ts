@@ -79,5 +79,9 @@
         <source>The guide to mouse gestures cannot be opened.</source>
         <translation>No se puede abrir la guía de los gestos del ratón.</translation>
     </message>
+    <message>
+        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
+        <translation>El programa no tiene el comando «%1»; su dirección está vacía.</translation>
+    </message>
 </context>
 </TS>

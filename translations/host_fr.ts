@@ -79,5 +79,9 @@
         <source>The guide to mouse gestures cannot be opened.</source>
         <translation>Impossible d’ouvrir le guide des gestes de la souris.</translation>
     </message>
+    <message>
+        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
+        <translation>Le programme n’a pas de commande « %1 » ; sa direction est vide.</translation>
+    </message>
 </context>
 </TS>

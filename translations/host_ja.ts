@@ -79,5 +79,9 @@
         <source>The guide to mouse gestures cannot be opened.</source>
         <translation>マウスジェスチャーのガイドを開けません。</translation>
     </message>
+    <message>
+        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
+        <translation>プログラムにコマンド「%1」がないため、その方向は空です。</translation>
+    </message>
 </context>
 </TS>

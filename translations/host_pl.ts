@@ -79,5 +79,9 @@
         <source>The guide to mouse gestures cannot be opened.</source>
         <translation>Nie można otworzyć przewodnika po gestach myszy.</translation>
     </message>
+    <message>
+        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
+        <translation>Program nie ma polecenia „%1”; jego kierunek jest pusty.</translation>
+    </message>
 </context>
 </TS>

@@ -79,5 +79,9 @@
         <source>The guide to mouse gestures cannot be opened.</source>
         <translation>Não foi possível abrir o guia dos gestos do mouse.</translation>
     </message>
+    <message>
+        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
+        <translation>O programa não tem o comando “%1”; sua direção está vazia.</translation>
+    </message>
 </context>
 </TS>

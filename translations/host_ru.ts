@@ -79,5 +79,9 @@
         <source>The guide to mouse gestures cannot be opened.</source>
         <translation>Не удалось открыть руководство по жестам мыши.</translation>
     </message>
+    <message>
+        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
+        <translation>В программе нет команды «%1»; её направление пусто.</translation>
+    </message>
 </context>
 </TS>

@@ -10,6 +10,7 @@
 #include "launcher/programs/Subject.h"
 #include "launcher/settings/ProgramSettings.h"
 #include "launcher/sheet/SheetTask.h"
+#include "launcher/Text.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -46,9 +47,9 @@ Outcome importStandardInput(SettingsTasks &tasks)
     QByteArray text(SettingsTasks::kMaximalImport + 1, '\0'); // one more, to notice a longer text
     const std::size_t count = std::fread(text.data(), 1, static_cast<std::size_t>(text.size()), stdin);
     if (std::ferror(stdin) != 0)
-        return Outcome::failure(QStringLiteral("standard input cannot be read"));
+        return Outcome::failure(Text::tr("standard input cannot be read"));
     text.truncate(static_cast<int>(count));
-    return tasks.importText(text, QStringLiteral("standard input"));
+    return tasks.importText(text, Text::tr("standard input"));
 }
 
 } // namespace
@@ -59,7 +60,7 @@ int examineProgram(const CommandLine &line)
     Outcome outcome;
     outcome.output = diagnosis.lines().join(QLatin1Char('\n')).toLocal8Bit() + '\n';
     if (!diagnosis.isHealthy())
-        outcome.complaint = QStringLiteral("gestures cannot work well in %1, see the lines with \"!\"")
+        outcome.complaint = Text::tr("gestures cannot work well in %1, see the lines with \"!\"")
                                 .arg(QString::fromLocal8Bit(line.program));
     return report(outcome);
 }
@@ -82,7 +83,7 @@ int doSettingsTask(const CommandLine &line)
     if (subject.path.isEmpty() && !QFileInfo::exists(subject.settingsFile())
         && !QFileInfo::exists(subject.catalogueFile()))
         return complain(
-            QStringLiteral("%1: there is no such program").arg(QString::fromLocal8Bit(line.program)),
+            Text::tr("%1: there is no such program").arg(QString::fromLocal8Bit(line.program)),
             kNotFound);
 
     ProgramSettings settings = ProgramSettings::of(subject);

@@ -7,7 +7,9 @@
 #include "host/files/ProgramProfile.h"
 #include "host/files/SettingsFile.h"
 #include "host/files/TriggerText.h"
+#include "launcher/Columns.h"
 #include "launcher/settings/Bindings.h"
+#include "launcher/Text.h"
 
 #include <QDir>
 #include <QFile>
@@ -27,29 +29,31 @@ constexpr char kProblem[] = "! ";
 
 using Matter = Finding::Matter;
 
+constexpr int kNameColumns = 12;
+
 const char *nameOf(Matter matter)
 {
     switch (matter) {
     case Matter::Program:
-        return "program";
+        return QT_TRANSLATE_NOOP("launcher", "program");
     case Matter::Qt:
-        return "Qt";
+        return QT_TRANSLATE_NOOP("launcher", "Qt");
     case Matter::PlugIn:
-        return "plug-in";
+        return QT_TRANSLATE_NOOP("launcher", "plug-in");
     case Matter::Display:
-        return "display";
+        return QT_TRANSLATE_NOOP("launcher", "display");
     case Matter::Compositor:
-        return "compositor";
+        return QT_TRANSLATE_NOOP("launcher", "compositor");
     case Matter::Profile:
-        return "profile";
+        return QT_TRANSLATE_NOOP("launcher", "profile");
     case Matter::Views:
-        return "views";
+        return QT_TRANSLATE_NOOP("launcher", "views");
     case Matter::Settings:
-        return "settings";
+        return QT_TRANSLATE_NOOP("launcher", "settings");
     case Matter::Gestures:
-        return "gestures";
+        return QT_TRANSLATE_NOOP("launcher", "gestures");
     case Matter::Trigger:
-        return "trigger";
+        return QT_TRANSLATE_NOOP("launcher", "trigger");
     }
     return "";
 }
@@ -71,11 +75,11 @@ private:
 void reportProgram(const Symptoms &symptoms, Report &report)
 {
     if (symptoms.path.isEmpty()) {
-        report.addProblem(Matter::Program, QStringLiteral("%1, not found").arg(symptoms.program));
+        report.addProblem(Matter::Program, Text::tr("%1, not found").arg(symptoms.program));
         return;
     }
     report.add(Matter::Program,
-               QStringLiteral("%1, %2").arg(symptoms.program, QFile::decodeName(symptoms.path)));
+               Text::tr("%1, %2").arg(symptoms.program, QFile::decodeName(symptoms.path)));
     switch (symptoms.use) {
     case QtWidgetsUse::Qt5:
         report.add(Matter::Qt, QStringLiteral("5"));
@@ -84,11 +88,10 @@ void reportProgram(const Symptoms &symptoms, Report &report)
         report.add(Matter::Qt, QStringLiteral("6"));
         break;
     case QtWidgetsUse::Unknown:
-        report.add(Matter::Qt, QStringLiteral("not known before it runs: a script"));
+        report.add(Matter::Qt, Text::tr("not known before it runs: a script"));
         break;
     case QtWidgetsUse::None:
-        report.addProblem(Matter::Qt,
-                          QStringLiteral("none; gestures need a program made with Qt Widgets"));
+        report.addProblem(Matter::Qt, Text::tr("none; gestures need a program made with Qt Widgets"));
         break;
     }
 }
@@ -103,9 +106,8 @@ void reportPlugin(const Symptoms &symptoms, Report &report)
                          + gesturewidget::pluginFile(folder.qtMajor));
     }
     if (found.isEmpty())
-        report.addProblem(Matter::PlugIn, wanted == 0
-                                              ? QStringLiteral("not installed")
-                                              : QStringLiteral("not installed for Qt %1").arg(wanted));
+        report.addProblem(Matter::PlugIn, wanted == 0 ? Text::tr("not installed")
+                                                      : Text::tr("not installed for Qt %1").arg(wanted));
     else
         report.add(Matter::PlugIn, found.join(QStringLiteral(", ")));
 }
@@ -118,27 +120,26 @@ void reportDisplay(const Symptoms &symptoms, Report &report)
     const bool isWayland =
         !wayland.isEmpty() || symptoms.environment.value("XDG_SESSION_TYPE") == "wayland";
     if (lacksX11(prepared))
-        report.addProblem(Matter::Display, QStringLiteral("Wayland without X11; the ring may open away "
-                                                          "from the pointer"));
+        report.addProblem(Matter::Display, Text::tr("Wayland without X11; the ring may open away "
+                                                    "from the pointer"));
     else if (display.isEmpty())
-        report.addProblem(Matter::Display, QStringLiteral("none"));
+        report.addProblem(Matter::Display, Text::tr("none"));
     else if (isWayland)
-        report.add(Matter::Display,
-                   QStringLiteral("Wayland; the program will use X11, %1").arg(display));
+        report.add(Matter::Display, Text::tr("Wayland; the program will use X11, %1").arg(display));
     else
-        report.add(Matter::Display, QStringLiteral("X11, %1").arg(display));
+        report.add(Matter::Display, Text::tr("X11, %1").arg(display));
 
     switch (symptoms.compositor) {
     case Symptoms::Compositor::Running:
-        report.add(Matter::Compositor, QStringLiteral("running"));
+        report.add(Matter::Compositor, Text::tr("running"));
         break;
     case Symptoms::Compositor::None:
         // Gestures work without one, so this is no problem.
         report.add(Matter::Compositor,
-                   QStringLiteral("none; the ring shows what was under it when it opened"));
+                   Text::tr("none; the ring shows what was under it when it opened"));
         break;
     case Symptoms::Compositor::Unknown:
-        report.add(Matter::Compositor, QStringLiteral("not known"));
+        report.add(Matter::Compositor, Text::tr("not known"));
         break;
     }
 }
@@ -157,13 +158,12 @@ gesturewidget::ProgramProfile reportProfile(const Symptoms &symptoms, Report &re
     if (!message.isEmpty())
         report.addProblem(Matter::Profile, message);
     else
-        report.add(Matter::Profile, file.isEmpty() ? QStringLiteral("none of its own") : file);
+        report.add(Matter::Profile, file.isEmpty() ? Text::tr("none of its own") : file);
     if (profile.viewClasses.isEmpty())
-        report.add(Matter::Views, QStringLiteral("looked for in the running program, see --explain"));
+        report.add(Matter::Views, Text::tr("looked for in the running program, see --explain"));
     else
-        report.add(
-            Matter::Views,
-            QStringLiteral("%1, by the profile").arg(profile.viewClasses.join(QStringLiteral(", "))));
+        report.add(Matter::Views,
+                   Text::tr("%1, by the profile").arg(profile.viewClasses.join(QStringLiteral(", "))));
     return profile;
 }
 
@@ -185,20 +185,20 @@ void reportSettings(const Symptoms &symptoms, const gesturewidget::ProgramProfil
         && (!file.exists() || (file.isFile() && isWritable(file.filePath(), R_OK | W_OK)));
     if (!canWrite)
         report.addProblem(Matter::Settings,
-                          QStringLiteral("%1, cannot be written").arg(symptoms.settingsFile));
+                          Text::tr("%1, cannot be written").arg(symptoms.settingsFile));
     else
-        report.add(Matter::Settings,
-                   file.exists() ? symptoms.settingsFile
-                                 : QStringLiteral("%1, not there yet").arg(symptoms.settingsFile));
+        report.add(Matter::Settings, file.exists()
+                                         ? symptoms.settingsFile
+                                         : Text::tr("%1, not there yet").arg(symptoms.settingsFile));
 
     const Bindings bindings =
         canWrite && file.exists()
             ? Bindings::fromSettings(gesturewidget::SettingsFile(symptoms.settingsFile).read())
             : Bindings::initial();
     if (!bindings.enabled)
-        report.addProblem(Matter::Gestures, QStringLiteral("switched off in the settings"));
+        report.addProblem(Matter::Gestures, Text::tr("switched off in the settings"));
     else
-        report.add(Matter::Gestures, QStringLiteral("on, %1 of them").arg(bindings.scheme));
+        report.add(Matter::Gestures, Text::tr("on, %1 of them").arg(bindings.scheme));
     report.add(Matter::Trigger, bindings.trigger.isEmpty() ? gesturewidget::triggerText(
                                     profile.triggerButton, profile.triggerModifiers)
                                                            : bindings.trigger);
@@ -210,7 +210,7 @@ QString Finding::line() const
 {
     return QStringLiteral("%1%2 %3").arg(
         QLatin1String(isProblem ? kProblem : kFine),
-        QString(QLatin1String(nameOf(matter)) + QLatin1Char(':')).leftJustified(12), text);
+        padded(Text::tr(nameOf(matter)) + QLatin1Char(':'), kNameColumns), text);
 }
 
 QStringList Diagnosis::lines() const

@@ -4,6 +4,7 @@
 #include "launcher/settings/KnownCommands.h"
 
 #include "host/files/CommandNames.h"
+#include "launcher/Text.h"
 
 #include <QHash>
 #include <QJsonArray>
@@ -33,8 +34,8 @@ QString simplifiedWay(const QString &way)
 
 Outcome nothingShown(const QString &program)
 {
-    return Outcome::failure(QStringLiteral("no command of %1 is known yet; start it once with "
-                                           "\"mouse-gestures %1\"")
+    return Outcome::failure(Text::tr("no command of %1 is known yet; start it once with "
+                                     "\"mouse-gestures %1\"")
                                 .arg(program));
 }
 
@@ -116,8 +117,8 @@ QString KnownCommands::resolve(const QString &text, const QString &program, QStr
         return {};
     }
     if (found.isEmpty())
-        return QStringLiteral("%1 has never shown a command \"%2\"; mouse-gestures --list-commands %1 "
-                              "says which it has")
+        return Text::tr("%1 has never shown a command \"%2\"; mouse-gestures --list-commands %1 "
+                        "says which it has")
             .arg(program, text);
     // First those that a person sees in the menus.
     std::stable_partition(found.begin(), found.end(),
@@ -128,7 +129,7 @@ QString KnownCommands::resolve(const QString &text, const QString &program, QStr
                          ? command->identifier
                          : QStringLiteral("%1 (%2)").arg(command->identifier,
                                                          gesturewidget::fullWayOf(*command)));
-    return QStringLiteral("several commands are called \"%1\": %2")
+    return Text::tr("several commands are called \"%1\": %2")
         .arg(text, names.join(QStringLiteral(", ")))
         .simplified();
 }
@@ -138,7 +139,7 @@ Outcome KnownCommands::list(const QString &program) const
     if (m_shown.isEmpty())
         return nothingShown(program);
     // A heading for one command says little, so such commands are together, as in the dialog.
-    const QString others = QStringLiteral("Others");
+    const QString others = Text::tr("Others");
     QHash<QString, int> sizes;
     for (const RememberedCommand &command : m_shown)
         ++sizes[command.group.simplified()];
