@@ -575,5 +575,37 @@
         <source>the sheet could not be drawn: %1</source>
         <translation>das Blatt konnte nicht gezeichnet werden: %1</translation>
     </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linie</translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation>Versatz</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Stutzen</translation>
+    </message>
+    <message>
+        <source>Zoom to Fit</source>
+        <translation>Alles zeigen</translation>
+    </message>
 </context>
 </TS>

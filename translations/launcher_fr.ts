@@ -575,5 +575,37 @@
         <source>the sheet could not be drawn: %1</source>
         <translation>la feuille n’a pas pu être dessinée : %1</translation>
     </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation>Décalage</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Ajuster</translation>
+    </message>
+    <message>
+        <source>Zoom to Fit</source>
+        <translation>Zoom ajusté</translation>
+    </message>
 </context>
 </TS>

@@ -575,5 +575,37 @@
         <source>the sheet could not be drawn: %1</source>
         <translation>impossibile disegnare il foglio: %1</translation>
     </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copia</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Testo</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linea</translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation>Offset</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Apri</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Taglia</translation>
+    </message>
+    <message>
+        <source>Zoom to Fit</source>
+        <translation>Adatta alla finestra</translation>
+    </message>
 </context>
 </TS>

@@ -575,5 +575,37 @@
         <source>the sheet could not be drawn: %1</source>
         <translation>シートを描けませんでした: %1</translation>
     </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>直線</translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation>オフセット</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>トリム</translation>
+    </message>
+    <message>
+        <source>Zoom to Fit</source>
+        <translation>全体表示</translation>
+    </message>
 </context>
 </TS>

@@ -575,5 +575,37 @@
         <source>the sheet could not be drawn: %1</source>
         <translation>nie udało się narysować arkusza: %1</translation>
     </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiuj</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Tekst</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linia</translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation>Odsunięcie</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Otwórz</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Zapisz</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Utnij</translation>
+    </message>
+    <message>
+        <source>Zoom to Fit</source>
+        <translation>Dopasuj widok</translation>
+    </message>
 </context>
 </TS>

@@ -575,5 +575,37 @@
         <source>the sheet could not be drawn: %1</source>
         <translation>не удалось нарисовать лист: %1</translation>
     </message>
+    <message>
+        <source>Copy</source>
+        <translation>Копировать</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Текст</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Линия</translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation>Смещение</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Открыть</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation>Обрезать</translation>
+    </message>
+    <message>
+        <source>Zoom to Fit</source>
+        <translation>Показать всё</translation>
+    </message>
 </context>
 </TS>
