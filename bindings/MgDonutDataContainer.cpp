@@ -145,6 +145,32 @@ void MgDonutDataContainer::init()
     std::tie(fourTable, eightTable, gestureEnabled, scheme, largeIcons) = lastState;
 }
 
+bool MgDonutDataContainer::isBehindSettings() const
+{
+    const auto differs = [](const QString &key, const QString &known) {
+        return MgDonutSettings::instance()->keyExists(key) && storedValue(key) != known;
+    };
+    const auto tableDiffers = [&](DonutScheme directionScheme, const std::vector<int> &table) {
+        for (int number = 1; number <= static_cast<int>(table.size()); ++number) {
+            const MgCommandDS *record = recordAt(table[number - 1]);
+            if (differs(settingskeys::directionKey(directionScheme, number),
+                        record ? record->id : QString()))
+                return true;
+        }
+        return false;
+    };
+    bool isBehind = false;
+    static_cast<void>(hostCall([&] {
+        isBehind = differs(settingskeys::enableMouseGesture(),
+                           gestureEnabled ? QStringLiteral("1") : QStringLiteral("0"))
+                || differs(settingskeys::activeScheme(),
+                           scheme == DonutScheme::Four ? QStringLiteral("4") : QStringLiteral("8"))
+                || tableDiffers(DonutScheme::Four, fourTable)
+                || tableDiffers(DonutScheme::Eight, eightTable);
+    }));
+    return isBehind;
+}
+
 void MgDonutDataContainer::readCommands(const std::vector<MgCommandDS> &last,
                                         std::vector<std::size_t> &bound)
 {

@@ -56,6 +56,9 @@ public:
     void init();
     // True if the last reading failed; see init().
     [[nodiscard]] bool hasReadingFailed() const { return m_readingFailed; }
+    // True if a setting that is stored differs from what was read last. False if that cannot be
+    // found out.
+    [[nodiscard]] bool isBehindSettings() const;
     // The enable flag and the scheme from the settings; what is missing or malformed is
     // replaced and written.
     void applyCommonSettings();

@@ -46,7 +46,7 @@ install(DIRECTORY host/profiles/
   FILES_MATCHING PATTERN "*.json")
 install(FILES docs/bindings.schema.json
   DESTINATION "${CMAKE_INSTALL_DATADIR}/gesturewidget" COMPONENT Runtime${common})
-install(FILES docs/user-guide.html
+install(FILES docs/user-guide.html docs/administrators-guide.html
   DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/gesturewidget" COMPONENT Runtime${common})
 install(FILES docs/images/dialog.png docs/images/ring.png docs/images/settings.png
   DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/gesturewidget/images" COMPONENT Runtime${common})

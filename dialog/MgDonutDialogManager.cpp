@@ -107,9 +107,11 @@ QStringList usedCategories(const QString &others)
 MgDonutDialogManager::MgDonutDialogManager(QWidget *parent, Qt::WindowFlags flags)
     : CHxDialog(parent, flags != Qt::WindowFlags(), Qt::WindowTitleHint | Qt::WindowSystemMenuHint)
 {
-    // Try a failed reading again: the container saves nothing after it.
-    if (MgDonutDataContainer::instance()->hasReadingFailed())
-        MgDonutDataContainer::instance()->init();
+    // Try a failed reading again: the container saves nothing after it. Settings may also have
+    // changed since the last gesture, and OK would write the old ones over them.
+    MgDonutDataContainer *container = MgDonutDataContainer::instance();
+    if (container->hasReadingFailed() || container->isBehindSettings())
+        container->init();
     ui.setupUi(this);
     translateButtons();
     setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);

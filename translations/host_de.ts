@@ -4,6 +4,10 @@
 <context>
     <name>host</name>
     <message>
+        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
+        <translation>Das Programm hat keinen Befehl „%1“; seine Richtung ist leer.</translation>
+    </message>
+    <message>
         <source>There is no command &quot;%1&quot;.</source>
         <translation>Den Befehl „%1“ gibt es nicht.</translation>
     </message>
@@ -80,8 +84,48 @@
         <translation>Die Anleitung zu den Mausgesten lässt sich nicht öffnen.</translation>
     </message>
     <message>
-        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
-        <translation>Das Programm hat keinen Befehl „%1“; seine Richtung ist leer.</translation>
+        <source>This is the ring of all tasks.</source>
+        <translation>Das ist der Ring aller Aufgaben.</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>Das ist der Ring von %1.</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Strg</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Umschalt</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>left button</source>
+        <translation>linke Taste</translation>
+    </message>
+    <message>
+        <source>middle button</source>
+        <translation>mittlere Taste</translation>
+    </message>
+    <message>
+        <source>right button</source>
+        <translation>rechte Taste</translation>
+    </message>
+    <message>
+        <source>back button</source>
+        <translation>Zurück-Taste</translation>
+    </message>
+    <message>
+        <source>forward button</source>
+        <translation>Vorwärts-Taste</translation>
     </message>
 </context>
 </TS>

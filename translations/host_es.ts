@@ -4,6 +4,10 @@
 <context>
     <name>host</name>
     <message>
+        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
+        <translation>El programa no tiene el comando «%1»; su dirección está vacía.</translation>
+    </message>
+    <message>
         <source>There is no command &quot;%1&quot;.</source>
         <translation>El comando «%1» no existe.</translation>
     </message>
@@ -80,8 +84,48 @@
         <translation>No se puede abrir la guía de los gestos del ratón.</translation>
     </message>
     <message>
-        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
-        <translation>El programa no tiene el comando «%1»; su dirección está vacía.</translation>
+        <source>This is the ring of all tasks.</source>
+        <translation>Este es el anillo de todas las tareas.</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>Este es el anillo de %1.</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Mayús</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>left button</source>
+        <translation>botón izquierdo</translation>
+    </message>
+    <message>
+        <source>middle button</source>
+        <translation>botón central</translation>
+    </message>
+    <message>
+        <source>right button</source>
+        <translation>botón derecho</translation>
+    </message>
+    <message>
+        <source>back button</source>
+        <translation>botón Atrás</translation>
+    </message>
+    <message>
+        <source>forward button</source>
+        <translation>botón Adelante</translation>
     </message>
 </context>
 </TS>

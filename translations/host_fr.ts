@@ -4,6 +4,10 @@
 <context>
     <name>host</name>
     <message>
+        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
+        <translation>Le programme n’a pas de commande « %1 » ; sa direction est vide.</translation>
+    </message>
+    <message>
         <source>There is no command &quot;%1&quot;.</source>
         <translation>La commande « %1 » n’existe pas.</translation>
     </message>
@@ -80,8 +84,48 @@
         <translation>Impossible d’ouvrir le guide des gestes de la souris.</translation>
     </message>
     <message>
-        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
-        <translation>Le programme n’a pas de commande « %1 » ; sa direction est vide.</translation>
+        <source>This is the ring of all tasks.</source>
+        <translation>C’est l’anneau de toutes les tâches.</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>C’est l’anneau de %1.</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Maj</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>left button</source>
+        <translation>bouton gauche</translation>
+    </message>
+    <message>
+        <source>middle button</source>
+        <translation>bouton central</translation>
+    </message>
+    <message>
+        <source>right button</source>
+        <translation>bouton droit</translation>
+    </message>
+    <message>
+        <source>back button</source>
+        <translation>bouton Précédent</translation>
+    </message>
+    <message>
+        <source>forward button</source>
+        <translation>bouton Suivant</translation>
     </message>
 </context>
 </TS>

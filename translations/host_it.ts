@@ -4,6 +4,10 @@
 <context>
     <name>host</name>
     <message>
+        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
+        <translation>Il programma non ha il comando «%1»; la sua direzione è vuota.</translation>
+    </message>
+    <message>
         <source>There is no command &quot;%1&quot;.</source>
         <translation>Il comando «%1» non esiste.</translation>
     </message>
@@ -80,8 +84,48 @@
         <translation>Impossibile aprire la guida ai gesti del mouse.</translation>
     </message>
     <message>
-        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
-        <translation>Il programma non ha il comando «%1»; la sua direzione è vuota.</translation>
+        <source>This is the ring of all tasks.</source>
+        <translation>Questo è l’anello di tutti i compiti.</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>Questo è l’anello di %1.</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Maiusc</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>left button</source>
+        <translation>pulsante sinistro</translation>
+    </message>
+    <message>
+        <source>middle button</source>
+        <translation>pulsante centrale</translation>
+    </message>
+    <message>
+        <source>right button</source>
+        <translation>pulsante destro</translation>
+    </message>
+    <message>
+        <source>back button</source>
+        <translation>pulsante Indietro</translation>
+    </message>
+    <message>
+        <source>forward button</source>
+        <translation>pulsante Avanti</translation>
     </message>
 </context>
 </TS>

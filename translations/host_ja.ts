@@ -4,6 +4,10 @@
 <context>
     <name>host</name>
     <message>
+        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
+        <translation>プログラムにコマンド「%1」がないため、その方向は空です。</translation>
+    </message>
+    <message>
         <source>There is no command &quot;%1&quot;.</source>
         <translation>コマンド「%1」はありません。</translation>
     </message>
@@ -80,8 +84,48 @@
         <translation>マウスジェスチャーのガイドを開けません。</translation>
     </message>
     <message>
-        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
-        <translation>プログラムにコマンド「%1」がないため、その方向は空です。</translation>
+        <source>This is the ring of all tasks.</source>
+        <translation>すべての作業に共通のリングです。</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>%1 のリングです。</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>left button</source>
+        <translation>左ボタン</translation>
+    </message>
+    <message>
+        <source>middle button</source>
+        <translation>中ボタン</translation>
+    </message>
+    <message>
+        <source>right button</source>
+        <translation>右ボタン</translation>
+    </message>
+    <message>
+        <source>back button</source>
+        <translation>戻るボタン</translation>
+    </message>
+    <message>
+        <source>forward button</source>
+        <translation>進むボタン</translation>
     </message>
 </context>
 </TS>

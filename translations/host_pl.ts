@@ -4,6 +4,10 @@
 <context>
     <name>host</name>
     <message>
+        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
+        <translation>Program nie ma polecenia „%1”; jego kierunek jest pusty.</translation>
+    </message>
+    <message>
         <source>There is no command &quot;%1&quot;.</source>
         <translation>Nie ma polecenia „%1”.</translation>
     </message>
@@ -80,8 +84,48 @@
         <translation>Nie można otworzyć przewodnika po gestach myszy.</translation>
     </message>
     <message>
-        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
-        <translation>Program nie ma polecenia „%1”; jego kierunek jest pusty.</translation>
+        <source>This is the ring of all tasks.</source>
+        <translation>To pierścień wszystkich zadań.</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>To pierścień zadania %1.</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>left button</source>
+        <translation>lewy przycisk</translation>
+    </message>
+    <message>
+        <source>middle button</source>
+        <translation>środkowy przycisk</translation>
+    </message>
+    <message>
+        <source>right button</source>
+        <translation>prawy przycisk</translation>
+    </message>
+    <message>
+        <source>back button</source>
+        <translation>przycisk Wstecz</translation>
+    </message>
+    <message>
+        <source>forward button</source>
+        <translation>przycisk Dalej</translation>
     </message>
 </context>
 </TS>

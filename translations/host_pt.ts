@@ -4,6 +4,10 @@
 <context>
     <name>host</name>
     <message>
+        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
+        <translation>O programa não tem o comando “%1”; sua direção está vazia.</translation>
+    </message>
+    <message>
         <source>There is no command &quot;%1&quot;.</source>
         <translation>O comando “%1” não existe.</translation>
     </message>
@@ -80,8 +84,48 @@
         <translation>Não foi possível abrir o guia dos gestos do mouse.</translation>
     </message>
     <message>
-        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
-        <translation>O programa não tem o comando “%1”; sua direção está vazia.</translation>
+        <source>This is the ring of all tasks.</source>
+        <translation>Este é o anel de todas as tarefas.</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>Este é o anel de %1.</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>left button</source>
+        <translation>botão esquerdo</translation>
+    </message>
+    <message>
+        <source>middle button</source>
+        <translation>botão do meio</translation>
+    </message>
+    <message>
+        <source>right button</source>
+        <translation>botão direito</translation>
+    </message>
+    <message>
+        <source>back button</source>
+        <translation>botão Voltar</translation>
+    </message>
+    <message>
+        <source>forward button</source>
+        <translation>botão Avançar</translation>
     </message>
 </context>
 </TS>

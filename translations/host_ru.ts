@@ -4,6 +4,10 @@
 <context>
     <name>host</name>
     <message>
+        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
+        <translation>В программе нет команды «%1»; её направление пусто.</translation>
+    </message>
+    <message>
         <source>There is no command &quot;%1&quot;.</source>
         <translation>Команды «%1» нет.</translation>
     </message>
@@ -80,8 +84,48 @@
         <translation>Не удалось открыть руководство по жестам мыши.</translation>
     </message>
     <message>
-        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
-        <translation>В программе нет команды «%1»; её направление пусто.</translation>
+        <source>This is the ring of all tasks.</source>
+        <translation>Это кольцо для всех задач.</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>Это кольцо задачи %1.</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>left button</source>
+        <translation>левая кнопка</translation>
+    </message>
+    <message>
+        <source>middle button</source>
+        <translation>средняя кнопка</translation>
+    </message>
+    <message>
+        <source>right button</source>
+        <translation>правая кнопка</translation>
+    </message>
+    <message>
+        <source>back button</source>
+        <translation>кнопка «Назад»</translation>
+    </message>
+    <message>
+        <source>forward button</source>
+        <translation>кнопка «Вперёд»</translation>
     </message>
 </context>
 </TS>

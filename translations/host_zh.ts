@@ -4,6 +4,10 @@
 <context>
     <name>host</name>
     <message>
+        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
+        <translation>程序没有命令“%1”，其方向为空。</translation>
+    </message>
+    <message>
         <source>There is no command &quot;%1&quot;.</source>
         <translation>没有命令“%1”。</translation>
     </message>
@@ -80,8 +84,48 @@
         <translation>无法打开鼠标手势指南。</translation>
     </message>
     <message>
-        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
-        <translation>程序没有命令“%1”，其方向为空。</translation>
+        <source>This is the ring of all tasks.</source>
+        <translation>这是所有任务的圆环。</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>这是 %1 的圆环。</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Meta</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>left button</source>
+        <translation>左键</translation>
+    </message>
+    <message>
+        <source>middle button</source>
+        <translation>中键</translation>
+    </message>
+    <message>
+        <source>right button</source>
+        <translation>右键</translation>
+    </message>
+    <message>
+        <source>back button</source>
+        <translation>后退键</translation>
+    </message>
+    <message>
+        <source>forward button</source>
+        <translation>前进键</translation>
     </message>
 </context>
 </TS>

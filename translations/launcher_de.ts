@@ -12,10 +12,6 @@
         <translation>die Befehle zeigen, die das Programm bisher gezeigt hat</translation>
     </message>
     <message>
-        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right</source>
-        <translation>einen Befehl in eine Richtung legen. COMMAND ist seine Kennung, seine Beschriftung oder „none“. DIRECTION ist up, left, down oder right; mit acht Gesten auch up-left, down-left, down-right oder up-right</translation>
-    </message>
-    <message>
         <source>choose what starts a gesture: right, middle, ctrl+right, ...; &quot;default&quot; is the usual trigger</source>
         <translation>wählen, was eine Geste auslöst: right, middle, ctrl+right, ...; „default“ ist der übliche Auslöser</translation>
     </message>
@@ -606,6 +602,62 @@
     <message>
         <source>Zoom to Fit</source>
         <translation>Alles zeigen</translation>
+    </message>
+    <message>
+        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right. With --ring TASK after it: in the ring of that task</source>
+        <translation>einen Befehl in eine Richtung legen. COMMAND ist seine Kennung, seine Beschriftung oder „none“. DIRECTION ist up, left, down oder right; mit acht Gesten auch up-left, down-left, down-right oder up-right. Mit --ring TASK dahinter: im Ring dieser Aufgabe</translation>
+    </message>
+    <message>
+        <source>give a task, such as FreeCAD&apos;s SketcherWorkbench, a ring of its own, or the shared one again</source>
+        <translation>einer Aufgabe wie SketcherWorkbench von FreeCAD einen eigenen Ring geben, oder wieder den gemeinsamen</translation>
+    </message>
+    <message>
+        <source>start it without gestures if it cannot have them</source>
+        <translation>ohne Gesten starten, wenn keine möglich sind</translation>
+    </message>
+    <message>
+        <source>the profile of this program knows no tasks</source>
+        <translation>das Profil dieses Programms kennt keine Aufgaben</translation>
+    </message>
+    <message>
+        <source>there is no task &quot;%1&quot;; known ones are %2</source>
+        <translation>die Aufgabe „%1“ gibt es nicht; bekannt sind %2</translation>
+    </message>
+    <message>
+        <source>bindings</source>
+        <translation>Belegung</translation>
+    </message>
+    <message>
+        <source>, by %1</source>
+        <translation>, laut %1</translation>
+    </message>
+    <message>
+        <source>%1 as nobody has chosen otherwise</source>
+        <translation>%1, da niemand anders gewählt hat</translation>
+    </message>
+    <message>
+        <source>%1 by %2</source>
+        <translation>%1 laut %2</translation>
+    </message>
+    <message>
+        <source>%1, as suits the drawings</source>
+        <translation>%1, passend zu den Zeichnungen</translation>
+    </message>
+    <message>
+        <source>%1; ctrl+right if OpenGL paints the drawing</source>
+        <translation>%1; ctrl+right, wenn OpenGL die Zeichnung malt</translation>
+    </message>
+    <message>
+        <source>%1 has no ring of its own, see mouse-gestures --ring</source>
+        <translation>%1 hat keinen eigenen Ring, siehe mouse-gestures --ring</translation>
+    </message>
+    <message>
+        <source>ring of %1</source>
+        <translation>Ring von %1</translation>
+    </message>
+    <message>
+        <source>a ring is &quot;own&quot; or &quot;shared&quot;, not &quot;%1&quot;</source>
+        <translation>ein Ring ist „own“ oder „shared“, nicht „%1“</translation>
     </message>
 </context>
 </TS>

@@ -12,10 +12,6 @@
         <translation>mostrar los comandos que el programa ha mostrado hasta ahora</translation>
     </message>
     <message>
-        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right</source>
-        <translation>poner un comando en una dirección. COMMAND es su identificador, su texto o «none». DIRECTION es up, left, down o right; con ocho gestos también up-left, down-left, down-right o up-right</translation>
-    </message>
-    <message>
         <source>choose what starts a gesture: right, middle, ctrl+right, ...; &quot;default&quot; is the usual trigger</source>
         <translation>elegir qué inicia un gesto: right, middle, ctrl+right, ...; «default» es lo habitual</translation>
     </message>
@@ -606,6 +602,62 @@
     <message>
         <source>Zoom to Fit</source>
         <translation>Ajustar a la ventana</translation>
+    </message>
+    <message>
+        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right. With --ring TASK after it: in the ring of that task</source>
+        <translation>poner un comando en una dirección. COMMAND es su identificador, su texto o «none». DIRECTION es up, left, down o right; con ocho gestos también up-left, down-left, down-right o up-right. Con --ring TASK detrás: en el anillo de esa tarea</translation>
+    </message>
+    <message>
+        <source>give a task, such as FreeCAD&apos;s SketcherWorkbench, a ring of its own, or the shared one again</source>
+        <translation>dar a una tarea, como SketcherWorkbench de FreeCAD, un anillo propio, o de nuevo el común</translation>
+    </message>
+    <message>
+        <source>start it without gestures if it cannot have them</source>
+        <translation>iniciarlo sin gestos si no son posibles</translation>
+    </message>
+    <message>
+        <source>the profile of this program knows no tasks</source>
+        <translation>el perfil de este programa no conoce tareas</translation>
+    </message>
+    <message>
+        <source>there is no task &quot;%1&quot;; known ones are %2</source>
+        <translation>no existe la tarea «%1»; se conocen %2</translation>
+    </message>
+    <message>
+        <source>bindings</source>
+        <translation>asignac.</translation>
+    </message>
+    <message>
+        <source>, by %1</source>
+        <translation>, según %1</translation>
+    </message>
+    <message>
+        <source>%1 as nobody has chosen otherwise</source>
+        <translation>%1, pues nadie ha elegido otra cosa</translation>
+    </message>
+    <message>
+        <source>%1 by %2</source>
+        <translation>%1 según %2</translation>
+    </message>
+    <message>
+        <source>%1, as suits the drawings</source>
+        <translation>%1, según los dibujos</translation>
+    </message>
+    <message>
+        <source>%1; ctrl+right if OpenGL paints the drawing</source>
+        <translation>%1; ctrl+right si OpenGL pinta el dibujo</translation>
+    </message>
+    <message>
+        <source>%1 has no ring of its own, see mouse-gestures --ring</source>
+        <translation>%1 no tiene anillo propio, vea mouse-gestures --ring</translation>
+    </message>
+    <message>
+        <source>ring of %1</source>
+        <translation>anillo de %1</translation>
+    </message>
+    <message>
+        <source>a ring is &quot;own&quot; or &quot;shared&quot;, not &quot;%1&quot;</source>
+        <translation>un anillo es «own» o «shared», no «%1»</translation>
     </message>
 </context>
 </TS>

@@ -12,10 +12,6 @@
         <translation>montrer les commandes que le programme a affichées jusqu’ici</translation>
     </message>
     <message>
-        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right</source>
-        <translation>mettre une commande dans une direction. COMMAND est son identifiant, son intitulé ou « none ». DIRECTION est up, left, down ou right ; avec huit gestes aussi up-left, down-left, down-right ou up-right</translation>
-    </message>
-    <message>
         <source>choose what starts a gesture: right, middle, ctrl+right, ...; &quot;default&quot; is the usual trigger</source>
         <translation>choisir le déclencheur : right, middle, ctrl+right, ... ; « default » est l’habituel</translation>
     </message>
@@ -606,6 +602,62 @@
     <message>
         <source>Zoom to Fit</source>
         <translation>Zoom ajusté</translation>
+    </message>
+    <message>
+        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right. With --ring TASK after it: in the ring of that task</source>
+        <translation>mettre une commande dans une direction. COMMAND est son identifiant, son intitulé ou « none ». DIRECTION est up, left, down ou right ; avec huit gestes aussi up-left, down-left, down-right ou up-right. Avec --ring TASK à la suite : dans l’anneau de cette tâche</translation>
+    </message>
+    <message>
+        <source>give a task, such as FreeCAD&apos;s SketcherWorkbench, a ring of its own, or the shared one again</source>
+        <translation>donner à une tâche, comme SketcherWorkbench de FreeCAD, son propre anneau, ou de nouveau l’anneau commun</translation>
+    </message>
+    <message>
+        <source>start it without gestures if it cannot have them</source>
+        <translation>le lancer sans gestes s’ils sont impossibles</translation>
+    </message>
+    <message>
+        <source>the profile of this program knows no tasks</source>
+        <translation>le profil de ce programme ne connaît aucune tâche</translation>
+    </message>
+    <message>
+        <source>there is no task &quot;%1&quot;; known ones are %2</source>
+        <translation>la tâche « %1 » n’existe pas ; sont connues : %2</translation>
+    </message>
+    <message>
+        <source>bindings</source>
+        <translation>affect.</translation>
+    </message>
+    <message>
+        <source>, by %1</source>
+        <translation>, selon %1</translation>
+    </message>
+    <message>
+        <source>%1 as nobody has chosen otherwise</source>
+        <translation>%1, personne n’ayant choisi autrement</translation>
+    </message>
+    <message>
+        <source>%1 by %2</source>
+        <translation>%1 selon %2</translation>
+    </message>
+    <message>
+        <source>%1, as suits the drawings</source>
+        <translation>%1, selon les dessins</translation>
+    </message>
+    <message>
+        <source>%1; ctrl+right if OpenGL paints the drawing</source>
+        <translation>%1 ; ctrl+right si OpenGL peint le dessin</translation>
+    </message>
+    <message>
+        <source>%1 has no ring of its own, see mouse-gestures --ring</source>
+        <translation>%1 n’a pas d’anneau propre, voir mouse-gestures --ring</translation>
+    </message>
+    <message>
+        <source>ring of %1</source>
+        <translation>anneau de %1</translation>
+    </message>
+    <message>
+        <source>a ring is &quot;own&quot; or &quot;shared&quot;, not &quot;%1&quot;</source>
+        <translation>un anneau est « own » ou « shared », pas « %1 »</translation>
     </message>
 </context>
 </TS>

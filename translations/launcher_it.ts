@@ -12,10 +12,6 @@
         <translation>mostrare i comandi che il programma ha mostrato finora</translation>
     </message>
     <message>
-        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right</source>
-        <translation>mettere un comando in una direzione. COMMAND è il suo identificatore, il suo testo o «none». DIRECTION è up, left, down o right; con otto gesti anche up-left, down-left, down-right o up-right</translation>
-    </message>
-    <message>
         <source>choose what starts a gesture: right, middle, ctrl+right, ...; &quot;default&quot; is the usual trigger</source>
         <translation>scegliere che cosa avvia un gesto: right, middle, ctrl+right, ...; «default» è quello solito</translation>
     </message>
@@ -606,6 +602,62 @@
     <message>
         <source>Zoom to Fit</source>
         <translation>Adatta alla finestra</translation>
+    </message>
+    <message>
+        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right. With --ring TASK after it: in the ring of that task</source>
+        <translation>mettere un comando in una direzione. COMMAND è il suo identificatore, il suo testo o «none». DIRECTION è up, left, down o right; con otto gesti anche up-left, down-left, down-right o up-right. Con --ring TASK dopo: nell’anello di quel compito</translation>
+    </message>
+    <message>
+        <source>give a task, such as FreeCAD&apos;s SketcherWorkbench, a ring of its own, or the shared one again</source>
+        <translation>dare a un compito, come SketcherWorkbench di FreeCAD, un anello proprio, o di nuovo quello comune</translation>
+    </message>
+    <message>
+        <source>start it without gestures if it cannot have them</source>
+        <translation>avviarlo senza gesti se non sono possibili</translation>
+    </message>
+    <message>
+        <source>the profile of this program knows no tasks</source>
+        <translation>il profilo di questo programma non conosce compiti</translation>
+    </message>
+    <message>
+        <source>there is no task &quot;%1&quot;; known ones are %2</source>
+        <translation>il compito «%1» non esiste; sono noti %2</translation>
+    </message>
+    <message>
+        <source>bindings</source>
+        <translation>assegnaz.</translation>
+    </message>
+    <message>
+        <source>, by %1</source>
+        <translation>, secondo %1</translation>
+    </message>
+    <message>
+        <source>%1 as nobody has chosen otherwise</source>
+        <translation>%1, dato che nessuno ha scelto altro</translation>
+    </message>
+    <message>
+        <source>%1 by %2</source>
+        <translation>%1 secondo %2</translation>
+    </message>
+    <message>
+        <source>%1, as suits the drawings</source>
+        <translation>%1, secondo i disegni</translation>
+    </message>
+    <message>
+        <source>%1; ctrl+right if OpenGL paints the drawing</source>
+        <translation>%1; ctrl+right se OpenGL dipinge il disegno</translation>
+    </message>
+    <message>
+        <source>%1 has no ring of its own, see mouse-gestures --ring</source>
+        <translation>%1 non ha un anello proprio, vedere mouse-gestures --ring</translation>
+    </message>
+    <message>
+        <source>ring of %1</source>
+        <translation>anello di %1</translation>
+    </message>
+    <message>
+        <source>a ring is &quot;own&quot; or &quot;shared&quot;, not &quot;%1&quot;</source>
+        <translation>un anello è «own» o «shared», non «%1»</translation>
     </message>
 </context>
 </TS>

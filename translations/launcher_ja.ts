@@ -12,10 +12,6 @@
         <translation>これまでにプログラムが表示したコマンドを一覧</translation>
     </message>
     <message>
-        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right</source>
-        <translation>コマンドを方向に割り当てる。COMMAND は識別子、名前、または「none」。DIRECTION は up、left、down、right、8 方向では up-left、down-left、down-right、up-right も使用可</translation>
-    </message>
-    <message>
         <source>choose what starts a gesture: right, middle, ctrl+right, ...; &quot;default&quot; is the usual trigger</source>
         <translation>ジェスチャーの開始操作を選ぶ: right、middle、ctrl+right など。「default」は標準の操作</translation>
     </message>
@@ -606,6 +602,62 @@
     <message>
         <source>Zoom to Fit</source>
         <translation>全体表示</translation>
+    </message>
+    <message>
+        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right. With --ring TASK after it: in the ring of that task</source>
+        <translation>コマンドを方向に割り当てる。COMMAND は識別子、名前、または「none」。DIRECTION は up、left、down、right、8 方向では up-left、down-left、down-right、up-right も使用可。後ろに --ring TASK を付けると、その作業のリングに割り当てる</translation>
+    </message>
+    <message>
+        <source>give a task, such as FreeCAD&apos;s SketcherWorkbench, a ring of its own, or the shared one again</source>
+        <translation>FreeCAD の SketcherWorkbench などの作業に専用のリングを与える、または共有のリングに戻す</translation>
+    </message>
+    <message>
+        <source>start it without gestures if it cannot have them</source>
+        <translation>ジェスチャーを使えない場合はなしで起動する</translation>
+    </message>
+    <message>
+        <source>the profile of this program knows no tasks</source>
+        <translation>このプログラムのプロファイルには作業がありません</translation>
+    </message>
+    <message>
+        <source>there is no task &quot;%1&quot;; known ones are %2</source>
+        <translation>作業「%1」はありません。あるのは %2 です</translation>
+    </message>
+    <message>
+        <source>bindings</source>
+        <translation>割り当て</translation>
+    </message>
+    <message>
+        <source>, by %1</source>
+        <translation>、%1 による</translation>
+    </message>
+    <message>
+        <source>%1 as nobody has chosen otherwise</source>
+        <translation>%1 は誰も変更していないため</translation>
+    </message>
+    <message>
+        <source>%1 by %2</source>
+        <translation>%1 は %2 による</translation>
+    </message>
+    <message>
+        <source>%1, as suits the drawings</source>
+        <translation>%1、図面に合わせて</translation>
+    </message>
+    <message>
+        <source>%1; ctrl+right if OpenGL paints the drawing</source>
+        <translation>%1。OpenGL が図面を描く場合は ctrl+right</translation>
+    </message>
+    <message>
+        <source>%1 has no ring of its own, see mouse-gestures --ring</source>
+        <translation>%1 には専用のリングがありません。mouse-gestures --ring を参照</translation>
+    </message>
+    <message>
+        <source>ring of %1</source>
+        <translation>%1 のリング</translation>
+    </message>
+    <message>
+        <source>a ring is &quot;own&quot; or &quot;shared&quot;, not &quot;%1&quot;</source>
+        <translation>リングは「own」か「shared」です。「%1」ではありません</translation>
     </message>
 </context>
 </TS>

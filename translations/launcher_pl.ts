@@ -12,10 +12,6 @@
         <translation>pokaż polecenia, które program dotąd pokazał</translation>
     </message>
     <message>
-        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right</source>
-        <translation>umieść polecenie w kierunku. COMMAND to jego identyfikator, nazwa albo „none”. DIRECTION to up, left, down lub right; przy ośmiu gestach także up-left, down-left, down-right lub up-right</translation>
-    </message>
-    <message>
         <source>choose what starts a gesture: right, middle, ctrl+right, ...; &quot;default&quot; is the usual trigger</source>
         <translation>wybierz wyzwalacz gestu: right, middle, ctrl+right, ...; „default” to zwykły</translation>
     </message>
@@ -606,6 +602,62 @@
     <message>
         <source>Zoom to Fit</source>
         <translation>Dopasuj widok</translation>
+    </message>
+    <message>
+        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right. With --ring TASK after it: in the ring of that task</source>
+        <translation>umieść polecenie w kierunku. COMMAND to jego identyfikator, nazwa albo „none”. DIRECTION to up, left, down lub right; przy ośmiu gestach także up-left, down-left, down-right lub up-right. Z --ring TASK na końcu: w pierścieniu tego zadania</translation>
+    </message>
+    <message>
+        <source>give a task, such as FreeCAD&apos;s SketcherWorkbench, a ring of its own, or the shared one again</source>
+        <translation>nadaj zadaniu, np. SketcherWorkbench we FreeCAD, własny pierścień albo znów wspólny</translation>
+    </message>
+    <message>
+        <source>start it without gestures if it cannot have them</source>
+        <translation>uruchom bez gestów, jeśli nie są możliwe</translation>
+    </message>
+    <message>
+        <source>the profile of this program knows no tasks</source>
+        <translation>profil tego programu nie zna zadań</translation>
+    </message>
+    <message>
+        <source>there is no task &quot;%1&quot;; known ones are %2</source>
+        <translation>nie ma zadania „%1”; znane to %2</translation>
+    </message>
+    <message>
+        <source>bindings</source>
+        <translation>przypis.</translation>
+    </message>
+    <message>
+        <source>, by %1</source>
+        <translation>, według %1</translation>
+    </message>
+    <message>
+        <source>%1 as nobody has chosen otherwise</source>
+        <translation>%1, bo nikt nie wybrał inaczej</translation>
+    </message>
+    <message>
+        <source>%1 by %2</source>
+        <translation>%1 według %2</translation>
+    </message>
+    <message>
+        <source>%1, as suits the drawings</source>
+        <translation>%1, stosownie do rysunków</translation>
+    </message>
+    <message>
+        <source>%1; ctrl+right if OpenGL paints the drawing</source>
+        <translation>%1; ctrl+right, gdy rysunek maluje OpenGL</translation>
+    </message>
+    <message>
+        <source>%1 has no ring of its own, see mouse-gestures --ring</source>
+        <translation>%1 nie ma własnego pierścienia, zobacz mouse-gestures --ring</translation>
+    </message>
+    <message>
+        <source>ring of %1</source>
+        <translation>pierścień: %1</translation>
+    </message>
+    <message>
+        <source>a ring is &quot;own&quot; or &quot;shared&quot;, not &quot;%1&quot;</source>
+        <translation>pierścień to „own” albo „shared”, a nie „%1”</translation>
     </message>
 </context>
 </TS>

@@ -12,10 +12,6 @@
         <translation>mostrar os comandos que o programa mostrou até agora</translation>
     </message>
     <message>
-        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right</source>
-        <translation>colocar um comando em uma direção. COMMAND é o identificador, o texto ou “none”. DIRECTION é up, left, down ou right; com oito gestos também up-left, down-left, down-right ou up-right</translation>
-    </message>
-    <message>
         <source>choose what starts a gesture: right, middle, ctrl+right, ...; &quot;default&quot; is the usual trigger</source>
         <translation>escolher o que inicia um gesto: right, middle, ctrl+right, ...; “default” é o usual</translation>
     </message>
@@ -606,6 +602,62 @@
     <message>
         <source>Zoom to Fit</source>
         <translation>Ajustar à janela</translation>
+    </message>
+    <message>
+        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right. With --ring TASK after it: in the ring of that task</source>
+        <translation>colocar um comando em uma direção. COMMAND é o identificador, o texto ou “none”. DIRECTION é up, left, down ou right; com oito gestos também up-left, down-left, down-right ou up-right. Com --ring TASK depois: no anel dessa tarefa</translation>
+    </message>
+    <message>
+        <source>give a task, such as FreeCAD&apos;s SketcherWorkbench, a ring of its own, or the shared one again</source>
+        <translation>dar a uma tarefa, como SketcherWorkbench do FreeCAD, um anel próprio, ou de novo o comum</translation>
+    </message>
+    <message>
+        <source>start it without gestures if it cannot have them</source>
+        <translation>iniciá-lo sem gestos se não forem possíveis</translation>
+    </message>
+    <message>
+        <source>the profile of this program knows no tasks</source>
+        <translation>o perfil deste programa não conhece tarefas</translation>
+    </message>
+    <message>
+        <source>there is no task &quot;%1&quot;; known ones are %2</source>
+        <translation>não existe a tarefa “%1”; são conhecidas %2</translation>
+    </message>
+    <message>
+        <source>bindings</source>
+        <translation>atribuiç.</translation>
+    </message>
+    <message>
+        <source>, by %1</source>
+        <translation>, segundo %1</translation>
+    </message>
+    <message>
+        <source>%1 as nobody has chosen otherwise</source>
+        <translation>%1, pois ninguém escolheu outra coisa</translation>
+    </message>
+    <message>
+        <source>%1 by %2</source>
+        <translation>%1 segundo %2</translation>
+    </message>
+    <message>
+        <source>%1, as suits the drawings</source>
+        <translation>%1, conforme os desenhos</translation>
+    </message>
+    <message>
+        <source>%1; ctrl+right if OpenGL paints the drawing</source>
+        <translation>%1; ctrl+right se o OpenGL pinta o desenho</translation>
+    </message>
+    <message>
+        <source>%1 has no ring of its own, see mouse-gestures --ring</source>
+        <translation>%1 não tem anel próprio, veja mouse-gestures --ring</translation>
+    </message>
+    <message>
+        <source>ring of %1</source>
+        <translation>anel de %1</translation>
+    </message>
+    <message>
+        <source>a ring is &quot;own&quot; or &quot;shared&quot;, not &quot;%1&quot;</source>
+        <translation>um anel é “own” ou “shared”, não “%1”</translation>
     </message>
 </context>
 </TS>

@@ -12,10 +12,6 @@
         <translation>показать команды, которые программа уже показывала</translation>
     </message>
     <message>
-        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right</source>
-        <translation>назначить команду направлению. COMMAND — её идентификатор, название или «none». DIRECTION — up, left, down или right; при восьми жестах также up-left, down-left, down-right или up-right</translation>
-    </message>
-    <message>
         <source>choose what starts a gesture: right, middle, ctrl+right, ...; &quot;default&quot; is the usual trigger</source>
         <translation>выбрать, что начинает жест: right, middle, ctrl+right, ...; «default» — обычный способ</translation>
     </message>
@@ -606,6 +602,62 @@
     <message>
         <source>Zoom to Fit</source>
         <translation>Показать всё</translation>
+    </message>
+    <message>
+        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right. With --ring TASK after it: in the ring of that task</source>
+        <translation>назначить команду направлению. COMMAND — её идентификатор, название или «none». DIRECTION — up, left, down или right; при восьми жестах также up-left, down-left, down-right или up-right. С --ring TASK в конце: в кольце этой задачи</translation>
+    </message>
+    <message>
+        <source>give a task, such as FreeCAD&apos;s SketcherWorkbench, a ring of its own, or the shared one again</source>
+        <translation>дать задаче, например SketcherWorkbench во FreeCAD, своё кольцо или снова общее</translation>
+    </message>
+    <message>
+        <source>start it without gestures if it cannot have them</source>
+        <translation>запустить без жестов, если они невозможны</translation>
+    </message>
+    <message>
+        <source>the profile of this program knows no tasks</source>
+        <translation>в профиле этой программы нет задач</translation>
+    </message>
+    <message>
+        <source>there is no task &quot;%1&quot;; known ones are %2</source>
+        <translation>задачи «%1» нет; известны %2</translation>
+    </message>
+    <message>
+        <source>bindings</source>
+        <translation>назначения</translation>
+    </message>
+    <message>
+        <source>, by %1</source>
+        <translation>, по файлу %1</translation>
+    </message>
+    <message>
+        <source>%1 as nobody has chosen otherwise</source>
+        <translation>%1, так как ничего другого не выбрано</translation>
+    </message>
+    <message>
+        <source>%1 by %2</source>
+        <translation>%1 по файлу %2</translation>
+    </message>
+    <message>
+        <source>%1, as suits the drawings</source>
+        <translation>%1, в соответствии с чертежами</translation>
+    </message>
+    <message>
+        <source>%1; ctrl+right if OpenGL paints the drawing</source>
+        <translation>%1; ctrl+right, если чертёж рисует OpenGL</translation>
+    </message>
+    <message>
+        <source>%1 has no ring of its own, see mouse-gestures --ring</source>
+        <translation>у %1 нет своего кольца, см. mouse-gestures --ring</translation>
+    </message>
+    <message>
+        <source>ring of %1</source>
+        <translation>кольцо %1</translation>
+    </message>
+    <message>
+        <source>a ring is &quot;own&quot; or &quot;shared&quot;, not &quot;%1&quot;</source>
+        <translation>кольцо бывает «own» или «shared», а не «%1»</translation>
     </message>
 </context>
 </TS>

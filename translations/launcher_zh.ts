@@ -12,10 +12,6 @@
         <translation>列出程序至今显示过的命令</translation>
     </message>
     <message>
-        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right</source>
-        <translation>将命令放到某个方向。COMMAND 是其标识符、名称或“none”。DIRECTION 为 up、left、down 或 right；八个手势时还有 up-left、down-left、down-right 或 up-right</translation>
-    </message>
-    <message>
         <source>choose what starts a gesture: right, middle, ctrl+right, ...; &quot;default&quot; is the usual trigger</source>
         <translation>选择触发方式：right、middle、ctrl+right 等；“default”为默认方式</translation>
     </message>
@@ -606,6 +602,62 @@
     <message>
         <source>Zoom to Fit</source>
         <translation>缩放到合适大小</translation>
+    </message>
+    <message>
+        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right. With --ring TASK after it: in the ring of that task</source>
+        <translation>将命令放到某个方向。COMMAND 是其标识符、名称或“none”。DIRECTION 为 up、left、down 或 right；八个手势时还有 up-left、down-left、down-right 或 up-right。后加 --ring TASK：放入该任务的圆环</translation>
+    </message>
+    <message>
+        <source>give a task, such as FreeCAD&apos;s SketcherWorkbench, a ring of its own, or the shared one again</source>
+        <translation>为任务（如 FreeCAD 的 SketcherWorkbench）设置专用圆环，或改回共用圆环</translation>
+    </message>
+    <message>
+        <source>start it without gestures if it cannot have them</source>
+        <translation>若无法使用手势则不带手势启动</translation>
+    </message>
+    <message>
+        <source>the profile of this program knows no tasks</source>
+        <translation>此程序的配置没有任务</translation>
+    </message>
+    <message>
+        <source>there is no task &quot;%1&quot;; known ones are %2</source>
+        <translation>没有任务“%1”；已知的有 %2</translation>
+    </message>
+    <message>
+        <source>bindings</source>
+        <translation>绑定</translation>
+    </message>
+    <message>
+        <source>, by %1</source>
+        <translation>，依据 %1</translation>
+    </message>
+    <message>
+        <source>%1 as nobody has chosen otherwise</source>
+        <translation>%1 个，因无人另作选择</translation>
+    </message>
+    <message>
+        <source>%1 by %2</source>
+        <translation>%1 个依据 %2</translation>
+    </message>
+    <message>
+        <source>%1, as suits the drawings</source>
+        <translation>%1，依据图形</translation>
+    </message>
+    <message>
+        <source>%1; ctrl+right if OpenGL paints the drawing</source>
+        <translation>%1；若由 OpenGL 绘制则为 ctrl+right</translation>
+    </message>
+    <message>
+        <source>%1 has no ring of its own, see mouse-gestures --ring</source>
+        <translation>%1 没有专用圆环，参见 mouse-gestures --ring</translation>
+    </message>
+    <message>
+        <source>ring of %1</source>
+        <translation>%1 的圆环</translation>
+    </message>
+    <message>
+        <source>a ring is &quot;own&quot; or &quot;shared&quot;, not &quot;%1&quot;</source>
+        <translation>圆环为“own”或“shared”，而不是“%1”</translation>
     </message>
 </context>
 </TS>

@@ -9,11 +9,11 @@
     </message>
     <message>
         <source>Its commands and directions are kept. Install it again to use them.</source>
-        <translation>Seine Befehle und Richtungen bleiben erhalten. Installieren Sie es wieder, um sie zu verwenden.</translation>
+        <translation>Befehle und Richtungen bleiben erhalten. Installieren Sie es wieder, um sie zu nutzen.</translation>
     </message>
     <message>
         <source>%1 is not made with Qt Widgets, so gestures cannot work in it.</source>
-        <translation>%1 verwendet keine Qt Widgets, daher funktionieren Gesten darin nicht.</translation>
+        <translation>%1 verwendet Qt Widgets nicht, daher können Gesten darin nicht funktionieren.</translation>
     </message>
     <message>
         <source>The part of Mouse Gestures that %1 needs is not installed.</source>
@@ -29,19 +29,19 @@
     </message>
     <message>
         <source>This desktop runs without X11, so the ring may open away from the pointer.</source>
-        <translation>Dieser Desktop läuft ohne X11, daher kann der Ring neben dem Zeiger aufgehen.</translation>
+        <translation>Dieser Desktop läuft ohne X11, daher kann sich der Ring neben dem Zeiger öffnen.</translation>
     </message>
     <message>
         <source>Log in with X11, or install XWayland.</source>
-        <translation>Melden Sie sich mit X11 an, oder installieren Sie XWayland.</translation>
+        <translation>Melden Sie sich mit X11 an oder installieren Sie XWayland.</translation>
     </message>
     <message>
         <source>The profile of %1 cannot be used: %2</source>
-        <translation>Das Profil von %1 ist nicht verwendbar: %2</translation>
+        <translation>Das Profil von %1 lässt sich nicht verwenden: %2</translation>
     </message>
     <message>
         <source>Mend or remove that file.</source>
-        <translation>Berichtigen oder löschen Sie diese Datei.</translation>
+        <translation>Berichtigen oder entfernen Sie diese Datei.</translation>
     </message>
     <message>
         <source>Changes cannot be kept: %1</source>
@@ -49,11 +49,11 @@
     </message>
     <message>
         <source>Make that file and its folder yours, and writable.</source>
-        <translation>Sorgen Sie dafür, dass diese Datei und ihr Ordner Ihnen gehören und beschreibbar sind.</translation>
+        <translation>Sorgen Sie dafür, dass Datei und Ordner Ihnen gehören und beschreibbar sind.</translation>
     </message>
     <message>
         <source>Gestures are switched off in the settings of %1.</source>
-        <translation>Gesten sind in den Einstellungen von %1 ausgeschaltet.</translation>
+        <translation>In den Einstellungen von %1 sind die Gesten ausgeschaltet.</translation>
     </message>
 </context>
 <context>
@@ -68,11 +68,11 @@
     </message>
     <message>
         <source>Put &quot;%1&quot; %2</source>
-        <translation>„%1“ zuweisen: %2</translation>
+        <translation>„%1“: %2</translation>
     </message>
     <message>
         <source>Exchange %1 and %2</source>
-        <translation>Tauschen: %1 und %2</translation>
+        <translation>%1 und %2 tauschen</translation>
     </message>
     <message>
         <source>Four Directions</source>
@@ -91,8 +91,12 @@
         <translation>Gesten ausschalten</translation>
     </message>
     <message>
+        <source>The left button alone is for drawing. Hold Ctrl, Shift, Alt or Meta with it.</source>
+        <translation>Die linke Taste allein ist zum Zeichnen da. Halten Sie dazu Strg, Umschalt, Alt oder Meta.</translation>
+    </message>
+    <message>
         <source>Change What Starts a Gesture</source>
-        <translation>Auslöser ändern</translation>
+        <translation>Auslöser der Geste ändern</translation>
     </message>
     <message>
         <source>Reset to First Commands</source>
@@ -115,7 +119,7 @@
     </message>
     <message>
         <source>Others</source>
-        <translation>Sonstige</translation>
+        <translation>Andere</translation>
     </message>
     <message>
         <source>First commands</source>
@@ -130,7 +134,7 @@
     <name>settings::CommandPanel</name>
     <message>
         <source>No command has this in its name.</source>
-        <translation>Kein Befehl hat das im Namen.</translation>
+        <translation>Kein Befehl hat das in seinem Namen.</translation>
     </message>
     <message>
         <source>Search commands</source>
@@ -146,7 +150,7 @@
     </message>
     <message>
         <source>&amp;Put Into</source>
-        <translation>&amp;Zuweisen</translation>
+        <translation>&amp;Legen nach</translation>
     </message>
     <message>
         <source>%1 (now %2)</source>
@@ -201,7 +205,7 @@
     </message>
     <message>
         <source>up-left</source>
-        <translation>oben links</translation>
+        <translation>oben-links</translation>
     </message>
     <message>
         <source>left</source>
@@ -209,7 +213,7 @@
     </message>
     <message>
         <source>down-left</source>
-        <translation>unten links</translation>
+        <translation>unten-links</translation>
     </message>
     <message>
         <source>down</source>
@@ -217,7 +221,7 @@
     </message>
     <message>
         <source>down-right</source>
-        <translation>unten rechts</translation>
+        <translation>unten-rechts</translation>
     </message>
     <message>
         <source>right</source>
@@ -225,7 +229,7 @@
     </message>
     <message>
         <source>up-right</source>
-        <translation>oben rechts</translation>
+        <translation>oben-rechts</translation>
     </message>
 </context>
 <context>
@@ -272,15 +276,19 @@
     </message>
     <message>
         <source>Bring the first commands of %1 back?</source>
-        <translation>Die ersten Befehle von %1 wiederherstellen?</translation>
+        <translation>Die ersten Befehle von %1 zurückholen?</translation>
     </message>
     <message>
         <source>All directions get the commands that they had before anybody chose any. What starts a gesture stays. Undo takes this back.</source>
-        <translation>Alle Richtungen erhalten die Befehle, die sie am Anfang hatten. Der Auslöser bleibt. „Rückgängig“ nimmt das zurück.</translation>
+        <translation>Alle Richtungen bekommen die Befehle, die sie vor jeder Wahl hatten. Der Auslöser bleibt. „Rückgängig“ nimmt das zurück.</translation>
     </message>
     <message>
         <source>&amp;Reset</source>
         <translation>&amp;Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -291,7 +299,7 @@
     </message>
     <message>
         <source>What changes</source>
-        <translation>Änderungen</translation>
+        <translation>Was sich ändert</translation>
     </message>
     <message>
         <source>What</source>
@@ -311,7 +319,7 @@
     </message>
     <message>
         <source>%1 has what %2 has already. Nothing would change.</source>
-        <translation>%1 enthält, was %2 schon hat. Es würde sich nichts ändern.</translation>
+        <translation>%1 enthält, was %2 schon hat. Nichts würde sich ändern.</translation>
     </message>
     <message>
         <source>%1 would change the following in %2. The settings as they are now stay beside the new ones.</source>
@@ -339,19 +347,23 @@
     </message>
     <message>
         <source>Directions in use</source>
-        <translation>Verwendete Richtungen</translation>
+        <translation>Richtungen in Gebrauch</translation>
     </message>
     <message>
         <source>A gesture starts with</source>
-        <translation>Auslöser</translation>
+        <translation>Eine Geste beginnt mit</translation>
     </message>
     <message>
-        <source>%1 of %2 directions</source>
-        <translation>%1 von %2 Richtungen</translation>
+        <source>%1 (of %2 directions)</source>
+        <translation>%1 (von %2 Richtungen)</translation>
     </message>
     <message>
         <source>%1: now %2, after %3</source>
         <translation>%1: jetzt %2, danach %3</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -396,19 +408,19 @@
     </message>
     <message>
         <source>Drag a command from the list into a direction. Drag it on to another direction to exchange the two, or off the ring to take it away.</source>
-        <translation>Ziehen Sie einen Befehl aus der Liste in eine Richtung. Ziehen Sie ihn in eine andere Richtung, um beide zu tauschen, oder vom Ring, um ihn zu entfernen.</translation>
+        <translation>Ziehen Sie einen Befehl aus der Liste in eine Richtung. Ziehen Sie ihn weiter in eine andere, um beide zu tauschen, oder vom Ring, um ihn wegzunehmen.</translation>
     </message>
     <message>
         <source>Gestures work. %1 starts with them from the desktop&apos;s menus.</source>
-        <translation>Gesten funktionieren. %1 startet mit ihnen aus den Menüs des Desktops.</translation>
+        <translation>Gesten funktionieren. %1 startet aus den Menüs des Desktops mit ihnen.</translation>
     </message>
     <message>
         <source>Gestures would work. Switch them on here, then start %1 from the desktop&apos;s menus.</source>
-        <translation>Gesten würden funktionieren. Schalten Sie sie hier ein, und starten Sie %1 dann aus den Menüs des Desktops.</translation>
+        <translation>Gesten würden funktionieren. Schalten Sie sie hier ein und starten Sie dann %1 aus den Menüs des Desktops.</translation>
     </message>
     <message>
         <source>These are the commands that nearly every program has. All others of %1 appear here when it has run with gestures once.</source>
-        <translation>Das sind die Befehle, die fast jedes Programm hat. Alle anderen von %1 erscheinen hier, wenn es einmal mit Gesten lief.</translation>
+        <translation>Diese Befehle hat fast jedes Programm. Alle anderen von %1 erscheinen hier, wenn es einmal mit Gesten gelaufen ist.</translation>
     </message>
     <message>
         <source>%1: hold, drag, and move on towards a command</source>
@@ -431,19 +443,19 @@
     </message>
     <message>
         <source>Looking for programs</source>
-        <translation>Programme werden gesucht</translation>
+        <translation>Suche nach Programmen</translation>
     </message>
     <message>
         <source>Looking for programs...</source>
-        <translation>Programme werden gesucht...</translation>
+        <translation>Suche nach Programmen...</translation>
     </message>
     <message>
         <source>The desktop&apos;s menus show no program in which gestures can work. Gestures need a program made with Qt Widgets.</source>
-        <translation>Die Menüs des Desktops enthalten kein Programm, in dem Gesten funktionieren. Gesten brauchen ein Programm mit Qt Widgets.</translation>
+        <translation>Die Menüs des Desktops zeigen kein Programm, in dem Gesten funktionieren können. Gesten brauchen ein Programm, das Qt Widgets verwendet.</translation>
     </message>
     <message>
         <source>No program has this in its name.</source>
-        <translation>Kein Programm hat das im Namen.</translation>
+        <translation>Kein Programm hat das in seinem Namen.</translation>
     </message>
 </context>
 <context>
@@ -466,7 +478,7 @@
     </message>
     <message>
         <source>Enter puts the chosen command here, Delete empties it, Space picks it up.</source>
-        <translation>Die Eingabetaste legt den gewählten Befehl hierher, Entf leert die Richtung, die Leertaste nimmt ihn auf.</translation>
+        <translation>Eingabe legt den gewählten Befehl hierher, Entf leert die Richtung, die Leertaste nimmt den Befehl auf.</translation>
     </message>
 </context>
 <context>
@@ -477,7 +489,7 @@
     </message>
     <message>
         <source>Looking for programs...</source>
-        <translation>Programme werden gesucht...</translation>
+        <translation>Suche nach Programmen...</translation>
     </message>
     <message>
         <source>Main toolbar</source>
@@ -513,7 +525,7 @@
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation>&amp;Rückgängig</translation>
+        <translation>&amp;Rückgängig:</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -521,11 +533,11 @@
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>&amp;Wiederherstellen</translation>
+        <translation>&amp;Wiederholen:</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation>Wiederherstellen</translation>
+        <translation>Wiederholen</translation>
     </message>
     <message>
         <source>&amp;Find a Command</source>
@@ -591,15 +603,15 @@
     <name>settings::TriggerField</name>
     <message>
         <source>Record what starts a gesture</source>
-        <translation>Auslöser aufzeichnen</translation>
+        <translation>Auslöser einer Geste aufnehmen</translation>
     </message>
     <message>
         <source>Press a mouse button here, with the keys to hold. With the keyboard, choose from the list.</source>
-        <translation>Drücken Sie hier eine Maustaste zusammen mit den Tasten, die gehalten werden sollen. Mit der Tastatur wählen Sie aus der Liste.</translation>
+        <translation>Drücken Sie hier eine Maustaste, mit den Tasten, die gehalten werden sollen. Mit der Tastatur wählen Sie aus der Liste.</translation>
     </message>
     <message>
         <source>Press a mouse button here, with Ctrl, Shift, Alt or Meta held if you like</source>
-        <translation>Drücken Sie hier eine Maustaste, auch mit Strg, Umschalt, Alt oder Meta</translation>
+        <translation>Drücken Sie hier eine Maustaste, wenn Sie wollen mit Strg, Umschalt, Alt oder Meta</translation>
     </message>
     <message>
         <source>or press it here</source>
@@ -610,7 +622,7 @@
     <name>settings::TriggerPanel</name>
     <message>
         <source>A gesture &amp;starts with:</source>
-        <translation>&amp;Auslöser:</translation>
+        <translation>Eine Geste &amp;beginnt mit:</translation>
     </message>
     <message>
         <source>What starts a gesture</source>
@@ -618,7 +630,7 @@
     </message>
     <message>
         <source>It takes effect at the program&apos;s next start.</source>
-        <translation>Das gilt ab dem nächsten Start des Programms.</translation>
+        <translation>Es gilt ab dem nächsten Start des Programms.</translation>
     </message>
     <message>
         <source>%1 (usual)</source>

@@ -9,15 +9,15 @@
     </message>
     <message>
         <source>Its commands and directions are kept. Install it again to use them.</source>
-        <translation>Sus comandos y direcciones se conservan. Instálelo de nuevo para usarlos.</translation>
+        <translation>Sus comandos y direcciones se conservan. Vuelva a instalarlo para usarlos.</translation>
     </message>
     <message>
         <source>%1 is not made with Qt Widgets, so gestures cannot work in it.</source>
-        <translation>%1 no está hecho con Qt Widgets, así que los gestos no funcionan en él.</translation>
+        <translation>%1 no está hecho con Qt Widgets, así que los gestos no pueden funcionar en él.</translation>
     </message>
     <message>
         <source>The part of Mouse Gestures that %1 needs is not installed.</source>
-        <translation>La parte de Gestos del ratón que necesita %1 no está instalada.</translation>
+        <translation>La parte de los gestos del ratón que %1 necesita no está instalada.</translation>
     </message>
     <message>
         <source>Install the package gesturewidget-qt6.</source>
@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>Log in with X11, or install XWayland.</source>
-        <translation>Inicie la sesión con X11 o instale XWayland.</translation>
+        <translation>Inicie sesión con X11 o instale XWayland.</translation>
     </message>
     <message>
         <source>The profile of %1 cannot be used: %2</source>
@@ -45,11 +45,11 @@
     </message>
     <message>
         <source>Changes cannot be kept: %1</source>
-        <translation>No se pueden guardar los cambios: %1</translation>
+        <translation>Los cambios no se pueden guardar: %1</translation>
     </message>
     <message>
         <source>Make that file and its folder yours, and writable.</source>
-        <translation>Haga que ese archivo y su carpeta sean suyos y se puedan escribir.</translation>
+        <translation>Haga que el archivo y su carpeta sean suyos y se puedan escribir.</translation>
     </message>
     <message>
         <source>Gestures are switched off in the settings of %1.</source>
@@ -60,7 +60,7 @@
     <name>settings::BindingsEditor</name>
     <message>
         <source>The number of directions was changed elsewhere meanwhile.</source>
-        <translation>El número de direcciones se cambió entretanto en otro lugar.</translation>
+        <translation>Mientras tanto se cambió el número de direcciones en otro lugar.</translation>
     </message>
     <message>
         <source>Empty %1</source>
@@ -68,11 +68,11 @@
     </message>
     <message>
         <source>Put &quot;%1&quot; %2</source>
-        <translation>Poner «%1»: %2</translation>
+        <translation>«%1»: %2</translation>
     </message>
     <message>
         <source>Exchange %1 and %2</source>
-        <translation>Intercambiar: %1 y %2</translation>
+        <translation>Intercambiar %1 y %2</translation>
     </message>
     <message>
         <source>Four Directions</source>
@@ -91,12 +91,16 @@
         <translation>Desactivar los gestos</translation>
     </message>
     <message>
+        <source>The left button alone is for drawing. Hold Ctrl, Shift, Alt or Meta with it.</source>
+        <translation>El botón izquierdo solo es para dibujar. Mantenga con él Ctrl, Mayús, Alt o Meta.</translation>
+    </message>
+    <message>
         <source>Change What Starts a Gesture</source>
-        <translation>Cambiar el activador</translation>
+        <translation>Cambiar qué inicia un gesto</translation>
     </message>
     <message>
         <source>Reset to First Commands</source>
-        <translation>Restablecer los primeros comandos</translation>
+        <translation>Volver a los primeros comandos</translation>
     </message>
     <message>
         <source>Import</source>
@@ -130,7 +134,7 @@
     <name>settings::CommandPanel</name>
     <message>
         <source>No command has this in its name.</source>
-        <translation>Ningún comando tiene esto en su nombre.</translation>
+        <translation>Ningún comando contiene esto en su nombre.</translation>
     </message>
     <message>
         <source>Search commands</source>
@@ -142,11 +146,11 @@
     </message>
     <message>
         <source>Ctrl and an arrow key puts the chosen command into that direction; Ctrl with Home, Page Up, End or Page Down into the one between.</source>
-        <translation>Ctrl y una flecha pone el comando elegido en esa dirección; Ctrl con Inicio, Re Pág, Fin o Av Pág, en la diagonal.</translation>
+        <translation>Ctrl y una flecha pone el comando elegido en esa dirección; Ctrl con Inicio, Re Pág, Fin o Av Pág en la intermedia.</translation>
     </message>
     <message>
         <source>&amp;Put Into</source>
-        <translation>&amp;Poner</translation>
+        <translation>&amp;Poner en</translation>
     </message>
     <message>
         <source>%1 (now %2)</source>
@@ -201,7 +205,7 @@
     </message>
     <message>
         <source>up-left</source>
-        <translation>arriba a la izquierda</translation>
+        <translation>arriba-izquierda</translation>
     </message>
     <message>
         <source>left</source>
@@ -209,7 +213,7 @@
     </message>
     <message>
         <source>down-left</source>
-        <translation>abajo a la izquierda</translation>
+        <translation>abajo-izquierda</translation>
     </message>
     <message>
         <source>down</source>
@@ -217,7 +221,7 @@
     </message>
     <message>
         <source>down-right</source>
-        <translation>abajo a la derecha</translation>
+        <translation>abajo-derecha</translation>
     </message>
     <message>
         <source>right</source>
@@ -225,7 +229,7 @@
     </message>
     <message>
         <source>up-right</source>
-        <translation>arriba a la derecha</translation>
+        <translation>arriba-derecha</translation>
     </message>
 </context>
 <context>
@@ -272,15 +276,19 @@
     </message>
     <message>
         <source>Bring the first commands of %1 back?</source>
-        <translation>¿Restablecer los primeros comandos de %1?</translation>
+        <translation>¿Recuperar los primeros comandos de %1?</translation>
     </message>
     <message>
         <source>All directions get the commands that they had before anybody chose any. What starts a gesture stays. Undo takes this back.</source>
-        <translation>Todas las direcciones recuperan sus comandos iniciales. El activador se mantiene. «Deshacer» lo revierte.</translation>
+        <translation>Todas las direcciones reciben los comandos que tenían antes de que nadie eligiera. Lo que inicia un gesto no cambia. Deshacer lo revierte.</translation>
     </message>
     <message>
         <source>&amp;Reset</source>
         <translation>&amp;Restablecer</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
     </message>
 </context>
 <context>
@@ -291,7 +299,7 @@
     </message>
     <message>
         <source>What changes</source>
-        <translation>Lo que cambia</translation>
+        <translation>Qué cambia</translation>
     </message>
     <message>
         <source>What</source>
@@ -311,7 +319,7 @@
     </message>
     <message>
         <source>%1 has what %2 has already. Nothing would change.</source>
-        <translation>%1 contiene lo que %2 ya tiene. No cambiaría nada.</translation>
+        <translation>%1 contiene lo que %2 ya tiene. Nada cambiaría.</translation>
     </message>
     <message>
         <source>%1 would change the following in %2. The settings as they are now stay beside the new ones.</source>
@@ -343,15 +351,19 @@
     </message>
     <message>
         <source>A gesture starts with</source>
-        <translation>Un gesto se inicia con</translation>
+        <translation>Un gesto empieza con</translation>
     </message>
     <message>
-        <source>%1 of %2 directions</source>
-        <translation>%1 de %2 direcciones</translation>
+        <source>%1 (of %2 directions)</source>
+        <translation>%1 (de %2 direcciones)</translation>
     </message>
     <message>
         <source>%1: now %2, after %3</source>
         <translation>%1: ahora %2, después %3</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
     </message>
 </context>
 <context>
@@ -396,7 +408,7 @@
     </message>
     <message>
         <source>Drag a command from the list into a direction. Drag it on to another direction to exchange the two, or off the ring to take it away.</source>
-        <translation>Arrastre un comando de la lista a una dirección. Arrástrelo a otra para intercambiarlas, o fuera del anillo para quitarlo.</translation>
+        <translation>Arrastre un comando de la lista a una dirección. Arrástrelo a otra para intercambiarlos, o fuera del anillo para quitarlo.</translation>
     </message>
     <message>
         <source>Gestures work. %1 starts with them from the desktop&apos;s menus.</source>
@@ -404,11 +416,11 @@
     </message>
     <message>
         <source>Gestures would work. Switch them on here, then start %1 from the desktop&apos;s menus.</source>
-        <translation>Los gestos funcionarían. Actívelos aquí y después inicie %1 desde los menús del escritorio.</translation>
+        <translation>Los gestos funcionarían. Actívelos aquí y luego inicie %1 desde los menús del escritorio.</translation>
     </message>
     <message>
         <source>These are the commands that nearly every program has. All others of %1 appear here when it has run with gestures once.</source>
-        <translation>Estos son los comandos que casi todo programa tiene. Los demás de %1 aparecerán aquí cuando se haya ejecutado una vez con gestos.</translation>
+        <translation>Estos son los comandos que casi todo programa tiene. Los demás de %1 aparecen aquí cuando se haya ejecutado una vez con gestos.</translation>
     </message>
     <message>
         <source>%1: hold, drag, and move on towards a command</source>
@@ -427,7 +439,7 @@
     </message>
     <message>
         <source>Space switches a program&apos;s gestures on or off.</source>
-        <translation>Espacio activa o desactiva los gestos de un programa.</translation>
+        <translation>La barra espaciadora activa o desactiva los gestos de un programa.</translation>
     </message>
     <message>
         <source>Looking for programs</source>
@@ -439,11 +451,11 @@
     </message>
     <message>
         <source>The desktop&apos;s menus show no program in which gestures can work. Gestures need a program made with Qt Widgets.</source>
-        <translation>Los menús del escritorio no muestran ningún programa en el que funcionen los gestos. Se necesita un programa hecho con Qt Widgets.</translation>
+        <translation>Los menús del escritorio no muestran ningún programa en el que los gestos puedan funcionar. Hace falta un programa hecho con Qt Widgets.</translation>
     </message>
     <message>
         <source>No program has this in its name.</source>
-        <translation>Ningún programa tiene esto en su nombre.</translation>
+        <translation>Ningún programa contiene esto en su nombre.</translation>
     </message>
 </context>
 <context>
@@ -462,11 +474,11 @@
     </message>
     <message>
         <source>Picked up. Space at another direction exchanges the two.</source>
-        <translation>Tomado. Espacio en otra dirección intercambia las dos.</translation>
+        <translation>Recogido. La barra espaciadora en otra dirección los intercambia.</translation>
     </message>
     <message>
         <source>Enter puts the chosen command here, Delete empties it, Space picks it up.</source>
-        <translation>Intro pone aquí el comando elegido, Supr la vacía, Espacio lo toma.</translation>
+        <translation>Intro pone aquí el comando elegido, Supr lo vacía, la barra espaciadora lo recoge.</translation>
     </message>
 </context>
 <context>
@@ -481,7 +493,7 @@
     </message>
     <message>
         <source>Main toolbar</source>
-        <translation>Barra de herramientas principal</translation>
+        <translation>Barra principal</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -493,7 +505,7 @@
     </message>
     <message>
         <source>&amp;Import...</source>
-        <translation>I&amp;mportar...</translation>
+        <translation>&amp;Importar...</translation>
     </message>
     <message>
         <source>&amp;Export...</source>
@@ -533,7 +545,7 @@
     </message>
     <message>
         <source>Reset to &amp;First Commands...</source>
-        <translation>Restablecer los &amp;primeros comandos...</translation>
+        <translation>Volver a los &amp;primeros comandos...</translation>
     </message>
     <message>
         <source>Reset...</source>
@@ -560,11 +572,11 @@
     </message>
     <message>
         <source>Back button</source>
-        <translation>Botón Atrás</translation>
+        <translation>Botón atrás</translation>
     </message>
     <message>
         <source>Forward button</source>
-        <translation>Botón Adelante</translation>
+        <translation>Botón adelante</translation>
     </message>
     <message>
         <source>Right button</source>
@@ -591,11 +603,11 @@
     <name>settings::TriggerField</name>
     <message>
         <source>Record what starts a gesture</source>
-        <translation>Grabar lo que inicia un gesto</translation>
+        <translation>Registrar qué inicia un gesto</translation>
     </message>
     <message>
         <source>Press a mouse button here, with the keys to hold. With the keyboard, choose from the list.</source>
-        <translation>Pulse aquí un botón del ratón con las teclas que desee mantener. Con el teclado, elija de la lista.</translation>
+        <translation>Pulse aquí un botón del ratón, con las teclas que se mantendrán. Con el teclado, elija de la lista.</translation>
     </message>
     <message>
         <source>Press a mouse button here, with Ctrl, Shift, Alt or Meta held if you like</source>
@@ -610,15 +622,15 @@
     <name>settings::TriggerPanel</name>
     <message>
         <source>A gesture &amp;starts with:</source>
-        <translation>Un gesto se &amp;inicia con:</translation>
+        <translation>Un gesto &amp;empieza con:</translation>
     </message>
     <message>
         <source>What starts a gesture</source>
-        <translation>Lo que inicia un gesto</translation>
+        <translation>Qué inicia un gesto</translation>
     </message>
     <message>
         <source>It takes effect at the program&apos;s next start.</source>
-        <translation>Surte efecto la próxima vez que se inicie el programa.</translation>
+        <translation>Tiene efecto en el próximo inicio del programa.</translation>
     </message>
     <message>
         <source>%1 (usual)</source>

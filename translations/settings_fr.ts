@@ -5,7 +5,7 @@
     <name>settings::Advice</name>
     <message>
         <source>%1 is no longer installed.</source>
-        <translation>%1 n’est plus installé.</translation>
+        <translation>%1 n&apos;est plus installé.</translation>
     </message>
     <message>
         <source>Its commands and directions are kept. Install it again to use them.</source>
@@ -13,11 +13,11 @@
     </message>
     <message>
         <source>%1 is not made with Qt Widgets, so gestures cannot work in it.</source>
-        <translation>%1 n’est pas fait avec Qt Widgets, les gestes n’y marchent donc pas.</translation>
+        <translation>%1 n&apos;utilise pas Qt Widgets, les gestes ne peuvent donc pas y fonctionner.</translation>
     </message>
     <message>
         <source>The part of Mouse Gestures that %1 needs is not installed.</source>
-        <translation>La partie de Gestes de la souris dont %1 a besoin n’est pas installée.</translation>
+        <translation>La partie des gestes de la souris dont %1 a besoin n&apos;est pas installée.</translation>
     </message>
     <message>
         <source>Install the package gesturewidget-qt6.</source>
@@ -29,11 +29,11 @@
     </message>
     <message>
         <source>This desktop runs without X11, so the ring may open away from the pointer.</source>
-        <translation>Ce bureau tourne sans X11, l’anneau peut donc s’ouvrir loin du pointeur.</translation>
+        <translation>Ce bureau fonctionne sans X11, l&apos;anneau peut donc s&apos;ouvrir loin du pointeur.</translation>
     </message>
     <message>
         <source>Log in with X11, or install XWayland.</source>
-        <translation>Ouvrez une session X11, ou installez XWayland.</translation>
+        <translation>Ouvrez une session X11 ou installez XWayland.</translation>
     </message>
     <message>
         <source>The profile of %1 cannot be used: %2</source>
@@ -45,11 +45,11 @@
     </message>
     <message>
         <source>Changes cannot be kept: %1</source>
-        <translation>Impossible de conserver les changements : %1</translation>
+        <translation>Les changements ne peuvent pas être gardés : %1</translation>
     </message>
     <message>
         <source>Make that file and its folder yours, and writable.</source>
-        <translation>Rendez ce fichier et son dossier vôtres et modifiables.</translation>
+        <translation>Faites que ce fichier et son dossier soient à vous et modifiables.</translation>
     </message>
     <message>
         <source>Gestures are switched off in the settings of %1.</source>
@@ -60,7 +60,7 @@
     <name>settings::BindingsEditor</name>
     <message>
         <source>The number of directions was changed elsewhere meanwhile.</source>
-        <translation>Le nombre de directions a été changé ailleurs entre-temps.</translation>
+        <translation>Entre-temps, le nombre de directions a été changé ailleurs.</translation>
     </message>
     <message>
         <source>Empty %1</source>
@@ -68,11 +68,11 @@
     </message>
     <message>
         <source>Put &quot;%1&quot; %2</source>
-        <translation>Mettre « %1 » : %2</translation>
+        <translation>« %1 » : %2</translation>
     </message>
     <message>
         <source>Exchange %1 and %2</source>
-        <translation>Échanger : %1 et %2</translation>
+        <translation>Échanger %1 et %2</translation>
     </message>
     <message>
         <source>Four Directions</source>
@@ -91,12 +91,16 @@
         <translation>Désactiver les gestes</translation>
     </message>
     <message>
+        <source>The left button alone is for drawing. Hold Ctrl, Shift, Alt or Meta with it.</source>
+        <translation>Le bouton gauche seul sert à dessiner. Maintenez avec lui Ctrl, Maj, Alt ou Meta.</translation>
+    </message>
+    <message>
         <source>Change What Starts a Gesture</source>
-        <translation>Changer le déclencheur</translation>
+        <translation>Changer ce qui démarre un geste</translation>
     </message>
     <message>
         <source>Reset to First Commands</source>
-        <translation>Rétablir les premières commandes</translation>
+        <translation>Revenir aux premières commandes</translation>
     </message>
     <message>
         <source>Import</source>
@@ -130,11 +134,11 @@
     <name>settings::CommandPanel</name>
     <message>
         <source>No command has this in its name.</source>
-        <translation>Aucune commande n’a cela dans son nom.</translation>
+        <translation>Aucune commande n&apos;a cela dans son nom.</translation>
     </message>
     <message>
         <source>Search commands</source>
-        <translation>Rechercher des commandes</translation>
+        <translation>Chercher des commandes</translation>
     </message>
     <message>
         <source>Commands</source>
@@ -142,31 +146,31 @@
     </message>
     <message>
         <source>Ctrl and an arrow key puts the chosen command into that direction; Ctrl with Home, Page Up, End or Page Down into the one between.</source>
-        <translation>Ctrl et une flèche met la commande choisie dans cette direction ; Ctrl avec Début, Page préc., Fin ou Page suiv. dans la diagonale.</translation>
+        <translation>Ctrl et une flèche met la commande choisie dans cette direction ; Ctrl avec Origine, Page préc., Fin ou Page suiv. dans celle d&apos;entre deux.</translation>
     </message>
     <message>
         <source>&amp;Put Into</source>
-        <translation>&amp;Placer</translation>
+        <translation>&amp;Placer dans</translation>
     </message>
     <message>
         <source>%1 (now %2)</source>
         <comment>a direction and its command</comment>
-        <translation>%1 (actuellement %2)</translation>
+        <translation>%1 (à présent %2)</translation>
     </message>
     <message>
         <source>Take Off the Ring</source>
-        <translation>Retirer de l’anneau</translation>
+        <translation>Retirer de l&apos;anneau</translation>
     </message>
 </context>
 <context>
     <name>settings::Commands</name>
     <message>
         <source>Zoom to Everything</source>
-        <translation>Zoom sur tout</translation>
+        <translation>Tout afficher</translation>
     </message>
     <message>
         <source>Offset</source>
-        <translation>Décalage</translation>
+        <translation>Décaler</translation>
     </message>
     <message>
         <source>Open</source>
@@ -201,7 +205,7 @@
     </message>
     <message>
         <source>up-left</source>
-        <translation>haut gauche</translation>
+        <translation>haut-gauche</translation>
     </message>
     <message>
         <source>left</source>
@@ -209,7 +213,7 @@
     </message>
     <message>
         <source>down-left</source>
-        <translation>bas gauche</translation>
+        <translation>bas-gauche</translation>
     </message>
     <message>
         <source>down</source>
@@ -217,7 +221,7 @@
     </message>
     <message>
         <source>down-right</source>
-        <translation>bas droite</translation>
+        <translation>bas-droite</translation>
     </message>
     <message>
         <source>right</source>
@@ -225,7 +229,7 @@
     </message>
     <message>
         <source>up-right</source>
-        <translation>haut droite</translation>
+        <translation>haut-droite</translation>
     </message>
 </context>
 <context>
@@ -264,11 +268,11 @@
     </message>
     <message>
         <source>The printer did not take the sheet.</source>
-        <translation>L’imprimante n’a pas pris la feuille.</translation>
+        <translation>L&apos;imprimante n&apos;a pas accepté la feuille.</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation>Rétablir</translation>
+        <translation>Réinitialiser</translation>
     </message>
     <message>
         <source>Bring the first commands of %1 back?</source>
@@ -276,11 +280,15 @@
     </message>
     <message>
         <source>All directions get the commands that they had before anybody chose any. What starts a gesture stays. Undo takes this back.</source>
-        <translation>Toutes les directions reprennent leurs commandes d’origine. Le déclencheur reste. « Annuler » revient en arrière.</translation>
+        <translation>Toutes les directions reprennent les commandes d&apos;origine. Ce qui démarre un geste reste. Annuler revient en arrière.</translation>
     </message>
     <message>
         <source>&amp;Reset</source>
-        <translation>&amp;Rétablir</translation>
+        <translation>&amp;Réinitialiser</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
     </message>
 </context>
 <context>
@@ -299,7 +307,7 @@
     </message>
     <message>
         <source>Now</source>
-        <translation>Maintenant</translation>
+        <translation>À présent</translation>
     </message>
     <message>
         <source>After</source>
@@ -343,15 +351,19 @@
     </message>
     <message>
         <source>A gesture starts with</source>
-        <translation>Déclencheur</translation>
+        <translation>Un geste démarre avec</translation>
     </message>
     <message>
-        <source>%1 of %2 directions</source>
-        <translation>%1 (%2 directions)</translation>
+        <source>%1 (of %2 directions)</source>
+        <translation>%1 (sur %2 directions)</translation>
     </message>
     <message>
         <source>%1: now %2, after %3</source>
-        <translation>%1 : maintenant %2, après %3</translation>
+        <translation>%1 : à présent %2, après %3</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
     </message>
 </context>
 <context>
@@ -396,30 +408,30 @@
     </message>
     <message>
         <source>Drag a command from the list into a direction. Drag it on to another direction to exchange the two, or off the ring to take it away.</source>
-        <translation>Faites glisser une commande de la liste vers une direction. Faites-la glisser vers une autre pour les échanger, ou hors de l’anneau pour la retirer.</translation>
+        <translation>Faites glisser une commande de la liste dans une direction. Glissez-la dans une autre pour les échanger, ou hors de l&apos;anneau pour la retirer.</translation>
     </message>
     <message>
         <source>Gestures work. %1 starts with them from the desktop&apos;s menus.</source>
-        <translation>Les gestes marchent. %1 démarre avec eux depuis les menus du bureau.</translation>
+        <translation>Les gestes fonctionnent. %1 démarre avec eux depuis les menus du bureau.</translation>
     </message>
     <message>
         <source>Gestures would work. Switch them on here, then start %1 from the desktop&apos;s menus.</source>
-        <translation>Les gestes marcheraient. Activez-les ici, puis lancez %1 depuis les menus du bureau.</translation>
+        <translation>Les gestes fonctionneraient. Activez-les ici, puis démarrez %1 depuis les menus du bureau.</translation>
     </message>
     <message>
         <source>These are the commands that nearly every program has. All others of %1 appear here when it has run with gestures once.</source>
-        <translation>Voici les commandes que presque tout programme possède. Les autres de %1 apparaîtront ici quand il aura tourné une fois avec les gestes.</translation>
+        <translation>Voici les commandes que presque tout programme possède. Toutes les autres de %1 apparaîtront ici quand il aura été lancé une fois avec les gestes.</translation>
     </message>
     <message>
         <source>%1: hold, drag, and move on towards a command</source>
-        <translation>%1 : maintenir, faire glisser et continuer vers une commande</translation>
+        <translation>%1 : maintenir, glisser et continuer vers une commande</translation>
     </message>
 </context>
 <context>
     <name>settings::ProgramPanel</name>
     <message>
         <source>Search programs</source>
-        <translation>Rechercher des programmes</translation>
+        <translation>Chercher des programmes</translation>
     </message>
     <message>
         <source>Programs</source>
@@ -427,7 +439,7 @@
     </message>
     <message>
         <source>Space switches a program&apos;s gestures on or off.</source>
-        <translation>Espace active ou désactive les gestes d’un programme.</translation>
+        <translation>Espace active ou désactive les gestes d&apos;un programme.</translation>
     </message>
     <message>
         <source>Looking for programs</source>
@@ -439,11 +451,11 @@
     </message>
     <message>
         <source>The desktop&apos;s menus show no program in which gestures can work. Gestures need a program made with Qt Widgets.</source>
-        <translation>Les menus du bureau ne montrent aucun programme où les gestes peuvent marcher. Il faut un programme fait avec Qt Widgets.</translation>
+        <translation>Les menus du bureau ne montrent aucun programme où les gestes peuvent fonctionner. Il faut un programme fait avec Qt Widgets.</translation>
     </message>
     <message>
         <source>No program has this in its name.</source>
-        <translation>Aucun programme n’a cela dans son nom.</translation>
+        <translation>Aucun programme n&apos;a cela dans son nom.</translation>
     </message>
 </context>
 <context>
@@ -462,11 +474,11 @@
     </message>
     <message>
         <source>Picked up. Space at another direction exchanges the two.</source>
-        <translation>Saisi. Espace sur une autre direction échange les deux.</translation>
+        <translation>Prise. Espace sur une autre direction échange les deux.</translation>
     </message>
     <message>
         <source>Enter puts the chosen command here, Delete empties it, Space picks it up.</source>
-        <translation>Entrée met ici la commande choisie, Suppr la vide, Espace la saisit.</translation>
+        <translation>Entrée met ici la commande choisie, Suppr la vide, Espace la prend.</translation>
     </message>
 </context>
 <context>
@@ -481,7 +493,7 @@
     </message>
     <message>
         <source>Main toolbar</source>
-        <translation>Barre d’outils principale</translation>
+        <translation>Barre principale</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -489,7 +501,7 @@
     </message>
     <message>
         <source>&amp;Start the Program</source>
-        <translation>&amp;Lancer le programme</translation>
+        <translation>&amp;Démarrer le programme</translation>
     </message>
     <message>
         <source>&amp;Import...</source>
@@ -509,7 +521,7 @@
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation>É&amp;dition</translation>
+        <translation>&amp;Édition</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
@@ -533,11 +545,11 @@
     </message>
     <message>
         <source>Reset to &amp;First Commands...</source>
-        <translation>Rétablir les &amp;premières commandes...</translation>
+        <translation>Revenir aux &amp;premières commandes...</translation>
     </message>
     <message>
         <source>Reset...</source>
-        <translation>Rétablir...</translation>
+        <translation>Réinitialiser...</translation>
     </message>
     <message>
         <source>No program</source>
@@ -545,7 +557,7 @@
     </message>
     <message>
         <source>%1 could not be started.</source>
-        <translation>Impossible de lancer %1.</translation>
+        <translation>%1 n&apos;a pas pu être démarré.</translation>
     </message>
 </context>
 <context>
@@ -556,15 +568,15 @@
     </message>
     <message>
         <source>Middle button</source>
-        <translation>Bouton central</translation>
+        <translation>Bouton du milieu</translation>
     </message>
     <message>
         <source>Back button</source>
-        <translation>Bouton Précédent</translation>
+        <translation>Bouton précédent</translation>
     </message>
     <message>
         <source>Forward button</source>
-        <translation>Bouton Suivant</translation>
+        <translation>Bouton suivant</translation>
     </message>
     <message>
         <source>Right button</source>
@@ -591,11 +603,11 @@
     <name>settings::TriggerField</name>
     <message>
         <source>Record what starts a gesture</source>
-        <translation>Enregistrer le déclencheur</translation>
+        <translation>Enregistrer ce qui démarre un geste</translation>
     </message>
     <message>
         <source>Press a mouse button here, with the keys to hold. With the keyboard, choose from the list.</source>
-        <translation>Appuyez ici sur un bouton de la souris avec les touches à maintenir. Au clavier, choisissez dans la liste.</translation>
+        <translation>Appuyez ici sur un bouton de la souris, avec les touches à maintenir. Au clavier, choisissez dans la liste.</translation>
     </message>
     <message>
         <source>Press a mouse button here, with Ctrl, Shift, Alt or Meta held if you like</source>
@@ -610,15 +622,15 @@
     <name>settings::TriggerPanel</name>
     <message>
         <source>A gesture &amp;starts with:</source>
-        <translation>&amp;Déclencheur :</translation>
+        <translation>Un geste &amp;démarre avec :</translation>
     </message>
     <message>
         <source>What starts a gesture</source>
-        <translation>Ce qui déclenche un geste</translation>
+        <translation>Ce qui démarre un geste</translation>
     </message>
     <message>
         <source>It takes effect at the program&apos;s next start.</source>
-        <translation>Prend effet au prochain démarrage du programme.</translation>
+        <translation>Cela prend effet au prochain démarrage du programme.</translation>
     </message>
     <message>
         <source>%1 (usual)</source>

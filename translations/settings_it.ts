@@ -9,15 +9,15 @@
     </message>
     <message>
         <source>Its commands and directions are kept. Install it again to use them.</source>
-        <translation>I suoi comandi e direzioni restano. Installarlo di nuovo per usarli.</translation>
+        <translation>I suoi comandi e le direzioni restano. Reinstallarlo per usarli.</translation>
     </message>
     <message>
         <source>%1 is not made with Qt Widgets, so gestures cannot work in it.</source>
-        <translation>%1 non è realizzato con Qt Widgets, quindi i gesti non vi funzionano.</translation>
+        <translation>%1 non usa Qt Widgets, quindi i gesti non possono funzionare.</translation>
     </message>
     <message>
         <source>The part of Mouse Gestures that %1 needs is not installed.</source>
-        <translation>La parte di Gesti del mouse necessaria a %1 non è installata.</translation>
+        <translation>La parte dei gesti del mouse che serve a %1 non è installata.</translation>
     </message>
     <message>
         <source>Install the package gesturewidget-qt6.</source>
@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>This desktop runs without X11, so the ring may open away from the pointer.</source>
-        <translation>Questo desktop funziona senza X11, quindi l’anello può aprirsi lontano dal puntatore.</translation>
+        <translation>Questo desktop è senza X11, quindi l&apos;anello può aprirsi lontano dal puntatore.</translation>
     </message>
     <message>
         <source>Log in with X11, or install XWayland.</source>
@@ -37,15 +37,15 @@
     </message>
     <message>
         <source>The profile of %1 cannot be used: %2</source>
-        <translation>Impossibile usare il profilo di %1: %2</translation>
+        <translation>Il profilo di %1 non è utilizzabile: %2</translation>
     </message>
     <message>
         <source>Mend or remove that file.</source>
-        <translation>Correggere o eliminare quel file.</translation>
+        <translation>Correggere o rimuovere quel file.</translation>
     </message>
     <message>
         <source>Changes cannot be kept: %1</source>
-        <translation>Impossibile salvare le modifiche: %1</translation>
+        <translation>Le modifiche non possono essere conservate: %1</translation>
     </message>
     <message>
         <source>Make that file and its folder yours, and writable.</source>
@@ -60,19 +60,19 @@
     <name>settings::BindingsEditor</name>
     <message>
         <source>The number of directions was changed elsewhere meanwhile.</source>
-        <translation>Il numero di direzioni è stato nel frattempo cambiato altrove.</translation>
+        <translation>Nel frattempo il numero di direzioni è stato cambiato altrove.</translation>
     </message>
     <message>
         <source>Empty %1</source>
-        <translation>Svuota: %1</translation>
+        <translation>Svuotare: %1</translation>
     </message>
     <message>
         <source>Put &quot;%1&quot; %2</source>
-        <translation>Metti «%1»: %2</translation>
+        <translation>«%1»: %2</translation>
     </message>
     <message>
         <source>Exchange %1 and %2</source>
-        <translation>Scambia: %1 e %2</translation>
+        <translation>Scambiare %1 e %2</translation>
     </message>
     <message>
         <source>Four Directions</source>
@@ -84,19 +84,23 @@
     </message>
     <message>
         <source>Switch Gestures On</source>
-        <translation>Attiva i gesti</translation>
+        <translation>Attivare i gesti</translation>
     </message>
     <message>
         <source>Switch Gestures Off</source>
-        <translation>Disattiva i gesti</translation>
+        <translation>Disattivare i gesti</translation>
+    </message>
+    <message>
+        <source>The left button alone is for drawing. Hold Ctrl, Shift, Alt or Meta with it.</source>
+        <translation>Il pulsante sinistro da solo serve a disegnare. Tenere premuto con esso Ctrl, Maiusc, Alt o Meta.</translation>
     </message>
     <message>
         <source>Change What Starts a Gesture</source>
-        <translation>Cambia l’attivatore</translation>
+        <translation>Cambiare ciò che avvia un gesto</translation>
     </message>
     <message>
         <source>Reset to First Commands</source>
-        <translation>Ripristina i primi comandi</translation>
+        <translation>Ripristinare i primi comandi</translation>
     </message>
     <message>
         <source>Import</source>
@@ -130,7 +134,7 @@
     <name>settings::CommandPanel</name>
     <message>
         <source>No command has this in its name.</source>
-        <translation>Nessun comando ha questo nel nome.</translation>
+        <translation>Nessun comando lo contiene nel nome.</translation>
     </message>
     <message>
         <source>Search commands</source>
@@ -142,11 +146,11 @@
     </message>
     <message>
         <source>Ctrl and an arrow key puts the chosen command into that direction; Ctrl with Home, Page Up, End or Page Down into the one between.</source>
-        <translation>Ctrl e una freccia mette il comando scelto in quella direzione; Ctrl con Home, Pag su, Fine o Pag giù nella diagonale.</translation>
+        <translation>Ctrl e un tasto freccia mette il comando scelto in quella direzione; Ctrl con Home, Pag Su, Fine o Pag Giù in quella intermedia.</translation>
     </message>
     <message>
         <source>&amp;Put Into</source>
-        <translation>&amp;Metti</translation>
+        <translation>&amp;Metti in</translation>
     </message>
     <message>
         <source>%1 (now %2)</source>
@@ -155,7 +159,7 @@
     </message>
     <message>
         <source>Take Off the Ring</source>
-        <translation>Togli dall’anello</translation>
+        <translation>Togliere dall&apos;anello</translation>
     </message>
 </context>
 <context>
@@ -201,7 +205,7 @@
     </message>
     <message>
         <source>up-left</source>
-        <translation>su a sinistra</translation>
+        <translation>su-sinistra</translation>
     </message>
     <message>
         <source>left</source>
@@ -209,7 +213,7 @@
     </message>
     <message>
         <source>down-left</source>
-        <translation>giù a sinistra</translation>
+        <translation>giù-sinistra</translation>
     </message>
     <message>
         <source>down</source>
@@ -217,7 +221,7 @@
     </message>
     <message>
         <source>down-right</source>
-        <translation>giù a destra</translation>
+        <translation>giù-destra</translation>
     </message>
     <message>
         <source>right</source>
@@ -225,7 +229,7 @@
     </message>
     <message>
         <source>up-right</source>
-        <translation>su a destra</translation>
+        <translation>su-destra</translation>
     </message>
 </context>
 <context>
@@ -276,11 +280,15 @@
     </message>
     <message>
         <source>All directions get the commands that they had before anybody chose any. What starts a gesture stays. Undo takes this back.</source>
-        <translation>Tutte le direzioni riprendono i comandi iniziali. L’attivatore resta. «Annulla» torna indietro.</translation>
+        <translation>Tutte le direzioni riprendono i comandi che avevano all&apos;inizio. Ciò che avvia un gesto resta. Annulla torna indietro.</translation>
     </message>
     <message>
         <source>&amp;Reset</source>
         <translation>&amp;Ripristina</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annulla</translation>
     </message>
 </context>
 <context>
@@ -295,7 +303,7 @@
     </message>
     <message>
         <source>What</source>
-        <translation>Che cosa</translation>
+        <translation>Cosa</translation>
     </message>
     <message>
         <source>Now</source>
@@ -323,7 +331,7 @@
     </message>
     <message>
         <source>off</source>
-        <translation>disattivati</translation>
+        <translation>disattivi</translation>
     </message>
     <message>
         <source>%1 (usual)</source>
@@ -343,15 +351,19 @@
     </message>
     <message>
         <source>A gesture starts with</source>
-        <translation>Un gesto si avvia con</translation>
+        <translation>Un gesto inizia con</translation>
     </message>
     <message>
-        <source>%1 of %2 directions</source>
-        <translation>%1 di %2 direzioni</translation>
+        <source>%1 (of %2 directions)</source>
+        <translation>%1 (di %2 direzioni)</translation>
     </message>
     <message>
         <source>%1: now %2, after %3</source>
         <translation>%1: ora %2, dopo %3</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annulla</translation>
     </message>
 </context>
 <context>
@@ -396,7 +408,7 @@
     </message>
     <message>
         <source>Drag a command from the list into a direction. Drag it on to another direction to exchange the two, or off the ring to take it away.</source>
-        <translation>Trascinare un comando dall’elenco in una direzione. Trascinarlo in un’altra per scambiarle, o fuori dall’anello per toglierlo.</translation>
+        <translation>Trascinare un comando dall&apos;elenco in una direzione. Trascinarlo in un&apos;altra per scambiarli, o fuori dall&apos;anello per toglierlo.</translation>
     </message>
     <message>
         <source>Gestures work. %1 starts with them from the desktop&apos;s menus.</source>
@@ -408,11 +420,11 @@
     </message>
     <message>
         <source>These are the commands that nearly every program has. All others of %1 appear here when it has run with gestures once.</source>
-        <translation>Questi sono i comandi che quasi ogni programma ha. Gli altri di %1 compariranno qui dopo il primo avvio con i gesti.</translation>
+        <translation>Questi sono i comandi che quasi ogni programma ha. Tutti gli altri di %1 compaiono qui dopo che è stato avviato una volta con i gesti.</translation>
     </message>
     <message>
         <source>%1: hold, drag, and move on towards a command</source>
-        <translation>%1: tenere premuto, trascinare e proseguire verso un comando</translation>
+        <translation>%1: tenere, trascinare e proseguire verso un comando</translation>
     </message>
 </context>
 <context>
@@ -427,7 +439,7 @@
     </message>
     <message>
         <source>Space switches a program&apos;s gestures on or off.</source>
-        <translation>Spazio attiva o disattiva i gesti di un programma.</translation>
+        <translation>La barra spaziatrice attiva o disattiva i gesti di un programma.</translation>
     </message>
     <message>
         <source>Looking for programs</source>
@@ -439,11 +451,11 @@
     </message>
     <message>
         <source>The desktop&apos;s menus show no program in which gestures can work. Gestures need a program made with Qt Widgets.</source>
-        <translation>I menu del desktop non mostrano programmi in cui i gesti possano funzionare. Serve un programma realizzato con Qt Widgets.</translation>
+        <translation>I menu del desktop non mostrano alcun programma in cui i gesti possano funzionare. Serve un programma fatto con Qt Widgets.</translation>
     </message>
     <message>
         <source>No program has this in its name.</source>
-        <translation>Nessun programma ha questo nel nome.</translation>
+        <translation>Nessun programma lo contiene nel nome.</translation>
     </message>
 </context>
 <context>
@@ -462,11 +474,11 @@
     </message>
     <message>
         <source>Picked up. Space at another direction exchanges the two.</source>
-        <translation>Preso. Spazio su un’altra direzione scambia le due.</translation>
+        <translation>Preso. La barra spaziatrice su un&apos;altra direzione li scambia.</translation>
     </message>
     <message>
         <source>Enter puts the chosen command here, Delete empties it, Space picks it up.</source>
-        <translation>Invio mette qui il comando scelto, Canc la svuota, Spazio lo prende.</translation>
+        <translation>Invio mette qui il comando scelto, Canc lo svuota, la barra spaziatrice lo prende.</translation>
     </message>
 </context>
 <context>
@@ -481,7 +493,7 @@
     </message>
     <message>
         <source>Main toolbar</source>
-        <translation>Barra degli strumenti principale</translation>
+        <translation>Barra principale</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -505,7 +517,7 @@
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation>E&amp;sci</translation>
+        <translation>&amp;Esci</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -560,11 +572,11 @@
     </message>
     <message>
         <source>Back button</source>
-        <translation>Pulsante Indietro</translation>
+        <translation>Pulsante indietro</translation>
     </message>
     <message>
         <source>Forward button</source>
-        <translation>Pulsante Avanti</translation>
+        <translation>Pulsante avanti</translation>
     </message>
     <message>
         <source>Right button</source>
@@ -591,15 +603,15 @@
     <name>settings::TriggerField</name>
     <message>
         <source>Record what starts a gesture</source>
-        <translation>Registra che cosa avvia un gesto</translation>
+        <translation>Registrare ciò che avvia un gesto</translation>
     </message>
     <message>
         <source>Press a mouse button here, with the keys to hold. With the keyboard, choose from the list.</source>
-        <translation>Premere qui un pulsante del mouse con i tasti da tenere premuti. Con la tastiera, scegliere dall’elenco.</translation>
+        <translation>Premere qui un pulsante del mouse, con i tasti da tenere. Con la tastiera, scegliere dall&apos;elenco.</translation>
     </message>
     <message>
         <source>Press a mouse button here, with Ctrl, Shift, Alt or Meta held if you like</source>
-        <translation>Premere qui un pulsante del mouse, anche con Ctrl, Maiusc, Alt o Meta</translation>
+        <translation>Premere qui un pulsante del mouse, volendo con Ctrl, Maiusc, Alt o Meta</translation>
     </message>
     <message>
         <source>or press it here</source>
@@ -610,7 +622,7 @@
     <name>settings::TriggerPanel</name>
     <message>
         <source>A gesture &amp;starts with:</source>
-        <translation>Un gesto si a&amp;vvia con:</translation>
+        <translation>Un gesto &amp;inizia con:</translation>
     </message>
     <message>
         <source>What starts a gesture</source>

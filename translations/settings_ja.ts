@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Its commands and directions are kept. Install it again to use them.</source>
-        <translation>コマンドと方向は保存されています。使うには再インストールしてください。</translation>
+        <translation>コマンドと方向は残っています。使うには再びインストールしてください。</translation>
     </message>
     <message>
         <source>%1 is not made with Qt Widgets, so gestures cannot work in it.</source>
@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>The part of Mouse Gestures that %1 needs is not installed.</source>
-        <translation>%1 に必要なマウスジェスチャーの部品がインストールされていません。</translation>
+        <translation>%1 に必要なマウスジェスチャーの部分がインストールされていません。</translation>
     </message>
     <message>
         <source>Install the package gesturewidget-qt6.</source>
@@ -37,11 +37,11 @@
     </message>
     <message>
         <source>The profile of %1 cannot be used: %2</source>
-        <translation>%1 のプロファイルを使えません: %2</translation>
+        <translation>%1 のプロファイルは使えません: %2</translation>
     </message>
     <message>
         <source>Mend or remove that file.</source>
-        <translation>そのファイルを修正するか削除してください。</translation>
+        <translation>そのファイルを直すか削除してください。</translation>
     </message>
     <message>
         <source>Changes cannot be kept: %1</source>
@@ -60,7 +60,7 @@
     <name>settings::BindingsEditor</name>
     <message>
         <source>The number of directions was changed elsewhere meanwhile.</source>
-        <translation>その間に別の場所で方向の数が変更されました。</translation>
+        <translation>方向の数がほかの場所で変更されました。</translation>
     </message>
     <message>
         <source>Empty %1</source>
@@ -68,11 +68,11 @@
     </message>
     <message>
         <source>Put &quot;%1&quot; %2</source>
-        <translation>「%1」を割り当てる: %2</translation>
+        <translation>「%1」: %2</translation>
     </message>
     <message>
         <source>Exchange %1 and %2</source>
-        <translation>入れ替え: %1 と %2</translation>
+        <translation>%1 と %2 を入れ替える</translation>
     </message>
     <message>
         <source>Four Directions</source>
@@ -91,8 +91,12 @@
         <translation>ジェスチャーをオフにする</translation>
     </message>
     <message>
+        <source>The left button alone is for drawing. Hold Ctrl, Shift, Alt or Meta with it.</source>
+        <translation>左ボタンだけでは描画に使われます。Ctrl、Shift、Alt、Meta のいずれかを押しながら使ってください。</translation>
+    </message>
+    <message>
         <source>Change What Starts a Gesture</source>
-        <translation>開始操作を変更</translation>
+        <translation>ジェスチャーの始め方を変更</translation>
     </message>
     <message>
         <source>Reset to First Commands</source>
@@ -142,16 +146,16 @@
     </message>
     <message>
         <source>Ctrl and an arrow key puts the chosen command into that direction; Ctrl with Home, Page Up, End or Page Down into the one between.</source>
-        <translation>Ctrl と矢印キーで選んだコマンドをその方向に割り当てます。斜めの方向には Ctrl と Home、Page Up、End、Page Down を使います。</translation>
+        <translation>Ctrl と矢印キーで、選んだコマンドをその方向に置きます。Ctrl と Home、Page Up、End、Page Down では間の方向に置きます。</translation>
     </message>
     <message>
         <source>&amp;Put Into</source>
-        <translation>割り当て(&amp;P)</translation>
+        <translation>配置(&amp;P)</translation>
     </message>
     <message>
         <source>%1 (now %2)</source>
         <comment>a direction and its command</comment>
-        <translation>%1 (現在 %2)</translation>
+        <translation>%1 (現在は %2)</translation>
     </message>
     <message>
         <source>Take Off the Ring</source>
@@ -162,7 +166,7 @@
     <name>settings::Commands</name>
     <message>
         <source>Zoom to Everything</source>
-        <translation>全体表示</translation>
+        <translation>全体を表示</translation>
     </message>
     <message>
         <source>Offset</source>
@@ -186,7 +190,7 @@
     </message>
     <message>
         <source>Line</source>
-        <translation>直線</translation>
+        <translation>線</translation>
     </message>
     <message>
         <source>Trim</source>
@@ -276,11 +280,15 @@
     </message>
     <message>
         <source>All directions get the commands that they had before anybody chose any. What starts a gesture stays. Undo takes this back.</source>
-        <translation>すべての方向が最初のコマンドに戻ります。開始操作は変わりません。「元に戻す」で取り消せます。</translation>
+        <translation>すべての方向が、だれも選ぶ前のコマンドに戻ります。ジェスチャーの始め方は変わりません。元に戻すで取り消せます。</translation>
     </message>
     <message>
         <source>&amp;Reset</source>
         <translation>リセット(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>キャンセル(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -291,7 +299,7 @@
     </message>
     <message>
         <source>What changes</source>
-        <translation>変更点</translation>
+        <translation>変わるもの</translation>
     </message>
     <message>
         <source>What</source>
@@ -315,7 +323,7 @@
     </message>
     <message>
         <source>%1 would change the following in %2. The settings as they are now stay beside the new ones.</source>
-        <translation>%1 は %2 の次の点を変更します。現在の設定は新しい設定の横に残ります。</translation>
+        <translation>%1 は %2 の次の設定を変更します。今の設定は新しい設定の隣に残ります。</translation>
     </message>
     <message>
         <source>on</source>
@@ -339,19 +347,23 @@
     </message>
     <message>
         <source>Directions in use</source>
-        <translation>使用する方向</translation>
+        <translation>使用中の方向数</translation>
     </message>
     <message>
         <source>A gesture starts with</source>
-        <translation>ジェスチャーの開始操作</translation>
+        <translation>ジェスチャーの開始</translation>
     </message>
     <message>
-        <source>%1 of %2 directions</source>
-        <translation>%1 (%2 方向)</translation>
+        <source>%1 (of %2 directions)</source>
+        <translation>%1 (%2 方向中)</translation>
     </message>
     <message>
         <source>%1: now %2, after %3</source>
         <translation>%1: 現在 %2、変更後 %3</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>キャンセル(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -376,7 +388,7 @@
     <name>settings::ProgramPage</name>
     <message>
         <source>Switch Gestures &amp;On</source>
-        <translation>ジェスチャーをオンにする(&amp;O)</translation>
+        <translation>ジェスチャーをオン(&amp;O)</translation>
     </message>
     <message>
         <source>Start with &amp;gestures</source>
@@ -396,23 +408,23 @@
     </message>
     <message>
         <source>Drag a command from the list into a direction. Drag it on to another direction to exchange the two, or off the ring to take it away.</source>
-        <translation>一覧からコマンドを方向へドラッグします。別の方向へドラッグすると入れ替わり、リングの外へドラッグすると外れます。</translation>
+        <translation>リストからコマンドを方向にドラッグします。別の方向にドラッグすると入れ替わり、リングの外にドラッグすると外れます。</translation>
     </message>
     <message>
         <source>Gestures work. %1 starts with them from the desktop&apos;s menus.</source>
-        <translation>ジェスチャーは使えます。%1 はデスクトップのメニューからジェスチャー付きで起動します。</translation>
+        <translation>ジェスチャーが使えます。%1 はデスクトップのメニューからジェスチャー付きで起動します。</translation>
     </message>
     <message>
         <source>Gestures would work. Switch them on here, then start %1 from the desktop&apos;s menus.</source>
-        <translation>ジェスチャーを使えます。ここでオンにしてから、デスクトップのメニューで %1 を起動してください。</translation>
+        <translation>ジェスチャーが使えます。ここでオンにして、デスクトップのメニューから %1 を起動してください。</translation>
     </message>
     <message>
         <source>These are the commands that nearly every program has. All others of %1 appear here when it has run with gestures once.</source>
-        <translation>これらはほとんどのプログラムにあるコマンドです。%1 のその他のコマンドは、一度ジェスチャー付きで実行すると表示されます。</translation>
+        <translation>ほとんどのプログラムにあるコマンドです。%1 をジェスチャー付きで一度実行すると、ほかのコマンドもここに表示されます。</translation>
     </message>
     <message>
         <source>%1: hold, drag, and move on towards a command</source>
-        <translation>%1: 押したままドラッグし、コマンドの方へ進めます</translation>
+        <translation>%1: 押したままドラッグし、コマンドの方向へ進む</translation>
     </message>
 </context>
 <context>
@@ -427,7 +439,7 @@
     </message>
     <message>
         <source>Space switches a program&apos;s gestures on or off.</source>
-        <translation>スペースキーでプログラムのジェスチャーをオン/オフします。</translation>
+        <translation>スペースキーでプログラムのジェスチャーをオンまたはオフにします。</translation>
     </message>
     <message>
         <source>Looking for programs</source>
@@ -439,7 +451,7 @@
     </message>
     <message>
         <source>The desktop&apos;s menus show no program in which gestures can work. Gestures need a program made with Qt Widgets.</source>
-        <translation>ジェスチャーを使えるプログラムがデスクトップのメニューにありません。Qt Widgets で作られたプログラムが必要です。</translation>
+        <translation>デスクトップのメニューに、ジェスチャーが使えるプログラムがありません。Qt Widgets で作られたプログラムが必要です。</translation>
     </message>
     <message>
         <source>No program has this in its name.</source>
@@ -462,11 +474,11 @@
     </message>
     <message>
         <source>Picked up. Space at another direction exchanges the two.</source>
-        <translation>つかみました。別の方向でスペースキーを押すと入れ替わります。</translation>
+        <translation>持ち上げました。別の方向でスペースキーを押すと入れ替わります。</translation>
     </message>
     <message>
         <source>Enter puts the chosen command here, Delete empties it, Space picks it up.</source>
-        <translation>Enter で選んだコマンドをここに割り当て、Delete で空にし、スペースキーでつかみます。</translation>
+        <translation>Enter で選んだコマンドをここに置き、Delete で空にし、スペースキーで持ち上げます。</translation>
     </message>
 </context>
 <context>
@@ -521,11 +533,11 @@
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>やり直し(&amp;R)</translation>
+        <translation>やり直す(&amp;R)</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation>やり直し</translation>
+        <translation>やり直す</translation>
     </message>
     <message>
         <source>&amp;Find a Command</source>
@@ -533,7 +545,7 @@
     </message>
     <message>
         <source>Reset to &amp;First Commands...</source>
-        <translation>最初のコマンドに戻す(&amp;C)...</translation>
+        <translation>最初のコマンドに戻す(&amp;F)...</translation>
     </message>
     <message>
         <source>Reset...</source>
@@ -591,15 +603,15 @@
     <name>settings::TriggerField</name>
     <message>
         <source>Record what starts a gesture</source>
-        <translation>開始操作を記録</translation>
+        <translation>ジェスチャーの始め方を記録</translation>
     </message>
     <message>
         <source>Press a mouse button here, with the keys to hold. With the keyboard, choose from the list.</source>
-        <translation>ここで、押さえるキーとともにマウスボタンを押してください。キーボードの場合は一覧から選びます。</translation>
+        <translation>ここで、押し続けるキーと一緒にマウスボタンを押します。キーボードではリストから選んでください。</translation>
     </message>
     <message>
         <source>Press a mouse button here, with Ctrl, Shift, Alt or Meta held if you like</source>
-        <translation>ここでマウスボタンを押してください。Ctrl、Shift、Alt、Meta を押さえてもかまいません</translation>
+        <translation>ここでマウスボタンを押します。必要なら Ctrl、Shift、Alt、Meta を押しながら</translation>
     </message>
     <message>
         <source>or press it here</source>
@@ -610,15 +622,15 @@
     <name>settings::TriggerPanel</name>
     <message>
         <source>A gesture &amp;starts with:</source>
-        <translation>開始操作(&amp;S):</translation>
+        <translation>ジェスチャーの開始(&amp;S):</translation>
     </message>
     <message>
         <source>What starts a gesture</source>
-        <translation>ジェスチャーの開始操作</translation>
+        <translation>ジェスチャーの始め方</translation>
     </message>
     <message>
         <source>It takes effect at the program&apos;s next start.</source>
-        <translation>プログラムの次回起動時に有効になります。</translation>
+        <translation>プログラムの次の起動から有効になります。</translation>
     </message>
     <message>
         <source>%1 (usual)</source>

@@ -5,19 +5,19 @@
     <name>settings::Advice</name>
     <message>
         <source>%1 is no longer installed.</source>
-        <translation>Program %1 nie jest już zainstalowany.</translation>
+        <translation>%1 nie jest już zainstalowany.</translation>
     </message>
     <message>
         <source>Its commands and directions are kept. Install it again to use them.</source>
-        <translation>Jego polecenia i kierunki są zachowane. Zainstaluj go ponownie, aby ich używać.</translation>
+        <translation>Polecenia i kierunki zostają. Zainstaluj go ponownie, aby ich używać.</translation>
     </message>
     <message>
         <source>%1 is not made with Qt Widgets, so gestures cannot work in it.</source>
-        <translation>Program %1 nie korzysta z Qt Widgets, więc gesty w nim nie działają.</translation>
+        <translation>%1 nie używa Qt Widgets, więc gesty nie mogą w nim działać.</translation>
     </message>
     <message>
         <source>The part of Mouse Gestures that %1 needs is not installed.</source>
-        <translation>Część Gestów myszy potrzebna programowi %1 nie jest zainstalowana.</translation>
+        <translation>Część gestów myszy, której potrzebuje %1, nie jest zainstalowana.</translation>
     </message>
     <message>
         <source>Install the package gesturewidget-qt6.</source>
@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>This desktop runs without X11, so the ring may open away from the pointer.</source>
-        <translation>Ten pulpit działa bez X11, więc pierścień może otworzyć się z dala od wskaźnika.</translation>
+        <translation>Ten pulpit działa bez X11, więc pierścień może się otworzyć z dala od wskaźnika.</translation>
     </message>
     <message>
         <source>Log in with X11, or install XWayland.</source>
@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>The profile of %1 cannot be used: %2</source>
-        <translation>Nie można użyć profilu programu %1: %2</translation>
+        <translation>Nie można użyć profilu %1: %2</translation>
     </message>
     <message>
         <source>Mend or remove that file.</source>
@@ -49,18 +49,18 @@
     </message>
     <message>
         <source>Make that file and its folder yours, and writable.</source>
-        <translation>Spraw, aby plik i jego folder należały do Ciebie i dały się zapisywać.</translation>
+        <translation>Spraw, by plik i jego folder należały do Ciebie i były zapisywalne.</translation>
     </message>
     <message>
         <source>Gestures are switched off in the settings of %1.</source>
-        <translation>Gesty są wyłączone w ustawieniach programu %1.</translation>
+        <translation>Gesty są wyłączone w ustawieniach %1.</translation>
     </message>
 </context>
 <context>
     <name>settings::BindingsEditor</name>
     <message>
         <source>The number of directions was changed elsewhere meanwhile.</source>
-        <translation>Liczba kierunków została w międzyczasie zmieniona gdzie indziej.</translation>
+        <translation>Liczbę kierunków zmieniono tymczasem gdzie indziej.</translation>
     </message>
     <message>
         <source>Empty %1</source>
@@ -68,11 +68,11 @@
     </message>
     <message>
         <source>Put &quot;%1&quot; %2</source>
-        <translation>Umieść „%1”: %2</translation>
+        <translation>„%1”: %2</translation>
     </message>
     <message>
         <source>Exchange %1 and %2</source>
-        <translation>Zamień: %1 i %2</translation>
+        <translation>Zamień %1 i %2</translation>
     </message>
     <message>
         <source>Four Directions</source>
@@ -91,8 +91,12 @@
         <translation>Wyłącz gesty</translation>
     </message>
     <message>
+        <source>The left button alone is for drawing. Hold Ctrl, Shift, Alt or Meta with it.</source>
+        <translation>Sam lewy przycisk służy do rysowania. Przytrzymaj z nim Ctrl, Shift, Alt lub Meta.</translation>
+    </message>
+    <message>
         <source>Change What Starts a Gesture</source>
-        <translation>Zmień wyzwalacz</translation>
+        <translation>Zmień to, co zaczyna gest</translation>
     </message>
     <message>
         <source>Reset to First Commands</source>
@@ -142,11 +146,11 @@
     </message>
     <message>
         <source>Ctrl and an arrow key puts the chosen command into that direction; Ctrl with Home, Page Up, End or Page Down into the one between.</source>
-        <translation>Ctrl i strzałka umieszcza wybrane polecenie w tym kierunku; Ctrl z Home, Page Up, End lub Page Down – w kierunku pośrednim.</translation>
+        <translation>Ctrl i strzałka umieszcza wybrane polecenie w tym kierunku; Ctrl z Home, Page Up, End lub Page Down w kierunku pośrednim.</translation>
     </message>
     <message>
         <source>&amp;Put Into</source>
-        <translation>&amp;Umieść</translation>
+        <translation>&amp;Umieść w</translation>
     </message>
     <message>
         <source>%1 (now %2)</source>
@@ -155,7 +159,7 @@
     </message>
     <message>
         <source>Take Off the Ring</source>
-        <translation>Usuń z pierścienia</translation>
+        <translation>Zdejmij z pierścienia</translation>
     </message>
 </context>
 <context>
@@ -201,7 +205,7 @@
     </message>
     <message>
         <source>up-left</source>
-        <translation>góra, lewo</translation>
+        <translation>góra-lewo</translation>
     </message>
     <message>
         <source>left</source>
@@ -209,7 +213,7 @@
     </message>
     <message>
         <source>down-left</source>
-        <translation>dół, lewo</translation>
+        <translation>dół-lewo</translation>
     </message>
     <message>
         <source>down</source>
@@ -217,7 +221,7 @@
     </message>
     <message>
         <source>down-right</source>
-        <translation>dół, prawo</translation>
+        <translation>dół-prawo</translation>
     </message>
     <message>
         <source>right</source>
@@ -225,7 +229,7 @@
     </message>
     <message>
         <source>up-right</source>
-        <translation>góra, prawo</translation>
+        <translation>góra-prawo</translation>
     </message>
 </context>
 <context>
@@ -256,7 +260,7 @@
     </message>
     <message>
         <source>Mouse gestures in %1</source>
-        <translation>Gesty myszy w programie %1</translation>
+        <translation>Gesty myszy w %1</translation>
     </message>
     <message>
         <source>Printed</source>
@@ -272,15 +276,19 @@
     </message>
     <message>
         <source>Bring the first commands of %1 back?</source>
-        <translation>Przywrócić pierwsze polecenia programu %1?</translation>
+        <translation>Przywrócić pierwsze polecenia %1?</translation>
     </message>
     <message>
         <source>All directions get the commands that they had before anybody chose any. What starts a gesture stays. Undo takes this back.</source>
-        <translation>Wszystkie kierunki odzyskują początkowe polecenia. Wyzwalacz pozostaje. „Cofnij” to wycofuje.</translation>
+        <translation>Wszystkie kierunki dostają polecenia sprzed jakiegokolwiek wyboru. To, co zaczyna gest, zostaje. Cofnij to odwraca.</translation>
     </message>
     <message>
         <source>&amp;Reset</source>
         <translation>&amp;Przywróć</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Anuluj</translation>
     </message>
 </context>
 <context>
@@ -315,7 +323,7 @@
     </message>
     <message>
         <source>%1 would change the following in %2. The settings as they are now stay beside the new ones.</source>
-        <translation>%1 zmieni w programie %2 następujące rzeczy. Obecne ustawienia pozostaną obok nowych.</translation>
+        <translation>%1 zmieniłby w %2 to, co poniżej. Obecne ustawienia zostają obok nowych.</translation>
     </message>
     <message>
         <source>on</source>
@@ -343,15 +351,19 @@
     </message>
     <message>
         <source>A gesture starts with</source>
-        <translation>Gest zaczyna się od</translation>
+        <translation>Gest zaczyna</translation>
     </message>
     <message>
-        <source>%1 of %2 directions</source>
-        <translation>%1 z %2 kierunków</translation>
+        <source>%1 (of %2 directions)</source>
+        <translation>%1 (z %2 kierunków)</translation>
     </message>
     <message>
         <source>%1: now %2, after %3</source>
         <translation>%1: teraz %2, potem %3</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Anuluj</translation>
     </message>
 </context>
 <context>
@@ -396,7 +408,7 @@
     </message>
     <message>
         <source>Drag a command from the list into a direction. Drag it on to another direction to exchange the two, or off the ring to take it away.</source>
-        <translation>Przeciągnij polecenie z listy w wybrany kierunek. Przeciągnij je na inny kierunek, aby je zamienić, albo poza pierścień, aby je usunąć.</translation>
+        <translation>Przeciągnij polecenie z listy na kierunek. Przeciągnij je na inny, aby je zamienić, albo poza pierścień, aby je zdjąć.</translation>
     </message>
     <message>
         <source>Gestures work. %1 starts with them from the desktop&apos;s menus.</source>
@@ -404,15 +416,15 @@
     </message>
     <message>
         <source>Gestures would work. Switch them on here, then start %1 from the desktop&apos;s menus.</source>
-        <translation>Gesty będą działać. Włącz je tutaj, a potem uruchom %1 z menu pulpitu.</translation>
+        <translation>Gesty działałyby. Włącz je tutaj, a potem uruchom %1 z menu pulpitu.</translation>
     </message>
     <message>
         <source>These are the commands that nearly every program has. All others of %1 appear here when it has run with gestures once.</source>
-        <translation>To polecenia, które ma prawie każdy program. Pozostałe polecenia programu %1 pojawią się tu, gdy raz zadziała z gestami.</translation>
+        <translation>To polecenia, które ma niemal każdy program. Wszystkie inne z %1 pojawią się tu, gdy raz zadziała z gestami.</translation>
     </message>
     <message>
         <source>%1: hold, drag, and move on towards a command</source>
-        <translation>%1: przytrzymaj, przeciągnij i przesuń dalej do polecenia</translation>
+        <translation>%1: przytrzymaj, przeciągnij i dalej do polecenia</translation>
     </message>
 </context>
 <context>
@@ -439,7 +451,7 @@
     </message>
     <message>
         <source>The desktop&apos;s menus show no program in which gestures can work. Gestures need a program made with Qt Widgets.</source>
-        <translation>W menu pulpitu nie ma programu, w którym gesty mogą działać. Potrzebny jest program korzystający z Qt Widgets.</translation>
+        <translation>Menu pulpitu nie pokazują programu, w którym gesty mogą działać. Potrzebny jest program używający Qt Widgets.</translation>
     </message>
     <message>
         <source>No program has this in its name.</source>
@@ -462,11 +474,11 @@
     </message>
     <message>
         <source>Picked up. Space at another direction exchanges the two.</source>
-        <translation>Podniesiono. Spacja przy innym kierunku zamienia oba.</translation>
+        <translation>Podniesione. Spacja przy innym kierunku zamienia oba.</translation>
     </message>
     <message>
         <source>Enter puts the chosen command here, Delete empties it, Space picks it up.</source>
-        <translation>Enter umieszcza tu wybrane polecenie, Delete opróżnia, Spacja podnosi.</translation>
+        <translation>Enter umieszcza tu wybrane polecenie, Delete opróżnia, spacja podnosi.</translation>
     </message>
 </context>
 <context>
@@ -505,7 +517,7 @@
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation>Za&amp;kończ</translation>
+        <translation>&amp;Zakończ</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -533,7 +545,7 @@
     </message>
     <message>
         <source>Reset to &amp;First Commands...</source>
-        <translation>Przywróć pi&amp;erwsze polecenia...</translation>
+        <translation>Przywróć &amp;pierwsze polecenia...</translation>
     </message>
     <message>
         <source>Reset...</source>
@@ -545,7 +557,7 @@
     </message>
     <message>
         <source>%1 could not be started.</source>
-        <translation>Nie udało się uruchomić programu %1.</translation>
+        <translation>Nie udało się uruchomić %1.</translation>
     </message>
 </context>
 <context>
@@ -560,11 +572,11 @@
     </message>
     <message>
         <source>Back button</source>
-        <translation>Przycisk Wstecz</translation>
+        <translation>Przycisk wstecz</translation>
     </message>
     <message>
         <source>Forward button</source>
-        <translation>Przycisk Dalej</translation>
+        <translation>Przycisk dalej</translation>
     </message>
     <message>
         <source>Right button</source>
@@ -591,26 +603,26 @@
     <name>settings::TriggerField</name>
     <message>
         <source>Record what starts a gesture</source>
-        <translation>Zarejestruj wyzwalacz</translation>
+        <translation>Zapisz to, co zaczyna gest</translation>
     </message>
     <message>
         <source>Press a mouse button here, with the keys to hold. With the keyboard, choose from the list.</source>
-        <translation>Naciśnij tu przycisk myszy razem z klawiszami do przytrzymania. Klawiaturą wybierz z listy.</translation>
+        <translation>Naciśnij tu przycisk myszy z klawiszami do przytrzymania. Z klawiatury wybierz z listy.</translation>
     </message>
     <message>
         <source>Press a mouse button here, with Ctrl, Shift, Alt or Meta held if you like</source>
-        <translation>Naciśnij tu przycisk myszy, także z Ctrl, Shift, Alt lub Meta</translation>
+        <translation>Naciśnij tu przycisk myszy, jeśli chcesz z Ctrl, Shift, Alt lub Meta</translation>
     </message>
     <message>
         <source>or press it here</source>
-        <translation>albo naciśnij tutaj</translation>
+        <translation>lub naciśnij tutaj</translation>
     </message>
 </context>
 <context>
     <name>settings::TriggerPanel</name>
     <message>
         <source>A gesture &amp;starts with:</source>
-        <translation>Gest &amp;zaczyna się od:</translation>
+        <translation>Gest &amp;zaczyna:</translation>
     </message>
     <message>
         <source>What starts a gesture</source>

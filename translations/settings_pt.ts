@@ -5,19 +5,19 @@
     <name>settings::Advice</name>
     <message>
         <source>%1 is no longer installed.</source>
-        <translation>%1 não está mais instalado.</translation>
+        <translation>%1 já não está instalado.</translation>
     </message>
     <message>
         <source>Its commands and directions are kept. Install it again to use them.</source>
-        <translation>Os comandos e direções são mantidos. Instale-o novamente para usá-los.</translation>
+        <translation>Os seus comandos e direções mantêm-se. Instale-o de novo para os usar.</translation>
     </message>
     <message>
         <source>%1 is not made with Qt Widgets, so gestures cannot work in it.</source>
-        <translation>%1 não é feito com Qt Widgets, então os gestos não funcionam nele.</translation>
+        <translation>%1 não é feito com Qt Widgets, por isso os gestos não podem funcionar nele.</translation>
     </message>
     <message>
         <source>The part of Mouse Gestures that %1 needs is not installed.</source>
-        <translation>A parte de Gestos do mouse de que %1 precisa não está instalada.</translation>
+        <translation>A parte dos gestos do rato de que %1 precisa não está instalada.</translation>
     </message>
     <message>
         <source>Install the package gesturewidget-qt6.</source>
@@ -29,38 +29,38 @@
     </message>
     <message>
         <source>This desktop runs without X11, so the ring may open away from the pointer.</source>
-        <translation>Esta área de trabalho roda sem X11, então o anel pode abrir longe do ponteiro.</translation>
+        <translation>Este ambiente funciona sem X11, por isso o anel pode abrir longe do ponteiro.</translation>
     </message>
     <message>
         <source>Log in with X11, or install XWayland.</source>
-        <translation>Entre com X11 ou instale o XWayland.</translation>
+        <translation>Inicie sessão com X11 ou instale o XWayland.</translation>
     </message>
     <message>
         <source>The profile of %1 cannot be used: %2</source>
-        <translation>Não é possível usar o perfil de %1: %2</translation>
+        <translation>O perfil de %1 não pode ser usado: %2</translation>
     </message>
     <message>
         <source>Mend or remove that file.</source>
-        <translation>Corrija ou remova esse arquivo.</translation>
+        <translation>Corrija ou remova esse ficheiro.</translation>
     </message>
     <message>
         <source>Changes cannot be kept: %1</source>
-        <translation>Não é possível guardar as alterações: %1</translation>
+        <translation>As alterações não podem ser guardadas: %1</translation>
     </message>
     <message>
         <source>Make that file and its folder yours, and writable.</source>
-        <translation>Faça com que esse arquivo e sua pasta sejam seus e graváveis.</translation>
+        <translation>Torne o ficheiro e a sua pasta seus e graváveis.</translation>
     </message>
     <message>
         <source>Gestures are switched off in the settings of %1.</source>
-        <translation>Os gestos estão desativados nos ajustes de %1.</translation>
+        <translation>Os gestos estão desligados nas definições de %1.</translation>
     </message>
 </context>
 <context>
     <name>settings::BindingsEditor</name>
     <message>
         <source>The number of directions was changed elsewhere meanwhile.</source>
-        <translation>O número de direções foi alterado em outro lugar.</translation>
+        <translation>Entretanto, o número de direções foi alterado noutro lugar.</translation>
     </message>
     <message>
         <source>Empty %1</source>
@@ -68,11 +68,11 @@
     </message>
     <message>
         <source>Put &quot;%1&quot; %2</source>
-        <translation>Colocar “%1”: %2</translation>
+        <translation>«%1»: %2</translation>
     </message>
     <message>
         <source>Exchange %1 and %2</source>
-        <translation>Trocar: %1 e %2</translation>
+        <translation>Trocar %1 e %2</translation>
     </message>
     <message>
         <source>Four Directions</source>
@@ -84,19 +84,23 @@
     </message>
     <message>
         <source>Switch Gestures On</source>
-        <translation>Ativar gestos</translation>
+        <translation>Ligar os gestos</translation>
     </message>
     <message>
         <source>Switch Gestures Off</source>
-        <translation>Desativar gestos</translation>
+        <translation>Desligar os gestos</translation>
+    </message>
+    <message>
+        <source>The left button alone is for drawing. Hold Ctrl, Shift, Alt or Meta with it.</source>
+        <translation>O botão esquerdo sozinho serve para desenhar. Mantenha com ele Ctrl, Shift, Alt ou Meta.</translation>
     </message>
     <message>
         <source>Change What Starts a Gesture</source>
-        <translation>Mudar o gatilho</translation>
+        <translation>Alterar o que inicia um gesto</translation>
     </message>
     <message>
         <source>Reset to First Commands</source>
-        <translation>Restaurar os primeiros comandos</translation>
+        <translation>Repor os primeiros comandos</translation>
     </message>
     <message>
         <source>Import</source>
@@ -142,11 +146,11 @@
     </message>
     <message>
         <source>Ctrl and an arrow key puts the chosen command into that direction; Ctrl with Home, Page Up, End or Page Down into the one between.</source>
-        <translation>Ctrl e uma seta coloca o comando escolhido nessa direção; Ctrl com Home, Page Up, End ou Page Down, na diagonal.</translation>
+        <translation>Ctrl e uma seta põe o comando escolhido nessa direção; Ctrl com Home, Page Up, End ou Page Down na intermédia.</translation>
     </message>
     <message>
         <source>&amp;Put Into</source>
-        <translation>&amp;Colocar</translation>
+        <translation>&amp;Pôr em</translation>
     </message>
     <message>
         <source>%1 (now %2)</source>
@@ -162,7 +166,7 @@
     <name>settings::Commands</name>
     <message>
         <source>Zoom to Everything</source>
-        <translation>Mostrar tudo</translation>
+        <translation>Ver tudo</translation>
     </message>
     <message>
         <source>Offset</source>
@@ -178,7 +182,7 @@
     </message>
     <message>
         <source>Save</source>
-        <translation>Salvar</translation>
+        <translation>Guardar</translation>
     </message>
     <message>
         <source>Text</source>
@@ -197,11 +201,11 @@
     <name>settings::Directions</name>
     <message>
         <source>up</source>
-        <translation>para cima</translation>
+        <translation>cima</translation>
     </message>
     <message>
         <source>up-left</source>
-        <translation>para cima à esquerda</translation>
+        <translation>cima-esquerda</translation>
     </message>
     <message>
         <source>left</source>
@@ -209,15 +213,15 @@
     </message>
     <message>
         <source>down-left</source>
-        <translation>para baixo à esquerda</translation>
+        <translation>baixo-esquerda</translation>
     </message>
     <message>
         <source>down</source>
-        <translation>para baixo</translation>
+        <translation>baixo</translation>
     </message>
     <message>
         <source>down-right</source>
-        <translation>para baixo à direita</translation>
+        <translation>baixo-direita</translation>
     </message>
     <message>
         <source>right</source>
@@ -225,7 +229,7 @@
     </message>
     <message>
         <source>up-right</source>
-        <translation>para cima à direita</translation>
+        <translation>cima-direita</translation>
     </message>
 </context>
 <context>
@@ -236,7 +240,7 @@
     </message>
     <message>
         <source>All files (*)</source>
-        <translation>Todos os arquivos (*)</translation>
+        <translation>Todos os ficheiros (*)</translation>
     </message>
     <message>
         <source>Export</source>
@@ -256,7 +260,7 @@
     </message>
     <message>
         <source>Mouse gestures in %1</source>
-        <translation>Gestos do mouse no %1</translation>
+        <translation>Gestos do rato em %1</translation>
     </message>
     <message>
         <source>Printed</source>
@@ -268,19 +272,23 @@
     </message>
     <message>
         <source>Reset</source>
-        <translation>Restaurar</translation>
+        <translation>Repor</translation>
     </message>
     <message>
         <source>Bring the first commands of %1 back?</source>
-        <translation>Restaurar os primeiros comandos de %1?</translation>
+        <translation>Repor os primeiros comandos de %1?</translation>
     </message>
     <message>
         <source>All directions get the commands that they had before anybody chose any. What starts a gesture stays. Undo takes this back.</source>
-        <translation>Todas as direções recebem os comandos iniciais. O gatilho permanece. “Desfazer” reverte isto.</translation>
+        <translation>Todas as direções recebem os comandos que tinham no início. O que inicia um gesto mantém-se. Anular desfaz isto.</translation>
     </message>
     <message>
         <source>&amp;Reset</source>
-        <translation>&amp;Restaurar</translation>
+        <translation>&amp;Repor</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
     </message>
 </context>
 <context>
@@ -311,23 +319,23 @@
     </message>
     <message>
         <source>%1 has what %2 has already. Nothing would change.</source>
-        <translation>%1 contém o que %2 já tem. Nada mudaria.</translation>
+        <translation>%1 tem o que %2 já tem. Nada mudaria.</translation>
     </message>
     <message>
         <source>%1 would change the following in %2. The settings as they are now stay beside the new ones.</source>
-        <translation>%1 mudaria o seguinte no %2. Os ajustes atuais ficam guardados ao lado dos novos.</translation>
+        <translation>%1 alteraria o seguinte em %2. As definições atuais ficam ao lado das novas.</translation>
     </message>
     <message>
         <source>on</source>
-        <translation>ativados</translation>
+        <translation>ligados</translation>
     </message>
     <message>
         <source>off</source>
-        <translation>desativados</translation>
+        <translation>desligados</translation>
     </message>
     <message>
         <source>%1 (usual)</source>
-        <translation>%1 (usual)</translation>
+        <translation>%1 (habitual)</translation>
     </message>
     <message>
         <source>nothing</source>
@@ -346,19 +354,23 @@
         <translation>Um gesto começa com</translation>
     </message>
     <message>
-        <source>%1 of %2 directions</source>
-        <translation>%1 de %2 direções</translation>
+        <source>%1 (of %2 directions)</source>
+        <translation>%1 (de %2 direções)</translation>
     </message>
     <message>
         <source>%1: now %2, after %3</source>
         <translation>%1: agora %2, depois %3</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
     </message>
 </context>
 <context>
     <name>settings::MessageBar</name>
     <message>
         <source>Close message</source>
-        <translation>Fechar mensagem</translation>
+        <translation>Fechar a mensagem</translation>
     </message>
 </context>
 <context>
@@ -376,7 +388,7 @@
     <name>settings::ProgramPage</name>
     <message>
         <source>Switch Gestures &amp;On</source>
-        <translation>&amp;Ativar gestos</translation>
+        <translation>&amp;Ligar os gestos</translation>
     </message>
     <message>
         <source>Start with &amp;gestures</source>
@@ -396,23 +408,23 @@
     </message>
     <message>
         <source>Drag a command from the list into a direction. Drag it on to another direction to exchange the two, or off the ring to take it away.</source>
-        <translation>Arraste um comando da lista para uma direção. Arraste-o para outra para trocar as duas, ou para fora do anel para tirá-lo.</translation>
+        <translation>Arraste um comando da lista para uma direção. Arraste-o para outra para os trocar, ou para fora do anel para o tirar.</translation>
     </message>
     <message>
         <source>Gestures work. %1 starts with them from the desktop&apos;s menus.</source>
-        <translation>Os gestos funcionam. %1 inicia com eles pelos menus da área de trabalho.</translation>
+        <translation>Os gestos funcionam. %1 inicia com eles a partir dos menus do ambiente.</translation>
     </message>
     <message>
         <source>Gestures would work. Switch them on here, then start %1 from the desktop&apos;s menus.</source>
-        <translation>Os gestos funcionariam. Ative-os aqui e depois inicie %1 pelos menus da área de trabalho.</translation>
+        <translation>Os gestos funcionariam. Ligue-os aqui e depois inicie %1 a partir dos menus do ambiente.</translation>
     </message>
     <message>
         <source>These are the commands that nearly every program has. All others of %1 appear here when it has run with gestures once.</source>
-        <translation>Estes são os comandos que quase todo programa tem. Os outros de %1 aparecem aqui depois que ele rodar uma vez com gestos.</translation>
+        <translation>Estes são os comandos que quase todos os programas têm. Todos os outros de %1 aparecem aqui depois de ser executado uma vez com gestos.</translation>
     </message>
     <message>
         <source>%1: hold, drag, and move on towards a command</source>
-        <translation>%1: segure, arraste e siga até um comando</translation>
+        <translation>%1: manter, arrastar e seguir para um comando</translation>
     </message>
 </context>
 <context>
@@ -427,19 +439,19 @@
     </message>
     <message>
         <source>Space switches a program&apos;s gestures on or off.</source>
-        <translation>Espaço ativa ou desativa os gestos de um programa.</translation>
+        <translation>A barra de espaços liga ou desliga os gestos de um programa.</translation>
     </message>
     <message>
         <source>Looking for programs</source>
-        <translation>Procurando programas</translation>
+        <translation>A procurar programas</translation>
     </message>
     <message>
         <source>Looking for programs...</source>
-        <translation>Procurando programas...</translation>
+        <translation>A procurar programas...</translation>
     </message>
     <message>
         <source>The desktop&apos;s menus show no program in which gestures can work. Gestures need a program made with Qt Widgets.</source>
-        <translation>Os menus da área de trabalho não mostram nenhum programa em que os gestos funcionem. É preciso um programa feito com Qt Widgets.</translation>
+        <translation>Os menus do ambiente não mostram nenhum programa em que os gestos possam funcionar. É preciso um programa feito com Qt Widgets.</translation>
     </message>
     <message>
         <source>No program has this in its name.</source>
@@ -462,30 +474,30 @@
     </message>
     <message>
         <source>Picked up. Space at another direction exchanges the two.</source>
-        <translation>Pego. Espaço em outra direção troca as duas.</translation>
+        <translation>Apanhado. A barra de espaços noutra direção troca os dois.</translation>
     </message>
     <message>
         <source>Enter puts the chosen command here, Delete empties it, Space picks it up.</source>
-        <translation>Enter coloca aqui o comando escolhido, Delete esvazia, Espaço pega.</translation>
+        <translation>Enter põe aqui o comando escolhido, Delete esvazia, a barra de espaços apanha-o.</translation>
     </message>
 </context>
 <context>
     <name>settings::SettingsWindow</name>
     <message>
         <source>Mouse Gestures</source>
-        <translation>Gestos do mouse</translation>
+        <translation>Gestos do rato</translation>
     </message>
     <message>
         <source>Looking for programs...</source>
-        <translation>Procurando programas...</translation>
+        <translation>A procurar programas...</translation>
     </message>
     <message>
         <source>Main toolbar</source>
-        <translation>Barra de ferramentas principal</translation>
+        <translation>Barra principal</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation>&amp;Arquivo</translation>
+        <translation>&amp;Ficheiro</translation>
     </message>
     <message>
         <source>&amp;Start the Program</source>
@@ -493,7 +505,7 @@
     </message>
     <message>
         <source>&amp;Import...</source>
-        <translation>I&amp;mportar...</translation>
+        <translation>&amp;Importar...</translation>
     </message>
     <message>
         <source>&amp;Export...</source>
@@ -513,11 +525,11 @@
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation>&amp;Desfazer</translation>
+        <translation>&amp;Anular</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation>Desfazer</translation>
+        <translation>Anular</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
@@ -529,15 +541,15 @@
     </message>
     <message>
         <source>&amp;Find a Command</source>
-        <translation>&amp;Localizar um comando</translation>
+        <translation>&amp;Procurar um comando</translation>
     </message>
     <message>
         <source>Reset to &amp;First Commands...</source>
-        <translation>Restaurar os &amp;primeiros comandos...</translation>
+        <translation>Repor os &amp;primeiros comandos...</translation>
     </message>
     <message>
         <source>Reset...</source>
-        <translation>Restaurar...</translation>
+        <translation>Repor...</translation>
     </message>
     <message>
         <source>No program</source>
@@ -560,11 +572,11 @@
     </message>
     <message>
         <source>Back button</source>
-        <translation>Botão Voltar</translation>
+        <translation>Botão recuar</translation>
     </message>
     <message>
         <source>Forward button</source>
-        <translation>Botão Avançar</translation>
+        <translation>Botão avançar</translation>
     </message>
     <message>
         <source>Right button</source>
@@ -591,19 +603,19 @@
     <name>settings::TriggerField</name>
     <message>
         <source>Record what starts a gesture</source>
-        <translation>Gravar o que inicia um gesto</translation>
+        <translation>Registar o que inicia um gesto</translation>
     </message>
     <message>
         <source>Press a mouse button here, with the keys to hold. With the keyboard, choose from the list.</source>
-        <translation>Pressione aqui um botão do mouse com as teclas a segurar. Com o teclado, escolha da lista.</translation>
+        <translation>Prima aqui um botão do rato, com as teclas a manter. Com o teclado, escolha da lista.</translation>
     </message>
     <message>
         <source>Press a mouse button here, with Ctrl, Shift, Alt or Meta held if you like</source>
-        <translation>Pressione aqui um botão do mouse, com Ctrl, Shift, Alt ou Meta se quiser</translation>
+        <translation>Prima aqui um botão do rato, se quiser com Ctrl, Shift, Alt ou Meta</translation>
     </message>
     <message>
         <source>or press it here</source>
-        <translation>ou pressione aqui</translation>
+        <translation>ou prima-o aqui</translation>
     </message>
 </context>
 <context>
@@ -618,11 +630,11 @@
     </message>
     <message>
         <source>It takes effect at the program&apos;s next start.</source>
-        <translation>Vale a partir da próxima vez que o programa iniciar.</translation>
+        <translation>Tem efeito no próximo início do programa.</translation>
     </message>
     <message>
         <source>%1 (usual)</source>
-        <translation>%1 (usual)</translation>
+        <translation>%1 (habitual)</translation>
     </message>
 </context>
 </TS>

@@ -5,19 +5,19 @@
     <name>settings::Advice</name>
     <message>
         <source>%1 is no longer installed.</source>
-        <translation>%1 больше не установлена.</translation>
+        <translation>%1 больше не установлен.</translation>
     </message>
     <message>
         <source>Its commands and directions are kept. Install it again to use them.</source>
-        <translation>Её команды и направления сохранены. Установите её снова, чтобы ими пользоваться.</translation>
+        <translation>Его команды и направления сохранены. Установите его снова, чтобы ими пользоваться.</translation>
     </message>
     <message>
         <source>%1 is not made with Qt Widgets, so gestures cannot work in it.</source>
-        <translation>%1 сделана не на Qt Widgets, поэтому жесты в ней не работают.</translation>
+        <translation>%1 не использует Qt Widgets, поэтому жесты в нём работать не могут.</translation>
     </message>
     <message>
         <source>The part of Mouse Gestures that %1 needs is not installed.</source>
-        <translation>Часть «Жестов мыши», нужная для %1, не установлена.</translation>
+        <translation>Часть жестов мыши, нужная для %1, не установлена.</translation>
     </message>
     <message>
         <source>Install the package gesturewidget-qt6.</source>
@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>This desktop runs without X11, so the ring may open away from the pointer.</source>
-        <translation>Этот рабочий стол работает без X11, поэтому кольцо может открыться в стороне от указателя.</translation>
+        <translation>Этот рабочий стол работает без X11, и кольцо может открыться в стороне от указателя.</translation>
     </message>
     <message>
         <source>Log in with X11, or install XWayland.</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>Make that file and its folder yours, and writable.</source>
-        <translation>Сделайте этот файл и его папку своими и доступными для записи.</translation>
+        <translation>Сделайте файл и его папку своими и доступными для записи.</translation>
     </message>
     <message>
         <source>Gestures are switched off in the settings of %1.</source>
@@ -60,7 +60,7 @@
     <name>settings::BindingsEditor</name>
     <message>
         <source>The number of directions was changed elsewhere meanwhile.</source>
-        <translation>Число направлений тем временем изменили в другом месте.</translation>
+        <translation>Тем временем число направлений изменили в другом месте.</translation>
     </message>
     <message>
         <source>Empty %1</source>
@@ -68,11 +68,11 @@
     </message>
     <message>
         <source>Put &quot;%1&quot; %2</source>
-        <translation>Назначить «%1»: %2</translation>
+        <translation>«%1»: %2</translation>
     </message>
     <message>
         <source>Exchange %1 and %2</source>
-        <translation>Поменять: %1 и %2</translation>
+        <translation>Поменять местами: %1 и %2</translation>
     </message>
     <message>
         <source>Four Directions</source>
@@ -91,12 +91,16 @@
         <translation>Выключить жесты</translation>
     </message>
     <message>
+        <source>The left button alone is for drawing. Hold Ctrl, Shift, Alt or Meta with it.</source>
+        <translation>Левая кнопка сама по себе служит для рисования. Удерживайте с ней Ctrl, Shift, Alt или Meta.</translation>
+    </message>
+    <message>
         <source>Change What Starts a Gesture</source>
-        <translation>Изменить способ запуска</translation>
+        <translation>Изменить начало жеста</translation>
     </message>
     <message>
         <source>Reset to First Commands</source>
-        <translation>Вернуть исходные команды</translation>
+        <translation>Вернуть первые команды</translation>
     </message>
     <message>
         <source>Import</source>
@@ -115,11 +119,11 @@
     </message>
     <message>
         <source>Others</source>
-        <translation>Прочее</translation>
+        <translation>Другие</translation>
     </message>
     <message>
         <source>First commands</source>
-        <translation>Исходные команды</translation>
+        <translation>Первые команды</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -130,7 +134,7 @@
     <name>settings::CommandPanel</name>
     <message>
         <source>No command has this in its name.</source>
-        <translation>Ни в одном названии команды этого нет.</translation>
+        <translation>Нет команды с таким текстом в названии.</translation>
     </message>
     <message>
         <source>Search commands</source>
@@ -142,11 +146,11 @@
     </message>
     <message>
         <source>Ctrl and an arrow key puts the chosen command into that direction; Ctrl with Home, Page Up, End or Page Down into the one between.</source>
-        <translation>Ctrl и стрелка назначает выбранную команду этому направлению; Ctrl с Home, Page Up, End или Page Down — диагональному.</translation>
+        <translation>Ctrl со стрелкой помещает выбранную команду в это направление; Ctrl с Home, Page Up, End или Page Down — в промежуточное.</translation>
     </message>
     <message>
         <source>&amp;Put Into</source>
-        <translation>&amp;Назначить</translation>
+        <translation>&amp;Поместить в</translation>
     </message>
     <message>
         <source>%1 (now %2)</source>
@@ -201,7 +205,7 @@
     </message>
     <message>
         <source>up-left</source>
-        <translation>вверх и влево</translation>
+        <translation>вверх-влево</translation>
     </message>
     <message>
         <source>left</source>
@@ -209,7 +213,7 @@
     </message>
     <message>
         <source>down-left</source>
-        <translation>вниз и влево</translation>
+        <translation>вниз-влево</translation>
     </message>
     <message>
         <source>down</source>
@@ -217,7 +221,7 @@
     </message>
     <message>
         <source>down-right</source>
-        <translation>вниз и вправо</translation>
+        <translation>вниз-вправо</translation>
     </message>
     <message>
         <source>right</source>
@@ -225,7 +229,7 @@
     </message>
     <message>
         <source>up-right</source>
-        <translation>вверх и вправо</translation>
+        <translation>вверх-вправо</translation>
     </message>
 </context>
 <context>
@@ -272,15 +276,19 @@
     </message>
     <message>
         <source>Bring the first commands of %1 back?</source>
-        <translation>Вернуть исходные команды %1?</translation>
+        <translation>Вернуть первые команды %1?</translation>
     </message>
     <message>
         <source>All directions get the commands that they had before anybody chose any. What starts a gesture stays. Undo takes this back.</source>
-        <translation>Все направления получат исходные команды. Способ запуска останется. «Отменить» вернёт всё назад.</translation>
+        <translation>Все направления получат исходные команды. Начало жеста не изменится. «Отменить» вернёт всё назад.</translation>
     </message>
     <message>
         <source>&amp;Reset</source>
         <translation>&amp;Сбросить</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Отмена</translation>
     </message>
 </context>
 <context>
@@ -315,7 +323,7 @@
     </message>
     <message>
         <source>%1 would change the following in %2. The settings as they are now stay beside the new ones.</source>
-        <translation>%1 изменит в %2 следующее. Нынешние настройки сохранятся рядом с новыми.</translation>
+        <translation>%1 изменит в %2 следующее. Нынешние настройки останутся рядом с новыми.</translation>
     </message>
     <message>
         <source>on</source>
@@ -339,19 +347,23 @@
     </message>
     <message>
         <source>Directions in use</source>
-        <translation>Используется направлений</translation>
+        <translation>Число направлений</translation>
     </message>
     <message>
         <source>A gesture starts with</source>
-        <translation>Жест начинается с</translation>
+        <translation>Жест начинает</translation>
     </message>
     <message>
-        <source>%1 of %2 directions</source>
-        <translation>%1 из %2 направлений</translation>
+        <source>%1 (of %2 directions)</source>
+        <translation>%1 (из %2 направлений)</translation>
     </message>
     <message>
         <source>%1: now %2, after %3</source>
         <translation>%1: сейчас %2, после %3</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Отмена</translation>
     </message>
 </context>
 <context>
@@ -396,7 +408,7 @@
     </message>
     <message>
         <source>Drag a command from the list into a direction. Drag it on to another direction to exchange the two, or off the ring to take it away.</source>
-        <translation>Перетащите команду из списка на направление. Перетащите её на другое, чтобы поменять их местами, или за кольцо, чтобы убрать.</translation>
+        <translation>Перетащите команду из списка в направление. Перетащите её в другое, чтобы поменять их местами, или за кольцо, чтобы убрать.</translation>
     </message>
     <message>
         <source>Gestures work. %1 starts with them from the desktop&apos;s menus.</source>
@@ -404,15 +416,15 @@
     </message>
     <message>
         <source>Gestures would work. Switch them on here, then start %1 from the desktop&apos;s menus.</source>
-        <translation>Жесты смогут работать. Включите их здесь и запустите %1 из меню рабочего стола.</translation>
+        <translation>Жесты будут работать. Включите их здесь, затем запустите %1 из меню рабочего стола.</translation>
     </message>
     <message>
         <source>These are the commands that nearly every program has. All others of %1 appear here when it has run with gestures once.</source>
-        <translation>Это команды, которые есть почти в каждой программе. Остальные команды %1 появятся здесь после первого запуска с жестами.</translation>
+        <translation>Это команды, которые есть почти в любой программе. Остальные команды %1 появятся здесь после одного запуска с жестами.</translation>
     </message>
     <message>
         <source>%1: hold, drag, and move on towards a command</source>
-        <translation>%1: удерживайте, тяните и ведите дальше к команде</translation>
+        <translation>%1: удерживать, тянуть и дальше к команде</translation>
     </message>
 </context>
 <context>
@@ -439,11 +451,11 @@
     </message>
     <message>
         <source>The desktop&apos;s menus show no program in which gestures can work. Gestures need a program made with Qt Widgets.</source>
-        <translation>В меню рабочего стола нет программ, в которых могут работать жесты. Нужна программа на Qt Widgets.</translation>
+        <translation>В меню рабочего стола нет программы, в которой могут работать жесты. Нужна программа на Qt Widgets.</translation>
     </message>
     <message>
         <source>No program has this in its name.</source>
-        <translation>Ни в одном названии программы этого нет.</translation>
+        <translation>Нет программы с таким текстом в названии.</translation>
     </message>
 </context>
 <context>
@@ -462,11 +474,11 @@
     </message>
     <message>
         <source>Picked up. Space at another direction exchanges the two.</source>
-        <translation>Взято. Пробел на другом направлении меняет их местами.</translation>
+        <translation>Взято. Пробел на другом направлении поменяет их местами.</translation>
     </message>
     <message>
         <source>Enter puts the chosen command here, Delete empties it, Space picks it up.</source>
-        <translation>Enter назначает сюда выбранную команду, Delete очищает, пробел берёт её.</translation>
+        <translation>Enter помещает сюда выбранную команду, Delete очищает, пробел берёт её.</translation>
     </message>
 </context>
 <context>
@@ -481,7 +493,7 @@
     </message>
     <message>
         <source>Main toolbar</source>
-        <translation>Основная панель</translation>
+        <translation>Главная панель</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -533,15 +545,15 @@
     </message>
     <message>
         <source>Reset to &amp;First Commands...</source>
-        <translation>Вернуть &amp;исходные команды...</translation>
+        <translation>Вернуть &amp;первые команды...</translation>
     </message>
     <message>
         <source>Reset...</source>
-        <translation>Сброс...</translation>
+        <translation>Сбросить...</translation>
     </message>
     <message>
         <source>No program</source>
-        <translation>Нет программы</translation>
+        <translation>Нет программ</translation>
     </message>
     <message>
         <source>%1 could not be started.</source>
@@ -591,7 +603,7 @@
     <name>settings::TriggerField</name>
     <message>
         <source>Record what starts a gesture</source>
-        <translation>Записать способ запуска</translation>
+        <translation>Записать начало жеста</translation>
     </message>
     <message>
         <source>Press a mouse button here, with the keys to hold. With the keyboard, choose from the list.</source>
@@ -599,7 +611,7 @@
     </message>
     <message>
         <source>Press a mouse button here, with Ctrl, Shift, Alt or Meta held if you like</source>
-        <translation>Нажмите здесь кнопку мыши, можно с Ctrl, Shift, Alt или Meta</translation>
+        <translation>Нажмите здесь кнопку мыши, при желании с Ctrl, Shift, Alt или Meta</translation>
     </message>
     <message>
         <source>or press it here</source>
@@ -610,7 +622,7 @@
     <name>settings::TriggerPanel</name>
     <message>
         <source>A gesture &amp;starts with:</source>
-        <translation>Ж&amp;ест начинается с:</translation>
+        <translation>Жест &amp;начинает:</translation>
     </message>
     <message>
         <source>What starts a gesture</source>
@@ -618,7 +630,7 @@
     </message>
     <message>
         <source>It takes effect at the program&apos;s next start.</source>
-        <translation>Подействует при следующем запуске программы.</translation>
+        <translation>Действует со следующего запуска программы.</translation>
     </message>
     <message>
         <source>%1 (usual)</source>

@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Its commands and directions are kept. Install it again to use them.</source>
-        <translation>它的命令和方向已保留。重新安装即可使用。</translation>
+        <translation>它的命令和方向仍然保留。重新安装即可使用。</translation>
     </message>
     <message>
         <source>%1 is not made with Qt Widgets, so gestures cannot work in it.</source>
@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>The part of Mouse Gestures that %1 needs is not installed.</source>
-        <translation>%1 所需的鼠标手势组件未安装。</translation>
+        <translation>%1 所需的鼠标手势部分尚未安装。</translation>
     </message>
     <message>
         <source>Install the package gesturewidget-qt6.</source>
@@ -29,7 +29,7 @@
     </message>
     <message>
         <source>This desktop runs without X11, so the ring may open away from the pointer.</source>
-        <translation>此桌面没有 X11，圆环可能在远离指针处打开。</translation>
+        <translation>此桌面没有 X11，圆环可能不在指针处打开。</translation>
     </message>
     <message>
         <source>Log in with X11, or install XWayland.</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>Make that file and its folder yours, and writable.</source>
-        <translation>请将该文件及其文件夹设为您所有并可写。</translation>
+        <translation>请使该文件及其文件夹归您所有并可写。</translation>
     </message>
     <message>
         <source>Gestures are switched off in the settings of %1.</source>
@@ -68,11 +68,11 @@
     </message>
     <message>
         <source>Put &quot;%1&quot; %2</source>
-        <translation>放置“%1”：%2</translation>
+        <translation>“%1”：%2</translation>
     </message>
     <message>
         <source>Exchange %1 and %2</source>
-        <translation>交换：%1 和 %2</translation>
+        <translation>交换%1和%2</translation>
     </message>
     <message>
         <source>Four Directions</source>
@@ -84,15 +84,19 @@
     </message>
     <message>
         <source>Switch Gestures On</source>
-        <translation>启用手势</translation>
+        <translation>打开手势</translation>
     </message>
     <message>
         <source>Switch Gestures Off</source>
         <translation>关闭手势</translation>
     </message>
     <message>
+        <source>The left button alone is for drawing. Hold Ctrl, Shift, Alt or Meta with it.</source>
+        <translation>单独的左键用于绘图。请同时按住 Ctrl、Shift、Alt 或 Meta。</translation>
+    </message>
+    <message>
         <source>Change What Starts a Gesture</source>
-        <translation>更改触发方式</translation>
+        <translation>更改手势的触发方式</translation>
     </message>
     <message>
         <source>Reset to First Commands</source>
@@ -130,7 +134,7 @@
     <name>settings::CommandPanel</name>
     <message>
         <source>No command has this in its name.</source>
-        <translation>没有名称包含此内容的命令。</translation>
+        <translation>没有名称中包含此内容的命令。</translation>
     </message>
     <message>
         <source>Search commands</source>
@@ -142,16 +146,16 @@
     </message>
     <message>
         <source>Ctrl and an arrow key puts the chosen command into that direction; Ctrl with Home, Page Up, End or Page Down into the one between.</source>
-        <translation>Ctrl 加方向键将所选命令放到该方向；Ctrl 加 Home、Page Up、End 或 Page Down 放到斜向。</translation>
+        <translation>Ctrl 加方向键把所选命令放到该方向；Ctrl 加 Home、Page Up、End 或 Page Down 放到中间方向。</translation>
     </message>
     <message>
         <source>&amp;Put Into</source>
-        <translation>放入(&amp;P)</translation>
+        <translation>放到(&amp;P)</translation>
     </message>
     <message>
         <source>%1 (now %2)</source>
         <comment>a direction and its command</comment>
-        <translation>%1（现为 %2）</translation>
+        <translation>%1（现在是 %2）</translation>
     </message>
     <message>
         <source>Take Off the Ring</source>
@@ -264,7 +268,7 @@
     </message>
     <message>
         <source>The printer did not take the sheet.</source>
-        <translation>打印机未接受图页。</translation>
+        <translation>打印机未接受该页。</translation>
     </message>
     <message>
         <source>Reset</source>
@@ -272,15 +276,19 @@
     </message>
     <message>
         <source>Bring the first commands of %1 back?</source>
-        <translation>恢复 %1 的初始命令？</translation>
+        <translation>恢复 %1 的初始命令吗？</translation>
     </message>
     <message>
         <source>All directions get the commands that they had before anybody chose any. What starts a gesture stays. Undo takes this back.</source>
-        <translation>所有方向恢复为最初的命令，触发方式不变。可用“撤销”恢复。</translation>
+        <translation>所有方向恢复为最初的命令。手势的触发方式不变。撤销可还原。</translation>
     </message>
     <message>
         <source>&amp;Reset</source>
         <translation>重置(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -311,11 +319,11 @@
     </message>
     <message>
         <source>%1 has what %2 has already. Nothing would change.</source>
-        <translation>%1 与 %2 现有内容相同，不会有任何更改。</translation>
+        <translation>%1 的内容与 %2 已有的相同，不会有任何更改。</translation>
     </message>
     <message>
         <source>%1 would change the following in %2. The settings as they are now stay beside the new ones.</source>
-        <translation>%1 将在 %2 中更改以下内容。当前设置会保留在新设置旁边。</translation>
+        <translation>%1 将在 %2 中更改以下内容。现有设置会保留在新设置旁边。</translation>
     </message>
     <message>
         <source>on</source>
@@ -339,19 +347,23 @@
     </message>
     <message>
         <source>Directions in use</source>
-        <translation>使用的方向</translation>
+        <translation>使用的方向数</translation>
     </message>
     <message>
         <source>A gesture starts with</source>
         <translation>手势触发方式</translation>
     </message>
     <message>
-        <source>%1 of %2 directions</source>
+        <source>%1 (of %2 directions)</source>
         <translation>%1（共 %2 个方向）</translation>
     </message>
     <message>
         <source>%1: now %2, after %3</source>
         <translation>%1：现在 %2，之后 %3</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -376,7 +388,7 @@
     <name>settings::ProgramPage</name>
     <message>
         <source>Switch Gestures &amp;On</source>
-        <translation>启用手势(&amp;O)</translation>
+        <translation>打开手势(&amp;O)</translation>
     </message>
     <message>
         <source>Start with &amp;gestures</source>
@@ -396,23 +408,23 @@
     </message>
     <message>
         <source>Drag a command from the list into a direction. Drag it on to another direction to exchange the two, or off the ring to take it away.</source>
-        <translation>从列表将命令拖到某个方向。拖到另一方向可交换两者，拖出圆环可移除。</translation>
+        <translation>把命令从列表拖到一个方向。拖到另一个方向可交换两者，拖出圆环可移除。</translation>
     </message>
     <message>
         <source>Gestures work. %1 starts with them from the desktop&apos;s menus.</source>
-        <translation>手势可用。%1 从桌面菜单启动时带手势。</translation>
+        <translation>手势可用。从桌面菜单启动 %1 时会带手势。</translation>
     </message>
     <message>
         <source>Gestures would work. Switch them on here, then start %1 from the desktop&apos;s menus.</source>
-        <translation>手势可以使用。请在此启用，然后从桌面菜单启动 %1。</translation>
+        <translation>手势可以使用。请在此打开，然后从桌面菜单启动 %1。</translation>
     </message>
     <message>
         <source>These are the commands that nearly every program has. All others of %1 appear here when it has run with gestures once.</source>
-        <translation>这些是几乎每个程序都有的命令。%1 带手势运行一次后，其余命令会出现在这里。</translation>
+        <translation>这些是几乎每个程序都有的命令。%1 带手势运行一次后，其他命令会显示在这里。</translation>
     </message>
     <message>
         <source>%1: hold, drag, and move on towards a command</source>
-        <translation>%1：按住、拖动并移向某个命令</translation>
+        <translation>%1：按住并拖动，继续移向命令</translation>
     </message>
 </context>
 <context>
@@ -427,7 +439,7 @@
     </message>
     <message>
         <source>Space switches a program&apos;s gestures on or off.</source>
-        <translation>空格键开关程序的手势。</translation>
+        <translation>空格键打开或关闭程序的手势。</translation>
     </message>
     <message>
         <source>Looking for programs</source>
@@ -443,7 +455,7 @@
     </message>
     <message>
         <source>No program has this in its name.</source>
-        <translation>没有名称包含此内容的程序。</translation>
+        <translation>没有名称中包含此内容的程序。</translation>
     </message>
 </context>
 <context>
@@ -462,11 +474,11 @@
     </message>
     <message>
         <source>Picked up. Space at another direction exchanges the two.</source>
-        <translation>已拾取。在另一方向按空格键交换两者。</translation>
+        <translation>已拿起。在另一个方向按空格键可交换两者。</translation>
     </message>
     <message>
         <source>Enter puts the chosen command here, Delete empties it, Space picks it up.</source>
-        <translation>Enter 将所选命令放在此处，Delete 清空，空格键拾取。</translation>
+        <translation>Enter 把所选命令放到这里，Delete 清空，空格键拿起。</translation>
     </message>
 </context>
 <context>
@@ -533,7 +545,7 @@
     </message>
     <message>
         <source>Reset to &amp;First Commands...</source>
-        <translation>恢复初始命令(&amp;C)...</translation>
+        <translation>恢复初始命令(&amp;F)...</translation>
     </message>
     <message>
         <source>Reset...</source>
@@ -591,11 +603,11 @@
     <name>settings::TriggerField</name>
     <message>
         <source>Record what starts a gesture</source>
-        <translation>记录触发方式</translation>
+        <translation>录制手势的触发方式</translation>
     </message>
     <message>
         <source>Press a mouse button here, with the keys to hold. With the keyboard, choose from the list.</source>
-        <translation>在此按下鼠标键及要按住的键。使用键盘时请从列表中选择。</translation>
+        <translation>在此按下鼠标键及要按住的键。用键盘时请从列表中选择。</translation>
     </message>
     <message>
         <source>Press a mouse button here, with Ctrl, Shift, Alt or Meta held if you like</source>
@@ -614,7 +626,7 @@
     </message>
     <message>
         <source>What starts a gesture</source>
-        <translation>触发手势的方式</translation>
+        <translation>手势的触发方式</translation>
     </message>
     <message>
         <source>It takes effect at the program&apos;s next start.</source>

@@ -34,6 +34,11 @@ QString strokes(const QString &name)
          QStringLiteral("if p 3 3 21 3 21 21 3 21 z;b c 13 11 5;o p 6 18 18 6;g 6 18")},
         {QStringLiteral("fileNew"), QStringLiteral("if p 6 3 14 3 18 7 18 21 6 21 z;i p 14 3 14 7 18 7;"
                                                    "o p 9 14 15 14;o p 12 11 12 17")},
+        {QStringLiteral("fileNewWindow"),
+         QStringLiteral("if p 3 5 21 5 21 20 3 20 z;b p 3 9 21 9;o p 9 14.5 15 14.5;"
+                        "o p 12 11.5 12 17.5")},
+        {QStringLiteral("fileClose"), QStringLiteral("if p 3 5 21 5 21 20 3 20 z;b p 3 9 21 9;"
+                                                     "o p 9.5 12 14.5 17;o p 14.5 12 9.5 17")},
         {QStringLiteral("fileOpen"), QStringLiteral("if p 3 19 3 5 9 5 11 8 19 8 19 11;"
                                                     "bf p 3 19 7 11 22 11 18 19 z")},
         {QStringLiteral("fileSave"),

@@ -76,8 +76,8 @@ public:
     void expect(const QString &identifier, const QString &caption);
     // Goes on offering such a command although nobody has seen it when the menus are complete.
     void trust(const QStringList &identifiers);
-    // The same for every command that somebody has bound, because what earlier starts have seen is
-    // not known.
+    // The same for every command that somebody has bound, because nobody knows all commands of the
+    // program: it changes its menus, or what earlier starts have seen cannot be read.
     void trustAll() { m_trustsAll = true; }
     // Offers the commands from an earlier start, with the identifiers that they had. Call this
     // before anything else is known.

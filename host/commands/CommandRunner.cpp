@@ -12,10 +12,12 @@
 #include "sdk/od/OdEdCommand.h"
 #include "sdk/od/OdRxObjectImpl.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QPointer>
 #include <QWidget>
+
+#include <algorithm>
 
 namespace gesturewidget {
 namespace {
@@ -35,6 +37,21 @@ public:
 private:
     bool m_isFound;
 };
+
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("host", text);
+}
+
+void bringDialogToFront()
+{
+    QWidget *dialog = QApplication::activeModalWidget();
+    if (!dialog)
+        return;
+    dialog->setWindowState(dialog->windowState() & ~Qt::WindowMinimized);
+    dialog->raise();
+    dialog->activateWindow();
+}
 
 void pressEscape(QWidget *view)
 {
@@ -134,12 +151,21 @@ void CommandRunner::executeStackCommand(const QString &name)
 {
     // The pointer keeps the command while it runs, also when it is removed meanwhile.
     const OdSmartPtr<OdEdCommand> command = m_stack.lookupCommand(OdString(name));
+    if (!command) {
+        m_output.showForAWhile(translated("There is no command \"%1\".").arg(name));
+        return;
+    }
+    const OdEdCommand *running = command.get();
+    if (std::find(m_running.begin(), m_running.end(), running) != m_running.end()) {
+        bringDialogToFront();
+        return;
+    }
+    const QPointer<CommandRunner> self(this);
     const MainWindows::Hold hold(m_windows); // the command may show a dialog
-    if (command)
-        command->execute(nullptr);
-    else
-        m_output.showForAWhile(
-            QCoreApplication::translate("host", "There is no command \"%1\".").arg(name));
+    m_running.push_back(running);
+    command->execute(nullptr);
+    if (self)
+        m_running.erase(std::remove(m_running.begin(), m_running.end(), running), m_running.end());
 }
 
 void CommandRunner::trigger(const QString &name)

@@ -8,6 +8,8 @@
 #include <QObject>
 #include <QString>
 
+#include <vector>
+
 class OdEdCommand;
 
 namespace gesturewidget {
@@ -56,6 +58,7 @@ private:
     template <class Run> void queue(Run run);
     void execute(const QString &command);
     void executeMacro(const Macro &macro);
+    // Runs it, unless it runs already: then its dialog comes to the front.
     void executeStackCommand(const QString &name);
     void trigger(const QString &name);
     [[nodiscard]] QString absence(const ActionItem &item) const;
@@ -66,6 +69,7 @@ private:
     TextOutput &m_output;
     CHxDocumentManager *m_documents;
     MainWindows *m_windows;
+    std::vector<const OdEdCommand *> m_running; // commands of the stack that have not returned
 };
 
 } // namespace gesturewidget

@@ -4,6 +4,7 @@
 #include "host/commands/ExpectedCommands.h"
 
 #include "host/commands/WellKnownGuess.h"
+#include "host/files/RingSettings.h"
 #include "host/files/SettingsNames.h"
 
 namespace gesturewidget {
@@ -25,26 +26,19 @@ QMap<QString, QString> expectedCommands(const QHash<QString, QStringList> &wellK
     QMap<QString, QString> expected;
     for (auto it = wellKnown.begin(); it != wellKnown.end(); ++it)
         expected.insert(it.key(), captionFor(it.key()));
-    // Bindings are the settings whose keys are numbers, one for each direction.
-    const QString section = settingsnames::moduleSection() + QLatin1Char('/');
-    for (auto it = settings.begin(); it != settings.end(); ++it) {
-        bool isBinding = false;
-        if (it.key().startsWith(section))
-            static_cast<void>(
-                it.key().mid(section.size()).toUInt(&isBinding)); // clazy:exclude=qstring-ref
-        if (isBinding && !it.value().isEmpty())
-            expected.insert(it.value(), captionFor(it.value()));
-    }
+    const QStringList bound = ringsettings::boundCommands(settings);
+    for (const QString &identifier : bound)
+        expected.insert(identifier, captionFor(identifier));
     return expected;
 }
 
-QStringList trustedCommands(const SettingsFile::Values &settings)
+QStringList trustedCommands(const SettingsFile::Values &settings, const SettingsFile::Values &site)
 {
     QStringList identifiers =
         settings.value(SettingsFile::nameOf(settingsnames::hostSection(), settingsnames::importedKey()))
             .split(QLatin1Char('\n'));
     identifiers.removeAll(QString());
-    return identifiers;
+    return identifiers + QStringList(expectedCommands({}, site).keys());
 }
 
 } // namespace gesturewidget

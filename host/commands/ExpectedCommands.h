@@ -22,7 +22,8 @@ namespace gesturewidget {
                                                       const SettingsFile::Values &settings);
 
 // Returns the identifiers that are commands even if the program has never shown them, because they
-// were imported.
-[[nodiscard]] QStringList trustedCommands(const SettingsFile::Values &settings);
+// were imported or come from the administrator.
+[[nodiscard]] QStringList trustedCommands(const SettingsFile::Values &settings,
+                                          const SettingsFile::Values &site = {});
 
 } // namespace gesturewidget

@@ -7,6 +7,7 @@
 #include "host/commands/WellKnownGuess.h"
 #include "host/documents/ViewGuess.h"
 #include "host/files/ExplanationChannel.h"
+#include "host/files/TriggerText.h"
 #include "host/menus/ToolsMenu.h"
 #include "host/services/SystemServices.h"
 #include "host/window/Captions.h"
@@ -75,6 +76,8 @@ Explanation::Explanation(int socket, const ProgramProfile &profile, SystemServic
     : m_socket(socket)
     , m_profile(profile)
     , m_services(services)
+    , m_triggerButton(profile.triggerButton)
+    , m_triggerModifiers(profile.triggerModifiers)
 {
     m_soon.setSingleShot(true);
     m_soon.setInterval(kGatherTime);
@@ -101,6 +104,15 @@ void Explanation::addView(QWidget *view)
     if (reason.isEmpty())
         reason = ViewGuess::of(judged).reason;
     m_views.append({judged, classOf(judged), judged->objectName(), reason, isOfQt(judged)});
+    tellSoon();
+}
+
+void Explanation::noteTrigger(Qt::MouseButton button, Qt::KeyboardModifiers modifiers,
+                              const QString &reason)
+{
+    m_triggerButton = button;
+    m_triggerModifiers = modifiers;
+    m_triggerReason = reason;
     tellSoon();
 }
 
@@ -132,6 +144,7 @@ QJsonObject Explanation::report()
     if (const QMainWindow *current = window())
         findings.add(QStringLiteral("window"), describe(classOf(current), current->objectName()));
     explainViews(findings);
+    explainTrigger(findings);
     explainToolsMenu(findings);
     explainCommands(findings);
     QJsonObject profile = findings.profile.toJson();
@@ -195,6 +208,18 @@ void Explanation::explainOthers(Findings &findings) const
                                                     .arg(describe(classOf(other), other->objectName()),
                                                          ViewGuess::of(other).reason));
     }
+}
+
+void Explanation::explainTrigger(Findings &findings) const
+{
+    findings.profile.triggerButton = m_triggerButton;
+    findings.profile.triggerModifiers = m_triggerModifiers;
+    if (m_triggerReason.isEmpty())
+        return;
+    findings.add(QStringLiteral("trigger"),
+                 QStringLiteral("%1, since %2")
+                     .arg(triggerText(m_triggerButton, m_triggerModifiers), m_triggerReason));
+    findings.why.insert(QStringLiteral("trigger"), m_triggerReason);
 }
 
 void Explanation::explainToolsMenu(Findings &findings) const

@@ -31,6 +31,8 @@ public:
 
     // Adds a view, the widget that gets the pointer. Adding it again has no effect.
     void addView(QWidget *view);
+    // What starts a gesture, and why. Call this again when it changes.
+    void noteTrigger(Qt::MouseButton button, Qt::KeyboardModifiers modifiers, const QString &reason);
     // Call this when the menus are complete. Nothing is reported before.
     void menusSettled();
 
@@ -63,6 +65,7 @@ private:
     void explainOthers(Findings &findings) const;
     // The current main window; null if there is none.
     [[nodiscard]] QMainWindow *window() const;
+    void explainTrigger(Findings &findings) const;
     void explainToolsMenu(Findings &findings) const;
     void explainCommands(Findings &findings);
 
@@ -70,6 +73,9 @@ private:
     ProgramProfile m_profile;
     SystemServices &m_services;
     QVector<View> m_views;
+    Qt::MouseButton m_triggerButton;
+    Qt::KeyboardModifiers m_triggerModifiers;
+    QString m_triggerReason; // empty until noteTrigger()
     QJsonObject m_told;
     bool m_isSettled = false;
     QTimer m_soon;

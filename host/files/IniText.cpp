@@ -258,6 +258,12 @@ void IniText::set(const QString &name, const QString &value)
     m_lines.append({text, section, name});
 }
 
+void IniText::remove(const QString &name)
+{
+    const auto isIt = [&name](const Line &line) { return line.name == name; };
+    m_lines.erase(std::remove_if(m_lines.begin(), m_lines.end(), isIt), m_lines.end());
+}
+
 QByteArray IniText::text() const
 {
     QByteArray text;

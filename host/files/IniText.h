@@ -32,6 +32,8 @@ public:
     [[nodiscard]] QMap<QString, QString> values() const;
     // Changes a value where it stands, or adds it at the end of its section.
     void set(const QString &name, const QString &value);
+    // Removes a value, also if its key is repeated.
+    void remove(const QString &name);
     [[nodiscard]] QByteArray text() const;
 
 private:

@@ -25,12 +25,6 @@ QDir libraryFolder()
     return QFileInfo(QFile::decodeName(info.dli_fname)).absoluteDir();
 }
 
-QString configFolder()
-{
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
-         + QLatin1String("/gesturewidget");
-}
-
 // A script often starts a program beside it that has the script's name with an ending. People know
 // the script.
 QString withoutEnding(const QString &name)
@@ -78,9 +72,24 @@ QString moduleFile()
         QStringLiteral("gesturewidget-module-qt%1.so").arg(QT_VERSION_MAJOR));
 }
 
+QString ownFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
+         + QLatin1String("/gesturewidget");
+}
+
+QStringList siteFolders()
+{
+    QStringList folders = QStandardPaths::standardLocations(QStandardPaths::GenericConfigLocation);
+    folders.removeAll(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+    for (QString &folder : folders)
+        folder += QLatin1String("/gesturewidget");
+    return folders;
+}
+
 QString settingsFile(const QString &program)
 {
-    return QStringLiteral("%1/%2.ini").arg(configFolder(), program);
+    return QStringLiteral("%1/%2.ini").arg(ownFolder(), program);
 }
 
 QString catalogueFile(const QString &program)
@@ -97,7 +106,7 @@ QString catalogueFileBeside(const QString &settings)
 
 QString ownProfileFile(const QString &program)
 {
-    return QStringLiteral("%1/profiles/%2.json").arg(configFolder(), program);
+    return QStringLiteral("%1/profiles/%2.json").arg(ownFolder(), program);
 }
 
 QStringList profileFolders()
@@ -109,7 +118,12 @@ QStringList profileFolders(const QDir &folder)
 {
     QStringList folders = qEnvironmentVariable("GESTUREWIDGET_PROFILES").split(QLatin1Char(':'));
     folders.removeAll(QString());
-    folders.append(configFolder() + QLatin1String("/profiles"));
+    folders.append(ownFolder() + QLatin1String("/profiles"));
+    const QStringList sites = siteFolders();
+    for (const QString &site : sites) {
+        if (QFileInfo(site + QLatin1String("/profiles")).isDir())
+            folders.append(site + QLatin1String("/profiles"));
+    }
     // A library is in lib/ or, if sorted by architecture, one folder below; a program is in bin/.
     for (const char *up : {"..", "../.."}) {
         const QString path =

@@ -22,6 +22,11 @@ namespace gesturewidget {
                                         const QStringList &folders);
 // The module of this Qt version, beside this library.
 [[nodiscard]] QString moduleFile();
+// The user's own folder for settings.
+[[nodiscard]] QString ownFolder();
+// The folders for settings that an administrator provides for all users, the one that counts first
+// in front: below those of the environment variable XDG_CONFIG_DIRS.
+[[nodiscard]] QStringList siteFolders();
 // Where the bindings for a program are kept.
 [[nodiscard]] QString settingsFile(const QString &program);
 // Where the commands that a program has ever shown are kept, see CatalogueFile.
@@ -33,7 +38,7 @@ namespace gesturewidget {
 [[nodiscard]] QString ownProfileFile(const QString &program);
 // Folders with profiles; the first one that holds a profile counts. First come those of the
 // environment variable GESTUREWIDGET_PROFILES, separated by colons, then the user's own folder,
-// then the installed ones.
+// then the administrator's, then the installed ones.
 [[nodiscard]] QStringList profileFolders();
 // The same for a library or program in `folder`.
 [[nodiscard]] QStringList profileFolders(const QDir &folder);

@@ -11,6 +11,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QStandardPaths>
 
 #include <algorithm>
 
@@ -94,6 +95,14 @@ public:
         return value.toObject();
     }
 
+    bool flag(const QString &key)
+    {
+        const QJsonValue value = m_object.value(key);
+        if (!value.isUndefined() && !value.isBool())
+            fail(QStringLiteral("\"%1\" is neither true nor false").arg(m_path + key));
+        return value.toBool();
+    }
+
     QJsonValue value(const QString &key) const { return m_object.value(key); }
     QStringList keys() const { return m_object.keys(); }
 
@@ -120,6 +129,55 @@ void readTrigger(Reader &profileReader, ProgramProfile &profile)
             reader.fail(QStringLiteral("\"trigger.modifiers\" names no key: \"%1\"").arg(name));
         profile.triggerModifiers |= modifier;
     }
+    profile.hasTrigger = !reader.keys().isEmpty();
+    if (!reader.problem().isEmpty())
+        profileReader.fail(reader.problem());
+}
+
+// Reads what the program itself is set to, from one of its files in the folder for configuration.
+// Returns null if the file or the value is not there.
+QString ownSetting(const QString &file, const QString &before, const QString &behind)
+{
+    constexpr qint64 kMaximalFile = qint64(16) * 1024 * 1024;
+    const QString path =
+        QDir(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)).filePath(file);
+    const FileContent content = FileContent::read(path, kMaximalFile);
+    const QString text = QString::fromUtf8(content.bytes);
+    const auto found = content.isRead() ? text.indexOf(before) : -1;
+    if (found < 0)
+        return {};
+    const auto start = found + before.size();
+    const auto end = text.indexOf(behind, start);
+    return end < 0 ? QString() : text.mid(start, end - start);
+}
+
+// A trigger that depends on a setting of the program, such as how the mouse turns things.
+void readTriggerSetting(Reader &profileReader, ProgramProfile &profile)
+{
+    const QString key = QStringLiteral("triggerBySetting");
+    if (profileReader.value(key).isUndefined())
+        return;
+    Reader reader(profileReader.object(key), key + QLatin1Char('.'));
+    reader.allow({QStringLiteral("file"), QStringLiteral("before"), QStringLiteral("behind"),
+                  QStringLiteral("triggers")});
+    const QString file = reader.string(QStringLiteral("file"));
+    const QString before = reader.string(QStringLiteral("before"));
+    const QString behind = reader.string(QStringLiteral("behind"));
+    if (file.isEmpty() || QDir::isAbsolutePath(file) || before.isEmpty() || behind.isEmpty())
+        reader.fail(QStringLiteral("\"%1\" needs a file and what is around the value").arg(key));
+    const QJsonObject triggers = reader.object(QStringLiteral("triggers"));
+    const QString value = reader.problem().isEmpty() ? ownSetting(file, before, behind) : QString();
+    for (auto it = triggers.begin(); it != triggers.end(); ++it) {
+        Qt::MouseButton button = Qt::NoButton;
+        Qt::KeyboardModifiers modifiers = Qt::NoModifier;
+        if (!parseTrigger(it->toString(), button, modifiers) || !isUsableTrigger(button, modifiers)) {
+            reader.fail(QStringLiteral("\"%1.triggers.%2\" names no trigger").arg(key, it.key()));
+        } else if (it.key() == value) {
+            profile.triggerButton = button;
+            profile.triggerModifiers = modifiers;
+            profile.hasTrigger = true;
+        }
+    }
     if (!reader.problem().isEmpty())
         profileReader.fail(reader.problem());
 }
@@ -139,6 +197,46 @@ void readCommands(Reader &profileReader, ProgramProfile &profile)
         profileReader.fail(reader.problem());
 }
 
+void readRing(Reader &tasksReader, const QString &task, const QJsonObject &object,
+              ProgramProfile &profile)
+{
+    const QString path = QStringLiteral("tasks.firstBindings.%1.").arg(task);
+    Reader reader(object, path);
+    const QStringList keys = reader.keys();
+    for (const QString &key : keys) {
+        const int scheme = key.size() == 2 ? key.at(0).digitValue() : 0;
+        const int direction = key.size() == 2 ? key.at(1).digitValue() : 0;
+        if ((scheme != 4 && scheme != 8) || direction < 1 || direction > scheme)
+            reader.fail(QStringLiteral("\"%1\" is no direction").arg(path + key));
+        profile.taskBindings[task].insert(key, reader.string(key));
+    }
+    if (!reader.problem().isEmpty())
+        tasksReader.fail(reader.problem());
+}
+
+void readTasks(Reader &profileReader, ProgramProfile &profile)
+{
+    Reader reader(profileReader.object(QStringLiteral("tasks")), QStringLiteral("tasks."));
+    reader.allow({QStringLiteral("checkedActionBeside"), QStringLiteral("classOfView"),
+                  QStringLiteral("firstBindings")});
+    if (!reader.value(QStringLiteral("checkedActionBeside")).isUndefined())
+        profile.taskActions = reader.namesOf(QStringLiteral("checkedActionBeside"));
+    const QJsonValue byView = reader.value(QStringLiteral("classOfView"));
+    if (!byView.isUndefined() && !byView.isBool())
+        reader.fail(QStringLiteral("\"tasks.classOfView\" is not true or false"));
+    profile.isTaskOfView = byView.toBool();
+    if (profile.isTaskOfView && !profile.taskActions.isEmpty())
+        reader.fail(QStringLiteral("\"tasks\" names two ways to know the task"));
+    const QJsonObject rings = reader.object(QStringLiteral("firstBindings"));
+    for (auto it = rings.begin(); it != rings.end(); ++it) {
+        if (!it.value().isObject() || it.key().isEmpty())
+            reader.fail(QStringLiteral("\"tasks.firstBindings.%1\" is not an object").arg(it.key()));
+        readRing(reader, it.key(), it.value().toObject(), profile);
+    }
+    if (!reader.problem().isEmpty())
+        profileReader.fail(reader.problem());
+}
+
 // Returns what is wrong with the text; empty when `profile` could be filled.
 QString fill(ProgramProfile &profile, const QByteArray &text)
 {
@@ -146,7 +244,8 @@ QString fill(ProgramProfile &profile, const QByteArray &text)
     reader.allow({QStringLiteral("version"), QStringLiteral("program"), QStringLiteral("viewClasses"),
                   QStringLiteral("trigger"), QStringLiteral("wellKnownCommands"),
                   QStringLiteral("toolsMenu"), QStringLiteral("commandLineClass"),
-                  QStringLiteral("why")});
+                  QStringLiteral("changesMenus"), QStringLiteral("triggerBySetting"),
+                  QStringLiteral("tasks"), QStringLiteral("why")});
     // Reasons for the rest, for people who read the file.
     static_cast<void>(reader.object(QStringLiteral("why")));
     const QJsonValue version = reader.value(QStringLiteral("version"));
@@ -159,9 +258,12 @@ QString fill(ProgramProfile &profile, const QByteArray &text)
         reader.fail(QStringLiteral("\"program\" is \"%1\", not \"%2\"").arg(program, profile.program));
     profile.viewClasses = reader.strings(QStringLiteral("viewClasses"));
     readTrigger(reader, profile);
+    readTriggerSetting(reader, profile);
     readCommands(reader, profile);
+    readTasks(reader, profile);
     profile.toolsMenu = reader.string(QStringLiteral("toolsMenu"));
     profile.commandLineClass = reader.string(QStringLiteral("commandLineClass"));
+    profile.changesMenus = reader.flag(QStringLiteral("changesMenus"));
     return reader.problem();
 }
 
@@ -192,13 +294,35 @@ QJsonObject ProgramProfile::toJson() const
                                                     : QJsonValue(QJsonArray::fromStringList(names)));
     }
 
-    return {{QStringLiteral("version"), kVersion},
-            {QStringLiteral("program"), program},
-            {QStringLiteral("viewClasses"), QJsonArray::fromStringList(viewClasses)},
-            {QStringLiteral("trigger"), trigger},
-            {QStringLiteral("wellKnownCommands"), commands},
-            {QStringLiteral("toolsMenu"), toolsMenu},
-            {QStringLiteral("commandLineClass"), commandLineClass}};
+    QJsonObject profile{{QStringLiteral("version"), kVersion},
+                        {QStringLiteral("program"), program},
+                        {QStringLiteral("viewClasses"), QJsonArray::fromStringList(viewClasses)},
+                        {QStringLiteral("trigger"), trigger},
+                        {QStringLiteral("wellKnownCommands"), commands},
+                        {QStringLiteral("toolsMenu"), toolsMenu},
+                        {QStringLiteral("commandLineClass"), commandLineClass}};
+    if (changesMenus)
+        profile.insert(QStringLiteral("changesMenus"), true);
+    if (knowsTasks())
+        profile.insert(QStringLiteral("tasks"), tasksToJson());
+    return profile;
+}
+
+QJsonObject ProgramProfile::tasksToJson() const
+{
+    QJsonObject rings;
+    for (auto task = taskBindings.cbegin(); task != taskBindings.cend(); ++task) {
+        QJsonObject ring;
+        for (auto it = task.value().cbegin(); it != task.value().cend(); ++it)
+            ring.insert(it.key(), it.value());
+        rings.insert(task.key(), ring);
+    }
+    QJsonObject tasks{{QStringLiteral("firstBindings"), rings}};
+    if (isTaskOfView)
+        tasks.insert(QStringLiteral("classOfView"), true);
+    else
+        tasks.insert(QStringLiteral("checkedActionBeside"), QJsonArray::fromStringList(taskActions));
+    return tasks;
 }
 
 ProgramProfile ProgramProfile::forProgram(const QString &program, const QStringList &folders,

@@ -21,19 +21,36 @@ struct ProgramProfile
     QString program;
     // Class names of the views, the widgets that show drawings, or of their base classes.
     QStringList viewClasses;
-    // The button, and the keys held with it, that start a gesture.
+    // The button, and the keys held with it, that start a gesture. A profile may let them depend on
+    // a setting of the program ("triggerBySetting"). This is read once.
     Qt::MouseButton triggerButton = Qt::RightButton;
     Qt::KeyboardModifiers triggerModifiers = Qt::NoModifier;
+    // True if the file says so. Otherwise a program without flat drawings gets another trigger.
+    bool hasTrigger = false;
     // From a well-known identifier, such as "ID_LINE", to the names of the program's own action:
     // its object name, or its path of captions such as "File/Open...". A program that changes its
     // menus with the task may have several names; the first one counts whose action can be used at
     // the moment.
     QHash<QString, QStringList> wellKnownCommands;
+    // True if the program shows other menus and commands with each task. A command that was never
+    // seen may then turn up at any time.
+    bool changesMenus = false;
     // Object name or caption of the menu that gets the entry of the module; empty to look
     // for one called "Tools".
     QString toolsMenu;
+    // How the person's task is known, such as a workbench: the names of actions, of which the first
+    // that exists is in a group; the task is the object name of the group's checked action. Empty if
+    // the program has no such group.
+    QStringList taskActions;
+    // True if the task is the class of the active MDI child, or of the active view outside of any.
+    bool isTaskOfView = false;
+    // By task, the first bindings of a ring of its own: identifiers by the directions' keys, "81" to
+    // "88" and "41" to "44". What is missing comes from the shared ring.
+    QHash<QString, QHash<QString, QString>> taskBindings;
     // Class name of the line edit in which people type commands; empty when there is none.
     QString commandLineClass;
+
+    [[nodiscard]] bool knowsTasks() const { return isTaskOfView || !taskActions.isEmpty(); }
 
     // The content of a profile's file.
     [[nodiscard]] QJsonObject toJson() const;
@@ -44,6 +61,9 @@ struct ProgramProfile
     // with it. `message` may be null.
     [[nodiscard]] static ProgramProfile forProgram(const QString &program, const QStringList &folders,
                                                    QString *message);
+
+private:
+    [[nodiscard]] QJsonObject tasksToJson() const;
 };
 
 } // namespace gesturewidget

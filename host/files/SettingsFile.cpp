@@ -125,9 +125,12 @@ bool SettingsFile::change(const std::function<Values(const Values &)> &edit, con
     bool hasChanged = false;
     for (auto it = wanted.cbegin(); it != wanted.cend(); ++it) {
         const auto known = present.constFind(it.key());
-        if (known != present.cend() && *known == *it)
+        if (known == present.cend() ? it->isNull() : *known == *it && !it->isNull())
             continue;
-        ini.set(it.key(), it.value());
+        if (it->isNull())
+            ini.remove(it.key());
+        else
+            ini.set(it.key(), it.value());
         hasChanged = true;
     }
     if (hasChanged) {

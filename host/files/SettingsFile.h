@@ -23,7 +23,8 @@ namespace gesturewidget {
 class SettingsFile
 {
 public:
-    using Values = QMap<QString, QString>; // "section/key" to value
+    // "section/key" to value. Where values are written, a null one removes its key.
+    using Values = QMap<QString, QString>;
 
     explicit SettingsFile(const QString &path);
 

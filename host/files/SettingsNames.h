@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 // The names of what is kept in the settings of a program, as far as the host needs them itself.
 // The module names its own in bindings/SettingsKeys.h; a test compares the two.
@@ -21,6 +22,23 @@ namespace gesturewidget::settingsnames {
     return QStringLiteral("EnableMouseGesture");
 }
 
+// In the module's section: "4" or "8", the number of gestures.
+[[nodiscard]] inline QString schemeKey()
+{
+    return QStringLiteral("ActiveScheme");
+}
+
+// The module's fourteen keys, in the order in which it writes them for "Reset to Defaults".
+[[nodiscard]] inline QStringList moduleKeys()
+{
+    QStringList keys{QStringLiteral("EnableMouseGesture"), QStringLiteral("ActiveScheme")};
+    for (const int scheme : {4, 8}) {
+        for (int number = 1; number <= scheme; ++number)
+            keys.append(QString::number(10 * scheme + number));
+    }
+    return keys;
+}
+
 // The host's section.
 [[nodiscard]] inline QString hostSection()
 {
@@ -32,6 +50,19 @@ namespace gesturewidget::settingsnames {
 [[nodiscard]] inline QString triggerKey()
 {
     return QStringLiteral("Trigger");
+}
+
+// In the host's section: the trigger that the host has found to suit the program's drawings. It
+// counts where neither the person nor the profile names one.
+[[nodiscard]] inline QString usualTriggerKey()
+{
+    return QStringLiteral("UsualTrigger");
+}
+
+// In the host's section: "1" once the program has told the person what starts a gesture.
+[[nodiscard]] inline QString introducedKey()
+{
+    return QStringLiteral("Introduced");
 }
 
 // In the host's section: the identifiers that a person has imported, one a line. They come from

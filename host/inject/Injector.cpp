@@ -14,6 +14,7 @@
 #include <QEvent>
 #include <QMainWindow>
 #include <QMenuBar>
+#include <QTimer>
 
 #include <sys/socket.h>
 
@@ -23,6 +24,10 @@ using gesturewidget::GestureHost;
 
 namespace inject {
 namespace {
+
+// Milliseconds. Far more than a window needs to close, and less than the launcher waits before it
+// sends a signal.
+constexpr int kTimeToClose = 1500;
 
 void report(const char *text)
 {
@@ -138,8 +143,20 @@ void Injector::onExplanationRead()
     if (::recv(m_explanation, &ignored, 1, MSG_DONTWAIT) > 0)
         return;
     m_explanationEnd->setEnabled(false);
-    // Do not use quit(): it asks the windows, and nobody is there to answer.
-    QCoreApplication::exit(0);
+    endProgram();
+}
+
+void Injector::endProgram() const
+{
+    // A window may ask whether it may close, and nobody is there to answer. The question runs an
+    // event loop of its own, so the timer ends the program all the same.
+    QTimer::singleShot(kTimeToClose, QCoreApplication::instance(), [] { QCoreApplication::exit(0); });
+    // Programs that keep a session take any other end for a crash. A dialog that waits would keep
+    // its window from closing.
+    if (QWidget *dialog = QApplication::activeModalWidget())
+        dialog->close();
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(), [] { QApplication::closeAllWindows(); }, Qt::QueuedConnection);
 }
 
 } // namespace inject

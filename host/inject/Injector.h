@@ -48,6 +48,8 @@ private:
     void explainProblem(const QString &text) const;
     // Ends the program when the process that asked for an explanation has closed its end.
     void onExplanationRead();
+    // Closes the program's windows as a person does, and ends it in any case.
+    void endProgram() const;
 
     std::unique_ptr<gesturewidget::GestureHost> m_host;
     bool m_isLookQueued = false;

@@ -133,9 +133,15 @@ bool PointerFilter::filterWindow(QWindow *window, const QMouseEvent &event)
 
 bool PointerFilter::isTriggerPress(const QMouseEvent &event) const
 {
+    // If a program leaves a pen's events alone, Qt makes mouse events of them, and the pen's side
+    // button is the right one. Qt also makes them of touches, which press the left button.
+    const Qt::MouseEventSource source = event.source();
+    const bool isOfMouseOrPen =
+        source == Qt::MouseEventNotSynthesized
+        || (source == Qt::MouseEventSynthesizedByQt && event.button() != Qt::LeftButton);
     return event.type() == QEvent::MouseButtonPress && event.button() == m_trigger.button
         && event.buttons() == Qt::MouseButtons(m_trigger.button) && m_trigger.matches(event.modifiers())
-        && event.source() == Qt::MouseEventNotSynthesized;
+        && isOfMouseOrPen;
 }
 
 Document *PointerFilter::documentUnder(QWindow *window, const QMouseEvent &event) const

@@ -61,6 +61,9 @@ public:
     // taken belongs to the program. Twice the 20 pixels that a tracker waits for.
     static constexpr int kRefusedDistance = 40;
 
+    // Changes what starts a gesture. No gesture is under way.
+    void setTrigger(const Trigger &trigger) { m_trigger = trigger; }
+
 private:
     // A mouse event as a widget gets it: only shown to the trackers.
     void showToTrackers(Document &document, const QMouseEvent &event);
@@ -96,7 +99,7 @@ private:
     [[nodiscard]] Document *documentUnder(QWindow *window, const QMouseEvent &event) const;
 
     DocumentManager &m_documents;
-    const Trigger m_trigger;
+    Trigger m_trigger;
     const std::function<bool(const QWidget *view)> m_gesturesAreEnabled;
 
     State m_state = State::Idle;

@@ -4,12 +4,14 @@
 #include "host/services/ProfileStore.h"
 
 #include "host/files/Complaint.h"
+#include "host/files/SettingsNames.h"
 
 namespace gesturewidget {
 
 ProfileStore::ProfileStore(const QString &file)
     : m_path(file)
     , m_file(file)
+    , m_site(file)
 {
 }
 
@@ -20,11 +22,13 @@ ProfileStore::~ProfileStore()
 
 bool ProfileStore::Exists(const CHxString &section, const CHxString &key)
 {
+    m_resetPlace = 0;
     return valueOf(SettingsFile::nameOf(section.toQString(), key.toQString())) != nullptr;
 }
 
 OdResBufPtr ProfileStore::Get(const CHxString &section, const CHxString &key, int source)
 {
+    m_resetPlace = 0;
     if (source != kProfile)
         return {};
     const QString *value = valueOf(SettingsFile::nameOf(section.toQString(), key.toQString()));
@@ -38,20 +42,40 @@ bool ProfileStore::Set(const CHxString &section, const CHxString &key, const OdR
     const QString name = SettingsFile::nameOf(section.toQString(), key.toQString());
     const QString text = value->getString().toQString();
     const QString *known = valueOf(name);
-    if (known && *known == text)
-        return true;
+    if (!known || *known != text)
+        change(name, text.isNull() ? QStringLiteral("") : text);
+    noteReset(section.toQString(), key.toQString());
+    return true;
+}
+
+void ProfileStore::change(const QString &name, const QString &text)
+{
     m_pending.insert(name, text);
     if (!m_isScheduled)
         QMetaObject::invokeMethod(
             this, [this] { flush(); }, Qt::QueuedConnection);
     m_isScheduled = true;
-    return true;
 }
 
-const SettingsFile::Values &ProfileStore::values()
+void ProfileStore::noteReset(const QString &section, const QString &key)
+{
+    static const QStringList order = settingsnames::moduleKeys();
+    const bool isNext = section == settingsnames::moduleSection() && order.at(m_resetPlace) == key;
+    m_resetPlace = isNext ? m_resetPlace + 1 : 0;
+    if (m_resetPlace < order.size())
+        return;
+    m_resetPlace = 0;
+    for (const QString &each : order) {
+        const QString name = SettingsFile::nameOf(section, each);
+        if (m_site.values().contains(name))
+            change(name, QString());
+    }
+}
+
+SettingsFile::Values ProfileStore::values()
 {
     refresh();
-    return m_values;
+    return m_site.under(m_values);
 }
 
 bool ProfileStore::flush()
@@ -80,12 +104,16 @@ void ProfileStore::refresh()
 
 const QString *ProfileStore::valueOf(const QString &name)
 {
-    const auto pending = m_pending.constFind(name);
-    if (pending != m_pending.constEnd())
-        return &*pending;
+    const auto in = [&name](const SettingsFile::Values &values) {
+        const auto found = values.constFind(name);
+        return found == values.constEnd() ? nullptr : &*found;
+    };
+    const QString *pending = in(m_pending);
+    if (pending && !pending->isNull())
+        return pending;
     refresh();
-    const auto found = m_values.constFind(name);
-    return found == m_values.constEnd() ? nullptr : &*found;
+    const QString *own = pending ? nullptr : in(m_values); // it is to be removed
+    return own ? own : in(m_site.values());
 }
 
 } // namespace gesturewidget

@@ -13,10 +13,12 @@
 #include "host/files/ProgramProfile.h"
 #include "host/menus/CommandManager.h"
 #include "host/menus/UiManager.h"
+#include "host/services/CurrentTask.h"
 #include "host/services/HostEditor.h"
 #include "host/services/MessageBox.h"
 #include "host/services/ProfileStore.h"
 #include "host/services/SharedButtons.h"
+#include "host/services/TaskRings.h"
 #include "host/window/MainWindows.h"
 #include "host/window/TextOutput.h"
 
@@ -41,7 +43,10 @@ public:
         , documents(documentManager)
         , textOutput(mainWindow)
         , profileStore(settingsFile)
+        , knowsTasks(profile.knowsTasks())
         , catalogue(mainWindow, profile.wellKnownCommands)
+        , task(profile, catalogue, documentManager)
+        , rings(profileStore, [this] { return task.name(); })
         , runner(stack, catalogue, textOutput, documentManager, &windows)
         , uiManager(
               catalogue, profile.toolsMenu,
@@ -64,6 +69,10 @@ public:
             uiManager.removeWindow(window);
             catalogue.removeWindow(window);
         });
+        if (knowsTasks) {
+            QObject::connect(&windows, &MainWindows::holdBegins, &windows, [this] { holdRing(); });
+            QObject::connect(&windows, &MainWindows::holdEnds, &windows, [this] { releaseRing(); });
+        }
         if (!mainWindow)
             return; // without a program, nothing can be expected
         memory = std::make_unique<CatalogueMemory>(catalogue, catalogueFileBeside(settingsFile));
@@ -71,7 +80,9 @@ public:
             expectedCommands(profile.wellKnownCommands, profileStore.values());
         for (auto it = expected.begin(); it != expected.end(); ++it)
             catalogue.expect(it.key(), it.value());
-        catalogue.trust(trustedCommands(profileStore.values()));
+        if (profile.changesMenus)
+            catalogue.trustAll();
+        catalogue.trust(trustedCommands(profileStore.values(), profileStore.site().values()));
         QObject::connect(
             &catalogue, &CommandCatalogue::dropped, &catalogue, [this](const QStringList &identifiers) {
                 textOutput.showForAWhile(
@@ -87,6 +98,22 @@ public:
         runner.run(macro, false);
     }
 
+    // A dialog edits the ring over which it was opened, and says which one that is.
+    void holdRing()
+    {
+        task.hold();
+        const QString text =
+            rings.ring().isEmpty()
+                ? QCoreApplication::translate("host", "This is the ring of all tasks.")
+                : QCoreApplication::translate("host", "This is the ring of %1.").arg(task.caption());
+        textOutput.SetText(text, false);
+    }
+    void releaseRing()
+    {
+        task.release();
+        textOutput.SetText(QString(), false);
+    }
+
     MainWindows windows;
     CHxDocumentManager *documents;
     CHxApplication *application = nullptr;
@@ -95,7 +122,10 @@ public:
     HostEditor editor;
     TextOutput textOutput;
     ProfileStore profileStore;
+    bool knowsTasks;
     CommandCatalogue catalogue;
+    CurrentTask task;
+    TaskRings rings;
     std::unique_ptr<CatalogueMemory> memory; // null without a window
     CommandRunner runner;
     UiManager uiManager;
@@ -146,6 +176,11 @@ void SystemServices::stopRemembering()
         m_d->memory->stop();
 }
 
+void SystemServices::showForAWhile(const QString &text)
+{
+    m_d->textOutput.showForAWhile(text);
+}
+
 const ToolsMenu &SystemServices::toolsMenu() const
 {
     return m_d->uiManager.toolsMenu();
@@ -183,7 +218,7 @@ CHxTextOutput *SystemServices::GetTextOutput()
 
 CHxProfileStore *SystemServices::GetProfileStore()
 {
-    return &m_d->profileStore;
+    return &m_d->rings;
 }
 
 CHxUIManager *SystemServices::GetUIManager()

@@ -51,6 +51,8 @@ public:
     void startRemembering();
     void stopRemembering();
     [[nodiscard]] const ToolsMenu &toolsMenu() const;
+    // Shows a line in the status bar for some seconds.
+    void showForAWhile(const QString &text);
     // Not owned; null until set.
     void setApplication(CHxApplication *application);
     void setMainFrame(CHxMainFrame *mainFrame);

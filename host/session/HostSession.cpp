@@ -8,7 +8,6 @@
 #include "host/files/Complaint.h"
 #include "host/files/ProgramProfile.h"
 #include "host/files/SettingsNames.h"
-#include "host/files/TriggerText.h"
 #include "host/menus/ProgramLanguage.h"
 #include "host/services/HostEditor.h"
 #include "host/services/SystemServices.h"
@@ -91,8 +90,9 @@ bool HostSession::start(QString *error)
     odedSetCommandStack(&m_services->commandStack());
     odedSetEditor(&m_services->editor());
 
+    m_triggerChoice = std::make_unique<TriggerChoice>(profile, m_services->GetProfileStore());
     m_pointerFilter = std::make_unique<PointerFilter>(
-        m_documents, chosenTrigger({profile.triggerButton, profile.triggerModifiers}),
+        m_documents, m_triggerChoice->trigger(),
         [this](const QWidget *view) { return hasItsCommands(view) && gesturesAreEnabled(); });
     m_viewFinder =
         std::make_unique<ViewFinder>(profile.viewClasses, m_options.guesses && m_addedViews.isEmpty());
@@ -100,8 +100,10 @@ bool HostSession::start(QString *error)
     m_windowFinder = std::make_unique<WindowFinder>(
         m_services->windows(), [this](const QWidget *shown) { return hasDrawing(shown); });
     connectWindows();
-    if (const int listener = explanationListener(); listener >= 0)
+    if (const int listener = explanationListener(); listener >= 0) {
         m_explanation = std::make_unique<Explanation>(listener, profile, *m_services);
+        explainTrigger();
+    }
     connect(qApp, &QCoreApplication::aboutToQuit, this, &HostSession::finish);
 
     bool isLoaded = m_loader.load(m_options.moduleFile, reason);
@@ -258,9 +260,20 @@ void HostSession::openView(QWidget *view)
 {
     m_documents.open(view);
     m_windowFinder->consider(view->window());
+    // A program that names its views itself knows what its right button does.
+    if (m_options.guesses && m_triggerChoice->noteView(*view))
+        m_pointerFilter->setTrigger(m_triggerChoice->trigger());
+    explainTrigger();
     waitForAllMenus();
     if (m_explanation)
         m_explanation->addView(view);
+}
+
+void HostSession::explainTrigger()
+{
+    const Trigger trigger = m_triggerChoice->trigger();
+    if (m_explanation)
+        m_explanation->noteTrigger(trigger.button, trigger.modifiers, m_triggerChoice->reason());
 }
 
 void HostSession::waitForAllMenus()
@@ -269,26 +282,14 @@ void HostSession::waitForAllMenus()
         return;
     m_waitsForAllMenus = true;
     QTimer::singleShot(kTimeForMenus, this, [this] {
-        if (m_isRunning)
-            m_services->catalogue().endGuessing();
+        if (!m_isRunning)
+            return;
+        m_services->catalogue().endGuessing();
+        if (m_explanation)
+            return; // nobody is looking
+        if (const QString text = m_triggerChoice->introduction(); !text.isEmpty())
+            m_services->showForAWhile(text);
     });
-}
-
-Trigger HostSession::chosenTrigger(Trigger trigger) const
-{
-    CHxProfileStore *store = m_services->GetProfileStore();
-    const OdResBufPtr value = store ? store->Get(settingsnames::hostSection(),
-                                                 settingsnames::triggerKey(), CHxProfileStore::kProfile)
-                                    : OdResBufPtr();
-    const QString text = value ? value->getString().toQString() : QString();
-    if (text.isEmpty())
-        return trigger;
-    Trigger chosen = trigger;
-    if (parseTrigger(text, chosen.button, chosen.modifiers)
-        && isUsableTrigger(chosen.button, chosen.modifiers))
-        return chosen;
-    complain(QStringLiteral("the settings name no trigger: \"%1\"").arg(text));
-    return trigger;
 }
 
 bool HostSession::hasItsCommands(const QWidget *view)

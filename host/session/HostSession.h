@@ -12,6 +12,7 @@
 #include "host/services/MainFrame.h"
 #include "host/session/GestureHost.h"
 #include "host/session/ModuleLoader.h"
+#include "host/session/TriggerChoice.h"
 #include "host/session/WindowFinder.h"
 #include "host/window/MenuReadiness.h"
 
@@ -57,10 +58,9 @@ private:
     void connectWindows();
     // The menus of the first window are complete.
     void onMenusSettled();
+    void explainTrigger();
     // Takes the menus as complete some time after they have settled and a view is open.
     void waitForAllMenus();
-    // Returns the trigger from the person's settings, or else `trigger`.
-    [[nodiscard]] Trigger chosenTrigger(Trigger trigger) const;
     [[nodiscard]] bool gesturesAreEnabled() const;
     // True if a gesture in the view would run the commands of the window that it belongs to.
     [[nodiscard]] bool hasItsCommands(const QWidget *view);
@@ -88,6 +88,7 @@ private:
     MainFrame m_mainFrame;
     std::unique_ptr<SystemServices> m_services;
     ModuleLoader m_loader;
+    std::unique_ptr<TriggerChoice> m_triggerChoice;
     std::unique_ptr<PointerFilter> m_pointerFilter;
     std::unique_ptr<ViewFinder> m_viewFinder;
     std::unique_ptr<WindowFinder> m_windowFinder;

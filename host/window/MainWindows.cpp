@@ -14,14 +14,16 @@ namespace gesturewidget {
 MainWindows::Hold::Hold(MainWindows *windows)
     : m_windows(windows)
 {
-    if (m_windows)
-        ++m_windows->m_holds;
+    if (m_windows && ++m_windows->m_holds == 1)
+        Q_EMIT m_windows->holdBegins();
 }
 
 MainWindows::Hold::~Hold()
 {
-    if (m_windows && --m_windows->m_holds == 0)
-        m_windows->followActivation();
+    if (!m_windows || --m_windows->m_holds > 0)
+        return;
+    m_windows->followActivation();
+    Q_EMIT m_windows->holdEnds();
 }
 
 MainWindows::Turn::Turn(MainWindows *windows, QWidget *window)

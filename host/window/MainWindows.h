@@ -81,6 +81,9 @@ public:
 Q_SIGNALS:
     void added(QMainWindow *window);
     void currentChanged();
+    // The first Hold begins, the last one has ended.
+    void holdBegins();
+    void holdEnds();
     // The only window is about to go. `isComplete`: it is not half destroyed yet.
     void lastLeaves(bool isComplete);
     // The window is not the current one any more. It may be half destroyed.

@@ -29,10 +29,15 @@ constexpr TaskOption kTaskOptions[] = {
      QT_TRANSLATE_NOOP("launcher", "show which command lies in which direction")},
     {"--list-commands", CommandLine::Task::ListCommands, 0, 0, true, "PROGRAM [--json]",
      QT_TRANSLATE_NOOP("launcher", "show the commands that the program has shown so far")},
-    {"--bind", CommandLine::Task::Bind, 2, 2, false, "PROGRAM DIRECTION COMMAND",
-     QT_TRANSLATE_NOOP("launcher", "put a command into a direction. COMMAND is its identifier or its "
-                                   "caption, or \"none\". DIRECTION is up, left, down or right; with "
-                                   "eight gestures also up-left, down-left, down-right or up-right")},
+    {"--bind", CommandLine::Task::Bind, 2, 2, false, "PROGRAM DIRECTION COMMAND [--ring TASK]",
+     QT_TRANSLATE_NOOP(
+         "launcher",
+         "put a command into a direction. COMMAND is its identifier or its caption, or \"none\". "
+         "DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right "
+         "or up-right. With --ring TASK after it: in the ring of that task")},
+    {"--ring", CommandLine::Task::SetRing, 2, 2, false, "PROGRAM TASK own|shared",
+     QT_TRANSLATE_NOOP("launcher", "give a task, such as FreeCAD's SketcherWorkbench, a ring of its "
+                                   "own, or the shared one again")},
     {"--trigger", CommandLine::Task::SetTrigger, 1, 1, false, "PROGRAM TRIGGER",
      QT_TRANSLATE_NOOP("launcher", "choose what starts a gesture: right, middle, ctrl+right, ...; "
                                    "\"default\" is the usual trigger")},
@@ -57,6 +62,8 @@ constexpr TaskOption kTaskOptions[] = {
 };
 
 constexpr char kJson[] = "--json";
+constexpr char kAlways[] = "--always";
+constexpr char kRing[] = "--ring";
 constexpr char kHelp[] = "--help";
 constexpr char kVersion[] = "--version";
 
@@ -66,8 +73,15 @@ CommandLine parseTask(const TaskOption &option, QList<QByteArray> words)
     CommandLine line;
     if (option.mayBeJson)
         line.isJson = words.removeAll(kJson) > 0;
+    if (const auto at = words.indexOf(kRing); option.task == CommandLine::Task::Bind && at >= 0) {
+        line.ring = words.value(at + 1);
+        if (!line.ring.isEmpty()) {
+            words.removeAt(at);
+            words.removeAt(at);
+        }
+    }
     const auto count = static_cast<int>(words.size()) - 1; // without the program
-    if (count < option.least || count > option.most || words.first().isEmpty()) {
+    if (words.isEmpty() || count < option.least || count > option.most || words.first().isEmpty()) {
         line.complaint = Text::tr("usage: mouse-gestures %1 %2")
                              .arg(QLatin1String(option.name), QLatin1String(option.usage));
         return line;
@@ -101,7 +115,8 @@ CommandLine CommandLine::parse(const QList<QByteArray> &typed)
             if (option == task.name)
                 return parseTask(task, arguments.mid(1));
         }
-        if (option != "--") {
+        line.isAlways = option == kAlways;
+        if (option != "--" && !line.isAlways) {
             line.complaint = Text::tr("unknown option %1, see mouse-gestures --help")
                                  .arg(QString::fromLocal8Bit(option));
             return line;
@@ -148,8 +163,11 @@ QString helpText()
                           "with the mouse."));
     lines += QString();
     for (const TaskOption &task : kTaskOptions)
-        addRow(QLatin1String(task.name) + QLatin1Char(' ') + QLatin1String(task.usage), kUsage,
-               Text::tr(task.help));
+        addRow(QLatin1String(task.name) + QLatin1Char(' ')
+                   + QString::fromLatin1(task.usage).remove(QLatin1String(" [--ring TASK]")),
+               kUsage, Text::tr(task.help));
+    addRow(QStringLiteral("--always PROGRAM [ARGUMENTS...]"), kUsage,
+           Text::tr("start it without gestures if it cannot have them"));
     lines += QString();
     constexpr int kGeneral = 15;
     addRow(QStringLiteral("-h, --help"), kGeneral, Text::tr("show this text"));

@@ -25,6 +25,7 @@ struct CommandLine
         ListCommands, // may be JSON
         Bind, // direction, command
         SetTrigger, // trigger
+        SetRing, // task, "own" or "shared"
         Reset,
         Export, // file; "-" or nothing for standard output
         Import, // file; "-" for standard input
@@ -48,6 +49,8 @@ struct CommandLine
     // after the program.
     QList<QByteArray> arguments;
     bool isJson = false; // the output is wanted as JSON
+    bool isAlways = false; // with Task::Run: start the program without gestures if need be
+    QByteArray ring; // with Task::Bind: the task whose own ring is meant; empty for the shared ring
 };
 
 // Returns the text that `mouse-gestures --help` prints.

@@ -42,6 +42,25 @@ Outcome print(const Subject &subject, const QString &path, const ProgramSettings
     return printSheet(content, QFile::decodeName(launcherFolder() + kSheet), path);
 }
 
+Outcome setRing(ProgramSettings &settings, const CommandLine &line)
+{
+    const gesturewidget::ProgramProfile &profile = settings.profile;
+    if (!profile.knowsTasks())
+        return Outcome::failure(Text::tr("the profile of this program knows no tasks"));
+    const QString task = QString::fromLocal8Bit(line.arguments.value(0));
+    // A program's workbenches are entries of its menus; classes of views are not known here.
+    const bool isKnown = profile.isTaskOfView || profile.taskBindings.contains(task)
+                      || !settings.commands.captionOf(task).isEmpty();
+    if (!isKnown) {
+        QStringList known = profile.taskBindings.keys();
+        known.sort();
+        return Outcome::failure(Text::tr("there is no task \"%1\"; known ones are %2")
+                                    .arg(task, known.join(QStringLiteral(", "))));
+    }
+    return settings.tasks.setRing(task, QString::fromLocal8Bit(line.arguments.value(1)),
+                                  profile.taskBindings.value(task));
+}
+
 Outcome importStandardInput(SettingsTasks &tasks)
 {
     QByteArray text(SettingsTasks::kMaximalImport + 1, '\0'); // one more, to notice a longer text
@@ -97,8 +116,11 @@ int doSettingsTask(const CommandLine &line)
         return report(line.isJson ? settings.commands.listAsJson(subject.name)
                                   : settings.commands.list(subject.name));
     case Task::Bind:
+        tasks.chooseRing(QString::fromLocal8Bit(line.ring));
         return report(
             tasks.bind(QString::fromLocal8Bit(first), QString::fromLocal8Bit(line.arguments.value(1))));
+    case Task::SetRing:
+        return report(setRing(settings, line));
     case Task::SetTrigger:
         return report(tasks.setTrigger(QString::fromLocal8Bit(first)));
     case Task::Reset:

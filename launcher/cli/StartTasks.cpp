@@ -41,6 +41,17 @@ struct Start
             environment = withGestures(own, check.plugins, ::geteuid() == 0);
     }
 
+    // Prepares to start the program without gestures if it cannot have them. Returns false if there
+    // is no such program either.
+    bool preparePlain(const QByteArray &program)
+    {
+        if (status == 0)
+            return false;
+        path = Subject::of(program).path;
+        environment = readEnvironment(::environ);
+        return !path.isEmpty();
+    }
+
     int status = 0;
     QByteArray path;
     QList<QByteArray> arguments; // the first is the program as typed
@@ -71,10 +82,11 @@ constexpr char kWindow[] = "/mouse-gestures-settings";
 
 int startProgram(const CommandLine &line)
 {
-    const Start start(line);
-    if (start.status != 0)
+    Start start(line);
+    const bool mayBePlain = line.isAlways && start.preparePlain(line.program);
+    if (start.status != 0 && !mayBePlain)
         return start.status;
-    if (lacksX11(start.environment))
+    if (start.status == 0 && lacksX11(start.environment))
         complain(Text::tr("warning: there is no X11 display; under Wayland the ring may open "
                           "away from the pointer"),
                  0);

@@ -11,7 +11,9 @@ namespace {
 
 // Started with the launcher's path and the program's command.
 constexpr char kShell[] = "/bin/sh";
-constexpr char kScript[] = R"([ -x "$0" ] && exec "$0" "$@"; exec "$@")";
+constexpr char kScript[] = R"([ -x "$0" ] && exec "$0" --always "$@"; exec "$@")";
+// What earlier versions put there.
+constexpr char kOldScript[] = R"([ -x "$0" ] && exec "$0" "$@"; exec "$@")";
 
 // A character of the value without escapes, and its place in the value.
 struct Letter
@@ -173,7 +175,8 @@ QByteArray ExecLine::startedBy(const QByteArray &launcher) const
 
 QByteArray ExecLine::startedProgram() const
 {
-    const bool hasScript = program == kShell && arguments.value(1) == kScript;
+    const bool hasScript =
+        program == kShell && (arguments.value(1) == kScript || arguments.value(1) == kOldScript);
     // Earlier versions put the launcher itself there.
     return arguments.value(hasScript ? 3 : 0).replace("%%", "%");
 }

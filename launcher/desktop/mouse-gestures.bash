@@ -9,7 +9,7 @@ _mouse_gestures() {
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then
         if [[ $current == -* ]]; then
-            mapfile -t COMPREPLY < <(compgen -W "--bindings --list-commands --bind --trigger --reset --export \
+            mapfile -t COMPREPLY < <(compgen -W "--bindings --list-commands --bind --ring --trigger --reset --export \
                 --import --print --doctor --explain --enable --disable --help --version" -- "$current")
         else
             mapfile -t COMPREPLY < <(compgen -c -- "$current")
@@ -34,6 +34,8 @@ _mouse_gestures() {
                     --trigger) mapfile -t COMPREPLY < <(compgen -W "$triggers" -- "$current") ;;
                     --export | --import | --print) mapfile -t COMPREPLY < <(compgen -f -- "$current") ;;
                 esac
+            elif ((COMP_CWORD == 4)) && [[ $option == --ring ]]; then
+                mapfile -t COMPREPLY < <(compgen -W "own shared" -- "$current")
             elif ((COMP_CWORD == 4)) && [[ $option == --bind ]]; then
                 # Identifiers of plain letters only: compgen expands all others.
                 mapfile -t COMPREPLY < <(compgen -W "none $(mouse-gestures --list-commands \

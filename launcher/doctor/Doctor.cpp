@@ -6,7 +6,8 @@
 #include "host/files/PluginNames.h"
 #include "host/files/ProgramProfile.h"
 #include "host/files/SettingsFile.h"
-#include "host/files/TriggerText.h"
+#include "host/files/SettingsNames.h"
+#include "host/files/SiteSettings.h"
 #include "launcher/Columns.h"
 #include "launcher/settings/Bindings.h"
 #include "launcher/Text.h"
@@ -14,6 +15,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QMap>
 
 #include <dlfcn.h>
 #include <unistd.h>
@@ -22,6 +24,8 @@
 
 namespace launcher {
 namespace {
+
+namespace names = gesturewidget::settingsnames;
 
 // Beginnings of the lines.
 constexpr char kFine[] = "  ";
@@ -52,6 +56,8 @@ const char *nameOf(Matter matter)
         return QT_TRANSLATE_NOOP("launcher", "settings");
     case Matter::Gestures:
         return QT_TRANSLATE_NOOP("launcher", "gestures");
+    case Matter::Bindings:
+        return QT_TRANSLATE_NOOP("launcher", "bindings");
     case Matter::Trigger:
         return QT_TRANSLATE_NOOP("launcher", "trigger");
     }
@@ -172,6 +178,64 @@ bool isWritable(const QString &path, int how)
     return ::access(QFile::encodeName(path).constData(), how) == 0;
 }
 
+// Where each value comes from.
+struct Sources
+{
+    QString ownFile;
+    gesturewidget::SettingsFile::Values own;
+    gesturewidget::SiteSettings site;
+
+    // ", by FILE"; empty if no file has the value.
+    [[nodiscard]] QString of(const QString &section, const QString &key) const
+    {
+        const QString file = fileOf(section, key);
+        return file.isEmpty() ? QString() : Text::tr(", by %1").arg(file);
+    }
+    [[nodiscard]] QString fileOf(const QString &section, const QString &key) const
+    {
+        const QString name = gesturewidget::SettingsFile::nameOf(section, key);
+        return own.contains(name) ? ownFile : site.fileOf(name);
+    }
+};
+
+// "5 by FILE, 3 by FILE" for the directions of the scheme in use.
+QString sourcesOfBindings(const Sources &sources, int scheme)
+{
+    QMap<QString, int> counts;
+    for (int number = 1; number <= scheme; ++number)
+        ++counts[sources.fileOf(names::moduleSection(), QString::number(10 * scheme + number))];
+    QStringList texts;
+    for (auto it = counts.begin(); it != counts.end(); ++it) {
+        texts.append(it.key().isEmpty() ? Text::tr("%1 as nobody has chosen otherwise").arg(it.value())
+                                        : Text::tr("%1 by %2").arg(it.value()).arg(it.key()));
+    }
+    return texts.join(QStringLiteral(", "));
+}
+
+void reportChoices(const Sources &sources, const gesturewidget::ProgramProfile &profile, Report &report)
+{
+    const gesturewidget::SettingsFile::Values values = sources.site.under(sources.own);
+    const Bindings bindings = Bindings::fromSettings(values);
+    const QString enabledBy = sources.of(names::moduleSection(), names::enabledKey());
+    if (!bindings.enabled)
+        report.addProblem(Matter::Gestures, Text::tr("switched off in the settings") + enabledBy);
+    else
+        report.add(Matter::Gestures, Text::tr("on, %1 of them").arg(bindings.scheme) + enabledBy);
+    report.add(Matter::Bindings, sourcesOfBindings(sources, bindings.scheme));
+
+    const QString usual = Bindings::usualTrigger(profile, values);
+    const QString found = sources.of(names::hostSection(), names::usualTriggerKey());
+    if (!bindings.trigger.isEmpty())
+        report.add(Matter::Trigger,
+                   bindings.trigger + sources.of(names::hostSection(), names::triggerKey()));
+    else if (profile.hasTrigger)
+        report.add(Matter::Trigger, Text::tr("%1, by the profile").arg(usual));
+    else if (!found.isEmpty())
+        report.add(Matter::Trigger, Text::tr("%1, as suits the drawings").arg(usual));
+    else
+        report.add(Matter::Trigger, Text::tr("%1; ctrl+right if OpenGL paints the drawing").arg(usual));
+}
+
 void reportSettings(const Symptoms &symptoms, const gesturewidget::ProgramProfile &profile,
                     Report &report)
 {
@@ -191,17 +255,11 @@ void reportSettings(const Symptoms &symptoms, const gesturewidget::ProgramProfil
                                          ? symptoms.settingsFile
                                          : Text::tr("%1, not there yet").arg(symptoms.settingsFile));
 
-    const Bindings bindings =
-        canWrite && file.exists()
-            ? Bindings::fromSettings(gesturewidget::SettingsFile(symptoms.settingsFile).read())
-            : Bindings::initial();
-    if (!bindings.enabled)
-        report.addProblem(Matter::Gestures, Text::tr("switched off in the settings"));
-    else
-        report.add(Matter::Gestures, Text::tr("on, %1 of them").arg(bindings.scheme));
-    report.add(Matter::Trigger, bindings.trigger.isEmpty() ? gesturewidget::triggerText(
-                                    profile.triggerButton, profile.triggerModifiers)
-                                                           : bindings.trigger);
+    const gesturewidget::SettingsFile::Values own =
+        canWrite && file.exists() ? gesturewidget::SettingsFile(symptoms.settingsFile).read()
+                                  : gesturewidget::SettingsFile::Values();
+    reportChoices({symptoms.settingsFile, own, gesturewidget::SiteSettings(symptoms.settingsFile)},
+                  profile, report);
 }
 
 } // namespace

@@ -44,6 +44,7 @@ struct Finding
         Views,
         Settings,
         Gestures,
+        Bindings,
         Trigger
     };
 

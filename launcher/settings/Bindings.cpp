@@ -5,6 +5,7 @@
 
 #include "bindings/SettingsKeys.h"
 #include "host/files/SettingsNames.h"
+#include "host/files/TriggerText.h"
 
 #include <algorithm>
 
@@ -71,6 +72,18 @@ Bindings Bindings::fromSettings(const SettingsFile::Values &values)
     return bindings;
 }
 
+QString Bindings::usualTrigger(const gesturewidget::ProgramProfile &profile,
+                               const SettingsFile::Values &settings)
+{
+    const QString found = settings.value(
+        SettingsFile::nameOf(settingsnames::hostSection(), settingsnames::usualTriggerKey()));
+    Qt::MouseButton button = Qt::NoButton;
+    Qt::KeyboardModifiers keys = Qt::NoModifier;
+    if (profile.hasTrigger || !gesturewidget::parseTrigger(found, button, keys))
+        return gesturewidget::triggerText(profile.triggerButton, profile.triggerModifiers);
+    return gesturewidget::triggerText(button, keys);
+}
+
 Bindings Bindings::initial()
 {
     return fromSettings({});
@@ -105,6 +118,10 @@ SettingsFile::Values Bindings::toSettings() const
             values.insert(nameOf(keys.at(i)), (size == 4 ? four : eight).at(i));
     }
     values.insert(triggerName(), trigger);
+    for (QString &value : values) {
+        if (value.isNull()) // would mean that the key is to be removed
+            value = QStringLiteral("");
+    }
     return values;
 }
 

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "host/files/ProgramProfile.h"
 #include "host/files/SettingsFile.h"
 
 #include <QString>
@@ -35,6 +36,11 @@ struct Bindings
     void bind(int direction, const QString &command);
     // Exchanges the commands of two directions of the scheme in use.
     void swap(int direction, int other);
+
+    // What starts a gesture if the person chooses nothing: the profile's trigger, or what the host
+    // has found to suit the program when it ran; the right button before.
+    [[nodiscard]] static QString usualTrigger(const gesturewidget::ProgramProfile &profile,
+                                              const gesturewidget::SettingsFile::Values &settings);
 
     bool enabled = true;
     int scheme = 8; // 4 or 8

@@ -4,7 +4,8 @@
 #include "launcher/settings/ProgramSettings.h"
 
 #include "host/files/CatalogueFile.h"
-#include "host/files/TriggerText.h"
+#include "host/files/SettingsFile.h"
+#include "host/files/SiteSettings.h"
 #include "launcher/settings/Bindings.h"
 
 #include <algorithm>
@@ -27,8 +28,9 @@ ProgramSettings ProgramSettings::of(const Subject &subject)
 {
     const gesturewidget::ProgramProfile profile =
         gesturewidget::ProgramProfile::forProgram(subject.name, subject.profileFolders, nullptr);
-    const QString usualTrigger =
-        gesturewidget::triggerText(profile.triggerButton, profile.triggerModifiers);
+    const gesturewidget::SiteSettings site(subject.settingsFile());
+    const QString usualTrigger = Bindings::usualTrigger(
+        profile, site.under(gesturewidget::SettingsFile(subject.settingsFile()).read()));
     const KnownCommands commands = knownCommands(subject, profile);
     return {profile, usualTrigger, commands,
             SettingsTasks(subject.name, subject.settingsFile(), commands, usualTrigger)};

@@ -18,7 +18,7 @@ struct ProgramSettings
     [[nodiscard]] static ProgramSettings of(const Subject &subject);
 
     gesturewidget::ProgramProfile profile;
-    QString usualTrigger; // of the profile, see host/files/TriggerText.h
+    QString usualTrigger; // if the person has chosen none, see host/files/TriggerText.h
     KnownCommands commands;
     SettingsTasks tasks;
 };

@@ -5,6 +5,7 @@
 
 #include "host/files/FileContent.h"
 #include "host/files/FileWriter.h"
+#include "host/files/RingSettings.h"
 #include "host/files/SettingsFile.h"
 #include "host/files/SettingsNames.h"
 #include "host/files/TriggerText.h"
@@ -20,11 +21,7 @@ namespace {
 using gesturewidget::FileContent;
 using gesturewidget::FileWriter;
 using gesturewidget::SettingsFile;
-
-Bindings read(const QString &path)
-{
-    return Bindings::fromSettings(SettingsFile(path).read());
-}
+namespace ringsettings = gesturewidget::ringsettings;
 
 // What differs between two states of the settings.
 SettingsChange changeBetween(const Bindings &before, const Bindings &after)
@@ -39,6 +36,24 @@ SettingsChange changeBetween(const Bindings &before, const Bindings &after)
         change.after.insert(it.key(), it.value());
     }
     return change;
+}
+
+QString triggerName()
+{
+    return SettingsFile::nameOf(gesturewidget::settingsnames::hostSection(),
+                                gesturewidget::settingsnames::triggerKey());
+}
+
+// What a file with the values `own` holds after `written`.
+SettingsFile::Values merged(SettingsFile::Values own, const SettingsFile::Values &written)
+{
+    for (auto it = written.cbegin(); it != written.cend(); ++it) {
+        if (it.value().isNull())
+            own.remove(it.key());
+        else
+            own.insert(it.key(), it.value());
+    }
+    return own;
 }
 
 void report(const SettingsChange &change, SettingsChange *made)
@@ -88,6 +103,13 @@ void appendScheme(QByteArray &text, int scheme, const QStringList &commands, boo
     }
 }
 
+void appendRing(QByteArray &text, const Bindings &bindings, const KnownCommands &known)
+{
+    const bool isFour = bindings.scheme == 4;
+    appendScheme(text, isFour ? 4 : 8, isFour ? bindings.four : bindings.eight, true, known);
+    appendScheme(text, isFour ? 8 : 4, isFour ? bindings.eight : bindings.four, false, known);
+}
+
 // Reads a file that is to be imported.
 Outcome readText(const QString &path, QByteArray &text)
 {
@@ -113,6 +135,7 @@ SettingsTasks::SettingsTasks(const QString &program, const QString &file, const 
                              const QString &usualTrigger)
     : m_program(program)
     , m_file(file)
+    , m_site(file)
     , m_commands(commands)
     , m_usualTrigger(usualTrigger)
 {
@@ -121,7 +144,7 @@ SettingsTasks::SettingsTasks(const QString &program, const QString &file, const 
 Bindings SettingsTasks::bindings(QString *notice) const
 {
     SettingsFile file(m_file);
-    const Bindings bindings = Bindings::fromSettings(file.read());
+    const Bindings bindings = Bindings::fromSettings(m_site.under(file.read()));
     if (notice)
         *notice = file.notice();
     return bindings;
@@ -132,14 +155,21 @@ Outcome SettingsTasks::edit(const std::function<QString(Bindings &)> &edit, Sett
     SettingsFile file(m_file);
     QString complaint;
     SettingsChange change;
-    const bool isDone = file.change([&](const SettingsFile::Values &now) -> SettingsFile::Values {
-        const Bindings before = Bindings::fromSettings(now);
+    const bool isDone = file.change([&](const SettingsFile::Values &own) -> SettingsFile::Values {
+        const SettingsFile::Values now = m_site.under(own);
+        if (!m_ring.isEmpty() && !ringsettings::hasOwnRing(now, m_ring)) {
+            complaint = Text::tr("%1 has no ring of its own, see mouse-gestures --ring").arg(m_ring);
+            return {};
+        }
+        const SettingsFile::Values seen = ringsettings::seenIn(now, m_ring);
+        const Bindings before = Bindings::fromSettings(seen);
         Bindings after = before;
         complaint = edit(after);
         if (!complaint.isEmpty())
             return {};
         change = changeBetween(before, after);
-        return after.changesFrom(now);
+        const SettingsFile::Values changes = after.changesFrom(seen);
+        return m_ring.isEmpty() ? changes : ringsettings::movedTo(changes, m_ring);
     });
     if (!complaint.isEmpty())
         return Outcome::failure(complaint);
@@ -174,7 +204,8 @@ Outcome SettingsTasks::replace(const SettingsFile::Values &from, const SettingsF
 
 Outcome SettingsTasks::showBindings() const
 {
-    const Bindings bindings = read(m_file);
+    const SettingsFile::Values values = m_site.under(SettingsFile(m_file).read());
+    const Bindings bindings = Bindings::fromSettings(values);
     Outcome outcome;
     append(outcome.output,
            (bindings.enabled ? Text::tr("gestures in %1: on") : Text::tr("gestures in %1: off"))
@@ -182,18 +213,20 @@ Outcome SettingsTasks::showBindings() const
     append(outcome.output, bindings.trigger.isEmpty()
                                ? Text::tr("started with: %1 (default)").arg(m_usualTrigger)
                                : Text::tr("started with: %1").arg(bindings.trigger));
-    const bool isFour = bindings.scheme == 4;
-    appendScheme(outcome.output, isFour ? 4 : 8, isFour ? bindings.four : bindings.eight, true,
-                 m_commands);
-    appendScheme(outcome.output, isFour ? 8 : 4, isFour ? bindings.eight : bindings.four, false,
-                 m_commands);
+    appendRing(outcome.output, bindings, m_commands);
+    const QStringList tasks = ringsettings::ownRings(values);
+    for (const QString &task : tasks) {
+        append(outcome.output, Text::tr("ring of %1").arg(task));
+        appendRing(outcome.output, Bindings::fromSettings(ringsettings::seenIn(values, task)),
+                   m_commands);
+    }
     return outcome;
 }
 
 Outcome SettingsTasks::showBindingsAsJson() const
 {
     Outcome outcome;
-    outcome.output = bindingsToJson(read(m_file), m_program);
+    outcome.output = bindingsToJson(bindings(), m_program);
     return outcome;
 }
 
@@ -228,17 +261,42 @@ Outcome SettingsTasks::bind(const QString &direction, const QString &command)
     return outcome;
 }
 
+Outcome SettingsTasks::setRing(const QString &task, const QString &kind,
+                               const QHash<QString, QString> &first)
+{
+    const bool isOwn = kind == QLatin1String("own");
+    if (!isOwn && kind != QLatin1String("shared"))
+        return Outcome::failure(Text::tr("a ring is \"own\" or \"shared\", not \"%1\"").arg(kind));
+    SettingsFile file(m_file);
+    const bool isDone = file.change([&](const SettingsFile::Values &now) {
+        return isOwn ? ringsettings::ownRing(now, task, first, Bindings::fromSettings(now).toSettings())
+                     : ringsettings::sharedRing(task);
+    });
+    return outcomeOf(isDone, file);
+}
+
 Outcome SettingsTasks::reset(SettingsChange *made)
 {
     SettingsFile file(m_file);
     QString trigger;
     SettingsChange change;
-    const bool isDone = file.change([&](const SettingsFile::Values &now) {
-        const Bindings before = Bindings::fromSettings(now);
+    const bool isDone = file.change([&](const SettingsFile::Values &own) {
+        const Bindings before = Bindings::fromSettings(m_site.under(own));
+        trigger = before.trigger;
         Bindings bindings = Bindings::initial();
-        bindings.trigger = trigger = before.trigger;
-        change = changeBetween(before, bindings);
-        return bindings.toSettings();
+        bindings.trigger = Bindings::fromSettings(own).trigger;
+        SettingsFile::Values values = bindings.toSettings();
+        for (auto it = values.begin(); it != values.end(); ++it) {
+            const bool isOfModule =
+                it.key().startsWith(gesturewidget::settingsnames::moduleSection() + QLatin1Char('/'));
+            if (isOfModule && m_site.values().contains(it.key()))
+                it.value() = QString(); // so that the administrator's counts
+        }
+        const QString name = triggerName();
+        if (bindings.trigger.isEmpty() && m_site.values().contains(name))
+            values.remove(name);
+        change = changeBetween(before, Bindings::fromSettings(m_site.under(merged(own, values))));
+        return values;
     });
     report(isDone ? change : SettingsChange(), made);
     Outcome outcome = outcomeOf(isDone, file);
@@ -291,7 +349,7 @@ Outcome SettingsTasks::importText(const QByteArray &text, const QString &source,
     SettingsChange change;
     const bool isDone = file.change(
         [&](const SettingsFile::Values &now) {
-            change = changeBetween(Bindings::fromSettings(now), bindings);
+            change = changeBetween(Bindings::fromSettings(m_site.under(now)), bindings);
             return imported(bindings);
         },
         m_file + QLatin1String(".before-import"));
@@ -315,12 +373,20 @@ Outcome SettingsTasks::setTrigger(const QString &text, SettingsChange *made)
                                              "such as ctrl+left"));
         wanted = gesturewidget::triggerText(button, keys);
     }
-    return edit(
-        [&wanted](Bindings &bindings) {
-            bindings.trigger = wanted;
-            return QString();
-        },
-        made);
+    SettingsFile file(m_file);
+    SettingsChange change;
+    const bool isDone = file.change([&](const SettingsFile::Values &own) {
+        const bool isOfSite = wanted.isEmpty() && m_site.values().contains(triggerName());
+        SettingsFile::Values values;
+        values.insert(triggerName(), isOfSite          ? QString()
+                                     : wanted.isNull() ? QStringLiteral("")
+                                                       : wanted);
+        change = changeBetween(Bindings::fromSettings(m_site.under(own)),
+                               Bindings::fromSettings(m_site.under(merged(own, values))));
+        return values;
+    });
+    report(isDone ? change : SettingsChange(), made);
+    return outcomeOf(isDone, file);
 }
 
 } // namespace launcher

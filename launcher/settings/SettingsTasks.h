@@ -3,10 +3,12 @@
 
 #pragma once
 
+#include "host/files/SiteSettings.h"
 #include "launcher/Outcome.h"
 #include "launcher/settings/Bindings.h"
 #include "launcher/settings/KnownCommands.h"
 
+#include <QHash>
 #include <QString>
 
 #include <functional>
@@ -33,8 +35,12 @@ public:
     SettingsTasks(const QString &program, const QString &file, const KnownCommands &commands = {},
                   const QString &usualTrigger = QStringLiteral("right"));
 
-    // Reads the bindings from the file. `notice` is filled with one line if the file is damaged or
-    // cannot be read; it may be null.
+    // Lets bind() and edit() change the ring that a task has of its own, see host/files/RingSettings.h;
+    // empty for the shared ring.
+    void chooseRing(const QString &task) { m_ring = task; }
+
+    // Reads the bindings of the shared ring from the file. `notice` is filled with one line if the file
+    // is damaged or cannot be read; it may be null.
     [[nodiscard]] Bindings bindings(QString *notice = nullptr) const;
     // Gives `edit` the bindings as they are in the file now, and writes what it changes. No other
     // program writes in between. `edit` returns an empty text, or a line that says why nothing is
@@ -45,14 +51,20 @@ public:
     // changed one of its values since.
     [[nodiscard]] Outcome takeBack(const SettingsChange &change);
     [[nodiscard]] Outcome makeAgain(const SettingsChange &change);
-    // Both schemes, the one in use first, with the captions of the commands that are known.
+    // Both schemes, the one in use first, with the captions of the commands that are known; then the
+    // rings of single tasks.
     [[nodiscard]] Outcome showBindings() const;
     [[nodiscard]] Outcome showBindingsAsJson() const;
     // Binds a command to a direction of the scheme in use. KnownCommands::resolve() says how to
     // name the command; "" and "none" empty the direction. If the command had another direction of
     // that scheme, it loses that one.
     [[nodiscard]] Outcome bind(const QString &direction, const QString &command);
-    // Brings back all fourteen initial values. The trigger stays; the output says so.
+    // Gives a task a ring of its own, or lets it use the shared one again. `first` are the profile's
+    // first bindings for the task, by key.
+    [[nodiscard]] Outcome setRing(const QString &task, const QString &kind,
+                                  const QHash<QString, QString> &first);
+    // Brings back all fourteen initial values, which are the administrator's where there are some.
+    // The trigger stays; the output says so.
     [[nodiscard]] Outcome reset(SettingsChange *made = nullptr);
     // Writes all bindings as JSON to a file, in one step.
     [[nodiscard]] Outcome exportTo(const QString &path) const;
@@ -80,8 +92,10 @@ private:
 
     QString m_program;
     QString m_file;
+    gesturewidget::SiteSettings m_site;
     KnownCommands m_commands;
     QString m_usualTrigger;
+    QString m_ring;
 };
 
 } // namespace launcher

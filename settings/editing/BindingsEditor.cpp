@@ -3,6 +3,8 @@
 
 #include "settings/editing/BindingsEditor.h"
 
+#include "host/files/TriggerText.h"
+
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QFileInfo>
@@ -197,6 +199,14 @@ bool BindingsEditor::setEnabled(bool isEnabled)
 
 bool BindingsEditor::setTrigger(const QString &trigger)
 {
+    Qt::MouseButton button = Qt::NoButton;
+    Qt::KeyboardModifiers keys = Qt::NoModifier;
+    if (gesturewidget::parseTrigger(trigger, button, keys)
+        && !gesturewidget::isUsableTrigger(button, keys)) {
+        Q_EMIT failed(
+            tr("The left button alone is for drawing. Hold Ctrl, Shift, Alt or Meta with it."));
+        return false;
+    }
     SettingsChange made;
     const Outcome outcome = m_settings.tasks.setTrigger(trigger, &made);
     return finish(outcome, made, tr("Change What Starts a Gesture"));

@@ -88,11 +88,12 @@ void Exchange::reset(BindingsEditor &editor)
 {
     QMessageBox question(QMessageBox::Question, tr("Reset"),
                          tr("Bring the first commands of %1 back?").arg(editor.title()),
-                         QMessageBox::Cancel, m_window);
+                         QMessageBox::NoButton, m_window);
     question.setInformativeText(
         tr("All directions get the commands that they had before anybody chose any. What starts a "
            "gesture stays. Undo takes this back."));
     const QPushButton *yes = question.addButton(tr("&Reset"), QMessageBox::AcceptRole);
+    question.setEscapeButton(question.addButton(tr("&Cancel"), QMessageBox::RejectRole));
     question.exec();
     if (question.clickedButton() == yes)
         editor.reset();

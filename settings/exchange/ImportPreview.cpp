@@ -35,7 +35,7 @@ ImportPreview::ImportPreview(const BindingsEditor &editor, const launcher::Bindi
     label->setTextFormat(Qt::PlainText);
     auto *buttons = new QDialogButtonBox(this);
     QPushButton *import = buttons->addButton(tr("&Import"), QDialogButtonBox::AcceptRole);
-    buttons->addButton(QDialogButtonBox::Cancel);
+    buttons->addButton(tr("&Cancel"), QDialogButtonBox::RejectRole);
     if (changes() == 0) {
         label->setText(
             tr("%1 has what %2 has already. Nothing would change.").arg(source, editor.title()));
@@ -83,9 +83,13 @@ void ImportPreview::compare(const BindingsEditor &editor, const launcher::Bindin
         const QStringList &before = scheme == 4 ? present.four : present.eight;
         const QStringList &after = scheme == 4 ? wanted.four : wanted.eight;
         for (int i = 0; i < scheme; ++i) {
-            if (before.at(i) != after.at(i))
-                addLine(tr("%1 of %2 directions").arg(directionInWords(names.at(i))).arg(scheme),
-                        command(before.at(i)), command(after.at(i)));
+            if (before.at(i) == after.at(i))
+                continue;
+            const QString direction = directionInWords(names.at(i));
+            addLine(tr("%1 (of %2 directions)")
+                        .arg(direction.left(1).toUpper() + direction.mid(1))
+                        .arg(scheme),
+                    command(before.at(i)), command(after.at(i)));
         }
     }
 }

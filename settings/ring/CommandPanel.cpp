@@ -189,6 +189,13 @@ ShownCommand CommandPanel::chosenCommand() const
     return CommandModel::commandAt(m_view->currentIndex());
 }
 
+void CommandPanel::clearSearch()
+{
+    m_search->clear();
+    m_view->selectionModel()->clear();
+    m_view->scrollToTop();
+}
+
 void CommandPanel::focusSearch()
 {
     m_search->setFocus(Qt::ShortcutFocusReason);
@@ -202,10 +209,22 @@ void CommandPanel::filter(const QString &text)
     const bool isEmpty = m_filter->rowCount() == 0;
     m_nothing->setVisible(isEmpty);
     m_view->setVisible(!isEmpty);
-    // What was typed means the first command that has it.
-    if (!text.isEmpty() && !isEmpty)
-        m_view->setCurrentIndex(m_filter->index(0, 0, m_filter->index(0, 0)));
+    if (!text.trimmed().isEmpty() && !isEmpty)
+        m_view->setCurrentIndex(bestHit(text.trimmed()));
     updateButton();
+}
+
+QModelIndex CommandPanel::bestHit(const QString &text) const
+{
+    for (int row = 0; row < m_filter->rowCount(); ++row) {
+        const QModelIndex menu = m_filter->index(row, 0);
+        for (int i = 0; i < m_filter->rowCount(menu); ++i) {
+            const QModelIndex index = m_filter->index(i, 0, menu);
+            if (index.data().toString().startsWith(text, Qt::CaseInsensitive))
+                return index;
+        }
+    }
+    return m_filter->index(0, 0, m_filter->index(0, 0));
 }
 
 void CommandPanel::fillMenu(QMenu &menu)

@@ -56,6 +56,8 @@ public:
     // The command that is chosen in the list; its identifier is empty if there is none.
     [[nodiscard]] ShownCommand chosenCommand() const;
     void focusSearch();
+    // Shows all commands, and chooses none.
+    void clearSearch();
 
 Q_SIGNALS:
     void dragBegun(const settings::ShownCommand &command, QWidget *source);
@@ -69,6 +71,8 @@ private:
     void fillMenu(QMenu &menu);
     void showMenu(const QPoint &position);
     void filter(const QString &text);
+    // What was typed means the first command that begins with it, or else the first that has it.
+    [[nodiscard]] QModelIndex bestHit(const QString &text) const;
     void updateButton();
 
     CommandModel *m_model;

@@ -17,6 +17,7 @@ namespace settings {
 namespace {
 
 constexpr char kUsual[] = "default";
+constexpr int kListWidth = 10; // characters; on a narrow screen, a longer entry is cut off
 
 } // namespace
 
@@ -31,6 +32,8 @@ TriggerPanel::TriggerPanel(QWidget *parent)
     const QString when = tr("It takes effect at the program's next start.");
     m_list->setToolTip(when);
     m_list->setAccessibleDescription(when);
+    m_list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_list->setMinimumContentsLength(kListWidth);
     m_list->installEventFilter(this);
     auto *field = new TriggerField(this);
 

@@ -56,8 +56,10 @@ QString MessageBar::text() const
     return isHidden() ? QString() : m_label->text();
 }
 
-void MessageBar::showText(const QString &text, bool isComplaint)
+void MessageBar::showText(const QString &line, bool isComplaint)
 {
+    // The launcher's lines follow the name of a program or a file on a terminal, and begin small.
+    const QString text = line.left(1).toUpper() + line.mid(1);
     const int side = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
     m_icon->setPixmap(
         style()

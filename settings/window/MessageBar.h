@@ -27,7 +27,7 @@ public:
     [[nodiscard]] QString text() const;
 
 private:
-    void showText(const QString &text, bool isComplaint);
+    void showText(const QString &line, bool isComplaint);
 
     QLabel *m_icon;
     QLabel *m_label;

@@ -26,6 +26,7 @@ namespace {
 
 constexpr int kIconSize = 48; // pixels
 constexpr int kBetween = 14; // pixels
+constexpr int kCommandsWidth = 14; // heights of a line of text
 constexpr double kTitleGrowth = 1.5;
 
 } // namespace
@@ -120,6 +121,7 @@ QWidget *ProgramPage::createRing()
 QWidget *ProgramPage::createCommands()
 {
     auto *side = new QWidget(this);
+    side->setMinimumWidth(kCommandsWidth * fontMetrics().height());
     m_commands = new CommandPanel(side);
     m_firstHint = new QLabel(side);
     m_firstHint->setObjectName(QStringLiteral("first_hint"));
@@ -194,6 +196,7 @@ void ProgramPage::showProgram(BindingsEditor *editor, const QIcon &icon, bool is
         examine();
     });
     connect(editor, &BindingsEditor::commandsChanged, this, &ProgramPage::showCommands);
+    m_commands->clearSearch();
     m_icon->setPixmap(icon.pixmap(kIconSize, kIconSize));
     m_title->setText(editor->title());
     m_isOn = isOn;

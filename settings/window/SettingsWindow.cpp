@@ -253,8 +253,11 @@ void SettingsWindow::offerFirst()
 
 void SettingsWindow::choose(int row)
 {
+    m_message->hide(); // it was about another program
     m_chosen = m_model.program(row);
     m_editor = editorOf(m_chosen);
+    if (!m_editor->notice().isEmpty())
+        m_message->complain(m_editor->notice());
     m_undo.setActiveStack(m_editor->undoStack());
     m_page->showProgram(m_editor, m_model.index(row).data(Qt::DecorationRole).value<QIcon>(),
                         m_model.isOn(row));
@@ -268,11 +271,11 @@ BindingsEditor *SettingsWindow::editorOf(const launcher::MenuProgram &program)
     BindingsEditor *&editor = m_editors[program.typed];
     if (!editor) {
         editor = new BindingsEditor(launcher::Subject::of(program.typed), program.name, this);
+        // What was said before is done with. What went wrong now is said after this.
+        connect(editor, &BindingsEditor::bindingsChanged, m_message, &QWidget::hide);
         connect(editor, &BindingsEditor::failed, m_message, &MessageBar::complain);
         connect(editor, &BindingsEditor::noticed, m_message, &MessageBar::complain);
         m_undo.addStack(editor->undoStack());
-        if (!editor->notice().isEmpty())
-            m_message->complain(editor->notice());
     }
     return editor;
 }

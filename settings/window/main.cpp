@@ -6,13 +6,11 @@
 
 #include "host/language/LanguageChoice.h"
 #include "host/language/Translations.h"
-#include "sdk/QtBridge.h"
 #include "settings/window/SettingsWindow.h"
 
 #include <QApplication>
 #include <QIcon>
 #include <QLocale>
-#include <QTranslator>
 
 int main(int argc, char **argv)
 {
@@ -21,13 +19,9 @@ int main(int argc, char **argv)
     QApplication::setApplicationDisplayName(QString());
     QGuiApplication::setDesktopFileName(QStringLiteral("mouse-gestures"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("mouse-gestures")));
-    const QString language = gesturewidget::chooseLanguage(QLocale::system().uiLanguages(),
-                                                           gesturewidget::Translations::languages());
-    QTranslator ofQt; // the buttons of its dialogs, if it is installed
-    if (ofQt.load(QStringLiteral("qtbase_") + language, qtbridge::translationsFolder()))
-        QApplication::installTranslator(&ofQt);
     gesturewidget::Translations translations;
-    translations.install(language);
+    translations.install(gesturewidget::chooseLanguage(QLocale::system().uiLanguages(),
+                                                       gesturewidget::Translations::languages()));
     settings::SettingsWindow window;
     window.show();
     return QApplication::exec();

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void openingWithGesturesDisabled();
     void openingWithGesturesEnabled();
     void openingWithFourScheme();
+    void openingShowsWhatWasChangedElsewhere();
     void enableBoxSwitchesTheControls();
     void switchingToFourGestures();
     void switchingBackToEightLeavesResetAsItIs();
@@ -190,6 +191,25 @@ void ConfigurationDialogTest::openingWithFourScheme()
     tests::click(m_dialog->ui.command_tableView, m_dialog->cell(0, kDirection));
     QVERIFY(m_dialog->editor());
     QCOMPARE(m_dialog->editor()->count(), 5);
+}
+
+// A command line, another window or another task may have changed the settings since the last gesture.
+void ConfigurationDialogTest::openingShowsWhatWasChangedElsewhere()
+{
+    MgDonutDataContainer::instance()->init();
+    QVERIFY(!MgDonutDataContainer::instance()->isBehindSettings());
+    m_host->store.values.insert(QStringLiteral("87"), QStringLiteral("ID_COPY"));
+    m_host->store.values.insert(QStringLiteral("84"), QString());
+    m_host->store.values.insert(QStringLiteral("ActiveScheme"), QStringLiteral("4"));
+    QVERIFY(MgDonutDataContainer::instance()->isBehindSettings());
+    m_dialog = std::make_unique<TestDialog>();
+    QVERIFY(!MgDonutDataContainer::instance()->isBehindSettings());
+    QCOMPARE(int(m_dialog->record(QStringLiteral("ID_COPY")).eightDirection), 7);
+    QCOMPARE(m_dialog->getScheme(), TestDialog::Four);
+    m_dialog->okPressed();
+    QCOMPARE(stored("87"), QStringLiteral("ID_COPY"));
+    QCOMPARE(stored("84"), QString());
+    QCOMPARE(stored("ActiveScheme"), QStringLiteral("4"));
 }
 
 void ConfigurationDialogTest::enableBoxSwitchesTheControls()

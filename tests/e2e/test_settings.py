@@ -23,7 +23,8 @@ from harness.spylog import SpyLog
 
 PROGRAM = PROGRAMS["librecad"]
 TITLE = "Mouse Gestures"
-WIDGETS = ("program_search", "program_list", "ring", "command_search", "command_view")
+WIDGETS = ("program_search", "program_list", "ring", "command_search", "command_view",
+           "trigger_field")
 # The ring's own size, and how far a direction's label is from its middle.
 RING_SIZE = 250
 LABEL_RADIUS = 93
@@ -155,11 +156,11 @@ class SettingsTest(unittest.TestCase):
         x, y, _, _ = self.place_of("command_view")
         return x + 70, y + 24 + 26 + 13
 
-    def stored(self, key):
+    def stored(self, key, section="GestureWidget"):
         settings = configparser.RawConfigParser()
         settings.optionxform = str
         settings.read(self.folder / "config" / "gesturewidget" / f"{PROGRAM.name}.ini")
-        return settings.get("GestureWidget", key, fallback=None)
+        return settings.get(section, key, fallback=None)
 
     # --- the tests
 
@@ -231,8 +232,47 @@ class SettingsTest(unittest.TestCase):
         # The window has noticed the program's own commands.
         self.driver.ask("activate", TITLE)
         self.driver.ask("wait-focus", TITLE, ANSWER_SECONDS * 1000)
-        self.type_into("command_search", "points")
+        self.type_into("command_search", "line > 2 points")
         self.picture("7-its-own-commands")
+        self.drag(self.first_command(), self.sector(LEFT))
+        self.until(lambda: self.stored("83") == "ID_LINE", "the command in another direction")
+
+        # The running program takes the change at its next gesture.
+        self.driver.ask("activate", "drawing.dxf")
+        self.driver.ask("wait-focus", "drawing.dxf", ANSWER_SECONDS * 1000)
+        self.driver.ask("move", *middle)
+        self.driver.ask("wait-pointer-in", "drawing.dxf", ANSWER_SECONDS * 1000)
+        mark = self.spy.mark()
+        self.driver.ask("press", 3)
+        self.driver.ask("drag", -120, 0, 400)
+        self.driver.ask("release", 3)
+        line = self.spy.wait(mark, lambda line: line[0] == "triggered", ANSWER_SECONDS)
+        self.assertEqual(line[1], "DrawLine")
+        self.driver.ask("wait-no-size", RING_SIZE, RING_SIZE, ANSWER_SECONDS * 1000)
+
+    def test_by_keys_and_by_doing_it(self):
+        """Binds a command with the keyboard alone, and records a mouse button."""
+        self.open_window()
+        self.choose_program("librecad")
+        self.driver.ask("key", "ctrl+f")
+        self.driver.ask("type", "offset")
+        self.driver.ask("key", "Return")
+        self.driver.ask("key", "ctrl+Right")
+        self.until(lambda: (self.stored("82"), self.stored("87")) == ("", "ID_OFFSET"),
+                   "the command in its direction")
+        self.driver.ask("key", "ctrl+z")
+        self.until(lambda: (self.stored("82"), self.stored("87")) == ("ID_OFFSET", "ID_LINE"),
+                   "the binding taken back")
+
+        x, y, width, height = self.place_of("trigger_field")
+        for button, trigger in ((2, "middle"), (3, "right")):
+            self.driver.ask("move", x + width // 2, y + height // 2)
+            self.driver.ask("click", button)
+            self.until(lambda: self.stored("Trigger", "Host") == trigger, f"{trigger} as the trigger")
+        self.driver.ask("click", 1)  # with which people draw
+        self.settle()
+        self.assertEqual(self.stored("Trigger", "Host"), "right")
+        self.picture("left-refused")
 
 
 if __name__ == "__main__":

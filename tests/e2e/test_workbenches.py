@@ -11,6 +11,8 @@ test_gestures.py describes how the tests work.
 import configparser
 import dataclasses
 import json
+import os
+import subprocess
 
 from harness.programs import EIGHT, PROGRAMS
 from harness.programtest import ProgramTest, option_parser, run_tests
@@ -27,6 +29,16 @@ WORKBENCHES = {
 }
 TEN_SWITCHES = ("ImageWorkbench", "MeshWorkbench", "DraftWorkbench", "ImageWorkbench", "MeshWorkbench",
                 "DraftWorkbench", "MeshWorkbench", "DraftWorkbench", "ImageWorkbench", "MeshWorkbench")
+
+SKETCHER_MACRO = """
+
+def sketch():
+    FreeCADGui.activateWorkbench("SketcherWorkbench")
+    window.setWindowTitle("drawing.dxf in Sketcher")
+
+
+sketching = QtWidgets.QShortcut(QtGui.QKeySequence("F7"), window, sketch)
+"""
 
 
 class WorkbenchesTest(ProgramTest):
@@ -131,6 +143,45 @@ class WorkbenchesTest(ProgramTest):
             session.gesture_runs("right", "Draft_Ellipse")
             session.cancel_tool()
             self.end(session)
+
+    def test_a_ring_for_a_task(self):
+        """The task's own ring is used while the task is on, also after a restart. The dialog edits
+        it and says so."""
+        # F7 switches to the workbench, which has no key, and then says so in the window's title.
+        ending, macro = PROGRAM.macro
+        program = dataclasses.replace(PROGRAM, macro=(ending, macro + SKETCHER_MACRO))
+        with self.session(program=program) as session:
+            session.gesture_runs("right", PROGRAM.eight["right"])
+            session.cancel_tool()
+            self.launch(session, "--ring", "freecad", "SketcherWorkbench", "own")
+            self.launch(session, "--bind", "freecad", "right", "Std_ViewZoomIn",
+                        "--ring", "SketcherWorkbench")
+            before = self.bindings(session)
+            for start in range(2):
+                if start > 0:
+                    session.start_again()
+                session.focus("drawing.dxf")
+                session.driver.ask("key", "F7")
+                session.driver.ask("wait-window", "drawing.dxf in Sketcher", FIRST_SWITCH_SECONDS * 1000)
+                session.gesture_runs("right", "Std_ViewZoomIn")
+                session.gesture_runs("up", PROGRAM.eight["up"])
+                self.switch(session, "DraftWorkbench")
+                session.gesture_runs("right", PROGRAM.eight["right"])
+                session.cancel_tool()
+                self.end(session)
+            self.assertEqual(self.bindings(session), before)
+            shown = self.launch(session, "--bindings", "freecad")
+            ring = shown.partition("ring of SketcherWorkbench\n")[2]
+            self.assertRegex(ring, r"\n  right +Std_ViewZoomIn")
+            self.assertRegex(ring, r"\n  up-right +Sketcher_Trimming")
+
+    def launch(self, session, *arguments):
+        """Runs mouse-gestures with the program's own settings. Returns what it prints."""
+        environment = dict(os.environ, XDG_CONFIG_HOME=str(session.folder / "config"))
+        result = subprocess.run([session.launcher, *arguments], env=environment, text=True,
+                                stdout=subprocess.PIPE, stderr=subprocess.PIPE, check=False)
+        self.assertEqual((result.returncode, result.stderr), (0, ""))
+        return result.stdout
 
     def remembered(self, session):
         file = session.settings_file.with_suffix(".commands.json")

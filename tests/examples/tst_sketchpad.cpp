@@ -162,7 +162,7 @@ private Q_SLOTS:
                  (QStringList{QStringLiteral("File"), QStringLiteral("Edit"), QStringLiteral("View"),
                               QStringLiteral("Draw"), QStringLiteral("Modify"), QStringLiteral("Tools"),
                               QStringLiteral("Help")}));
-        QCOMPARE(commands, dxf::isSupported() ? 23 : 20);
+        QCOMPARE(commands, dxf::isSupported() ? 25 : 22);
     }
 
     void whatIsTypedTriggersTheAction_data()
@@ -195,6 +195,23 @@ private Q_SLOTS:
         QTest::keyClicks(line(), typed);
         QTest::keyClick(line(), Qt::Key_Return);
         QCOMPARE(triggered.count(), 1);
+    }
+
+    void windowsOpenAndClose()
+    {
+        int wanted = 0;
+        connect(m_window.get(), &MainWindow::newWindowWanted, this, [&wanted] { ++wanted; });
+        type("newwindow");
+        QCOMPARE(wanted, 1);
+        MainWindow other;
+        other.show();
+        type("close");
+        QVERIFY(!m_window->isVisible());
+        QVERIFY(other.isVisible());
+        m_window->show();
+        action("fileQuit")->trigger();
+        QVERIFY(!m_window->isVisible());
+        QVERIFY(!other.isVisible());
     }
 
     void enterRepeatsTheLastCommand()

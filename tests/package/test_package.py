@@ -96,6 +96,7 @@ def common_files():
         "share/doc/gesturewidget/images/ring.png",
         "share/doc/gesturewidget/images/settings.png",
         "share/doc/gesturewidget/user-guide.html",
+        "share/doc/gesturewidget/administrators-guide.html",
         "share/gesturewidget/bindings.schema.json",
         "share/icons/hicolor/scalable/apps/mouse-gestures.svg",
         "share/man/man1/mouse-gestures.1",

@@ -71,6 +71,17 @@ QString describe(const XDesktop::Window &window)
         .arg(window.geometry.height());
 }
 
+// How many of a million pixels differ. The pictures have one size.
+qint64 difference(const QImage &a, const QImage &b)
+{
+    qint64 count = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x)
+            count += a.pixel(x, y) != b.pixel(x, y) ? 1 : 0;
+    }
+    return count * 1000000 / std::max<qint64>(1, qint64(a.width()) * a.height());
+}
+
 std::optional<XDesktop::Window> titled(const XDesktop &desktop, const QString &title)
 {
     const QList<XDesktop::Window> windows = desktop.windows();
@@ -108,6 +119,10 @@ QString Commands::input(const QString &name, const QStringList &words)
         return m_desktop.tapKey(words.first()) ? kOk : refuse(QStringLiteral("no such key"));
     if (name == QLatin1String("type") && words.size() == 1)
         return m_desktop.typeText(words.first()) ? kOk : refuse(QStringLiteral("no key for it"));
+    const bool isHold = name == QLatin1String("hold");
+    if ((isHold || name == QLatin1String("let-go")) && words.size() == 1)
+        return m_desktop.setModifier(words.first(), isHold) ? kOk
+                                                            : refuse(QStringLiteral("no such key"));
     if (name == QLatin1String("pointer") && words.isEmpty()) {
         const QPoint at = m_desktop.pointer();
         return QStringLiteral("ok %1 %2").arg(at.x()).arg(at.y());
@@ -250,6 +265,17 @@ QString Commands::picture(const QString &name, const QStringList &words)
         return image.save(words.first(), "PNG") ? kOk : refuse(QStringLiteral("cannot write the file"));
     }
 
+    if (name == QLatin1String("keep") && words.size() == 1) {
+        m_kept.insert(words.first(), m_seen);
+        return kOk;
+    }
+    if (name == QLatin1String("difference") && words.size() == 1) {
+        const QImage before = m_kept.value(words.first());
+        const QImage now = m_desktop.look(m_area);
+        if (before.isNull() || before.size() != now.size())
+            return refuse(QStringLiteral("nothing like it was kept"));
+        return QStringLiteral("ok %1").arg(difference(before, now));
+    }
     const auto given = numbers(words, 0);
     if (!given)
         return {};

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QHash>
 #include <QImage>
 #include <QRect>
 #include <QString>
@@ -18,6 +19,7 @@ class XDesktop;
 //     drag DX DY MS [STEPS]  moves by that much in MS milliseconds
 //     key NAME               such as Return or ctrl+s
 //     type TEXT
+//     hold NAME              let-go NAME     ctrl, shift or alt
 //     windows                -> "ID X Y W H TITLE", separated by tabs
 //     wait-window TITLE MS   a window whose title contains TITLE -> ID X Y W H
 //     wait-no-window TITLE MS
@@ -37,6 +39,8 @@ class XDesktop;
 //     remember X Y W H       what the screen shows there
 //     wait-change MS         the screen shows something else there
 //     wait-steady MS         the screen shows the same there for 40 ms; that is remembered
+//     keep NAME              what was remembered last, for later
+//     difference NAME        -> N, how many of a million pixels the screen shows differently there
 //     grabs                  -> "pointer free|taken keyboard free|taken"
 //
 // Put a word with spaces in double quotes.
@@ -56,4 +60,5 @@ private:
     XDesktop &m_desktop;
     QRect m_area;
     QImage m_seen;
+    QHash<QString, QImage> m_kept;
 };

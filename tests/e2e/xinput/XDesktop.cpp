@@ -79,6 +79,14 @@ std::vector<unsigned long> identifiers(Display *display, ::Window window, const 
     return result;
 }
 
+KeySym modifierNamed(const QString &name)
+{
+    return name == QLatin1String("ctrl")  ? XK_Control_L
+         : name == QLatin1String("shift") ? XK_Shift_L
+         : name == QLatin1String("alt")   ? XK_Alt_L
+                                          : NoSymbol;
+}
+
 } // namespace
 
 XDesktop::XDesktop()
@@ -134,16 +142,23 @@ void XDesktop::glide(QPoint by, int milliseconds, int steps)
     }
 }
 
+bool XDesktop::setModifier(const QString &name, bool down)
+{
+    const KeySym symbol = modifierNamed(name);
+    if (symbol == NoSymbol)
+        return false;
+    XTestFakeKeyEvent(m_display, XKeysymToKeycode(m_display, symbol), down ? True : False, CurrentTime);
+    sync();
+    return true;
+}
+
 bool XDesktop::tapKey(const QString &name)
 {
     QStringList parts = name.split(QLatin1Char('+'));
     const KeySym symbol = XStringToKeysym(parts.takeLast().toLatin1().constData());
     std::vector<KeyCode> codes;
     for (const QString &part : parts) {
-        const KeySym modifier = part == QLatin1String("ctrl")  ? XK_Control_L
-                              : part == QLatin1String("shift") ? XK_Shift_L
-                              : part == QLatin1String("alt")   ? XK_Alt_L
-                                                               : NoSymbol;
+        const KeySym modifier = modifierNamed(part);
         if (modifier == NoSymbol)
             return false;
         codes.push_back(XKeysymToKeycode(m_display, modifier));

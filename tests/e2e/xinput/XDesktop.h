@@ -45,6 +45,8 @@ public:
     // `name` is a key's X name, after any of "ctrl+", "shift+" and "alt+": "ctrl+s".
     // Returns false if the keyboard has no such key.
     bool tapKey(const QString &name);
+    // Presses or releases "ctrl", "shift" or "alt". Returns false for any other name.
+    bool setModifier(const QString &name, bool down);
     // Types ASCII characters. Returns false at the first that the keyboard does not have.
     bool typeText(const QString &text);
 

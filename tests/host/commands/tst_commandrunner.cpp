@@ -10,6 +10,7 @@
 #include "tests/host/support/StubDocuments.h"
 #include "tests/support/FatalWarnings.h"
 
+#include <QDialog>
 #include <QKeyEvent>
 #include <QSignalSpy>
 #include <QStatusBar>
@@ -106,6 +107,7 @@ private Q_SLOTS:
     void aCommandMayEndTheWindow();
     void aCommandMayEndTheRunner();
     void anActionMayEndTheWindow();
+    void aCommandThatRunsComesToTheFront();
     void aTypedCommandRunsFromTheEventLoop();
     void theResultBelongsToTheCaller();
 
@@ -359,6 +361,25 @@ void CommandRunnerTest::anActionMayEndTheWindow()
     });
     QVERIFY(run("ID_LINE", false));
     QTRY_VERIFY(!m_window);
+}
+
+void CommandRunnerTest::aCommandThatRunsComesToTheFront()
+{
+    int raised = 0;
+    m_command->body = [&] {
+        QDialog dialog;
+        dialog.setModal(true);
+        dialog.show();
+        dialog.showMinimized();
+        m_runner->run(QStringLiteral("^C^C_GESTURE"), true); // as somebody types it again
+        raised += dialog.isMinimized() ? 0 : 1;
+    };
+    QVERIFY(run("^C^C_GESTURE"));
+    QCOMPARE(m_command->runs, 1);
+    QCOMPARE(raised, 1);
+    m_command->body = nullptr;
+    QVERIFY(run("^C^C_GESTURE"));
+    QCOMPARE(m_command->runs, 2);
 }
 
 void CommandRunnerTest::aTypedCommandRunsFromTheEventLoop()

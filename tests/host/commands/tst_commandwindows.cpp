@@ -96,7 +96,7 @@ void CommandWindowsTest::textsAreThoseOfTheCurrentWindow()
     m_catalogue->setCurrentWindow(m_second.get());
     m_catalogue->update();
     QCOMPARE(text(line->GetCaption()), QStringLiteral("Second Line"));
-    QCOMPARE(text(line->GetTip()), QStringLiteral("In the second window"));
+    QCOMPARE(text(line->GetTip()), QStringLiteral("Second Line: In the second window"));
     QCOMPARE(line->icon().cacheKey(), m_second->line->icon().cacheKey());
     m_catalogue->setCurrentWindow(m_first.get());
     QCOMPARE(text(line->GetCaption()), QStringLiteral("Line"));

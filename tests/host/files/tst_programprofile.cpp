@@ -41,6 +41,8 @@ private Q_SLOTS:
     void namesOfButtonsAndKeys();
     void whatIsLeftOutIsDefault();
     void firstFolderWithAProfileCounts();
+    void theTriggerMayFollowASetting_data();
+    void theTriggerMayFollowASetting();
     void brokenProfileIsNamed_data();
     void brokenProfileIsNamed();
     void aBrokenProfileIsNotReplacedByALaterOne();
@@ -112,6 +114,9 @@ void ProgramProfileTest::isWrittenAsItIsRead()
                                      {QStringLiteral("File/Open..."), QStringLiteral("fileOpen")});
     profile.toolsMenu = QStringLiteral("extras");
     profile.commandLineClass = QStringLiteral("CommandEdit");
+    profile.taskActions = QStringList{QStringLiteral("SketchBench"), QStringLiteral("PartBench")};
+    profile.taskBindings[QStringLiteral("SketchBench")].insert(QStringLiteral("87"),
+                                                               QStringLiteral("ID_LINE"));
     for (const bool isEmpty : {false, true}) {
         if (isEmpty) {
             profile = ProgramProfile();
@@ -128,6 +133,9 @@ void ProgramProfileTest::isWrittenAsItIsRead()
         QCOMPARE(again.wellKnownCommands, profile.wellKnownCommands);
         QCOMPARE(again.toolsMenu, profile.toolsMenu);
         QCOMPARE(again.commandLineClass, profile.commandLineClass);
+        QCOMPARE(again.taskActions, profile.taskActions);
+        QCOMPARE(again.isTaskOfView, profile.isTaskOfView);
+        QCOMPARE(again.taskBindings, profile.taskBindings);
     }
 }
 
@@ -192,6 +200,42 @@ void ProgramProfileTest::firstFolderWithAProfileCounts()
     QCOMPARE(message, QString());
 }
 
+void ProgramProfileTest::theTriggerMayFollowASetting_data()
+{
+    QTest::addColumn<QByteArray>("content"); // of the program's own file
+    QTest::addColumn<QString>("trigger");
+    QTest::newRow("no file") << QByteArray() << QStringLiteral("right");
+    QTest::newRow("no value") << QByteArray("<a/>") << QStringLiteral("right");
+    QTest::newRow("another value") << QByteArray("<Style>Flat</Style>") << QStringLiteral("right");
+    QTest::newRow("cut off") << QByteArray("<Style>Space") << QStringLiteral("right");
+    QTest::newRow("the value") << QByteArray("<a/><Style>Space</Style>") << QStringLiteral("ctrl+right");
+}
+
+void ProgramProfileTest::theTriggerMayFollowASetting()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, trigger);
+    const QTemporaryDir folder;
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder.path()));
+    const auto store = [&folder](const char *name, const QByteArray &text) {
+        QFile file(folder.filePath(QLatin1String(name)));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(text), text.size());
+    };
+    if (!content.isEmpty())
+        store("space.cfg", content);
+    store("program.json", R"({"version": 1, "program": "program", "trigger": {"button": "right"},
+        "triggerBySetting": {"file": "space.cfg", "before": "<Style>", "behind": "<",
+                             "triggers": {"Space": "ctrl+right"}}})");
+    QString message;
+    const ProgramProfile profile =
+        ProgramProfile::forProgram(QStringLiteral("program"), {folder.path()}, &message);
+    qunsetenv("XDG_CONFIG_HOME");
+    QCOMPARE(message, QString());
+    QCOMPARE(gesturewidget::triggerText(profile.triggerButton, profile.triggerModifiers), trigger);
+    QVERIFY(profile.hasTrigger);
+}
+
 void ProgramProfileTest::brokenProfileIsNamed_data()
 {
     QTest::addColumn<QByteArray>("text");
@@ -233,6 +277,25 @@ void ProgramProfileTest::brokenProfileIsNamed_data()
         "\"wellKnownCommands.ID_LINE\"");
     row("number among commands", R"("wellKnownCommands": {"ID_LINE": ["a", 1]})",
         "\"wellKnownCommands.ID_LINE\"");
+    row("tasks as text", R"("tasks": "workbench")", "\"tasks\" is not an object");
+    row("unknown in tasks", R"("tasks": {"group": "x"})", "unknown key \"tasks.group\"");
+    row("two ways", R"("tasks": {"checkedActionBeside": "x", "classOfView": true})", "two ways");
+    row("class as text", R"("tasks": {"classOfView": "yes"})", "\"tasks.classOfView\" is not true");
+    row("ring as text", R"("tasks": {"firstBindings": {"a": "b"}})",
+        "\"tasks.firstBindings.a\" is not an object");
+    row("no direction", R"("tasks": {"firstBindings": {"a": {"45": "b"}}})",
+        "\"tasks.firstBindings.a.45\" is no direction");
+    row("command of a ring as number", R"("tasks": {"firstBindings": {"a": {"44": 1}}})",
+        "\"tasks.firstBindings.a.44\" is not a string");
+    row("neither true nor false", R"("changesMenus": 1)", "\"changesMenus\" is neither true nor false");
+    row("a setting without a place", R"("triggerBySetting": {"file": "a.cfg"})",
+        "\"triggerBySetting\" needs a file");
+    row("a setting of another folder",
+        R"("triggerBySetting": {"file": "/a.cfg", "before": "a", "behind": "b"})",
+        "\"triggerBySetting\" needs a file");
+    row("a setting that means no trigger",
+        R"("triggerBySetting": {"file": "a", "before": "a", "behind": "b", "triggers": {"x": "left"}})",
+        "\"triggerBySetting.triggers.x\" names no trigger");
     row("reasons as text", R"("why": "because")", "\"why\" is not an object");
     row("menu as list", R"("toolsMenu": [])", "\"toolsMenu\" is not a string");
     row("class as null", R"("commandLineClass": null)", "\"commandLineClass\" is not a string");
@@ -314,8 +377,9 @@ void ProgramProfileTest::everyShippedProfileIsSound()
         QString message;
         const ProgramProfile profile = ProgramProfile::forProgram(program, {folder.path()}, &message);
         QVERIFY2(message.isEmpty(), qPrintable(message));
-        QVERIFY2(!profile.viewClasses.isEmpty(), qPrintable(file));
-        QVERIFY2(!profile.wellKnownCommands.isEmpty(), qPrintable(file));
+        QVERIFY2(profile.hasTrigger, qPrintable(file));
+        // A profile may be there for the trigger only, and the rest is guessed.
+        QCOMPARE(profile.viewClasses.isEmpty(), profile.wellKnownCommands.isEmpty());
         const QStringList identifiers = profile.wellKnownCommands.keys();
         for (const QString &identifier : identifiers)
             QVERIFY2(known.contains(identifier), qPrintable(file + identifier));

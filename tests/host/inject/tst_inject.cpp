@@ -188,7 +188,7 @@ void InjectTest::programSeesWhatItAlwaysSaw_data()
     QTest::newRow("wheel") << 5;
     QTest::newRow("keys") << 10;
     QTest::newRow("pen") << 11;
-    QTest::newRow("pen-as-mouse") << 3;
+    QTest::newRow("pen-as-mouse") << 6;
     QTest::newRow("control") << 3;
     QTest::newRow("menu") << 8;
     QTest::newRow("eating-view") << 5;

@@ -3,6 +3,7 @@
 
 #include "host/documents/DocumentManager.h"
 #include "host/input/PointerFilter.h"
+#include "sdk/QtBridge.h"
 #include "tests/host/support/FakeTracker.h"
 #include "tests/host/support/LoggingView.h"
 #include "tests/support/FatalWarnings.h"
@@ -69,6 +70,24 @@ public:
                           QGuiApplication::mouseButtons(), Qt::NoModifier, Qt::NoScrollPhase, false);
         QSpontaneKeyEvent::setSpontaneous(&wheel);
         qApp->notify(window.windowHandle(), &wheel);
+    }
+    void pen(QEvent::Type type, QPoint position, Qt::MouseButton button, Qt::MouseButtons buttons)
+    {
+        const QPoint place = inWindow(position);
+        const auto event =
+            qtbridge::tabletEvent(type, place, window.mapToGlobal(place), button, buttons);
+        QSpontaneKeyEvent::setSpontaneous(event.get());
+        qApp->notify(window.windowHandle(), event.get());
+    }
+    // The mouse event that Qt makes from a pen's or a touch.
+    void penAsMouse(QEvent::Type type, QPoint position, Qt::MouseButton button, Qt::MouseButtons buttons)
+    {
+        const QPointF place = inWindow(position);
+        const QPointF global = window.mapToGlobal(inWindow(position));
+        QMouseEvent event(type, place, place, global, button, buttons, Qt::NoModifier,
+                          Qt::MouseEventSynthesizedByQt);
+        QSpontaneKeyEvent::setSpontaneous(&event);
+        qApp->notify(window.windowHandle(), &event);
     }
     // Presses and drags until the overlay has chosen a direction. The button stays down.
     void chooseSector()
@@ -156,6 +175,9 @@ private Q_SLOTS:
     void aKeyPressedAgainGivesBack();
     void aKeyLetGoElsewhereIsForgotten();
     void keyGivesBackAPressThatClosesTheWindow();
+    void aPensSideButtonStartsAGesture();
+    void aPenThatTheProgramHandlesDoesNot();
+    void aTouchIsNotAPen();
     void pressIsNotHeldBack_data();
     void pressIsNotHeldBack();
     void twentyPixelsAreNoGesture();
@@ -632,6 +654,56 @@ void PointerFilterTest::pressIsHeldBack()
     QCOMPARE(desk.tracker.presses, 1);
     QCOMPARE(desk.view->log.filter(QStringLiteral("Press")).size(), 1);
     QCOMPARE(desk.view->log.filter(QStringLiteral("Release")).size(), 1);
+}
+
+// Qt sends the pen's own event first, and a mouse event when nobody has taken that.
+void PointerFilterTest::aPensSideButtonStartsAGesture()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.move(kPress);
+    desk.addFilter();
+    desk.view->log.clear();
+    desk.pen(QEvent::TabletPress, kPress, Qt::RightButton, Qt::RightButton);
+    desk.penAsMouse(QEvent::MouseButtonPress, kPress, Qt::RightButton, Qt::RightButton);
+    QCOMPARE(desk.state(), PointerFilter::State::Holding);
+    for (const int step : {15, 30, 50}) {
+        const QPoint place = kPress + QPoint(step, 0);
+        desk.pen(QEvent::TabletMove, place, Qt::NoButton, Qt::RightButton);
+        desk.penAsMouse(QEvent::MouseMove, place, Qt::NoButton, Qt::RightButton);
+    }
+    QCOMPARE(desk.state(), PointerFilter::State::Gesturing);
+    QVERIFY(desk.tracker.overlay->isOn);
+    const QPoint end = kPress + QPoint(50, 0);
+    desk.pen(QEvent::TabletRelease, end, Qt::RightButton, Qt::NoButton);
+    desk.penAsMouse(QEvent::MouseButtonRelease, end, Qt::RightButton, Qt::NoButton);
+    QTRY_COMPARE(desk.tracker.stops, 1);
+    QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
+    const QStringList mouse = desk.view->log.filter(QStringLiteral("ouse"));
+    QCOMPARE(mouse, QStringList());
+}
+
+void PointerFilterTest::aPenThatTheProgramHandlesDoesNot()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.pen(QEvent::TabletPress, kPress, Qt::RightButton, Qt::RightButton);
+    desk.pen(QEvent::TabletMove, kPress + QPoint(60, 0), Qt::NoButton, Qt::RightButton);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    QCOMPARE(desk.tracker.drags, 0);
+    desk.pen(QEvent::TabletRelease, kPress + QPoint(60, 0), Qt::RightButton, Qt::NoButton);
+}
+
+void PointerFilterTest::aTouchIsNotAPen()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.trigger = {Qt::LeftButton, Qt::NoModifier};
+    desk.addFilter();
+    desk.penAsMouse(QEvent::MouseButtonPress, kPress, Qt::LeftButton, Qt::LeftButton);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    desk.penAsMouse(QEvent::MouseButtonRelease, kPress, Qt::LeftButton, Qt::NoButton);
 }
 
 void PointerFilterTest::pressIsNotHeldBack_data()

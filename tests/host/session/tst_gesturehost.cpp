@@ -34,6 +34,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
 #include <memory>
 
 namespace {
@@ -92,6 +93,7 @@ private Q_SLOTS:
     void profileNamesViews();
     void enableFlagIsRead();
     void theSettingsChooseTheTrigger_data();
+    void theFirstStartSaysWhatStartsAGesture();
     void theSettingsChooseTheTrigger();
     void aNewTriggerCountsFromTheNextStart();
     void viewsOfOtherWindows_data();
@@ -377,6 +379,26 @@ void GestureHostTest::theSettingsChooseTheTrigger_data()
     row("spaces", "ctrl + right", right, Qt::RightButton, {}, true);
     // People draw with it.
     row("left alone", "left", right, Qt::RightButton, {}, true);
+}
+
+void GestureHostTest::theFirstStartSaysWhatStartsAGesture()
+{
+    tests::writeFile(m_options.settingsFile, "[Host]\nTrigger=ctrl+right\n");
+    QMainWindow window;
+    window.menuBar()->addMenu(QStringLiteral("File"))->addAction(QStringLiteral("Open"));
+    auto *view = new QFrame;
+    window.setCentralWidget(view);
+    QSignalSpy messages(window.statusBar(), &QStatusBar::messageChanged);
+    gesturewidget::GestureHost host(&window, m_options);
+    host.addView(view);
+    QVERIFY(host.start());
+    window.show();
+    const auto isSaid = [&messages] {
+        return std::any_of(messages.begin(), messages.end(), [](const QList<QVariant> &message) {
+            return message.first().toString().contains(QStringLiteral("Ctrl + right button"));
+        });
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(isSaid(), 20000);
 }
 
 void GestureHostTest::theSettingsChooseTheTrigger()

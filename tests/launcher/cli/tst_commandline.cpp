@@ -55,6 +55,14 @@ private Q_SLOTS:
         QTest::newRow("--list-commands as JSON")
             << Arguments{"--list-commands", "draw", "--json"} << Task::ListCommands << QByteArray("draw")
             << Arguments{};
+        QTest::newRow("--ring") << Arguments{"--ring", "draw", "Sketch", "own"} << Task::SetRing
+                                << QByteArray("draw") << Arguments{"Sketch", "own"};
+        QTest::newRow("--bind in a ring") << Arguments{"--bind", "draw", "up", "x", "--ring", "Sketch"}
+                                          << Task::Bind << QByteArray("draw") << Arguments{"up", "x"};
+        QTest::newRow("--bind in no ring") << Arguments{"--bind", "draw", "up", "x", "--ring"}
+                                           << Task::Complain << nothing << Arguments{};
+        QTest::newRow("--ring alone")
+            << Arguments{"--bind", "--ring", "Sketch"} << Task::Complain << nothing << Arguments{};
         QTest::newRow("--print") << Arguments{"--print", "draw", "a b.pdf"} << Task::Print
                                  << QByteArray("draw") << Arguments{"a b.pdf"};
         QTest::newRow("--explain") << Arguments{"--explain", "draw", "--json", "a", ""} << Task::Explain
@@ -81,6 +89,20 @@ private Q_SLOTS:
         QCOMPARE(line.arguments, arguments);
         QCOMPARE(line.complaint.isEmpty(), task != Task::Complain && task != Task::OpenWindow);
         QVERIFY(!line.complaint.contains(QLatin1Char('\n')));
+    }
+
+    void theRingStandsAnywhere()
+    {
+        for (const Arguments &given : {Arguments{"--bind", "--ring", "Sketch", "draw", "up", "x"},
+                                       Arguments{"--bind", "draw", "--ring", "Sketch", "up", "x"},
+                                       Arguments{"--bind", "draw", "up", "x", "--ring", "Sketch"}}) {
+            const CommandLine line = CommandLine::parse(given);
+            QCOMPARE(line.task, Task::Bind);
+            QCOMPARE(line.ring, QByteArray("Sketch"));
+            QCOMPARE(line.program, QByteArray("draw"));
+            QCOMPARE(line.arguments, (Arguments{"up", "x"}));
+        }
+        QCOMPARE(CommandLine::parse({"--bind", "draw", "up", "x"}).ring, QByteArray());
     }
 
     void jsonStandsAnywhere_data()

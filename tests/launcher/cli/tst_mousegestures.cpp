@@ -104,6 +104,17 @@ private Q_SLOTS:
             "libmousegestures-qt" + QByteArray::number(QT_MAJOR) + ".so is not installed";
         QVERIFY2(direct.errors.contains(file), direct.errors.constData());
 
+        // A menu's entry must start the program all the same.
+        const Outcome always =
+            run({QStringLiteral("--always"), makeScript("echo $QT_PLUGIN_PATH; exit 7"),
+                 QStringLiteral("--always")});
+        QCOMPARE(always.status, 7);
+        QCOMPARE(always.output, QByteArray("\n"));
+        QVERIFY2(always.errors.contains("is not installed"), always.errors.constData());
+        const Outcome nothing =
+            run({QStringLiteral("--always"), QStringLiteral("no-such-program-here")});
+        QCOMPARE(nothing.status, 127);
+
         const Outcome script = run({makeScript("exit 0")});
         QCOMPARE(script.status, 125);
         QVERIFY2(script.errors.contains("libmousegestures is not installed"), script.errors.constData());

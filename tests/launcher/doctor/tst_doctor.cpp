@@ -39,7 +39,12 @@ class DoctorTest : public QObject
 private Q_SLOTS:
     void initTestCase() { tests::failOnWarnings(); }
     void init() { tests::resetWarnings(); }
-    void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
+    void cleanup()
+    {
+        qunsetenv("XDG_CONFIG_HOME");
+        qunsetenv("XDG_CONFIG_DIRS");
+        QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
+    }
 
     void aHealthyProgram()
     {
@@ -56,7 +61,8 @@ private Q_SLOTS:
             QStringLiteral("  views:       looked for in the running program, see --explain"),
             QStringLiteral("  settings:    %1/drafter.ini, not there yet").arg(folder.path()),
             QStringLiteral("  gestures:    on, 8 of them"),
-            QStringLiteral("  trigger:     right"),
+            QStringLiteral("  bindings:    8 as nobody has chosen otherwise"),
+            QStringLiteral("  trigger:     right; ctrl+right if OpenGL paints the drawing"),
         };
         QCOMPARE(diagnosis.lines(), expected);
         QVERIFY(
@@ -127,6 +133,25 @@ private Q_SLOTS:
             [](Symptoms &, const QDir &folder) {
                 writeFile(folder.filePath(QStringLiteral("drafter.ini")),
                           "[Host]\nTrigger=ctrl+right\n");
+            });
+        row("trigger that suits the drawings", true,
+            "\n  trigger:     ctrl+right, as suits the drawings", [](Symptoms &, const QDir &folder) {
+                writeFile(folder.filePath(QStringLiteral("drafter.ini")),
+                          "[Host]\nUsualTrigger=ctrl+right\n");
+            });
+        row("the site's settings", true, "site/gesturewidget/drafter.ini\n  bindings:    1 by ",
+            [](Symptoms &symptoms, const QDir &folder) {
+                const auto place = [&folder](const char *name) {
+                    return folder.filePath(QLatin1String(name));
+                };
+                QVERIFY(folder.mkpath(QStringLiteral("own/gesturewidget")));
+                QVERIFY(folder.mkpath(QStringLiteral("site/gesturewidget")));
+                qputenv("XDG_CONFIG_HOME", QFile::encodeName(place("own")));
+                qputenv("XDG_CONFIG_DIRS", QFile::encodeName(place("site")));
+                symptoms.settingsFile = place("own/gesturewidget/drafter.ini");
+                writeFile(symptoms.settingsFile, "[GestureWidget]\n81=drawArc\n");
+                writeFile(place("site/gesturewidget/drafter.ini"),
+                          "[GestureWidget]\nActiveScheme=8\nEnableMouseGesture=1\n81=a\n82=b\n");
             });
         row("switched off", false, "\n! gestures:    switched off", [](Symptoms &, const QDir &folder) {
             writeFile(folder.filePath(QStringLiteral("drafter.ini")),

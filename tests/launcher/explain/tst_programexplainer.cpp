@@ -41,6 +41,8 @@ private Q_SLOTS:
     void throughAScript();
     void endedInTheEnd_data();
     void endedInTheEnd();
+    void itsWindowIsClosedBefore_data();
+    void itsWindowIsClosedBefore();
     void whatCannotBeExplained_data();
     void whatCannotBeExplained();
     void theVariableIsGone();
@@ -233,6 +235,25 @@ void ProgramExplainerTest::endedInTheEnd()
     QVERIFY(number() > 0);
     QVERIFY(isGone(number()));
     QVERIFY(isGone(-number()));
+}
+
+// Programs that keep a session take any other end for a crash.
+void ProgramExplainerTest::itsWindowIsClosedBefore_data()
+{
+    QTest::addColumn<QByteArray>("mode");
+    QTest::newRow("it closes") << QByteArray("say-closed");
+    QTest::newRow("it asks, and nobody answers") << QByteArray("ask-when-closed");
+}
+
+void ProgramExplainerTest::itsWindowIsClosedBefore()
+{
+    QFETCH(QByteArray, mode);
+    m_patience.end = 20000; // no signal may be needed
+    const ProgramExplanation found = explain(GUEST, {GUEST, mode, QFile::encodeName(place("closed"))});
+    QCOMPARE(found.complaint, QString());
+    QFile file(place("closed"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("closed\n"));
 }
 
 void ProgramExplainerTest::whatCannotBeExplained_data()

@@ -5,6 +5,7 @@
 
 #include "launcher/settings/SettingsTasks.h"
 
+#include "host/files/InstallPaths.h"
 #include "host/files/SettingsFile.h"
 #include "host/files/TriggerText.h"
 #include "launcher/settings/Bindings.h"
@@ -49,8 +50,11 @@ private Q_SLOTS:
     void bindsInTheSchemeInUse();
     void aCommandByItsCaption();
     void aCommandHasOneDirection();
+    void aTaskMayHaveARingOfItsOwn();
+    void aRingIsOwnOrShared();
     void otherProgramsValuesStay();
     void resetKeepsTheTrigger();
+    void theAdministratorsSettings();
     void badInputChangesNothing_data();
     void badInputChangesNothing();
     void triggers_data();
@@ -193,6 +197,44 @@ void SettingsTasksTest::aCommandHasOneDirection()
     QCOMPARE(kept().eight.at(1), text("ID_OFFSET"));
 }
 
+void SettingsTasksTest::aTaskMayHaveARingOfItsOwn()
+{
+    const QString task = text("SketchBench");
+    QVERIFY(tasks().bind(text("up"), text("ID_SHARED")).isDone());
+    QVERIFY(tasks().setRing(task, text("own"), {{text("87"), text("Sketch_Line")}}).isDone());
+    SettingsTasks own = tasks();
+    own.chooseRing(task);
+    QVERIFY(own.bind(text("left"), text("Sketch_Arc")).isDone());
+    // The shared ring is as it was.
+    QCOMPARE(kept().eight.at(0), text("ID_SHARED"));
+    QCOMPARE(kept().eight.at(2), Bindings::initial().eight.at(2));
+    QCOMPARE(kept().eight.at(6), Bindings::initial().eight.at(6));
+    const QString shown = QString::fromLocal8Bit(tasks().showBindings().output);
+    const QString ring = shown.section(text("ring of SketchBench\n"), 1);
+    for (const char *line :
+         {"  up         ID_SHARED", "  left       Sketch_Arc", "  right      Sketch_Line"})
+        QVERIFY2(ring.contains(text(line)), qPrintable(shown));
+    QVERIFY(!shown.section(text("ring of"), 0, 0).contains(text("Sketch_")));
+    QVERIFY(tasks().setRing(task, text("shared"), {}).isDone());
+    QVERIFY(!tasks().showBindings().output.contains("ring of"));
+    // What it had comes back.
+    QVERIFY(tasks().setRing(task, text("own"), {}).isDone());
+    QVERIFY(tasks().showBindings().output.contains("  left       Sketch_Arc"));
+}
+
+void SettingsTasksTest::aRingIsOwnOrShared()
+{
+    const Outcome odd = tasks().setRing(text("SketchBench"), text("mine"), {});
+    QVERIFY(!odd.isDone());
+    QVERIFY(odd.complaint.contains(text("\"mine\"")));
+    SettingsTasks own = tasks();
+    own.chooseRing(text("SketchBench"));
+    const Outcome none = own.bind(text("up"), text("ID_LINE"));
+    QVERIFY(!none.isDone());
+    QVERIFY(none.complaint.contains(text("SketchBench has no ring of its own")));
+    QVERIFY(!QFileInfo::exists(m_file));
+}
+
 void SettingsTasksTest::otherProgramsValuesStay()
 {
     write(m_file, "[Window]\nwidth=700\n[GestureWidget]\nEnableMouseGesture=0\n");
@@ -216,6 +258,41 @@ void SettingsTasksTest::resetKeepsTheTrigger()
     const SettingsFile::Values values = SettingsFile(m_file).read();
     QCOMPARE(values.value(text("GestureWidget/ActiveScheme")), text("8"));
     QCOMPARE(values.value(text("GestureWidget/EnableMouseGesture")), text("1"));
+}
+
+void SettingsTasksTest::theAdministratorsSettings()
+{
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(place("own")));
+    qputenv("XDG_CONFIG_DIRS", QFile::encodeName(place("site")));
+    m_file = gesturewidget::settingsFile(kProgram);
+    write(place("site/gesturewidget/drafter.ini"),
+          "[GestureWidget]\nActiveScheme=4\n41=siteLine\n[Host]\nTrigger=ctrl+right\n");
+    SettingsTasks tasks(kProgram, m_file);
+    qunsetenv("XDG_CONFIG_HOME");
+    qunsetenv("XDG_CONFIG_DIRS");
+    const QByteArray shown = tasks.showBindings().output;
+    QVERIFY2(shown.contains("started with: ctrl+right\n4 gestures (in use)\n  up         siteLine\n"),
+             shown.constData());
+    // Only what differs is kept.
+    QVERIFY(tasks.bind(text("left"), text("ownArc")).isDone());
+    SettingsFile::Values own = SettingsFile(m_file).read();
+    QVERIFY(!own.contains(text("GestureWidget/41")));
+    QVERIFY(!own.contains(text("GestureWidget/ActiveScheme")));
+    QCOMPARE(own.value(text("GestureWidget/42")), text("ownArc"));
+    QVERIFY(tasks.bind(text("up"), text("none")).isDone());
+    QCOMPARE(tasks.bindings().four, (QStringList{QString(), text("ownArc"), QString(), QString()}));
+    QVERIFY(tasks.setTrigger(text("middle")).isDone());
+    QCOMPARE(tasks.bindings().trigger, text("middle"));
+
+    const Outcome outcome = tasks.reset();
+    QCOMPARE(outcome.output, QByteArray("gestures are still started with: middle\n"));
+    QCOMPARE(tasks.bindings().four.first(), text("siteLine"));
+    QCOMPARE(tasks.bindings().scheme, 4);
+    QVERIFY(tasks.setTrigger(text("default")).isDone());
+    QCOMPARE(tasks.bindings().trigger, text("ctrl+right"));
+    own = SettingsFile(m_file).read();
+    for (const char *key : {"GestureWidget/41", "GestureWidget/ActiveScheme", "Host/Trigger"})
+        QVERIFY2(!own.contains(text(key)), key);
 }
 
 void SettingsTasksTest::badInputChangesNothing_data()

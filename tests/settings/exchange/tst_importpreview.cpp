@@ -55,7 +55,7 @@ private Q_SLOTS:
         QCOMPARE(lines, (QStringList{text("Directions in use: 8 -> 4"),
                                      text("A gesture starts with: Right button (usual) -> "
                                           "Ctrl + Right button"),
-                                     text("right of 8 directions: Line -> nothing")}));
+                                     text("Right (of 8 directions): Line -> nothing")}));
     }
 
     void nothingToImportCannotBeImported()

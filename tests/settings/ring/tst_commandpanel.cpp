@@ -97,6 +97,9 @@ private Q_SLOTS:
         auto *search = panel.findChild<QLineEdit *>(text("command_search"));
         QTest::keyClicks(search, text("TRI"));
         QCOMPARE(panel.chosenCommand().identifier, text("ID_TRIM"));
+        search->clear();
+        QTest::keyClicks(search, text("o")); // "Zoom to Everything" and "Copy" have it too
+        QCOMPARE(panel.chosenCommand().identifier, text("ID_OFFSET"));
         QTest::keyClicks(search, text("xyz"));
         QVERIFY(panel.chosenCommand().identifier.isEmpty());
     }

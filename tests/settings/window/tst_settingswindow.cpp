@@ -5,6 +5,7 @@
 
 #include "settings/window/SettingsWindow.h"
 
+#include "host/language/Translations.h"
 #include "settings/window/MessageBar.h"
 #include "tests/settings/support/HomeTest.h"
 
@@ -273,6 +274,17 @@ private Q_SLOTS:
         QFile::setPermissions(place("config"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
 
+    void aComplaintGoesWithTheNextChange()
+    {
+        SettingsWindow window;
+        open(window);
+        auto *field = find<QWidget>(window, "trigger_field");
+        QTest::mouseClick(field, Qt::LeftButton);
+        QVERIFY2(message(window).startsWith(text("The left button")), qPrintable(message(window)));
+        QTest::mouseClick(field, Qt::MiddleButton);
+        QCOMPARE(message(window), QString());
+    }
+
     void gesturesThatAreOffAreSwitchedOnHere()
     {
         write(settingsFile(text("draw")), "[GestureWidget]\nEnableMouseGesture=0\n");
@@ -295,6 +307,69 @@ private Q_SLOTS:
         QTRY_VERIFY(std::any_of(labels.begin(), labels.end(), [](const QLabel *label) {
             return label->isVisible() && label->text().contains(text("no program"));
         }));
+    }
+
+    void anotherProgramBeginsAnew()
+    {
+        write(settingsFile(text("draw")), QByteArray(200, '\0'));
+        SettingsWindow window;
+        open(window);
+        auto *search = find<QLineEdit>(window, "command_search");
+        QTest::keyClicks(search, text("line"));
+        QVERIFY(!message(window).isEmpty());
+        auto *list = find<QListView>(window, "program_list");
+        list->setFocus();
+        QTest::keyClick(window.windowHandle(), Qt::Key_Down);
+        QCOMPARE(title(window), text("Sketch"));
+        QCOMPARE(search->text(), QString());
+        QCOMPARE(message(window), QString());
+        QTest::keyClick(window.windowHandle(), Qt::Key_Up);
+        QVERIFY(!message(window).isEmpty());
+    }
+
+    void lookingForAProgramKeepsTheChosenOne()
+    {
+        SettingsWindow window;
+        open(window);
+        QTest::keyClicks(find<QLineEdit>(window, "program_search"), text("ske"));
+        QCOMPARE(find<QListView>(window, "program_list")->model()->rowCount(), 1);
+        QCOMPARE(title(window), text("Draw"));
+    }
+
+    void everyLanguageFits_data()
+    {
+        QTest::addColumn<QString>("language");
+        const QStringList languages = gesturewidget::Translations::languages();
+        QVERIFY(languages.contains(text("de")));
+        for (const QString &language : languages)
+            QTest::newRow(language.toLatin1().constData()) << language;
+    }
+    void everyLanguageFits()
+    {
+        QFETCH(QString, language);
+        gesturewidget::Translations translations;
+        translations.install(language);
+        SettingsWindow window;
+        open(window);
+        QVERIFY(window.windowTitle() != text("Mouse Gestures"));
+        QVERIFY(state(window) != QString());
+        int seen = 0;
+        const auto labels = window.findChildren<QLabel *>();
+        for (const QLabel *label : labels) {
+            if (!label->isVisible() || label->text().isEmpty())
+                continue;
+            const int needed =
+                label->wordWrap() ? label->heightForWidth(label->width()) : label->sizeHint().height();
+            QTRY_VERIFY2_WITH_TIMEOUT(label->height() >= needed, qPrintable(label->text()), 500);
+            QVERIFY2(label->wordWrap() || label->width() >= label->sizeHint().width(),
+                     qPrintable(label->text()));
+            ++seen;
+        }
+        QVERIFY(seen >= 5);
+        const auto buttons = window.findChildren<QAbstractButton *>();
+        for (const QAbstractButton *button : buttons)
+            QVERIFY2(!button->isVisible() || button->width() >= button->minimumSizeHint().width(),
+                     qPrintable(button->text()));
     }
 
     void eachProgramKeepsItsOwnUndo()

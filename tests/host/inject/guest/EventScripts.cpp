@@ -223,9 +223,12 @@ bool playEvents(const char *name, GuestWindow &window)
         hand.release(kHere);
     } else if (is("pen-as-mouse")) {
         hand.penAsMouse(QEvent::MouseButtonPress, kHere, Qt::RightButton, Qt::RightButton);
-        hand.penAsMouse(QEvent::MouseMove, kHere + QPoint(50, 0), Qt::NoButton, Qt::RightButton);
-        hand.penAsMouse(QEvent::MouseButtonRelease, kHere + QPoint(50, 0), Qt::RightButton,
-                        Qt::NoButton);
+        // Too little for a gesture.
+        hand.penAsMouse(QEvent::MouseMove, kHere + QPoint(5, 0), Qt::NoButton, Qt::RightButton);
+        hand.penAsMouse(QEvent::MouseButtonRelease, kHere + QPoint(5, 0), Qt::RightButton, Qt::NoButton);
+        hand.penAsMouse(QEvent::MouseButtonPress, kHere, Qt::LeftButton, Qt::LeftButton);
+        hand.penAsMouse(QEvent::MouseMove, kHere + QPoint(50, 0), Qt::NoButton, Qt::LeftButton);
+        hand.penAsMouse(QEvent::MouseButtonRelease, kHere + QPoint(50, 0), Qt::LeftButton, Qt::NoButton);
     } else if (is("control")) {
         auto *field = new QLineEdit(window.view);
         field->setContextMenuPolicy(Qt::NoContextMenu);

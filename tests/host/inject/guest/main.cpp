@@ -9,6 +9,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCloseEvent>
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QFile>
@@ -299,6 +300,39 @@ int runHeap(int argc, char **argv)
     return app->exec();
 }
 
+class ClosingWindow : public GuestWindow
+{
+public:
+    explicit ClosingWindow(bool asks)
+        : m_asks(asks)
+    {
+    }
+
+protected:
+    void closeEvent(QCloseEvent *event) override
+    {
+        QFile file(QCoreApplication::arguments().value(2));
+        if (file.open(QIODevice::WriteOnly | QIODevice::Append))
+            file.write("closed\n");
+        if (m_asks) {
+            QDialog question(this);
+            question.exec();
+            event->ignore();
+        }
+    }
+
+private:
+    bool m_asks;
+};
+
+int runSayClosed(int argc, char **argv, bool asks)
+{
+    QApplication app(argc, argv);
+    ClosingWindow window(asks);
+    window.show();
+    return QApplication::exec();
+}
+
 int runApplicationFirst(int argc, char **argv)
 {
     auto app = std::make_unique<QApplication>(argc, argv);
@@ -465,6 +499,9 @@ int main(int argc, char **argv)
         });
     if (mode == "stay")
         return with([](GuestWindow &) {});
+    // Writes to a file that the window was closed; the second one asks before.
+    if (mode == "say-closed" || mode == "ask-when-closed")
+        return runSayClosed(argc, argv, mode == "ask-when-closed");
     if (mode == "late-view")
         return runLateView(argc, argv);
     if (mode == "deaf")

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 GestureWidget developers
+// SPDX-License-Identifier: MIT
+
+#include "host/services/TaskRings.h"
+
+#include "host/files/RingSettings.h"
+#include "host/files/SettingsNames.h"
+#include "host/services/ProfileStore.h"
+
+namespace gesturewidget {
+
+TaskRings::TaskRings(ProfileStore &store, std::function<QString()> task)
+    : m_store(store)
+    , m_task(std::move(task))
+{
+}
+
+TaskRings::~TaskRings() = default;
+
+QString TaskRings::ring()
+{
+    const QString task = m_task();
+    if (task.isEmpty())
+        return {};
+    return ringsettings::hasOwnRing(m_store.values(), task) ? task : QString();
+}
+
+bool TaskRings::Exists(const CHxString &section, const CHxString &key)
+{
+    return m_store.Exists(actual(section, key), key);
+}
+
+OdResBufPtr TaskRings::Get(const CHxString &section, const CHxString &key, int source)
+{
+    return m_store.Get(actual(section, key), key, source);
+}
+
+bool TaskRings::Set(const CHxString &section, const CHxString &key, const OdResBuf *value)
+{
+    return m_store.Set(actual(section, key), key, value);
+}
+
+CHxString TaskRings::actual(const CHxString &section, const CHxString &key)
+{
+    const bool mayDiffer =
+        section == CHxString(settingsnames::moduleSection()) && ringsettings::isRingKey(key.toQString());
+    const QString own = mayDiffer ? ring() : QString();
+    return own.isEmpty() ? section : CHxString(ringsettings::sectionOf(own));
+}
+
+} // namespace gesturewidget
