@@ -5,7 +5,7 @@
     <name>host</name>
     <message>
         <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
-        <translation>Das Programm hat keinen Befehl „%1“; seine Richtung ist leer.</translation>
+        <translation>Das Programm hat keinen Befehl „%1“; die Richtung ist leer.</translation>
     </message>
     <message>
         <source>There is no command &quot;%1&quot;.</source>
@@ -84,14 +84,6 @@
         <translation>Die Anleitung zu den Mausgesten lässt sich nicht öffnen.</translation>
     </message>
     <message>
-        <source>This is the ring of all tasks.</source>
-        <translation>Das ist der Ring aller Aufgaben.</translation>
-    </message>
-    <message>
-        <source>This is the ring of %1.</source>
-        <translation>Das ist der Ring von %1.</translation>
-    </message>
-    <message>
         <source>Ctrl</source>
         <translation>Strg</translation>
     </message>
@@ -126,6 +118,18 @@
     <message>
         <source>forward button</source>
         <translation>Vorwärts-Taste</translation>
+    </message>
+    <message>
+        <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
+        <translation>Mausgesten beginnen mit %1. Ändern: mouse-gestures --trigger %2</translation>
+    </message>
+    <message>
+        <source>This is the ring of all tasks.</source>
+        <translation>Das ist der Ring aller Aufgaben.</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>Das ist der Ring von %1.</translation>
     </message>
 </context>
 </TS>

@@ -5,7 +5,7 @@
     <name>host</name>
     <message>
         <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
-        <translation>El programa no tiene el comando «%1»; su dirección está vacía.</translation>
+        <translation>El programa no tiene la orden «%1»; su dirección queda vacía.</translation>
     </message>
     <message>
         <source>There is no command &quot;%1&quot;.</source>
@@ -84,14 +84,6 @@
         <translation>No se puede abrir la guía de los gestos del ratón.</translation>
     </message>
     <message>
-        <source>This is the ring of all tasks.</source>
-        <translation>Este es el anillo de todas las tareas.</translation>
-    </message>
-    <message>
-        <source>This is the ring of %1.</source>
-        <translation>Este es el anillo de %1.</translation>
-    </message>
-    <message>
         <source>Ctrl</source>
         <translation>Ctrl</translation>
     </message>
@@ -121,11 +113,23 @@
     </message>
     <message>
         <source>back button</source>
-        <translation>botón Atrás</translation>
+        <translation>botón atrás</translation>
     </message>
     <message>
         <source>forward button</source>
-        <translation>botón Adelante</translation>
+        <translation>botón adelante</translation>
+    </message>
+    <message>
+        <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
+        <translation>Los gestos del ratón empiezan con %1. Para cambiarlo: mouse-gestures --trigger %2</translation>
+    </message>
+    <message>
+        <source>This is the ring of all tasks.</source>
+        <translation>Este es el anillo de todas las tareas.</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>Este es el anillo de %1.</translation>
     </message>
 </context>
 </TS>

@@ -84,14 +84,6 @@
         <translation>Impossible d’ouvrir le guide des gestes de la souris.</translation>
     </message>
     <message>
-        <source>This is the ring of all tasks.</source>
-        <translation>C’est l’anneau de toutes les tâches.</translation>
-    </message>
-    <message>
-        <source>This is the ring of %1.</source>
-        <translation>C’est l’anneau de %1.</translation>
-    </message>
-    <message>
         <source>Ctrl</source>
         <translation>Ctrl</translation>
     </message>
@@ -105,7 +97,7 @@
     </message>
     <message>
         <source>Meta</source>
-        <translation>Meta</translation>
+        <translation>Méta</translation>
     </message>
     <message>
         <source>left button</source>
@@ -113,7 +105,7 @@
     </message>
     <message>
         <source>middle button</source>
-        <translation>bouton central</translation>
+        <translation>bouton du milieu</translation>
     </message>
     <message>
         <source>right button</source>
@@ -121,11 +113,23 @@
     </message>
     <message>
         <source>back button</source>
-        <translation>bouton Précédent</translation>
+        <translation>bouton précédent</translation>
     </message>
     <message>
         <source>forward button</source>
-        <translation>bouton Suivant</translation>
+        <translation>bouton suivant</translation>
+    </message>
+    <message>
+        <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
+        <translation>Les gestes de souris commencent par %1. Pour changer : mouse-gestures --trigger %2</translation>
+    </message>
+    <message>
+        <source>This is the ring of all tasks.</source>
+        <translation>C’est l’anneau de toutes les tâches.</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>C’est l’anneau de %1.</translation>
     </message>
 </context>
 </TS>

@@ -84,14 +84,6 @@
         <translation>Impossibile aprire la guida ai gesti del mouse.</translation>
     </message>
     <message>
-        <source>This is the ring of all tasks.</source>
-        <translation>Questo è l’anello di tutti i compiti.</translation>
-    </message>
-    <message>
-        <source>This is the ring of %1.</source>
-        <translation>Questo è l’anello di %1.</translation>
-    </message>
-    <message>
         <source>Ctrl</source>
         <translation>Ctrl</translation>
     </message>
@@ -121,11 +113,23 @@
     </message>
     <message>
         <source>back button</source>
-        <translation>pulsante Indietro</translation>
+        <translation>pulsante indietro</translation>
     </message>
     <message>
         <source>forward button</source>
-        <translation>pulsante Avanti</translation>
+        <translation>pulsante avanti</translation>
+    </message>
+    <message>
+        <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
+        <translation>I gesti del mouse iniziano con %1. Per cambiare: mouse-gestures --trigger %2</translation>
+    </message>
+    <message>
+        <source>This is the ring of all tasks.</source>
+        <translation>Questo è l’anello di tutte le attività.</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>Questo è l’anello di %1.</translation>
     </message>
 </context>
 </TS>

@@ -84,14 +84,6 @@
         <translation>マウスジェスチャーのガイドを開けません。</translation>
     </message>
     <message>
-        <source>This is the ring of all tasks.</source>
-        <translation>すべての作業に共通のリングです。</translation>
-    </message>
-    <message>
-        <source>This is the ring of %1.</source>
-        <translation>%1 のリングです。</translation>
-    </message>
-    <message>
         <source>Ctrl</source>
         <translation>Ctrl</translation>
     </message>
@@ -126,6 +118,18 @@
     <message>
         <source>forward button</source>
         <translation>進むボタン</translation>
+    </message>
+    <message>
+        <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
+        <translation>マウスジェスチャーは %1 で始まります。変更: mouse-gestures --trigger %2</translation>
+    </message>
+    <message>
+        <source>This is the ring of all tasks.</source>
+        <translation>これはすべての作業で使うリングです。</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>これは %1 のリングです。</translation>
     </message>
 </context>
 </TS>

@@ -84,14 +84,6 @@
         <translation>Nie można otworzyć przewodnika po gestach myszy.</translation>
     </message>
     <message>
-        <source>This is the ring of all tasks.</source>
-        <translation>To pierścień wszystkich zadań.</translation>
-    </message>
-    <message>
-        <source>This is the ring of %1.</source>
-        <translation>To pierścień zadania %1.</translation>
-    </message>
-    <message>
         <source>Ctrl</source>
         <translation>Ctrl</translation>
     </message>
@@ -121,11 +113,23 @@
     </message>
     <message>
         <source>back button</source>
-        <translation>przycisk Wstecz</translation>
+        <translation>przycisk wstecz</translation>
     </message>
     <message>
         <source>forward button</source>
-        <translation>przycisk Dalej</translation>
+        <translation>przycisk dalej</translation>
+    </message>
+    <message>
+        <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
+        <translation>Gesty myszy zaczynają się od: %1. Zmiana: mouse-gestures --trigger %2</translation>
+    </message>
+    <message>
+        <source>This is the ring of all tasks.</source>
+        <translation>To jest pierścień wszystkich zadań.</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>To jest pierścień zadania %1.</translation>
     </message>
 </context>
 </TS>

@@ -5,7 +5,7 @@
     <name>host</name>
     <message>
         <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
-        <translation>O programa não tem o comando “%1”; sua direção está vazia.</translation>
+        <translation>O programa não tem o comando “%1”; a sua direção está vazia.</translation>
     </message>
     <message>
         <source>There is no command &quot;%1&quot;.</source>
@@ -84,14 +84,6 @@
         <translation>Não foi possível abrir o guia dos gestos do mouse.</translation>
     </message>
     <message>
-        <source>This is the ring of all tasks.</source>
-        <translation>Este é o anel de todas as tarefas.</translation>
-    </message>
-    <message>
-        <source>This is the ring of %1.</source>
-        <translation>Este é o anel de %1.</translation>
-    </message>
-    <message>
         <source>Ctrl</source>
         <translation>Ctrl</translation>
     </message>
@@ -121,11 +113,23 @@
     </message>
     <message>
         <source>back button</source>
-        <translation>botão Voltar</translation>
+        <translation>botão recuar</translation>
     </message>
     <message>
         <source>forward button</source>
-        <translation>botão Avançar</translation>
+        <translation>botão avançar</translation>
+    </message>
+    <message>
+        <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
+        <translation>Os gestos do rato começam com %1. Para mudar: mouse-gestures --trigger %2</translation>
+    </message>
+    <message>
+        <source>This is the ring of all tasks.</source>
+        <translation>Este é o anel de todas as tarefas.</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>Este é o anel de %1.</translation>
     </message>
 </context>
 </TS>

@@ -84,14 +84,6 @@
         <translation>Не удалось открыть руководство по жестам мыши.</translation>
     </message>
     <message>
-        <source>This is the ring of all tasks.</source>
-        <translation>Это кольцо для всех задач.</translation>
-    </message>
-    <message>
-        <source>This is the ring of %1.</source>
-        <translation>Это кольцо задачи %1.</translation>
-    </message>
-    <message>
         <source>Ctrl</source>
         <translation>Ctrl</translation>
     </message>
@@ -121,11 +113,23 @@
     </message>
     <message>
         <source>back button</source>
-        <translation>кнопка «Назад»</translation>
+        <translation>кнопка «назад»</translation>
     </message>
     <message>
         <source>forward button</source>
-        <translation>кнопка «Вперёд»</translation>
+        <translation>кнопка «вперёд»</translation>
+    </message>
+    <message>
+        <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
+        <translation>Жесты мышью начинаются так: %1. Изменить: mouse-gestures --trigger %2</translation>
+    </message>
+    <message>
+        <source>This is the ring of all tasks.</source>
+        <translation>Это кольцо для всех задач.</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>Это кольцо для задачи %1.</translation>
     </message>
 </context>
 </TS>

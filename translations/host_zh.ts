@@ -84,14 +84,6 @@
         <translation>无法打开鼠标手势指南。</translation>
     </message>
     <message>
-        <source>This is the ring of all tasks.</source>
-        <translation>这是所有任务的圆环。</translation>
-    </message>
-    <message>
-        <source>This is the ring of %1.</source>
-        <translation>这是 %1 的圆环。</translation>
-    </message>
-    <message>
         <source>Ctrl</source>
         <translation>Ctrl</translation>
     </message>
@@ -126,6 +118,18 @@
     <message>
         <source>forward button</source>
         <translation>前进键</translation>
+    </message>
+    <message>
+        <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
+        <translation>鼠标手势以 %1 开始。更改：mouse-gestures --trigger %2</translation>
+    </message>
+    <message>
+        <source>This is the ring of all tasks.</source>
+        <translation>这是所有任务共用的圆环。</translation>
+    </message>
+    <message>
+        <source>This is the ring of %1.</source>
+        <translation>这是 %1 的圆环。</translation>
     </message>
 </context>
 </TS>

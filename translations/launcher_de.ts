@@ -632,10 +632,6 @@
         <translation>, laut %1</translation>
     </message>
     <message>
-        <source>%1 as nobody has chosen otherwise</source>
-        <translation>%1, da niemand anders gewählt hat</translation>
-    </message>
-    <message>
         <source>%1 by %2</source>
         <translation>%1 laut %2</translation>
     </message>
@@ -658,6 +654,10 @@
     <message>
         <source>a ring is &quot;own&quot; or &quot;shared&quot;, not &quot;%1&quot;</source>
         <translation>ein Ring ist „own“ oder „shared“, nicht „%1“</translation>
+    </message>
+    <message>
+        <source>%1 in no file</source>
+        <translation>%1 in keiner Datei</translation>
     </message>
 </context>
 </TS>

@@ -632,10 +632,6 @@
         <translation>, según %1</translation>
     </message>
     <message>
-        <source>%1 as nobody has chosen otherwise</source>
-        <translation>%1, pues nadie ha elegido otra cosa</translation>
-    </message>
-    <message>
         <source>%1 by %2</source>
         <translation>%1 según %2</translation>
     </message>
@@ -658,6 +654,10 @@
     <message>
         <source>a ring is &quot;own&quot; or &quot;shared&quot;, not &quot;%1&quot;</source>
         <translation>un anillo es «own» o «shared», no «%1»</translation>
+    </message>
+    <message>
+        <source>%1 in no file</source>
+        <translation>%1 en ningún archivo</translation>
     </message>
 </context>
 </TS>

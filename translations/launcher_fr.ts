@@ -632,10 +632,6 @@
         <translation>, selon %1</translation>
     </message>
     <message>
-        <source>%1 as nobody has chosen otherwise</source>
-        <translation>%1, personne n’ayant choisi autrement</translation>
-    </message>
-    <message>
         <source>%1 by %2</source>
         <translation>%1 selon %2</translation>
     </message>
@@ -658,6 +654,10 @@
     <message>
         <source>a ring is &quot;own&quot; or &quot;shared&quot;, not &quot;%1&quot;</source>
         <translation>un anneau est « own » ou « shared », pas « %1 »</translation>
+    </message>
+    <message>
+        <source>%1 in no file</source>
+        <translation>%1 dans aucun fichier</translation>
     </message>
 </context>
 </TS>

@@ -632,10 +632,6 @@
         <translation>, secondo %1</translation>
     </message>
     <message>
-        <source>%1 as nobody has chosen otherwise</source>
-        <translation>%1, dato che nessuno ha scelto altro</translation>
-    </message>
-    <message>
         <source>%1 by %2</source>
         <translation>%1 secondo %2</translation>
     </message>
@@ -658,6 +654,10 @@
     <message>
         <source>a ring is &quot;own&quot; or &quot;shared&quot;, not &quot;%1&quot;</source>
         <translation>un anello è «own» o «shared», non «%1»</translation>
+    </message>
+    <message>
+        <source>%1 in no file</source>
+        <translation>%1 in nessun file</translation>
     </message>
 </context>
 </TS>

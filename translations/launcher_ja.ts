@@ -632,10 +632,6 @@
         <translation>、%1 による</translation>
     </message>
     <message>
-        <source>%1 as nobody has chosen otherwise</source>
-        <translation>%1 は誰も変更していないため</translation>
-    </message>
-    <message>
         <source>%1 by %2</source>
         <translation>%1 は %2 による</translation>
     </message>
@@ -658,6 +654,10 @@
     <message>
         <source>a ring is &quot;own&quot; or &quot;shared&quot;, not &quot;%1&quot;</source>
         <translation>リングは「own」か「shared」です。「%1」ではありません</translation>
+    </message>
+    <message>
+        <source>%1 in no file</source>
+        <translation>%1 はどのファイルにもなし</translation>
     </message>
 </context>
 </TS>

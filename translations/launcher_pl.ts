@@ -632,10 +632,6 @@
         <translation>, według %1</translation>
     </message>
     <message>
-        <source>%1 as nobody has chosen otherwise</source>
-        <translation>%1, bo nikt nie wybrał inaczej</translation>
-    </message>
-    <message>
         <source>%1 by %2</source>
         <translation>%1 według %2</translation>
     </message>
@@ -658,6 +654,10 @@
     <message>
         <source>a ring is &quot;own&quot; or &quot;shared&quot;, not &quot;%1&quot;</source>
         <translation>pierścień to „own” albo „shared”, a nie „%1”</translation>
+    </message>
+    <message>
+        <source>%1 in no file</source>
+        <translation>%1 w żadnym pliku</translation>
     </message>
 </context>
 </TS>

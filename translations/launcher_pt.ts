@@ -632,10 +632,6 @@
         <translation>, segundo %1</translation>
     </message>
     <message>
-        <source>%1 as nobody has chosen otherwise</source>
-        <translation>%1, pois ninguém escolheu outra coisa</translation>
-    </message>
-    <message>
         <source>%1 by %2</source>
         <translation>%1 segundo %2</translation>
     </message>
@@ -658,6 +654,10 @@
     <message>
         <source>a ring is &quot;own&quot; or &quot;shared&quot;, not &quot;%1&quot;</source>
         <translation>um anel é “own” ou “shared”, não “%1”</translation>
+    </message>
+    <message>
+        <source>%1 in no file</source>
+        <translation>%1 em nenhum arquivo</translation>
     </message>
 </context>
 </TS>

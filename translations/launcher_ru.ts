@@ -632,10 +632,6 @@
         <translation>, по файлу %1</translation>
     </message>
     <message>
-        <source>%1 as nobody has chosen otherwise</source>
-        <translation>%1, так как ничего другого не выбрано</translation>
-    </message>
-    <message>
         <source>%1 by %2</source>
         <translation>%1 по файлу %2</translation>
     </message>
@@ -658,6 +654,10 @@
     <message>
         <source>a ring is &quot;own&quot; or &quot;shared&quot;, not &quot;%1&quot;</source>
         <translation>кольцо бывает «own» или «shared», а не «%1»</translation>
+    </message>
+    <message>
+        <source>%1 in no file</source>
+        <translation>%1 ни в одном файле</translation>
     </message>
 </context>
 </TS>

@@ -632,10 +632,6 @@
         <translation>，依据 %1</translation>
     </message>
     <message>
-        <source>%1 as nobody has chosen otherwise</source>
-        <translation>%1 个，因无人另作选择</translation>
-    </message>
-    <message>
         <source>%1 by %2</source>
         <translation>%1 个依据 %2</translation>
     </message>
@@ -658,6 +654,10 @@
     <message>
         <source>a ring is &quot;own&quot; or &quot;shared&quot;, not &quot;%1&quot;</source>
         <translation>圆环为“own”或“shared”，而不是“%1”</translation>
+    </message>
+    <message>
+        <source>%1 in no file</source>
+        <translation>%1 个不在任何文件中</translation>
     </message>
 </context>
 </TS>

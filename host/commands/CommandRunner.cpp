@@ -38,11 +38,6 @@ private:
     bool m_isFound;
 };
 
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("host", text);
-}
-
 void bringDialogToFront()
 {
     QWidget *dialog = QApplication::activeModalWidget();
@@ -152,7 +147,8 @@ void CommandRunner::executeStackCommand(const QString &name)
     // The pointer keeps the command while it runs, also when it is removed meanwhile.
     const OdSmartPtr<OdEdCommand> command = m_stack.lookupCommand(OdString(name));
     if (!command) {
-        m_output.showForAWhile(translated("There is no command \"%1\".").arg(name));
+        m_output.showForAWhile(
+            QCoreApplication::translate("host", "There is no command \"%1\".").arg(name));
         return;
     }
     const OdEdCommand *running = command.get();
@@ -160,8 +156,8 @@ void CommandRunner::executeStackCommand(const QString &name)
         bringDialogToFront();
         return;
     }
-    const QPointer<CommandRunner> self(this);
     const MainWindows::Hold hold(m_windows); // the command may show a dialog
+    const QPointer<CommandRunner> self(this);
     m_running.push_back(running);
     command->execute(nullptr);
     if (self)

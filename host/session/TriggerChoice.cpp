@@ -93,7 +93,8 @@ QString TriggerChoice::introduction()
         || !stored(settingsnames::hostSection(), settingsnames::introducedKey()).isEmpty())
         return {};
     store(settingsnames::introducedKey(), QStringLiteral("1"));
-    return translated("Mouse gestures start with %1. Set it by mouse-gestures --trigger %2")
+    return QCoreApplication::translate(
+               "host", "Mouse gestures start with %1. Set it by mouse-gestures --trigger %2")
         .arg(inWords(m_trigger), m_program);
 }
 

@@ -10,14 +10,14 @@ _mouse_gestures() {
     if ((COMP_CWORD == 1)); then
         if [[ $current == -* ]]; then
             mapfile -t COMPREPLY < <(compgen -W "--bindings --list-commands --bind --ring --trigger --reset --export \
-                --import --print --doctor --explain --enable --disable --help --version" -- "$current")
+                --import --print --doctor --explain --enable --disable --always --help --version" -- "$current")
         else
             mapfile -t COMPREPLY < <(compgen -c -- "$current")
         fi
         return
     fi
     case $option in
-        --explain)
+        --explain | --always)
             if ((COMP_CWORD == 2)); then
                 mapfile -t COMPREPLY < <(compgen -c -- "$current")
             else

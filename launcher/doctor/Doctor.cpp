@@ -198,17 +198,18 @@ struct Sources
     }
 };
 
-// "5 by FILE, 3 by FILE" for the directions of the scheme in use.
+// "5 by FILE, 3 in no file" for the directions of the scheme in use.
 QString sourcesOfBindings(const Sources &sources, int scheme)
 {
     QMap<QString, int> counts;
     for (int number = 1; number <= scheme; ++number)
         ++counts[sources.fileOf(names::moduleSection(), QString::number(10 * scheme + number))];
+    const int inNone = counts.take(QString());
     QStringList texts;
-    for (auto it = counts.begin(); it != counts.end(); ++it) {
-        texts.append(it.key().isEmpty() ? Text::tr("%1 as nobody has chosen otherwise").arg(it.value())
-                                        : Text::tr("%1 by %2").arg(it.value()).arg(it.key()));
-    }
+    for (auto it = counts.begin(); it != counts.end(); ++it)
+        texts.append(Text::tr("%1 by %2").arg(it.value()).arg(it.key()));
+    if (inNone > 0)
+        texts.append(Text::tr("%1 in no file").arg(inNone));
     return texts.join(QStringLiteral(", "));
 }
 

@@ -4,7 +4,8 @@
 #include "launcher/settings/ProgramSettings.h"
 
 #include "host/files/CatalogueFile.h"
-#include "host/files/SettingsFile.h"
+#include "host/files/FileContent.h"
+#include "host/files/IniText.h"
 #include "host/files/SiteSettings.h"
 #include "launcher/settings/Bindings.h"
 
@@ -29,8 +30,11 @@ ProgramSettings ProgramSettings::of(const Subject &subject)
     const gesturewidget::ProgramProfile profile =
         gesturewidget::ProgramProfile::forProgram(subject.name, subject.profileFolders, nullptr);
     const gesturewidget::SiteSettings site(subject.settingsFile());
-    const QString usualTrigger = Bindings::usualTrigger(
-        profile, site.under(gesturewidget::SettingsFile(subject.settingsFile()).read()));
+    // Read without a word: the tasks complain about a file that cannot be used, and once is enough.
+    const gesturewidget::FileContent own =
+        gesturewidget::FileContent::read(subject.settingsFile(), SettingsTasks::kMaximalImport);
+    const QString usualTrigger =
+        Bindings::usualTrigger(profile, site.under(gesturewidget::IniText(own.bytes).values()));
     const KnownCommands commands = knownCommands(subject, profile);
     return {profile, usualTrigger, commands,
             SettingsTasks(subject.name, subject.settingsFile(), commands, usualTrigger)};

@@ -18,7 +18,7 @@ struct ProgramSettings
     [[nodiscard]] static ProgramSettings of(const Subject &subject);
 
     gesturewidget::ProgramProfile profile;
-    QString usualTrigger; // if the person has chosen none, see host/files/TriggerText.h
+    QString usualTrigger; // see Bindings::usualTrigger()
     KnownCommands commands;
     SettingsTasks tasks;
 };

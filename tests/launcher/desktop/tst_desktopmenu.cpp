@@ -21,7 +21,7 @@ namespace {
 
 // The text before the launcher's path.
 const QByteArray kStart =
-    R"(/bin/sh -c "[ -x \\"\\$0\\" ] && exec \\"\\$0\\" \\"\\$@\\"; exec \\"\\$@\\"" )";
+    R"(/bin/sh -c "[ -x \\"\\$0\\" ] && exec \\"\\$0\\" --always \\"\\$@\\"; exec \\"\\$@\\"" )";
 
 const QByteArray kEntry = "# drafting\n"
                           "[Desktop Entry]\n"

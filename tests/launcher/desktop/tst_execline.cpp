@@ -19,7 +19,7 @@ namespace {
 
 // The text before the launcher's path.
 const QByteArray kStart =
-    R"(/bin/sh -c "[ -x \\"\\$0\\" ] && exec \\"\\$0\\" \\"\\$@\\"; exec \\"\\$@\\"" )";
+    R"(/bin/sh -c "[ -x \\"\\$0\\" ] && exec \\"\\$0\\" --always \\"\\$@\\"; exec \\"\\$@\\"" )";
 
 } // namespace
 
@@ -93,7 +93,11 @@ void ExecLineTest::reads()
     QCOMPARE(after.arguments.value(2), QByteArray("/usr/bin/mg"));
     QCOMPARE(after.startedProgram(), program);
     QCOMPARE(after.arguments.mid(4), arguments);
-    // Copies of earlier versions start the launcher itself.
+    // Copies of earlier versions have another script, or start the launcher itself.
+    QByteArray old = started;
+    old.replace(" --always", "");
+    QVERIFY(old != started);
+    QCOMPARE(ExecLine::parse(old).startedProgram(), program);
     QCOMPARE(ExecLine::parse("/usr/bin/mg " + ExecLine::encoded(program)).startedProgram(), program);
 }
 
@@ -150,7 +154,7 @@ void ExecLineTest::startsTheProgramAlone()
         return QFile::encodeName(file.fileName());
     };
     const QByteArray program = script("a $b", R"(echo "program|$1|$2"; exit 7)");
-    const QByteArray launcher = script("the launcher", R"(echo "launcher|$1|$2|$3"; exit 9)");
+    const QByteArray launcher = script("the launcher", R"(echo "launcher|$1|$2|$3|$4"; exit 9)");
     const ExecLine started =
         ExecLine::parse(ExecLine::parse(ExecLine::encoded(program) + " \"x y\" z").startedBy(launcher));
     QVERIFY(started.isValid);
@@ -165,7 +169,7 @@ void ExecLineTest::startsTheProgramAlone()
         return process.readAllStandardOutput();
     };
     int status = 0;
-    QCOMPARE(run(status), "launcher|" + program + "|x y|z\n");
+    QCOMPARE(run(status), "launcher|--always|" + program + "|x y|z\n");
     QCOMPARE(status, 9);
     QVERIFY(QFile::remove(QFile::decodeName(launcher)));
     QCOMPARE(run(status), QByteArray("program|x y|z\n"));

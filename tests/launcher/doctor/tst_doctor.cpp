@@ -61,7 +61,7 @@ private Q_SLOTS:
             QStringLiteral("  views:       looked for in the running program, see --explain"),
             QStringLiteral("  settings:    %1/drafter.ini, not there yet").arg(folder.path()),
             QStringLiteral("  gestures:    on, 8 of them"),
-            QStringLiteral("  bindings:    8 as nobody has chosen otherwise"),
+            QStringLiteral("  bindings:    8 in no file"),
             QStringLiteral("  trigger:     right; ctrl+right if OpenGL paints the drawing"),
         };
         QCOMPARE(diagnosis.lines(), expected);
