@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QEnterEvent>
 #include <QIcon>
+#include <QLibraryInfo>
 #include <QMouseEvent>
 #include <QPixmap>
 #include <QStyleOptionViewItem>
@@ -38,6 +39,16 @@ constexpr int kQtMajor = QT_VERSION_MAJOR;
     return QApplication::desktop();
 #else
     return nullptr;
+#endif
+}
+
+// The folder of Qt's own translations.
+[[nodiscard]] inline QString translationsFolder()
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+#else
+    return QLibraryInfo::path(QLibraryInfo::TranslationsPath);
 #endif
 }
 

@@ -84,10 +84,6 @@
         <translation>Die Anleitung zu den Mausgesten lässt sich nicht öffnen.</translation>
     </message>
     <message>
-        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
-        <translation>Das Programm hat keinen Befehl „%1“; dessen Richtung ist leer.</translation>
-    </message>
-    <message>
         <source>Ctrl</source>
         <translation>Strg</translation>
     </message>

@@ -84,10 +84,6 @@
         <translation>No se puede abrir la guía de los gestos del ratón.</translation>
     </message>
     <message>
-        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
-        <translation>El programa no tiene la orden «%1»; su dirección está vacía.</translation>
-    </message>
-    <message>
         <source>Ctrl</source>
         <translation>Ctrl</translation>
     </message>

@@ -84,10 +84,6 @@
         <translation>Impossible d’ouvrir le guide des gestes de la souris.</translation>
     </message>
     <message>
-        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
-        <translation>Le programme n’a pas de commande « %1 » ; sa direction est vide.</translation>
-    </message>
-    <message>
         <source>Ctrl</source>
         <translation>Ctrl</translation>
     </message>

@@ -84,10 +84,6 @@
         <translation>Impossibile aprire la guida ai gesti del mouse.</translation>
     </message>
     <message>
-        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
-        <translation>Il programma non ha il comando «%1»; la sua direzione è vuota.</translation>
-    </message>
-    <message>
         <source>Ctrl</source>
         <translation>Ctrl</translation>
     </message>

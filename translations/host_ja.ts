@@ -84,10 +84,6 @@
         <translation>マウスジェスチャーのガイドを開けません。</translation>
     </message>
     <message>
-        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
-        <translation>プログラムにコマンド「%1」がないため、その方向は空です。</translation>
-    </message>
-    <message>
         <source>Ctrl</source>
         <translation>Ctrl</translation>
     </message>

@@ -84,10 +84,6 @@
         <translation>Nie można otworzyć przewodnika po gestach myszy.</translation>
     </message>
     <message>
-        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
-        <translation>Program nie ma polecenia „%1”; jego kierunek jest pusty.</translation>
-    </message>
-    <message>
         <source>Ctrl</source>
         <translation>Ctrl</translation>
     </message>

@@ -84,10 +84,6 @@
         <translation>Não foi possível abrir o guia dos gestos do mouse.</translation>
     </message>
     <message>
-        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
-        <translation>O programa não tem o comando “%1”; a sua direção está vazia.</translation>
-    </message>
-    <message>
         <source>Ctrl</source>
         <translation>Ctrl</translation>
     </message>

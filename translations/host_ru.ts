@@ -84,10 +84,6 @@
         <translation>Не удалось открыть руководство по жестам мыши.</translation>
     </message>
     <message>
-        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
-        <translation>В программе нет команды «%1»; её направление пусто.</translation>
-    </message>
-    <message>
         <source>Ctrl</source>
         <translation>Ctrl</translation>
     </message>

@@ -84,10 +84,6 @@
         <translation>无法打开鼠标手势指南。</translation>
     </message>
     <message>
-        <source>The program has no command &quot;%1&quot;; its direction is empty.</source>
-        <translation>程序没有命令“%1”，其方向为空。</translation>
-    </message>
-    <message>
         <source>Ctrl</source>
         <translation>Ctrl</translation>
     </message>

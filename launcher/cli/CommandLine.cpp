@@ -3,13 +3,16 @@
 
 #include "launcher/cli/CommandLine.h"
 
+#include "launcher/Columns.h"
+#include "launcher/Text.h"
+
 #include <limits>
 
 namespace launcher {
 namespace {
 
-// A task about one program, and what is typed for it. To add an option: a row here, its text in
-// helpText(), and what it does in main.cpp's perform().
+// A task about one program, and what is typed for it. To add an option: a row here, and what it does
+// in main.cpp's perform().
 struct TaskOption
 {
     const char *name;
@@ -18,23 +21,44 @@ struct TaskOption
     int most;
     bool mayBeJson;
     const char *usage;
+    const char *help; // for --help
 };
 
 constexpr TaskOption kTaskOptions[] = {
-    {"--bindings", CommandLine::Task::ShowBindings, 0, 0, true, "PROGRAM [--json]"},
-    {"--list-commands", CommandLine::Task::ListCommands, 0, 0, true, "PROGRAM [--json]"},
-    {"--bind", CommandLine::Task::Bind, 2, 2, false, "PROGRAM DIRECTION COMMAND [--ring TASK]"},
-    {"--ring", CommandLine::Task::SetRing, 2, 2, false, "PROGRAM TASK own|shared"},
-    {"--trigger", CommandLine::Task::SetTrigger, 1, 1, false, "PROGRAM TRIGGER"},
-    {"--reset", CommandLine::Task::Reset, 0, 0, false, "PROGRAM"},
-    {"--export", CommandLine::Task::Export, 0, 1, false, "PROGRAM [FILE]"},
-    {"--import", CommandLine::Task::Import, 1, 1, false, "PROGRAM FILE"},
-    {"--print", CommandLine::Task::Print, 1, 1, false, "PROGRAM FILE.pdf"},
-    {"--doctor", CommandLine::Task::Examine, 0, 0, false, "PROGRAM"},
+    {"--bindings", CommandLine::Task::ShowBindings, 0, 0, true, "PROGRAM [--json]",
+     QT_TRANSLATE_NOOP("launcher", "show which command lies in which direction")},
+    {"--list-commands", CommandLine::Task::ListCommands, 0, 0, true, "PROGRAM [--json]",
+     QT_TRANSLATE_NOOP("launcher", "show the commands that the program has shown so far")},
+    {"--bind", CommandLine::Task::Bind, 2, 2, false, "PROGRAM DIRECTION COMMAND [--ring TASK]",
+     QT_TRANSLATE_NOOP(
+         "launcher",
+         "put a command into a direction. COMMAND is its identifier or its caption, or \"none\". "
+         "DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right "
+         "or up-right. With --ring TASK after it: in the ring of that task")},
+    {"--ring", CommandLine::Task::SetRing, 2, 2, false, "PROGRAM TASK own|shared",
+     QT_TRANSLATE_NOOP("launcher", "give a task, such as FreeCAD's SketcherWorkbench, a ring of its "
+                                   "own, or the shared one again")},
+    {"--trigger", CommandLine::Task::SetTrigger, 1, 1, false, "PROGRAM TRIGGER",
+     QT_TRANSLATE_NOOP("launcher", "choose what starts a gesture: right, middle, ctrl+right, ...; "
+                                   "\"default\" is the usual trigger")},
+    {"--reset", CommandLine::Task::Reset, 0, 0, false, "PROGRAM",
+     QT_TRANSLATE_NOOP("launcher", "bring the first bindings back; the trigger stays")},
+    {"--export", CommandLine::Task::Export, 0, 1, false, "PROGRAM [FILE]",
+     QT_TRANSLATE_NOOP("launcher", "write all bindings as JSON")},
+    {"--import", CommandLine::Task::Import, 1, 1, false, "PROGRAM FILE",
+     QT_TRANSLATE_NOOP("launcher", "take over such a file, all of it or nothing")},
+    {"--print", CommandLine::Task::Print, 1, 1, false, "PROGRAM FILE.pdf",
+     QT_TRANSLATE_NOOP("launcher", "draw the ring with its commands, to pin on the wall")},
+    {"--doctor", CommandLine::Task::Examine, 0, 0, false, "PROGRAM",
+     QT_TRANSLATE_NOOP("launcher", "say whether gestures can work in the program")},
     {"--explain", CommandLine::Task::Explain, 0, std::numeric_limits<int>::max(), false,
-     "PROGRAM [ARGUMENTS...]"},
-    {"--enable", CommandLine::Task::Enable, 0, 0, false, "PROGRAM"},
-    {"--disable", CommandLine::Task::Disable, 0, 0, false, "PROGRAM"},
+     "PROGRAM [ARGUMENTS...]",
+     QT_TRANSLATE_NOOP("launcher", "start the program, say what in it is taken for what and why, print "
+                                   "that as a profile, end the program")},
+    {"--enable", CommandLine::Task::Enable, 0, 0, false, "PROGRAM",
+     QT_TRANSLATE_NOOP("launcher", "start it with gestures from the desktop's menus too")},
+    {"--disable", CommandLine::Task::Disable, 0, 0, false, "PROGRAM",
+     QT_TRANSLATE_NOOP("launcher", "start it from the desktop's menus as before")},
 };
 
 constexpr char kJson[] = "--json";
@@ -58,7 +82,7 @@ CommandLine parseTask(const TaskOption &option, QList<QByteArray> words)
     }
     const auto count = static_cast<int>(words.size()) - 1; // without the program
     if (words.isEmpty() || count < option.least || count > option.most || words.first().isEmpty()) {
-        line.complaint = QStringLiteral("usage: mouse-gestures %1 %2")
+        line.complaint = Text::tr("usage: mouse-gestures %1 %2")
                              .arg(QLatin1String(option.name), QLatin1String(option.usage));
         return line;
     }
@@ -93,7 +117,7 @@ CommandLine CommandLine::parse(const QList<QByteArray> &typed)
         }
         line.isAlways = option == kAlways;
         if (option != "--" && !line.isAlways) {
-            line.complaint = QStringLiteral("unknown option %1, see mouse-gestures --help")
+            line.complaint = Text::tr("unknown option %1, see mouse-gestures --help")
                                  .arg(QString::fromLocal8Bit(option));
             return line;
         }
@@ -102,7 +126,7 @@ CommandLine CommandLine::parse(const QList<QByteArray> &typed)
 
     if (next >= arguments.size() || arguments.at(next).isEmpty()) {
         line.task = arguments.isEmpty() ? Task::OpenWindow : Task::Complain;
-        line.complaint = QStringLiteral("no program given, see mouse-gestures --help");
+        line.complaint = Text::tr("no program given, see mouse-gestures --help");
         return line;
     }
     line.task = Task::Run;
@@ -113,49 +137,49 @@ CommandLine CommandLine::parse(const QList<QByteArray> &typed)
 
 QString helpText()
 {
-    return QStringLiteral(R"(Usage: mouse-gestures PROGRAM [ARGUMENTS...]
-       mouse-gestures OPTION PROGRAM ...
-       mouse-gestures
+    constexpr int kLine = 88;
+    constexpr int kUsage = 34; // the column of usages
+    QStringList lines;
+    const auto addParagraph = [&lines](const QString &text) {
+        lines += QString();
+        lines += wrapped(text, kLine);
+    };
+    const auto addRow = [&lines](const QString &name, int width, const QString &help) {
+        const QStringList column = wrapped(help, kLine - width - 2);
+        for (int i = 0; i < column.size(); ++i)
+            lines += QStringLiteral("  ") + padded(i == 0 ? name : QString(), width) + column.at(i);
+    };
 
-Starts a drafting program with mouse gestures: hold the right button in the drawing,
-drag, and move on towards the command you want. "Mouse Gestures..." in the program's
-menus shows which command lies in which direction.
-
-PROGRAM is any program made with Qt Widgets, 5 or 6. It is not changed. Without a
-program, a window opens in which a person can do all of this with the mouse.
-
-  --bindings PROGRAM [--json]       show which command lies in which direction
-  --list-commands PROGRAM [--json]  show the commands that the program has shown so far
-  --bind PROGRAM DIRECTION COMMAND  put a command into a direction. COMMAND is its
-                                    identifier or its caption, or "none". DIRECTION is
-                                    up, left, down or right; with eight gestures also
-                                    up-left, down-left, down-right or up-right
-                                    --ring TASK after it: in the ring of that task
-  --ring PROGRAM TASK own|shared    give a task, such as FreeCAD's SketcherWorkbench, a
-                                    ring of its own, or the shared one again
-  --trigger PROGRAM TRIGGER         choose what starts a gesture: right, middle,
-                                    ctrl+right, ...; "default" is the usual trigger
-  --reset PROGRAM                   bring the first bindings back; the trigger stays
-  --export PROGRAM [FILE]           write all bindings as JSON
-  --import PROGRAM FILE             take over such a file, all of it or nothing
-  --print PROGRAM FILE.pdf          draw the ring with its commands, to pin on the wall
-  --doctor PROGRAM                  say whether gestures can work in the program
-  --explain PROGRAM [ARGUMENTS...]  start the program, say what in it is taken for what
-                                    and why, print that as a profile, end the program
-  --enable PROGRAM                  start it with gestures from the desktop's menus too
-  --disable PROGRAM                 start it from the desktop's menus as before
-  --always PROGRAM [ARGUMENTS...]   start it without gestures if it cannot have them
-
-  -h, --help     show this text
-  -V, --version  show the version
-  --             the next word is the program, even if it starts with "-"
-
-FILE may be "-" for standard output or standard input.
-
-Exit status of a started program: its own. 127: there is no such program. 126: it cannot
-be run with gestures. 125: mouse-gestures is not set up or not used correctly. An option
-exits with 1 when it could not be done; nothing is changed then.
-)");
+    const QString usage = Text::tr("Usage:") + QLatin1Char(' ');
+    lines += usage + QStringLiteral("mouse-gestures PROGRAM [ARGUMENTS...]");
+    for (const char *form : {"mouse-gestures OPTION PROGRAM ...", "mouse-gestures"})
+        lines += padded(QString(), columnsOf(usage)) + QLatin1String(form);
+    addParagraph(Text::tr("Starts a drafting program with mouse gestures: hold the right button in the "
+                          "drawing, drag, and move on towards the command you want. \"Mouse "
+                          "Gestures...\" in the program's menus shows which command lies in which "
+                          "direction."));
+    addParagraph(Text::tr("PROGRAM is any program made with Qt Widgets, 5 or 6. It is not changed. "
+                          "Without a program, a window opens in which a person can do all of this "
+                          "with the mouse."));
+    lines += QString();
+    for (const TaskOption &task : kTaskOptions)
+        addRow(QLatin1String(task.name) + QLatin1Char(' ')
+                   + QString::fromLatin1(task.usage).remove(QLatin1String(" [--ring TASK]")),
+               kUsage, Text::tr(task.help));
+    addRow(QStringLiteral("--always PROGRAM [ARGUMENTS...]"), kUsage,
+           Text::tr("start it without gestures if it cannot have them"));
+    lines += QString();
+    constexpr int kGeneral = 15;
+    addRow(QStringLiteral("-h, --help"), kGeneral, Text::tr("show this text"));
+    addRow(QStringLiteral("-V, --version"), kGeneral, Text::tr("show the version"));
+    addRow(QStringLiteral("--"), kGeneral,
+           Text::tr("the next word is the program, even if it starts with \"-\""));
+    addParagraph(Text::tr("FILE may be \"-\" for standard output or standard input."));
+    addParagraph(Text::tr("Exit status of a started program: its own. 127: there is no such program. "
+                          "126: it cannot be run with gestures. 125: mouse-gestures is not set up or "
+                          "not used correctly. An option exits with 1 when it could not be done; "
+                          "nothing is changed then."));
+    return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
 }
 
 } // namespace launcher

@@ -10,6 +10,7 @@
 #include "launcher/programs/Subject.h"
 #include "launcher/settings/ProgramSettings.h"
 #include "launcher/sheet/SheetTask.h"
+#include "launcher/Text.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -45,7 +46,7 @@ Outcome setRing(ProgramSettings &settings, const CommandLine &line)
 {
     const gesturewidget::ProgramProfile &profile = settings.profile;
     if (!profile.knowsTasks())
-        return Outcome::failure(QStringLiteral("the profile of this program knows no tasks"));
+        return Outcome::failure(Text::tr("the profile of this program knows no tasks"));
     const QString task = QString::fromLocal8Bit(line.arguments.value(0));
     // A program's workbenches are entries of its menus; classes of views are not known here.
     const bool isKnown = profile.isTaskOfView || profile.taskBindings.contains(task)
@@ -53,7 +54,7 @@ Outcome setRing(ProgramSettings &settings, const CommandLine &line)
     if (!isKnown) {
         QStringList known = profile.taskBindings.keys();
         known.sort();
-        return Outcome::failure(QStringLiteral("there is no task \"%1\"; known ones are %2")
+        return Outcome::failure(Text::tr("there is no task \"%1\"; known ones are %2")
                                     .arg(task, known.join(QStringLiteral(", "))));
     }
     return settings.tasks.setRing(task, QString::fromLocal8Bit(line.arguments.value(1)),
@@ -65,9 +66,9 @@ Outcome importStandardInput(SettingsTasks &tasks)
     QByteArray text(SettingsTasks::kMaximalImport + 1, '\0'); // one more, to notice a longer text
     const std::size_t count = std::fread(text.data(), 1, static_cast<std::size_t>(text.size()), stdin);
     if (std::ferror(stdin) != 0)
-        return Outcome::failure(QStringLiteral("standard input cannot be read"));
+        return Outcome::failure(Text::tr("standard input cannot be read"));
     text.truncate(static_cast<int>(count));
-    return tasks.importText(text, QStringLiteral("standard input"));
+    return tasks.importText(text, Text::tr("standard input"));
 }
 
 } // namespace
@@ -78,7 +79,7 @@ int examineProgram(const CommandLine &line)
     Outcome outcome;
     outcome.output = diagnosis.lines().join(QLatin1Char('\n')).toLocal8Bit() + '\n';
     if (!diagnosis.isHealthy())
-        outcome.complaint = QStringLiteral("gestures cannot work well in %1, see the lines with \"!\"")
+        outcome.complaint = Text::tr("gestures cannot work well in %1, see the lines with \"!\"")
                                 .arg(QString::fromLocal8Bit(line.program));
     return report(outcome);
 }
@@ -101,7 +102,7 @@ int doSettingsTask(const CommandLine &line)
     if (subject.path.isEmpty() && !QFileInfo::exists(subject.settingsFile())
         && !QFileInfo::exists(subject.catalogueFile()))
         return complain(
-            QStringLiteral("%1: there is no such program").arg(QString::fromLocal8Bit(line.program)),
+            Text::tr("%1: there is no such program").arg(QString::fromLocal8Bit(line.program)),
             kNotFound);
 
     ProgramSettings settings = ProgramSettings::of(subject);

@@ -3,6 +3,8 @@
 
 #include "launcher/cli/Report.h"
 
+#include "launcher/Text.h"
+
 #include <cstdio>
 
 namespace launcher {
@@ -19,7 +21,7 @@ int report(const Outcome &outcome)
 {
     std::fputs(outcome.output.constData(), stdout);
     if (std::fflush(stdout) != 0)
-        return complain(QStringLiteral("standard output cannot be written"), kTaskFailed);
+        return complain(Text::tr("standard output cannot be written"), kTaskFailed);
     return outcome.isDone() ? 0 : complain(outcome.complaint, kTaskFailed);
 }
 

@@ -9,6 +9,7 @@
 #include "launcher/programs/LaunchEnvironment.h"
 #include "launcher/programs/ProgramCheck.h"
 #include "launcher/programs/Subject.h"
+#include "launcher/Text.h"
 
 #include <QJsonDocument>
 
@@ -86,13 +87,13 @@ int startProgram(const CommandLine &line)
     if (start.status != 0 && !mayBePlain)
         return start.status;
     if (start.status == 0 && lacksX11(start.environment))
-        complain(QStringLiteral("warning: there is no X11 display; under Wayland the ring may open "
-                                "away from the pointer"),
+        complain(Text::tr("warning: there is no X11 display; under Wayland the ring may open "
+                          "away from the pointer"),
                  0);
     replaceProcess(start);
     const int reason = errno;
-    return complain(QStringLiteral("%1: %2").arg(QString::fromLocal8Bit(line.program),
-                                                 QString::fromLocal8Bit(std::strerror(reason))),
+    return complain(Text::tr("%1: %2").arg(QString::fromLocal8Bit(line.program),
+                                           QString::fromLocal8Bit(std::strerror(reason))),
                     reason == ENOENT ? kNotFound : kCannotRun);
 }
 
@@ -117,14 +118,14 @@ int explainProgram(const CommandLine &line)
     if (found.signal != 0)
         return ::raise(found.signal); // ends the launcher too, as the signal should
     if (!found.complaint.isEmpty())
-        return complain(
-            QStringLiteral("%1: %2").arg(QString::fromLocal8Bit(line.program), found.complaint),
-            kTaskFailed);
+        return complain(Text::tr("%1: %2").arg(QString::fromLocal8Bit(line.program), found.complaint),
+                        kTaskFailed);
     for (const QString &text : found.lines)
         std::fprintf(stderr, "%s\n", qPrintable(text));
     const QString program = found.profile.value(QStringLiteral("program")).toString();
-    std::fprintf(stderr, "To change any of it, edit this profile and keep it as %s\n",
-                 qPrintable(gesturewidget::ownProfileFile(program)));
+    std::fprintf(stderr, "%s\n",
+                 qPrintable(Text::tr("To change any of it, edit this profile and keep it as %1")
+                                .arg(gesturewidget::ownProfileFile(program))));
     return report({QJsonDocument(found.profile).toJson(), {}});
 }
 

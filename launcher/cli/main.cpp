@@ -8,6 +8,7 @@
 #include "launcher/cli/ProgramTasks.h"
 #include "launcher/cli/Report.h"
 #include "launcher/cli/StartTasks.h"
+#include "launcher/Language.h"
 #include "launcher/programs/ProgramCheck.h"
 
 namespace {
@@ -42,6 +43,7 @@ int perform(const launcher::CommandLine &line)
 
 int main(int argc, char **argv)
 {
+    const launcher::Language language(argv[0]);
     QList<QByteArray> arguments;
     for (int i = 1; i < argc; ++i)
         arguments.append(argv[i]);

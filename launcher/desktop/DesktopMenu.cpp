@@ -7,6 +7,7 @@
 #include "launcher/desktop/DesktopFile.h"
 #include "launcher/programs/ProgramLookup.h"
 #include "launcher/programs/QtWidgetsUse.h"
+#include "launcher/Text.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -36,7 +37,7 @@ bool isThere(const QString &path)
 
 QString ownFileMessage(const QString &path)
 {
-    return QStringLiteral("%1 is your own and stays as it is").arg(path);
+    return Text::tr("%1 is your own and stays as it is").arg(path);
 }
 
 bool store(const QString &path, const QByteArray &content)
@@ -108,8 +109,7 @@ Outcome DesktopMenu::enable(const QByteArray &typed, const QByteArray &path) con
                 && isProgram(file.exec().program, path))
                 return Outcome::failure(ownFileMessage(entry));
         }
-        return Outcome::failure(
-            QStringLiteral("%1: the desktop has no entry that starts it").arg(program));
+        return Outcome::failure(Text::tr("%1: the desktop has no entry that starts it").arg(program));
     }
 
     std::vector<Copy> copies;
@@ -118,7 +118,7 @@ Outcome DesktopMenu::enable(const QByteArray &typed, const QByteArray &path) con
         DesktopFile file;
         const QString source = installedFile(name);
         if (!file.read(source))
-            return Outcome::failure(QStringLiteral("%1 cannot be read").arg(source));
+            return Outcome::failure(Text::tr("%1 cannot be read").arg(source));
         // Two entries that look the same and do the same are one in the menu.
         const QByteArray looks = file.value("Name") + '\n' + file.exec().arguments.join('\n');
         if (file.value("NoDisplay") != "true" && shown.contains(looks))
@@ -151,9 +151,9 @@ Outcome DesktopMenu::enable(const QByteArray &typed, const QByteArray &path) con
                 if (!copies[j].wasThere || !store(copies[j].path, copies[j].before))
                     QFile::remove(copies[j].path);
             }
-            return Outcome::failure(QStringLiteral("%1 cannot be written").arg(copy.path));
+            return Outcome::failure(Text::tr("%1 cannot be written").arg(copy.path));
         }
-        outcome.output += "starts with gestures: " + QFile::encodeName(copy.path) + '\n';
+        outcome.output += Text::tr("starts with gestures: %1").arg(copy.path).toLocal8Bit() + '\n';
     }
     // Copies of entries that are gone would be second entries of the program.
     const QStringList all = copiesFor(typed, path, Named::Any);
@@ -171,11 +171,13 @@ Outcome DesktopMenu::disable(const QByteArray &typed, const QByteArray &path) co
     for (const QString &name : copies) {
         const QString copy = QDir(m_places.own).filePath(name);
         if (!QFile::remove(copy))
-            return Outcome::failure(QStringLiteral("%1 cannot be removed").arg(copy));
-        outcome.output += "starts as before: " + QFile::encodeName(copy) + " is removed\n";
+            return Outcome::failure(Text::tr("%1 cannot be removed").arg(copy));
+        outcome.output += Text::tr("starts as before: %1 is removed").arg(copy).toLocal8Bit() + '\n';
     }
     if (outcome.output.isEmpty())
-        outcome.output = typed + ": nothing was there to remove\n";
+        outcome.output =
+            Text::tr("%1: nothing was there to remove").arg(QString::fromLocal8Bit(typed)).toLocal8Bit()
+            + '\n';
     return outcome;
 }
 

@@ -8,7 +8,9 @@
 #include "host/files/SettingsFile.h"
 #include "host/files/SettingsNames.h"
 #include "host/files/SiteSettings.h"
+#include "launcher/Columns.h"
 #include "launcher/settings/Bindings.h"
+#include "launcher/Text.h"
 
 #include <QDir>
 #include <QFile>
@@ -31,31 +33,33 @@ constexpr char kProblem[] = "! ";
 
 using Matter = Finding::Matter;
 
+constexpr int kNameColumns = 12;
+
 const char *nameOf(Matter matter)
 {
     switch (matter) {
     case Matter::Program:
-        return "program";
+        return QT_TRANSLATE_NOOP("launcher", "program");
     case Matter::Qt:
-        return "Qt";
+        return QT_TRANSLATE_NOOP("launcher", "Qt");
     case Matter::PlugIn:
-        return "plug-in";
+        return QT_TRANSLATE_NOOP("launcher", "plug-in");
     case Matter::Display:
-        return "display";
+        return QT_TRANSLATE_NOOP("launcher", "display");
     case Matter::Compositor:
-        return "compositor";
+        return QT_TRANSLATE_NOOP("launcher", "compositor");
     case Matter::Profile:
-        return "profile";
+        return QT_TRANSLATE_NOOP("launcher", "profile");
     case Matter::Views:
-        return "views";
+        return QT_TRANSLATE_NOOP("launcher", "views");
     case Matter::Settings:
-        return "settings";
+        return QT_TRANSLATE_NOOP("launcher", "settings");
     case Matter::Gestures:
-        return "gestures";
+        return QT_TRANSLATE_NOOP("launcher", "gestures");
     case Matter::Bindings:
-        return "bindings";
+        return QT_TRANSLATE_NOOP("launcher", "bindings");
     case Matter::Trigger:
-        return "trigger";
+        return QT_TRANSLATE_NOOP("launcher", "trigger");
     }
     return "";
 }
@@ -77,11 +81,11 @@ private:
 void reportProgram(const Symptoms &symptoms, Report &report)
 {
     if (symptoms.path.isEmpty()) {
-        report.addProblem(Matter::Program, QStringLiteral("%1, not found").arg(symptoms.program));
+        report.addProblem(Matter::Program, Text::tr("%1, not found").arg(symptoms.program));
         return;
     }
     report.add(Matter::Program,
-               QStringLiteral("%1, %2").arg(symptoms.program, QFile::decodeName(symptoms.path)));
+               Text::tr("%1, %2").arg(symptoms.program, QFile::decodeName(symptoms.path)));
     switch (symptoms.use) {
     case QtWidgetsUse::Qt5:
         report.add(Matter::Qt, QStringLiteral("5"));
@@ -90,11 +94,10 @@ void reportProgram(const Symptoms &symptoms, Report &report)
         report.add(Matter::Qt, QStringLiteral("6"));
         break;
     case QtWidgetsUse::Unknown:
-        report.add(Matter::Qt, QStringLiteral("not known before it runs: a script"));
+        report.add(Matter::Qt, Text::tr("not known before it runs: a script"));
         break;
     case QtWidgetsUse::None:
-        report.addProblem(Matter::Qt,
-                          QStringLiteral("none; gestures need a program made with Qt Widgets"));
+        report.addProblem(Matter::Qt, Text::tr("none; gestures need a program made with Qt Widgets"));
         break;
     }
 }
@@ -109,9 +112,8 @@ void reportPlugin(const Symptoms &symptoms, Report &report)
                          + gesturewidget::pluginFile(folder.qtMajor));
     }
     if (found.isEmpty())
-        report.addProblem(Matter::PlugIn, wanted == 0
-                                              ? QStringLiteral("not installed")
-                                              : QStringLiteral("not installed for Qt %1").arg(wanted));
+        report.addProblem(Matter::PlugIn, wanted == 0 ? Text::tr("not installed")
+                                                      : Text::tr("not installed for Qt %1").arg(wanted));
     else
         report.add(Matter::PlugIn, found.join(QStringLiteral(", ")));
 }
@@ -124,27 +126,26 @@ void reportDisplay(const Symptoms &symptoms, Report &report)
     const bool isWayland =
         !wayland.isEmpty() || symptoms.environment.value("XDG_SESSION_TYPE") == "wayland";
     if (lacksX11(prepared))
-        report.addProblem(Matter::Display, QStringLiteral("Wayland without X11; the ring may open away "
-                                                          "from the pointer"));
+        report.addProblem(Matter::Display, Text::tr("Wayland without X11; the ring may open away "
+                                                    "from the pointer"));
     else if (display.isEmpty())
-        report.addProblem(Matter::Display, QStringLiteral("none"));
+        report.addProblem(Matter::Display, Text::tr("none"));
     else if (isWayland)
-        report.add(Matter::Display,
-                   QStringLiteral("Wayland; the program will use X11, %1").arg(display));
+        report.add(Matter::Display, Text::tr("Wayland; the program will use X11, %1").arg(display));
     else
-        report.add(Matter::Display, QStringLiteral("X11, %1").arg(display));
+        report.add(Matter::Display, Text::tr("X11, %1").arg(display));
 
     switch (symptoms.compositor) {
     case Symptoms::Compositor::Running:
-        report.add(Matter::Compositor, QStringLiteral("running"));
+        report.add(Matter::Compositor, Text::tr("running"));
         break;
     case Symptoms::Compositor::None:
         // Gestures work without one, so this is no problem.
         report.add(Matter::Compositor,
-                   QStringLiteral("none; the ring shows what was under it when it opened"));
+                   Text::tr("none; the ring shows what was under it when it opened"));
         break;
     case Symptoms::Compositor::Unknown:
-        report.add(Matter::Compositor, QStringLiteral("not known"));
+        report.add(Matter::Compositor, Text::tr("not known"));
         break;
     }
 }
@@ -163,13 +164,12 @@ gesturewidget::ProgramProfile reportProfile(const Symptoms &symptoms, Report &re
     if (!message.isEmpty())
         report.addProblem(Matter::Profile, message);
     else
-        report.add(Matter::Profile, file.isEmpty() ? QStringLiteral("none of its own") : file);
+        report.add(Matter::Profile, file.isEmpty() ? Text::tr("none of its own") : file);
     if (profile.viewClasses.isEmpty())
-        report.add(Matter::Views, QStringLiteral("looked for in the running program, see --explain"));
+        report.add(Matter::Views, Text::tr("looked for in the running program, see --explain"));
     else
-        report.add(
-            Matter::Views,
-            QStringLiteral("%1, by the profile").arg(profile.viewClasses.join(QStringLiteral(", "))));
+        report.add(Matter::Views,
+                   Text::tr("%1, by the profile").arg(profile.viewClasses.join(QStringLiteral(", "))));
     return profile;
 }
 
@@ -189,7 +189,7 @@ struct Sources
     [[nodiscard]] QString of(const QString &section, const QString &key) const
     {
         const QString file = fileOf(section, key);
-        return file.isEmpty() ? QString() : QStringLiteral(", by %1").arg(file);
+        return file.isEmpty() ? QString() : Text::tr(", by %1").arg(file);
     }
     [[nodiscard]] QString fileOf(const QString &section, const QString &key) const
     {
@@ -207,9 +207,9 @@ QString sourcesOfBindings(const Sources &sources, int scheme)
     const int inNone = counts.take(QString());
     QStringList texts;
     for (auto it = counts.begin(); it != counts.end(); ++it)
-        texts.append(QStringLiteral("%1 by ").arg(it.value()) + it.key());
+        texts.append(Text::tr("%1 by %2").arg(it.value()).arg(it.key()));
     if (inNone > 0)
-        texts.append(QStringLiteral("%1 in no file").arg(inNone));
+        texts.append(Text::tr("%1 in no file").arg(inNone));
     return texts.join(QStringLiteral(", "));
 }
 
@@ -219,9 +219,9 @@ void reportChoices(const Sources &sources, const gesturewidget::ProgramProfile &
     const Bindings bindings = Bindings::fromSettings(values);
     const QString enabledBy = sources.of(names::moduleSection(), names::enabledKey());
     if (!bindings.enabled)
-        report.addProblem(Matter::Gestures, QStringLiteral("switched off in the settings") + enabledBy);
+        report.addProblem(Matter::Gestures, Text::tr("switched off in the settings") + enabledBy);
     else
-        report.add(Matter::Gestures, QStringLiteral("on, %1 of them").arg(bindings.scheme) + enabledBy);
+        report.add(Matter::Gestures, Text::tr("on, %1 of them").arg(bindings.scheme) + enabledBy);
     report.add(Matter::Bindings, sourcesOfBindings(sources, bindings.scheme));
 
     const QString usual = Bindings::usualTrigger(profile, values);
@@ -230,12 +230,11 @@ void reportChoices(const Sources &sources, const gesturewidget::ProgramProfile &
         report.add(Matter::Trigger,
                    bindings.trigger + sources.of(names::hostSection(), names::triggerKey()));
     else if (profile.hasTrigger)
-        report.add(Matter::Trigger, QStringLiteral("%1, by the profile").arg(usual));
+        report.add(Matter::Trigger, Text::tr("%1, by the profile").arg(usual));
     else if (!found.isEmpty())
-        report.add(Matter::Trigger, QStringLiteral("%1, as suits the drawings").arg(usual));
+        report.add(Matter::Trigger, Text::tr("%1, as suits the drawings").arg(usual));
     else
-        report.add(Matter::Trigger,
-                   QStringLiteral("%1; ctrl+right if OpenGL paints the drawing").arg(usual));
+        report.add(Matter::Trigger, Text::tr("%1; ctrl+right if OpenGL paints the drawing").arg(usual));
 }
 
 void reportSettings(const Symptoms &symptoms, const gesturewidget::ProgramProfile &profile,
@@ -251,11 +250,11 @@ void reportSettings(const Symptoms &symptoms, const gesturewidget::ProgramProfil
         && (!file.exists() || (file.isFile() && isWritable(file.filePath(), R_OK | W_OK)));
     if (!canWrite)
         report.addProblem(Matter::Settings,
-                          QStringLiteral("%1, cannot be written").arg(symptoms.settingsFile));
+                          Text::tr("%1, cannot be written").arg(symptoms.settingsFile));
     else
-        report.add(Matter::Settings,
-                   file.exists() ? symptoms.settingsFile
-                                 : QStringLiteral("%1, not there yet").arg(symptoms.settingsFile));
+        report.add(Matter::Settings, file.exists()
+                                         ? symptoms.settingsFile
+                                         : Text::tr("%1, not there yet").arg(symptoms.settingsFile));
 
     const gesturewidget::SettingsFile::Values own =
         canWrite && file.exists() ? gesturewidget::SettingsFile(symptoms.settingsFile).read()
@@ -270,7 +269,7 @@ QString Finding::line() const
 {
     return QStringLiteral("%1%2 %3").arg(
         QLatin1String(isProblem ? kProblem : kFine),
-        QString(QLatin1String(nameOf(matter)) + QLatin1Char(':')).leftJustified(12), text);
+        padded(Text::tr(nameOf(matter)) + QLatin1Char(':'), kNameColumns), text);
 }
 
 QStringList Diagnosis::lines() const

@@ -4,6 +4,7 @@
 #include "launcher/explain/ProgramExplainer.h"
 
 #include "host/files/ExplanationChannel.h"
+#include "launcher/Text.h"
 
 #include <QElapsedTimer>
 #include <QJsonArray>
@@ -184,8 +185,7 @@ void ProgramExplainer::listen(ProgramExplanation &explanation)
         if (hasEnded() && (m_teller != 0 || !isOpen)) {
             if (!hasReport)
                 explanation.complaint =
-                    QStringLiteral("it %1 before it had shown a main window with menus")
-                        .arg(howItEnded());
+                    Text::tr("it %1 before it had shown a main window with menus").arg(howItEnded());
             return;
         }
         if (hasReport) {
@@ -194,9 +194,9 @@ void ProgramExplainer::listen(ProgramExplanation &explanation)
                 return;
         } else if (all.hasExpired(m_patience.window)) {
             explanation.complaint = m_teller == 0
-                                      ? QStringLiteral("it has not loaded the plug-in in %1 seconds")
-                                      : QStringLiteral("it has shown no main window with menus in %1 "
-                                                       "seconds; a dialog may be waiting");
+                                      ? Text::tr("it has not loaded the plug-in in %1 seconds")
+                                      : Text::tr("it has shown no main window with menus in %1 "
+                                                 "seconds; a dialog may be waiting");
             explanation.complaint = explanation.complaint.arg(m_patience.window / 1000);
         }
     }
@@ -276,8 +276,8 @@ void ProgramExplainer::end()
 QString ProgramExplainer::howItEnded() const
 {
     return m_isReaped && WIFSIGNALED(m_status)
-             ? QStringLiteral("was ended by signal %1").arg(WTERMSIG(m_status))
-             : QStringLiteral("ended with status %1").arg(WEXITSTATUS(m_status));
+             ? Text::tr("was ended by signal %1").arg(WTERMSIG(m_status))
+             : Text::tr("ended with status %1").arg(WEXITSTATUS(m_status));
 }
 
 } // namespace launcher

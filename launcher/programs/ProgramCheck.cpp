@@ -5,6 +5,7 @@
 
 #include "launcher/programs/ProgramLookup.h"
 #include "launcher/programs/QtWidgetsUse.h"
+#include "launcher/Text.h"
 
 #include <algorithm>
 #include <iterator>
@@ -19,11 +20,11 @@ ProgramCheck ProgramCheck::of(const QByteArray &program, const Environment &envi
         ProgramLookup::find(program, environment.value("PATH", kDefaultSearchPath));
     switch (lookup.result) {
     case ProgramLookup::Result::Missing:
-        return {kNotFound, QStringLiteral("%1: there is no such program").arg(name), {}, {}};
+        return {kNotFound, Text::tr("%1: there is no such program").arg(name), {}, {}};
     case ProgramLookup::Result::NotExecutable:
-        return {kCannotRun, QStringLiteral("%1: the file may not be executed").arg(name), {}, {}};
+        return {kCannotRun, Text::tr("%1: the file may not be executed").arg(name), {}, {}};
     case ProgramLookup::Result::IsFolder:
-        return {kCannotRun, QStringLiteral("%1: this is a folder, not a program").arg(name), {}, {}};
+        return {kCannotRun, Text::tr("%1: this is a folder, not a program").arg(name), {}, {}};
     case ProgramLookup::Result::Found:
         break;
     }
@@ -32,8 +33,8 @@ ProgramCheck ProgramCheck::of(const QByteArray &program, const Environment &envi
                                           systemLibraryFolders("/etc/ld.so.conf"));
     if (use == QtWidgetsUse::None)
         return {kCannotRun,
-                QStringLiteral("%1: gestures need a program made with Qt Widgets, "
-                               "which this one is not")
+                Text::tr("%1: gestures need a program made with Qt Widgets, "
+                         "which this one is not")
                     .arg(name),
                 {},
                 {}};
@@ -45,9 +46,9 @@ ProgramCheck ProgramCheck::of(const QByteArray &program, const Environment &envi
         [wanted](const PluginFolder &folder) { return wanted == 0 || folder.qtMajor == wanted; });
     if (fitting.isEmpty())
         return {kLauncherFailed,
-                wanted == 0 ? QStringLiteral("the plug-in libmousegestures is not installed")
-                            : QStringLiteral("%1 uses Qt %2, for which the plug-in "
-                                             "libmousegestures-qt%2.so is not installed")
+                wanted == 0 ? Text::tr("the plug-in libmousegestures is not installed")
+                            : Text::tr("%1 uses Qt %2, for which the plug-in "
+                                       "libmousegestures-qt%2.so is not installed")
                                   .arg(name)
                                   .arg(wanted),
                 {},

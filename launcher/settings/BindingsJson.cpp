@@ -4,6 +4,7 @@
 #include "launcher/settings/BindingsJson.h"
 
 #include "host/files/TriggerText.h"
+#include "launcher/Text.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -119,7 +120,7 @@ public:
         , m_object(object)
     {
         if (!m_lines.repeated.isEmpty())
-            failAt(m_lines.repeatedLine, QStringLiteral("\"%1\" stands twice").arg(m_lines.repeated));
+            failAt(m_lines.repeatedLine, Text::tr("\"%1\" is there twice").arg(m_lines.repeated));
     }
 
     QString problem;
@@ -134,11 +135,11 @@ public:
         const QStringList present = object.keys();
         for (const QString &key : present) {
             if (!keys.contains(key))
-                fail(prefix + key, QStringLiteral("is not a key of such a file"));
+                fail(prefix + key, Text::tr("is not a key of such a file"));
         }
         for (const QString &key : keys) {
             if (!present.contains(key))
-                fail(prefix + key, QStringLiteral("is missing"));
+                fail(prefix + key, Text::tr("is missing"));
         }
     }
 
@@ -148,7 +149,7 @@ public:
     QStringList commands(const QString &scheme, const QStringList &directions)
     {
         if (!value(scheme).isObject()) {
-            fail(scheme, QStringLiteral("is not an object"));
+            fail(scheme, Text::tr("is not an object"));
             return {};
         }
         const QJsonObject object = value(scheme).toObject();
@@ -158,13 +159,13 @@ public:
         for (const QString &direction : directions) {
             const QString command = object.value(direction).toString();
             if (!object.value(direction).isString())
-                fail(prefix + direction, QStringLiteral("is not a string"));
+                fail(prefix + direction, Text::tr("is not a string"));
             else if (std::any_of(command.begin(), command.end(),
                                  [](QChar letter) { return letter.category() == QChar::Other_Control; }))
-                fail(prefix + direction, QStringLiteral("holds a control character"));
+                fail(prefix + direction, Text::tr("holds a control character"));
             else if (!command.isEmpty() && commands.contains(command))
                 fail(prefix + direction,
-                     QStringLiteral("has \"%1\", which another direction has").arg(command));
+                     Text::tr("has \"%1\", which another direction has").arg(command));
             commands.append(command);
         }
         return commands;
@@ -174,7 +175,7 @@ private:
     void failAt(int line, const QString &reason)
     {
         if (problem.isEmpty())
-            problem = QStringLiteral("line %1: %2").arg(line).arg(reason);
+            problem = Text::tr("line %1: %2").arg(line).arg(reason);
     }
 
     KeyLines m_lines;
@@ -208,18 +209,17 @@ bool bindingsFromJson(const QByteArray &text, const QString &program, Bindings &
                       QString &problem)
 {
     if (const int line = lineTooDeep(text)) {
-        problem = QStringLiteral("line %1: this is nested too deeply for bindings").arg(line);
+        problem = Text::tr("line %1: this is nested too deeply for bindings").arg(line);
         return false;
     }
     QJsonParseError parsing;
     const QJsonDocument document = QJsonDocument::fromJson(text, &parsing);
     if (parsing.error != QJsonParseError::NoError) {
-        problem =
-            QStringLiteral("line %1: %2").arg(lineAt(text, parsing.offset)).arg(parsing.errorString());
+        problem = Text::tr("line %1: %2").arg(lineAt(text, parsing.offset)).arg(parsing.errorString());
         return false;
     }
     if (!document.isObject()) {
-        problem = QStringLiteral("line 1: it is not an object");
+        problem = Text::tr("line 1: it is not an object");
         return false;
     }
 
@@ -230,11 +230,11 @@ bool bindingsFromJson(const QByteArray &text, const QString &program, Bindings &
                   name("four"), name("eight")},
                  {});
     if (reader.value(name("version")) != QJsonValue(kVersion))
-        reader.fail(name("version"), QStringLiteral("is not %1").arg(kVersion));
+        reader.fail(name("version"), Text::tr("is not %1").arg(kVersion));
     if (reader.value(name("program")) != QJsonValue(program))
-        reader.fail(name("program"), QStringLiteral("is not \"%1\"").arg(program));
+        reader.fail(name("program"), Text::tr("is not \"%1\"").arg(program));
     if (!reader.value(name("enabled")).isBool())
-        reader.fail(name("enabled"), QStringLiteral("is neither true nor false"));
+        reader.fail(name("enabled"), Text::tr("is neither true nor false"));
     const QString trigger = reader.value(name("trigger")).toString();
     Qt::MouseButton button = Qt::NoButton;
     Qt::KeyboardModifiers keys = Qt::NoModifier;
@@ -242,10 +242,10 @@ bool bindingsFromJson(const QByteArray &text, const QString &program, Bindings &
         || (!trigger.isEmpty()
             && !(gesturewidget::parseTrigger(trigger, button, keys)
                  && gesturewidget::isUsableTrigger(button, keys))))
-        reader.fail(name("trigger"), QStringLiteral("names no button"));
+        reader.fail(name("trigger"), Text::tr("names no button"));
     const int scheme = reader.value(name("scheme")).toInt();
     if (scheme != 4 && scheme != 8)
-        reader.fail(name("scheme"), QStringLiteral("is neither 4 nor 8"));
+        reader.fail(name("scheme"), Text::tr("is neither 4 nor 8"));
 
     Bindings found;
     found.enabled = reader.value(name("enabled")).toBool();

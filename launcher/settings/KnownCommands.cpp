@@ -4,6 +4,7 @@
 #include "launcher/settings/KnownCommands.h"
 
 #include "host/files/CommandNames.h"
+#include "launcher/Text.h"
 
 #include <QHash>
 #include <QJsonArray>
@@ -33,8 +34,8 @@ QString simplifiedWay(const QString &way)
 
 Outcome nothingShown(const QString &program)
 {
-    return Outcome::failure(QStringLiteral("no command of %1 is known yet; start it once with "
-                                           "\"mouse-gestures %1\"")
+    return Outcome::failure(Text::tr("no command of %1 is known yet; start it once with "
+                                     "\"mouse-gestures %1\"")
                                 .arg(program));
 }
 
@@ -116,8 +117,8 @@ QString KnownCommands::resolve(const QString &text, const QString &program, QStr
         return {};
     }
     if (found.isEmpty())
-        return QStringLiteral("%1 has never shown a command \"%2\"; mouse-gestures --list-commands %1 "
-                              "says which it has")
+        return Text::tr("%1 has never shown a command \"%2\"; mouse-gestures --list-commands %1 "
+                        "says which it has")
             .arg(program, text);
     // First those that a person sees in the menus.
     std::stable_partition(found.begin(), found.end(),
@@ -128,7 +129,7 @@ QString KnownCommands::resolve(const QString &text, const QString &program, QStr
                          ? command->identifier
                          : QStringLiteral("%1 (%2)").arg(command->identifier,
                                                          gesturewidget::fullWayOf(*command)));
-    return QStringLiteral("several commands are called \"%1\": %2")
+    return Text::tr("several commands are called \"%1\": %2")
         .arg(text, names.join(QStringLiteral(", ")))
         .simplified();
 }
@@ -138,7 +139,7 @@ Outcome KnownCommands::list(const QString &program) const
     if (m_shown.isEmpty())
         return nothingShown(program);
     // A heading for one command says little, so such commands are together, as in the dialog.
-    const QString others = QStringLiteral("Others");
+    const QString others = Text::tr("Others");
     QHash<QString, int> sizes;
     for (const RememberedCommand &command : m_shown)
         ++sizes[command.group.simplified()];
@@ -195,6 +196,18 @@ QString captionFrom(const QString &identifier)
     const QLatin1String prefix("ID_");
     if (!identifier.startsWith(prefix))
         return identifier.section(QLatin1Char('/'), -1);
+    // The first bindings. Any other identifier is made into words.
+    static const QHash<QString, const char *> wellKnown{
+        {QStringLiteral("ID_COPY"), QT_TRANSLATE_NOOP("launcher", "Copy")},
+        {QStringLiteral("ID_DTEXT"), QT_TRANSLATE_NOOP("launcher", "Text")},
+        {QStringLiteral("ID_LINE"), QT_TRANSLATE_NOOP("launcher", "Line")},
+        {QStringLiteral("ID_OFFSET"), QT_TRANSLATE_NOOP("launcher", "Offset")},
+        {QStringLiteral("ID_OPEN"), QT_TRANSLATE_NOOP("launcher", "Open")},
+        {QStringLiteral("ID_SAVE"), QT_TRANSLATE_NOOP("launcher", "Save")},
+        {QStringLiteral("ID_TRIM"), QT_TRANSLATE_NOOP("launcher", "Trim")},
+        {QStringLiteral("ID_ZOOM_BOUNDS"), QT_TRANSLATE_NOOP("launcher", "Zoom to Fit")}};
+    if (const char *caption = wellKnown.value(identifier))
+        return Text::tr(caption);
     const QString words =
         identifier.mid(prefix.size()).toLower().replace(QLatin1Char('_'), QLatin1Char(' '));
     return words.left(1).toUpper() + words.mid(1);

@@ -11,6 +11,7 @@
 #include "host/files/TriggerText.h"
 #include "launcher/settings/Bindings.h"
 #include "launcher/settings/BindingsJson.h"
+#include "launcher/Text.h"
 
 #include <algorithm>
 #include <utility>
@@ -88,9 +89,7 @@ void append(QByteArray &text, const QString &line)
 void appendScheme(QByteArray &text, int scheme, const QStringList &commands, bool isInUse,
                   const KnownCommands &known)
 {
-    append(text, QStringLiteral("%1 gestures%2")
-                     .arg(scheme)
-                     .arg(isInUse ? QStringLiteral(" (in use)") : QString()));
+    append(text, (isInUse ? Text::tr("%1 gestures (in use)") : Text::tr("%1 gestures")).arg(scheme));
     const QStringList names = Bindings::directionNames(scheme);
     QStringList shown;
     int width = 0;
@@ -121,13 +120,13 @@ Outcome readText(const QString &path, QByteArray &text)
     case FileContent::State::Read:
         return {};
     case FileContent::State::Missing:
-        return Outcome::failure(QStringLiteral("%1: there is no such file").arg(path));
+        return Outcome::failure(Text::tr("%1: there is no such file").arg(path));
     case FileContent::State::NotAFile:
-        return Outcome::failure(QStringLiteral("%1: this is not a file").arg(path));
+        return Outcome::failure(Text::tr("%1: this is not a file").arg(path));
     case FileContent::State::TooLarge:
-        return Outcome::failure(QStringLiteral("%1: this is too long for bindings").arg(path));
+        return Outcome::failure(Text::tr("%1: this is too long for bindings").arg(path));
     default:
-        return Outcome::failure(QStringLiteral("%1: %2").arg(path, file.problem));
+        return Outcome::failure(Text::tr("%1: %2").arg(path, file.problem));
     }
 }
 
@@ -162,8 +161,7 @@ Outcome SettingsTasks::edit(const std::function<QString(Bindings &)> &edit, Sett
     const bool isDone = file.change([&](const SettingsFile::Values &own) -> SettingsFile::Values {
         const SettingsFile::Values all = m_site.under(own);
         if (!m_task.isEmpty() && !ringsettings::hasOwnRing(all, m_task)) {
-            complaint =
-                QStringLiteral("%1 has no ring of its own, see mouse-gestures --ring").arg(m_task);
+            complaint = Text::tr("%1 has no ring of its own, see mouse-gestures --ring").arg(m_task);
             return {};
         }
         const SettingsFile::Values now = ringsettings::seenIn(all, m_task);
@@ -201,7 +199,7 @@ Outcome SettingsTasks::replace(const SettingsFile::Values &from, const SettingsF
         SettingsFile::Values values = bindings.toSettings();
         for (auto it = from.cbegin(); it != from.cend(); ++it) {
             if (values.value(it.key()) != it.value())
-                return QStringLiteral("this was changed elsewhere meanwhile, so it stays");
+                return Text::tr("this was changed elsewhere meanwhile, so it stays");
         }
         for (auto it = to.cbegin(); it != to.cend(); ++it)
             values.insert(it.key(), it.value());
@@ -218,15 +216,15 @@ Outcome SettingsTasks::showBindings() const
     const Bindings bindings = Bindings::fromSettings(values);
     Outcome outcome;
     append(outcome.output,
-           QStringLiteral("gestures in %1: %2")
-               .arg(m_program, bindings.enabled ? QStringLiteral("on") : QStringLiteral("off")));
+           (bindings.enabled ? Text::tr("gestures in %1: on") : Text::tr("gestures in %1: off"))
+               .arg(m_program));
     append(outcome.output, bindings.trigger.isEmpty()
-                               ? QStringLiteral("started with: %1 (default)").arg(m_usualTrigger)
-                               : QStringLiteral("started with: %1").arg(bindings.trigger));
+                               ? Text::tr("started with: %1 (default)").arg(m_usualTrigger)
+                               : Text::tr("started with: %1").arg(bindings.trigger));
     appendRing(outcome.output, bindings, m_commands);
     const QStringList tasks = ringsettings::ownRings(values);
     for (const QString &task : tasks) {
-        append(outcome.output, QStringLiteral("ring of %1").arg(task));
+        append(outcome.output, Text::tr("ring of %1").arg(task));
         appendRing(outcome.output, Bindings::fromSettings(ringsettings::seenIn(values, task)),
                    m_commands);
     }
@@ -244,7 +242,7 @@ Outcome SettingsTasks::bind(const QString &direction, const QString &command)
 {
     const auto isControl = [](QChar letter) { return letter.category() == QChar::Other_Control; };
     if (std::any_of(command.begin(), command.end(), isControl))
-        return Outcome::failure(QStringLiteral("a command's identifier has no control characters"));
+        return Outcome::failure(Text::tr("a command's identifier has no control characters"));
     QString wanted;
     if (!command.isEmpty() && command != QLatin1String("none")) {
         const QString complaint = m_commands.resolve(command, m_program, wanted);
@@ -256,7 +254,7 @@ Outcome SettingsTasks::bind(const QString &direction, const QString &command)
         const QStringList names = Bindings::directionNames(bindings.scheme);
         const auto index = names.indexOf(direction.toLower());
         if (index < 0)
-            return QStringLiteral("\"%1\" is not one of the %2 directions: %3")
+            return Text::tr("\"%1\" is not one of the %2 directions: %3")
                 .arg(direction)
                 .arg(bindings.scheme)
                 .arg(names.join(QStringLiteral(", ")));
@@ -265,8 +263,8 @@ Outcome SettingsTasks::bind(const QString &direction, const QString &command)
     });
     if (outcome.isDone() && !wanted.isEmpty() && !m_commands.canJudge(wanted))
         append(outcome.output,
-               QStringLiteral("%1 has not run with gestures yet; if it has no command \"%2\", the "
-                              "direction becomes empty")
+               Text::tr("%1 has not run with gestures yet; if it has no command \"%2\", the "
+                        "direction becomes empty")
                    .arg(m_program, wanted.simplified()));
     return outcome;
 }
@@ -276,7 +274,7 @@ Outcome SettingsTasks::setRing(const QString &task, const QString &kind,
 {
     const bool isOwn = kind == QLatin1String("own");
     if (!isOwn && kind != QLatin1String("shared"))
-        return Outcome::failure(QStringLiteral("a ring is \"own\" or \"shared\", not \"%1\"").arg(kind));
+        return Outcome::failure(Text::tr("a ring is \"own\" or \"shared\", not \"%1\"").arg(kind));
     SettingsFile file(m_file);
     const bool isDone = file.change([&](const SettingsFile::Values &now) {
         return isOwn ? ringsettings::ownRing(now, task, first, Bindings::fromSettings(now).toSettings())
@@ -311,7 +309,7 @@ Outcome SettingsTasks::reset(SettingsChange *made)
     report(isDone ? change : SettingsChange(), made);
     Outcome outcome = outcomeOf(isDone, file);
     if (isDone)
-        append(outcome.output, QStringLiteral("gestures are still started with: %1")
+        append(outcome.output, Text::tr("gestures are still started with: %1")
                                    .arg(trigger.isEmpty() ? m_usualTrigger : trigger));
     return outcome;
 }
@@ -319,7 +317,7 @@ Outcome SettingsTasks::reset(SettingsChange *made)
 Outcome SettingsTasks::exportTo(const QString &path) const
 {
     if (!FileWriter(path, FileWriter::Readers::Usual).write(showBindingsAsJson().output))
-        return Outcome::failure(QStringLiteral("%1 cannot be written").arg(path));
+        return Outcome::failure(Text::tr("%1 cannot be written").arg(path));
     return {};
 }
 
@@ -341,10 +339,10 @@ Outcome SettingsTasks::parseImport(const QByteArray &text, const QString &source
                                    Bindings &bindings) const
 {
     if (text.size() > kMaximalImport)
-        return Outcome::failure(QStringLiteral("%1: this is too long for bindings").arg(source));
+        return Outcome::failure(Text::tr("%1: this is too long for bindings").arg(source));
     QString problem;
     if (!bindingsFromJson(text, m_program, bindings, problem))
-        return Outcome::failure(QStringLiteral("%1, %2").arg(source, problem));
+        return Outcome::failure(Text::tr("%1, %2").arg(source, problem));
     return {};
 }
 
@@ -365,7 +363,7 @@ Outcome SettingsTasks::importText(const QByteArray &text, const QString &source,
         m_file + QLatin1String(".before-import"));
     report(isDone ? change : SettingsChange(), made);
     return isDone ? Outcome()
-                  : Outcome::failure(file.problem() + QLatin1String(", so nothing is imported"));
+                  : Outcome::failure(Text::tr("%1, so nothing is imported").arg(file.problem()));
 }
 
 Outcome SettingsTasks::setTrigger(const QString &text, SettingsChange *made)
@@ -375,13 +373,12 @@ Outcome SettingsTasks::setTrigger(const QString &text, SettingsChange *made)
         Qt::MouseButton button = Qt::NoButton;
         Qt::KeyboardModifiers keys = Qt::NoModifier;
         if (!gesturewidget::parseTrigger(text, button, keys))
-            return Outcome::failure(QStringLiteral("\"%1\" names no trigger, such as right, middle or "
-                                                   "ctrl+right; \"default\" is the program's usual one")
+            return Outcome::failure(Text::tr("\"%1\" names no trigger, such as right, middle or "
+                                             "ctrl+right; \"default\" is the program's usual one")
                                         .arg(text));
         if (!gesturewidget::isUsableTrigger(button, keys))
-            return Outcome::failure(
-                QStringLiteral("the left button alone is for drawing, add a key to it, "
-                               "such as ctrl+left"));
+            return Outcome::failure(Text::tr("the left button alone is for drawing, add a key to it, "
+                                             "such as ctrl+left"));
         wanted = gesturewidget::triggerText(button, keys);
     }
     SettingsFile file(m_file);

@@ -4,6 +4,7 @@
 #include "launcher/sheet/RingPicture.h"
 
 #include "launcher/sheet/FittedText.h"
+#include "launcher/Text.h"
 #include "resources/draw/Palette.h"
 #include "resources/draw/RingGeometry.h"
 
@@ -175,8 +176,8 @@ void RingPicture::paintMiddle(QPainter &painter, const QRectF &inner, double uni
     painter.drawEllipse(inner.center() - QPointF(0.0, 30.0 * unit), 4.0 * unit, 4.0 * unit);
     const QRectF box(inner.center().x() - 46.0 * unit, inner.center().y() - 20.0 * unit, 92.0 * unit,
                      46.0 * unit);
-    const FittedText text(QStringLiteral("Hold %1 and drag. Move on towards a command, "
-                                         "or let go to do nothing.")
+    const FittedText text(launcher::Text::tr("Hold %1 and drag. Move on towards a command, "
+                                             "or let go to do nothing.")
                               .arg(m_content.triggerInWords()),
                           m_font, box.size(), qRound(8.4 * unit), qRound(5.0 * unit), 5);
     painter.setPen(palette::kMark);

@@ -4,7 +4,9 @@
 #include "launcher/sheet/SheetContent.h"
 
 #include "launcher/settings/Bindings.h"
+#include "launcher/Text.h"
 
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -50,12 +52,41 @@ bool SheetContent::read(const QByteArray &json)
 
 QString SheetContent::triggerInWords() const
 {
+    static const QHash<QString, const char *> buttons{
+        {QStringLiteral("left"), QT_TRANSLATE_NOOP("launcher", "the left button")},
+        {QStringLiteral("middle"), QT_TRANSLATE_NOOP("launcher", "the middle button")},
+        {QStringLiteral("right"), QT_TRANSLATE_NOOP("launcher", "the right button")},
+        {QStringLiteral("back"), QT_TRANSLATE_NOOP("launcher", "the back button")},
+        {QStringLiteral("forward"), QT_TRANSLATE_NOOP("launcher", "the forward button")}};
+    static const QHash<QString, const char *> modifiers{
+        {QStringLiteral("ctrl"), QT_TRANSLATE_NOOP("launcher", "Ctrl")},
+        {QStringLiteral("shift"), QT_TRANSLATE_NOOP("launcher", "Shift")},
+        {QStringLiteral("alt"), QT_TRANSLATE_NOOP("launcher", "Alt")},
+        {QStringLiteral("meta"), QT_TRANSLATE_NOOP("launcher", "Meta")}};
     QStringList keys = trigger.split(QLatin1Char('+'));
-    const QString button = QStringLiteral("the %1 button").arg(keys.takeLast());
-    for (QString &key : keys)
-        key = key.left(1).toUpper() + key.mid(1);
-    return keys.isEmpty() ? button
-                          : QStringLiteral("%1 and %2").arg(keys.join(QStringLiteral(", ")), button);
+    const QString last = keys.takeLast();
+    const char *known = buttons.value(last);
+    const QString button = known ? Text::tr(known) : last;
+    for (QString &key : keys) {
+        if (const char *name = modifiers.value(key))
+            key = Text::tr(name);
+    }
+    return keys.isEmpty() ? button : Text::tr("%1 and %2").arg(keys.join(QStringLiteral(", ")), button);
+}
+
+QString SheetContent::directionInWords(const QString &direction)
+{
+    static const QHash<QString, const char *> words{
+        {QStringLiteral("up"), QT_TRANSLATE_NOOP("launcher", "up")},
+        {QStringLiteral("up-left"), QT_TRANSLATE_NOOP("launcher", "up left")},
+        {QStringLiteral("left"), QT_TRANSLATE_NOOP("launcher", "left")},
+        {QStringLiteral("down-left"), QT_TRANSLATE_NOOP("launcher", "down left")},
+        {QStringLiteral("down"), QT_TRANSLATE_NOOP("launcher", "down")},
+        {QStringLiteral("down-right"), QT_TRANSLATE_NOOP("launcher", "down right")},
+        {QStringLiteral("right"), QT_TRANSLATE_NOOP("launcher", "right")},
+        {QStringLiteral("up-right"), QT_TRANSLATE_NOOP("launcher", "up right")}};
+    const char *known = words.value(direction);
+    return known ? Text::tr(known) : direction;
 }
 
 } // namespace launcher

@@ -5,6 +5,7 @@
 
 #include "launcher/sheet/FittedText.h"
 #include "launcher/sheet/RingPicture.h"
+#include "launcher/Text.h"
 #include "resources/draw/Palette.h"
 
 #include <QImage>
@@ -86,14 +87,14 @@ double SheetPainter::paintTitle(QPainter &painter, const QRectF &page, double mm
     bold.setBold(true);
     const QRectF title(page.left(), page.top(), page.width(), kTitleHeight * mm);
     painter.setPen(palette::kRim);
-    FittedText(QStringLiteral("Mouse gestures in %1").arg(m_content.program), bold, title.size(),
+    FittedText(launcher::Text::tr("Mouse gestures in %1").arg(m_content.program), bold, title.size(),
                qRound(8.0 * mm), qRound(4.0 * mm), 2)
         .paint(painter, title, Qt::AlignHCenter);
     double bottom = title.bottom();
     if (!m_content.enabled) {
         const QRectF note(page.left(), bottom, page.width(), kSubtitleHeight * mm);
         painter.setPen(palette::kHighlightRim);
-        FittedText(QStringLiteral("They are switched off at the moment."), m_font, note.size(),
+        FittedText(launcher::Text::tr("They are switched off at the moment."), m_font, note.size(),
                    qRound(kTextSize * mm), qRound(kSmallestTextSize * mm))
             .paint(painter, note, Qt::AlignHCenter);
         bottom = note.bottom();
@@ -110,17 +111,17 @@ void SheetPainter::paintTable(QPainter &painter, const QRectF &area, double mm) 
     painter.fillRect(head, palette::kBandEdge);
     painter.setPen(palette::kRim);
     const double margin = kCellMargin * mm;
-    const auto title = [&](const char *text, double from, double width) {
+    const auto title = [&](const QString &text, double from, double width) {
         const QRectF cell =
             QRectF(area.left() + from * area.width(), head.top(), width * area.width(), height)
                 .adjusted(margin, 0.0, -margin, 0.0);
-        FittedText(QLatin1String(text), bold, cell.size(), qRound(kTextSize * mm),
-                   qRound(kSmallestTextSize * mm))
+        FittedText(text, bold, cell.size(), qRound(kTextSize * mm), qRound(kSmallestTextSize * mm))
             .paint(painter, cell, Qt::AlignLeft);
     };
-    title("Direction", 0.0, kDirectionColumn);
-    title("Command", kDirectionColumn, kCommandColumn);
-    title("Category", kDirectionColumn + kCommandColumn, 1.0 - kDirectionColumn - kCommandColumn);
+    title(launcher::Text::tr("Direction"), 0.0, kDirectionColumn);
+    title(launcher::Text::tr("Command"), kDirectionColumn, kCommandColumn);
+    title(launcher::Text::tr("Category"), kDirectionColumn + kCommandColumn,
+          1.0 - kDirectionColumn - kCommandColumn);
 
     for (int i = 0; i < m_content.commands.size(); ++i) {
         const QRectF row(area.left(), head.bottom() + i * height, area.width(), height);
@@ -155,13 +156,13 @@ void SheetPainter::paintRow(QPainter &painter, const QRectF &row,
 
     const QRectF direction = column(0.0, kDirectionColumn);
     paintImage(painter, arrow(command.direction), iconIn(direction));
-    paintText(QString(command.direction).replace(QLatin1Char('-'), QLatin1Char(' ')),
-              besideIcon(direction), palette::kRim);
+    paintText(launcher::SheetContent::directionInWords(command.direction), besideIcon(direction),
+              palette::kRim);
 
     const QRectF name = column(kDirectionColumn, kCommandColumn);
     const QRectF words = hasIcons() ? besideIcon(name) : name;
     if (command.caption.isEmpty()) {
-        paintText(QStringLiteral("nothing"), words, palette::kMark.lighter(150));
+        paintText(launcher::Text::tr("nothing"), words, palette::kMark.lighter(150));
         return;
     }
     paintImage(painter, QImage::fromData(command.icon, "PNG"), iconIn(name));

@@ -6,6 +6,7 @@
 #include "host/files/FileWriter.h"
 #include "launcher/settings/Bindings.h"
 #include "launcher/settings/KnownCommands.h"
+#include "launcher/Text.h"
 
 #include <QFileInfo>
 #include <QProcess>
@@ -45,10 +46,9 @@ SheetContent sheetContent(const QString &program, const Bindings &bindings, cons
 Outcome printSheet(const SheetContent &content, const QString &drawer, const QString &path)
 {
     if (!path.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive))
-        return Outcome::failure(
-            QStringLiteral("%1: a sheet is a PDF, so its file ends in .pdf").arg(path));
+        return Outcome::failure(Text::tr("%1: a sheet is a PDF, so its file ends in .pdf").arg(path));
     if (!QFileInfo(drawer).isExecutable())
-        return Outcome::failure(QStringLiteral("%1 is not installed").arg(drawer));
+        return Outcome::failure(Text::tr("%1 is not installed").arg(drawer));
 
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
@@ -63,10 +63,10 @@ Outcome printSheet(const SheetContent &content, const QString &drawer, const QSt
     const QByteArray pdf = process.readAllStandardOutput();
     if (!isDone || !pdf.startsWith("%PDF"))
         return Outcome::failure(
-            QStringLiteral("the sheet could not be drawn: %1")
+            Text::tr("the sheet could not be drawn: %1")
                 .arg(QString::fromLocal8Bit(process.readAllStandardError()).simplified()));
     if (!gesturewidget::FileWriter(path, gesturewidget::FileWriter::Readers::Usual).write(pdf))
-        return Outcome::failure(QStringLiteral("%1 cannot be written").arg(path));
+        return Outcome::failure(Text::tr("%1 cannot be written").arg(path));
     return {};
 }
 

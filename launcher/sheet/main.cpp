@@ -4,12 +4,16 @@
 // mouse-gestures-sheet: reads a SheetContent from standard input, draws it, and writes it as PDF to
 // standard output. mouse-gestures --print starts it.
 
+#include "host/language/LanguageChoice.h"
+#include "host/language/Translations.h"
 #include "launcher/sheet/SheetContent.h"
 #include "launcher/sheet/SheetPage.h"
+#include "launcher/Text.h"
 
 #include <QBuffer>
 #include <QFile>
 #include <QGuiApplication>
+#include <QLocale>
 #include <QPdfWriter>
 
 #include <cstdio>
@@ -23,7 +27,7 @@ bool draw(const launcher::SheetContent &content, QIODevice &device)
     QPdfWriter writer(&device);
     writer.setResolution(kResolution);
     sheet::setUpPage(writer);
-    writer.setTitle(QStringLiteral("Mouse gestures in %1").arg(content.program));
+    writer.setTitle(launcher::Text::tr("Mouse gestures in %1").arg(content.program));
     writer.setCreator(QStringLiteral("mouse-gestures"));
     return sheet::drawPage(content, writer, kResolution);
 }
@@ -33,6 +37,9 @@ bool draw(const launcher::SheetContent &content, QIODevice &device)
 int main(int argc, char **argv)
 {
     QGuiApplication app(argc, argv);
+    gesturewidget::Translations translations;
+    translations.install(gesturewidget::chooseLanguage(QLocale::system().uiLanguages(),
+                                                       gesturewidget::Translations::languages()));
     QFile input;
     launcher::SheetContent content;
     if (!input.open(stdin, QIODevice::ReadOnly) || !content.read(input.readAll())) {

@@ -276,7 +276,7 @@ void SheetTest::theSchemeInUse()
     QCOMPARE(eight.commands.at(0).caption, text("Arc..."));
     QCOMPARE(eight.commands.at(0).category, text("Draw"));
     QCOMPARE(eight.commands.at(0).icon, QByteArray("png"));
-    QCOMPARE(eight.commands.at(1).caption, text("Zoom bounds"));
+    QCOMPARE(eight.commands.at(1).caption, text("Zoom to Fit"));
     QCOMPARE(eight.commands.at(2).caption, text("Print..."));
     QCOMPARE(eight.commands.at(3).caption, QString());
     QCOMPARE(eight.commands.at(4).caption, text("other"));
