@@ -4,6 +4,8 @@
 #include "launcher/settings/ProgramSettings.h"
 
 #include "host/files/CatalogueFile.h"
+#include "host/files/FileContent.h"
+#include "host/files/IniText.h"
 #include "host/files/SettingsFile.h"
 #include "host/files/SiteSettings.h"
 #include "launcher/settings/Bindings.h"
@@ -22,18 +24,30 @@ KnownCommands knownCommands(const Subject &subject, const gesturewidget::Program
     return KnownCommands(gesturewidget::CatalogueFile(subject.catalogueFile()).read(), wellKnown);
 }
 
+gesturewidget::SettingsFile::Values ownSettings(const QString &path, QString *notice)
+{
+    if (!notice) {
+        const auto own = gesturewidget::FileContent::read(path, SettingsTasks::kMaximalImport);
+        return gesturewidget::IniText(own.bytes).values();
+    }
+    gesturewidget::SettingsFile file(path);
+    const gesturewidget::SettingsFile::Values values = file.read();
+    *notice = file.notice();
+    return values;
+}
+
 } // namespace
 
-ProgramSettings ProgramSettings::of(const Subject &subject)
+ProgramSettings ProgramSettings::of(const Subject &subject, QString *notice)
 {
     const gesturewidget::ProgramProfile profile =
         gesturewidget::ProgramProfile::forProgram(subject.name, subject.profileFolders, nullptr);
     const gesturewidget::SiteSettings site(subject.settingsFile());
-    gesturewidget::SettingsFile file(subject.settingsFile());
-    const QString usualTrigger = Bindings::usualTrigger(profile, site.under(file.read()));
+    const QString usualTrigger =
+        Bindings::usualTrigger(profile, site.under(ownSettings(subject.settingsFile(), notice)));
     const KnownCommands commands = knownCommands(subject, profile);
     return {profile, usualTrigger, commands,
-            SettingsTasks(subject.name, subject.settingsFile(), commands, usualTrigger), file.notice()};
+            SettingsTasks(subject.name, subject.settingsFile(), commands, usualTrigger)};
 }
 
 } // namespace launcher

@@ -15,15 +15,15 @@ namespace launcher {
 // All that is kept about one program, read from where its host keeps it.
 struct ProgramSettings
 {
-    [[nodiscard]] static ProgramSettings of(const Subject &subject);
+    // `notice` is filled with one line if the settings are damaged or cannot be read. A damaged file
+    // is restored by the first who reads it. So without `notice`, nothing is restored here: whoever
+    // reads the file next says the line.
+    [[nodiscard]] static ProgramSettings of(const Subject &subject, QString *notice = nullptr);
 
     gesturewidget::ProgramProfile profile;
     QString usualTrigger; // see Bindings::usualTrigger()
     KnownCommands commands;
     SettingsTasks tasks;
-    // One line if the settings were damaged or cannot be read. A damaged file is restored by the
-    // first who reads it, so nobody hears of it twice.
-    QString notice;
 };
 
 } // namespace launcher

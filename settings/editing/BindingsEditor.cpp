@@ -103,7 +103,7 @@ BindingsEditor::BindingsEditor(const launcher::Subject &subject, const QString &
     : QObject(parent)
     , m_subject(subject)
     , m_title(title)
-    , m_settings(launcher::ProgramSettings::of(subject))
+    , m_settings(launcher::ProgramSettings::of(subject, &m_notice))
     , m_rings(m_settings.tasks.tasks())
     , m_bindings(m_settings.tasks.bindings())
 {
@@ -250,7 +250,7 @@ void BindingsEditor::reload()
     const QVector<gesturewidget::RememberedCommand> before = m_settings.commands.shown();
     const QString ring = this->ring();
     const QString noticeBefore = notice();
-    m_settings = launcher::ProgramSettings::of(m_subject);
+    m_settings = launcher::ProgramSettings::of(m_subject, &m_notice);
     m_rings = m_settings.tasks.tasks();
     m_settings.tasks.setTask(m_rings.contains(ring) ? ring : QString());
     m_bindings = m_settings.tasks.bindings();

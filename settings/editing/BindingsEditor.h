@@ -36,7 +36,7 @@ public:
     [[nodiscard]] const QString &usualTrigger() const { return m_settings.usualTrigger; }
     [[nodiscard]] const launcher::SettingsTasks &tasks() const { return m_settings.tasks; }
     // One line about the file, such as that it was damaged; empty if all is well.
-    [[nodiscard]] const QString &notice() const { return m_settings.notice; }
+    [[nodiscard]] const QString &notice() const { return m_notice; }
     // The tasks of the program that have rings of their own, and the one whose ring this is about;
     // empty for the shared ring.
     [[nodiscard]] const QStringList &rings() const { return m_rings; }
@@ -84,6 +84,7 @@ private:
 
     launcher::Subject m_subject;
     QString m_title;
+    QString m_notice; // set while m_settings is made
     launcher::ProgramSettings m_settings;
     QStringList m_rings;
     launcher::Bindings m_bindings;
