@@ -16,17 +16,16 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("sketchpad"));
     QApplication::setApplicationDisplayName(QString());
-    // Each window has a drawing of its own and deletes itself when it is closed.
-    auto *window = new MainWindow;
-    window->setAttribute(Qt::WA_DeleteOnClose);
+    // Each window has a drawing of its own. All but this one delete themselves when they are closed.
+    MainWindow window;
 
     // This is all that a program needs for mouse gestures. The profile is built into this
     // program and says which of its actions are the well-known commands.
     gesturewidget::GestureHost::Options options;
     options.program = QStringLiteral("sketchpad");
     options.profileFolders = QStringList{QStringLiteral(":/profiles")};
-    gesturewidget::GestureHost gestures(window, options);
-    gestures.addView(window->canvas());
+    gesturewidget::GestureHost gestures(&window, options);
+    gestures.addView(window.canvas());
     QString error;
     if (!gestures.start(&error))
         std::cerr << "sketchpad: " << qPrintable(error) << '\n';
@@ -41,8 +40,8 @@ int main(int argc, char **argv)
         });
         shown->show();
     };
-    show(window);
+    show(&window);
     if (QApplication::arguments().size() > 1)
-        window->openFile(QApplication::arguments().at(1));
+        window.openFile(QApplication::arguments().at(1));
     return QApplication::exec();
 }

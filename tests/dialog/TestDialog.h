@@ -9,6 +9,8 @@
 #include "dialog/MgCommandTableView.h"
 #include "dialog/MgDonutDialogManager.h"
 
+#include "tests/support/Fading.h"
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -18,8 +20,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStringList>
-#include <QTest>
-#include <QVariantAnimation>
 
 #include <functional>
 
@@ -111,21 +111,6 @@ protected:
     }
 
 private:
-    // The button that clears the search field fades in and out, for 160 ms. If the process ends
-    // first, Qt leaks the animation. No other animation tells when Qt's own has ended, so this
-    // waits for a longer one that starts later.
-    static void outlastFading()
-    {
-        QVariantAnimation longer;
-        longer.setStartValue(0);
-        longer.setEndValue(1);
-        longer.setDuration(200);
-        longer.start();
-        static_cast<void>(
-            QTest::qWaitFor([&longer] { return longer.state() == QAbstractAnimation::Stopped; }));
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-
     bool m_mayFade = false;
 };
 

@@ -731,9 +731,10 @@ void HostCommandCatalogueTest::thousandCommandsCostLittle()
     qInfo("first %.2f ms, unchanged %.2f ms, all toggled %.2f ms, menu changed %.2f ms",
           double(first) / 1e6, unchanged, toggled, changed);
     QVERIFY(length > 0);
-    QVERIFY2(unchanged < 10, qPrintable(QString::number(unchanged)));
-    QVERIFY2(toggled < 20, qPrintable(QString::number(toggled)));
-    QVERIFY2(changed < 20, qPrintable(QString::number(changed)));
+    // Far more than on a busy machine with sanitizers. Benchmarks hold the figures.
+    QVERIFY2(unchanged < 50, qPrintable(QString::number(unchanged)));
+    QVERIFY2(toggled < 100, qPrintable(QString::number(toggled)));
+    QVERIFY2(changed < 100, qPrintable(QString::number(changed)));
 }
 
 QTEST_MAIN(HostCommandCatalogueTest)

@@ -766,10 +766,10 @@ void GestureHostTest::theFirstWindowMayGoBeforeItIsReady()
     first->menuBar(); // never filled
     DocumentWindow second;
     second.addView();
+    FrameReactor reactor; // outlives the host, which tells it of the end
     gesturewidget::GestureHost host(first.get(), m_options);
     host.addView(second.view);
     QVERIFY(host.start());
-    FrameReactor reactor;
     odedEditor()->addReactor(&reactor);
     first->show();
     second.show();

@@ -9,6 +9,7 @@
 #include "settings/programs/ProgramFinder.h"
 #include "settings/programs/ProgramPanel.h"
 #include "tests/settings/support/HomeTest.h"
+#include "tests/support/Fading.h"
 
 #include <QAbstractItemModelTester>
 #include <QFile>
@@ -61,6 +62,8 @@ class ProgramModelTest : public tests::HomeTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanupTestCase() { tests::outlastFading(); }
+
     void init()
     {
         HomeTest::init();
@@ -99,7 +102,7 @@ private Q_SLOTS:
         ProgramModel model(places());
         search(model);
         QSignalSpy failed(&model, &ProgramModel::failed);
-        const int row = names(model).indexOf(text("Mine"));
+        const auto row = static_cast<int>(names(model).indexOf(text("Mine")));
         QVERIFY(row >= 0);
         QVERIFY(!model.setOn(row, true));
         QCOMPARE(failed.count(), 1);

@@ -8,6 +8,7 @@
 #include "settings/editing/BindingsEditor.h"
 #include "settings/ring/CommandModel.h"
 #include "tests/settings/support/HomeTest.h"
+#include "tests/support/Fading.h"
 
 #include <QAbstractItemModelTester>
 #include <QLineEdit>
@@ -44,6 +45,8 @@ class CommandPanelTest : public tests::HomeTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void cleanupTestCase() { tests::outlastFading(); }
+
     void init()
     {
         HomeTest::init();
