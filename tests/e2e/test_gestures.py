@@ -22,7 +22,7 @@ from harness.programtest import ProgramTest, option_parser, run_tests
 from harness.session import ANSWER_SECONDS, RING_SIZE
 
 # The input that reaches the program, and what the program does with it.
-INPUT = ("press", "release", "doubleclick", "contextmenu", "key", "menu", "triggered")
+INPUT = ("press", "release", "doubleclick", "contextmenu", "typed", "key", "menu", "triggered")
 
 ALL_KEYS = ["enablemousegesture", "activescheme", *(f"4{n}" for n in range(1, 5)),
             *(f"8{n}" for n in range(1, 9))]
@@ -250,8 +250,7 @@ class GesturesTest(ProgramTest):
                 session.move_to_middle()
                 mark = session.spy.mark()
                 act(session)
-                session.driver.ask("key", "F9")
-                last = session.expect(mark, lambda line: line[:2] == ["key", "F9"], "a last key")
+                last = session.type_and_wait("F9")
                 lines = session.spy.since(mark, *INPUT)
                 seen.append(["\t".join(line) for line in lines[:lines.index(last)]])
                 self.end(session)

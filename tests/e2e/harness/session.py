@@ -272,18 +272,24 @@ class Session:
         self.carry_out(self.program.cancel)
         self.driver.ask("key", "Escape")
         # If Escape is a shortcut, it triggers an action and reaches no widget.
-        self.expect(mark, lambda line: line[:2] == ["key", "Escape"] or line[0] == "triggered",
+        self.expect(mark, lambda line: line[:2] == ["typed", "Escape"] or line[0] == "triggered",
                     "Escape to arrive")
 
     def focus(self, title):
         self.driver.ask("wait-focus", title, ANSWER_SECONDS * 1000)
 
+    def type_and_wait(self, key):
+        """Waits until the key arrives in the program, and returns the spy's line about it."""
+        mark = self.spy.mark()
+        self.driver.ask("key", key)
+        # One key may pass through many widgets. The "key" lines of an earlier press of the same
+        # key can still come now, but this line comes once for each press.
+        return self.expect(mark, lambda line: line[:2] == ["typed", key], f"{key} to arrive")
+
     def settle(self):
         """Waits until the program has handled all input so far. Input arrives in order, so it
         sends a key and waits for that."""
-        mark = self.spy.mark()
-        self.driver.ask("key", "F9")
-        self.expect(mark, lambda line: line[:2] == ["key", "F9"], "a key to arrive")
+        self.type_and_wait("F9")
         self.ring_is_gone()
         self.wait_for_free_input()
 

@@ -154,12 +154,20 @@ void ActionSpy::watchWidgetEvent(QWidget *widget, QEvent *event)
                QString::number(static_cast<QContextMenuEvent *>(event)->reason())});
         break;
     case QEvent::KeyPress:
-        write(
-            {QStringLiteral("key"), keyName(static_cast<QKeyEvent *>(event)->key()), className(widget)});
+        noteKey(*widget, *static_cast<QKeyEvent *>(event));
         break;
     default:
         break;
     }
+}
+
+void ActionSpy::noteKey(const QWidget &widget, const QKeyEvent &event)
+{
+    const QString name = keyName(event.key());
+    if (event.timestamp() != m_typedAt)
+        write({QStringLiteral("typed"), name, className(&widget)});
+    m_typedAt = event.timestamp();
+    write({QStringLiteral("key"), name, className(&widget)});
 }
 
 void ActionSpy::writeEntries(const QWidget &menu)

@@ -14,6 +14,7 @@
 
 QT_BEGIN_NAMESPACE
 class QAction;
+class QKeyEvent;
 class QMenu;
 class QWidget;
 class QWindow;
@@ -42,6 +43,7 @@ QT_END_NAMESPACE
 //     press      BUTTON  CLASS  X,Y         a mouse event reached a widget; also "release"
 //                                           and "doubleclick"
 //     contextmenu  CLASS  REASON            a context-menu event reached a widget
+//     typed      NAME  CLASS                a key press reached its first widget
 //     key        NAME  CLASS                a key press reached a widget
 //     quit                                  the program is about to end
 //
@@ -64,6 +66,7 @@ private:
     void write(const QStringList &fields);
     void watchExposure(QWindow *window);
     void watchWidgetEvent(QWidget *widget, QEvent *event);
+    void noteKey(const QWidget &widget, const QKeyEvent &event);
     void writeEntries(const QWidget &menu);
     void writeChoices(const QWidget &dialog);
     void watchAction(QAction *action);
@@ -80,6 +83,7 @@ private:
     using Places = std::map<const QWidget *, QRect>;
     Places m_views;
     Places m_widgets;
+    ulong m_typedAt = 0; // the X server's time of the last key press, in milliseconds
     int m_entries = 0;
     bool m_isReady = false;
 };
