@@ -164,9 +164,10 @@ void ActionSpy::watchWidgetEvent(QWidget *widget, QEvent *event)
 void ActionSpy::noteKey(const QWidget &widget, const QKeyEvent &event)
 {
     const QString name = keyName(event.key());
-    if (event.timestamp() != m_typedAt)
+    const Typed typed{event.timestamp(), event.key()};
+    if (typed != m_lastTyped)
         write({QStringLiteral("typed"), name, className(&widget)});
-    m_typedAt = event.timestamp();
+    m_lastTyped = typed;
     write({QStringLiteral("key"), name, className(&widget)});
 }
 

@@ -11,6 +11,7 @@
 #include <QTimer>
 
 #include <map>
+#include <utility>
 
 QT_BEGIN_NAMESPACE
 class QAction;
@@ -83,7 +84,9 @@ private:
     using Places = std::map<const QWidget *, QRect>;
     Places m_views;
     Places m_widgets;
-    ulong m_typedAt = 0; // the X server's time of the last key press, in milliseconds
+    // The X server's time in milliseconds, and the key. Two keys may have the same time.
+    using Typed = std::pair<ulong, int>;
+    Typed m_lastTyped;
     int m_entries = 0;
     bool m_isReady = false;
 };
