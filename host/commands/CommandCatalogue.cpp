@@ -166,7 +166,7 @@ void CommandCatalogue::guessWellKnown()
     const QStringList identifiers = WellKnownGuess::identifiers();
     for (const QString &identifier : identifiers) {
         if (!m_wellKnown.contains(identifier))
-            expect(identifier, WellKnownGuess::captionOf(identifier));
+            expect(identifier, captionFrom(identifier));
     }
 }
 

@@ -8,7 +8,6 @@
 #include "sdk/QtBridge.h"
 
 #include <QAction>
-#include <QCoreApplication>
 #include <QDockWidget>
 #include <QHash>
 #include <QKeySequence>
@@ -91,7 +90,6 @@ constexpr const char *kViewRole = "view";
 struct Signs
 {
     const char *identifier;
-    const char *caption;
     QKeySequence::StandardKey shortcut;
     QStringList icons;
     const char *menuRoles; // of the menus where such commands are, separated by spaces
@@ -119,17 +117,8 @@ QVector<Signs> makeSigns()
         return QString::fromLatin1(text).split(QLatin1Char('|'), Qt::SkipEmptyParts);
     };
     QVector<Signs> signs{
-        {"ID_COPY",
-         QT_TRANSLATE_NOOP("host", "Copy"),
-         QKeySequence::Copy,
-         list("edit-copy"),
-         "edit",
-         {},
-         {},
-         {},
-         {}},
+        {"ID_COPY", QKeySequence::Copy, list("edit-copy"), "edit", {}, {}, {}, {}},
         {"ID_DTEXT",
-         QT_TRANSLATE_NOOP("host", "Text"),
          QKeySequence::UnknownKey,
          list("draw-text|insert-text|tool-text"),
          "draw",
@@ -137,17 +126,8 @@ QVector<Signs> makeSigns()
          {},
          {},
          {}},
-        {"ID_LINE",
-         QT_TRANSLATE_NOOP("host", "Line"),
-         QKeySequence::UnknownKey,
-         list("draw-line|tool-line"),
-         "draw",
-         {},
-         {},
-         {},
-         {}},
+        {"ID_LINE", QKeySequence::UnknownKey, list("draw-line|tool-line"), "draw", {}, {}, {}, {}},
         {"ID_OFFSET",
-         QT_TRANSLATE_NOOP("host", "Offset"),
          QKeySequence::UnknownKey,
          list("object-offset|offset"),
          "edit draft draw",
@@ -155,35 +135,10 @@ QVector<Signs> makeSigns()
          {},
          {},
          {}},
-        {"ID_OPEN",
-         QT_TRANSLATE_NOOP("host", "Open"),
-         QKeySequence::Open,
-         list("document-open"),
-         "file",
-         {},
-         {},
-         {},
-         {}},
-        {"ID_SAVE",
-         QT_TRANSLATE_NOOP("host", "Save"),
-         QKeySequence::Save,
-         list("document-save"),
-         "file",
-         {},
-         {},
-         {},
-         {}},
-        {"ID_TRIM",
-         QT_TRANSLATE_NOOP("host", "Trim"),
-         QKeySequence::UnknownKey,
-         list("trim"),
-         "edit draft draw",
-         {},
-         {},
-         {},
-         {}},
+        {"ID_OPEN", QKeySequence::Open, list("document-open"), "file", {}, {}, {}, {}},
+        {"ID_SAVE", QKeySequence::Save, list("document-save"), "file", {}, {}, {}, {}},
+        {"ID_TRIM", QKeySequence::UnknownKey, list("trim"), "edit draft draw", {}, {}, {}, {}},
         {"ID_ZOOM_BOUNDS",
-         QT_TRANSLATE_NOOP("host", "Zoom to Fit"),
          QKeySequence::UnknownKey,
          list("zoom-fit-best|zoom-fit|zoom-fit-page"),
          kViewRole,
@@ -444,15 +399,6 @@ QStringList WellKnownGuess::identifiers()
     for (const Signs &signs : allSigns())
         names.append(QLatin1String(signs.identifier));
     return names;
-}
-
-QString WellKnownGuess::captionOf(const QString &identifier)
-{
-    for (const Signs &signs : allSigns()) {
-        if (identifier == QLatin1String(signs.identifier))
-            return QCoreApplication::translate("host", signs.caption);
-    }
-    return {};
 }
 
 QVector<WellKnownGuess> WellKnownGuess::among(const QVector<QAction *> &actions,
