@@ -53,6 +53,13 @@ public:
     static void retire(std::unique_ptr<HostSession> session);
 
 private:
+    // Returns why the session cannot start; empty if it can.
+    [[nodiscard]] QString obstacle() const;
+    void makeServices(const ProgramProfile &profile);
+    void makeParts(const ProgramProfile &profile);
+    // Installs all texts that are there so far in the program's language.
+    void installTexts();
+    [[nodiscard]] bool startModule(QString *error);
     void stopWithoutWindow();
     void openView(QWidget *view);
     void connectWindows();
@@ -61,7 +68,6 @@ private:
     void explainTrigger();
     // Takes the menus as complete some time after they have settled and a view is open.
     void waitForAllMenus();
-    [[nodiscard]] bool gesturesAreEnabled() const;
     // True if a gesture in the view would run the commands of the window that it belongs to.
     [[nodiscard]] bool hasItsCommands(const QWidget *view);
     [[nodiscard]] bool hasDrawing(const QWidget *window) const;
