@@ -15,10 +15,10 @@ namespace gesturewidget {
 
 // Tells entries of lists from commands: recent documents, open windows, layers, steps to undo.
 // They come and go with a person's work, so they are no commands: nobody wants one in a ring
-// tomorrow, and what they say is private.
+// tomorrow, and their texts are private.
 //
-// A wrong answer costs a command, so an entry of a list is only what cannot be much else. Apart
-// from names of documents, an action with an object name, a shortcut or an icon is a command.
+// A wrong answer costs a command, so an action counts as a command in doubt. Apart from names of
+// documents, an action with an object name, a shortcut or an icon is a command.
 //
 // Make one for each reading of the menus, because windows open and close in between.
 class ListEntries

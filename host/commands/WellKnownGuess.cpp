@@ -95,12 +95,12 @@ struct Signs
     const char *menuRoles; // of the menus where such commands are, separated by spaces
     // In lower case, words separated by one space. An object name is compared with them
     // once its words that name no deed are gone, see noise().
-    Words words;
-    Words menus; // captions, likewise
+    Words words = {};
+    Words menus = {}; // captions, likewise
     // Words that say too little but in one of these menus.
-    Words wordsInMenus;
+    Words wordsInMenus = {};
     // Single words among both: "Open Image" mentions "open".
-    Words mentions;
+    Words mentions = {};
 };
 
 Words plainWordsOf(const QStringList &captions)
@@ -117,35 +117,15 @@ QVector<Signs> makeSigns()
         return QString::fromLatin1(text).split(QLatin1Char('|'), Qt::SkipEmptyParts);
     };
     QVector<Signs> signs{
-        {"ID_COPY", QKeySequence::Copy, list("edit-copy"), "edit", {}, {}, {}, {}},
-        {"ID_DTEXT",
-         QKeySequence::UnknownKey,
-         list("draw-text|insert-text|tool-text"),
-         "draw",
-         {},
-         {},
-         {},
-         {}},
-        {"ID_LINE", QKeySequence::UnknownKey, list("draw-line|tool-line"), "draw", {}, {}, {}, {}},
-        {"ID_OFFSET",
-         QKeySequence::UnknownKey,
-         list("object-offset|offset"),
-         "edit draft draw",
-         {},
-         {},
-         {},
-         {}},
-        {"ID_OPEN", QKeySequence::Open, list("document-open"), "file", {}, {}, {}, {}},
-        {"ID_SAVE", QKeySequence::Save, list("document-save"), "file", {}, {}, {}, {}},
-        {"ID_TRIM", QKeySequence::UnknownKey, list("trim"), "edit draft draw", {}, {}, {}, {}},
-        {"ID_ZOOM_BOUNDS",
-         QKeySequence::UnknownKey,
-         list("zoom-fit-best|zoom-fit|zoom-fit-page"),
-         kViewRole,
-         {},
-         {},
-         {},
-         {}},
+        {"ID_COPY", QKeySequence::Copy, list("edit-copy"), "edit"},
+        {"ID_DTEXT", QKeySequence::UnknownKey, list("draw-text|insert-text|tool-text"), "draw"},
+        {"ID_LINE", QKeySequence::UnknownKey, list("draw-line|tool-line"), "draw"},
+        {"ID_OFFSET", QKeySequence::UnknownKey, list("object-offset|offset"), "edit draft draw"},
+        {"ID_OPEN", QKeySequence::Open, list("document-open"), "file"},
+        {"ID_SAVE", QKeySequence::Save, list("document-save"), "file"},
+        {"ID_TRIM", QKeySequence::UnknownKey, list("trim"), "edit draft draw"},
+        {"ID_ZOOM_BOUNDS", QKeySequence::UnknownKey, list("zoom-fit-best|zoom-fit|zoom-fit-page"),
+         kViewRole},
     };
     for (Signs &sign : signs) {
         const QString identifier = QLatin1String(sign.identifier);

@@ -55,10 +55,13 @@ public:
 private:
     // Returns why the session cannot start; empty if it can.
     [[nodiscard]] QString obstacle() const;
+    // Makes the services for modules, and gives them to the platform.
     void makeServices(const ProgramProfile &profile);
+    // Makes the parts that use the services.
     void makeParts(const ProgramProfile &profile);
     // Installs all texts that are there so far in the program's language.
     void installTexts();
+    // Loads the module and starts it. Otherwise returns false and puts one line into `error`.
     [[nodiscard]] bool startModule(QString *error);
     void stopWithoutWindow();
     void openView(QWidget *view);
