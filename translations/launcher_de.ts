@@ -572,38 +572,6 @@
         <translation>das Blatt konnte nicht gezeichnet werden: %1</translation>
     </message>
     <message>
-        <source>Copy</source>
-        <translation>Kopieren</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>Text</translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation>Linie</translation>
-    </message>
-    <message>
-        <source>Offset</source>
-        <translation>Versatz</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>Öffnen</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Speichern</translation>
-    </message>
-    <message>
-        <source>Trim</source>
-        <translation>Stutzen</translation>
-    </message>
-    <message>
-        <source>Zoom to Fit</source>
-        <translation>Alles zeigen</translation>
-    </message>
-    <message>
         <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right. With --ring TASK after it: in the ring of that task</source>
         <translation>einen Befehl in eine Richtung legen. COMMAND ist seine Kennung, seine Beschriftung oder „none“. DIRECTION ist up, left, down oder right; mit acht Gesten auch up-left, down-left, down-right oder up-right. Mit --ring TASK dahinter: im Ring dieser Aufgabe</translation>
     </message>

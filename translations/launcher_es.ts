@@ -572,38 +572,6 @@
         <translation>no se pudo dibujar la hoja: %1</translation>
     </message>
     <message>
-        <source>Copy</source>
-        <translation>Copiar</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>Texto</translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation>Línea</translation>
-    </message>
-    <message>
-        <source>Offset</source>
-        <translation>Desfase</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>Abrir</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Guardar</translation>
-    </message>
-    <message>
-        <source>Trim</source>
-        <translation>Recortar</translation>
-    </message>
-    <message>
-        <source>Zoom to Fit</source>
-        <translation>Ajustar a la ventana</translation>
-    </message>
-    <message>
         <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right. With --ring TASK after it: in the ring of that task</source>
         <translation>poner un comando en una dirección. COMMAND es su identificador, su texto o «none». DIRECTION es up, left, down o right; con ocho gestos también up-left, down-left, down-right o up-right. Con --ring TASK detrás: en el anillo de esa tarea</translation>
     </message>

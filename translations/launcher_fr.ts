@@ -572,38 +572,6 @@
         <translation>la feuille n’a pas pu être dessinée : %1</translation>
     </message>
     <message>
-        <source>Copy</source>
-        <translation>Copier</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>Texte</translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation>Ligne</translation>
-    </message>
-    <message>
-        <source>Offset</source>
-        <translation>Décalage</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>Ouvrir</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Enregistrer</translation>
-    </message>
-    <message>
-        <source>Trim</source>
-        <translation>Ajuster</translation>
-    </message>
-    <message>
-        <source>Zoom to Fit</source>
-        <translation>Zoom ajusté</translation>
-    </message>
-    <message>
         <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right. With --ring TASK after it: in the ring of that task</source>
         <translation>mettre une commande dans une direction. COMMAND est son identifiant, son intitulé ou « none ». DIRECTION est up, left, down ou right ; avec huit gestes aussi up-left, down-left, down-right ou up-right. Avec --ring TASK à la suite : dans l’anneau de cette tâche</translation>
     </message>

@@ -572,38 +572,6 @@
         <translation>impossibile disegnare il foglio: %1</translation>
     </message>
     <message>
-        <source>Copy</source>
-        <translation>Copia</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>Testo</translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation>Linea</translation>
-    </message>
-    <message>
-        <source>Offset</source>
-        <translation>Offset</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>Apri</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Salva</translation>
-    </message>
-    <message>
-        <source>Trim</source>
-        <translation>Taglia</translation>
-    </message>
-    <message>
-        <source>Zoom to Fit</source>
-        <translation>Adatta alla finestra</translation>
-    </message>
-    <message>
         <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right. With --ring TASK after it: in the ring of that task</source>
         <translation>mettere un comando in una direzione. COMMAND è il suo identificatore, il suo testo o «none». DIRECTION è up, left, down o right; con otto gesti anche up-left, down-left, down-right o up-right. Con --ring TASK dopo: nell’anello di quel compito</translation>
     </message>

@@ -572,38 +572,6 @@
         <translation>シートを描けませんでした: %1</translation>
     </message>
     <message>
-        <source>Copy</source>
-        <translation>コピー</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>文字</translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation>直線</translation>
-    </message>
-    <message>
-        <source>Offset</source>
-        <translation>オフセット</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>開く</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>保存</translation>
-    </message>
-    <message>
-        <source>Trim</source>
-        <translation>トリム</translation>
-    </message>
-    <message>
-        <source>Zoom to Fit</source>
-        <translation>全体表示</translation>
-    </message>
-    <message>
         <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right. With --ring TASK after it: in the ring of that task</source>
         <translation>コマンドを方向に割り当てる。COMMAND は識別子、名前、または「none」。DIRECTION は up、left、down、right、8 方向では up-left、down-left、down-right、up-right も使用可。後ろに --ring TASK を付けると、その作業のリングに割り当てる</translation>
     </message>

@@ -572,38 +572,6 @@
         <translation>nie udało się narysować arkusza: %1</translation>
     </message>
     <message>
-        <source>Copy</source>
-        <translation>Kopiuj</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>Tekst</translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation>Linia</translation>
-    </message>
-    <message>
-        <source>Offset</source>
-        <translation>Odsunięcie</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>Otwórz</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Zapisz</translation>
-    </message>
-    <message>
-        <source>Trim</source>
-        <translation>Utnij</translation>
-    </message>
-    <message>
-        <source>Zoom to Fit</source>
-        <translation>Dopasuj widok</translation>
-    </message>
-    <message>
         <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right. With --ring TASK after it: in the ring of that task</source>
         <translation>umieść polecenie w kierunku. COMMAND to jego identyfikator, nazwa albo „none”. DIRECTION to up, left, down lub right; przy ośmiu gestach także up-left, down-left, down-right lub up-right. Z --ring TASK na końcu: w pierścieniu tego zadania</translation>
     </message>

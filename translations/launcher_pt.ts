@@ -572,38 +572,6 @@
         <translation>não foi possível desenhar a folha: %1</translation>
     </message>
     <message>
-        <source>Copy</source>
-        <translation>Copiar</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>Texto</translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation>Linha</translation>
-    </message>
-    <message>
-        <source>Offset</source>
-        <translation>Deslocamento</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>Abrir</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Salvar</translation>
-    </message>
-    <message>
-        <source>Trim</source>
-        <translation>Aparar</translation>
-    </message>
-    <message>
-        <source>Zoom to Fit</source>
-        <translation>Ajustar à janela</translation>
-    </message>
-    <message>
         <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right. With --ring TASK after it: in the ring of that task</source>
         <translation>colocar um comando em uma direção. COMMAND é o identificador, o texto ou “none”. DIRECTION é up, left, down ou right; com oito gestos também up-left, down-left, down-right ou up-right. Com --ring TASK depois: no anel dessa tarefa</translation>
     </message>

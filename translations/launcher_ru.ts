@@ -572,38 +572,6 @@
         <translation>не удалось нарисовать лист: %1</translation>
     </message>
     <message>
-        <source>Copy</source>
-        <translation>Копировать</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>Текст</translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation>Линия</translation>
-    </message>
-    <message>
-        <source>Offset</source>
-        <translation>Смещение</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>Открыть</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Сохранить</translation>
-    </message>
-    <message>
-        <source>Trim</source>
-        <translation>Обрезать</translation>
-    </message>
-    <message>
-        <source>Zoom to Fit</source>
-        <translation>Показать всё</translation>
-    </message>
-    <message>
         <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right. With --ring TASK after it: in the ring of that task</source>
         <translation>назначить команду направлению. COMMAND — её идентификатор, название или «none». DIRECTION — up, left, down или right; при восьми жестах также up-left, down-left, down-right или up-right. С --ring TASK в конце: в кольце этой задачи</translation>
     </message>

@@ -572,38 +572,6 @@
         <translation>无法绘制图页：%1</translation>
     </message>
     <message>
-        <source>Copy</source>
-        <translation>复制</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>文字</translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation>直线</translation>
-    </message>
-    <message>
-        <source>Offset</source>
-        <translation>偏移</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>打开</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>保存</translation>
-    </message>
-    <message>
-        <source>Trim</source>
-        <translation>修剪</translation>
-    </message>
-    <message>
-        <source>Zoom to Fit</source>
-        <translation>缩放到合适大小</translation>
-    </message>
-    <message>
         <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right. With --ring TASK after it: in the ring of that task</source>
         <translation>将命令放到某个方向。COMMAND 是其标识符、名称或“none”。DIRECTION 为 up、left、down 或 right；八个手势时还有 up-left、down-left、down-right 或 up-right。后加 --ring TASK：放入该任务的圆环</translation>
     </message>

@@ -163,41 +163,6 @@
     </message>
 </context>
 <context>
-    <name>settings::Commands</name>
-    <message>
-        <source>Zoom to Everything</source>
-        <translation>Alles zeigen</translation>
-    </message>
-    <message>
-        <source>Offset</source>
-        <translation>Versatz</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>Öffnen</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>Kopieren</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Speichern</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>Text</translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation>Linie</translation>
-    </message>
-    <message>
-        <source>Trim</source>
-        <translation>Stutzen</translation>
-    </message>
-</context>
-<context>
     <name>settings::Directions</name>
     <message>
         <source>up</source>

@@ -163,41 +163,6 @@
     </message>
 </context>
 <context>
-    <name>settings::Commands</name>
-    <message>
-        <source>Zoom to Everything</source>
-        <translation>Tout afficher</translation>
-    </message>
-    <message>
-        <source>Offset</source>
-        <translation>Décaler</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>Ouvrir</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>Copier</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Enregistrer</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>Texte</translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation>Ligne</translation>
-    </message>
-    <message>
-        <source>Trim</source>
-        <translation>Ajuster</translation>
-    </message>
-</context>
-<context>
     <name>settings::Directions</name>
     <message>
         <source>up</source>

@@ -163,41 +163,6 @@
     </message>
 </context>
 <context>
-    <name>settings::Commands</name>
-    <message>
-        <source>Zoom to Everything</source>
-        <translation>Mostra tutto</translation>
-    </message>
-    <message>
-        <source>Offset</source>
-        <translation>Offset</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>Apri</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>Copia</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Salva</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>Testo</translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation>Linea</translation>
-    </message>
-    <message>
-        <source>Trim</source>
-        <translation>Taglia</translation>
-    </message>
-</context>
-<context>
     <name>settings::Directions</name>
     <message>
         <source>up</source>

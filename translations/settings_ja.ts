@@ -163,41 +163,6 @@
     </message>
 </context>
 <context>
-    <name>settings::Commands</name>
-    <message>
-        <source>Zoom to Everything</source>
-        <translation>全体を表示</translation>
-    </message>
-    <message>
-        <source>Offset</source>
-        <translation>オフセット</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>開く</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>コピー</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>保存</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>文字</translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation>線</translation>
-    </message>
-    <message>
-        <source>Trim</source>
-        <translation>トリム</translation>
-    </message>
-</context>
-<context>
     <name>settings::Directions</name>
     <message>
         <source>up</source>

@@ -163,41 +163,6 @@
     </message>
 </context>
 <context>
-    <name>settings::Commands</name>
-    <message>
-        <source>Zoom to Everything</source>
-        <translation>Pokaż wszystko</translation>
-    </message>
-    <message>
-        <source>Offset</source>
-        <translation>Odsunięcie</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>Otwórz</translation>
-    </message>
-    <message>
-        <source>Copy</source>
-        <translation>Kopiuj</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Zapisz</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>Tekst</translation>
-    </message>
-    <message>
-        <source>Line</source>
-        <translation>Linia</translation>
-    </message>
-    <message>
-        <source>Trim</source>
-        <translation>Utnij</translation>
-    </message>
-</context>
-<context>
     <name>settings::Directions</name>
     <message>
         <source>up</source>

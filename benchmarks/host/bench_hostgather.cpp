@@ -3,11 +3,13 @@
 
 // Measures how long it takes to read the ring's data from the host. The baseline is one pass over
 // the same actions that reads the same texts and the icon. Also measures the cost of many equal
-// captions.
+// captions, and of reading the commands of earlier starts.
 
 #include "bindings/MgDonutDataContainer.h"
+#include "host/commands/CatalogueMemory.h"
 #include "host/commands/CommandCatalogue.h"
 #include "host/commands/ContrastIcon.h"
+#include "host/commands/RememberedIcon.h"
 #include "host/files/ProgramProfile.h"
 #include "host/services/SystemServices.h"
 #include "sdk/chx/CHxUICommandManager.h"
@@ -173,6 +175,35 @@ void equalCaptions(benchmark::State &state)
     state.SetComplexityN(state.range(0));
 }
 
+// At the program's start: reads the commands of earlier starts, each with its icon.
+void rememberedCommands(benchmark::State &state)
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("bench.commands.json"));
+    QPixmap image(24, 24);
+    image.fill(Qt::darkBlue);
+    const QByteArray icon = gesturewidget::iconToPng(QIcon(image));
+    QVector<gesturewidget::RememberedCommand> commands;
+    for (int i = 0; i < state.range(0); ++i) {
+        gesturewidget::RememberedCommand command;
+        command.identifier = QStringLiteral("command%1").arg(i);
+        command.caption = QStringLiteral("Command %1").arg(i);
+        command.tip = QStringLiteral("Says in some words what command %1 does").arg(i);
+        command.group = QStringLiteral("Menu %1").arg(i % kMenus);
+        command.icon = icon;
+        commands.append(command);
+    }
+    if (!gesturewidget::CatalogueFile(file).merge(commands))
+        state.SkipWithError("the file cannot be written");
+    QMainWindow window;
+    for (auto _ : state) {
+        gesturewidget::CommandCatalogue catalogue(&window, {});
+        const gesturewidget::CatalogueMemory memory(catalogue, file);
+        benchmark::DoNotOptimize(catalogue.items().size());
+    }
+    state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
 // Draws the image of one icon for the ring for the first time. The ratio is in quarters.
 void firstHalo(benchmark::State &state)
 {
@@ -196,6 +227,7 @@ void firstHalo(benchmark::State &state)
 BENCHMARK(plainPass)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
 BENCHMARK(hostPart)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
 BENCHMARK(ringData)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(rememberedCommands)->Arg(1000)->Arg(5000)->Unit(benchmark::kMillisecond);
 BENCHMARK(firstHalo)->ArgName("quarters")->Arg(4)->Arg(8)->Arg(12)->Unit(benchmark::kMicrosecond);
 BENCHMARK(equalCaptions)
     ->Arg(1000)

@@ -65,13 +65,13 @@ ActionItem::~ActionItem() = default;
 
 void ActionItem::recall(const RememberedCommand &command)
 {
-    m_caption = command.caption.isEmpty() ? m_key : command.caption;
-    m_plainTip = command.tip;
+    m_look.caption = command.caption.isEmpty() ? m_key : command.caption;
+    m_look.plainTip = command.tip;
     setIcon(iconFromPng(command.icon));
-    group = command.group;
-    way = command.way;
-    isInToolBar = command.isInToolBar;
-    setName(m_caption);
+    here.group = command.group;
+    here.way = command.way;
+    here.isInToolBar = command.isInToolBar;
+    setName(m_look.caption);
 }
 
 RememberedCommand ActionItem::remembered() const
@@ -79,108 +79,96 @@ RememberedCommand ActionItem::remembered() const
     RememberedCommand command;
     command.identifier = m_identifier;
     command.command = m_key;
-    command.caption = m_caption;
-    command.tip = m_plainTip;
-    command.group = group;
-    command.isInToolBar = isInToolBar;
-    command.way = way;
+    command.caption = m_look.caption;
+    command.tip = m_look.plainTip;
+    command.group = here.group;
+    command.isInToolBar = here.isInToolBar;
+    command.way = here.way;
     return command;
 }
 
 void ActionItem::setCaption(const QString &caption)
 {
-    m_caption = caption;
-    m_name.clear(); // the tip may be new too
+    m_look.caption = caption;
+    m_look.name.clear(); // the tip may be new too
     setName(caption);
 }
 
 void ActionItem::setName(const QString &name)
 {
-    if (name == m_name && !name.isEmpty())
+    if (name == m_look.name && !name.isEmpty())
         return;
-    m_name = name;
-    m_tip = namedTip(remembered(), name);
+    m_look.name = name;
+    m_look.tip = namedTip(remembered(), name);
 }
 
 void ActionItem::setAction(QAction *action)
 {
-    m_action = action;
-    m_address = action;
+    m_look.action = action;
+    m_look.address = action;
     m_hasHadAction = true;
-    m_texts.clear(); // the tip may be from an earlier start
+    m_look.texts.clear(); // the tip may be from an earlier start
     read();
 }
 
 void ActionItem::showIn(const QWidget *from, const QWidget *to)
 {
-    if (m_address)
-        m_others.push_back({from, m_action, m_address, m_caption, m_name, m_tip, m_plainTip, m_texts,
-                            m_icon, m_contrastIcon, group, way, isPresent, wasPresent, isInToolBar,
-                            isListEntry});
-    m_action.clear();
-    m_address = nullptr;
-    isPresent = false;
-    wasPresent = false;
-    const auto isShown = [to](const Look &look) { return look.window == to; };
-    const auto found = std::find_if(m_others.begin(), m_others.end(), isShown);
-    if (found == m_others.end())
+    if (m_look.address)
+        m_others.push_back({from, m_look, here});
+    const auto isThere = [to](const Elsewhere &other) { return other.window == to; };
+    const auto found = std::find_if(m_others.begin(), m_others.end(), isThere);
+    if (found == m_others.end()) {
+        m_look.action.clear();
+        m_look.address = nullptr;
+        here.isPresent = false;
+        here.wasPresent = false;
         return;
-    m_action = found->action;
-    m_address = found->address;
-    m_caption = std::move(found->caption);
-    m_name = std::move(found->name);
-    m_tip = std::move(found->tip);
-    m_plainTip = std::move(found->plainTip);
-    m_texts = std::move(found->texts);
-    m_icon = std::move(found->icon);
-    m_contrastIcon = std::move(found->contrastIcon);
-    group = std::move(found->group);
-    way = std::move(found->way);
-    isPresent = found->isPresent;
-    wasPresent = found->wasPresent;
-    isInToolBar = found->isInToolBar;
-    isListEntry = found->isListEntry;
+    }
+    m_look = std::move(found->look);
+    here = std::move(found->here);
     m_others.erase(found);
 }
 
 bool ActionItem::isPresentIn(const QWidget *window) const
 {
-    return std::any_of(m_others.begin(), m_others.end(),
-                       [window](const Look &look) { return look.window == window && look.isPresent; });
+    return std::any_of(m_others.begin(), m_others.end(), [window](const Elsewhere &other) {
+        return other.window == window && other.here.isPresent;
+    });
 }
 
 void ActionItem::forget(const QWidget *window)
 {
-    const auto isOfWindow = [window](const Look &look) { return look.window == window; };
+    const auto isOfWindow = [window](const Elsewhere &other) { return other.window == window; };
     m_others.erase(std::remove_if(m_others.begin(), m_others.end(), isOfWindow), m_others.end());
 }
 
 bool ActionItem::read()
 {
-    if (!m_action)
+    if (!m_look.action)
         return false;
-    QString caption = captionOf(m_action);
+    QString caption = captionOf(m_look.action);
     if (caption.isEmpty())
         caption = m_key;
     // Texts are slow to read, and most changes concern the state.
-    const QStringList texts{caption, m_action->statusTip(), m_action->toolTip(), m_action->whatsThis()};
-    const bool hasNewTexts = texts != m_texts;
+    const QStringList texts{caption, m_look.action->statusTip(), m_look.action->toolTip(),
+                            m_look.action->whatsThis()};
+    const bool hasNewTexts = texts != m_look.texts;
     if (hasNewTexts) {
-        m_texts = texts;
-        m_plainTip = tipAmong(texts.mid(1), caption);
+        m_look.texts = texts;
+        m_look.plainTip = tipAmong(texts.mid(1), caption);
         setCaption(caption);
     }
-    setIcon(m_action->icon());
+    setIcon(m_look.action->icon());
     return hasNewTexts;
 }
 
 // Most changes of an action do not change its icon: keep the halo that was drawn.
 void ActionItem::setIcon(const QIcon &icon)
 {
-    if (icon.cacheKey() == m_icon.cacheKey())
+    if (icon.cacheKey() == m_look.icon.cacheKey())
         return;
-    m_icon = icon;
-    m_contrastIcon = contrastIcon(icon);
+    m_look.icon = icon;
+    m_look.contrastIcon = contrastIcon(icon);
 }
 
 bool ActionItem::isCommand(const QAction *action)

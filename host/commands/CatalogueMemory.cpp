@@ -68,7 +68,7 @@ void CatalogueMemory::look()
 {
     for (const auto &item : m_catalogue.items()) {
         const QString identifier = item->GetIdentifier().toQString();
-        if (!item->isPresent || item->isListEntry || m_compared.contains(identifier))
+        if (!item->here.isPresent || item->here.isListEntry || m_compared.contains(identifier))
             continue;
         m_compared.insert(identifier);
         RememberedCommand command = item->remembered();

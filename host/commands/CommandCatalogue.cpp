@@ -6,27 +6,15 @@
 #include "host/commands/WellKnownGuess.h"
 #include "host/files/CommandNames.h"
 #include "host/files/DocumentName.h"
-#include "host/window/Captions.h"
 #include "host/window/EntryAction.h"
 
 #include <QMainWindow>
-#include <QMenu>
-#include <QMenuBar>
 #include <QRegularExpression>
-#include <QToolBar>
 
 #include <algorithm>
 #include <utility>
 
 namespace gesturewidget {
-namespace {
-
-QString joined(const QString &path, const QString &caption)
-{
-    return path.isEmpty() ? caption : path + QLatin1Char('/') + caption;
-}
-
-} // namespace
 
 CommandCatalogue::Window::Window(QMainWindow *mainWindow)
     : window(mainWindow)
@@ -166,7 +154,7 @@ void CommandCatalogue::guessWellKnown()
     const QStringList identifiers = WellKnownGuess::identifiers();
     for (const QString &identifier : identifiers) {
         if (!m_wellKnown.contains(identifier))
-            expect(identifier, WellKnownGuess::captionOf(identifier));
+            expect(identifier, captionFrom(identifier));
     }
 }
 
@@ -245,7 +233,7 @@ ActionItem *CommandCatalogue::itemOf(const QAction *action)
 {
     update();
     ActionItem *item = m_byAction.value(action);
-    return item && item->action() == action && item->isPresent ? item : nullptr;
+    return item && item->action() == action && item->here.isPresent ? item : nullptr;
 }
 
 bool CommandCatalogue::contains(const CHxUICommandItem *item) const
@@ -262,9 +250,10 @@ void CommandCatalogue::onActionChanged(Window &window, QAction *action)
         prepareSoon();
     const ActionItem *item = m_byAction.value(action);
     // Some programs keep an action for each recent document and change its caption.
-    const bool isStill = ActionItem::isCommand(action)
-                      && (item && (item->isListEntry || !namesADocument(ActionItem::captionOf(action))));
-    const bool isPresent = item && (isCurrent ? item->isPresent : item->isPresentIn(window.window));
+    const bool isStill =
+        ActionItem::isCommand(action)
+        && (item && (item->here.isListEntry || !namesADocument(ActionItem::captionOf(action))));
+    const bool isPresent = item && (isCurrent ? item->here.isPresent : item->isPresentIn(window.window));
     if (isPresent && isStill) {
         window.changedActions.insert(action);
         return;
@@ -308,26 +297,19 @@ void CommandCatalogue::scan()
     m_current->isStale = false;
     m_wasRead = true;
     for (const auto &item : m_items)
-        item->wasPresent = std::exchange(item->isPresent, false);
+        item->here.wasPresent = std::exchange(item->here.isPresent, false);
     m_current->met.clear();
     m_current->met.reserve(m_items.size());
-    m_lists = {};
-    m_current->places.clear();
-    const QVector<QMenuBar *> menuBars = watcher().menuBars();
-    for (QMenuBar *bar : menuBars)
-        walk(bar, {});
-    const QVector<QToolBar *> toolBars = watcher().toolBars();
-    for (QToolBar *bar : toolBars) {
-        const QString title = plainCaption(bar->windowTitle());
-        walk(bar, {title, title, true, {}, false});
-    }
+    MenuWalk menus(watcher(), [this](QAction *action, const MenuWalk::Place &place, bool isListEntry) {
+        meet(action, place, isListEntry);
+    });
+    m_current->places = menus.run();
     // Newcomers come last: only now is it clear which keys are free.
     if (m_guesses)
         guess();
     for (const Newcomer &newcomer : m_newcomers)
         admit(newcomer);
     arrangeGroups();
-    m_visited.clear();
     m_newcomers.clear();
     m_guessed.clear();
     m_nextNumbers.clear();
@@ -355,32 +337,6 @@ void CommandCatalogue::guess()
     }
 }
 
-void CommandCatalogue::walk(QWidget *widget, const Place &place)
-{
-    if (m_visited.contains(widget))
-        return;
-    m_visited.insert(widget);
-    m_current->places.insert(place.path);
-    watcher().watch(widget);
-    const QList<QAction *> actions = widget->actions();
-    const bool isTopLevel = place.way.isEmpty() && !place.isInToolBar;
-    const auto kind = ListEntries::kindOf(place.way.value(place.way.size() - 1), isTopLevel);
-    const QSet<const QAction *> entries =
-        place.isOfList ? QSet<const QAction *>() : m_lists.among(actions, kind);
-    for (QAction *action : actions) {
-        if (ActionItem::isCommand(action)) {
-            meet(action, place, place.isOfList || entries.contains(action));
-        } else if (QMenu *menu = action->menu(); menu && action->isVisible()) {
-            const QString title = ActionItem::captionOf(action);
-            const bool isTop = place.group.isEmpty();
-            const bool isOfList =
-                place.isOfList || entries.contains(action) || (!isTop && m_lists.isOfOneDocument(title));
-            walk(menu, {isTop ? title : place.group, joined(place.path, title), place.isInToolBar,
-                        isTop ? QStringList() : place.way + QStringList(title), isOfList});
-        }
-    }
-}
-
 bool CommandCatalogue::isBound(const QAction &action, const QString &path) const
 {
     for (const QString &key : {action.objectName(), path}) {
@@ -391,39 +347,54 @@ bool CommandCatalogue::isBound(const QAction &action, const QString &path) const
     return false;
 }
 
-void CommandCatalogue::meet(QAction *action, const Place &place, bool isListEntry)
+void CommandCatalogue::meet(QAction *action, const MenuWalk::Place &place, bool isListEntry)
 {
     ActionItem *item = m_byAction.value(action);
-    const auto pathOf = [action, &place] { return joined(place.path, ActionItem::captionOf(action)); };
-    if (item && item->action() == action)
-        item->isListEntry = isListEntry;
-    if (isListEntry && !isBound(*action, pathOf()))
-        return;
-    const auto groupOf = [action, &place] {
-        return place.group.isEmpty() ? ActionItem::captionOf(action) : place.group;
-    };
     // A new action may have the address of a deleted one.
-    if (!item || item->action() != action) {
-        m_newcomers.push_back({action, groupOf(), pathOf(), place.way, place.isInToolBar, isListEntry});
+    const bool isKnown = item && item->action() == action;
+    if (isKnown)
+        item->here.isListEntry = isListEntry;
+    const auto path = [&] { return MenuWalk::joined(place.path, ActionItem::captionOf(action)); };
+    if (isListEntry && !isBound(*action, path()))
+        return;
+    const auto here = [&]() -> ActionItem::Here {
+        return {place.group.isEmpty() ? ActionItem::captionOf(action) : place.group,
+                place.way,
+                place.isInToolBar,
+                true,
+                false,
+                isListEntry};
+    };
+    if (!isKnown) {
+        m_newcomers.push_back({action, path(), here()});
         return;
     }
-    if (item->isPresent)
+    if (item->here.isPresent)
         return;
-    item->isPresent = true;
-    if (!item->wasPresent)
+    const bool wasPresent = item->here.wasPresent;
+    item->here = here();
+    if (!wasPresent)
         item->read(); // its changes were not reported while it was in no menu
-    item->group = groupOf();
-    item->way = place.way;
-    item->isInToolBar = place.isInToolBar;
     m_current->met.push_back(item);
 }
 
-// Gives an action its command: the one that an action with this key had before, or a new one.
 void CommandCatalogue::admit(const Newcomer &newcomer)
 {
-    if (const ActionItem *item = m_byAction.value(newcomer.action);
-        item && item->action() == newcomer.action && item->isPresent)
+    ActionItem *known = m_byAction.value(newcomer.action);
+    if (known && known->action() == newcomer.action && known->here.isPresent)
         return; // it is in two places, and was admitted at the first
+    ActionItem *item = commandFor(newcomer);
+    if (m_byAction.value(item->address()) == item)
+        m_byAction.remove(item->address());
+    item->setAction(newcomer.action);
+    item->here = newcomer.here;
+    m_byAction.insert(newcomer.action, item);
+    m_current->met.push_back(item);
+}
+
+// Returns the command that an action with this key had before, or a new one.
+ActionItem *CommandCatalogue::commandFor(const Newcomer &newcomer)
+{
     const QString name = newcomer.action->objectName();
     QString key = name.isEmpty() ? newcomer.path : name;
     bool isTaken = false;
@@ -438,28 +409,17 @@ void CommandCatalogue::admit(const Newcomer &newcomer)
             item = reusable(key, &isTaken);
         }
     }
+    if (item)
+        return item;
     const QString wellKnown = wellKnownFor(newcomer, key);
-    if (!item) {
-        item = expectedFor(wellKnown);
-        if (item) {
-            if (item->key() != wellKnown)
-                m_byName.remove(item->key()); // its action may still appear, as another command
-            item->setKey(key);
-            m_byName.insert(key, item);
-        }
-    }
+    item = expectedFor(wellKnown);
     if (!item)
-        item = add(wellKnown.isEmpty() || m_byName.contains(wellKnown) ? key : wellKnown, key);
-    else if (m_byAction.value(item->address()) == item)
-        m_byAction.remove(item->address());
-    item->setAction(newcomer.action);
-    item->isPresent = true;
-    item->isListEntry = newcomer.isListEntry;
-    item->group = newcomer.group;
-    item->way = newcomer.way;
-    item->isInToolBar = newcomer.isInToolBar;
-    m_byAction.insert(newcomer.action, item);
-    m_current->met.push_back(item);
+        return add(wellKnown.isEmpty() || m_byName.contains(wellKnown) ? key : wellKnown, key);
+    if (item->key() != wellKnown)
+        m_byName.remove(item->key()); // its action may still appear, as another command
+    item->setKey(key);
+    m_byName.insert(key, item);
+    return item;
 }
 
 // Returns the command of that key if its action is gone. Returns null otherwise; `isTaken` then
@@ -472,7 +432,7 @@ ActionItem *CommandCatalogue::reusable(const QString &key, bool *isTaken) const
     }
     ActionItem *item = m_byName.value(key);
     *isTaken = item != nullptr;
-    return item && item->key() == key && !item->isPresent ? item : nullptr;
+    return item && item->key() == key && !item->here.isPresent ? item : nullptr;
 }
 
 // Returns the action's well-known identifier by the profile, else by a guess; empty if there is
@@ -508,12 +468,12 @@ void CommandCatalogue::arrangeGroups()
     for (const auto &group : m_groups)
         group->items.clear();
     for (ActionItem *item : m_current->met)
-        groupNamed(item->group).items.push_back(item);
+        groupNamed(item->here.group).items.push_back(item);
     for (const auto &item : m_items) {
         const bool isLacking = item->isLacking && !item->hasHadAction();
-        const bool isListEntry = item->isListEntry && !item->isExpected;
-        if (!item->isPresent && !isLacking && !isListEntry && !isOutlived(*item))
-            groupNamed(item->group).items.push_back(item.get());
+        const bool isListEntry = item->here.isListEntry && !item->isExpected;
+        if (!item->here.isPresent && !isLacking && !isListEntry && !isOutlived(*item))
+            groupNamed(item->here.group).items.push_back(item.get());
     }
     giveNames();
 }
@@ -527,7 +487,7 @@ void CommandCatalogue::giveNames()
     for (const auto &group : m_groups) {
         for (CHxUICommandItem *offered : group->items) {
             auto *item = static_cast<ActionItem *>(offered);
-            if (item->group.isEmpty())
+            if (item->here.group.isEmpty())
                 continue; // expected, and nobody knows where it will be
             commands.append(item->remembered());
             named.push_back(item);

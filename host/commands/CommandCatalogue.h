@@ -5,7 +5,7 @@
 
 #include "host/commands/ActionItem.h"
 #include "host/commands/CommandGroup.h"
-#include "host/commands/ListEntries.h"
+#include "host/commands/MenuWalk.h"
 #include "host/window/MenuChanges.h"
 
 #include <QHash>
@@ -131,28 +131,15 @@ Q_SIGNALS:
     void prepared();
 
 private:
-    // A menu, menu bar or toolbar.
-    struct Place
-    {
-        QString group; // empty in a menu bar
-        QString path; // the captions on the way to it
-        bool isInToolBar = false;
-        QStringList way = {}; // the captions below the top-level menu or toolbar
-        bool isOfList = false; // all its entries are those of a list
-    };
-
-    // An action that a scan has found and that has no command yet, with its place.
+    // An action that a scan has found and that has no command yet.
     struct Newcomer
     {
         QAction *action;
-        QString group;
         QString path; // with its own caption
-        QStringList way; // as in Place
-        bool isInToolBar;
-        bool isListEntry; // bound all the same
+        ActionItem::Here here;
     };
 
-    // What belongs to one main window.
+    // The part that belongs to one main window.
     struct Window
     {
         explicit Window(QMainWindow *mainWindow);
@@ -170,11 +157,11 @@ private:
     void prepareSoon();
     void prepare();
     void scan();
-    void walk(QWidget *widget, const Place &place);
-    void meet(QAction *action, const Place &place, bool isListEntry);
+    void meet(QAction *action, const MenuWalk::Place &place, bool isListEntry);
     // True if somebody has bound the action with that path of captions.
     [[nodiscard]] bool isBound(const QAction &action, const QString &path) const;
     void admit(const Newcomer &newcomer);
+    [[nodiscard]] ActionItem *commandFor(const Newcomer &newcomer);
     ActionItem *reusable(const QString &key, bool *isTaken) const;
     void guess();
     QString wellKnownFor(const Newcomer &newcomer, const QString &key) const;
@@ -204,9 +191,7 @@ private:
     QTimer m_preparation;
 
     // Only during a scan.
-    QSet<const QWidget *> m_visited;
     std::vector<Newcomer> m_newcomers;
-    ListEntries m_lists;
     QHash<const QAction *, QString> m_guessed; // newcomers, to identifier
     QHash<QString, int> m_nextNumbers; // of equal captions, by path
 };

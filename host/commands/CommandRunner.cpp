@@ -170,7 +170,7 @@ void CommandRunner::trigger(const QString &name)
     if (!item) {
         m_output.showForAWhile(
             QCoreApplication::translate("host", "There is no command \"%1\".").arg(name));
-    } else if (!item->isPresent || !item->action()) {
+    } else if (!item->here.isPresent || !item->action()) {
         m_output.showForAWhile(absence(*item));
     } else if (!item->action()->isEnabled()) {
         m_output.showForAWhile(QCoreApplication::translate("host", "%1: cannot be used at the moment.")
@@ -185,11 +185,11 @@ QString CommandRunner::absence(const ActionItem &item) const
 {
     QString line = QCoreApplication::translate("host", "%1: not available at the moment.")
                        .arg(item.GetCaption().toQString());
-    if (item.group.isEmpty())
+    if (item.here.group.isEmpty())
         return line;
-    const bool isShown = m_catalogue.isShown(item.group);
+    const bool isShown = m_catalogue.isShown(item.here.group);
     QString place;
-    if (item.isInToolBar)
+    if (item.here.isInToolBar)
         place = isShown ? QCoreApplication::translate("host", "The toolbar \"%1\" does not have it now.")
                         : QCoreApplication::translate(
                             "host", "It belongs to the toolbar \"%1\", which is not there now.");
@@ -197,7 +197,7 @@ QString CommandRunner::absence(const ActionItem &item) const
         place = isShown ? QCoreApplication::translate("host", "The menu \"%1\" does not have it now.")
                         : QCoreApplication::translate(
                             "host", "It belongs to the menu \"%1\", which is not there now.");
-    return line + QLatin1Char(' ') + place.arg(item.group);
+    return line + QLatin1Char(' ') + place.arg(item.here.group);
 }
 
 // Cancels the command that runs in the drawing, as a person does.

@@ -23,7 +23,7 @@ class TextOutput;
 // Runs commands by name: macros, which run commands that modules have registered, and the
 // program's own actions.
 //
-// What is chosen runs later, but in the window that was current when it was chosen. If that window
+// A chosen command runs later, but in the window that was current when it was chosen. If that window
 // is gone by then, nothing runs.
 //
 // A command may do anything, such as close the window or destroy this object.

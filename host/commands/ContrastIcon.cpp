@@ -77,11 +77,11 @@ Halo haloFor(const QImage &shape)
     return suitsDark >= kNearlyAll * outline ? Halo::Dark : Halo::Mixed;
 }
 
-// How one pixel of the shape affects the halo around it.
+// The effect of one pixel of the shape on the halo around it.
 struct Influence
 {
     float alpha = 0; // 0 to 1
-    // How well the pixel can be read against either colour, 0 outside the shape.
+    // The pixel's contrast with either colour, 0 outside the shape.
     float forLight = 0;
     float forDark = 0;
 };

@@ -15,26 +15,27 @@ namespace gesturewidget {
 
 // Tells entries of lists from commands: recent documents, open windows, layers, steps to undo.
 // They come and go with a person's work, so they are no commands: nobody wants one in a ring
-// tomorrow, and what they say is private.
+// tomorrow, and their texts are private.
 //
-// A wrong answer costs a command, so an entry of a list is only what cannot be much else. Apart
-// from names of documents, an action with an object name, a shortcut or an icon is a command.
+// A wrong answer costs a command, so an action counts as a command in doubt. Apart from names of
+// documents, an action with an object name, a shortcut or an icon is a command.
 //
 // Make one for each reading of the menus, because windows open and close in between.
 class ListEntries
 {
 public:
-    // What a menu holds. Only some entries of a menu are those of a list.
+    // The content of a menu. In a menu of commands, only some entries may be those of a list.
     enum class Kind {
         Commands, // and perhaps a list at the end
         Documents, // recent documents, or steps to undo or redo
         Layers
     };
 
-    // Returns what a menu with that caption holds. `isTopLevel`: it is in the menu bar.
+    // Returns the content of a menu with that caption. `isTopLevel`: it is in the menu bar.
     [[nodiscard]] static Kind kindOf(const QString &menu, bool isTopLevel);
 
-    // Returns the entries of lists among the actions of one menu or toolbar, which are in order.
+    // Returns the entries of lists among the actions of one menu or toolbar, in the order of the menu.
+    // `kind` is its content.
     [[nodiscard]] QSet<const QAction *> among(const QList<QAction *> &actions, Kind kind);
     // Returns whether a menu with that caption belongs to one document or window. Then its entries
     // are no commands either.

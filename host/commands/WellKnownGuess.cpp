@@ -8,7 +8,6 @@
 #include "sdk/QtBridge.h"
 
 #include <QAction>
-#include <QCoreApplication>
 #include <QDockWidget>
 #include <QHash>
 #include <QKeySequence>
@@ -91,18 +90,17 @@ constexpr const char *kViewRole = "view";
 struct Signs
 {
     const char *identifier;
-    const char *caption;
     QKeySequence::StandardKey shortcut;
     QStringList icons;
     const char *menuRoles; // of the menus where such commands are, separated by spaces
     // In lower case, words separated by one space. An object name is compared with them
     // once its words that name no deed are gone, see noise().
-    Words words;
-    Words menus; // captions, likewise
+    Words words = {};
+    Words menus = {}; // captions, likewise
     // Words that say too little but in one of these menus.
-    Words wordsInMenus;
+    Words wordsInMenus = {};
     // Single words among both: "Open Image" mentions "open".
-    Words mentions;
+    Words mentions = {};
 };
 
 Words plainWordsOf(const QStringList &captions)
@@ -119,78 +117,15 @@ QVector<Signs> makeSigns()
         return QString::fromLatin1(text).split(QLatin1Char('|'), Qt::SkipEmptyParts);
     };
     QVector<Signs> signs{
-        {"ID_COPY",
-         QT_TRANSLATE_NOOP("host", "Copy"),
-         QKeySequence::Copy,
-         list("edit-copy"),
-         "edit",
-         {},
-         {},
-         {},
-         {}},
-        {"ID_DTEXT",
-         QT_TRANSLATE_NOOP("host", "Text"),
-         QKeySequence::UnknownKey,
-         list("draw-text|insert-text|tool-text"),
-         "draw",
-         {},
-         {},
-         {},
-         {}},
-        {"ID_LINE",
-         QT_TRANSLATE_NOOP("host", "Line"),
-         QKeySequence::UnknownKey,
-         list("draw-line|tool-line"),
-         "draw",
-         {},
-         {},
-         {},
-         {}},
-        {"ID_OFFSET",
-         QT_TRANSLATE_NOOP("host", "Offset"),
-         QKeySequence::UnknownKey,
-         list("object-offset|offset"),
-         "edit draft draw",
-         {},
-         {},
-         {},
-         {}},
-        {"ID_OPEN",
-         QT_TRANSLATE_NOOP("host", "Open"),
-         QKeySequence::Open,
-         list("document-open"),
-         "file",
-         {},
-         {},
-         {},
-         {}},
-        {"ID_SAVE",
-         QT_TRANSLATE_NOOP("host", "Save"),
-         QKeySequence::Save,
-         list("document-save"),
-         "file",
-         {},
-         {},
-         {},
-         {}},
-        {"ID_TRIM",
-         QT_TRANSLATE_NOOP("host", "Trim"),
-         QKeySequence::UnknownKey,
-         list("trim"),
-         "edit draft draw",
-         {},
-         {},
-         {},
-         {}},
-        {"ID_ZOOM_BOUNDS",
-         QT_TRANSLATE_NOOP("host", "Zoom to Fit"),
-         QKeySequence::UnknownKey,
-         list("zoom-fit-best|zoom-fit|zoom-fit-page"),
-         kViewRole,
-         {},
-         {},
-         {},
-         {}},
+        {"ID_COPY", QKeySequence::Copy, list("edit-copy"), "edit"},
+        {"ID_DTEXT", QKeySequence::UnknownKey, list("draw-text|insert-text|tool-text"), "draw"},
+        {"ID_LINE", QKeySequence::UnknownKey, list("draw-line|tool-line"), "draw"},
+        {"ID_OFFSET", QKeySequence::UnknownKey, list("object-offset|offset"), "edit draft draw"},
+        {"ID_OPEN", QKeySequence::Open, list("document-open"), "file"},
+        {"ID_SAVE", QKeySequence::Save, list("document-save"), "file"},
+        {"ID_TRIM", QKeySequence::UnknownKey, list("trim"), "edit draft draw"},
+        {"ID_ZOOM_BOUNDS", QKeySequence::UnknownKey, list("zoom-fit-best|zoom-fit|zoom-fit-page"),
+         kViewRole},
     };
     for (Signs &sign : signs) {
         const QString identifier = QLatin1String(sign.identifier);
@@ -444,15 +379,6 @@ QStringList WellKnownGuess::identifiers()
     for (const Signs &signs : allSigns())
         names.append(QLatin1String(signs.identifier));
     return names;
-}
-
-QString WellKnownGuess::captionOf(const QString &identifier)
-{
-    for (const Signs &signs : allSigns()) {
-        if (identifier == QLatin1String(signs.identifier))
-            return QCoreApplication::translate("host", signs.caption);
-    }
-    return {};
 }
 
 QVector<WellKnownGuess> WellKnownGuess::among(const QVector<QAction *> &actions,

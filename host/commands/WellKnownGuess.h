@@ -32,9 +32,6 @@ struct WellKnownGuess
 
     // Returns the identifiers that can be guessed, sorted.
     [[nodiscard]] static QStringList identifiers();
-    // Returns a caption for that identifier, for the time when the program shows none; empty if
-    // the identifier is not well known.
-    [[nodiscard]] static QString captionOf(const QString &identifier);
 
     // Returns the best action for each of `wanted`; among equals the first in `actions`. An action
     // gets one identifier at most. Identifiers without any sign are left out. `actions` holds no

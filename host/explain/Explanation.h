@@ -31,7 +31,7 @@ public:
 
     // Adds a view, the widget that gets the pointer. Adding it again has no effect.
     void addView(QWidget *view);
-    // What starts a gesture, and why. Call this again when it changes.
+    // Notes the trigger, and the reason for it. Call this again when it changes.
     void noteTrigger(Qt::MouseButton button, Qt::KeyboardModifiers modifiers, const QString &reason);
     // Call this when the menus are complete. Nothing is reported before.
     void menusSettled();

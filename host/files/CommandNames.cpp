@@ -3,6 +3,7 @@
 
 #include "host/files/CommandNames.h"
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QRegularExpression>
 #include <QSet>
@@ -59,6 +60,22 @@ QSet<QString> repeatedAmong(const QStringList &texts)
     return repeated;
 }
 
+// Returns the usual name of a command of the first bindings; empty for any other.
+QString wellKnownCaption(const QString &identifier)
+{
+    static const QHash<QString, const char *> captions{
+        {QStringLiteral("ID_COPY"), QT_TRANSLATE_NOOP("host", "Copy")},
+        {QStringLiteral("ID_DTEXT"), QT_TRANSLATE_NOOP("host", "Text")},
+        {QStringLiteral("ID_LINE"), QT_TRANSLATE_NOOP("host", "Line")},
+        {QStringLiteral("ID_OFFSET"), QT_TRANSLATE_NOOP("host", "Offset")},
+        {QStringLiteral("ID_OPEN"), QT_TRANSLATE_NOOP("host", "Open")},
+        {QStringLiteral("ID_SAVE"), QT_TRANSLATE_NOOP("host", "Save")},
+        {QStringLiteral("ID_TRIM"), QT_TRANSLATE_NOOP("host", "Trim")},
+        {QStringLiteral("ID_ZOOM_BOUNDS"), QT_TRANSLATE_NOOP("host", "Zoom to Fit")}};
+    const char *caption = captions.value(identifier);
+    return caption ? QCoreApplication::translate("host", caption) : QString();
+}
+
 } // namespace
 
 QString foldedCaption(const QString &caption)
@@ -101,6 +118,18 @@ QStringList commandNames(const QVector<RememberedCommand> &commands)
             names[i] += QStringLiteral(" (%1)").arg(count);
     }
     return names;
+}
+
+QString captionFrom(const QString &identifier)
+{
+    if (const QString caption = wellKnownCaption(identifier); !caption.isEmpty())
+        return caption;
+    const QLatin1String prefix("ID_");
+    if (!identifier.startsWith(prefix))
+        return identifier.section(QLatin1Char('/'), -1);
+    const QString words =
+        identifier.mid(prefix.size()).toLower().replace(QLatin1Char('_'), QLatin1Char(' '));
+    return words.left(1).toUpper() + words.mid(1);
 }
 
 bool repeatsCaption(const QString &tip, const QString &caption)

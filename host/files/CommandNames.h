@@ -23,6 +23,13 @@ namespace gesturewidget {
 // Returns the command's captions from the top-level menu or toolbar down: "Draw > Line > 2 Points".
 [[nodiscard]] QString fullWayOf(const RememberedCommand &command);
 
+// Returns a caption, in the person's language, for a command that no menu has shown yet: the usual
+// name of a command of the first bindings, such as "Line" for "ID_LINE"; else what the identifier
+// says, "Something else" for "ID_SOMETHING_ELSE" and the last caption of a path.
+//
+// Programs that call this embed the host's translations.
+[[nodiscard]] QString captionFrom(const QString &identifier);
+
 // Returns a caption for comparing: without dots at the end, in one case.
 [[nodiscard]] QString foldedCaption(const QString &caption);
 

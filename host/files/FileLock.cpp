@@ -34,43 +34,69 @@ bool isRegular(int file)
     return ::fstat(file, &status) == 0 && S_ISREG(status.st_mode);
 }
 
+QByteArray lockName(const QString &path)
+{
+    return QFile::encodeName(path + QLatin1String(".lock"));
+}
+
 } // namespace
 
-FileLock::FileLock(const QString &path, int patience)
-    : m_path(path + QLatin1String(".lock"))
+FileLock::Token::Token(const QByteArray &name)
+    : m_name(name)
 {
-    const QByteArray name = QFile::encodeName(m_path);
-    QElapsedTimer waited;
-    waited.start();
+}
+
+FileLock::Token::~Token()
+{
+    if (!isHeld())
+        return;
+    ::unlink(m_name.constData()); // while nobody else can hold it
+    ::close(m_file);
+}
+
+FileLock::Result FileLock::Token::take()
+{
     while (true) {
-        m_file = ::open(name.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0600);
-        if (m_file < 0 || !isRegular(m_file))
-            return;
-        const bool isLocked = ::flock(m_file, LOCK_EX | LOCK_NB) == 0;
+        const int file =
+            ::open(m_name.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0600);
+        if (file < 0)
+            return Result::Impossible;
+        const bool isFile = isRegular(file);
+        const bool isLocked = isFile && ::flock(file, LOCK_EX | LOCK_NB) == 0;
+        const bool isBusy = isFile && !isLocked && (errno == EWOULDBLOCK || errno == EINTR);
         // Its last owner may have removed the file between the two calls.
-        if (isLocked && isNameOf(name, m_file)) {
-            m_result = Result::Held;
-            return;
+        if (isLocked && isNameOf(m_name, file)) {
+            m_file = file;
+            return Result::Held;
         }
-        if (!isLocked && errno != EWOULDBLOCK && errno != EINTR)
-            return;
-        ::close(m_file);
-        m_file = -1;
-        if (!isLocked && waited.hasExpired(patience)) {
-            m_result = Result::Busy;
-            return;
-        }
+        ::close(file);
         if (!isLocked)
-            ::poll(nullptr, 0, kSlice);
+            return isBusy ? Result::Busy : Result::Impossible;
     }
 }
 
-FileLock::~FileLock()
+bool FileLock::Token::isThere() const
 {
-    if (isHeld())
-        ::unlink(QFile::encodeName(m_path).constData()); // while nobody else can hold it
-    if (m_file >= 0)
-        ::close(m_file);
+    return ::access(m_name.constData(), F_OK) == 0;
 }
+
+FileLock::FileLock(const QString &path, int patience)
+    : m_token(lockName(path))
+{
+    Token next(lockName(path) + ".next"); // until the lock is taken
+    QElapsedTimer waited;
+    waited.start();
+    while (true) {
+        const bool isNext = next.isHeld() || !next.isThere() || next.take() != Result::Busy;
+        m_result = isNext ? m_token.take() : Result::Busy;
+        if (m_result != Result::Busy || waited.hasExpired(patience))
+            return;
+        if (isNext && !next.isHeld())
+            static_cast<void>(next.take());
+        ::poll(nullptr, 0, kSlice);
+    }
+}
+
+FileLock::~FileLock() = default;
 
 } // namespace gesturewidget

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 namespace gesturewidget {
@@ -12,6 +13,9 @@ namespace gesturewidget {
 // The kernel frees the lock when its owner ends, however it ends. So a lock file that is left
 // behind blocks nobody. A QLockFile whose owner was killed while writing it blocks everybody for
 // its stale time.
+//
+// A program that waits also locks "<path>.lock.next" meanwhile. While somebody does, nobody else
+// takes a free lock. Otherwise a program that writes again and again could keep the others out.
 class FileLock
 {
 public:
@@ -31,8 +35,27 @@ public:
     [[nodiscard]] bool isHeld() const { return m_result == Result::Held; }
 
 private:
-    QString m_path;
-    int m_file = -1;
+    // A file that one process at a time can hold. It exists only while somebody has it open.
+    class Token
+    {
+    public:
+        explicit Token(const QByteArray &name);
+        ~Token();
+        Token(const Token &) = delete;
+        Token &operator=(const Token &) = delete;
+
+        // Tries once to take it, and makes the file if necessary.
+        [[nodiscard]] Result take();
+        [[nodiscard]] bool isHeld() const { return m_file >= 0; }
+        // True if the file exists.
+        [[nodiscard]] bool isThere() const;
+
+    private:
+        QByteArray m_name;
+        int m_file = -1;
+    };
+
+    Token m_token;
     Result m_result = Result::Impossible;
 };
 

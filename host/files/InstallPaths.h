@@ -7,8 +7,8 @@
 #include <QString>
 #include <QStringList>
 
-// Where a program's host finds what it needs, relative to the file of this library. That works in a
-// build tree and in an installation.
+// The files and folders that a program's host needs, relative to the file of this library. That works
+// in a build tree and in an installation.
 namespace gesturewidget {
 
 // The running program's name in lower case, see chooseProgramName().
@@ -27,9 +27,9 @@ namespace gesturewidget {
 // The folders for settings that an administrator provides for all users, the one that counts first
 // in front: below those of the environment variable XDG_CONFIG_DIRS.
 [[nodiscard]] QStringList siteFolders();
-// Where the bindings for a program are kept.
+// The file with the bindings for a program. It need not exist.
 [[nodiscard]] QString settingsFile(const QString &program);
-// Where the commands that a program has ever shown are kept, see CatalogueFile.
+// The file with the commands that a program has ever shown, see CatalogueFile. It need not exist.
 [[nodiscard]] QString catalogueFile(const QString &program);
 // The same for a program whose bindings are in the file `settings`: a file beside it. Empty if
 // `settings` is empty.

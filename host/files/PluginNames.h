@@ -5,7 +5,7 @@
 
 #include <QString>
 
-// How Qt finds the plug-in: by its key, in files of this name.
+// Qt finds the plug-in by its key, in files of this name.
 namespace gesturewidget {
 
 // The plug-in's key among Qt's generic plug-ins, as InjectPlugin.json has it.

@@ -43,6 +43,7 @@ public:
     }
 
     [[nodiscard]] QString problem() const { return m_problem; }
+    // An empty text is no problem.
     void fail(const QString &problem)
     {
         if (m_problem.isEmpty())
@@ -130,8 +131,7 @@ void readTrigger(Reader &profileReader, ProgramProfile &profile)
         profile.triggerModifiers |= modifier;
     }
     profile.hasTrigger = !reader.keys().isEmpty();
-    if (!reader.problem().isEmpty())
-        profileReader.fail(reader.problem());
+    profileReader.fail(reader.problem());
 }
 
 // Reads what the program itself is set to, from one of its files in the folder for configuration.
@@ -178,8 +178,7 @@ void readTriggerSetting(Reader &profileReader, ProgramProfile &profile)
             profile.hasTrigger = true;
         }
     }
-    if (!reader.problem().isEmpty())
-        profileReader.fail(reader.problem());
+    profileReader.fail(reader.problem());
 }
 
 void readCommands(Reader &profileReader, ProgramProfile &profile)
@@ -193,8 +192,7 @@ void readCommands(Reader &profileReader, ProgramProfile &profile)
             reader.fail(QStringLiteral("\"wellKnownCommands.%1\" names no action").arg(identifier));
         profile.wellKnownCommands.insert(identifier, actions);
     }
-    if (!reader.problem().isEmpty())
-        profileReader.fail(reader.problem());
+    profileReader.fail(reader.problem());
 }
 
 void readRing(Reader &tasksReader, const QString &task, const QJsonObject &object,
@@ -210,8 +208,7 @@ void readRing(Reader &tasksReader, const QString &task, const QJsonObject &objec
             reader.fail(QStringLiteral("\"%1\" is no direction").arg(path + key));
         profile.taskBindings[task].insert(key, reader.string(key));
     }
-    if (!reader.problem().isEmpty())
-        tasksReader.fail(reader.problem());
+    tasksReader.fail(reader.problem());
 }
 
 void readTasks(Reader &profileReader, ProgramProfile &profile)
@@ -221,10 +218,7 @@ void readTasks(Reader &profileReader, ProgramProfile &profile)
                   QStringLiteral("firstBindings")});
     if (!reader.value(QStringLiteral("checkedActionBeside")).isUndefined())
         profile.taskActions = reader.namesOf(QStringLiteral("checkedActionBeside"));
-    const QJsonValue byView = reader.value(QStringLiteral("classOfView"));
-    if (!byView.isUndefined() && !byView.isBool())
-        reader.fail(QStringLiteral("\"tasks.classOfView\" is not true or false"));
-    profile.isTaskOfView = byView.toBool();
+    profile.isTaskOfView = reader.flag(QStringLiteral("classOfView"));
     if (profile.isTaskOfView && !profile.taskActions.isEmpty())
         reader.fail(QStringLiteral("\"tasks\" names two ways to know the task"));
     const QJsonObject rings = reader.object(QStringLiteral("firstBindings"));
@@ -233,8 +227,7 @@ void readTasks(Reader &profileReader, ProgramProfile &profile)
             reader.fail(QStringLiteral("\"tasks.firstBindings.%1\" is not an object").arg(it.key()));
         readRing(reader, it.key(), it.value().toObject(), profile);
     }
-    if (!reader.problem().isEmpty())
-        profileReader.fail(reader.problem());
+    profileReader.fail(reader.problem());
 }
 
 // Returns what is wrong with the text; empty when `profile` could be filled.
@@ -265,6 +258,20 @@ QString fill(ProgramProfile &profile, const QByteArray &text)
     profile.commandLineClass = reader.string(QStringLiteral("commandLineClass"));
     profile.changesMenus = reader.flag(QStringLiteral("changesMenus"));
     return reader.problem();
+}
+
+QString fill(ProgramProfile &profile, const FileContent &file)
+{
+    switch (file.state) {
+    case FileContent::State::Read:
+        return fill(profile, file.bytes);
+    case FileContent::State::NotAFile:
+        return QStringLiteral("it is not a file");
+    case FileContent::State::TooLarge:
+        return QStringLiteral("it is too long");
+    default:
+        return file.problem;
+    }
 }
 
 // Returns whether the name is that of a file and no path: profiles come from the given folders.
@@ -338,23 +345,8 @@ ProgramProfile ProgramProfile::forProgram(const QString &program, const QStringL
         const QString path = QDir(folder).filePath(program + QLatin1String(".json"));
         if (folder.isEmpty() || !QFileInfo::exists(path))
             continue;
-        const FileContent file = FileContent::read(path, kMaximalSize);
         ProgramProfile profile = defaults;
-        QString problem;
-        switch (file.state) {
-        case FileContent::State::Read:
-            problem = fill(profile, file.bytes);
-            break;
-        case FileContent::State::NotAFile:
-            problem = QStringLiteral("it is not a file");
-            break;
-        case FileContent::State::TooLarge:
-            problem = QStringLiteral("it is too long");
-            break;
-        default:
-            problem = file.problem;
-            break;
-        }
+        const QString problem = fill(profile, FileContent::read(path, kMaximalSize));
         if (problem.isEmpty())
             return profile;
         if (message) {

@@ -38,11 +38,11 @@ struct ProgramProfile
     // Object name or caption of the menu that gets the entry of the module; empty to look
     // for one called "Tools".
     QString toolsMenu;
-    // How the person's task is known, such as a workbench: the names of actions, of which the first
-    // that exists is in a group; the task is the object name of the group's checked action. Empty if
-    // the program has no such group.
+    // Names of actions that tell the person's task, such as a workbench. The first of them that exists
+    // is in a group, and the task is the object name of the group's checked action. Empty if the
+    // program has no such group.
     QStringList taskActions;
-    // True if the task is the class of the active MDI child, or of the active view outside of any.
+    // True if the task is the class name of the active MDI child; without one, that of the active view.
     bool isTaskOfView = false;
     // By task, the first bindings of a ring of its own: identifiers by the directions' keys, "81" to
     // "88" and "41" to "44". What is missing comes from the shared ring.

@@ -66,7 +66,7 @@ SettingsFile::Values SettingsFile::read()
     const bool seemsDamaged = isDamaged(content.bytes, backup);
     if (!seemsDamaged && content.bytes == backup)
         return IniText(content.bytes).values();
-    // Whoever holds the lock at the moment renews the copy.
+    // If somebody else holds the lock, they renew the copy.
     const FileLock lock(m_path, seemsDamaged ? kLockPatience : 0);
     if (lock.isHeld()) { // somebody may have written before that
         backup = contentOf(backupPath()).bytes;

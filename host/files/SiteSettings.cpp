@@ -41,9 +41,11 @@ SiteSettings::SiteSettings(const QString &own)
 
 SettingsFile::Values SiteSettings::under(const SettingsFile::Values &own) const
 {
-    SettingsFile::Values all = m_values;
-    for (auto it = own.begin(); it != own.end(); ++it)
-        all.insert(it.key(), it.value());
+    SettingsFile::Values all = own; // shared with the caller, since most sites have no values
+    for (auto it = m_values.begin(); it != m_values.end(); ++it) {
+        if (!own.contains(it.key()))
+            all.insert(it.key(), it.value());
+    }
     return all;
 }
 

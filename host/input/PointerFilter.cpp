@@ -356,7 +356,7 @@ void PointerFilter::stopOverlay()
                         QGuiApplication::mouseButtons() & ~Qt::MouseButtons(m_trigger.button),
                         QGuiApplication::keyboardModifiers());
     QCoreApplication::sendEvent(overlay, &release);
-    // Whatever the overlay did, no grab and no window may stay.
+    // No grab and no window may stay, even if the overlay ignored the release.
     if (overlay && QWidget::mouseGrabber() == overlay)
         overlay->releaseMouse();
     if (overlay && QWidget::keyboardGrabber() == overlay)

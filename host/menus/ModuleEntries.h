@@ -43,7 +43,8 @@ public:
     // Takes an entry out of all menus.
     void remove(UiMenuItem *item);
 
-    // A window's menus begin and end with these. The first puts the entries of the Tools menu there.
+    // Called when the menus of a window come and go. addMenus() puts the entries of the Tools menu
+    // there.
     void addMenus(MenuEntries *menus);
     void removeMenus(MenuEntries *menus);
 

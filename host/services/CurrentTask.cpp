@@ -35,20 +35,18 @@ QString CurrentTask::caption()
 
 void CurrentTask::hold()
 {
-    if (m_holds == 0)
-        m_held = find();
-    ++m_holds;
+    m_held = find();
 }
 
 void CurrentTask::release()
 {
-    --m_holds;
+    m_held.reset();
 }
 
 CurrentTask::Found CurrentTask::find()
 {
-    if (m_holds > 0)
-        return m_held;
+    if (m_held)
+        return *m_held;
     return m_isOfView ? classOfView() : checkedAction();
 }
 

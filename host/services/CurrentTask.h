@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 class CHxDocumentManager;
 
 namespace gesturewidget {
@@ -13,8 +15,7 @@ namespace gesturewidget {
 class CommandCatalogue;
 struct ProgramProfile;
 
-// Knows what the person is doing at the moment, such as the workbench of the program, as the profile
-// says how.
+// Knows the person's task at the moment, such as the workbench of the program. The profile says how.
 class CurrentTask
 {
 public:
@@ -27,7 +28,7 @@ public:
     // Returns the name that a person sees, which may be the same.
     [[nodiscard]] QString caption();
 
-    // From now on the task stays the one that is on, until release(). Calls nest.
+    // From now on the task stays the one that is on, until release().
     void hold();
     void release();
 
@@ -46,8 +47,7 @@ private:
     bool m_isOfView;
     CommandCatalogue &m_catalogue;
     CHxDocumentManager *m_documents;
-    int m_holds = 0;
-    Found m_held;
+    std::optional<Found> m_held;
 };
 
 } // namespace gesturewidget

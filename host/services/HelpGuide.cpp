@@ -12,7 +12,7 @@
 namespace gesturewidget {
 namespace {
 
-// How many folders up from the library a tree's root may be: lib/<architecture>/, or
+// Levels of folders from the library up to the root of its tree, at most: lib/<architecture>/, or
 // build/<preset>/lib/ in a source tree.
 constexpr int kLevels = 4;
 

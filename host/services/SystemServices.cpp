@@ -56,6 +56,13 @@ public:
                       [this](const QString &name) { runner.runStackCommand(name); })
         , guide(helpGuide)
     {
+        connectWindows();
+        if (mainWindow) // without a program, nothing can be expected
+            expectCommands(profile, settingsFile);
+    }
+
+    void connectWindows()
+    {
         QObject::connect(&windows, &MainWindows::added, &windows, [this](QMainWindow *window) {
             catalogue.addWindow(window);
             uiManager.addWindow(window);
@@ -73,16 +80,18 @@ public:
             QObject::connect(&windows, &MainWindows::holdBegins, &windows, [this] { holdRing(); });
             QObject::connect(&windows, &MainWindows::holdEnds, &windows, [this] { releaseRing(); });
         }
-        if (!mainWindow)
-            return; // without a program, nothing can be expected
+    }
+
+    void expectCommands(const ProgramProfile &profile, const QString &settingsFile)
+    {
         memory = std::make_unique<CatalogueMemory>(catalogue, catalogueFileBeside(settingsFile));
-        const QMap<QString, QString> expected =
-            expectedCommands(profile.wellKnownCommands, profileStore.values());
+        const SettingsFile::Values settings = profileStore.values();
+        const QMap<QString, QString> expected = expectedCommands(profile.wellKnownCommands, settings);
         for (auto it = expected.begin(); it != expected.end(); ++it)
             catalogue.expect(it.key(), it.value());
         if (profile.changesMenus)
             catalogue.trustAll();
-        catalogue.trust(trustedCommands(profileStore.values(), profileStore.site().values()));
+        catalogue.trust(trustedCommands(settings, profileStore.site().values()));
         QObject::connect(
             &catalogue, &CommandCatalogue::dropped, &catalogue, [this](const QStringList &identifiers) {
                 textOutput.showForAWhile(

@@ -39,8 +39,8 @@ class HostSession;
 class GESTUREWIDGET_HOST_EXPORT GestureHost
 {
 public:
-    // How the host finds what it needs. Options() takes nothing from outside the program;
-    // optionsForThisProgram() is what most programs want.
+    // The places and names that the host works with. Options() takes nothing from outside the program;
+    // most programs want optionsForThisProgram().
     struct Options
     {
         // The program's name in lower case; the host finds the profile and the settings by it.

@@ -7,13 +7,12 @@
 #include "host/commands/CommandStack.h"
 #include "host/files/Complaint.h"
 #include "host/files/ProgramProfile.h"
-#include "host/files/SettingsNames.h"
 #include "host/menus/ProgramLanguage.h"
 #include "host/services/HostEditor.h"
+#include "host/services/StoredText.h"
 #include "host/services/SystemServices.h"
 #include "host/session/ExplainedProgram.h"
 #include "host/window/MainWindows.h"
-#include "sdk/chx/CHxProfileStore.h"
 #include "sdk/od/OdEdCommandStack.h"
 #include "sdk/od/OdEditor.h"
 
@@ -56,15 +55,12 @@ HostSession::~HostSession()
 
 bool HostSession::start(QString *error)
 {
-    QString why;
-    QString *reason = error ? error : &why;
     if (m_isRunning)
         return true;
-    auto *window = qobject_cast<QMainWindow *>(m_firstWindow.data());
-    if (m_wasStarted || running || !window || !qobject_cast<QApplication *>(qApp)) {
-        *reason = m_wasStarted ? QStringLiteral("a host that was stopped cannot start again")
-                : running      ? QStringLiteral("this program has a host already")
-                               : QStringLiteral("there is no main window to host");
+    QString problem = obstacle();
+    if (!problem.isEmpty()) {
+        if (error)
+            *error = problem;
         return false;
     }
     m_wasStarted = true;
@@ -80,39 +76,13 @@ bool HostSession::start(QString *error)
         ProgramProfile::forProgram(m_options.program, m_options.profileFolders, &message);
     if (!message.isEmpty())
         complain(message);
-
-    m_services = std::make_unique<SystemServices>(window, profile, &m_documents, m_options.settingsFile);
-    if (m_options.guesses)
-        m_services->catalogue().guessWellKnown();
-    m_services->setApplication(&m_application);
-    m_services->setMainFrame(&m_mainFrame);
-    SetHxSystemServices(m_services.get());
-    odedSetCommandStack(&m_services->commandStack());
-    odedSetEditor(&m_services->editor());
-
-    m_triggerChoice = std::make_unique<TriggerChoice>(profile, m_services->GetProfileStore());
-    m_pointerFilter = std::make_unique<PointerFilter>(
-        m_documents, m_triggerChoice->trigger(),
-        [this](const QWidget *view) { return hasItsCommands(view) && gesturesAreEnabled(); });
-    m_viewFinder =
-        std::make_unique<ViewFinder>(profile.viewClasses, m_options.guesses && m_addedViews.isEmpty());
-    connect(m_viewFinder.get(), &ViewFinder::viewFound, this, &HostSession::openView);
-    m_windowFinder = std::make_unique<WindowFinder>(
-        m_services->windows(), [this](const QWidget *shown) { return hasDrawing(shown); });
-    connectWindows();
-    if (const int listener = explanationListener(); listener >= 0) {
-        m_explanation = std::make_unique<Explanation>(listener, profile, *m_services);
-        explainTrigger();
-    }
-    connect(qApp, &QCoreApplication::aboutToQuit, this, &HostSession::finish);
-
-    bool isLoaded = m_loader.load(m_options.moduleFile, reason);
-    // Here the module's library has brought its texts, and has shown none of them yet.
-    m_translations.install(
-        programLanguage(window, QLocale::system().uiLanguages(), Translations::languages()));
-    isLoaded = isLoaded && m_loader.initialize(reason);
-    if (!isLoaded) {
+    installTexts(); // expected commands get captions
+    makeServices(profile);
+    makeParts(profile);
+    if (!startModule(&problem)) {
         stop();
+        if (error)
+            *error = problem;
         return false;
     }
     for (const QPointer<QWidget> &view : std::as_const(m_addedViews)) {
@@ -124,6 +94,64 @@ bool HostSession::start(QString *error)
     qApp->installEventFilter(m_pointerFilter.get());
     m_menuReadiness.start();
     return true;
+}
+
+QString HostSession::obstacle() const
+{
+    if (m_wasStarted)
+        return QStringLiteral("a host that was stopped cannot start again");
+    if (running)
+        return QStringLiteral("this program has a host already");
+    if (!qobject_cast<QMainWindow *>(m_firstWindow.data()) || !qobject_cast<QApplication *>(qApp))
+        return QStringLiteral("there is no main window to host");
+    return {};
+}
+
+void HostSession::makeServices(const ProgramProfile &profile)
+{
+    auto *window = qobject_cast<QMainWindow *>(m_firstWindow.data());
+    m_services = std::make_unique<SystemServices>(window, profile, &m_documents, m_options.settingsFile);
+    if (m_options.guesses)
+        m_services->catalogue().guessWellKnown();
+    m_services->setApplication(&m_application);
+    m_services->setMainFrame(&m_mainFrame);
+    SetHxSystemServices(m_services.get());
+    odedSetCommandStack(&m_services->commandStack());
+    odedSetEditor(&m_services->editor());
+}
+
+void HostSession::makeParts(const ProgramProfile &profile)
+{
+    m_triggerChoice = std::make_unique<TriggerChoice>(profile, m_services->GetProfileStore());
+    m_pointerFilter = std::make_unique<PointerFilter>(
+        m_documents, m_triggerChoice->trigger(), [this](const QWidget *view) {
+            return hasItsCommands(view) && areGesturesOn(m_services->GetProfileStore());
+        });
+    m_viewFinder =
+        std::make_unique<ViewFinder>(profile.viewClasses, m_options.guesses && m_addedViews.isEmpty());
+    connect(m_viewFinder.get(), &ViewFinder::viewFound, this, &HostSession::openView);
+    m_windowFinder = std::make_unique<WindowFinder>(
+        m_services->windows(), [this](const QWidget *shown) { return hasDrawing(shown); });
+    connectWindows();
+    if (const int listener = explanationListener(); listener >= 0) {
+        m_explanation = std::make_unique<Explanation>(listener, profile, *m_services);
+        explainTrigger();
+    }
+    connect(qApp, &QCoreApplication::aboutToQuit, this, &HostSession::finish);
+}
+
+void HostSession::installTexts()
+{
+    const auto *window = qobject_cast<QMainWindow *>(m_firstWindow.data());
+    m_translations.install(
+        programLanguage(window, QLocale::system().uiLanguages(), Translations::languages()));
+}
+
+bool HostSession::startModule(QString *error)
+{
+    const bool isLoaded = m_loader.load(m_options.moduleFile, error);
+    installTexts(); // the module's library has brought its own, and has shown none of them yet
+    return isLoaded && m_loader.initialize(error);
 }
 
 void HostSession::connectWindows()
@@ -152,7 +180,7 @@ void HostSession::connectWindows()
         else
             stopWithoutWindow();
     });
-    // Whichever of the windows is complete first.
+    // The first window whose menus are complete counts.
     connect(&m_menuReadiness, &MenuReadiness::settled, this, &HostSession::onMenusSettled);
     connect(&windows, &MainWindows::added, this, &HostSession::onMenusSettled);
 }
@@ -314,16 +342,6 @@ bool HostSession::hasDrawing(const QWidget *window) const
 QMainWindow *HostSession::mainWindow() const
 {
     return m_isRunning ? qobject_cast<QMainWindow *>(m_services->windows().current()) : nullptr;
-}
-
-bool HostSession::gesturesAreEnabled() const
-{
-    CHxProfileStore *store = m_services->GetProfileStore();
-    if (!store)
-        return true;
-    const OdResBufPtr value = store->Get(settingsnames::moduleSection(), settingsnames::enabledKey(),
-                                         CHxProfileStore::kProfile);
-    return !value || value->getString().toQString() != QLatin1String("0");
 }
 
 } // namespace gesturewidget

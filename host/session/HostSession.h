@@ -53,6 +53,16 @@ public:
     static void retire(std::unique_ptr<HostSession> session);
 
 private:
+    // Returns why the session cannot start; empty if it can.
+    [[nodiscard]] QString obstacle() const;
+    // Makes the services for modules, and gives them to the platform.
+    void makeServices(const ProgramProfile &profile);
+    // Makes the parts that use the services.
+    void makeParts(const ProgramProfile &profile);
+    // Installs all texts that are there so far in the program's language.
+    void installTexts();
+    // Loads the module and starts it. Otherwise returns false and puts one line into `error`.
+    [[nodiscard]] bool startModule(QString *error);
     void stopWithoutWindow();
     void openView(QWidget *view);
     void connectWindows();
@@ -61,7 +71,6 @@ private:
     void explainTrigger();
     // Takes the menus as complete some time after they have settled and a view is open.
     void waitForAllMenus();
-    [[nodiscard]] bool gesturesAreEnabled() const;
     // True if a gesture in the view would run the commands of the window that it belongs to.
     [[nodiscard]] bool hasItsCommands(const QWidget *view);
     [[nodiscard]] bool hasDrawing(const QWidget *window) const;

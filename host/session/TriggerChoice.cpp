@@ -7,6 +7,7 @@
 #include "host/files/ProgramProfile.h"
 #include "host/files/SettingsNames.h"
 #include "host/files/TriggerText.h"
+#include "host/services/StoredText.h"
 #include "sdk/chx/CHxProfileStore.h"
 
 #include <QCoreApplication>
@@ -57,7 +58,7 @@ TriggerChoice::TriggerChoice(const ProgramProfile &profile, CHxProfileStore *sto
                                   : QStringLiteral("nothing says otherwise"))
     , m_isSettled(profile.hasTrigger)
 {
-    const QString text = stored(settingsnames::hostSection(), settingsnames::triggerKey());
+    const QString text = storedText(m_store, settingsnames::hostSection(), settingsnames::triggerKey());
     if (text.isEmpty())
         return;
     Trigger chosen = m_trigger;
@@ -87,10 +88,9 @@ bool TriggerChoice::noteView(const QWidget &view)
 
 QString TriggerChoice::introduction()
 {
-    const bool isOff =
-        stored(settingsnames::moduleSection(), settingsnames::enabledKey()) == QLatin1String("0");
-    if (isOff || !m_store
-        || !stored(settingsnames::hostSection(), settingsnames::introducedKey()).isEmpty())
+    const bool wasIntroduced =
+        !storedText(m_store, settingsnames::hostSection(), settingsnames::introducedKey()).isEmpty();
+    if (!m_store || wasIntroduced || !areGesturesOn(m_store))
         return {};
     store(settingsnames::introducedKey(), QStringLiteral("1"));
     return QCoreApplication::translate(
@@ -105,13 +105,6 @@ bool TriggerChoice::isPaintedByOpenGL(const QWidget &view)
     return view.testAttribute(Qt::WA_PaintOnScreen)
         || std::any_of(classes.begin(), classes.end(),
                        [&view](const char *name) { return view.inherits(name); });
-}
-
-QString TriggerChoice::stored(const QString &section, const QString &key) const
-{
-    const OdResBufPtr value =
-        m_store ? m_store->Get(section, key, CHxProfileStore::kProfile) : OdResBufPtr();
-    return value ? value->getString().toQString() : QString();
 }
 
 void TriggerChoice::store(const QString &key, const QString &value)

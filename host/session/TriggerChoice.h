@@ -40,7 +40,6 @@ public:
     [[nodiscard]] static bool isPaintedByOpenGL(const QWidget &view);
 
 private:
-    [[nodiscard]] QString stored(const QString &section, const QString &key) const;
     void store(const QString &key, const QString &value);
 
     QString m_program;

@@ -37,7 +37,7 @@ MainWindows::Turn::Turn(MainWindows *windows, QWidget *window)
 
 MainWindows::Turn::~Turn()
 {
-    // What ran may have closed a window or opened one.
+    // The code that ran may have closed a window or opened one.
     if (m_windows && m_before && m_windows->current() == m_window)
         m_windows->setCurrent(m_before);
 }

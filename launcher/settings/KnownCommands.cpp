@@ -191,26 +191,4 @@ Outcome KnownCommands::listAsJson(const QString &program) const
     return {QJsonDocument(list).toJson(), {}};
 }
 
-QString captionFrom(const QString &identifier)
-{
-    const QLatin1String prefix("ID_");
-    if (!identifier.startsWith(prefix))
-        return identifier.section(QLatin1Char('/'), -1);
-    // The first bindings. Any other identifier is made into words.
-    static const QHash<QString, const char *> wellKnown{
-        {QStringLiteral("ID_COPY"), QT_TRANSLATE_NOOP("launcher", "Copy")},
-        {QStringLiteral("ID_DTEXT"), QT_TRANSLATE_NOOP("launcher", "Text")},
-        {QStringLiteral("ID_LINE"), QT_TRANSLATE_NOOP("launcher", "Line")},
-        {QStringLiteral("ID_OFFSET"), QT_TRANSLATE_NOOP("launcher", "Offset")},
-        {QStringLiteral("ID_OPEN"), QT_TRANSLATE_NOOP("launcher", "Open")},
-        {QStringLiteral("ID_SAVE"), QT_TRANSLATE_NOOP("launcher", "Save")},
-        {QStringLiteral("ID_TRIM"), QT_TRANSLATE_NOOP("launcher", "Trim")},
-        {QStringLiteral("ID_ZOOM_BOUNDS"), QT_TRANSLATE_NOOP("launcher", "Zoom to Fit")}};
-    if (const char *caption = wellKnown.value(identifier))
-        return Text::tr(caption);
-    const QString words =
-        identifier.mid(prefix.size()).toLower().replace(QLatin1Char('_'), QLatin1Char(' '));
-    return words.left(1).toUpper() + words.mid(1);
-}
-
 } // namespace launcher

@@ -53,8 +53,4 @@ private:
     QStringList m_wellKnown;
 };
 
-// A caption for a command that has never been seen: "Line" for "ID_LINE", and the last caption of a
-// path of captions.
-[[nodiscard]] QString captionFrom(const QString &identifier);
-
 } // namespace launcher

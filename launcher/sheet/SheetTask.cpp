@@ -3,6 +3,7 @@
 
 #include "launcher/sheet/SheetTask.h"
 
+#include "host/files/CommandNames.h"
 #include "host/files/FileWriter.h"
 #include "launcher/settings/Bindings.h"
 #include "launcher/settings/KnownCommands.h"
@@ -37,7 +38,7 @@ SheetContent sheetContent(const QString &program, const Bindings &bindings, cons
             command.icon = shown->icon;
         }
         if (command.caption.isEmpty())
-            command.caption = captionFrom(identifiers.at(i));
+            command.caption = gesturewidget::captionFrom(identifiers.at(i));
         content.commands.append(command);
     }
     return content;

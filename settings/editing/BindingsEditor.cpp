@@ -3,6 +3,7 @@
 
 #include "settings/editing/BindingsEditor.h"
 
+#include "host/files/CommandNames.h"
 #include "host/files/TriggerText.h"
 
 #include <QCoreApplication>
@@ -19,30 +20,6 @@ using launcher::SettingsChange;
 
 // Several files change at once when something is kept. Milliseconds.
 constexpr int kSettle = 30;
-
-// Words for the commands that any program may have, until the program has shown its own.
-QString wellKnownCaption(const QString &identifier)
-{
-    struct Word
-    {
-        const char *identifier;
-        const char *caption;
-    };
-    static constexpr Word kWords[] = {
-        {"ID_ZOOM_BOUNDS", QT_TRANSLATE_NOOP("settings::Commands", "Zoom to Everything")},
-        {"ID_OFFSET", QT_TRANSLATE_NOOP("settings::Commands", "Offset")},
-        {"ID_OPEN", QT_TRANSLATE_NOOP("settings::Commands", "Open")},
-        {"ID_COPY", QT_TRANSLATE_NOOP("settings::Commands", "Copy")},
-        {"ID_SAVE", QT_TRANSLATE_NOOP("settings::Commands", "Save")},
-        {"ID_DTEXT", QT_TRANSLATE_NOOP("settings::Commands", "Text")},
-        {"ID_LINE", QT_TRANSLATE_NOOP("settings::Commands", "Line")},
-        {"ID_TRIM", QT_TRANSLATE_NOOP("settings::Commands", "Trim")}};
-    for (const Word &word : kWords) {
-        if (identifier == QLatin1String(word.identifier))
-            return QCoreApplication::translate("settings::Commands", word.caption);
-    }
-    return {};
-}
 
 } // namespace
 
@@ -127,10 +104,8 @@ QString BindingsEditor::trigger() const
 
 QString BindingsEditor::captionOf(const QString &identifier) const
 {
-    QString caption = m_settings.commands.captionOf(identifier);
-    if (caption.isEmpty())
-        caption = wellKnownCaption(identifier);
-    return caption.isEmpty() ? launcher::captionFrom(identifier) : caption;
+    const QString caption = m_settings.commands.captionOf(identifier);
+    return caption.isEmpty() ? gesturewidget::captionFrom(identifier) : caption;
 }
 
 bool BindingsEditor::bind(int direction, const QString &identifier)

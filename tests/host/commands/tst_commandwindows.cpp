@@ -135,7 +135,7 @@ void CommandWindowsTest::groupsFollowTheCurrentWindow()
 {
     m_second->help->addAction(m_second->circle);
     m_second->draw->removeAction(m_second->circle);
-    const auto groupOf = [this](const char *name) { return item(name)->group; };
+    const auto groupOf = [this](const char *name) { return item(name)->here.group; };
     QCOMPARE(groupOf("drawCircle"), QStringLiteral("Draw"));
     QVERIFY(!m_catalogue->isShown(QStringLiteral("Extra")));
     m_second->addMenu("Extra", "extraMenu");
@@ -211,7 +211,7 @@ void CommandWindowsTest::aSwitchReadsNothingTwice()
     m_catalogue->setCurrentWindow(m_first.get());
     QCOMPARE(current.count(), 1);
     QCOMPARE(menus.count(), 0);
-    // What has changed elsewhere is read some time after the switch.
+    // Changes in another window are read some time after the switch to it.
     prepared.clear();
     DraftWindow::addAction(m_second->draw, "Spiral", "drawSpiral");
     m_catalogue->setCurrentWindow(m_second.get());

@@ -121,7 +121,7 @@ void ExpectedCommandsTest::anExpectedCommandIsOffered()
     const ActionItem *item = catalogue.find(QStringLiteral("drawSpline"));
     QVERIFY(item);
     QCOMPARE(caption(item), QStringLiteral("Spline"));
-    QVERIFY(!item->isPresent);
+    QVERIFY(!item->here.isPresent);
     QVERIFY(!item->isUsable());
     int count = 0;
     for (const auto &group : catalogue.groups())
@@ -234,7 +234,7 @@ void ExpectedCommandsTest::aGuessTakesUpWhatIsExpected()
     catalogue.guessWellKnown();
     catalogue.expect(QStringLiteral("ID_TRIM"), QStringLiteral("Trim"));
     const ActionItem *expected = catalogue.find(QStringLiteral("ID_TRIM"));
-    QVERIFY(expected && !expected->isPresent);
+    QVERIFY(expected && !expected->here.isPresent);
     QAction *trim = DraftWindow::addAction(m_window->draw, "Trim", "cutOff");
     QCOMPARE(catalogue.itemOf(trim), expected);
     QAction *second = DraftWindow::addAction(m_window->draw, "Trim", "cutMore");

@@ -432,7 +432,7 @@ void HostCommandCatalogueTest::aMenuFilledLaterIsSeen()
     QVERIFY(item);
     Q_EMIT views->aboutToShow(); // another action, the same command
     QCOMPARE(catalogue.find(QStringLiteral("File/Views/Front")), item);
-    QVERIFY(item->isPresent);
+    QVERIFY(item->here.isPresent);
     QCOMPARE(item->action(), views->actions().first());
 }
 
@@ -445,10 +445,10 @@ void HostCommandCatalogueTest::aToolBarAddedLaterIsSeen()
     QAction *zoom = bar->addAction(QStringLiteral("Zoom"));
     zoom->setObjectName(QStringLiteral("zoom"));
     QTRY_VERIFY(catalogue.find(QStringLiteral("zoom")));
-    QCOMPARE(catalogue.find(QStringLiteral("zoom"))->group, QStringLiteral("View"));
+    QCOMPARE(catalogue.find(QStringLiteral("zoom"))->here.group, QStringLiteral("View"));
     delete bar;
     QVERIFY(catalogue.find(QStringLiteral("zoom")));
-    QVERIFY(!catalogue.find(QStringLiteral("zoom"))->isPresent);
+    QVERIFY(!catalogue.find(QStringLiteral("zoom"))->here.isPresent);
 }
 
 void HostCommandCatalogueTest::aMenuBarAddedLaterIsSeen()
@@ -462,7 +462,7 @@ void HostCommandCatalogueTest::aMenuBarAddedLaterIsSeen()
     window.setMenuBar(new QMenuBar);
     DraftWindow::addAction(window.menuBar()->addMenu(QStringLiteral("C")), "D", "d");
     QTRY_VERIFY(catalogue.find(QStringLiteral("d")));
-    QTRY_VERIFY(!catalogue.find(QStringLiteral("b"))->isPresent);
+    QTRY_VERIFY(!catalogue.find(QStringLiteral("b"))->here.isPresent);
 }
 
 void HostCommandCatalogueTest::aMenuBarIsNeverMade()
@@ -510,12 +510,12 @@ void HostCommandCatalogueTest::commandsThatAreGoneAreKept()
     delete m_window->line;
     m_window->exports->clear();
     QCOMPARE(catalogue.find(QStringLiteral("drawLine")), line);
-    QVERIFY(!line->isPresent);
+    QVERIFY(!line->here.isPresent);
     QCOMPARE(line->action(), nullptr);
     QCOMPARE(text(line->GetCaption()), QStringLiteral("Line"));
     QCOMPARE(text(line->GetTip()), QStringLiteral("Draws a line"));
     QVERIFY(!line->GetSmallIcon().isNull());
-    QVERIFY(!picture->isPresent);
+    QVERIFY(!picture->here.isPresent);
     QVERIFY(catalogue.contains(picture));
     QStringList now = listing(catalogue);
     QCOMPARE(now.at(1), QStringLiteral("Draw: drawCircle | drawLine")); // still offered, in its group
@@ -530,14 +530,14 @@ void HostCommandCatalogueTest::aCommandComesBackWithItsKey()
     QVERIFY(line);
     delete m_window->line;
     QVERIFY(catalogue.find(QStringLiteral("ID_LINE")));
-    QVERIFY(!line->isPresent);
+    QVERIFY(!line->here.isPresent);
     QAction *again = DraftWindow::addAction(m_window->help, "&Straight line", "drawLine");
     QCOMPARE(catalogue.find(QStringLiteral("ID_LINE")), line);
-    QVERIFY(line->isPresent);
+    QVERIFY(line->here.isPresent);
     QCOMPARE(line->action(), again);
     QCOMPARE(catalogue.itemOf(again), line);
     QCOMPARE(text(line->GetCaption()), QStringLiteral("Straight line"));
-    QCOMPARE(line->group, QStringLiteral("Help"));
+    QCOMPARE(line->here.group, QStringLiteral("Help"));
 }
 
 // A new action may get the address of a deleted one.
@@ -589,15 +589,15 @@ void HostCommandCatalogueTest::anActionOutOfTheMenusIsNotPresent()
 {
     CommandCatalogue catalogue(m_window.get(), {});
     ActionItem *circle = catalogue.find(QStringLiteral("drawCircle"));
-    QVERIFY(circle && circle->isPresent);
+    QVERIFY(circle && circle->here.isPresent);
     m_window->draw->removeAction(m_window->circle);
     QCOMPARE(catalogue.itemOf(m_window->circle), nullptr);
-    QVERIFY(!circle->isPresent);
+    QVERIFY(!circle->here.isPresent);
     QCOMPARE(circle->action(), m_window->circle);
     m_window->circle->setText(QStringLiteral("&Ring")); // nobody is told
     m_window->draw->addAction(m_window->circle);
     QCOMPARE(catalogue.itemOf(m_window->circle), circle);
-    QVERIFY(circle->isPresent);
+    QVERIFY(circle->here.isPresent);
     QCOMPARE(text(circle->GetCaption()), QStringLiteral("Ring"));
 }
 
@@ -608,7 +608,7 @@ void HostCommandCatalogueTest::theWindowMayGoFirst()
     m_window.reset();
     QCOMPARE(listing(catalogue).size(), before.size());
     QVERIFY(catalogue.find(QStringLiteral("drawLine")));
-    QVERIFY(!catalogue.find(QStringLiteral("drawLine"))->isPresent);
+    QVERIFY(!catalogue.find(QStringLiteral("drawLine"))->here.isPresent);
 
     CommandCatalogue none(nullptr, {});
     QVERIFY(listing(none).isEmpty());

@@ -209,7 +209,7 @@ void ListEntriesTest::aBoundEntryIsOffered()
     QVERIFY(item);
     QCOMPARE(item->action(), plan);
     QVERIFY(item->isUsable());
-    QVERIFY(item->isListEntry); // so it is not remembered
+    QVERIFY(item->here.isListEntry); // so it is not remembered
     QCOMPARE(offered(catalogue), QStringLiteral("Close | Open Recent > plan.dxf"));
 }
 

@@ -135,7 +135,7 @@ QWidget *makeHeader(const QJsonObject &, bool, std::size_t)
 QWidget *build(const QJsonObject &record, Types &types)
 {
     using Maker = QWidget *(*)(const QJsonObject &, bool, std::size_t);
-    // What cannot be made itself is made as its simplest descendant.
+    // A class that cannot be made is replaced by its simplest descendant.
     static const QHash<QString, Maker> makers{
         {QStringLiteral("QGraphicsView"), &make<QGraphicsView>},
         {QStringLiteral("QTextEdit"), &make<QTextEdit>},

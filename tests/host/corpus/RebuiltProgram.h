@@ -27,7 +27,7 @@ public:
     [[nodiscard]] QVector<QAction *> actions() const;
     // The window with the menus.
     [[nodiscard]] QMainWindow &window() { return m_window; }
-    // What the labels call an action: its object name, or menus and caption, "Edit > Copy".
+    // The name of an action in the labels: its object name, or menus and caption, "Edit > Copy".
     [[nodiscard]] QStringList keysOf(const QAction &action) const { return m_keys.value(&action); }
 
 private:

@@ -26,7 +26,7 @@ using tests::RebuiltWidgets;
 
 namespace {
 
-// How many answers of a guess were right.
+// Counts of right and wrong answers of a guess.
 struct Score
 {
     int right = 0;
@@ -64,7 +64,7 @@ bool containsAny(const QStringList &list, const QStringList &wanted)
     return false;
 }
 
-// Whether the labels name the widget by its class, or by its parent's and its class.
+// True if the labels name the widget by its class, or by its parent's and its class.
 bool isDrawing(const QJsonArray &widgets, const QJsonObject &widget, const QStringList &labels)
 {
     const auto typeOf = [](const QJsonObject &record) {

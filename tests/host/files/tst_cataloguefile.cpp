@@ -566,7 +566,7 @@ void CatalogueFileTest::manyWritersLoseNothing()
             QCoreApplication::applicationFilePath(),
             {QStringLiteral("child-write"), m_path, QString::number(i), QString::number(kRounds)});
     }
-    // Whoever reads the file meanwhile finds it whole.
+    // A reader finds the file whole at any time.
     tests::StandardErrorCapture errors;
     for (const auto &writer : writers) {
         while (!writer->waitForFinished(1) && writer->state() != QProcess::NotRunning)

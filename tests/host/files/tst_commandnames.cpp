@@ -53,6 +53,8 @@ private Q_SLOTS:
     void repeating_data();
     void repeating();
     void fullWays();
+    void captionsOfIdentifiers_data();
+    void captionsOfIdentifiers();
 };
 
 void CommandNamesTest::names_data()
@@ -92,7 +94,7 @@ void CommandNamesTest::names()
     QCOMPARE(commandNames(commands), names);
 }
 
-// Whatever menus a program has, no two commands have the same name.
+// No two commands have the same name, in random menus.
 void CommandNamesTest::namesAreDifferent()
 {
     const QStringList captions{QStringLiteral("Line"), QStringLiteral("line..."),
@@ -168,6 +170,35 @@ void CommandNamesTest::fullWays()
 {
     QCOMPARE(fullWayOf(command("Tools > Line > 2 Points")), QStringLiteral("Tools > Line > 2 Points"));
     QCOMPARE(fullWayOf(command("About")), QStringLiteral("About"));
+}
+
+void CommandNamesTest::captionsOfIdentifiers_data()
+{
+    QTest::addColumn<QString>("identifier");
+    QTest::addColumn<QString>("caption");
+    const auto row = [](const char *identifier, const char *caption) {
+        QTest::newRow(identifier) << QString::fromLatin1(identifier) << QString::fromLatin1(caption);
+    };
+    row("ID_COPY", "Copy");
+    row("ID_DTEXT", "Text");
+    row("ID_LINE", "Line");
+    row("ID_OFFSET", "Offset");
+    row("ID_OPEN", "Open");
+    row("ID_SAVE", "Save");
+    row("ID_TRIM", "Trim");
+    row("ID_ZOOM_BOUNDS", "Zoom to Fit");
+    row("ID_SOMETHING_ELSE", "Something else");
+    row("ID_", "");
+    row("Draw/Arcs/By centre", "By centre");
+    row("fileOpen", "fileOpen");
+    row("", "");
+}
+
+void CommandNamesTest::captionsOfIdentifiers()
+{
+    QFETCH(QString, identifier);
+    QFETCH(QString, caption);
+    QCOMPARE(gesturewidget::captionFrom(identifier), caption);
 }
 
 QTEST_GUILESS_MAIN(CommandNamesTest)

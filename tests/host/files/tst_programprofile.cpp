@@ -280,7 +280,8 @@ void ProgramProfileTest::brokenProfileIsNamed_data()
     row("tasks as text", R"("tasks": "workbench")", "\"tasks\" is not an object");
     row("unknown in tasks", R"("tasks": {"group": "x"})", "unknown key \"tasks.group\"");
     row("two ways", R"("tasks": {"checkedActionBeside": "x", "classOfView": true})", "two ways");
-    row("class as text", R"("tasks": {"classOfView": "yes"})", "\"tasks.classOfView\" is not true");
+    row("class as text", R"("tasks": {"classOfView": "yes"})",
+        "\"tasks.classOfView\" is neither true nor false");
     row("ring as text", R"("tasks": {"firstBindings": {"a": "b"}})",
         "\"tasks.firstBindings.a\" is not an object");
     row("no direction", R"("tasks": {"firstBindings": {"a": {"45": "b"}}})",

@@ -588,7 +588,13 @@ void ProfileStoreTest::twoCopiesPressingOkLeaveOneOfTheirChoices()
         while (!copy->waitForFinished(1) && copy->state() != QProcess::NotRunning)
             look();
         QCOMPARE(copy->exitCode(), 0);
-        QCOMPARE(copy->readAllStandardError(), QByteArray());
+        // A copy that had to wait for too long says so once.
+        const QByteArray busy =
+            QStringLiteral("mouse gestures: %1 cannot be written, changes last until the program ends\n")
+                .arg(m_path)
+                .toLocal8Bit();
+        const QByteArray said = copy->readAllStandardError();
+        QVERIFY2(said.isEmpty() || said == busy, said.constData());
     }
     look();
     QVERIFY2(choices.size() > 2, qPrintable(QString::number(choices.size())));
@@ -707,6 +713,11 @@ int runChild(const QStringList &arguments)
         for (int key = 0; key < count; ++key) {
             set(store, QStringLiteral("w%1k%2").arg(arguments.at(3)).arg(key),
                 QStringLiteral("v%1").arg(key));
+            // On a slow machine the other copy may hold the file for longer than a copy waits. Then
+            // the values stay in memory, and the next flush writes them.
+            int attempts = 1;
+            while (!store.flush() && attempts < 60)
+                ++attempts;
             if (!store.flush())
                 return 1;
         }

@@ -74,7 +74,7 @@ public:
 
 } // namespace
 
-// What a module gets from the host of a program with several main windows.
+// The answers that a module gets from the host of a program with several main windows.
 class SeveralWindowsTest : public QObject
 {
     Q_OBJECT

@@ -13,6 +13,7 @@
 #include "sdk/chx/CHxSystemServices.h"
 #include "sdk/chx/CHxUICommandItem.h"
 #include "sdk/chx/CHxUICommandManager.h"
+#include "sdk/chx/CHxUIManager.h"
 #include "sdk/od/OdEdCommandStack.h"
 #include "sdk/od/OdEditor.h"
 #include "tests/host/session/modules/StubModule.h"
@@ -112,6 +113,7 @@ private Q_SLOTS:
     void windowsThatJoin();
     void aWindowMayGoBeforeItJoins();
     void theActiveDocumentIsInTheCurrentWindow();
+    void commandsThatAreOnlyExpectedHaveCaptionsInTheProgramsLanguage();
 
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -871,6 +873,20 @@ void GestureHostTest::theActiveDocumentIsInTheCurrentWindow()
     first.activateWindow();
     QTRY_COMPARE(host.mainWindow(), &first);
     QCOMPARE(ACTIVE_DOCUMENT()->GetViewWidget(), first.view);
+}
+
+void GestureHostTest::commandsThatAreOnlyExpectedHaveCaptionsInTheProgramsLanguage()
+{
+    QMainWindow window;
+    for (const char *menu : {"Datei", "Bearbeiten", "Ansicht"})
+        window.menuBar()->addMenu(QString::fromUtf8(menu));
+    m_options.guesses = true;
+    gesturewidget::GestureHost host(&window, m_options);
+    QVERIFY(host.start());
+    const CHxUICommandItem *item =
+        GetHxSystemServices()->GetUIManager()->FindCommandItem("Default", "ID_SAVE");
+    QVERIFY(item);
+    QCOMPARE(item->GetCaption().toQString(), QStringLiteral("Speichern"));
 }
 
 QTEST_MAIN(GestureHostTest)

@@ -24,7 +24,7 @@ class QGLWidget : public QWidget
     Q_OBJECT
 };
 
-// What starts a gesture, and how a person learns it.
+// The choice of the trigger, and the line that tells a person about it.
 class TriggerChoiceTest : public QObject
 {
     Q_OBJECT

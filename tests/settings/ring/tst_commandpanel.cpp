@@ -101,7 +101,7 @@ private Q_SLOTS:
         QTest::keyClicks(search, text("TRI"));
         QCOMPARE(panel.chosenCommand().identifier, text("ID_TRIM"));
         search->clear();
-        QTest::keyClicks(search, text("o")); // "Zoom to Everything" and "Copy" have it too
+        QTest::keyClicks(search, text("o")); // "Zoom to Fit" and "Copy" have it too
         QCOMPARE(panel.chosenCommand().identifier, text("ID_OFFSET"));
         QTest::keyClicks(search, text("xyz"));
         QVERIFY(panel.chosenCommand().identifier.isEmpty());

@@ -8,7 +8,7 @@
 
 class GuestWindow;
 
-// What every way of running the guest is made of.
+// The steps that all runs of the guest share.
 
 constexpr int kPatience = 20000; // milliseconds that a step may take
 

@@ -24,7 +24,7 @@ struct Windows
     std::unique_ptr<GuestWindow> first = std::make_unique<GuestWindow>();
     std::unique_ptr<GuestWindow> second;
 
-    // How often the command ran in each window; "gone" for a window that is.
+    // Counts the runs of the command in each window; "gone" for a window that is gone.
     void sayLines() const
     {
         const auto text = [](const GuestWindow *window) {
@@ -172,7 +172,7 @@ std::vector<Step> stepsOf(const QByteArray &mode, Windows &all)
     return steps;
 }
 
-// What some programs show before a drawing is open: a main window with menus and no view.
+// Some programs show this before a drawing is open: a main window with menus and no view.
 class StartWindow : public QMainWindow
 {
     Q_OBJECT
