@@ -25,6 +25,8 @@ test_packages=(
   git dpkg-dev debhelper lintian appstream desktop-file-utils pkg-config
 )
 
+# Only ./test --coverage needs it.
+coverage_packages=(gcovr)
 lint_packages=(clang-format clang-tidy clazy hunspell hunspell-en-gb reuse)
 
 # install_packages NAME...: installs the missing ones without asking. Returns apt-get's status, 0

@@ -387,9 +387,7 @@ void PointerFilter::cancel()
         m_document = nullptr;
         m_held.drop();
     } else if (state == State::Gesturing) {
-        stopOverlay();
-        if (m_state == State::Gesturing)
-            endGesture(QGuiApplication::mouseButtons());
+        endGesture(QGuiApplication::mouseButtons());
     }
 }
 

@@ -71,8 +71,9 @@ public:
     // window whose menus hold the commands; without it start() fails.
     explicit GestureHost(QMainWindow *window);
     GestureHost(QMainWindow *window, const Options &options);
-    // Stops the host. Objects that the module was given live on until the application ends,
-    // because the module may still use them.
+    // Stops the host. Objects that the module was given live on as long as the module may use them:
+    // until the application ends, or until another host runs and the outermost event loop waits.
+    // Documents always live until the application ends.
     ~GestureHost();
     Q_DISABLE_COPY_MOVE(GestureHost)
 

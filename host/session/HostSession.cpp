@@ -16,8 +16,10 @@
 #include "sdk/od/OdEdCommandStack.h"
 #include "sdk/od/OdEditor.h"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QLocale>
+#include <QThread>
 #include <QTimer>
 
 #include <algorithm>
@@ -93,6 +95,10 @@ bool HostSession::start(QString *error)
     m_windowFinder->start();
     qApp->installEventFilter(m_pointerFilter.get());
     m_menuReadiness.start();
+    // This session keeps the module, so earlier ones need not stay for it.
+    if (m_next)
+        connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+                &HostSession::finishRetired);
     return true;
 }
 
@@ -241,6 +247,9 @@ void HostSession::finish()
     m_isFinished = true;
     // The command stack must release the module's command before the module is destroyed.
     m_pointerFilter.reset();
+    m_windowFinder.reset();
+    m_viewFinder.reset();
+    m_triggerChoice.reset();
     m_services.reset();
     // A library has one module object, even if several hosts have loaded it in turn.
     bool isShared = false;
@@ -259,6 +268,20 @@ void HostSession::finishAll()
         session->finish();
         if (session->m_isRetired)
             delete session;
+    }
+}
+
+void HostSession::finishRetired()
+{
+    // The outermost event loop waits: no code of the module and none of a session is running. In a
+    // nested loop, a dialog of the module may be open since an earlier session.
+    if (QThread::currentThread()->loopLevel() > 1)
+        return;
+    disconnect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+               &HostSession::finishRetired);
+    for (HostSession *other = firstStarted; other; other = other->m_next) {
+        if (other != this && other->m_isRetired && other->m_loader.module() == m_loader.module())
+            other->finish();
     }
 }
 

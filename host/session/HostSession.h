@@ -33,7 +33,8 @@ struct ProgramProfile;
 // It ends in two steps. stop() takes the module out of the program at any time. The module object
 // and everything that it was given are destroyed only after the application has left its event
 // loop, because stop() may be called from inside the module: from a dialog, for example, that was
-// open when the main window was destroyed.
+// open when the main window was destroyed. If another session runs the same module, all but the
+// module object and the documents goes earlier, when the outermost event loop waits.
 class HostSession : public QObject
 {
     Q_OBJECT
@@ -77,6 +78,8 @@ private:
     // The application is over.
     static void finishAll();
     void finish();
+    // Frees what earlier sessions still keep, if nobody can reach it any more.
+    void finishRetired();
 
     const GestureHost::Options m_options;
     QPointer<QWidget> m_firstWindow; // a plain widget while it is being destroyed

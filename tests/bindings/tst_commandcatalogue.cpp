@@ -18,6 +18,13 @@ namespace {
 
 using Categories = QMap<QString, QString>;
 
+QIcon icon(Qt::GlobalColor colour)
+{
+    QPixmap pixmap(16, 16);
+    pixmap.fill(colour);
+    return QIcon(pixmap);
+}
+
 // Gets one more entry when its first one is read.
 class GrowingCollection : public tests::FakeMenuItemCollection
 {
@@ -99,6 +106,31 @@ private Q_SLOTS:
         tests::FakeMenuItem *extra = host->ui.addItem(&secondBar->items, text("E&xtra"), true);
         addEntry(extra, "Save", "save");
         QCOMPARE(tests::OpenContainer().getCategory(text("save")), text("Extra"));
+    }
+
+    // The records of the last reading are used again as long as they hold.
+    void aNewIconReplacesTheOldOne()
+    {
+        tests::FakeCommandItem *line =
+            host->commands.addCommand(text("ID_LINE"), text("line"), text("Line"));
+        line->smallIcon = icon(Qt::red);
+        tests::OpenContainer container;
+        QCOMPARE(container.commands.at(0).icon.cacheKey(), line->smallIcon.cacheKey());
+        line->smallIcon = icon(Qt::blue);
+        container.init();
+        QCOMPARE(container.commands.at(0).icon.cacheKey(), line->smallIcon.cacheKey());
+    }
+
+    void commandsOutsideTheMenusFollowTheLanguage()
+    {
+        host->commands.addCommand(text("ID_LINE"), text("line"), text("Line"));
+        tests::OpenContainer container;
+        container.init();
+        QCOMPARE(container.commands.at(0).category, text("Others"));
+        tests::FakeTranslator german;
+        german.add("QObject", "Others", text("Sonstige"));
+        container.init();
+        QCOMPARE(container.commands.at(0).category, text("Sonstige"));
     }
 
     void everyAmpersandGoes_data()

@@ -11,6 +11,7 @@
 
 #include <QtTest>
 
+#include <algorithm>
 #include <memory>
 
 using tests::text;
@@ -99,6 +100,28 @@ private Q_SLOTS:
         }
         QVERIFY2(calls > 100, qPrintable(QString::number(calls)));
         QVERIFY(!container.hasReadingFailed());
+    }
+
+    // A reading of another list may fail after it has looked up commands in that list.
+    void aFailedReadingOfAnotherListIsForgotten()
+    {
+        tests::OpenContainer container;
+        const Table four = container.fourTable;
+        auto *group = static_cast<tests::FakeCommandGroup *>(host->commands.groups.front());
+        const auto commands = group->commands;
+        int calls = 0;
+        for (bool reached = true; reached; ++calls) {
+            std::reverse(group->commands.begin(), group->commands.end());
+            {
+                const tests::FakeFault fault(calls);
+                container.init();
+                reached = fault.wasReached();
+            }
+            group->commands = commands;
+            container.init();
+            QCOMPARE(container.fourTable, four);
+        }
+        QVERIFY2(calls > 100, qPrintable(QString::number(calls)));
     }
 
     // OK in the dialog hands back what the container has. After a failed first reading that is

@@ -69,6 +69,7 @@ private Q_SLOTS:
     void closedDropDownChoosesNothing();
     void keysThatOpenTheList_data();
     void keysThatOpenTheList();
+    void enterLeavesAClosedListAlone();
     void movingInTheOpenListChoosesNothing();
     void wheelOverAClosedDropDownScrollsTheTable();
     void arrowKeysGoOnToOtherCells();
@@ -316,6 +317,22 @@ void DirectionEditorTest::keysThatOpenTheList()
     tests::key(m_dialog.get(), Qt::Key_Enter);
     QCOMPARE(int(m_dialog->record(QStringLiteral("B")).eightDirection), 2);
     QVERIFY(m_dialog->isVisible());
+}
+
+void DirectionEditorTest::enterLeavesAClosedListAlone()
+{
+    open("8");
+    openEditor(QStringLiteral("B"));
+    const int before = m_dialog->record(QStringLiteral("B")).eightDirection;
+    const QPointer<QComboBox> box = editor();
+    for (const Qt::Key which : {Qt::Key_Return, Qt::Key_Enter}) {
+        tests::key(m_dialog.get(), which);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(box && box->hasFocus());
+        QVERIFY(!box->view()->isVisible());
+        QCOMPARE(int(m_dialog->record(QStringLiteral("B")).eightDirection), before);
+        QVERIFY(m_dialog->isVisible());
+    }
 }
 
 void DirectionEditorTest::movingInTheOpenListChoosesNothing()

@@ -132,6 +132,7 @@ private Q_SLOTS:
     void printsWhatTheTableShows();
     void everyPageHasWholeRowsBelowTheHeader_data();
     void everyPageHasWholeRowsBelowTheHeader();
+    void theNumberIsFivePointsBelowThePage();
     void chosenPagesOnly();
     void fileHasATitle();
     void iconsArePrintedAsTheyAreWhenOff();
@@ -536,6 +537,28 @@ void PrintingTest::everyPageHasWholeRowsBelowTheHeader()
         QCOMPARE(words, expected);
     }
     QCOMPARE(row, m_dialog->proxy->rowCount());
+}
+
+// As Qt prints the pages of a text.
+void PrintingTest::theNumberIsFivePointsBelowThePage()
+{
+    open(8);
+    qreal bottom = 0; // of the text's area, in points
+    m_dialog->printDialog = [&](QPrinter &printer) {
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(m_file);
+        const qreal margin = 2 / 2.54 * 72;
+        bottom = printer.pageLayout().paintRect(QPageLayout::Point).bottom() - margin;
+        return static_cast<int>(QDialog::Accepted);
+    };
+    m_dialog->printList();
+    const QString words =
+        run(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), m_file, QStringLiteral("-")});
+    const QRegularExpression number(QStringLiteral("yMin=\"([0-9.]+)\"[^>]*>1</word>"));
+    const QRegularExpressionMatch found = number.match(words);
+    QVERIFY2(found.hasMatch(), qPrintable(words));
+    const qreal gap = found.captured(1).toDouble() - bottom;
+    QVERIFY2(std::abs(gap - 5) < 0.5, qPrintable(QString::number(gap)));
 }
 
 void PrintingTest::chosenPagesOnly()

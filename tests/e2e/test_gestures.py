@@ -13,23 +13,19 @@ everything up to there.
 import configparser
 import dataclasses
 import random
-import re
 import time
 from pathlib import Path
 
 from harness.programs import EIGHT, FOUR, PROGRAMS
 from harness.programtest import ProgramTest, option_parser, run_tests
 from harness.session import ANSWER_SECONDS, RING_SIZE
+from harness.spylog import without_numbers
 
 # The input that reaches the program, and what the program does with it.
 INPUT = ("press", "release", "doubleclick", "contextmenu", "typed", "key", "menu", "triggered")
 
 ALL_KEYS = ["enablemousegesture", "activescheme", *(f"4{n}" for n in range(1, 5)),
             *(f"8{n}" for n in range(1, 9))]
-
-
-def without_numbers(line):
-    return re.sub(r"0x[0-9a-f]+|\d+", "#", line)
 
 
 class GesturesTest(ProgramTest):

@@ -4,9 +4,15 @@
 """Reads what the spy in the program writes, see spy/ActionSpy.h."""
 
 import os
+import re
 import select
 import threading
 import time
+
+
+def without_numbers(line):
+    """The line with a # for each number, to compare what two runs of a program print."""
+    return re.sub(r"0x[0-9a-f]+|\d+", "#", line)
 
 
 class SpyLog:

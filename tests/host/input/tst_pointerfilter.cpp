@@ -693,6 +693,8 @@ void PointerFilterTest::aPenThatTheProgramHandlesDoesNot()
     QCOMPARE(desk.state(), PointerFilter::State::Idle);
     QCOMPARE(desk.tracker.drags, 0);
     desk.pen(QEvent::TabletRelease, kPress + QPoint(60, 0), Qt::RightButton, Qt::NoButton);
+    for (const char *name : {"TabletPress", "TabletMove", "TabletRelease"})
+        QCOMPARE(desk.view->log.filter(QLatin1String(name)).size(), 1);
 }
 
 void PointerFilterTest::aTouchIsNotAPen()
@@ -991,6 +993,7 @@ void PointerFilterTest::lostWindowGivesBack_data()
     }) << true;
     QTest::newRow("window hidden") << Script([](Desk &d) { d.window.hide(); }) << true;
     QTest::newRow("window closed") << Script([](Desk &d) { d.window.close(); }) << true;
+    QTest::newRow("another widget hidden") << Script([](Desk &d) { d.control->hide(); }) << false;
     QTest::newRow("modal dialog opened") << Script([](Desk &d) {
         auto *dialog = new QDialog(&d.window);
         dialog->open();

@@ -9,13 +9,17 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QCloseEvent>
 #include <QDialog>
+#include <QDialogButtonBox>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QGuiApplication>
 #include <QPointer>
 #include <QProcessEnvironment>
+#include <QPushButton>
+#include <QRadioButton>
 #include <QTimer>
 #include <QWindow>
 
@@ -219,6 +223,32 @@ void runInNextView(GuestWindow &window)
                   [] {
                       say("gesture in the next view");
                       QCoreApplication::quit();
+                  });
+         });
+}
+
+// Somebody opens the dialog, changes two settings together and presses OK, again and again. Each save
+// is said after the event loop has written it.
+void runSaves(GuestWindow &window)
+{
+    QMetaObject::invokeMethod(window.entry(), &QAction::trigger, Qt::QueuedConnection);
+    when([] { return QApplication::activeModalWidget(); },
+         [&window] {
+             QWidget *dialog = QApplication::activeModalWidget();
+             auto *enabled = dialog->findChild<QCheckBox *>(QStringLiteral("enableGesture_checkBox"));
+             const auto *four = dialog->findChild<QRadioButton *>(QStringLiteral("four_radioButton"));
+             const QString scheme = four->isChecked() ? QStringLiteral("eight") : QStringLiteral("four");
+             // The schemes can be chosen while gestures are on.
+             if (!enabled->isChecked())
+                 enabled->click();
+             dialog->findChild<QRadioButton *>(scheme + QStringLiteral("_radioButton"))->click();
+             if (!four->isChecked())
+                 enabled->click();
+             dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->click();
+             when([] { return !QApplication::activeModalWidget(); },
+                  [&window] {
+                      say("saved");
+                      runSaves(window);
                   });
          });
 }
@@ -497,6 +527,8 @@ int main(int argc, char **argv)
             }
             quit();
         });
+    if (mode == "save-for-ever")
+        return with(runSaves);
     if (mode == "stay")
         return with([](GuestWindow &) {});
     // Writes to a file that the window was closed; the second one asks before.

@@ -1,0 +1,88 @@
+#!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 GestureWidget developers
+# SPDX-License-Identifier: MIT
+
+"""Tests which changes scripts/mutants makes, in small trees."""
+
+import shutil
+import subprocess
+import tempfile
+import unittest
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parents[2]
+
+
+class Mutants(unittest.TestCase):
+    def made_of(self, body, equivalent=""):
+        """The mutants of a function, as pairs of the line before and after."""
+        with tempfile.TemporaryDirectory() as folder:
+            root = Path(folder)
+            (root / "scripts").mkdir()
+            (root / "bindings").mkdir()
+            shutil.copy(ROOT / "scripts" / "mutants", root / "scripts")
+            lines = "".join(f"    {line}\n" for line in body.splitlines())
+            (root / "bindings" / "A.cpp").write_text(f"int f(int a, int b)\n{{\n{lines}}}\n")
+            (root / "scripts" / "equivalent-mutants.txt").write_text(equivalent)
+            printed = subprocess.run([root / "scripts" / "mutants", "--print", "--count", "0", "bindings"],
+                                     capture_output=True, check=True, text=True).stdout
+        made = []
+        for line in printed.splitlines():
+            place, change = line.split(": ", 1)
+            self.assertEqual(place.split(":")[0], "bindings/A.cpp")
+            old, new = change.strip("`").split("` -> `")
+            made.append((old, new))
+        return made
+
+    def changed(self, line):
+        return sorted(new for old, new in self.made_of(line) if old == line)
+
+    def test_conditions_and_comparisons(self):
+        self.assertEqual(self.changed("if (a < b)"),
+                         ["if (!(a < b))", "if (a <= b)", "if (a > b)"])
+        self.assertEqual(self.changed("while (a != b && b)"),
+                         ["while (!(a != b && b))", "while (a != b || b)", "while (a == b && b)"])
+
+    def test_a_condition_that_declares_is_not_negated(self):
+        self.assertEqual(self.changed("if (int *found = find(a))"), [])
+
+    def test_numbers_and_operators(self):
+        self.assertEqual(self.changed("return a + 2;"),
+                         ["return a + 1;", "return a + 3;", "return a - 2;"])
+        self.assertEqual(self.changed("return x2 + 1.5F * b;"), ["return x2 + 1.5F / b;",
+                                                                 "return x2 - 1.5F * b;"])
+        self.assertEqual(self.changed("return 0;"), ["return 1;"])
+
+    def test_truth(self):
+        self.assertEqual(self.changed("return true;"), ["return false;"])
+        self.assertEqual(self.changed("return !a;"), ["return a;"])
+
+    def test_statements(self):
+        self.assertEqual(self.changed("call(a);"), [";"])
+        self.assertEqual(self.changed("m_value = a;"), [";"])
+        self.assertEqual(self.changed("return;"), [";"])
+        # Without them, nothing would compile.
+        self.assertEqual(self.changed("int value = a;"), [])
+        self.assertEqual(self.changed("const QString text(a);"), [])
+
+    def test_a_statement_of_several_lines(self):
+        self.assertEqual(self.made_of("call(a,\n     [b] { use(b); });"), [("call(a, [b] { use(b); });", ";")])
+
+    def test_what_is_no_expression_stays(self):
+        for line in ("// if (a < b) return 1;", "/* a == 1 */", "Q_ASSERT(a == 1);", "QVector<int> list;",
+                     'say = "a == 1";', "#define A 1"):
+            self.assertEqual([new for new in self.changed(line) if new != ";"], [], line)
+
+    def test_equivalent_ones_are_left_out(self):
+        block = "bindings/A.cpp\nif (a < b)\n-> if (a <= b)\nThey are never equal.\n"
+        made = self.made_of("if (a < b)\n    return;", "# A comment.\n\n" + block)
+        self.assertEqual([new for old, new in made if old.startswith("if")],
+                         ["if (a > b)", "if (!(a < b))"])
+
+    def test_an_equivalent_one_needs_a_reason(self):
+        with self.assertRaises(subprocess.CalledProcessError):
+            self.made_of("return 0;", "bindings/A.cpp\nreturn 0;\n-> return 1;\n")
+
+
+if __name__ == "__main__":
+    unittest.main()
