@@ -31,7 +31,7 @@ struct ExecLine
     bool isValid = false;
     QByteArray program; // as a shell would see it
     QList<QByteArray> arguments; // also as a shell would see them, with their field codes
-    // Where the program begins in the value.
+    // The place in the value at which the program begins.
     int place = 0;
     QByteArray value;
 };

@@ -39,6 +39,14 @@ public:
     }
     // The commands that were shown, in the order in which they were first seen.
     [[nodiscard]] const QVector<gesturewidget::RememberedCommand> &shown() const { return m_shown; }
+    // The commands that were shown, by menu or toolbar, in the order in which they were first seen.
+    // Those that are alone in theirs are together in a last one, "Others".
+    struct Menu
+    {
+        QString caption;
+        QVector<const gesturewidget::RememberedCommand *> commands; // of this object
+    };
+    [[nodiscard]] QVector<Menu> menus() const;
     // All commands that were shown, by menu and toolbar. Fails when none was.
     [[nodiscard]] Outcome list(const QString &program) const;
     // The same as JSON, in the order in which they were first seen.

@@ -13,7 +13,7 @@ namespace settings {
 
 class BindingsEditor;
 
-// What starts a gesture: a list to choose from, and a field that records it.
+// A list to choose the trigger from, and a field that records one.
 class TriggerPanel : public QWidget
 {
     Q_OBJECT

@@ -42,7 +42,6 @@ public:
 
 Q_SIGNALS:
     void switchWanted(bool isOn);
-    void startWanted();
 
 private:
     [[nodiscard]] QWidget *createHeader();

@@ -237,7 +237,7 @@ private Q_SLOTS:
     void commandsThatWereNeverShownHaveWords()
     {
         BindingsEditor editor(subject("draw"), text("Draw"));
-        QCOMPARE(editor.captionOf(text("ID_ZOOM_BOUNDS")), text("Zoom to Everything"));
+        QCOMPARE(editor.captionOf(text("ID_ZOOM_BOUNDS")), text("Zoom to Fit"));
         QCOMPARE(editor.captionOf(text("ID_SOMETHING_ELSE")), text("Something else"));
         QCOMPARE(editor.captionOf(text("File/Open As")), text("Open As"));
         remember(text("draw"), {text("ID_LINE")});

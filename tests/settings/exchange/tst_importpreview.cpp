@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
-// What an import would change, and the import itself.
+// The preview of an import, and the import itself.
 
 #include "settings/exchange/ImportPreview.h"
 

@@ -28,7 +28,7 @@ protected:
     // The entry in the person's own folder.
     [[nodiscard]] QString ownEntryFile(const QString &name) const;
     [[nodiscard]] QString settingsFile(const QString &name) const;
-    // What the settings hold for a key of the module; "<none>" if it is not there.
+    // The stored value of a key of the module; "<none>" if it is not there.
     [[nodiscard]] QString stored(const QString &name, const QString &key) const;
     [[nodiscard]] static launcher::Subject subject(const char *name);
     // Remembers commands in a menu of a program, as if it had run with gestures.

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
-// What starts a gesture: chosen from the list, or recorded.
+// The trigger is chosen from the list, or recorded.
 
 #include "settings/trigger/TriggerPanel.h"
 

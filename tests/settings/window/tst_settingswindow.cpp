@@ -223,7 +223,7 @@ private Q_SLOTS:
         QTRY_COMPARE(list->rowCount(), 1);
         QCOMPARE(title(window), text("Draw"));
         QTRY_VERIFY2(state(window).contains(text("no longer installed")), qPrintable(state(window)));
-        // What a person does now is kept all the same, and its switch does no harm.
+        // Changes are kept all the same, and the program's switch does no harm.
         window.findChild<QWidget *>(text("sector_up"))->setFocus();
         QTest::keyClick(window.windowHandle(), Qt::Key_Delete);
         QCOMPARE(stored(text("draw"), text("81")), QString());
