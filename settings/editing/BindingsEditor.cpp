@@ -5,6 +5,7 @@
 
 #include "host/files/TriggerText.h"
 #include "launcher/Folders.h"
+#include "launcher/programs/RunningPrograms.h"
 
 #include <QDateTime>
 #include <QFileInfo>
@@ -92,6 +93,33 @@ BindingsEditor::BindingsEditor(const launcher::Subject &subject, const QString &
 QString BindingsEditor::trigger() const
 {
     return m_bindings.trigger.isEmpty() ? m_settings.usualTrigger : m_bindings.trigger;
+}
+
+bool BindingsEditor::isUsedByProgram(const QString &trigger) const
+{
+    if (!profile().usedTriggers.isEmpty())
+        return profile().usedTriggers.contains(trigger);
+    const QString right = QStringLiteral("right");
+    return trigger == right && usualTrigger() != right;
+}
+
+bool BindingsEditor::isTriggerPending() const
+{
+    if (m_triggersInUse.isEmpty())
+        return false;
+    const QList<qint64> running = launcher::runningWithGestures(m_subject);
+    return std::any_of(running.begin(), running.end(), [this](qint64 process) {
+        return m_triggersInUse.value(process, trigger()) != trigger();
+    });
+}
+
+void BindingsEditor::noteTriggerInUse(const QString &trigger)
+{
+    const QList<qint64> running = launcher::runningWithGestures(m_subject);
+    QHash<qint64, QString> inUse;
+    for (const qint64 process : running)
+        inUse.insert(process, m_triggersInUse.value(process, trigger));
+    m_triggersInUse = inUse;
 }
 
 QString BindingsEditor::captionOf(const QString &identifier) const
@@ -247,6 +275,7 @@ void BindingsEditor::reload()
     const QVector<gesturewidget::RememberedCommand> before = m_settings.commands.shown();
     const QString ring = this->ring();
     const QString noticeBefore = notice();
+    const QString triggerBefore = trigger();
     // A person waits for each change, and reading the commands takes longer than all the rest.
     const QString commandsNow = stateOf(m_subject.catalogueFile());
     if (commandsNow == m_seenCommands)
@@ -257,6 +286,8 @@ void BindingsEditor::reload()
     m_rings = m_settings.tasks.tasks();
     m_settings.tasks.setTask(m_rings.contains(ring) ? ring : QString());
     m_bindings = m_settings.tasks.bindings();
+    if (trigger() != triggerBefore)
+        noteTriggerInUse(triggerBefore);
     watch();
     m_seenSettings = stateOf(m_subject.settingsFile());
     if (before != m_settings.commands.shown())

@@ -9,6 +9,7 @@
 #include "launcher/settings/ProgramSettings.h"
 
 #include <QFileSystemWatcher>
+#include <QHash>
 #include <QObject>
 #include <QString>
 #include <QTimer>
@@ -36,6 +37,12 @@ public:
     // The trigger that counts, see host/files/TriggerText.h.
     [[nodiscard]] QString trigger() const;
     [[nodiscard]] const QString &usualTrigger() const { return m_settings.usualTrigger; }
+    // True if the program itself does something with that drag, by its profile or because its
+    // drawings do not go with the right button alone.
+    [[nodiscard]] bool isUsedByProgram(const QString &trigger) const;
+    // True while the program runs with another trigger than trigger(), because it reads its trigger
+    // when it starts. Knows only of changes that this object has seen.
+    [[nodiscard]] bool isTriggerPending() const;
     [[nodiscard]] const launcher::SettingsTasks &tasks() const { return m_settings.tasks; }
     // One line about the file, such as that it was damaged; empty if all is well.
     [[nodiscard]] const QString &notice() const { return m_notice; }
@@ -92,6 +99,8 @@ private:
                 const QString &text);
     // Watches the folders of the files, which are replaced when they change.
     void watch();
+    // Remembers that the processes that run now have a trigger.
+    void noteTriggerInUse(const QString &trigger);
     // Returns a text that differs when the content of the file may differ.
     [[nodiscard]] static QString stateOf(const QString &path);
 
@@ -105,6 +114,7 @@ private:
     QUndoStack m_undo;
     QFileSystemWatcher m_watcher;
     QTimer m_reload;
+    QHash<qint64, QString> m_triggersInUse; // by process of the program, as far as they were seen
     QString m_seenSettings; // stateOf() the settings when they were read last
 };
 

@@ -209,6 +209,14 @@ void SettingsWindow::search()
     m_finder.start(launcher::MenuPrograms(m_places, environment, profiles, QLocale().name()));
 }
 
+void SettingsWindow::bringToFront()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
 void SettingsWindow::endSearch()
 {
     m_model.endSearch();

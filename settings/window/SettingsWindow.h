@@ -38,6 +38,9 @@ public:
 
     // Looks for programs, in the background.
     void search();
+    // Shows the window above all others and gives it the keyboard, as far as the desktop allows that;
+    // otherwise the desktop marks the window in its task bar.
+    void bringToFront();
 
 protected:
     void showEvent(QShowEvent *event) override;

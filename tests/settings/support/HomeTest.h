@@ -35,6 +35,13 @@ protected:
     void remember(const QString &name, const QStringList &identifiers,
                   const QString &menu = QStringLiteral("Draw")) const;
 
+    // Installs this test itself as a program that runs with gestures at the moment: a file with the
+    // plug-in's name is loaded.
+    void installSelfRunning(const QString &name, const QString &title);
+    // Writes a profile that knows the tasks "Sketching", which has first bindings, and "Modelling", and
+    // says that the program uses the middle button itself.
+    void writeProfile(const QString &name) const;
+
 protected Q_SLOTS:
     void init();
 };
