@@ -43,7 +43,7 @@ public:
     void bringToFront();
 
 protected:
-    void showEvent(QShowEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
@@ -71,7 +71,7 @@ private:
     MessageBar *m_message = nullptr;
     Exchange *m_exchange = nullptr;
     QList<QAction *> m_ofProgram; // need a chosen program
-    bool m_wasShown = false;
+    bool m_wasPainted = false;
 };
 
 } // namespace settings
