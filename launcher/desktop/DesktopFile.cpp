@@ -72,7 +72,7 @@ QByteArray DesktopFile::translated(const QByteArray &key, const QString &locale)
     }
     if (found.isNull())
         found = value(key);
-    return found.replace("\\s", " ").replace("\\n", " ").replace("\\t", " ").replace("\\\\", "\\");
+    return ExecLine::unescaped(found);
 }
 
 void DesktopFile::setValue(const QByteArray &key, const QByteArray &value)

@@ -159,6 +159,15 @@ QByteArray ExecLine::encoded(const QByteArray &argument)
     return escaped(quoted);
 }
 
+QByteArray ExecLine::unescaped(const QByteArray &value)
+{
+    QByteArray text;
+    const std::vector<Letter> letters = lettersOf(value);
+    for (const Letter &letter : letters)
+        text += letter.value;
+    return text;
+}
+
 QByteArray ExecLine::escaped(QByteArray text)
 {
     text.replace("\\", "\\\\").replace("\n", "\\n").replace("\t", "\\t").replace("\r", "\\r");

@@ -6,7 +6,6 @@
 #include "host/files/CommandNames.h"
 #include "launcher/Text.h"
 
-#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -46,15 +45,14 @@ KnownCommands::KnownCommands(const QVector<RememberedCommand> &shown, const QStr
     , m_names(gesturewidget::commandNames(shown))
     , m_wellKnown(wellKnown)
 {
+    for (int place = static_cast<int>(shown.size()) - 1; place >= 0; --place)
+        m_places.insert(shown.at(place).identifier, place);
 }
 
 const RememberedCommand *KnownCommands::find(const QString &identifier) const
 {
-    const auto found =
-        std::find_if(m_shown.begin(), m_shown.end(), [&identifier](const RememberedCommand &one) {
-            return one.identifier == identifier;
-        });
-    return found == m_shown.end() ? nullptr : &*found;
+    const int place = m_places.value(identifier, -1);
+    return place < 0 ? nullptr : &m_shown.at(place);
 }
 
 QString KnownCommands::captionOf(const QString &identifier) const

@@ -6,6 +6,7 @@
 #include "host/files/RememberedCommand.h"
 #include "launcher/Outcome.h"
 
+#include <QHash>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -58,6 +59,7 @@ private:
 
     QVector<gesturewidget::RememberedCommand> m_shown;
     QStringList m_names; // of those
+    QHash<QString, int> m_places; // among those, by identifier
     QStringList m_wellKnown;
 };
 

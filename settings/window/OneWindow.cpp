@@ -27,8 +27,7 @@ OneWindow::OneWindow(const QString &place, QObject *parent)
     m_lock->setStaleLockTime(0); // a window may be open for days
     if (!m_lock->tryLock(0))
         return;
-    // A process that was killed leaves its socket behind.
-    QLocalServer::removeServer(place);
+    // With this option Qt moves the socket to its place, over one that a killed process left behind.
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
     m_server.listen(place);
 }

@@ -49,6 +49,22 @@ private Q_SLOTS:
         QCOMPARE(stored(text("draw"), text("87")), QString());
     }
 
+    void anExchangeMovesBothCommands()
+    {
+        BindingsEditor editor(subject("draw"), text("Draw"));
+        const QStringList before = editor.bindings().eight;
+        QVERIFY(editor.swap(0, 6));
+        QStringList wanted = before;
+        wanted[0] = before.at(6);
+        wanted[6] = before.at(0);
+        QCOMPARE(editor.bindings().eight, wanted);
+        QVERIFY(editor.unbind(6));
+        QVERIFY(editor.swap(0, 6)); // with an empty direction
+        wanted[6] = wanted.at(0);
+        wanted[0].clear();
+        QCOMPARE(editor.bindings().eight, wanted);
+    }
+
     void eachChangeIsTakenBackAndMadeAgain_data()
     {
         QTest::addColumn<int>("what");
@@ -307,6 +323,7 @@ private Q_SLOTS:
         QSignalSpy failed(&editor, &BindingsEditor::failed);
         QVERIFY(!editor.setTrigger(text("left")));
         QCOMPARE(failed.count(), 1);
+        QVERIFY(failed.at(0).at(0).toString().contains(text("Hold Ctrl, Shift, Alt or Meta")));
         QCOMPARE(editor.trigger(), text("right"));
     }
 
