@@ -76,7 +76,7 @@ private Q_SLOTS:
         };
         const QStringList ring{text("--ring"), kProgram, text("Sketching")};
         QVERIFY(refusal(ring + QStringList{text("own")}).contains("knows no tasks"));
-        write(QStringLiteral("gesturewidget/profiles/launcher_fixture_direct.json"),
+        write("gesturewidget/profiles/launcher_fixture_direct.json",
               R"({"version": 1, "program": "launcher_fixture_direct",
                   "tasks": {"firstBindings": {"Sketching": {"87": "Sketch_Line"}},
                             "checkedActionBeside": "Modelling"}})");
