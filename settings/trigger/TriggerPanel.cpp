@@ -17,6 +17,7 @@ namespace settings {
 namespace {
 
 constexpr char kUsual[] = "default";
+constexpr int kNoteLines = 2; // most notes need them
 constexpr int kListWidth = 10; // characters; on a narrow screen, a longer entry is cut off
 
 } // namespace
@@ -36,7 +37,10 @@ TriggerPanel::TriggerPanel(QWidget *parent)
     m_note->setObjectName(QStringLiteral("trigger_note"));
     m_note->setWordWrap(true);
     m_note->setTextFormat(Qt::PlainText);
-    m_note->hide();
+    m_note->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    // A note that comes must not move the field under the pointer.
+    m_note->setText(QString(kNoteLines - 1, QLatin1Char('\n')));
+    m_note->setMinimumHeight(m_note->sizeHint().height());
     auto *field = new TriggerField(this);
 
     auto *layout = new QGridLayout(this);
@@ -92,7 +96,6 @@ void TriggerPanel::showNote(const BindingsEditor &editor)
     if (editor.isTriggerPending())
         notes.append(tr("%1 is running. It takes this over at its next start.").arg(editor.title()));
     m_note->setText(notes.join(QLatin1Char('\n')));
-    m_note->setVisible(!notes.isEmpty());
     m_list->setAccessibleDescription(notes.join(QLatin1Char(' ')));
 }
 
