@@ -9,7 +9,7 @@ namespace launcher {
 namespace {
 
 // Bytes. Far more than any desktop entry has, with all its translations.
-constexpr qint64 kMaximalSize = 1024 * 1024;
+constexpr qint64 kMaximalSize = qint64(1024) * 1024;
 
 } // namespace
 

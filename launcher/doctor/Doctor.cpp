@@ -152,7 +152,7 @@ void reportDisplay(const Symptoms &symptoms, Report &report)
 gesturewidget::ProgramProfile reportProfile(const Symptoms &symptoms, Report &report)
 {
     QString message;
-    const gesturewidget::ProgramProfile profile =
+    gesturewidget::ProgramProfile profile =
         gesturewidget::ProgramProfile::forProgram(symptoms.program, symptoms.profileFolders, &message);
     const QString file = profileFile(symptoms.program, symptoms.profileFolders);
     if (!message.isEmpty())

@@ -32,7 +32,7 @@ QByteArray launcherPath()
 QString profileFile(const QString &program, const QStringList &folders)
 {
     for (const QString &folder : folders) {
-        const QString path = QDir(folder).filePath(program + QLatin1String(".json"));
+        QString path = QDir(folder).filePath(program + QLatin1String(".json"));
         if (!folder.isEmpty() && QFileInfo::exists(path))
             return path;
     }

@@ -138,7 +138,7 @@ SettingsFile::Values Bindings::toSettings() const
     values.insert(triggerName(), trigger);
     for (QString &value : values) {
         if (value.isNull()) // would mean that the key is to be removed
-            value = QStringLiteral("");
+            value = QLatin1String("");
     }
     return values;
 }

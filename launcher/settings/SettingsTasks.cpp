@@ -377,7 +377,7 @@ Outcome SettingsTasks::setTrigger(const QString &text, SettingsChange *made)
         const bool isOfSite = wanted.isEmpty() && m_site.values().contains(Bindings::triggerName());
         SettingsFile::Values values;
         values.insert(Bindings::triggerName(), isOfSite          ? QString()
-                                               : wanted.isNull() ? QStringLiteral("")
+                                               : wanted.isNull() ? QString(QLatin1String(""))
                                                                  : wanted);
         change = changeBetween(Bindings::fromSettings(m_site.under(own)),
                                Bindings::fromSettings(m_site.under(merged(own, values))));
