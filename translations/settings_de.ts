@@ -106,6 +106,14 @@
         <source>Import</source>
         <translation>Importieren</translation>
     </message>
+    <message>
+        <source>Give &quot;%1&quot; Its Own Ring</source>
+        <translation>„%1“ einen eigenen Ring geben</translation>
+    </message>
+    <message>
+        <source>Let &quot;%1&quot; Use the Shared Ring</source>
+        <translation>„%1“ den gemeinsamen Ring geben</translation>
+    </message>
 </context>
 <context>
     <name>settings::CommandModel</name>
@@ -116,10 +124,6 @@
     <message>
         <source>Direction</source>
         <translation>Richtung</translation>
-    </message>
-    <message>
-        <source>Others</source>
-        <translation>Andere</translation>
     </message>
     <message>
         <source>First commands</source>
@@ -160,41 +164,6 @@
     <message>
         <source>Take Off the Ring</source>
         <translation>Vom Ring nehmen</translation>
-    </message>
-</context>
-<context>
-    <name>settings::Directions</name>
-    <message>
-        <source>up</source>
-        <translation>oben</translation>
-    </message>
-    <message>
-        <source>up-left</source>
-        <translation>oben-links</translation>
-    </message>
-    <message>
-        <source>left</source>
-        <translation>links</translation>
-    </message>
-    <message>
-        <source>down-left</source>
-        <translation>unten-links</translation>
-    </message>
-    <message>
-        <source>down</source>
-        <translation>unten</translation>
-    </message>
-    <message>
-        <source>down-right</source>
-        <translation>unten-rechts</translation>
-    </message>
-    <message>
-        <source>right</source>
-        <translation>rechts</translation>
-    </message>
-    <message>
-        <source>up-right</source>
-        <translation>oben-rechts</translation>
     </message>
 </context>
 <context>
@@ -403,6 +372,14 @@
         <source>For all tasks</source>
         <translation>Für alle Aufgaben</translation>
     </message>
+    <message>
+        <source>&amp;Own Rings</source>
+        <translation>Eig&amp;ene Ringe</translation>
+    </message>
+    <message>
+        <source>Choose the tasks that have rings of their own</source>
+        <translation>Aufgaben wählen, die eigene Ringe haben</translation>
+    </message>
 </context>
 <context>
     <name>settings::ProgramPanel</name>
@@ -606,12 +583,20 @@
         <translation>Was eine Geste auslöst</translation>
     </message>
     <message>
-        <source>It takes effect at the program&apos;s next start.</source>
-        <translation>Es gilt ab dem nächsten Start des Programms.</translation>
-    </message>
-    <message>
         <source>%1 (usual)</source>
         <translation>%1 (üblich)</translation>
+    </message>
+    <message>
+        <source>%1 (%2 uses it)</source>
+        <translation>%1 (%2 nutzt sie)</translation>
+    </message>
+    <message>
+        <source>%1 uses this drag itself. While it starts a gesture, %1 no longer gets it.</source>
+        <translation>%1 nutzt dieses Ziehen selbst. Solange es eine Geste beginnt, bekommt %1 es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>%1 is running. It takes this over at its next start.</source>
+        <translation>%1 läuft gerade. Die Änderung gilt ab dem nächsten Start.</translation>
     </message>
 </context>
 </TS>

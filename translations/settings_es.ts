@@ -106,6 +106,14 @@
         <source>Import</source>
         <translation>Importar</translation>
     </message>
+    <message>
+        <source>Give &quot;%1&quot; Its Own Ring</source>
+        <translation>Dar a «%1» su propio anillo</translation>
+    </message>
+    <message>
+        <source>Let &quot;%1&quot; Use the Shared Ring</source>
+        <translation>Dar a «%1» el anillo común</translation>
+    </message>
 </context>
 <context>
     <name>settings::CommandModel</name>
@@ -116,10 +124,6 @@
     <message>
         <source>Direction</source>
         <translation>Dirección</translation>
-    </message>
-    <message>
-        <source>Others</source>
-        <translation>Otros</translation>
     </message>
     <message>
         <source>First commands</source>
@@ -160,41 +164,6 @@
     <message>
         <source>Take Off the Ring</source>
         <translation>Quitar del anillo</translation>
-    </message>
-</context>
-<context>
-    <name>settings::Directions</name>
-    <message>
-        <source>up</source>
-        <translation>arriba</translation>
-    </message>
-    <message>
-        <source>up-left</source>
-        <translation>arriba-izquierda</translation>
-    </message>
-    <message>
-        <source>left</source>
-        <translation>izquierda</translation>
-    </message>
-    <message>
-        <source>down-left</source>
-        <translation>abajo-izquierda</translation>
-    </message>
-    <message>
-        <source>down</source>
-        <translation>abajo</translation>
-    </message>
-    <message>
-        <source>down-right</source>
-        <translation>abajo-derecha</translation>
-    </message>
-    <message>
-        <source>right</source>
-        <translation>derecha</translation>
-    </message>
-    <message>
-        <source>up-right</source>
-        <translation>arriba-derecha</translation>
     </message>
 </context>
 <context>
@@ -403,6 +372,14 @@
         <source>For all tasks</source>
         <translation>Para todas las tareas</translation>
     </message>
+    <message>
+        <source>&amp;Own Rings</source>
+        <translation>Anillos &amp;propios</translation>
+    </message>
+    <message>
+        <source>Choose the tasks that have rings of their own</source>
+        <translation>Elegir las tareas que tienen su propio anillo</translation>
+    </message>
 </context>
 <context>
     <name>settings::ProgramPanel</name>
@@ -606,12 +583,20 @@
         <translation>Qué inicia un gesto</translation>
     </message>
     <message>
-        <source>It takes effect at the program&apos;s next start.</source>
-        <translation>Tiene efecto en el próximo inicio del programa.</translation>
-    </message>
-    <message>
         <source>%1 (usual)</source>
         <translation>%1 (habitual)</translation>
+    </message>
+    <message>
+        <source>%1 (%2 uses it)</source>
+        <translation>%1 (%2 lo usa)</translation>
+    </message>
+    <message>
+        <source>%1 uses this drag itself. While it starts a gesture, %1 no longer gets it.</source>
+        <translation>%1 usa este arrastre. Mientras inicie un gesto, %1 ya no lo recibe.</translation>
+    </message>
+    <message>
+        <source>%1 is running. It takes this over at its next start.</source>
+        <translation>%1 está en marcha. El cambio se aplica en su próximo inicio.</translation>
     </message>
 </context>
 </TS>

@@ -106,6 +106,14 @@
         <source>Import</source>
         <translation>Importer</translation>
     </message>
+    <message>
+        <source>Give &quot;%1&quot; Its Own Ring</source>
+        <translation>Donner à « %1 » son propre anneau</translation>
+    </message>
+    <message>
+        <source>Let &quot;%1&quot; Use the Shared Ring</source>
+        <translation>Donner à « %1 » l&apos;anneau commun</translation>
+    </message>
 </context>
 <context>
     <name>settings::CommandModel</name>
@@ -116,10 +124,6 @@
     <message>
         <source>Direction</source>
         <translation>Direction</translation>
-    </message>
-    <message>
-        <source>Others</source>
-        <translation>Autres</translation>
     </message>
     <message>
         <source>First commands</source>
@@ -160,41 +164,6 @@
     <message>
         <source>Take Off the Ring</source>
         <translation>Retirer de l&apos;anneau</translation>
-    </message>
-</context>
-<context>
-    <name>settings::Directions</name>
-    <message>
-        <source>up</source>
-        <translation>haut</translation>
-    </message>
-    <message>
-        <source>up-left</source>
-        <translation>haut-gauche</translation>
-    </message>
-    <message>
-        <source>left</source>
-        <translation>gauche</translation>
-    </message>
-    <message>
-        <source>down-left</source>
-        <translation>bas-gauche</translation>
-    </message>
-    <message>
-        <source>down</source>
-        <translation>bas</translation>
-    </message>
-    <message>
-        <source>down-right</source>
-        <translation>bas-droite</translation>
-    </message>
-    <message>
-        <source>right</source>
-        <translation>droite</translation>
-    </message>
-    <message>
-        <source>up-right</source>
-        <translation>haut-droite</translation>
     </message>
 </context>
 <context>
@@ -403,6 +372,14 @@
         <source>For all tasks</source>
         <translation>Pour toutes les tâches</translation>
     </message>
+    <message>
+        <source>&amp;Own Rings</source>
+        <translation>Anneaux pr&amp;opres</translation>
+    </message>
+    <message>
+        <source>Choose the tasks that have rings of their own</source>
+        <translation>Choisir les tâches qui ont leur propre anneau</translation>
+    </message>
 </context>
 <context>
     <name>settings::ProgramPanel</name>
@@ -606,12 +583,20 @@
         <translation>Ce qui démarre un geste</translation>
     </message>
     <message>
-        <source>It takes effect at the program&apos;s next start.</source>
-        <translation>Cela prend effet au prochain démarrage du programme.</translation>
-    </message>
-    <message>
         <source>%1 (usual)</source>
         <translation>%1 (habituel)</translation>
+    </message>
+    <message>
+        <source>%1 (%2 uses it)</source>
+        <translation>%1 (utilisé par %2)</translation>
+    </message>
+    <message>
+        <source>%1 uses this drag itself. While it starts a gesture, %1 no longer gets it.</source>
+        <translation>%1 utilise lui-même ce glissement. Tant qu&apos;il démarre un geste, %1 ne le reçoit plus.</translation>
+    </message>
+    <message>
+        <source>%1 is running. It takes this over at its next start.</source>
+        <translation>%1 est en cours d&apos;exécution. Le changement prend effet à son prochain démarrage.</translation>
     </message>
 </context>
 </TS>

@@ -106,6 +106,14 @@
         <source>Import</source>
         <translation>Importa</translation>
     </message>
+    <message>
+        <source>Give &quot;%1&quot; Its Own Ring</source>
+        <translation>Dare a «%1» un proprio anello</translation>
+    </message>
+    <message>
+        <source>Let &quot;%1&quot; Use the Shared Ring</source>
+        <translation>Dare a «%1» l&apos;anello comune</translation>
+    </message>
 </context>
 <context>
     <name>settings::CommandModel</name>
@@ -116,10 +124,6 @@
     <message>
         <source>Direction</source>
         <translation>Direzione</translation>
-    </message>
-    <message>
-        <source>Others</source>
-        <translation>Altri</translation>
     </message>
     <message>
         <source>First commands</source>
@@ -160,41 +164,6 @@
     <message>
         <source>Take Off the Ring</source>
         <translation>Togliere dall&apos;anello</translation>
-    </message>
-</context>
-<context>
-    <name>settings::Directions</name>
-    <message>
-        <source>up</source>
-        <translation>su</translation>
-    </message>
-    <message>
-        <source>up-left</source>
-        <translation>su-sinistra</translation>
-    </message>
-    <message>
-        <source>left</source>
-        <translation>sinistra</translation>
-    </message>
-    <message>
-        <source>down-left</source>
-        <translation>giù-sinistra</translation>
-    </message>
-    <message>
-        <source>down</source>
-        <translation>giù</translation>
-    </message>
-    <message>
-        <source>down-right</source>
-        <translation>giù-destra</translation>
-    </message>
-    <message>
-        <source>right</source>
-        <translation>destra</translation>
-    </message>
-    <message>
-        <source>up-right</source>
-        <translation>su-destra</translation>
     </message>
 </context>
 <context>
@@ -403,6 +372,14 @@
         <source>For all tasks</source>
         <translation>Per tutte le attività</translation>
     </message>
+    <message>
+        <source>&amp;Own Rings</source>
+        <translation>Anelli &amp;propri</translation>
+    </message>
+    <message>
+        <source>Choose the tasks that have rings of their own</source>
+        <translation>Scegliere le attività che hanno un proprio anello</translation>
+    </message>
 </context>
 <context>
     <name>settings::ProgramPanel</name>
@@ -606,12 +583,20 @@
         <translation>Che cosa avvia un gesto</translation>
     </message>
     <message>
-        <source>It takes effect at the program&apos;s next start.</source>
-        <translation>Ha effetto al prossimo avvio del programma.</translation>
-    </message>
-    <message>
         <source>%1 (usual)</source>
         <translation>%1 (solito)</translation>
+    </message>
+    <message>
+        <source>%1 (%2 uses it)</source>
+        <translation>%1 (usato da %2)</translation>
+    </message>
+    <message>
+        <source>%1 uses this drag itself. While it starts a gesture, %1 no longer gets it.</source>
+        <translation>%1 usa questo trascinamento. Finché avvia un gesto, %1 non lo riceve più.</translation>
+    </message>
+    <message>
+        <source>%1 is running. It takes this over at its next start.</source>
+        <translation>%1 è in esecuzione. La modifica vale dal prossimo avvio.</translation>
     </message>
 </context>
 </TS>

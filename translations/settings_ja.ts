@@ -106,6 +106,14 @@
         <source>Import</source>
         <translation>インポート</translation>
     </message>
+    <message>
+        <source>Give &quot;%1&quot; Its Own Ring</source>
+        <translation>「%1」に専用のリングを割り当てる</translation>
+    </message>
+    <message>
+        <source>Let &quot;%1&quot; Use the Shared Ring</source>
+        <translation>「%1」に共通のリングを使う</translation>
+    </message>
 </context>
 <context>
     <name>settings::CommandModel</name>
@@ -116,10 +124,6 @@
     <message>
         <source>Direction</source>
         <translation>方向</translation>
-    </message>
-    <message>
-        <source>Others</source>
-        <translation>その他</translation>
     </message>
     <message>
         <source>First commands</source>
@@ -160,41 +164,6 @@
     <message>
         <source>Take Off the Ring</source>
         <translation>リングから外す</translation>
-    </message>
-</context>
-<context>
-    <name>settings::Directions</name>
-    <message>
-        <source>up</source>
-        <translation>上</translation>
-    </message>
-    <message>
-        <source>up-left</source>
-        <translation>左上</translation>
-    </message>
-    <message>
-        <source>left</source>
-        <translation>左</translation>
-    </message>
-    <message>
-        <source>down-left</source>
-        <translation>左下</translation>
-    </message>
-    <message>
-        <source>down</source>
-        <translation>下</translation>
-    </message>
-    <message>
-        <source>down-right</source>
-        <translation>右下</translation>
-    </message>
-    <message>
-        <source>right</source>
-        <translation>右</translation>
-    </message>
-    <message>
-        <source>up-right</source>
-        <translation>右上</translation>
     </message>
 </context>
 <context>
@@ -403,6 +372,14 @@
         <source>For all tasks</source>
         <translation>すべての作業</translation>
     </message>
+    <message>
+        <source>&amp;Own Rings</source>
+        <translation>専用リング(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Choose the tasks that have rings of their own</source>
+        <translation>専用のリングを持つ作業を選びます</translation>
+    </message>
 </context>
 <context>
     <name>settings::ProgramPanel</name>
@@ -606,12 +583,20 @@
         <translation>ジェスチャーの始め方</translation>
     </message>
     <message>
-        <source>It takes effect at the program&apos;s next start.</source>
-        <translation>プログラムの次の起動から有効になります。</translation>
-    </message>
-    <message>
         <source>%1 (usual)</source>
         <translation>%1 (標準)</translation>
+    </message>
+    <message>
+        <source>%1 (%2 uses it)</source>
+        <translation>%1 (%2 が使用)</translation>
+    </message>
+    <message>
+        <source>%1 uses this drag itself. While it starts a gesture, %1 no longer gets it.</source>
+        <translation>このドラッグは %1 自身が使います。ジェスチャーの開始に使う間、%1 には届きません。</translation>
+    </message>
+    <message>
+        <source>%1 is running. It takes this over at its next start.</source>
+        <translation>%1 は実行中です。次回の起動時に反映されます。</translation>
     </message>
 </context>
 </TS>

@@ -106,6 +106,14 @@
         <source>Import</source>
         <translation>Importuj</translation>
     </message>
+    <message>
+        <source>Give &quot;%1&quot; Its Own Ring</source>
+        <translation>Nadaj „%1” własny pierścień</translation>
+    </message>
+    <message>
+        <source>Let &quot;%1&quot; Use the Shared Ring</source>
+        <translation>Użyj wspólnego pierścienia dla „%1”</translation>
+    </message>
 </context>
 <context>
     <name>settings::CommandModel</name>
@@ -116,10 +124,6 @@
     <message>
         <source>Direction</source>
         <translation>Kierunek</translation>
-    </message>
-    <message>
-        <source>Others</source>
-        <translation>Inne</translation>
     </message>
     <message>
         <source>First commands</source>
@@ -160,41 +164,6 @@
     <message>
         <source>Take Off the Ring</source>
         <translation>Zdejmij z pierścienia</translation>
-    </message>
-</context>
-<context>
-    <name>settings::Directions</name>
-    <message>
-        <source>up</source>
-        <translation>góra</translation>
-    </message>
-    <message>
-        <source>up-left</source>
-        <translation>góra-lewo</translation>
-    </message>
-    <message>
-        <source>left</source>
-        <translation>lewo</translation>
-    </message>
-    <message>
-        <source>down-left</source>
-        <translation>dół-lewo</translation>
-    </message>
-    <message>
-        <source>down</source>
-        <translation>dół</translation>
-    </message>
-    <message>
-        <source>down-right</source>
-        <translation>dół-prawo</translation>
-    </message>
-    <message>
-        <source>right</source>
-        <translation>prawo</translation>
-    </message>
-    <message>
-        <source>up-right</source>
-        <translation>góra-prawo</translation>
     </message>
 </context>
 <context>
@@ -403,6 +372,14 @@
         <source>For all tasks</source>
         <translation>Dla wszystkich zadań</translation>
     </message>
+    <message>
+        <source>&amp;Own Rings</source>
+        <translation>Własne pierś&amp;cienie</translation>
+    </message>
+    <message>
+        <source>Choose the tasks that have rings of their own</source>
+        <translation>Wybierz zadania, które mają własne pierścienie</translation>
+    </message>
 </context>
 <context>
     <name>settings::ProgramPanel</name>
@@ -606,12 +583,20 @@
         <translation>Co zaczyna gest</translation>
     </message>
     <message>
-        <source>It takes effect at the program&apos;s next start.</source>
-        <translation>Działa od następnego uruchomienia programu.</translation>
-    </message>
-    <message>
         <source>%1 (usual)</source>
         <translation>%1 (zwykły)</translation>
+    </message>
+    <message>
+        <source>%1 (%2 uses it)</source>
+        <translation>%1 (używa tego %2)</translation>
+    </message>
+    <message>
+        <source>%1 uses this drag itself. While it starts a gesture, %1 no longer gets it.</source>
+        <translation>%1 sam używa tego przeciągnięcia. Dopóki zaczyna ono gest, %1 go nie otrzymuje.</translation>
+    </message>
+    <message>
+        <source>%1 is running. It takes this over at its next start.</source>
+        <translation>%1 jest uruchomiony. Zmiana zadziała po następnym uruchomieniu.</translation>
     </message>
 </context>
 </TS>

@@ -106,6 +106,14 @@
         <source>Import</source>
         <translation>Importar</translation>
     </message>
+    <message>
+        <source>Give &quot;%1&quot; Its Own Ring</source>
+        <translation>Dar a &quot;%1&quot; um anel próprio</translation>
+    </message>
+    <message>
+        <source>Let &quot;%1&quot; Use the Shared Ring</source>
+        <translation>Dar a &quot;%1&quot; o anel comum</translation>
+    </message>
 </context>
 <context>
     <name>settings::CommandModel</name>
@@ -116,10 +124,6 @@
     <message>
         <source>Direction</source>
         <translation>Direção</translation>
-    </message>
-    <message>
-        <source>Others</source>
-        <translation>Outros</translation>
     </message>
     <message>
         <source>First commands</source>
@@ -160,41 +164,6 @@
     <message>
         <source>Take Off the Ring</source>
         <translation>Tirar do anel</translation>
-    </message>
-</context>
-<context>
-    <name>settings::Directions</name>
-    <message>
-        <source>up</source>
-        <translation>cima</translation>
-    </message>
-    <message>
-        <source>up-left</source>
-        <translation>cima-esquerda</translation>
-    </message>
-    <message>
-        <source>left</source>
-        <translation>esquerda</translation>
-    </message>
-    <message>
-        <source>down-left</source>
-        <translation>baixo-esquerda</translation>
-    </message>
-    <message>
-        <source>down</source>
-        <translation>baixo</translation>
-    </message>
-    <message>
-        <source>down-right</source>
-        <translation>baixo-direita</translation>
-    </message>
-    <message>
-        <source>right</source>
-        <translation>direita</translation>
-    </message>
-    <message>
-        <source>up-right</source>
-        <translation>cima-direita</translation>
     </message>
 </context>
 <context>
@@ -403,6 +372,14 @@
         <source>For all tasks</source>
         <translation>Para todas as tarefas</translation>
     </message>
+    <message>
+        <source>&amp;Own Rings</source>
+        <translation>Anéis &amp;próprios</translation>
+    </message>
+    <message>
+        <source>Choose the tasks that have rings of their own</source>
+        <translation>Escolher as tarefas que têm anéis próprios</translation>
+    </message>
 </context>
 <context>
     <name>settings::ProgramPanel</name>
@@ -606,12 +583,20 @@
         <translation>O que inicia um gesto</translation>
     </message>
     <message>
-        <source>It takes effect at the program&apos;s next start.</source>
-        <translation>Tem efeito no próximo início do programa.</translation>
-    </message>
-    <message>
         <source>%1 (usual)</source>
         <translation>%1 (habitual)</translation>
+    </message>
+    <message>
+        <source>%1 (%2 uses it)</source>
+        <translation>%1 (usado por %2)</translation>
+    </message>
+    <message>
+        <source>%1 uses this drag itself. While it starts a gesture, %1 no longer gets it.</source>
+        <translation>%1 usa este arrastar. Enquanto iniciar um gesto, %1 deixa de o receber.</translation>
+    </message>
+    <message>
+        <source>%1 is running. It takes this over at its next start.</source>
+        <translation>%1 está em execução. A alteração vale a partir do próximo arranque.</translation>
     </message>
 </context>
 </TS>

@@ -106,6 +106,14 @@
         <source>Import</source>
         <translation>Импорт</translation>
     </message>
+    <message>
+        <source>Give &quot;%1&quot; Its Own Ring</source>
+        <translation>Дать «%1» своё кольцо</translation>
+    </message>
+    <message>
+        <source>Let &quot;%1&quot; Use the Shared Ring</source>
+        <translation>Дать «%1» общее кольцо</translation>
+    </message>
 </context>
 <context>
     <name>settings::CommandModel</name>
@@ -116,10 +124,6 @@
     <message>
         <source>Direction</source>
         <translation>Направление</translation>
-    </message>
-    <message>
-        <source>Others</source>
-        <translation>Другие</translation>
     </message>
     <message>
         <source>First commands</source>
@@ -160,41 +164,6 @@
     <message>
         <source>Take Off the Ring</source>
         <translation>Убрать с кольца</translation>
-    </message>
-</context>
-<context>
-    <name>settings::Directions</name>
-    <message>
-        <source>up</source>
-        <translation>вверх</translation>
-    </message>
-    <message>
-        <source>up-left</source>
-        <translation>вверх-влево</translation>
-    </message>
-    <message>
-        <source>left</source>
-        <translation>влево</translation>
-    </message>
-    <message>
-        <source>down-left</source>
-        <translation>вниз-влево</translation>
-    </message>
-    <message>
-        <source>down</source>
-        <translation>вниз</translation>
-    </message>
-    <message>
-        <source>down-right</source>
-        <translation>вниз-вправо</translation>
-    </message>
-    <message>
-        <source>right</source>
-        <translation>вправо</translation>
-    </message>
-    <message>
-        <source>up-right</source>
-        <translation>вверх-вправо</translation>
     </message>
 </context>
 <context>
@@ -403,6 +372,14 @@
         <source>For all tasks</source>
         <translation>Для всех задач</translation>
     </message>
+    <message>
+        <source>&amp;Own Rings</source>
+        <translation>С&amp;вои кольца</translation>
+    </message>
+    <message>
+        <source>Choose the tasks that have rings of their own</source>
+        <translation>Выбрать задачи, у которых есть свои кольца</translation>
+    </message>
 </context>
 <context>
     <name>settings::ProgramPanel</name>
@@ -606,12 +583,20 @@
         <translation>Что начинает жест</translation>
     </message>
     <message>
-        <source>It takes effect at the program&apos;s next start.</source>
-        <translation>Действует со следующего запуска программы.</translation>
-    </message>
-    <message>
         <source>%1 (usual)</source>
         <translation>%1 (обычно)</translation>
+    </message>
+    <message>
+        <source>%1 (%2 uses it)</source>
+        <translation>%1 (занято: %2)</translation>
+    </message>
+    <message>
+        <source>%1 uses this drag itself. While it starts a gesture, %1 no longer gets it.</source>
+        <translation>%1 само использует это движение. Пока оно начинает жест, %1 его не получает.</translation>
+    </message>
+    <message>
+        <source>%1 is running. It takes this over at its next start.</source>
+        <translation>%1 сейчас работает. Изменение вступит в силу при следующем запуске.</translation>
     </message>
 </context>
 </TS>

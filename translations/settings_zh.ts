@@ -106,6 +106,14 @@
         <source>Import</source>
         <translation>导入</translation>
     </message>
+    <message>
+        <source>Give &quot;%1&quot; Its Own Ring</source>
+        <translation>为“%1”设置专用圆环</translation>
+    </message>
+    <message>
+        <source>Let &quot;%1&quot; Use the Shared Ring</source>
+        <translation>让“%1”使用共用圆环</translation>
+    </message>
 </context>
 <context>
     <name>settings::CommandModel</name>
@@ -116,10 +124,6 @@
     <message>
         <source>Direction</source>
         <translation>方向</translation>
-    </message>
-    <message>
-        <source>Others</source>
-        <translation>其他</translation>
     </message>
     <message>
         <source>First commands</source>
@@ -160,41 +164,6 @@
     <message>
         <source>Take Off the Ring</source>
         <translation>从圆环移除</translation>
-    </message>
-</context>
-<context>
-    <name>settings::Directions</name>
-    <message>
-        <source>up</source>
-        <translation>上</translation>
-    </message>
-    <message>
-        <source>up-left</source>
-        <translation>左上</translation>
-    </message>
-    <message>
-        <source>left</source>
-        <translation>左</translation>
-    </message>
-    <message>
-        <source>down-left</source>
-        <translation>左下</translation>
-    </message>
-    <message>
-        <source>down</source>
-        <translation>下</translation>
-    </message>
-    <message>
-        <source>down-right</source>
-        <translation>右下</translation>
-    </message>
-    <message>
-        <source>right</source>
-        <translation>右</translation>
-    </message>
-    <message>
-        <source>up-right</source>
-        <translation>右上</translation>
     </message>
 </context>
 <context>
@@ -403,6 +372,14 @@
         <source>For all tasks</source>
         <translation>所有任务</translation>
     </message>
+    <message>
+        <source>&amp;Own Rings</source>
+        <translation>专用圆环(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Choose the tasks that have rings of their own</source>
+        <translation>选择拥有专用圆环的任务</translation>
+    </message>
 </context>
 <context>
     <name>settings::ProgramPanel</name>
@@ -606,12 +583,20 @@
         <translation>手势的触发方式</translation>
     </message>
     <message>
-        <source>It takes effect at the program&apos;s next start.</source>
-        <translation>下次启动程序时生效。</translation>
-    </message>
-    <message>
         <source>%1 (usual)</source>
         <translation>%1（默认）</translation>
+    </message>
+    <message>
+        <source>%1 (%2 uses it)</source>
+        <translation>%1（%2 在用）</translation>
+    </message>
+    <message>
+        <source>%1 uses this drag itself. While it starts a gesture, %1 no longer gets it.</source>
+        <translation>%1 自身使用此拖动。用它开始手势时，%1 将不再收到它。</translation>
+    </message>
+    <message>
+        <source>%1 is running. It takes this over at its next start.</source>
+        <translation>%1 正在运行。更改将在其下次启动时生效。</translation>
     </message>
 </context>
 </TS>

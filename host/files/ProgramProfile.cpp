@@ -134,6 +134,20 @@ void readTrigger(Reader &profileReader, ProgramProfile &profile)
     profileReader.fail(reader.problem());
 }
 
+void readUsedTriggers(Reader &reader, ProgramProfile &profile)
+{
+    const QString key = QStringLiteral("usedTriggers");
+    const QStringList texts = reader.strings(key);
+    for (const QString &text : texts) {
+        Qt::MouseButton button = Qt::NoButton;
+        Qt::KeyboardModifiers modifiers = Qt::NoModifier;
+        if (parseTrigger(text, button, modifiers))
+            profile.usedTriggers.append(triggerText(button, modifiers));
+        else
+            reader.fail(QStringLiteral("\"%1\" names no trigger: \"%2\"").arg(key, text));
+    }
+}
+
 // Reads what the program itself is set to, from one of its files in the folder for configuration.
 // Returns null if the file or the value is not there.
 QString ownSetting(const QString &file, const QString &before, const QString &behind)
@@ -238,7 +252,7 @@ QString fill(ProgramProfile &profile, const QByteArray &text)
                   QStringLiteral("trigger"), QStringLiteral("wellKnownCommands"),
                   QStringLiteral("toolsMenu"), QStringLiteral("commandLineClass"),
                   QStringLiteral("changesMenus"), QStringLiteral("triggerBySetting"),
-                  QStringLiteral("tasks"), QStringLiteral("why")});
+                  QStringLiteral("tasks"), QStringLiteral("usedTriggers"), QStringLiteral("why")});
     // Reasons for the rest, for people who read the file.
     static_cast<void>(reader.object(QStringLiteral("why")));
     const QJsonValue version = reader.value(QStringLiteral("version"));
@@ -252,6 +266,7 @@ QString fill(ProgramProfile &profile, const QByteArray &text)
     profile.viewClasses = reader.strings(QStringLiteral("viewClasses"));
     readTrigger(reader, profile);
     readTriggerSetting(reader, profile);
+    readUsedTriggers(reader, profile);
     readCommands(reader, profile);
     readTasks(reader, profile);
     profile.toolsMenu = reader.string(QStringLiteral("toolsMenu"));
@@ -308,6 +323,8 @@ QJsonObject ProgramProfile::toJson() const
                         {QStringLiteral("wellKnownCommands"), commands},
                         {QStringLiteral("toolsMenu"), toolsMenu},
                         {QStringLiteral("commandLineClass"), commandLineClass}};
+    if (!usedTriggers.isEmpty())
+        profile.insert(QStringLiteral("usedTriggers"), QJsonArray::fromStringList(usedTriggers));
     if (changesMenus)
         profile.insert(QStringLiteral("changesMenus"), true);
     if (knowsTasks())

@@ -27,6 +27,10 @@ struct ProgramProfile
     Qt::KeyboardModifiers triggerModifiers = Qt::NoModifier;
     // True if the file says so. Otherwise a program without flat drawings gets another trigger.
     bool hasTrigger = false;
+    // The triggers with which the program itself does something in its drawings, as TriggerText.h
+    // writes them. A person can choose one of them, but then the program no longer gets that drag. A
+    // drag that does the same as without its keys is not listed, because nothing is lost with it.
+    QStringList usedTriggers;
     // From a well-known identifier, such as "ID_LINE", to the names of the program's own action:
     // its object name, or its path of captions such as "File/Open...". A program that changes its
     // menus with the task may have several names; the first one counts whose action can be used at

@@ -57,8 +57,11 @@ Outcome setRing(ProgramSettings &settings, const CommandLine &line)
         return Outcome::failure(Text::tr("there is no task \"%1\"; known ones are %2")
                                     .arg(task, known.join(QStringLiteral(", "))));
     }
-    return settings.tasks.setRing(task, QString::fromLocal8Bit(line.arguments.value(1)),
-                                  profile.taskBindings.value(task));
+    const QString kind = QString::fromLocal8Bit(line.arguments.value(1));
+    const bool isOwn = kind == QLatin1String("own");
+    if (!isOwn && kind != QLatin1String("shared"))
+        return Outcome::failure(Text::tr("a ring is \"own\" or \"shared\", not \"%1\"").arg(kind));
+    return settings.tasks.setRing(task, isOwn, profile.taskBindings.value(task));
 }
 
 Outcome importStandardInput(SettingsTasks &tasks)

@@ -9,7 +9,7 @@ namespace launcher {
 namespace {
 
 // Bytes. Far more than any desktop entry has, with all its translations.
-constexpr qint64 kMaximalSize = 1024 * 1024;
+constexpr qint64 kMaximalSize = qint64(1024) * 1024;
 
 } // namespace
 
@@ -72,7 +72,7 @@ QByteArray DesktopFile::translated(const QByteArray &key, const QString &locale)
     }
     if (found.isNull())
         found = value(key);
-    return found.replace("\\s", " ").replace("\\n", " ").replace("\\t", " ").replace("\\\\", "\\");
+    return ExecLine::unescaped(found);
 }
 
 void DesktopFile::setValue(const QByteArray &key, const QByteArray &value)

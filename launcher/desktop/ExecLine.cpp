@@ -12,7 +12,7 @@ namespace {
 // Started with the launcher's path and the program's command.
 constexpr char kShell[] = "/bin/sh";
 constexpr char kScript[] = R"([ -x "$0" ] && exec "$0" --always "$@"; exec "$@")";
-// What earlier versions put there.
+// The words that earlier versions put there.
 constexpr char kOldScript[] = R"([ -x "$0" ] && exec "$0" "$@"; exec "$@")";
 
 // A character of the value without escapes, and its place in the value.
@@ -157,6 +157,15 @@ QByteArray ExecLine::encoded(const QByteArray &argument)
         quoted = '"' + quoted + '"';
     quoted.replace("%", "%%");
     return escaped(quoted);
+}
+
+QByteArray ExecLine::unescaped(const QByteArray &value)
+{
+    QByteArray text;
+    const std::vector<Letter> letters = lettersOf(value);
+    for (const Letter &letter : letters)
+        text += letter.value;
+    return text;
 }
 
 QByteArray ExecLine::escaped(QByteArray text)

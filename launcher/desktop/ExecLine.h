@@ -21,6 +21,8 @@ struct ExecLine
     // Returns any text in the form of a value of a desktop entry. A line end in it does not begin a
     // line of the file.
     [[nodiscard]] static QByteArray escaped(QByteArray text);
+    // The other way round: the text of a value as the file has it.
+    [[nodiscard]] static QByteArray unescaped(const QByteArray &value);
 
     // The value with `launcher`, a path, put before the program; everything else stays as it was,
     // to the byte. If the launcher is removed later, the command starts the program alone.
@@ -31,7 +33,7 @@ struct ExecLine
     bool isValid = false;
     QByteArray program; // as a shell would see it
     QList<QByteArray> arguments; // also as a shell would see them, with their field codes
-    // Where the program begins in the value.
+    // The place in the value at which the program begins.
     int place = 0;
     QByteArray value;
 };

@@ -8,13 +8,12 @@
 #include "launcher/programs/ProgramCheck.h"
 #include "launcher/programs/ProgramLookup.h"
 #include "launcher/programs/QtWidgetsUse.h"
+#include "launcher/programs/Subject.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSet>
-
-#include <algorithm>
 
 namespace launcher {
 namespace {
@@ -122,9 +121,7 @@ bool MenuPrograms::canHaveGestures(const MenuProgram &program, const QByteArray 
     const QString name = gesturewidget::chooseProgramName(QFile::decodeName(program.typed),
                                                           canonical(program.path), m_profileFolders);
     return QFileInfo::exists(gesturewidget::settingsFile(name))
-        || std::any_of(m_profileFolders.begin(), m_profileFolders.end(), [&name](const QString &folder) {
-               return QFileInfo::exists(QDir(folder).filePath(name + QLatin1String(".json")));
-           });
+        || !profileFile(name, m_profileFolders).isEmpty();
 }
 
 } // namespace launcher

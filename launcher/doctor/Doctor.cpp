@@ -12,7 +12,6 @@
 #include "launcher/settings/Bindings.h"
 #include "launcher/Text.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QMap>
@@ -153,14 +152,9 @@ void reportDisplay(const Symptoms &symptoms, Report &report)
 gesturewidget::ProgramProfile reportProfile(const Symptoms &symptoms, Report &report)
 {
     QString message;
-    const gesturewidget::ProgramProfile profile =
+    gesturewidget::ProgramProfile profile =
         gesturewidget::ProgramProfile::forProgram(symptoms.program, symptoms.profileFolders, &message);
-    QString file;
-    for (const QString &folder : symptoms.profileFolders) {
-        const QString path = QDir(folder).filePath(symptoms.program + QLatin1String(".json"));
-        if (file.isEmpty() && QFileInfo::exists(path))
-            file = path;
-    }
+    const QString file = profileFile(symptoms.program, symptoms.profileFolders);
     if (!message.isEmpty())
         report.addProblem(Matter::Profile, message);
     else
@@ -178,7 +172,7 @@ bool isWritable(const QString &path, int how)
     return ::access(QFile::encodeName(path).constData(), how) == 0;
 }
 
-// Where each value comes from.
+// The sources of the values.
 struct Sources
 {
     QString ownFile;

@@ -27,7 +27,7 @@ struct ProgramExplanation
 class ProgramExplainer
 {
 public:
-    // How long to wait. All in milliseconds.
+    // Waiting times, all in milliseconds.
     struct Patience
     {
         int window = 60000; // until a main window is up and its menus are complete

@@ -29,6 +29,16 @@ QByteArray launcherPath()
     return launcherFolder() + "/mouse-gestures";
 }
 
+QString profileFile(const QString &program, const QStringList &folders)
+{
+    for (const QString &folder : folders) {
+        QString path = QDir(folder).filePath(program + QLatin1String(".json"));
+        if (!folder.isEmpty() && QFileInfo::exists(path))
+            return path;
+    }
+    return {};
+}
+
 Subject Subject::of(const QByteArray &typed)
 {
     Subject subject;

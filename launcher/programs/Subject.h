@@ -18,6 +18,10 @@ namespace launcher {
 // The full path of mouse-gestures in that folder.
 [[nodiscard]] QByteArray launcherPath();
 
+// The profile's file for a program of that name, from the first of `folders` that has one; empty if
+// none has.
+[[nodiscard]] QString profileFile(const QString &program, const QStringList &folders);
+
 // The program that a person typed, and where everything about it is.
 struct Subject
 {

@@ -6,6 +6,9 @@
 #include "bindings/SettingsKeys.h"
 #include "host/files/SettingsNames.h"
 #include "host/files/TriggerText.h"
+#include "launcher/Text.h"
+
+#include <QHash>
 
 #include <algorithm>
 
@@ -18,11 +21,6 @@ namespace settingsnames = gesturewidget::settingsnames;
 QString nameOf(const QString &key)
 {
     return SettingsFile::nameOf(settingsnames::moduleSection(), key);
-}
-
-QString triggerName()
-{
-    return SettingsFile::nameOf(settingsnames::hostSection(), settingsnames::triggerKey());
 }
 
 QStringList directionKeys(int scheme)
@@ -60,6 +58,21 @@ QStringList Bindings::directionNames(int scheme)
             QStringLiteral("right"),     QStringLiteral("up-right")};
 }
 
+QString Bindings::directionInWords(const QString &name)
+{
+    static const QHash<QString, const char *> words{
+        {QStringLiteral("up"), QT_TRANSLATE_NOOP("launcher", "up")},
+        {QStringLiteral("up-left"), QT_TRANSLATE_NOOP("launcher", "up left")},
+        {QStringLiteral("left"), QT_TRANSLATE_NOOP("launcher", "left")},
+        {QStringLiteral("down-left"), QT_TRANSLATE_NOOP("launcher", "down left")},
+        {QStringLiteral("down"), QT_TRANSLATE_NOOP("launcher", "down")},
+        {QStringLiteral("down-right"), QT_TRANSLATE_NOOP("launcher", "down right")},
+        {QStringLiteral("right"), QT_TRANSLATE_NOOP("launcher", "right")},
+        {QStringLiteral("up-right"), QT_TRANSLATE_NOOP("launcher", "up right")}};
+    const char *known = words.value(name);
+    return known ? Text::tr(known) : name;
+}
+
 Bindings Bindings::fromSettings(const SettingsFile::Values &values)
 {
     Bindings bindings;
@@ -82,6 +95,11 @@ QString Bindings::usualTrigger(const gesturewidget::ProgramProfile &profile,
     if (profile.hasTrigger || !gesturewidget::parseTrigger(found, button, keys))
         return gesturewidget::triggerText(profile.triggerButton, profile.triggerModifiers);
     return gesturewidget::triggerText(button, keys);
+}
+
+QString Bindings::triggerName()
+{
+    return SettingsFile::nameOf(settingsnames::hostSection(), settingsnames::triggerKey());
 }
 
 Bindings Bindings::initial()
@@ -120,7 +138,7 @@ SettingsFile::Values Bindings::toSettings() const
     values.insert(triggerName(), trigger);
     for (QString &value : values) {
         if (value.isNull()) // would mean that the key is to be removed
-            value = QStringLiteral("");
+            value = QLatin1String("");
     }
     return values;
 }

@@ -16,6 +16,8 @@ struct Bindings
 {
     // Direction names by direction index, counter-clockwise from up. `scheme` is 4 or 8.
     [[nodiscard]] static QStringList directionNames(int scheme);
+    // "up left" for the name "up-left", in the person's language; any other text as it is.
+    [[nodiscard]] static QString directionInWords(const QString &name);
 
     // Reads the settings of a program. If no direction of a scheme is stored, the scheme has its
     // initial commands. Once one is stored, a missing one is empty.
@@ -37,10 +39,13 @@ struct Bindings
     // Exchanges the commands of two directions of the scheme in use.
     void swap(int direction, int other);
 
-    // What starts a gesture if the person chooses nothing: the profile's trigger, or what the host
-    // has found to suit the program when it ran; the right button before.
+    // The trigger if the person chooses none: the profile's, or else the one that the host found to
+    // suit the program when it ran. Before the first run, the right button.
     [[nodiscard]] static QString usualTrigger(const gesturewidget::ProgramProfile &profile,
                                               const gesturewidget::SettingsFile::Values &settings);
+
+    // The name of the trigger among the values of the settings.
+    [[nodiscard]] static QString triggerName();
 
     bool enabled = true;
     int scheme = 8; // 4 or 8

@@ -6,7 +6,6 @@
 #include "host/files/CommandNames.h"
 #include "launcher/Text.h"
 
-#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -46,15 +45,14 @@ KnownCommands::KnownCommands(const QVector<RememberedCommand> &shown, const QStr
     , m_names(gesturewidget::commandNames(shown))
     , m_wellKnown(wellKnown)
 {
+    for (int place = static_cast<int>(shown.size()) - 1; place >= 0; --place)
+        m_places.insert(shown.at(place).identifier, place);
 }
 
 const RememberedCommand *KnownCommands::find(const QString &identifier) const
 {
-    const auto found =
-        std::find_if(m_shown.begin(), m_shown.end(), [&identifier](const RememberedCommand &one) {
-            return one.identifier == identifier;
-        });
-    return found == m_shown.end() ? nullptr : &*found;
+    const int place = m_places.value(identifier, -1);
+    return place < 0 ? nullptr : &m_shown.at(place);
 }
 
 QString KnownCommands::captionOf(const QString &identifier) const
@@ -134,37 +132,48 @@ QString KnownCommands::resolve(const QString &text, const QString &program, QStr
         .simplified();
 }
 
+QVector<KnownCommands::Menu> KnownCommands::menus() const
+{
+    // A heading for one command says little.
+    QHash<QString, int> sizes;
+    for (const RememberedCommand &command : m_shown)
+        ++sizes[command.group.simplified()];
+    QVector<Menu> menus;
+    QHash<QString, int> places;
+    Menu others{Text::tr("Others"), {}};
+    for (const RememberedCommand &command : m_shown) {
+        const QString caption = command.group.simplified();
+        if (caption.isEmpty() || sizes.value(caption) == 1) {
+            others.commands.append(&command);
+            continue;
+        }
+        if (!places.contains(caption)) {
+            places.insert(caption, static_cast<int>(menus.size()));
+            menus.append({caption, {}});
+        }
+        menus[places.value(caption)].commands.append(&command);
+    }
+    if (!others.commands.isEmpty())
+        menus.append(others);
+    return menus;
+}
+
 Outcome KnownCommands::list(const QString &program) const
 {
     if (m_shown.isEmpty())
         return nothingShown(program);
-    // A heading for one command says little, so such commands are together, as in the dialog.
-    const QString others = Text::tr("Others");
-    QHash<QString, int> sizes;
-    for (const RememberedCommand &command : m_shown)
-        ++sizes[command.group.simplified()];
-    const auto headOf = [&](const RememberedCommand &command) {
-        const QString head = command.group.simplified();
-        return head.isEmpty() || sizes.value(head) == 1 ? others : head;
-    };
-    QStringList heads;
     qsizetype width = 0;
     for (const RememberedCommand &command : m_shown) {
-        if (const QString head = headOf(command); !heads.contains(head))
-            heads.append(head);
         if (command.identifier.size() <= kWidest)
             width = std::max<qsizetype>(width, command.identifier.size());
     }
-    if (heads.removeAll(others) > 0)
-        heads.append(others);
     Outcome outcome;
-    for (const QString &head : std::as_const(heads)) {
-        outcome.output += head.toLocal8Bit() + '\n';
-        for (const RememberedCommand &command : m_shown) {
-            if (headOf(command) != head)
-                continue;
-            const QString name = command.identifier.simplified().leftJustified(static_cast<int>(width));
-            QString line = QStringLiteral("  %1  %2").arg(name, nameOf(command));
+    const QVector<Menu> all = menus();
+    for (const Menu &menu : all) {
+        outcome.output += menu.caption.toLocal8Bit() + '\n';
+        for (const RememberedCommand *command : menu.commands) {
+            const QString name = command->identifier.simplified().leftJustified(static_cast<int>(width));
+            QString line = QStringLiteral("  %1  %2").arg(name, nameOf(*command));
             while (line.endsWith(QLatin1Char(' ')))
                 line.chop(1);
             outcome.output += line.toLocal8Bit() + '\n';

@@ -6,6 +6,7 @@
 #include "host/files/RememberedCommand.h"
 #include "launcher/Outcome.h"
 
+#include <QHash>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -39,6 +40,14 @@ public:
     }
     // The commands that were shown, in the order in which they were first seen.
     [[nodiscard]] const QVector<gesturewidget::RememberedCommand> &shown() const { return m_shown; }
+    // The commands that were shown, by menu or toolbar, in the order in which they were first seen.
+    // Those that are alone in theirs are together in a last one, "Others".
+    struct Menu
+    {
+        QString caption;
+        QVector<const gesturewidget::RememberedCommand *> commands; // of this object
+    };
+    [[nodiscard]] QVector<Menu> menus() const;
     // All commands that were shown, by menu and toolbar. Fails when none was.
     [[nodiscard]] Outcome list(const QString &program) const;
     // The same as JSON, in the order in which they were first seen.
@@ -50,6 +59,7 @@ private:
 
     QVector<gesturewidget::RememberedCommand> m_shown;
     QStringList m_names; // of those
+    QHash<QString, int> m_places; // among those, by identifier
     QStringList m_wellKnown;
 };
 

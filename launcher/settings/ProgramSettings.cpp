@@ -36,18 +36,50 @@ gesturewidget::SettingsFile::Values ownSettings(const QString &path, QString *no
     return values;
 }
 
+gesturewidget::ProgramProfile profileOf(const Subject &subject)
+{
+    return gesturewidget::ProgramProfile::forProgram(subject.name, subject.profileFolders, nullptr);
+}
+
+ProgramSettings settingsOf(const Subject &subject, const gesturewidget::ProgramProfile &profile,
+                           const KnownCommands &commands, QString *notice)
+{
+    const gesturewidget::SiteSettings site(subject.settingsFile());
+    const QString usualTrigger =
+        Bindings::usualTrigger(profile, site.under(ownSettings(subject.settingsFile(), notice)));
+    return {profile, usualTrigger, commands,
+            SettingsTasks(subject.name, subject.settingsFile(), commands, usualTrigger)};
+}
+
 } // namespace
 
 ProgramSettings ProgramSettings::of(const Subject &subject, QString *notice)
 {
-    const gesturewidget::ProgramProfile profile =
-        gesturewidget::ProgramProfile::forProgram(subject.name, subject.profileFolders, nullptr);
-    const gesturewidget::SiteSettings site(subject.settingsFile());
-    const QString usualTrigger =
-        Bindings::usualTrigger(profile, site.under(ownSettings(subject.settingsFile(), notice)));
-    const KnownCommands commands = knownCommands(subject, profile);
-    return {profile, usualTrigger, commands,
-            SettingsTasks(subject.name, subject.settingsFile(), commands, usualTrigger)};
+    const gesturewidget::ProgramProfile profile = profileOf(subject);
+    return settingsOf(subject, profile, knownCommands(subject, profile), notice);
+}
+
+void ProgramSettings::update(const Subject &subject, QString *notice)
+{
+    *this = settingsOf(subject, profileOf(subject), commands, notice);
+}
+
+QStringList ProgramSettings::tasksOfProgram() const
+{
+    QStringList found = profile.taskBindings.keys();
+    for (const QString &action : profile.taskActions) {
+        const gesturewidget::RememberedCommand *one = commands.find(action);
+        if (!one || one->isInToolBar)
+            continue;
+        // The group of such actions is one menu of the program.
+        for (const gesturewidget::RememberedCommand &command : commands.shown()) {
+            if (command.group == one->group && command.way == one->way && !command.isInToolBar)
+                found.append(command.identifier);
+        }
+        break;
+    }
+    found.removeDuplicates();
+    return found;
 }
 
 } // namespace launcher

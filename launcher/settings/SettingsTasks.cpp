@@ -24,7 +24,7 @@ using gesturewidget::FileWriter;
 using gesturewidget::SettingsFile;
 namespace ringsettings = gesturewidget::ringsettings;
 
-// What differs between two states of the settings.
+// The difference between two states of the settings.
 SettingsChange changeBetween(const Bindings &before, const Bindings &after)
 {
     const SettingsFile::Values old = before.toSettings();
@@ -39,13 +39,7 @@ SettingsChange changeBetween(const Bindings &before, const Bindings &after)
     return change;
 }
 
-QString triggerName()
-{
-    return SettingsFile::nameOf(gesturewidget::settingsnames::hostSection(),
-                                gesturewidget::settingsnames::triggerKey());
-}
-
-// What a file with the values `own` holds after `written`.
+// The values of a file that had `own` when `written` have been written to it.
 SettingsFile::Values merged(SettingsFile::Values own, const SettingsFile::Values &written)
 {
     for (auto it = written.cbegin(); it != written.cend(); ++it) {
@@ -269,12 +263,8 @@ Outcome SettingsTasks::bind(const QString &direction, const QString &command)
     return outcome;
 }
 
-Outcome SettingsTasks::setRing(const QString &task, const QString &kind,
-                               const QHash<QString, QString> &first)
+Outcome SettingsTasks::setRing(const QString &task, bool isOwn, const QHash<QString, QString> &first)
 {
-    const bool isOwn = kind == QLatin1String("own");
-    if (!isOwn && kind != QLatin1String("shared"))
-        return Outcome::failure(Text::tr("a ring is \"own\" or \"shared\", not \"%1\"").arg(kind));
     SettingsFile file(m_file);
     const bool isDone = file.change([&](const SettingsFile::Values &now) {
         return isOwn ? ringsettings::ownRing(now, task, first, Bindings::fromSettings(now).toSettings())
@@ -300,7 +290,7 @@ Outcome SettingsTasks::reset(SettingsChange *made)
             if (isOfModule && m_site.values().contains(it.key()))
                 it.value() = QString(); // so that the administrator's counts
         }
-        const QString name = triggerName();
+        const QString name = Bindings::triggerName();
         if (bindings.trigger.isEmpty() && m_site.values().contains(name))
             values.remove(name);
         change = changeBetween(before, Bindings::fromSettings(m_site.under(merged(own, values))));
@@ -384,11 +374,11 @@ Outcome SettingsTasks::setTrigger(const QString &text, SettingsChange *made)
     SettingsFile file(m_file);
     SettingsChange change;
     const bool isDone = file.change([&](const SettingsFile::Values &own) {
-        const bool isOfSite = wanted.isEmpty() && m_site.values().contains(triggerName());
+        const bool isOfSite = wanted.isEmpty() && m_site.values().contains(Bindings::triggerName());
         SettingsFile::Values values;
-        values.insert(triggerName(), isOfSite          ? QString()
-                                     : wanted.isNull() ? QStringLiteral("")
-                                                       : wanted);
+        values.insert(Bindings::triggerName(), isOfSite          ? QString()
+                                               : wanted.isNull() ? QString(QLatin1String(""))
+                                                                 : wanted);
         change = changeBetween(Bindings::fromSettings(m_site.under(own)),
                                Bindings::fromSettings(m_site.under(merged(own, values))));
         return values;

@@ -15,7 +15,7 @@
 
 namespace launcher {
 
-// What a task changed in the settings, to take it back.
+// A change of the settings by one task, kept so that it can be taken back.
 struct SettingsChange
 {
     [[nodiscard]] bool isEmpty() const { return after.isEmpty(); }
@@ -62,10 +62,9 @@ public:
     // name the command; "" and "none" empty the direction. If the command had another direction of
     // that scheme, it loses that one.
     [[nodiscard]] Outcome bind(const QString &direction, const QString &command);
-    // Gives a task a ring of its own, or lets it use the shared one again. `first` are the profile's
-    // first bindings for the task, by key.
-    [[nodiscard]] Outcome setRing(const QString &task, const QString &kind,
-                                  const QHash<QString, QString> &first);
+    // Gives a task a ring of its own, or lets it use the shared one again. Its own ring is kept then
+    // and comes back later. `first` are the profile's first bindings for the task, by key.
+    [[nodiscard]] Outcome setRing(const QString &task, bool isOwn, const QHash<QString, QString> &first);
     // Brings back all fourteen initial values, which are the administrator's where there are some.
     // The trigger stays; the output says so.
     [[nodiscard]] Outcome reset(SettingsChange *made = nullptr);

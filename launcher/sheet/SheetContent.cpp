@@ -74,19 +74,4 @@ QString SheetContent::triggerInWords() const
     return keys.isEmpty() ? button : Text::tr("%1 and %2").arg(keys.join(QStringLiteral(", ")), button);
 }
 
-QString SheetContent::directionInWords(const QString &direction)
-{
-    static const QHash<QString, const char *> words{
-        {QStringLiteral("up"), QT_TRANSLATE_NOOP("launcher", "up")},
-        {QStringLiteral("up-left"), QT_TRANSLATE_NOOP("launcher", "up left")},
-        {QStringLiteral("left"), QT_TRANSLATE_NOOP("launcher", "left")},
-        {QStringLiteral("down-left"), QT_TRANSLATE_NOOP("launcher", "down left")},
-        {QStringLiteral("down"), QT_TRANSLATE_NOOP("launcher", "down")},
-        {QStringLiteral("down-right"), QT_TRANSLATE_NOOP("launcher", "down right")},
-        {QStringLiteral("right"), QT_TRANSLATE_NOOP("launcher", "right")},
-        {QStringLiteral("up-right"), QT_TRANSLATE_NOOP("launcher", "up right")}};
-    const char *known = words.value(direction);
-    return known ? Text::tr(known) : direction;
-}
-
 } // namespace launcher

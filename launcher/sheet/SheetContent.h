@@ -26,8 +26,6 @@ struct SheetContent
     [[nodiscard]] bool read(const QByteArray &json);
     // The trigger in words: "the right button", "Ctrl and the right button".
     [[nodiscard]] QString triggerInWords() const;
-    // "up left" for "up-left", in the person's language; an unknown direction as it is.
-    [[nodiscard]] static QString directionInWords(const QString &direction);
 
     QString program;
     QString trigger; // see host/files/TriggerText.h

@@ -3,6 +3,7 @@
 
 #include "launcher/sheet/SheetPainter.h"
 
+#include "launcher/settings/Bindings.h"
 #include "launcher/sheet/FittedText.h"
 #include "launcher/sheet/RingPicture.h"
 #include "launcher/Text.h"
@@ -156,7 +157,7 @@ void SheetPainter::paintRow(QPainter &painter, const QRectF &row,
 
     const QRectF direction = column(0.0, kDirectionColumn);
     paintImage(painter, arrow(command.direction), iconIn(direction));
-    paintText(launcher::SheetContent::directionInWords(command.direction), besideIcon(direction),
+    paintText(launcher::Bindings::directionInWords(command.direction), besideIcon(direction),
               palette::kRim);
 
     const QRectF name = column(kDirectionColumn, kCommandColumn);

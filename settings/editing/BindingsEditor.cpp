@@ -5,11 +5,15 @@
 
 #include "host/files/CommandNames.h"
 #include "host/files/TriggerText.h"
+#include "launcher/Folders.h"
+#include "launcher/programs/RunningPrograms.h"
 
-#include <QCoreApplication>
 #include <QDateTime>
 #include <QFileInfo>
 #include <QUndoCommand>
+
+#include <algorithm>
+#include <utility>
 
 namespace settings {
 namespace {
@@ -17,53 +21,40 @@ namespace {
 using launcher::Bindings;
 using launcher::Outcome;
 using launcher::SettingsChange;
+using launcher::SettingsTasks;
 
 // Several files change at once when something is kept. Milliseconds.
 constexpr int kSettle = 30;
 
 } // namespace
 
-QString directionInWords(const QString &name)
-{
-    static constexpr const char *kNames[] = {QT_TRANSLATE_NOOP("settings::Directions", "up"),
-                                             QT_TRANSLATE_NOOP("settings::Directions", "up-left"),
-                                             QT_TRANSLATE_NOOP("settings::Directions", "left"),
-                                             QT_TRANSLATE_NOOP("settings::Directions", "down-left"),
-                                             QT_TRANSLATE_NOOP("settings::Directions", "down"),
-                                             QT_TRANSLATE_NOOP("settings::Directions", "down-right"),
-                                             QT_TRANSLATE_NOOP("settings::Directions", "right"),
-                                             QT_TRANSLATE_NOOP("settings::Directions", "up-right")};
-    for (const char *one : kNames) {
-        if (name == QLatin1String(one))
-            return QCoreApplication::translate("settings::Directions", one)
-                .replace(QLatin1Char('-'), QLatin1Char(' '));
-    }
-    return name;
-}
-
 // A change that has been made when it comes into the stack.
 class BindingsEditor::Change : public QUndoCommand
 {
 public:
-    Change(BindingsEditor &editor, const SettingsChange &change, const QString &text)
+    using Task = std::function<Outcome(SettingsTasks &)>;
+
+    Change(BindingsEditor &editor, const QString &text, Task takeBack, Task makeAgain)
         : QUndoCommand(text)
         , m_editor(editor)
-        , m_change(change)
+        , m_takeBack(std::move(takeBack))
+        , m_makeAgain(std::move(makeAgain))
     {
     }
 
-    void undo() override { finish(m_editor.m_settings.tasks.takeBack(m_change)); }
+    void undo() override { perform(m_takeBack); }
 
     void redo() override
     {
         if (m_isMade)
-            finish(m_editor.m_settings.tasks.makeAgain(m_change));
+            perform(m_makeAgain);
         m_isMade = true;
     }
 
 private:
-    void finish(const Outcome &outcome)
+    void perform(const Task &task)
     {
+        const Outcome outcome = task(m_editor.m_settings.tasks);
         if (!outcome.isDone()) {
             setObsolete(true); // the stack forgets it
             Q_EMIT m_editor.failed(outcome.complaint);
@@ -72,7 +63,8 @@ private:
     }
 
     BindingsEditor &m_editor;
-    SettingsChange m_change;
+    Task m_takeBack;
+    Task m_makeAgain;
     bool m_isMade = false;
 };
 
@@ -80,6 +72,7 @@ BindingsEditor::BindingsEditor(const launcher::Subject &subject, const QString &
     : QObject(parent)
     , m_subject(subject)
     , m_title(title)
+    , m_seenCommands(stateOf(subject.catalogueFile())) // before it is read
     , m_settings(launcher::ProgramSettings::of(subject, &m_notice))
     , m_rings(m_settings.tasks.tasks())
     , m_bindings(m_settings.tasks.bindings())
@@ -89,17 +82,45 @@ BindingsEditor::BindingsEditor(const launcher::Subject &subject, const QString &
     // Reading may itself write, such as a copy of a damaged file, so only other content counts.
     connect(&m_reload, &QTimer::timeout, this, [this] {
         watch();
-        if (m_seen != stateOfFiles())
+        if (m_seenSettings != stateOf(m_subject.settingsFile())
+            || m_seenCommands != stateOf(m_subject.catalogueFile()))
             reload();
     });
     connect(&m_watcher, &QFileSystemWatcher::directoryChanged, &m_reload, qOverload<>(&QTimer::start));
     watch();
-    m_seen = stateOfFiles();
+    m_seenSettings = stateOf(m_subject.settingsFile());
 }
 
 QString BindingsEditor::trigger() const
 {
     return m_bindings.trigger.isEmpty() ? m_settings.usualTrigger : m_bindings.trigger;
+}
+
+bool BindingsEditor::isUsedByProgram(const QString &trigger) const
+{
+    if (!profile().usedTriggers.isEmpty())
+        return profile().usedTriggers.contains(trigger);
+    const QString right = QStringLiteral("right");
+    return trigger == right && usualTrigger() != right;
+}
+
+bool BindingsEditor::isTriggerPending() const
+{
+    if (m_triggersInUse.isEmpty())
+        return false;
+    const QList<qint64> running = launcher::runningWithGestures(m_subject);
+    return std::any_of(running.begin(), running.end(), [this](qint64 process) {
+        return m_triggersInUse.value(process, trigger()) != trigger();
+    });
+}
+
+void BindingsEditor::noteTriggerInUse(const QString &trigger)
+{
+    const QList<qint64> running = launcher::runningWithGestures(m_subject);
+    QHash<qint64, QString> inUse;
+    for (const qint64 process : running)
+        inUse.insert(process, m_triggersInUse.value(process, trigger));
+    m_triggersInUse = inUse;
 }
 
 QString BindingsEditor::captionOf(const QString &identifier) const
@@ -110,20 +131,11 @@ QString BindingsEditor::captionOf(const QString &identifier) const
 
 bool BindingsEditor::bind(int direction, const QString &identifier)
 {
-    const QString name = Bindings::directionNames(m_bindings.scheme).value(direction);
-    SettingsChange made;
-    const Outcome outcome = m_settings.tasks.edit(
-        [direction, &identifier, this](Bindings &bindings) {
-            if (bindings.scheme != m_bindings.scheme)
-                return tr("The number of directions was changed elsewhere meanwhile.");
-            bindings.bind(direction, identifier);
-            return QString();
-        },
-        &made);
-    return finish(outcome, made,
-                  identifier.isEmpty()
-                      ? tr("Empty %1").arg(directionInWords(name))
-                      : tr("Put \"%1\" %2").arg(captionOf(identifier), directionInWords(name)));
+    const QString name = nameOf(direction);
+    return changeDirections(
+        identifier.isEmpty() ? tr("Empty %1").arg(name)
+                             : tr("Put \"%1\" %2").arg(captionOf(identifier), name),
+        [direction, &identifier](Bindings &bindings) { bindings.bind(direction, identifier); });
 }
 
 bool BindingsEditor::unbind(int direction)
@@ -133,44 +145,26 @@ bool BindingsEditor::unbind(int direction)
 
 bool BindingsEditor::swap(int direction, int other)
 {
-    const QStringList names = Bindings::directionNames(m_bindings.scheme);
-    SettingsChange made;
-    const Outcome outcome = m_settings.tasks.edit(
-        [direction, other, this](Bindings &bindings) {
-            if (bindings.scheme != m_bindings.scheme)
-                return tr("The number of directions was changed elsewhere meanwhile.");
-            bindings.swap(direction, other);
-            return QString();
-        },
-        &made);
-    return finish(
-        outcome, made,
-        tr("Exchange %1 and %2")
-            .arg(directionInWords(names.value(direction)), directionInWords(names.value(other))));
+    return changeDirections(tr("Exchange %1 and %2").arg(nameOf(direction), nameOf(other)),
+                            [direction, other](Bindings &bindings) { bindings.swap(direction, other); });
 }
 
 bool BindingsEditor::setScheme(int scheme)
 {
-    SettingsChange made;
-    const Outcome outcome = m_settings.tasks.edit(
-        [scheme](Bindings &bindings) {
-            bindings.scheme = scheme;
-            return QString();
-        },
-        &made);
-    return finish(outcome, made, scheme == 4 ? tr("Four Directions") : tr("Eight Directions"));
+    return change(scheme == 4 ? tr("Four Directions") : tr("Eight Directions"),
+                  [scheme](Bindings &bindings) {
+                      bindings.scheme = scheme;
+                      return QString();
+                  });
 }
 
 bool BindingsEditor::setEnabled(bool isEnabled)
 {
-    SettingsChange made;
-    const Outcome outcome = m_settings.tasks.edit(
-        [isEnabled](Bindings &bindings) {
-            bindings.enabled = isEnabled;
-            return QString();
-        },
-        &made);
-    return finish(outcome, made, isEnabled ? tr("Switch Gestures On") : tr("Switch Gestures Off"));
+    return change(isEnabled ? tr("Switch Gestures On") : tr("Switch Gestures Off"),
+                  [isEnabled](Bindings &bindings) {
+                      bindings.enabled = isEnabled;
+                      return QString();
+                  });
 }
 
 bool BindingsEditor::setTrigger(const QString &trigger)
@@ -194,6 +188,39 @@ void BindingsEditor::setRing(const QString &task)
     reload();
 }
 
+QStringList BindingsEditor::tasksOfProgram() const
+{
+    QStringList tasks = m_settings.tasksOfProgram() + m_rings;
+    tasks.removeDuplicates();
+    std::sort(tasks.begin(), tasks.end(), [this](const QString &one, const QString &other) {
+        return QString::localeAwareCompare(captionOf(one), captionOf(other)) < 0;
+    });
+    return tasks;
+}
+
+bool BindingsEditor::setOwnRing(const QString &task, bool isOwn)
+{
+    if (m_rings.contains(task) == isOwn)
+        return true;
+    const auto set = [task, first = profile().taskBindings.value(task)](bool isWanted) {
+        return [task, first, isWanted](SettingsTasks &tasks) {
+            return tasks.setRing(task, isWanted, first);
+        };
+    };
+    const Outcome outcome = set(isOwn)(m_settings.tasks);
+    if (outcome.isDone()) {
+        m_undo.push(new Change(*this,
+                               isOwn ? tr("Give \"%1\" Its Own Ring").arg(captionOf(task))
+                                     : tr("Let \"%1\" Use the Shared Ring").arg(captionOf(task)),
+                               set(!isOwn), set(isOwn)));
+        m_settings.tasks.setTask(isOwn ? task : QString());
+    }
+    reload();
+    if (!outcome.isDone())
+        Q_EMIT failed(outcome.complaint);
+    return outcome.isDone();
+}
+
 bool BindingsEditor::reset()
 {
     setRing({});
@@ -210,10 +237,34 @@ bool BindingsEditor::importFrom(const QString &path)
     return finish(outcome, made, tr("Import"));
 }
 
+QString BindingsEditor::nameOf(int direction) const
+{
+    return Bindings::directionInWords(Bindings::directionNames(m_bindings.scheme).value(direction));
+}
+
+bool BindingsEditor::change(const QString &text, const std::function<QString(Bindings &)> &edit)
+{
+    SettingsChange made;
+    const Outcome outcome = m_settings.tasks.edit(edit, &made);
+    return finish(outcome, made, text);
+}
+
+bool BindingsEditor::changeDirections(const QString &text, const std::function<void(Bindings &)> &edit)
+{
+    return change(text, [this, &edit](Bindings &bindings) {
+        if (bindings.scheme != m_bindings.scheme)
+            return tr("The number of directions was changed elsewhere meanwhile.");
+        edit(bindings);
+        return QString();
+    });
+}
+
 bool BindingsEditor::finish(const Outcome &outcome, const SettingsChange &made, const QString &text)
 {
     if (outcome.isDone() && !made.isEmpty())
-        m_undo.push(new Change(*this, made, text));
+        m_undo.push(new Change(
+            *this, text, [made](SettingsTasks &tasks) { return tasks.takeBack(made); },
+            [made](SettingsTasks &tasks) { return tasks.makeAgain(made); }));
     reload();
     if (!outcome.isDone())
         Q_EMIT failed(outcome.complaint);
@@ -225,12 +276,21 @@ void BindingsEditor::reload()
     const QVector<gesturewidget::RememberedCommand> before = m_settings.commands.shown();
     const QString ring = this->ring();
     const QString noticeBefore = notice();
-    m_settings = launcher::ProgramSettings::of(m_subject, &m_notice);
+    const QString triggerBefore = trigger();
+    // A person waits for each change, and reading the commands takes longer than all the rest.
+    const QString commandsNow = stateOf(m_subject.catalogueFile());
+    if (commandsNow == m_seenCommands)
+        m_settings.update(m_subject, &m_notice);
+    else
+        m_settings = launcher::ProgramSettings::of(m_subject, &m_notice);
+    m_seenCommands = commandsNow;
     m_rings = m_settings.tasks.tasks();
     m_settings.tasks.setTask(m_rings.contains(ring) ? ring : QString());
     m_bindings = m_settings.tasks.bindings();
+    if (trigger() != triggerBefore)
+        noteTriggerInUse(triggerBefore);
     watch();
-    m_seen = stateOfFiles();
+    m_seenSettings = stateOf(m_subject.settingsFile());
     if (before != m_settings.commands.shown())
         Q_EMIT commandsChanged();
     Q_EMIT bindingsChanged();
@@ -238,22 +298,16 @@ void BindingsEditor::reload()
         Q_EMIT noticed(notice());
 }
 
-QString BindingsEditor::stateOfFiles() const
+QString BindingsEditor::stateOf(const QString &path)
 {
-    QString state;
-    for (const QString &path : {m_subject.settingsFile(), m_subject.catalogueFile()}) {
-        const QFileInfo file(path);
-        state += QStringLiteral("%1 %2 ").arg(file.lastModified().toMSecsSinceEpoch()).arg(file.size());
-    }
-    return state;
+    const QFileInfo file(path);
+    return QStringLiteral("%1 %2").arg(file.lastModified().toMSecsSinceEpoch()).arg(file.size());
 }
 
 void BindingsEditor::watch()
 {
     // Until something is kept, the folder may be missing.
-    QString folder = QFileInfo(m_subject.settingsFile()).absolutePath();
-    while (!QFileInfo(folder).isDir() && folder != QFileInfo(folder).path())
-        folder = QFileInfo(folder).path();
+    const QString folder = launcher::nearestFolder(QFileInfo(m_subject.settingsFile()).absolutePath());
     const QStringList watched = m_watcher.directories();
     if (watched == QStringList(folder))
         return;

@@ -9,10 +9,13 @@
 #include "launcher/settings/ProgramSettings.h"
 
 #include <QFileSystemWatcher>
+#include <QHash>
 #include <QObject>
 #include <QString>
 #include <QTimer>
 #include <QUndoStack>
+
+#include <functional>
 
 namespace settings {
 
@@ -23,7 +26,7 @@ class BindingsEditor : public QObject
     Q_OBJECT
 
 public:
-    // `title` is what people call the program.
+    // `title` is the name by which people know the program.
     BindingsEditor(const launcher::Subject &subject, const QString &title, QObject *parent = nullptr);
 
     [[nodiscard]] const launcher::Subject &subject() const { return m_subject; }
@@ -34,6 +37,12 @@ public:
     // The trigger that counts, see host/files/TriggerText.h.
     [[nodiscard]] QString trigger() const;
     [[nodiscard]] const QString &usualTrigger() const { return m_settings.usualTrigger; }
+    // True if the program itself does something with that drag, by its profile or because its
+    // drawings do not go with the right button alone.
+    [[nodiscard]] bool isUsedByProgram(const QString &trigger) const;
+    // True while the program runs with another trigger than trigger(), because it reads its trigger
+    // when it starts. Knows only of changes that this object has seen.
+    [[nodiscard]] bool isTriggerPending() const;
     [[nodiscard]] const launcher::SettingsTasks &tasks() const { return m_settings.tasks; }
     // One line about the file, such as that it was damaged; empty if all is well.
     [[nodiscard]] const QString &notice() const { return m_notice; }
@@ -42,9 +51,11 @@ public:
     [[nodiscard]] const QStringList &rings() const { return m_rings; }
     [[nodiscard]] const QString &ring() const { return m_settings.tasks.task(); }
     void setRing(const QString &task);
+    // The tasks that can have rings of their own, as far as they are known, by caption. Empty if the
+    // program's profile knows no tasks.
+    [[nodiscard]] QStringList tasksOfProgram() const;
     [[nodiscard]] QUndoStack *undoStack() { return &m_undo; }
-    // What a person reads for a command: its caption, or a word for an identifier that the program
-    // has not shown yet.
+    // The caption of a command, or a word made from an identifier that the program has not shown yet.
     [[nodiscard]] QString captionOf(const QString &identifier) const;
 
     // Each returns whether it was done; otherwise failed() says why not. `direction` is an index in
@@ -54,6 +65,9 @@ public:
     bool swap(int direction, int other);
     bool setScheme(int scheme);
     bool setEnabled(bool isEnabled);
+    // Gives a task a ring of its own and shows that, or lets the task use the shared ring again and
+    // shows this. The task's own ring is kept and comes back with the next one of its own.
+    bool setOwnRing(const QString &task, bool isOwn);
     // See launcher::SettingsTasks::setTrigger().
     bool setTrigger(const QString &trigger);
     // Both are about the shared ring, and show it.
@@ -75,26 +89,33 @@ Q_SIGNALS:
 private:
     class Change;
 
+    [[nodiscard]] QString nameOf(int direction) const; // in words
+    // Changes the shown ring; `text` names the change in the undo stack. For `edit` see
+    // launcher::SettingsTasks::edit().
+    bool change(const QString &text, const std::function<QString(launcher::Bindings &)> &edit);
+    // The same for an edit that holds direction indices of the scheme shown.
+    bool changeDirections(const QString &text, const std::function<void(launcher::Bindings &)> &edit);
     bool finish(const launcher::Outcome &outcome, const launcher::SettingsChange &made,
                 const QString &text);
     // Watches the folders of the files, which are replaced when they change.
     void watch();
-    // Differs when the content of a file may differ.
-    [[nodiscard]] QString stateOfFiles() const;
+    // Remembers that the processes that run now have a trigger.
+    void noteTriggerInUse(const QString &trigger);
+    // Returns a text that differs when the content of the file may differ.
+    [[nodiscard]] static QString stateOf(const QString &path);
 
     launcher::Subject m_subject;
     QString m_title;
     QString m_notice; // set while m_settings is made
+    QString m_seenCommands; // stateOf() the program's commands when they were read last
     launcher::ProgramSettings m_settings;
     QStringList m_rings;
     launcher::Bindings m_bindings;
     QUndoStack m_undo;
     QFileSystemWatcher m_watcher;
     QTimer m_reload;
-    QString m_seen; // stateOfFiles() when they were read last
+    QHash<qint64, QString> m_triggersInUse; // by process of the program, as far as they were seen
+    QString m_seenSettings; // stateOf() the settings when they were read last
 };
-
-// "up left" for the name of a direction "up-left", in the person's language.
-[[nodiscard]] QString directionInWords(const QString &name);
 
 } // namespace settings

@@ -6,7 +6,6 @@
 #include <QObject>
 
 QT_BEGIN_NAMESPACE
-class QPagedPaintDevice;
 class QWidget;
 QT_END_NAMESPACE
 

@@ -85,7 +85,7 @@ void ImportPreview::compare(const BindingsEditor &editor, const launcher::Bindin
         for (int i = 0; i < scheme; ++i) {
             if (before.at(i) == after.at(i))
                 continue;
-            const QString direction = directionInWords(names.at(i));
+            const QString direction = launcher::Bindings::directionInWords(names.at(i));
             addLine(tr("%1 (of %2 directions)")
                         .arg(direction.left(1).toUpper() + direction.mid(1))
                         .arg(scheme),

@@ -23,7 +23,8 @@ struct Advice
     Remedy action = Remedy::None;
 };
 
-// What stands in the way; empty if nothing does. `title` is what people call the program.
+// Everything that stands in the way of gestures; empty if nothing does. `title` is the name by which
+// people know the program.
 [[nodiscard]] QList<Advice> adviceFor(const launcher::Diagnosis &diagnosis, const QString &title);
 
 } // namespace settings

@@ -35,8 +35,8 @@ QIcon programIcon(const QString &name)
         if (icon.isNull() && !name.isEmpty() && QFileInfo(path).isFile())
             icon = QIcon(path);
     }
-    if (icon.isNull() || icon.availableSizes().isEmpty())
-        icon = icon.isNull() ? QIcon::fromTheme(QStringLiteral("application-x-executable")) : icon;
+    if (icon.isNull())
+        icon = QIcon::fromTheme(QStringLiteral("application-x-executable"));
     return icon.isNull() ? QApplication::style()->standardIcon(QStyle::SP_DesktopIcon) : icon;
 }
 
@@ -142,8 +142,6 @@ QVariant ProgramModel::data(const QModelIndex &index, int role) const
     case Qt::AccessibleDescriptionRole:
     case NoteRole:
         return row.isOn ? tr("Starts with gestures") : tr("Starts without gestures");
-    case TypedRole:
-        return row.program.typed;
     default:
         return {};
     }

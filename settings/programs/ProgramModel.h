@@ -19,8 +19,7 @@ class ProgramModel : public QAbstractListModel
 
 public:
     enum Role {
-        NoteRole = Qt::UserRole, // "Starts with gestures"
-        TypedRole // the program as it is typed, a QByteArray
+        NoteRole = Qt::UserRole // "Starts with gestures"
     };
 
     explicit ProgramModel(const launcher::DesktopMenu::Places &places, QObject *parent = nullptr);

@@ -95,11 +95,6 @@ void ProgramPanel::choose(int row)
     m_list->scrollTo(index);
 }
 
-int ProgramPanel::chosenRow() const
-{
-    return m_chosen.row();
-}
-
 void ProgramPanel::filter(const QString &text)
 {
     m_filter->setFilterFixedString(text.trimmed());

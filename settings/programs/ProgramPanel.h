@@ -32,7 +32,6 @@ public:
     void hideProgress();
     // Makes a row of the model the chosen one.
     void choose(int row);
-    [[nodiscard]] int chosenRow() const; // -1 for none
 
 Q_SIGNALS:
     // A person has chosen a row of the model.

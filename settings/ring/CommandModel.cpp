@@ -5,8 +5,6 @@
 
 #include "settings/editing/BindingsEditor.h"
 
-#include <QHash>
-
 #include <algorithm>
 
 namespace settings {
@@ -46,25 +44,13 @@ CommandModel::CommandModel(QObject *parent)
 void CommandModel::showCommands(const BindingsEditor &editor)
 {
     removeRows(0, rowCount());
-    // A menu with one command says little, so such commands are together, at the end.
-    QHash<QString, int> sizes;
-    for (const gesturewidget::RememberedCommand &command : editor.commands().shown())
-        ++sizes[command.group.simplified()];
-    QHash<QString, QStandardItem *> menus;
-    QStandardItem *others = nullptr;
-    for (const gesturewidget::RememberedCommand &command : editor.commands().shown()) {
-        const QString group = command.group.simplified();
-        const bool isAlone = group.isEmpty() || sizes.value(group) == 1;
-        if (isAlone && !others)
-            others = newMenu(tr("Others"));
-        QStandardItem *&menu = isAlone ? others : menus[group];
-        if (!menu)
-            menu = appendMenu(newMenu(group));
-        addCommand(*menu, command.identifier, editor.captionOf(command.identifier), command.tip,
-                   QIcon(pixmapOf(command.icon)));
+    const QVector<launcher::KnownCommands::Menu> menus = editor.commands().menus();
+    for (const launcher::KnownCommands::Menu &one : menus) {
+        QStandardItem *menu = appendMenu(one.caption);
+        for (const gesturewidget::RememberedCommand *command : one.commands)
+            addCommand(*menu, command->identifier, editor.captionOf(command->identifier), command->tip,
+                       QIcon(pixmapOf(command->icon)));
     }
-    if (others)
-        appendMenu(others);
     if (rowCount() == 0) {
         QStringList identifiers = editor.profile().wellKnownCommands.keys();
         identifiers += launcher::Bindings::initial().eight;
@@ -72,25 +58,20 @@ void CommandModel::showCommands(const BindingsEditor &editor)
         std::sort(identifiers.begin(), identifiers.end(), [&](const QString &one, const QString &other) {
             return QString::localeAwareCompare(editor.captionOf(one), editor.captionOf(other)) < 0;
         });
-        QStandardItem *menu = appendMenu(newMenu(tr("First commands")));
+        QStandardItem *menu = appendMenu(tr("First commands"));
         for (const QString &identifier : std::as_const(identifiers))
             addCommand(*menu, identifier, editor.captionOf(identifier), {}, {});
     }
     showDirections(editor);
 }
 
-QStandardItem *CommandModel::newMenu(const QString &caption)
+QStandardItem *CommandModel::appendMenu(const QString &caption)
 {
     auto *menu = new QStandardItem(caption);
     menu->setFlags(Qt::ItemIsEnabled);
     QFont bold = menu->font();
     bold.setBold(true);
     menu->setFont(bold);
-    return menu;
-}
-
-QStandardItem *CommandModel::appendMenu(QStandardItem *menu)
-{
     auto *beside = new QStandardItem;
     beside->setFlags(Qt::ItemIsEnabled);
     appendRow({menu, beside});
@@ -122,10 +103,10 @@ void CommandModel::showDirections(const BindingsEditor &editor)
             const auto direction =
                 static_cast<int>(bound.indexOf(command->data(IdentifierRole).toString()));
             if (place->data(DirectionRole).isValid() && place->data(DirectionRole).toInt() == direction
-                && place->text() == directionInWords(names.value(direction)))
+                && place->text() == launcher::Bindings::directionInWords(names.value(direction)))
                 continue;
             place->setData(direction, DirectionRole);
-            place->setText(directionInWords(names.value(direction)));
+            place->setText(launcher::Bindings::directionInWords(names.value(direction)));
             place->setIcon(direction < 0 ? QIcon() : arrowIcon(names.at(direction)));
             command->setData(direction < 0 ? command->text()
                                            : tr("%1, %2").arg(command->text(), place->text()),

@@ -36,9 +36,8 @@ public:
 private:
     static void addCommand(QStandardItem &menu, const QString &identifier, const QString &caption,
                            const QString &tip, const QIcon &icon);
-    [[nodiscard]] static QStandardItem *newMenu(const QString &caption);
-    // The model owns it from then on.
-    QStandardItem *appendMenu(QStandardItem *menu);
+    // The model owns the menu.
+    QStandardItem *appendMenu(const QString &caption);
 };
 
 // A command with its caption and its icon.

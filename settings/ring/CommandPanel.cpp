@@ -154,10 +154,8 @@ CommandPanel::CommandPanel(QWidget *parent)
         if (!command.identifier.isEmpty() && !(isFour && direction % 2 != 0))
             Q_EMIT wanted(command.identifier, isFour ? direction / 2 : direction);
     });
-    connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {
-        updateButton();
-        Q_EMIT chosen();
-    });
+    connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &CommandPanel::updateButton);
     updateButton();
 }
 
@@ -210,7 +208,7 @@ void CommandPanel::filter(const QString &text)
     const bool isEmpty = m_filter->rowCount() == 0;
     m_nothing->setVisible(isEmpty);
     m_view->setVisible(!isEmpty);
-    // What was chosen by hand stays as long as it is in the list.
+    // A command that the person chose stays chosen while the list has it.
     const bool isChosen = !chosenCommand().identifier.isEmpty()
                        && chosenCommand().caption.contains(text.trimmed(), Qt::CaseInsensitive)
                        && text == m_lastSearch;
@@ -243,7 +241,7 @@ void CommandPanel::fillMenu(QMenu &menu)
         const QString holder = m_ring.at(i).caption;
         if (m_ring.at(i).identifier == command.identifier)
             present = i;
-        QString text = directionInWords(names.at(i));
+        QString text = launcher::Bindings::directionInWords(names.at(i));
         text = text.left(1).toUpper() + text.mid(1);
         QAction *action = menu.addAction(
             arrowIcon(names.at(i)),

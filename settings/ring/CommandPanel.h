@@ -35,7 +35,6 @@ Q_SIGNALS:
     // Ctrl and a key were pressed that has a place around the others: the arrows, Home, Page Up,
     // End and Page Down, as on a number pad. `direction` is one of the eight.
     void directionTyped(int direction);
-    void chosen(const QModelIndex &index);
 
 protected:
     void startDrag(Qt::DropActions supportedActions) override;
@@ -65,13 +64,12 @@ Q_SIGNALS:
     void wanted(const QString &identifier, int direction);
     // The chosen command is to leave its direction.
     void unwanted(int direction);
-    void chosen();
 
 private:
     void fillMenu(QMenu &menu);
     void showMenu(const QPoint &position);
     void filter(const QString &text);
-    // What was typed means the first command that begins with it, or else the first that has it.
+    // The first command that begins with the text, or else the first that contains it.
     [[nodiscard]] QModelIndex bestHit(const QString &text) const;
     void updateButton();
 

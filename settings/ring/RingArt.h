@@ -6,14 +6,13 @@
 #include <QPixmap>
 #include <QPointF>
 #include <QRectF>
-#include <QSize>
 
 // Geometry and images of the ring at any size. All points and rectangles are in pixels of the
 // square that shows the ring, from its corner. Directions are indices as in
 // launcher::Bindings::directionNames(); `count` is 4 or 8.
 namespace settings::ringart {
 
-// What a point lies on.
+// The part of the ring at a point.
 enum class Part { Middle, Band, Outside };
 
 [[nodiscard]] Part partAt(const QPointF &point, double side);

@@ -75,7 +75,7 @@ void RingView::describe()
     const QStringList names = launcher::Bindings::directionNames(count == 4 ? 4 : 8);
     for (int i = 0; i < count; ++i) {
         const QString caption = m_commands.at(i).caption;
-        const QString name = directionInWords(names.at(i));
+        const QString name = launcher::Bindings::directionInWords(names.at(i));
         m_buttons.at(i)->setAccessibleName(caption.isEmpty() ? tr("%1: nothing").arg(name)
                                                              : tr("%1: %2").arg(name, caption));
         m_buttons.at(i)->setAccessibleDescription(

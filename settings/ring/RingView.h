@@ -67,8 +67,6 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    friend class SectorButton;
-
     void layOut();
     void describe();
     void goTo(int direction);

@@ -7,13 +7,15 @@
 
 QT_BEGIN_NAMESPACE
 class QComboBox;
+class QLabel;
 QT_END_NAMESPACE
 
 namespace settings {
 
 class BindingsEditor;
 
-// What starts a gesture: a list to choose from, and a field that records it.
+// A list to choose the trigger from, and a field that records one. Marks the triggers that the
+// program uses itself.
 class TriggerPanel : public QWidget
 {
     Q_OBJECT
@@ -24,6 +26,9 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
     void showTrigger(const BindingsEditor &editor);
+    // Shows only what there is to say about the chosen trigger. The program may have been started or
+    // ended meanwhile.
+    void showNote(const BindingsEditor &editor);
 
 Q_SIGNALS:
     // See launcher::SettingsTasks::setTrigger().
@@ -31,6 +36,7 @@ Q_SIGNALS:
 
 private:
     QComboBox *m_list;
+    QLabel *m_note; // about the chosen trigger
 };
 
 } // namespace settings

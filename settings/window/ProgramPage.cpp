@@ -15,10 +15,11 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QSignalBlocker>
 #include <QSplitter>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace settings {
@@ -100,6 +101,14 @@ QWidget *ProgramPage::createRing()
     m_rings->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_ringLabel = new QLabel(tr("&Ring:"), side);
     m_ringLabel->setBuddy(m_rings);
+    m_ownRings = new QToolButton(side);
+    m_ownRings->setObjectName(QStringLiteral("own_rings_button"));
+    m_ownRings->setText(tr("&Own Rings"));
+    m_ownRings->setToolTip(tr("Choose the tasks that have rings of their own"));
+    m_ownRings->setAccessibleDescription(m_ownRings->toolTip());
+    m_ownRings->setPopupMode(QToolButton::InstantPopup);
+    m_ownRings->setFocusPolicy(Qt::StrongFocus);
+    m_ownRings->setMenu(new QMenu(m_ownRings));
     m_ring = new RingView(side);
     m_hint = new QLabel(tr("Drag a command from the list into a direction. Drag it on to another "
                            "direction to exchange the two, or off the ring to take it away."),
@@ -117,6 +126,7 @@ QWidget *ProgramPage::createRing()
     auto *rings = new QHBoxLayout;
     rings->addWidget(m_ringLabel);
     rings->addWidget(m_rings, 1);
+    rings->addWidget(m_ownRings);
     auto *layout = new QVBoxLayout(side);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(rings);
@@ -155,6 +165,7 @@ void ProgramPage::connectParts()
         if (m_editor)
             m_editor->setRing(m_rings->itemData(index).toString());
     });
+    connect(m_ownRings->menu(), &QMenu::aboutToShow, this, &ProgramPage::fillOwnRings);
     const auto chooseScheme = [this](int scheme) {
         if (m_editor && m_editor->bindings().scheme != scheme)
             m_editor->setScheme(scheme);
@@ -237,6 +248,7 @@ void ProgramPage::examine()
     if (!m_editor)
         return;
     const launcher::Subject subject = launcher::Subject::of(m_editor->subject().typed);
+    m_trigger->showNote(*m_editor);
     m_advice = adviceFor(launcher::diagnose(launcher::Symptoms::of(subject)), m_editor->title());
     showAdvice();
 }
@@ -279,10 +291,31 @@ void ProgramPage::showRings()
     m_rings->clear();
     m_rings->addItem(tr("For all tasks"), QString());
     for (const QString &task : m_editor->rings())
-        m_rings->addItem(task, task);
+        m_rings->addItem(m_editor->captionOf(task), task);
     m_rings->setCurrentIndex(qMax(0, m_rings->findData(m_editor->ring())));
-    m_rings->setVisible(!m_editor->rings().isEmpty());
-    m_ringLabel->setVisible(!m_editor->rings().isEmpty());
+    const bool hasTasks = !m_editor->tasksOfProgram().isEmpty();
+    m_rings->setVisible(hasTasks);
+    m_ringLabel->setVisible(hasTasks);
+    m_ownRings->setVisible(hasTasks);
+}
+
+void ProgramPage::fillOwnRings()
+{
+    QMenu *menu = m_ownRings->menu();
+    menu->clear();
+    if (!m_editor)
+        return;
+    const QStringList tasks = m_editor->tasksOfProgram();
+    for (const QString &task : tasks) {
+        QAction *action =
+            menu->addAction(m_editor->captionOf(task).replace(QLatin1Char('&'), QLatin1String("&&")));
+        action->setCheckable(true);
+        action->setChecked(m_editor->rings().contains(task));
+        connect(action, &QAction::triggered, this, [this, task](bool isOwn) {
+            if (m_editor)
+                m_editor->setOwnRing(task, isOwn);
+        });
+    }
 }
 
 void ProgramPage::showBindings()

@@ -13,6 +13,7 @@ class QComboBox;
 class QLabel;
 class QPushButton;
 class QRadioButton;
+class QToolButton;
 QT_END_NAMESPACE
 
 namespace settings {
@@ -42,7 +43,6 @@ public:
 
 Q_SIGNALS:
     void switchWanted(bool isOn);
-    void startWanted();
 
 private:
     [[nodiscard]] QWidget *createHeader();
@@ -51,6 +51,7 @@ private:
     void connectParts();
     void showBindings();
     void showRings();
+    void fillOwnRings();
     void showCommands();
     void showAdvice();
 
@@ -68,6 +69,7 @@ private:
     QRadioButton *m_eight = nullptr;
     QLabel *m_ringLabel = nullptr;
     QComboBox *m_rings = nullptr;
+    QToolButton *m_ownRings = nullptr;
     RingView *m_ring = nullptr;
     CommandPanel *m_commands = nullptr;
     QLabel *m_hint = nullptr;

@@ -4,6 +4,7 @@
 #include "settings/window/SettingsWindow.h"
 
 #include "host/files/InstallPaths.h"
+#include "launcher/Folders.h"
 #include "launcher/programs/ProgramCheck.h"
 #include "launcher/programs/Subject.h"
 #include "settings/editing/BindingsEditor.h"
@@ -21,7 +22,6 @@
 #include <QMenuBar>
 #include <QProcess>
 #include <QScreen>
-#include <QShowEvent>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QToolBar>
@@ -29,15 +29,13 @@
 
 #include <unistd.h>
 
-#include <algorithm>
-
 namespace settings {
 namespace {
 
 // In heights of a line of text.
 constexpr QSize kSize(75, 48);
 constexpr int kProgramsWidth = 17;
-// What the frame of a window may need, in pixels.
+// The most that a window's frame takes, in pixels.
 constexpr QSize kFrame(16, 48);
 constexpr int kSettle = 300; // milliseconds; an installation writes many entries
 
@@ -46,14 +44,6 @@ launcher::DesktopMenu::Places placesOfMenus()
     const launcher::Environment environment = launcher::readEnvironment(::environ);
     return launcher::DesktopMenu::usualPlaces(environment.value("PATH", launcher::kDefaultSearchPath),
                                               launcher::launcherPath());
-}
-
-bool hasProfile(const launcher::Subject &subject)
-{
-    return std::any_of(
-        subject.profileFolders.begin(), subject.profileFolders.end(), [&subject](const QString &folder) {
-            return QFileInfo::exists(QDir(folder).filePath(subject.name + QLatin1String(".json")));
-        });
 }
 
 } // namespace
@@ -173,12 +163,11 @@ void SettingsWindow::createActions()
                         QKeySequence(int(Qt::CTRL) + int(Qt::Key_Y))});
     edit.addActions({undo, redo});
     edit.addSeparator();
-    QAction *find = ofProgram(add(edit, tr("&Find a Command"), "edit-find", QKeySequence::Find,
-                                  [this] { m_page->focusSearch(); }));
+    ofProgram(add(edit, tr("&Find a Command"), "edit-find", QKeySequence::Find,
+                  [this] { m_page->focusSearch(); }));
     edit.addSeparator();
     QAction *reset = ofProgram(add(edit, tr("Reset to &First Commands..."), "edit-clear-all", {},
                                    [this] { m_exchange->reset(*m_editor); }));
-    Q_UNUSED(find)
     reset->setIconText(tr("Reset..."));
     bar->addActions({undo, redo});
     bar->addSeparator();
@@ -187,19 +176,20 @@ void SettingsWindow::createActions()
     bar->addAction(start);
 }
 
-void SettingsWindow::showEvent(QShowEvent *event)
+void SettingsWindow::paintEvent(QPaintEvent *event)
 {
-    QMainWindow::showEvent(event);
-    // The window appears first, then it looks around.
-    if (!m_wasShown)
+    QMainWindow::paintEvent(event);
+    // The window appears first, then it looks around. The icons of the programs alone take a tenth of
+    // the time until then.
+    if (!m_wasPainted)
         QTimer::singleShot(0, this, &SettingsWindow::search);
-    m_wasShown = true;
+    m_wasPainted = true;
 }
 
 void SettingsWindow::changeEvent(QEvent *event)
 {
     QMainWindow::changeEvent(event);
-    // Whatever a person has done elsewhere meanwhile: installed a package, ended a compositor.
+    // The person may have done something elsewhere: installed a package, ended a compositor.
     if (event->type() == QEvent::ActivationChange && isActiveWindow())
         m_page->examine();
 }
@@ -208,9 +198,7 @@ void SettingsWindow::search()
 {
     QStringList folders = QStringList(m_places.own) + m_places.installed;
     for (QString folder : std::as_const(folders)) {
-        // A folder that is missing shows in the folder in which it will be.
-        while (!QFileInfo(folder).isDir() && folder != QFileInfo(folder).path())
-            folder = QFileInfo(folder).path();
+        folder = launcher::nearestFolder(folder);
         if (!m_watcher.directories().contains(folder))
             m_watcher.addPath(folder);
     }
@@ -219,6 +207,14 @@ void SettingsWindow::search()
         gesturewidget::profileFolders(QDir(QFile::decodeName(launcher::launcherFolder())));
     m_model.beginSearch();
     m_finder.start(launcher::MenuPrograms(m_places, environment, profiles, QLocale().name()));
+}
+
+void SettingsWindow::bringToFront()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
 }
 
 void SettingsWindow::endSearch()
@@ -242,7 +238,9 @@ void SettingsWindow::offerFirst()
     int rank = 0;
     for (int i = 0; i < m_model.rowCount(); ++i) {
         const launcher::Subject subject = launcher::Subject::of(m_model.program(i).typed);
-        const int own = m_model.isOn(i) ? 2 : hasProfile(subject) ? 1 : 0;
+        const int own = m_model.isOn(i)                                                       ? 2
+                      : launcher::profileFile(subject.name, subject.profileFolders).isEmpty() ? 0
+                                                                                              : 1;
         if (own > rank) {
             row = i;
             rank = own;
@@ -271,7 +269,7 @@ BindingsEditor *SettingsWindow::editorOf(const launcher::MenuProgram &program)
     BindingsEditor *&editor = m_editors[program.typed];
     if (!editor) {
         editor = new BindingsEditor(launcher::Subject::of(program.typed), program.name, this);
-        // What was said before is done with. What went wrong now is said after this.
+        // A message is about the state before. A complaint about this change comes later.
         connect(editor, &BindingsEditor::bindingsChanged, m_message, &QWidget::hide);
         connect(editor, &BindingsEditor::failed, m_message, &MessageBar::complain);
         connect(editor, &BindingsEditor::noticed, m_message, &MessageBar::complain);

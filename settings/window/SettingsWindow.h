@@ -38,9 +38,12 @@ public:
 
     // Looks for programs, in the background.
     void search();
+    // Shows the window above all others and gives it the keyboard, as far as the desktop allows that;
+    // otherwise the desktop marks the window in its task bar.
+    void bringToFront();
 
 protected:
-    void showEvent(QShowEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
@@ -68,7 +71,7 @@ private:
     MessageBar *m_message = nullptr;
     Exchange *m_exchange = nullptr;
     QList<QAction *> m_ofProgram; // need a chosen program
-    bool m_wasShown = false;
+    bool m_wasPainted = false;
 };
 
 } // namespace settings

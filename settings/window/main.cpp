@@ -6,6 +6,7 @@
 
 #include "host/language/LanguageChoice.h"
 #include "host/language/Translations.h"
+#include "settings/window/OneWindow.h"
 #include "settings/window/SettingsWindow.h"
 
 #include <QApplication>
@@ -19,10 +20,15 @@ int main(int argc, char **argv)
     QApplication::setApplicationDisplayName(QString());
     QGuiApplication::setDesktopFileName(QStringLiteral("mouse-gestures"));
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("mouse-gestures")));
+    settings::OneWindow one(settings::OneWindow::usualPlace());
+    if (one.isShownByAnother())
+        return 0;
     gesturewidget::Translations translations;
     translations.install(gesturewidget::chooseLanguage(QLocale::system().uiLanguages(),
                                                        gesturewidget::Translations::languages()));
     settings::SettingsWindow window;
+    QObject::connect(&one, &settings::OneWindow::asked, &window,
+                     &settings::SettingsWindow::bringToFront);
     window.show();
     return QApplication::exec();
 }

@@ -24,7 +24,7 @@ from harness.spylog import SpyLog
 PROGRAM = PROGRAMS["librecad"]
 TITLE = "Mouse Gestures"
 WIDGETS = ("program_search", "program_list", "ring", "command_search", "command_view",
-           "trigger_field")
+           "trigger_field", "own_rings_button")
 # The ring's own size, and how far a direction's label is from its middle.
 RING_SIZE = 250
 LABEL_RADIUS = 93
@@ -156,10 +156,10 @@ class SettingsTest(unittest.TestCase):
         x, y, _, _ = self.place_of("command_view")
         return x + 70, y + 24 + 26 + 13
 
-    def stored(self, key, section="GestureWidget"):
+    def stored(self, key, section="GestureWidget", program=PROGRAM.name):
         settings = configparser.RawConfigParser()
         settings.optionxform = str
-        settings.read(self.folder / "config" / "gesturewidget" / f"{PROGRAM.name}.ini")
+        settings.read(self.folder / "config" / "gesturewidget" / f"{program}.ini")
         return settings.get(section, key, fallback=None)
 
     # --- the tests
@@ -276,6 +276,51 @@ class SettingsTest(unittest.TestCase):
         self.settle()
         self.assertEqual(self.stored("Trigger", "Host"), "right")
         self.picture("left-refused")
+
+    def test_a_second_start(self):
+        """Brings the window of the first start to the front, from behind another window and from
+        the task bar."""
+        window = self.open_window()
+        self.start(PROGRAM.executable, self.drawing)
+        self.driver.ask("wait-window", "drawing.dxf", START_SECONDS * 1000)
+        self.driver.ask("wait-focus", "drawing.dxf", START_SECONDS * 1000)
+        for _ in range(2):
+            second = self.start(self.build / "bin" / "mouse-gestures")
+            self.assertEqual(second.wait(timeout=START_SECONDS), 0)
+            self.driver.ask("wait-focus", TITLE, ANSWER_SECONDS * 1000)
+            self.assertIsNone(window.poll())
+            self.driver.ask("activate", "drawing.dxf")
+            self.driver.ask("wait-focus", "drawing.dxf", ANSWER_SECONDS * 1000)
+        # The next one is the first again.
+        window.kill()
+        window.wait(timeout=ANSWER_SECONDS)
+        third = self.open_window()
+        self.assertIsNone(third.poll())
+
+    def test_a_ring_for_a_task(self):
+        """Gives a task of FreeCAD a ring of its own, and takes that back."""
+        self.open_window()
+        self.choose_program("freecad")
+        x, y, width, height = self.place_of("own_rings_button")
+        self.click_at(x + width // 2, y + height // 2)
+        self.settle()
+        self.picture("1-tasks")
+        self.driver.ask("key", "Down")
+        self.driver.ask("key", "Return")
+        ring = "Ring%20DraftWorkbench"
+        self.until(lambda: self.stored("Own", ring, "freecad") == "DraftWorkbench",
+                   "the ring of the first task")
+        self.settle()
+        self.picture("2-own-ring")
+        # The command of the shared ring stays.
+        x, y, width, height = self.place_of("ring")
+        self.drag(self.sector(RIGHT), (x + 4, y + height - 4))
+        self.until(lambda: self.stored("87", ring, "freecad") == "", "an empty direction")
+        self.assertIsNone(self.stored("87", program="freecad"))
+        self.driver.ask("key", "ctrl+z")
+        self.until(lambda: self.stored("87", ring, "freecad") == "ID_LINE", "the command")
+        self.driver.ask("key", "ctrl+z")
+        self.until(lambda: not self.stored("Own", ring, "freecad"), "the shared ring")
 
 
 if __name__ == "__main__":

@@ -15,7 +15,7 @@ from harness.session import ANSWER_SECONDS, DRAWING_NAME
 PROGRAM = PROGRAMS["sketchpad"]
 FIRST = DRAWING_NAME
 SECOND = "New drawing"
-# Where the tests put the windows: x, y, width, height. They lie side by side.
+# The places of the windows: x, y, width, height. They lie side by side.
 PLACES = {FIRST: (10, 30, 760, 900), SECOND: (800, 30, 760, 900)}
 
 

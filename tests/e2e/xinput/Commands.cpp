@@ -71,7 +71,7 @@ QString describe(const XDesktop::Window &window)
         .arg(window.geometry.height());
 }
 
-// How many of a million pixels differ. The pictures have one size.
+// Returns the number of different pixels per million. The pictures have one size.
 qint64 difference(const QImage &a, const QImage &b)
 {
     qint64 count = 0;

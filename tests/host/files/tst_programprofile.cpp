@@ -85,6 +85,7 @@ void ProgramProfileTest::readsEverything()
         "trigger": { "button": "middle", "modifiers": ["control", "shift"] },
         "wellKnownCommands": { "ID_LINE": "drawLine", "ID_OPEN": ["File/Open...", "fileOpen"] },
         "toolsMenu": "extras", "commandLineClass": "CommandEdit",
+        "usedTriggers": ["middle", "Shift+control+left"],
         "why": { "viewClasses": { "Canvas": "it is the largest" } } })");
     QString message;
     const ProgramProfile profile = read(&message);
@@ -100,6 +101,8 @@ void ProgramProfileTest::readsEverything()
              QStringList({QStringLiteral("File/Open..."), QStringLiteral("fileOpen")}));
     QCOMPARE(profile.toolsMenu, QStringLiteral("extras"));
     QCOMPARE(profile.commandLineClass, QStringLiteral("CommandEdit"));
+    QCOMPARE(profile.usedTriggers,
+             QStringList({QStringLiteral("middle"), QStringLiteral("ctrl+shift+left")}));
 }
 
 void ProgramProfileTest::isWrittenAsItIsRead()
@@ -114,6 +117,7 @@ void ProgramProfileTest::isWrittenAsItIsRead()
                                      {QStringLiteral("File/Open..."), QStringLiteral("fileOpen")});
     profile.toolsMenu = QStringLiteral("extras");
     profile.commandLineClass = QStringLiteral("CommandEdit");
+    profile.usedTriggers = QStringList{QStringLiteral("middle"), QStringLiteral("left")};
     profile.taskActions = QStringList{QStringLiteral("SketchBench"), QStringLiteral("PartBench")};
     profile.taskBindings[QStringLiteral("SketchBench")].insert(QStringLiteral("87"),
                                                                QStringLiteral("ID_LINE"));
@@ -297,6 +301,9 @@ void ProgramProfileTest::brokenProfileIsNamed_data()
     row("a setting that means no trigger",
         R"("triggerBySetting": {"file": "a", "before": "a", "behind": "b", "triggers": {"x": "left"}})",
         "\"triggerBySetting.triggers.x\" names no trigger");
+    row("a used drag that is none", R"("usedTriggers": ["middle", "wheel"])",
+        "\"usedTriggers\" names no trigger: \"wheel\"");
+    row("used drags as text", R"("usedTriggers": "middle")", "\"usedTriggers\" is not a list");
     row("reasons as text", R"("why": "because")", "\"why\" is not an object");
     row("menu as list", R"("toolsMenu": [])", "\"toolsMenu\" is not a string");
     row("class as null", R"("commandLineClass": null)", "\"commandLineClass\" is not a string");

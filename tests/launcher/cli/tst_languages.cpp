@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
-// What mouse-gestures and its sheet say in each language.
+// The texts of mouse-gestures and its sheet in each language.
 
 #include "launcher/Columns.h"
 #include "tests/support/EmbeddedLanguage.h"

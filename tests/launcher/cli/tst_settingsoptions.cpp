@@ -68,6 +68,27 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(m_file + QStringLiteral(".before-import")));
     }
 
+    void aTaskHasItsOwnRingOrTheSharedOne()
+    {
+        const auto refusal = [&](const QStringList &arguments) {
+            const Outcome outcome = run(arguments);
+            return outcome.status == 1 && outcome.output.isEmpty() ? outcome.errors : QByteArray();
+        };
+        const QStringList ring{text("--ring"), kProgram, text("Sketching")};
+        QVERIFY(refusal(ring + QStringList{text("own")}).contains("knows no tasks"));
+        write("gesturewidget/profiles/launcher_fixture_direct.json",
+              R"({"version": 1, "program": "launcher_fixture_direct",
+                  "tasks": {"firstBindings": {"Sketching": {"87": "Sketch_Line"}},
+                            "checkedActionBeside": "Modelling"}})");
+        const QByteArray odd = refusal(ring + QStringList{text("mine")});
+        QVERIFY2(odd.contains("a ring is \"own\" or \"shared\", not \"mine\""), odd.constData());
+        QVERIFY(!QFile::exists(m_file));
+        expect(ring + QStringList{text("own")}, "");
+        expect({text("--bindings"), kProgram}, "ring of Sketching\n8 gestures (in use)\n");
+        expect(ring + QStringList{text("shared")}, "");
+        QVERIFY(!expect({text("--bindings"), kProgram}, "").contains("ring of"));
+    }
+
     void refusals_data()
     {
         QTest::addColumn<QStringList>("arguments");

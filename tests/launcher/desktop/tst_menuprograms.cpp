@@ -156,6 +156,12 @@ private Q_SLOTS:
         QCOMPARE(found(text("fr")), QStringList{text("Draw draw")});
     }
 
+    void aBackslashInANameStays()
+    {
+        entry("first/draw.desktop", "Name=Draw\\\\share\\tand\\sline\nExec=draw\n");
+        QCOMPARE(found(), QStringList{text("Draw\\share and line draw")});
+    }
+
     void stopsWhenItIsNotWanted()
     {
         entry("first/draw.desktop", "Name=Draw\nExec=draw\n");

@@ -51,7 +51,7 @@ private Q_SLOTS:
     void aCommandByItsCaption();
     void aCommandHasOneDirection();
     void aTaskMayHaveARingOfItsOwn();
-    void aRingIsOwnOrShared();
+    void aTaskWithoutARingIsRefused();
     void otherProgramsValuesStay();
     void resetKeepsTheTrigger();
     void theAdministratorsSettings();
@@ -201,7 +201,7 @@ void SettingsTasksTest::aTaskMayHaveARingOfItsOwn()
 {
     const QString task = text("SketchBench");
     QVERIFY(tasks().bind(text("up"), text("ID_SHARED")).isDone());
-    QVERIFY(tasks().setRing(task, text("own"), {{text("87"), text("Sketch_Line")}}).isDone());
+    QVERIFY(tasks().setRing(task, true, {{text("87"), text("Sketch_Line")}}).isDone());
     SettingsTasks own = tasks();
     own.setTask(task);
     QVERIFY(own.bind(text("left"), text("Sketch_Arc")).isDone());
@@ -215,18 +215,15 @@ void SettingsTasksTest::aTaskMayHaveARingOfItsOwn()
          {"  up         ID_SHARED", "  left       Sketch_Arc", "  right      Sketch_Line"})
         QVERIFY2(ring.contains(text(line)), qPrintable(shown));
     QVERIFY(!shown.section(text("ring of"), 0, 0).contains(text("Sketch_")));
-    QVERIFY(tasks().setRing(task, text("shared"), {}).isDone());
+    QVERIFY(tasks().setRing(task, false, {}).isDone());
     QVERIFY(!tasks().showBindings().output.contains("ring of"));
-    // What it had comes back.
-    QVERIFY(tasks().setRing(task, text("own"), {}).isDone());
+    // The ring that it had comes back.
+    QVERIFY(tasks().setRing(task, true, {}).isDone());
     QVERIFY(tasks().showBindings().output.contains("  left       Sketch_Arc"));
 }
 
-void SettingsTasksTest::aRingIsOwnOrShared()
+void SettingsTasksTest::aTaskWithoutARingIsRefused()
 {
-    const Outcome odd = tasks().setRing(text("SketchBench"), text("mine"), {});
-    QVERIFY(!odd.isDone());
-    QVERIFY(odd.complaint.contains(text("\"mine\"")));
     SettingsTasks own = tasks();
     own.setTask(text("SketchBench"));
     const Outcome none = own.bind(text("up"), text("ID_LINE"));
@@ -391,7 +388,7 @@ void SettingsTasksTest::exportAndImportAreInverse()
     const Outcome outcome = tasks().importFrom(m_export);
     QVERIFY2(outcome.isDone(), qPrintable(outcome.complaint));
     SettingsFile::Values after = SettingsFile(m_file).read();
-    // What was imported counts as known, although the program has never shown it here.
+    // Imported commands count as known, although the program has never shown them here.
     const QStringList imported = after.take(text("Host/Imported")).split(QLatin1Char('\n'));
     QStringList bound = bindings.four + bindings.eight;
     bound.removeAll(QString());

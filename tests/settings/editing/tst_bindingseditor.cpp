@@ -49,6 +49,22 @@ private Q_SLOTS:
         QCOMPARE(stored(text("draw"), text("87")), QString());
     }
 
+    void anExchangeMovesBothCommands()
+    {
+        BindingsEditor editor(subject("draw"), text("Draw"));
+        const QStringList before = editor.bindings().eight;
+        QVERIFY(editor.swap(0, 6));
+        QStringList wanted = before;
+        wanted[0] = before.at(6);
+        wanted[6] = before.at(0);
+        QCOMPARE(editor.bindings().eight, wanted);
+        QVERIFY(editor.unbind(6));
+        QVERIFY(editor.swap(0, 6)); // with an empty direction
+        wanted[6] = wanted.at(0);
+        wanted[0].clear();
+        QCOMPARE(editor.bindings().eight, wanted);
+    }
+
     void eachChangeIsTakenBackAndMadeAgain_data()
     {
         QTest::addColumn<int>("what");
@@ -180,6 +196,82 @@ private Q_SLOTS:
         QCOMPARE(stored(text("draw"), text("87")), QString());
     }
 
+    void aTaskGetsARingOfItsOwnAndUsesTheSharedOneAgain()
+    {
+        writeProfile(text("draw"));
+        remember(text("draw"), {text("Modelling"), text("Rendering")}, text("Task"));
+        remember(text("draw"), {text("ID_LINE")}, text("Draw"));
+        BindingsEditor editor(subject("draw"), text("Draw"));
+        QCOMPARE(editor.tasksOfProgram(), // by caption: "Sketching", "The Modelling", ...
+                 (QStringList{text("Sketching"), text("Modelling"), text("Rendering")}));
+        QVERIFY(editor.setOwnRing(text("Sketching"), true));
+        QCOMPARE(editor.rings(), QStringList{text("Sketching")});
+        QCOMPARE(editor.ring(), text("Sketching"));
+        QCOMPARE(editor.bindings().eight.at(6), text("Sketch_Line"));
+        QVERIFY(editor.bind(0, text("KEPT")));
+        QVERIFY(editor.setOwnRing(text("Sketching"), false));
+        QCOMPARE(editor.rings(), QStringList());
+        QCOMPARE(editor.ring(), QString());
+        QCOMPARE(editor.undoStack()->count(), 3);
+
+        editor.undoStack()->undo(); // its own ring, as it was
+        QCOMPARE(editor.rings(), QStringList{text("Sketching")});
+        editor.setRing(text("Sketching"));
+        QCOMPARE(editor.bindings().eight.at(0), text("KEPT"));
+        editor.undoStack()->undo();
+        QCOMPARE(editor.bindings().eight.at(0), text("ID_ZOOM_BOUNDS"));
+        editor.undoStack()->undo();
+        QCOMPARE(editor.rings(), QStringList());
+        QCOMPARE(editor.ring(), QString());
+        editor.undoStack()->redo();
+        QCOMPARE(editor.rings(), QStringList{text("Sketching")});
+        QCOMPARE(editor.undoStack()->count(), 3);
+
+        QVERIFY(editor.setOwnRing(text("Sketching"), true)); // it has one
+        QCOMPARE(editor.undoStack()->count(), 3);
+    }
+
+    void aProgramWithoutTasksHasNone()
+    {
+        const BindingsEditor editor(subject("draw"), text("Draw"));
+        QCOMPARE(editor.tasksOfProgram(), QStringList());
+    }
+
+    void aRingThatCannotBeKeptIsSaid()
+    {
+        writeProfile(text("draw"));
+        write(place("config/gesturewidget"), "a file where the folder should be");
+        BindingsEditor editor(subject("draw"), text("Draw"));
+        QSignalSpy failed(&editor, &BindingsEditor::failed);
+        QVERIFY(!editor.setOwnRing(text("Sketching"), true));
+        QCOMPARE(failed.count(), 1);
+        QCOMPARE(editor.rings(), QStringList());
+        QCOMPARE(editor.ring(), QString());
+        QCOMPARE(editor.undoStack()->count(), 0);
+    }
+
+    void aRunningProgramTakesItsTriggerAtItsNextStart()
+    {
+        installSelfRunning(text("running"), text("Running"));
+        BindingsEditor editor(subject("running"), text("Running"));
+        QVERIFY(!editor.isTriggerPending());
+        QVERIFY(editor.setTrigger(text("middle")));
+        QVERIFY(editor.isTriggerPending());
+        QVERIFY(editor.setTrigger(text("right"))); // as the program has it
+        QVERIFY(!editor.isTriggerPending());
+        editor.undoStack()->undo();
+        QVERIFY(editor.isTriggerPending());
+        editor.undoStack()->undo();
+        QVERIFY(!editor.isTriggerPending());
+    }
+
+    void aProgramThatDoesNotRunHasNothingPending()
+    {
+        BindingsEditor editor(subject("draw"), text("Draw"));
+        QVERIFY(editor.setTrigger(text("middle")));
+        QVERIFY(!editor.isTriggerPending());
+    }
+
     void newCommandsOfTheProgramAreNoticed()
     {
         remember(text("draw"), {text("A")});
@@ -231,6 +323,7 @@ private Q_SLOTS:
         QSignalSpy failed(&editor, &BindingsEditor::failed);
         QVERIFY(!editor.setTrigger(text("left")));
         QCOMPARE(failed.count(), 1);
+        QVERIFY(failed.at(0).at(0).toString().contains(text("Hold Ctrl, Shift, Alt or Meta")));
         QCOMPARE(editor.trigger(), text("right"));
     }
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
-// What an import would change, and the import itself.
+// The preview of an import, and the import itself.
 
 #include "settings/exchange/ImportPreview.h"
 
@@ -42,9 +42,11 @@ private Q_SLOTS:
     {
         BindingsEditor editor(subject("draw"), text("Draw"));
         launcher::Bindings wanted = editor.bindings();
+        wanted.enabled = false;
         wanted.scheme = 4;
         wanted.trigger = text("ctrl+right");
         wanted.eight[6] = QString();
+        wanted.four[1] = text("ID_TRIM");
         ImportPreview preview(editor, wanted, text("kept.json"), nullptr);
         const auto *list = preview.findChild<QTreeWidget *>(text("import_changes"));
         QStringList lines;
@@ -52,9 +54,11 @@ private Q_SLOTS:
             const QTreeWidgetItem *line = list->topLevelItem(i);
             lines.append(line->text(0) + text(": ") + line->text(1) + text(" -> ") + line->text(2));
         }
-        QCOMPARE(lines, (QStringList{text("Directions in use: 8 -> 4"),
+        const QString left = editor.captionOf(editor.bindings().four.at(1));
+        QCOMPARE(lines, (QStringList{text("Gestures: on -> off"), text("Directions in use: 8 -> 4"),
                                      text("A gesture starts with: Right button (usual) -> "
                                           "Ctrl + Right button"),
+                                     text("Left (of 4 directions): %1 -> Trim").arg(left),
                                      text("Right (of 8 directions): Line -> nothing")}));
     }
 

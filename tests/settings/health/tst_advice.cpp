@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
-// What stands in the way, in plain words.
+// The obstacles to gestures, in plain words.
 
 #include "settings/health/Advice.h"
 

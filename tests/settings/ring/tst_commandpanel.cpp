@@ -121,7 +121,7 @@ private Q_SLOTS:
         panel.showCommands(editor);
         QVERIFY(view->isVisible());
         QCOMPARE(panel.chosenCommand().identifier, text("ARC"));
-        // What a person chooses then stays.
+        // A command that the person chooses then stays chosen.
         const QModelIndex menu = view->model()->index(0, 0);
         view->setCurrentIndex(view->model()->index(1, 0, menu));
         panel.showCommands(editor);

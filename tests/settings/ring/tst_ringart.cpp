@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
-// Where the directions of the ring are.
+// The places of the ring's directions.
 
 #include "settings/ring/RingArt.h"
 

@@ -4,10 +4,12 @@
 #include "tests/settings/support/HomeTest.h"
 
 #include "host/files/CatalogueFile.h"
+#include "host/files/PluginNames.h"
 #include "host/files/SettingsFile.h"
 
 #include <QDir>
 #include <QFile>
+#include <QLibrary>
 #include <QtTest>
 
 namespace tests {
@@ -61,6 +63,33 @@ void HomeTest::uninstall(const QString &name) const
 {
     QVERIFY(QFile::remove(programFile(name)));
     QVERIFY(QFile::remove(entryFile(name)));
+}
+
+void HomeTest::installSelfRunning(const QString &name, const QString &title)
+{
+    QVERIFY(QFile::link(QCoreApplication::applicationFilePath(), programFile(name)));
+    write(entryFile(name), entry(name, title, {}));
+    const QString plugin = place(gesturewidget::pluginFile(QT_MAJOR));
+    QVERIFY(QDir().mkpath(place("generic")));
+    QVERIFY(QFile::copy(QStringLiteral(LIBRARY), plugin));
+    QVERIFY(QLibrary(plugin).load());
+}
+
+void HomeTest::writeProfile(const QString &name) const
+{
+    QVERIFY(QDir().mkpath(place("profiles")));
+    qputenv("GESTUREWIDGET_PROFILES", QFile::encodeName(place("profiles")));
+    write(place("profiles/%1.json").arg(name), QStringLiteral(R"({
+        "version": 1,
+        "program": "%1",
+        "usedTriggers": ["middle"],
+        "tasks": {
+            "checkedActionBeside": ["Modelling"],
+            "firstBindings": {"Sketching": {"87": "Sketch_Line"}}
+        }
+    })")
+                                                   .arg(name)
+                                                   .toUtf8());
 }
 
 QString HomeTest::programFile(const QString &name) const

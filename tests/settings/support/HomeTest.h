@@ -28,12 +28,19 @@ protected:
     // The entry in the person's own folder.
     [[nodiscard]] QString ownEntryFile(const QString &name) const;
     [[nodiscard]] QString settingsFile(const QString &name) const;
-    // What the settings hold for a key of the module; "<none>" if it is not there.
+    // The stored value of a key of the module; "<none>" if it is not there.
     [[nodiscard]] QString stored(const QString &name, const QString &key) const;
     [[nodiscard]] static launcher::Subject subject(const char *name);
     // Remembers commands in a menu of a program, as if it had run with gestures.
     void remember(const QString &name, const QStringList &identifiers,
                   const QString &menu = QStringLiteral("Draw")) const;
+
+    // Installs this test itself as a program that runs with gestures at the moment: a file with the
+    // plug-in's name is loaded.
+    void installSelfRunning(const QString &name, const QString &title);
+    // Writes a profile that knows the tasks "Sketching", which has first bindings, and "Modelling", and
+    // says that the program uses the middle button itself.
+    void writeProfile(const QString &name) const;
 
 protected Q_SLOTS:
     void init();

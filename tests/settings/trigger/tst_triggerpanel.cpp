@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
-// What starts a gesture: chosen from the list, or recorded.
+// The trigger is chosen from the list, or recorded.
 
 #include "settings/trigger/TriggerPanel.h"
 
@@ -12,6 +12,8 @@
 
 #include <QAccessible>
 #include <QComboBox>
+#include <QLabel>
+#include <QLayout>
 #include <QSignalSpy>
 #include <QtTest>
 #include <QWheelEvent>
@@ -59,6 +61,69 @@ private Q_SLOTS:
         QVERIFY(editor.setTrigger(text("default")));
         panel.showTrigger(editor);
         QCOMPARE(list->currentIndex(), 0);
+    }
+
+    void triggersThatTheProgramUsesAreMarked()
+    {
+        writeProfile(text("draw"));
+        BindingsEditor editor(subject("draw"), text("Draw"));
+        TriggerPanel panel;
+        panel.showTrigger(editor);
+        const auto *list = panel.findChild<QComboBox *>(text("trigger_list"));
+        const auto *note = panel.findChild<QLabel *>(text("trigger_note"));
+        QCOMPARE(list->itemText(list->findData(text("middle"))), text("Middle button (Draw uses it)"));
+        QCOMPARE(list->itemText(list->findData(text("back"))), text("Back button"));
+        QCOMPARE(note->text(), QString());
+        QVERIFY(editor.setTrigger(text("middle")));
+        panel.showTrigger(editor);
+        QVERIFY2(note->text().startsWith(text("Draw uses this drag itself.")), qPrintable(note->text()));
+        QCOMPARE(QAccessible::queryAccessibleInterface(const_cast<QComboBox *>(list))
+                     ->text(QAccessible::Description),
+                 note->text());
+    }
+
+    void theFieldStaysUnderThePointer()
+    {
+        writeProfile(text("draw"));
+        BindingsEditor editor(subject("draw"), text("Draw"));
+        TriggerPanel panel;
+        panel.setFixedWidth(440);
+        panel.showTrigger(editor);
+        panel.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&panel));
+        const int height = panel.layout()->heightForWidth(panel.width());
+        QVERIFY(editor.setTrigger(text("middle")));
+        panel.showTrigger(editor);
+        QVERIFY(!panel.findChild<QLabel *>(text("trigger_note"))->text().isEmpty());
+        QCOMPARE(panel.layout()->heightForWidth(panel.width()), height);
+    }
+
+    // The host found that the program needs the right button.
+    void theRightButtonIsMarkedWhereAnotherTriggerIsUsual()
+    {
+        write(settingsFile(text("draw")), "[Host]\nUsualTrigger=ctrl+right\n");
+        const BindingsEditor editor(subject("draw"), text("Draw"));
+        TriggerPanel panel;
+        panel.showTrigger(editor);
+        const auto *list = panel.findChild<QComboBox *>(text("trigger_list"));
+        QCOMPARE(list->itemText(0), text("Ctrl + Right button (usual)"));
+        QCOMPARE(list->itemText(list->findData(text("right"))), text("Right button (Draw uses it)"));
+    }
+
+    void aRunningProgramIsSaidToChangeLater()
+    {
+        installSelfRunning(text("running"), text("Running"));
+        BindingsEditor editor(subject("running"), text("Running"));
+        TriggerPanel panel;
+        panel.showTrigger(editor);
+        const auto *note = panel.findChild<QLabel *>(text("trigger_note"));
+        QCOMPARE(note->text(), QString());
+        QVERIFY(editor.setTrigger(text("middle")));
+        panel.showTrigger(editor);
+        QVERIFY2(note->text().contains(text("next start")), qPrintable(note->text()));
+        QVERIFY(editor.setTrigger(text("default")));
+        panel.showTrigger(editor);
+        QCOMPARE(note->text(), QString());
     }
 
     void aChoiceIsWanted()

@@ -12,14 +12,18 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QAction>
+#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QMenu>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSet>
+#include <QTimer>
+#include <QToolButton>
 #include <QtTest>
 
 #include <unistd.h>
@@ -223,7 +227,7 @@ private Q_SLOTS:
         QTRY_COMPARE(list->rowCount(), 1);
         QCOMPARE(title(window), text("Draw"));
         QTRY_VERIFY2(state(window).contains(text("no longer installed")), qPrintable(state(window)));
-        // What a person does now is kept all the same, and its switch does no harm.
+        // Changes are kept all the same, and the program's switch does no harm.
         window.findChild<QWidget *>(text("sector_up"))->setFocus();
         QTest::keyClick(window.windowHandle(), Qt::Key_Delete);
         QCOMPARE(stored(text("draw"), text("81")), QString());
@@ -370,6 +374,55 @@ private Q_SLOTS:
         for (const QAbstractButton *button : buttons)
             QVERIFY2(!button->isVisible() || button->width() >= button->minimumSizeHint().width(),
                      qPrintable(button->text()));
+    }
+
+    void aTaskGetsItsOwnRingByKeys()
+    {
+        writeProfile(text("draw"));
+        SettingsWindow window;
+        open(window);
+        auto *button = find<QToolButton>(window, "own_rings_button");
+        auto *rings = find<QComboBox>(window, "ring_list");
+        QVERIFY(button->isVisible());
+        QCOMPARE(rings->count(), 1);
+        const auto toggle = [&] {
+            // The menu has an event loop of its own.
+            QTimer::singleShot(0, button->menu(), [button] {
+                QTest::keyClick(button->menu(), Qt::Key_Down);
+                QTest::keyClick(button->menu(), Qt::Key_Return);
+            });
+            button->setFocus();
+            QTest::keyClick(button, Qt::Key_Space);
+        };
+        toggle();
+        QTRY_COMPARE(rings->count(), 2);
+        QCOMPARE(rings->currentData().toString(), text("Sketching"));
+        QVERIFY2(QAccessible::queryAccessibleInterface(window.findChild<QWidget *>(text("sector_right")))
+                     ->text(QAccessible::Name)
+                     .contains(text("Sketch_Line")),
+                 "the ring of the task is not shown");
+        toggle();
+        QTRY_COMPARE(rings->count(), 1);
+        find<QAction>(window, "undo")->trigger();
+        QCOMPARE(rings->count(), 2);
+    }
+
+    void aProgramWithoutTasksShowsNoRings()
+    {
+        SettingsWindow window;
+        open(window);
+        QVERIFY(!find<QToolButton>(window, "own_rings_button")->isVisible());
+        QVERIFY(!find<QComboBox>(window, "ring_list")->isVisible());
+    }
+
+    void itComesToTheFront()
+    {
+        SettingsWindow window;
+        open(window);
+        window.showMinimized();
+        window.bringToFront();
+        QTRY_VERIFY(!window.isMinimized());
+        QTRY_VERIFY(window.isActiveWindow());
     }
 
     void eachProgramKeepsItsOwnUndo()
