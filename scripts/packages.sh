@@ -25,6 +25,9 @@ test_packages=(
   git dpkg-dev debhelper lintian appstream desktop-file-utils pkg-config
 )
 
+# ./docs/build and the package build need these.
+docs_packages=(python3-sphinx python3-myst-parser furo mandoc)
+
 lint_packages=(clang-format clang-tidy clazy hunspell hunspell-en-gb reuse)
 
 # install_packages NAME...: installs the missing ones without asking. Returns apt-get's status, 0
