@@ -7,6 +7,8 @@ import re
 import sys
 from pathlib import Path
 
+from pygments.lexers import TextLexer
+
 HERE = Path(__file__).resolve().parent
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(HERE / "site"))
@@ -34,3 +36,8 @@ templates_path = ["site/templates"]
 html_copy_source = False
 html_show_sourcelink = False
 html_use_index = False
+
+
+def setup(app):
+    # The arrows between rooms, which scripts/check-arrows reads.
+    app.add_lexer("arrows", TextLexer)
