@@ -13,8 +13,8 @@ example   the program in docs/hosting.md has a full ring
 site      links and pictures of the built pages are there, and nothing comes from elsewhere
 
 A block of code has a language. Those called "sh" hold commands, those called "console" also what
-they print: "..." stands for any text, alone in a line for any lines, and "[1]" at the end is the exit
-status. Commands also run if they are in a line of text and complete, unlike `mouse-gestures --doctor`. The commands of a page run in one folder, in
+they print: "..." stands for any text, and alone in a line for any lines. A command that prints nothing,
+or that is in a block "sh", must succeed. Commands also run if they are in a line of text and complete, unlike `mouse-gestures --doctor`. The commands of a page run in one folder, in
 their order.
 """
 
@@ -94,17 +94,16 @@ def blocks_of(page):
 
 
 def steps_of(block):
-    """Yields (command, what it prints or None, exit status)."""
+    """Yields (command, what it prints, or None if that is not shown)."""
     if block.language == "sh":
         for line in block.text.splitlines():
             command = re.sub(r"\s+#.*$", "", line).strip()
             if command:
-                yield command, None, 0
+                yield command, None
         return
     for part in re.split(r"^\$ ", block.text, flags=re.MULTILINE)[1:]:
         command, _, shown = part.partition("\n")
-        status = re.search(r"^\[(\d+)\]\n\Z", shown, re.MULTILINE)
-        yield command, shown[:status.start()] if status else shown, int(status[1]) if status else 0
+        yield command, shown
 
 
 def reason_not_to_run(command):
@@ -172,23 +171,28 @@ class PageTrial:
         self.wrong = []
         self.count = 0
         self.reasons = set()
+        self._explained = set()  # that takes seconds and changes nothing, so once is enough
         home = folder / page.relative_to(ROOT).as_posix().replace("/", "-")
         shutil.copytree(first, home, symlinks=True)
         for block in blocks_of(page):
-            for typed, shown, status in steps_of(block) if block.language in ("sh", "console") else ():
+            for typed, shown in steps_of(block) if block.language in ("sh", "console") else ():
                 reason = reason_not_to_run(typed)
                 if reason:
                     self.reasons.add(reason)
                     self.wrong += [f"{block.where}: {problem}" for problem in problems_of_script(typed)]
                 else:
-                    self._try(f"{block.where}: {typed}", typed, home, shown, status)
+                    self._try(f"{block.where}: {typed}", typed, home, shown)
 
-    def _try(self, where, typed, home, shown, status):
+    def _try(self, where, typed, home, shown):
         self.count += 1
+        if "--explain" in typed and shown is None:
+            if filled_in(typed) in self._explained:
+                return
+            self._explained.add(filled_in(typed))
         result = run(filled_in(typed), home, STAND_IN_STAYS="yes" if "--explain" in typed else "",
                      QT_QPA_PLATFORM="" if "WAYLAND_DISPLAY" in typed else "offscreen")
-        if result.returncode != status:
-            self.wrong.append(f"{where}\nended with {result.returncode}, not {status}:\n{result.stdout}")
+        if result.returncode != 0 and not shown:
+            self.wrong.append(f"{where}\nended with {result.returncode}:\n{result.stdout}")
         elif shown is not None and not is_as_shown(shown, result.stdout):
             self.wrong.append(f"{where}\nprints\n{result.stdout}and not\n{shown}")
 

@@ -15,7 +15,7 @@ class Canvas : public QWidget
 {
     void paintEvent(QPaintEvent * /*event*/) override
     {
-        QPainter(this).drawText(rect(), Qt::AlignCenter, "Hold the right button and drag");
+        QPainter(this).drawText(rect(), Qt::AlignCenter, "Drag here");
     }
 };
 
@@ -25,20 +25,26 @@ public:
     MainWindow()
     {
         setCentralWidget(new Canvas);
-        // Bindings are stored by object name. Give each action one.
-        const char *commands[][3] = {{"File", "Open", "fileOpen"},     {"File", "Save", "fileSave"},
-                                     {"Edit", "Copy", "editCopy"},     {"Edit", "Trim", "editTrim"},
-                                     {"Edit", "Offset", "editOffset"}, {"View", "Zoom to Fit", "viewFit"},
-                                     {"Draw", "Line", "drawLine"},     {"Draw", "Text", "drawText"}};
-        QMenu *menu = nullptr;
-        for (const auto &[caption, text, name] : commands) {
-            if (!menu || menu->title() != caption)
-                menu = menuBar()->addMenu(caption);
-            QAction *action = menu->addAction(text);
-            action->setObjectName(name);
-            connect(action, &QAction::triggered, this,
-                    [this, action] { statusBar()->showMessage(action->text()); });
-        }
+        QMenu *file = menuBar()->addMenu("File");
+        add(file, "Open", "fileOpen");
+        add(file, "Save", "fileSave");
+        QMenu *edit = menuBar()->addMenu("Edit");
+        add(edit, "Copy", "editCopy");
+        add(edit, "Trim", "editTrim");
+        add(edit, "Offset", "editOffset");
+        add(edit, "Zoom to Fit", "editZoomFit");
+        QMenu *draw = menuBar()->addMenu("Draw");
+        add(draw, "Line", "drawLine");
+        add(draw, "Text", "drawText");
+    }
+
+private:
+    void add(QMenu *menu, const char *text, const char *name)
+    {
+        QAction *action = menu->addAction(text);
+        action->setObjectName(name); // a binding is stored by this name
+        connect(action, &QAction::triggered, this,
+                [this, action] { statusBar()->showMessage(action->text()); });
     }
 };
 
@@ -50,7 +56,7 @@ int main(int argc, char **argv)
     gestures.addView(window.centralWidget());
     QString error;
     if (!gestures.start(&error))
-        std::cerr << qPrintable(error) << '\n'; // the program goes on without gestures
+        std::cerr << qPrintable(error) << '\n';
     window.resize(800, 600);
     window.show();
     return QApplication::exec();
