@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 GestureWidget developers
 # SPDX-License-Identifier: MIT
 
-# Debian packages this project needs, and how to get them. Sourced by ./run and ./test.
+# Debian packages this project needs, and how to get them. Sourced by ./run, ./test and others.
 
 build_packages=(
   g++ cmake ninja-build
@@ -25,7 +25,7 @@ test_packages=(
   git dpkg-dev debhelper lintian appstream desktop-file-utils pkg-config
 )
 
-# ./docs/build and the package build need these.
+# docs/build and the package build need these.
 docs_packages=(python3-sphinx python3-myst-parser furo mandoc)
 
 lint_packages=(clang-format clang-tidy clazy hunspell hunspell-en-gb reuse)

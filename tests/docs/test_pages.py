@@ -43,8 +43,7 @@ NOT_RUN = {
         "builds or runs the tests",
     r"cmake --install": "the package tests do it",
     r"cmake (-S|--build) drafter|drafter/build/drafter":
-        "the same program is built here, and started by the test \"example\"; the package tests build "
-        "another one against an installation",
+        "the package tests build it against an installation; the test \"example\" starts it",
     r"scripts/(lint|flakes|translations)\b": "takes long, or changes the sources",
     r"docs/(build|pictures)\b": "the build calls the first; the second needs real programs",
     r"clang-format ": "changes the sources; scripts/lint calls it",
