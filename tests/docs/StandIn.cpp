@@ -58,7 +58,8 @@ int main(int argc, char **argv)
         const QString remembered =
             QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
             + QStringLiteral("/gesturewidget/%1.commands.json").arg(QApplication::applicationName());
-        if (tools->actions().last()->text().startsWith(QLatin1String("Mouse Gestures"))
+        const QList<QAction *> entries = tools->actions();
+        if (entries.last()->text().startsWith(QLatin1String("Mouse Gestures"))
             && QFileInfo::exists(remembered))
             QCoreApplication::quit();
     });

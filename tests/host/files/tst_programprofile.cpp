@@ -212,7 +212,8 @@ void ProgramProfileTest::namesOfButtonsAndKeys()
 void ProgramProfileTest::soundProfileIsRead_data()
 {
     QTest::addColumn<QByteArray>("text");
-    for (const Case &one : cases()) {
+    const QList<Case> all = cases();
+    for (const Case &one : all) {
         if (one.says.isEmpty())
             QTest::newRow(qPrintable(one.name)) << one.text;
     }
@@ -291,7 +292,8 @@ void ProgramProfileTest::brokenProfileIsNamed_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("wrong");
-    for (const Case &one : cases()) {
+    const QList<Case> all = cases();
+    for (const Case &one : all) {
         if (!one.says.isEmpty())
             QTest::newRow(qPrintable(one.name)) << one.text << one.says;
     }
