@@ -184,6 +184,8 @@ class PageTrial:
 
     def _try(self, where, typed, home, shown):
         self.count += 1
+        if shown:  # the pages show Debian's LibreCAD, the stand-in has the Qt of this build
+            shown = re.sub(r"^(  Qt: +)5$", rf"\g<1>{options.qt}", shown, flags=re.MULTILINE)
         if "--explain" in typed and shown is None:
             if filled_in(typed) in self._explained:
                 return
