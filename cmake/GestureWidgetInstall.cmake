@@ -44,12 +44,12 @@ install(TARGETS mouse-gestures-sheet
 install(DIRECTORY host/profiles/
   DESTINATION "${CMAKE_INSTALL_DATADIR}/gesturewidget/profiles" COMPONENT Runtime${common}
   FILES_MATCHING PATTERN "*.json")
-install(FILES docs/bindings.schema.json
+install(FILES docs/bindings.schema.json docs/profile.schema.json
   DESTINATION "${CMAKE_INSTALL_DATADIR}/gesturewidget" COMPONENT Runtime${common})
-install(FILES docs/user-guide.html docs/administrators-guide.html
-  DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/gesturewidget" COMPONENT Runtime${common})
-install(FILES docs/images/dialog.png docs/images/ring.png docs/images/settings.png
-  DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/gesturewidget/images" COMPONENT Runtime${common})
+if(GESTUREWIDGET_DOCS) # the dialog's help is looked for there, see host/services/HelpGuide.cpp
+  install(DIRECTORY "${CMAKE_BINARY_DIR}/docs/"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/gesturewidget/html" COMPONENT Runtime${common})
+endif()
 install(FILES docs/mouse-gestures.1 docs/mouse-gestures-settings.1
   DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT Runtime${common})
 install(FILES launcher/desktop/mouse-gestures.bash

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 GestureWidget developers
 # SPDX-License-Identifier: MIT
 
-# Debian packages this project needs, and how to get them. Sourced by ./run and ./test.
+# Debian packages this project needs, and how to get them. Sourced by ./run, ./test and others.
 
 build_packages=(
   g++ cmake ninja-build
@@ -27,6 +27,10 @@ test_packages=(
 
 # Only ./test --coverage needs it.
 coverage_packages=(gcovr)
+
+# docs/build and the package build need these.
+docs_packages=(python3-sphinx python3-myst-parser furo mandoc)
+
 lint_packages=(clang-format clang-tidy clazy hunspell hunspell-en-gb reuse)
 
 # install_packages NAME...: installs the missing ones without asking. Returns apt-get's status, 0

@@ -21,7 +21,7 @@ QStringList candidates()
     QStringList files;
     QDir folder = QFileInfo(moduleFile()).absoluteDir();
     for (int level = 0; level < kLevels && folder.cdUp(); ++level) {
-        files.append(folder.filePath(QStringLiteral("share/doc/gesturewidget/user-guide.html")));
+        files.append(folder.filePath(QStringLiteral("share/doc/gesturewidget/html/user-guide.html")));
         files.append(folder.filePath(QStringLiteral("docs/user-guide.html")));
     }
     return files;

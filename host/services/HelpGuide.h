@@ -11,14 +11,14 @@
 
 namespace gesturewidget {
 
-// The user guide, a page of HTML.
+// The user guide, a page of the site that docs/build makes.
 class HelpGuide
 {
 public:
     using Opener = std::function<bool(const QUrl &url)>;
 
     // Opens pages in the person's browser. Looks for the guide near this library: in
-    // share/doc/gesturewidget of an installation, or in docs of a source tree.
+    // share/doc/gesturewidget/html of an installation, or in docs of a build tree.
     HelpGuide();
 
     // Opens the guide at a topic; 0 is the beginning. Returns false if that is impossible.

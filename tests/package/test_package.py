@@ -86,18 +86,17 @@ def common_files():
     profiles = {f"share/gesturewidget/profiles/{path.name}"
                 for path in (ROOT / "host" / "profiles").glob("*.json")}
     assert "share/gesturewidget/profiles/librecad.json" in profiles
-    return profiles | {
+    site = {f"share/doc/gesturewidget/html/{name}" for name in files_below(options.build / "docs")}
+    for name in ("index.html", "user-guide.html", "manual.html", "_images/gesture.gif"):
+        assert f"share/doc/gesturewidget/html/{name}" in site, f"{name} is not built"
+    return profiles | site | {
         "bin/mouse-gestures",
         "bin/mouse-gestures-settings",
         "libexec/gesturewidget/mouse-gestures-sheet",
         "share/applications/mouse-gestures.desktop",
         "share/bash-completion/completions/mouse-gestures",
-        "share/doc/gesturewidget/images/dialog.png",
-        "share/doc/gesturewidget/images/ring.png",
-        "share/doc/gesturewidget/images/settings.png",
-        "share/doc/gesturewidget/user-guide.html",
-        "share/doc/gesturewidget/administrators-guide.html",
         "share/gesturewidget/bindings.schema.json",
+        "share/gesturewidget/profile.schema.json",
         "share/icons/hicolor/scalable/apps/mouse-gestures.svg",
         "share/man/man1/mouse-gestures.1",
         "share/man/man1/mouse-gestures-settings.1",
@@ -139,8 +138,8 @@ def clean_environment(home):
                 XDG_RUNTIME_DIR=str(home), QT_QPA_PLATFORM="offscreen", LANG="C.UTF-8")
 
 
-def build_consumer(prefix, folder):
-    run(options.cmake, "-S", CONSUMER, "-B", folder, f"-DCMAKE_PREFIX_PATH={prefix}",
+def build_consumer(prefix, folder, sources=CONSUMER):
+    run(options.cmake, "-S", sources, "-B", folder, f"-DCMAKE_PREFIX_PATH={prefix}",
         f"-DGESTUREWIDGET_QT={options.qt}", "-DCMAKE_FIND_USE_PACKAGE_REGISTRY=OFF")
     found = re.search(r"^GestureWidget_DIR:\w+=(.*)$", (folder / "CMakeCache.txt").read_text(),
                       re.MULTILINE).group(1)
@@ -256,6 +255,8 @@ def installation(folder):
     use(moved, moved / "bin/mouse-gestures", folder / "again")
     check_headers(moved)
     use_by_pkg_config(moved, folder)
+    # The program that docs/hosting.md shows; tests/docs looks at its ring.
+    build_consumer(moved, folder / "drafter", ROOT / "docs/examples/drafter")
 
 
 def copy_sources(folder):
@@ -318,6 +319,7 @@ def package_files():
         files["gesturewidget"] ^= {manual, f"{manual}.gz"}
     for name, content in files.items():
         content |= {f"share/doc/{name}/changelog.gz", f"share/doc/{name}/copyright"}
+    files["gesturewidget"].add("share/doc-base/gesturewidget.gesturewidget")
     return {name: {f"usr/{file}" for file in content} for name, content in files.items()}
 
 

@@ -26,6 +26,35 @@ bool isDefault(const ProgramProfile &profile)
         && profile.toolsMenu.isEmpty() && profile.commandLineClass.isEmpty();
 }
 
+// A profile of the program "drafter", and what is wrong with it; empty if nothing is.
+struct Case
+{
+    QString name;
+    QByteArray text;
+    QString says;
+};
+
+QList<Case> cases()
+{
+    QFile file(QStringLiteral(TESTS_SOURCE_DIR "/host/files/fixtures/profile-cases.json"));
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("%s cannot be read", qPrintable(file.fileName()));
+    QList<Case> list;
+    const QJsonArray array = QJsonDocument::fromJson(file.readAll()).array();
+    for (const QJsonValue &value : array) {
+        const auto member = [&value](const char *key) {
+            return value.toObject().value(QLatin1String(key)).toString();
+        };
+        const QByteArray text = member("text").isEmpty() ? R"({"version": 1, "program": "drafter", )"
+                                                               + member("members").toUtf8() + "}"
+                                                         : member("text").toUtf8();
+        list.append({member("name"), text, member("says")});
+    }
+    if (list.size() < 50)
+        qFatal("too few profiles in %s", qPrintable(file.fileName()));
+    return list;
+}
+
 } // namespace
 
 class ProgramProfileTest : public tests::FolderTest
@@ -39,6 +68,8 @@ private Q_SLOTS:
     void isWrittenAsItIsRead();
     void namesOfButtonsAndKeys_data();
     void namesOfButtonsAndKeys();
+    void soundProfileIsRead_data();
+    void soundProfileIsRead();
     void whatIsLeftOutIsDefault();
     void firstFolderWithAProfileCounts();
     void theTriggerMayFollowASetting_data();
@@ -51,6 +82,7 @@ private Q_SLOTS:
     void namesThatLeaveTheFolderFindNothing();
     void messageMayBeNull();
     void everyShippedProfileIsSound();
+    void theGuidesExampleIsSound();
 
 private:
     ProgramProfile read(QString *message = nullptr) const
@@ -181,6 +213,25 @@ void ProgramProfileTest::namesOfButtonsAndKeys()
              gesturewidget::triggerText(expectedButton, expectedKeys));
 }
 
+void ProgramProfileTest::soundProfileIsRead_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    const QList<Case> all = cases();
+    for (const Case &one : all) {
+        if (one.says.isEmpty())
+            QTest::newRow(qPrintable(one.name)) << one.text;
+    }
+}
+
+void ProgramProfileTest::soundProfileIsRead()
+{
+    QFETCH(QByteArray, text);
+    write("drafter.json", text);
+    QString message;
+    QCOMPARE(read(&message).program, QStringLiteral("drafter"));
+    QCOMPARE(message, QString());
+}
+
 void ProgramProfileTest::whatIsLeftOutIsDefault()
 {
     write("drafter.json", R"({"version": 1, "program": "drafter"})");
@@ -240,73 +291,19 @@ void ProgramProfileTest::theTriggerMayFollowASetting()
     QVERIFY(profile.hasTrigger);
 }
 
+// tests/docs/test_profile_schema.py judges the same files by the schema.
 void ProgramProfileTest::brokenProfileIsNamed_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("wrong");
-    const auto row = [](const char *name, const char *members, const char *wrong) {
-        QTest::newRow(name) << QByteArray(R"({"version": 1, "program": "drafter", )") + members + "}"
-                            << QString::fromLatin1(wrong);
-    };
+    const QList<Case> all = cases();
+    for (const Case &one : all) {
+        if (!one.says.isEmpty())
+            QTest::newRow(qPrintable(one.name)) << one.text << one.says;
+    }
     QTest::newRow("empty") << QByteArray() << QStringLiteral("at byte 0");
-    QTest::newRow("cut off") << QByteArray(R"({"version": 1, "pro)") << QStringLiteral("at byte");
     QTest::newRow("zeroed") << QByteArray(100, '\0') << QStringLiteral("at byte");
-    QTest::newRow("a list") << QByteArray("[]") << QStringLiteral("it is not an object");
-    QTest::newRow("no version") << QByteArray(R"({"program": "drafter"})")
-                                << QStringLiteral("\"version\" is missing");
-    QTest::newRow("version as text") << QByteArray(R"({"version": "1", "program": "drafter"})")
-                                     << QStringLiteral("\"version\" is missing or not a number");
-    QTest::newRow("later version") << QByteArray(R"({"version": 2, "program": "drafter"})")
-                                   << QStringLiteral("version 2 is not known");
-    QTest::newRow("other program") << QByteArray(R"({"version": 1, "program": "painter"})")
-                                   << QStringLiteral("\"program\" is \"painter\", not \"drafter\"");
-    QTest::newRow("no program") << QByteArray(R"({"version": 1})") << QStringLiteral("\"program\" is");
     QTest::newRow("too long") << QByteArray(2 * 1024 * 1024, ' ') << QStringLiteral("it is too long");
-    row("unknown key", R"("viewClass": "Canvas")", "unknown key \"viewClass\"");
-    row("views as text", R"("viewClasses": "Canvas")", "\"viewClasses\" is not a list");
-    row("view as number", R"("viewClasses": [1])", "\"viewClasses\" holds something");
-    row("empty view", R"("viewClasses": [""])", "\"viewClasses\" holds something");
-    row("trigger as text", R"("trigger": "right")", "\"trigger\" is not an object");
-    row("no such button", R"("trigger": {"button": "third"})",
-        "\"trigger.button\" names no mouse button");
-    row("button as number", R"("trigger": {"button": 2})", "\"trigger.button\" is not a string");
-    row("empty button", R"("trigger": {"button": ""})", "\"trigger.button\" names no mouse button");
-    row("no such key", R"("trigger": {"modifiers": ["hyper"]})", "\"trigger.modifiers\" names no key");
-    row("unknown in trigger", R"("trigger": {"key": "x"})", "unknown key \"trigger.key\"");
-    row("commands as list", R"("wellKnownCommands": [])", "\"wellKnownCommands\" is not an object");
-    row("command as number", R"("wellKnownCommands": {"ID_LINE": 1})", "\"wellKnownCommands.ID_LINE\"");
-    row("empty command", R"("wellKnownCommands": {"ID_LINE": ""})", "\"wellKnownCommands.ID_LINE\"");
-    row("no command", R"("wellKnownCommands": {"ID_LINE": []})", "\"wellKnownCommands.ID_LINE\"");
-    row("empty among commands", R"("wellKnownCommands": {"ID_LINE": ["a", ""]})",
-        "\"wellKnownCommands.ID_LINE\"");
-    row("number among commands", R"("wellKnownCommands": {"ID_LINE": ["a", 1]})",
-        "\"wellKnownCommands.ID_LINE\"");
-    row("tasks as text", R"("tasks": "workbench")", "\"tasks\" is not an object");
-    row("unknown in tasks", R"("tasks": {"group": "x"})", "unknown key \"tasks.group\"");
-    row("two ways", R"("tasks": {"checkedActionBeside": "x", "classOfView": true})", "two ways");
-    row("class as text", R"("tasks": {"classOfView": "yes"})",
-        "\"tasks.classOfView\" is neither true nor false");
-    row("ring as text", R"("tasks": {"firstBindings": {"a": "b"}})",
-        "\"tasks.firstBindings.a\" is not an object");
-    row("no direction", R"("tasks": {"firstBindings": {"a": {"45": "b"}}})",
-        "\"tasks.firstBindings.a.45\" is no direction");
-    row("command of a ring as number", R"("tasks": {"firstBindings": {"a": {"44": 1}}})",
-        "\"tasks.firstBindings.a.44\" is not a string");
-    row("neither true nor false", R"("changesMenus": 1)", "\"changesMenus\" is neither true nor false");
-    row("a setting without a place", R"("triggerBySetting": {"file": "a.cfg"})",
-        "\"triggerBySetting\" needs a file");
-    row("a setting of another folder",
-        R"("triggerBySetting": {"file": "/a.cfg", "before": "a", "behind": "b"})",
-        "\"triggerBySetting\" needs a file");
-    row("a setting that means no trigger",
-        R"("triggerBySetting": {"file": "a", "before": "a", "behind": "b", "triggers": {"x": "left"}})",
-        "\"triggerBySetting.triggers.x\" names no trigger");
-    row("a used drag that is none", R"("usedTriggers": ["middle", "wheel"])",
-        "\"usedTriggers\" names no trigger: \"wheel\"");
-    row("used drags as text", R"("usedTriggers": "middle")", "\"usedTriggers\" is not a list");
-    row("reasons as text", R"("why": "because")", "\"why\" is not an object");
-    row("menu as list", R"("toolsMenu": [])", "\"toolsMenu\" is not a string");
-    row("class as null", R"("commandLineClass": null)", "\"commandLineClass\" is not a string");
 }
 
 void ProgramProfileTest::brokenProfileIsNamed()
@@ -392,6 +389,16 @@ void ProgramProfileTest::everyShippedProfileIsSound()
         for (const QString &identifier : identifiers)
             QVERIFY2(known.contains(identifier), qPrintable(file + identifier));
     }
+}
+
+// docs/write-a-profile.md shows it.
+void ProgramProfileTest::theGuidesExampleIsSound()
+{
+    QString message;
+    const ProgramProfile profile = ProgramProfile::forProgram(
+        QStringLiteral("ipe"), {QStringLiteral(TESTS_SOURCE_DIR "/../docs/examples")}, &message);
+    QCOMPARE(message, QString());
+    QCOMPARE(profile.viewClasses, QStringList(QStringLiteral("ipe::Canvas")));
 }
 
 QTEST_GUILESS_MAIN(ProgramProfileTest)

@@ -336,7 +336,7 @@ void SystemServicesTest::theGuideIsLookedForAboveTheLibrary()
 {
     const QStringList files = gesturewidget::HelpGuide().files;
     QVERIFY(files.size() >= 4);
-    QVERIFY(files.first().endsWith(QStringLiteral("/share/doc/gesturewidget/user-guide.html")));
+    QVERIFY(files.first().endsWith(QStringLiteral("/share/doc/gesturewidget/html/user-guide.html")));
     QVERIFY(files.at(1).endsWith(QStringLiteral("/docs/user-guide.html")));
 }
 

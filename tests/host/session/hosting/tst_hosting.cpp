@@ -86,7 +86,8 @@ private:
     QTemporaryDir m_home;
 };
 
-// This is exactly the code that GestureHost's class comment and docs/hosting.md show.
+// This is exactly the code that GestureHost's class comment shows, in a program like that of
+// docs/hosting.md.
 void HostingTest::theShortestWayGivesAFullRing()
 {
     Drafter window;

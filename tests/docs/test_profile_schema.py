@@ -1,0 +1,52 @@
+#!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 GestureWidget developers
+# SPDX-License-Identifier: MIT
+
+"""Checks that docs/profile.schema.json and the code agree about profiles.
+
+The cases are those of tst_programprofile. The profiles are all that the project holds.
+"""
+
+import json
+import sys
+from pathlib import Path
+
+import jsonschema
+
+ROOT = Path(__file__).resolve().parents[2]
+CASES = ROOT / "tests/host/files/fixtures/profile-cases.json"
+
+
+def is_valid(validator, text):
+    try:
+        return validator.is_valid(json.loads(text))
+    except json.JSONDecodeError:
+        return False
+
+
+def main():
+    schema = json.loads((ROOT / "docs/profile.schema.json").read_text(encoding="utf-8"))
+    jsonschema.Draft202012Validator.check_schema(schema)
+    validator = jsonschema.Draft202012Validator(schema)
+    wrong = []
+    cases = json.loads(CASES.read_text(encoding="utf-8"))
+    assert len(cases) > 50
+    for case in cases:
+        text = case.get("text") or '{"version": 1, "program": "drafter", %s}' % case["members"]
+        # A schema cannot express some of the rules.
+        expected = case["says"] == "" or case.get("beyondSchema", False)
+        if is_valid(validator, text) != expected:
+            wrong.append(f"{case['name']}: should be {'taken' if expected else 'refused'}")
+    profiles = sorted((ROOT / "host/profiles").glob("*.json")) + [ROOT / "docs/examples/ipe.json"]
+    assert len(profiles) > 5
+    for path in profiles:
+        profile = json.loads(path.read_text(encoding="utf-8"))
+        wrong += [f"{path.name}: {error.message}" for error in validator.iter_errors(profile)]
+        if profile["program"] != path.stem:
+            wrong.append(f"{path.name}: the program is {profile['program']}")
+    print("\n".join(wrong) or f"{len(cases)} cases and {len(profiles)} profiles judged")
+    return 1 if wrong else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
