@@ -339,7 +339,7 @@ Outcome SettingsTasks::parseImport(const QByteArray &text, const QString &source
 Outcome SettingsTasks::importText(const QByteArray &text, const QString &source, SettingsChange *made)
 {
     Bindings bindings;
-    const Outcome parsing = parseImport(text, source, bindings);
+    Outcome parsing = parseImport(text, source, bindings);
     if (!parsing.isDone())
         return parsing;
 
