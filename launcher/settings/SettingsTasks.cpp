@@ -189,7 +189,7 @@ Outcome SettingsTasks::replace(const SettingsFile::Values &from, const SettingsF
                                const QString &task)
 {
     const QString present = std::exchange(m_task, task);
-    const Outcome outcome = edit([&](Bindings &bindings) -> QString {
+    Outcome outcome = edit([&](Bindings &bindings) -> QString {
         SettingsFile::Values values = bindings.toSettings();
         for (auto it = from.cbegin(); it != from.cend(); ++it) {
             if (values.value(it.key()) != it.value())
