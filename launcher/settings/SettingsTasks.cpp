@@ -189,7 +189,7 @@ Outcome SettingsTasks::replace(const SettingsFile::Values &from, const SettingsF
                                const QString &task)
 {
     const QString present = std::exchange(m_task, task);
-    const Outcome outcome = edit([&](Bindings &bindings) -> QString {
+    Outcome outcome = edit([&](Bindings &bindings) -> QString {
         SettingsFile::Values values = bindings.toSettings();
         for (auto it = from.cbegin(); it != from.cend(); ++it) {
             if (values.value(it.key()) != it.value())
@@ -339,7 +339,7 @@ Outcome SettingsTasks::parseImport(const QByteArray &text, const QString &source
 Outcome SettingsTasks::importText(const QByteArray &text, const QString &source, SettingsChange *made)
 {
     Bindings bindings;
-    const Outcome parsing = parseImport(text, source, bindings);
+    Outcome parsing = parseImport(text, source, bindings);
     if (!parsing.isDone())
         return parsing;
 

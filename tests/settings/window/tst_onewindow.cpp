@@ -121,7 +121,7 @@ private Q_SLOTS:
         OneWindow first(place("socket"));
         std::atomic<bool> isAnswered{true};
         const std::unique_ptr<QThread> thread = startSecond(place("socket"), isAnswered);
-        QVERIFY(thread->wait(10 * OneWindow::kPatience)); // the event loop does not run
+        QVERIFY(thread->wait(10UL * OneWindow::kPatience)); // the event loop does not run
         QVERIFY(!isAnswered);
     }
 };
