@@ -68,6 +68,32 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(m_file + QStringLiteral(".before-import")));
     }
 
+    void aRingForATask()
+    {
+        const QStringList own{text("--ring"), kProgram, text("Sketching"), text("own")};
+        const QByteArray nothing = run(own).errors;
+        QVERIFY2(nothing.contains("the profile of this program knows no tasks"), nothing.constData());
+        write("gesturewidget/profiles/launcher_fixture_direct.json",
+              R"({"version": 1, "program": "launcher_fixture_direct",
+                  "tasks": {"checkedActionBeside": ["Sketching"],
+                            "firstBindings": {"Sketching": {"81": "DrawArc"}}}})");
+        const Outcome unknown = run({text("--ring"), kProgram, text("Cooking"), text("own")});
+        QCOMPARE(unknown.status, 1);
+        QVERIFY2(unknown.errors.contains("there is no task \"Cooking\"; known ones are Sketching"),
+                 unknown.errors.constData());
+
+        expect(own, "");
+        QVERIFY(expect({text("--bindings"), kProgram}, "ring of Sketching\n")
+                    .contains("  up         DrawArc\n"));
+        expect(
+            {text("--bind"), kProgram, text("left"), text("ID_TRIM"), text("--ring"), text("Sketching")},
+            "");
+        const QByteArray shown = expect({text("--bindings"), kProgram}, "ring of Sketching\n");
+        QCOMPARE(shown.count("  left       ID_TRIM"), 1);
+        expect({text("--ring"), kProgram, text("Sketching"), text("shared")}, "");
+        QVERIFY(!expect({text("--bindings"), kProgram}, "").contains("ring of"));
+    }
+
     void refusals_data()
     {
         QTest::addColumn<QStringList>("arguments");
