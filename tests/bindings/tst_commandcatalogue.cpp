@@ -121,6 +121,23 @@ private Q_SLOTS:
         QCOMPARE(container.commands.at(0).icon.cacheKey(), line->smallIcon.cacheKey());
     }
 
+    void aCommandMayMoveToAnotherMenu()
+    {
+        tests::FakeCommandItem *line =
+            host->commands.addCommand(text("ID_LINE"), text("line"), text("Line"));
+        tests::FakeMenuItem *draw = host->addTopLevelMenu(text("&Draw"));
+        tests::FakeMenuItem *edit = host->addTopLevelMenu(text("&Edit"));
+        tests::FakeMenuItem *entry =
+            host->ui.addItem(draw->subItems.get(), text("Line"), false, {}, line);
+        tests::OpenContainer container;
+        container.init();
+        QCOMPARE(container.commands.at(0).category, text("Draw"));
+        draw->subItems->Remove(entry);
+        edit->subItems->Append(entry);
+        container.init();
+        QCOMPARE(container.commands.at(0).category, text("Edit"));
+    }
+
     void commandsOutsideTheMenusFollowTheLanguage()
     {
         host->commands.addCommand(text("ID_LINE"), text("line"), text("Line"));

@@ -66,6 +66,18 @@ private Q_SLOTS:
         QCOMPARE(container->getCommandsDS()[2].fourDirection, static_cast<unsigned char>(3));
     }
 
+    void isBehindWhatIsStoredElsewhere()
+    {
+        QVERIFY(!container->isBehindSettings());
+        const QMap<QString, QString> stored = host->store.values;
+        for (const char *key : {"EnableMouseGesture", "ActiveScheme", "41", "44", "81", "88"}) {
+            host->store.values.insert(QLatin1String(key), text("0"));
+            QVERIFY2(container->isBehindSettings(), key);
+            host->store.values = stored;
+            QVERIFY2(!container->isBehindSettings(), key);
+        }
+    }
+
     void takesTheRecordsOver()
     {
         std::vector<MgCommandDS> records = {unbound()[3], unbound()[2]};

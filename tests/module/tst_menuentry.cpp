@@ -48,6 +48,14 @@ public:
     bool givesMenuItems = true;
 };
 
+class MenulessWorkspace : public FakeWorkspace
+{
+public:
+    using FakeWorkspace::FakeWorkspace;
+
+    [[nodiscard]] CHxUIMenuItemCollection *GetMenuItems() override { return nullptr; }
+};
+
 class BarrenHost : public FakeHost
 {
 public:
@@ -122,6 +130,7 @@ private Q_SLOTS:
     void loadWithoutToolsMenu();
     void loadWithoutHost();
     void loadWithBarrenHost();
+    void workspacesThatAreNotGivenOut();
 
     void unloadGoesInOrder();
     void unloadRemovesOneEntryACall();
@@ -435,6 +444,28 @@ void MenuEntryTest::loadWithoutHost()
     module.LoadMenu();
     QCOMPARE(host.log.calls, QStringList());
     QVERIFY(!containerWasObtained());
+}
+
+void MenuEntryTest::workspacesThatAreNotGivenOut()
+{
+    FakeHost host;
+    FakeMenuItem *tools = host.addTopLevelMenu(QStringLiteral("&Tools"), kToolsMenu);
+    OpenModule module;
+    host.ui.hasWorkspaceIterator = false;
+    QCOMPARE(module.GetMenuItem(CHxString(kToolsMenu)), nullptr);
+    module.LoadMenu();
+    QCOMPARE(tools->subItems->GetCount(), 0);
+    QVERIFY(host.ui.commandItems.empty());
+
+    // A workspace may have no menus.
+    MenulessWorkspace menuless(&host.log);
+    host.ui.hasWorkspaceIterator = true;
+    host.ui.workspaces.insert(host.ui.workspaces.begin(), &menuless);
+    QCOMPARE(module.GetMenuItem(CHxString(kToolsMenu)), tools);
+    module.LoadMenu();
+    QCOMPARE(tools->subItems->GetCount(), 1);
+    module.UnLoadMenu();
+    QCOMPARE(tools->subItems->GetCount(), 0);
 }
 
 void MenuEntryTest::loadWithBarrenHost()

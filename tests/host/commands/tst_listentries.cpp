@@ -4,6 +4,7 @@
 // Entries of lists are no commands: the catalogue does not offer them.
 
 #include "host/commands/CommandCatalogue.h"
+#include "host/commands/ListEntries.h"
 #include "tests/host/support/Texts.h"
 #include "tests/support/FatalWarnings.h"
 
@@ -83,6 +84,9 @@ private Q_SLOTS:
     void anActionThatBecomesADocument();
     void aBoundEntryIsOffered();
     void undoHasOneName();
+    void aCaptionLastsWithoutItsDocument_data();
+    void aCaptionLastsWithoutItsDocument();
+    void aStepIsKnownByItsShortcut();
 };
 
 void ListEntriesTest::menus_data()
@@ -231,6 +235,38 @@ void ListEntriesTest::undoHasOneName()
     const ActionItem *item = catalogue.itemOf(undo);
     QVERIFY(item);
     QCOMPARE(text(item->GetIdentifier()), QStringLiteral("Window/Undo"));
+}
+
+void ListEntriesTest::aCaptionLastsWithoutItsDocument_data()
+{
+    QTest::addColumn<QString>("caption");
+    QTest::addColumn<QString>("lasting");
+    QTest::newRow("a document") << "Close \"plan.dxf\""
+                                << "Close";
+    QTest::newRow("nothing else") << "\"plan.dxf\""
+                                  << "\"plan.dxf\"";
+    QTest::newRow("something else") << "Insert \"Title\" from frame.dxf"
+                                    << "Insert \"Title\" from frame.dxf";
+    QTest::newRow("no document") << "Insert \"Title\""
+                                 << "Insert \"Title\"";
+}
+
+void ListEntriesTest::aCaptionLastsWithoutItsDocument()
+{
+    QFETCH(QString, caption);
+    const QAction action(caption);
+    QTEST(gesturewidget::lastingCaption(action, caption), "lasting");
+}
+
+void ListEntriesTest::aStepIsKnownByItsShortcut()
+{
+    const QString caption = QStringLiteral("Undo Line");
+    QAction action(caption);
+    QCOMPARE(gesturewidget::lastingCaption(action, caption), caption);
+    action.setShortcut(QKeySequence(Qt::Key_F5));
+    QCOMPARE(gesturewidget::lastingCaption(action, caption), caption);
+    action.setShortcut(QKeySequence::Undo);
+    QCOMPARE(gesturewidget::lastingCaption(action, caption), QStringLiteral("Undo"));
 }
 
 QTEST_MAIN(ListEntriesTest)

@@ -70,22 +70,33 @@ private Q_SLOTS:
 
     void aTaskHasItsOwnRingOrTheSharedOne()
     {
-        const auto refusal = [&](const QStringList &arguments) {
-            const Outcome outcome = run(arguments);
-            return outcome.status == 1 && outcome.output.isEmpty() ? outcome.errors : QByteArray();
-        };
-        const QStringList ring{text("--ring"), kProgram, text("Sketching")};
-        QVERIFY(refusal(ring + QStringList{text("own")}).contains("knows no tasks"));
+        const QStringList own{text("--ring"), kProgram, text("Sketching"), text("own")};
+        const QByteArray nothing = run(own).errors;
+        QVERIFY2(nothing.contains("the profile of this program knows no tasks"), nothing.constData());
         write("gesturewidget/profiles/launcher_fixture_direct.json",
               R"({"version": 1, "program": "launcher_fixture_direct",
-                  "tasks": {"firstBindings": {"Sketching": {"87": "Sketch_Line"}},
-                            "checkedActionBeside": "Modelling"}})");
-        const QByteArray odd = refusal(ring + QStringList{text("mine")});
-        QVERIFY2(odd.contains("a ring is \"own\" or \"shared\", not \"mine\""), odd.constData());
+                  "tasks": {"checkedActionBeside": ["Sketching"],
+                            "firstBindings": {"Sketching": {"81": "DrawArc"}}}})");
+        const Outcome unknown = run({text("--ring"), kProgram, text("Cooking"), text("own")});
+        QCOMPARE(unknown.status, 1);
+        QVERIFY2(unknown.errors.contains("there is no task \"Cooking\"; known ones are Sketching"),
+                 unknown.errors.constData());
+
+        const Outcome odd = run({text("--ring"), kProgram, text("Sketching"), text("mine")});
+        QCOMPARE(odd.status, 1);
+        QVERIFY2(odd.errors.contains("a ring is \"own\" or \"shared\", not \"mine\""),
+                 odd.errors.constData());
         QVERIFY(!QFile::exists(m_file));
-        expect(ring + QStringList{text("own")}, "");
-        expect({text("--bindings"), kProgram}, "ring of Sketching\n8 gestures (in use)\n");
-        expect(ring + QStringList{text("shared")}, "");
+
+        expect(own, "");
+        QVERIFY(expect({text("--bindings"), kProgram}, "ring of Sketching\n")
+                    .contains("  up         DrawArc\n"));
+        expect(
+            {text("--bind"), kProgram, text("left"), text("ID_TRIM"), text("--ring"), text("Sketching")},
+            "");
+        const QByteArray shown = expect({text("--bindings"), kProgram}, "ring of Sketching\n");
+        QCOMPARE(shown.count("  left       ID_TRIM"), 1);
+        expect({text("--ring"), kProgram, text("Sketching"), text("shared")}, "");
         QVERIFY(!expect({text("--bindings"), kProgram}, "").contains("ring of"));
     }
 
