@@ -124,6 +124,18 @@ private Q_SLOTS:
         QVERIFY2(calls > 100, qPrintable(QString::number(calls)));
     }
 
+    void whatCannotBeReadIsNotAChange()
+    {
+        tests::OpenContainer container;
+        int calls = 0;
+        for (bool reached = true; reached; ++calls) {
+            const tests::FakeFault fault(calls);
+            QVERIFY(!container.isBehindSettings());
+            reached = fault.wasReached();
+        }
+        QVERIFY2(calls > 10, qPrintable(QString::number(calls)));
+    }
+
     // OK in the dialog hands back what the container has. After a failed first reading that is
     // next to nothing.
     void aFailedReadingIsNotSavedOver()
