@@ -296,7 +296,8 @@ void MgDonutDialogPVStyleImpl::bypassWindowManager()
     // no such switch for one window.
     const bool isForced = QCoreApplication::testAttribute(Qt::AA_ForceRasterWidgets);
     QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets);
-    winId(); // makes the window
+    // Makes the window. winId() would also make one for each widget of the main window.
+    create();
     QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets, isForced);
     windowHandle()->setFlag(Qt::BypassWindowManagerHint);
 }

@@ -282,7 +282,7 @@ public:
     {
         setAttribute(Qt::WA_TranslucentBackground);
         setGeometry(300, 200, 250, 250);
-        winId();
+        create();
         if (!isManaged)
             windowHandle()->setFlag(Qt::BypassWindowManagerHint);
     }

@@ -102,6 +102,7 @@ private Q_SLOTS:
     void startChoosesFromWhereThePointerIs();
     void startForgetsTheLastGesture();
     void theNativeWindowBelongsToTheViewsWindow();
+    void theProgramsWidgetsGetNoWindowsOfTheirOwn();
     void startFarOutFadesBeforeShowing();
     void releaseAfterAFarStartAccepts();
     void armedIsLeftByStartingOnly();
@@ -364,6 +365,18 @@ void OverlayLifecycleTest::theNativeWindowBelongsToTheViewsWindow()
     m_bench->start(donut);
     QCOMPARE(stateOf(donut), kGesturing);
     donut.StopGesturing(false);
+}
+
+void OverlayLifecycleTest::theProgramsWidgetsGetNoWindowsOfTheirOwn()
+{
+    QWidget program;
+    const QWidget child(&program);
+    program.show();
+    CountingDonut donut(&program);
+    m_bench->start(donut);
+    QVERIFY(donut.isVisible());
+    QVERIFY(!child.testAttribute(Qt::WA_NativeWindow));
+    QVERIFY(!child.internalWinId());
 }
 
 void OverlayLifecycleTest::startFarOutFadesBeforeShowing()
