@@ -123,7 +123,7 @@ public:
     [[nodiscard]] static QString captionOf(const QAction *action);
 
 private:
-    // What a person sees of the command in one window, and its action there.
+    // The command as one window shows it, and its action there.
     struct Look
     {
         QPointer<QAction> action = {};

@@ -24,7 +24,7 @@
 
 using tests::TestDialog;
 
-// How the dialog is built: its form, texts, sizes and owners.
+// The dialog as it is built: its form, texts, sizes and owners.
 class DialogFormTest : public QObject
 {
     Q_OBJECT

@@ -54,7 +54,7 @@ NOT_RUN = {
         "docs/pictures tries the profile in it",
     r"/usr/bin/jsonschema": "docs_profile_schema uses the same package",
 }
-# What stands for something else in a command.
+# These words stand for something else in a command.
 PLACEHOLDERS = {"PROGRAM": "librecad", "DRAWING": "drawing.dxf", "FILE": "drawing.dxf"}
 # Scripts of ours that a page may name, with the options that it names. Each must know them.
 OWN_SCRIPT = re.compile(r"^(?:\S+=\S+ )*((?:\./|scripts/|docs/|tests/e2e/)[\w-]+)(?= |$)(.*)")

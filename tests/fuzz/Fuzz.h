@@ -9,7 +9,7 @@
 #include <cstddef>
 #include <cstdint>
 
-// What the fuzz targets share. A target is one source with LLVMFuzzerTestOneInput(). It is linked to
+// Common to all fuzz targets. A target is one source with LLVMFuzzerTestOneInput(). It is linked to
 // libFuzzer, or to Replay.cpp where that is not available.
 
 // Called with any bytes. Returns 0. A fault ends the program.

@@ -65,7 +65,7 @@ void startAndStop(Drafter &window)
     inEventLoop([] {});
 }
 
-// What each of some hosts in turn keeps. The first ones fill caches.
+// The bytes that each of some hosts in turn keeps. The first ones fill caches.
 qint64 bytesKeptByEach(Drafter &window)
 {
     for (int i = 0; i < 4; ++i)
