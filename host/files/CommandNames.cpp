@@ -120,6 +120,11 @@ QStringList commandNames(const QVector<RememberedCommand> &commands)
     return names;
 }
 
+QString capitalized(const QString &text)
+{
+    return text.isEmpty() ? text : text.at(0).toUpper() + text.mid(1);
+}
+
 QString captionFrom(const QString &identifier)
 {
     if (const QString caption = wellKnownCaption(identifier); !caption.isEmpty())
@@ -127,9 +132,8 @@ QString captionFrom(const QString &identifier)
     const QLatin1String prefix("ID_");
     if (!identifier.startsWith(prefix))
         return identifier.section(QLatin1Char('/'), -1);
-    const QString words =
-        identifier.mid(prefix.size()).toLower().replace(QLatin1Char('_'), QLatin1Char(' '));
-    return words.left(1).toUpper() + words.mid(1);
+    return capitalized(
+        identifier.mid(prefix.size()).toLower().replace(QLatin1Char('_'), QLatin1Char(' ')));
 }
 
 bool repeatsCaption(const QString &tip, const QString &caption)

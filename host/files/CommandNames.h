@@ -30,6 +30,9 @@ namespace gesturewidget {
 // Programs that call this embed the host's translations.
 [[nodiscard]] QString captionFrom(const QString &identifier);
 
+// Returns a text with its first letter in upper case.
+[[nodiscard]] QString capitalized(const QString &text);
+
 // Returns a caption for comparing: without dots at the end, in one case.
 [[nodiscard]] QString foldedCaption(const QString &caption);
 

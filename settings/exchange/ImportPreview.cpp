@@ -3,6 +3,7 @@
 
 #include "settings/exchange/ImportPreview.h"
 
+#include "host/files/CommandNames.h"
 #include "settings/editing/BindingsEditor.h"
 #include "settings/trigger/TriggerWords.h"
 
@@ -86,9 +87,7 @@ void ImportPreview::compare(const BindingsEditor &editor, const launcher::Bindin
             if (before.at(i) == after.at(i))
                 continue;
             const QString direction = launcher::Bindings::directionInWords(names.at(i));
-            addLine(tr("%1 (of %2 directions)")
-                        .arg(direction.left(1).toUpper() + direction.mid(1))
-                        .arg(scheme),
+            addLine(tr("%1 (of %2 directions)").arg(gesturewidget::capitalized(direction)).arg(scheme),
                     command(before.at(i)), command(after.at(i)));
         }
     }

@@ -3,6 +3,7 @@
 
 #include "settings/ring/CommandPanel.h"
 
+#include "host/files/CommandNames.h"
 #include "launcher/settings/Bindings.h"
 #include "settings/editing/BindingsEditor.h"
 #include "settings/ring/CommandModel.h"
@@ -241,8 +242,8 @@ void CommandPanel::fillMenu(QMenu &menu)
         const QString holder = m_ring.at(i).caption;
         if (m_ring.at(i).identifier == command.identifier)
             present = i;
-        QString text = launcher::Bindings::directionInWords(names.at(i));
-        text = text.left(1).toUpper() + text.mid(1);
+        const QString text =
+            gesturewidget::capitalized(launcher::Bindings::directionInWords(names.at(i)));
         QAction *action = menu.addAction(
             arrowIcon(names.at(i)),
             holder.isEmpty()

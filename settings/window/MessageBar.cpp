@@ -3,6 +3,8 @@
 
 #include "settings/window/MessageBar.h"
 
+#include "host/files/CommandNames.h"
+
 #include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -59,7 +61,7 @@ QString MessageBar::text() const
 void MessageBar::showText(const QString &line, bool isComplaint)
 {
     // The launcher's lines follow the name of a program or a file on a terminal, and begin small.
-    const QString text = line.left(1).toUpper() + line.mid(1);
+    const QString text = gesturewidget::capitalized(line);
     const int side = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
     m_icon->setPixmap(
         style()

@@ -31,6 +31,12 @@ void FolderTest::write(const QString &path, const QByteArray &content) const
     QVERIFY2(writeFile(path, content), qPrintable(path));
 }
 
+void FolderTest::useAsHome() const
+{
+    for (const char *name : {"HOME", "XDG_CONFIG_HOME"})
+        QVERIFY(qputenv(name, QFile::encodeName(m_folder->path())));
+}
+
 void FolderTest::initTestCase()
 {
     failOnWarnings();

@@ -38,6 +38,8 @@ protected:
     // Writes a file in the folder; a failure fails the test.
     void write(const char *name, const QByteArray &content) const { write(place(name), content); }
     void write(const QString &path, const QByteArray &content) const;
+    // Makes the folder the home folder of this process, with its settings.
+    void useAsHome() const;
 
     std::unique_ptr<QTemporaryDir> m_folder;
 

@@ -55,6 +55,8 @@ private Q_SLOTS:
     void fullWays();
     void captionsOfIdentifiers_data();
     void captionsOfIdentifiers();
+    void capitalized_data();
+    void capitalized();
 };
 
 void CommandNamesTest::names_data()
@@ -199,6 +201,23 @@ void CommandNamesTest::captionsOfIdentifiers()
     QFETCH(QString, identifier);
     QFETCH(QString, caption);
     QCOMPARE(gesturewidget::captionFrom(identifier), caption);
+}
+
+void CommandNamesTest::capitalized_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("capitalized");
+    QTest::newRow("empty") << QString() << QString();
+    QTest::newRow("one letter") << QStringLiteral("a") << QStringLiteral("A");
+    QTest::newRow("only the first") << QStringLiteral("up and left") << QStringLiteral("Up and left");
+    QTest::newRow("an accent") << QStringLiteral("élan") << QStringLiteral("Élan");
+    QTest::newRow("no letter") << QStringLiteral("8 directions") << QStringLiteral("8 directions");
+}
+
+void CommandNamesTest::capitalized()
+{
+    QFETCH(QString, text);
+    QTEST(gesturewidget::capitalized(text), "capitalized");
 }
 
 QTEST_GUILESS_MAIN(CommandNamesTest)

@@ -6,14 +6,13 @@
 #include "sdk/chx/CHxString.h"
 #include "sdk/chx/CHxSystemServices.h"
 #include "sdk/od/OdResBuf.h"
-#include "tests/support/FatalWarnings.h"
+#include "tests/support/FolderTest.h"
 
 #include <QApplication>
 #include <QKeySequence>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
-#include <QTemporaryDir>
 #include <QTest>
 
 namespace {
@@ -65,26 +64,22 @@ QString setting(const QString &key)
 
 } // namespace
 
-class HostingTest : public QObject
+class HostingTest : public tests::FolderTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        for (const char *name : {"HOME", "XDG_CONFIG_HOME"})
-            qputenv(name, m_home.path().toLocal8Bit());
-        tests::failOnWarnings();
-    }
-    void init() { tests::resetWarnings(); }
-    void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
+    void init();
 
     void theShortestWayGivesAFullRing();
     void speaksTheDesktopsLanguageAndLeavesNothing();
-
-private:
-    QTemporaryDir m_home;
 };
+
+void HostingTest::init()
+{
+    FolderTest::init();
+    useAsHome();
+}
 
 // This is exactly the code that GestureHost's class comment shows, in a program like that of
 // docs/hosting.md.
