@@ -21,11 +21,11 @@ if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     "${CCACHE_PROGRAM}")
 endif()
 
-# gesturewidget_defaults(TARGET [WITHOUT_WIDGETS]): language, warnings, Qt's generators and the rules
-# for this project's sources. Sources include a file by its path from the project's root. Targets
-# that do not link Qt Widgets say so.
+# gesturewidget_defaults(TARGET [WITHOUT_WIDGETS] [TEST]): language, warnings, Qt's generators and the
+# rules for this project's sources. Sources include a file by its path from the project's root. Targets
+# that do not link Qt Widgets say so. A TEST links Qt Test and is compiled without optimisation.
 function(gesturewidget_defaults target)
-  cmake_parse_arguments(arg "WITHOUT_WIDGETS" "" "" ${ARGN})
+  cmake_parse_arguments(arg "WITHOUT_WIDGETS;TEST" "" "" ${ARGN})
   set_target_properties(${target} PROPERTIES
     CXX_STANDARD 17
     CXX_STANDARD_REQUIRED ON
@@ -46,8 +46,13 @@ function(gesturewidget_defaults target)
       $<$<BOOL:${GESTUREWIDGET_FUZZ}>:-fsanitize=fuzzer-no-link>)
     target_link_options(${target} PRIVATE -fsanitize=address,undefined)
   endif()
+  set(headers gesturewidget_precompiled)
+  if(arg_TEST)
+    target_compile_options(${target} PRIVATE -O0)
+    set(headers gesturewidget_precompiled_tests)
+  endif()
   if(GESTUREWIDGET_PRECOMPILE AND NOT arg_WITHOUT_WIDGETS)
-    target_precompile_headers(${target} REUSE_FROM gesturewidget_precompiled)
+    target_precompile_headers(${target} REUSE_FROM ${headers})
     # Without it, GCC leaves ccache no trace of the headers.
     target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
   endif()
@@ -57,18 +62,31 @@ endfunction()
 # once if GESTUREWIDGET_PRECOMPILE is on. A source that lacks an include is then found by the builds
 # that have it off, such as that of the benchmarks.
 if(GESTUREWIDGET_PRECOMPILE)
-  find_package(Qt${GESTUREWIDGET_QT} REQUIRED COMPONENTS Widgets)
-  file(WRITE "${CMAKE_BINARY_DIR}/precompiled.cpp" "// Only its headers matter.\n")
-  add_library(gesturewidget_precompiled OBJECT "${CMAKE_BINARY_DIR}/precompiled.cpp")
-  gesturewidget_defaults(gesturewidget_precompiled WITHOUT_WIDGETS)
-  set_target_properties(gesturewidget_precompiled PROPERTIES AUTOMOC OFF AUTORCC OFF)
-  target_link_libraries(gesturewidget_precompiled PRIVATE Qt${GESTUREWIDGET_QT}::Widgets)
+  # gesturewidget_precompile(NAME HEADERS... LIBRARIES... [OPTIONS...])
+  function(gesturewidget_precompile name)
+    cmake_parse_arguments(arg "" "" "HEADERS;LIBRARIES;OPTIONS" ${ARGN})
+    find_package(Qt${GESTUREWIDGET_QT} REQUIRED COMPONENTS ${arg_LIBRARIES})
+    file(WRITE "${CMAKE_BINARY_DIR}/${name}.cpp" "// Only its headers matter.\n")
+    add_library(${name} OBJECT "${CMAKE_BINARY_DIR}/${name}.cpp")
+    gesturewidget_defaults(${name} WITHOUT_WIDGETS)
+    set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTORCC OFF)
+    target_compile_options(${name} PRIVATE ${arg_OPTIONS})
+    list(TRANSFORM arg_LIBRARIES PREPEND Qt${GESTUREWIDGET_QT}::)
+    target_link_libraries(${name} PRIVATE ${arg_LIBRARIES})
+    target_precompile_headers(${name} PRIVATE ${arg_HEADERS})
+  endfunction()
   # Those that most sources include, some by way of others. More of them would be slower to load.
-  target_precompile_headers(gesturewidget_precompiled PRIVATE
+  set(headers
     <QApplication> <QComboBox> <QDialog> <QDir> <QFile> <QHash> <QJsonArray> <QJsonDocument>
     <QJsonObject> <QLabel> <QLineEdit> <QMainWindow> <QMenu> <QMenuBar> <QMouseEvent> <QPainter>
     <QPointer> <QTimer> <QToolBar> <QVector>
     <algorithm> <cmath> <functional> <memory> <optional> <utility> <vector>)
+  gesturewidget_precompile(gesturewidget_precompiled HEADERS ${headers} LIBRARIES Widgets)
+  if(GESTUREWIDGET_TESTS)
+    gesturewidget_precompile(gesturewidget_precompiled_tests
+      HEADERS ${headers} <QProcess> <QSignalSpy> <QTableView> <QTemporaryDir> <QTest>
+      LIBRARIES Widgets Test OPTIONS -O0)
+  endif()
 endif()
 
 # gesturewidget_public_headers(FOLDER PATHS...): headers and folders of headers that are for other
@@ -122,7 +140,7 @@ endfunction()
 function(gesturewidget_test name)
   cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES;LABELS" ${ARGN})
   add_executable(${name} ${arg_SOURCES})
-  gesturewidget_defaults(${name})
+  gesturewidget_defaults(${name} TEST)
   if(arg_SOURCES MATCHES "^[^;]*\\.cpp$")
     gesturewidget_moc(${name} "${arg_SOURCES}")
   endif()

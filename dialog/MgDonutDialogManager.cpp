@@ -283,7 +283,7 @@ void MgDonutDialogManager::setUpKeys()
     });
     // The header accepts no keys, so these shortcuts sort.
     for (int column = 0; column < MgCommandDSModel::kColumnCount; ++column)
-        connectKey(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + column)),
+        connectKey(QKeySequence(int(Qt::CTRL) + int(Qt::Key_1) + column),
                    [this, column] { sortByKey(column); });
     ui.command_tableView->horizontalHeader()->viewport()->setToolTip(
         tr("Click to sort, or press Ctrl+1, Ctrl+2 or Ctrl+3"));

@@ -14,7 +14,8 @@ Notice::Notice(QWidget *window)
     hide();
     setObjectName(QStringLiteral("notice"));
     setTextFormat(Qt::PlainText);
-    setFrameStyle(QFrame::Box | QFrame::Plain);
+    setFrameShape(QFrame::Box);
+    setFrameShadow(QFrame::Plain);
     setMargin(2);
     setAutoFillBackground(true);
     setPalette(QToolTip::palette());

@@ -645,7 +645,7 @@ void OverlayLifecycleTest::keysAreSwallowed()
 void OverlayLifecycleTest::shortcutsOfTheHostAreHeldBack()
 {
     int activations = 0;
-    QShortcut shortcut(QKeySequence(Qt::CTRL | Qt::Key_S), m_bench->view);
+    QShortcut shortcut(QKeySequence(QStringLiteral("Ctrl+S")), m_bench->view);
     shortcut.setContext(Qt::ApplicationShortcut);
     connect(&shortcut, &QShortcut::activated, this, [&activations] { ++activations; });
     CountingDonut donut;

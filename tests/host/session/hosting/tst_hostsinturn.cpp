@@ -50,7 +50,7 @@ template <class Inside> void inEventLoop(Inside inside)
     loop.exec();
 }
 
-// Without glibc's cache of freed blocks for each thread, which counts as used: it holds up to 2,000
+// Without the C library's cache of freed blocks, which counts as used: it holds up to 2,000
 // bytes more or less for each host of these tests.
 qint64 bytesInUse()
 {
