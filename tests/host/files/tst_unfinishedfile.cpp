@@ -121,6 +121,7 @@ void UnfinishedFileTest::onlyLeftoversAreRemoved()
                              text("file.bak.saving-abcdef"),
                              text("file.saving-ABCDEF"),
                              text("file.saving-abcde"),
+                             text("file.saving-abcdef.txt"),
                              text("file.saving-abcdefg"),
                              text("file.saving-folder"),
                              text("file.saving-locked"),
