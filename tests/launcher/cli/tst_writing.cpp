@@ -5,6 +5,8 @@
 // has the file's name. The old content stays whole, and one line says what is wrong.
 
 #include "host/files/CatalogueFile.h"
+#include "host/files/SettingsFile.h"
+#include "host/files/SettingsNames.h"
 #include "tests/support/FolderTest.h"
 
 #include <QCoreApplication>
@@ -112,8 +114,8 @@ QStringList WritingTest::option(const char *name) const
 void WritingTest::addOptions() const
 {
     QTest::addColumn<QByteArray>("name");
-    for (const char *name :
-         {"--bind", "--trigger", "--reset", "--export", "--import", "--print", "--enable"})
+    for (const char *name : {"--bind", "--trigger", "--reset", "--switch-on", "--export", "--import",
+                             "--print", "--enable"})
         QTest::newRow(name) << QByteArray(name);
 }
 
@@ -140,6 +142,9 @@ void WritingTest::prepare() const
         expect({text("--bind"), kProgram, names.at(i), QString(600, QLatin1Char(char('a' + i)))});
     expect(option("--export"));
     expect({text("--bind"), kProgram, text("up"), text("ID_LINE")});
+    const QString note = gesturewidget::SettingsFile::nameOf(
+        gesturewidget::settingsnames::hostSection(), gesturewidget::settingsnames::offSinceCrashKey());
+    QVERIFY(gesturewidget::SettingsFile(m_settings).write({{note, text("1")}}));
     write(m_sheet, "%PDF-1.4 an old sheet\n");
 }
 
