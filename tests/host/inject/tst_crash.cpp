@@ -152,6 +152,7 @@ void CrashTest::onlyCrashesInOurCodeCount_data()
     QTest::addColumn<bool>("isOurs");
     const auto row = [](const char *way, bool isOurs) { QTest::newRow(way) << isOurs; };
     row("icon", true);
+    row("search", true);
     row("leave-icon", true); // nothing tells it from a crash
     row("exit-icon", false);
     row("idle", false);

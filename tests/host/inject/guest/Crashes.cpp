@@ -6,9 +6,12 @@
 #include "tests/host/inject/guest/GuestWindow.h"
 #include "tests/host/inject/guest/Steps.h"
 
+#include <QAbstractItemModel>
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QIconEngine>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTimer>
@@ -55,6 +58,16 @@ void addIcon(GuestWindow &window, const std::function<void()> &end)
                                                            QStringLiteral("&Fatal"));
 }
 
+// The dialog's answer to a typed text removes rows.
+void searchAndDie()
+{
+    const QWidget *dialog = QApplication::activeModalWidget();
+    const auto *table = dialog->findChild<QAbstractItemView *>(QStringLiteral("command_tableView"));
+    QObject::connect(table->model(), &QAbstractItemModel::rowsRemoved, qApp, die);
+    dialog->findChild<QLineEdit *>(QStringLiteral("search_lineEdit"))
+        ->setText(QStringLiteral("no such command"));
+}
+
 } // namespace
 
 bool crash(const QByteArray &way, GuestWindow &window)
@@ -64,6 +77,9 @@ bool crash(const QByteArray &way, GuestWindow &window)
         addIcon(window, die);
     } else if (way == "exit-icon") {
         addIcon(window, [] { std::exit(3); });
+    } else if (way == "search") {
+        QMetaObject::invokeMethod(window.entry(), &QAction::trigger, Qt::QueuedConnection);
+        when([] { return QApplication::activeModalWidget(); }, searchAndDie);
     } else if (way == "leave-icon") {
         addIcon(window, [] { ::_exit(3); });
         // In code of the program.
