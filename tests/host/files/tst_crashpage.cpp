@@ -13,7 +13,8 @@
 #include <cstdlib>
 #include <functional>
 
-#include <fcntl.h>
+#include <sched.h>
+#include <sys/mount.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -47,6 +48,8 @@ private Q_SLOTS:
     void tellsOfACrashInOurCode();
     void aLivingProcessHasNotCrashed();
     void programsAndSettingsAreToldApart();
+    void aLongerNameIsAnotherProgram();
+    void onOtherFileSystemsThereIsNoPage();
     void aForkedProcessLeavesThePage();
     void anEarlierStartOfTheComputerDoesNotCount();
     void whatIsNoPageStays_data();
@@ -167,6 +170,38 @@ void CrashPageTest::programsAndSettingsAreToldApart()
     CrashPage::removeDead(text("draw"), place("other.ini"));
     QVERIFY(tells());
     QVERIFY(CrashPage::tellsOfCrash(text("draw"), place("runtime/../draw.ini"))); // the same file
+}
+
+void CrashPageTest::aLongerNameIsAnotherProgram()
+{
+    play(text("draw-1"), m_settings, 1, End::Killed);
+    QVERIFY(!tells());
+    CrashPage::removeDead(text("draw"), m_settings);
+    QVERIFY(CrashPage::tellsOfCrash(text("draw-1"), m_settings));
+}
+
+// Where the system does not promise that a mapped page can be written at any time. In a process of
+// its own, whose mounts nobody else sees.
+void CrashPageTest::onOtherFileSystemsThereIsNoPage()
+{
+    enum { NoPage, APage, NoMount };
+    const QByteArray folder = QFile::encodeName(place("runtime"));
+    const pid_t child = ::fork();
+    QVERIFY(child >= 0);
+    if (child == 0) {
+        if (::unshare(CLONE_NEWNS) != 0
+            || ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0
+            || ::mount("ramfs", folder.constData(), "ramfs", 0, nullptr) != 0)
+            ::_exit(NoMount);
+        const CrashPage page(text("draw"), m_settings);
+        ::_exit(page.mark() ? APage : NoPage);
+    }
+    int status = 0;
+    QCOMPARE(::waitpid(child, &status, 0), child);
+    QVERIFY(WIFEXITED(status));
+    if (WEXITSTATUS(status) == NoMount)
+        QSKIP("this needs the right to mount a file system");
+    QCOMPARE(WEXITSTATUS(status), int(NoPage));
 }
 
 void CrashPageTest::aForkedProcessLeavesThePage()

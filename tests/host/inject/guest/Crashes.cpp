@@ -58,12 +58,12 @@ void addIcon(GuestWindow &window, const std::function<void()> &end)
                                                            QStringLiteral("&Fatal"));
 }
 
-// The dialog's answer to a typed text removes rows.
+// The dialog's answer to a typed text is another layout of the table.
 void searchAndDie()
 {
     const QWidget *dialog = QApplication::activeModalWidget();
     const auto *table = dialog->findChild<QAbstractItemView *>(QStringLiteral("command_tableView"));
-    QObject::connect(table->model(), &QAbstractItemModel::rowsRemoved, qApp, die);
+    QObject::connect(table->model(), &QAbstractItemModel::layoutChanged, qApp, die);
     dialog->findChild<QLineEdit *>(QStringLiteral("search_lineEdit"))
         ->setText(QStringLiteral("no such command"));
 }
