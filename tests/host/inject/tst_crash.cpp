@@ -11,6 +11,8 @@
 #include <QProcessEnvironment>
 #include <QTest>
 
+#include <sys/resource.h>
+
 using gesturewidget::CrashNote;
 using tests::contentOf;
 using tests::text;
@@ -57,6 +59,8 @@ protected Q_SLOTS:
         m_runtime = place("runtime");
         m_cache = place("cache");
         QVERIFY(QDir().mkdir(m_runtime));
+        const rlimit none{0, 0}; // no core files of programs that die
+        QCOMPARE(::setrlimit(RLIMIT_CORE, &none), 0);
         // For CrashNote in this process.
         qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_runtime));
     }
