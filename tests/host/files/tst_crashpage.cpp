@@ -220,7 +220,7 @@ void CrashPageTest::aForkedProcessLeavesThePage()
 void CrashPageTest::anEarlierStartOfTheComputerDoesNotCount()
 {
     playCrash();
-    QFile page(place("runtime/") + pages().first());
+    QFile page(place("runtime/") + pages().constFirst());
     QVERIFY(page.open(QIODevice::ReadWrite));
     QVERIFY(page.seek(kBootPlace));
     QVERIFY(page.putChar('?'));
@@ -245,7 +245,7 @@ void CrashPageTest::whatIsNoPageStays()
 {
     QFETCH(QByteArray, kind);
     playCrash();
-    const QString path = place("runtime/") + pages().first();
+    const QString path = place("runtime/") + pages().constFirst();
     const QByteArray name = QFile::encodeName(path);
     QByteArray content = contentOf(path);
     QCOMPARE(content.size(), kSize);
