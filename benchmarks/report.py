@@ -60,6 +60,8 @@ ROWS = [
         "an empty virtual call", "emptyTracker", None),
     Row("a movement over a drawing, the host's filter in place", "bench_pointerfilter",
         "moveInView/filter:1", "without it", "moveInView/filter:0", 1.08),
+    Row("code of ours is marked, so that a crash in it is noticed", "bench_pointerfilter", "markOwnCode",
+        "one event of the program, without gestures", "otherEvent/filter:0", 0.1),
     Row("a movement over a drawing, the whole host running", "bench_gesturehost",
         "moveInView/gestures:1", "without gestures", "moveInView/gestures:0", 1.08),
     Row("LibreCAD starts with gestures: until it shows the drawing", "start.py", "start/gestures:1",

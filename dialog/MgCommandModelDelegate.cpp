@@ -5,6 +5,7 @@
 
 #include "dialog/DirectionBox.h"
 #include "dialog/MgCommandDSModel.h"
+#include "sdk/OwnCode.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -29,6 +30,7 @@ MgCommandModelDelegate::MgCommandModelDelegate(QStandardItemModel *directions, Q
 QWidget *MgCommandModelDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                                               const QModelIndex &index) const
 {
+    const gesturewidget::OwnCode ours;
     if (index.column() != MgCommandDSModel::kDirectionColumn)
         return QItemDelegate::createEditor(parent, option, index);
 
@@ -55,6 +57,7 @@ void MgCommandModelDelegate::setEditorData(QWidget *editor, const QModelIndex &i
 void MgCommandModelDelegate::setModelData(QWidget *editor, QAbstractItemModel *model,
                                           const QModelIndex &index) const
 {
+    const gesturewidget::OwnCode ours;
     if (index.column() != MgCommandDSModel::kDirectionColumn)
         return;
     const auto *directions = qobject_cast<QComboBox *>(editor);
@@ -80,6 +83,7 @@ QSize MgCommandModelDelegate::sizeHint(const QStyleOptionViewItem &option,
 void MgCommandModelDelegate::drawDisplay(QPainter *painter, const QStyleOptionViewItem &option,
                                          const QRect &rect, const QString &text) const
 {
+    const gesturewidget::OwnCode ours;
     if (!text.contains(QChar::LineSeparator)) {
         QItemDelegate::drawDisplay(painter, option, rect, text);
         return;
@@ -111,6 +115,7 @@ void MgCommandModelDelegate::drawFocus(QPainter *painter, const QStyleOptionView
 bool MgCommandModelDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view,
                                        const QStyleOptionViewItem &option, const QModelIndex &index)
 {
+    const gesturewidget::OwnCode ours;
     if (event->type() == QEvent::ToolTip && index.isValid()) {
         QStyleOptionViewItem wide = option;
         wide.rect.setWidth(QWIDGETSIZE_MAX);
@@ -125,6 +130,7 @@ bool MgCommandModelDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *vie
 
 bool MgCommandModelDelegate::eventFilter(QObject *object, QEvent *event)
 {
+    const gesturewidget::OwnCode ours;
     auto *box = qobject_cast<DirectionBox *>(object);
     if (!box || event->type() != QEvent::KeyPress)
         return QItemDelegate::eventFilter(object, event);
@@ -145,6 +151,7 @@ bool MgCommandModelDelegate::eventFilter(QObject *object, QEvent *event)
 
 void MgCommandModelDelegate::commitAndCloseEditor(int /*row*/)
 {
+    const gesturewidget::OwnCode ours;
     // The drop-downs of all cells share this slot; the sender tells which one it was.
     auto *editor = qobject_cast<QComboBox *>(sender());
     if (!editor)

@@ -16,6 +16,7 @@
 #include "sdk/chx/CHxSystemServices.h"
 #include "sdk/chx/CHxUIMenuItem.h"
 #include "sdk/chx/CHxUIMenuItemCollection.h"
+#include "sdk/OwnCode.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -293,6 +294,7 @@ void MgDonutDialogManager::setUpKeys()
 
 bool MgDonutDialogManager::eventFilter(QObject *object, QEvent *event)
 {
+    const gesturewidget::OwnCode ours;
     if (object != ui.search_lineEdit || event->type() != QEvent::KeyPress)
         return CHxDialog::eventFilter(object, event);
     switch (static_cast<QKeyEvent *>(event)->key()) {
@@ -321,12 +323,14 @@ void MgDonutDialogManager::goToFirstCommand()
 
 void MgDonutDialogManager::sortByKey(int column)
 {
+    const gesturewidget::OwnCode ours;
     const bool isAscending = proxy->sortColumn() == column && proxy->sortOrder() == Qt::AscendingOrder;
     ui.command_tableView->sortByColumn(column, isAscending ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
 void MgDonutDialogManager::takeBack()
 {
+    const gesturewidget::OwnCode ours;
     m_robbedNotice->hide();
     if (model->takeBack())
         nameHolders();
@@ -431,11 +435,13 @@ void MgDonutDialogManager::enableReset()
 // Also enables "Reset to Defaults" when the bindings are the defaults. This is deliberate.
 void MgDonutDialogManager::checkBoxStateChanged(int state)
 {
+    const gesturewidget::OwnCode ours;
     disableControls(state == Qt::Checked);
 }
 
 void MgDonutDialogManager::radioButtonStateChanged(bool /*checked*/)
 {
+    const gesturewidget::OwnCode ours;
     int count = 8;
     scheme = Eight;
     if (ui.four_radioButton->isChecked()) {
@@ -472,12 +478,14 @@ void MgDonutDialogManager::applyFilter(int /*state*/)
 
 void MgDonutDialogManager::applyFilter()
 {
+    const gesturewidget::OwnCode ours;
     if (auto *shown = qobject_cast<MgCommandDSSortFilterProxyModel *>(ui.command_tableView->model()))
         shown->applyFilter();
 }
 
 void MgDonutDialogManager::okPressed()
 {
+    const gesturewidget::OwnCode ours;
     MgDonutDataContainer::instance()->update(model->getCommands(),
                                              ui.enableGesture_checkBox->isChecked(), scheme);
     accept();
@@ -495,11 +503,13 @@ void MgDonutDialogManager::disableControls(bool enable)
 void MgDonutDialogManager::viewSelectionChanged(const QItemSelection & /*selected*/,
                                                 const QItemSelection & /*deselected*/)
 {
+    const gesturewidget::OwnCode ours;
     showSelectedCommand();
 }
 
 void MgDonutDialogManager::openEditor(const QModelIndex & /*index*/)
 {
+    const gesturewidget::OwnCode ours;
     showSelectedCommand();
 }
 
@@ -544,6 +554,7 @@ bool MgDonutDialogManager::isResetConfirmed()
 
 void MgDonutDialogManager::applyDefaultSettings()
 {
+    const gesturewidget::OwnCode ours;
     if (!isResetConfirmed())
         return;
     MgDonutDataContainer::instance()->applyDefaultSettings();
@@ -561,6 +572,7 @@ int MgDonutDialogManager::runPrintDialog(QPrinter &printer)
 
 void MgDonutDialogManager::printList()
 {
+    const gesturewidget::OwnCode ours;
     QPrinter printer(QPrinter::HighResolution);
     // PDF files and print queues show this title.
     printer.setDocName(windowTitle());

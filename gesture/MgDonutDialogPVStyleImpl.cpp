@@ -10,6 +10,7 @@
 #include "sdk/chx/CHxDocument.h"
 #include "sdk/chx/CHxSystemServices.h"
 #include "sdk/chx/CHxTextOutput.h"
+#include "sdk/OwnCode.h"
 #include "sdk/QtBridge.h"
 
 #include <QCoreApplication>
@@ -241,6 +242,7 @@ bool MgDonutDialogPVStyleImpl::eventFilter(QObject *watched, QEvent *event)
 
 bool MgDonutDialogPVStyleImpl::event(QEvent *event)
 {
+    const gesturewidget::OwnCode ours;
     // A blocked ring would never see the release, and its grab would keep the mouse from the
     // modal window.
     if (event->type() == QEvent::WindowBlocked && gesturing)

@@ -627,5 +627,13 @@
         <source>%1 in no file</source>
         <translation>%1 in keiner Datei</translation>
     </message>
+    <message>
+        <source>switch gestures on again, after a crash or when they are switched off in the settings</source>
+        <translation>Gesten wieder einschalten, nach einem Absturz oder wenn sie in den Einstellungen ausgeschaltet sind</translation>
+    </message>
+    <message>
+        <source>off since %1 crashed in their code; to switch them on: mouse-gestures --switch-on %1</source>
+        <translation>aus, seit %1 in ihrem Code abgestürzt ist; zum Einschalten: mouse-gestures --switch-on %1</translation>
+    </message>
 </context>
 </TS>

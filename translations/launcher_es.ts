@@ -627,5 +627,13 @@
         <source>%1 in no file</source>
         <translation>%1 en ningún archivo</translation>
     </message>
+    <message>
+        <source>switch gestures on again, after a crash or when they are switched off in the settings</source>
+        <translation>volver a activar los gestos, tras un fallo o si están desactivados en los ajustes</translation>
+    </message>
+    <message>
+        <source>off since %1 crashed in their code; to switch them on: mouse-gestures --switch-on %1</source>
+        <translation>desactivados desde que %1 falló en su código; para activarlos: mouse-gestures --switch-on %1</translation>
+    </message>
 </context>
 </TS>

@@ -627,5 +627,13 @@
         <source>%1 in no file</source>
         <translation>%1 dans aucun fichier</translation>
     </message>
+    <message>
+        <source>switch gestures on again, after a crash or when they are switched off in the settings</source>
+        <translation>réactiver les gestes, après un plantage ou s’ils sont désactivés dans les réglages</translation>
+    </message>
+    <message>
+        <source>off since %1 crashed in their code; to switch them on: mouse-gestures --switch-on %1</source>
+        <translation>désactivés depuis que %1 a planté dans leur code ; pour les activer : mouse-gestures --switch-on %1</translation>
+    </message>
 </context>
 </TS>

@@ -627,5 +627,13 @@
         <source>%1 in no file</source>
         <translation>%1 in nessun file</translation>
     </message>
+    <message>
+        <source>switch gestures on again, after a crash or when they are switched off in the settings</source>
+        <translation>riattivare i gesti, dopo un arresto anomalo o se sono disattivati nelle impostazioni</translation>
+    </message>
+    <message>
+        <source>off since %1 crashed in their code; to switch them on: mouse-gestures --switch-on %1</source>
+        <translation>disattivati da quando %1 si è chiuso in modo anomalo nel loro codice; per attivarli: mouse-gestures --switch-on %1</translation>
+    </message>
 </context>
 </TS>

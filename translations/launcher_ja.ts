@@ -627,5 +627,13 @@
         <source>%1 in no file</source>
         <translation>%1 はどのファイルにもなし</translation>
     </message>
+    <message>
+        <source>switch gestures on again, after a crash or when they are switched off in the settings</source>
+        <translation>クラッシュの後、または設定でオフのときに、ジェスチャーを再びオンにする</translation>
+    </message>
+    <message>
+        <source>off since %1 crashed in their code; to switch them on: mouse-gestures --switch-on %1</source>
+        <translation>%1 がジェスチャーのコードでクラッシュしたためオフ。オンにするには: mouse-gestures --switch-on %1</translation>
+    </message>
 </context>
 </TS>

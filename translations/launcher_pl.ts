@@ -627,5 +627,13 @@
         <source>%1 in no file</source>
         <translation>%1 w żadnym pliku</translation>
     </message>
+    <message>
+        <source>switch gestures on again, after a crash or when they are switched off in the settings</source>
+        <translation>włącz gesty ponownie, po awarii lub gdy są wyłączone w ustawieniach</translation>
+    </message>
+    <message>
+        <source>off since %1 crashed in their code; to switch them on: mouse-gestures --switch-on %1</source>
+        <translation>wyłączone, odkąd %1 uległ awarii w ich kodzie; aby je włączyć: mouse-gestures --switch-on %1</translation>
+    </message>
 </context>
 </TS>

@@ -627,5 +627,13 @@
         <source>%1 in no file</source>
         <translation>%1 em nenhum arquivo</translation>
     </message>
+    <message>
+        <source>switch gestures on again, after a crash or when they are switched off in the settings</source>
+        <translation>ligar os gestos de novo, depois de uma falha ou se estiverem desligados nas definições</translation>
+    </message>
+    <message>
+        <source>off since %1 crashed in their code; to switch them on: mouse-gestures --switch-on %1</source>
+        <translation>desligados desde que %1 falhou no código deles; para os ligar: mouse-gestures --switch-on %1</translation>
+    </message>
 </context>
 </TS>

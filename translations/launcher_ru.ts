@@ -627,5 +627,13 @@
         <source>%1 in no file</source>
         <translation>%1 ни в одном файле</translation>
     </message>
+    <message>
+        <source>switch gestures on again, after a crash or when they are switched off in the settings</source>
+        <translation>снова включить жесты: после сбоя или если они выключены в настройках</translation>
+    </message>
+    <message>
+        <source>off since %1 crashed in their code; to switch them on: mouse-gestures --switch-on %1</source>
+        <translation>выключены, так как в их коде произошёл сбой %1; чтобы включить: mouse-gestures --switch-on %1</translation>
+    </message>
 </context>
 </TS>

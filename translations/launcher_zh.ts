@@ -627,5 +627,13 @@
         <source>%1 in no file</source>
         <translation>%1 个不在任何文件中</translation>
     </message>
+    <message>
+        <source>switch gestures on again, after a crash or when they are switched off in the settings</source>
+        <translation>重新启用手势：在崩溃之后，或手势在设置中已关闭时</translation>
+    </message>
+    <message>
+        <source>off since %1 crashed in their code; to switch them on: mouse-gestures --switch-on %1</source>
+        <translation>%1 在手势代码中崩溃，此后已关闭；要启用：mouse-gestures --switch-on %1</translation>
+    </message>
 </context>
 </TS>

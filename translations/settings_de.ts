@@ -55,6 +55,14 @@
         <source>Gestures are switched off in the settings of %1.</source>
         <translation>In den Einstellungen von %1 sind die Gesten ausgeschaltet.</translation>
     </message>
+    <message>
+        <source>%1 crashed in the code of Mouse Gestures, so gestures stay off in it.</source>
+        <translation>%1 ist im Code von Mouse Gestures abgestürzt, deshalb bleiben die Gesten darin aus.</translation>
+    </message>
+    <message>
+        <source>You can switch them on and try again.</source>
+        <translation>Sie können sie einschalten und es noch einmal versuchen.</translation>
+    </message>
 </context>
 <context>
     <name>settings::BindingsEditor</name>

@@ -55,6 +55,14 @@
         <source>Gestures are switched off in the settings of %1.</source>
         <translation>Los gestos están desactivados en los ajustes de %1.</translation>
     </message>
+    <message>
+        <source>%1 crashed in the code of Mouse Gestures, so gestures stay off in it.</source>
+        <translation>%1 falló en el código de Mouse Gestures, por eso los gestos siguen desactivados en él.</translation>
+    </message>
+    <message>
+        <source>You can switch them on and try again.</source>
+        <translation>Puede activarlos y probar de nuevo.</translation>
+    </message>
 </context>
 <context>
     <name>settings::BindingsEditor</name>

@@ -55,6 +55,14 @@
         <source>Gestures are switched off in the settings of %1.</source>
         <translation>Les gestes sont désactivés dans les réglages de %1.</translation>
     </message>
+    <message>
+        <source>%1 crashed in the code of Mouse Gestures, so gestures stay off in it.</source>
+        <translation>%1 a planté dans le code de Mouse Gestures, les gestes y restent donc désactivés.</translation>
+    </message>
+    <message>
+        <source>You can switch them on and try again.</source>
+        <translation>Vous pouvez les activer et réessayer.</translation>
+    </message>
 </context>
 <context>
     <name>settings::BindingsEditor</name>

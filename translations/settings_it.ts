@@ -55,6 +55,14 @@
         <source>Gestures are switched off in the settings of %1.</source>
         <translation>I gesti sono disattivati nelle impostazioni di %1.</translation>
     </message>
+    <message>
+        <source>%1 crashed in the code of Mouse Gestures, so gestures stay off in it.</source>
+        <translation>%1 si è chiuso in modo anomalo nel codice di Mouse Gestures, perciò i gesti vi restano disattivati.</translation>
+    </message>
+    <message>
+        <source>You can switch them on and try again.</source>
+        <translation>Si possono attivare e riprovare.</translation>
+    </message>
 </context>
 <context>
     <name>settings::BindingsEditor</name>

@@ -55,6 +55,14 @@
         <source>Gestures are switched off in the settings of %1.</source>
         <translation>%1 の設定でジェスチャーがオフになっています。</translation>
     </message>
+    <message>
+        <source>%1 crashed in the code of Mouse Gestures, so gestures stay off in it.</source>
+        <translation>%1 が Mouse Gestures のコードでクラッシュしたため、ジェスチャーはオフのままです。</translation>
+    </message>
+    <message>
+        <source>You can switch them on and try again.</source>
+        <translation>オンにしてもう一度試すことができます。</translation>
+    </message>
 </context>
 <context>
     <name>settings::BindingsEditor</name>

@@ -55,6 +55,14 @@
         <source>Gestures are switched off in the settings of %1.</source>
         <translation>Gesty są wyłączone w ustawieniach %1.</translation>
     </message>
+    <message>
+        <source>%1 crashed in the code of Mouse Gestures, so gestures stay off in it.</source>
+        <translation>%1 uległ awarii w kodzie Mouse Gestures, dlatego gesty pozostają w nim wyłączone.</translation>
+    </message>
+    <message>
+        <source>You can switch them on and try again.</source>
+        <translation>Można je włączyć i spróbować ponownie.</translation>
+    </message>
 </context>
 <context>
     <name>settings::BindingsEditor</name>

@@ -55,6 +55,14 @@
         <source>Gestures are switched off in the settings of %1.</source>
         <translation>Os gestos estão desligados nas definições de %1.</translation>
     </message>
+    <message>
+        <source>%1 crashed in the code of Mouse Gestures, so gestures stay off in it.</source>
+        <translation>%1 falhou no código de Mouse Gestures, por isso os gestos ficam desligados nele.</translation>
+    </message>
+    <message>
+        <source>You can switch them on and try again.</source>
+        <translation>Pode ligá-los e tentar de novo.</translation>
+    </message>
 </context>
 <context>
     <name>settings::BindingsEditor</name>

@@ -55,6 +55,14 @@
         <source>Gestures are switched off in the settings of %1.</source>
         <translation>Жесты выключены в настройках %1.</translation>
     </message>
+    <message>
+        <source>%1 crashed in the code of Mouse Gestures, so gestures stay off in it.</source>
+        <translation>В коде Mouse Gestures произошёл сбой %1, поэтому жесты в этой программе остаются выключенными.</translation>
+    </message>
+    <message>
+        <source>You can switch them on and try again.</source>
+        <translation>Их можно включить и попробовать снова.</translation>
+    </message>
 </context>
 <context>
     <name>settings::BindingsEditor</name>

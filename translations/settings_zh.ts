@@ -55,6 +55,14 @@
         <source>Gestures are switched off in the settings of %1.</source>
         <translation>%1 的设置中已关闭手势。</translation>
     </message>
+    <message>
+        <source>%1 crashed in the code of Mouse Gestures, so gestures stay off in it.</source>
+        <translation>%1 在 Mouse Gestures 的代码中崩溃，因此其中的手势保持关闭。</translation>
+    </message>
+    <message>
+        <source>You can switch them on and try again.</source>
+        <translation>您可以启用手势再试一次。</translation>
+    </message>
 </context>
 <context>
     <name>settings::BindingsEditor</name>

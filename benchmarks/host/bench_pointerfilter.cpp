@@ -7,8 +7,10 @@
 // and the cost of any other event. The baseline is Qt's own delivery.
 
 #include "host/documents/DocumentManager.h"
+#include "host/files/CrashPage.h"
 #include "host/input/PointerFilter.h"
 #include "sdk/chx/CHxTracker.h"
+#include "sdk/OwnCode.h"
 
 #include <benchmark/benchmark.h>
 
@@ -114,12 +116,30 @@ void filterAlone(benchmark::State &state)
     }
 }
 
+// What code of ours does first whenever Qt calls it, with the page that outlives a crash.
+void markOwnCode(benchmark::State &state)
+{
+    const gesturewidget::CrashPage page(QStringLiteral("bench_pointerfilter"),
+                                        QStringLiteral("/bench_pointerfilter.ini"));
+    if (!page.mark()) {
+        state.SkipWithError("there is no folder for the page");
+        return;
+    }
+    gesturewidget::codemark::keepAt(page.mark());
+    for (auto _ : state) {
+        const gesturewidget::OwnCode ours;
+        benchmark::ClobberMemory();
+    }
+    gesturewidget::codemark::keepAt(nullptr);
+}
+
 } // namespace
 
 BENCHMARK(moveInView)->ArgName("filter")->Arg(0)->Arg(1);
 BENCHMARK(moveElsewhere)->ArgName("filter")->Arg(0)->Arg(1);
 BENCHMARK(otherEvent)->ArgName("filter")->Arg(0)->Arg(1);
 BENCHMARK(filterAlone);
+BENCHMARK(markOwnCode);
 
 int main(int argc, char **argv)
 {

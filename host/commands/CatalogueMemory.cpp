@@ -5,6 +5,7 @@
 
 #include "host/commands/CommandCatalogue.h"
 #include "host/commands/RememberedIcon.h"
+#include "sdk/OwnCode.h"
 
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -66,6 +67,7 @@ void CatalogueMemory::stop()
 
 void CatalogueMemory::look()
 {
+    const OwnCode ours;
     for (const auto &item : m_catalogue.items()) {
         const QString identifier = item->GetIdentifier().toQString();
         if (!item->here.isPresent || item->here.isListEntry || m_compared.contains(identifier))
@@ -87,6 +89,7 @@ void CatalogueMemory::look()
 
 void CatalogueMemory::draw()
 {
+    const OwnCode ours;
     if (QGuiApplication::mouseButtons() != Qt::NoButton)
         return;
     QElapsedTimer elapsed;

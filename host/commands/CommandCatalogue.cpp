@@ -7,6 +7,7 @@
 #include "host/files/CommandNames.h"
 #include "host/files/DocumentName.h"
 #include "host/window/EntryAction.h"
+#include "sdk/OwnCode.h"
 
 #include <QMainWindow>
 #include <QRegularExpression>
@@ -89,7 +90,12 @@ void CommandCatalogue::removeWindow(const QWidget *window)
         item->forEachAddress([&](const QAction *action) { m_byAction.insert(action, item.get()); });
     }
     QMetaObject::invokeMethod(
-        this, [this] { m_removed.clear(); }, Qt::QueuedConnection);
+        this,
+        [this] {
+            const OwnCode ours;
+            m_removed.clear();
+        },
+        Qt::QueuedConnection);
 }
 
 CommandCatalogue::Window *CommandCatalogue::windowFor(const QWidget *window) const
@@ -273,6 +279,7 @@ void CommandCatalogue::prepareSoon()
 
 void CommandCatalogue::prepare()
 {
+    const OwnCode ours;
     update();
     Q_EMIT prepared();
 }

@@ -4,6 +4,7 @@
 #include "host/commands/CommandLineWatcher.h"
 
 #include "host/commands/CommandStack.h"
+#include "sdk/OwnCode.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -38,6 +39,7 @@ bool CommandLineWatcher::eventFilter(QObject *watched, QEvent *event)
     if (event->type() != QEvent::KeyPress || !isPlainReturn(*static_cast<QKeyEvent *>(event))
         || !watched->inherits(m_className.constData()))
         return false;
+    const OwnCode ours;
     auto *line = qobject_cast<QLineEdit *>(watched);
     const QString name = line ? line->text().trimmed() : QString();
     if (!m_stack.lookupCommand(OdString(name)))

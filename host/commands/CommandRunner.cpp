@@ -11,6 +11,7 @@
 #include "sdk/chx/CHxDocumentManager.h"
 #include "sdk/od/OdEdCommand.h"
 #include "sdk/od/OdRxObjectImpl.h"
+#include "sdk/OwnCode.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -50,6 +51,7 @@ void bringDialogToFront()
 
 void pressEscape(QWidget *view)
 {
+    const ProgramCode theirs;
     const QPointer<QWidget> guard(view);
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
         QKeyEvent event(type, Qt::Key_Escape, Qt::NoModifier);
@@ -94,6 +96,7 @@ template <class Run> void CommandRunner::queue(Run run)
     QMetaObject::invokeMethod(
         this,
         [this, window, hadWindow, run] {
+            const OwnCode ours;
             if (hadWindow && !m_windows->contains(window))
                 return;
             const MainWindows::Turn turn(m_windows, window);
@@ -176,6 +179,7 @@ void CommandRunner::trigger(const QString &name)
         m_output.showForAWhile(QCoreApplication::translate("host", "%1: cannot be used at the moment.")
                                    .arg(item->GetCaption().toQString()));
     } else {
+        const ProgramCode theirs;
         item->action()->trigger();
     }
 }

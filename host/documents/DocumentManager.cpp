@@ -7,6 +7,7 @@
 #include "sdk/chx/CHxDocumentManagerReactor.h"
 #include "sdk/chx/CHxString.h"
 #include "sdk/od/OdRxObjectImpl.h"
+#include "sdk/OwnCode.h"
 
 #include <QApplication>
 
@@ -126,6 +127,7 @@ void DocumentManager::close(Document *document)
 {
     if (!document->isOpen())
         return;
+    const OwnCode ours;
     Q_EMIT documentAboutToClose(document);
     notify([document](CHxDocumentManagerReactor &r) { r.DocumentToBeDestroyed(document); });
     notify([document](CHxDocumentManagerReactor &r) { r.DatabaseDetached(document); });

@@ -4,6 +4,7 @@
 #include "host/documents/ViewFinder.h"
 
 #include "host/documents/ViewGuess.h"
+#include "sdk/OwnCode.h"
 
 #include <QAbstractScrollArea>
 #include <QApplication>
@@ -77,6 +78,7 @@ QWidget *ViewFinder::pointerWidget(QWidget *widget)
 
 bool ViewFinder::eventFilter(QObject *receiver, QEvent *event)
 {
+    const OwnCode ours;
     if (m_guesses) {
         noteChange(receiver, *event);
         return false;

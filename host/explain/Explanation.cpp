@@ -12,6 +12,7 @@
 #include "host/services/SystemServices.h"
 #include "host/window/Captions.h"
 #include "host/window/MainWindows.h"
+#include "sdk/OwnCode.h"
 
 #include <QAbstractScrollArea>
 #include <QApplication>
@@ -130,6 +131,7 @@ void Explanation::tellSoon()
 
 void Explanation::tellNow()
 {
+    const OwnCode ours;
     const QJsonObject now = report();
     if (now == m_told || !window())
         return;

@@ -10,9 +10,10 @@ namespace gesturewidget {
 
 // Replaces a file in one step. Everything that this project keeps on disk is written here.
 //
-// The new content goes into a file beside the old one, is flushed to the disk, read back and
+// The new content goes into another file in the same folder, is flushed to the disk, read back and
 // compared, and only then takes the old one's name. So a reader sees either the whole old or the
-// whole new content, and a full disk leaves the old one.
+// whole new content, and a full disk leaves the old one. A writer that is killed leaves nothing that
+// the next writer of the file does not remove, see UnfinishedFile.
 //
 //     FileWriter writer(path, FileWriter::Readers::Owner);
 //     if (!writer.write(content, path + QStringLiteral(".bak")))

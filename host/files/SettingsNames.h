@@ -65,6 +65,13 @@ namespace gesturewidget::settingsnames {
     return QStringLiteral("Introduced");
 }
 
+// In the host's section: "1" while gestures stay off because the program died in their code. Only a
+// person switches them on again.
+[[nodiscard]] inline QString offSinceCrashKey()
+{
+    return QStringLiteral("OffSinceCrash");
+}
+
 // In the host's section: the identifiers that a person has imported, one a line. They come from
 // another computer, so the program may well have them although nobody has seen them on this one.
 [[nodiscard]] inline QString importedKey()

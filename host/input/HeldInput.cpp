@@ -3,6 +3,8 @@
 
 #include "host/input/HeldInput.h"
 
+#include "sdk/OwnCode.h"
+
 #include <QApplication>
 #include <QtTest/qtestspontaneevent.h>
 
@@ -77,6 +79,7 @@ void HeldInput::handOver()
 
 void HeldInput::sendRest()
 {
+    const OwnCode ours;
     const QPointer<HeldInput> self = this;
     const std::shared_ptr<std::deque<Item>> outgoing = m_outgoing;
     const auto send = [&self](Item &item) {
@@ -90,6 +93,7 @@ void HeldInput::sendRest()
         QSpontaneKeyEvent::setSpontaneous(event.get());
         QObject nobody;
         const bool isLost = !item.window || isBlockedByModal(item.window);
+        const ProgramCode theirs;
         qApp->notify(isLost ? &nobody : item.window.data(), event.get());
         if (self)
             self->m_sending = outer;

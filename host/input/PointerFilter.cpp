@@ -4,6 +4,7 @@
 #include "host/input/PointerFilter.h"
 
 #include "host/documents/DocumentManager.h"
+#include "sdk/OwnCode.h"
 #include "sdk/QtBridge.h"
 
 #include <QAbstractScrollArea>
@@ -44,6 +45,7 @@ PointerFilter::~PointerFilter() = default;
 
 bool PointerFilter::eventFilter(QObject *receiver, QEvent *event)
 {
+    const OwnCode ours;
     // Every event of the program comes through here: do no work before it matters.
     switch (event->type()) {
     case QEvent::MouseMove:
@@ -431,6 +433,7 @@ void PointerFilter::queue(void (PointerFilter::*method)())
     QMetaObject::invokeMethod(
         this,
         [this, press, method] {
+            const OwnCode ours;
             if (press == m_press)
                 (this->*method)();
         },

@@ -6,6 +6,7 @@
 #include "host/menus/ModuleEntries.h"
 #include "host/menus/ToolsMenu.h"
 #include "host/window/MenuChanges.h"
+#include "sdk/OwnCode.h"
 
 #include <algorithm>
 
@@ -67,8 +68,10 @@ void MenuEntries::putIntoTools(UiMenuItem *item)
 void MenuEntries::put(UiMenuItem *item, QWidget *place, bool isForTools)
 {
     std::unique_ptr<EntryAction> action = item->newAction();
-    connect(action.get(), &QAction::triggered, this,
-            [this, item] { m_entries.choose(*item, m_window); });
+    connect(action.get(), &QAction::triggered, this, [this, item] {
+        const OwnCode ours;
+        m_entries.choose(*item, m_window);
+    });
     m_isRestoring = true;
     if (place) { // a window without a menu bar may get one
         prepare(place);
@@ -99,6 +102,7 @@ void MenuEntries::restoreLater()
 
 void MenuEntries::restore()
 {
+    const OwnCode ours;
     m_isScheduled = false;
     if (m_isRestoring || m_placed.empty())
         return;
@@ -124,11 +128,15 @@ void MenuEntries::prepare(QWidget *place)
         return;
     m_prepared.insert(place, {});
     m_watcher.watch(place);
-    connect(place, &QObject::destroyed, this, [this](const QObject *gone) { m_prepared.remove(gone); });
+    connect(place, &QObject::destroyed, this, [this](const QObject *gone) {
+        const OwnCode ours;
+        m_prepared.remove(gone);
+    });
     // A program that fills a menu whenever it opens has connected before this. So the entry is
     // back before the menu is shown.
     if (auto *menu = qobject_cast<QMenu *>(place)) {
         connect(menu, &QMenu::aboutToShow, this, [this, menu] {
+            const OwnCode ours;
             m_prepared[menu].count = 0;
             restore();
         });

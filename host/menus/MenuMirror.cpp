@@ -7,6 +7,7 @@
 #include "host/menus/ToolsMenu.h"
 #include "host/window/Captions.h"
 #include "host/window/EntryAction.h"
+#include "sdk/OwnCode.h"
 
 #include <QMenu>
 #include <QMenuBar>
@@ -163,6 +164,7 @@ void MenuMirror::clean()
         && !m_barItems.hasRetired())
         return;
     const auto destroyRetired = [this] {
+        const OwnCode ours;
         m_items.destroyRetired();
         m_collections.destroyRetired();
         m_menus.destroyRetired();

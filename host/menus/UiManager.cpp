@@ -5,6 +5,7 @@
 
 #include "host/commands/CommandCatalogue.h"
 #include "host/commands/SnapshotIterator.h"
+#include "sdk/OwnCode.h"
 
 #include <algorithm>
 
@@ -48,7 +49,12 @@ void UiManager::removeWindow(const QWidget *window)
     m_removed.push_back(std::move(*found));
     m_windows.erase(found);
     QMetaObject::invokeMethod(
-        &m_context, [this] { m_removed.clear(); }, Qt::QueuedConnection);
+        &m_context,
+        [this] {
+            const OwnCode ours;
+            m_removed.clear();
+        },
+        Qt::QueuedConnection);
 }
 
 std::unique_ptr<CHxIterator<CHxUIWorkspace>> UiManager::NewWorkspaceIterator()

@@ -4,6 +4,7 @@
 #include "host/menus/UiMenuItem.h"
 
 #include "sdk/chx/CHxUICommandItem.h"
+#include "sdk/OwnCode.h"
 
 namespace gesturewidget {
 
@@ -27,8 +28,10 @@ std::unique_ptr<EntryAction> UiMenuItem::newAction()
 {
     auto action = std::make_unique<EntryAction>(this);
     copyTexts(action.get());
-    QObject::connect(&m_texts, &QAction::changed, action.get(),
-                     [this, shown = action.get()] { copyTexts(shown); });
+    QObject::connect(&m_texts, &QAction::changed, action.get(), [this, shown = action.get()] {
+        const OwnCode ours;
+        copyTexts(shown);
+    });
     return action;
 }
 

@@ -4,6 +4,7 @@
 #include "host/services/HostEditor.h"
 
 #include "sdk/chx/CHxEditorReactor.h"
+#include "sdk/OwnCode.h"
 
 #include <algorithm>
 
@@ -21,7 +22,12 @@ void HostEditor::addReactor(OdEditorReactor *reactor)
     m_reactors.push_back({reactor, false});
     if (m_frameCreated)
         QMetaObject::invokeMethod(
-            &m_context, [this] { tellUninformed(); }, Qt::QueuedConnection);
+            &m_context,
+            [this] {
+                const OwnCode ours;
+                tellUninformed();
+            },
+            Qt::QueuedConnection);
 }
 
 void HostEditor::removeReactor(OdEditorReactor *reactor)

@@ -5,6 +5,7 @@
 
 #include "host/files/Complaint.h"
 #include "host/files/SettingsNames.h"
+#include "sdk/OwnCode.h"
 
 namespace gesturewidget {
 
@@ -80,6 +81,7 @@ SettingsFile::Values ProfileStore::values()
 
 bool ProfileStore::flush()
 {
+    const OwnCode ours;
     m_isScheduled = false;
     if (m_pending.isEmpty())
         return true;

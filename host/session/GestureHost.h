@@ -82,8 +82,9 @@ public:
     //
     // Returns true if the host runs, also if it was running before. Returns false, and puts one
     // line into `error` if that is not null, if there is no window or no QApplication, if
-    // another host is running, if this one was stopped before, or if the module cannot be
-    // loaded. The program is then unchanged.
+    // another host is running, if this one was stopped before, if the module cannot be loaded, or
+    // if the program has crashed in code of the gestures and nobody has switched them on since. The
+    // program is then unchanged.
     bool start(QString *error = nullptr);
     // Takes everything out of the program again. This also happens when the main window is
     // destroyed and when the application quits. A stopped host cannot be started again.

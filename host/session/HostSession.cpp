@@ -12,9 +12,11 @@
 #include "host/services/StoredText.h"
 #include "host/services/SystemServices.h"
 #include "host/session/ExplainedProgram.h"
+#include "host/session/LastRun.h"
 #include "host/window/MainWindows.h"
 #include "sdk/od/OdEdCommandStack.h"
 #include "sdk/od/OdEditor.h"
+#include "sdk/OwnCode.h"
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
@@ -59,12 +61,15 @@ bool HostSession::start(QString *error)
 {
     if (m_isRunning)
         return true;
+    const OwnCode ours;
     QString problem = obstacle();
     if (!problem.isEmpty()) {
         if (error)
             *error = problem;
         return false;
     }
+    if (explanationListener() < 0) // whoever explains a program may kill it at any time
+        LastRun::watchThisOne(m_options.program, m_options.settingsFile);
     m_wasStarted = true;
     m_isRunning = true;
     running = this;
@@ -95,6 +100,9 @@ bool HostSession::start(QString *error)
     m_windowFinder->start();
     qApp->installEventFilter(m_pointerFilter.get());
     m_menuReadiness.start();
+    // A program's own code runs in the loop, also while our code waits in a nested one.
+    for (const auto signal : {&QAbstractEventDispatcher::aboutToBlock, &QAbstractEventDispatcher::awake})
+        connect(QAbstractEventDispatcher::instance(), signal, this, &codemark::eventLoopGoesOn);
     // This session keeps the module, so earlier ones need not stay for it.
     if (m_next)
         connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
@@ -110,7 +118,7 @@ QString HostSession::obstacle() const
         return QStringLiteral("this program has a host already");
     if (!qobject_cast<QMainWindow *>(m_firstWindow.data()) || !qobject_cast<QApplication *>(qApp))
         return QStringLiteral("there is no main window to host");
-    return {};
+    return LastRun::obstacle(m_options.program, m_options.settingsFile);
 }
 
 void HostSession::makeServices(const ProgramProfile &profile)
@@ -193,6 +201,7 @@ void HostSession::connectWindows()
 
 void HostSession::onMenusSettled()
 {
+    const OwnCode ours;
     if (m_menusHaveSettled || !m_isRunning)
         return;
     m_menusHaveSettled = true;
@@ -208,6 +217,7 @@ void HostSession::stop()
 {
     if (!m_isRunning)
         return;
+    const OwnCode ours;
     m_isRunning = false;
     running = nullptr;
     m_explanation.reset();
@@ -241,6 +251,7 @@ void HostSession::stopWithoutWindow()
 
 void HostSession::finish()
 {
+    const OwnCode ours;
     stop();
     if (m_isFinished)
         return;
@@ -269,6 +280,7 @@ void HostSession::finishAll()
         if (session->m_isRetired)
             delete session;
     }
+    LastRun::end();
 }
 
 void HostSession::finishRetired()
@@ -277,6 +289,7 @@ void HostSession::finishRetired()
     // nested loop, a dialog of the module may be open since an earlier session.
     if (QThread::currentThread()->loopLevel() > 1)
         return;
+    const OwnCode ours;
     disconnect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
                &HostSession::finishRetired);
     for (HostSession *other = firstStarted; other; other = other->m_next) {
@@ -298,6 +311,7 @@ void HostSession::addView(QWidget *view)
 {
     if (!view)
         return;
+    const OwnCode ours;
     m_addedViews.removeAll(nullptr); // those that are gone
     if (m_isRunning || !m_wasStarted)
         m_addedViews.append(view);
@@ -335,6 +349,7 @@ void HostSession::waitForAllMenus()
     QTimer::singleShot(kTimeForMenus, this, [this] {
         if (!m_isRunning)
             return;
+        const OwnCode ours;
         m_services->catalogue().endGuessing();
         if (m_explanation)
             return; // nobody is looking

@@ -5,6 +5,7 @@
 
 #include "host/window/MainWindows.h"
 #include "host/window/MenuBars.h"
+#include "sdk/OwnCode.h"
 
 #include <QApplication>
 #include <QMainWindow>
@@ -50,6 +51,7 @@ void WindowFinder::stop()
 
 void WindowFinder::consider(QWidget *window)
 {
+    const OwnCode ours;
     auto *mainWindow = qobject_cast<QMainWindow *>(window);
     const auto isWindow = [window](const Candidate &known) { return known.window == window; };
     if (!m_isRunning || !mainWindow || m_windows.contains(window)
@@ -84,6 +86,7 @@ bool WindowFinder::isWanted(const QMainWindow *window) const
 
 void WindowFinder::add(QMainWindow *window)
 {
+    const OwnCode ours;
     const bool isMissing = !m_isRunning || m_windows.contains(window);
     forget(window);
     disconnect(window, nullptr, this, nullptr);
@@ -95,6 +98,7 @@ void WindowFinder::add(QMainWindow *window)
 
 void WindowFinder::forget(const QObject *window)
 {
+    const OwnCode ours;
     const auto isWindow = [window](const Candidate &known) { return known.window == window; };
     const auto found = std::find_if(m_candidates.begin(), m_candidates.end(), isWindow);
     if (found == m_candidates.end())

@@ -4,6 +4,7 @@
 #include "host/window/MainWindows.h"
 
 #include "host/window/MenuBars.h"
+#include "sdk/OwnCode.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -102,6 +103,7 @@ void MainWindows::remove(QWidget *window, bool isComplete)
 {
     if (!contains(window))
         return;
+    const OwnCode ours;
     if (m_windows.size() == 1)
         Q_EMIT lastLeaves(isComplete);
     m_windows.removeAll(window);
@@ -124,6 +126,7 @@ void MainWindows::remove(QWidget *window, bool isComplete)
 
 bool MainWindows::eventFilter(QObject *receiver, QEvent *event)
 {
+    const OwnCode ours;
     if (event->type() == QEvent::WindowActivate)
         makeCurrent(static_cast<QWidget *>(receiver));
     else if (event->type() == QEvent::DeferredDelete) // the last moment at which it is complete

@@ -4,6 +4,7 @@
 #include "host/window/MenuChanges.h"
 
 #include "host/window/MenuBars.h"
+#include "sdk/OwnCode.h"
 
 #include <QActionEvent>
 #include <QChildEvent>
@@ -39,6 +40,7 @@ void MenuChanges::watch(QWidget *widget)
     m_watched.insert(widget);
     widget->installEventFilter(this);
     connect(widget, &QObject::destroyed, this, [this](const QObject *gone) {
+        const OwnCode ours;
         m_watched.remove(gone);
         Q_EMIT structureChanged();
     });
@@ -46,6 +48,7 @@ void MenuChanges::watch(QWidget *widget)
 
 bool MenuChanges::eventFilter(QObject *watched, QEvent *event)
 {
+    const OwnCode ours;
     switch (event->type()) {
     case QEvent::ActionAdded:
     case QEvent::ActionRemoved:

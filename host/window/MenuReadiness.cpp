@@ -4,6 +4,7 @@
 #include "host/window/MenuReadiness.h"
 
 #include "host/window/MenuBars.h"
+#include "sdk/OwnCode.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -36,6 +37,7 @@ void MenuReadiness::stop()
 
 bool MenuReadiness::eventFilter(QObject *receiver, QEvent *event)
 {
+    const OwnCode ours;
     switch (event->type()) {
     case QEvent::Show:
         if (receiver == m_window)

@@ -3,6 +3,8 @@
 
 #include "host/window/QuietWait.h"
 
+#include "sdk/OwnCode.h"
+
 namespace gesturewidget {
 
 QuietWait::QuietWait(int quietTime)
@@ -32,6 +34,7 @@ void QuietWait::stop()
 
 void QuietWait::end()
 {
+    const OwnCode ours;
     stop();
     Q_EMIT over();
 }

@@ -43,6 +43,9 @@ constexpr TaskOption kTaskOptions[] = {
                                    "\"default\" is the usual trigger")},
     {"--reset", CommandLine::Task::Reset, 0, 0, false, "PROGRAM",
      QT_TRANSLATE_NOOP("launcher", "bring the first bindings back; the trigger stays")},
+    {"--switch-on", CommandLine::Task::SwitchOn, 0, 0, false, "PROGRAM",
+     QT_TRANSLATE_NOOP("launcher", "switch gestures on again, after a crash or when they are switched "
+                                   "off in the settings")},
     {"--export", CommandLine::Task::Export, 0, 1, false, "PROGRAM [FILE]",
      QT_TRANSLATE_NOOP("launcher", "write all bindings as JSON")},
     {"--import", CommandLine::Task::Import, 1, 1, false, "PROGRAM FILE",

@@ -27,6 +27,7 @@ struct CommandLine
         SetTrigger, // trigger
         SetRing, // task, "own" or "shared"
         Reset,
+        SwitchOn,
         Export, // file; "-" or nothing for standard output
         Import, // file; "-" for standard input
         Print, // file

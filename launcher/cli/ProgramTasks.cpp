@@ -128,6 +128,8 @@ int doSettingsTask(const CommandLine &line)
         return report(tasks.setTrigger(QString::fromLocal8Bit(first)));
     case Task::Reset:
         return report(tasks.reset());
+    case Task::SwitchOn:
+        return report(tasks.switchOn());
     case Task::Export:
         return report(first.isEmpty() || first == kStandard ? tasks.showBindingsAsJson()
                                                             : tasks.exportTo(path));

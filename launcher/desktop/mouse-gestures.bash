@@ -9,7 +9,7 @@ _mouse_gestures() {
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then
         if [[ $current == -* ]]; then
-            mapfile -t COMPREPLY < <(compgen -W "--bindings --list-commands --bind --ring --trigger --reset --export \
+            mapfile -t COMPREPLY < <(compgen -W "--bindings --list-commands --bind --ring --trigger --reset --switch-on --export \
                 --import --print --doctor --explain --enable --disable --always --help --version" -- "$current")
         else
             mapfile -t COMPREPLY < <(compgen -c -- "$current")

@@ -3,6 +3,7 @@
 
 #include "launcher/doctor/Doctor.h"
 
+#include "host/files/CrashNote.h"
 #include "host/files/PluginNames.h"
 #include "host/files/ProgramProfile.h"
 #include "host/files/SettingsFile.h"
@@ -54,6 +55,7 @@ const char *nameOf(Matter matter)
     case Matter::Settings:
         return QT_TRANSLATE_NOOP("launcher", "settings");
     case Matter::Gestures:
+    case Matter::Crash:
         return QT_TRANSLATE_NOOP("launcher", "gestures");
     case Matter::Bindings:
         return QT_TRANSLATE_NOOP("launcher", "bindings");
@@ -207,12 +209,17 @@ QString sourcesOfBindings(const Sources &sources, int scheme)
     return texts.join(QStringLiteral(", "));
 }
 
-void reportChoices(const Sources &sources, const gesturewidget::ProgramProfile &profile, Report &report)
+void reportChoices(const QString &program, const Sources &sources,
+                   const gesturewidget::ProgramProfile &profile, Report &report)
 {
     const gesturewidget::SettingsFile::Values values = sources.site.under(sources.own);
     const Bindings bindings = Bindings::fromSettings(values);
     const QString enabledBy = sources.of(names::moduleSection(), names::enabledKey());
-    if (!bindings.enabled)
+    if (gesturewidget::CrashNote(program, sources.ownFile).isThere())
+        report.addProblem(Matter::Crash, Text::tr("off since %1 crashed in their code; to switch them "
+                                                  "on: mouse-gestures --switch-on %1")
+                                             .arg(program));
+    else if (!bindings.enabled)
         report.addProblem(Matter::Gestures, Text::tr("switched off in the settings") + enabledBy);
     else
         report.add(Matter::Gestures, Text::tr("on, %1 of them").arg(bindings.scheme) + enabledBy);
@@ -253,7 +260,8 @@ void reportSettings(const Symptoms &symptoms, const gesturewidget::ProgramProfil
     const gesturewidget::SettingsFile::Values own =
         canWrite && file.exists() ? gesturewidget::SettingsFile(symptoms.settingsFile).read()
                                   : gesturewidget::SettingsFile::Values();
-    reportChoices({symptoms.settingsFile, own, gesturewidget::SiteSettings(symptoms.settingsFile)},
+    reportChoices(symptoms.program,
+                  {symptoms.settingsFile, own, gesturewidget::SiteSettings(symptoms.settingsFile)},
                   profile, report);
 }
 

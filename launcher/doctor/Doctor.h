@@ -44,6 +44,7 @@ struct Finding
         Views,
         Settings,
         Gestures,
+        Crash, // instead of Gestures, if the program died in their code
         Bindings,
         Trigger
     };

@@ -3,6 +3,7 @@
 
 #include "launcher/settings/SettingsTasks.h"
 
+#include "host/files/CrashNote.h"
 #include "host/files/FileContent.h"
 #include "host/files/FileWriter.h"
 #include "host/files/RingSettings.h"
@@ -209,9 +210,9 @@ Outcome SettingsTasks::showBindings() const
     const SettingsFile::Values values = m_site.under(SettingsFile(m_file).read());
     const Bindings bindings = Bindings::fromSettings(values);
     Outcome outcome;
+    const bool areOn = bindings.enabled && !gesturewidget::CrashNote(m_program, m_file).isThere();
     append(outcome.output,
-           (bindings.enabled ? Text::tr("gestures in %1: on") : Text::tr("gestures in %1: off"))
-               .arg(m_program));
+           (areOn ? Text::tr("gestures in %1: on") : Text::tr("gestures in %1: off")).arg(m_program));
     append(outcome.output, bindings.trigger.isEmpty()
                                ? Text::tr("started with: %1 (default)").arg(m_usualTrigger)
                                : Text::tr("started with: %1").arg(bindings.trigger));
@@ -302,6 +303,19 @@ Outcome SettingsTasks::reset(SettingsChange *made)
         append(outcome.output, Text::tr("gestures are still started with: %1")
                                    .arg(trigger.isEmpty() ? m_usualTrigger : trigger));
     return outcome;
+}
+
+Outcome SettingsTasks::switchOn(SettingsChange *made)
+{
+    QString problem;
+    if (!gesturewidget::CrashNote(m_program, m_file).remove(&problem))
+        return Outcome::failure(problem);
+    return edit(
+        [](Bindings &bindings) {
+            bindings.enabled = true;
+            return QString();
+        },
+        made);
 }
 
 Outcome SettingsTasks::exportTo(const QString &path) const

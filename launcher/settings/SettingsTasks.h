@@ -68,6 +68,8 @@ public:
     // Brings back all fourteen initial values, which are the administrator's where there are some.
     // The trigger stays; the output says so.
     [[nodiscard]] Outcome reset(SettingsChange *made = nullptr);
+    // Switches gestures on: in the settings, and after the program has crashed in their code.
+    [[nodiscard]] Outcome switchOn(SettingsChange *made = nullptr);
     // Writes all bindings as JSON to a file, in one step.
     [[nodiscard]] Outcome exportTo(const QString &path) const;
     // Imports a file that exportTo() wrote. Keeps the old settings beside the new ones as

@@ -160,11 +160,15 @@ bool BindingsEditor::setScheme(int scheme)
 
 bool BindingsEditor::setEnabled(bool isEnabled)
 {
-    return change(isEnabled ? tr("Switch Gestures On") : tr("Switch Gestures Off"),
-                  [isEnabled](Bindings &bindings) {
-                      bindings.enabled = isEnabled;
-                      return QString();
-                  });
+    if (isEnabled) {
+        SettingsChange made;
+        const Outcome outcome = m_settings.tasks.switchOn(&made);
+        return finish(outcome, made, tr("Switch Gestures On"));
+    }
+    return change(tr("Switch Gestures Off"), [](Bindings &bindings) {
+        bindings.enabled = false;
+        return QString();
+    });
 }
 
 bool BindingsEditor::setTrigger(const QString &trigger)

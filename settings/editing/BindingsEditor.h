@@ -64,6 +64,7 @@ public:
     bool unbind(int direction);
     bool swap(int direction, int other);
     bool setScheme(int scheme);
+    // Switching on also forgets that the program has crashed.
     bool setEnabled(bool isEnabled);
     // Gives a task a ring of its own and shows that, or lets the task use the shared ring again and
     // shows this. The task's own ring is kept and comes back with the next one of its own.

@@ -42,6 +42,10 @@ public:
             return {tr("Gestures are switched off in the settings of %1.").arg(title),
                     {},
                     Advice::Remedy::EnableGestures};
+        case Matter::Crash:
+            return {
+                tr("%1 crashed in the code of Mouse Gestures, so gestures stay off in it.").arg(title),
+                tr("You can switch them on and try again."), Advice::Remedy::EnableGestures};
         default:
             return {finding.line().mid(2).simplified(), {}};
         }

@@ -15,7 +15,7 @@ struct Advice
 {
     enum class Remedy {
         None,
-        EnableGestures // the settings can do it: gestures are switched off there
+        EnableGestures // the settings can do it: gestures are off there
     };
 
     QString text; // what is wrong

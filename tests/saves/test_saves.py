@@ -8,8 +8,9 @@
 
 Three kinds of programs save: mouse-gestures once in each round, a program that imports two files of
 bindings in turn, and a program with gestures in which somebody changes the dialog and presses OK.
-After each kill the settings must be the old ones or the new ones, whole, and another program must be
-able to save at once. Prints the figures. Exits 1 if something was lost.
+After each kill the settings must be the old ones or the new ones, whole. Another program must be able
+to save at once, and leave no unfinished file behind. Prints the figures. Exits 1 if something was
+lost or left.
 """
 
 import argparse
@@ -92,10 +93,10 @@ class Home:
         return seconds
 
     def litter(self):
-        """Unfinished files that the kill has left. They harm nobody."""
-        return len([path for path in self.settings.parent.iterdir()
-                    if path.name.startswith("guest.ini.")
-                    and path.suffix not in (".bak", ".lock", ".before-import")])
+        """The unfinished files that are there."""
+        return [path.name for path in self.settings.parent.iterdir()
+                if path.name.startswith("guest.ini.")
+                and path.suffix not in (".bak", ".lock", ".before-import")]
 
 
 def kill_after(process, seconds):
@@ -167,16 +168,17 @@ KINDS = {"mouse-gestures --bind": by_launcher, "settings tasks": by_tasks, "the 
 
 def play(kind, number, options):
     """One round. Returns whether it was killed, the state that is left, the seconds that the next
-    save took, and the number of unfinished files."""
+    save took, and the numbers of unfinished files before and after that save."""
     with tempfile.TemporaryDirectory() as folder:
         home = Home(folder, options)
         was_killed, state = KINDS[kind](home, random.Random(options.seed * 100003 + number))
-        unfinished = home.litter()
+        unfinished = len(home.litter())
         seconds = home.save_after()
+        remaining = home.litter()
         # The one after that has no lock to wait for.
         if seconds - home.save_after() > LOCK_PATIENCE:
             raise Lost(f"the next save took {seconds:.2f} s")
-        return was_killed, state, seconds, unfinished
+        return was_killed, state, seconds, unfinished, len(remaining)
 
 
 def main():
@@ -201,7 +203,7 @@ def main():
             rounds = [pool.submit(play, kind, number, options) for number in range(options.rounds)]
             for number, round_ in enumerate(rounds):
                 try:
-                    was_killed, state, seconds, unfinished = round_.result()
+                    was_killed, state, seconds, unfinished, remaining = round_.result()
                 except Lost as lost:
                     failed = True
                     counts["lost"] += 1
@@ -210,12 +212,17 @@ def main():
                 counts["killed"] += was_killed
                 counts["old" if state == 0 else "new"] += 1
                 counts["unfinished"] += unfinished
+                counts["remaining"] += remaining
                 slowest = max(slowest, seconds)
         figures.append(
             f"{kind}: {options.rounds} rounds, {counts['killed']} killed: {counts['old']} old, "
             f"{counts['new']} new, {counts['lost']} lost; next save within {slowest:.2f} s; "
-            f"{counts['unfinished']} unfinished files left")
+            f"{counts['unfinished']} unfinished files left, "
+            f"{counts['remaining']} after the next save")
         print(figures[-1], flush=True)
+        if counts["remaining"] > 0:
+            failed = True
+            print(f"{kind}: the next save has not removed all unfinished files", file=sys.stderr)
         if counts["killed"] == 0:
             failed = True
             print(f"{kind}: no save was cut off", file=sys.stderr)

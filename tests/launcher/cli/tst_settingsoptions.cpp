@@ -250,6 +250,24 @@ private Q_SLOTS:
         QCOMPARE(expect({text("--export"), kProgram}, ""), json);
     }
 
+    void gesturesAreSwitchedOnAgain()
+    {
+        for (const char *off : {"[Host]\nOffSinceCrash=1\nTrigger=middle\n",
+                                "[GestureWidget]\nEnableMouseGesture=0\n[Host]\nTrigger=middle\n"}) {
+            QVERIFY(tests::writeFile(m_file, off));
+            expect({text("--bindings"), kProgram}, "gestures in launcher_fixture_direct: off\n");
+            QCOMPARE(expect({text("--switch-on"), kProgram}, ""), QByteArray());
+            expect({text("--bindings"), kProgram},
+                   "gestures in launcher_fixture_direct: on\nstarted with: middle\n");
+            QVERIFY(!contentOf(m_file).contains("OffSinceCrash"));
+        }
+        QVERIFY(QFile::remove(m_file));
+        QVERIFY(QDir().mkdir(m_file));
+        const Outcome refused = run({text("--switch-on"), kProgram});
+        QCOMPARE(refused.status, 1);
+        QCOMPARE(refused.errors.count('\n'), 1);
+    }
+
     void commandsThatWereShown()
     {
         const Outcome before = run({text("--list-commands"), kProgram});

@@ -5,6 +5,8 @@
 // has the file's name. The old content stays whole, and one line says what is wrong.
 
 #include "host/files/CatalogueFile.h"
+#include "host/files/SettingsFile.h"
+#include "host/files/SettingsNames.h"
 #include "tests/support/FolderTest.h"
 
 #include <QCoreApplication>
@@ -33,8 +35,8 @@ namespace {
 const QString kProgram = QStringLiteral(FIXTURES "/launcher_fixture_direct");
 const QString kName = QStringLiteral("launcher_fixture_direct");
 
-constexpr const char *kOptions[] = {"--bind",   "--trigger", "--reset", "--export",
-                                    "--import", "--print",   "--enable"};
+constexpr const char *kOptions[] = {"--bind",   "--trigger", "--reset", "--switch-on",
+                                    "--export", "--import",  "--print", "--enable"};
 constexpr int kBlock = 4096; // bytes of a file system's block
 
 // True if this process may mount file systems that nobody else sees. Without that right, a full file
@@ -143,6 +145,9 @@ void WritingTest::prepare() const
         expect({text("--bind"), kProgram, names.at(i), QString(600, QLatin1Char(char('a' + i)))});
     expect(option("--export"));
     expect({text("--bind"), kProgram, text("up"), text("ID_LINE")});
+    const QString note = gesturewidget::SettingsFile::nameOf(
+        gesturewidget::settingsnames::hostSection(), gesturewidget::settingsnames::offSinceCrashKey());
+    QVERIFY(gesturewidget::SettingsFile(m_settings).write({{note, text("1")}}));
     write(m_sheet, "%PDF-1.4 an old sheet\n");
 }
 

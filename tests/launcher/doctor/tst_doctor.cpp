@@ -157,6 +157,12 @@ private Q_SLOTS:
             writeFile(folder.filePath(QStringLiteral("drafter.ini")),
                       "[GestureWidget]\nEnableMouseGesture=0\n");
         });
+        row("off since a crash", false,
+            "\n! gestures:    off since drafter crashed in their code; to switch them on: "
+            "mouse-gestures --switch-on drafter\n",
+            [](Symptoms &, const QDir &folder) {
+                writeFile(folder.filePath(QStringLiteral("drafter.ini")), "[Host]\nOffSinceCrash=1\n");
+            });
         row("a folder in place of the settings", false, "cannot be written",
             [](Symptoms &, const QDir &folder) {
                 QVERIFY(folder.mkpath(QStringLiteral("drafter.ini")));

@@ -45,6 +45,7 @@ private Q_SLOTS:
         row("profile", Matter::Profile, "/p/draw.json: line 3", "/p/draw.json: line 3", "Mend");
         row("read-only", Matter::Settings, "/s/draw.ini, cannot be written", "/s/draw.ini", "writable");
         row("off", Matter::Gestures, "switched off in the settings", "switched off", "");
+        row("crash", Matter::Crash, "off since draw crashed", "Draw crashed", "try again");
     }
     void everyProblemHasWordsForAPerson()
     {
@@ -59,8 +60,9 @@ private Q_SLOTS:
         QVERIFY2(advice.first().text.contains(says), qPrintable(advice.first().text));
         QVERIFY2(advice.first().remedy.contains(remedy), qPrintable(advice.first().remedy));
         QVERIFY(!advice.first().text.startsWith(QLatin1Char('!')));
-        QCOMPARE(advice.first().action == Advice::Remedy::EnableGestures,
-                 static_cast<Finding::Matter>(matter) == Finding::Matter::Gestures);
+        const bool canBeSwitchedOn =
+            matter == int(Finding::Matter::Gestures) || matter == int(Finding::Matter::Crash);
+        QCOMPARE(advice.first().action == Advice::Remedy::EnableGestures, canBeSwitchedOn);
     }
 };
 

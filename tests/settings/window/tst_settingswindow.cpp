@@ -301,6 +301,20 @@ private Q_SLOTS:
         QVERIFY(!button->isVisible());
     }
 
+    void gesturesThatAreOffSinceACrashAreSwitchedOnHere()
+    {
+        write(settingsFile(text("draw")), "[Host]\nOffSinceCrash=1\n");
+        SettingsWindow window;
+        open(window);
+        QVERIFY2(state(window).contains(text("crashed")), qPrintable(state(window)));
+        auto *button = find<QPushButton>(window, "enable_button");
+        QVERIFY(button->isVisible());
+        button->click();
+        QVERIFY(!tests::contentOf(settingsFile(text("draw"))).contains("OffSinceCrash"));
+        QVERIFY2(!state(window).contains(text("crashed")), qPrintable(state(window)));
+        QVERIFY(!button->isVisible());
+    }
+
     void noProgramIsSaid()
     {
         uninstall(text("draw"));

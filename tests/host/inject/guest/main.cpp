@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "sdk/QtBridge.h"
+#include "tests/host/inject/guest/Crashes.h"
 #include "tests/host/inject/guest/EventScripts.h"
 #include "tests/host/inject/guest/GuestWindow.h"
 #include "tests/host/inject/guest/Steps.h"
@@ -542,6 +543,11 @@ int main(int argc, char **argv)
         return runWithoutWindow(argc, argv);
     if (mode == "crash")
         return with([](GuestWindow &) { std::raise(SIGKILL); });
+    if (mode.startsWith("crash-"))
+        return with([mode](GuestWindow &window) {
+            if (!crash(mode.mid(int(std::strlen("crash-"))), window))
+                QCoreApplication::exit(99);
+        });
     if (mode == "window-gone-with-dialog")
         return runWindowGoneWithDialog(argc, argv);
     if (mode == "window-first")

@@ -3,6 +3,8 @@
 
 #include "tests/host/session/modules/StubModule.h"
 
+#include <cstdlib>
+
 // All fixtures are built from this file. A definition on the target chooses what the fixture
 // lacks or does wrong.
 
@@ -41,6 +43,10 @@ Q_DECL_EXPORT OdRxModule *odrxCreateModuleObject(void *, const wchar_t *)
 #        ifdef STUB_INIT_THROWS
     public:
         void initApp() override { throw std::runtime_error("no start today"); }
+#        endif
+#        ifdef STUB_INIT_ABORTS
+    public:
+        void initApp() override { std::abort(); }
 #        endif
 #        ifdef STUB_END_THROWS
     public:
