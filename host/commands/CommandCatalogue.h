@@ -6,6 +6,7 @@
 #include "host/commands/ActionItem.h"
 #include "host/commands/CommandGroup.h"
 #include "host/commands/MenuWalk.h"
+#include "host/files/Phrase.h"
 #include "host/window/MenuChanges.h"
 
 #include <QHash>
@@ -93,7 +94,7 @@ public:
     // are probably mistyped. Commands that the profile names or that are trusted stay.
     void endGuessing();
     // Returns the reason for a guess; empty if the identifier was not guessed.
-    [[nodiscard]] QString reasonFor(const QString &identifier) const
+    [[nodiscard]] Phrase reasonFor(const QString &identifier) const
     {
         return m_reasons.value(identifier);
     }
@@ -182,7 +183,7 @@ private:
     QHash<QString, ActionItem *> m_byName; // identifiers and keys
     std::vector<std::unique_ptr<CommandGroup>> m_groups;
     QHash<QString, CommandGroup *> m_groupsByName;
-    QHash<QString, QString> m_reasons; // of guesses, by identifier
+    QHash<QString, Phrase> m_reasons; // of guesses, by identifier
     QSet<QString> m_trusted; // identifiers
     bool m_trustsAll = false;
     bool m_guesses = false;

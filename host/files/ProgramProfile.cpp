@@ -4,6 +4,7 @@
 #include "host/files/ProgramProfile.h"
 
 #include "host/files/FileContent.h"
+#include "host/files/Text.h"
 #include "host/files/TriggerText.h"
 
 #include <QDir>
@@ -31,9 +32,9 @@ public:
         QJsonParseError parsing;
         const QJsonDocument document = QJsonDocument::fromJson(text, &parsing);
         if (parsing.error != QJsonParseError::NoError)
-            fail(QStringLiteral("%1 at byte %2").arg(parsing.errorString()).arg(parsing.offset));
+            fail(Text::tr("%1 at byte %2").arg(parsing.errorString()).arg(parsing.offset));
         else if (!document.isObject())
-            fail(QStringLiteral("it is not an object"));
+            fail(Text::tr("it is not an object"));
         m_object = document.object();
     }
     Reader(const QJsonObject &object, const QString &path)
@@ -55,7 +56,7 @@ public:
         const QStringList present = m_object.keys();
         for (const QString &key : present) {
             if (!keys.contains(key))
-                fail(QStringLiteral("unknown key \"%1\"").arg(m_path + key));
+                fail(Text::tr("unknown key \"%1\"").arg(m_path + key));
         }
     }
 
@@ -63,7 +64,7 @@ public:
     {
         const QJsonValue value = m_object.value(key);
         if (!value.isUndefined() && !value.isString())
-            fail(QStringLiteral("\"%1\" is not a string").arg(m_path + key));
+            fail(Text::tr("\"%1\" is not a string").arg(m_path + key));
         return value.toString();
     }
 
@@ -77,12 +78,12 @@ public:
     {
         const QJsonValue value = m_object.value(key);
         if (!value.isUndefined() && !value.isArray())
-            fail(QStringLiteral("\"%1\" is not a list").arg(m_path + key));
+            fail(Text::tr("\"%1\" is not a list").arg(m_path + key));
         QStringList list;
         const QJsonArray array = value.toArray();
         for (const QJsonValue &entry : array) {
             if (!entry.isString() || entry.toString().isEmpty())
-                fail(QStringLiteral("\"%1\" holds something that is not a name").arg(m_path + key));
+                fail(Text::tr("\"%1\" holds something that is not a name").arg(m_path + key));
             list.append(entry.toString());
         }
         return list;
@@ -92,7 +93,7 @@ public:
     {
         const QJsonValue value = m_object.value(key);
         if (!value.isUndefined() && !value.isObject())
-            fail(QStringLiteral("\"%1\" is not an object").arg(m_path + key));
+            fail(Text::tr("\"%1\" is not an object").arg(m_path + key));
         return value.toObject();
     }
 
@@ -100,7 +101,7 @@ public:
     {
         const QJsonValue value = m_object.value(key);
         if (!value.isUndefined() && !value.isBool())
-            fail(QStringLiteral("\"%1\" is neither true nor false").arg(m_path + key));
+            fail(Text::tr("\"%1\" is neither true nor false").arg(m_path + key));
         return value.toBool();
     }
 
@@ -121,13 +122,13 @@ void readTrigger(Reader &profileReader, ProgramProfile &profile)
     if (!reader.value(QStringLiteral("button")).isUndefined()) {
         profile.triggerButton = buttonNamed(button);
         if (profile.triggerButton == Qt::NoButton)
-            reader.fail(QStringLiteral("\"trigger.button\" names no mouse button: \"%1\"").arg(button));
+            reader.fail(Text::tr("\"trigger.button\" names no mouse button: \"%1\"").arg(button));
     }
     const QStringList names = reader.strings(QStringLiteral("modifiers"));
     for (const QString &name : names) {
         const Qt::KeyboardModifier modifier = modifierNamed(name);
         if (modifier == Qt::NoModifier)
-            reader.fail(QStringLiteral("\"trigger.modifiers\" names no key: \"%1\"").arg(name));
+            reader.fail(Text::tr("\"trigger.modifiers\" names no key: \"%1\"").arg(name));
         profile.triggerModifiers |= modifier;
     }
     profile.hasTrigger = !reader.keys().isEmpty();
@@ -144,7 +145,7 @@ void readUsedTriggers(Reader &reader, ProgramProfile &profile)
         if (parseTrigger(text, button, modifiers))
             profile.usedTriggers.append(triggerText(button, modifiers));
         else
-            reader.fail(QStringLiteral("\"%1\" names no trigger: \"%2\"").arg(key, text));
+            reader.fail(Text::tr("\"%1\" names no trigger: \"%2\"").arg(key, text));
     }
 }
 
@@ -178,14 +179,14 @@ void readTriggerSetting(Reader &profileReader, ProgramProfile &profile)
     const QString before = reader.string(QStringLiteral("before"));
     const QString behind = reader.string(QStringLiteral("behind"));
     if (file.isEmpty() || QDir::isAbsolutePath(file) || before.isEmpty() || behind.isEmpty())
-        reader.fail(QStringLiteral("\"%1\" needs a file and what is around the value").arg(key));
+        reader.fail(Text::tr("\"%1\" needs a file and what is around the value").arg(key));
     const QJsonObject triggers = reader.object(QStringLiteral("triggers"));
     const QString value = reader.problem().isEmpty() ? ownSetting(file, before, behind) : QString();
     for (auto it = triggers.begin(); it != triggers.end(); ++it) {
         Qt::MouseButton button = Qt::NoButton;
         Qt::KeyboardModifiers modifiers = Qt::NoModifier;
         if (!parseTrigger(it->toString(), button, modifiers) || !isUsableTrigger(button, modifiers)) {
-            reader.fail(QStringLiteral("\"%1.triggers.%2\" names no trigger").arg(key, it.key()));
+            reader.fail(Text::tr("\"%1.triggers.%2\" names no trigger").arg(key, it.key()));
         } else if (it.key() == value) {
             profile.triggerButton = button;
             profile.triggerModifiers = modifiers;
@@ -203,7 +204,7 @@ void readCommands(Reader &profileReader, ProgramProfile &profile)
     for (const QString &identifier : identifiers) {
         const QStringList actions = reader.namesOf(identifier);
         if (identifier.isEmpty() || actions.isEmpty() || actions.contains(QString()))
-            reader.fail(QStringLiteral("\"wellKnownCommands.%1\" names no action").arg(identifier));
+            reader.fail(Text::tr("\"wellKnownCommands.%1\" names no action").arg(identifier));
         profile.wellKnownCommands.insert(identifier, actions);
     }
     profileReader.fail(reader.problem());
@@ -219,7 +220,7 @@ void readRing(Reader &tasksReader, const QString &task, const QJsonObject &objec
         const int scheme = key.size() == 2 ? key.at(0).digitValue() : 0;
         const int direction = key.size() == 2 ? key.at(1).digitValue() : 0;
         if ((scheme != 4 && scheme != 8) || direction < 1 || direction > scheme)
-            reader.fail(QStringLiteral("\"%1\" is no direction").arg(path + key));
+            reader.fail(Text::tr("\"%1\" is no direction").arg(path + key));
         profile.taskBindings[task].insert(key, reader.string(key));
     }
     tasksReader.fail(reader.problem());
@@ -234,11 +235,11 @@ void readTasks(Reader &profileReader, ProgramProfile &profile)
         profile.taskActions = reader.namesOf(QStringLiteral("checkedActionBeside"));
     profile.isTaskOfView = reader.flag(QStringLiteral("classOfView"));
     if (profile.isTaskOfView && !profile.taskActions.isEmpty())
-        reader.fail(QStringLiteral("\"tasks\" names two ways to know the task"));
+        reader.fail(Text::tr("\"tasks\" names two ways to know the task"));
     const QJsonObject rings = reader.object(QStringLiteral("firstBindings"));
     for (auto it = rings.begin(); it != rings.end(); ++it) {
         if (!it.value().isObject() || it.key().isEmpty())
-            reader.fail(QStringLiteral("\"tasks.firstBindings.%1\" is not an object").arg(it.key()));
+            reader.fail(Text::tr("\"tasks.firstBindings.%1\" is not an object").arg(it.key()));
         readRing(reader, it.key(), it.value().toObject(), profile);
     }
     profileReader.fail(reader.problem());
@@ -257,12 +258,12 @@ QString fill(ProgramProfile &profile, const QByteArray &text)
     static_cast<void>(reader.object(QStringLiteral("why")));
     const QJsonValue version = reader.value(QStringLiteral("version"));
     if (!version.isDouble())
-        reader.fail(QStringLiteral("\"version\" is missing or not a number"));
+        reader.fail(Text::tr("\"version\" is missing or not a number"));
     else if (version.toDouble() != kVersion)
-        reader.fail(QStringLiteral("version %1 is not known").arg(version.toDouble()));
+        reader.fail(Text::tr("version %1 is not known").arg(version.toDouble()));
     const QString program = reader.string(QStringLiteral("program"));
     if (program != profile.program)
-        reader.fail(QStringLiteral("\"program\" is \"%1\", not \"%2\"").arg(program, profile.program));
+        reader.fail(Text::tr("\"program\" is \"%1\", not \"%2\"").arg(program, profile.program));
     profile.viewClasses = reader.strings(QStringLiteral("viewClasses"));
     readTrigger(reader, profile);
     readTriggerSetting(reader, profile);
@@ -281,9 +282,9 @@ QString fill(ProgramProfile &profile, const FileContent &file)
     case FileContent::State::Read:
         return fill(profile, file.bytes);
     case FileContent::State::NotAFile:
-        return QStringLiteral("it is not a file");
+        return Text::tr("it is not a file");
     case FileContent::State::TooLarge:
-        return QStringLiteral("it is too long");
+        return Text::tr("it is too long");
     default:
         return file.problem;
     }
@@ -367,7 +368,7 @@ ProgramProfile ProgramProfile::forProgram(const QString &program, const QStringL
         if (problem.isEmpty())
             return profile;
         if (message) {
-            const QString line = QStringLiteral("the profile %1 is not used: %2").arg(path, problem);
+            const QString line = Text::tr("the profile %1 is not used: %2").arg(path, problem);
             *message = line.simplified();
         }
         return defaults;

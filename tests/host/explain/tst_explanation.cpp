@@ -65,7 +65,7 @@ private:
         QString text(QLatin1Char('\n'));
         const QJsonArray all = m_explanation->report().value(QStringLiteral("lines")).toArray();
         for (const QJsonValue &line : all)
-            text += line.toString() + QLatin1Char('\n');
+            text += gesturewidget::Phrase::fromJson(line).english() + QLatin1Char('\n');
         return text;
     }
     bool says(const char *line) const

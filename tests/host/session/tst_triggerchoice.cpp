@@ -83,7 +83,8 @@ void TriggerChoiceTest::aDrawingInSpaceLeavesTheRightButton()
     QVERIFY(isTrigger(choice, Qt::RightButton, Qt::NoModifier));
     QVERIFY(choice.noteView(QGLWidget()));
     QVERIFY(isTrigger(choice, Qt::RightButton, Qt::ControlModifier));
-    QVERIFY2(choice.reason().contains(QStringLiteral("OpenGL")), qPrintable(choice.reason()));
+    QVERIFY2(choice.reason().english().contains(QStringLiteral("OpenGL")),
+             qPrintable(choice.reason().english()));
     QVERIFY(store.flush());
     QCOMPARE(written().value(QStringLiteral("Host/UsualTrigger")), QStringLiteral("ctrl+right"));
 }
