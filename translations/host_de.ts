@@ -559,5 +559,9 @@
         <source>OpenGL paints the drawing, and such programs need the right button</source>
         <translation>OpenGL malt die Zeichnung, und solche Programme brauchen die rechte Taste</translation>
     </message>
+    <message>
+        <source>the program itself is set to %1</source>
+        <translation>das Programm selbst ist auf %1 eingestellt</translation>
+    </message>
 </context>
 </TS>

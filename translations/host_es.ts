@@ -559,5 +559,9 @@
         <source>OpenGL paints the drawing, and such programs need the right button</source>
         <translation>OpenGL pinta el dibujo, y esos programas necesitan el botón derecho</translation>
     </message>
+    <message>
+        <source>the program itself is set to %1</source>
+        <translation>el propio programa está ajustado a %1</translation>
+    </message>
 </context>
 </TS>

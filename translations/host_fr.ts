@@ -559,5 +559,9 @@
         <source>OpenGL paints the drawing, and such programs need the right button</source>
         <translation>OpenGL peint le dessin, et ces programmes ont besoin du bouton droit</translation>
     </message>
+    <message>
+        <source>the program itself is set to %1</source>
+        <translation>le programme lui-même est réglé sur %1</translation>
+    </message>
 </context>
 </TS>

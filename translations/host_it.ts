@@ -559,5 +559,9 @@
         <source>OpenGL paints the drawing, and such programs need the right button</source>
         <translation>OpenGL dipinge il disegno, e questi programmi usano il pulsante destro</translation>
     </message>
+    <message>
+        <source>the program itself is set to %1</source>
+        <translation>il programma stesso è impostato su %1</translation>
+    </message>
 </context>
 </TS>

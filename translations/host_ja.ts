@@ -559,5 +559,9 @@
         <source>OpenGL paints the drawing, and such programs need the right button</source>
         <translation>OpenGL が図面を描いており、そのようなプログラムは右ボタンを使います</translation>
     </message>
+    <message>
+        <source>the program itself is set to %1</source>
+        <translation>プログラム自体が %1 に設定されています</translation>
+    </message>
 </context>
 </TS>

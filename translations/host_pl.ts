@@ -559,5 +559,9 @@
         <source>OpenGL paints the drawing, and such programs need the right button</source>
         <translation>rysunek maluje OpenGL, a takie programy potrzebują prawego przycisku</translation>
     </message>
+    <message>
+        <source>the program itself is set to %1</source>
+        <translation>sam program jest ustawiony na %1</translation>
+    </message>
 </context>
 </TS>

@@ -559,5 +559,9 @@
         <source>OpenGL paints the drawing, and such programs need the right button</source>
         <translation>o OpenGL pinta o desenho, e esses programas precisam do botão direito</translation>
     </message>
+    <message>
+        <source>the program itself is set to %1</source>
+        <translation>o próprio programa está ajustado para %1</translation>
+    </message>
 </context>
 </TS>

@@ -559,5 +559,9 @@
         <source>OpenGL paints the drawing, and such programs need the right button</source>
         <translation>чертёж рисует OpenGL, а таким программам нужна правая кнопка</translation>
     </message>
+    <message>
+        <source>the program itself is set to %1</source>
+        <translation>сама программа настроена на %1</translation>
+    </message>
 </context>
 </TS>

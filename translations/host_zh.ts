@@ -559,5 +559,9 @@
         <source>OpenGL paints the drawing, and such programs need the right button</source>
         <translation>图形由 OpenGL 绘制，这类程序需要右键</translation>
     </message>
+    <message>
+        <source>the program itself is set to %1</source>
+        <translation>程序自身设置为 %1</translation>
+    </message>
 </context>
 </TS>

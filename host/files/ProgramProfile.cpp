@@ -135,18 +135,19 @@ void readTrigger(Reader &profileReader, ProgramProfile &profile)
     profileReader.fail(reader.problem());
 }
 
-void readUsedTriggers(Reader &reader, ProgramProfile &profile)
+QStringList readTriggers(Reader &reader, const QString &key, const QString &path)
 {
-    const QString key = QStringLiteral("usedTriggers");
+    QStringList triggers;
     const QStringList texts = reader.strings(key);
     for (const QString &text : texts) {
         Qt::MouseButton button = Qt::NoButton;
         Qt::KeyboardModifiers modifiers = Qt::NoModifier;
         if (parseTrigger(text, button, modifiers))
-            profile.usedTriggers.append(triggerText(button, modifiers));
+            triggers.append(triggerText(button, modifiers));
         else
-            reader.fail(Text::tr("\"%1\" names no trigger: \"%2\"").arg(key, text));
+            reader.fail(Text::tr("\"%1\" names no trigger: \"%2\"").arg(path + key, text));
     }
+    return triggers;
 }
 
 // Reads what the program itself is set to, from one of its files in the folder for configuration.
@@ -174,7 +175,7 @@ void readTriggerSetting(Reader &profileReader, ProgramProfile &profile)
         return;
     Reader reader(profileReader.object(key), key + QLatin1Char('.'));
     reader.allow({QStringLiteral("file"), QStringLiteral("before"), QStringLiteral("behind"),
-                  QStringLiteral("triggers")});
+                  QStringLiteral("triggers"), QStringLiteral("usedTriggers")});
     const QString file = reader.string(QStringLiteral("file"));
     const QString before = reader.string(QStringLiteral("before"));
     const QString behind = reader.string(QStringLiteral("behind"));
@@ -191,7 +192,23 @@ void readTriggerSetting(Reader &profileReader, ProgramProfile &profile)
             profile.triggerButton = button;
             profile.triggerModifiers = modifiers;
             profile.hasTrigger = true;
+            profile.triggerSetting = value;
         }
+    }
+    const QString usedKey = QStringLiteral("usedTriggers");
+    const QString usedPath = key + QLatin1Char('.') + usedKey + QLatin1Char('.');
+    Reader used(reader.object(usedKey), usedPath);
+    const QStringList values = used.keys();
+    for (const QString &one : values) {
+        const QStringList list = readTriggers(used, one, usedPath);
+        if (one == value)
+            profile.usedTriggers = list;
+    }
+    reader.fail(used.problem());
+    profile.triggerBySetting = profileReader.object(key);
+    for (const QString &fixed : {QStringLiteral("trigger"), usedKey}) {
+        if (!profileReader.value(fixed).isUndefined())
+            profile.fixedTriggers.insert(fixed, profileReader.value(fixed));
     }
     profileReader.fail(reader.problem());
 }
@@ -249,11 +266,14 @@ void readTasks(Reader &profileReader, ProgramProfile &profile)
 QString fill(ProgramProfile &profile, const QByteArray &text)
 {
     Reader reader(text);
-    reader.allow({QStringLiteral("version"), QStringLiteral("program"), QStringLiteral("viewClasses"),
-                  QStringLiteral("trigger"), QStringLiteral("wellKnownCommands"),
-                  QStringLiteral("toolsMenu"), QStringLiteral("commandLineClass"),
-                  QStringLiteral("changesMenus"), QStringLiteral("triggerBySetting"),
-                  QStringLiteral("tasks"), QStringLiteral("usedTriggers"), QStringLiteral("why")});
+    // An editor looks for the schema there.
+    static_cast<void>(reader.string(QStringLiteral("$schema")));
+    reader.allow({QStringLiteral("$schema"), QStringLiteral("version"), QStringLiteral("program"),
+                  QStringLiteral("viewClasses"), QStringLiteral("trigger"),
+                  QStringLiteral("wellKnownCommands"), QStringLiteral("toolsMenu"),
+                  QStringLiteral("commandLineClass"), QStringLiteral("changesMenus"),
+                  QStringLiteral("triggerBySetting"), QStringLiteral("tasks"),
+                  QStringLiteral("usedTriggers"), QStringLiteral("why")});
     // Reasons for the rest, for people who read the file.
     static_cast<void>(reader.object(QStringLiteral("why")));
     const QJsonValue version = reader.value(QStringLiteral("version"));
@@ -266,8 +286,8 @@ QString fill(ProgramProfile &profile, const QByteArray &text)
         reader.fail(Text::tr("\"program\" is \"%1\", not \"%2\"").arg(program, profile.program));
     profile.viewClasses = reader.strings(QStringLiteral("viewClasses"));
     readTrigger(reader, profile);
+    profile.usedTriggers = readTriggers(reader, QStringLiteral("usedTriggers"), {});
     readTriggerSetting(reader, profile);
-    readUsedTriggers(reader, profile);
     readCommands(reader, profile);
     readTasks(reader, profile);
     profile.toolsMenu = reader.string(QStringLiteral("toolsMenu"));
@@ -326,6 +346,14 @@ QJsonObject ProgramProfile::toJson() const
                         {QStringLiteral("commandLineClass"), commandLineClass}};
     if (!usedTriggers.isEmpty())
         profile.insert(QStringLiteral("usedTriggers"), QJsonArray::fromStringList(usedTriggers));
+    if (!triggerBySetting.isEmpty()) {
+        for (const QString &key : {QStringLiteral("trigger"), QStringLiteral("usedTriggers")}) {
+            profile.remove(key);
+            if (fixedTriggers.contains(key))
+                profile.insert(key, fixedTriggers.value(key));
+        }
+        profile.insert(QStringLiteral("triggerBySetting"), triggerBySetting);
+    }
     if (changesMenus)
         profile.insert(QStringLiteral("changesMenus"), true);
     if (knowsTasks())

@@ -54,8 +54,11 @@ TriggerChoice::TriggerChoice(const ProgramProfile &profile, CHxProfileStore *sto
     : m_program(profile.program)
     , m_store(store)
     , m_trigger{profile.triggerButton, profile.triggerModifiers}
-    , m_reason(profile.hasTrigger ? Phrase(QT_TRANSLATE_NOOP("host", "the profile says so"))
-                                  : Phrase(QT_TRANSLATE_NOOP("host", "nothing says otherwise")))
+    , m_reason(!profile.triggerSetting.isEmpty()
+                   ? Phrase(QT_TRANSLATE_NOOP("host", "the program itself is set to %1"),
+                            {Phrase::verbatim(profile.triggerSetting)})
+               : profile.hasTrigger ? Phrase(QT_TRANSLATE_NOOP("host", "the profile says so"))
+                                    : Phrase(QT_TRANSLATE_NOOP("host", "nothing says otherwise")))
     , m_isSettled(profile.hasTrigger)
 {
     const QString text = storedText(m_store, settingsnames::hostSection(), settingsnames::triggerKey());

@@ -41,6 +41,7 @@ private Q_SLOTS:
     void aFlatDrawingHasTheRightButton();
     void aDrawingInSpaceLeavesTheRightButton();
     void theFirstViewDecides();
+    void theProgramsOwnSettingIsNamed();
     void theProfileDecides();
     void theSettingsDecide();
     void anAreaWithASurface();
@@ -96,6 +97,16 @@ void TriggerChoiceTest::theFirstViewDecides()
     QVERIFY(!choice.noteView(QWidget()));
     QVERIFY(!choice.noteView(QGLWidget()));
     QVERIFY(isTrigger(choice, Qt::RightButton, Qt::NoModifier));
+}
+
+void TriggerChoiceTest::theProgramsOwnSettingIsNamed()
+{
+    m_profile.hasTrigger = true;
+    QCOMPARE(TriggerChoice(m_profile, nullptr).reason().english(),
+             QStringLiteral("the profile says so"));
+    m_profile.triggerSetting = QStringLiteral("Space");
+    QCOMPARE(TriggerChoice(m_profile, nullptr).reason().english(),
+             QStringLiteral("the program itself is set to Space"));
 }
 
 void TriggerChoiceTest::theProfileDecides()
