@@ -563,5 +563,9 @@
         <source>the program itself is set to %1</source>
         <translation>das Programm selbst ist auf %1 eingestellt</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is empty</source>
+        <translation>„%1“ ist leer</translation>
+    </message>
 </context>
 </TS>

@@ -563,5 +563,9 @@
         <source>the program itself is set to %1</source>
         <translation>el propio programa está ajustado a %1</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is empty</source>
+        <translation>«%1» está vacío</translation>
+    </message>
 </context>
 </TS>

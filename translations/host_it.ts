@@ -563,5 +563,9 @@
         <source>the program itself is set to %1</source>
         <translation>il programma stesso è impostato su %1</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is empty</source>
+        <translation>«%1» è vuoto</translation>
+    </message>
 </context>
 </TS>

@@ -563,5 +563,9 @@
         <source>the program itself is set to %1</source>
         <translation>プログラム自体が %1 に設定されています</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is empty</source>
+        <translation>「%1」が空です</translation>
+    </message>
 </context>
 </TS>

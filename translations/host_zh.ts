@@ -563,5 +563,9 @@
         <source>the program itself is set to %1</source>
         <translation>程序自身设置为 %1</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is empty</source>
+        <translation>“%1”为空</translation>
+    </message>
 </context>
 </TS>

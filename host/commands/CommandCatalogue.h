@@ -93,6 +93,9 @@ public:
     // one. The same goes for bound commands that no start has ever seen, because their identifiers
     // are probably mistyped. Commands that the profile names or that are trusted stay.
     void endGuessing();
+    // The menus show all commands whose identifiers begin so. Bound ones of that kind that no start has
+    // ever seen are no longer offered, even after trustAll(). Those that trust() names stay.
+    void dropUnseen(const QString &prefix);
     // Returns the reason for a guess; empty if the identifier was not guessed.
     [[nodiscard]] Phrase reasonFor(const QString &identifier) const
     {

@@ -247,7 +247,7 @@ void readTasks(Reader &profileReader, ProgramProfile &profile)
 {
     Reader reader(profileReader.object(QStringLiteral("tasks")), QStringLiteral("tasks."));
     reader.allow({QStringLiteral("checkedActionBeside"), QStringLiteral("classOfView"),
-                  QStringLiteral("firstBindings")});
+                  QStringLiteral("firstBindings"), QStringLiteral("commandPrefixes")});
     if (!reader.value(QStringLiteral("checkedActionBeside")).isUndefined())
         profile.taskActions = reader.namesOf(QStringLiteral("checkedActionBeside"));
     profile.isTaskOfView = reader.flag(QStringLiteral("classOfView"));
@@ -259,6 +259,17 @@ void readTasks(Reader &profileReader, ProgramProfile &profile)
             reader.fail(Text::tr("\"tasks.firstBindings.%1\" is not an object").arg(it.key()));
         readRing(reader, it.key(), it.value().toObject(), profile);
     }
+    const QString prefixesKey = QStringLiteral("commandPrefixes");
+    const QString path = QStringLiteral("tasks.") + prefixesKey + QLatin1Char('.');
+    Reader prefixes(reader.object(prefixesKey), path);
+    const QStringList tasks = prefixes.keys();
+    for (const QString &task : tasks) {
+        const QString prefix = prefixes.string(task);
+        if (task.isEmpty() || prefix.isEmpty())
+            prefixes.fail(Text::tr("\"%1\" is empty").arg(path + task));
+        profile.taskPrefixes.insert(task, prefix);
+    }
+    reader.fail(prefixes.problem());
     profileReader.fail(reader.problem());
 }
 
@@ -371,6 +382,11 @@ QJsonObject ProgramProfile::tasksToJson() const
         rings.insert(task.key(), ring);
     }
     QJsonObject tasks{{QStringLiteral("firstBindings"), rings}};
+    QJsonObject prefixes;
+    for (auto it = taskPrefixes.cbegin(); it != taskPrefixes.cend(); ++it)
+        prefixes.insert(it.key(), it.value());
+    if (!prefixes.isEmpty())
+        tasks.insert(QStringLiteral("commandPrefixes"), prefixes);
     if (isTaskOfView)
         tasks.insert(QStringLiteral("classOfView"), true);
     else

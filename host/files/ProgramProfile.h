@@ -57,6 +57,9 @@ struct ProgramProfile
     // By task, the first bindings of a ring of its own: identifiers by the directions' keys, "81" to
     // "88" and "41" to "44". What is missing comes from the shared ring.
     QHash<QString, QHash<QString, QString>> taskBindings;
+    // By task, what the identifiers of its commands begin with. While the task is on, its menus show all
+    // of them: one that is bound, begins so and was never seen does not exist.
+    QHash<QString, QString> taskPrefixes;
     // Class name of the line edit in which people type commands; empty when there is none.
     QString commandLineClass;
 

@@ -13,6 +13,7 @@ import dataclasses
 import json
 import os
 import subprocess
+import time
 
 from harness.programs import EIGHT, PROGRAMS
 from harness.programtest import ProgramTest, option_parser, run_tests
@@ -122,6 +123,21 @@ class WorkbenchesTest(ProgramTest):
             after = self.bindings(session)
             self.assertEqual({key: after[key] for key in given if key != "ActiveScheme"},
                              {key: value for key, value in given.items() if key != "ActiveScheme"})
+
+    def test_a_mistyped_command(self):
+        """It leaves its direction once the workbench is on whose commands are named so."""
+        given = {"ActiveScheme": "8", "81": "ID_ZOOM_BOUNDS", "82": "Draft_Circel", "83": "ID_OPEN",
+                 "84": "Sketcher_CreateArc", "85": "ID_SAVE", "86": "Sketcher_CreateArk",
+                 "87": "ID_LINE", "88": "Draft_Move"}
+        kept = {key: value for key, value in given.items() if key not in ("ActiveScheme", "82")}
+        with self.session(settings=given) as session:
+            deadline = time.monotonic() + FIRST_SWITCH_SECONDS
+            while self.bindings(session).get("82") != "" and time.monotonic() < deadline:
+                session.gesture_runs("up", PROGRAM.eight["up"])
+            after = self.bindings(session)
+            self.assertEqual(after["82"], "")
+            self.assertEqual({key: after[key] for key in kept}, kept)
+            self.end(session)
 
     def test_a_command_of_an_earlier_start(self):
         """It can be bound before its workbench is loaded, and runs after that."""
