@@ -88,7 +88,7 @@ public:
     void expectCommands(const ProgramProfile &profile, const QString &settingsFile)
     {
         memory = std::make_unique<CatalogueMemory>(catalogue, catalogueFileBeside(settingsFile));
-        const SettingsFile::Values settings = profileStore.values();
+        const SettingsFile::Values settings = profileStore.site().chosenOf(profileStore.values());
         const QMap<QString, QString> expected = expectedCommands(profile.wellKnownCommands, settings);
         for (auto it = expected.begin(); it != expected.end(); ++it)
             catalogue.expect(it.key(), it.value());
@@ -96,7 +96,7 @@ public:
             catalogue.trustAll();
         if (!profile.taskPrefixes.isEmpty())
             dropMistyped(profile.taskPrefixes);
-        catalogue.trust(trustedCommands(settings, profileStore.site().values()));
+        catalogue.trust(trustedCommands(settings, profileStore.site().given()));
         QObject::connect(
             &catalogue, &CommandCatalogue::dropped, &catalogue, [this](const QStringList &identifiers) {
                 textOutput.showForAWhile(

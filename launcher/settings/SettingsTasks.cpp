@@ -266,7 +266,8 @@ Outcome SettingsTasks::bind(const QString &direction, const QString &command)
 Outcome SettingsTasks::setRing(const QString &task, bool isOwn, const QHash<QString, QString> &first)
 {
     SettingsFile file(m_file);
-    const bool isDone = file.change([&](const SettingsFile::Values &now) {
+    const bool isDone = file.change([&](const SettingsFile::Values &own) {
+        const SettingsFile::Values now = m_site.under(own);
         return isOwn ? ringsettings::ownRing(now, task, first, Bindings::fromSettings(now).toSettings())
                      : ringsettings::sharedRing(task);
     });

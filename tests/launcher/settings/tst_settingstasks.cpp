@@ -277,7 +277,8 @@ void SettingsTasksTest::theAdministratorsSettings()
     QVERIFY(!own.contains(text("GestureWidget/ActiveScheme")));
     QCOMPARE(own.value(text("GestureWidget/42")), text("ownArc"));
     QVERIFY(tasks.bind(text("up"), text("none")).isDone());
-    QCOMPARE(tasks.bindings().four, (QStringList{QString(), text("ownArc"), QString(), QString()}));
+    QCOMPARE(tasks.bindings().four,
+             (QStringList{QString(), text("ownArc"), text("ID_SAVE"), text("ID_LINE")}));
     QVERIFY(tasks.setTrigger(text("middle")).isDone());
     QCOMPARE(tasks.bindings().trigger, text("middle"));
 
@@ -290,6 +291,11 @@ void SettingsTasksTest::theAdministratorsSettings()
     own = SettingsFile(m_file).read();
     for (const char *key : {"GestureWidget/41", "GestureWidget/ActiveScheme", "Host/Trigger"})
         QVERIFY2(!own.contains(text(key)), key);
+    // A task's ring begins with the administrator's too.
+    QVERIFY(tasks.setRing(text("Sketch"), true, {}).isDone());
+    tasks.setTask(text("Sketch"));
+    QCOMPARE(tasks.bindings().four.first(), text("siteLine"));
+    QCOMPARE(tasks.bindings().scheme, 4);
 }
 
 void SettingsTasksTest::badInputChangesNothing_data()
