@@ -20,6 +20,7 @@ from harness.programtest import ProgramTest, option_parser, run_tests
 
 PROGRAM = PROGRAMS["freecad"]
 ENTRY = "Mouse Gestures..."
+PAGE = "TechDrawGui::QGVPage"
 FIRST_SWITCH_SECONDS = 60  # the first switch loads the workbench
 
 # For each workbench: the key that follows W, and a menu that only this workbench has.
@@ -39,6 +40,27 @@ def sketch():
 
 
 sketching = QtWidgets.QShortcut(QtGui.QKeySequence("F7"), window, sketch)
+"""
+
+# F7 shows a page in front of the drawing in space.
+PAGE_MACRO = """
+
+page = document.addObject("TechDraw::DrawPage", "Page")
+template = document.addObject("TechDraw::DrawSVGTemplate", "Template")
+template.Template = FreeCAD.getResourceDir() + "Mod/TechDraw/Templates/A4_LandscapeTD.svg"
+page.Template = template
+document.recompute()
+
+
+def turn_to_page():
+    page.ViewObject.doubleClicked()
+    area = window.findChild(QtWidgets.QMdiArea)
+    for child in area.subWindowList():
+        if child.windowTitle().startswith("Page"):
+            area.setActiveSubWindow(child)
+
+
+turning = QtWidgets.QShortcut(QtGui.QKeySequence("F7"), window, turn_to_page)
 """
 
 
@@ -124,6 +146,24 @@ class WorkbenchesTest(ProgramTest):
             self.assertEqual({key: after[key] for key in given if key != "ActiveScheme"},
                              {key: value for key, value in given.items() if key != "ActiveScheme"})
 
+    def test_a_technical_page(self):
+        """A page is a drawing too."""
+        ending, macro = PROGRAM.macro
+        program = dataclasses.replace(PROGRAM, macro=(ending, macro + PAGE_MACRO),
+                                      view=f"{PROGRAM.view},{PAGE}")
+        given = {"ActiveScheme": "8", "81": "ID_ZOOM_BOUNDS", "85": "ID_SAVE"}
+        with self.session(program=program, settings=given) as session:
+            mark = session.spy.mark()
+            session.focus("drawing.dxf")
+            session.driver.ask("key", "F7")
+            session.expect(mark, lambda line: line[:2] == ["view", PAGE], "the page")
+            session.driver.ask("remember", 0, 0, 1600, 1000)
+            session.driver.succeeds("wait-steady", 10000)
+            session.locate_view()
+            session.gesture_runs("up", PROGRAM.eight["up"])
+            session.gesture_runs("down", PROGRAM.eight["down"])
+            self.end(session)
+
     def test_a_mistyped_command(self):
         """It leaves its direction once the workbench is on whose commands are named so."""
         given = {"ActiveScheme": "8", "81": "ID_ZOOM_BOUNDS", "82": "Draft_Circel", "83": "ID_OPEN",
@@ -179,7 +219,7 @@ class WorkbenchesTest(ProgramTest):
                 session.focus("drawing.dxf")
                 session.driver.ask("key", "F7")
                 session.driver.ask("wait-window", "drawing.dxf in Sketcher", FIRST_SWITCH_SECONDS * 1000)
-                session.gesture_runs("right", "Std_ViewZoomIn")
+                session.gesture_runs("down", PROGRAM.eight["down"])
                 session.gesture_runs("up", PROGRAM.eight["up"])
                 self.switch(session, "DraftWorkbench")
                 session.gesture_runs("right", PROGRAM.eight["right"])
