@@ -146,6 +146,29 @@ class WorkbenchesTest(ProgramTest):
             self.assertEqual({key: after[key] for key in given if key != "ActiveScheme"},
                              {key: value for key, value in given.items() if key != "ActiveScheme"})
 
+    def test_the_trigger_of_a_navigation_style(self):
+        """In this one the program turns and moves things with all other right drags."""
+        text = PROGRAM.configuration["FreeCAD/user.cfg"]
+        style = '<FCText Name="NavigationStyle">Gui::GestureNavigationStyle</FCText>'
+        program = dataclasses.replace(PROGRAM, configuration={"FreeCAD/user.cfg": text.replace(
+            '<FCParamGroup Name="Mod">',
+            f'<FCParamGroup Name="View">{style}</FCParamGroup><FCParamGroup Name="Mod">')})
+        keys = ("ctrl", "shift")
+        with self.session(program=program) as session:
+            mark = session.spy.mark()
+            session.move_to_middle()
+            for key in keys:
+                session.driver.ask("hold", key)
+            session.driver.ask("press", 3)
+            session.drag("up")
+            session.driver.ask("release", 3)
+            for key in keys:
+                session.driver.ask("let-go", key)
+            session.expect(mark, lambda line: line[:2] == ["triggered", PROGRAM.eight["up"]],
+                           "the command of a gesture with its keys")
+            session.ring_is_gone()
+            self.end(session)
+
     def test_a_technical_page(self):
         """A page is a drawing too."""
         ending, macro = PROGRAM.macro
