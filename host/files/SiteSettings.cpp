@@ -68,7 +68,8 @@ void SiteSettings::complete(const QString &section)
             continue; // a module sees that nobody has chosen any
         // A command has one direction of a scheme.
         for (auto it = missing.begin(); it != missing.end(); ++it)
-            m_values.insert(it.key(), bound.contains(it.value()) ? QStringLiteral("") : it.value());
+            m_values.insert(it.key(),
+                            bound.contains(it.value()) ? QString(QLatin1String("")) : it.value());
     }
 }
 

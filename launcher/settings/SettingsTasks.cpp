@@ -385,7 +385,7 @@ Outcome SettingsTasks::reset(SettingsChange *made, const QHash<QString, QString>
 
 Outcome SettingsTasks::exportTo(const QString &path) const
 {
-    const Outcome outcome = exported();
+    Outcome outcome = exported();
     if (!outcome.isDone())
         return outcome;
     if (!FileWriter(path, FileWriter::Readers::Usual).write(outcome.output))
