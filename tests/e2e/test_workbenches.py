@@ -242,7 +242,7 @@ class WorkbenchesTest(ProgramTest):
                 session.focus("drawing.dxf")
                 session.driver.ask("key", "F7")
                 session.driver.ask("wait-window", "drawing.dxf in Sketcher", FIRST_SWITCH_SECONDS * 1000)
-                session.gesture_runs("down", PROGRAM.eight["down"])
+                session.gesture_runs("right", "Std_ViewZoomIn")
                 session.gesture_runs("up", PROGRAM.eight["up"])
                 self.switch(session, "DraftWorkbench")
                 session.gesture_runs("right", PROGRAM.eight["right"])
