@@ -572,10 +572,6 @@
         <translation>das Blatt konnte nicht gezeichnet werden: %1</translation>
     </message>
     <message>
-        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right. With --ring TASK after it: in the ring of that task</source>
-        <translation>einen Befehl in eine Richtung legen. COMMAND ist seine Kennung, seine Beschriftung oder „none“. DIRECTION ist up, left, down oder right; mit acht Gesten auch up-left, down-left, down-right oder up-right. Mit --ring TASK dahinter: im Ring dieser Aufgabe</translation>
-    </message>
-    <message>
         <source>give a task, such as FreeCAD&apos;s SketcherWorkbench, a ring of its own, or the shared one again</source>
         <translation>einer Aufgabe wie SketcherWorkbench von FreeCAD einen eigenen Ring geben, oder wieder den gemeinsamen</translation>
     </message>
@@ -634,6 +630,18 @@
     <message>
         <source>off since %1 crashed in their code; to switch them on: mouse-gestures --switch-on %1</source>
         <translation>aus, seit %1 in ihrem Code abgestürzt ist; zum Einschalten: mouse-gestures --switch-on %1</translation>
+    </message>
+    <message>
+        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right</source>
+        <translation>einen Befehl in eine Richtung legen. COMMAND ist seine Kennung, seine Beschriftung oder „none“. DIRECTION ist up, left, down oder right; mit acht Gesten auch up-left, down-left, down-right oder up-right</translation>
+    </message>
+    <message>
+        <source>With --ring TASK at its end, --bind, --export, --import, --print or --reset is about the ring of that task alone.</source>
+        <translation>Mit --ring TASK am Ende betrifft --bind, --export, --import, --print oder --reset nur den Ring dieser Aufgabe.</translation>
+    </message>
+    <message>
+        <source>names no task</source>
+        <translation>nennt keine Aufgabe</translation>
     </message>
 </context>
 </TS>

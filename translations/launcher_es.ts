@@ -572,10 +572,6 @@
         <translation>no se pudo dibujar la hoja: %1</translation>
     </message>
     <message>
-        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right. With --ring TASK after it: in the ring of that task</source>
-        <translation>poner un comando en una dirección. COMMAND es su identificador, su texto o «none». DIRECTION es up, left, down o right; con ocho gestos también up-left, down-left, down-right o up-right. Con --ring TASK detrás: en el anillo de esa tarea</translation>
-    </message>
-    <message>
         <source>give a task, such as FreeCAD&apos;s SketcherWorkbench, a ring of its own, or the shared one again</source>
         <translation>dar a una tarea, como SketcherWorkbench de FreeCAD, un anillo propio, o de nuevo el común</translation>
     </message>
@@ -634,6 +630,18 @@
     <message>
         <source>off since %1 crashed in their code; to switch them on: mouse-gestures --switch-on %1</source>
         <translation>desactivados desde que %1 falló en su código; para activarlos: mouse-gestures --switch-on %1</translation>
+    </message>
+    <message>
+        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right</source>
+        <translation>poner un comando en una dirección. COMMAND es su identificador, su texto o «none». DIRECTION es up, left, down o right; con ocho gestos también up-left, down-left, down-right o up-right</translation>
+    </message>
+    <message>
+        <source>With --ring TASK at its end, --bind, --export, --import, --print or --reset is about the ring of that task alone.</source>
+        <translation>Con --ring TASK al final, --bind, --export, --import, --print o --reset se refiere solo al anillo de esa tarea.</translation>
+    </message>
+    <message>
+        <source>names no task</source>
+        <translation>no nombra ninguna tarea</translation>
     </message>
 </context>
 </TS>

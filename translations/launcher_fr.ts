@@ -572,10 +572,6 @@
         <translation>la feuille n’a pas pu être dessinée : %1</translation>
     </message>
     <message>
-        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right. With --ring TASK after it: in the ring of that task</source>
-        <translation>mettre une commande dans une direction. COMMAND est son identifiant, son intitulé ou « none ». DIRECTION est up, left, down ou right ; avec huit gestes aussi up-left, down-left, down-right ou up-right. Avec --ring TASK à la suite : dans l’anneau de cette tâche</translation>
-    </message>
-    <message>
         <source>give a task, such as FreeCAD&apos;s SketcherWorkbench, a ring of its own, or the shared one again</source>
         <translation>donner à une tâche, comme SketcherWorkbench de FreeCAD, son propre anneau, ou de nouveau l’anneau commun</translation>
     </message>
@@ -634,6 +630,18 @@
     <message>
         <source>off since %1 crashed in their code; to switch them on: mouse-gestures --switch-on %1</source>
         <translation>désactivés depuis que %1 a planté dans leur code ; pour les activer : mouse-gestures --switch-on %1</translation>
+    </message>
+    <message>
+        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right</source>
+        <translation>mettre une commande dans une direction. COMMAND est son identifiant, son intitulé ou « none ». DIRECTION est up, left, down ou right ; avec huit gestes aussi up-left, down-left, down-right ou up-right</translation>
+    </message>
+    <message>
+        <source>With --ring TASK at its end, --bind, --export, --import, --print or --reset is about the ring of that task alone.</source>
+        <translation>Avec --ring TASK à la fin, --bind, --export, --import, --print ou --reset ne concerne que l’anneau de cette tâche.</translation>
+    </message>
+    <message>
+        <source>names no task</source>
+        <translation>ne nomme aucune tâche</translation>
     </message>
 </context>
 </TS>

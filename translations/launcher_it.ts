@@ -572,10 +572,6 @@
         <translation>impossibile disegnare il foglio: %1</translation>
     </message>
     <message>
-        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right. With --ring TASK after it: in the ring of that task</source>
-        <translation>mettere un comando in una direzione. COMMAND è il suo identificatore, il suo testo o «none». DIRECTION è up, left, down o right; con otto gesti anche up-left, down-left, down-right o up-right. Con --ring TASK dopo: nell’anello di quel compito</translation>
-    </message>
-    <message>
         <source>give a task, such as FreeCAD&apos;s SketcherWorkbench, a ring of its own, or the shared one again</source>
         <translation>dare a un compito, come SketcherWorkbench di FreeCAD, un anello proprio, o di nuovo quello comune</translation>
     </message>
@@ -634,6 +630,18 @@
     <message>
         <source>off since %1 crashed in their code; to switch them on: mouse-gestures --switch-on %1</source>
         <translation>disattivati da quando %1 si è chiuso in modo anomalo nel loro codice; per attivarli: mouse-gestures --switch-on %1</translation>
+    </message>
+    <message>
+        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right</source>
+        <translation>mettere un comando in una direzione. COMMAND è il suo identificatore, il suo testo o «none». DIRECTION è up, left, down o right; con otto gesti anche up-left, down-left, down-right o up-right</translation>
+    </message>
+    <message>
+        <source>With --ring TASK at its end, --bind, --export, --import, --print or --reset is about the ring of that task alone.</source>
+        <translation>Con --ring TASK alla fine, --bind, --export, --import, --print o --reset riguarda solo l’anello di quel compito.</translation>
+    </message>
+    <message>
+        <source>names no task</source>
+        <translation>non nomina alcun compito</translation>
     </message>
 </context>
 </TS>

@@ -572,10 +572,6 @@
         <translation>シートを描けませんでした: %1</translation>
     </message>
     <message>
-        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right. With --ring TASK after it: in the ring of that task</source>
-        <translation>コマンドを方向に割り当てる。COMMAND は識別子、名前、または「none」。DIRECTION は up、left、down、right、8 方向では up-left、down-left、down-right、up-right も使用可。後ろに --ring TASK を付けると、その作業のリングに割り当てる</translation>
-    </message>
-    <message>
         <source>give a task, such as FreeCAD&apos;s SketcherWorkbench, a ring of its own, or the shared one again</source>
         <translation>FreeCAD の SketcherWorkbench などの作業に専用のリングを与える、または共有のリングに戻す</translation>
     </message>
@@ -634,6 +630,18 @@
     <message>
         <source>off since %1 crashed in their code; to switch them on: mouse-gestures --switch-on %1</source>
         <translation>%1 がジェスチャーのコードでクラッシュしたためオフ。オンにするには: mouse-gestures --switch-on %1</translation>
+    </message>
+    <message>
+        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right</source>
+        <translation>コマンドを方向に割り当てる。COMMAND は識別子、名前、または「none」。DIRECTION は up、left、down、right、8 方向では up-left、down-left、down-right、up-right も使用可</translation>
+    </message>
+    <message>
+        <source>With --ring TASK at its end, --bind, --export, --import, --print or --reset is about the ring of that task alone.</source>
+        <translation>末尾に --ring TASK を付けると、--bind、--export、--import、--print、--reset はその作業のリングだけを対象とします。</translation>
+    </message>
+    <message>
+        <source>names no task</source>
+        <translation>は作業の名前ではありません</translation>
     </message>
 </context>
 </TS>

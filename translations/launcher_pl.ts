@@ -572,10 +572,6 @@
         <translation>nie udało się narysować arkusza: %1</translation>
     </message>
     <message>
-        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right. With --ring TASK after it: in the ring of that task</source>
-        <translation>umieść polecenie w kierunku. COMMAND to jego identyfikator, nazwa albo „none”. DIRECTION to up, left, down lub right; przy ośmiu gestach także up-left, down-left, down-right lub up-right. Z --ring TASK na końcu: w pierścieniu tego zadania</translation>
-    </message>
-    <message>
         <source>give a task, such as FreeCAD&apos;s SketcherWorkbench, a ring of its own, or the shared one again</source>
         <translation>nadaj zadaniu, np. SketcherWorkbench we FreeCAD, własny pierścień albo znów wspólny</translation>
     </message>
@@ -634,6 +630,18 @@
     <message>
         <source>off since %1 crashed in their code; to switch them on: mouse-gestures --switch-on %1</source>
         <translation>wyłączone, odkąd %1 uległ awarii w ich kodzie; aby je włączyć: mouse-gestures --switch-on %1</translation>
+    </message>
+    <message>
+        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right</source>
+        <translation>umieść polecenie w kierunku. COMMAND to jego identyfikator, nazwa albo „none”. DIRECTION to up, left, down lub right; przy ośmiu gestach także up-left, down-left, down-right lub up-right</translation>
+    </message>
+    <message>
+        <source>With --ring TASK at its end, --bind, --export, --import, --print or --reset is about the ring of that task alone.</source>
+        <translation>Z --ring TASK na końcu --bind, --export, --import, --print lub --reset dotyczy tylko pierścienia tego zadania.</translation>
+    </message>
+    <message>
+        <source>names no task</source>
+        <translation>nie podaje zadania</translation>
     </message>
 </context>
 </TS>

@@ -572,10 +572,6 @@
         <translation>não foi possível desenhar a folha: %1</translation>
     </message>
     <message>
-        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right. With --ring TASK after it: in the ring of that task</source>
-        <translation>colocar um comando em uma direção. COMMAND é o identificador, o texto ou “none”. DIRECTION é up, left, down ou right; com oito gestos também up-left, down-left, down-right ou up-right. Com --ring TASK depois: no anel dessa tarefa</translation>
-    </message>
-    <message>
         <source>give a task, such as FreeCAD&apos;s SketcherWorkbench, a ring of its own, or the shared one again</source>
         <translation>dar a uma tarefa, como SketcherWorkbench do FreeCAD, um anel próprio, ou de novo o comum</translation>
     </message>
@@ -634,6 +630,18 @@
     <message>
         <source>off since %1 crashed in their code; to switch them on: mouse-gestures --switch-on %1</source>
         <translation>desligados desde que %1 falhou no código deles; para os ligar: mouse-gestures --switch-on %1</translation>
+    </message>
+    <message>
+        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right</source>
+        <translation>colocar um comando em uma direção. COMMAND é o identificador, o texto ou “none”. DIRECTION é up, left, down ou right; com oito gestos também up-left, down-left, down-right ou up-right</translation>
+    </message>
+    <message>
+        <source>With --ring TASK at its end, --bind, --export, --import, --print or --reset is about the ring of that task alone.</source>
+        <translation>Com --ring TASK no fim, --bind, --export, --import, --print ou --reset trata apenas do anel dessa tarefa.</translation>
+    </message>
+    <message>
+        <source>names no task</source>
+        <translation>não cita nenhuma tarefa</translation>
     </message>
 </context>
 </TS>

@@ -572,10 +572,6 @@
         <translation>не удалось нарисовать лист: %1</translation>
     </message>
     <message>
-        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right. With --ring TASK after it: in the ring of that task</source>
-        <translation>назначить команду направлению. COMMAND — её идентификатор, название или «none». DIRECTION — up, left, down или right; при восьми жестах также up-left, down-left, down-right или up-right. С --ring TASK в конце: в кольце этой задачи</translation>
-    </message>
-    <message>
         <source>give a task, such as FreeCAD&apos;s SketcherWorkbench, a ring of its own, or the shared one again</source>
         <translation>дать задаче, например SketcherWorkbench во FreeCAD, своё кольцо или снова общее</translation>
     </message>
@@ -634,6 +630,18 @@
     <message>
         <source>off since %1 crashed in their code; to switch them on: mouse-gestures --switch-on %1</source>
         <translation>выключены, так как в их коде произошёл сбой %1; чтобы включить: mouse-gestures --switch-on %1</translation>
+    </message>
+    <message>
+        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right</source>
+        <translation>назначить команду направлению. COMMAND — её идентификатор, название или «none». DIRECTION — up, left, down или right; при восьми жестах также up-left, down-left, down-right или up-right</translation>
+    </message>
+    <message>
+        <source>With --ring TASK at its end, --bind, --export, --import, --print or --reset is about the ring of that task alone.</source>
+        <translation>С --ring TASK в конце --bind, --export, --import, --print или --reset относится только к кольцу этой задачи.</translation>
+    </message>
+    <message>
+        <source>names no task</source>
+        <translation>не называет задачу</translation>
     </message>
 </context>
 </TS>

@@ -572,10 +572,6 @@
         <translation>无法绘制图页：%1</translation>
     </message>
     <message>
-        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right. With --ring TASK after it: in the ring of that task</source>
-        <translation>将命令放到某个方向。COMMAND 是其标识符、名称或“none”。DIRECTION 为 up、left、down 或 right；八个手势时还有 up-left、down-left、down-right 或 up-right。后加 --ring TASK：放入该任务的圆环</translation>
-    </message>
-    <message>
         <source>give a task, such as FreeCAD&apos;s SketcherWorkbench, a ring of its own, or the shared one again</source>
         <translation>为任务（如 FreeCAD 的 SketcherWorkbench）设置专用圆环，或改回共用圆环</translation>
     </message>
@@ -634,6 +630,18 @@
     <message>
         <source>off since %1 crashed in their code; to switch them on: mouse-gestures --switch-on %1</source>
         <translation>%1 在手势代码中崩溃，此后已关闭；要启用：mouse-gestures --switch-on %1</translation>
+    </message>
+    <message>
+        <source>put a command into a direction. COMMAND is its identifier or its caption, or &quot;none&quot;. DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right or up-right</source>
+        <translation>将命令放到某个方向。COMMAND 是其标识符、名称或“none”。DIRECTION 为 up、left、down 或 right；八个手势时还有 up-left、down-left、down-right 或 up-right</translation>
+    </message>
+    <message>
+        <source>With --ring TASK at its end, --bind, --export, --import, --print or --reset is about the ring of that task alone.</source>
+        <translation>末尾加上 --ring TASK 时，--bind、--export、--import、--print 或 --reset 只针对该任务的圆环。</translation>
+    </message>
+    <message>
+        <source>names no task</source>
+        <translation>没有指明任务</translation>
     </message>
 </context>
 </TS>

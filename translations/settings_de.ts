@@ -307,6 +307,22 @@
         <source>&amp;Cancel</source>
         <translation>&amp;Abbrechen</translation>
     </message>
+    <message>
+        <source>Ring of %1</source>
+        <translation>Ring von %1</translation>
+    </message>
+    <message>
+        <source>its own</source>
+        <translation>eigener</translation>
+    </message>
+    <message>
+        <source>shared</source>
+        <translation>gemeinsamer</translation>
+    </message>
+    <message>
+        <source>the file&apos;s</source>
+        <translation>der aus der Datei</translation>
+    </message>
 </context>
 <context>
     <name>settings::MessageBar</name>

@@ -307,6 +307,22 @@
         <source>&amp;Cancel</source>
         <translation>&amp;Cancelar</translation>
     </message>
+    <message>
+        <source>Ring of %1</source>
+        <translation>Anillo de %1</translation>
+    </message>
+    <message>
+        <source>its own</source>
+        <translation>el propio</translation>
+    </message>
+    <message>
+        <source>shared</source>
+        <translation>compartido</translation>
+    </message>
+    <message>
+        <source>the file&apos;s</source>
+        <translation>el del archivo</translation>
+    </message>
 </context>
 <context>
     <name>settings::MessageBar</name>

@@ -307,6 +307,22 @@
         <source>&amp;Cancel</source>
         <translation>&amp;Annuler</translation>
     </message>
+    <message>
+        <source>Ring of %1</source>
+        <translation>Anneau de %1</translation>
+    </message>
+    <message>
+        <source>its own</source>
+        <translation>le sien</translation>
+    </message>
+    <message>
+        <source>shared</source>
+        <translation>partagé</translation>
+    </message>
+    <message>
+        <source>the file&apos;s</source>
+        <translation>celui du fichier</translation>
+    </message>
 </context>
 <context>
     <name>settings::MessageBar</name>

@@ -307,6 +307,22 @@
         <source>&amp;Cancel</source>
         <translation>&amp;Annulla</translation>
     </message>
+    <message>
+        <source>Ring of %1</source>
+        <translation>Anello di %1</translation>
+    </message>
+    <message>
+        <source>its own</source>
+        <translation>il proprio</translation>
+    </message>
+    <message>
+        <source>shared</source>
+        <translation>condiviso</translation>
+    </message>
+    <message>
+        <source>the file&apos;s</source>
+        <translation>quello del file</translation>
+    </message>
 </context>
 <context>
     <name>settings::MessageBar</name>

@@ -307,6 +307,22 @@
         <source>&amp;Cancel</source>
         <translation>キャンセル(&amp;C)</translation>
     </message>
+    <message>
+        <source>Ring of %1</source>
+        <translation>%1 のリング</translation>
+    </message>
+    <message>
+        <source>its own</source>
+        <translation>専用</translation>
+    </message>
+    <message>
+        <source>shared</source>
+        <translation>共有</translation>
+    </message>
+    <message>
+        <source>the file&apos;s</source>
+        <translation>ファイルのもの</translation>
+    </message>
 </context>
 <context>
     <name>settings::MessageBar</name>

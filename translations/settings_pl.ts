@@ -307,6 +307,22 @@
         <source>&amp;Cancel</source>
         <translation>&amp;Anuluj</translation>
     </message>
+    <message>
+        <source>Ring of %1</source>
+        <translation>Pierścień %1</translation>
+    </message>
+    <message>
+        <source>its own</source>
+        <translation>własny</translation>
+    </message>
+    <message>
+        <source>shared</source>
+        <translation>wspólny</translation>
+    </message>
+    <message>
+        <source>the file&apos;s</source>
+        <translation>ten z pliku</translation>
+    </message>
 </context>
 <context>
     <name>settings::MessageBar</name>

@@ -307,6 +307,22 @@
         <source>&amp;Cancel</source>
         <translation>&amp;Cancelar</translation>
     </message>
+    <message>
+        <source>Ring of %1</source>
+        <translation>Anel de %1</translation>
+    </message>
+    <message>
+        <source>its own</source>
+        <translation>o próprio</translation>
+    </message>
+    <message>
+        <source>shared</source>
+        <translation>compartilhado</translation>
+    </message>
+    <message>
+        <source>the file&apos;s</source>
+        <translation>o do arquivo</translation>
+    </message>
 </context>
 <context>
     <name>settings::MessageBar</name>

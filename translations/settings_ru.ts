@@ -307,6 +307,22 @@
         <source>&amp;Cancel</source>
         <translation>&amp;Отмена</translation>
     </message>
+    <message>
+        <source>Ring of %1</source>
+        <translation>Кольцо %1</translation>
+    </message>
+    <message>
+        <source>its own</source>
+        <translation>своё</translation>
+    </message>
+    <message>
+        <source>shared</source>
+        <translation>общее</translation>
+    </message>
+    <message>
+        <source>the file&apos;s</source>
+        <translation>из файла</translation>
+    </message>
 </context>
 <context>
     <name>settings::MessageBar</name>

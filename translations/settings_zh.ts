@@ -307,6 +307,22 @@
         <source>&amp;Cancel</source>
         <translation>取消(&amp;C)</translation>
     </message>
+    <message>
+        <source>Ring of %1</source>
+        <translation>%1 的圆环</translation>
+    </message>
+    <message>
+        <source>its own</source>
+        <translation>专用</translation>
+    </message>
+    <message>
+        <source>shared</source>
+        <translation>共享</translation>
+    </message>
+    <message>
+        <source>the file&apos;s</source>
+        <translation>文件中的</translation>
+    </message>
 </context>
 <context>
     <name>settings::MessageBar</name>

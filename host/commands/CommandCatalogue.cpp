@@ -192,6 +192,25 @@ void CommandCatalogue::endGuessing()
         Q_EMIT dropped(unseen);
 }
 
+void CommandCatalogue::dropUnseen(const QString &prefix)
+{
+    update();
+    QStringList unseen;
+    for (const auto &item : m_items) {
+        const QString identifier = item->GetIdentifier().toQString();
+        if (!identifier.startsWith(prefix) || !item->isExpected || item->isLacking
+            || !expectedFor(identifier) || m_wellKnown.contains(identifier)
+            || m_trusted.contains(identifier))
+            continue;
+        item->isLacking = true;
+        unseen.append(identifier);
+    }
+    if (unseen.isEmpty())
+        return;
+    invalidate();
+    Q_EMIT dropped(unseen);
+}
+
 void CommandCatalogue::remember(const QVector<RememberedCommand> &commands)
 {
     QHash<QString, QString> keys; // by identifier

@@ -6,6 +6,7 @@
 #include "host/commands/ActionItem.h"
 #include "host/commands/CommandGroup.h"
 #include "host/commands/MenuWalk.h"
+#include "host/files/Phrase.h"
 #include "host/window/MenuChanges.h"
 
 #include <QHash>
@@ -92,8 +93,11 @@ public:
     // one. The same goes for bound commands that no start has ever seen, because their identifiers
     // are probably mistyped. Commands that the profile names or that are trusted stay.
     void endGuessing();
+    // The menus show all commands whose identifiers begin so. Bound ones of that kind that no start has
+    // ever seen are no longer offered, even after trustAll(). Those that trust() names stay.
+    void dropUnseen(const QString &prefix);
     // Returns the reason for a guess; empty if the identifier was not guessed.
-    [[nodiscard]] QString reasonFor(const QString &identifier) const
+    [[nodiscard]] Phrase reasonFor(const QString &identifier) const
     {
         return m_reasons.value(identifier);
     }
@@ -182,7 +186,7 @@ private:
     QHash<QString, ActionItem *> m_byName; // identifiers and keys
     std::vector<std::unique_ptr<CommandGroup>> m_groups;
     QHash<QString, CommandGroup *> m_groupsByName;
-    QHash<QString, QString> m_reasons; // of guesses, by identifier
+    QHash<QString, Phrase> m_reasons; // of guesses, by identifier
     QSet<QString> m_trusted; // identifiers
     bool m_trustsAll = false;
     bool m_guesses = false;

@@ -351,23 +351,24 @@ WellKnownGuess judge(const Signs &signs, const Look &look)
     const Signals has(signs, look);
     if (!isConvincing(signs, has, look))
         return guess;
-    QStringList reasons;
-    const auto weigh = [&](bool speaksForIt, int weight, const QString &kind, const QString &what) {
+    const auto weigh = [&](bool speaksForIt, int weight, const char *kind, const QString &what) {
         if (!speaksForIt)
             return;
         guess.weight += weight;
-        reasons.append(QStringLiteral("%1 \"%2\"").arg(kind, what));
+        const Phrase sign(kind, {Phrase::verbatim(what)});
+        guess.reason = guess.reason.isEmpty()
+                         ? sign
+                         : Phrase(QT_TRANSLATE_NOOP("host", "%1, %2"), {guess.reason, sign});
     };
     const bool isPartly = !has.hasName && !has.hasCaption && (has.shortcut.isEmpty() || !has.hasIcon);
     const auto weightOf = [isPartly](int weight) { return isPartly ? kPartlyWeight : weight; };
     weigh(!has.shortcut.isEmpty(), has.isDoubtful ? kDoubtfulWeight : weightOf(kShortcutWeight),
-          QStringLiteral("shortcut"), has.shortcut);
-    weigh(has.hasIcon, weightOf(kIconWeight), QStringLiteral("icon"), look.icon);
-    weigh(has.hasName, kNameWeight, QStringLiteral("object name"), look.name);
-    weigh(has.hasCaption, kCaptionWeight, QStringLiteral("caption"), look.caption);
+          QT_TRANSLATE_NOOP("host", "shortcut \"%1\""), has.shortcut);
+    weigh(has.hasIcon, weightOf(kIconWeight), QT_TRANSLATE_NOOP("host", "icon \"%1\""), look.icon);
+    weigh(has.hasName, kNameWeight, QT_TRANSLATE_NOOP("host", "object name \"%1\""), look.name);
+    weigh(has.hasCaption, kCaptionWeight, QT_TRANSLATE_NOOP("host", "caption \"%1\""), look.caption);
     if (has.isInMenu)
         guess.weight += kMenuWeight;
-    guess.reason = reasons.join(QStringLiteral(", "));
     return guess;
 }
 

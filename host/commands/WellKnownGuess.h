@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "host/files/Phrase.h"
+
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -28,7 +30,7 @@ struct WellKnownGuess
     // The weight of the signs; more than 0.
     int weight = 0;
     // The signs, one line for a person, such as: icon "document-open", caption "Open".
-    QString reason;
+    Phrase reason;
 
     // Returns the identifiers that can be guessed, sorted.
     [[nodiscard]] static QStringList identifiers();

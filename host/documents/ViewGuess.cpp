@@ -81,21 +81,19 @@ bool isControl(const QWidget *widget)
         widget);
 }
 
-// Classes that never are views, and their subclasses.
-bool isOther(const QWidget *widget, QString *what)
+// For classes that never are views, and their subclasses: says what the widget is. Null for others.
+const char *otherThanView(const QWidget *widget)
 {
     if (isAnyOf<QTextEdit, QPlainTextEdit>(widget))
-        *what = QStringLiteral("a text editor");
-    else if (isAnyOf<QAbstractItemView>(widget))
-        *what = QStringLiteral("an item view");
-    else if (isAnyOf<QTabWidget, QTabBar, QStackedWidget, QSplitter, QMdiArea, QMdiSubWindow, QGroupBox>(
-                 widget))
-        *what = QStringLiteral("a frame for others");
-    else if (isControl(widget) || isAnyOf<QAbstractSlider, QMenuBar, QStatusBar, QToolBar>(widget))
-        *what = QStringLiteral("a control");
-    else
-        return false;
-    return true;
+        return QT_TRANSLATE_NOOP("host", "it is a text editor");
+    if (isAnyOf<QAbstractItemView>(widget))
+        return QT_TRANSLATE_NOOP("host", "it is an item view");
+    if (isAnyOf<QTabWidget, QTabBar, QStackedWidget, QSplitter, QMdiArea, QMdiSubWindow, QGroupBox>(
+            widget))
+        return QT_TRANSLATE_NOOP("host", "it is a frame for others");
+    if (isControl(widget) || isAnyOf<QAbstractSlider, QMenuBar, QStatusBar, QToolBar>(widget))
+        return QT_TRANSLATE_NOOP("host", "it is a control");
+    return nullptr;
 }
 
 // Qt's own widgets that paint nothing of a program's. Compared by the real type: a class
@@ -290,49 +288,52 @@ bool hasTableHeader(const QWidget *widget)
                        [](const QWidget *header) { return header->isVisible(); });
 }
 
-ViewGuess no(const QString &reason)
+ViewGuess no(const Phrase &reason)
 {
     return {false, reason};
 }
 
-ViewGuess yes(const QString &reason)
+ViewGuess yes(const Phrase &reason)
 {
     return {true, reason};
 }
 
 // Says why a program cannot paint a drawing on this widget, at any place and size; empty if it can.
-QString whyNoCanvas(const QWidget *widget, const QWidget *area)
+Phrase whyNoCanvas(const QWidget *widget, const QWidget *area)
 {
-    QString what;
-    if (isOther(widget, &what))
-        return QStringLiteral("it is ") + what;
+    if (const char *what = otherThanView(widget))
+        return Phrase(what);
     for (const QWidget *up = widget; up && up != area->parentWidget(); up = up->parentWidget()) {
         if (isWebView(up))
-            return QStringLiteral("it shows web pages");
+            return Phrase(QT_TRANSLATE_NOOP("host", "it shows web pages"));
         if (isStartPage(up))
-            return QStringLiteral("it is a start page by its name");
+            return Phrase(QT_TRANSLATE_NOOP("host", "it is a start page by its name"));
         if (up != widget && viewportOf(up) == widget)
-            return QStringLiteral("it is the viewport of %1").arg(className(up));
+            return Phrase(QT_TRANSLATE_NOOP("host", "it is the viewport of %1"),
+                          {Phrase::verbatim(className(up))});
         if (up != widget && isAnyOf<QAbstractItemView, QTextEdit, QPlainTextEdit>(up))
-            return QStringLiteral("it is inside %1").arg(className(up));
+            return Phrase(QT_TRANSLATE_NOOP("host", "it is inside %1"),
+                          {Phrase::verbatim(className(up))});
     }
     if (!widget->isVisible())
-        return QStringLiteral("it is not visible");
+        return Phrase(QT_TRANSLATE_NOOP("host", "it is not visible"));
     if (isSmall(widget))
-        return QStringLiteral("it is too small");
+        return Phrase(QT_TRANSLATE_NOOP("host", "it is too small"));
     if (isGraphicsViewOrSurface(widget))
         return {};
     if (isPlain(widget))
-        return QStringLiteral("it is a plain %1, which paints nothing").arg(className(widget));
+        return Phrase(QT_TRANSLATE_NOOP("host", "it is a plain %1, which paints nothing"),
+                      {Phrase::verbatim(className(widget))});
     if (const QWidget *content = contentOf(widget))
-        return QStringLiteral("it is filled by another, %1").arg(className(content));
+        return Phrase(QT_TRANSLATE_NOOP("host", "it is filled by another, %1"),
+                      {Phrase::verbatim(className(content))});
     const QWidget *viewport = viewportOf(widget);
     if (takesText(widget) || (viewport && takesText(viewport)))
-        return QStringLiteral("it is a text editor by the way it takes text");
+        return Phrase(QT_TRANSLATE_NOOP("host", "it is a text editor by the way it takes text"));
     if (hasTableHeader(widget))
-        return QStringLiteral("it is a table by its header");
+        return Phrase(QT_TRANSLATE_NOOP("host", "it is a table by its header"));
     if (isPageOfControls(widget))
-        return QStringLiteral("it is a page of controls");
+        return Phrase(QT_TRANSLATE_NOOP("host", "it is a page of controls"));
     return {};
 }
 
@@ -367,16 +368,24 @@ ViewGuess judgeShare(const QWidget *widget, const QWidget *area)
 {
     const QScrollArea *scrolled = scrollAreaOf(widget);
     const int share = percentOf(scrolled ? static_cast<const QWidget *>(scrolled) : widget, area);
-    const QString what = scrolled ? QStringLiteral("it is the content of a scroll area that fills")
-                                  : QStringLiteral("it paints itself and fills");
-    if (share >= ViewGuess::kShare)
-        return yes(QStringLiteral("%1 %2 % of the area").arg(what).arg(share));
+    const std::vector<Phrase> percent{Phrase::verbatim(QString::number(share))};
+    if (share >= ViewGuess::kShare) {
+        return yes(
+            Phrase(scrolled ? QT_TRANSLATE_NOOP(
+                       "host", "it is the content of a scroll area that fills %1 % of the area")
+                            : QT_TRANSLATE_NOOP("host", "it paints itself and fills %1 % of the area"),
+                   percent));
+    }
     // In a window of another size, its neighbours may be larger than it.
-    if (share >= ViewGuess::kLeastShare && isAlone(widget, area))
-        return yes(QStringLiteral("%1 %2 % of the area, where nothing else could show a drawing")
-                       .arg(what)
-                       .arg(share));
-    return no(QStringLiteral("it fills %1 % of the area only").arg(share));
+    if (share >= ViewGuess::kLeastShare && isAlone(widget, area)) {
+        return yes(Phrase(
+            scrolled ? QT_TRANSLATE_NOOP("host", "it is the content of a scroll area that fills %1 % of "
+                                                 "the area, where nothing else could show a drawing")
+                     : QT_TRANSLATE_NOOP("host", "it paints itself and fills %1 % of the area, where "
+                                                 "nothing else could show a drawing"),
+            percent));
+    }
+    return no(Phrase(QT_TRANSLATE_NOOP("host", "it fills %1 % of the area only"), percent));
 }
 
 } // namespace
@@ -387,19 +396,21 @@ ViewGuess ViewGuess::of(const QWidget *widget)
     if (!area)
         area = dockAreaOf(widget);
     if (!area)
-        return no(QStringLiteral("it is not in the middle of a main window"));
+        return no(Phrase(QT_TRANSLATE_NOOP("host", "it is not in the middle of a main window")));
     // In a form the widgets are the drawing.
     const QWidget *form = formOf(widget);
     if (form && widget->parentWidget() != form)
-        return widget->isVisible() ? yes(QStringLiteral("it is part of a form that is being designed"))
-                                   : no(QStringLiteral("it is not visible"));
-    const QString obstacle = whyNoCanvas(widget, area);
+        return widget->isVisible()
+                 ? yes(Phrase(QT_TRANSLATE_NOOP("host", "it is part of a form that is being designed")))
+                 : no(Phrase(QT_TRANSLATE_NOOP("host", "it is not visible")));
+    const Phrase obstacle = whyNoCanvas(widget, area);
     if (!obstacle.isEmpty())
         return no(obstacle);
     if (isAnyOf<QGraphicsView>(widget))
-        return yes(QStringLiteral("it is a graphics view"));
+        return yes(Phrase(QT_TRANSLATE_NOOP("host", "it is a graphics view")));
     if (isSurface(widget))
-        return yes(QStringLiteral("it is a surface of the graphics library or of a window"));
+        return yes(
+            Phrase(QT_TRANSLATE_NOOP("host", "it is a surface of the graphics library or of a window")));
     return judgeShare(widget, area);
 }
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QString>
+#include "host/files/Phrase.h"
 
 QT_BEGIN_NAMESPACE
 class QWidget;
@@ -31,7 +31,7 @@ struct ViewGuess
 {
     bool isView = false;
     // One line for a person: why it is one, or why not. Never empty.
-    QString reason;
+    Phrase reason;
 
     // `widget` is not null; of a scroll area give the area, not its viewport.
     [[nodiscard]] static ViewGuess of(const QWidget *widget);

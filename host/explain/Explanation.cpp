@@ -51,26 +51,39 @@ QWidget *judgedFor(QWidget *view)
     return area && area->viewport() == view ? area : view;
 }
 
-QString describe(const QString &className, const QString &name)
+Phrase describe(const QString &className, const QString &name)
 {
-    return name.isEmpty() ? className : QStringLiteral("%1 \"%2\"").arg(className, name);
+    return Phrase::verbatim(name.isEmpty() ? className
+                                           : QStringLiteral("%1 \"%2\"").arg(className, name));
+}
+
+// A fact and what speaks for it.
+Phrase since(const Phrase &fact, const Phrase &reason)
+{
+    return Phrase(QT_TRANSLATE_NOOP("host", "%1, since %2"), {fact, reason});
+}
+
+Phrase since(const QString &fact, const Phrase &reason)
+{
+    return since(Phrase::verbatim(fact), reason);
 }
 
 // Returns why an action was taken for a well-known one. A guess is made once; at later starts the
 // command is remembered without a reason.
-QString guessReason(const ActionItem &item, const QString &identifier, const QString &known)
+Phrase guessReason(const ActionItem &item, const QString &identifier, const Phrase &known)
 {
     if (!known.isEmpty())
         return known;
     const QVector<WellKnownGuess> again = WellKnownGuess::among({item.action()}, {identifier});
-    return again.isEmpty() ? QStringLiteral("chosen at an earlier start") : again.first().reason;
+    return again.isEmpty() ? Phrase(QT_TRANSLATE_NOOP("host", "chosen at an earlier start"))
+                           : again.first().reason;
 }
 
 } // namespace
 
-void Explanation::Findings::add(const QString &what, const QString &text)
+void Explanation::Findings::add(const Phrase &what, const Phrase &text)
 {
-    lines.append(QStringLiteral("%1 %2").arg(what + QLatin1Char(':'), -15).arg(text).simplified());
+    lines.append(Phrase(QT_TRANSLATE_NOOP("host", "%1: %2"), {what, text}).toJson());
 }
 
 Explanation::Explanation(int socket, const ProgramProfile &profile, SystemServices &services)
@@ -97,10 +110,11 @@ void Explanation::addView(QWidget *view)
                                      [judged](const View &known) { return known.widget == judged; });
     if (isKnown)
         return;
-    QString reason;
+    Phrase reason;
     for (const QString &name : std::as_const(m_profile.viewClasses)) {
         if (reason.isEmpty() && judged->inherits(name.toLatin1().constData()))
-            reason = QStringLiteral("the profile names its class %1").arg(name);
+            reason = Phrase(QT_TRANSLATE_NOOP("host", "the profile names its class %1"),
+                            {Phrase::verbatim(name)});
     }
     if (reason.isEmpty())
         reason = ViewGuess::of(judged).reason;
@@ -109,7 +123,7 @@ void Explanation::addView(QWidget *view)
 }
 
 void Explanation::noteTrigger(Qt::MouseButton button, Qt::KeyboardModifiers modifiers,
-                              const QString &reason)
+                              const Phrase &reason)
 {
     m_triggerButton = button;
     m_triggerModifiers = modifiers;
@@ -144,7 +158,8 @@ QJsonObject Explanation::report()
     Findings findings;
     findings.profile = m_profile;
     if (const QMainWindow *current = window())
-        findings.add(QStringLiteral("window"), describe(classOf(current), current->objectName()));
+        findings.add(QT_TRANSLATE_NOOP("host", "window"),
+                     describe(classOf(current), current->objectName()));
     explainViews(findings);
     explainTrigger(findings);
     explainToolsMenu(findings);
@@ -152,7 +167,7 @@ QJsonObject Explanation::report()
     QJsonObject profile = findings.profile.toJson();
     profile.insert(QStringLiteral("why"), findings.why);
     return {{QStringLiteral("profile"), profile},
-            {QStringLiteral("lines"), QJsonArray::fromStringList(findings.lines)},
+            {QStringLiteral("lines"), findings.lines},
             {QStringLiteral("views"), static_cast<int>(m_views.size())}};
 }
 
@@ -167,24 +182,25 @@ void Explanation::explainViews(Findings &findings) const
     QStringList classes = m_profile.viewClasses;
     bool areAllNamed = true;
     for (const View &view : m_views) {
-        findings.add(
-            QStringLiteral("view"),
-            QStringLiteral("%1, since %2").arg(describe(view.className, view.name), view.reason));
-        reasons.insert(view.className, view.reason);
+        findings.add(QT_TRANSLATE_NOOP("host", "view"),
+                     since(describe(view.className, view.name), view.reason));
+        reasons.insert(view.className, view.reason.english());
         areAllNamed = areAllNamed && !view.isQtsOwn;
         if (m_profile.viewClasses.isEmpty() && !classes.contains(view.className))
             classes.append(view.className);
     }
     if (m_views.isEmpty()) {
-        findings.add(QStringLiteral("view"), QStringLiteral("none, perhaps before a drawing is open"));
+        findings.add(QT_TRANSLATE_NOOP("host", "view"),
+                     Phrase(QT_TRANSLATE_NOOP("host", "none, perhaps before a drawing is open")));
         explainOthers(findings);
     }
     if (m_profile.viewClasses.isEmpty() && !areAllNamed) {
         // A profile that named such a class would mean other widgets of it as well.
         classes.clear();
-        const QString note = QStringLiteral("left to be guessed, a class of Qt's own says too little");
-        findings.add(QStringLiteral("view classes"), note);
-        reasons.insert(QStringLiteral("viewClasses"), note);
+        const Phrase note(
+            QT_TRANSLATE_NOOP("host", "left to be guessed, a class of Qt's own says too little"));
+        findings.add(QT_TRANSLATE_NOOP("host", "view classes"), note);
+        reasons.insert(QStringLiteral("viewClasses"), note.english());
     }
     classes.sort();
     findings.profile.viewClasses = classes;
@@ -206,9 +222,8 @@ void Explanation::explainOthers(Findings &findings) const
     });
     for (int i = 0; i < others.size() && i < kMostOthers; ++i) {
         const QWidget *other = others.at(i);
-        findings.add(QStringLiteral("no view"), QStringLiteral("%1, since %2")
-                                                    .arg(describe(classOf(other), other->objectName()),
-                                                         ViewGuess::of(other).reason));
+        findings.add(QT_TRANSLATE_NOOP("host", "no view"),
+                     since(describe(classOf(other), other->objectName()), ViewGuess::of(other).reason));
     }
 }
 
@@ -218,10 +233,9 @@ void Explanation::explainTrigger(Findings &findings) const
     findings.profile.triggerModifiers = m_triggerModifiers;
     if (m_triggerReason.isEmpty())
         return;
-    findings.add(QStringLiteral("trigger"),
-                 QStringLiteral("%1, since %2")
-                     .arg(triggerText(m_triggerButton, m_triggerModifiers), m_triggerReason));
-    findings.why.insert(QStringLiteral("trigger"), m_triggerReason);
+    findings.add(QT_TRANSLATE_NOOP("host", "trigger"),
+                 since(triggerText(m_triggerButton, m_triggerModifiers), m_triggerReason));
+    findings.why.insert(QStringLiteral("trigger"), m_triggerReason.english());
 }
 
 void Explanation::explainToolsMenu(Findings &findings) const
@@ -229,9 +243,10 @@ void Explanation::explainToolsMenu(Findings &findings) const
     const ToolsMenu &tools = m_services.toolsMenu();
     const QMenu *menu = tools.find();
     QString name;
-    QString reason;
+    Phrase reason;
     if (!menu || menu == tools.made()) {
-        reason = QStringLiteral("one is made, since no menu of the menu bar is called Tools");
+        reason = Phrase(
+            QT_TRANSLATE_NOOP("host", "one is made, since no menu of the menu bar is called Tools"));
     } else {
         const QString caption = plainCaption(menu->title());
         name = menu->objectName().isEmpty() ? caption : menu->objectName();
@@ -239,15 +254,15 @@ void Explanation::explainToolsMenu(Findings &findings) const
             !m_profile.toolsMenu.isEmpty()
             && (menu->objectName() == m_profile.toolsMenu || caption == m_profile.toolsMenu);
         if (isNamed)
-            reason = QStringLiteral("the profile names it");
+            reason = Phrase(QT_TRANSLATE_NOOP("host", "the profile names it"));
         else if (menuRole(menu->objectName()) == QLatin1String("tools"))
-            reason = QStringLiteral("its object name says so");
+            reason = Phrase(QT_TRANSLATE_NOOP("host", "its object name says so"));
         else
-            reason = QStringLiteral("its caption \"%1\" says so").arg(caption);
+            reason = Phrase(QT_TRANSLATE_NOOP("host", "its caption \"%1\" says so"),
+                            {Phrase::verbatim(caption)});
     }
-    findings.add(QStringLiteral("Tools menu"),
-                 name.isEmpty() ? reason : QStringLiteral("%1, since %2").arg(name, reason));
-    findings.why.insert(QStringLiteral("toolsMenu"), reason);
+    findings.add(QT_TRANSLATE_NOOP("host", "Tools menu"), name.isEmpty() ? reason : since(name, reason));
+    findings.why.insert(QStringLiteral("toolsMenu"), reason.english());
     findings.profile.toolsMenu = name;
 }
 
@@ -264,22 +279,26 @@ void Explanation::explainCommands(Findings &findings)
         const ActionItem *item = catalogue.findUsable(identifier);
         const bool isThere = item && item->action();
         const QString key = isThere ? item->key() : QString();
-        QString reason;
-        if (!named.isEmpty())
-            reason = isThere ? QStringLiteral("the profile names it")
-                             : QStringLiteral("the profile names %1, which is not there at the moment")
-                                   .arg(named.join(QLatin1String(", ")));
+        Phrase reason;
+        if (!named.isEmpty() && isThere)
+            reason = Phrase(QT_TRANSLATE_NOOP("host", "the profile names it"));
+        else if (!named.isEmpty())
+            reason = Phrase(
+                QT_TRANSLATE_NOOP("host", "the profile names %1, which is not there at the moment"),
+                {Phrase::verbatim(named.join(QLatin1String(", ")))});
         else if (isThere && key == identifier)
-            reason = QStringLiteral("the action itself is called so");
+            reason = Phrase(QT_TRANSLATE_NOOP("host", "the action itself is called so"));
         else if (isThere)
             reason = guessReason(*item, identifier, catalogue.reasonFor(identifier));
         else
-            reason = QStringLiteral("no action has a matching shortcut, icon, object name or caption");
+            reason = Phrase(QT_TRANSLATE_NOOP(
+                "host", "no action has a matching shortcut, icon, object name or caption"));
         if (named.isEmpty() && isThere && key != identifier)
             findings.profile.wellKnownCommands.insert(identifier, {key});
-        findings.add(identifier, isThere ? QStringLiteral("%1, since %2").arg(key, reason)
-                                         : QStringLiteral("none, since %1").arg(reason));
-        reasons.insert(identifier, reason);
+        const Phrase none(QT_TRANSLATE_NOOP("host", "none"));
+        findings.add(Phrase::verbatim(identifier),
+                     since(isThere ? Phrase::verbatim(key) : none, reason));
+        reasons.insert(identifier, reason.english());
     }
     findings.why.insert(QStringLiteral("wellKnownCommands"), reasons);
 }

@@ -3,8 +3,10 @@
 
 #pragma once
 
+#include "host/files/Phrase.h"
 #include "host/files/ProgramProfile.h"
 
+#include <QJsonArray>
 #include <QJsonObject>
 #include <QMainWindow>
 #include <QObject>
@@ -19,7 +21,8 @@ class CommandCatalogue;
 class SystemServices;
 
 // Reports what the host has found and guessed in a program without a profile, and why: as lines
-// for a person, and as a profile that says the same.
+// for a person, and as a profile that says the same. The lines are translated where they are read. The
+// reasons in the profile are English, because a profile is for everybody.
 class Explanation : public QObject
 {
     Q_OBJECT
@@ -32,7 +35,7 @@ public:
     // Adds a view, the widget that gets the pointer. Adding it again has no effect.
     void addView(QWidget *view);
     // Notes the trigger, and the reason for it. Call this again when it changes.
-    void noteTrigger(Qt::MouseButton button, Qt::KeyboardModifiers modifiers, const QString &reason);
+    void noteTrigger(Qt::MouseButton button, Qt::KeyboardModifiers modifiers, const Phrase &reason);
     // Call this when the menus are complete. Nothing is reported before.
     void menusSettled();
 
@@ -45,7 +48,7 @@ private:
         QPointer<QWidget> widget;
         QString className;
         QString name; // may be empty
-        QString reason;
+        Phrase reason;
         bool isQtsOwn; // its class is one of Qt's, so other widgets have it too
     };
 
@@ -54,9 +57,11 @@ private:
     {
         ProgramProfile profile;
         QJsonObject why;
-        QStringList lines;
+        QJsonArray lines;
 
-        void add(const QString &what, const QString &text);
+        // `what` is a text of the translations.
+        void add(const char *what, const Phrase &text) { add(Phrase(what), text); }
+        void add(const Phrase &what, const Phrase &text);
     };
 
     void tellSoon();
@@ -75,7 +80,7 @@ private:
     QVector<View> m_views;
     Qt::MouseButton m_triggerButton;
     Qt::KeyboardModifiers m_triggerModifiers;
-    QString m_triggerReason; // empty until noteTrigger()
+    Phrase m_triggerReason; // empty until noteTrigger()
     QJsonObject m_told;
     bool m_isSettled = false;
     QTimer m_soon;

@@ -8,6 +8,7 @@
 #include "host/files/FileContent.h"
 #include "host/files/FileLock.h"
 #include "host/files/FileWriter.h"
+#include "host/files/Text.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -195,7 +196,7 @@ bool CatalogueFile::merge(const QVector<RememberedCommand> &seen, const QStringL
     const FileLock lock(m_path, kLockPatience);
     if (!lock.isHeld()) {
         if (lock.result() == FileLock::Result::Impossible)
-            complainOnce(QStringLiteral("%1 cannot be written, new commands are forgotten").arg(m_path));
+            complainOnce(Text::tr("%1 cannot be written, new commands are forgotten").arg(m_path));
         return false;
     }
     Content content = lastGood();
@@ -206,7 +207,7 @@ bool CatalogueFile::merge(const QVector<RememberedCommand> &seen, const QStringL
         return true;
     if (store(content.commands, content))
         return true;
-    complainOnce(QStringLiteral("%1 cannot be written, new commands are forgotten").arg(m_path));
+    complainOnce(Text::tr("%1 cannot be written, new commands are forgotten").arg(m_path));
     return false;
 }
 
@@ -214,15 +215,15 @@ CatalogueFile::Content CatalogueFile::lastGood()
 {
     Content content = contentOf(m_path);
     if (content.state == State::Foreign) {
-        complainOnce(m_path + QLatin1Char(' ') + content.problem);
+        complainOnce(content.problem.arg(m_path));
     } else if (content.state == State::Damaged) {
         const Content backup = contentOf(backupPath());
         if (backup.state == State::Good) {
-            complainOnce(QStringLiteral("%1 is damaged, %2 is used").arg(m_path, backupPath()));
+            complainOnce(Text::tr("%1 is damaged, %2 is used").arg(m_path, backupPath()));
             content.commands = backup.commands;
             content.isPrivate = backup.isPrivate;
         } else {
-            complainOnce(QStringLiteral("%1 is damaged, and there is no good copy of it").arg(m_path));
+            complainOnce(Text::tr("%1 is damaged, and there is no good copy of it").arg(m_path));
         }
     }
     return content;
@@ -237,10 +238,9 @@ CatalogueFile::Content CatalogueFile::contentOf(const QString &path)
     case FileContent::State::Missing:
         return {};
     case FileContent::State::TooLarge:
-        return {State::Foreign, {}, false, QStringLiteral("is too large, its commands are not offered")};
+        return {State::Foreign, {}, false, Text::tr("%1 is too large, its commands are not offered")};
     default:
-        return {
-            State::Foreign, {}, false, QStringLiteral("cannot be read, its commands are not offered")};
+        return {State::Foreign, {}, false, Text::tr("%1 cannot be read, its commands are not offered")};
     }
 }
 
@@ -256,10 +256,10 @@ CatalogueFile::Content CatalogueFile::parsed(const QByteArray &text)
         return {State::Foreign,
                 {},
                 false,
-                QStringLiteral("is of a later version (%1), its commands are not offered").arg(version)};
+                Text::tr("%1 is of a later version (%2), its commands are not offered")
+                    .arg(QLatin1String("%1"), QString::number(version))};
     if (version < 1 || !object.value(kCommandsKey).isArray())
-        return {
-            State::Foreign, {}, false, QStringLiteral("is not a list of commands and is left alone")};
+        return {State::Foreign, {}, false, Text::tr("%1 is not a list of commands and is left alone")};
     Content content{State::Good, {}, false, {}};
     QHash<QString, bool> known;
     const QJsonArray commands = object.value(kCommandsKey).toArray();

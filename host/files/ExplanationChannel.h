@@ -11,8 +11,10 @@
 // is to quit.
 //
 //     {"process": 4711}                          the plug-in is loaded
-//     {"problem": "..."}                         gestures cannot work, and why
-//     {"profile": {...}, "lines": [...], "views": 1}   what is known by now; the last one counts
+//     {"problem": TEXT}                          gestures cannot work, and why
+//     {"profile": {...}, "lines": [TEXT, ...], "views": 1}   what is known by now; the last one counts
+//
+// A TEXT is what Phrase::toJson() gives.
 namespace gesturewidget {
 
 // The environment variable that names the socket: its number, a colon, and the number of its

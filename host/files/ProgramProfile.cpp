@@ -4,6 +4,7 @@
 #include "host/files/ProgramProfile.h"
 
 #include "host/files/FileContent.h"
+#include "host/files/Text.h"
 #include "host/files/TriggerText.h"
 
 #include <QDir>
@@ -31,9 +32,9 @@ public:
         QJsonParseError parsing;
         const QJsonDocument document = QJsonDocument::fromJson(text, &parsing);
         if (parsing.error != QJsonParseError::NoError)
-            fail(QStringLiteral("%1 at byte %2").arg(parsing.errorString()).arg(parsing.offset));
+            fail(Text::tr("%1 at byte %2").arg(parsing.errorString()).arg(parsing.offset));
         else if (!document.isObject())
-            fail(QStringLiteral("it is not an object"));
+            fail(Text::tr("it is not an object"));
         m_object = document.object();
     }
     Reader(const QJsonObject &object, const QString &path)
@@ -55,7 +56,7 @@ public:
         const QStringList present = m_object.keys();
         for (const QString &key : present) {
             if (!keys.contains(key))
-                fail(QStringLiteral("unknown key \"%1\"").arg(m_path + key));
+                fail(Text::tr("unknown key \"%1\"").arg(m_path + key));
         }
     }
 
@@ -63,7 +64,7 @@ public:
     {
         const QJsonValue value = m_object.value(key);
         if (!value.isUndefined() && !value.isString())
-            fail(QStringLiteral("\"%1\" is not a string").arg(m_path + key));
+            fail(Text::tr("\"%1\" is not a string").arg(m_path + key));
         return value.toString();
     }
 
@@ -77,12 +78,12 @@ public:
     {
         const QJsonValue value = m_object.value(key);
         if (!value.isUndefined() && !value.isArray())
-            fail(QStringLiteral("\"%1\" is not a list").arg(m_path + key));
+            fail(Text::tr("\"%1\" is not a list").arg(m_path + key));
         QStringList list;
         const QJsonArray array = value.toArray();
         for (const QJsonValue &entry : array) {
             if (!entry.isString() || entry.toString().isEmpty())
-                fail(QStringLiteral("\"%1\" holds something that is not a name").arg(m_path + key));
+                fail(Text::tr("\"%1\" holds something that is not a name").arg(m_path + key));
             list.append(entry.toString());
         }
         return list;
@@ -92,7 +93,7 @@ public:
     {
         const QJsonValue value = m_object.value(key);
         if (!value.isUndefined() && !value.isObject())
-            fail(QStringLiteral("\"%1\" is not an object").arg(m_path + key));
+            fail(Text::tr("\"%1\" is not an object").arg(m_path + key));
         return value.toObject();
     }
 
@@ -100,7 +101,7 @@ public:
     {
         const QJsonValue value = m_object.value(key);
         if (!value.isUndefined() && !value.isBool())
-            fail(QStringLiteral("\"%1\" is neither true nor false").arg(m_path + key));
+            fail(Text::tr("\"%1\" is neither true nor false").arg(m_path + key));
         return value.toBool();
     }
 
@@ -121,31 +122,32 @@ void readTrigger(Reader &profileReader, ProgramProfile &profile)
     if (!reader.value(QStringLiteral("button")).isUndefined()) {
         profile.triggerButton = buttonNamed(button);
         if (profile.triggerButton == Qt::NoButton)
-            reader.fail(QStringLiteral("\"trigger.button\" names no mouse button: \"%1\"").arg(button));
+            reader.fail(Text::tr("\"trigger.button\" names no mouse button: \"%1\"").arg(button));
     }
     const QStringList names = reader.strings(QStringLiteral("modifiers"));
     for (const QString &name : names) {
         const Qt::KeyboardModifier modifier = modifierNamed(name);
         if (modifier == Qt::NoModifier)
-            reader.fail(QStringLiteral("\"trigger.modifiers\" names no key: \"%1\"").arg(name));
+            reader.fail(Text::tr("\"trigger.modifiers\" names no key: \"%1\"").arg(name));
         profile.triggerModifiers |= modifier;
     }
     profile.hasTrigger = !reader.keys().isEmpty();
     profileReader.fail(reader.problem());
 }
 
-void readUsedTriggers(Reader &reader, ProgramProfile &profile)
+QStringList readTriggers(Reader &reader, const QString &key, const QString &path)
 {
-    const QString key = QStringLiteral("usedTriggers");
+    QStringList triggers;
     const QStringList texts = reader.strings(key);
     for (const QString &text : texts) {
         Qt::MouseButton button = Qt::NoButton;
         Qt::KeyboardModifiers modifiers = Qt::NoModifier;
         if (parseTrigger(text, button, modifiers))
-            profile.usedTriggers.append(triggerText(button, modifiers));
+            triggers.append(triggerText(button, modifiers));
         else
-            reader.fail(QStringLiteral("\"%1\" names no trigger: \"%2\"").arg(key, text));
+            reader.fail(Text::tr("\"%1\" names no trigger: \"%2\"").arg(path + key, text));
     }
+    return triggers;
 }
 
 // Reads what the program itself is set to, from one of its files in the folder for configuration.
@@ -173,24 +175,40 @@ void readTriggerSetting(Reader &profileReader, ProgramProfile &profile)
         return;
     Reader reader(profileReader.object(key), key + QLatin1Char('.'));
     reader.allow({QStringLiteral("file"), QStringLiteral("before"), QStringLiteral("behind"),
-                  QStringLiteral("triggers")});
+                  QStringLiteral("triggers"), QStringLiteral("usedTriggers")});
     const QString file = reader.string(QStringLiteral("file"));
     const QString before = reader.string(QStringLiteral("before"));
     const QString behind = reader.string(QStringLiteral("behind"));
     if (file.isEmpty() || QDir::isAbsolutePath(file) || before.isEmpty() || behind.isEmpty())
-        reader.fail(QStringLiteral("\"%1\" needs a file and what is around the value").arg(key));
+        reader.fail(Text::tr("\"%1\" needs a file and what is around the value").arg(key));
     const QJsonObject triggers = reader.object(QStringLiteral("triggers"));
     const QString value = reader.problem().isEmpty() ? ownSetting(file, before, behind) : QString();
     for (auto it = triggers.begin(); it != triggers.end(); ++it) {
         Qt::MouseButton button = Qt::NoButton;
         Qt::KeyboardModifiers modifiers = Qt::NoModifier;
         if (!parseTrigger(it->toString(), button, modifiers) || !isUsableTrigger(button, modifiers)) {
-            reader.fail(QStringLiteral("\"%1.triggers.%2\" names no trigger").arg(key, it.key()));
+            reader.fail(Text::tr("\"%1.triggers.%2\" names no trigger").arg(key, it.key()));
         } else if (it.key() == value) {
             profile.triggerButton = button;
             profile.triggerModifiers = modifiers;
             profile.hasTrigger = true;
+            profile.triggerSetting = value;
         }
+    }
+    const QString usedKey = QStringLiteral("usedTriggers");
+    const QString usedPath = key + QLatin1Char('.') + usedKey + QLatin1Char('.');
+    Reader used(reader.object(usedKey), usedPath);
+    const QStringList values = used.keys();
+    for (const QString &one : values) {
+        const QStringList list = readTriggers(used, one, usedPath);
+        if (one == value)
+            profile.usedTriggers = list;
+    }
+    reader.fail(used.problem());
+    profile.triggerBySetting = profileReader.object(key);
+    for (const QString &fixed : {QStringLiteral("trigger"), usedKey}) {
+        if (!profileReader.value(fixed).isUndefined())
+            profile.fixedTriggers.insert(fixed, profileReader.value(fixed));
     }
     profileReader.fail(reader.problem());
 }
@@ -203,7 +221,7 @@ void readCommands(Reader &profileReader, ProgramProfile &profile)
     for (const QString &identifier : identifiers) {
         const QStringList actions = reader.namesOf(identifier);
         if (identifier.isEmpty() || actions.isEmpty() || actions.contains(QString()))
-            reader.fail(QStringLiteral("\"wellKnownCommands.%1\" names no action").arg(identifier));
+            reader.fail(Text::tr("\"wellKnownCommands.%1\" names no action").arg(identifier));
         profile.wellKnownCommands.insert(identifier, actions);
     }
     profileReader.fail(reader.problem());
@@ -219,7 +237,7 @@ void readRing(Reader &tasksReader, const QString &task, const QJsonObject &objec
         const int scheme = key.size() == 2 ? key.at(0).digitValue() : 0;
         const int direction = key.size() == 2 ? key.at(1).digitValue() : 0;
         if ((scheme != 4 && scheme != 8) || direction < 1 || direction > scheme)
-            reader.fail(QStringLiteral("\"%1\" is no direction").arg(path + key));
+            reader.fail(Text::tr("\"%1\" is no direction").arg(path + key));
         profile.taskBindings[task].insert(key, reader.string(key));
     }
     tasksReader.fail(reader.problem());
@@ -229,18 +247,29 @@ void readTasks(Reader &profileReader, ProgramProfile &profile)
 {
     Reader reader(profileReader.object(QStringLiteral("tasks")), QStringLiteral("tasks."));
     reader.allow({QStringLiteral("checkedActionBeside"), QStringLiteral("classOfView"),
-                  QStringLiteral("firstBindings")});
+                  QStringLiteral("firstBindings"), QStringLiteral("commandPrefixes")});
     if (!reader.value(QStringLiteral("checkedActionBeside")).isUndefined())
         profile.taskActions = reader.namesOf(QStringLiteral("checkedActionBeside"));
     profile.isTaskOfView = reader.flag(QStringLiteral("classOfView"));
     if (profile.isTaskOfView && !profile.taskActions.isEmpty())
-        reader.fail(QStringLiteral("\"tasks\" names two ways to know the task"));
+        reader.fail(Text::tr("\"tasks\" names two ways to know the task"));
     const QJsonObject rings = reader.object(QStringLiteral("firstBindings"));
     for (auto it = rings.begin(); it != rings.end(); ++it) {
         if (!it.value().isObject() || it.key().isEmpty())
-            reader.fail(QStringLiteral("\"tasks.firstBindings.%1\" is not an object").arg(it.key()));
+            reader.fail(Text::tr("\"tasks.firstBindings.%1\" is not an object").arg(it.key()));
         readRing(reader, it.key(), it.value().toObject(), profile);
     }
+    const QString prefixesKey = QStringLiteral("commandPrefixes");
+    const QString path = QStringLiteral("tasks.") + prefixesKey + QLatin1Char('.');
+    Reader prefixes(reader.object(prefixesKey), path);
+    const QStringList tasks = prefixes.keys();
+    for (const QString &task : tasks) {
+        const QString prefix = prefixes.string(task);
+        if (task.isEmpty() || prefix.isEmpty())
+            prefixes.fail(Text::tr("\"%1\" is empty").arg(path + task));
+        profile.taskPrefixes.insert(task, prefix);
+    }
+    reader.fail(prefixes.problem());
     profileReader.fail(reader.problem());
 }
 
@@ -248,25 +277,28 @@ void readTasks(Reader &profileReader, ProgramProfile &profile)
 QString fill(ProgramProfile &profile, const QByteArray &text)
 {
     Reader reader(text);
-    reader.allow({QStringLiteral("version"), QStringLiteral("program"), QStringLiteral("viewClasses"),
-                  QStringLiteral("trigger"), QStringLiteral("wellKnownCommands"),
-                  QStringLiteral("toolsMenu"), QStringLiteral("commandLineClass"),
-                  QStringLiteral("changesMenus"), QStringLiteral("triggerBySetting"),
-                  QStringLiteral("tasks"), QStringLiteral("usedTriggers"), QStringLiteral("why")});
+    // An editor looks for the schema there.
+    static_cast<void>(reader.string(QStringLiteral("$schema")));
+    reader.allow({QStringLiteral("$schema"), QStringLiteral("version"), QStringLiteral("program"),
+                  QStringLiteral("viewClasses"), QStringLiteral("trigger"),
+                  QStringLiteral("wellKnownCommands"), QStringLiteral("toolsMenu"),
+                  QStringLiteral("commandLineClass"), QStringLiteral("changesMenus"),
+                  QStringLiteral("triggerBySetting"), QStringLiteral("tasks"),
+                  QStringLiteral("usedTriggers"), QStringLiteral("why")});
     // Reasons for the rest, for people who read the file.
     static_cast<void>(reader.object(QStringLiteral("why")));
     const QJsonValue version = reader.value(QStringLiteral("version"));
     if (!version.isDouble())
-        reader.fail(QStringLiteral("\"version\" is missing or not a number"));
+        reader.fail(Text::tr("\"version\" is missing or not a number"));
     else if (version.toDouble() != kVersion)
-        reader.fail(QStringLiteral("version %1 is not known").arg(version.toDouble()));
+        reader.fail(Text::tr("version %1 is not known").arg(version.toDouble()));
     const QString program = reader.string(QStringLiteral("program"));
     if (program != profile.program)
-        reader.fail(QStringLiteral("\"program\" is \"%1\", not \"%2\"").arg(program, profile.program));
+        reader.fail(Text::tr("\"program\" is \"%1\", not \"%2\"").arg(program, profile.program));
     profile.viewClasses = reader.strings(QStringLiteral("viewClasses"));
     readTrigger(reader, profile);
+    profile.usedTriggers = readTriggers(reader, QStringLiteral("usedTriggers"), {});
     readTriggerSetting(reader, profile);
-    readUsedTriggers(reader, profile);
     readCommands(reader, profile);
     readTasks(reader, profile);
     profile.toolsMenu = reader.string(QStringLiteral("toolsMenu"));
@@ -281,9 +313,9 @@ QString fill(ProgramProfile &profile, const FileContent &file)
     case FileContent::State::Read:
         return fill(profile, file.bytes);
     case FileContent::State::NotAFile:
-        return QStringLiteral("it is not a file");
+        return Text::tr("it is not a file");
     case FileContent::State::TooLarge:
-        return QStringLiteral("it is too long");
+        return Text::tr("it is too long");
     default:
         return file.problem;
     }
@@ -325,6 +357,14 @@ QJsonObject ProgramProfile::toJson() const
                         {QStringLiteral("commandLineClass"), commandLineClass}};
     if (!usedTriggers.isEmpty())
         profile.insert(QStringLiteral("usedTriggers"), QJsonArray::fromStringList(usedTriggers));
+    if (!triggerBySetting.isEmpty()) {
+        for (const QString &key : {QStringLiteral("trigger"), QStringLiteral("usedTriggers")}) {
+            profile.remove(key);
+            if (fixedTriggers.contains(key))
+                profile.insert(key, fixedTriggers.value(key));
+        }
+        profile.insert(QStringLiteral("triggerBySetting"), triggerBySetting);
+    }
     if (changesMenus)
         profile.insert(QStringLiteral("changesMenus"), true);
     if (knowsTasks())
@@ -342,6 +382,11 @@ QJsonObject ProgramProfile::tasksToJson() const
         rings.insert(task.key(), ring);
     }
     QJsonObject tasks{{QStringLiteral("firstBindings"), rings}};
+    QJsonObject prefixes;
+    for (auto it = taskPrefixes.cbegin(); it != taskPrefixes.cend(); ++it)
+        prefixes.insert(it.key(), it.value());
+    if (!prefixes.isEmpty())
+        tasks.insert(QStringLiteral("commandPrefixes"), prefixes);
     if (isTaskOfView)
         tasks.insert(QStringLiteral("classOfView"), true);
     else
@@ -367,7 +412,7 @@ ProgramProfile ProgramProfile::forProgram(const QString &program, const QStringL
         if (problem.isEmpty())
             return profile;
         if (message) {
-            const QString line = QStringLiteral("the profile %1 is not used: %2").arg(path, problem);
+            const QString line = Text::tr("the profile %1 is not used: %2").arg(path, problem);
             *message = line.simplified();
         }
         return defaults;

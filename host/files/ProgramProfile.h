@@ -22,9 +22,15 @@ struct ProgramProfile
     // Class names of the views, the widgets that show drawings, or of their base classes.
     QStringList viewClasses;
     // The button, and the keys held with it, that start a gesture. A profile may let them depend on
-    // a setting of the program ("triggerBySetting"). This is read once.
+    // a setting of the program. This is read once.
     Qt::MouseButton triggerButton = Qt::RightButton;
     Qt::KeyboardModifiers triggerModifiers = Qt::NoModifier;
+    // "triggerBySetting" as the profile has it, and its "trigger" and "usedTriggers", which count for
+    // other values of the setting. Both are empty without "triggerBySetting".
+    QJsonObject triggerBySetting;
+    QJsonObject fixedTriggers;
+    // What the program is set to there. Empty if nothing was found.
+    QString triggerSetting;
     // True if the file says so. Otherwise a program without flat drawings gets another trigger.
     bool hasTrigger = false;
     // The triggers with which the program itself does something in its drawings, as TriggerText.h
@@ -51,6 +57,9 @@ struct ProgramProfile
     // By task, the first bindings of a ring of its own: identifiers by the directions' keys, "81" to
     // "88" and "41" to "44". What is missing comes from the shared ring.
     QHash<QString, QHash<QString, QString>> taskBindings;
+    // By task, what the identifiers of its commands begin with. While the task is on, its menus show all
+    // of them: one that is bound, begins so and was never seen does not exist.
+    QHash<QString, QString> taskPrefixes;
     // Class name of the line edit in which people type commands; empty when there is none.
     QString commandLineClass;
 

@@ -8,6 +8,7 @@
 #include "host/files/FileLock.h"
 #include "host/files/FileWriter.h"
 #include "host/files/IniText.h"
+#include "host/files/Text.h"
 
 #include <QDir>
 #include <QFile>
@@ -60,7 +61,7 @@ SettingsFile::Values SettingsFile::read()
     QByteArray backup = contentOf(backupPath()).bytes;
     FileContent content = contentOf(m_path);
     if (!content.isRead()) {
-        complainOnce(QStringLiteral("%1 cannot be read, its bindings are not used").arg(m_path));
+        complainOnce(Text::tr("%1 cannot be read, its bindings are not used").arg(m_path));
         return {};
     }
     const bool seemsDamaged = isDamaged(content.bytes, backup);
@@ -86,10 +87,10 @@ QByteArray SettingsFile::usable(const QByteArray &content, const QByteArray &bac
     if (mayWrite)
         static_cast<void>(store(m_path + QLatin1String(".damaged"), content));
     if (backup.isEmpty() || !IniText::isWellFormed(backup)) {
-        complainOnce(QStringLiteral("%1 is damaged, and there is no good copy of it").arg(m_path));
+        complainOnce(Text::tr("%1 is damaged, and there is no good copy of it").arg(m_path));
         return content;
     }
-    complainAlways(QStringLiteral("%1 was damaged and is restored from %2").arg(m_path, backupPath()));
+    complainAlways(Text::tr("%1 was damaged and is restored from %2").arg(m_path, backupPath()));
     if (mayWrite && store(m_path, backup))
         m_stamp = currentStamp();
     return backup;
@@ -98,20 +99,20 @@ QByteArray SettingsFile::usable(const QByteArray &content, const QByteArray &bac
 void SettingsFile::keepCopy(const QByteArray &content)
 {
     if (!store(backupPath(), content) && contentOf(backupPath()).state == FileContent::State::NotAFile)
-        complainOnce(
-            QStringLiteral("%1 is not a file, so no copy of the settings is kept").arg(backupPath()));
+        complainOnce(Text::tr("%1 is not a file, so no copy of the settings is kept").arg(backupPath()));
 }
 
 bool SettingsFile::change(const std::function<Values(const Values &)> &edit, const QString &keepAs)
 {
-    m_problem = QStringLiteral("%1 cannot be written").arg(m_path);
+    m_problem = Text::tr("%1 cannot be written").arg(m_path);
     if (m_path.isEmpty())
         return false;
     QDir().mkpath(QFileInfo(m_path).absolutePath());
     const FileLock lock(m_path, kLockPatience);
     if (!lock.isHeld()) {
         if (lock.result() == FileLock::Result::Busy)
-            m_problem += QStringLiteral(", since another program holds %1.lock").arg(m_path);
+            m_problem =
+                Text::tr("%1 cannot be written, since another program holds %1.lock").arg(m_path);
         return false;
     }
     const QByteArray backup = contentOf(backupPath()).bytes;
@@ -138,7 +139,7 @@ bool SettingsFile::change(const std::function<Values(const Values &)> &edit, con
         const FileWriter writer(m_path, FileWriter::Readers::Owner);
         if (!(keepAs.isEmpty() || !isThere ? writer.write(text) : writer.write(text, keepAs))) {
             if (QFileInfo::exists(keepAs) && !QFileInfo(keepAs).isFile())
-                m_problem = QStringLiteral("%1 cannot be written").arg(keepAs);
+                m_problem = Text::tr("%1 cannot be written").arg(keepAs);
             return false;
         }
         keepCopy(text);

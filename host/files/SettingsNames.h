@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -37,6 +38,25 @@ namespace gesturewidget::settingsnames {
             keys.append(QString::number(10 * scheme + number));
     }
     return keys;
+}
+
+// The module's first command for a direction, such as "87"; empty for any other key.
+[[nodiscard]] inline QString initialCommand(const QString &key)
+{
+    static const QMap<QString, QString> commands{
+        {QStringLiteral("41"), QStringLiteral("ID_ZOOM_BOUNDS")},
+        {QStringLiteral("42"), QStringLiteral("ID_OPEN")},
+        {QStringLiteral("43"), QStringLiteral("ID_SAVE")},
+        {QStringLiteral("44"), QStringLiteral("ID_LINE")},
+        {QStringLiteral("81"), QStringLiteral("ID_ZOOM_BOUNDS")},
+        {QStringLiteral("82"), QStringLiteral("ID_OFFSET")},
+        {QStringLiteral("83"), QStringLiteral("ID_OPEN")},
+        {QStringLiteral("84"), QStringLiteral("ID_COPY")},
+        {QStringLiteral("85"), QStringLiteral("ID_SAVE")},
+        {QStringLiteral("86"), QStringLiteral("ID_DTEXT")},
+        {QStringLiteral("87"), QStringLiteral("ID_LINE")},
+        {QStringLiteral("88"), QStringLiteral("ID_TRIM")}};
+    return commands.value(key);
 }
 
 // The host's section.

@@ -4,6 +4,7 @@
 #include "host/inject/BareApplication.h"
 
 #include "host/files/ExplanationChannel.h"
+#include "host/files/Phrase.h"
 
 namespace inject {
 
@@ -18,8 +19,10 @@ BareApplication::~BareApplication() = default;
 void BareApplication::onEventLoop()
 {
     m_variables->keep();
-    gesturewidget::tell(m_variables->explanation(),
-                        {{QStringLiteral("problem"), QStringLiteral("it has no widgets")}});
+    gesturewidget::tell(
+        m_variables->explanation(),
+        {{QStringLiteral("problem"),
+          gesturewidget::Phrase(QT_TRANSLATE_NOOP("host", "it has no widgets")).toJson()}});
 }
 
 } // namespace inject

@@ -5,6 +5,7 @@
 
 #include "host/files/Complaint.h"
 #include "host/files/ExplanationChannel.h"
+#include "host/files/Phrase.h"
 #include "host/session/ExplainedProgram.h"
 #include "host/session/GestureHost.h"
 #include "host/window/MenuBars.h"
@@ -21,6 +22,7 @@
 #include <exception>
 
 using gesturewidget::GestureHost;
+using gesturewidget::Phrase;
 
 namespace inject {
 namespace {
@@ -78,7 +80,7 @@ void Injector::look()
     if (!GetHxSystemServices()) // a program may have a host of its own
         startHost(window);
     else
-        explainProblem(QStringLiteral("it brings gestures of its own"));
+        explainProblem(Phrase(QT_TRANSLATE_NOOP("host", "it brings gestures of its own")));
 }
 
 QMainWindow *Injector::findWindow() const
@@ -104,7 +106,7 @@ void Injector::startHost(QMainWindow *window)
             return;
         }
         report(qPrintable(error));
-        explainProblem(error);
+        explainProblem(Phrase::verbatim(error));
     } catch (const std::exception &exception) {
         report(exception.what());
     } catch (...) {
@@ -132,9 +134,9 @@ void Injector::onWindowGone()
     lookSoon();
 }
 
-void Injector::explainProblem(const QString &text) const
+void Injector::explainProblem(const Phrase &text) const
 {
-    gesturewidget::tell(m_explanation, {{QStringLiteral("problem"), text}});
+    gesturewidget::tell(m_explanation, {{QStringLiteral("problem"), text.toJson()}});
 }
 
 void Injector::onExplanationRead()

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "host/files/Phrase.h"
 #include "host/inject/BorrowedVariables.h"
 
 #include <QObject>
@@ -45,7 +46,7 @@ private:
     void startHost(QMainWindow *window);
     void follow(QMainWindow *window);
     void onWindowGone();
-    void explainProblem(const QString &text) const;
+    void explainProblem(const gesturewidget::Phrase &text) const;
     // Ends the program when the process that asked for an explanation has closed its end.
     void onExplanationRead();
     // Closes the program's windows as a person does, and ends it in any case.

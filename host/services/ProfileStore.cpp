@@ -5,6 +5,7 @@
 
 #include "host/files/Complaint.h"
 #include "host/files/SettingsNames.h"
+#include "host/files/Text.h"
 #include "sdk/OwnCode.h"
 
 namespace gesturewidget {
@@ -92,8 +93,7 @@ bool ProfileStore::flush()
         return true;
     }
     if (!m_hasComplained)
-        complain(
-            QStringLiteral("%1 cannot be written, changes last until the program ends").arg(m_path));
+        complain(Text::tr("%1 cannot be written, changes last until the program ends").arg(m_path));
     m_hasComplained = true;
     return false;
 }

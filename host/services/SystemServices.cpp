@@ -25,12 +25,15 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QMainWindow>
+#include <QTimer>
 
 namespace gesturewidget {
 namespace {
 
 // Pixels. Icons of this height and more are large: most programs have icons of 16 to 25 pixels.
 constexpr int kLargeIcon = 32;
+// Milliseconds without a change until the menus of a task are complete.
+constexpr int kTimeForTask = 1000;
 
 } // namespace
 
@@ -85,13 +88,15 @@ public:
     void expectCommands(const ProgramProfile &profile, const QString &settingsFile)
     {
         memory = std::make_unique<CatalogueMemory>(catalogue, catalogueFileBeside(settingsFile));
-        const SettingsFile::Values settings = profileStore.values();
+        const SettingsFile::Values settings = profileStore.site().chosenOf(profileStore.values());
         const QMap<QString, QString> expected = expectedCommands(profile.wellKnownCommands, settings);
         for (auto it = expected.begin(); it != expected.end(); ++it)
             catalogue.expect(it.key(), it.value());
         if (profile.changesMenus)
             catalogue.trustAll();
-        catalogue.trust(trustedCommands(settings, profileStore.site().values()));
+        if (!profile.taskPrefixes.isEmpty())
+            dropMistyped(profile.taskPrefixes);
+        catalogue.trust(trustedCommands(settings, profileStore.site().given()));
         QObject::connect(
             &catalogue, &CommandCatalogue::dropped, &catalogue, [this](const QStringList &identifiers) {
                 textOutput.showForAWhile(
@@ -99,6 +104,21 @@ public:
                         "host", "The program has no command \"%1\"; its direction is empty.")
                         .arg(identifiers.join(QStringLiteral("\", \""))));
             });
+    }
+
+    // A task's menus are complete some time after the last change that follows a switch.
+    void dropMistyped(const QHash<QString, QString> &prefixes)
+    {
+        menusOfTask.setSingleShot(true);
+        menusOfTask.setInterval(kTimeForTask);
+        const auto restart = qOverload<>(&QTimer::start);
+        QObject::connect(memory.get(), &CatalogueMemory::settled, &menusOfTask, restart);
+        QObject::connect(&catalogue, &CommandCatalogue::menusChanged, &menusOfTask, &QTimer::stop);
+        QObject::connect(&menusOfTask, &QTimer::timeout, &menusOfTask, [this, prefixes] {
+            const QString prefix = prefixes.value(task.name());
+            if (!prefix.isEmpty())
+                catalogue.dropUnseen(prefix);
+        });
     }
 
     void runIn(QWidget *window, const QString &macro)
@@ -136,6 +156,7 @@ public:
     CurrentTask task;
     TaskRings rings;
     std::unique_ptr<CatalogueMemory> memory; // null without a window
+    QTimer menusOfTask; // until the menus of a task are complete
     CommandRunner runner;
     UiManager uiManager;
     CommandManager commandManager;

@@ -7,6 +7,7 @@
 #include "host/commands/CommandStack.h"
 #include "host/files/Complaint.h"
 #include "host/files/ProgramProfile.h"
+#include "host/files/Text.h"
 #include "host/menus/ProgramLanguage.h"
 #include "host/services/HostEditor.h"
 #include "host/services/StoredText.h"
@@ -78,12 +79,12 @@ bool HostSession::start(QString *error)
     m_next = firstStarted;
     firstStarted = this;
 
+    installTexts(); // for captions of expected commands, and for complaints
     QString message;
     const ProgramProfile profile =
         ProgramProfile::forProgram(m_options.program, m_options.profileFolders, &message);
     if (!message.isEmpty())
         complain(message);
-    installTexts(); // expected commands get captions
     makeServices(profile);
     makeParts(profile);
     if (!startModule(&problem)) {
@@ -113,11 +114,11 @@ bool HostSession::start(QString *error)
 QString HostSession::obstacle() const
 {
     if (m_wasStarted)
-        return QStringLiteral("a host that was stopped cannot start again");
+        return Text::tr("a host that was stopped cannot start again");
     if (running)
-        return QStringLiteral("this program has a host already");
+        return Text::tr("this program has a host already");
     if (!qobject_cast<QMainWindow *>(m_firstWindow.data()) || !qobject_cast<QApplication *>(qApp))
-        return QStringLiteral("there is no main window to host");
+        return Text::tr("there is no main window to host");
     return LastRun::obstacle(m_options.program, m_options.settingsFile);
 }
 

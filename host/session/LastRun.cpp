@@ -7,6 +7,7 @@
 #include "host/files/CrashPage.h"
 #include "host/files/InstallPaths.h"
 #include "host/files/SettingsNames.h"
+#include "host/files/Text.h"
 #include "sdk/OwnCode.h"
 
 #include <cstdlib>
@@ -29,8 +30,8 @@ QString LastRun::obstacle(const QString &program, const QString &settings)
     const QString remedy =
         settings == settingsFile(program)
             ? QStringLiteral("mouse-gestures --switch-on %1").arg(program)
-            : QStringLiteral("remove %1 from %2").arg(settingsnames::offSinceCrashKey(), settings);
-    return QStringLiteral("gestures are off, since %1 crashed in their code; to switch them on: %2")
+            : Text::tr("remove %1 from %2").arg(settingsnames::offSinceCrashKey(), settings);
+    return Text::tr("gestures are off, since %1 crashed in their code; to switch them on: %2")
         .arg(program, remedy);
 }
 

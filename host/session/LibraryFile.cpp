@@ -3,6 +3,8 @@
 
 #include "host/session/LibraryFile.h"
 
+#include "host/files/Text.h"
+
 #include <QFile>
 
 #include <cstring>
@@ -30,7 +32,7 @@ QString problemOfLibraryFile(const QString &path)
         return file.errorString();
     Header header;
     if (!read(file, 0, &header) || std::memcmp(header.e_ident, ELFMAG, SELFMAG) != 0)
-        return QStringLiteral("it is not a library");
+        return Text::tr("it is not a library");
     if (header.e_phentsize != sizeof(Segment))
         return {}; // for another kind of machine: the loader reports it
     const auto size = static_cast<quint64>(file.size());
@@ -41,7 +43,7 @@ QString problemOfLibraryFile(const QString &path)
             && (segment.p_type != PT_LOAD
                 || (segment.p_offset <= size && segment.p_filesz <= size - segment.p_offset));
         if (!isWhole)
-            return QStringLiteral("it is cut short");
+            return Text::tr("it is cut short");
     }
     return {};
 }

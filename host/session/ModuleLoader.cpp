@@ -3,6 +3,7 @@
 
 #include "host/session/ModuleLoader.h"
 
+#include "host/files/Text.h"
 #include "host/session/LibraryFile.h"
 
 #include <QFileInfo>
@@ -32,7 +33,7 @@ template <class Call> bool runGuarded(Call call, QString *what)
     } catch (const std::exception &exception) {
         *what = QString::fromLocal8Bit(exception.what());
     } catch (...) {
-        *what = QStringLiteral("an unknown exception");
+        *what = Text::tr("an unknown exception");
     }
     return false;
 }
@@ -46,27 +47,26 @@ bool ModuleLoader::load(const QString &file, QString *error)
 {
     m_file = file;
     if (!QFileInfo::exists(file)) {
-        *error = QStringLiteral("there is no module '%1'").arg(file);
+        *error = Text::tr("there is no module '%1'").arg(file);
         return false;
     }
     const QString problem = problemOfLibraryFile(file);
     if (!problem.isEmpty()) {
-        *error = QStringLiteral("the module '%1' cannot be loaded: %2").arg(file, problem);
+        *error = Text::tr("the module '%1' cannot be loaded: %2").arg(file, problem);
         return false;
     }
     QLibrary library(file);
     // A missing symbol must fail here, not when it is called.
     library.setLoadHints(QLibrary::PreventUnloadHint | QLibrary::ResolveAllSymbolsHint);
     if (!library.load()) {
-        *error =
-            QStringLiteral("the module cannot be loaded: %1").arg(library.errorString().simplified());
+        *error = Text::tr("the module cannot be loaded: %1").arg(library.errorString().simplified());
         return false;
     }
     const auto getVersion = reinterpret_cast<OdGetApiVersion>(library.resolve("odrxGetAPIVersion"));
     const auto create =
         reinterpret_cast<OdCreateModuleObject>(library.resolve("odrxCreateModuleObject"));
     if (!getVersion || !create) {
-        *error = QStringLiteral("'%1' is not a module: it lacks %2")
+        *error = Text::tr("'%1' is not a module: it lacks %2")
                      .arg(file, getVersion ? QStringLiteral("odrxCreateModuleObject")
                                            : QStringLiteral("odrxGetAPIVersion"));
         return false;
@@ -74,17 +74,17 @@ bool ModuleLoader::load(const QString &file, QString *error)
     QString what;
     int version[4] = {};
     if (!runGuarded([&] { getVersion(version[0], version[1], version[2], version[3]); }, &what)) {
-        *error = QStringLiteral("the module '%1' failed to name its version: %2").arg(file, what);
+        *error = Text::tr("the module '%1' failed to name its version: %2").arg(file, what);
         return false;
     }
     if (!std::equal(version, version + 4, kOdApiVersion)) {
-        *error = QStringLiteral("the module '%1' is for version %2 of the platform, this is %3")
+        *error = Text::tr("the module '%1' is for version %2 of the platform, this is %3")
                      .arg(file, versionText(version), versionText(kOdApiVersion));
         return false;
     }
     if (!runGuarded([&] { m_module = create(nullptr, kModuleName); }, &what) || !m_module) {
-        *error = QStringLiteral("the module '%1' could not be created: %2")
-                     .arg(file, what.isEmpty() ? QStringLiteral("it gave no object") : what);
+        *error = Text::tr("the module '%1' could not be created: %2")
+                     .arg(file, what.isEmpty() ? Text::tr("it gave no object") : what);
         return false;
     }
     return true;
@@ -95,7 +95,7 @@ bool ModuleLoader::initialize(QString *error)
     QString what;
     if (runGuarded([this] { m_module->initApp(); }, &what))
         return true;
-    *error = QStringLiteral("the module '%1' could not start: %2").arg(m_file, what);
+    *error = Text::tr("the module '%1' could not start: %2").arg(m_file, what);
     return false;
 }
 

@@ -54,8 +54,11 @@ TriggerChoice::TriggerChoice(const ProgramProfile &profile, CHxProfileStore *sto
     : m_program(profile.program)
     , m_store(store)
     , m_trigger{profile.triggerButton, profile.triggerModifiers}
-    , m_reason(profile.hasTrigger ? QStringLiteral("the profile says so")
-                                  : QStringLiteral("nothing says otherwise"))
+    , m_reason(!profile.triggerSetting.isEmpty()
+                   ? Phrase(QT_TRANSLATE_NOOP("host", "the program itself is set to %1"),
+                            {Phrase::verbatim(profile.triggerSetting)})
+               : profile.hasTrigger ? Phrase(QT_TRANSLATE_NOOP("host", "the profile says so"))
+                                    : Phrase(QT_TRANSLATE_NOOP("host", "nothing says otherwise")))
     , m_isSettled(profile.hasTrigger)
 {
     const QString text = storedText(m_store, settingsnames::hostSection(), settingsnames::triggerKey());
@@ -65,10 +68,11 @@ TriggerChoice::TriggerChoice(const ProgramProfile &profile, CHxProfileStore *sto
     if (parseTrigger(text, chosen.button, chosen.modifiers)
         && isUsableTrigger(chosen.button, chosen.modifiers)) {
         m_trigger = chosen;
-        m_reason = QStringLiteral("the settings say so");
+        m_reason = Phrase(QT_TRANSLATE_NOOP("host", "the settings say so"));
         m_isSettled = true;
     } else {
-        complain(QStringLiteral("the settings name no trigger: \"%1\"").arg(text));
+        complain(
+            translated(QT_TRANSLATE_NOOP("host", "the settings name no trigger: \"%1\"")).arg(text));
     }
 }
 
@@ -80,7 +84,8 @@ bool TriggerChoice::noteView(const QWidget &view)
     const bool isInSpace = isPaintedByOpenGL(view);
     if (isInSpace) {
         m_trigger = kInSpace;
-        m_reason = QStringLiteral("OpenGL paints the drawing, and such programs need the right button");
+        m_reason = Phrase(QT_TRANSLATE_NOOP(
+            "host", "OpenGL paints the drawing, and such programs need the right button"));
     }
     store(settingsnames::usualTriggerKey(), triggerText(m_trigger.button, m_trigger.modifiers));
     return isInSpace;

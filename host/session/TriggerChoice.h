@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "host/files/Phrase.h"
 #include "host/input/HitTest.h"
 
 #include <QString>
@@ -27,7 +28,7 @@ public:
 
     [[nodiscard]] const Trigger &trigger() const { return m_trigger; }
     // Why it is this one, for a person.
-    [[nodiscard]] const QString &reason() const { return m_reason; }
+    [[nodiscard]] const Phrase &reason() const { return m_reason; }
     // Call this for each new view. Only the first one counts, so that a program has one trigger.
     // Returns whether it has changed the trigger. Keeps what it finds in the settings, for those
     // who look at them without the program.
@@ -45,7 +46,7 @@ private:
     QString m_program;
     CHxProfileStore *m_store;
     Trigger m_trigger;
-    QString m_reason;
+    Phrase m_reason;
     bool m_isSettled = false;
 };
 

@@ -34,23 +34,23 @@ constexpr TaskOption kTaskOptions[] = {
          "launcher",
          "put a command into a direction. COMMAND is its identifier or its caption, or \"none\". "
          "DIRECTION is up, left, down or right; with eight gestures also up-left, down-left, down-right "
-         "or up-right. With --ring TASK after it: in the ring of that task")},
+         "or up-right")},
     {"--ring", CommandLine::Task::SetRing, 2, 2, false, "PROGRAM TASK own|shared",
      QT_TRANSLATE_NOOP("launcher", "give a task, such as FreeCAD's SketcherWorkbench, a ring of its "
                                    "own, or the shared one again")},
     {"--trigger", CommandLine::Task::SetTrigger, 1, 1, false, "PROGRAM TRIGGER",
      QT_TRANSLATE_NOOP("launcher", "choose what starts a gesture: right, middle, ctrl+right, ...; "
                                    "\"default\" is the usual trigger")},
-    {"--reset", CommandLine::Task::Reset, 0, 0, false, "PROGRAM",
+    {"--reset", CommandLine::Task::Reset, 0, 0, false, "PROGRAM [--ring TASK]",
      QT_TRANSLATE_NOOP("launcher", "bring the first bindings back; the trigger stays")},
     {"--switch-on", CommandLine::Task::SwitchOn, 0, 0, false, "PROGRAM",
      QT_TRANSLATE_NOOP("launcher", "switch gestures on again, after a crash or when they are switched "
                                    "off in the settings")},
-    {"--export", CommandLine::Task::Export, 0, 1, false, "PROGRAM [FILE]",
+    {"--export", CommandLine::Task::Export, 0, 1, false, "PROGRAM [FILE] [--ring TASK]",
      QT_TRANSLATE_NOOP("launcher", "write all bindings as JSON")},
-    {"--import", CommandLine::Task::Import, 1, 1, false, "PROGRAM FILE",
+    {"--import", CommandLine::Task::Import, 1, 1, false, "PROGRAM FILE [--ring TASK]",
      QT_TRANSLATE_NOOP("launcher", "take over such a file, all of it or nothing")},
-    {"--print", CommandLine::Task::Print, 1, 1, false, "PROGRAM FILE.pdf",
+    {"--print", CommandLine::Task::Print, 1, 1, false, "PROGRAM FILE.pdf [--ring TASK]",
      QT_TRANSLATE_NOOP("launcher", "draw the ring with its commands, to pin on the wall")},
     {"--doctor", CommandLine::Task::Examine, 0, 0, false, "PROGRAM",
      QT_TRANSLATE_NOOP("launcher", "say whether gestures can work in the program")},
@@ -67,6 +67,8 @@ constexpr TaskOption kTaskOptions[] = {
 constexpr char kJson[] = "--json";
 constexpr char kAlways[] = "--always";
 constexpr char kRing[] = "--ring";
+// At the end of the usage of an option that can be about one task's ring.
+constexpr char kRingUsage[] = " [--ring TASK]";
 constexpr char kHelp[] = "--help";
 constexpr char kVersion[] = "--version";
 
@@ -76,7 +78,8 @@ CommandLine parseTask(const TaskOption &option, QList<QByteArray> words)
     CommandLine line;
     if (option.mayBeJson)
         line.isJson = words.removeAll(kJson) > 0;
-    if (const auto at = words.indexOf(kRing); option.task == CommandLine::Task::Bind && at >= 0) {
+    const bool mayNameRing = QLatin1String(option.usage).endsWith(QLatin1String(kRingUsage));
+    if (const auto at = words.indexOf(kRing); mayNameRing && at >= 0) {
         line.ring = words.value(at + 1);
         if (!line.ring.isEmpty()) {
             words.removeAt(at);
@@ -167,7 +170,7 @@ QString helpText()
     lines += QString();
     for (const TaskOption &task : kTaskOptions)
         addRow(QLatin1String(task.name) + QLatin1Char(' ')
-                   + QString::fromLatin1(task.usage).remove(QLatin1String(" [--ring TASK]")),
+                   + QString::fromLatin1(task.usage).remove(QLatin1String(kRingUsage)),
                kUsage, Text::tr(task.help));
     addRow(QStringLiteral("--always PROGRAM [ARGUMENTS...]"), kUsage,
            Text::tr("start it without gestures if it cannot have them"));
@@ -177,6 +180,9 @@ QString helpText()
     addRow(QStringLiteral("-V, --version"), kGeneral, Text::tr("show the version"));
     addRow(QStringLiteral("--"), kGeneral,
            Text::tr("the next word is the program, even if it starts with \"-\""));
+    addParagraph(
+        Text::tr("With --ring TASK at its end, --bind, --export, --import, --print or --reset is "
+                 "about the ring of that task alone."));
     addParagraph(Text::tr("FILE may be \"-\" for standard output or standard input."));
     addParagraph(Text::tr("Exit status of a started program: its own. 127: there is no such program. "
                           "126: it cannot be run with gestures. 125: mouse-gestures is not set up or "

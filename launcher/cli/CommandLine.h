@@ -51,7 +51,9 @@ struct CommandLine
     QList<QByteArray> arguments;
     bool isJson = false; // the output is wanted as JSON
     bool isAlways = false; // with Task::Run: start the program without gestures if need be
-    QByteArray ring; // with Task::Bind: the task whose own ring is meant; empty for the shared ring
+    // The task whose own ring is meant; empty for the shared ring. With Task::Bind, Export, Import,
+    // Print and Reset.
+    QByteArray ring;
 };
 
 // Returns the text that `mouse-gestures --help` prints.

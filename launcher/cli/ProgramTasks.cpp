@@ -36,9 +36,16 @@ DesktopMenu desktopMenu(const Subject &subject)
 Outcome print(const Subject &subject, const QString &path, const ProgramSettings &settings)
 {
     const QString called = desktopMenu(subject).nameOf(subject.typed, subject.path);
+    QString title = called.isEmpty() ? subject.name : called;
+    if (const QString task = settings.tasks.task(); !task.isEmpty()) {
+        const QString complaint = settings.tasks.exported().complaint; // it has no ring of its own
+        if (!complaint.isEmpty())
+            return Outcome::failure(complaint);
+        const QString caption = settings.commands.captionOf(task);
+        title = Text::tr("%1, %2").arg(title, caption.isEmpty() ? task : caption);
+    }
     const SheetContent content =
-        sheetContent(called.isEmpty() ? subject.name : called, settings.tasks.bindings(),
-                     settings.commands, settings.usualTrigger);
+        sheetContent(title, settings.tasks.bindings(), settings.commands, settings.usualTrigger);
     return printSheet(content, QFile::decodeName(launcherFolder() + kSheet), path);
 }
 
@@ -110,6 +117,7 @@ int doSettingsTask(const CommandLine &line)
 
     ProgramSettings settings = ProgramSettings::of(subject);
     SettingsTasks &tasks = settings.tasks;
+    tasks.setTask(QString::fromLocal8Bit(line.ring));
     const QByteArray first = line.arguments.value(0);
     const QString path = QFile::decodeName(first);
     switch (line.task) {
@@ -119,7 +127,6 @@ int doSettingsTask(const CommandLine &line)
         return report(line.isJson ? settings.commands.listAsJson(subject.name)
                                   : settings.commands.list(subject.name));
     case Task::Bind:
-        tasks.setTask(QString::fromLocal8Bit(line.ring));
         return report(
             tasks.bind(QString::fromLocal8Bit(first), QString::fromLocal8Bit(line.arguments.value(1))));
     case Task::SetRing:
@@ -127,12 +134,11 @@ int doSettingsTask(const CommandLine &line)
     case Task::SetTrigger:
         return report(tasks.setTrigger(QString::fromLocal8Bit(first)));
     case Task::Reset:
-        return report(tasks.reset());
+        return report(tasks.reset(nullptr, settings.profile.taskBindings.value(tasks.task())));
     case Task::SwitchOn:
         return report(tasks.switchOn());
     case Task::Export:
-        return report(first.isEmpty() || first == kStandard ? tasks.showBindingsAsJson()
-                                                            : tasks.exportTo(path));
+        return report(first.isEmpty() || first == kStandard ? tasks.exported() : tasks.exportTo(path));
     case Task::Import:
         return report(first == kStandard ? importStandardInput(tasks) : tasks.importFrom(path));
     case Task::Print:

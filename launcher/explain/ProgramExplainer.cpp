@@ -4,6 +4,7 @@
 #include "launcher/explain/ProgramExplainer.h"
 
 #include "host/files/ExplanationChannel.h"
+#include "host/files/Phrase.h"
 #include "launcher/Text.h"
 
 #include <QElapsedTimer>
@@ -24,6 +25,8 @@
 
 namespace launcher {
 namespace {
+
+using gesturewidget::Phrase;
 
 constexpr int kSlice = 50; // milliseconds between two looks at the program
 // Bytes. More than any report has. After more, no further message is read.
@@ -210,8 +213,8 @@ void ProgramExplainer::take(const QByteArray &line, ProgramExplanation &explanat
         explanation.complaint = QString::fromLocal8Bit(std::strerror(value("cannotRun").toInt()));
     if (value("process").isDouble())
         m_teller = value("process").toInt();
-    if (value("problem").isString() && explanation.profile.isEmpty())
-        explanation.complaint = value("problem").toString().simplified();
+    if (!value("problem").isUndefined() && explanation.profile.isEmpty())
+        explanation.complaint = Phrase::fromJson(value("problem")).translated().simplified();
     if (!value("profile").isObject())
         return;
     m_hasNews = true;
@@ -220,7 +223,7 @@ void ProgramExplainer::take(const QByteArray &line, ProgramExplanation &explanat
     explanation.lines.clear();
     const QJsonArray lines = value("lines").toArray();
     for (const QJsonValue &text : lines)
-        explanation.lines.append(text.toString());
+        explanation.lines.append(Phrase::fromJson(text).translated().simplified());
 }
 
 // Returns whether the program has ended. Once a process has loaded the plug-in, that is the

@@ -112,6 +112,23 @@ private:
     bool m_isInside = false;
 };
 
+// The scheme and the commands, without the braces around them. Each line begins with `indent`.
+QByteArray ringToJson(const Bindings &ring, const QByteArray &indent)
+{
+    QByteArray text = indent + "\"scheme\": " + QByteArray::number(ring.scheme);
+    for (const int scheme : {4, 8}) {
+        text += ",\n" + indent + (scheme == 4 ? "\"four\": {" : "\"eight\": {");
+        const QStringList names = Bindings::directionNames(scheme);
+        for (int i = 0; i < scheme; ++i) {
+            const QStringList &commands = scheme == 4 ? ring.four : ring.eight;
+            text += (i == 0 ? "\n    " : ",\n    ") + indent + quoted(names.at(i)) + ": "
+                  + quoted(commands.at(i));
+        }
+        text += '\n' + indent + '}';
+    }
+    return text;
+}
+
 class Reader
 {
 public:
@@ -130,11 +147,12 @@ public:
         failAt(m_lines.of(name), QStringLiteral("\"%1\" %2").arg(name, reason));
     }
 
-    void allow(const QJsonObject &object, const QStringList &keys, const QString &prefix)
+    void allow(const QJsonObject &object, const QStringList &keys, const QString &prefix,
+               const QString &optional = {})
     {
         const QStringList present = object.keys();
         for (const QString &key : present) {
-            if (!keys.contains(key))
+            if (!keys.contains(key) && (optional.isEmpty() || key != optional))
                 fail(prefix + key, Text::tr("is not a key of such a file"));
         }
         for (const QString &key : keys) {
@@ -146,22 +164,67 @@ public:
     QJsonValue value(const QString &key) const { return m_object.value(key); }
     const QJsonObject &object() const { return m_object; }
 
-    QStringList commands(const QString &scheme, const QStringList &directions)
+    // Reads the scheme and the commands of an object that is called `prefix`, or of the whole text.
+    void readRing(const QJsonObject &object, const QString &prefix, Bindings &ring)
     {
-        if (!value(scheme).isObject()) {
-            fail(scheme, Text::tr("is not an object"));
+        const QString schemeKey = QStringLiteral("scheme");
+        ring.scheme = object.value(schemeKey).toInt();
+        if (ring.scheme != 4 && ring.scheme != 8)
+            fail(prefix + schemeKey, Text::tr("is neither 4 nor 8"));
+        ring.four = commands(object.value(QLatin1String("four")), prefix + QStringLiteral("four"),
+                             Bindings::directionNames(4));
+        ring.eight = commands(object.value(QLatin1String("eight")), prefix + QStringLiteral("eight"),
+                              Bindings::directionNames(8));
+    }
+
+    QMap<QString, Bindings> readRings()
+    {
+        QMap<QString, Bindings> rings;
+        const QString key = QStringLiteral("rings");
+        if (!value(key).isUndefined() && !value(key).isObject())
+            fail(key, Text::tr("is not an object"));
+        const QJsonObject object = value(key).toObject();
+        for (auto it = object.begin(); it != object.end(); ++it) {
+            const QString name = key + QLatin1Char('.') + it.key();
+            if (it.key().isEmpty())
+                fail(name, Text::tr("names no task"));
+            else if (holdsControlCharacter(it.key()))
+                fail(key, Text::tr("holds a control character"));
+            if (!it.value().isObject()) {
+                fail(name, Text::tr("is not an object"));
+                continue;
+            }
+            const QString prefix = name + QLatin1Char('.');
+            const QJsonObject ring = it.value().toObject();
+            allow(ring, {QStringLiteral("scheme"), QStringLiteral("four"), QStringLiteral("eight")},
+                  prefix);
+            readRing(ring, prefix, rings[it.key()]);
+        }
+        return rings;
+    }
+
+private:
+    static bool holdsControlCharacter(const QString &text)
+    {
+        return std::any_of(text.begin(), text.end(),
+                           [](QChar letter) { return letter.category() == QChar::Other_Control; });
+    }
+
+    QStringList commands(const QJsonValue &value, const QString &name, const QStringList &directions)
+    {
+        if (!value.isObject()) {
+            fail(name, Text::tr("is not an object"));
             return {};
         }
-        const QJsonObject object = value(scheme).toObject();
-        const QString prefix = scheme + QLatin1Char('.');
+        const QJsonObject object = value.toObject();
+        const QString prefix = name + QLatin1Char('.');
         allow(object, directions, prefix);
         QStringList commands;
         for (const QString &direction : directions) {
             const QString command = object.value(direction).toString();
             if (!object.value(direction).isString())
                 fail(prefix + direction, Text::tr("is not a string"));
-            else if (std::any_of(command.begin(), command.end(),
-                                 [](QChar letter) { return letter.category() == QChar::Other_Control; }))
+            else if (holdsControlCharacter(command))
                 fail(prefix + direction, Text::tr("holds a control character"));
             else if (!command.isEmpty() && commands.contains(command))
                 fail(prefix + direction,
@@ -171,7 +234,6 @@ public:
         return commands;
     }
 
-private:
     void failAt(int line, const QString &reason)
     {
         if (problem.isEmpty())
@@ -184,29 +246,28 @@ private:
 
 } // namespace
 
-QByteArray bindingsToJson(const Bindings &bindings, const QString &program)
+QByteArray bindingsToJson(const Bindings &bindings, const QString &program,
+                          const QMap<QString, Bindings> &rings)
 {
     QByteArray text = "{\n";
     text += "    \"version\": " + QByteArray::number(kVersion) + ",\n";
     text += "    \"program\": " + quoted(program) + ",\n";
     text += QByteArray("    \"enabled\": ") + (bindings.enabled ? "true" : "false") + ",\n";
     text += "    \"trigger\": " + quoted(bindings.trigger) + ",\n";
-    text += "    \"scheme\": " + QByteArray::number(bindings.scheme);
-    for (const int scheme : {4, 8}) {
-        text += scheme == 4 ? ",\n    \"four\": {" : ",\n    \"eight\": {";
-        const QStringList names = Bindings::directionNames(scheme);
-        for (int i = 0; i < scheme; ++i) {
-            const QStringList &commands = scheme == 4 ? bindings.four : bindings.eight;
-            text += (i == 0 ? "\n        " : ",\n        ") + quoted(names.at(i)) + ": "
-                  + quoted(commands.at(i));
-        }
-        text += "\n    }";
+    text += ringToJson(bindings, "    ");
+    const char *separator = ",\n    \"rings\": {\n";
+    for (auto it = rings.begin(); it != rings.end(); ++it) {
+        text += separator + QByteArray("        ") + quoted(it.key()) + ": {\n";
+        text += ringToJson(it.value(), "            ") + "\n        }";
+        separator = ",\n";
     }
+    if (!rings.isEmpty())
+        text += "\n    }";
     return text + "\n}\n";
 }
 
 bool bindingsFromJson(const QByteArray &text, const QString &program, Bindings &bindings,
-                      QString &problem)
+                      QString &problem, QMap<QString, Bindings> *rings)
 {
     if (const int line = lineTooDeep(text)) {
         problem = Text::tr("line %1: this is nested too deeply for bindings").arg(line);
@@ -228,7 +289,7 @@ bool bindingsFromJson(const QByteArray &text, const QString &program, Bindings &
     reader.allow(reader.object(),
                  {name("version"), name("program"), name("enabled"), name("trigger"), name("scheme"),
                   name("four"), name("eight")},
-                 {});
+                 {}, name("rings"));
     if (reader.value(name("version")) != QJsonValue(kVersion))
         reader.fail(name("version"), Text::tr("is not %1").arg(kVersion));
     if (reader.value(name("program")) != QJsonValue(program))
@@ -243,20 +304,17 @@ bool bindingsFromJson(const QByteArray &text, const QString &program, Bindings &
             && !(gesturewidget::parseTrigger(trigger, button, keys)
                  && gesturewidget::isUsableTrigger(button, keys))))
         reader.fail(name("trigger"), Text::tr("names no button"));
-    const int scheme = reader.value(name("scheme")).toInt();
-    if (scheme != 4 && scheme != 8)
-        reader.fail(name("scheme"), Text::tr("is neither 4 nor 8"));
-
     Bindings found;
     found.enabled = reader.value(name("enabled")).toBool();
-    found.scheme = scheme;
     found.trigger = trigger.isEmpty() ? QString() : gesturewidget::triggerText(button, keys);
-    found.four = reader.commands(name("four"), Bindings::directionNames(4));
-    found.eight = reader.commands(name("eight"), Bindings::directionNames(8));
+    reader.readRing(reader.object(), {}, found);
+    const QMap<QString, Bindings> foundRings = reader.readRings();
     problem = reader.problem.simplified();
     if (!problem.isEmpty())
         return false;
     bindings = found;
+    if (rings)
+        *rings = foundRings;
     return true;
 }
 

@@ -63,17 +63,41 @@ Outcome outcomeOf(bool isDone, const SettingsFile &file)
     return isDone ? Outcome() : Outcome::failure(file.problem());
 }
 
-// The settings for imported bindings. Their commands may be new to this computer.
-SettingsFile::Values imported(const Bindings &bindings)
+// The keys and values of a ring, without the section.
+QHash<QString, QString> keysOf(const Bindings &ring)
 {
-    SettingsFile::Values values = bindings.toSettings();
-    QStringList identifiers = bindings.four + bindings.eight;
-    identifiers.removeAll(QString());
-    identifiers.removeDuplicates();
-    values.insert(SettingsFile::nameOf(gesturewidget::settingsnames::hostSection(),
-                                       gesturewidget::settingsnames::importedKey()),
-                  identifiers.join(QLatin1Char('\n')));
-    return values;
+    QHash<QString, QString> keys;
+    const SettingsFile::Values values = ring.toSettings();
+    const QString prefix = gesturewidget::settingsnames::moduleSection() + QLatin1Char('/');
+    for (auto it = values.cbegin(); it != values.cend(); ++it) {
+        const QString key = it.key().startsWith(prefix) ? it.key().mid(prefix.size()) : QString();
+        if (ringsettings::isRingKey(key))
+            keys.insert(key, it.value());
+    }
+    return keys;
+}
+
+// The settings for the ring of a task.
+SettingsFile::Values ringValues(const QString &task, const Bindings &ring)
+{
+    return ringsettings::ownRing({}, task, keysOf(ring), {});
+}
+
+QString importedName()
+{
+    return SettingsFile::nameOf(gesturewidget::settingsnames::hostSection(),
+                                gesturewidget::settingsnames::importedKey());
+}
+
+// The commands of imported rings and others that are `known`, as the settings keep them. They may be
+// new to this computer.
+QString identifiersOf(const QList<Bindings> &rings, QStringList known)
+{
+    for (const Bindings &ring : rings)
+        known += ring.four + ring.eight;
+    known.removeAll(QString());
+    known.removeDuplicates();
+    return known.join(QLatin1Char('\n'));
 }
 
 void append(QByteArray &text, const QString &line)
@@ -139,8 +163,19 @@ SettingsTasks::SettingsTasks(const QString &program, const QString &file, const 
 
 Bindings SettingsTasks::bindings() const
 {
-    return Bindings::fromSettings(
-        ringsettings::seenIn(m_site.under(SettingsFile(m_file).read()), m_task));
+    return ringOf(m_task);
+}
+
+Bindings SettingsTasks::ringOf(const QString &task) const
+{
+    return Bindings::fromSettings(ringsettings::seenIn(m_site.under(SettingsFile(m_file).read()), task));
+}
+
+QString SettingsTasks::obstacle(const SettingsFile::Values &all) const
+{
+    return m_task.isEmpty() || ringsettings::hasOwnRing(all, m_task)
+             ? QString()
+             : Text::tr("%1 has no ring of its own, see mouse-gestures --ring").arg(m_task);
 }
 
 QStringList SettingsTasks::tasks() const
@@ -155,10 +190,9 @@ Outcome SettingsTasks::edit(const std::function<QString(Bindings &)> &edit, Sett
     SettingsChange change;
     const bool isDone = file.change([&](const SettingsFile::Values &own) -> SettingsFile::Values {
         const SettingsFile::Values all = m_site.under(own);
-        if (!m_task.isEmpty() && !ringsettings::hasOwnRing(all, m_task)) {
-            complaint = Text::tr("%1 has no ring of its own, see mouse-gestures --ring").arg(m_task);
+        complaint = obstacle(all);
+        if (!complaint.isEmpty())
             return {};
-        }
         const SettingsFile::Values now = ringsettings::seenIn(all, m_task);
         const Bindings before = Bindings::fromSettings(now);
         Bindings after = before;
@@ -178,31 +212,42 @@ Outcome SettingsTasks::edit(const std::function<QString(Bindings &)> &edit, Sett
 
 Outcome SettingsTasks::takeBack(const SettingsChange &change)
 {
-    return replace(change.after, change.before, change.task);
+    return replace(change.after, change.before, change.task, change.ringsAfter, change.ringsBefore);
 }
 
 Outcome SettingsTasks::makeAgain(const SettingsChange &change)
 {
-    return replace(change.before, change.after, change.task);
+    return replace(change.before, change.after, change.task, change.ringsBefore, change.ringsAfter);
 }
 
 Outcome SettingsTasks::replace(const SettingsFile::Values &from, const SettingsFile::Values &to,
-                               const QString &task)
+                               const QString &task, const SettingsFile::Values &ringsFrom,
+                               const SettingsFile::Values &ringsTo)
 {
-    const QString present = std::exchange(m_task, task);
-    Outcome outcome = edit([&](Bindings &bindings) -> QString {
-        SettingsFile::Values values = bindings.toSettings();
-        for (auto it = from.cbegin(); it != from.cend(); ++it) {
-            if (values.value(it.key()) != it.value())
-                return Text::tr("this was changed elsewhere meanwhile, so it stays");
+    SettingsFile file(m_file);
+    QString complaint;
+    const bool isDone = file.change([&](const SettingsFile::Values &own) -> SettingsFile::Values {
+        const SettingsFile::Values now = ringsettings::seenIn(m_site.under(own), task);
+        SettingsFile::Values values = Bindings::fromSettings(now).toSettings();
+        bool isSame = task.isEmpty() || ringsettings::hasOwnRing(m_site.under(own), task);
+        for (auto it = from.cbegin(); it != from.cend(); ++it)
+            isSame = isSame && values.value(it.key()) == it.value();
+        for (auto it = ringsFrom.cbegin(); it != ringsFrom.cend(); ++it)
+            isSame = isSame && own.value(it.key()) == it.value();
+        if (!isSame) {
+            complaint = Text::tr("this was changed elsewhere meanwhile, so it stays");
+            return {};
         }
         for (auto it = to.cbegin(); it != to.cend(); ++it)
             values.insert(it.key(), it.value());
-        bindings = Bindings::fromSettings(values);
-        return {};
+        SettingsFile::Values changes = Bindings::fromSettings(values).changesFrom(now);
+        if (!task.isEmpty())
+            changes = ringsettings::movedTo(changes, task);
+        for (auto it = ringsTo.cbegin(); it != ringsTo.cend(); ++it)
+            changes.insert(it.key(), it.value());
+        return changes;
     });
-    m_task = present;
-    return outcome;
+    return complaint.isEmpty() ? outcomeOf(isDone, file) : Outcome::failure(complaint);
 }
 
 Outcome SettingsTasks::showBindings() const
@@ -223,6 +268,21 @@ Outcome SettingsTasks::showBindings() const
         appendRing(outcome.output, Bindings::fromSettings(ringsettings::seenIn(values, task)),
                    m_commands);
     }
+    return outcome;
+}
+
+Outcome SettingsTasks::exported() const
+{
+    const SettingsFile::Values all = m_site.under(SettingsFile(m_file).read());
+    if (const QString complaint = obstacle(all); !complaint.isEmpty())
+        return Outcome::failure(complaint);
+    QMap<QString, Bindings> rings;
+    const QStringList tasks = m_task.isEmpty() ? ringsettings::ownRings(all) : QStringList();
+    for (const QString &task : tasks)
+        rings.insert(task, Bindings::fromSettings(ringsettings::seenIn(all, task)));
+    Outcome outcome;
+    outcome.output =
+        bindingsToJson(Bindings::fromSettings(ringsettings::seenIn(all, m_task)), m_program, rings);
     return outcome;
 }
 
@@ -267,15 +327,34 @@ Outcome SettingsTasks::bind(const QString &direction, const QString &command)
 Outcome SettingsTasks::setRing(const QString &task, bool isOwn, const QHash<QString, QString> &first)
 {
     SettingsFile file(m_file);
-    const bool isDone = file.change([&](const SettingsFile::Values &now) {
+    const bool isDone = file.change([&](const SettingsFile::Values &own) {
+        const SettingsFile::Values now = m_site.under(own);
         return isOwn ? ringsettings::ownRing(now, task, first, Bindings::fromSettings(now).toSettings())
                      : ringsettings::sharedRing(task);
     });
     return outcomeOf(isDone, file);
 }
 
-Outcome SettingsTasks::reset(SettingsChange *made)
+Outcome SettingsTasks::resetRing(const QHash<QString, QString> &first, SettingsChange *made)
 {
+    return edit(
+        [&](Bindings &ring) -> QString {
+            const SettingsFile::Values shared = ringOf({}).toSettings();
+            // The section of a task is used to see what a new ring would have.
+            const SettingsFile::Values fresh = ringsettings::ownRing({}, m_task, first, shared);
+            const Bindings wanted = Bindings::fromSettings(ringsettings::seenIn(fresh, m_task));
+            ring.scheme = wanted.scheme;
+            ring.four = wanted.four;
+            ring.eight = wanted.eight;
+            return {};
+        },
+        made);
+}
+
+Outcome SettingsTasks::reset(SettingsChange *made, const QHash<QString, QString> &first)
+{
+    if (!m_task.isEmpty())
+        return resetRing(first, made);
     SettingsFile file(m_file);
     QString trigger;
     SettingsChange change;
@@ -320,7 +399,10 @@ Outcome SettingsTasks::switchOn(SettingsChange *made)
 
 Outcome SettingsTasks::exportTo(const QString &path) const
 {
-    if (!FileWriter(path, FileWriter::Readers::Usual).write(showBindingsAsJson().output))
+    Outcome outcome = exported();
+    if (!outcome.isDone())
+        return outcome;
+    if (!FileWriter(path, FileWriter::Readers::Usual).write(outcome.output))
         return Outcome::failure(Text::tr("%1 cannot be written").arg(path));
     return {};
 }
@@ -332,20 +414,22 @@ Outcome SettingsTasks::importFrom(const QString &path, SettingsChange *made)
     return reading.isDone() ? importText(text, path, made) : reading;
 }
 
-Outcome SettingsTasks::readImport(const QString &path, Bindings &bindings) const
+Outcome SettingsTasks::readImport(const QString &path, Bindings &bindings,
+                                  QMap<QString, Bindings> *rings) const
 {
     QByteArray text;
     const Outcome reading = readText(path, text);
-    return reading.isDone() ? parseImport(text, path, bindings) : reading;
+    QMap<QString, Bindings> found;
+    return reading.isDone() ? parseImport(text, path, bindings, rings ? *rings : found) : reading;
 }
 
-Outcome SettingsTasks::parseImport(const QByteArray &text, const QString &source,
-                                   Bindings &bindings) const
+Outcome SettingsTasks::parseImport(const QByteArray &text, const QString &source, Bindings &bindings,
+                                   QMap<QString, Bindings> &rings) const
 {
     if (text.size() > kMaximalImport)
         return Outcome::failure(Text::tr("%1: this is too long for bindings").arg(source));
     QString problem;
-    if (!bindingsFromJson(text, m_program, bindings, problem))
+    if (!bindingsFromJson(text, m_program, bindings, problem, &rings))
         return Outcome::failure(Text::tr("%1, %2").arg(source, problem));
     return {};
 }
@@ -353,18 +437,50 @@ Outcome SettingsTasks::parseImport(const QByteArray &text, const QString &source
 Outcome SettingsTasks::importText(const QByteArray &text, const QString &source, SettingsChange *made)
 {
     Bindings bindings;
-    Outcome parsing = parseImport(text, source, bindings);
+    QMap<QString, Bindings> rings;
+    Outcome parsing = parseImport(text, source, bindings, rings);
     if (!parsing.isDone())
         return parsing;
-
     SettingsFile file(m_file);
     SettingsChange change;
+    change.task = m_task;
+    QString complaint;
     const bool isDone = file.change(
-        [&](const SettingsFile::Values &now) {
-            change = changeBetween(Bindings::fromSettings(m_site.under(now)), bindings);
-            return imported(bindings);
+        [&](const SettingsFile::Values &own) -> SettingsFile::Values {
+            const SettingsFile::Values all = m_site.under(own);
+            complaint = obstacle(all);
+            if (!complaint.isEmpty())
+                return {};
+            const Bindings before = Bindings::fromSettings(ringsettings::seenIn(all, m_task));
+            SettingsFile::Values values = bindings.toSettings();
+            QList<Bindings> imported{bindings};
+            QStringList known;
+            if (!m_task.isEmpty()) {
+                values = ringValues(m_task, bindings);
+                bindings.enabled = before.enabled; // of the program, not of the ring
+                bindings.trigger = before.trigger;
+                known = own.value(importedName()).split(QLatin1Char('\n'));
+            }
+            SettingsChange made = changeBetween(before, bindings);
+            change.before = made.before;
+            change.after = made.after;
+            for (auto it = rings.cbegin(); it != rings.cend() && m_task.isEmpty(); ++it) {
+                imported.append(it.value());
+                const SettingsFile::Values ring = ringValues(it.key(), it.value());
+                for (auto value = ring.cbegin(); value != ring.cend(); ++value) {
+                    values.insert(value.key(), value.value());
+                    if (own.value(value.key()) == value.value() && own.contains(value.key()))
+                        continue;
+                    change.ringsBefore.insert(value.key(), own.value(value.key()));
+                    change.ringsAfter.insert(value.key(), value.value());
+                }
+            }
+            values.insert(importedName(), identifiersOf(imported, known));
+            return values;
         },
         m_file + QLatin1String(".before-import"));
+    if (!complaint.isEmpty())
+        return Outcome::failure(complaint);
     report(isDone ? change : SettingsChange(), made);
     return isDone ? Outcome()
                   : Outcome::failure(Text::tr("%1, so nothing is imported").arg(file.problem()));

@@ -9,6 +9,7 @@
 #include "launcher/settings/KnownCommands.h"
 
 #include <QHash>
+#include <QMap>
 #include <QString>
 
 #include <functional>
@@ -18,12 +19,16 @@ namespace launcher {
 // A change of the settings by one task, kept so that it can be taken back.
 struct SettingsChange
 {
-    [[nodiscard]] bool isEmpty() const { return after.isEmpty(); }
+    [[nodiscard]] bool isEmpty() const { return after.isEmpty() && ringsAfter.isEmpty(); }
 
     // The values that changed. A value that was not stored has its initial value in `before`.
     gesturewidget::SettingsFile::Values before;
     gesturewidget::SettingsFile::Values after;
     QString task; // whose ring it was, see SettingsTasks::setTask()
+    // Changed values of the rings of tasks, as the file has them; null for none. An import changes
+    // several rings at once.
+    gesturewidget::SettingsFile::Values ringsBefore;
+    gesturewidget::SettingsFile::Values ringsAfter;
 };
 
 // Shows and changes what is kept for one program, in the file where the host keeps it. A running
@@ -38,8 +43,8 @@ public:
 
     // The tasks that have rings of their own, see host/files/RingSettings.h.
     [[nodiscard]] QStringList tasks() const;
-    // From now on, bindings() and edit() are about the ring of a task; empty for the shared ring.
-    // All other functions are always about the shared one.
+    // From now on, bindings(), edit(), reset(), exports and imports are about the ring of a task alone;
+    // empty for the shared ring. All other functions are always about the shared one.
     void setTask(const QString &task) { m_task = task; }
     [[nodiscard]] const QString &task() const { return m_task; }
 
@@ -66,20 +71,30 @@ public:
     // and comes back later. `first` are the profile's first bindings for the task, by key.
     [[nodiscard]] Outcome setRing(const QString &task, bool isOwn, const QHash<QString, QString> &first);
     // Brings back all fourteen initial values, which are the administrator's where there are some.
-    // The trigger stays; the output says so.
-    [[nodiscard]] Outcome reset(SettingsChange *made = nullptr);
+    // The trigger stays; the output says so. With a task, brings back the first bindings of its ring:
+    // `first`, see setRing(), and the shared ring's where those are missing.
+    [[nodiscard]] Outcome reset(SettingsChange *made = nullptr,
+                                const QHash<QString, QString> &first = {});
     // Switches gestures on: in the settings, and after the program has crashed in their code.
     [[nodiscard]] Outcome switchOn(SettingsChange *made = nullptr);
-    // Writes all bindings as JSON to a file, in one step.
+    // All bindings as JSON, with the rings of tasks; with a task, its ring alone, in the form of a
+    // shared one.
+    [[nodiscard]] Outcome exported() const;
+    // Writes that to a file, in one step.
     [[nodiscard]] Outcome exportTo(const QString &path) const;
-    // Imports a file that exportTo() wrote. Keeps the old settings beside the new ones as
-    // "<file>.before-import".
+    // Imports a file that exportTo() wrote. The rings of tasks that the file does not name stay. With a
+    // task, only its ring changes: it becomes the file's shared one. Keeps the old settings beside the
+    // new ones as "<file>.before-import".
     [[nodiscard]] Outcome importFrom(const QString &path, SettingsChange *made = nullptr);
     // The same with a text that came from elsewhere; `source` names it in complaints.
     [[nodiscard]] Outcome importText(const QByteArray &text, const QString &source,
                                      SettingsChange *made = nullptr);
-    // Reads the bindings that importFrom() would import. Changes nothing.
-    [[nodiscard]] Outcome readImport(const QString &path, Bindings &bindings) const;
+    // Reads the bindings that importFrom() would import, and the rings of tasks by their names, unless
+    // `rings` is null. Changes nothing.
+    [[nodiscard]] Outcome readImport(const QString &path, Bindings &bindings,
+                                     QMap<QString, Bindings> *rings = nullptr) const;
+    // The ring of a task; the shared one if it has none of its own.
+    [[nodiscard]] Bindings ringOf(const QString &task) const;
     // Sets the trigger, see host/files/TriggerText.h; "default" is the profile's trigger. Refuses
     // the left button alone, with which people draw.
     [[nodiscard]] Outcome setTrigger(const QString &text, SettingsChange *made = nullptr);
@@ -88,11 +103,17 @@ public:
     static constexpr int kMaximalImport = 128 * 1024;
 
 private:
-    [[nodiscard]] Outcome parseImport(const QByteArray &text, const QString &source,
-                                      Bindings &bindings) const;
-    // Writes `to` where the file means `from`.
+    [[nodiscard]] Outcome parseImport(const QByteArray &text, const QString &source, Bindings &bindings,
+                                      QMap<QString, Bindings> &rings) const;
+    // Returns why the task's ring cannot be changed; empty without a task.
+    [[nodiscard]] QString obstacle(const gesturewidget::SettingsFile::Values &all) const;
+    [[nodiscard]] Outcome resetRing(const QHash<QString, QString> &first, SettingsChange *made);
+    // Writes `to` where the file means `from`. In the rings of tasks, writes `ringsTo` where the file
+    // has `ringsFrom`.
     [[nodiscard]] Outcome replace(const gesturewidget::SettingsFile::Values &from,
-                                  const gesturewidget::SettingsFile::Values &to, const QString &task);
+                                  const gesturewidget::SettingsFile::Values &to, const QString &task,
+                                  const gesturewidget::SettingsFile::Values &ringsFrom,
+                                  const gesturewidget::SettingsFile::Values &ringsTo);
 
     QString m_program;
     QString m_file;

@@ -58,12 +58,13 @@ void Exchange::importFile(BindingsEditor &editor, const QString &path)
 {
     editor.setRing({}); // the preview compares with the shared ring
     launcher::Bindings wanted;
-    const launcher::Outcome outcome = editor.tasks().readImport(path, wanted);
+    QMap<QString, launcher::Bindings> rings;
+    const launcher::Outcome outcome = editor.tasks().readImport(path, wanted, &rings);
     if (!outcome.isDone()) {
         Q_EMIT failed(outcome.complaint);
         return;
     }
-    ImportPreview preview(editor, wanted, QFileInfo(path).fileName(), m_window);
+    ImportPreview preview(editor, wanted, rings, QFileInfo(path).fileName(), m_window);
     if (preview.exec() == QDialog::Accepted && editor.importFrom(path))
         Q_EMIT done(tr("Imported from %1").arg(QDir::toNativeSeparators(path)));
 }

@@ -17,7 +17,8 @@
 namespace settings {
 
 ImportPreview::ImportPreview(const BindingsEditor &editor, const launcher::Bindings &wanted,
-                             const QString &source, QWidget *parent)
+                             const QMap<QString, launcher::Bindings> &rings, const QString &source,
+                             QWidget *parent)
     : QDialog(parent)
     , m_list(new QTreeWidget(this))
 {
@@ -30,6 +31,7 @@ ImportPreview::ImportPreview(const BindingsEditor &editor, const launcher::Bindi
     m_list->setSelectionMode(QAbstractItemView::NoSelection);
     m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     compare(editor, wanted);
+    compareRings(editor, rings);
 
     auto *label = new QLabel(this);
     label->setWordWrap(true);
@@ -90,6 +92,21 @@ void ImportPreview::compare(const BindingsEditor &editor, const launcher::Bindin
             addLine(tr("%1 (of %2 directions)").arg(gesturewidget::capitalized(direction)).arg(scheme),
                     command(before.at(i)), command(after.at(i)));
         }
+    }
+}
+
+void ImportPreview::compareRings(const BindingsEditor &editor,
+                                 const QMap<QString, launcher::Bindings> &rings)
+{
+    const QStringList present = editor.tasks().tasks();
+    for (auto it = rings.cbegin(); it != rings.cend(); ++it) {
+        const launcher::Bindings now = editor.tasks().ringOf(it.key());
+        const bool isOwn = present.contains(it.key());
+        const bool isSame = isOwn && now.scheme == it.value().scheme && now.four == it.value().four
+                         && now.eight == it.value().eight;
+        if (!isSame)
+            addLine(tr("Ring of %1").arg(it.key()), isOwn ? tr("its own") : tr("shared"),
+                    tr("the file's"));
     }
 }
 

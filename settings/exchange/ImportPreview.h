@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QMap>
 
 QT_BEGIN_NAMESPACE
 class QTreeWidget;
@@ -23,8 +24,9 @@ class ImportPreview : public QDialog
     Q_OBJECT
 
 public:
-    // `source` is the name of the file.
-    ImportPreview(const BindingsEditor &editor, const launcher::Bindings &wanted, const QString &source,
+    // `source` is the name of the file, `rings` are those of tasks, by the task's name.
+    ImportPreview(const BindingsEditor &editor, const launcher::Bindings &wanted,
+                  const QMap<QString, launcher::Bindings> &rings, const QString &source,
                   QWidget *parent);
 
     // The number of lines that the preview shows.
@@ -32,6 +34,7 @@ public:
 
 private:
     void compare(const BindingsEditor &editor, const launcher::Bindings &wanted);
+    void compareRings(const BindingsEditor &editor, const QMap<QString, launcher::Bindings> &rings);
     void addLine(const QString &what, const QString &before, const QString &after);
 
     QTreeWidget *m_list;

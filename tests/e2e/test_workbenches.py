@@ -13,12 +13,14 @@ import dataclasses
 import json
 import os
 import subprocess
+import time
 
 from harness.programs import EIGHT, PROGRAMS
 from harness.programtest import ProgramTest, option_parser, run_tests
 
 PROGRAM = PROGRAMS["freecad"]
 ENTRY = "Mouse Gestures..."
+PAGE = "TechDrawGui::QGVPage"
 FIRST_SWITCH_SECONDS = 60  # the first switch loads the workbench
 
 # For each workbench: the key that follows W, and a menu that only this workbench has.
@@ -38,6 +40,27 @@ def sketch():
 
 
 sketching = QtWidgets.QShortcut(QtGui.QKeySequence("F7"), window, sketch)
+"""
+
+# F7 shows a page in front of the drawing in space.
+PAGE_MACRO = """
+
+page = document.addObject("TechDraw::DrawPage", "Page")
+template = document.addObject("TechDraw::DrawSVGTemplate", "Template")
+template.Template = FreeCAD.getResourceDir() + "Mod/TechDraw/Templates/A4_LandscapeTD.svg"
+page.Template = template
+document.recompute()
+
+
+def turn_to_page():
+    page.ViewObject.doubleClicked()
+    area = window.findChild(QtWidgets.QMdiArea)
+    for child in area.subWindowList():
+        if child.windowTitle().startswith("Page"):
+            area.setActiveSubWindow(child)
+
+
+turning = QtWidgets.QShortcut(QtGui.QKeySequence("F7"), window, turn_to_page)
 """
 
 
@@ -122,6 +145,62 @@ class WorkbenchesTest(ProgramTest):
             after = self.bindings(session)
             self.assertEqual({key: after[key] for key in given if key != "ActiveScheme"},
                              {key: value for key, value in given.items() if key != "ActiveScheme"})
+
+    def test_the_trigger_of_a_navigation_style(self):
+        """In this one the program turns and moves things with all other right drags."""
+        text = PROGRAM.configuration["FreeCAD/user.cfg"]
+        style = '<FCText Name="NavigationStyle">Gui::GestureNavigationStyle</FCText>'
+        program = dataclasses.replace(PROGRAM, configuration={"FreeCAD/user.cfg": text.replace(
+            '<FCParamGroup Name="Mod">',
+            f'<FCParamGroup Name="View">{style}</FCParamGroup><FCParamGroup Name="Mod">')})
+        keys = ("ctrl", "shift")
+        with self.session(program=program) as session:
+            mark = session.spy.mark()
+            session.move_to_middle()
+            for key in keys:
+                session.driver.ask("hold", key)
+            session.driver.ask("press", 3)
+            session.drag("up")
+            session.driver.ask("release", 3)
+            for key in keys:
+                session.driver.ask("let-go", key)
+            session.expect(mark, lambda line: line[:2] == ["triggered", PROGRAM.eight["up"]],
+                           "the command of a gesture with its keys")
+            session.ring_is_gone()
+            self.end(session)
+
+    def test_a_technical_page(self):
+        """A page is a drawing too."""
+        ending, macro = PROGRAM.macro
+        program = dataclasses.replace(PROGRAM, macro=(ending, macro + PAGE_MACRO),
+                                      view=f"{PROGRAM.view},{PAGE}")
+        given = {"ActiveScheme": "8", "81": "ID_ZOOM_BOUNDS", "85": "ID_SAVE"}
+        with self.session(program=program, settings=given) as session:
+            mark = session.spy.mark()
+            session.focus("drawing.dxf")
+            session.driver.ask("key", "F7")
+            session.expect(mark, lambda line: line[:2] == ["view", PAGE], "the page")
+            session.driver.ask("remember", 0, 0, 1600, 1000)
+            session.driver.succeeds("wait-steady", 10000)
+            session.locate_view()
+            session.gesture_runs("up", PROGRAM.eight["up"])
+            session.gesture_runs("down", PROGRAM.eight["down"])
+            self.end(session)
+
+    def test_a_mistyped_command(self):
+        """It leaves its direction once the workbench is on whose commands are named so."""
+        given = {"ActiveScheme": "8", "81": "ID_ZOOM_BOUNDS", "82": "Draft_Circel", "83": "ID_OPEN",
+                 "84": "Sketcher_CreateArc", "85": "ID_SAVE", "86": "Sketcher_CreateArk",
+                 "87": "ID_LINE", "88": "Draft_Move"}
+        kept = {key: value for key, value in given.items() if key not in ("ActiveScheme", "82")}
+        with self.session(settings=given) as session:
+            deadline = time.monotonic() + FIRST_SWITCH_SECONDS
+            while self.bindings(session).get("82") != "" and time.monotonic() < deadline:
+                session.gesture_runs("up", PROGRAM.eight["up"])
+            after = self.bindings(session)
+            self.assertEqual(after["82"], "")
+            self.assertEqual({key: after[key] for key in kept}, kept)
+            self.end(session)
 
     def test_a_command_of_an_earlier_start(self):
         """It can be bound before its workbench is loaded, and runs after that."""

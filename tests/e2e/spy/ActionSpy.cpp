@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QContextMenuEvent>
+#include <QHash>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMetaEnum>
@@ -20,13 +21,31 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
+#include <typeinfo>
 #include <utility>
+
+#include <cxxabi.h>
 
 namespace {
 
 QString className(const QObject *object)
 {
     return QString::fromLatin1(object->metaObject()->className());
+}
+
+// The name in the source, also of a class without Q_OBJECT.
+QString typeName(const QObject &object)
+{
+    static QHash<const std::type_info *, QString> known;
+    QString &type = known[&typeid(object)];
+    if (type.isEmpty()) {
+        int status = 0;
+        char *name = abi::__cxa_demangle(typeid(object).name(), nullptr, nullptr, &status);
+        type = QString::fromLatin1(status == 0 ? name : typeid(object).name());
+        std::free(name);
+    }
+    return type;
 }
 
 QString text(const QRect &rect)
@@ -241,7 +260,8 @@ void ActionSpy::reportPlaces()
         if (!widget->isVisible())
             continue;
         for (const QString &name : std::as_const(m_viewClasses)) {
-            if (!name.isEmpty() && widget->inherits(name.toLatin1().constData()))
+            if (!name.isEmpty()
+                && (widget->inherits(name.toLatin1().constData()) || typeName(*widget) == name))
                 views[widget] = globalGeometry(widget);
         }
         if (!widget->objectName().isEmpty() && m_widgetNames.contains(widget->objectName()))

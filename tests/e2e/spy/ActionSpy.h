@@ -48,9 +48,10 @@ QT_END_NAMESPACE
 //     key        NAME  CLASS                a key press reached a widget
 //     quit                                  the program is about to end
 //
-// ACTIONSPY_VIEW lists the classes of views, ACTIONSPY_WIDGETS the object names of widgets to
-// look for, both separated by commas. ACTIONSPY_ENTRY is the caption of the menu entry that
-// "ready" waits for; if it is empty, "ready" waits only for a view.
+// ACTIONSPY_VIEW lists the classes of views, by the name that Qt or the source gives them,
+// ACTIONSPY_WIDGETS the object names of widgets to look for, both separated by commas. ACTIONSPY_ENTRY
+// is the caption of the menu entry that "ready" waits for; if it is empty, "ready" waits only for a
+// view.
 //
 // It filters the application's events. An event that a plug-in created later holds back
 // reaches neither the spy nor the program.

@@ -87,6 +87,7 @@ private Q_SLOTS:
     void whatIsLackingIsOfferedOnceItComes();
     void whatNobodyGuessesIsNotLacking();
     void whatNobodyHasEverSeenIsDropped();
+    void whatATaskDoesNotHaveIsDropped();
     void trustedCommandsStay();
     void theProgramsNameIsThatOfItsProfile_data();
     void theProgramsNameIsThatOfItsProfile();
@@ -220,11 +221,12 @@ void ExpectedCommandsTest::guessesFillWhatTheProfileLeavesOut()
     catalogue.guessWellKnown();
     QCOMPARE(id(catalogue.itemOf(m_window->fileOpen)), QStringLiteral("ID_OPEN"));
     QCOMPARE(id(catalogue.itemOf(trim)), QStringLiteral("ID_TRIM"));
-    QCOMPARE(catalogue.reasonFor(QStringLiteral("ID_TRIM")), QStringLiteral("caption \"Trim\""));
+    QCOMPARE(catalogue.reasonFor(QStringLiteral("ID_TRIM")).english(),
+             QStringLiteral("caption \"Trim\""));
     // Nothing is guessed that the profile says.
     QCOMPARE(id(catalogue.itemOf(m_window->circle)), kLine);
     QCOMPARE(id(catalogue.itemOf(m_window->line)), QStringLiteral("drawLine"));
-    QCOMPARE(catalogue.reasonFor(kLine), QString());
+    QVERIFY(catalogue.reasonFor(kLine).isEmpty());
     QCOMPARE(catalogue.find(QStringLiteral("fileOpen")), catalogue.find(QStringLiteral("ID_OPEN")));
 }
 
@@ -333,6 +335,41 @@ void ExpectedCommandsTest::whatNobodyHasEverSeenIsDropped()
     // It was right, and came late.
     QAction *arc = DraftWindow::addAction(m_window->draw, "Arcc", "drawArcc");
     QCOMPARE(id(catalogue.itemOf(arc)), mistyped);
+    QVERIFY(isOffered(catalogue, mistyped));
+}
+
+// In a program that changes its menus, only the task that a command belongs to can tell.
+void ExpectedCommandsTest::whatATaskDoesNotHaveIsDropped()
+{
+    const QString mistyped = QStringLiteral("draw_Arcc");
+    const QString ofAnother = QStringLiteral("solid_Pad");
+    const QString remembered = QStringLiteral("draw_Spline");
+    const QString imported = QStringLiteral("draw_Wire");
+    const QString described = QStringLiteral("draw_Trim");
+    CommandCatalogue catalogue(m_window.get(), {{described, {QStringLiteral("modify_Trim")}}});
+    RememberedCommand spline;
+    spline.identifier = remembered;
+    catalogue.remember({spline});
+    const QStringList others{ofAnother, remembered, imported, described};
+    for (const QString &identifier : others + QStringList(mistyped))
+        catalogue.expect(identifier, identifier);
+    catalogue.trust({imported});
+    catalogue.trustAll();
+    QSignalSpy dropped(&catalogue, &CommandCatalogue::dropped);
+    catalogue.endGuessing();
+    QVERIFY(isOffered(catalogue, mistyped)); // its task was not on yet
+    catalogue.dropUnseen(QStringLiteral("solid_Other"));
+    QCOMPARE(dropped.count(), 0);
+    catalogue.dropUnseen(QStringLiteral("draw_"));
+    QVERIFY(!isOffered(catalogue, mistyped));
+    for (const QString &identifier : others)
+        QVERIFY2(isOffered(catalogue, identifier), qPrintable(identifier));
+    QCOMPARE(dropped.count(), 1);
+    QCOMPARE(dropped.first().first().toStringList(), QStringList(mistyped));
+    catalogue.dropUnseen(QStringLiteral("draw_"));
+    QCOMPARE(dropped.count(), 1);
+    // It was right, and came late.
+    DraftWindow::addAction(m_window->draw, "Arcc", "draw_Arcc");
     QVERIFY(isOffered(catalogue, mistyped));
 }
 

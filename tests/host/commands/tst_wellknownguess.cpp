@@ -185,7 +185,8 @@ void WellKnownGuessTest::byOneSign()
     QCOMPARE(found.first().identifier, identifier);
     QCOMPARE(found.first().action, action);
     QVERIFY(found.first().weight > 0);
-    QVERIFY2(found.first().reason.startsWith(reason), qPrintable(found.first().reason));
+    QVERIFY2(found.first().reason.english().startsWith(reason),
+             qPrintable(found.first().reason.english()));
 }
 
 void WellKnownGuessTest::byNothing_data()
@@ -217,7 +218,7 @@ void WellKnownGuessTest::byNothing()
     QFETCH(QString, caption);
     add(name, caption);
     const QVector<WellKnownGuess> found = WellKnownGuess::among(actions());
-    QVERIFY2(found.isEmpty(), found.isEmpty() ? "" : qPrintable(found.first().reason));
+    QVERIFY2(found.isEmpty(), found.isEmpty() ? "" : qPrintable(found.first().reason.english()));
 }
 
 void WellKnownGuessTest::theMoreTrustedSignWins_data()
@@ -251,7 +252,7 @@ void WellKnownGuessTest::signsAddUp()
     QAction *both = add(QStringLiteral("fileOpen"), QStringLiteral("Open"));
     const WellKnownGuess guess = WellKnownGuess::among(actions()).value(0);
     QCOMPARE(guess.action, both);
-    QCOMPARE(guess.reason, QStringLiteral("object name \"fileOpen\", caption \"Open\""));
+    QCOMPARE(guess.reason.english(), QStringLiteral("object name \"fileOpen\", caption \"Open\""));
 }
 
 void WellKnownGuessTest::ofEqualsTheFirstWins()
@@ -339,7 +340,7 @@ void WellKnownGuessTest::whatASignContradictsStaysEmpty()
     if (menu)
         menu->addAction(action);
     const QVector<WellKnownGuess> found = WellKnownGuess::among(actions());
-    QVERIFY2(found.isEmpty(), found.isEmpty() ? "" : qPrintable(found.first().reason));
+    QVERIFY2(found.isEmpty(), found.isEmpty() ? "" : qPrintable(found.first().reason.english()));
 }
 
 // In some programs "Save All" has Ctrl+S and "Save" has no shortcut.
@@ -593,7 +594,7 @@ void WellKnownGuessTest::wordsThatMeanSomethingElseElsewhere()
     bar.addMenu(QStringLiteral("&File"));
     bar.addMenu(menu)->addAction(add(QString(), caption));
     const QVector<WellKnownGuess> found = WellKnownGuess::among(actions());
-    QVERIFY2(found.isEmpty(), found.isEmpty() ? "" : qPrintable(found.first().reason));
+    QVERIFY2(found.isEmpty(), found.isEmpty() ? "" : qPrintable(found.first().reason.english()));
 }
 
 QTEST_MAIN(WellKnownGuessTest)

@@ -182,7 +182,7 @@ void CorpusTest::judgeCommands(const QJsonObject &record, bool hasDocument, Scor
             ++score.wrong;
             faults.append(QStringLiteral("%1 is not %2 by %3")
                               .arg(identifier, rebuilt.keysOf(*guess.action).join(QStringLiteral(", ")),
-                                   guess.reason));
+                                   guess.reason.english()));
         } else if (containsAny(right, QStringList(present.begin(), present.end()))) {
             ++score.missed;
             std::printf("    misses %s: %s\n", qPrintable(identifier),
@@ -258,10 +258,10 @@ QSet<QString> CorpusTest::judgeDrawings(const QJsonObject &size, const QStringLi
             ++score.right;
         } else if (guess.isView) {
             ++score.wrong;
-            faults.append(QStringLiteral("%1 is no drawing: %2").arg(type, guess.reason));
+            faults.append(QStringLiteral("%1 is no drawing: %2").arg(type, guess.reason.english()));
         } else if (isRight) {
             ++score.missed;
-            std::printf("    misses %s: %s\n", qPrintable(type), qPrintable(guess.reason));
+            std::printf("    misses %s: %s\n", qPrintable(type), qPrintable(guess.reason.english()));
         }
     }
     return views;

@@ -607,8 +607,8 @@ void ViewGuessTest::guesses()
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     const ViewGuess guess = ViewGuess::of(widget);
-    QVERIFY2(guess.isView == isView, qPrintable(guess.reason));
-    QVERIFY2(guess.reason.contains(reason), qPrintable(guess.reason));
+    QVERIFY2(guess.isView == isView, qPrintable(guess.reason.english()));
+    QVERIFY2(guess.reason.english().contains(reason), qPrintable(guess.reason.english()));
 }
 
 void ViewGuessTest::theFinderFindsWhatIsShownLater()

@@ -27,6 +27,7 @@
 #include <memory>
 
 using gesturewidget::Explanation;
+using gesturewidget::Phrase;
 using gesturewidget::ProgramProfile;
 using gesturewidget::SystemServices;
 using tests::DraftWindow;
@@ -49,6 +50,7 @@ private Q_SLOTS:
     void viewsOfAClassOfQt();
     void viewsThatAProfileNames();
     void whatIsNoView();
+    void aTriggerThatFollowsASetting();
     void toolsMenus();
     void commands();
     void commandsThatAProfileNames();
@@ -65,7 +67,7 @@ private:
         QString text(QLatin1Char('\n'));
         const QJsonArray all = m_explanation->report().value(QStringLiteral("lines")).toArray();
         for (const QJsonValue &line : all)
-            text += line.toString() + QLatin1Char('\n');
+            text += Phrase::fromJson(line).english() + QLatin1Char('\n');
         return text;
     }
     bool says(const char *line) const
@@ -205,6 +207,24 @@ void ExplanationTest::whatIsNoView()
     QVERIFY2(says("no view: QFrame \"welcome\", since it is a start page by its name"),
              qPrintable(lines()));
     QCOMPARE(reported().viewClasses, QStringList());
+}
+
+// The line says what starts a gesture now; the profile still follows the setting.
+void ExplanationTest::aTriggerThatFollowsASetting()
+{
+    const QJsonObject setting{{QStringLiteral("file"), QStringLiteral("a.cfg")},
+                              {QStringLiteral("before"), QStringLiteral("<")},
+                              {QStringLiteral("behind"), QStringLiteral(">")}};
+    const QJsonObject fixed{{QStringLiteral("button"), QStringLiteral("middle")}};
+    m_profile.triggerBySetting = setting;
+    m_profile.fixedTriggers.insert(QStringLiteral("trigger"), fixed);
+    explain();
+    m_explanation->noteTrigger(Qt::RightButton, Qt::ControlModifier,
+                               Phrase::verbatim(QStringLiteral("it is set so")));
+    QVERIFY2(says("trigger: ctrl+right, since it is set so"), qPrintable(lines()));
+    const QJsonObject profile = m_explanation->report().value(QStringLiteral("profile")).toObject();
+    QCOMPARE(profile.value(QStringLiteral("trigger")), QJsonValue(fixed));
+    QCOMPARE(profile.value(QStringLiteral("triggerBySetting")), QJsonValue(setting));
 }
 
 void ExplanationTest::toolsMenus()

@@ -279,9 +279,13 @@ void ProgramProfileTest::theTriggerMayFollowASetting()
     };
     if (!content.isEmpty())
         store("space.cfg", content);
-    store("program.json", R"({"version": 1, "program": "program", "trigger": {"button": "right"},
+    const QByteArray text = R"({"version": 1, "program": "program", "trigger": {"button": "right"},
+        "usedTriggers": ["middle"],
         "triggerBySetting": {"file": "space.cfg", "before": "<Style>", "behind": "<",
-                             "triggers": {"Space": "ctrl+right"}}})");
+                             "triggers": {"Space": "ctrl+right"},
+                             "usedTriggers": {"Space": ["right", "Control+Middle"], "Other": []}}})";
+    store("program.json", text);
+    const QJsonObject written = QJsonDocument::fromJson(text).object();
     QString message;
     const ProgramProfile profile =
         ProgramProfile::forProgram(QStringLiteral("program"), {folder.path()}, &message);
@@ -289,6 +293,15 @@ void ProgramProfileTest::theTriggerMayFollowASetting()
     QCOMPARE(message, QString());
     QCOMPARE(gesturewidget::triggerText(profile.triggerButton, profile.triggerModifiers), trigger);
     QVERIFY(profile.hasTrigger);
+    const bool isFound = trigger != QLatin1String("right");
+    QCOMPARE(profile.triggerSetting, isFound ? QStringLiteral("Space") : QString());
+    QCOMPARE(profile.usedTriggers,
+             isFound ? QStringList({QStringLiteral("right"), QStringLiteral("ctrl+middle")})
+                     : QStringList(QStringLiteral("middle")));
+    // What is printed follows the setting too, whatever it is at the moment.
+    const QJsonObject printed = profile.toJson();
+    for (const char *key : {"trigger", "usedTriggers", "triggerBySetting"})
+        QCOMPARE(printed.value(QLatin1String(key)), written.value(QLatin1String(key)));
 }
 
 // tests/docs/test_profile_schema.py judges the same files by the schema.

@@ -75,6 +75,13 @@ void SettingsFileTest::namesAreThoseOfTheModule()
     namespace names = gesturewidget::settingsnames;
     QCOMPARE(names::enabledKey(), settingskeys::enableMouseGesture());
     QVERIFY(names::hostSection() != names::moduleSection());
+    QCOMPARE(names::initialCommand(names::schemeKey()), QString());
+    for (const DonutScheme scheme : {DonutScheme::Four, DonutScheme::Eight}) {
+        for (int number = 1; number <= 8; ++number) {
+            const QString key = settingskeys::directionKey(scheme, number);
+            QCOMPARE(names::initialCommand(key), settingskeys::initialValue(key));
+        }
+    }
     QCOMPARE(SettingsFile::nameOf(names::moduleSection(), names::enabledKey()),
              text("GestureWidget/EnableMouseGesture"));
 }

@@ -36,6 +36,8 @@ private Q_SLOTS:
     void cleanup();
 
     void theFirstFolderCounts();
+    void directionsThatNobodyGivesKeepTheirCommands();
+    void ringsOfTasksAreCompletedFromTheSharedOne();
     void elsewhereThereAreNone();
     void profilesCountBetweenOwnAndInstalled();
     void theUsersKeyWins();
@@ -107,6 +109,58 @@ void SiteSettingsTest::theFirstFolderCounts()
              QStringList(text("drafter.ini")));
 }
 
+void SiteSettingsTest::directionsThatNobodyGivesKeepTheirCommands()
+{
+    tests::writeFile(place("first/gesturewidget/drafter.ini"), "[GestureWidget]\n87=ID_SAVE\n83=\n");
+    const SiteSettings site(m_own);
+    const QStringList expected{text("ID_ZOOM_BOUNDS"), text("ID_OFFSET"), QString(),
+                               text("ID_COPY"),        QString(), // ID_SAVE has another direction
+                               text("ID_DTEXT"),       text("ID_SAVE"),   text("ID_TRIM")};
+    const auto commandsOf = [](const SettingsFile::Values &values) {
+        QStringList commands;
+        for (int number = 81; number <= 88; ++number)
+            commands.append(
+                values.value(SettingsFile::nameOf(text("GestureWidget"), QString::number(number))));
+        return commands;
+    };
+    QCOMPARE(commandsOf(site.values()), expected);
+    QVERIFY(!site.values().contains(text("GestureWidget/41"))); // nobody gives any of the four
+    QCOMPARE(site.given().size(), 2);
+    QCOMPARE(site.fileOf(text("GestureWidget/81")), QString());
+    // A user's own choice counts in each of them, and is no command of the office.
+    const SettingsFile::Values own{{text("GestureWidget/81"), text("ownArc")}};
+    const SettingsFile::Values all = site.under(own);
+    QCOMPARE(all.value(text("GestureWidget/81")), text("ownArc"));
+    QCOMPARE(all.value(text("GestureWidget/82")), text("ID_OFFSET"));
+    QCOMPARE(site.chosenOf(all), (SettingsFile::Values{{text("GestureWidget/81"), text("ownArc")},
+                                                       {text("GestureWidget/83"), QString()},
+                                                       {text("GestureWidget/87"), text("ID_SAVE")}}));
+    // A module finds them all, so it does not take a missing one for empty.
+    ProfileStore store(m_own);
+    QCOMPARE(get(store, "82"), text("ID_OFFSET"));
+    set(store, "82", "ID_OFFSET");
+    QVERIFY(store.flush());
+    QVERIFY(written().isEmpty());
+}
+
+void SiteSettingsTest::ringsOfTasksAreCompletedFromTheSharedOne()
+{
+    tests::writeFile(
+        place("first/gesturewidget/drafter.ini"),
+        "[GestureWidget]\n82=siteOffset\n[Ring%20Sketch]\nOwn=Sketch\n87=siteLine\n88=ID_COPY\n"
+        "[Ring%20Away]\n87=siteArc\n");
+    const SettingsFile::Values values = SiteSettings(m_own).values();
+    QCOMPARE(values.value(SettingsFile::nameOf(text("Ring Sketch"), text("87"))), text("siteLine"));
+    QCOMPARE(values.value(SettingsFile::nameOf(text("Ring Sketch"), text("82"))), text("siteOffset"));
+    QCOMPARE(values.value(SettingsFile::nameOf(text("Ring Sketch"), text("81"))),
+             text("ID_ZOOM_BOUNDS"));
+    QCOMPARE(values.value(SettingsFile::nameOf(text("Ring Sketch"), text("84")), text("none")),
+             QString());
+    QVERIFY(!values.contains(SettingsFile::nameOf(text("Ring Sketch"), text("41"))));
+    QVERIFY(!values.contains(
+        SettingsFile::nameOf(text("Ring Away"), text("81")))); // its task uses the shared ring
+}
+
 void SiteSettingsTest::elsewhereThereAreNone()
 {
     QVERIFY(SiteSettings(place("drafter.ini")).values().isEmpty());
@@ -125,7 +179,7 @@ void SiteSettingsTest::theUsersKeyWins()
 {
     ProfileStore store(m_own);
     QVERIFY(store.Exists(text("GestureWidget"), text("81")));
-    QVERIFY(!store.Exists(text("GestureWidget"), text("82")));
+    QVERIFY(!store.Exists(text("GestureWidget"), text("42")));
     QCOMPARE(get(store, "81"), text("siteLine"));
     set(store, "81", "");
     QCOMPARE(get(store, "81"), QString());
@@ -155,12 +209,14 @@ void SiteSettingsTest::aResetBringsTheSitesBack()
     reset(store);
     QCOMPARE(get(store, "81"), text("siteLine")); // at once
     QCOMPARE(get(store, "ActiveScheme"), text("4"));
-    QCOMPARE(get(store, "82"), text("factory"));
+    QCOMPARE(get(store, "82"), text("ID_OFFSET"));
+    QCOMPARE(get(store, "42"), text("factory"));
     QVERIFY(store.flush());
     QCOMPARE(get(store, "81"), text("siteLine"));
     const SettingsFile::Values now = written();
     QVERIFY(!now.contains(text("GestureWidget/81")));
-    QCOMPARE(now.value(text("GestureWidget/82")), text("factory"));
+    QVERIFY(!now.contains(text("GestureWidget/82")));
+    QCOMPARE(now.value(text("GestureWidget/42")), text("factory"));
     QCOMPARE(now.value(text("Host/Trigger")), text("middle"));
     // The key can be set again.
     set(store, "81", "newLine");

@@ -41,6 +41,7 @@ private Q_SLOTS:
     void aFlatDrawingHasTheRightButton();
     void aDrawingInSpaceLeavesTheRightButton();
     void theFirstViewDecides();
+    void theProgramsOwnSettingIsNamed();
     void theProfileDecides();
     void theSettingsDecide();
     void anAreaWithASurface();
@@ -83,7 +84,8 @@ void TriggerChoiceTest::aDrawingInSpaceLeavesTheRightButton()
     QVERIFY(isTrigger(choice, Qt::RightButton, Qt::NoModifier));
     QVERIFY(choice.noteView(QGLWidget()));
     QVERIFY(isTrigger(choice, Qt::RightButton, Qt::ControlModifier));
-    QVERIFY2(choice.reason().contains(QStringLiteral("OpenGL")), qPrintable(choice.reason()));
+    QVERIFY2(choice.reason().english().contains(QStringLiteral("OpenGL")),
+             qPrintable(choice.reason().english()));
     QVERIFY(store.flush());
     QCOMPARE(written().value(QStringLiteral("Host/UsualTrigger")), QStringLiteral("ctrl+right"));
 }
@@ -95,6 +97,16 @@ void TriggerChoiceTest::theFirstViewDecides()
     QVERIFY(!choice.noteView(QWidget()));
     QVERIFY(!choice.noteView(QGLWidget()));
     QVERIFY(isTrigger(choice, Qt::RightButton, Qt::NoModifier));
+}
+
+void TriggerChoiceTest::theProgramsOwnSettingIsNamed()
+{
+    m_profile.hasTrigger = true;
+    QCOMPARE(TriggerChoice(m_profile, nullptr).reason().english(),
+             QStringLiteral("the profile says so"));
+    m_profile.triggerSetting = QStringLiteral("Space");
+    QCOMPARE(TriggerChoice(m_profile, nullptr).reason().english(),
+             QStringLiteral("the program itself is set to Space"));
 }
 
 void TriggerChoiceTest::theProfileDecides()

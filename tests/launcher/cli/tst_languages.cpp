@@ -39,6 +39,10 @@ private Q_SLOTS:
     void help();
     void outputs_data() { languages(); }
     void outputs();
+    void complaintsAboutFiles_data() { languages(); }
+    void complaintsAboutFiles();
+    void explanation_data();
+    void explanation();
     void sheet_data() { languages(); }
     void sheet();
     void theFirstKnownLanguageCounts();
@@ -56,7 +60,11 @@ private:
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("LANGUAGE"), language);
         environment.insert(QStringLiteral("LANG"), QStringLiteral("C.UTF-8"));
-        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_folder->path());
+        for (const char *folder : {"XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
+            environment.insert(QLatin1String(folder), m_folder->path());
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        // The program's own warnings pass too.
+        environment.insert(QStringLiteral("QT_LOGGING_RULES"), QStringLiteral("default.warning=false"));
         for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "XDG_SESSION_TYPE"})
             environment.remove(QLatin1String(name));
         QProcess process;
@@ -146,6 +154,87 @@ void LanguagesTest::outputs()
     QCOMPARE(run(language, json).output, run(english, json).output);
     const QStringList unknown{QStringLiteral("--bindings"), QStringLiteral("/nowhere/draw")};
     QCOMPARE(run(language, unknown).status, 127);
+}
+
+// Each line begins as in English and names the file, whatever the language.
+void LanguagesTest::complaintsAboutFiles()
+{
+    QFETCH(QString, language);
+    const bool isEnglish = language == QLatin1String("en");
+    const QString name =
+        QFileInfo(QStringLiteral("/bin/sh")).canonicalFilePath().section(QLatin1Char('/'), -1);
+    const QString settings = place("gesturewidget/") + name + QStringLiteral(".ini");
+    const QString commands = place("gesturewidget/") + name + QStringLiteral(".commands.json");
+    const QString profile = place("gesturewidget/profiles/") + name + QStringLiteral(".json");
+    QVERIFY(QDir().mkpath(place("gesturewidget/profiles")));
+    const auto write = [](const QString &path, const QByteArray &content) {
+        QFile file(path);
+        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+    };
+    const auto isSaid = [&](const QString &option, const QString &path) {
+        const QStringList arguments{option, QStringLiteral("/bin/sh")};
+        const QString here = run(language, arguments).errors.section(QLatin1Char('\n'), 0, 0);
+        const QString there =
+            run(QStringLiteral("en"), arguments).errors.section(QLatin1Char('\n'), 0, 0);
+        const bool isWell = here.startsWith(QLatin1String("mouse gestures: ")) && here.contains(path)
+                         && !here.contains(QLatin1Char('?')) && (here == there) == isEnglish;
+        if (!isWell)
+            qWarning("%s\n%s", qPrintable(here), qPrintable(there));
+        return isWell;
+    };
+    QVERIFY(write(settings, QByteArray(20, '\0')));
+    QVERIFY(isSaid(QStringLiteral("--bindings"), settings));
+    QVERIFY(QFile::remove(settings) && QDir().mkpath(settings));
+    QVERIFY(isSaid(QStringLiteral("--bindings"), settings));
+    QVERIFY(QDir().rmdir(settings));
+    for (const char *content : {"{", "[]", "{\"version\": 7}"}) {
+        QVERIFY(write(commands, content));
+        QVERIFY(isSaid(QStringLiteral("--list-commands"), commands));
+    }
+    QVERIFY(QFile::remove(commands));
+    const QVector<std::pair<QByteArray, QString>> profiles{
+        {"{\"versoin\": 1}", QStringLiteral("unknown key")},
+        {"{\"version\": 7}", QStringLiteral("is not known")},
+        {"{\"version\": 1}", QStringLiteral("\"program\" is")},
+    };
+    for (const auto &[content, english] : profiles) {
+        QVERIFY(write(profile, content));
+        const QStringList arguments{QStringLiteral("--doctor"), QStringLiteral("/bin/sh")};
+        const QString said =
+            run(language, arguments).output.split(QLatin1Char('\n')).filter(profile).value(0);
+        QVERIFY2(!said.isEmpty() && said.contains(english) == isEnglish, qPrintable(said));
+    }
+}
+
+// Two of them suffice, since each start takes seconds.
+void LanguagesTest::explanation_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const char *language : {"en", "de", "ja"})
+        QTest::newRow(language) << QString::fromLatin1(language);
+}
+
+// The explanation is in the language of the terminal; the profile is the same in all.
+void LanguagesTest::explanation()
+{
+    QFETCH(QString, language);
+    const QStringList arguments{QStringLiteral("--explain"), QStringLiteral(GUEST),
+                                QStringLiteral("stay")};
+    const Ended here = run(language, arguments);
+    static const Ended there = run(QStringLiteral("en"), arguments);
+    QCOMPARE(here.status, 0);
+    QCOMPARE(here.output, there.output);
+    const QStringList lines = here.errors.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    const QStringList english = there.errors.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    QVERIFY(lines.filter(QStringLiteral("GuestView")).size() == 1);
+    QCOMPARE(lines.size(), english.size());
+    QVERIFY(lines.size() > 10);
+    for (int i = 0; i < lines.size(); ++i) {
+        // Only a name follows.
+        const bool isSame = english.at(i).startsWith(QLatin1String("window: "));
+        QVERIFY2(isSame || (lines.at(i) == english.at(i)) == (language == QLatin1String("en")),
+                 qPrintable(lines.at(i)));
+    }
 }
 
 void LanguagesTest::sheet()

@@ -96,6 +96,7 @@ private Q_SLOTS:
             "");
         const QByteArray shown = expect({text("--bindings"), kProgram}, "ring of Sketching\n");
         QCOMPARE(shown.count("  left       ID_TRIM"), 1);
+        ringsOfTheirOwn();
         expect({text("--ring"), kProgram, text("Sketching"), text("shared")}, "");
         QVERIFY(!expect({text("--bindings"), kProgram}, "").contains("ring of"));
     }
@@ -368,6 +369,35 @@ private Q_SLOTS:
     }
 
 private:
+    // The other tasks that can be about one ring.
+    void ringsOfTheirOwn()
+    {
+        const QStringList ofRing{text("--ring"), text("Sketching")};
+        const QString kept = place(QStringLiteral("ring.json"));
+        expect(QStringList{text("--export"), kProgram, kept} + ofRing, "");
+        QCOMPARE(contentOf(kept).count("ID_TRIM"), 1);
+        QVERIFY(expect({text("--export"), kProgram}, "\"rings\": {\n        \"Sketching\": {")
+                    .contains("ID_TRIM"));
+        const QString sheet = place(QStringLiteral("ring.pdf"));
+        expect(QStringList{text("--print"), kProgram, sheet} + ofRing, "");
+        QVERIFY(contentOf(sheet).startsWith("%PDF"));
+        expect(QStringList{text("--reset"), kProgram} + ofRing, "");
+        QVERIFY(!expect({text("--bindings"), kProgram}, "ring of Sketching\n")
+                     .contains("  left       ID_TRIM"));
+        expect(QStringList{text("--import"), kProgram, kept} + ofRing, "");
+        QVERIFY(expect({text("--bindings"), kProgram}, "ring of Sketching\n")
+                    .contains("  left       ID_TRIM"));
+        for (const char *option : {"--export", "--print", "--reset", "--import"}) {
+            QStringList arguments{QLatin1String(option), kProgram};
+            if (arguments.first() != text("--reset"))
+                arguments.append(arguments.first() == text("--import") ? kept : place(text("x.pdf")));
+            const Outcome none = run(arguments + QStringList{text("--ring"), text("Away")});
+            QCOMPARE(none.status, 1);
+            QVERIFY2(none.errors.contains("Away has no ring of its own"), none.errors.constData());
+        }
+        QVERIFY(!QFile::exists(place(QStringLiteral("x.pdf"))));
+    }
+
     Outcome run(const QStringList &arguments, const QByteArray &input = {}, bool isMerged = false) const
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();

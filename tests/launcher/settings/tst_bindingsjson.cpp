@@ -67,7 +67,8 @@ private Q_SLOTS:
         Bindings bindings = Bindings::initial();
         bindings.eight[0] = QStringLiteral("as it was");
         QString problem;
-        const bool isTaken = launcher::bindingsFromJson(text, kProgram, bindings, problem);
+        QMap<QString, Bindings> rings;
+        const bool isTaken = launcher::bindingsFromJson(text, kProgram, bindings, problem, &rings);
         QVERIFY2(isTaken == says.isEmpty(), qPrintable(problem));
         QVERIFY2(says.isEmpty() ? problem.isEmpty() : problem.startsWith(says), qPrintable(problem));
         QVERIFY(!problem.contains(QLatin1Char('\n')));
@@ -76,9 +77,13 @@ private Q_SLOTS:
             return;
         // The export of what was accepted means the same.
         Bindings again;
-        const QByteArray exported = launcher::bindingsToJson(bindings, kProgram);
-        QVERIFY(launcher::bindingsFromJson(exported, kProgram, again, problem));
+        QMap<QString, Bindings> ringsAgain;
+        const QByteArray exported = launcher::bindingsToJson(bindings, kProgram, rings);
+        QVERIFY(launcher::bindingsFromJson(exported, kProgram, again, problem, &ringsAgain));
         QCOMPARE(again.toSettings(), bindings.toSettings());
+        QCOMPARE(ringsAgain.keys(), rings.keys());
+        for (auto it = rings.cbegin(); it != rings.cend(); ++it)
+            QCOMPARE(ringsAgain.value(it.key()).toSettings(), it.value().toSettings());
     }
 
     // The schema allows exactly the keys that are written.
@@ -88,12 +93,14 @@ private Q_SLOTS:
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QJsonObject schema = QJsonDocument::fromJson(file.readAll()).object();
         const QJsonObject exported = QJsonDocument::fromJson(tests::exportedBindings()).object();
-        const auto compare = [](const QJsonObject &part, const QStringList &keys) {
-            QCOMPARE(sorted(part.value(QStringLiteral("properties")).toObject().keys()), sorted(keys));
+        const auto compare = [](const QJsonObject &part, const QStringList &keys,
+                                const QStringList &optional = {}) {
+            QCOMPARE(sorted(part.value(QStringLiteral("properties")).toObject().keys()),
+                     sorted(keys + optional));
             QCOMPARE(strings(part.value(QStringLiteral("required"))), sorted(keys));
             QCOMPARE(part.value(QStringLiteral("additionalProperties")), QJsonValue(false));
         };
-        compare(schema, exported.keys());
+        compare(schema, exported.keys(), {QStringLiteral("rings")});
         const QJsonObject properties = schema.value(QStringLiteral("properties")).toObject();
         compare(properties.value(QStringLiteral("four")).toObject(), Bindings::directionNames(4));
         compare(properties.value(QStringLiteral("eight")).toObject(), Bindings::directionNames(8));

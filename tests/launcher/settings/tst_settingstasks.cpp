@@ -52,6 +52,9 @@ private Q_SLOTS:
     void aCommandHasOneDirection();
     void aTaskMayHaveARingOfItsOwn();
     void aTaskWithoutARingIsRefused();
+    void exportsHoldAllRings();
+    void aRingAloneIsExportedAndImported();
+    void aRingIsReset();
     void otherProgramsValuesStay();
     void resetKeepsTheTrigger();
     void theAdministratorsSettings();
@@ -232,6 +235,108 @@ void SettingsTasksTest::aTaskWithoutARingIsRefused()
     QVERIFY(!QFileInfo::exists(m_file));
 }
 
+void SettingsTasksTest::exportsHoldAllRings()
+{
+    const QByteArray plain = tasks().exported().output;
+    QVERIFY(!plain.contains("rings"));
+    const QString task = text("SketchBench");
+    const QString other = text("Part, Design");
+    QVERIFY(tasks().setRing(task, true, {{text("87"), text("Sketch_Line")}}).isDone());
+    const QByteArray both = tasks().exported().output;
+    QVERIFY2(both.contains("\"right\": \"Sketch_Line\""), both.constData());
+
+    // The rings come back, and those that the file does not name stay.
+    QVERIFY(tasks().bind(text("up"), text("ID_SHARED")).isDone());
+    QVERIFY(tasks().setRing(task, false, {}).isDone());
+    QVERIFY(tasks().setRing(other, true, {{text("81"), text("Part_Pad")}}).isDone());
+    SettingsTasks importing = tasks();
+    launcher::SettingsChange change;
+    QVERIFY(importing.importText(both, text("it"), &change).isDone());
+    QCOMPARE(tasks().tasks(), (QStringList{other, task}));
+    QCOMPARE(tasks().ringOf(task).eight.at(6), text("Sketch_Line"));
+    QCOMPARE(tasks().ringOf(other).eight.at(0), text("Part_Pad"));
+    QCOMPARE(kept().eight, Bindings::initial().eight);
+    QCOMPARE(SettingsFile(m_file).read().value(text("Host/Imported")).count(text("Sketch_Line")), 1);
+    // It is taken back as a whole, and made again.
+    QVERIFY(importing.takeBack(change).isDone());
+    QCOMPARE(tasks().tasks(), QStringList(other));
+    QCOMPARE(kept().eight.at(0), text("ID_SHARED"));
+    QVERIFY(importing.makeAgain(change).isDone());
+    QCOMPARE(tasks().tasks(), (QStringList{other, task}));
+    // Not over what somebody has done since.
+    QVERIFY(tasks().setRing(task, false, {}).isDone());
+    QVERIFY(!importing.takeBack(change).isDone());
+    QCOMPARE(kept().eight, Bindings::initial().eight);
+    QVERIFY(tasks().setRing(task, true, {}).isDone());
+    SettingsTasks own = tasks();
+    own.setTask(task);
+    QVERIFY(own.bind(text("left"), text("Sketch_Arc")).isDone());
+    // A file without rings leaves them alone.
+    QVERIFY(importing.importText(plain, text("it")).isDone());
+    QCOMPARE(tasks().ringOf(task).eight.at(2), text("Sketch_Arc"));
+}
+
+void SettingsTasksTest::aRingAloneIsExportedAndImported()
+{
+    const QString task = text("SketchBench");
+    const QString other = text("PartBench");
+    SettingsTasks own = tasks();
+    own.setTask(task);
+    QVERIFY(own.exported().complaint.contains(text("SketchBench has no ring of its own")));
+    QVERIFY(!own.exportTo(place(text("alone.json"))).isDone());
+    QVERIFY(!QFileInfo::exists(place(text("alone.json"))));
+    for (const QString &name : {task, other})
+        QVERIFY(tasks().setRing(name, true, {{text("87"), name + text("_Line")}}).isDone());
+    const QByteArray alone = own.exported().output;
+    QVERIFY2(alone.contains("SketchBench_Line") && !alone.contains("rings"), alone.constData());
+
+    // Only that ring changes, whatever else the file says.
+    SettingsTasks importing = tasks();
+    importing.setTask(other);
+    QByteArray switchedOff = alone;
+    switchedOff.replace("\"enabled\": true", "\"enabled\": false");
+    switchedOff.replace("\"trigger\": \"\"", "\"trigger\": \"middle\"");
+    launcher::SettingsChange change;
+    QVERIFY(importing.importText(switchedOff, text("it"), &change).isDone());
+    QCOMPARE(tasks().ringOf(other).eight.at(6), text("SketchBench_Line"));
+    QCOMPARE(kept().eight, Bindings::initial().eight);
+    QVERIFY(kept().enabled);
+    QCOMPARE(kept().trigger, QString());
+    QVERIFY(importing.takeBack(change).isDone());
+    QCOMPARE(tasks().ringOf(other).eight.at(6), text("PartBench_Line"));
+    // Nothing is imported into a ring that does not exist.
+    const QByteArray before = contentOf(m_file);
+    importing.setTask(text("NoBench"));
+    QVERIFY(importing.importText(alone, text("it")).complaint.contains(text("NoBench has no ring")));
+    QCOMPARE(contentOf(m_file), before);
+}
+
+void SettingsTasksTest::aRingIsReset()
+{
+    const QString task = text("SketchBench");
+    const QHash<QString, QString> first{{text("87"), text("Sketch_Line")}};
+    QVERIFY(tasks().bind(text("up"), text("ID_SHARED")).isDone());
+    QVERIFY(tasks().setRing(task, true, first).isDone());
+    SettingsTasks own = tasks();
+    own.setTask(task);
+    for (const char *direction : {"up", "right", "left"})
+        QVERIFY(own.bind(text(direction), text("x") + text(direction)).isDone());
+    launcher::SettingsChange change;
+    const Outcome outcome = own.reset(&change, first);
+    QVERIFY2(outcome.isDone(), qPrintable(outcome.complaint));
+    QCOMPARE(outcome.output, QByteArray());
+    const Bindings ring = tasks().ringOf(task);
+    QCOMPARE(ring.eight.at(0), text("ID_SHARED"));
+    QCOMPARE(ring.eight.at(2), Bindings::initial().eight.at(2));
+    QCOMPARE(ring.eight.at(6), text("Sketch_Line"));
+    QCOMPARE(kept().eight.at(0), text("ID_SHARED"));
+    QCOMPARE(kept().eight.at(6), Bindings::initial().eight.at(6));
+    QVERIFY(own.takeBack(change).isDone());
+    QCOMPARE(tasks().ringOf(task).eight.at(0), text("xup"));
+    own.setTask(text("NoBench"));
+    QVERIFY(!own.reset().isDone());
+}
+
 void SettingsTasksTest::otherProgramsValuesStay()
 {
     write(m_file, "[Window]\nwidth=700\n[GestureWidget]\nEnableMouseGesture=0\n");
@@ -277,7 +382,8 @@ void SettingsTasksTest::theAdministratorsSettings()
     QVERIFY(!own.contains(text("GestureWidget/ActiveScheme")));
     QCOMPARE(own.value(text("GestureWidget/42")), text("ownArc"));
     QVERIFY(tasks.bind(text("up"), text("none")).isDone());
-    QCOMPARE(tasks.bindings().four, (QStringList{QString(), text("ownArc"), QString(), QString()}));
+    QCOMPARE(tasks.bindings().four,
+             (QStringList{QString(), text("ownArc"), text("ID_SAVE"), text("ID_LINE")}));
     QVERIFY(tasks.setTrigger(text("middle")).isDone());
     QCOMPARE(tasks.bindings().trigger, text("middle"));
 
@@ -290,6 +396,11 @@ void SettingsTasksTest::theAdministratorsSettings()
     own = SettingsFile(m_file).read();
     for (const char *key : {"GestureWidget/41", "GestureWidget/ActiveScheme", "Host/Trigger"})
         QVERIFY2(!own.contains(text(key)), key);
+    // A task's ring begins with the administrator's too.
+    QVERIFY(tasks.setRing(text("Sketch"), true, {}).isDone());
+    tasks.setTask(text("Sketch"));
+    QCOMPARE(tasks.bindings().four.first(), text("siteLine"));
+    QCOMPARE(tasks.bindings().scheme, 4);
 }
 
 void SettingsTasksTest::badInputChangesNothing_data()

@@ -47,7 +47,7 @@ private Q_SLOTS:
         wanted.trigger = text("ctrl+right");
         wanted.eight[6] = QString();
         wanted.four[1] = text("ID_TRIM");
-        ImportPreview preview(editor, wanted, text("kept.json"), nullptr);
+        ImportPreview preview(editor, wanted, {}, text("kept.json"), nullptr);
         const auto *list = preview.findChild<QTreeWidget *>(text("import_changes"));
         QStringList lines;
         for (int i = 0; i < list->topLevelItemCount(); ++i) {
@@ -62,10 +62,32 @@ private Q_SLOTS:
                                      text("Right (of 8 directions): Line -> nothing")}));
     }
 
+    void showsRingsOfTasks()
+    {
+        BindingsEditor editor(subject("draw"), text("Draw"));
+        launcher::SettingsTasks tasks = editor.tasks();
+        for (const char *task : {"Sketch", "Part"})
+            QVERIFY(tasks.setRing(text(task), true, {}).isDone());
+        launcher::Bindings other = tasks.ringOf(text("Part"));
+        other.eight[0] = QString();
+        const QMap<QString, launcher::Bindings> rings{
+            {text("Sketch"), tasks.ringOf(text("Sketch"))}, // as it is
+            {text("Part"), other},
+            {text("Solid"), tasks.ringOf({})}};
+        const ImportPreview preview(editor, editor.bindings(), rings, text("kept.json"), nullptr);
+        const auto *list = preview.findChild<QTreeWidget *>(text("import_changes"));
+        QCOMPARE(list->topLevelItemCount(), 2);
+        QCOMPARE(list->topLevelItem(0)->text(0), text("Ring of Part"));
+        QCOMPARE(list->topLevelItem(0)->text(1), text("its own"));
+        QCOMPARE(list->topLevelItem(1)->text(0), text("Ring of Solid"));
+        QCOMPARE(list->topLevelItem(1)->text(1), text("shared"));
+        QCOMPARE(list->topLevelItem(1)->text(2), text("the file's"));
+    }
+
     void nothingToImportCannotBeImported()
     {
         const BindingsEditor editor(subject("draw"), text("Draw"));
-        const ImportPreview preview(editor, editor.bindings(), text("kept.json"), nullptr);
+        const ImportPreview preview(editor, editor.bindings(), {}, text("kept.json"), nullptr);
         QCOMPARE(preview.changes(), 0);
         const auto *buttons = preview.findChild<QDialogButtonBox *>();
         for (QAbstractButton *button : buttons->buttons())
