@@ -23,7 +23,7 @@ endif()
 
 # gesturewidget_defaults(TARGET [WITHOUT_WIDGETS] [TEST]): language, warnings, Qt's generators and the
 # rules for this project's sources. Sources include a file by its path from the project's root. Targets
-# that do not link Qt Widgets say so. A TEST links Qt Test and is compiled without optimisation.
+# that do not link Qt Widgets say so. A TEST is compiled without optimisation.
 function(gesturewidget_defaults target)
   cmake_parse_arguments(arg "WITHOUT_WIDGETS;TEST" "" "" ${ARGN})
   set_target_properties(${target} PROPERTIES
@@ -84,8 +84,8 @@ if(GESTUREWIDGET_PRECOMPILE)
   gesturewidget_precompile(gesturewidget_precompiled HEADERS ${headers} LIBRARIES Widgets)
   if(GESTUREWIDGET_TESTS)
     gesturewidget_precompile(gesturewidget_precompiled_tests
-      HEADERS ${headers} <QProcess> <QSignalSpy> <QTableView> <QTemporaryDir> <QTest>
-      LIBRARIES Widgets Test OPTIONS -O0)
+      HEADERS ${headers} <QProcess> <QTableView> <QTemporaryDir>
+      LIBRARIES Widgets OPTIONS -O0)
   endif()
 endif()
 

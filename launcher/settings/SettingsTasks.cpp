@@ -83,6 +83,19 @@ SettingsFile::Values ringValues(const QString &task, const Bindings &ring)
     return ringsettings::ownRing({}, task, keysOf(ring), {});
 }
 
+// Adds the wanted values of a ring to `values`, and those that differ from the file's own to `change`.
+void addRing(const SettingsFile::Values &ring, const SettingsFile::Values &own,
+             SettingsFile::Values &values, SettingsChange &change)
+{
+    for (auto value = ring.cbegin(); value != ring.cend(); ++value) {
+        values.insert(value.key(), value.value());
+        if (own.contains(value.key()) && own.value(value.key()) == value.value())
+            continue;
+        change.ringsBefore.insert(value.key(), own.value(value.key()));
+        change.ringsAfter.insert(value.key(), value.value());
+    }
+}
+
 QString importedName()
 {
     return SettingsFile::nameOf(gesturewidget::settingsnames::hostSection(),
@@ -461,19 +474,12 @@ Outcome SettingsTasks::importText(const QByteArray &text, const QString &source,
                 bindings.trigger = before.trigger;
                 known = own.value(importedName()).split(QLatin1Char('\n'));
             }
-            SettingsChange made = changeBetween(before, bindings);
-            change.before = made.before;
-            change.after = made.after;
+            const SettingsChange shared = changeBetween(before, bindings);
+            change.before = shared.before;
+            change.after = shared.after;
             for (auto it = rings.cbegin(); it != rings.cend() && m_task.isEmpty(); ++it) {
                 imported.append(it.value());
-                const SettingsFile::Values ring = ringValues(it.key(), it.value());
-                for (auto value = ring.cbegin(); value != ring.cend(); ++value) {
-                    values.insert(value.key(), value.value());
-                    if (own.value(value.key()) == value.value() && own.contains(value.key()))
-                        continue;
-                    change.ringsBefore.insert(value.key(), own.value(value.key()));
-                    change.ringsAfter.insert(value.key(), value.value());
-                }
+                addRing(ringValues(it.key(), it.value()), own, values, change);
             }
             values.insert(importedName(), identifiersOf(imported, known));
             return values;
