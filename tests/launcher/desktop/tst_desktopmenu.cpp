@@ -108,7 +108,7 @@ private Q_SLOTS:
     void aProgramThatIsNotInstalled();
     void itsNameIsThatOfItsEntry();
     void whatIsNoEntryIsPassedOver();
-    void aLineEndIsNotAKey();
+    void damagedLinesStay();
     void onlyItsOwnCopiesAreRemoved();
 
 private:
@@ -505,7 +505,7 @@ void DesktopMenuTest::whatIsNoEntryIsPassedOver()
 }
 
 // Damaged lines of an entry stay as they are.
-void DesktopMenuTest::aLineEndIsNotAKey()
+void DesktopMenuTest::damagedLinesStay()
 {
     const QByteArray damage = "no key\n[half a group\nalso ]\n#Exec=draw\n";
     write("usr/applications/draw.desktop", entryFor("draw", damage));
