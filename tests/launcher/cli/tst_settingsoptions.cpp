@@ -286,7 +286,7 @@ private Q_SLOTS:
         task.caption = text("Cooking");
         QVERIFY(gesturewidget::CatalogueFile(
                     place(QStringLiteral("gesturewidget/launcher_fixture_direct.commands.json")))
-                    .write({task}));
+                    .merge({task}));
         expect(own, "");
         QVERIFY(expect({text("--bindings"), kProgram}, "").contains("ring of Cooking\n"));
     }
