@@ -100,6 +100,7 @@ private Q_SLOTS:
     void filterCondition();
     void sortingByDirectionPutsUnboundFirst();
     void sortingTextsIsCaseSensitiveAndStable();
+    void theSameOrderAgainIsNoWork();
     void sortsAgainWhenTheFilterIsApplied();
     void comparesTextsAsTheBaseClassDoes();
     void proxyAcceptsEveryRowOfAnotherModel();
@@ -759,6 +760,24 @@ void CommandTableModelTest::sortingTextsIsCaseSensitiveAndStable()
         m_dialog->ui.search_lineEdit->clear();
         QCOMPARE(m_dialog->shown(), names);
     }
+}
+
+// A table view asks twice for each order. Texts never change, but directions do.
+void CommandTableModelTest::theSameOrderAgainIsNoWork()
+{
+    MgCommandDSSortFilterProxyModel &proxy = *m_dialog->proxy;
+    for (const int column : {kCategory, kCommand}) {
+        proxy.sort(column, Qt::DescendingOrder);
+        const QSignalSpy sorted(&proxy, &QAbstractItemModel::layoutChanged);
+        proxy.sort(column, Qt::DescendingOrder);
+        QCOMPARE(sorted.count(), 0);
+        proxy.sort(column, Qt::AscendingOrder);
+        QVERIFY(sorted.count() > 0);
+    }
+    proxy.sort(kDirection, Qt::DescendingOrder);
+    const QSignalSpy sorted(&proxy, &QAbstractItemModel::layoutChanged);
+    proxy.sort(kDirection, Qt::DescendingOrder);
+    QVERIFY(sorted.count() > 0);
 }
 
 void CommandTableModelTest::sortsAgainWhenTheFilterIsApplied()
