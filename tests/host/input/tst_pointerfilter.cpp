@@ -221,6 +221,7 @@ private Q_SLOTS:
     void aTouchIsNotAPen();
     void aPenComesAfterTheHeldPress();
     void aPenAndAWheelOfTheProgramPass();
+    void aProgramWithoutDrawingsGetsItsPress();
     void pressIsNotHeldBack_data();
     void pressIsNotHeldBack();
     void twentyPixelsAreNoGesture();
@@ -255,6 +256,7 @@ private Q_SLOTS:
     void overlayThatLosesTheMouseIsStopped();
     void overlayThatIsDestroyedIsNotReplaced();
     void overlayDestroyedByItsRelease();
+    void anOverlayThatStopsEndsTheGesture();
     void aPostedMovementEndsAStoppedGesture();
     void filterDestroyedDuringTheReplay();
     void filterDestroyedByTheRest();
@@ -850,6 +852,19 @@ void PointerFilterTest::aPenAndAWheelOfTheProgramPass()
     QCoreApplication::sendEvent(desk.view, &wheel);
     QCOMPARE(desk.view->log.size(), 2);
     QCOMPARE(desk.state(), PointerFilter::State::Holding);
+    desk.release(kPress);
+}
+
+void PointerFilterTest::aProgramWithoutDrawingsGetsItsPress()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.filter = std::make_unique<PointerFilter>(desk.documents, desk.trigger,
+                                                  [](const QWidget *) { return true; });
+    qApp->installEventFilter(desk.filter.get());
+    desk.press(kPress);
+    QCOMPARE(desk.view->log.filter(QStringLiteral("MouseButtonPress")).size(), 1);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
     desk.release(kPress);
 }
 
@@ -1458,6 +1473,21 @@ void PointerFilterTest::overlayDestroyedByItsRelease()
     desk.filter->cancel();
     QVERIFY(!QWidget::mouseGrabber());
     QVERIFY(!desk.tracker.overlay->isVisible());
+    desk.release(kPress + QPoint(30, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+// Also if no event of the mouse follows.
+void PointerFilterTest::anOverlayThatStopsEndsTheGesture()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    desk.tracker.overlay->stop(true);
+    QTRY_COMPARE(desk.tracker.stops, 1);
+    QCOMPARE(desk.tracker.commands, 1);
     desk.release(kPress + QPoint(30, 0));
     QCOMPARE(desk.state(), PointerFilter::State::Idle);
 }
