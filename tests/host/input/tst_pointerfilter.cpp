@@ -238,6 +238,7 @@ private Q_SLOTS:
     void endIsToldThoughAPopupIsOpen();
     void aDragWithoutOverlayIsSwallowed();
     void anotherPressEndsAGestureWithoutOverlay();
+    void aPressAfterALostReleaseEndsAGestureWithoutOverlay();
     void anOverlayThatComesWithTheEndIsStopped();
     void aTrackerMayCancel_data();
     void aTrackerMayCancel();
@@ -1141,6 +1142,33 @@ void PointerFilterTest::anotherPressEndsAGestureWithoutOverlay()
     QCOMPARE(desk.view->log.filter(QStringLiteral("MouseButton")), QStringList());
 }
 
+// No button was held before it, as the tracker learns.
+void PointerFilterTest::aPressAfterALostReleaseEndsAGestureWithoutOverlay()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.move(kPress);
+    FreeTracker tracker;
+    QVector<bool> held;
+    tracker.onUpdate = [&held](int, CHxHitTestInfo &hit) {
+        held << hit.IsButtonHeld();
+        if (hit.IsMotion())
+            hit.NotifyDrag();
+    };
+    desk.addFilter();
+    desk.document->inputPoints().RemoveTracker(&desk.tracker);
+    desk.document->inputPoints().AddTracker(&tracker, 0);
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Gesturing);
+    held.clear();
+    desk.press(kPress + QPoint(30, 0));
+    QCOMPARE(held, (QVector<bool>{false, true})); // the end, and the new press
+    QCOMPARE(desk.state(), PointerFilter::State::Holding);
+    desk.release(kPress + QPoint(30, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
 // It would wait for a release that has already happened.
 void PointerFilterTest::anOverlayThatComesWithTheEndIsStopped()
 {
@@ -1194,7 +1222,10 @@ void PointerFilterTest::aTrackerMayCancel()
     desk.document->inputPoints().RemoveTracker(&desk.tracker);
     desk.document->inputPoints().AddTracker(&tracker, 0);
     desk.press(kPress);
+    desk.view->log.clear();
     desk.move(kPress + QPoint(30, 0));
+    // Only a movement after the end is the program's.
+    QCOMPARE(desk.view->log.filter(QStringLiteral("MouseMove")).size(), update == 1 ? 1 : 0);
     QCOMPARE(desk.state(), update == 3 ? PointerFilter::State::Swallowing : PointerFilter::State::Idle);
     desk.release(kPress + QPoint(30, 0));
     QCOMPARE(desk.state(), PointerFilter::State::Idle);
@@ -1726,11 +1757,16 @@ void PointerFilterTest::aDocumentThatClosesWhenItBecomesActive()
     desk.documents.AddReactor(&closer);
     QTest::mouseMove(desk.window.windowHandle(), QPoint(350, 50));
     const int presses = desk.tracker.presses;
+    int seen = 0;
+    const Observer observer(&desk.window, [&seen](QObject *, const QEvent *event) {
+        seen += event->type() == QEvent::MouseButtonPress ? 1 : 0;
+    });
     QTest::mousePress(desk.window.windowHandle(), Qt::RightButton, {}, QPoint(350, 50));
     desk.documents.RemoveReactor(&closer);
     QVERIFY(!closer.view);
     QCOMPARE(desk.state(), PointerFilter::State::Idle);
     QCOMPARE(desk.tracker.presses, presses);
+    QCOMPARE(seen, 1);
     QTest::mouseRelease(desk.window.windowHandle(), Qt::RightButton, {}, QPoint(350, 50));
 }
 
