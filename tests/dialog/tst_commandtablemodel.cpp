@@ -765,19 +765,23 @@ void CommandTableModelTest::sortingTextsIsCaseSensitiveAndStable()
 // A table view asks twice for each order. Texts never change, but directions do.
 void CommandTableModelTest::theSameOrderAgainIsNoWork()
 {
+    open("8");
     MgCommandDSSortFilterProxyModel &proxy = *m_dialog->proxy;
+    int sorted = 0;
+    connect(&proxy, &QAbstractItemModel::layoutChanged, this, [&sorted] { ++sorted; });
     for (const int column : {kCategory, kCommand}) {
         proxy.sort(column, Qt::DescendingOrder);
-        const QSignalSpy sorted(&proxy, &QAbstractItemModel::layoutChanged);
+        sorted = 0;
         proxy.sort(column, Qt::DescendingOrder);
-        QCOMPARE(sorted.count(), 0);
+        QCOMPARE(sorted, 0);
         proxy.sort(column, Qt::AscendingOrder);
-        QVERIFY(sorted.count() > 0);
+        QVERIFY(sorted > 0);
     }
     proxy.sort(kDirection, Qt::DescendingOrder);
-    const QSignalSpy sorted(&proxy, &QAbstractItemModel::layoutChanged);
+    sorted = 0;
     proxy.sort(kDirection, Qt::DescendingOrder);
-    QVERIFY(sorted.count() > 0);
+    QVERIFY(sorted > 0);
+    proxy.disconnect(this);
 }
 
 void CommandTableModelTest::sortsAgainWhenTheFilterIsApplied()
