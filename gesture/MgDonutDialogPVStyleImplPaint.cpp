@@ -161,7 +161,7 @@ void MgDonutDialogPVStyleImpl::paint(QPaintEvent *event)
         if (i == activeArc)
             continue;
         painter.save();
-        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setRenderHint(QPainter::Antialiasing); // on already; meant
         drawLabelOf(&painter, i, kCutLength);
         painter.restore();
     }

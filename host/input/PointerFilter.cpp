@@ -128,9 +128,9 @@ bool PointerFilter::filterWindow(QWindow *window, const QMouseEvent &event)
     case State::Gesturing:
         return filterGesturing(window, event);
     case State::Swallowing:
-        return filterSwallowing(window, event);
+        break;
     }
-    return false;
+    return filterSwallowing(window, event);
 }
 
 bool PointerFilter::isTriggerPress(const QMouseEvent &event) const

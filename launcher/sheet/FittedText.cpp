@@ -78,10 +78,7 @@ void FittedText::paint(QPainter &painter, const QRectF &box, Qt::Alignment align
     double y = box.center().y() - size.height() / 2.0;
     for (const QString &line : lines) {
         const double free = box.width() - metrics.horizontalAdvance(line);
-        const double x = box.left()
-                       + (alignment.testFlag(Qt::AlignHCenter) ? free / 2.0
-                          : alignment.testFlag(Qt::AlignRight) ? free
-                                                               : 0.0);
+        const double x = box.left() + (alignment.testFlag(Qt::AlignHCenter) ? free / 2.0 : 0.0);
         painter.drawText(QPointF(x, y + metrics.ascent()), line);
         y += metrics.height();
     }

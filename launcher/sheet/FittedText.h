@@ -21,7 +21,8 @@ struct FittedText
     FittedText(const QString &text, QFont font, const QSizeF &box, int largest, int smallest,
                int lines = 1);
 
-    // Paints it in the vertical middle of `box`; `alignment` is the horizontal one.
+    // Paints it in the vertical middle of `box`: in the horizontal middle with Qt::AlignHCenter, from
+    // the left without.
     void paint(QPainter &painter, const QRectF &box, Qt::Alignment alignment) const;
 
     QFont font; // has the chosen size

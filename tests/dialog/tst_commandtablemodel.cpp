@@ -100,6 +100,7 @@ private Q_SLOTS:
     void filterCondition();
     void sortingByDirectionPutsUnboundFirst();
     void sortingTextsIsCaseSensitiveAndStable();
+    void theSameOrderAgainIsNoWork();
     void sortsAgainWhenTheFilterIsApplied();
     void comparesTextsAsTheBaseClassDoes();
     void proxyAcceptsEveryRowOfAnotherModel();
@@ -759,6 +760,28 @@ void CommandTableModelTest::sortingTextsIsCaseSensitiveAndStable()
         m_dialog->ui.search_lineEdit->clear();
         QCOMPARE(m_dialog->shown(), names);
     }
+}
+
+// A table view asks twice for each order. Texts never change, but directions do.
+void CommandTableModelTest::theSameOrderAgainIsNoWork()
+{
+    open("8");
+    MgCommandDSSortFilterProxyModel &proxy = *m_dialog->proxy;
+    int sorted = 0;
+    connect(&proxy, &QAbstractItemModel::layoutChanged, this, [&sorted] { ++sorted; });
+    for (const int column : {kCategory, kCommand}) {
+        proxy.sort(column, Qt::DescendingOrder);
+        sorted = 0;
+        proxy.sort(column, Qt::DescendingOrder);
+        QCOMPARE(sorted, 0);
+        proxy.sort(column, Qt::AscendingOrder);
+        QVERIFY(sorted > 0);
+    }
+    proxy.sort(kDirection, Qt::DescendingOrder);
+    sorted = 0;
+    proxy.sort(kDirection, Qt::DescendingOrder);
+    QVERIFY(sorted > 0);
+    proxy.disconnect(this);
 }
 
 void CommandTableModelTest::sortsAgainWhenTheFilterIsApplied()

@@ -54,6 +54,7 @@ private Q_SLOTS:
     void nameAndTip();
     void unboundSectorSaysNothing();
     void sameSectorIsToldOnce();
+    void everyGestureTellsItsFirstSector();
     void chosenSectorIsTold();
     void everyEndTakesItBack_data();
     void everyEndTakesItBack();
@@ -182,6 +183,17 @@ void ToldSectorTest::sameSectorIsToldOnce()
         m_bench->pointTo(donut, x, 0);
     QCOMPARE(m_bench->host.log.startingWith(QStringLiteral("text")).size(), 1);
     m_bench->release(donut.origin);
+}
+
+void ToldSectorTest::everyGestureTellsItsFirstSector()
+{
+    CountingDonut donut;
+    for (int gesture = 0; gesture < 3; ++gesture) {
+        m_bench->start(donut);
+        QCOMPARE(shown(), QStringLiteral("ZOOM_BOUNDS: Tip of ZOOM_BOUNDS"));
+        m_bench->release(donut.origin);
+        QCOMPARE(shown(), QString());
+    }
 }
 
 void ToldSectorTest::chosenSectorIsTold()

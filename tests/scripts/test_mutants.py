@@ -2,13 +2,18 @@
 # SPDX-FileCopyrightText: 2026 GestureWidget developers
 # SPDX-License-Identifier: MIT
 
-"""Tests which changes scripts/mutants makes, in small trees."""
+"""Tests which changes scripts/mutants makes, in small trees, and when it fails."""
 
+import contextlib
+import importlib.machinery
+import importlib.util
+import io
 import shutil
 import subprocess
 import tempfile
 import unittest
 from pathlib import Path
+from unittest import mock
 
 ROOT = Path(__file__).resolve().parents[2]
 
@@ -82,6 +87,48 @@ class Mutants(unittest.TestCase):
     def test_an_equivalent_one_needs_a_reason(self):
         with self.assertRaises(subprocess.CalledProcessError):
             self.made_of("return 0;", "bindings/A.cpp\nreturn 0;\n-> return 1;\n")
+
+
+class Verdict(unittest.TestCase):
+    """Runs the script with a stand-in for the building and testing."""
+
+    def run_with(self, *results):
+        """The status and the last line printed, if the mutants of a folder end with these results."""
+        with tempfile.TemporaryDirectory() as folder:
+            root = Path(folder)
+            (root / "scripts").mkdir()
+            (root / "bindings").mkdir()
+            shutil.copy(ROOT / "scripts" / "mutants", root / "scripts")
+            lines = "".join("    return 0;\n" for _ in results)  # a mutant each: 1
+            (root / "bindings" / "A.cpp").write_text(f"int f()\n{{\n{lines}}}\n")
+            loader = importlib.machinery.SourceFileLoader("mutants", str(root / "scripts" / "mutants"))
+            module = importlib.util.module_from_spec(importlib.util.spec_from_loader("mutants", loader))
+            with mock.patch.dict("sys.modules", mutants=module):
+                loader.exec_module(module)
+            bench = mock.Mock()
+            bench.return_value.judge.side_effect = results
+            printed = io.StringIO()
+            (root / "build").mkdir()
+            arguments = ["mutants", "--build", str(root / "build"), "--count", "0", "bindings"]
+            with mock.patch.object(module, "Bench", bench), mock.patch("sys.argv", arguments), \
+                    contextlib.redirect_stdout(printed):
+                status = module.main()
+        return status, printed.getvalue().splitlines()[-1]
+
+    def test_97_per_cent_is_enough(self):
+        status, line = self.run_with(*["killed by tst_a"] * 97, *["survived"] * 3)
+        self.assertEqual(status, 0)
+        self.assertTrue(line.startswith("bindings: 97 of 100 killed, 97.0 % of at least 97 %;"), line)
+
+    def test_less_fails(self):
+        status, line = self.run_with(*["killed by tst_a"] * 96, *["survived"] * 3)
+        self.assertEqual(status, 1)
+        self.assertTrue(line.startswith("bindings: 96 of 99 killed, 97.0 % of at least 97 %;"), line)
+
+    def test_what_does_not_compile_does_not_count(self):
+        status, line = self.run_with("killed by tst_a", *["does not compile"] * 9)
+        self.assertEqual(status, 0)
+        self.assertTrue(line.startswith("bindings: 1 of 1 killed, 100.0 % of at least 97 %; 9 do not"), line)
 
 
 if __name__ == "__main__":

@@ -120,6 +120,10 @@ private Q_SLOTS:
     void outlinesStandOut();
     void onlyTheRingsSizeHasAHalo();
     void theHaloStaysInsideTheSquare();
+    void softEdgesAreHardened_data();
+    void softEdgesAreHardened();
+    void allSidesOfAShapeCount_data();
+    void allSidesOfAShapeCount();
     void theLastPictureIsKept();
     void nothingIsNothing();
 };
@@ -243,6 +247,67 @@ void ContrastIconTest::theHaloStaysInsideTheSquare()
         QVERIFY(qAlpha(picture.pixel(edge - 1, middle)) > 200);
         QVERIFY(qGray(picture.pixel(edge - 1, middle)) > 200);
         QVERIFY(qAlpha(picture.pixel(0, middle)) < 200);
+    }
+}
+
+// A soft pixel over its own halo: from the halo's colour alone to the shape's colour alone.
+void ContrastIconTest::softEdgesAreHardened_data()
+{
+    QTest::addColumn<int>("alpha");
+    QTest::addColumn<int>("grey"); // of black over white
+    QTest::newRow("hardly there") << 51 << 255;
+    QTest::newRow("a little") << 71 << 205;
+    QTest::newRow("the middle") << 102 << 128;
+    QTest::newRow("nearly whole") << 152 << 3;
+    QTest::newRow("whole") << 153 << 0;
+    QTest::newRow("opaque") << 255 << 0;
+}
+
+void ContrastIconTest::softEdgesAreHardened()
+{
+    QFETCH(int, alpha);
+    QFETCH(int, grey);
+    QImage shape(20, 20, QImage::Format_ARGB32);
+    shape.fill(Qt::transparent);
+    for (int y = 4; y < 16; ++y) {
+        for (int x = 4; x < 16; ++x)
+            shape.setPixel(x, y, qRgba(0, 0, 0, x == 10 && y == 10 ? alpha : 255));
+    }
+    const QRgb seen = gesturewidget::withHalo(shape, 1).pixel(10, 10);
+    QCOMPARE(qAlpha(seen), 255);
+    QCOMPARE(qRed(seen), grey);
+}
+
+// The halo of a long bar is chosen by its long sides: each pixel that has the outside on one side
+// counts.
+void ContrastIconTest::allSidesOfAShapeCount_data()
+{
+    QTest::addColumn<bool>("isUpright");
+    QTest::newRow("upright") << true;
+    QTest::newRow("lying") << false;
+}
+
+void ContrastIconTest::allSidesOfAShapeCount()
+{
+    QFETCH(bool, isUpright);
+    constexpr int kLong = 104;
+    constexpr int kEnd = 2;
+    QImage shape(10, kLong, QImage::Format_ARGB32);
+    shape.fill(Qt::transparent);
+    for (int y = kEnd; y < kLong - kEnd; ++y) {
+        const bool isEnd = y == kEnd || y == kLong - kEnd - 1;
+        for (int x = 2; x < 8; ++x)
+            shape.setPixel(x, y, isEnd ? qRgb(255, 255, 255) : qRgb(0, 0, 0));
+    }
+    if (!isUpright)
+        shape = shape.transformed(QTransform().rotate(90));
+    const QImage seen = gesturewidget::withHalo(shape, 1);
+    // Light all around, also beside the light ends.
+    const QPoint besideTheEnd = isUpright ? QPoint(5, kEnd - 1) : QPoint(kEnd - 1, 5);
+    const QPoint besideTheMiddle = isUpright ? QPoint(1, kLong / 2) : QPoint(kLong / 2, 1);
+    for (const QPoint &place : {besideTheEnd, besideTheMiddle}) {
+        QCOMPARE(qAlpha(seen.pixel(place)), 255);
+        QCOMPARE(qRed(seen.pixel(place)), 255);
     }
 }
 

@@ -84,6 +84,8 @@ private Q_SLOTS:
     void namesOfActionsWithoutText();
     void readingAgainDoesNotWalkAgain();
     void changesAreReadBeforeSomebodyAsks();
+    void changesAreReadOnceAfterAWhile();
+    void aPictureIsDrawnOnceForItsAction();
     void nothingIsReadBeforeTheFirstReading();
     void manyEqualCaptionsAreNumbered();
     void changesAreSeen_data();
@@ -340,6 +342,45 @@ void HostCommandCatalogueTest::changesAreReadBeforeSomebodyAsks()
     QVERIFY(catalogue.find(QStringLiteral("drawEllipse")));
     QCOMPARE(listing(catalogue).last(), QStringLiteral("Drawing: drawArc"));
     QCOMPARE(prepared.count(), 1);
+}
+
+// A program that fills its menus makes many changes, so they are read together and later.
+void HostCommandCatalogueTest::changesAreReadOnceAfterAWhile()
+{
+    CommandCatalogue catalogue(m_window.get(), {});
+    catalogue.update();
+    QSignalSpy prepared(&catalogue, &CommandCatalogue::prepared);
+    QElapsedTimer timer;
+    timer.start();
+    DraftWindow::addAction(m_window->draw, "&Ellipse", "drawEllipse");
+    DraftWindow::addAction(m_window->draw, "&Spline", "drawSpline");
+    QVERIFY(prepared.wait());
+    // Qt's timers may be a twentieth early.
+    QVERIFY2(timer.elapsed() >= CommandCatalogue::kPreparationTime * 19 / 20,
+             qPrintable(QString::number(timer.elapsed())));
+    QVERIFY(!prepared.wait(2 * CommandCatalogue::kPreparationTime));
+    QCOMPARE(prepared.count(), 1);
+}
+
+// Most changes of an action are not of its picture, which takes long to draw.
+void HostCommandCatalogueTest::aPictureIsDrawnOnceForItsAction()
+{
+    QPixmap picture(20, 20);
+    picture.fill(Qt::red);
+    m_window->line->setIcon(picture);
+    CommandCatalogue catalogue(m_window.get(), {});
+    catalogue.update();
+    const CHxUICommandItem *item = catalogue.find(QStringLiteral("drawLine"));
+    const qint64 before = item->GetSmallIcon().cacheKey();
+    QVERIFY(before != 0);
+    m_window->line->setText(QStringLiteral("&Segment"));
+    catalogue.update();
+    QCOMPARE(text(item->GetCaption()), QStringLiteral("Segment"));
+    QCOMPARE(item->GetSmallIcon().cacheKey(), before);
+    picture.fill(Qt::blue);
+    m_window->line->setIcon(picture);
+    catalogue.update();
+    QVERIFY(item->GetSmallIcon().cacheKey() != before);
 }
 
 // While a program starts, its menus are not complete. Guesses would come too early.

@@ -132,6 +132,29 @@ void ListEntriesTest::menus_data()
         "Close | 1 Point | 2 Points");
     row("the title of the window", entry("plan - Draft"), "Close");
     row(
+        "a window inside that holds nothing",
+        [](Program &p) {
+            p.area.addSubWindow(new QMdiSubWindow)->setWindowTitle(QStringLiteral("Untitled project"));
+            p.menu->addAction(QStringLiteral("Untitled project"));
+        },
+        "Close");
+    row(
+        "a title that begins with the mark of a change",
+        [](Program &p) {
+            p.window.setWindowTitle(QStringLiteral("**Untitled project"));
+            p.menu->addAction(QStringLiteral("Untitled project"));
+            p.menu->addAction(QStringLiteral("*Untitled project**"));
+        },
+        "Close");
+    row(
+        "a command with an icon alone, among recent documents",
+        [](Program &p) {
+            QAction *clear = p.submenu("Open &Recent")->addAction(QString());
+            clear->setToolTip(QStringLiteral("Clear"));
+            clear->setObjectName(QStringLiteral("clearRecent"));
+        },
+        "Close | Open Recent > Clear");
+    row(
         "the title of a window inside",
         [](Program &p) {
             p.area.addSubWindow(new QWidget)->setWindowTitle(QStringLiteral("Untitled project[*]"));

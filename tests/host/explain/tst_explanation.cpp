@@ -17,6 +17,7 @@
 #include <QGraphicsView>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QLabel>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -37,6 +38,11 @@ class ExplainedCanvas : public QWidget
     Q_OBJECT
 };
 
+class ExplainedScene : public QGraphicsView
+{
+    Q_OBJECT
+};
+
 class ExplanationTest : public QObject
 {
     Q_OBJECT
@@ -49,10 +55,13 @@ private Q_SLOTS:
     void viewsOfItsOwnClass();
     void viewsOfAClassOfQt();
     void viewsThatAProfileNames();
+    void aViewThatInheritsANamedClass();
     void whatIsNoView();
     void aTriggerThatFollowsASetting();
+    void onlyTheLargestAreTold();
     void toolsMenus();
     void commands();
+    void anActionCalledLikeTheCommand();
     void commandsThatAProfileNames();
     void tellsOnceTheMenusAreComplete();
     void tellsWhatChangesOnly();
@@ -198,6 +207,17 @@ void ExplanationTest::viewsThatAProfileNames()
              QStringList({QStringLiteral("Other"), QStringLiteral("QGraphicsView")}));
 }
 
+void ExplanationTest::aViewThatInheritsANamedClass()
+{
+    m_profile.viewClasses = QStringList{QStringLiteral("QGraphicsView")};
+    explain();
+    QWidget *view = show(new ExplainedScene);
+    m_explanation->addView(gesturewidget::ViewFinder::pointerWidget(view));
+    QVERIFY2(says("view: ExplainedScene, since the profile names its class QGraphicsView"),
+             qPrintable(lines()));
+    QCOMPARE(reported().viewClasses, QStringList(QStringLiteral("QGraphicsView")));
+}
+
 void ExplanationTest::whatIsNoView()
 {
     auto *plain = new QFrame;
@@ -225,6 +245,39 @@ void ExplanationTest::aTriggerThatFollowsASetting()
     const QJsonObject profile = m_explanation->report().value(QStringLiteral("profile")).toObject();
     QCOMPARE(profile.value(QStringLiteral("trigger")), QJsonValue(fixed));
     QCOMPARE(profile.value(QStringLiteral("triggerBySetting")), QJsonValue(setting));
+}
+
+// Of equal ones, in the order of their classes.
+void ExplanationTest::onlyTheLargestAreTold()
+{
+    auto *central = new QWidget;
+    const auto add = [central](QWidget *widget, const char *name, int width, int height) {
+        widget->setObjectName(QString::fromLatin1(name));
+        widget->setParent(central);
+        widget->setGeometry(0, 0, width, height);
+        return widget;
+    };
+    add(new QLabel, "narrow", 99, 400);
+    add(new QLabel, "low", 400, 99);
+    add(new QLabel, "least", 100, 100);
+    add(new QLabel, "third", 150, 150);
+    add(new QFrame, "second", 150, 150);
+    add(new QLabel, "first", 300, 160);
+    add(new QLabel, "fourth", 140, 140);
+    add(new QLabel, "fifth", 130, 130);
+    QWidget *hidden = add(new QLabel, "hidden", 350, 350);
+    hidden->setVisible(false);
+    central->setObjectName(QStringLiteral("all"));
+    m_window->setObjectName(QStringLiteral("window"));
+    show(central);
+    QStringList told;
+    const QStringList all = lines().split(QLatin1Char('\n'));
+    for (const QString &line : all) {
+        if (line.startsWith(QStringLiteral("no view: ")))
+            told << line.section(QLatin1Char('"'), 1, 1);
+    }
+    QCOMPARE(told, (QStringList{QStringLiteral("window"), QStringLiteral("all"), QStringLiteral("first"),
+                                QStringLiteral("second"), QStringLiteral("third")}));
 }
 
 void ExplanationTest::toolsMenus()
@@ -256,6 +309,14 @@ void ExplanationTest::commands()
     QCOMPARE(found.size(), 2);
     QCOMPARE(found.value(QStringLiteral("ID_LINE")), QStringList(QStringLiteral("drawLine")));
     QCOMPARE(found.value(QStringLiteral("ID_OPEN")), QStringList(QStringLiteral("fileOpen")));
+}
+
+void ExplanationTest::anActionCalledLikeTheCommand()
+{
+    DraftWindow::addAction(m_window->file, "&Save", "ID_SAVE");
+    QVERIFY2(says("ID_SAVE: ID_SAVE, since the action itself is called so"), qPrintable(lines()));
+    // A profile need not say that.
+    QVERIFY(!reported().wellKnownCommands.contains(QStringLiteral("ID_SAVE")));
 }
 
 void ExplanationTest::commandsThatAProfileNames()

@@ -5,7 +5,9 @@
 #include "tests/host/support/LoggingView.h"
 #include "tests/support/FatalWarnings.h"
 
+#include <QDialog>
 #include <QTest>
+#include <QWindow>
 
 using gesturewidget::HeldInput;
 
@@ -20,6 +22,9 @@ private Q_SLOTS:
 
     // A hand may tremble for hours before it drags.
     void keepsTheNewestOfTooManyMovements();
+    void aModalWindowKeepsInputFromOthers_data();
+    void aModalWindowKeepsInputFromOthers();
+    void aWindowThatIsGoneGetsNothing();
 };
 
 void HeldInputTest::keepsTheNewestOfTooManyMovements()
@@ -41,6 +46,80 @@ void HeldInputTest::keepsTheNewestOfTooManyMovements()
     QCOMPARE(moves.size(), int(HeldInput::kMostMovements) + 1);
     QVERIFY2(moves.first().contains(QStringLiteral(" at 1,50 ")), qPrintable(moves.first()));
     QVERIFY2(moves.last().contains(QStringLiteral(" at 0,150 ")), qPrintable(moves.last()));
+}
+
+// As Qt does with input from the window system.
+void HeldInputTest::aModalWindowKeepsInputFromOthers_data()
+{
+    QTest::addColumn<int>("modality");
+    QTest::addColumn<QString>("parent"); // of the dialog
+    QTest::addColumn<QString>("place"); // of the view
+    QTest::addColumn<bool>("isSeen");
+    const auto row = [](const char *name, Qt::WindowModality modality, const char *parent,
+                        const char *place, bool isSeen) {
+        QTest::newRow(name) << int(modality) << QString::fromLatin1(parent) << QString::fromLatin1(place)
+                            << isSeen;
+    };
+    row("no modality", Qt::NonModal, "window", "window", true);
+    row("of the program", Qt::ApplicationModal, "other", "window", false);
+    row("of its window", Qt::WindowModal, "window", "window", false);
+    row("of its window, nested", Qt::WindowModal, "window", "nested", false);
+    row("of another window", Qt::WindowModal, "other", "window", true);
+    row("the modal window itself", Qt::ApplicationModal, "other", "dialog", true);
+    row("a window of the modal one", Qt::ApplicationModal, "other", "child", true);
+}
+
+void HeldInputTest::aModalWindowKeepsInputFromOthers()
+{
+    QFETCH(int, modality);
+    QFETCH(QString, parent);
+    QFETCH(QString, place);
+    QFETCH(bool, isSeen);
+    QWidget window;
+    QWidget other;
+    QDialog dialog(parent == QStringLiteral("window") ? &window : &other);
+    dialog.setWindowModality(static_cast<Qt::WindowModality>(modality));
+    QDialog child(&dialog);
+    QWidget *home = place == QStringLiteral("dialog") ? &dialog
+                  : place == QStringLiteral("child")  ? &child
+                                                      : &window;
+    auto *view = new tests::LoggingView(home);
+    view->resize(100, 100);
+    if (place == QStringLiteral("nested"))
+        view->setAttribute(Qt::WA_NativeWindow);
+    for (QWidget *one :
+         {&window, &other, static_cast<QWidget *>(&dialog), static_cast<QWidget *>(&child)}) {
+        one->resize(200, 200);
+        one->show();
+        QVERIFY(QTest::qWaitForWindowExposed(one));
+    }
+    QWindow *target = view->windowHandle() ? view->windowHandle() : home->windowHandle();
+    QCOMPARE(view->windowHandle() != nullptr, place == QStringLiteral("nested"));
+    view->log.clear();
+    HeldInput held;
+    const QPointF at(50, 50);
+    held.hold(target, QMouseEvent(QEvent::MouseButtonPress, at, at, at, Qt::LeftButton, Qt::LeftButton,
+                                  Qt::NoModifier));
+    held.hold(target, QMouseEvent(QEvent::MouseButtonRelease, at, at, at, Qt::LeftButton, Qt::NoButton,
+                                  Qt::NoModifier));
+    held.replay();
+    QCOMPARE(view->log.filter(QStringLiteral("MouseButton")).size(), isSeen ? 2 : 0);
+    // Qt learns of the release in any case.
+    QCOMPARE(QGuiApplication::mouseButtons(), Qt::MouseButtons(Qt::NoButton));
+}
+
+void HeldInputTest::aWindowThatIsGoneGetsNothing()
+{
+    HeldInput held;
+    {
+        QWindow window;
+        const QPointF at(50, 50);
+        held.hold(&window, QMouseEvent(QEvent::MouseMove, at, at, at, Qt::NoButton, Qt::NoButton,
+                                       Qt::NoModifier));
+        held.hold(&window, QKeyEvent(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier));
+    }
+    held.replay();
+    QVERIFY(!held.hasRest());
 }
 
 QTEST_MAIN(HeldInputTest)

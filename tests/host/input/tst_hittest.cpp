@@ -60,6 +60,7 @@ private Q_SLOTS:
     void endOfAGestureIsNeverSuppressed();
     void notifications();
     void documentThatIsGone();
+    void withoutADocument();
 
 private:
     std::unique_ptr<QWidget> m_view;
@@ -301,6 +302,25 @@ void HitTestTest::documentThatIsGone()
     QCOMPARE(HitTest(m_document, m_trigger, motion).GetDocument(), nullptr);
     QVERIFY(HitTest(m_document, m_trigger, motion).IsViewBlocked());
     QVERIFY(!HitTest(m_document, m_trigger, seenAs(Kind::Press)).IsOverControl());
+}
+
+// A gesture may end after its document.
+void HitTestTest::withoutADocument()
+{
+    HitTest hit(nullptr, m_trigger, seenAs(Kind::Press));
+    QCOMPARE(hit.GetDocument(), nullptr);
+    QVERIFY(hit.IsViewBlocked());
+    QVERIFY(!hit.IsOverControl());
+    QVERIFY(!hit.IsModalWindowOpen());
+    QVERIFY(hit.isSuppressed());
+    // A dialog of any window may be above it.
+    QWidget window;
+    window.show();
+    QDialog dialog(&window);
+    dialog.setWindowModality(Qt::WindowModal);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(hit.IsModalWindowOpen());
 }
 
 QTEST_MAIN(HitTestTest)

@@ -3,6 +3,7 @@
 
 #include "host/documents/DocumentManager.h"
 #include "host/input/PointerFilter.h"
+#include "sdk/chx/CHxDocumentManagerReactor.h"
 #include "sdk/QtBridge.h"
 #include "tests/host/support/FakeTracker.h"
 #include "tests/host/support/LoggingView.h"
@@ -10,8 +11,11 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMetaEnum>
+#include <QScrollArea>
 #include <QTest>
 #include <QTimer>
 #include <QtTest/qtestspontaneevent.h>
@@ -19,12 +23,47 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 
 using gesturewidget::PointerFilter;
 
 namespace {
 
 const QPoint kPress(150, 150);
+
+// Logs what comes to an object, before the object gets it. For the application: after the filter, if
+// it was there first.
+class Observer : public QObject
+{
+public:
+    explicit Observer(QObject *observed, std::function<void(QObject *, QEvent *)> see)
+        : m_see(std::move(see))
+    {
+        observed->installEventFilter(this);
+    }
+    bool eventFilter(QObject *receiver, QEvent *event) override
+    {
+        m_see(receiver, event);
+        return false;
+    }
+
+private:
+    std::function<void(QObject *, QEvent *)> m_see;
+};
+
+// A tracker that a test may let do anything.
+class FreeTracker : public CHxTracker
+{
+public:
+    void Update(CHxTrackerContext *, CHxHitTestInfo *hit) override { onUpdate(++updates, *hit); }
+    void DrawTracker(CHxTrackerContext *, const CHxHitTestInfo *) const override { }
+    void DrawDDTracker(CHxTrackerContext *, const CHxHitTestInfo *) const override { }
+    [[nodiscard]] bool IsEager(const CHxHitTestInfo *) const override { return false; }
+    bool DoAction(const CHxHitTestInfo *) override { return false; }
+
+    std::function<void(int update, CHxHitTestInfo &hit)> onUpdate;
+    int updates = 0;
+};
 
 // A program with one view. A test can add the filter.
 class Desk
@@ -168,6 +207,8 @@ private Q_SLOTS:
     void menuStaysOpenUntilAnswered();
     void buttonsAreReportedAsHeldDuringTheReplay();
     void dialogOpenedByThePressBlocksTheRest();
+    void aMovementComesAfterTheRest();
+    void theProgramsOwnEventsPass();
 
     void pressIsHeldBack();
     void keysOfBeforeLetTheGestureBe();
@@ -178,6 +219,9 @@ private Q_SLOTS:
     void aPensSideButtonStartsAGesture();
     void aPenThatTheProgramHandlesDoesNot();
     void aTouchIsNotAPen();
+    void aPenComesAfterTheHeldPress();
+    void aPenAndAWheelOfTheProgramPass();
+    void aProgramWithoutDrawingsGetsItsPress();
     void pressIsNotHeldBack_data();
     void pressIsNotHeldBack();
     void twentyPixelsAreNoGesture();
@@ -192,6 +236,12 @@ private Q_SLOTS:
     void gesturesFollowEachOther();
     void gestureWithoutOverlayEndsWithTheRelease();
     void endIsToldThoughAPopupIsOpen();
+    void aDragWithoutOverlayIsSwallowed();
+    void anotherPressEndsAGestureWithoutOverlay();
+    void aPressAfterALostReleaseEndsAGestureWithoutOverlay();
+    void anOverlayThatComesWithTheEndIsStopped();
+    void aTrackerMayCancel_data();
+    void aTrackerMayCancel();
 
     void dragGivenToTheProgramStaysThere();
     void pressOfAnotherButtonGivesBack();
@@ -206,12 +256,19 @@ private Q_SLOTS:
     void overlayThatIgnoresTheReleaseIsForcedToLetGo();
     void overlayThatLosesTheMouseIsStopped();
     void overlayThatIsDestroyedIsNotReplaced();
+    void overlayDestroyedByItsRelease();
+    void anOverlayThatStopsEndsTheGesture();
+    void aPostedMovementEndsAStoppedGesture();
     void filterDestroyedDuringTheReplay();
+    void filterDestroyedByTheRest();
+    void filterDestroyedByAKeyOfBefore();
 
     void trackersSeeMovements();
     void viewLearnsPositionsInItsOwnPixels();
     void nestedWindowOfAView();
     void pressActivatesTheDocument();
+    void aScrollAreaGetsTheFocusOfItsView();
+    void aDocumentThatClosesWhenItBecomesActive();
 };
 
 void PointerFilterTest::programSeesPlainUseUnchanged_data()
@@ -531,6 +588,58 @@ void PointerFilterTest::dialogOpenedByThePressBlocksTheRest()
     QCOMPARE(desk.state(), PointerFilter::State::Idle);
 }
 
+// What the program gets while it handles the press comes after the release that was held with it.
+void PointerFilterTest::aMovementComesAfterTheRest()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.move(kPress);
+    desk.addFilter();
+    desk.view->onPress = [&desk] { desk.move(kPress + QPoint(3, 3)); };
+    desk.press(kPress);
+    desk.view->log.clear();
+    desk.release(kPress);
+    QStringList order;
+    for (const QString &line : std::as_const(desk.view->log))
+        order << line.section(QLatin1Char(' '), 0, 0);
+    order.removeAll(QStringLiteral("ContextMenu"));
+    order.removeAll(QStringLiteral("FocusIn"));
+    QCOMPARE(order, (QStringList{QStringLiteral("MouseButtonPress"),
+                                 QStringLiteral("MouseButtonRelease"), QStringLiteral("MouseMove")}));
+}
+
+// The filter looks at some events without keeping them.
+void PointerFilterTest::theProgramsOwnEventsPass()
+{
+    QStringList log;
+    const Observer observer(qApp, [&log](QObject *, const QEvent *event) {
+        log << QString::fromLatin1(
+            QMetaEnum::fromType<QEvent::Type>().valueToKey(static_cast<int>(event->type())));
+    });
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    QObject object;
+    QLabel label(&desk.window);
+    for (const QEvent::Type type :
+         {QEvent::Show, QEvent::Hide, QEvent::Close, QEvent::WindowBlocked, QEvent::WindowDeactivate,
+          QEvent::ApplicationStateChange, QEvent::ToolTipChange}) {
+        for (QObject *receiver : {static_cast<QObject *>(&label), &object}) {
+            log.clear();
+            QEvent event(type);
+            QCoreApplication::sendEvent(receiver, &event);
+            QCOMPARE(log, QStringList(QString::fromLatin1(
+                              QMetaEnum::fromType<QEvent::Type>().valueToKey(int(type)))));
+        }
+    }
+    for (QObject *receiver : {static_cast<QObject *>(&label), &object}) {
+        log.clear();
+        QFocusEvent event(QEvent::FocusIn);
+        QCoreApplication::sendEvent(receiver, &event);
+        QCOMPARE(log.first(), QStringLiteral("FocusIn"));
+    }
+}
+
 // A fast typist may not have released the last key when the drag begins.
 void PointerFilterTest::keysOfBeforeLetTheGestureBe()
 {
@@ -706,6 +815,58 @@ void PointerFilterTest::aTouchIsNotAPen()
     desk.penAsMouse(QEvent::MouseButtonPress, kPress, Qt::LeftButton, Qt::LeftButton);
     QCOMPARE(desk.state(), PointerFilter::State::Idle);
     desk.penAsMouse(QEvent::MouseButtonRelease, kPress, Qt::LeftButton, Qt::NoButton);
+}
+
+// The window gets a pen's event first, and a program may handle it there.
+void PointerFilterTest::aPenComesAfterTheHeldPress()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    int pressesBefore = -1;
+    const Observer observer(desk.window.windowHandle(), [&](QObject *, const QEvent *event) {
+        if (event->type() == QEvent::TabletPress)
+            pressesBefore = int(desk.view->log.filter(QStringLiteral("MouseButtonPress")).size());
+    });
+    desk.press(kPress);
+    desk.view->log.clear();
+    desk.pen(QEvent::TabletPress, kPress, Qt::LeftButton, Qt::LeftButton);
+    QCOMPARE(pressesBefore, 1);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    desk.pen(QEvent::TabletRelease, kPress, Qt::LeftButton, Qt::NoButton);
+    desk.release(kPress);
+}
+
+// What a program sends to its own widget was not made with a device during the press.
+void PointerFilterTest::aPenAndAWheelOfTheProgramPass()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.press(kPress);
+    desk.view->log.clear();
+    const auto pen =
+        qtbridge::tabletEvent(QEvent::TabletPress, kPress, kPress, Qt::LeftButton, Qt::LeftButton);
+    QCoreApplication::sendEvent(desk.view, pen.get());
+    QWheelEvent wheel(kPress, kPress, {}, QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(desk.view, &wheel);
+    QCOMPARE(desk.view->log.size(), 2);
+    QCOMPARE(desk.state(), PointerFilter::State::Holding);
+    desk.release(kPress);
+}
+
+void PointerFilterTest::aProgramWithoutDrawingsGetsItsPress()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.filter = std::make_unique<PointerFilter>(desk.documents, desk.trigger,
+                                                  [](const QWidget *) { return true; });
+    qApp->installEventFilter(desk.filter.get());
+    desk.press(kPress);
+    QCOMPARE(desk.view->log.filter(QStringLiteral("MouseButtonPress")).size(), 1);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    desk.release(kPress);
 }
 
 void PointerFilterTest::pressIsNotHeldBack_data()
@@ -942,6 +1103,141 @@ void PointerFilterTest::endIsToldThoughAPopupIsOpen()
     QTRY_COMPARE(desk.tracker.commands, 1);
     menu.close();
     desk.release(kPress + QPoint(110, 0));
+}
+
+// The press was not the program's, so the rest of the drag is not either.
+void PointerFilterTest::aDragWithoutOverlayIsSwallowed()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.tracker.showsOverlay = false;
+    desk.addFilter();
+    desk.press(kPress);
+    desk.view->log.clear();
+    int moves = 0; // that the program's window gets
+    const Observer observer(desk.window.windowHandle(), [&moves](QObject *, const QEvent *event) {
+        moves += event->type() == QEvent::MouseMove ? 1 : 0;
+    });
+    desk.move(kPress + QPoint(30, 0));
+    desk.move(kPress + QPoint(40, 0));
+    desk.move(kPress + QPoint(50, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Gesturing);
+    QCOMPARE(moves, 0);
+    QCOMPARE(desk.view->log, QStringList());
+    desk.release(kPress + QPoint(50, 0));
+    QCOMPARE(desk.view->log.filter(QStringLiteral("MouseButton")), QStringList());
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+void PointerFilterTest::anotherPressEndsAGestureWithoutOverlay()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.tracker.showsOverlay = false;
+    desk.addFilter();
+    desk.press(kPress);
+    desk.view->log.clear();
+    desk.move(kPress + QPoint(30, 0));
+    desk.press(kPress + QPoint(30, 0), Qt::LeftButton);
+    QCOMPARE(desk.state(), PointerFilter::State::Swallowing);
+    desk.release(kPress + QPoint(30, 0), Qt::LeftButton);
+    QCOMPARE(desk.state(), PointerFilter::State::Swallowing);
+    desk.release(kPress + QPoint(30, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    QCOMPARE(desk.view->log.filter(QStringLiteral("MouseButton")), QStringList());
+}
+
+// No button was held before it, as the tracker learns.
+void PointerFilterTest::aPressAfterALostReleaseEndsAGestureWithoutOverlay()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.move(kPress);
+    FreeTracker tracker;
+    QVector<bool> held;
+    tracker.onUpdate = [&held](int, CHxHitTestInfo &hit) {
+        held << hit.IsButtonHeld();
+        if (hit.IsMotion())
+            hit.NotifyDrag();
+    };
+    desk.addFilter();
+    desk.document->inputPoints().RemoveTracker(&desk.tracker);
+    desk.document->inputPoints().AddTracker(&tracker, 0);
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Gesturing);
+    held.clear();
+    desk.press(kPress + QPoint(30, 0));
+    QCOMPARE(held, (QVector<bool>{false, true})); // the end, and the new press
+    QCOMPARE(desk.state(), PointerFilter::State::Holding);
+    desk.release(kPress + QPoint(30, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+// It would wait for a release that has already happened.
+void PointerFilterTest::anOverlayThatComesWithTheEndIsStopped()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.move(kPress);
+    FreeTracker slow;
+    tests::FakeOverlay overlay;
+    slow.onUpdate = [&](int update, CHxHitTestInfo &hit) {
+        if (hit.IsMotion() && hit.IsButtonHeld())
+            hit.NotifyDrag();
+        if (update == 4) // after the press, the drag, and the start of the gesture
+            overlay.start();
+    };
+    desk.addFilter();
+    desk.document->inputPoints().RemoveTracker(&desk.tracker);
+    desk.document->inputPoints().AddTracker(&slow, 0);
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Gesturing);
+    desk.release(kPress + QPoint(30, 0));
+    QCOMPARE(slow.updates, 5); // it learns that its overlay has stopped
+    QVERIFY(!overlay.isVisible());
+    QVERIFY(!QWidget::mouseGrabber());
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+// A tracker may run anything of the host, and so end the gesture that is being shown to it.
+void PointerFilterTest::aTrackerMayCancel_data()
+{
+    QTest::addColumn<int>("update");
+    QTest::newRow("at the press") << 1;
+    QTest::newRow("at the drag") << 2;
+    QTest::newRow("at the start of the gesture") << 3;
+}
+
+void PointerFilterTest::aTrackerMayCancel()
+{
+    QFETCH(int, update);
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.move(kPress);
+    FreeTracker tracker;
+    tracker.onUpdate = [&](int number, CHxHitTestInfo &hit) {
+        if (hit.IsMotion())
+            hit.NotifyDrag();
+        if (number == update)
+            desk.filter->cancel();
+    };
+    desk.addFilter();
+    desk.document->inputPoints().RemoveTracker(&desk.tracker);
+    desk.document->inputPoints().AddTracker(&tracker, 0);
+    desk.press(kPress);
+    int moves = 0; // that the program's window gets
+    const Observer observer(desk.window.windowHandle(), [&moves](QObject *, const QEvent *event) {
+        moves += event->type() == QEvent::MouseMove ? 1 : 0;
+    });
+    desk.move(kPress + QPoint(30, 0));
+    // Only a movement after the end is the program's.
+    QCOMPARE(moves, update == 1 ? 1 : 0);
+    QCOMPARE(desk.state(), update == 3 ? PointerFilter::State::Swallowing : PointerFilter::State::Idle);
+    desk.release(kPress + QPoint(30, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    QVERIFY(!QWidget::mouseGrabber());
 }
 
 void PointerFilterTest::dragGivenToTheProgramStaysThere()
@@ -1185,6 +1481,83 @@ void PointerFilterTest::overlayThatIsDestroyedIsNotReplaced()
     desk.release(kPress + QPoint(30, 0));
 }
 
+void PointerFilterTest::overlayDestroyedByItsRelease()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    QVERIFY(desk.tracker.overlay->isOn);
+    // The program may destroy windows at any event.
+    class Destroyer : public QObject
+    {
+    public:
+        explicit Destroyer(Desk &desk)
+            : m_desk(desk)
+        {
+            qApp->installEventFilter(this);
+        }
+        bool eventFilter(QObject *receiver, QEvent *event) override
+        {
+            if (receiver != m_desk.tracker.overlay.get() || event->type() != QEvent::MouseButtonRelease)
+                return false;
+            m_desk.tracker.overlay = std::make_unique<tests::FakeOverlay>();
+            return true;
+        }
+
+    private:
+        Desk &m_desk;
+    } destroyer(desk);
+    desk.filter->cancel();
+    QVERIFY(!QWidget::mouseGrabber());
+    QVERIFY(!desk.tracker.overlay->isVisible());
+    desk.release(kPress + QPoint(30, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+// Also if no event of the mouse follows.
+void PointerFilterTest::anOverlayThatStopsEndsTheGesture()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    desk.tracker.overlay->stop(true);
+    QTRY_COMPARE(desk.tracker.stops, 1);
+    QCOMPARE(desk.tracker.commands, 1);
+    desk.release(kPress + QPoint(30, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+// The overlay posts a movement to the view when it stops, in case no other event follows.
+void PointerFilterTest::aPostedMovementEndsAStoppedGesture()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    QVERIFY(desk.tracker.overlay->isOn);
+    const auto post = [&desk] {
+        QMouseEvent event(QEvent::MouseMove, kPress, kPress, kPress, Qt::NoButton, Qt::RightButton,
+                          Qt::NoModifier);
+        QCoreApplication::sendEvent(desk.view, &event);
+    };
+    const int updates = desk.tracker.updates;
+    post(); // too early: the overlay is still on
+    QCOMPARE(desk.tracker.updates, updates); // the ring has the mouse, the trackers do not
+    QCOMPARE(desk.state(), PointerFilter::State::Gesturing);
+    QCOMPARE(desk.tracker.stops, 0);
+    desk.tracker.overlay->stop(true);
+    post();
+    QCOMPARE(desk.tracker.stops, 1);
+    QCOMPARE(desk.tracker.commands, 1);
+    desk.release(kPress + QPoint(30, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
 void PointerFilterTest::filterDestroyedDuringTheReplay()
 {
     Desk desk;
@@ -1196,6 +1569,52 @@ void PointerFilterTest::filterDestroyedDuringTheReplay()
     QVERIFY(!desk.filter);
     // The press that the program got was followed by its release.
     QCOMPARE(desk.view->log.filter(QStringLiteral("Release")).size(), 1);
+}
+
+// An event that comes while the program handles the press brings the rest, and what the program does
+// with that may destroy the filter. The event is then the program's.
+void PointerFilterTest::filterDestroyedByTheRest()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    const Observer observer(desk.view, [&desk](QObject *, const QEvent *event) {
+        if (event->type() == QEvent::MouseButtonRelease)
+            desk.filter.reset();
+    });
+    desk.view->onPress = [&desk] {
+        desk.view->onPress = {};
+        desk.press(kPress, Qt::LeftButton);
+    };
+    desk.press(kPress);
+    desk.view->log.clear();
+    desk.release(kPress);
+    QVERIFY(!desk.filter);
+    QCOMPARE(desk.view->log.filter(QStringLiteral("MouseButtonPress")).size(), 2);
+    desk.release(kPress, Qt::LeftButton);
+    QCOMPARE(desk.view->log.filter(QStringLiteral("MouseButtonRelease")).size(), 2);
+}
+
+// The keys of before go to the program when the gesture begins.
+void PointerFilterTest::filterDestroyedByAKeyOfBefore()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.view->setFocus();
+    QTest::keyPress(desk.window.windowHandle(), Qt::Key_L);
+    const Observer observer(desk.view, [&desk](QObject *, const QEvent *event) {
+        if (event->type() == QEvent::KeyRelease)
+            desk.filter.reset();
+    });
+    desk.press(kPress);
+    QTest::keyRelease(desk.window.windowHandle(), Qt::Key_L);
+    QVERIFY(desk.filter);
+    desk.move(kPress + QPoint(30, 0));
+    QVERIFY(!desk.filter);
+    QCOMPARE(desk.tracker.starts, 0);
+    QVERIFY(!desk.tracker.overlay->isVisible());
+    desk.release(kPress + QPoint(30, 0));
 }
 
 void PointerFilterTest::trackersSeeMovements()
@@ -1293,6 +1712,72 @@ void PointerFilterTest::pressActivatesTheDocument()
     desk.release(kPress);
     other.setFocus();
     QTRY_COMPARE(desk.documents.GetActiveDocument(), static_cast<CHxDocument *>(second));
+}
+
+// The area gets the focus, and its viewport is the view.
+void PointerFilterTest::aScrollAreaGetsTheFocusOfItsView()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    QScrollArea area(&desk.window);
+    area.setGeometry(330, 20, 60, 60);
+    area.show();
+    gesturewidget::Document *second = desk.documents.open(area.viewport());
+    desk.press(kPress, Qt::LeftButton);
+    desk.release(kPress, Qt::LeftButton);
+    QCOMPARE(desk.documents.GetActiveDocument(), static_cast<CHxDocument *>(desk.document));
+    area.setFocus();
+    QTRY_COMPARE(desk.documents.GetActiveDocument(), static_cast<CHxDocument *>(second));
+    // Other widgets have no document.
+    desk.control->setFocus();
+    QScrollArea other(&desk.window);
+    other.show();
+    other.setFocus();
+    QTRY_VERIFY(other.hasFocus());
+    QCOMPARE(desk.documents.GetActiveDocument(), static_cast<CHxDocument *>(second));
+}
+
+// A listener may close the view. Then the program gets the press.
+void PointerFilterTest::aDocumentThatClosesWhenItBecomesActive()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    auto *other = new tests::LoggingView(&desk.window);
+    other->setGeometry(330, 20, 60, 60);
+    other->show();
+    desk.addFilter();
+    gesturewidget::Document *second = desk.documents.open(other);
+    second->inputPoints().AddTracker(&desk.tracker, 0);
+    desk.press(kPress, Qt::LeftButton);
+    desk.release(kPress, Qt::LeftButton);
+    class Closer : public CHxDocumentManagerReactor
+    {
+    public:
+        void DocumentActivated(CHxDocument *document) override
+        {
+            if (document == second)
+                delete view;
+        }
+        CHxDocument *second = nullptr;
+        QPointer<QWidget> view;
+    } closer;
+    closer.second = second;
+    closer.view = other;
+    desk.documents.AddReactor(&closer);
+    QTest::mouseMove(desk.window.windowHandle(), QPoint(350, 50));
+    const int presses = desk.tracker.presses;
+    int seen = 0;
+    const Observer observer(&desk.window, [&seen](QObject *, const QEvent *event) {
+        seen += event->type() == QEvent::MouseButtonPress ? 1 : 0;
+    });
+    QTest::mousePress(desk.window.windowHandle(), Qt::RightButton, {}, QPoint(350, 50));
+    desk.documents.RemoveReactor(&closer);
+    QVERIFY(!closer.view);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    QCOMPARE(desk.tracker.presses, presses);
+    QCOMPARE(seen, 1);
+    QTest::mouseRelease(desk.window.windowHandle(), Qt::RightButton, {}, QPoint(350, 50));
 }
 
 QTEST_MAIN(PointerFilterTest)

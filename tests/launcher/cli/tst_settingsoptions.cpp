@@ -269,6 +269,47 @@ private Q_SLOTS:
         QCOMPARE(refused.errors.count('\n'), 1);
     }
 
+    void standardInputAndOutputThatFail()
+    {
+        expect({text("--bind"), kProgram, text("up-left"), text("DrawArc")}, "");
+        const QByteArray json = expect({text("--export"), kProgram}, "");
+        QProcess process;
+        process.setProcessEnvironment(environment());
+        const QString command = text("exec \"$0\" --import \"$1\" - </");
+        process.start(text("sh"), {text("-c"), command, QStringLiteral(MOUSE_GESTURES), kProgram});
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitCode(), 1);
+        QCOMPARE(process.readAllStandardError(),
+                 QByteArray("mouse-gestures: standard input cannot be read\n"));
+        QCOMPARE(expect({text("--export"), kProgram}, ""), json);
+
+        process.setStandardOutputFile(text("/dev/full"));
+        process.start(QStringLiteral(MOUSE_GESTURES), {text("--export"), kProgram});
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitCode(), 1);
+        QCOMPARE(process.readAllStandardError(),
+                 QByteArray("mouse-gestures: standard output cannot be written\n"));
+    }
+
+    // A workbench of the program is an entry of its menus; one without first bindings is known once
+    // the program has shown it.
+    void aTaskThatTheProgramHasShown()
+    {
+        write("gesturewidget/profiles/launcher_fixture_direct.json",
+              R"({"version": 1, "program": "launcher_fixture_direct",
+                  "tasks": {"checkedActionBeside": ["Sketching"]}})");
+        const QStringList own{text("--ring"), kProgram, text("Cooking"), text("own")};
+        QCOMPARE(run(own).status, 1);
+        gesturewidget::RememberedCommand task;
+        task.identifier = text("Cooking");
+        task.caption = text("Cooking");
+        QVERIFY(gesturewidget::CatalogueFile(
+                    place(QStringLiteral("gesturewidget/launcher_fixture_direct.commands.json")))
+                    .merge({task}));
+        expect(own, "");
+        QVERIFY(expect({text("--bindings"), kProgram}, "").contains("ring of Cooking\n"));
+    }
+
     void commandsThatWereShown()
     {
         const Outcome before = run({text("--list-commands"), kProgram});
@@ -398,7 +439,7 @@ private:
         QVERIFY(!QFile::exists(place(QStringLiteral("x.pdf"))));
     }
 
-    Outcome run(const QStringList &arguments, const QByteArray &input = {}, bool isMerged = false) const
+    QProcessEnvironment environment() const
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_folder->path());
@@ -406,8 +447,13 @@ private:
         environment.insert(QStringLiteral("XDG_DATA_DIRS"), place(QStringLiteral("usr")));
         for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "XDG_SESSION_TYPE"})
             environment.remove(QLatin1String(name));
+        return environment;
+    }
+
+    Outcome run(const QStringList &arguments, const QByteArray &input = {}, bool isMerged = false) const
+    {
         QProcess process;
-        process.setProcessEnvironment(environment);
+        process.setProcessEnvironment(environment());
         if (isMerged)
             process.setProcessChannelMode(QProcess::MergedChannels);
         process.start(QStringLiteral(MOUSE_GESTURES), arguments);

@@ -84,6 +84,8 @@ private Q_SLOTS:
     void aNewerEntryIsCopiedAnew();
     void anEntryOfAnotherName();
     void theOnlyEntryIsSomebodysOwn();
+    void ownEntriesOfOtherPrograms_data();
+    void ownEntriesOfOtherPrograms();
     void somebodysOwnFileStays_data();
     void somebodysOwnFileStays();
     void tryExecIsKept();
@@ -92,6 +94,7 @@ private Q_SLOTS:
     void aCopyOfAnotherProgramNameGoesWithItsEntry();
     void anEntryOfTheSameIdentifierStays();
     void allCopiesOrNone();
+    void aNewCopyGoesIfTheNextCannotBeWritten();
     void aProgramThatIsStartedByTheBus();
     void foundByItsFile_data();
     void foundByItsFile();
@@ -102,6 +105,10 @@ private Q_SLOTS:
     void notFound();
     void whatCannotBeWrittenIsSaid();
     void aProgramThatIsGone();
+    void aProgramThatIsNotInstalled();
+    void itsNameIsThatOfItsEntry();
+    void whatIsNoEntryIsPassedOver();
+    void damagedLinesStay();
     void onlyItsOwnCopiesAreRemoved();
 
 private:
@@ -199,6 +206,28 @@ void DesktopMenuTest::theOnlyEntryIsSomebodysOwn()
     QVERIFY2(outcome.complaint.contains(QStringLiteral("mine.desktop is your own and stays")),
              qPrintable(outcome.complaint));
     QCOMPARE(content("home/applications/mine.desktop"), entryFor("draw --mine"));
+}
+
+// None of them is in the way, and none starts the program.
+void DesktopMenuTest::ownEntriesOfOtherPrograms_data()
+{
+    QTest::addColumn<QByteArray>("own");
+    QTest::newRow("another program") << entryFor("browse");
+    QTest::newRow("a program that is missing") << entryFor("erased");
+    QTest::newRow("a command that cannot be read") << entryFor("\"draw");
+    QTest::newRow("a copy of ours") << entryFor("browse", "X-MouseGestures=true\n");
+    QTest::newRow("no entry") << QByteArray("draw\n");
+}
+
+void DesktopMenuTest::ownEntriesOfOtherPrograms()
+{
+    QFETCH(QByteArray, own);
+    write("home/applications/own.desktop", own);
+    QCOMPARE(menu().enable("draw", draw()).complaint,
+             QStringLiteral("draw: the desktop has no entry that starts it"));
+    write("usr/applications/draw.desktop", kEntry);
+    expectEnabled();
+    QCOMPARE(content("home/applications/own.desktop"), own);
 }
 
 void DesktopMenuTest::somebodysOwnFileStays_data()
@@ -321,6 +350,15 @@ void DesktopMenuTest::allCopiesOrNone()
     QCOMPARE(ownFiles(), QStringList({tests::text("a.desktop"), tests::text("sub")}));
 }
 
+void DesktopMenuTest::aNewCopyGoesIfTheNextCannotBeWritten()
+{
+    write("usr/applications/a.desktop", entryFor("draw --a"));
+    write("usr/applications/sub/c.desktop", entryFor("draw --c"));
+    write("home/applications/sub", "a file in place of the folder");
+    QVERIFY(!menu().enable("draw", draw()).isDone());
+    QCOMPARE(ownFiles(), QStringList(tests::text("sub")));
+}
+
 void DesktopMenuTest::aProgramThatIsStartedByTheBus()
 {
     write("usr/applications/draw.desktop", entryFor("draw", "DBusActivatable=true\n"));
@@ -432,6 +470,58 @@ void DesktopMenuTest::aProgramThatIsGone()
     QVERIFY(QFile::remove(place("bin/draw")));
     QVERIFY(menu().disable("draw", {}).output.contains("org.draw.desktop is removed"));
     QCOMPARE(ownFiles(), QStringList());
+}
+
+void DesktopMenuTest::aProgramThatIsNotInstalled()
+{
+    write("usr/applications/draw.desktop", entryFor("paint"));
+    write("usr/applications/browse.desktop", entryFor("browse"));
+    const Outcome outcome = menu().enable("draw", {});
+    QCOMPARE(outcome.complaint, QStringLiteral("draw: the desktop has no entry that starts it"));
+    QVERIFY(!QFileInfo::exists(m_places.own));
+    QVERIFY(!menu().isEnabled("draw", {}));
+}
+
+void DesktopMenuTest::itsNameIsThatOfItsEntry()
+{
+    QCOMPARE(menu().nameOf("draw", draw()), QString());
+    write("usr/applications/draw.desktop", kEntry);
+    QCOMPARE(menu().nameOf("draw", draw()), QStringLiteral("Draw"));
+    QVERIFY(!menu().isEnabled("draw", draw()));
+    expectEnabled();
+    QVERIFY(menu().isEnabled("draw", draw()));
+}
+
+void DesktopMenuTest::whatIsNoEntryIsPassedOver()
+{
+    write("usr/applications/a.desktop", "draw\n");
+    write("usr/applications/b.desktop", "[Desktop Entry]\nType=Directory\nExec=draw\n");
+    write("usr/applications/c.desktop", entryFor("draw", "NoDisplay=true\n"));
+    write("usr/applications/d.desktop", entryFor("draw"));
+    expectEnabled();
+    QCOMPARE(ownFiles(), QStringList({tests::text("c.desktop"), tests::text("d.desktop")}));
+    // The hidden one is not the shown one's double: one stays in the menu.
+    QVERIFY(!content("home/applications/d.desktop").contains("NoDisplay"));
+}
+
+// Damaged lines of an entry stay as they are.
+void DesktopMenuTest::damagedLinesStay()
+{
+    const QByteArray damage = "no key\n[half a group\nalso ]\n#Exec=draw\n";
+    write("usr/applications/draw.desktop", entryFor("draw", damage));
+    expectEnabled();
+    const QByteArray copy = content("home/applications/draw.desktop");
+    QVERIFY2(copy.contains(damage), copy.constData());
+    // What is added belongs to the entry.
+    DesktopFile file;
+    QVERIFY(file.read(place("home/applications/draw.desktop")));
+    QVERIFY(file.isOurs());
+    // Without a group for it, nothing can be added.
+    write("other.desktop", "Name=x\n");
+    DesktopFile other;
+    QVERIFY(!other.read(place("other.desktop")));
+    other.setValue("Name", "y");
+    QCOMPARE(other.content(), QByteArray("Name=x\n"));
 }
 
 void DesktopMenuTest::onlyItsOwnCopiesAreRemoved()

@@ -40,6 +40,7 @@ private Q_SLOTS:
     void anArgumentComesBack();
     void startsTheProgramAlone();
     void anyTextIsOneLine();
+    void anotherScriptIsNotOurs();
 };
 
 void ExecLineTest::reads_data()
@@ -70,6 +71,19 @@ void ExecLineTest::reads_data()
     row("env", "env LANG=C draw %F", "draw", {"%F"}, "env LANG=C /usr/bin/mg draw %F");
     row("env with options", "/usr/bin/env -u A -i \"B=c d\" draw", "draw", {},
         "/usr/bin/env -u A -i \"B=c d\" /usr/bin/mg draw");
+    row("env with long options", "env --unset A --chdir /tmp draw", "draw", {},
+        "env --unset A --chdir /tmp /usr/bin/mg draw");
+    row("env in a folder", "env -C /tmp draw %F", "draw", {"%F"}, "env -C /tmp /usr/bin/mg draw %F");
+    row("white space as every value may have it", R"(draw\t-x\n-y\r-z)", "draw", {"-x", "-y", "-z"},
+        R"(/usr/bin/mg draw\t-x\n-y\r-z)");
+    row("white space in quotes", R"(draw "a\tb\nc\rd" "'")", "draw", {"a\tb\nc\rd", "'"},
+        R"(/usr/bin/mg draw "a\tb\nc\rd" "'")");
+    row("a backslash in single quotes", R"(draw 'a\\b"')", "draw", {R"(a\b")"},
+        R"(/usr/bin/mg draw 'a\\b"')");
+    row("a backslash that quotes nothing", R"(draw "a\\qb")", "draw", {R"(a\qb)"},
+        R"(/usr/bin/mg draw "a\\qb")");
+    row("a backslash before a space", R"(draw a\\ b)", "draw", {"a b"}, R"(/usr/bin/mg draw a\\ b)");
+    row("a backslash at the end", R"(draw a\)", "draw", {R"(a\)"}, R"(/usr/bin/mg draw a\)");
     row("an unknown escape", R"(draw \q)", "draw", {"q"}, R"(/usr/bin/mg draw \q)");
     row("bytes of no encoding", "draw \xff\xfe", "draw", {"\xff\xfe"}, "/usr/bin/mg draw \xff\xfe");
 }
@@ -104,8 +118,8 @@ void ExecLineTest::reads()
 void ExecLineTest::whatIsNoCommand_data()
 {
     QTest::addColumn<QByteArray>("value");
-    for (const char *value :
-         {"", "   ", "\"draw", "draw 'x", "\"\" x", "env", "env A=b", "env -S 'draw x'", "env -u"})
+    for (const char *value : {"", "   ", "\"draw", "draw 'x", "\"\" x", "env", "env A=b",
+                              "env -S 'draw x'", "env --split-string='draw x'", "env -u", R"("draw\\")"})
         QTest::newRow(*value ? value : "nothing") << QByteArray(value);
 }
 
@@ -181,6 +195,14 @@ void ExecLineTest::anyTextIsOneLine()
     QCOMPARE(ExecLine::escaped("/opt/a\nb\\c\td\re"), QByteArray(R"(/opt/a\nb\\c\td\re)"));
     QCOMPARE(ExecLine::escaped(" x"), QByteArray(R"(\sx)"));
     QCOMPARE(ExecLine::escaped("/usr/bin/draw"), QByteArray("/usr/bin/draw"));
+}
+
+// A person's own line starts a shell too; what comes after its script is not a program.
+void ExecLineTest::anotherScriptIsNotOurs()
+{
+    const ExecLine line = ExecLine::parse(R"(/bin/sh -c "exec draw" name /opt/draw)");
+    QVERIFY(line.isValid);
+    QCOMPARE(line.startedProgram(), QByteArray("-c"));
 }
 
 QTEST_GUILESS_MAIN(ExecLineTest)

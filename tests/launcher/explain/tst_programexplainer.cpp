@@ -41,6 +41,8 @@ private Q_SLOTS:
     void throughAScript();
     void endedInTheEnd_data();
     void endedInTheEnd();
+    void aProgramThatEndsAfterItsReport();
+    void aProgramThatGoesOnReporting();
     void itsWindowIsClosedBefore_data();
     void itsWindowIsClosedBefore();
     void whatCannotBeExplained_data();
@@ -237,6 +239,34 @@ void ProgramExplainerTest::endedInTheEnd()
     QVERIFY(isGone(-number()));
 }
 
+void ProgramExplainerTest::aProgramThatEndsAfterItsReport()
+{
+    const QByteArray path = script(R"(s=${GESTUREWIDGET_EXPLAIN%:*}
+        echo '{"process":'$$',"profile":{"program":"odd"},"views":1,"lines":["a","b"]}' >&$s
+        echo '{"problem":"this comes too late"}' >&$s
+        exit 0
+)");
+    m_patience.more = 60000;
+    const ProgramExplanation found = explain(path, {path});
+    QCOMPARE(found.complaint, QString());
+    QCOMPARE(found.profile.value(QStringLiteral("program")).toString(), QStringLiteral("odd"));
+    QCOMPARE(found.lines, (QStringList{QStringLiteral("a"), QStringLiteral("b")}));
+}
+
+void ProgramExplainerTest::aProgramThatGoesOnReporting()
+{
+    const QByteArray path = script(R"(s=${GESTUREWIDGET_EXPLAIN%:*}
+        while echo '{"process":'$$',"profile":{"program":"odd"},"views":1}' >&$s; do sleep 0.1; done
+)");
+    m_patience.more = 60000;
+    m_patience.all = 500;
+    m_patience.end = 500;
+    const ProgramExplanation found = explain(path, {path});
+    QCOMPARE(found.complaint, QString());
+    QCOMPARE(found.profile.value(QStringLiteral("program")).toString(), QStringLiteral("odd"));
+    QVERIFY(isGone(number()));
+}
+
 // Programs that keep a session take any other end for a crash.
 void ProgramExplainerTest::itsWindowIsClosedBefore_data()
 {
@@ -269,6 +299,9 @@ void ProgramExplainerTest::whatCannotBeExplained_data()
         "it has shown no main window with menus in 2 seconds; a dialog may be waiting");
     row("no plug-in", "exec sleep 1000\n", "it has not loaded the plug-in in 2 seconds");
     row("no widgets", "exec '" GUEST "' without-widgets\n", "it has no widgets");
+    row("a message without an end",
+        "s=${GESTUREWIDGET_EXPLAIN%:*}; head -c 9000000 /dev/zero >&$s\nexit 4\n",
+        "it has not loaded the plug-in in 2 seconds");
     row("nonsense on the socket",
         "s=${GESTUREWIDGET_EXPLAIN%:*}; echo '[7]' >&$s; echo '{\"profile\":7}' >&$s\nexit 4\n",
         "it ended with status 4");

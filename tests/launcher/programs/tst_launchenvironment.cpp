@@ -105,6 +105,7 @@ private Q_SLOTS:
         };
         row("X11", "x11", "-", ":0", "-", "(unset)", false);
         row("bare X server", "-", "-", ":0", "-", "(unset)", false);
+        row("no desktop, without any variable", "-", "-", "-", "-", "(unset)", false);
         row("no desktop", "tty", "-", "-", "-", "(unset)", false);
         row("Wayland session", "wayland", "-", ":0", "-", "xcb", false);
         row("Wayland display", "-", "wayland-0", ":0", "-", "xcb", false);

@@ -12,6 +12,10 @@
 
 #include <elf.h>
 
+#include <cstring>
+#include <functional>
+#include <vector>
+
 using launcher::ElfFile;
 using launcher::QtWidgetsUse;
 
@@ -30,6 +34,80 @@ QByteArray contents(const QByteArray &path)
 {
     QFile file(QFile::decodeName(path));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+struct Bits32
+{
+    using Header = Elf32_Ehdr;
+    using Segment = Elf32_Phdr;
+    using Entry = Elf32_Dyn;
+    static constexpr char kClass = ELFCLASS32;
+};
+
+struct Bits64
+{
+    using Header = Elf64_Ehdr;
+    using Segment = Elf64_Phdr;
+    using Entry = Elf64_Dyn;
+    static constexpr char kClass = ELFCLASS64;
+};
+
+using Dynamic = QList<QPair<int, QByteArray>>; // tags and their strings
+
+template <class T> QByteArray bytesOf(const T &value)
+{
+    return {reinterpret_cast<const char *>(&value), int(sizeof value)};
+}
+
+// The smallest file that a loader would take for a program: two segments, the dynamic entries, and
+// their strings. `change` may alter the entries before they are written.
+template <class Bits>
+QByteArray elfOf(const Dynamic &dynamic,
+                 const std::function<void(std::vector<typename Bits::Entry> &)> &change = {})
+{
+    using Entry = typename Bits::Entry;
+    constexpr int kAddress = 0x10000; // where the whole file is loaded
+    QByteArray strings(1, '\0');
+    std::vector<Entry> entries;
+    const auto add = [&entries](int tag, int value) {
+        Entry entry = {};
+        entry.d_tag = tag;
+        entry.d_un.d_val = static_cast<decltype(entry.d_un.d_val)>(value);
+        entries.push_back(entry);
+    };
+    for (const auto &one : dynamic) {
+        add(one.first, int(strings.size()));
+        strings += one.second + '\0';
+    }
+    constexpr int kDynamicAt = sizeof(typename Bits::Header) + 2 * sizeof(typename Bits::Segment);
+    const int stringsAt = kDynamicAt + int((entries.size() + 3) * sizeof(Entry));
+    add(DT_STRTAB, kAddress + stringsAt);
+    add(DT_STRSZ, int(strings.size()));
+    add(DT_NULL, 0);
+    if (change)
+        change(entries);
+
+    typename Bits::Header header = {};
+    std::memcpy(header.e_ident, ELFMAG, SELFMAG);
+    header.e_ident[EI_CLASS] = Bits::kClass;
+    header.e_ident[EI_DATA] = Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? ELFDATA2LSB : ELFDATA2MSB;
+    header.e_type = ET_DYN;
+    header.e_machine = EM_386;
+    header.e_phoff = sizeof header;
+    header.e_phentsize = sizeof(typename Bits::Segment);
+    header.e_phnum = 2;
+    typename Bits::Segment whole = {};
+    whole.p_type = PT_LOAD;
+    whole.p_vaddr = kAddress;
+    whole.p_filesz = static_cast<decltype(whole.p_filesz)>(stringsAt + strings.size());
+    typename Bits::Segment table = {};
+    table.p_type = PT_DYNAMIC;
+    table.p_offset = kDynamicAt;
+    table.p_filesz = static_cast<decltype(table.p_filesz)>(entries.size() * sizeof(Entry));
+    QByteArray bytes = bytesOf(header) + bytesOf(whole) + bytesOf(table);
+    for (const Entry &entry : entries)
+        bytes += bytesOf(entry);
+    return bytes + strings;
 }
 
 } // namespace
@@ -55,6 +133,13 @@ private Q_SLOTS:
         QTest::newRow("linked to Qt Widgets") << fixture("direct") << kLinked;
         QTest::newRow("through its own library") << fixture("indirect") << kLinked;
         QTest::newRow("through a library beside it") << fixture("origin") << kLinked;
+        QTest::newRow("Qt 5, 32 bits")
+            << write("five", elfOf<Bits32>({{DT_NEEDED, "libQt5Widgets.so.5"}})) << QtWidgetsUse::Qt5;
+        QTest::newRow("Qt 6, 32 bits")
+            << write("six", elfOf<Bits32>({{DT_NEEDED, "libc.so.6"}, {DT_NEEDED, "libQt6Widgets.so.6"}}))
+            << QtWidgetsUse::Qt6;
+        QTest::newRow("Qt 6, 64 bits")
+            << write("six64", elfOf<Bits64>({{DT_NEEDED, "libQt6Widgets.so.6"}})) << QtWidgetsUse::Qt6;
         QTest::newRow("no Qt at all") << fixture("plain") << QtWidgetsUse::None;
         QTest::newRow("Qt Core only") << fixture("core") << QtWidgetsUse::None;
         QTest::newRow("script") << write("script", "#!/bin/sh\nexit 0\n") << QtWidgetsUse::Unknown;
@@ -100,6 +185,98 @@ private Q_SLOTS:
         const QByteArray path = QFile::encodeName(folder);
         QCOMPARE(launcher::qtWidgetsUse(moved, path, systemFolders()), QtWidgetsUse::None);
         QCOMPARE(launcher::qtWidgetsUse(moved, path + ":" FIXTURES, systemFolders()), kLinked);
+    }
+
+    // DT_RPATH counts for what a library needs too, DT_RUNPATH for the file itself only.
+    void libraryFoldersOfAProgram_data()
+    {
+        QTest::addColumn<int>("tag");
+        QTest::addColumn<QByteArray>("folders");
+        QTest::addColumn<QtWidgetsUse>("use");
+        QTest::newRow("rpath") << DT_RPATH << QByteArray("/nowhere:$ORIGIN/lib") << QtWidgetsUse::Qt6;
+        QTest::newRow("runpath") << DT_RUNPATH << QByteArray("${ORIGIN}/lib") << QtWidgetsUse::None;
+        QTest::newRow("empty rpath") << DT_RPATH << QByteArray() << QtWidgetsUse::None;
+        QTest::newRow("empty runpath") << DT_RUNPATH << QByteArray() << QtWidgetsUse::None;
+    }
+    void libraryFoldersOfAProgram()
+    {
+        QFETCH(int, tag);
+        QFETCH(QByteArray, folders);
+        QFETCH(QtWidgetsUse, use);
+        QVERIFY(QDir().mkpath(m_folder.filePath(QStringLiteral("lib"))));
+        write("lib/libouter.so", elfOf<Bits32>({{DT_NEEDED, "libinner.so"}}));
+        write("lib/libinner.so", elfOf<Bits32>({{DT_NEEDED, "libQt6Widgets.so.6"}}));
+        const QByteArray program =
+            write("program", elfOf<Bits32>({{DT_NEEDED, "libouter.so"}, {tag, folders}}));
+        QCOMPARE(launcher::qtWidgetsUse(program, {}, {}), use);
+    }
+
+    // The loader ignores a DT_RPATH beside a DT_RUNPATH.
+    void runpathReplacesRpath()
+    {
+        QVERIFY(QDir().mkpath(m_folder.filePath(QStringLiteral("lib"))));
+        write("lib/libqt.so", elfOf<Bits32>({{DT_NEEDED, "libQt6Widgets.so.6"}}));
+        const Dynamic both = {
+            {DT_NEEDED, "libqt.so"}, {DT_RPATH, "$ORIGIN/lib"}, {DT_RUNPATH, "/nowhere"}};
+        QCOMPARE(launcher::qtWidgetsUse(write("both", elfOf<Bits32>(both)), {}, {}), QtWidgetsUse::None);
+    }
+
+    void aLibraryMayBeNamedByItsPath()
+    {
+        const QByteArray library =
+            write("libbypath.so", elfOf<Bits32>({{DT_NEEDED, "libQt6Widgets.so.6"}}));
+        const QByteArray program = write("bypath", elfOf<Bits32>({{DT_NEEDED, library}}));
+        QCOMPARE(launcher::qtWidgetsUse(program, {}, {}), QtWidgetsUse::Qt6);
+    }
+
+    void libraryOfAnotherSizeIsPassedOver()
+    {
+        QVERIFY(QDir().mkpath(m_folder.filePath(QStringLiteral("wide"))));
+        QVERIFY(QDir().mkpath(m_folder.filePath(QStringLiteral("narrow"))));
+        write("wide/libqt.so", elfOf<Bits64>({{DT_NEEDED, "libQt6Widgets.so.6"}}));
+        write("narrow/libqt.so", "no library");
+        const QByteArray program = write("sized", elfOf<Bits32>({{DT_NEEDED, "libqt.so"}}));
+        const QByteArray wide = QFile::encodeName(m_folder.filePath(QStringLiteral("wide")));
+        const QByteArray narrow = QFile::encodeName(m_folder.filePath(QStringLiteral("narrow")));
+        QCOMPARE(launcher::qtWidgetsUse(program, wide + ':' + narrow, {}), QtWidgetsUse::None);
+        write("narrow/libqt.so", elfOf<Bits32>({{DT_NEEDED, "libQt6Widgets.so.6"}}));
+        QCOMPARE(launcher::qtWidgetsUse(program, wide + ':' + narrow, {}), QtWidgetsUse::Qt6);
+    }
+
+    // Each of them is an ELF file, but names no library.
+    void damagedEntries_data()
+    {
+        using Entries = std::vector<Bits32::Entry>;
+        QTest::addColumn<QByteArray>("bytes");
+        const Dynamic dynamic = {{DT_NEEDED, "libQt6Widgets.so.6"}};
+        const auto row = [&dynamic](const char *name, const std::function<void(Entries &)> &change) {
+            QTest::newRow(name) << elfOf<Bits32>(dynamic, change);
+        };
+        row("a name outside of the strings", [](Entries &entries) { entries[0].d_un.d_val = 9999; });
+        row("strings before the segment", [](Entries &entries) { entries[1].d_un.d_ptr = 1; });
+        row("strings behind the segment", [](Entries &entries) { entries[1].d_un.d_ptr = 0x7fffffff; });
+        row("strings behind the file", [](Entries &entries) { entries[2].d_un.d_val = 9999; });
+        row("more strings than any file has",
+            [](Entries &entries) { entries[2].d_un.d_val = 0x70000000; });
+        row("no strings", [](Entries &entries) { entries[2].d_un.d_val = 0; });
+        row("a name without an end", [](Entries &entries) { --entries[2].d_un.d_val; });
+        row("an end before the name",
+            [](Entries &entries) { entries.insert(entries.begin(), Bits32::Entry{}); });
+        row("of unknown entries only", [](Entries &entries) { entries[0].d_tag = DT_DEBUG; });
+        const QByteArray whole = elfOf<Bits32>(dynamic);
+        QTest::newRow("entries behind the file") << whole.left(sizeof(Elf32_Ehdr) + 64 + 8);
+        QByteArray other = whole;
+        other[EI_CLASS] = 7;
+        QTest::newRow("neither 32 nor 64 bits") << other;
+        other = whole;
+        other[EI_DATA] = 7;
+        QTest::newRow("another order of bytes") << other;
+    }
+    void damagedEntries()
+    {
+        QFETCH(QByteArray, bytes);
+        const ElfFile elf = ElfFile::read(write("damaged", bytes));
+        QVERIFY(elf.needed.isEmpty() || elf.needed == QList<QByteArray>{QByteArray()});
     }
 
     void headOfAProgram()

@@ -58,6 +58,8 @@ private Q_SLOTS:
     void nothingShownYet();
     void captions();
     void list();
+    void aLongIdentifierMovesNoOther();
+    void commandsWithoutAMenu();
     void listAsJson();
 };
 
@@ -152,6 +154,25 @@ void KnownCommandsTest::list()
                                         "  snapGrid                Snap > Grid\n"
                                         "  odd\n"
                                         "  Save                    Main > Save\n"));
+}
+
+void KnownCommandsTest::aLongIdentifierMovesNoOther()
+{
+    const QString longest = text("anIdentifier").repeated(4);
+    const KnownCommands known({{text("one"), {}, text("One"), {}, text("Draw"), {}, false},
+                               {longest, {}, text("Two"), {}, text("Draw"), {}, false}},
+                              {});
+    QCOMPARE(known.list(kProgram).output, "Draw\n  one  One\n  " + longest.toLatin1() + "  Two\n");
+}
+
+void KnownCommandsTest::commandsWithoutAMenu()
+{
+    const KnownCommands known({{text("one"), {}, text("Same"), {}, {}, {}, true},
+                               {text("two"), {}, text("Same"), {}, {}, {}, false}},
+                              {});
+    QString found;
+    QCOMPARE(known.resolve(text("same"), kProgram, found),
+             text("several commands are called \"same\": two, one"));
 }
 
 void KnownCommandsTest::listAsJson()

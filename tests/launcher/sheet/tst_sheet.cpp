@@ -13,11 +13,13 @@
 #include "tests/support/FatalWarnings.h"
 #include "tests/support/FolderTest.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFontMetricsF>
 #include <QImage>
 #include <QPainter>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -61,6 +63,7 @@ private Q_SLOTS:
     void nothingLeavesThePage_data();
     void nothingLeavesThePage();
     void anEmptyDirectionIsBlank();
+    void iconsAreDrawn();
     void passesAsJson();
     void whatIsNoContent_data();
     void whatIsNoContent();
@@ -69,6 +72,10 @@ private Q_SLOTS:
     void theSchemeInUse();
     void printed_data();
     void printed();
+    void anEmptyDirectionIsPrinted();
+    void aPrinterThatFails_data();
+    void aPrinterThatFails();
+    void aFullOutputIsNoticed();
     void whatCannotBePrinted();
 
 private:
@@ -200,6 +207,58 @@ void SheetTest::anEmptyDirectionIsBlank()
     QCOMPARE(sectorOf(wanted), blank);
 }
 
+// In the ring and in the table.
+void SheetTest::iconsAreDrawn()
+{
+    const QColor green(0, 200, 0);
+    QImage icon(16, 8, QImage::Format_RGB32);
+    icon.fill(green);
+    SheetContent wanted = content(4, text("Line"));
+    QBuffer png(&wanted.commands[2].icon);
+    QVERIFY(png.open(QIODevice::WriteOnly) && icon.save(&png, "PNG"));
+    const auto area = [&](const auto &painted) { // of what is green, as wide as it is high
+        QImage paper(800, 1200, QImage::Format_RGB32);
+        paper.fill(Qt::white);
+        QPainter painter(&paper);
+        painted.paint(painter, QRectF(paper.rect()));
+        painter.end();
+        QRect found;
+        for (int y = 0; y < paper.height(); ++y) {
+            for (int x = 0; x < paper.width(); ++x) {
+                if (paper.pixelColor(x, y) == green)
+                    found |= QRect(x, y, 1, 1);
+            }
+        }
+        return found;
+    };
+    struct Ring
+    {
+        const SheetContent &content;
+        void paint(QPainter &painter, const QRectF &page) const
+        {
+            sheet::RingPicture(content, QFont())
+                .paint(painter, QRectF(0, 0, page.width(), page.width()));
+        }
+    };
+    struct Page
+    {
+        const SheetContent &content;
+        void paint(QPainter &painter, const QRectF &page) const
+        {
+            sheet::SheetPainter(content).paint(painter, page, 4.0);
+        }
+    };
+    const QRect inRing = area(Ring{wanted});
+    QVERIFY(inRing.height() > 5);
+    // It keeps its shape, but for blurred edges.
+    QVERIFY(qAbs(inRing.width() - 2 * inRing.height()) <= 4);
+    const QRect onPage = area(Page{wanted});
+    QVERIFY(onPage.bottom() > 1200 - 9 * 4 * 3); // the table's third row of four
+    for (SheetContent::Command &command : wanted.commands)
+        command.icon = "no picture";
+    QCOMPARE(area(Page{wanted}), QRect());
+}
+
 void SheetTest::passesAsJson()
 {
     SheetContent before = content(8, text("Line, \"straight\" \xfc"));
@@ -245,6 +304,9 @@ void SheetTest::triggersInWords_data()
     QTest::newRow("right") << text("the right button");
     QTest::newRow("middle") << text("the middle button");
     QTest::newRow("ctrl+right") << text("Ctrl and the right button");
+    QTest::newRow("meta+back") << text("Meta and the back button");
+    QTest::newRow("forward") << text("the forward button");
+    QTest::newRow("fn+task") << text("fn and task"); // of a later version
     QTest::newRow("ctrl+shift+alt+left") << text("Ctrl, Shift, Alt and the left button");
 }
 
@@ -316,6 +378,55 @@ void SheetTest::printed()
     QCOMPARE(read.count("Draw"), count);
     QVERIFY(read.contains(count == 8 ? "down left" : "down"));
     QCOMPARE(read.count('\f'), 1); // one page
+}
+
+void SheetTest::anEmptyDirectionIsPrinted()
+{
+    SheetContent wanted = content(4, text("Line"));
+    wanted.commands[1].caption.clear();
+    const QString file = place("empty.pdf");
+    QVERIFY(launcher::printSheet(wanted, text(DRAWER), file).isDone());
+    QProcess reader;
+    reader.start(text("pdftotext"), {text("-layout"), file, text("-")});
+    QVERIFY2(reader.waitForFinished(), "pdftotext, of the package poppler-utils");
+    const QByteArray read = reader.readAllStandardOutput();
+    QVERIFY2(QRegularExpression(text("left +nothing\n")).match(QString::fromUtf8(read)).hasMatch(),
+             read.constData());
+    QCOMPARE(read.count("Draw"), 3); // no category without a command
+}
+
+void SheetTest::aPrinterThatFails_data()
+{
+    QTest::addColumn<QByteArray>("script");
+    QTest::newRow("crashes") << QByteArray("echo %PDF; kill -9 $$");
+    QTest::newRow("fails") << QByteArray("echo %PDF; exit 3");
+    QTest::newRow("says nothing") << QByteArray("exit 0");
+}
+
+void SheetTest::aPrinterThatFails()
+{
+    QFETCH(QByteArray, script);
+    QFile drawer(place("drawer"));
+    QVERIFY(drawer.open(QIODevice::WriteOnly));
+    QVERIFY(drawer.write("#!/bin/sh\ncat >/dev/null\necho why >&2\n" + script + '\n') > 0);
+    QVERIFY(drawer.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    drawer.close();
+    const launcher::Outcome outcome =
+        launcher::printSheet(content(4, text("Line")), drawer.fileName(), place("failed.pdf"));
+    QCOMPARE(outcome.complaint, text("the sheet could not be drawn: why"));
+    QVERIFY(!QFile::exists(place("failed.pdf")));
+}
+
+void SheetTest::aFullOutputIsNoticed()
+{
+    QProcess drawer;
+    drawer.setStandardOutputFile(text("/dev/full"));
+    drawer.start(text(DRAWER), QStringList());
+    drawer.write(content(4, text("Line")).toJson());
+    drawer.closeWriteChannel();
+    QVERIFY(drawer.waitForFinished());
+    QCOMPARE(drawer.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(drawer.exitCode(), 1);
 }
 
 void SheetTest::whatCannotBePrinted()
