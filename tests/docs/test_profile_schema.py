@@ -8,6 +8,7 @@ The cases are those of tst_programprofile. The profiles are all that the project
 """
 
 import json
+import re
 import sys
 from pathlib import Path
 
@@ -37,6 +38,14 @@ def main():
         expected = case["says"] == "" or case.get("beyondSchema", False)
         if is_valid(validator, text) != expected:
             wrong.append(f"{case['name']}: should be {'taken' if expected else 'refused'}")
+    # Each button that the program knows.
+    source = (ROOT / "host/files/TriggerText.cpp").read_text(encoding="utf-8")
+    buttons = re.findall(r'{"(\w+)", Qt::\w+Button}', source)
+    assert len(buttons) > 4
+    for button in buttons:
+        for member in ('"trigger": {"button": "%s"}', '"usedTriggers": ["ctrl+%s"]'):
+            if not is_valid(validator, '{"version": 1, "program": "drafter", %s}' % member % button):
+                wrong.append(f"{button}: should be taken in {member % button}")
     profiles = sorted((ROOT / "host/profiles").glob("*.json")) + [ROOT / "docs/examples/ipe.json"]
     assert len(profiles) > 5
     for path in profiles:
