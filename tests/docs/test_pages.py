@@ -44,6 +44,7 @@ NOT_RUN = {
     r"cmake --install": "the package tests do it",
     r"cmake (-S|--build) drafter|drafter/build/drafter":
         "the package tests build it against an installation; the test \"example\" starts it",
+    r"g\+\+ .*\$\(pkg-config ": "the package tests build a program in this way",
     r"scripts/(lint|flakes|fuzz|mutants|translations)\b": "takes long, or changes the sources",
     r"docs/(build|pictures)\b": "the build calls the first; the second needs real programs",
     r"clang-format ": "changes the sources; scripts/lint calls it",

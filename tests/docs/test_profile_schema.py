@@ -8,12 +8,13 @@ The cases are those of tst_programprofile. The profiles are all that the project
 """
 
 import json
+import re
 import sys
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(ROOT / "tests" / "support"))
-from schema_cases import misjudged, validator_of  # noqa: E402
+from schema_cases import is_valid, misjudged, validator_of  # noqa: E402
 
 
 def text_of(case):
@@ -24,6 +25,14 @@ def main():
     validator = validator_of(ROOT / "docs/profile.schema.json")
     count, wrong = misjudged(
         validator, ROOT / "tests/host/files/fixtures/profile-cases.json", text_of)
+    # Each button that the program knows.
+    source = (ROOT / "host/files/TriggerText.cpp").read_text(encoding="utf-8")
+    buttons = re.findall(r'{"(\w+)", Qt::\w+Button}', source)
+    assert len(buttons) > 4
+    for button in buttons:
+        for member in ('"trigger": {"button": "%s"}', '"usedTriggers": ["ctrl+%s"]'):
+            if not is_valid(validator, '{"version": 1, "program": "drafter", %s}' % member % button):
+                wrong.append(f"{button}: should be taken in {member % button}")
     profiles = sorted((ROOT / "host/profiles").glob("*.json")) + [ROOT / "docs/examples/ipe.json"]
     assert len(profiles) > 5
     for path in profiles:

@@ -27,12 +27,13 @@ def misjudged(validator, file, text_of):
     for case in cases:
         # A schema cannot express some of the rules.
         expected = case["says"] == "" or case.get("beyondSchema", False)
-        if _is_valid(validator, text_of(case)) != expected:
+        if is_valid(validator, text_of(case)) != expected:
             wrong.append(f"{case['name']}: should be {'taken' if expected else 'refused'}")
     return len(cases), wrong
 
 
-def _is_valid(validator, text):
+def is_valid(validator, text):
+    """Whether a text is JSON that the schema takes."""
     try:
         return validator.is_valid(json.loads(text))
     except json.JSONDecodeError:

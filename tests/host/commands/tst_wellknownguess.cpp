@@ -4,6 +4,7 @@
 #include "host/captions/KnownCaptions.h"
 #include "host/commands/WellKnownGuess.h"
 #include "tests/host/support/Files.h"
+#include "tests/support/EmbeddedLanguage.h"
 #include "tests/support/FatalWarnings.h"
 
 #include <QAction>
@@ -19,6 +20,7 @@
 #include <QTest>
 #include <QToolBar>
 
+#include <iterator>
 #include <memory>
 #include <vector>
 
@@ -498,7 +500,7 @@ void WellKnownGuessTest::identifiersAreThoseOfTheFirstBindings()
 void WellKnownGuessTest::everyLanguageHasEveryCommand()
 {
     const QVector<KnownCaptions> &languages = KnownCaptions::languages();
-    QCOMPARE(languages.size(), 10);
+    QCOMPARE(languages.size(), int(std::size(tests::kLanguages)));
     const QStringList identifiers = WellKnownGuess::identifiers();
     QHash<QString, QString> commands; // by caption
     for (const KnownCaptions &captions : languages) {

@@ -4,6 +4,7 @@
 #include "host/session/TriggerChoice.h"
 
 #include "host/files/ProgramProfile.h"
+#include "host/files/TriggerText.h"
 #include "host/services/ProfileStore.h"
 #include "tests/host/support/Files.h"
 #include "tests/host/support/StandardErrorCapture.h"
@@ -47,6 +48,7 @@ private Q_SLOTS:
     void anAreaWithASurface();
     void theIntroductionComesOnce();
     void theIntroductionNamesTheTrigger();
+    void everyButtonHasWords();
     void nothingIsIntroducedWhileGesturesAreOff();
     void withoutAStore();
 
@@ -166,6 +168,17 @@ void TriggerChoiceTest::theIntroductionNamesTheTrigger()
     QCOMPARE(choice.introduction(),
              QStringLiteral("Mouse gestures start with Ctrl + right button. Set it by mouse-gestures "
                             "--trigger program"));
+}
+
+void TriggerChoiceTest::everyButtonHasWords()
+{
+    for (const QString &name : gesturewidget::buttonNames()) {
+        ProfileStore store(m_file + name); // each says it once
+        m_profile.triggerButton = gesturewidget::buttonNamed(name);
+        const QString introduction = TriggerChoice(m_profile, &store).introduction();
+        QVERIFY2(introduction.contains(QLatin1Char(' ') + name + QStringLiteral(" button")),
+                 qPrintable(name + QStringLiteral(": ") + introduction));
+    }
 }
 
 void TriggerChoiceTest::nothingIsIntroducedWhileGesturesAreOff()

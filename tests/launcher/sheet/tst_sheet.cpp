@@ -3,6 +3,7 @@
 
 // The sheet to pin on the wall: its texts, and that each has enough room.
 
+#include "host/files/TriggerText.h"
 #include "launcher/settings/Bindings.h"
 #include "launcher/settings/KnownCommands.h"
 #include "launcher/sheet/FittedText.h"
@@ -69,6 +70,7 @@ private Q_SLOTS:
     void whatIsNoContent();
     void triggersInWords_data();
     void triggersInWords();
+    void everyButtonHasWords();
     void theSchemeInUse();
     void printed_data();
     void printed();
@@ -316,6 +318,15 @@ void SheetTest::triggersInWords()
     SheetContent content;
     content.trigger = QString::fromLatin1(QTest::currentDataTag());
     QCOMPARE(content.triggerInWords(), words);
+}
+
+void SheetTest::everyButtonHasWords()
+{
+    SheetContent content;
+    for (const QString &name : gesturewidget::buttonNames()) {
+        content.trigger = name;
+        QCOMPARE(content.triggerInWords(), QStringLiteral("the %1 button").arg(name));
+    }
 }
 
 void SheetTest::theSchemeInUse()

@@ -5,6 +5,7 @@
 
 #include "settings/trigger/TriggerPanel.h"
 
+#include "host/files/TriggerText.h"
 #include "settings/editing/BindingsEditor.h"
 #include "settings/trigger/TriggerField.h"
 #include "settings/trigger/TriggerWords.h"
@@ -46,6 +47,12 @@ private Q_SLOTS:
     {
         QFETCH(QString, trigger);
         QTEST(settings::triggerInWords(trigger), "words");
+    }
+
+    void everyButtonHasWords()
+    {
+        for (const QString &name : gesturewidget::buttonNames())
+            QCOMPARE(settings::triggerInWords(name).toLower(), name + text(" button"));
     }
 
     void theListShowsWhatCounts()
