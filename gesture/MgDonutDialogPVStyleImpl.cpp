@@ -47,6 +47,13 @@ void showText(const QString &text, bool immediate)
         output->SetText(CHxString(text), immediate);
 }
 
+// True if a command's tip says its name at the beginning, so that both together would say it twice.
+bool beginsWithName(const QString &tip, const QString &name)
+{
+    return tip.startsWith(name, Qt::CaseInsensitive)
+        && (tip.size() == name.size() || !tip.at(name.size()).isLetterOrNumber());
+}
+
 // Pointer positions are measured in this view; null if no drawing is open.
 QWidget *activeView()
 {
@@ -268,9 +275,9 @@ void MgDonutDialogPVStyleImpl::tellSector()
     if (sector < m_sectorNames.size()) { // -1 is not, nor is one past the last sector
         text = m_sectorNames[sector];
         const QString &tip = sectorTooltips[sector];
-        if (text.isEmpty())
+        if (text.isEmpty() || beginsWithName(tip, text))
             text = tip;
-        else if (!tip.isEmpty() && tip != text)
+        else if (!tip.isEmpty())
             text = tr("%1: %2", "name of a command, what it does").arg(text, tip);
     }
     showText(text, false);

@@ -137,6 +137,12 @@ void ToldSectorTest::nameAndTip_data()
     QTest::newRow("both") << text("Arc") << text("Draw an arc") << text("Arc: Draw an arc");
     QTest::newRow("no tip") << text("Arc") << QString() << text("Arc");
     QTest::newRow("tip is the name") << text("Arc") << text("Arc") << text("Arc");
+    QTest::newRow("tip begins with the name")
+        << text("Arc") << text("Arc: Draw an arc") << text("Arc: Draw an arc");
+    QTest::newRow("tip begins with the name in a sentence")
+        << text("Draw Arc") << text("Draw arc by three points") << text("Draw arc by three points");
+    QTest::newRow("tip begins with another word")
+        << text("Arc") << text("Arcs of an ellipse") << text("Arc: Arcs of an ellipse");
     QTest::newRow("no name") << QString() << text("Draw an arc") << text("Draw an arc");
     QTest::newRow("neither") << QString() << QString() << QString();
     QTest::newRow("place marks") << text("%1 %2") << text("50 %1") << text("%1 %2: 50 %1");
