@@ -110,9 +110,9 @@ def built_devel_files(build_type, qt):
 
 
 def common_devel_files():
-    # The bridge between the Qt versions is for this project's own sources.
+    # The bridge between the Qt versions and the marks of our code are for this project's own sources.
     sdk = {f"include/gesturewidget/{path.relative_to(ROOT)}" for path in (ROOT / "sdk").rglob("*.h")
-           if path.name != "QtBridge.h"}
+           if path.name not in ("QtBridge.h", "OwnCode.h")}
     assert "include/gesturewidget/sdk/chx/CHxString.h" in sdk
     config = f"{options.libdir}/cmake/GestureWidget/GestureWidgetConfig"
     return sdk | {"include/gesturewidget/GestureHost.h", "include/gesturewidget/HostExport.h",

@@ -16,7 +16,6 @@
 using gesturewidget::ProfileStore;
 using gesturewidget::ProgramProfile;
 using gesturewidget::SettingsFile;
-using gesturewidget::Trigger;
 using gesturewidget::TriggerChoice;
 
 // A stand-in for Qt's own class, which needs a library that not every program links.
@@ -172,7 +171,8 @@ void TriggerChoiceTest::theIntroductionNamesTheTrigger()
 
 void TriggerChoiceTest::everyButtonHasWords()
 {
-    for (const QString &name : gesturewidget::buttonNames()) {
+    const QStringList names = gesturewidget::buttonNames();
+    for (const QString &name : names) {
         ProfileStore store(m_file + name); // each says it once
         m_profile.triggerButton = gesturewidget::buttonNamed(name);
         const QString introduction = TriggerChoice(m_profile, &store).introduction();

@@ -323,7 +323,8 @@ void SheetTest::triggersInWords()
 void SheetTest::everyButtonHasWords()
 {
     SheetContent content;
-    for (const QString &name : gesturewidget::buttonNames()) {
+    const QStringList names = gesturewidget::buttonNames();
+    for (const QString &name : names) {
         content.trigger = name;
         QCOMPARE(content.triggerInWords(), QStringLiteral("the %1 button").arg(name));
     }

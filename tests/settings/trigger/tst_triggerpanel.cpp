@@ -51,7 +51,8 @@ private Q_SLOTS:
 
     void everyButtonHasWords()
     {
-        for (const QString &name : gesturewidget::buttonNames())
+        const QStringList names = gesturewidget::buttonNames();
+        for (const QString &name : names)
             QCOMPARE(settings::triggerInWords(name).toLower(), name + text(" button"));
     }
 
