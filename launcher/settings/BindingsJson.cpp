@@ -54,7 +54,13 @@ int lineTooDeep(const QByteArray &text)
     return 0;
 }
 
-// The lines of the keys of a text, which QJsonDocument does not tell. The text must be JSON.
+QString saidOfLine(int line, const QString &reason)
+{
+    return Text::tr("line %1: %2").arg(line).arg(reason);
+}
+
+// The lines of the keys of a text, which QJsonDocument does not tell. If the text is not JSON, they
+// mean nothing.
 class KeyLines
 {
 public:
@@ -132,19 +138,18 @@ QByteArray ringToJson(const Bindings &ring, const QByteArray &indent)
 class Reader
 {
 public:
-    Reader(const QByteArray &text, const QJsonObject &object)
-        : m_lines(text)
+    Reader(const KeyLines &lines, const QJsonObject &object)
+        : m_lines(lines)
         , m_object(object)
     {
-        if (!m_lines.repeated.isEmpty())
-            failAt(m_lines.repeatedLine, Text::tr("\"%1\" is there twice").arg(m_lines.repeated));
     }
 
     QString problem;
 
     void fail(const QString &name, const QString &reason)
     {
-        failAt(m_lines.of(name), QStringLiteral("\"%1\" %2").arg(name, reason));
+        if (problem.isEmpty())
+            problem = saidOfLine(m_lines.of(name), QStringLiteral("\"%1\" %2").arg(name, reason));
     }
 
     void allow(const QJsonObject &object, const QStringList &keys, const QString &prefix,
@@ -234,12 +239,6 @@ private:
         return commands;
     }
 
-    void failAt(int line, const QString &reason)
-    {
-        if (problem.isEmpty())
-            problem = Text::tr("line %1: %2").arg(line).arg(reason);
-    }
-
     KeyLines m_lines;
     QJsonObject m_object;
 };
@@ -273,10 +272,17 @@ bool bindingsFromJson(const QByteArray &text, const QString &program, Bindings &
         problem = Text::tr("line %1: this is nested too deeply for bindings").arg(line);
         return false;
     }
+    // Before Qt's reader, which keeps the memory of an object whose key occurs again.
+    const KeyLines lines(text);
+    if (!lines.repeated.isEmpty()) {
+        problem = saidOfLine(lines.repeatedLine, Text::tr("\"%1\" is there twice").arg(lines.repeated))
+                      .simplified();
+        return false;
+    }
     QJsonParseError parsing;
     const QJsonDocument document = QJsonDocument::fromJson(text, &parsing);
     if (parsing.error != QJsonParseError::NoError) {
-        problem = Text::tr("line %1: %2").arg(lineAt(text, parsing.offset)).arg(parsing.errorString());
+        problem = saidOfLine(lineAt(text, parsing.offset), parsing.errorString());
         return false;
     }
     if (!document.isObject()) {
@@ -284,7 +290,7 @@ bool bindingsFromJson(const QByteArray &text, const QString &program, Bindings &
         return false;
     }
 
-    Reader reader(text, document.object());
+    Reader reader(lines, document.object());
     const auto name = [](const char *key) { return QString::fromLatin1(key); };
     reader.allow(reader.object(),
                  {name("version"), name("program"), name("enabled"), name("trigger"), name("scheme"),

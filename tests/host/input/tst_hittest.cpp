@@ -307,7 +307,8 @@ void HitTestTest::documentThatIsGone()
 // A gesture may end after its document.
 void HitTestTest::withoutADocument()
 {
-    HitTest hit(nullptr, m_trigger, seenAs(Kind::Press));
+    const HitTest::Event press = seenAs(Kind::Press);
+    HitTest hit(nullptr, m_trigger, press);
     QCOMPARE(hit.GetDocument(), nullptr);
     QVERIFY(hit.IsViewBlocked());
     QVERIFY(!hit.IsOverControl());
