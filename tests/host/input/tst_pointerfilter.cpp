@@ -837,7 +837,8 @@ void PointerFilterTest::aPenComesAfterTheHeldPress()
     desk.release(kPress);
 }
 
-// What a program sends to its own widget was not made with a device during the press.
+// A program may send events to its own widgets. They come from no device, so they do not wait for the
+// press.
 void PointerFilterTest::aPenAndAWheelOfTheProgramPass()
 {
     Desk desk;
