@@ -80,6 +80,25 @@ template <class Notification> void DocumentManager::notify(Notification notifica
     }
 }
 
+Document *DocumentManager::lookUp(const QObject *widget) const
+{
+    Document *document = m_byView.value(widget);
+    if (document) {
+        m_lastView = widget;
+        m_lastDocument = document;
+    } else {
+        m_lastOther = widget;
+    }
+    return document;
+}
+
+void DocumentManager::forgetLookUps()
+{
+    m_lastView = nullptr;
+    m_lastDocument = nullptr;
+    m_lastOther = nullptr;
+}
+
 Document *DocumentManager::open(QWidget *view)
 {
     if (Document *known = documentOf(view))
@@ -87,8 +106,7 @@ Document *DocumentManager::open(QWidget *view)
     m_documents.push_back(std::make_unique<Document>(view, [this] { return standIn(); }));
     Document *document = m_documents.back().get();
     m_byView.insert(view, document);
-    m_lastAsked = nullptr;
-    m_lastAnswer = nullptr;
+    forgetLookUps();
     m_activated.prepend(document);
     connect(view, &QObject::destroyed, this, [this, document] { close(document); });
 
@@ -132,8 +150,7 @@ void DocumentManager::close(Document *document)
     notify([document](CHxDocumentManagerReactor &r) { r.DocumentToBeDestroyed(document); });
     notify([document](CHxDocumentManagerReactor &r) { r.DatabaseDetached(document); });
     m_byView.remove(m_byView.key(document));
-    m_lastAsked = nullptr;
-    m_lastAnswer = nullptr;
+    forgetLookUps();
     m_activated.removeAll(document);
     document->close();
     notify([document](CHxDocumentManagerReactor &r) { r.DocumentDestroyed(document, CHxString()); });

@@ -50,14 +50,12 @@ public:
     void releaseStandIn();
 
     // Returns the open document of exactly this widget, or null if it is no view. This is called
-    // for every mouse event of the program, usually for the same widget as before.
-    [[nodiscard]] Document *documentOf(const QObject *view) const
+    // for every mouse event of the program, usually for the view of before or a parent of it.
+    [[nodiscard]] Document *documentOf(const QObject *widget) const
     {
-        if (view != m_lastAsked) {
-            m_lastAsked = view;
-            m_lastAnswer = m_byView.value(view);
-        }
-        return m_lastAnswer;
+        if (widget == m_lastView)
+            return m_lastDocument;
+        return widget == m_lastOther ? nullptr : lookUp(widget);
     }
     [[nodiscard]] bool isEmpty() const { return m_byView.isEmpty(); }
 
@@ -70,6 +68,8 @@ Q_SIGNALS:
 private:
     class Iterator;
 
+    [[nodiscard]] Document *lookUp(const QObject *widget) const;
+    void forgetLookUps();
     void makeActive(Document *document);
     void close(Document *document);
     [[nodiscard]] QWidget *standIn();
@@ -77,8 +77,10 @@ private:
 
     std::vector<std::unique_ptr<Document>> m_documents; // in the order of opening
     QHash<const QObject *, Document *> m_byView; // the open ones
-    mutable const QObject *m_lastAsked = nullptr; // forgotten when m_byView changes
-    mutable Document *m_lastAnswer = nullptr;
+    // What lookUp() found last. Forgotten when m_byView changes.
+    mutable const QObject *m_lastView = nullptr;
+    mutable Document *m_lastDocument = nullptr;
+    mutable const QObject *m_lastOther = nullptr; // no view
     QVector<Document *> m_activated; // the open ones, the active one last
     QVector<CHxDocumentManagerReactor *> m_reactors;
     Document *m_active = nullptr;

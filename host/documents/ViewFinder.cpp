@@ -78,26 +78,17 @@ QWidget *ViewFinder::pointerWidget(QWidget *widget)
 
 bool ViewFinder::eventFilter(QObject *receiver, QEvent *event)
 {
-    const OwnCode ours;
-    if (m_guesses) {
-        noteChange(receiver, *event);
+    // When a widget is first polished or shown, it has its final class. A guess looks at the size.
+    const QEvent::Type other = m_guesses ? QEvent::Resize : QEvent::Polish;
+    if ((event->type() != QEvent::Show && event->type() != other) || !receiver->isWidgetType())
         return false;
-    }
-    // When a widget is first polished or shown, it has its final class.
-    if ((event->type() == QEvent::Show || event->type() == QEvent::Polish) && receiver->isWidgetType())
-        look(static_cast<QWidget *>(receiver));
+    const OwnCode ours;
+    auto *widget = static_cast<QWidget *>(receiver);
+    if (!m_guesses)
+        look(widget);
+    else if (qobject_cast<const QMainWindow *>(widget->window()))
+        m_wait.note(); // menus, tips and dialogs come and go all the time
     return false;
-}
-
-void ViewFinder::noteChange(const QObject *receiver, const QEvent &event)
-{
-    const bool mayMatter = event.type() == QEvent::Show || event.type() == QEvent::Resize;
-    if (!mayMatter || !receiver->isWidgetType())
-        return;
-    // Menus, tips and dialogs come and go all the time.
-    const auto *widget = static_cast<const QWidget *>(receiver);
-    if (qobject_cast<const QMainWindow *>(widget->window()))
-        m_wait.note();
 }
 
 void ViewFinder::look(QWidget *widget)

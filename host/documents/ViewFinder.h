@@ -50,7 +50,6 @@ private:
     void lookAround();
     void look(QWidget *widget);
     [[nodiscard]] bool isView(const QWidget *widget) const;
-    void noteChange(const QObject *receiver, const QEvent &event);
 
     QVector<QByteArray> m_viewClasses;
     bool m_guesses = false;

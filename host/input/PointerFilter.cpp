@@ -45,8 +45,13 @@ PointerFilter::~PointerFilter() = default;
 
 bool PointerFilter::eventFilter(QObject *receiver, QEvent *event)
 {
-    const OwnCode ours;
     // Every event of the program comes through here: do no work before it matters.
+    return mayMatter(receiver, event->type()) && filter(receiver, event);
+}
+
+bool PointerFilter::filter(QObject *receiver, QEvent *event)
+{
+    const OwnCode ours;
     switch (event->type()) {
     case QEvent::MouseMove:
     case QEvent::MouseButtonPress:
@@ -57,9 +62,6 @@ bool PointerFilter::eventFilter(QObject *receiver, QEvent *event)
                 showToTrackers(*document, *static_cast<QMouseEvent *>(event));
             return false;
         }
-        // Nearly all events are moves while idle.
-        if (event->type() == QEvent::MouseMove && m_state == State::Idle && !m_held.hasRest())
-            return false;
         return receiver->isWindowType()
             && filterWindow(static_cast<QWindow *>(receiver), *static_cast<QMouseEvent *>(event));
     case QEvent::KeyPress:
@@ -80,7 +82,7 @@ bool PointerFilter::eventFilter(QObject *receiver, QEvent *event)
     case QEvent::Close:
     case QEvent::WindowBlocked:
     case QEvent::WindowDeactivate:
-        if (m_state != State::Idle && receiver->isWidgetType())
+        if (receiver->isWidgetType())
             noteWindowEvent(receiver, event->type());
         return false;
     case QEvent::FocusIn:
@@ -90,6 +92,34 @@ bool PointerFilter::eventFilter(QObject *receiver, QEvent *event)
     case QEvent::ApplicationStateChange:
         m_keys.clear(); // another program may get the releases
         return false;
+    default:
+        return false;
+    }
+}
+
+bool PointerFilter::mayMatter(const QObject *receiver, QEvent::Type type) const
+{
+    switch (type) {
+    case QEvent::MouseMove:
+        // Nearly all events are moves while idle.
+        return m_state != State::Idle || m_held.hasRest()
+            || (receiver->isWidgetType() && m_documents.documentOf(receiver));
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::FocusIn:
+    case QEvent::ApplicationStateChange:
+        return true;
+    case QEvent::Wheel:
+    case QEvent::TabletPress:
+    case QEvent::Show:
+    case QEvent::Hide:
+    case QEvent::Close:
+    case QEvent::WindowBlocked:
+    case QEvent::WindowDeactivate:
+        return m_state != State::Idle;
     default:
         return false;
     }

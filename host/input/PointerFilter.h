@@ -65,6 +65,11 @@ public:
     void setTrigger(const Trigger &trigger) { m_trigger = trigger; }
 
 private:
+    // False for most events of a program. Costs next to nothing.
+    [[nodiscard]] bool mayMatter(const QObject *receiver, QEvent::Type type) const;
+    // Apart from eventFilter(), which would save and restore its registers for every event.
+    Q_NEVER_INLINE bool filter(QObject *receiver, QEvent *event);
+
     // A mouse event as a widget gets it: only shown to the trackers.
     void showToTrackers(Document &document, const QMouseEvent &event);
 

@@ -126,11 +126,16 @@ void MainWindows::remove(QWidget *window, bool isComplete)
 
 bool MainWindows::eventFilter(QObject *receiver, QEvent *event)
 {
+    const bool isActivated = event->type() == QEvent::WindowActivate;
+    const bool isLeaving = event->type() == QEvent::DeferredDelete; // it is complete for the last time
+    if (!isActivated && !isLeaving)
+        return false;
     const OwnCode ours;
-    if (event->type() == QEvent::WindowActivate)
-        makeCurrent(static_cast<QWidget *>(receiver));
-    else if (event->type() == QEvent::DeferredDelete) // the last moment at which it is complete
-        remove(static_cast<QWidget *>(receiver), true);
+    auto *window = static_cast<QWidget *>(receiver);
+    if (isActivated)
+        makeCurrent(window);
+    else
+        remove(window, true);
     return false;
 }
 
