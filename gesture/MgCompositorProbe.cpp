@@ -9,23 +9,32 @@
 
 #include <xcb/xcb.h>
 
+#include <utility>
+
 MgCompositorProbe::~MgCompositorProbe()
 {
     xcb_disconnect(m_connection); // null is fine
 }
 
-bool MgCompositorProbe::isCompositing()
+void MgCompositorProbe::ask()
 {
-    if (QGuiApplication::platformName() != QLatin1String("xcb"))
-        return true;
+    if (m_request != 0 || QGuiApplication::platformName() != QLatin1String("xcb"))
+        return;
     if (!m_connection)
         connectToServer();
     if (xcb_connection_has_error(m_connection) || m_selection == 0)
-        return true;
+        return;
+    m_request = xcb_get_selection_owner(m_connection, m_selection).sequence;
+    xcb_flush(m_connection);
+}
 
+bool MgCompositorProbe::isCompositing()
+{
+    ask();
+    if (m_request == 0)
+        return true;
     const QScopedPointer<xcb_get_selection_owner_reply_t, QScopedPointerPodDeleter> owner(
-        xcb_get_selection_owner_reply(m_connection, xcb_get_selection_owner(m_connection, m_selection),
-                                      nullptr));
+        xcb_get_selection_owner_reply(m_connection, {std::exchange(m_request, 0U)}, nullptr));
     return !owner || owner->owner != XCB_NONE;
 }
 

@@ -20,8 +20,10 @@ public:
     MgCompositorProbe() = default;
     ~MgCompositorProbe();
 
-    // Asks the X server now: one round trip. True on every other platform, and if the server
-    // cannot be reached.
+    // Sends the question to the X server and does not wait. Does nothing on other platforms.
+    void ask();
+    // Returns the answer to ask(), which it calls itself if nobody did; then it waits for a round
+    // trip. True on every other platform, and if the server cannot be reached.
     [[nodiscard]] bool isCompositing();
 
 private:
@@ -30,4 +32,6 @@ private:
     xcb_connection_t *m_connection = nullptr;
     // The selection that a compositor owns, an X atom; 0 until the server was asked.
     quint32 m_selection = 0;
+    // The request that waits for its answer; 0 without one.
+    unsigned m_request = 0;
 };

@@ -89,6 +89,7 @@ void MgDonutDialogPVStyleImpl::WindUp(CHxDocument *doc)
     if (!doc || armed || gesturing)
         return;
 
+    m_compositor.ask(); // the answer is here when the ring needs it
     windUpPos = QCursor::pos();
     document = doc;
     m_holdsHost = true;
