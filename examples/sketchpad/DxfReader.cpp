@@ -29,7 +29,7 @@ QString decoded(const std::string &bytes)
     QString::size_type end = 0;
     for (auto matches = code.globalMatch(text); matches.hasNext();) {
         const auto match = matches.next();
-        result += text.mid(end, match.capturedStart() - end);
+        result.append(text.constData() + end, match.capturedStart() - end);
         const QString digits = match.captured(1);
         result += digits.isEmpty() ? signs.value(match.captured(2).toLower())
                                    : QChar(digits.toUShort(nullptr, 16));

@@ -170,7 +170,7 @@ void MainWindow::buildCommands()
         place.truncate(int(std::find_if(name.begin(), name.end(), [](QChar c) { return c.isUpper(); })
                            - name.begin()));
         if (!menu || menu->objectName() != place + QLatin1String("Menu")) {
-            const QString caption = place.left(1).toUpper() + place.mid(1);
+            const QString caption = place.at(0).toUpper() + place.mid(1);
             menu = menuBar()->addMenu(QLatin1Char('&') + caption);
             menu->setObjectName(place + QLatin1String("Menu"));
             const bool drafts = place == QLatin1String("draw") || place == QLatin1String("modify");
@@ -247,7 +247,8 @@ void MainWindow::run(const QString &typed)
     if (word.isEmpty())
         return;
     const QString plain = word.startsWith(QLatin1Char('_')) ? word.mid(1) : word;
-    for (QAction *action : findChildren<QAction *>()) {
+    const auto actions = findChildren<QAction *>();
+    for (QAction *action : actions) {
         if (action->data().toStringList().contains(plain)) {
             m_last = plain;
             action->trigger();
@@ -376,7 +377,8 @@ void MainWindow::setFullScreen(bool full)
 {
     if (full) {
         m_hidden = {menuBar(), statusBar()};
-        for (QToolBar *bar : findChildren<QToolBar *>()) {
+        const auto bars = findChildren<QToolBar *>();
+        for (QToolBar *bar : bars) {
             if (bar->isVisible())
                 m_hidden.append(bar);
         }

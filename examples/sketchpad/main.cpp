@@ -8,8 +8,24 @@
 
 #include <QApplication>
 
-#include <functional>
 #include <iostream>
+
+namespace {
+
+// Shows a window that opens others when the person wants them. Gestures follow the person into every
+// window whose view the host knows.
+void show(MainWindow *window, gesturewidget::GestureHost *gestures)
+{
+    QObject::connect(window, &MainWindow::newWindowWanted, qApp, [gestures] {
+        auto *another = new MainWindow;
+        another->setAttribute(Qt::WA_DeleteOnClose);
+        gestures->addView(another->canvas());
+        show(another, gestures);
+    });
+    window->show();
+}
+
+} // namespace
 
 int main(int argc, char **argv)
 {
@@ -30,17 +46,7 @@ int main(int argc, char **argv)
     if (!gestures.start(&error))
         std::cerr << "sketchpad: " << qPrintable(error) << '\n';
 
-    // Gestures follow the person into every window whose view the host knows.
-    const std::function<void(MainWindow *)> show = [&](MainWindow *shown) {
-        QObject::connect(shown, &MainWindow::newWindowWanted, &app, [&] {
-            auto *another = new MainWindow;
-            another->setAttribute(Qt::WA_DeleteOnClose);
-            gestures.addView(another->canvas());
-            show(another);
-        });
-        shown->show();
-    };
-    show(&window);
+    show(&window, &gestures);
     if (QApplication::arguments().size() > 1)
         window.openFile(QApplication::arguments().at(1));
     return QApplication::exec();

@@ -127,7 +127,7 @@ QString capitalized(const QString &text)
 
 QString captionFrom(const QString &identifier)
 {
-    if (const QString caption = wellKnownCaption(identifier); !caption.isEmpty())
+    if (QString caption = wellKnownCaption(identifier); !caption.isEmpty())
         return caption;
     const QLatin1String prefix("ID_");
     if (!identifier.startsWith(prefix))

@@ -119,7 +119,7 @@ SettingsFile::Values ownRing(const SettingsFile::Values &now, const QString &tas
         if (chosen.contains(nameOf(key)))
             return;
         // The first digit of a direction's key is its scheme.
-        const QString scheme = nameOf(key.left(1));
+        const QString scheme = nameOf(QString(key.at(0)));
         QString command = shared.value(name);
         for (auto it = chosen.cbegin(); it != chosen.cend(); ++it) {
             if (key != settingsnames::schemeKey() && it.key().startsWith(scheme)

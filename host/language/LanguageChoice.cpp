@@ -7,9 +7,9 @@ namespace gesturewidget {
 
 QString chooseLanguage(const QStringList &preferred, const QStringList &available)
 {
-    const QString english = QStringLiteral("en");
+    QString english = QStringLiteral("en");
     for (const QString &name : preferred) {
-        const QString code = name.left(name.indexOf(QLatin1Char('-')));
+        QString code = name.left(name.indexOf(QLatin1Char('-')));
         if (available.contains(code))
             return code;
         if (code == english || code == QLatin1String("C"))

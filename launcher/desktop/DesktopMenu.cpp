@@ -207,7 +207,7 @@ bool DesktopMenu::isProgram(const QByteArray &named, const QByteArray &path) con
 QString DesktopMenu::installedFile(const QString &name) const
 {
     for (const QString &folder : m_places.installed) {
-        const QString path = QDir(folder).filePath(name);
+        QString path = QDir(folder).filePath(name);
         if (QFileInfo::exists(path))
             return path;
     }
@@ -277,7 +277,7 @@ QString DesktopMenu::ownFileFor(const QString &name) const
     if (!names.contains(name))
         names.append(name); // it may be there and be no file
     for (const QString &other : std::as_const(names)) {
-        const QString path = QDir(m_places.own).filePath(other);
+        QString path = QDir(m_places.own).filePath(other);
         DesktopFile present;
         if (identifierOf(other) == identifierOf(name) && isThere(path)
             && !(present.read(path) && present.isOurs()))

@@ -135,7 +135,7 @@ ElfFile ElfFile::read(const QByteArray &path)
     constexpr char nativeOrder = Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? ELFDATA2LSB : ELFDATA2MSB;
     if (!identity.startsWith(ELFMAG) || identity.at(EI_DATA) != nativeOrder)
         return elf;
-    elf.bits = identity.at(EI_CLASS);
+    elf.bits = static_cast<unsigned char>(identity.at(EI_CLASS));
     if (elf.bits == ELFCLASS64)
         readDynamic<Bits64>(file, elf);
     else if (elf.bits == ELFCLASS32)

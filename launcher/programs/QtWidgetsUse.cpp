@@ -17,7 +17,7 @@ namespace launcher {
 namespace {
 
 // Bytes. Far more than any loader configuration has.
-constexpr qint64 kMaximalConfiguration = 1024 * 1024;
+constexpr qint64 kMaximalConfiguration = 1024 * Q_INT64_C(1024);
 
 struct Library
 {
@@ -37,7 +37,7 @@ QByteArray folderOf(const QByteArray &path)
 QByteArray realPath(const QByteArray &path)
 {
     char *resolved = ::realpath(path.constData(), nullptr);
-    const QByteArray result = resolved ? QByteArray(resolved) : path;
+    QByteArray result = resolved ? QByteArray(resolved) : path;
     std::free(resolved);
     return result;
 }
@@ -58,7 +58,7 @@ QByteArray findLibrary(const QByteArray &name, const ElfFile &user, const QList<
     if (name.contains('/'))
         return name;
     for (const QByteArray &folder : folders) {
-        const QByteArray path = folder + '/' + name;
+        QByteArray path = folder + '/' + name;
         if (!QFile::exists(QFile::decodeName(path)))
             continue;
         const ElfFile library = ElfFile::read(path);

@@ -41,7 +41,7 @@ QSizeF sizeOf(const QStringList &lines, const QFontMetricsF &metrics)
 
 } // namespace
 
-FittedText::FittedText(const QString &wanted, QFont wantedFont, const QSizeF &box, int largest,
+FittedText::FittedText(const QString &wanted, const QFont &wantedFont, const QSizeF &box, int largest,
                        int smallest, int lines)
     : font(wantedFont)
 {

@@ -18,7 +18,7 @@ namespace sheet {
 struct FittedText
 {
     // `largest` and `smallest` are pixel sizes of `font`, `lines` is at least 1.
-    FittedText(const QString &text, QFont font, const QSizeF &box, int largest, int smallest,
+    FittedText(const QString &text, const QFont &font, const QSizeF &box, int largest, int smallest,
                int lines = 1);
 
     // Paints it in the vertical middle of `box`: in the horizontal middle with Qt::AlignHCenter, from

@@ -45,7 +45,8 @@ QImage arrow(int index, int ratio)
     painter.setBrush(palette::kHighlightEdge);
     // Each pair of directions is the pair before it, turned a quarter counter-clockwise.
     painter.translate(kArrowSize / 2.0, kArrowSize / 2.0);
-    painter.rotate(-90.0 * (index / 2));
+    const int quarter = index / 2;
+    painter.rotate(-90.0 * quarter);
     painter.translate(-kArrowSize / 2.0, -kArrowSize / 2.0);
     painter.drawPolygon(index % 2 == 0 ? upShape() : upLeftShape());
     return image;
