@@ -114,6 +114,19 @@ def begin_anew():
 shortcut = QtWidgets.QShortcut(QtGui.QKeySequence("F12"), window, begin_anew)
 """
 
+# A program of Qt 6 that is no drafting program: each direction is bound by hand to something that
+# it can do with an empty canvas.
+QPWGRAPH_DIRECTIONS = {
+    "up": "viewZoomFitAction",
+    "up-left": "editSelectAllAction",
+    "left": "viewCenterAction",
+    "down-left": "editSelectInvertAction",
+    "down": "viewZoomOutAction",
+    "down-right": "viewStatusbarAction",
+    "right": "viewZoomInAction",
+    "up-right": "viewRefreshAction",
+}
+
 PROGRAMS = {
     program.name: program
     for program in (
@@ -192,6 +205,21 @@ PROGRAMS = {
             configuration={"FreeCAD/user.cfg": FREECAD_SETTINGS},
             # It scales with the screen's resolution, but the tests count in pixels.
             environment={"QT_FONT_DPI": "96"},
+        ),
+        Program(
+            name="qpwgraph",
+            executable="qpwgraph",
+            view="qpwgraph_canvas",
+            viewport="QWidget",
+            eight=QPWGRAPH_DIRECTIONS,
+            macro=(".qpwgraph", '<!DOCTYPE patchbay>\n<patchbay name="drawing"/>\n'),
+            configuration={
+                # Closing its window would only hide it otherwise.
+                "rncbc.org/qpwgraph.conf": "[SystemTray]\nEnabled=false\n",
+                "gesturewidget/qpwgraph.ini": "[GestureWidget]\n" + "".join(
+                    f"8{number}={QPWGRAPH_DIRECTIONS[direction]}\n"
+                    for number, direction in enumerate(EIGHT, 1)),
+            },
         ),
     )
 }
