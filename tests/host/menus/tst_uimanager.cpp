@@ -69,6 +69,7 @@ private Q_SLOTS:
     void oneWorkspaceIsCurrent();
     void menuBarsAreWalked();
     void everyItemNamesItsCommand();
+    void anItemFollowsItsAction();
     void topLevelMenusHaveIdentifiers();
     void theToolsMenuIsFound_data();
     void theToolsMenuIsFound();
@@ -201,6 +202,35 @@ void UiManagerTest::everyItemNamesItsCommand()
     QCOMPARE(exports->GetSubItems()->GetCount(), 2);
     QCOMPARE(exports->GetSubItems()->GetItem(0)->GetCommandItem(),
              m_catalogue->find(QStringLiteral("File/Export/Picture...")));
+}
+
+// A module that holds an item sees what its action is now.
+void UiManagerTest::anItemFollowsItsAction()
+{
+    const CHxUIMenuItem *circle = menu("ID_MnDraw")->GetSubItems()->GetItem(1);
+    const CHxUICommandItem *command = circle->GetCommandItem();
+    QVERIFY(command);
+    QCOMPARE(command, m_catalogue->find(QStringLiteral("drawCircle")));
+    QMenu more;
+    more.addAction(QStringLiteral("By &three points"));
+    m_window->circle->setMenu(&more);
+    QVERIFY(circle->GetSubItems());
+    QCOMPARE(circle->GetSubItems()->GetCount(), 1);
+    QCOMPARE(circle->GetCommandItem(), nullptr);
+    m_window->circle->setMenu(nullptr);
+    QCOMPARE(circle->GetCommandItem(), command);
+    QCOMPARE(circle->GetSubItems(), nullptr);
+    m_window->circle->setVisible(false);
+    QCOMPARE(circle->GetCommandItem(), nullptr);
+    m_window->circle->setVisible(true);
+    QCOMPARE(circle->GetCommandItem(), command);
+    m_window->draw->removeAction(m_window->circle);
+    QCOMPARE(circle->GetCommandItem(), nullptr);
+    m_window->help->addAction(m_window->circle);
+    QCOMPARE(circle->GetCommandItem(), command);
+    delete m_window->circle;
+    QCOMPARE(circle->GetCommandItem(), nullptr);
+    QCOMPARE(circle->GetSubItems(), nullptr);
 }
 
 void UiManagerTest::topLevelMenusHaveIdentifiers()
