@@ -45,7 +45,7 @@ bool ProfileStore::Set(const CHxString &section, const CHxString &key, const OdR
     const QString text = value->getString().toQString();
     const QString *known = valueOf(name);
     if (!known || *known != text)
-        change(name, text.isNull() ? QStringLiteral("") : text);
+        change(name, text.isNull() ? QString(QLatin1String("")) : text);
     noteReset(section.toQString(), key.toQString());
     return true;
 }
