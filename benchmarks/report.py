@@ -51,7 +51,7 @@ ROWS = [
     *(Row(f"the ring's data is gathered from a real program's menus, {count:,} commands",
           "bench_hostgather", f"ringData/{count}", "one pass over the same actions",
           f"plainPass/{count}", 2.5)
-      for count in (1000, 10000, 100000)),
+      for count in (300, 1000, 10000, 100000)),
     Row("10,000 equal captions are numbered", "bench_hostgather", "equalCaptions/10000",
         "5,000 of them (twice the work)", "equalCaptions/5000", 2.6),
     Row("an update while gestures are off", "bench_tracker", "gesturesOff",

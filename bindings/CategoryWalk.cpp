@@ -11,6 +11,13 @@ void CategoryWalk::begin()
     m_isAsBefore = true;
 }
 
+QString CategoryWalk::asBefore(const QString &category) const
+{
+    if (!m_isAsBefore || m_next >= m_entries.size() || m_entries[m_next].category != category)
+        return category;
+    return m_entries[m_next].category;
+}
+
 void CategoryWalk::file(const QString &command, const QString &category)
 {
     if (m_isAsBefore && m_next < m_entries.size() && isSameText(m_entries[m_next].command, command)

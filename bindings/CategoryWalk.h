@@ -16,6 +16,9 @@ class CategoryWalk
 {
 public:
     void begin();
+    // Returns the text or, while the walk finds what the last one found, that walk's equal text for the
+    // next command. file() recognises such a text by its address.
+    [[nodiscard]] QString asBefore(const QString &category) const;
     // A later call for the same command replaces an earlier one.
     void file(const QString &command, const QString &category);
     // Ends the walk and gives the map from command strings to categories.

@@ -68,6 +68,7 @@ void MgDonutDataContainer::fileCommands(const QString &parentCategory, CHxUIMenu
         if (parentCategory.isEmpty()) {
             category = item->GetText().toQString();
             category.remove(QLatin1Char('&'));
+            category = m_categoryWalk.asBefore(category);
         }
         if (const CHxUICommandItem *command = item->GetCommandItem())
             fileCommand(command->GetCommandString().toQString(), category);

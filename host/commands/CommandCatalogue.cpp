@@ -68,6 +68,7 @@ void CommandCatalogue::setCurrentWindow(const QWidget *window)
     for (const auto &item : m_items)
         item->showIn(m_current->window, next->window);
     m_current = next;
+    ++m_assignment;
     arrangeGroups();
     if (next->isStale)
         prepareSoon();
@@ -84,6 +85,7 @@ void CommandCatalogue::removeWindow(const QWidget *window)
     m_removed.push_back(std::move(*found));
     m_windows.erase(found);
     // An action may be in several windows.
+    ++m_assignment;
     m_byAction.clear();
     for (const auto &item : m_items) {
         item->forget(window);
@@ -261,6 +263,12 @@ ActionItem *CommandCatalogue::itemOf(const QAction *action)
     return item && item->action() == action && item->here.isPresent ? item : nullptr;
 }
 
+int CommandCatalogue::assignment()
+{
+    update();
+    return m_assignment;
+}
+
 bool CommandCatalogue::contains(const CHxUICommandItem *item) const
 {
     return m_known.contains(item);
@@ -303,7 +311,7 @@ void CommandCatalogue::prepare()
     Q_EMIT prepared();
 }
 
-void CommandCatalogue::update()
+void CommandCatalogue::readChanges()
 {
     if (m_current->isStale)
         scan();
@@ -322,6 +330,7 @@ void CommandCatalogue::scan()
 {
     m_current->isStale = false;
     m_wasRead = true;
+    ++m_assignment;
     for (const auto &item : m_items)
         item->here.wasPresent = std::exchange(item->here.isPresent, false);
     m_current->met.clear();

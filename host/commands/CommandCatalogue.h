@@ -101,8 +101,12 @@ public:
     {
         return m_reasons.value(identifier);
     }
-    // Returns the action's command; null for separators, menus and unknown actions.
+    // Returns the action's command; null for separators, menus and unknown actions. A command's action
+    // has no menu.
     [[nodiscard]] ActionItem *itemOf(const QAction *action);
+    // Returns a number. As long as it stays the same, itemOf() returns the same for every action that
+    // exists. Lets a caller with many actions keep what it has found.
+    [[nodiscard]] int assignment();
     [[nodiscard]] bool contains(const CHxUICommandItem *item) const;
     // Returns all commands in the order in which they were first seen, also those that are not
     // offered.
@@ -116,7 +120,11 @@ public:
     [[nodiscard]] MenuChanges &watcherOf(const QWidget *window);
 
     // Walks the menus now if they have changed. Every reading does this.
-    void update();
+    void update()
+    {
+        if (m_current->isStale || !m_current->changedActions.isEmpty() || m_namesAreStale)
+            readChanges();
+    }
     // Milliseconds from the first of many changes until they are read. Nothing is read by itself
     // before the first reading, because guesses need complete menus.
     static constexpr int kPreparationTime = 250;
@@ -160,6 +168,7 @@ private:
     void onActionChanged(Window &window, QAction *action);
     void prepareSoon();
     void prepare();
+    void readChanges();
     void scan();
     void meet(QAction *action, const MenuWalk::Place &place, bool isListEntry);
     // True if somebody has bound the action with that path of captions.
@@ -183,6 +192,7 @@ private:
     std::vector<std::unique_ptr<ActionItem>> m_items; // in the order of first sight
     QSet<const CHxUICommandItem *> m_known;
     QHash<const QAction *, ActionItem *> m_byAction;
+    int m_assignment = 0; // see assignment()
     QHash<QString, ActionItem *> m_byName; // identifiers and keys
     std::vector<std::unique_ptr<CommandGroup>> m_groups;
     QHash<QString, CommandGroup *> m_groupsByName;

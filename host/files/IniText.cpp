@@ -15,13 +15,19 @@ namespace {
 // Qt versions read anything else differently, and some characters not at all.
 QString encoded(const QString &text, const QString &alsoEncode = {})
 {
+    const auto isPlain = [&alsoEncode](QChar letter) {
+        return letter.unicode() >= 0x20 && letter.unicode() <= 0x7e && letter != QLatin1Char('%')
+            && std::find(alsoEncode.begin(), alsoEncode.end(), letter) == alsoEncode.end();
+    };
+    // Nearly every text is plain, and all names are looked up at every gesture.
+    if (std::all_of(text.begin(), text.end(), isPlain))
+        return text;
     QString result;
     for (const QChar letter : text) {
-        const ushort code = letter.unicode();
-        if (code < 0x20 || code > 0x7e || letter == QLatin1Char('%') || alsoEncode.contains(letter))
-            result += QStringLiteral("%u%1").arg(code, 4, 16, QLatin1Char('0'));
-        else
+        if (isPlain(letter))
             result += letter;
+        else
+            result += QStringLiteral("%u%1").arg(letter.unicode(), 4, 16, QLatin1Char('0'));
     }
     return result;
 }

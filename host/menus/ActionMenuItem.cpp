@@ -31,12 +31,20 @@ CHxString ActionMenuItem::GetText() const
 
 CHxUICommandItem *ActionMenuItem::GetCommandItem() const
 {
-    return m_action ? m_mirror.catalogue().itemOf(m_action) : nullptr;
+    if (!m_action)
+        return nullptr;
+    const int assignment = m_mirror.catalogue().assignment();
+    if (m_assignment != assignment) {
+        m_assignment = assignment;
+        m_command = m_mirror.catalogue().itemOf(m_action);
+    }
+    return m_command;
 }
 
 CHxUIMenuItemCollection *ActionMenuItem::GetSubItems() const
 {
-    QMenu *menu = m_action ? m_action->menu() : nullptr;
+    // Nearly all entries are commands, which have no menu.
+    QMenu *menu = m_action && !GetCommandItem() ? m_action->menu() : nullptr;
     return menu ? m_mirror.itemsOf(menu) : nullptr;
 }
 

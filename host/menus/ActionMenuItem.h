@@ -36,6 +36,10 @@ private:
     MenuMirror &m_mirror;
     QPointer<QAction> m_action;
     QString m_identifier;
+    // What the catalogue has returned for the action, and its assignment() then. A module asks for
+    // every entry at every gesture.
+    mutable CHxUICommandItem *m_command = nullptr;
+    mutable int m_assignment = -1;
 };
 
 } // namespace gesturewidget

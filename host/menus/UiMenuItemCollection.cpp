@@ -24,7 +24,9 @@ int UiMenuItemCollection::GetCount() const
 
 CHxUIMenuItem *UiMenuItemCollection::GetItem(int index) const
 {
-    return index >= 0 && index < GetCount() ? m_items[static_cast<std::size_t>(index)] : nullptr;
+    const std::vector<CHxUIMenuItem *> &all = items();
+    const auto place = static_cast<std::size_t>(index);
+    return index >= 0 && place < all.size() ? all[place] : nullptr;
 }
 
 void UiMenuItemCollection::Append(CHxUIMenuItem *item)

@@ -25,7 +25,7 @@ ProfileStore::~ProfileStore()
 bool ProfileStore::Exists(const CHxString &section, const CHxString &key)
 {
     m_resetPlace = 0;
-    return valueOf(SettingsFile::nameOf(section.toQString(), key.toQString())) != nullptr;
+    return valueOf(nameOf(section.toQString(), key.toQString())) != nullptr;
 }
 
 OdResBufPtr ProfileStore::Get(const CHxString &section, const CHxString &key, int source)
@@ -33,7 +33,7 @@ OdResBufPtr ProfileStore::Get(const CHxString &section, const CHxString &key, in
     m_resetPlace = 0;
     if (source != kProfile)
         return {};
-    const QString *value = valueOf(SettingsFile::nameOf(section.toQString(), key.toQString()));
+    const QString *value = valueOf(nameOf(section.toQString(), key.toQString()));
     return value ? OdResBuf::newString(OdString(*value)) : OdResBufPtr();
 }
 
@@ -41,7 +41,7 @@ bool ProfileStore::Set(const CHxString &section, const CHxString &key, const OdR
 {
     if (!value || value->restype() != OdResBuf::kString)
         return false;
-    const QString name = SettingsFile::nameOf(section.toQString(), key.toQString());
+    const QString name = nameOf(section.toQString(), key.toQString());
     const QString text = value->getString().toQString();
     const QString *known = valueOf(name);
     if (!known || *known != text)
@@ -74,9 +74,24 @@ void ProfileStore::noteReset(const QString &section, const QString &key)
     }
 }
 
-SettingsFile::Values ProfileStore::values()
+void ProfileStore::beginReading()
 {
     refresh();
+    if (m_isReading)
+        return;
+    m_isReading = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            const OwnCode ours;
+            m_isReading = false;
+        },
+        Qt::QueuedConnection);
+}
+
+SettingsFile::Values ProfileStore::values()
+{
+    refreshUnlessReading();
     return m_site.under(m_values);
 }
 
@@ -104,6 +119,22 @@ void ProfileStore::refresh()
         m_values = m_file.read();
 }
 
+void ProfileStore::refreshUnlessReading()
+{
+    if (!m_isReading)
+        refresh();
+}
+
+const QString &ProfileStore::nameOf(const QString &section, const QString &key)
+{
+    if (m_name.isEmpty() || section != m_section || key != m_key) {
+        m_section = section;
+        m_key = key;
+        m_name = SettingsFile::nameOf(section, key);
+    }
+    return m_name;
+}
+
 const QString *ProfileStore::valueOf(const QString &name)
 {
     const auto in = [&name](const SettingsFile::Values &values) {
@@ -113,7 +144,7 @@ const QString *ProfileStore::valueOf(const QString &name)
     const QString *pending = in(m_pending);
     if (pending && !pending->isNull())
         return pending;
-    refresh();
+    refreshUnlessReading();
     const QString *own = pending ? nullptr : in(m_values); // it is to be removed
     return own ? own : in(m_site.values());
 }

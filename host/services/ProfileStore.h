@@ -36,6 +36,11 @@ public:
     // Returns false for anything but a string.
     bool Set(const CHxString &section, const CHxString &key, const OdResBuf *value) override;
 
+    // Call this before reading many values. They all come from the state that the file has now, until
+    // the event loop runs. Otherwise each value costs a look at the folder, which takes far longer than
+    // all the rest.
+    void beginReading();
+    [[nodiscard]] bool isReading() const { return m_isReading; }
     // Returns all values, the administrator's included.
     [[nodiscard]] SettingsFile::Values values();
     [[nodiscard]] const SiteSettings &site() const { return m_site; }
@@ -44,6 +49,10 @@ public:
 
 private:
     void refresh();
+    // The same, except during a reading.
+    void refreshUnlessReading();
+    // Returns the name of a value in the file. Modules ask several times in a row for the same one.
+    [[nodiscard]] const QString &nameOf(const QString &section, const QString &key);
     // Returns the value, or null if there is none.
     [[nodiscard]] const QString *valueOf(const QString &name);
     // Changes a value in the file soon; null removes it.
@@ -56,6 +65,10 @@ private:
     const SiteSettings m_site; // read once
     SettingsFile::Values m_values; // as the file has them
     SettingsFile::Values m_pending; // set, and not written yet; null to remove
+    QString m_section; // those of m_name
+    QString m_key;
+    QString m_name; // that nameOf() has returned last
+    bool m_isReading = false;
     int m_resetPlace = 0; // how many settings were set one after the other in the order of a reset
     bool m_isScheduled = false;
     bool m_hasComplained = false;

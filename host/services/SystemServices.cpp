@@ -258,6 +258,8 @@ CHxUIManager *SystemServices::GetUIManager()
 
 CHxUICommandManager *SystemServices::GetUICommandManager()
 {
+    // A module that walks all commands reads its settings next, some fifty values.
+    m_d->rings.beginReading();
     return &m_d->commandManager;
 }
 

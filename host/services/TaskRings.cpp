@@ -25,6 +25,12 @@ QString TaskRings::ring()
     return ringsettings::hasOwnRing(m_store.values(), task) ? task : QString();
 }
 
+void TaskRings::beginReading()
+{
+    m_store.beginReading();
+    m_ringOfReading = ring();
+}
+
 bool TaskRings::Exists(const CHxString &section, const CHxString &key)
 {
     return m_store.Exists(actual(section, key), key);
@@ -42,10 +48,11 @@ bool TaskRings::Set(const CHxString &section, const CHxString &key, const OdResB
 
 CHxString TaskRings::actual(const CHxString &section, const CHxString &key)
 {
-    const bool mayDiffer =
-        section == CHxString(settingsnames::moduleSection()) && ringsettings::isRingKey(key.toQString());
-    const QString own = mayDiffer ? ring() : QString();
-    return own.isEmpty() ? section : CHxString(ringsettings::sectionOf(own));
+    if (section != CHxString(settingsnames::moduleSection()))
+        return section;
+    const QString own = m_store.isReading() ? m_ringOfReading : ring();
+    const bool differs = !own.isEmpty() && ringsettings::isRingKey(key.toQString());
+    return differs ? CHxString(ringsettings::sectionOf(own)) : section;
 }
 
 } // namespace gesturewidget

@@ -24,6 +24,8 @@ public:
 
     // Returns the task whose own ring is in use; empty for the shared ring.
     [[nodiscard]] QString ring();
+    // See ProfileStore::beginReading(). All values are those of one ring, too.
+    void beginReading();
 
     [[nodiscard]] bool Exists(const CHxString &section, const CHxString &key) override;
     [[nodiscard]] OdResBufPtr Get(const CHxString &section, const CHxString &key, int source) override;
@@ -34,6 +36,7 @@ private:
 
     ProfileStore &m_store;
     std::function<QString()> m_task;
+    QString m_ringOfReading; // for while the store is being read
 };
 
 } // namespace gesturewidget

@@ -59,6 +59,25 @@ private Q_SLOTS:
         }
     }
 
+    void theTextOfTheLastWalkIsUsedAgain()
+    {
+        CategoryWalk walk;
+        const QString draw = text("Draw");
+        QCOMPARE(walk.asBefore(draw).constData(), draw.constData());
+        QCOMPARE(walked(walk, {{text("line"), draw}, {text("save"), text("File")}}).size(), 2);
+        QString newText = draw;
+        newText.detach();
+        QVERIFY(newText.constData() != draw.constData());
+        walk.begin();
+        QCOMPARE(walk.asBefore(newText).constData(), draw.constData());
+        QCOMPARE(walk.asBefore(text("File")), text("File")); // not the next command's
+        walk.file(text("line"), newText);
+        QCOMPARE(walk.asBefore(newText).constData(), newText.constData());
+        walk.file(text("open"), text("File"));
+        QCOMPARE(walk.asBefore(newText).constData(), newText.constData());
+        QCOMPARE(walk.end(), expected({{text("line"), text("Draw")}, {text("open"), text("File")}}));
+    }
+
     // Each walk repeats the last one or changes a few entries of it.
     void anyWalkGivesWhatItFound()
     {

@@ -24,6 +24,15 @@ public:
         if (!throwOn.isEmpty() && call.startsWith(throwOn))
             throw std::runtime_error("the fake host was told to throw");
     }
+    // The same for a text that takes time to make: `make` returns it, and runs only if it is needed.
+    // Otherwise measuring would measure the notes.
+    template <class Make> void addMade(Make make)
+    {
+        if (isOn || !throwOn.isEmpty())
+            add(make());
+        else
+            FakeFault::pass();
+    }
     void clear() { calls.clear(); }
     // The noted calls that begin with `prefix`.
     [[nodiscard]] QStringList startingWith(const QString &prefix) const

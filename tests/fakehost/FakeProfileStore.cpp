@@ -7,7 +7,8 @@ namespace tests {
 
 QString FakeProfileStore::nameOf(const CHxString &section, const CHxString &key)
 {
-    if (section == CHxString("GestureWidget"))
+    static const CHxString modules("GestureWidget");
+    if (section == modules)
         return key.toQString();
     return section.toQString() + QLatin1Char('/') + key.toQString();
 }
@@ -15,14 +16,14 @@ QString FakeProfileStore::nameOf(const CHxString &section, const CHxString &key)
 bool FakeProfileStore::Exists(const CHxString &section, const CHxString &key)
 {
     const QString name = nameOf(section, key);
-    m_log->add(QStringLiteral("store.exists ") + name);
+    m_log->addMade([&]() -> QString { return QStringLiteral("store.exists ") + name; });
     return values.contains(name);
 }
 
 OdResBufPtr FakeProfileStore::Get(const CHxString &section, const CHxString &key, int source)
 {
     const QString name = nameOf(section, key);
-    m_log->add(QStringLiteral("store.get %1 %2").arg(name).arg(source));
+    m_log->addMade([&] { return QStringLiteral("store.get %1 %2").arg(name).arg(source); });
     if (getFails || !values.contains(name))
         return {};
     return OdResBuf::newString(OdString(values.value(name)));
@@ -33,7 +34,7 @@ bool FakeProfileStore::Set(const CHxString &section, const CHxString &key, const
     const QString name = nameOf(section, key);
     const QString text = value->getString().toQString();
     lastType = value->restype();
-    m_log->add(QStringLiteral("store.set %1=%2").arg(name, text));
+    m_log->addMade([&] { return QStringLiteral("store.set %1=%2").arg(name, text); });
     if (setFails)
         return false;
     values.insert(name, text);

@@ -37,6 +37,16 @@ QStringList identifiers(const CHxUIMenuItemCollection &items)
     return list;
 }
 
+// Walks all menus below, as the host itself does some time after a change.
+void walk(const CHxUIMenuItemCollection *items)
+{
+    for (int i = 0; items && i < items->GetCount(); ++i) {
+        const CHxUIMenuItem *item = items->GetItem(i);
+        QVERIFY(item);
+        walk(item->GetSubItems());
+    }
+}
+
 QStringList words(const char *list)
 {
     return QString::fromUtf8(list).split(QLatin1Char(' '));
@@ -69,6 +79,7 @@ private Q_SLOTS:
     void oneWorkspaceIsCurrent();
     void menuBarsAreWalked();
     void everyItemNamesItsCommand();
+    void anItemFollowsItsAction();
     void topLevelMenusHaveIdentifiers();
     void theToolsMenuIsFound_data();
     void theToolsMenuIsFound();
@@ -201,6 +212,35 @@ void UiManagerTest::everyItemNamesItsCommand()
     QCOMPARE(exports->GetSubItems()->GetCount(), 2);
     QCOMPARE(exports->GetSubItems()->GetItem(0)->GetCommandItem(),
              m_catalogue->find(QStringLiteral("File/Export/Picture...")));
+}
+
+// A module that holds an item sees what its action is now.
+void UiManagerTest::anItemFollowsItsAction()
+{
+    const CHxUIMenuItem *circle = menu("ID_MnDraw")->GetSubItems()->GetItem(1);
+    const CHxUICommandItem *command = circle->GetCommandItem();
+    QVERIFY(command);
+    QCOMPARE(command, m_catalogue->find(QStringLiteral("drawCircle")));
+    QMenu more;
+    more.addAction(QStringLiteral("By &three points"));
+    m_window->circle->setMenu(&more);
+    QVERIFY(circle->GetSubItems());
+    QCOMPARE(circle->GetSubItems()->GetCount(), 1);
+    QCOMPARE(circle->GetCommandItem(), nullptr);
+    m_window->circle->setMenu(nullptr);
+    QCOMPARE(circle->GetCommandItem(), command);
+    QCOMPARE(circle->GetSubItems(), nullptr);
+    m_window->circle->setVisible(false);
+    QCOMPARE(circle->GetCommandItem(), nullptr);
+    m_window->circle->setVisible(true);
+    QCOMPARE(circle->GetCommandItem(), command);
+    m_window->draw->removeAction(m_window->circle);
+    QCOMPARE(circle->GetCommandItem(), nullptr);
+    m_window->help->addAction(m_window->circle);
+    QCOMPARE(circle->GetCommandItem(), command);
+    delete m_window->circle;
+    QCOMPARE(circle->GetCommandItem(), nullptr);
+    QCOMPARE(circle->GetSubItems(), nullptr);
 }
 
 void UiManagerTest::topLevelMenusHaveIdentifiers()
@@ -622,14 +662,7 @@ void UiManagerTest::theWindowMayGoFirst()
 void UiManagerTest::objectsOfGoneMenusAreFreed()
 {
     enter();
-    const auto walkAll = [this] {
-        const CHxUIMenuItemCollection *bar = menus();
-        for (int i = 0; i < bar->GetCount(); ++i) {
-            const CHxUIMenuItemCollection *items = bar->GetItem(i)->GetSubItems();
-            for (int j = 0; j < items->GetCount(); ++j)
-                QVERIFY(items->GetItem(j));
-        }
-    };
+    const auto walkAll = [this] { walk(menus()); };
     const auto rebuild = [this] {
         m_window->draw->clear();
         for (int i = 0; i < 20; ++i)

@@ -68,6 +68,7 @@ private Q_SLOTS:
     void whatIsSetCountsAtOnceAndIsWrittenTogether();
     void settingTheSameWritesNothing();
     void editsOfOthersAreSeen();
+    void aReadingSeesOneStateOfTheFile();
     void theSecondOfTwoWritersCountsKeyByKey();
     void aFileWrittenByHandIsUnderstood();
     void aDeletedFileIsAReset();
@@ -282,6 +283,32 @@ void ProfileStoreTest::editsOfOthersAreSeen()
         QVERIFY(mine.flush());
         QCOMPARE(get(others, QStringLiteral("42")), value);
     }
+}
+
+void ProfileStoreTest::aReadingSeesOneStateOfTheFile()
+{
+    ProfileStore mine(m_path);
+    ProfileStore others(m_path);
+    const auto writeAsOther = [&others](const QString &value) {
+        return set(others, QStringLiteral("41"), value) && others.flush();
+    };
+    const QString key = QStringLiteral("41");
+    QVERIFY(writeAsOther(QStringLiteral("ID_ONE")));
+    mine.beginReading();
+    QCOMPARE(get(mine, key), QStringLiteral("ID_ONE"));
+    QVERIFY(writeAsOther(QStringLiteral("ID_TWO")));
+    QCOMPARE(get(mine, key), QStringLiteral("ID_ONE"));
+    QVERIFY(set(mine, QStringLiteral("42"), QStringLiteral("ID_MINE"))); // counts at once
+    QCOMPARE(get(mine, QStringLiteral("42")), QStringLiteral("ID_MINE"));
+    mine.beginReading(); // the next one, before the event loop has run
+    QCOMPARE(get(mine, key), QStringLiteral("ID_TWO"));
+    QVERIFY(writeAsOther(QStringLiteral("ID_SIX")));
+    QCOMPARE(get(mine, key), QStringLiteral("ID_TWO"));
+    QCoreApplication::processEvents();
+    QCOMPARE(get(mine, key), QStringLiteral("ID_SIX"));
+    QVERIFY(writeAsOther(QStringLiteral("ID_TEN")));
+    QCOMPARE(get(mine, key), QStringLiteral("ID_TEN"));
+    QCOMPARE(get(others, QStringLiteral("42")), QStringLiteral("ID_MINE"));
 }
 
 void ProfileStoreTest::theSecondOfTwoWritersCountsKeyByKey()

@@ -104,6 +104,7 @@ private Q_SLOTS:
     }
 
     void menusAreThoseOfTheCurrentWindow();
+    void itemsOfAnotherWindowHaveNoCommand();
     void theEntryIsInEveryToolsMenu();
     void aWindowThatComesLaterGetsTheEntry();
     void aToolsMenuIsMadeForEachWindow();
@@ -172,6 +173,26 @@ void SeveralWindowsTest::menusAreThoseOfTheCurrentWindow()
     QCOMPARE(firstMenu(), QStringLiteral("Second Second"));
     m_second.reset();
     QCOMPARE(firstMenu(), QStringLiteral("&File &File"));
+}
+
+void SeveralWindowsTest::itemsOfAnotherWindowHaveNoCommand()
+{
+    addSecond();
+    const auto fileNew = [this] {
+        const auto menus = m_services->GetUIManager()->NewMenuIterator();
+        return menus->Current()->GetItems()->GetItem(0)->GetSubItems()->GetItem(0);
+    };
+    const CHxUIMenuItem *inFirst = fileNew();
+    const CHxUICommandItem *command = inFirst->GetCommandItem();
+    QVERIFY(command);
+    windows().makeCurrent(m_second.get());
+    const CHxUIMenuItem *inSecond = fileNew();
+    QVERIFY(inSecond != inFirst);
+    QCOMPARE(inSecond->GetCommandItem(), command);
+    QCOMPARE(inFirst->GetCommandItem(), nullptr);
+    windows().makeCurrent(m_first.get());
+    QCOMPARE(inFirst->GetCommandItem(), command);
+    QCOMPARE(inSecond->GetCommandItem(), nullptr);
 }
 
 void SeveralWindowsTest::theEntryIsInEveryToolsMenu()

@@ -75,6 +75,7 @@ private Q_SLOTS:
     void applicationAndFrameAreGivenOutOnceSet();
     void commandsRunFromEverywhere();
     void bindingsAreKeptInTheGivenFile();
+    void settingsReadAfterTheCommandsAreOfOneState();
     void largeIconsBeginAt32Pixels_data();
     void largeIconsBeginAt32Pixels();
     void namesOfTheProgram();
@@ -192,6 +193,26 @@ void SystemServicesTest::bindingsAreKeptInTheGivenFile()
     QVERIFY(QFile::exists(m_folder->filePath(QStringLiteral("drafter.ini"))));
     m_services = make(m_window.get());
     QVERIFY(m_services->GetProfileStore()->Exists("GestureWidget", "41"));
+}
+
+void SystemServicesTest::settingsReadAfterTheCommandsAreOfOneState()
+{
+    const QString path = m_folder->filePath(QStringLiteral("drafter.ini"));
+    CHxProfileStore *store = m_services->GetProfileStore();
+    const auto bound = [store] {
+        const OdResBufPtr value = store->Get("GestureWidget", "41", CHxProfileStore::kProfile);
+        return value ? value->getString().toQString() : QString();
+    };
+    tests::writeFile(path, "[GestureWidget]\n41=ID_LINE\n");
+    QVERIFY(m_services->GetUICommandManager()); // a gesture begins
+    tests::writeFile(path, "[GestureWidget]\n41=ID_CIRCLE\n");
+    QCOMPARE(bound(), QStringLiteral("ID_LINE"));
+    QVERIFY(m_services->GetUICommandManager()); // the next one
+    QCOMPARE(bound(), QStringLiteral("ID_CIRCLE"));
+    tests::writeFile(path, "[GestureWidget]\n41=ID_ARC_OF_CIRCLE\n");
+    QCOMPARE(bound(), QStringLiteral("ID_CIRCLE"));
+    QCoreApplication::processEvents();
+    QCOMPARE(bound(), QStringLiteral("ID_ARC_OF_CIRCLE"));
 }
 
 void SystemServicesTest::largeIconsBeginAt32Pixels_data()

@@ -79,6 +79,7 @@ private Q_SLOTS:
 
     void theRingFollowsTheTask();
     void withoutAnOwnRingAllTasksShareOne();
+    void aReadingStaysWithItsRing();
     void whatEachRingHasIsKept();
     void theTaskIsThatOfTheCurrentWindow();
     void theTaskMayBeTheClassOfTheView();
@@ -150,6 +151,23 @@ void TaskRingsTest::withoutAnOwnRingAllTasksShareOne()
     set("87", "ID_COPY");
     m_window->all.last()->setChecked(true);
     QCOMPARE(get("87"), QStringLiteral("ID_COPY"));
+}
+
+void TaskRingsTest::aReadingStaysWithItsRing()
+{
+    start();
+    set("87", "ID_SHARED");
+    QTRY_VERIFY(QFileInfo::exists(file()));
+    makeOwn(QStringLiteral("SketchBench"), {{QStringLiteral("87"), QStringLiteral("ID_SKETCH")}});
+    QVERIFY(m_services->GetUICommandManager()); // a gesture begins
+    m_window->all.first()->setChecked(true);
+    QCOMPARE(get("87"), QStringLiteral("ID_SHARED"));
+    QVERIFY(m_services->GetUICommandManager()); // the next one
+    QCOMPARE(get("87"), QStringLiteral("ID_SKETCH"));
+    m_window->all.last()->setChecked(true);
+    QCOMPARE(get("87"), QStringLiteral("ID_SKETCH"));
+    QCoreApplication::processEvents();
+    QCOMPARE(get("87"), QStringLiteral("ID_SHARED"));
 }
 
 void TaskRingsTest::whatEachRingHasIsKept()
