@@ -40,7 +40,8 @@ void drawWalls(Pen &pen)
         path = path.subtracted(one);
     }
     pen.take("WALLS");
-    for (QPolygonF outline : path.simplified().toSubpathPolygons()) {
+    const QList<QPolygonF> outlines = path.simplified().toSubpathPolygons();
+    for (QPolygonF outline : outlines) {
         // One line from corner to corner: the path also has points where walls met.
         outline.removeLast();
         QVector<QPointF> corners;

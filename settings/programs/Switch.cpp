@@ -42,7 +42,7 @@ void Switch::paint(QPainter &painter, const QRect &rect, bool isOn, bool hasFocu
     const double radius = groove.height() / 2.0;
     const bool isDark = palette.color(QPalette::Window).lightness() < 128;
     QColor off = isDark ? QColor(118, 122, 128) : QColor(158, 164, 172);
-    const QColor on = palette.color(QPalette::Highlight);
+    const QColor &on = palette.color(QPalette::Highlight);
     painter.setPen(QPen((isOn ? on : off).darker(120), 1.0));
     painter.setBrush(isOn ? on : off);
     painter.drawRoundedRect(groove, radius, radius);

@@ -65,18 +65,21 @@ int directionAt(const QPointF &point, double side, int count)
 
 QRectF labelBox(double side, int count, int direction)
 {
+    // Those of four sectors come first.
+    constexpr auto placeOf = [](int size, int sector) {
+        return static_cast<std::size_t>(size == 8 ? sector + 4 : sector);
+    };
     // Finding the largest boxes takes milliseconds.
     static const auto boxes = [] {
         std::array<QRectF, 12> all;
         for (const int size : {4, 8}) {
             for (int i = 0; i < size; ++i)
-                all.at(static_cast<std::size_t>(i + (size == 8 ? 4 : 0))) =
-                    sheet::RingPicture::labelBox(size, i);
+                all.at(placeOf(size, i)) = sheet::RingPicture::labelBox(size, i);
         }
         return all;
     }();
     const double scale = side / draw::kRingSize;
-    const QRectF box = boxes.at(static_cast<std::size_t>(direction + (count == 8 ? 4 : 0)));
+    const QRectF box = boxes.at(placeOf(count, direction));
     return {box.topLeft() * scale, box.size() * scale};
 }
 

@@ -77,8 +77,7 @@ class GesturesTest(ProgramTest):
             session.gesture_runs("up", self.program.eight["right"])
             session.cancel_tool()
             mark = session.spy.mark()
-            session.gesture("left")
-            session.ring_is_gone()
+            session.gesture_shows_a_ring("left")
             session.gesture_runs("down", self.program.eight["up"])
             self.assertEqual([line[1] for line in session.spy.since(mark, "triggered")],
                              [self.program.eight["up"]], "an unbound direction ran something")

@@ -244,6 +244,14 @@ class Session:
         if ran != [action]:
             raise Failure(f"a gesture {direction} ran {ran}, not [{action!r}]")
 
+    def gesture_shows_a_ring(self, direction):
+        """Performs a gesture and waits until its ring has come and gone. A busy program opens the ring
+        after the gesture, and the ring looks where the pointer is then: do not move it meanwhile."""
+        mark = self.spy.mark()
+        self.gesture(direction)
+        self.expect(mark, lambda line: line[0] == "gone" and "DonutDialog" in line[1],
+                    f"the ring of a gesture {direction} to go")
+
     def wait_for_ring(self):
         answer = self.driver.ask("wait-size", *RING_SIZE, ANSWER_SECONDS * 1000)
         return tuple(int(number) for number in answer.split()[1:])
