@@ -66,7 +66,7 @@ int directionAt(const QPointF &point, double side, int count)
 QRectF labelBox(double side, int count, int direction)
 {
     // Those of four sectors come first.
-    constexpr auto placeOf = [](int size, int sector) {
+    static constexpr auto placeOf = [](int size, int sector) {
         return static_cast<std::size_t>(size == 8 ? sector + 4 : sector);
     };
     // Finding the largest boxes takes milliseconds.
