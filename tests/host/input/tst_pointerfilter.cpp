@@ -258,11 +258,17 @@ private Q_SLOTS:
     void overlayThatLosesTheMouseIsStopped();
     void overlayThatIsDestroyedIsNotReplaced();
     void overlayDestroyedByItsRelease();
+    void overlayThatCancelsAtItsRelease();
+    void overlayThatComesDuringAnUpdateIsTheOverlay();
     void anOverlayThatStopsEndsTheGesture();
+    void aWindowThatHidesLeavesTheGesture_data();
+    void aWindowThatHidesLeavesTheGesture();
     void aPostedMovementEndsAStoppedGesture();
     void filterDestroyedDuringTheReplay();
     void filterDestroyedByTheRest();
     void filterDestroyedByAKeyOfBefore();
+    void aKeyOfBeforeMayCancelTheGesture();
+    void aBegunGestureIsNotGivenBack();
 
     void trackersSeeMovements();
     void viewLearnsPositionsInItsOwnPixels();
@@ -1517,6 +1523,66 @@ void PointerFilterTest::overlayDestroyedByItsRelease()
     QCOMPARE(desk.state(), PointerFilter::State::Idle);
 }
 
+// What the program or the overlay does at the release may end the gesture too.
+void PointerFilterTest::overlayThatCancelsAtItsRelease()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    QVERIFY(desk.tracker.overlay->isOn);
+    bool isCancelled = false;
+    const Observer observer(desk.tracker.overlay.get(), [&](QObject *, const QEvent *event) {
+        if (event->type() == QEvent::MouseButtonRelease && !std::exchange(isCancelled, true))
+            desk.filter->cancel();
+    });
+    desk.filter->cancel();
+    QVERIFY(isCancelled);
+    QVERIFY(!QWidget::mouseGrabber());
+    QVERIFY(!desk.tracker.overlay->isVisible());
+    QCOMPARE(desk.tracker.stops, 1);
+    QCOMPARE(desk.tracker.commands, 0);
+    QCOMPARE(desk.state(), PointerFilter::State::Swallowing);
+    desk.release(kPress + QPoint(30, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+// A tracker may run an event loop. If the overlay comes there, what grabs the mouse afterwards is
+// not the overlay.
+void PointerFilterTest::overlayThatComesDuringAnUpdateIsTheOverlay()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.move(kPress);
+    FreeTracker tracker;
+    tests::FakeOverlay overlay;
+    tracker.onUpdate = [&](int update, CHxHitTestInfo &hit) {
+        if (hit.IsMotion())
+            hit.NotifyDrag();
+        if (update == 3) { // the start of the gesture
+            desk.move(kPress + QPoint(32, 0));
+            desk.control->grabMouse();
+        } else if (update == 4) {
+            overlay.start();
+        }
+    };
+    desk.addFilter();
+    desk.document->inputPoints().RemoveTracker(&desk.tracker);
+    desk.document->inputPoints().AddTracker(&tracker, 0);
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Gesturing);
+    QVERIFY(overlay.isOn);
+    desk.move(kPress + QPoint(35, 0));
+    QVERIFY(!overlay.isVisible());
+    QCOMPARE(desk.state(), PointerFilter::State::Swallowing);
+    QCOMPARE(QWidget::mouseGrabber(), desk.control);
+    desk.control->releaseMouse();
+    desk.release(kPress + QPoint(35, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
 // Also if no event of the mouse follows.
 void PointerFilterTest::anOverlayThatStopsEndsTheGesture()
 {
@@ -1530,6 +1596,34 @@ void PointerFilterTest::anOverlayThatStopsEndsTheGesture()
     QCOMPARE(desk.tracker.commands, 1);
     desk.release(kPress + QPoint(30, 0));
     QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+// A window of the program, such as a tool tip, may go at any time.
+void PointerFilterTest::aWindowThatHidesLeavesTheGesture_data()
+{
+    QTest::addColumn<bool>("showsOverlay");
+    QTest::newRow("with an overlay") << true;
+    QTest::newRow("without an overlay") << false;
+}
+
+void PointerFilterTest::aWindowThatHidesLeavesTheGesture()
+{
+    QFETCH(bool, showsOverlay);
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.tracker.showsOverlay = showsOverlay;
+    QLabel tip(&desk.window, Qt::ToolTip);
+    tip.show();
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Gesturing);
+    tip.hide();
+    QCoreApplication::processEvents();
+    QCOMPARE(desk.state(), PointerFilter::State::Gesturing);
+    QCOMPARE(desk.tracker.overlay->isOn, showsOverlay);
+    desk.release(kPress + QPoint(30, 0));
+    QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
 }
 
 // The overlay posts a movement to the view when it stops, in case no other event follows.
@@ -1616,6 +1710,49 @@ void PointerFilterTest::filterDestroyedByAKeyOfBefore()
     QCOMPARE(desk.tracker.starts, 0);
     QVERIFY(!desk.tracker.overlay->isVisible());
     desk.release(kPress + QPoint(30, 0));
+}
+
+// The program may handle such a key by something that ends the gesture.
+void PointerFilterTest::aKeyOfBeforeMayCancelTheGesture()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.view->setFocus();
+    QTest::keyPress(desk.window.windowHandle(), Qt::Key_L);
+    const Observer observer(desk.view, [&desk](QObject *, const QEvent *event) {
+        if (event->type() == QEvent::KeyRelease)
+            desk.filter->cancel();
+    });
+    desk.press(kPress);
+    QTest::keyRelease(desk.window.windowHandle(), Qt::Key_L);
+    QCOMPARE(desk.state(), PointerFilter::State::Holding);
+    desk.move(kPress + QPoint(30, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Swallowing);
+    QVERIFY(!desk.tracker.overlay->isVisible());
+    desk.release(kPress + QPoint(30, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    QCOMPARE(desk.tracker.commands, 0);
+}
+
+// The filter handles a window event later. By then the drag may have become a gesture.
+void PointerFilterTest::aBegunGestureIsNotGivenBack()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.press(kPress);
+    desk.view->log.clear();
+    QHideEvent hidden;
+    QCoreApplication::sendEvent(&desk.window, &hidden);
+    desk.move(kPress + QPoint(30, 0));
+    QCoreApplication::processEvents();
+    QCOMPARE(desk.state(), PointerFilter::State::Gesturing);
+    QVERIFY(desk.tracker.overlay->isOn);
+    desk.release(kPress + QPoint(30, 0));
+    QTRY_COMPARE(desk.tracker.stops, 1);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    QCOMPARE(desk.view->log.filter(QStringLiteral("MouseButton")), QStringList());
 }
 
 void PointerFilterTest::trackersSeeMovements()
