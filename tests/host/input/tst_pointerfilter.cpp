@@ -1217,6 +1217,7 @@ void PointerFilterTest::anOverlayOfBeforeIsLeftAlone()
 {
     Desk desk;
     QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.move(kPress);
     FreeTracker slow;
     tests::FakeOverlay overlay;
     slow.onUpdate = [&overlay](int update, CHxHitTestInfo &hit) {
