@@ -179,6 +179,7 @@ private Q_SLOTS:
     void nothingIsWrittenBeforeTheStartOrAfterTheStop();
     void iconsWaitWhileAButtonIsDown();
     void theStopWritesWhatWasSeen();
+    void theStopWritesNothingTwice();
     void commandsOfEarlierStartsAreOffered();
     void theyAreTakenUpByTheirActions();
     void identifiersStayThoughMenusComeInAnotherOrder();
@@ -260,13 +261,15 @@ void CatalogueMemoryTest::whatIsNewComesLater()
     QVERIFY(start.isWritten());
     const int before = int(file().size());
     QMenu *menu = start.window.addMenu("Sketch", "sketchMenu");
-    DraftWindow::addAction(menu, "Fillet", "sketchFillet");
-    DraftWindow::addAction(menu, "Chamfer", "sketchChamfer");
+    for (const char *name : {"sketchFillet", "sketchChamfer"})
+        DraftWindow::addAction(menu, name, name)->setIcon(start.window.line->icon());
     const ino_t node = this->node();
     QCOMPARE(file().size(), before); // not at once
     QVERIFY(start.settled.wait());
     QCOMPARE(file().size(), before + 2);
     QCOMPARE(inFile(QStringLiteral("sketchFillet")).group, QStringLiteral("Sketch"));
+    QVERIFY(!inFile(QStringLiteral("sketchFillet")).icon.isEmpty());
+    QVERIFY(!inFile(QStringLiteral("sketchChamfer")).icon.isEmpty());
     QVERIFY(this->node() != node);
     QCOMPARE(start.settled.count(), 2);
 }
@@ -363,16 +366,28 @@ void CatalogueMemoryTest::theStopWritesWhatWasSeen()
         start.window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&start.window));
         QTest::mousePress(start.window.windowHandle(), Qt::LeftButton, {}, QPoint(90, 90));
+        const FiredTimers fired;
         start.memory.start();
         QVERIFY(!start.settled.wait(2 * CatalogueMemory::kQuietTime)); // seen, but not drawn
         QTest::mouseRelease(start.window.windowHandle(), Qt::LeftButton, {}, QPoint(90, 90));
         start.memory.stop();
+        const QTimer *drawing = fired.intervals.key({20});
+        QVERIFY(drawing && !drawing->isActive());
         QCOMPARE(file().size(), 8);
         QCOMPARE(inFile(QStringLiteral("drawLine")).caption, QStringLiteral("Line"));
         QVERIFY(inFile(QStringLiteral("drawLine")).icon.isEmpty());
     }
     runOnce(); // has enough time for the icons
     QVERIFY(!inFile(QStringLiteral("drawLine")).icon.isEmpty());
+}
+
+void CatalogueMemoryTest::theStopWritesNothingTwice()
+{
+    Start start(m_path);
+    QVERIFY(start.isWritten());
+    QVERIFY(QFile::remove(m_path));
+    start.memory.stop();
+    QVERIFY(!QFileInfo::exists(m_path));
 }
 
 void CatalogueMemoryTest::commandsOfEarlierStartsAreOffered()
