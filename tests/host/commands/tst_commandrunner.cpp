@@ -321,6 +321,7 @@ void CommandRunnerTest::aRunnerThatEndsRunsNothing()
 
 void CommandRunnerTest::aQueuedCommandRunsInItsWindow()
 {
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get())); // later, this would make it current
     DraftWindow other;
     gesturewidget::MainWindows windows(m_window.get());
     windows.add(&other);

@@ -277,6 +277,7 @@ private Q_SLOTS:
     void trackersSeeMovements();
     void viewLearnsPositionsInItsOwnPixels();
     void nestedWindowOfAView();
+    void aWindowWithoutAWidgetIsItsContainers();
     void pressActivatesTheDocument();
     void aScrollAreaGetsTheFocusOfItsView();
     void aDocumentThatClosesWhenItBecomesActive();
@@ -1944,6 +1945,28 @@ void PointerFilterTest::nestedWindowOfAView()
     QVERIFY(desk.tracker.overlay->isOn);
     QTest::mouseRelease(nested, Qt::RightButton, {}, kPress + QPoint(30, 0));
     QTRY_COMPARE(desk.tracker.stops, 1);
+}
+
+// A program may draw in a window that no widget has, inside of one that has.
+void PointerFilterTest::aWindowWithoutAWidgetIsItsContainers()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    auto *bare = new QWindow;
+    QWidget *container = QWidget::createWindowContainer(bare, &desk.window);
+    container->setGeometry(330, 20, 60, 60);
+    container->show();
+    QVERIFY(QTest::qWaitForWindowExposed(bare));
+    desk.addFilter();
+    gesturewidget::Document *document = desk.documents.open(container);
+    document->inputPoints().AddTracker(&desk.tracker, 0);
+    QTest::mousePress(bare, Qt::RightButton, {}, QPoint(10, 10));
+    QCOMPARE(desk.state(), PointerFilter::State::Holding);
+    QTest::mouseMove(bare, QPoint(40, 10));
+    QCOMPARE(desk.state(), PointerFilter::State::Gesturing);
+    QCOMPARE(desk.tracker.document, static_cast<CHxDocument *>(document));
+    QTest::mouseRelease(bare, Qt::RightButton, {}, QPoint(40, 10));
+    QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
 }
 
 void PointerFilterTest::pressActivatesTheDocument()
