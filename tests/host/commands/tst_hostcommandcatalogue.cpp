@@ -350,7 +350,10 @@ void HostCommandCatalogueTest::aCaptionAloneIsReadBeforeSomebodyAsks()
     CommandCatalogue catalogue(m_window.get(), {});
     catalogue.update();
     QSignalSpy prepared(&catalogue, &CommandCatalogue::prepared);
-    m_window->line->setText(QStringLiteral("&Segment"));
+    DraftWindow::addAction(m_window->draw, "&Ellipse", "drawEllipse");
+    QVERIFY(prepared.wait());
+    QCoreApplication::processEvents(); // nothing else is to be read
+    m_window->circle->setText(QStringLiteral("&Ring"));
     QVERIFY(prepared.wait());
 }
 
