@@ -118,8 +118,6 @@ void CatalogueMemory::write(const QStringList &outlived)
     m_quiet.setInterval(std::min(2 * m_quiet.interval(), kLongestQuietTime));
     // If writing fails, the next news tries again.
     if (m_file.merge(commands, outlived)) {
-        for (const RememberedCommand &command : std::as_const(commands))
-            m_known.insert(command.identifier, command);
         m_news.clear();
         m_drawn = 0;
     }

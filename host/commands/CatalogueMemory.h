@@ -62,7 +62,7 @@ private:
 
     CommandCatalogue &m_catalogue;
     CatalogueFile m_file;
-    QHash<QString, RememberedCommand> m_known; // as the file has them, by identifier
+    QHash<QString, RememberedCommand> m_known; // as the file had them at the start, by identifier
     QSet<QString> m_compared; // identifiers
     std::vector<News> m_news; // not in the file yet
     std::size_t m_drawn = 0; // of those

@@ -239,7 +239,7 @@ private Q_SLOTS:
         addEntry(host->addTopLevelMenu(text("Draw")), "Line", "line");
         tests::OpenContainer container;
         QCOMPARE(container.getCategory(text("line")), text("Draw"));
-        host->menuItems.items.clear();
+        static_cast<tests::FakeMenuItem *>(host->menuItems.items.front())->subItems->items.clear();
         static_cast<tests::FakeMenu *>(host->ui.menus.front())->items.items.clear();
         addEntry(host->addTopLevelMenu(text("Edit")), "Undo", "undo");
         container.init();

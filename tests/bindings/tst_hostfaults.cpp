@@ -124,6 +124,22 @@ private Q_SLOTS:
         QVERIFY2(calls > 100, qPrintable(QString::number(calls)));
     }
 
+    // The menus may go while the host fails.
+    void categoriesOfBeforeAFailureAreNotKept()
+    {
+        tests::OpenContainer container;
+        QCOMPARE(container.commands[2].category, text("Draw"));
+        {
+            const tests::FakeFault fault(0);
+            container.init();
+            QVERIFY(fault.wasReached());
+        }
+        host->ui.menus.clear();
+        container.init();
+        QVERIFY(!container.hasReadingFailed());
+        QCOMPARE(container.commands[2].category, text("Others"));
+    }
+
     void whatCannotBeReadIsNotAChange()
     {
         tests::OpenContainer container;

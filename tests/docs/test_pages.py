@@ -122,7 +122,9 @@ def is_as_shown(shown, printed):
 def environment_of(home):
     binaries = home / "bin"
     return dict(
-        {name: os.environ[name] for name in ("TMPDIR", "LD_PRELOAD") if name in os.environ},
+        # GCOV_ERROR_FILE keeps what a build that counts lines says about its counts out of the output.
+        {name: os.environ[name] for name in ("TMPDIR", "LD_PRELOAD", "GCOV_ERROR_FILE")
+         if name in os.environ},
         PATH=f"{binaries}:/usr/bin:/bin", HOME=str(home), XDG_CONFIG_HOME=str(home / ".config"),
         XDG_DATA_HOME=str(home / ".local/share"), XDG_DATA_DIRS=str(home / "share"),
         XDG_CONFIG_DIRS=str(home / "etc"), XDG_RUNTIME_DIR=str(home), LANG="C.UTF-8",

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "gesture/MgDonutDialogPVStyleImpl.h"
+#include "gesture/MgRingImages.h"
 #include "sdk/QtBridge.h"
 #include "tests/gesture/GoldenImage.h"
 #include "tests/gesture/PaintRecorder.h"
@@ -179,6 +180,7 @@ private Q_SLOTS:
     void iconsAreOfTheDevicesRatio();
     void imagesAreOfTheDevicesRatio_data();
     void imagesAreOfTheDevicesRatio();
+    void imagesAreKeptReadyToPaint();
     void imagesAreSharp_data();
     void imagesAreSharp();
     void wrongValuesDrawNothing();
@@ -621,6 +623,16 @@ void DonutPaintingTest::imagesAreOfTheDevicesRatio()
         QVERIFY(same(images[0].copy(), resource(QLatin1String("gesture_widget") + suffix)));
         QVERIFY(same(images[1].copy(), resource(QLatin1String("gestureregion1") + suffix)));
     }
+}
+
+void DonutPaintingTest::imagesAreKeptReadyToPaint()
+{
+    const QString path = QStringLiteral(":/gesturewidgetimages/Resources/gesture_widget.png");
+    MgRingImages images;
+    const QImage image = images.image(path, 1.0);
+    QCOMPARE(image.format(), QImage::Format_ARGB32_Premultiplied); // no other is painted as fast
+    QCOMPARE(image, resource(QStringLiteral("gesture_widget")).convertToFormat(image.format()));
+    QCOMPARE(images.image(path, 1.0).cacheKey(), image.cacheKey());
 }
 
 void DonutPaintingTest::imagesAreSharp_data()

@@ -8,14 +8,24 @@ import contextlib
 import importlib.machinery
 import importlib.util
 import io
+import os
 import shutil
 import subprocess
 import tempfile
+import time
 import unittest
 from pathlib import Path
 from unittest import mock
 
 ROOT = Path(__file__).resolve().parents[2]
+
+
+def loaded(script):
+    loader = importlib.machinery.SourceFileLoader("mutants", str(script))
+    module = importlib.util.module_from_spec(importlib.util.spec_from_loader("mutants", loader))
+    with mock.patch.dict("sys.modules", mutants=module):
+        loader.exec_module(module)
+    return module
 
 
 class Mutants(unittest.TestCase):
@@ -101,10 +111,7 @@ class Verdict(unittest.TestCase):
             shutil.copy(ROOT / "scripts" / "mutants", root / "scripts")
             lines = "".join("    return 0;\n" for _ in results)  # a mutant each: 1
             (root / "bindings" / "A.cpp").write_text(f"int f()\n{{\n{lines}}}\n")
-            loader = importlib.machinery.SourceFileLoader("mutants", str(root / "scripts" / "mutants"))
-            module = importlib.util.module_from_spec(importlib.util.spec_from_loader("mutants", loader))
-            with mock.patch.dict("sys.modules", mutants=module):
-                loader.exec_module(module)
+            module = loaded(root / "scripts" / "mutants")
             bench = mock.Mock()
             bench.return_value.judge.side_effect = results
             printed = io.StringIO()
@@ -129,6 +136,49 @@ class Verdict(unittest.TestCase):
         status, line = self.run_with("killed by tst_a", *["does not compile"] * 9)
         self.assertEqual(status, 0)
         self.assertTrue(line.startswith("bindings: 1 of 1 killed, 100.0 % of at least 97 %; 9 do not"), line)
+
+
+class Killing(unittest.TestCase):
+    """Runs tests with a stand-in for CTest."""
+
+    def bench(self, script):
+        folder = Path(self.enterContext(tempfile.TemporaryDirectory()))
+        ctest = folder / "ctest"
+        ctest.write_text(f"#!/bin/sh\n{script}\n")
+        ctest.chmod(0o755)
+        self.enterContext(mock.patch.dict(os.environ, PATH=f"{folder}:{os.environ['PATH']}"))
+        module = loaded(ROOT / "scripts" / "mutants")
+        bench = module.Bench.__new__(module.Bench)
+        bench.build = folder
+        bench.binaries = folder
+        bench._seconds = {"tst_quick": 0.1, "tst_pointerfilter": 9.0, "tst_slow": 5.0}
+        bench.compile = mock.Mock(return_value=True)
+        self.mutant = module.Mutant("host/input/PointerFilter.cpp", 1, "return 0;", "return 1;")
+        return bench
+
+    def test_a_test_passes_or_fails(self):
+        self.assertTrue(self.bench("echo '1: PASS   : a()'")._passes("tst_quick", 60))
+        self.assertFalse(self.bench("exit 8")._passes("tst_quick", 60))
+
+    def test_the_first_failure_is_enough(self):
+        begun = time.monotonic()
+        self.assertFalse(self.bench("echo '1: FAIL!  : a()'; sleep 600")._passes("tst_quick", 600))
+        self.assertLess(time.monotonic() - begun, 300)
+
+    def test_a_test_that_takes_too_long_fails(self):
+        self.assertFalse(self.bench("sleep 600")._passes("tst_quick", 0.3))
+
+    def test_the_test_of_the_file_comes_first(self):
+        bench = self.bench("exit 0")
+        self.assertIsNone(bench.killer(list(bench._seconds), self.mutant))
+        self.assertEqual([call.args[0] for call in bench.compile.call_args_list],
+                         [["tst_pointerfilter"], ["tst_quick"], ["tst_slow"]])
+
+    def test_what_does_not_compile_is_not_run(self):
+        bench = self.bench("exit 8")
+        self.assertEqual(bench.killer(list(bench._seconds), self.mutant), "tst_pointerfilter")
+        bench.compile.return_value = False
+        self.assertEqual(bench.killer(list(bench._seconds), self.mutant), "")
 
 
 if __name__ == "__main__":

@@ -15,6 +15,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QIconEngine>
+#include <QMap>
 #include <QPainter>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -22,6 +23,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <cstddef>
 #include <functional>
 #include <memory>
 
@@ -81,6 +83,23 @@ QImage shown(const QIcon &icon)
 {
     return icon.pixmap(16, 16).toImage().convertToFormat(QImage::Format_ARGB32);
 }
+
+// Notes the timers that fire, and their intervals in milliseconds. Repetitions are left out.
+class FiredTimers : public QObject
+{
+public:
+    FiredTimers() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject *receiver, QEvent *event) override
+    {
+        auto *timer = event->type() == QEvent::Timer ? qobject_cast<QTimer *>(receiver) : nullptr;
+        if (timer && !intervals[timer].endsWith(timer->interval()))
+            intervals[timer].append(timer->interval());
+        return false;
+    }
+
+    QMap<QTimer *, QVector<int>> intervals;
+};
 
 // Counts icons that are drawn, also between two turns of the event loop.
 class DrawnIcons : public QObject
@@ -156,9 +175,11 @@ private Q_SLOTS:
     void aStartWithNothingNewWritesNothing();
     void captionsThatChangeAllTheTimeAreNotWritten();
     void menusThatNeverRestAreWrittenLessAndLess();
+    void aProgramAtRestIsLeftAlone();
     void nothingIsWrittenBeforeTheStartOrAfterTheStop();
     void iconsWaitWhileAButtonIsDown();
     void theStopWritesWhatWasSeen();
+    void theStopWritesNothingTwice();
     void commandsOfEarlierStartsAreOffered();
     void theyAreTakenUpByTheirActions();
     void identifiersStayThoughMenusComeInAnotherOrder();
@@ -240,13 +261,15 @@ void CatalogueMemoryTest::whatIsNewComesLater()
     QVERIFY(start.isWritten());
     const int before = int(file().size());
     QMenu *menu = start.window.addMenu("Sketch", "sketchMenu");
-    DraftWindow::addAction(menu, "Fillet", "sketchFillet");
-    DraftWindow::addAction(menu, "Chamfer", "sketchChamfer");
+    for (const char *name : {"sketchFillet", "sketchChamfer"})
+        DraftWindow::addAction(menu, name, name)->setIcon(start.window.line->icon());
     const ino_t node = this->node();
     QCOMPARE(file().size(), before); // not at once
     QVERIFY(start.settled.wait());
     QCOMPARE(file().size(), before + 2);
     QCOMPARE(inFile(QStringLiteral("sketchFillet")).group, QStringLiteral("Sketch"));
+    QVERIFY(!inFile(QStringLiteral("sketchFillet")).icon.isEmpty());
+    QVERIFY(!inFile(QStringLiteral("sketchChamfer")).icon.isEmpty());
     QVERIFY(this->node() != node);
     QCOMPARE(start.settled.count(), 2);
 }
@@ -284,14 +307,30 @@ void CatalogueMemoryTest::menusThatNeverRestAreWrittenLessAndLess()
         clock->addAction(QString::number(++time));
     });
     tick.start(5);
+    const FiredTimers fired;
     QVERIFY(start.isWritten());
-    for (const int quietTime : {2 * CatalogueMemory::kQuietTime, 4 * CatalogueMemory::kQuietTime}) {
-        QElapsedTimer elapsed;
-        elapsed.start();
-        QVERIFY(start.settled.wait());
-        QVERIFY2(elapsed.elapsed() >= quietTime * 9 / 10,
-                 qPrintable(QString::number(elapsed.elapsed())));
-    }
+    QVERIFY(start.settled.wait());
+    QVERIFY(start.settled.wait());
+    constexpr int kFirst = CatalogueMemory::kQuietTime;
+    const QVector<int> doubled{kFirst, 2 * kFirst, 4 * kFirst};
+    QVERIFY(std::find(fired.intervals.begin(), fired.intervals.end(), doubled) != fired.intervals.end());
+}
+
+// While nothing changes, nothing wakes the program up.
+void CatalogueMemoryTest::aProgramAtRestIsLeftAlone()
+{
+    Start start(m_path);
+    const FiredTimers fired;
+    QVERIFY(start.isWritten());
+    const auto quiet = fired.intervals.keys({CatalogueMemory::kQuietTime});
+    const auto waitsTwiceAsLong = [](const QTimer *timer) {
+        return !timer->isActive() && timer->interval() == 2 * CatalogueMemory::kQuietTime;
+    };
+    QCOMPARE(std::count_if(quiet.begin(), quiet.end(), waitsTwiceAsLong), std::ptrdiff_t(1));
+    // Between two turns of drawing, the program has 20 ms to itself.
+    const QTimer *drawing = fired.intervals.key({20});
+    QVERIFY(drawing);
+    QVERIFY(!drawing->isActive());
 }
 
 void CatalogueMemoryTest::nothingIsWrittenBeforeTheStartOrAfterTheStop()
@@ -328,16 +367,28 @@ void CatalogueMemoryTest::theStopWritesWhatWasSeen()
         start.window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&start.window));
         QTest::mousePress(start.window.windowHandle(), Qt::LeftButton, {}, QPoint(90, 90));
+        const FiredTimers fired;
         start.memory.start();
         QVERIFY(!start.settled.wait(2 * CatalogueMemory::kQuietTime)); // seen, but not drawn
         QTest::mouseRelease(start.window.windowHandle(), Qt::LeftButton, {}, QPoint(90, 90));
         start.memory.stop();
+        const QTimer *drawing = fired.intervals.key({20});
+        QVERIFY(drawing && !drawing->isActive());
         QCOMPARE(file().size(), 8);
         QCOMPARE(inFile(QStringLiteral("drawLine")).caption, QStringLiteral("Line"));
         QVERIFY(inFile(QStringLiteral("drawLine")).icon.isEmpty());
     }
     runOnce(); // has enough time for the icons
     QVERIFY(!inFile(QStringLiteral("drawLine")).icon.isEmpty());
+}
+
+void CatalogueMemoryTest::theStopWritesNothingTwice()
+{
+    Start start(m_path);
+    QVERIFY(start.isWritten());
+    QVERIFY(QFile::remove(m_path));
+    start.memory.stop();
+    QVERIFY(!QFileInfo::exists(m_path));
 }
 
 void CatalogueMemoryTest::commandsOfEarlierStartsAreOffered()

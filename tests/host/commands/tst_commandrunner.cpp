@@ -4,6 +4,7 @@
 #include "host/commands/CommandCatalogue.h"
 #include "host/commands/CommandRunner.h"
 #include "host/commands/CommandStack.h"
+#include "host/window/MainWindows.h"
 #include "host/window/TextOutput.h"
 #include "tests/host/support/DraftWindow.h"
 #include "tests/host/support/ScriptedCommand.h"
@@ -102,12 +103,15 @@ private Q_SLOTS:
     void withoutWaitingItRunsFromTheEventLoop();
     void whatVanishesBeforeItRunsIsSaid();
     void aRunnerThatEndsRunsNothing();
+    void aQueuedCommandRunsInItsWindow();
+    void aQueuedCommandGoesWithItsWindow();
     void cancellingMayEndTheView();
     void aCommandMayRemoveItself();
     void aCommandMayEndTheWindow();
     void aCommandMayEndTheRunner();
     void anActionMayEndTheWindow();
     void aCommandThatRunsComesToTheFront();
+    void aCommandThatRunsWithoutADialogIsNotRunAgain();
     void aTypedCommandRunsFromTheEventLoop();
     void theResultBelongsToTheCaller();
 
@@ -116,6 +120,11 @@ private:
     {
         const CHxCommandResultPtr result = m_runner->run(QString::fromUtf8(command), wait);
         return result && result->IsFound();
+    }
+    void runIn(gesturewidget::MainWindows &windows)
+    {
+        m_runner = std::make_unique<CommandRunner>(*m_stack, *m_catalogue, *m_output, m_documents.get(),
+                                                   &windows);
     }
     QString said() const { return m_window->statusBar()->currentMessage(); }
 
@@ -310,6 +319,38 @@ void CommandRunnerTest::aRunnerThatEndsRunsNothing()
     QCOMPARE(m_command->runs, 0);
 }
 
+void CommandRunnerTest::aQueuedCommandRunsInItsWindow()
+{
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get())); // later, this would make it current
+    DraftWindow other;
+    gesturewidget::MainWindows windows(m_window.get());
+    windows.add(&other);
+    runIn(windows);
+    const QWidget *window = nullptr;
+    m_command->body = [&] { window = windows.current(); };
+    QVERIFY(run("^C^C_GESTURE", false));
+    windows.makeCurrent(&other);
+    QTRY_COMPARE(m_command->runs, 1);
+    QCOMPARE(window, m_window.get());
+    QCOMPARE(windows.current(), &other);
+    m_runner.reset();
+}
+
+void CommandRunnerTest::aQueuedCommandGoesWithItsWindow()
+{
+    auto other = std::make_unique<DraftWindow>();
+    gesturewidget::MainWindows windows(m_window.get());
+    windows.add(other.get());
+    runIn(windows);
+    windows.makeCurrent(other.get());
+    QVERIFY(run("^C^C_GESTURE", false));
+    other.reset();
+    QCOMPARE(windows.current(), m_window.get());
+    QCoreApplication::processEvents();
+    QCOMPARE(m_command->runs, 0);
+    m_runner.reset();
+}
+
 void CommandRunnerTest::cancellingMayEndTheView()
 {
     auto *mortal = new View;
@@ -380,6 +421,13 @@ void CommandRunnerTest::aCommandThatRunsComesToTheFront()
     m_command->body = nullptr;
     QVERIFY(run("^C^C_GESTURE"));
     QCOMPARE(m_command->runs, 2);
+}
+
+void CommandRunnerTest::aCommandThatRunsWithoutADialogIsNotRunAgain()
+{
+    m_command->body = [this] { QVERIFY(run("^C^C_GESTURE")); };
+    QVERIFY(run("^C^C_GESTURE"));
+    QCOMPARE(m_command->runs, 1);
 }
 
 void CommandRunnerTest::aTypedCommandRunsFromTheEventLoop()

@@ -211,9 +211,15 @@ void CommandWindowsTest::aSwitchReadsNothingTwice()
     m_catalogue->setCurrentWindow(m_first.get());
     QCOMPARE(current.count(), 1);
     QCOMPARE(menus.count(), 0);
-    // Changes in another window are read some time after the switch to it.
+    // Changes in another window are read some time after the switch to it. Nothing else is to be read.
+    DraftWindow::addAction(m_first->draw, "Ellipse", "drawEllipse");
+    QTRY_VERIFY(prepared.count() > 0);
+    QCoreApplication::processEvents();
     prepared.clear();
+    menus.clear();
     DraftWindow::addAction(m_second->draw, "Spiral", "drawSpiral");
+    QTRY_VERIFY(menus.count() > 0);
+    QCoreApplication::processEvents(); // all of the change is known before the switch
     m_catalogue->setCurrentWindow(m_second.get());
     QTRY_COMPARE(prepared.count(), 1);
     QVERIFY(item("drawSpiral"));

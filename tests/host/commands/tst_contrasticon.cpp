@@ -124,6 +124,9 @@ private Q_SLOTS:
     void softEdgesAreHardened();
     void allSidesOfAShapeCount_data();
     void allSidesOfAShapeCount();
+    void theHaloIsReadable_data();
+    void theHaloIsReadable();
+    void aHaloOfTwoColoursFollowsTheNearest();
     void theLastPictureIsKept();
     void nothingIsNothing();
 };
@@ -219,6 +222,11 @@ void ContrastIconTest::onlyTheRingsSizeHasAHalo()
         QCOMPARE(icon.pixmap(size).toImage(), plain.pixmap(size).toImage());
         QCOMPARE(icon.actualSize(size), plain.actualSize(size));
     }
+    QImage ofRing(ring, shown.format());
+    ofRing.fill(Qt::transparent);
+    QPainter ringPainter(&ofRing);
+    icon.paint(&ringPainter, ofRing.rect());
+    QCOMPARE(ofRing, shown);
     // Paint it as printing does.
     QImage painted(32, 32, QImage::Format_ARGB32_Premultiplied);
     painted.fill(Qt::white);
@@ -308,6 +316,42 @@ void ContrastIconTest::allSidesOfAShapeCount()
     for (const QPoint &place : {besideTheEnd, besideTheMiddle}) {
         QCOMPARE(qAlpha(seen.pixel(place)), 255);
         QCOMPARE(qRed(seen.pixel(place)), 255);
+    }
+}
+
+void ContrastIconTest::theHaloIsReadable_data()
+{
+    QTest::addColumn<int>("grey");
+    QTest::addColumn<int>("halo");
+    // Their contrasts with white are 3.03 and 2.96.
+    QTest::newRow("light") << 0x94 << 255;
+    QTest::newRow("dark") << 0x96 << 0;
+}
+
+void ContrastIconTest::theHaloIsReadable()
+{
+    QFETCH(int, grey);
+    QFETCH(int, halo);
+    QImage shape(kRingIconSide, kRingIconSide, QImage::Format_ARGB32);
+    shape.fill(Qt::transparent);
+    QPainter(&shape).fillRect(6, 6, 8, 8, QColor(grey, grey, grey));
+    const QRgb beside = gesturewidget::withHalo(shape, 1).pixel(5, 10);
+    QCOMPARE(qAlpha(beside), 255);
+    QCOMPARE(qRed(beside), halo);
+}
+
+void ContrastIconTest::aHaloOfTwoColoursFollowsTheNearest()
+{
+    QImage shape(kRingIconSide, kRingIconSide, QImage::Format_ARGB32);
+    shape.fill(Qt::transparent);
+    QPainter painter(&shape);
+    painter.fillRect(6, 6, 4, 8, QColor(0x4d, 0x4d, 0x4d)); // a little better with white than with black
+    painter.fillRect(10, 6, 4, 8, QColor(0xe6, 0xe6, 0xe6));
+    painter.end();
+    const QImage picture = gesturewidget::withHalo(shape, 1);
+    for (int y = 6; y < 14; ++y) {
+        QCOMPARE(picture.pixel(5, y), qRgb(255, 255, 255));
+        QCOMPARE(picture.pixel(14, y), qRgb(0, 0, 0));
     }
 }
 

@@ -88,6 +88,7 @@ private Q_SLOTS:
     void whatNobodyGuessesIsNotLacking();
     void whatNobodyHasEverSeenIsDropped();
     void whatATaskDoesNotHaveIsDropped();
+    void whatHasJustComeIsNotDropped();
     void trustedCommandsStay();
     void theProgramsNameIsThatOfItsProfile_data();
     void theProgramsNameIsThatOfItsProfile();
@@ -371,6 +372,26 @@ void ExpectedCommandsTest::whatATaskDoesNotHaveIsDropped()
     // It was right, and came late.
     DraftWindow::addAction(m_window->draw, "Arcc", "draw_Arcc");
     QVERIFY(isOffered(catalogue, mistyped));
+}
+
+// The menus may have changed since they were last read.
+void ExpectedCommandsTest::whatHasJustComeIsNotDropped()
+{
+    const QString spline = QStringLiteral("drawSpline");
+    for (const bool isByTask : {false, true}) {
+        CommandCatalogue catalogue(m_window.get(), {});
+        catalogue.expect(spline, spline);
+        QVERIFY(isOffered(catalogue, spline));
+        const QSignalSpy dropped(&catalogue, &CommandCatalogue::dropped);
+        const std::unique_ptr<QAction> action(
+            DraftWindow::addAction(m_window->draw, "Spline", "drawSpline"));
+        if (isByTask)
+            catalogue.dropUnseen(QStringLiteral("draw"));
+        else
+            catalogue.endGuessing();
+        QCOMPARE(dropped.count(), 0);
+        QVERIFY(isOffered(catalogue, spline));
+    }
 }
 
 void ExpectedCommandsTest::trustedCommandsStay()

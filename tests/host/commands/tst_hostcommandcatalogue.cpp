@@ -84,6 +84,7 @@ private Q_SLOTS:
     void namesOfActionsWithoutText();
     void readingAgainDoesNotWalkAgain();
     void changesAreReadBeforeSomebodyAsks();
+    void aCaptionAloneIsReadBeforeSomebodyAsks();
     void changesAreReadOnceAfterAWhile();
     void aPictureIsDrawnOnceForItsAction();
     void nothingIsReadBeforeTheFirstReading();
@@ -342,6 +343,18 @@ void HostCommandCatalogueTest::changesAreReadBeforeSomebodyAsks()
     QVERIFY(catalogue.find(QStringLiteral("drawEllipse")));
     QCOMPARE(listing(catalogue).last(), QStringLiteral("Drawing: drawArc"));
     QCOMPARE(prepared.count(), 1);
+}
+
+void HostCommandCatalogueTest::aCaptionAloneIsReadBeforeSomebodyAsks()
+{
+    CommandCatalogue catalogue(m_window.get(), {});
+    catalogue.update();
+    QSignalSpy prepared(&catalogue, &CommandCatalogue::prepared);
+    DraftWindow::addAction(m_window->draw, "&Ellipse", "drawEllipse");
+    QVERIFY(prepared.wait());
+    QCoreApplication::processEvents(); // nothing else is to be read
+    m_window->circle->setText(QStringLiteral("&Ring"));
+    QVERIFY(prepared.wait());
 }
 
 // A program that fills its menus makes many changes, so they are read together and later.

@@ -55,6 +55,8 @@ private Q_SLOTS:
     void whatASignContradictsStaysEmpty();
     void thePlainCaptionWinsOverAPart();
     void aMenuFurtherUpSpeaksForIt();
+    void sixteenMenusUpCount();
+    void menusMayContainEachOther();
     void aToolbarsTitleSpeaksForIt();
     void aModeIsNoCommand();
     void aButtonIsNoFileCommandByItsCaption();
@@ -362,6 +364,44 @@ void WellKnownGuessTest::aMenuFurtherUpSpeaksForIt()
 }
 
 // A table's "Ajouter une ligne" is not the one in the toolbar of drawing tools.
+// The line is in the last of a number of menus, each in the one before, the first in the menu bar.
+// Menus may contain each other, so there is a bound.
+void WellKnownGuessTest::sixteenMenusUpCount()
+{
+    const auto isLine = [this](const char *first, int menus, bool isInImageToo) {
+        m_actions.clear();
+        QMenuBar bar;
+        bar.addMenu(QStringLiteral("&File"));
+        QMenu *menu = bar.addMenu(QString::fromLatin1(first));
+        for (int below = 1; below < menus; ++below)
+            menu = menu->addMenu(QStringLiteral("Part"));
+        QAction *line = add(QString(), QStringLiteral("Line"));
+        menu->addAction(line);
+        if (isInImageToo)
+            bar.addMenu(QStringLiteral("Image"))->addAction(line);
+        return !WellKnownGuess::among(actions()).isEmpty();
+    };
+    // That the menu is elsewhere in the menu bar speaks against it.
+    QVERIFY(!isLine("Image", 1, false));
+    QVERIFY(!isLine("Image", 16, false));
+    QVERIFY(isLine("Image", 17, false));
+    // The title of the first menu speaks for it.
+    QVERIFY(isLine("Draw", 16, false));
+    QVERIFY(isLine("Draw", 16, true));
+    QVERIFY(!isLine("Draw", 17, true));
+}
+
+void WellKnownGuessTest::menusMayContainEachOther()
+{
+    QMenu outer;
+    QMenu inner;
+    outer.addMenu(&inner);
+    inner.addMenu(&outer);
+    QAction *line = add(QString(), QStringLiteral("Line"));
+    inner.addAction(line);
+    QCOMPARE(WellKnownGuess::among(actions()).value(0).action, line);
+}
+
 void WellKnownGuessTest::aToolbarsTitleSpeaksForIt()
 {
     QMenuBar menus;

@@ -415,10 +415,10 @@ void InjectTest::filesOfOthersLeaveGesturesAlone()
 void InjectTest::aFullDiskLeavesGesturesAlone()
 {
     const QTemporaryDir home;
-    // No file may grow, not even by a byte.
+    // No file may grow, not even by a byte, until the program's main() ends.
     const Result result =
         runIn(home.path(), {QStringLiteral("bash"), QStringLiteral("-c"),
-                            QStringLiteral("trap '' XFSZ; ulimit -f 0; exec \"$@\""),
+                            QStringLiteral("trap '' XFSZ; ulimit -S -f 0; exec \"$@\""),
                             QStringLiteral("full"), QStringLiteral(GUEST), QStringLiteral("gesture")});
     QCOMPARE(result.output, gestureWorks());
     QCOMPARE(result.status, 0);

@@ -13,6 +13,7 @@
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMap>
 #include <QMenu>
 #include <QMetaEnum>
 #include <QScrollArea>
@@ -241,6 +242,7 @@ private Q_SLOTS:
     void anotherPressEndsAGestureWithoutOverlay();
     void aPressAfterALostReleaseEndsAGestureWithoutOverlay();
     void anOverlayThatComesWithTheEndIsStopped();
+    void anOverlayOfBeforeIsLeftAlone();
     void aTrackerMayCancel_data();
     void aTrackerMayCancel();
 
@@ -248,6 +250,8 @@ private Q_SLOTS:
     void pressOfAnotherButtonGivesBack();
     void lostWindowGivesBack_data();
     void lostWindowGivesBack();
+    void windowEventsEndIt_data();
+    void windowEventsEndIt();
     void viewClosedWhileHolding();
     void viewClosedDuringTheGesture();
     void windowHiddenDuringTheGesture();
@@ -258,15 +262,22 @@ private Q_SLOTS:
     void overlayThatLosesTheMouseIsStopped();
     void overlayThatIsDestroyedIsNotReplaced();
     void overlayDestroyedByItsRelease();
+    void overlayThatCancelsAtItsRelease();
+    void overlayThatComesDuringAnUpdateIsTheOverlay();
     void anOverlayThatStopsEndsTheGesture();
+    void aWindowThatHidesLeavesTheGesture_data();
+    void aWindowThatHidesLeavesTheGesture();
     void aPostedMovementEndsAStoppedGesture();
     void filterDestroyedDuringTheReplay();
     void filterDestroyedByTheRest();
     void filterDestroyedByAKeyOfBefore();
+    void aKeyOfBeforeMayCancelTheGesture();
+    void aBegunGestureIsNotGivenBack();
 
     void trackersSeeMovements();
     void viewLearnsPositionsInItsOwnPixels();
     void nestedWindowOfAView();
+    void aWindowWithoutAWidgetIsItsContainers();
     void pressActivatesTheDocument();
     void aScrollAreaGetsTheFocusOfItsView();
     void aDocumentThatClosesWhenItBecomesActive();
@@ -1202,6 +1213,48 @@ void PointerFilterTest::anOverlayThatComesWithTheEndIsStopped()
     QCOMPARE(desk.state(), PointerFilter::State::Idle);
 }
 
+// Its widget may be shown for something else when the next gesture ends without an overlay.
+void PointerFilterTest::anOverlayOfBeforeIsLeftAlone()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.move(kPress);
+    FreeTracker slow;
+    tests::FakeOverlay overlay;
+    slow.onUpdate = [&overlay](int update, CHxHitTestInfo &hit) {
+        if (hit.IsMotion() && hit.IsButtonHeld())
+            hit.NotifyDrag();
+        if (update == 4) // after the press, the drag, and the start of the gesture
+            overlay.start();
+    };
+    desk.addFilter();
+    desk.document->inputPoints().RemoveTracker(&desk.tracker);
+    desk.document->inputPoints().AddTracker(&slow, 0);
+    desk.view->setFocus();
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    desk.release(kPress + QPoint(30, 0));
+    QVERIFY(overlay.hasStopped);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+
+    overlay.setAttribute(Qt::WA_ShowWithoutActivating);
+    overlay.show();
+    overlay.log.clear();
+    QTest::keyPress(desk.window.windowHandle(), Qt::Key_L);
+    const Observer observer(desk.view, [&desk](QObject *, const QEvent *event) {
+        if (event->type() == QEvent::KeyRelease)
+            desk.filter->cancel();
+    });
+    desk.press(kPress);
+    QTest::keyRelease(desk.window.windowHandle(), Qt::Key_L);
+    desk.move(kPress + QPoint(30, 0)); // the gesture begins, and the key cancels it
+    QCOMPARE(desk.state(), PointerFilter::State::Swallowing);
+    QVERIFY(overlay.isVisible());
+    QCOMPARE(overlay.log, QStringList());
+    desk.release(kPress + QPoint(30, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
 // A tracker may run anything of the host, and so end the gesture that is being shown to it.
 void PointerFilterTest::aTrackerMayCancel_data()
 {
@@ -1317,6 +1370,69 @@ void PointerFilterTest::lostWindowGivesBack()
     QCOMPARE(!desk.view->log.filter(QStringLiteral("MouseButtonPress")).isEmpty(), isSeen);
     desk.release(kPress);
     QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+void PointerFilterTest::windowEventsEndIt_data()
+{
+    QTest::addColumn<QString>("receiver");
+    QTest::addColumn<int>("type");
+    QTest::addColumn<bool>("isGesture");
+    QTest::addColumn<bool>("ends");
+    const auto types = QMetaEnum::fromType<QEvent::Type>();
+    for (const char *receiver : {"view", "window", "control", "popup"}) {
+        const bool isOfView = qstrcmp(receiver, "view") == 0 || qstrcmp(receiver, "window") == 0;
+        const bool isPopup = qstrcmp(receiver, "popup") == 0;
+        for (const QEvent::Type type : {QEvent::Show, QEvent::Hide, QEvent::Close, QEvent::WindowBlocked,
+                                        QEvent::WindowDeactivate}) {
+            const bool isLost =
+                type == QEvent::Hide || type == QEvent::Close || type == QEvent::WindowBlocked;
+            const bool ends = (isOfView && isLost) || (isPopup && type == QEvent::Show);
+            for (const bool isGesture : {false, true})
+                QTest::addRow("%s of %s, %s", types.valueToKey(type), receiver,
+                              isGesture ? "gesture" : "held press")
+                    << QString::fromLatin1(receiver) << int(type) << isGesture << ends;
+        }
+    }
+}
+
+// The events alone, without what makes them.
+void PointerFilterTest::windowEventsEndIt()
+{
+    QFETCH(QString, receiver);
+    QFETCH(int, type);
+    QFETCH(bool, isGesture);
+    QFETCH(bool, ends);
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    QWidget popup(&desk.window, Qt::Popup);
+    const QMap<QString, QWidget *> receivers{{QStringLiteral("view"), desk.view},
+                                             {QStringLiteral("window"), &desk.window},
+                                             {QStringLiteral("control"), desk.control},
+                                             {QStringLiteral("popup"), &popup}};
+    desk.press(kPress);
+    if (isGesture)
+        desk.move(kPress + QPoint(30, 0));
+    const PointerFilter::State before = desk.state();
+    QCOMPARE(before, isGesture ? PointerFilter::State::Gesturing : PointerFilter::State::Holding);
+    std::unique_ptr<QEvent> event;
+    if (type == QEvent::Show)
+        event = std::make_unique<QShowEvent>();
+    else if (type == QEvent::Hide)
+        event = std::make_unique<QHideEvent>();
+    else if (type == QEvent::Close)
+        event = std::make_unique<QCloseEvent>();
+    else
+        event = std::make_unique<QEvent>(QEvent::Type(type));
+    QCoreApplication::sendEvent(receivers.value(receiver), event.get());
+    QCOMPARE(desk.state(), before); // the sender may be in the middle of something
+    QCoreApplication::processEvents();
+    const PointerFilter::State after =
+        isGesture ? PointerFilter::State::Swallowing : PointerFilter::State::Idle;
+    QCOMPARE(desk.state(), ends ? after : before);
+    QCOMPARE(desk.tracker.overlay->isOn, isGesture && !ends);
+    desk.release(kPress);
+    QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
 }
 
 void PointerFilterTest::viewClosedWhileHolding()
@@ -1448,13 +1564,19 @@ void PointerFilterTest::overlayThatLosesTheMouseIsStopped()
     Desk desk;
     QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
     desk.addFilter();
+    FreeTracker tracker;
+    bool isHeld = false;
+    tracker.onUpdate = [&isHeld](int, CHxHitTestInfo &hit) { isHeld = hit.IsButtonHeld(); };
+    desk.document->inputPoints().AddTracker(&tracker, 0);
     desk.press(kPress);
     desk.move(kPress + QPoint(30, 0));
+    isHeld = false;
     desk.control->grabMouse(); // takes Qt's grab away
     desk.move(kPress + QPoint(35, 0));
     QVERIFY(!desk.tracker.overlay->isVisible());
     QCOMPARE(desk.tracker.stops, 1);
     QCOMPARE(desk.tracker.commands, 0);
+    QVERIFY(isHeld); // at the end
     QCOMPARE(QWidget::mouseGrabber(), desk.control);
     desk.control->releaseMouse();
     desk.release(kPress);
@@ -1517,6 +1639,66 @@ void PointerFilterTest::overlayDestroyedByItsRelease()
     QCOMPARE(desk.state(), PointerFilter::State::Idle);
 }
 
+// What the program or the overlay does at the release may end the gesture too.
+void PointerFilterTest::overlayThatCancelsAtItsRelease()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    QVERIFY(desk.tracker.overlay->isOn);
+    bool isCancelled = false;
+    const Observer observer(desk.tracker.overlay.get(), [&](QObject *, const QEvent *event) {
+        if (event->type() == QEvent::MouseButtonRelease && !std::exchange(isCancelled, true))
+            desk.filter->cancel();
+    });
+    desk.filter->cancel();
+    QVERIFY(isCancelled);
+    QVERIFY(!QWidget::mouseGrabber());
+    QVERIFY(!desk.tracker.overlay->isVisible());
+    QCOMPARE(desk.tracker.stops, 1);
+    QCOMPARE(desk.tracker.commands, 0);
+    QCOMPARE(desk.state(), PointerFilter::State::Swallowing);
+    desk.release(kPress + QPoint(30, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+// A tracker may run an event loop. If the overlay comes there, what grabs the mouse afterwards is
+// not the overlay.
+void PointerFilterTest::overlayThatComesDuringAnUpdateIsTheOverlay()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.move(kPress);
+    FreeTracker tracker;
+    tests::FakeOverlay overlay;
+    tracker.onUpdate = [&](int update, CHxHitTestInfo &hit) {
+        if (hit.IsMotion())
+            hit.NotifyDrag();
+        if (update == 3) { // the start of the gesture
+            desk.move(kPress + QPoint(32, 0));
+            desk.control->grabMouse();
+        } else if (update == 4) {
+            overlay.start();
+        }
+    };
+    desk.addFilter();
+    desk.document->inputPoints().RemoveTracker(&desk.tracker);
+    desk.document->inputPoints().AddTracker(&tracker, 0);
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Gesturing);
+    QVERIFY(overlay.isOn);
+    desk.move(kPress + QPoint(35, 0));
+    QVERIFY(!overlay.isVisible());
+    QCOMPARE(desk.state(), PointerFilter::State::Swallowing);
+    QCOMPARE(QWidget::mouseGrabber(), desk.control);
+    desk.control->releaseMouse();
+    desk.release(kPress + QPoint(35, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
 // Also if no event of the mouse follows.
 void PointerFilterTest::anOverlayThatStopsEndsTheGesture()
 {
@@ -1530,6 +1712,34 @@ void PointerFilterTest::anOverlayThatStopsEndsTheGesture()
     QCOMPARE(desk.tracker.commands, 1);
     desk.release(kPress + QPoint(30, 0));
     QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+// A window of the program, such as a tool tip, may go at any time.
+void PointerFilterTest::aWindowThatHidesLeavesTheGesture_data()
+{
+    QTest::addColumn<bool>("showsOverlay");
+    QTest::newRow("with an overlay") << true;
+    QTest::newRow("without an overlay") << false;
+}
+
+void PointerFilterTest::aWindowThatHidesLeavesTheGesture()
+{
+    QFETCH(bool, showsOverlay);
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.tracker.showsOverlay = showsOverlay;
+    QLabel tip(&desk.window, Qt::ToolTip);
+    tip.show();
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Gesturing);
+    tip.hide();
+    QCoreApplication::processEvents();
+    QCOMPARE(desk.state(), PointerFilter::State::Gesturing);
+    QCOMPARE(desk.tracker.overlay->isOn, showsOverlay);
+    desk.release(kPress + QPoint(30, 0));
+    QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
 }
 
 // The overlay posts a movement to the view when it stops, in case no other event follows.
@@ -1618,6 +1828,49 @@ void PointerFilterTest::filterDestroyedByAKeyOfBefore()
     desk.release(kPress + QPoint(30, 0));
 }
 
+// The program may handle such a key by something that ends the gesture.
+void PointerFilterTest::aKeyOfBeforeMayCancelTheGesture()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.view->setFocus();
+    QTest::keyPress(desk.window.windowHandle(), Qt::Key_L);
+    const Observer observer(desk.view, [&desk](QObject *, const QEvent *event) {
+        if (event->type() == QEvent::KeyRelease)
+            desk.filter->cancel();
+    });
+    desk.press(kPress);
+    QTest::keyRelease(desk.window.windowHandle(), Qt::Key_L);
+    QCOMPARE(desk.state(), PointerFilter::State::Holding);
+    desk.move(kPress + QPoint(30, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Swallowing);
+    QVERIFY(!desk.tracker.overlay->isVisible());
+    desk.release(kPress + QPoint(30, 0));
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    QCOMPARE(desk.tracker.commands, 0);
+}
+
+// The filter handles a window event later. By then the drag may have become a gesture.
+void PointerFilterTest::aBegunGestureIsNotGivenBack()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.press(kPress);
+    desk.view->log.clear();
+    QHideEvent hidden;
+    QCoreApplication::sendEvent(&desk.window, &hidden);
+    desk.move(kPress + QPoint(30, 0));
+    QCoreApplication::processEvents();
+    QCOMPARE(desk.state(), PointerFilter::State::Gesturing);
+    QVERIFY(desk.tracker.overlay->isOn);
+    desk.release(kPress + QPoint(30, 0));
+    QTRY_COMPARE(desk.tracker.stops, 1);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    QCOMPARE(desk.view->log.filter(QStringLiteral("MouseButton")), QStringList());
+}
+
 void PointerFilterTest::trackersSeeMovements()
 {
     Desk desk;
@@ -1692,6 +1945,25 @@ void PointerFilterTest::nestedWindowOfAView()
     QVERIFY(desk.tracker.overlay->isOn);
     QTest::mouseRelease(nested, Qt::RightButton, {}, kPress + QPoint(30, 0));
     QTRY_COMPARE(desk.tracker.stops, 1);
+}
+
+// A program may draw in a window that no widget has, inside of one that has.
+void PointerFilterTest::aWindowWithoutAWidgetIsItsContainers()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    auto *bare = new QWindow;
+    QWidget *container = QWidget::createWindowContainer(bare, &desk.window);
+    container->setGeometry(330, 20, 60, 60);
+    container->show();
+    QVERIFY(QTest::qWaitForWindowExposed(bare));
+    desk.addFilter();
+    desk.documents.open(container)->inputPoints().AddTracker(&desk.tracker, 0);
+    QTest::mousePress(bare, Qt::RightButton, {}, QPoint(10, 10));
+    QCOMPARE(desk.state(), PointerFilter::State::Holding);
+    QCOMPARE(desk.tracker.presses, 1);
+    QTest::mouseRelease(bare, Qt::RightButton, {}, QPoint(10, 10));
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
 }
 
 void PointerFilterTest::pressActivatesTheDocument()
