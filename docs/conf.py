@@ -71,5 +71,5 @@ def drop_unused_scripts(app, pagename, templatename, context, doctree):
 
 def setup(app):
     app.connect("html-page-context", drop_unused_scripts, priority=900)
-    # The arrows between rooms, which scripts/check-arrows reads.
-    app.add_lexer("arrows", TextLexer)
+    # A drawing made of characters. Its lines must not be broken.
+    app.add_lexer("drawing", TextLexer)
