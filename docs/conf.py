@@ -69,7 +69,17 @@ def drop_unused_scripts(app, pagename, templatename, context, doctree):
                                if not str(getattr(script, "filename", script)).endswith(UNUSED_SCRIPTS)]
 
 
+def keep_words_whole(app, pagename, templatename, context, doctree):
+    """A browser breaks a line behind any hyphen. In a command, "--json" must stay one word."""
+    def marked(block):
+        words = re.sub(r"(?<![^\s>])([^\s<>]*-[^\s<>]+)", r'<span class="word">\1</span>', block[2])
+        return block[1] + words
+    context["body"] = re.sub(r'(<div class="highlight-(?:sh|console|text) .*?<pre>)(.*?</pre>)', marked,
+                             context.get("body", ""), flags=re.DOTALL)
+
+
 def setup(app):
     app.connect("html-page-context", drop_unused_scripts, priority=900)
-    # The arrows between rooms, which scripts/check-arrows reads.
-    app.add_lexer("arrows", TextLexer)
+    app.connect("html-page-context", keep_words_whole)
+    # Columns, or a drawing made of characters. Its lines must not be broken.
+    app.add_lexer("fixed", TextLexer)

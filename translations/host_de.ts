@@ -120,8 +120,8 @@
         <translation>Vorwärts-Taste</translation>
     </message>
     <message>
-        <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
-        <translation>Mausgesten beginnen mit %1. Ändern: mouse-gestures --trigger %2</translation>
+        <source>Mouse gestures start with: %1. To change it: &quot;Mouse Gestures&quot; in the desktop&apos;s menu, or mouse-gestures --trigger %2</source>
+        <translation>Mausgesten beginnen mit: %1. Ändern: „Mausgesten“ im Menü des Desktops oder mouse-gestures --trigger %2</translation>
     </message>
     <message>
         <source>This is the ring of all tasks.</source>

@@ -120,8 +120,8 @@
         <translation>botón adelante</translation>
     </message>
     <message>
-        <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
-        <translation>Los gestos del ratón empiezan con %1. Para cambiarlo: mouse-gestures --trigger %2</translation>
+        <source>Mouse gestures start with: %1. To change it: &quot;Mouse Gestures&quot; in the desktop&apos;s menu, or mouse-gestures --trigger %2</source>
+        <translation>Los gestos del ratón empiezan con: %1. Para cambiarlo: «Gestos del ratón» en el menú del escritorio, o mouse-gestures --trigger %2</translation>
     </message>
     <message>
         <source>This is the ring of all tasks.</source>

@@ -120,8 +120,8 @@
         <translation>bouton suivant</translation>
     </message>
     <message>
-        <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
-        <translation>Les gestes de souris commencent par %1. Pour changer : mouse-gestures --trigger %2</translation>
+        <source>Mouse gestures start with: %1. To change it: &quot;Mouse Gestures&quot; in the desktop&apos;s menu, or mouse-gestures --trigger %2</source>
+        <translation>Les gestes de souris commencent par : %1. Pour changer : « Gestes de la souris » dans le menu du bureau, ou mouse-gestures --trigger %2</translation>
     </message>
     <message>
         <source>This is the ring of all tasks.</source>

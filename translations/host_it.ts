@@ -120,8 +120,8 @@
         <translation>pulsante avanti</translation>
     </message>
     <message>
-        <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
-        <translation>I gesti del mouse iniziano con %1. Per cambiare: mouse-gestures --trigger %2</translation>
+        <source>Mouse gestures start with: %1. To change it: &quot;Mouse Gestures&quot; in the desktop&apos;s menu, or mouse-gestures --trigger %2</source>
+        <translation>I gesti del mouse iniziano con: %1. Per cambiare: «Gesti del mouse» nel menu del desktop, oppure mouse-gestures --trigger %2</translation>
     </message>
     <message>
         <source>This is the ring of all tasks.</source>

@@ -120,8 +120,8 @@
         <translation>進むボタン</translation>
     </message>
     <message>
-        <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
-        <translation>マウスジェスチャーは %1 で始まります。変更: mouse-gestures --trigger %2</translation>
+        <source>Mouse gestures start with: %1. To change it: &quot;Mouse Gestures&quot; in the desktop&apos;s menu, or mouse-gestures --trigger %2</source>
+        <translation>マウスジェスチャーは %1 で始まります。変更: デスクトップのメニューの「マウスジェスチャー」、または mouse-gestures --trigger %2</translation>
     </message>
     <message>
         <source>This is the ring of all tasks.</source>

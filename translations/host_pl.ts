@@ -120,8 +120,8 @@
         <translation>przycisk dalej</translation>
     </message>
     <message>
-        <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
-        <translation>Gesty myszy zaczynają się od: %1. Zmiana: mouse-gestures --trigger %2</translation>
+        <source>Mouse gestures start with: %1. To change it: &quot;Mouse Gestures&quot; in the desktop&apos;s menu, or mouse-gestures --trigger %2</source>
+        <translation>Gesty myszy zaczynają się od: %1. Zmiana: „Gesty myszy” w menu pulpitu lub mouse-gestures --trigger %2</translation>
     </message>
     <message>
         <source>This is the ring of all tasks.</source>

@@ -120,8 +120,8 @@
         <translation>botão avançar</translation>
     </message>
     <message>
-        <source>Mouse gestures start with %1. Set it by mouse-gestures --trigger %2</source>
-        <translation>Os gestos do rato começam com %1. Para mudar: mouse-gestures --trigger %2</translation>
+        <source>Mouse gestures start with: %1. To change it: &quot;Mouse Gestures&quot; in the desktop&apos;s menu, or mouse-gestures --trigger %2</source>
+        <translation>Os gestos do rato começam com: %1. Para mudar: “Gestos do rato” no menu do ambiente, ou mouse-gestures --trigger %2</translation>
     </message>
     <message>
         <source>This is the ring of all tasks.</source>

@@ -643,5 +643,9 @@
         <source>names no task</source>
         <translation>nennt keine Aufgabe</translation>
     </message>
+    <message>
+        <source>the profile %1 is not used: its name must be %2</source>
+        <translation>das Profil %1 wird nicht verwendet: Sein Name muss %2 sein</translation>
+    </message>
 </context>
 </TS>

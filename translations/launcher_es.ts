@@ -643,5 +643,9 @@
         <source>names no task</source>
         <translation>no nombra ninguna tarea</translation>
     </message>
+    <message>
+        <source>the profile %1 is not used: its name must be %2</source>
+        <translation>el perfil %1 no se usa: su nombre debe ser %2</translation>
+    </message>
 </context>
 </TS>

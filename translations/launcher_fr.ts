@@ -643,5 +643,9 @@
         <source>names no task</source>
         <translation>ne nomme aucune tâche</translation>
     </message>
+    <message>
+        <source>the profile %1 is not used: its name must be %2</source>
+        <translation>le profil %1 n’est pas utilisé : son nom doit être %2</translation>
+    </message>
 </context>
 </TS>

@@ -643,5 +643,9 @@
         <source>names no task</source>
         <translation>non nomina alcun compito</translation>
     </message>
+    <message>
+        <source>the profile %1 is not used: its name must be %2</source>
+        <translation>il profilo %1 non viene usato: il suo nome deve essere %2</translation>
+    </message>
 </context>
 </TS>

@@ -643,5 +643,9 @@
         <source>names no task</source>
         <translation>は作業の名前ではありません</translation>
     </message>
+    <message>
+        <source>the profile %1 is not used: its name must be %2</source>
+        <translation>プロファイル %1 は使われません: 名前は %2 でなければなりません</translation>
+    </message>
 </context>
 </TS>

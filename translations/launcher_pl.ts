@@ -643,5 +643,9 @@
         <source>names no task</source>
         <translation>nie podaje zadania</translation>
     </message>
+    <message>
+        <source>the profile %1 is not used: its name must be %2</source>
+        <translation>profil %1 nie jest używany: jego nazwa musi brzmieć %2</translation>
+    </message>
 </context>
 </TS>

@@ -643,5 +643,9 @@
         <source>names no task</source>
         <translation>não cita nenhuma tarefa</translation>
     </message>
+    <message>
+        <source>the profile %1 is not used: its name must be %2</source>
+        <translation>o perfil %1 não é usado: o nome dele deve ser %2</translation>
+    </message>
 </context>
 </TS>

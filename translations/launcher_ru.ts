@@ -643,5 +643,9 @@
         <source>names no task</source>
         <translation>не называет задачу</translation>
     </message>
+    <message>
+        <source>the profile %1 is not used: its name must be %2</source>
+        <translation>профиль %1 не используется: его имя должно быть %2</translation>
+    </message>
 </context>
 </TS>

@@ -643,5 +643,9 @@
         <source>names no task</source>
         <translation>没有指明任务</translation>
     </message>
+    <message>
+        <source>the profile %1 is not used: its name must be %2</source>
+        <translation>未使用配置 %1：其名称必须为 %2</translation>
+    </message>
 </context>
 </TS>

@@ -99,7 +99,9 @@ QString TriggerChoice::introduction()
         return {};
     store(settingsnames::introducedKey(), QStringLiteral("1"));
     return QCoreApplication::translate(
-               "host", "Mouse gestures start with %1. Set it by mouse-gestures --trigger %2")
+               "host",
+               "Mouse gestures start with: %1. To change it: \"Mouse Gestures\" in the desktop's menu, "
+               "or mouse-gestures --trigger %2")
         .arg(inWords(m_trigger), m_program);
 }
 

@@ -13,6 +13,7 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QProcess>
 #include <QStandardPaths>
 
 #include <utility>
@@ -22,6 +23,9 @@ namespace launcher {
 namespace {
 
 using gesturewidget::FileWriter;
+
+// Milliseconds. Usually it takes a few.
+constexpr int kLongestRefresh = 5000;
 
 QByteArray fileName(const QByteArray &path)
 {
@@ -161,6 +165,7 @@ Outcome DesktopMenu::enable(const QByteArray &typed, const QByteArray &path) con
         if (installedFile(name).isEmpty())
             QFile::remove(QDir(m_places.own).filePath(name));
     }
+    refreshFileTypes();
     return outcome;
 }
 
@@ -174,7 +179,9 @@ Outcome DesktopMenu::disable(const QByteArray &typed, const QByteArray &path) co
             return Outcome::failure(Text::tr("%1 cannot be removed").arg(copy));
         outcome.output += Text::tr("starts as before: %1 is removed").arg(copy).toLocal8Bit() + '\n';
     }
-    if (outcome.output.isEmpty())
+    if (!copies.isEmpty())
+        refreshFileTypes();
+    else
         outcome.output =
             Text::tr("%1: nothing was there to remove").arg(QString::fromLocal8Bit(typed)).toLocal8Bit()
             + '\n';
@@ -284,6 +291,19 @@ QString DesktopMenu::ownFileFor(const QString &name) const
             return path;
     }
     return {};
+}
+
+void DesktopMenu::refreshFileTypes() const
+{
+    const ProgramLookup tool = ProgramLookup::find("update-desktop-database", m_places.searchPath);
+    if (tool.result != ProgramLookup::Result::Found)
+        return;
+    QProcess process;
+    // It complains about foreign entries.
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    process.start(QFile::decodeName(tool.path), {m_places.own});
+    process.waitForFinished(kLongestRefresh);
 }
 
 } // namespace launcher

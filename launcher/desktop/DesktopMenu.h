@@ -69,6 +69,10 @@ private:
                                         Named which) const;
     // The user's own file in place of an entry; empty when there is none or only a copy.
     [[nodiscard]] QString ownFileFor(const QString &name) const;
+    // Lists anew which entry of the user's own folder opens which type of file. An entry there hides
+    // the list's line about the installed one, so a file manager would no longer offer the program.
+    // Does nothing if desktop-file-utils is not installed.
+    void refreshFileTypes() const;
 
     Places m_places;
 };

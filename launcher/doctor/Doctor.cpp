@@ -13,6 +13,7 @@
 #include "launcher/settings/Bindings.h"
 #include "launcher/Text.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QMap>
@@ -151,13 +152,37 @@ void reportDisplay(const Symptoms &symptoms, Report &report)
     }
 }
 
+// Returns a file that would be the program's profile if its name were in lower case; empty if there is
+// none, or if a real profile counts before it.
+QString profileInOtherCase(const QString &program, const QStringList &folders)
+{
+    const QString wanted = program + QLatin1String(".json");
+    for (const QString &folder : folders) {
+        if (folder.isEmpty())
+            continue;
+        const QStringList names = QDir(folder).entryList(QDir::Files);
+        if (names.contains(wanted))
+            return {};
+        for (const QString &name : names) {
+            if (name.compare(wanted, Qt::CaseInsensitive) == 0)
+                return QDir(folder).filePath(name);
+        }
+    }
+    return {};
+}
+
 gesturewidget::ProgramProfile reportProfile(const Symptoms &symptoms, Report &report)
 {
     QString message;
     gesturewidget::ProgramProfile profile =
         gesturewidget::ProgramProfile::forProgram(symptoms.program, symptoms.profileFolders, &message);
     const QString file = profileFile(symptoms.program, symptoms.profileFolders);
-    if (!message.isEmpty())
+    const QString inOtherCase = profileInOtherCase(symptoms.program, symptoms.profileFolders);
+    if (!inOtherCase.isEmpty())
+        report.addProblem(Matter::Profile,
+                          Text::tr("the profile %1 is not used: its name must be %2")
+                              .arg(inOtherCase, symptoms.program + QLatin1String(".json")));
+    else if (!message.isEmpty())
         report.addProblem(Matter::Profile, message);
     else
         report.add(Matter::Profile, file.isEmpty() ? Text::tr("none of its own") : file);

@@ -22,6 +22,12 @@ bool isSame(const launcher::MenuProgram &one, const launcher::MenuProgram &other
 
 } // namespace
 
+void findIconsWithoutTheme()
+{
+    if (QIcon::fallbackThemeName().isEmpty())
+        QIcon::setFallbackThemeName(QStringLiteral("hicolor"));
+}
+
 QIcon programIcon(const QString &name)
 {
     QIcon icon;

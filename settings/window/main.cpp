@@ -6,6 +6,7 @@
 
 #include "host/language/LanguageChoice.h"
 #include "host/language/Translations.h"
+#include "settings/programs/ProgramModel.h"
 #include "settings/window/OneWindow.h"
 #include "settings/window/SettingsWindow.h"
 
@@ -19,6 +20,7 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(QStringLiteral("mouse-gestures-settings"));
     QApplication::setApplicationDisplayName(QString());
     QGuiApplication::setDesktopFileName(QStringLiteral("mouse-gestures"));
+    settings::findIconsWithoutTheme();
     QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("mouse-gestures")));
     settings::OneWindow one(settings::OneWindow::usualPlace());
     if (one.isShownByAnother())

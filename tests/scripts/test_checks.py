@@ -13,11 +13,15 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parents[2]
 
 ROOMS = """# Rooms
-```arrows
-low:
-low/inner: low   # a room in a room
-high: low
-```
+| Room | What it is for | May include |
+|---|---|---|
+| `low` | the ground | nothing |
+| `low/inner` | a `room` in a room | `low` |
+| `high` | what stands on both | `low` `low/inner` |
+
+| Question | Room |
+|---|---|
+| What is elsewhere? | `attic` |
 """
 
 
@@ -75,7 +79,7 @@ class Arrows(unittest.TestCase):
                          (1, "attic/A.h:1: is in no room that docs/rooms.md names"))
 
     def test_a_circle_is_a_fault(self):
-        status, said = self.said_of({}, ROOMS.replace("low:\n", "low: high\n"))
+        status, said = self.said_of({}, ROOMS.replace("| nothing |", "| `high` |"))
         self.assertEqual(status, 1)
         self.assertIn("circle", said)
 

@@ -165,8 +165,8 @@ void TriggerChoiceTest::theIntroductionNamesTheTrigger()
     TriggerChoice choice(m_profile, &store);
     QVERIFY(choice.noteView(QGLWidget()));
     QCOMPARE(choice.introduction(),
-             QStringLiteral("Mouse gestures start with Ctrl + right button. Set it by mouse-gestures "
-                            "--trigger program"));
+             QStringLiteral("Mouse gestures start with: Ctrl + right button. To change it: \"Mouse "
+                            "Gestures\" in the desktop's menu, or mouse-gestures --trigger program"));
 }
 
 void TriggerChoiceTest::everyButtonHasWords()

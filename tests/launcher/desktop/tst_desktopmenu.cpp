@@ -110,6 +110,7 @@ private Q_SLOTS:
     void whatIsNoEntryIsPassedOver();
     void damagedLinesStay();
     void onlyItsOwnCopiesAreRemoved();
+    void theProgramStillOpensItsFiles();
 
 private:
     QByteArray draw() const { return QFile::encodeName(place("bin/draw")); }
@@ -534,6 +535,16 @@ void DesktopMenuTest::onlyItsOwnCopiesAreRemoved()
     QVERIFY(menu().disable("draw", draw()).isDone());
     QCOMPARE(ownFiles(),
              QStringList({QStringLiteral("browse.desktop"), QStringLiteral("mine.desktop")}));
+}
+
+void DesktopMenuTest::theProgramStillOpensItsFiles()
+{
+    write("usr/applications/draw.desktop", entryFor("draw %f", "MimeType=image/vnd.dxf;\n"));
+    m_places.searchPath += ":/usr/bin"; // with desktop-file-utils
+    expectEnabled();
+    QVERIFY(content("home/applications/mimeinfo.cache").contains("image/vnd.dxf=draw.desktop;"));
+    QVERIFY(menu().disable("draw", draw()).isDone());
+    QVERIFY(!content("home/applications/mimeinfo.cache").contains("draw.desktop"));
 }
 
 QTEST_GUILESS_MAIN(DesktopMenuTest)

@@ -129,6 +129,20 @@ private Q_SLOTS:
                 writeFile(folder.filePath(QStringLiteral("drafter.json")), "{");
                 symptoms.profileFolders = QStringList{folder.path()};
             });
+        row("profile with capitals in its name", false,
+            "Drafter.json is not used: its name must be drafter.json\n",
+            [](Symptoms &symptoms, const QDir &folder) {
+                writeFile(folder.filePath(QStringLiteral("Drafter.json")),
+                          R"({"version": 1, "program": "drafter"})");
+                symptoms.profileFolders = QStringList{folder.path()};
+            });
+        row("profile with capitals behind the one that counts", true, "/drafter.json\n",
+            [](Symptoms &symptoms, const QDir &folder) {
+                for (const char *name : {"drafter.json", "Drafter.json"})
+                    writeFile(folder.filePath(QString::fromLatin1(name)),
+                              R"({"version": 1, "program": "drafter"})");
+                symptoms.profileFolders = QStringList{folder.path()};
+            });
         row("trigger of the settings", true, "\n  trigger:     ctrl+right",
             [](Symptoms &, const QDir &folder) {
                 writeFile(folder.filePath(QStringLiteral("drafter.ini")),

@@ -308,7 +308,7 @@ void SheetTest::triggersInWords_data()
     QTest::newRow("ctrl+right") << text("Ctrl and the right button");
     QTest::newRow("meta+back") << text("Meta and the back button");
     QTest::newRow("forward") << text("the forward button");
-    QTest::newRow("fn+task") << text("fn and task"); // of a later version
+    QTest::newRow("fn+wheel") << text("fn and wheel"); // of a later version
     QTest::newRow("ctrl+shift+alt+left") << text("Ctrl, Shift, Alt and the left button");
 }
 

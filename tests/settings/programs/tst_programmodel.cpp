@@ -12,7 +12,10 @@
 #include "tests/support/Fading.h"
 
 #include <QAbstractItemModelTester>
+#include <QDir>
 #include <QFile>
+#include <QIcon>
+#include <QImage>
 #include <QLineEdit>
 #include <QListView>
 #include <QProgressBar>
@@ -189,6 +192,26 @@ private Q_SLOTS:
         QVERIFY(model.isOn(0));
         click(QPoint(row.right() - 20, row.center().y()));
         QVERIFY(!model.isOn(0));
+    }
+
+    void iconsAreFoundIfTheDesktopsThemeIsNotInstalled()
+    {
+        const QDir themes(place(text("themes")));
+        QVERIFY(themes.mkpath(text("hicolor/48x48/apps")));
+        QFile index(themes.filePath(text("hicolor/index.theme")));
+        QVERIFY(index.open(QIODevice::WriteOnly));
+        index.write("[Icon Theme]\nName=Hicolor\nDirectories=48x48/apps\n[48x48/apps]\nSize=48\n");
+        index.close();
+        QImage red(48, 48, QImage::Format_ARGB32);
+        red.fill(Qt::red);
+        QVERIFY(red.save(themes.filePath(text("hicolor/48x48/apps/sketch.png"))));
+
+        QIcon::setThemeSearchPaths({themes.path()});
+        QIcon::setFallbackThemeName({});
+        QIcon::setThemeName(text("gone"));
+        settings::findIconsWithoutTheme();
+        QCOMPARE(settings::programIcon(text("sketch")).pixmap(48, 48).toImage().pixelColor(24, 24),
+                 QColor(Qt::red));
     }
 
     void aProgressBarRunsOnlyDuringTheSearch()
