@@ -173,15 +173,21 @@ bool UnfinishedFile::linkAs(const QByteArray &path, const QByteArray &second)
 {
     // Locked until it has its name, so that nobody takes it for a leftover.
     const int file = ::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
-    if (file >= 0)
-        ::flock(file, LOCK_SH | LOCK_NB);
-    // A third name that is renamed, so that the second one is never missing.
-    QByteArray third;
     const auto link = [&path](const char *name) { return ::link(path.constData(), name); };
-    const bool isLinked = withUnusedName(folderOf(second), beginning(path), third, link) == 0;
-    const bool isKept = isLinked && ::rename(third.constData(), second.constData()) == 0;
-    if (isLinked)
+    bool isKept = false;
+    bool isTaken = true;
+    for (int i = 0; i < kAttempts && isTaken; ++i) {
+        if (file >= 0)
+            ::flock(file, LOCK_SH | LOCK_NB);
+        // A third name that is renamed, so that the second one is never missing.
+        QByteArray third;
+        if (withUnusedName(folderOf(second), beginning(path), third, link) != 0)
+            break;
+        isKept = ::rename(third.constData(), second.constData()) == 0;
+        // Another writer that was looking at an earlier link had the lock, and has removed this one.
+        isTaken = !isKept && errno == ENOENT;
         ::unlink(third.constData()); // rename() leaves both if they name one file
+    }
     if (file >= 0)
         ::close(file);
     return isKept;
