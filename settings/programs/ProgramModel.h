@@ -61,7 +61,4 @@ private:
     QVector<Row> m_rows;
 };
 
-// The icon of a desktop entry; a plain one if it cannot be found.
-[[nodiscard]] QIcon programIcon(const QString &name);
-
 } // namespace settings

@@ -15,6 +15,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -107,6 +108,19 @@ private Q_SLOTS:
         open(window);
         QCOMPARE(title(window), text("Sketch"));
         QVERIFY(find<QAbstractButton>(window, "program_switch")->isChecked());
+    }
+
+    void aSmallIconIsLargeOnThePage()
+    {
+        QImage image(16, 16, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        QVERIFY(image.save(place("arc.png")));
+        install(text("arc"), text("Arc"), "Icon=" + QFile::encodeName(place("arc.png")) + '\n');
+        SettingsWindow window;
+        open(window, 3);
+        QCOMPARE(title(window), text("Arc"));
+        const QSize shown = find<QLabel>(window, "program_icon")->sizeHint();
+        QCOMPARE(shown, QSize(48, 48));
     }
 
     void theSwitchOfThePageAndTheOneInTheListAreOne()
