@@ -13,6 +13,8 @@
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QFile>
+#include <QMessageBox>
+#include <QPrintDialog>
 #include <QPrinter>
 #include <QProcess>
 #include <QPushButton>
@@ -169,6 +171,48 @@ private Q_SLOTS:
         QCOMPARE(shared.eight.at(6), text("ID_LINE"));
         QCOMPARE(rings.keys(), QStringList(text("Sketching")));
         QCOMPARE(rings.value(text("Sketching")).eight.at(6), QString());
+    }
+
+    void printsAfterAYesOnly_data() { importsAfterAYesOnly_data(); }
+    void printsAfterAYesOnly()
+    {
+        QFETCH(bool, isAccepted);
+        const BindingsEditor editor(subject("draw"), text("Draw"));
+        QWidget window;
+        Exchange exchange(&window);
+        QSignalSpy done(&exchange, &Exchange::done);
+        QTimer::singleShot(0, &window, [this, isAccepted] {
+            auto *dialog = qobject_cast<QPrintDialog *>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            QCOMPARE(dialog->printer()->docName(), text("Mouse gestures in Draw"));
+            dialog->printer()->setOutputFormat(QPrinter::PdfFormat);
+            dialog->printer()->setOutputFileName(place("sheet.pdf"));
+            dialog->done(isAccepted ? QDialog::Accepted : QDialog::Rejected);
+        });
+        exchange.print(editor);
+        QCOMPARE(done.count(), isAccepted ? 1 : 0);
+        QCOMPARE(tests::contentOf(place("sheet.pdf")).startsWith("%PDF"), isAccepted);
+    }
+
+    void resetsAfterAYesOnly_data() { importsAfterAYesOnly_data(); }
+    void resetsAfterAYesOnly()
+    {
+        QFETCH(bool, isAccepted);
+        BindingsEditor editor(subject("draw"), text("Draw"));
+        QVERIFY(editor.unbind(6));
+        QWidget window;
+        Exchange exchange(&window);
+        QTimer::singleShot(0, &window, [isAccepted] {
+            const auto *question = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            QVERIFY(question);
+            QVERIFY2(question->text().contains(text("Draw")), qPrintable(question->text()));
+            for (QAbstractButton *button : question->buttons()) {
+                if ((question->buttonRole(button) == QMessageBox::AcceptRole) == isAccepted)
+                    button->click();
+            }
+        });
+        exchange.reset(editor);
+        QCOMPARE(editor.bindings().eight.at(6), isAccepted ? text("ID_LINE") : QString());
     }
 
     void aFileWithAFaultIsNamedAndChangesNothing()
