@@ -4,9 +4,11 @@
 #include "dialog/BindingListPrinter.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QPrinter>
 #include <QTextBlock>
+#include <QTextCursor>
 #include <QTextDocument>
 #include <QTextTable>
 
@@ -20,6 +22,36 @@ constexpr qreal kMargin = 2 / 2.54; // inches, around the page: 2 cm
 constexpr qreal kDocumentDpi = 96; // the unit of lengths in formats
 constexpr qreal kRounding = 4; // pixels of the printer, far less than a row
 constexpr qreal kPageNumberGap = 5 / 72.0; // inches, above a page number
+
+// Centres the icons on their lines of text. The layout puts the middle of an image above the baseline by
+// a quarter of the height of an "x", in the font of the image and in pixels of the screen. So the image
+// gets a font in which that is the middle of the text, in pixels of the printer.
+void centreIcons(QTextDocument &document, QPrinter &printer)
+{
+    QTextCursor cursor(&document);
+    cursor.beginEditBlock();
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        for (auto part = block.begin(); !part.atEnd(); ++part) {
+            const QTextFragment image = part.fragment();
+            auto next = part;
+            if (!image.charFormat().isImageFormat() || (++next).atEnd())
+                continue;
+            QFont font = next.fragment().charFormat().font();
+            const QFontMetricsF metrics(font, &printer);
+            constexpr int kSample = 1000; // pixels
+            font.setPixelSize(kSample);
+            const qreal height = 2 * (metrics.ascent() - metrics.descent());
+            font.setPixelSize(qRound(kSample * height / QFontMetricsF(font).xHeight()));
+            QTextCharFormat format;
+            format.setFont(font);
+            cursor.setPosition(image.position());
+            cursor.setPosition(image.position() + image.length(), QTextCursor::KeepAnchor);
+            cursor.mergeCharFormat(format);
+            break; // a cell has one image, and the parts are others now
+        }
+    }
+    cursor.endEditBlock();
+}
 
 // A horizontal strip of the laid-out document, in pixels of the printer.
 struct Strip
@@ -111,6 +143,7 @@ void printBindingList(const QTextDocument &source, QPrinter &printer)
     const qreal down = kMargin * printer.logicalDpiY();
     const QRectF body =
         QRectF(0, 0, printer.width(), printer.height()).adjusted(across, down, -across, -down);
+    centreIcons(*document, printer);
     document->setDocumentMargin(0);
     document->documentLayout()->setPaintDevice(&printer);
     document->setTextWidth(body.width());

@@ -32,7 +32,10 @@
 #include <QPrinter>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QShortcut>
+#include <QStyle>
+#include <QStyleOptionComboBox>
 #include <QTextDocument>
 #include <QVBoxLayout>
 
@@ -44,6 +47,7 @@
 namespace {
 
 constexpr int kHelpTopic = 9000;
+constexpr int kTextMargin = 2; // pixels, beside the text of a drop-down
 constexpr int kFormWidth = 414; // pixels, of the dialog as it is laid out
 // The longest description, in characters. The label has room for a few hundred. The layout of a
 // million would stop the program for seconds.
@@ -134,6 +138,20 @@ MgDonutDialogManager::MgDonutDialogManager(QWidget *parent, Qt::WindowFlags flag
 
 MgDonutDialogManager::~MgDonutDialogManager() = default;
 
+// The description becomes wider with the dialog.
+void MgDonutDialogManager::setFixedDialogWidth(int newWidth)
+{
+    setMinimumWidth(newWidth);
+    setMaximumWidth(newWidth);
+    resize(newWidth, height());
+    const QMargins margins = ui.verticalLayout_5->contentsMargins();
+    QGroupBox *box = ui.description_groupBox;
+    QLabel *label = ui.description_label;
+    const int beside = box->minimumWidth() - label->width();
+    box->setMinimumWidth(std::max(box->minimumWidth(), newWidth - margins.left() - margins.right()));
+    label->resize(box->minimumWidth() - beside, label->height());
+}
+
 // The form's width suits a small font. If the texts need more, in a larger font or another language,
 // the dialog and the description become wider by the difference.
 void MgDonutDialogManager::fixWidth()
@@ -142,16 +160,7 @@ void MgDonutDialogManager::fixWidth()
     const int needed = std::max(ui.verticalLayout_4->minimumSize().width(),
                                 ui.horizontalLayout_6->minimumSize().width())
                      + margins.left() + margins.right();
-    if (needed > width()) {
-        resize(needed, height());
-        QGroupBox *box = ui.description_groupBox;
-        QLabel *label = ui.description_label;
-        const int beside = box->minimumWidth() - label->width();
-        box->setMinimumWidth(std::max(box->minimumWidth(), needed - margins.left() - margins.right()));
-        label->resize(box->minimumWidth() - beside, label->height());
-    }
-    setMinimumWidth(width());
-    setMaximumWidth(width());
+    setFixedDialogWidth(std::max(needed, width()));
 
     // The description has room for three lines below its title.
     QGroupBox *box = ui.description_groupBox;
@@ -264,11 +273,36 @@ void MgDonutDialogManager::setUpRowsAndColumns()
                            static_cast<int>(columns->defaultSectionSize() * 2.1));
     // This is only a request: the last section takes the remaining width.
     columns->resizeSection(MgCommandDSModel::kDirectionColumn, 10);
+    widenForDirections();
     QHeaderView *rows = table->verticalHeader();
     rows->setDefaultSectionSize(table->fontMetrics().height() + 8);
     rows->setStyleSheet(
         QStringLiteral("QHeaderView::section {padding-bottom: 0px;padding-top: 0px;padding-left: 0px;"
                        "padding-right: 0px;margin: 0px;}"));
+}
+
+// "None" is longer in other languages. If its drop-down would cut it off, the dialog becomes wider.
+void MgDonutDialogManager::widenForDirections()
+{
+    MgCommandTableView *table = ui.command_tableView;
+    QComboBox sample(table->viewport());
+    sample.resize(kFormWidth, sample.sizeHint().height());
+    QStyleOptionComboBox option;
+    option.initFrom(&sample);
+    const QRect inside = sample.style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                                        QStyle::SC_ComboBoxEditField, &sample);
+    const int text = sample.fontMetrics().horizontalAdvance(directionList.item(0)->text());
+    const int direction = text + kFormWidth - inside.width() + kTextMargin;
+
+    const QMargins margins = ui.verticalLayout_5->contentsMargins();
+    const QHeaderView *columns = table->horizontalHeader();
+    const int needed = margins.left() + margins.right() + 2 * table->frameWidth()
+                     + table->verticalHeader()->sizeHint().width()
+                     + columns->sectionSize(MgCommandDSModel::kCategoryColumn)
+                     + columns->sectionSize(MgCommandDSModel::kCommandColumn) + direction
+                     + table->verticalScrollBar()->sizeHint().width();
+    if (needed > width())
+        setFixedDialogWidth(needed);
 }
 
 void MgDonutDialogManager::setUpKeys()

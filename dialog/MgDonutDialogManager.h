@@ -95,6 +95,8 @@ protected:
 
 private:
     void fixWidth();
+    void setFixedDialogWidth(int newWidth);
+    void widenForDirections();
     void fillCategories();
     void setButtonIcons();
     void translateButtons();

@@ -36,14 +36,13 @@ DesktopMenu desktopMenu(const Subject &subject)
 Outcome print(const Subject &subject, const QString &path, const ProgramSettings &settings)
 {
     const QString called = desktopMenu(subject).nameOf(subject.typed, subject.path);
-    QString title = called.isEmpty() ? subject.name : called;
-    if (const QString task = settings.tasks.task(); !task.isEmpty()) {
+    const QString task = settings.tasks.task();
+    if (!task.isEmpty()) {
         const QString complaint = settings.tasks.exported().complaint; // it has no ring of its own
         if (!complaint.isEmpty())
             return Outcome::failure(complaint);
-        const QString caption = settings.commands.captionOf(task);
-        title = Text::tr("%1, %2").arg(title, caption.isEmpty() ? task : caption);
     }
+    const QString title = ringTitle(called.isEmpty() ? subject.name : called, task, settings.commands);
     const SheetContent content =
         sheetContent(title, settings.tasks.bindings(), settings.commands, settings.usualTrigger);
     return printSheet(content, QFile::decodeName(launcherFolder() + kSheet), path);

@@ -20,11 +20,19 @@ constexpr int kPatience = 60000; // milliseconds
 
 } // namespace
 
-SheetContent sheetContent(const QString &program, const Bindings &bindings, const KnownCommands &known,
+QString ringTitle(const QString &program, const QString &task, const KnownCommands &known)
+{
+    if (task.isEmpty())
+        return program;
+    const QString caption = known.captionOf(task);
+    return Text::tr("%1, %2").arg(program, caption.isEmpty() ? task : caption);
+}
+
+SheetContent sheetContent(const QString &title, const Bindings &bindings, const KnownCommands &known,
                           const QString &usualTrigger)
 {
     SheetContent content;
-    content.program = program;
+    content.program = title;
     content.trigger = bindings.trigger.isEmpty() ? usualTrigger : bindings.trigger;
     content.enabled = bindings.enabled;
     const QStringList names = Bindings::directionNames(bindings.scheme);

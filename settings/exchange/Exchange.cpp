@@ -37,9 +37,15 @@ void Exchange::exportBindings(const BindingsEditor &editor)
     const QString proposed =
         QDir::home().filePath(editor.subject().name + QLatin1String("-gestures.json"));
     const QString path = QFileDialog::getSaveFileName(m_window, tr("Export"), proposed, filterOf());
-    if (path.isEmpty())
-        return;
-    const launcher::Outcome outcome = editor.tasks().exportTo(path);
+    if (!path.isEmpty())
+        exportFile(editor, path);
+}
+
+void Exchange::exportFile(const BindingsEditor &editor, const QString &path)
+{
+    launcher::SettingsTasks tasks = editor.tasks();
+    tasks.setTask({});
+    const launcher::Outcome outcome = tasks.exportTo(path);
     if (outcome.isDone())
         Q_EMIT done(tr("Exported to %1").arg(QDir::toNativeSeparators(path)));
     else
@@ -69,17 +75,22 @@ void Exchange::importFile(BindingsEditor &editor, const QString &path)
         Q_EMIT done(tr("Imported from %1").arg(QDir::toNativeSeparators(path)));
 }
 
+launcher::SheetContent Exchange::sheetOf(const BindingsEditor &editor)
+{
+    return launcher::sheetContent(launcher::ringTitle(editor.title(), editor.ring(), editor.commands()),
+                                  editor.bindings(), editor.commands(), editor.usualTrigger());
+}
+
 void Exchange::print(const BindingsEditor &editor)
 {
+    const launcher::SheetContent content = sheetOf(editor);
     QPrinter printer(QPrinter::HighResolution);
     sheet::setUpPage(printer);
-    printer.setDocName(tr("Mouse gestures in %1").arg(editor.title()));
+    printer.setDocName(tr("Mouse gestures in %1").arg(content.program));
     QPrintDialog dialog(&printer, m_window);
     dialog.setOptions(QAbstractPrintDialog::PrintToFile);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    const launcher::SheetContent content = launcher::sheetContent(
-        editor.title(), editor.bindings(), editor.commands(), editor.usualTrigger());
     if (sheet::drawPage(content, printer, printer.resolution()))
         Q_EMIT done(tr("Printed"));
     else

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "launcher/sheet/SheetContent.h"
+
 #include <QObject>
 
 QT_BEGIN_NAMESPACE
@@ -22,10 +24,14 @@ public:
     // The dialogs belong to `window`.
     explicit Exchange(QWidget *window);
 
+    // An export holds all rings, because an import is about all of them.
     void exportBindings(const BindingsEditor &editor);
     void importBindings(BindingsEditor &editor);
     // The same once the file is known.
+    void exportFile(const BindingsEditor &editor, const QString &path);
     void importFile(BindingsEditor &editor, const QString &path);
+    // The sheet of the ring that is shown.
+    [[nodiscard]] static launcher::SheetContent sheetOf(const BindingsEditor &editor);
     void print(const BindingsEditor &editor);
     void reset(BindingsEditor &editor);
 

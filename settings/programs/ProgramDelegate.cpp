@@ -4,6 +4,7 @@
 #include "settings/programs/ProgramDelegate.h"
 
 #include "sdk/QtBridge.h"
+#include "settings/programs/ProgramIcon.h"
 #include "settings/programs/ProgramModel.h"
 #include "settings/programs/Switch.h"
 
@@ -55,7 +56,8 @@ void ProgramDelegate::paint(QPainter *painter, const QStyleOptionViewItem &given
     };
     const QRect row = option.rect;
     const QRect icon(row.left() + kMargin, row.center().y() - kIconSize / 2, kIconSize, kIconSize);
-    option.icon.paint(painter, visual(icon));
+    const QPixmap pixmap = programPixmap(option.icon, kIconSize, painter->device()->devicePixelRatioF());
+    style->drawItemPixmap(painter, visual(icon), Qt::AlignCenter, pixmap);
 
     const int left = icon.right() + 1 + kMargin;
     const int right = row.right() - 2 * kMargin - Switch::sizeFor(option.fontMetrics).width();

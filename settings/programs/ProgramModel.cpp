@@ -5,10 +5,7 @@
 
 #include "launcher/programs/ProgramCheck.h"
 #include "launcher/programs/Subject.h"
-
-#include <QApplication>
-#include <QFileInfo>
-#include <QStyle>
+#include "settings/programs/ProgramIcon.h"
 
 #include <algorithm>
 
@@ -21,30 +18,6 @@ bool isSame(const launcher::MenuProgram &one, const launcher::MenuProgram &other
 }
 
 } // namespace
-
-void findIconsWithoutTheme()
-{
-    if (QIcon::fallbackThemeName().isEmpty())
-        QIcon::setFallbackThemeName(QStringLiteral("hicolor"));
-}
-
-QIcon programIcon(const QString &name)
-{
-    QIcon icon;
-    if (name.startsWith(QLatin1Char('/')))
-        icon = QIcon(name);
-    else if (QIcon::hasThemeIcon(name))
-        icon = QIcon::fromTheme(name);
-    // Old entries name files there, with or without the ending.
-    for (const char *ending : {"", ".svg", ".png", ".xpm"}) {
-        const QString path = QLatin1String("/usr/share/pixmaps/") + name + QLatin1String(ending);
-        if (icon.isNull() && !name.isEmpty() && QFileInfo(path).isFile())
-            icon = QIcon(path);
-    }
-    if (icon.isNull())
-        icon = QIcon::fromTheme(QStringLiteral("application-x-executable"));
-    return icon.isNull() ? QApplication::style()->standardIcon(QStyle::SP_DesktopIcon) : icon;
-}
 
 ProgramModel::ProgramModel(const launcher::DesktopMenu::Places &places, QObject *parent)
     : QAbstractListModel(parent)

@@ -61,11 +61,4 @@ private:
     QVector<Row> m_rows;
 };
 
-// Lets QIcon::fromTheme find the icons of programs also if the desktop names a theme that is not
-// installed: they are in the theme "hicolor". Qt looks there only through another theme.
-void findIconsWithoutTheme();
-
-// The icon of a desktop entry; a plain one if it cannot be found.
-[[nodiscard]] QIcon programIcon(const QString &name);
-
 } // namespace settings

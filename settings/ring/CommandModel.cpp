@@ -31,8 +31,12 @@ ShownCommand shownCommand(const BindingsEditor &editor, const QString &identifie
 
 QIcon arrowIcon(const QString &direction)
 {
-    return QIcon(QStringLiteral(":/gesturewidgetimages/Resources/%1.png")
-                     .arg(QString(direction).replace(QLatin1Char('-'), QLatin1Char('_'))));
+    const QString file = QStringLiteral(":/gesturewidgetimages/Resources/%1.png")
+                             .arg(QString(direction).replace(QLatin1Char('-'), QLatin1Char('_')));
+    QIcon icon(file);
+    // Without this, the icon in a selected row is mixed with the row's colour.
+    icon.addFile(file, {}, QIcon::Selected);
+    return icon;
 }
 
 CommandModel::CommandModel(QObject *parent)

@@ -6,8 +6,13 @@
 #include "host/files/CommandNames.h"
 
 #include <QAccessible>
+#include <QEvent>
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QLabel>
+#include <QPainter>
+#include <QPen>
+#include <QPixmap>
 #include <QStyle>
 #include <QToolButton>
 
@@ -29,7 +34,7 @@ MessageBar::MessageBar(QWidget *parent)
     m_label->setTextFormat(Qt::PlainText);
     m_label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_close->setAutoRaise(true);
-    m_close->setIcon(style()->standardIcon(QStyle::SP_DialogCloseButton));
+    m_close->setIcon(closeIcon());
     m_close->setAccessibleName(tr("Close message"));
     m_close->setToolTip(tr("Close message"));
     m_close->setFocusPolicy(Qt::StrongFocus);
@@ -56,6 +61,32 @@ void MessageBar::tell(const QString &text)
 QString MessageBar::text() const
 {
     return isHidden() ? QString() : m_label->text();
+}
+
+void MessageBar::changeEvent(QEvent *event)
+{
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        m_close->setIcon(closeIcon());
+}
+
+// In the colour of the text. The icon of a style or theme is for the background of a window, and may be
+// dark on dark here.
+QIcon MessageBar::closeIcon() const
+{
+    const int side = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
+    const qreal ratio = devicePixelRatioF();
+    QPixmap pixmap(QSize(side, side) * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(
+        QPen(palette().color(QPalette::ToolTipText), side / 8.0, Qt::SolidLine, Qt::RoundCap));
+    const QRectF cross = QRectF(0, 0, side, side).marginsRemoved(QMarginsF(1, 1, 1, 1) * (side / 4.0));
+    painter.drawLine(cross.topLeft(), cross.bottomRight());
+    painter.drawLine(cross.topRight(), cross.bottomLeft());
+    return pixmap;
 }
 
 void MessageBar::showText(const QString &line, bool isComplaint)

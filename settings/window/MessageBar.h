@@ -6,6 +6,7 @@
 #include <QFrame>
 
 QT_BEGIN_NAMESPACE
+class QIcon;
 class QLabel;
 class QToolButton;
 QT_END_NAMESPACE
@@ -26,7 +27,11 @@ public:
     void tell(const QString &text);
     [[nodiscard]] QString text() const;
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    [[nodiscard]] QIcon closeIcon() const;
     void showText(const QString &line, bool isComplaint);
 
     QLabel *m_icon;

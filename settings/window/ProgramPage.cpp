@@ -4,6 +4,7 @@
 #include "settings/window/ProgramPage.h"
 
 #include "settings/editing/BindingsEditor.h"
+#include "settings/programs/ProgramIcon.h"
 #include "settings/programs/Switch.h"
 #include "settings/ring/CommandDrag.h"
 #include "settings/ring/CommandModel.h"
@@ -55,6 +56,7 @@ QWidget *ProgramPage::createHeader()
 {
     auto *header = new QWidget(this);
     m_icon = new QLabel(header);
+    m_icon->setObjectName(QStringLiteral("program_icon"));
     m_title = new QLabel(header);
     m_title->setObjectName(QStringLiteral("program_title"));
     m_title->setTextFormat(Qt::PlainText);
@@ -222,7 +224,7 @@ void ProgramPage::showProgram(BindingsEditor *editor, const QIcon &icon, bool is
     });
     connect(editor, &BindingsEditor::commandsChanged, this, &ProgramPage::showCommands);
     m_commands->clearSearch();
-    m_icon->setPixmap(icon.pixmap(kIconSize, kIconSize));
+    m_icon->setPixmap(programPixmap(icon, kIconSize, devicePixelRatioF()));
     m_title->setText(editor->title());
     m_isOn = isOn;
     m_switch->setChecked(isOn);

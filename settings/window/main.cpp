@@ -6,7 +6,7 @@
 
 #include "host/language/LanguageChoice.h"
 #include "host/language/Translations.h"
-#include "settings/programs/ProgramModel.h"
+#include "settings/programs/ProgramIcon.h"
 #include "settings/window/OneWindow.h"
 #include "settings/window/SettingsWindow.h"
 

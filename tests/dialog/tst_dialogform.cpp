@@ -17,6 +17,7 @@
 #include <QItemDelegate>
 #include <QSignalSpy>
 #include <QStyle>
+#include <QStyleOptionComboBox>
 #include <QTest>
 
 #include <algorithm>
@@ -383,6 +384,18 @@ void DialogFormTest::growsWithTheFontAndClipsNothing()
             qPrintable(
                 QStringLiteral("%1: %2 of %3").arg(header).arg(table->columnWidth(column)).arg(needed)));
     }
+    // The drop-down of a direction shows its text whole.
+    tests::click(dialog.ui.command_tableView, dialog.cell(0, tests::kDirection));
+    const QComboBox *editor = dialog.editor();
+    QVERIFY(editor);
+    QStyleOptionComboBox option;
+    option.initFrom(editor);
+    const QRect inside = editor->style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                                         QStyle::SC_ComboBoxEditField, editor);
+    const int none = editor->fontMetrics().horizontalAdvance(dialog.directionList.item(0)->text());
+    QVERIFY2(inside.width() >= none,
+             qPrintable(QStringLiteral("%1 of %2").arg(inside.width()).arg(none)));
+    QVERIFY(editor->height() >= editor->fontMetrics().height());
     int category = 0;
     for (const QString &text : dialog.shown(0))
         category = std::max(category, table->fontMetrics().horizontalAdvance(text) + 8);

@@ -81,9 +81,12 @@ void DialogKeysTest::searchFieldCanBeClearedWithOneClick()
     open();
     tests::type(m_dialog.get(), QStringLiteral("line"));
     QVERIFY(m_dialog->proxy->rowCount() < 40);
-    const auto *clear = m_dialog->ui.search_lineEdit->findChild<QToolButton *>();
+    auto *clear = m_dialog->ui.search_lineEdit->findChild<QToolButton *>();
     QVERIFY(clear);
     QVERIFY(m_dialog->ui.search_lineEdit->isClearButtonEnabled());
+    tests::click(clear);
+    QCOMPARE(m_dialog->ui.search_lineEdit->text(), QString());
+    QCOMPARE(m_dialog->proxy->rowCount(), 40);
 }
 
 void DialogKeysTest::controlFGoesToTheSearchField()

@@ -24,7 +24,9 @@
 #include <QTextDocument>
 #include <QTextTable>
 #include <QTimer>
+#include <QVector>
 
+#include <algorithm>
 #include <cmath>
 #include <memory>
 
@@ -132,6 +134,7 @@ private Q_SLOTS:
     void printsWhatTheTableShows();
     void everyPageHasWholeRowsBelowTheHeader_data();
     void everyPageHasWholeRowsBelowTheHeader();
+    void cellsOfARowAlign();
     void theNumberIsFivePointsBelowThePage();
     void chosenPagesOnly();
     void fileHasATitle();
@@ -537,6 +540,50 @@ void PrintingTest::everyPageHasWholeRowsBelowTheHeader()
         QCOMPARE(words, expected);
     }
     QCOMPARE(row, m_dialog->proxy->rowCount());
+}
+
+// Beside an icon, a line is as high as the icon.
+void PrintingTest::cellsOfARowAlign()
+{
+    open(8);
+    for (int number = 0; number < 4; ++number)
+        m_host->commands.addCommand(QStringLiteral("P%1").arg(number), QStringLiteral("p"),
+                                    QStringLiteral("plain%1").arg(number));
+    MgDonutDataContainer::instance()->init();
+    m_dialog->model->resetToDefault();
+    printToFile();
+    const QString page =
+        run(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), m_file, QStringLiteral("-")});
+    struct Word
+    {
+        QString text;
+        qreal left, middle;
+    };
+    QVector<Word> words;
+    auto found = QRegularExpression(QStringLiteral("xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\" "
+                                                   "xMax=\"[0-9.]+\" yMax=\"([0-9.]+)\">([^<]*)<"))
+                     .globalMatch(page);
+    while (found.hasNext()) {
+        const QRegularExpressionMatch word = found.next();
+        words.append({word.captured(4), word.captured(1).toDouble(),
+                      (word.captured(2).toDouble() + word.captured(3).toDouble()) / 2});
+    }
+    // The words of the first column; every other word is in the line of one of them.
+    QVERIFY(words.size() > 20);
+    const qreal edge = words.front().left;
+    QVector<qreal> lines;
+    for (const Word &word : words) {
+        if (std::abs(word.left - edge) < 1)
+            lines.append(word.middle);
+    }
+    QCOMPARE(lines.size(), m_dialog->proxy->rowCount() + 1);
+    words.removeLast(); // the page number
+    for (const Word &word : words) {
+        qreal nearest = 1000;
+        for (const qreal line : lines)
+            nearest = std::min(nearest, std::abs(line - word.middle));
+        QVERIFY2(nearest < 1, qPrintable(QStringLiteral("%1: %2 points").arg(word.text).arg(nearest)));
+    }
 }
 
 // As Qt prints the pages of a text.

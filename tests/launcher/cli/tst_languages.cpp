@@ -8,12 +8,9 @@
 #include "tests/support/FatalWarnings.h"
 #include "tests/support/FolderTest.h"
 
-#include <QFile>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTest>
-
-#include <algorithm>
 
 using launcher::columnsOf;
 using launcher::padded;
@@ -48,8 +45,6 @@ private Q_SLOTS:
     void explanation();
     void sheet_data() { languages(); }
     void sheet();
-    void theEntryForTheMenu_data() { languages(); }
-    void theEntryForTheMenu();
     void theFirstKnownLanguageCounts();
 
 private:
@@ -266,23 +261,6 @@ void LanguagesTest::sheet()
         QVERIFY2(here.contains(QLatin1String(word)) == isSame, qPrintable(here.join(QLatin1Char(' '))));
     }
     QVERIFY2(!here.join(QString()).contains(QChar(0x2026)), qPrintable(here.join(QLatin1Char(' '))));
-}
-
-// English has no ending in the entry.
-void LanguagesTest::theEntryForTheMenu()
-{
-    QFETCH(QString, language);
-    QFile file(QStringLiteral(DESKTOP_ENTRY));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
-    const QString ending =
-        language == QStringLiteral("en") ? QString() : QStringLiteral("[%1]").arg(language);
-    for (const char *key : {"Name", "GenericName", "Comment"}) {
-        const QString beginning = QLatin1String(key) + ending + QLatin1Char('=');
-        QVERIFY2(std::any_of(lines.begin(), lines.end(),
-                             [&](const QString &line) { return line.startsWith(beginning); }),
-                 qPrintable(beginning));
-    }
 }
 
 void LanguagesTest::theFirstKnownLanguageCounts()

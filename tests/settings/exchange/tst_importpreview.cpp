@@ -6,7 +6,6 @@
 #include "settings/exchange/ImportPreview.h"
 
 #include "launcher/sheet/SheetPage.h"
-#include "launcher/sheet/SheetTask.h"
 #include "settings/editing/BindingsEditor.h"
 #include "settings/exchange/Exchange.h"
 #include "tests/settings/support/HomeTest.h"
@@ -14,6 +13,8 @@
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QFile>
+#include <QMessageBox>
+#include <QPrintDialog>
 #include <QPrinter>
 #include <QProcess>
 #include <QPushButton>
@@ -118,13 +119,30 @@ private Q_SLOTS:
         QCOMPARE(editor.bindings().eight.at(6), isAccepted ? text("ID_LINE") : QString());
     }
 
+    void aSheetIsPrintedToAFile_data()
+    {
+        QTest::addColumn<QString>("ring");
+        QTest::addColumn<QByteArray>("title");
+        QTest::newRow("for all tasks") << QString() << QByteArray("Mouse gestures in Draw\n");
+        QTest::newRow("of a task") << text("Sketching")
+                                   << QByteArray("Mouse gestures in Draw, The Sketching\n");
+        QTest::newRow("of a task that was never seen")
+            << text("Modelling") << QByteArray("Mouse gestures in Draw, Modelling\n");
+    }
     void aSheetIsPrintedToAFile()
     {
-        const BindingsEditor editor(subject("draw"), text("Draw"));
+        QFETCH(QString, ring);
+        QFETCH(QByteArray, title);
+        writeProfile(text("draw"));
+        remember(text("draw"), {text("Sketching")});
+        BindingsEditor editor(subject("draw"), text("Draw"));
+        for (const char *task : {"Sketching", "Modelling"})
+            QVERIFY(editor.setOwnRing(text(task), true));
+        editor.setRing(ring);
+        QCOMPARE(editor.ring(), ring);
         QPrinter printer(QPrinter::HighResolution);
         printer.setOutputFileName(place("ring.pdf"));
-        const launcher::SheetContent content = launcher::sheetContent(
-            editor.title(), editor.bindings(), editor.commands(), editor.usualTrigger());
+        const launcher::SheetContent content = Exchange::sheetOf(editor);
         QVERIFY(sheet::setUpPage(printer));
         QVERIFY(sheet::drawPage(content, printer, printer.resolution()));
         QVERIFY(tests::contentOf(place("ring.pdf")).startsWith("%PDF"));
@@ -132,7 +150,69 @@ private Q_SLOTS:
         reader.start(text("/usr/bin/pdftotext"), {text("-layout"), place("ring.pdf"), text("-")});
         QVERIFY(reader.waitForFinished());
         const QByteArray words = reader.readAllStandardOutput();
-        QVERIFY2(words.contains("Mouse gestures in Draw"), words.constData());
+        QVERIFY2(words.contains(title), words.constData());
+    }
+
+    // An import is about all rings, so the export that it reads is too, whichever ring is shown.
+    void anExportHoldsAllRings()
+    {
+        BindingsEditor editor(subject("draw"), text("Draw"));
+        QVERIFY(editor.setOwnRing(text("Sketching"), true));
+        QVERIFY(editor.unbind(6));
+        QCOMPARE(editor.ring(), text("Sketching"));
+        QWidget window;
+        Exchange exchange(&window);
+        QSignalSpy done(&exchange, &Exchange::done);
+        exchange.exportFile(editor, place("kept.json"));
+        QCOMPARE(done.count(), 1);
+        launcher::Bindings shared;
+        QMap<QString, launcher::Bindings> rings;
+        QVERIFY(editor.tasks().readImport(place("kept.json"), shared, &rings).isDone());
+        QCOMPARE(shared.eight.at(6), text("ID_LINE"));
+        QCOMPARE(rings.keys(), QStringList(text("Sketching")));
+        QCOMPARE(rings.value(text("Sketching")).eight.at(6), QString());
+    }
+
+    void printsAfterAYesOnly_data() { importsAfterAYesOnly_data(); }
+    void printsAfterAYesOnly()
+    {
+        QFETCH(bool, isAccepted);
+        const BindingsEditor editor(subject("draw"), text("Draw"));
+        QWidget window;
+        Exchange exchange(&window);
+        QSignalSpy done(&exchange, &Exchange::done);
+        QTimer::singleShot(0, &window, [this, isAccepted] {
+            auto *dialog = qobject_cast<QPrintDialog *>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            QCOMPARE(dialog->printer()->docName(), text("Mouse gestures in Draw"));
+            dialog->printer()->setOutputFormat(QPrinter::PdfFormat);
+            dialog->printer()->setOutputFileName(place("sheet.pdf"));
+            dialog->done(isAccepted ? QDialog::Accepted : QDialog::Rejected);
+        });
+        exchange.print(editor);
+        QCOMPARE(done.count(), isAccepted ? 1 : 0);
+        QCOMPARE(tests::contentOf(place("sheet.pdf")).startsWith("%PDF"), isAccepted);
+    }
+
+    void resetsAfterAYesOnly_data() { importsAfterAYesOnly_data(); }
+    void resetsAfterAYesOnly()
+    {
+        QFETCH(bool, isAccepted);
+        BindingsEditor editor(subject("draw"), text("Draw"));
+        QVERIFY(editor.unbind(6));
+        QWidget window;
+        Exchange exchange(&window);
+        QTimer::singleShot(0, &window, [isAccepted] {
+            const auto *question = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            QVERIFY(question);
+            QVERIFY2(question->text().contains(text("Draw")), qPrintable(question->text()));
+            for (QAbstractButton *button : question->buttons()) {
+                if ((question->buttonRole(button) == QMessageBox::AcceptRole) == isAccepted)
+                    button->click();
+            }
+        });
+        exchange.reset(editor);
+        QCOMPARE(editor.bindings().eight.at(6), isAccepted ? text("ID_LINE") : QString());
     }
 
     void aFileWithAFaultIsNamedAndChangesNothing()

@@ -7,6 +7,7 @@
 
 #include "settings/programs/ProgramDelegate.h"
 #include "settings/programs/ProgramFinder.h"
+#include "settings/programs/ProgramIcon.h"
 #include "settings/programs/ProgramPanel.h"
 #include "tests/settings/support/HomeTest.h"
 #include "tests/support/Fading.h"
@@ -14,13 +15,17 @@
 #include <QAbstractItemModelTester>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QIcon>
 #include <QImage>
 #include <QLineEdit>
 #include <QListView>
+#include <QPainter>
+#include <QPixmap>
 #include <QProgressBar>
 #include <QSignalSpy>
 #include <QSortFilterProxyModel>
+#include <QStandardItemModel>
 #include <QtTest>
 
 #include <unistd.h>
@@ -44,6 +49,13 @@ QStringList names(const ProgramModel &model)
     for (int row = 0; row < model.rowCount(); ++row)
         names.append(model.index(row).data().toString());
     return names;
+}
+
+QImage redImage(int side)
+{
+    QImage image(side, side, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    return image;
 }
 
 // Looks for programs until the search has ended.
@@ -83,6 +95,68 @@ private Q_SLOTS:
         QCOMPARE(names(model), (QStringList{text("Draw"), text("Sketch")}));
         QVERIFY(!model.index(0).data(Qt::DecorationRole).value<QIcon>().isNull());
         QCOMPARE(model.index(0).data(Qt::CheckStateRole).toInt(), int(Qt::Unchecked));
+    }
+
+    void iconsOutsideOfAnyThemeAreFound_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::newRow("beside the themes") << text("share/icons/drafter.png");
+        QTest::newRow("among the pixmaps") << text("share/pixmaps/drafter.png");
+        QTest::newRow("the person's own") << text("data/icons/drafter.png");
+    }
+    void iconsOutsideOfAnyThemeAreFound()
+    {
+        QFETCH(QString, file);
+        QVERIFY(QDir().mkpath(QFileInfo(place(file)).path()));
+        QVERIFY(redImage(16).save(place(file)));
+        for (const char *name : {"drafter", "drafter.png"})
+            QCOMPARE(settings::programIcon(text(name)).pixmap(16).toImage().pixelColor(8, 8),
+                     QColor(Qt::red));
+    }
+
+    void smallIconsFillTheirPlace_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<qreal>("ratio");
+        QTest::addColumn<QSize>("shown");
+        QTest::newRow("small") << QSize(16, 16) << 1.0 << QSize(32, 32);
+        QTest::newRow("odd") << QSize(22, 22) << 1.0 << QSize(32, 32);
+        QTest::newRow("right") << QSize(32, 32) << 1.0 << QSize(32, 32);
+        QTest::newRow("large") << QSize(64, 64) << 1.0 << QSize(32, 32);
+        QTest::newRow("wide") << QSize(16, 8) << 1.0 << QSize(32, 16);
+        QTest::newRow("on a fine screen") << QSize(32, 32) << 2.0 << QSize(64, 64);
+    }
+    void smallIconsFillTheirPlace()
+    {
+        QFETCH(QSize, size);
+        QFETCH(qreal, ratio);
+        QFETCH(QSize, shown);
+        const QIcon icon(QPixmap::fromImage(redImage(64).scaled(size)));
+        const QPixmap pixmap = settings::programPixmap(icon, 32, ratio);
+        QCOMPARE(pixmap.size(), shown);
+        QCOMPARE(pixmap.devicePixelRatioF(), ratio);
+
+        // The same in the list.
+        QStandardItemModel model;
+        model.appendRow(new QStandardItem(icon, text("Draw")));
+        QImage paper(QSize(300, 48) * ratio, QImage::Format_RGB32);
+        paper.setDevicePixelRatio(ratio);
+        paper.fill(Qt::white);
+        QStyleOptionViewItem option;
+        option.rect = QRect(0, 0, 300, 48);
+        option.palette.setColor(QPalette::Text, Qt::black);
+        QPainter painter(&paper);
+        settings::ProgramDelegate().paint(&painter, option, model.index(0, 0));
+        painter.end();
+        QRect red;
+        for (int y = 0; y < paper.height(); ++y) {
+            for (int x = 0; x < paper.width(); ++x) {
+                if (paper.pixelColor(x, y) == QColor(Qt::red))
+                    red |= QRect(x, y, 1, 1);
+            }
+        }
+        QCOMPARE(red.size(), shown);
+        QVERIFY((red.center() / ratio - QPoint(8 + 16, 24)).manhattanLength() <= 3);
     }
 
     void aSwitchDoesWhatEnableAndDisableDo()

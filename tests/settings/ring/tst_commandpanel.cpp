@@ -179,6 +179,14 @@ private Q_SLOTS:
         QCOMPARE(unwanted, (QList<QVariantList>{{7}}));
     }
 
+    void arrowsKeepTheirColourInASelectedRow()
+    {
+        const QIcon arrow = settings::arrowIcon(text("up-left"));
+        const QImage image = arrow.pixmap(16).toImage();
+        QVERIFY(!image.isNull());
+        QCOMPARE(arrow.pixmap(16, QIcon::Selected).toImage(), image);
+    }
+
     void aCommandIsDraggedAndAMenuIsNot()
     {
         const BindingsEditor editor(subject("draw"), text("Draw"));

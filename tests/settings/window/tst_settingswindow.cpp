@@ -15,20 +15,26 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QHash>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMenu>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QSet>
 #include <QTimer>
 #include <QToolButton>
 #include <QtTest>
 
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <cmath>
 
 using settings::SettingsWindow;
 using tests::text;
@@ -56,6 +62,35 @@ QString state(const SettingsWindow &window)
 QString message(const SettingsWindow &window)
 {
     return find<settings::MessageBar>(window, "message_bar")->text();
+}
+
+// What brightness a person sees, 0 to 1, as WCAG defines it.
+double luminance(QRgb color)
+{
+    const auto linear = [](int value) {
+        const double part = value / 255.0;
+        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) + 0.0722 * linear(qBlue(color));
+}
+
+// The contrast between the most frequent colour and the one that differs most, 1 to 21. WCAG asks for
+// 4.5 for text.
+double contrastIn(const QImage &image)
+{
+    QHash<QRgb, int> colors;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            ++colors[image.pixel(x, y)];
+    }
+    const auto ground = std::max_element(colors.begin(), colors.end());
+    double most = 1.0;
+    for (auto color = colors.begin(); color != colors.end(); ++color) {
+        const double one = luminance(color.key()) + 0.05;
+        const double other = luminance(ground.key()) + 0.05;
+        most = std::max(most, std::max(one, other) / std::min(one, other));
+    }
+    return most;
 }
 
 } // namespace
@@ -107,6 +142,19 @@ private Q_SLOTS:
         open(window);
         QCOMPARE(title(window), text("Sketch"));
         QVERIFY(find<QAbstractButton>(window, "program_switch")->isChecked());
+    }
+
+    void aSmallIconIsLargeOnThePage()
+    {
+        QImage image(16, 16, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        QVERIFY(image.save(place("arc.png")));
+        install(text("arc"), text("Arc"), "Icon=" + QFile::encodeName(place("arc.png")) + '\n');
+        SettingsWindow window;
+        open(window, 3);
+        QCOMPARE(title(window), text("Arc"));
+        const QSize shown = find<QLabel>(window, "program_icon")->sizeHint();
+        QCOMPARE(shown, QSize(48, 48));
     }
 
     void theSwitchOfThePageAndTheOneInTheListAreOne()
@@ -170,6 +218,7 @@ private Q_SLOTS:
 
     void tabReachesEverythingThatCanBeUsed()
     {
+        writeProfile(text("draw"));
         SettingsWindow window;
         open(window);
         QTest::keyClicks(find<QLineEdit>(window, "command_search"), text("line"));
@@ -179,9 +228,9 @@ private Q_SLOTS:
             if (QApplication::focusWidget())
                 reached.insert(QApplication::focusWidget()->objectName());
         }
-        for (const char *name :
-             {"program_search", "program_list", "program_switch", "four_button", "sector_up",
-              "trigger_list", "command_search", "put_button", "command_view"})
+        for (const char *name : {"program_search", "program_list", "program_switch", "ring_list",
+                                 "own_rings_button", "four_button", "sector_up", "trigger_list",
+                                 "command_search", "put_button", "command_view"})
             QVERIFY2(reached.contains(text(name)),
                      qPrintable(text(name) + text(" is not in ")
                                 + QStringList(reached.values()).join(QLatin1Char(' '))));
@@ -327,6 +376,86 @@ private Q_SLOTS:
         }));
     }
 
+    // A program on a disk that does not answer: the search waits at a pipe until somebody writes to it.
+    void theWindowIsUsableDuringTheSearch()
+    {
+        const QByteArray pipe = QFile::encodeName(programFile(text("slow")));
+        QCOMPARE(::mkfifo(pipe.constData(), 0700), 0);
+        write(entryFile(text("slow")), "[Desktop Entry]\nType=Application\nName=Slow\nExec=slow\n");
+        SettingsWindow window;
+        const auto letGo = [&pipe] {
+            const int writer = ::open(pipe.constData(), O_WRONLY | O_NONBLOCK);
+            if (writer >= 0)
+                ::close(writer);
+        };
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        const auto *bar = find<QProgressBar>(window, "program_progress");
+        QTRY_VERIFY(bar->isVisible());
+        auto *search = find<QLineEdit>(window, "program_search");
+        search->setFocus();
+        QTest::keyClicks(search, text("draw"));
+        QCOMPARE(search->text(), text("draw"));
+        QVERIFY(!window.grab().isNull());
+        QVERIFY(bar->isVisible());
+        QTRY_VERIFY((letGo(), !bar->isVisible()));
+        const QAbstractItemModel *list = find<QListView>(window, "program_list")->model();
+        QCOMPARE(list->rowCount(), 1);
+        search->clear();
+        QCOMPARE(list->rowCount(), 2);
+    }
+
+    void everythingIsReadableInEveryTheme_data()
+    {
+        QTest::addColumn<QColor>("window");
+        QTest::addColumn<QColor>("base");
+        QTest::addColumn<QColor>("tip");
+        QTest::newRow("dark") << QColor(0x22, 0x20, 0x21) << QColor(0x3d, 0x3d, 0x3d)
+                              << QColor(0x3f, 0x3f, 0x36);
+        QTest::newRow("light") << QColor(0xef, 0xef, 0xef) << QColor(Qt::white)
+                               << QColor(0xff, 0xff, 0xdc);
+    }
+    void everythingIsReadableInEveryTheme()
+    {
+        QFETCH(QColor, window);
+        QFETCH(QColor, base);
+        QFETCH(QColor, tip);
+        const QPalette before = QApplication::palette();
+        const bool isDark = window.lightness() < 128;
+        QPalette palette(window);
+        palette.setColor(QPalette::Base, base);
+        palette.setColor(QPalette::ToolTipBase, tip);
+        palette.setColor(QPalette::ToolTipText, isDark ? Qt::white : Qt::black);
+        QApplication::setPalette(palette);
+        const auto back = qScopeGuard([&before] { QApplication::setPalette(before); });
+        SettingsWindow shown;
+        open(shown);
+        find<settings::MessageBar>(shown, "message_bar")->complain(text("something is wrong"));
+        QList<QWidget *> widgets;
+        for (QLabel *label : shown.findChildren<QLabel *>()) {
+            if (!label->text().isEmpty())
+                widgets.append(label);
+        }
+        for (QAbstractButton *button : shown.findChildren<QAbstractButton *>())
+            widgets.append(button);
+        for (const char *name : {"trigger_field", "trigger_list", "program_list", "command_view"})
+            widgets.append(find<QWidget>(shown, name));
+        int seen = 0;
+        for (QWidget *widget : std::as_const(widgets)) {
+            if (!widget->isVisible() || !widget->isEnabled())
+                continue;
+            const double contrast =
+                contrastIn(shown.grab({widget->mapTo(&shown, QPoint()), widget->size()}).toImage());
+            const QByteArray what = widget->metaObject()->className() + QByteArray(" ")
+                                  + widget->objectName().toLatin1() + ' ' + QByteArray::number(contrast);
+            // WCAG asks for 3 for controls without text.
+            QVERIFY2(contrast >= (widget->objectName() == text("program_switch") ? 3.0 : 4.5),
+                     what.constData());
+            ++seen;
+        }
+        QVERIFY2(seen >= 15, qPrintable(QString::number(seen)));
+    }
+
     void anotherProgramBeginsAnew()
     {
         write(settingsFile(text("draw")), QByteArray(200, '\0'));
@@ -357,19 +486,32 @@ private Q_SLOTS:
     void everyLanguageFits_data()
     {
         QTest::addColumn<QString>("language");
-        const QStringList languages = gesturewidget::Translations::languages();
+        QTest::addColumn<int>("percent");
+        QStringList languages = gesturewidget::Translations::languages();
         QVERIFY(languages.contains(text("de")));
-        for (const QString &language : languages)
-            QTest::newRow(language.toLatin1().constData()) << language;
+        languages.prepend(text("en"));
+        for (const QString &language : std::as_const(languages)) {
+            for (const int percent : {100, 150, 300})
+                QTest::addRow("%s, %d %%", qPrintable(language), percent) << language << percent;
+        }
     }
     void everyLanguageFits()
     {
         QFETCH(QString, language);
+        QFETCH(int, percent);
+        const QFont before = QApplication::font();
+        QFont font = before;
+        font.setPointSizeF(before.pointSizeF() * percent / 100.0);
+        QApplication::setFont(font);
+        const auto back = qScopeGuard([&before] { QApplication::setFont(before); });
+        writeProfile(text("draw"));
         gesturewidget::Translations translations;
         translations.install(language);
         SettingsWindow window;
+        // The screen of the tests is that of a person who needs no larger texts.
+        window.resize(window.size() * percent / 100);
         open(window);
-        QVERIFY(window.windowTitle() != text("Mouse Gestures"));
+        QCOMPARE(window.windowTitle() == text("Mouse Gestures"), language == text("en"));
         QVERIFY(state(window) != QString());
         int seen = 0;
         const auto labels = window.findChildren<QLabel *>();
@@ -388,6 +530,13 @@ private Q_SLOTS:
         for (const QAbstractButton *button : buttons)
             QVERIFY2(!button->isVisible() || button->width() >= button->minimumSizeHint().width(),
                      qPrintable(button->text()));
+        for (const char *name : {"ring_list", "trigger_list"}) {
+            const auto *box = find<QComboBox>(window, name);
+            QVERIFY2(box->isVisible() && box->height() >= box->minimumSizeHint().height(), name);
+        }
+        const auto *field = find<QWidget>(window, "trigger_field");
+        QVERIFY(field->width() >= field->sizeHint().width());
+        QVERIFY(field->height() >= field->sizeHint().height());
     }
 
     void aTaskGetsItsOwnRingByKeys()
