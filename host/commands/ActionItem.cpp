@@ -34,7 +34,7 @@ QString tipAmong(const QStringList &texts, const QString &caption)
 {
     QString first;
     for (const QString &text : texts) {
-        const QString tip = plainTip(text);
+        QString tip = plainTip(text);
         if (tip.size() <= kLongestTip && !repeatsCaption(tip, caption))
             return tip;
         if (first.isEmpty())

@@ -51,7 +51,7 @@ private Q_SLOTS:
         const QIcon icon = tests::anyIcon();
         const MgCommandDS made(QStringLiteral("ID_LINE"), QStringLiteral("line"), QStringLiteral("Line"),
                                QStringLiteral("Draw"), QStringLiteral("Draws a line"), icon, 4, 7);
-        const MgCommandDS copy(made);
+        const MgCommandDS copy(made); // NOLINT(performance-unnecessary-copy-initialization): tested
         MgCommandDS assigned = record("x", "x", "x", "x");
         assigned = made;
         for (const MgCommandDS &held : {made, copy, assigned}) {

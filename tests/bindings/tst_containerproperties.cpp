@@ -92,7 +92,7 @@ public:
     void run(const Step &step)
     {
         const QStringList keys = tests::allKeys();
-        const QString key = keys.at(static_cast<int>(step.first) % keys.size());
+        const QString &key = keys.at(static_cast<int>(step.first) % keys.size());
         switch (step.kind) {
         case Step::Init:
             reread([this] { m_container->init(); });

@@ -23,6 +23,7 @@ using Bytes = QPair<int, int>;
 [[nodiscard]] inline std::vector<Bytes> bytesOf(const std::vector<MgCommandDS> &records)
 {
     std::vector<Bytes> bytes;
+    bytes.reserve(records.size());
     for (const MgCommandDS &record : records)
         bytes.push_back(bytesOf(record));
     return bytes;

@@ -803,7 +803,7 @@ void CommandTableModelTest::sortsAgainWhenTheFilterIsApplied()
 void CommandTableModelTest::comparesTextsAsTheBaseClassDoes()
 {
     const QStringList names{QString(),
-                            QStringLiteral(""),
+                            QLatin1String(""),
                             QStringLiteral("a"),
                             QStringLiteral("A"),
                             QStringLiteral("aa"),
@@ -817,7 +817,8 @@ void CommandTableModelTest::comparesTextsAsTheBaseClassDoes()
         m_host->commands.addCommand(name, QStringLiteral("x"), name);
     open("8");
     QStandardItemModel plain;
-    for (const QString &name : m_dialog->shown())
+    const QStringList shown = m_dialog->shown();
+    for (const QString &name : shown)
         plain.appendRow({new QStandardItem, new QStandardItem(name)});
     QSortFilterProxyModel plainProxy;
     plainProxy.setSourceModel(&plain);

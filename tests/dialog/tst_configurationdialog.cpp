@@ -140,7 +140,8 @@ void ConfigurationDialogTest::openingWithGesturesDisabled()
     m_host->store.values.insert(QStringLiteral("EnableMouseGesture"), QStringLiteral("0"));
     open();
     QVERIFY(!m_dialog->ui.enableGesture_checkBox->isChecked());
-    for (const QWidget *control : switchedControls())
+    const auto switched = switchedControls();
+    for (const QWidget *control : switched)
         QVERIFY2(!control->isEnabled(), qPrintable(control->objectName()));
     for (const QWidget *control : {static_cast<QWidget *>(m_dialog->ui.category_label),
                                    static_cast<QWidget *>(m_dialog->ui.search_label),
@@ -154,7 +155,8 @@ void ConfigurationDialogTest::openingWithGesturesDisabled()
 
     tests::click(m_dialog->ui.enableGesture_checkBox);
     QVERIFY(m_dialog->ui.enableGesture_checkBox->isChecked());
-    for (const QWidget *control : switchedControls())
+    const auto controls = switchedControls();
+    for (const QWidget *control : controls)
         QVERIFY2(control->isEnabled(), qPrintable(control->objectName()));
 }
 
@@ -169,7 +171,8 @@ void ConfigurationDialogTest::openingWithGesturesEnabled()
     QCOMPARE(m_dialog->directionList.rowCount(), 9);
     // "Reset to Defaults" too, although there is nothing to reset. The last step of opening checks the
     // enable box, and that enables the button.
-    for (const QWidget *control : switchedControls())
+    const auto switched = switchedControls();
+    for (const QWidget *control : switched)
         QVERIFY2(control->isEnabled(), qPrintable(control->objectName()));
 
     // The second time the box is checked already, so the bindings decide.
@@ -217,15 +220,16 @@ void ConfigurationDialogTest::enableBoxSwitchesTheControls()
     open();
     m_dialog->ui.reset_pushButton->setEnabled(false);
     tests::click(m_dialog->ui.enableGesture_checkBox);
-    for (const QWidget *control : switchedControls())
+    const auto controls = switchedControls();
+    for (const QWidget *control : controls)
         QVERIFY2(!control->isEnabled(), qPrintable(control->objectName()));
     // The key works as well. It enables "Reset to Defaults" for any bindings.
     QVERIFY(m_dialog->ui.enableGesture_checkBox->hasFocus());
     tests::key(m_dialog.get(), Qt::Key_Space);
-    for (const QWidget *control : switchedControls())
+    for (const QWidget *control : controls)
         QVERIFY2(control->isEnabled(), qPrintable(control->objectName()));
     m_dialog->disableControls();
-    for (const QWidget *control : switchedControls())
+    for (const QWidget *control : controls)
         QVERIFY2(!control->isEnabled(), qPrintable(control->objectName()));
     QCOMPARE(storeWrites(), QStringList());
 }
@@ -347,7 +351,8 @@ void ConfigurationDialogTest::assignedCommandsOnly()
     tests::click(m_dialog->ui.filter_checkBox);
     QVERIFY(m_dialog->ui.filter_checkBox->isChecked());
     QCOMPARE(m_dialog->proxy->rowCount(), 8);
-    for (const int direction : m_dialog->shownDirections())
+    const auto directions = m_dialog->shownDirections();
+    for (const int direction : directions)
         QVERIFY(direction != 0);
 
     // A command that loses its direction is shown until the filter is asked again.

@@ -123,7 +123,8 @@ void DialogAccessibilityTest::everyControlIsAsserted()
                          QStringLiteral("reset_pushButton"),  QStringLiteral("print_pushButton"),
                          QStringLiteral("command_tableView")};
     QStringList buttons;
-    for (QWidget *widget : m_dialog->findChildren<QWidget *>()) {
+    const auto widgets = m_dialog->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
         if (widget->focusPolicy() == Qt::NoFocus || !widget->isVisible())
             continue;
         if (m_dialog->ui.buttonBox->isAncestorOf(widget)) {

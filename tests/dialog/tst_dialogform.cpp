@@ -397,7 +397,8 @@ void DialogFormTest::growsWithTheFontAndClipsNothing()
              qPrintable(QStringLiteral("%1 of %2").arg(inside.width()).arg(none)));
     QVERIFY(editor->height() >= editor->fontMetrics().height());
     int category = 0;
-    for (const QString &text : dialog.shown(0))
+    const QStringList shown = dialog.shown(0);
+    for (const QString &text : shown)
         category = std::max(category, table->fontMetrics().horizontalAdvance(text) + 8);
     QVERIFY2(table->columnWidth(0) >= category,
              qPrintable(QStringLiteral("%1 of %2").arg(table->columnWidth(0)).arg(category)));
@@ -606,7 +607,8 @@ void DialogFormTest::everyControlHasAnAccessibleName()
     TestDialog dialog;
     QVERIFY(tests::showActive(dialog));
     int controls = 0;
-    for (QWidget *widget : dialog.findChildren<QWidget *>()) {
+    const auto widgets = dialog.findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
         if (widget->focusPolicy() == Qt::NoFocus || !widget->isVisible())
             continue;
         const QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
@@ -697,8 +699,9 @@ void DialogFormTest::everythingDiesWithTheDialog()
 void DialogFormTest::thousandOpenings()
 {
     int deaths = 0;
-    const auto count = [this, &deaths](QObject *object) {
-        connect(object, &QObject::destroyed, this, [&deaths] { ++deaths; });
+    const auto note = [&deaths] { ++deaths; };
+    const auto count = [this, &note](QObject *object) {
+        connect(object, &QObject::destroyed, this, note);
     };
     const auto before = QApplication::allWidgets().size();
     for (int opening = 0; opening < 1000; ++opening) {

@@ -14,7 +14,6 @@
 
 #include <memory>
 
-using tests::kCommand;
 using tests::kDirection;
 using tests::TestDialog;
 

@@ -17,7 +17,6 @@
 #include <random>
 
 using tests::Bytes;
-using tests::kDirection;
 using tests::TestDialog;
 
 namespace {

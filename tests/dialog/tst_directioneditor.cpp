@@ -200,8 +200,10 @@ void DirectionEditorTest::choosingTheSelectedEntryStillCommits()
     QSignalSpy committed(delegate, &QAbstractItemDelegate::commitData);
     QList<QAbstractItemDelegate::EndEditHint> closed;
     const QObject listener;
-    connect(delegate, &QAbstractItemDelegate::closeEditor, &listener,
-            [&closed](QWidget *, QAbstractItemDelegate::EndEditHint hint) { closed.append(hint); });
+    const auto note = [&closed](QWidget *, QAbstractItemDelegate::EndEditHint hint) {
+        closed.append(hint);
+    };
+    connect(delegate, &QAbstractItemDelegate::closeEditor, &listener, note);
     tests::key(m_dialog.get(), Qt::Key_F4);
     QVERIFY(first->view()->isVisible());
     tests::key(m_dialog.get(), Qt::Key_Return);
@@ -486,20 +488,20 @@ void DirectionEditorTest::closeEditorAsksForFocusFirst()
     table.beginEditing(model.index(1, 0));
     const auto editors = [&table] { return table.viewport()->findChildren<QLineEdit *>(); };
     QCOMPARE(editors().size(), 1);
-    QPointer<QWidget> first = editors().front();
+    QPointer<QWidget> first = editors().value(0);
     QVERIFY(first->hasFocus());
 
     // After a close the editor comes back at once. After a move to another cell it comes back there.
     Q_EMIT table.itemDelegate()->closeEditor(first, QAbstractItemDelegate::NoHint);
     QTRY_VERIFY(first.isNull());
     QCOMPARE(editors().size(), 1);
-    first = editors().front();
+    first = editors().value(0);
     QVERIFY(first->hasFocus());
     QCOMPARE(first->geometry(), table.visualRect(model.index(1, 0)));
     table.setCurrentIndex(model.index(2, 0));
     QTRY_VERIFY(first.isNull());
     QCOMPARE(editors().size(), 1);
-    QPointer<QWidget> second = editors().front();
+    QPointer<QWidget> second = editors().value(0);
     QCOMPARE(second->geometry(), table.visualRect(model.index(2, 0)));
     QVERIFY(second->hasFocus());
 
@@ -509,7 +511,7 @@ void DirectionEditorTest::closeEditorAsksForFocusFirst()
 
     // There is no current cell to come back to, then nothing to close, then nothing to edit.
     table.beginEditing(model.index(0, 0));
-    first = editors().front();
+    first = editors().value(0);
     table.setCurrentIndex(QModelIndex());
     Q_EMIT table.itemDelegate()->closeEditor(first, QAbstractItemDelegate::NoHint);
     QTRY_VERIFY(first.isNull());

@@ -622,7 +622,7 @@ void PrintingTest::chosenPagesOnly()
     };
     printToFile();
     QCOMPARE(pagesOf(m_file), 2);
-    QCOMPARE(wordsOf(m_file).last(), QStringLiteral("3"));
+    QCOMPARE(wordsOf(m_file).constLast(), QStringLiteral("3"));
 }
 
 void PrintingTest::fileHasATitle()

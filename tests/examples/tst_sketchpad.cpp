@@ -199,10 +199,9 @@ private Q_SLOTS:
 
     void windowsOpenAndClose()
     {
-        int wanted = 0;
-        connect(m_window.get(), &MainWindow::newWindowWanted, this, [&wanted] { ++wanted; });
+        const QSignalSpy wanted(m_window.get(), &MainWindow::newWindowWanted);
         type("newwindow");
-        QCOMPARE(wanted, 1);
+        QCOMPARE(wanted.count(), 1);
         MainWindow other;
         other.show();
         type("close");

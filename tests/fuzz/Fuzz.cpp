@@ -44,7 +44,7 @@ QString folder()
 
 QString file(const QString &name, const QByteArray &content)
 {
-    const QString path = folder() + QLatin1Char('/') + name;
+    QString path = folder() + QLatin1Char('/') + name;
     QFile target(path);
     check(target.open(QIODevice::WriteOnly | QIODevice::Truncate), "the input's file can be opened");
     check(target.write(content) == content.size(), "the input's file can be written");

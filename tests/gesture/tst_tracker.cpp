@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
+// clazy:excludeall=non-pod-global-static (nothing here runs before main())
+
 #include "bindings/MgDonutDataContainer.h"
 #include "gesture/MgMouseGestureTracker.h"
 #include "tests/fakehost/FakeHitTest.h"

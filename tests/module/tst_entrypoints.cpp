@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
+// clazy:excludeall=non-pod-global-static (nothing here runs before main())
+
 // The entry points: one module object, the memory it lives in, and the version it declares.
 // This program stands in for the platform's allocator and for operator new.
 

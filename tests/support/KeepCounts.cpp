@@ -10,6 +10,7 @@
 #include <cstdarg>
 #include <vector>
 
+// NOLINTBEGIN(bugprone-reserved-identifier): names of gcov and of the linker
 extern "C" {
 
 void __gcov_dump();
@@ -53,3 +54,4 @@ int __wrap_raise(int number)
     return __real_raise(number);
 }
 }
+// NOLINTEND(bugprone-reserved-identifier)

@@ -54,7 +54,7 @@ QString typeOf(const QObject &object)
 {
     int status = 0;
     char *name = abi::__cxa_demangle(typeid(object).name(), nullptr, nullptr, &status);
-    const QString type = QString::fromLatin1(status == 0 ? name : typeid(object).name());
+    QString type = QString::fromLatin1(status == 0 ? name : typeid(object).name());
     std::free(name);
     return type;
 }

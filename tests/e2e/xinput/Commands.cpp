@@ -106,7 +106,7 @@ QString Commands::run(const QString &line)
         return refuse(QStringLiteral("empty command"));
     const QString name = words.takeFirst();
     for (const auto group : {&Commands::input, &Commands::windows, &Commands::picture}) {
-        const QString answer = (this->*group)(name, words);
+        QString answer = (this->*group)(name, words);
         if (!answer.isEmpty())
             return answer;
     }

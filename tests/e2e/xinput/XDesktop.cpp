@@ -225,7 +225,7 @@ std::optional<XDesktop::Window> XDesktop::findBySize(unsigned long below, QSize 
         const auto geometry = visibleGeometry(*child);
         if (geometry && geometry->size() == size)
             return Window{*child, *geometry, titleOf(*child)};
-        const auto inside =
+        auto inside =
             geometry && depth < kDeepestWindow ? findBySize(*child, size, depth + 1) : std::nullopt;
         if (inside)
             return inside;

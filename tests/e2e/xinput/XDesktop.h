@@ -12,7 +12,7 @@
 #include <optional>
 #include <vector>
 
-struct _XDisplay;
+struct _XDisplay; // NOLINT(bugprone-reserved-identifier): a name of the X library
 
 // An X11 desktop as a person sees it: a pointer, a keyboard, and windows. Programs get the
 // input as real X events (XTEST) from another process.

@@ -10,7 +10,7 @@
 
 #include <vector>
 
-struct _XDisplay;
+struct _XDisplay; // NOLINT(bugprone-reserved-identifier): a name of the X library
 
 namespace tests {
 

@@ -17,7 +17,6 @@
 #include <X11/keysym.h>
 
 using tests::X11Bench;
-using tests::X11Peer;
 
 // Tests what the desktop does with the ring's window: it lies on the press point, and nothing else
 // on the desktop changes. Run it with tests/support/with-desktop.sh, under any window manager.
@@ -109,8 +108,8 @@ void RingWindowTest::ringLiesOnThePressPoint()
     const QRect screen = m_bench->bench.view->rect();
     constexpr int kFromEdge = 10; // pixels
     const QPoint press = screen.center()
-                       + QPoint(static_cast<int>(across * (screen.width() / 2 - kFromEdge)),
-                                static_cast<int>(down * (screen.height() / 2 - kFromEdge)));
+                       + QPoint(static_cast<int>(across * (screen.width() / 2.0 - kFromEdge)),
+                                static_cast<int>(down * (screen.height() / 2.0 - kFromEdge)));
     const QPoint inward(across > 0 ? -25 : 25, 0);
     for (int gesture = 0; gesture < 3; ++gesture) {
         m_bench->pressAndDrag(press, inward);

@@ -554,7 +554,7 @@ void CatalogueMemoryTest::entriesOfListsAreNotOfferedForEver()
     QVERIFY(!start.isOffered(path));
     QVERIFY(!start.isOffered(twin));
     // A command that was there at the start stays offered, like every other command.
-    QMenu *plates = start.window.file->actions().last()->menu();
+    QMenu *plates = start.window.file->actions().constLast()->menu();
     plates->clear();
     QVERIFY(start.isOffered(first));
     // They leave the file when something else is written to it.
@@ -649,7 +649,7 @@ void CatalogueMemoryTest::iconsAreReadWhenPainted()
     QVERIFY(!file.isEmpty());
     const QIcon icon = gesturewidget::iconFromPng(file);
     QVERIFY(!icon.isNull());
-    const QIcon copy = icon;
+    const QIcon copy = icon; // NOLINT(performance-unnecessary-copy-initialization): it is tested
     for (const QSize &size : {QSize(32, 32), QSize(16, 16), QSize(8, 8)}) {
         QCOMPARE(copy.actualSize(size), original.actualSize(size));
         QCOMPARE(copy.pixmap(size).toImage(), original.pixmap(size).toImage());

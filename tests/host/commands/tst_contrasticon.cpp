@@ -360,7 +360,7 @@ void ContrastIconTest::theLastPictureIsKept()
     int paints = 0;
     const QIcon icon = contrastIcon(QIcon(new CountingEngine(paints)));
     QCOMPARE(paints, 0); // nothing is drawn before it is asked for
-    const QIcon copy = icon;
+    const QIcon copy = icon; // NOLINT(performance-unnecessary-copy-initialization): it is tested
     QVERIFY(!icon.pixmap(kRingIconSide).isNull());
     QVERIFY(!copy.pixmap(kRingIconSide).isNull());
     QCOMPARE(paints, 1);

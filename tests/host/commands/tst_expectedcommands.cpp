@@ -352,7 +352,8 @@ void ExpectedCommandsTest::whatATaskDoesNotHaveIsDropped()
     spline.identifier = remembered;
     catalogue.remember({spline});
     const QStringList others{ofAnother, remembered, imported, described};
-    for (const QString &identifier : others + QStringList(mistyped))
+    const auto identifiers = others + QStringList(mistyped);
+    for (const QString &identifier : identifiers)
         catalogue.expect(identifier, identifier);
     catalogue.trust({imported});
     catalogue.trustAll();

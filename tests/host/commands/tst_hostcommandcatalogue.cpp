@@ -196,7 +196,7 @@ void HostCommandCatalogueTest::wellKnownIdentifiersComeFromTheProfile()
                                 {QStringLiteral("ID_SAVE"), {QStringLiteral("File/Export/Picture...")}},
                                 {QStringLiteral("ID_OPEN"), {QStringLiteral("File/Open...")}},
                                 {QStringLiteral("ID_TRIM"), {QStringLiteral("modifyTrim")}}});
-    QCOMPARE(listing(catalogue).first(),
+    QCOMPARE(listing(catalogue).constFirst(),
              QStringLiteral("File: fileNew | ID_OPEN | ID_SAVE | File/Export/Text & numbers..."));
     QCOMPARE(listing(catalogue).at(1), QStringLiteral("Draw: ID_LINE | drawCircle"));
     const ActionItem *line = catalogue.find(QStringLiteral("ID_LINE"));
@@ -325,7 +325,7 @@ void HostCommandCatalogueTest::readingAgainDoesNotWalkAgain()
     QCOMPARE(text(catalogue.find(QStringLiteral("drawLine"))->GetCaption()), QStringLiteral("Segment"));
     QCOMPARE(listing(catalogue), before);
     catalogue.invalidate();
-    QCOMPARE(listing(catalogue).last(), QStringLiteral("Sketching: drawArc"));
+    QCOMPARE(listing(catalogue).constLast(), QStringLiteral("Sketching: drawArc"));
 }
 
 // So a gesture does not have to wait for the reading.
@@ -341,7 +341,7 @@ void HostCommandCatalogueTest::changesAreReadBeforeSomebodyAsks()
     m_window->toolBar->setWindowTitle(QStringLiteral("Sketching"));
     QCOMPARE(text(catalogue.find(QStringLiteral("drawLine"))->GetCaption()), QStringLiteral("Segment"));
     QVERIFY(catalogue.find(QStringLiteral("drawEllipse")));
-    QCOMPARE(listing(catalogue).last(), QStringLiteral("Drawing: drawArc"));
+    QCOMPARE(listing(catalogue).constLast(), QStringLiteral("Drawing: drawArc"));
     QCOMPARE(prepared.count(), 1);
 }
 
@@ -425,7 +425,7 @@ void HostCommandCatalogueTest::manyEqualCaptionsAreNumbered()
     menu->clear();
     for (int i = 0; i < 3; ++i)
         menu->addAction(QStringLiteral("Entry"));
-    QCOMPARE(text(catalogue.itemOf(menu->actions().last())->GetIdentifier()),
+    QCOMPARE(text(catalogue.itemOf(menu->actions().constLast())->GetIdentifier()),
              QStringLiteral("List/Entry (3)"));
 }
 
@@ -487,7 +487,7 @@ void HostCommandCatalogueTest::aMenuFilledLaterIsSeen()
     Q_EMIT views->aboutToShow(); // another action, the same command
     QCOMPARE(catalogue.find(QStringLiteral("File/Views/Front")), item);
     QVERIFY(item->here.isPresent);
-    QCOMPARE(item->action(), views->actions().first());
+    QCOMPARE(item->action(), views->actions().constFirst());
 }
 
 void HostCommandCatalogueTest::aToolBarAddedLaterIsSeen()

@@ -40,6 +40,12 @@ public:
     using QWidget::QWidget;
 };
 
+void addButton(QWidget *parent, const QRect &place)
+{
+    auto *button = new QPushButton(QStringLiteral("+"), parent);
+    button->setGeometry(place);
+}
+
 class ScrollingCanvas : public QAbstractScrollArea
 {
 public:
@@ -285,7 +291,7 @@ void ViewGuessTest::guesses_data()
         [](QMainWindow &w) {
             auto *canvas = new Canvas;
             for (int i = 0; i < 6; ++i)
-                (new QPushButton(QStringLiteral("+"), canvas))->setGeometry(20 * i, 0, 18, 18);
+                addButton(canvas, {20 * i, 0, 18, 18});
             w.setCentralWidget(canvas);
             return static_cast<QWidget *>(canvas);
         },
@@ -295,7 +301,7 @@ void ViewGuessTest::guesses_data()
         [](QMainWindow &w) {
             auto *page = new Canvas;
             for (int i = 0; i < 6; ++i)
-                (new QPushButton(QStringLiteral("+"), page))->setGeometry(300 + 20 * i, 200, 18, 18);
+                addButton(page, {300 + 20 * i, 200, 18, 18});
             w.setCentralWidget(page);
             return static_cast<QWidget *>(page);
         },

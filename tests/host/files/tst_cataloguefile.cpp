@@ -252,7 +252,7 @@ void CatalogueFileTest::countsAndSizesAreBounded()
         many.append(command(QStringLiteral("many%1").arg(i)));
     QVERIFY(merge(many));
     QCOMPARE(read().size(), CatalogueFile::kMaximalCount);
-    QCOMPARE(read().first(), known.first());
+    QCOMPARE(read().at(0), known.first());
 }
 
 void CatalogueFileTest::documentNames_data()
@@ -613,7 +613,7 @@ namespace {
 // The tests start this program again with these arguments.
 int runChild(const QStringList &arguments)
 {
-    const QString path = arguments.at(2);
+    const QString &path = arguments.at(2);
     CatalogueFile file(path);
     if (arguments.at(1) == QLatin1String("child-merge")) {
         const int count = int(file.read().size());

@@ -146,7 +146,7 @@ void CommandNamesTest::tips()
     QFETCH(QString, tip);
     QFETCH(QString, result);
     const RememberedCommand one = command(way.toUtf8().constData(), tip.toUtf8().constData());
-    QCOMPARE(namedTip(one, commandNames({one}).first()), result);
+    QCOMPARE(namedTip(one, commandNames({one}).at(0)), result);
 }
 
 void CommandNamesTest::repeating_data()

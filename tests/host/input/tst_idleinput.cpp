@@ -19,10 +19,12 @@ bool isCounting = false;
 int allocations = 0;
 } // namespace
 
+// NOLINTBEGIN(bugprone-reserved-identifier): names of the C library
 extern "C" {
 void *__libc_malloc(std::size_t size);
 void *__libc_calloc(std::size_t count, std::size_t size);
 void *__libc_realloc(void *memory, std::size_t size);
+// NOLINTEND(bugprone-reserved-identifier)
 
 void *malloc(std::size_t size)
 {

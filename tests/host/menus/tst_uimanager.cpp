@@ -341,11 +341,11 @@ void UiManagerTest::anEntryIsPutLastAtOnce()
     items->Append(entry);
     QCOMPARE(items->GetCount(), 2);
     QCOMPARE(items->GetItem(1), entry);
-    QCOMPARE(captions(*m_tools).last(), QStringLiteral("&Text"));
-    QCOMPARE(m_tools->actions().last()->statusTip(), QStringLiteral("Tip"));
+    QCOMPARE(captions(*m_tools).constLast(), QStringLiteral("&Text"));
+    QCOMPARE(m_tools->actions().constLast()->statusTip(), QStringLiteral("Tip"));
     entry->SetText("Gestures...");
-    QCOMPARE(captions(*m_tools).last(), QStringLiteral("Gestures..."));
-    m_tools->actions().last()->trigger(); // the entry has no command
+    QCOMPARE(captions(*m_tools).constLast(), QStringLiteral("Gestures..."));
+    m_tools->actions().constLast()->trigger(); // the entry has no command
     QVERIFY(m_run.isEmpty());
 }
 
@@ -353,8 +353,8 @@ void UiManagerTest::anEntryRunsItsCommandsMacro()
 {
     const CHxUIMenuItem *entry = enter();
     QVERIFY(entry->GetCommandItem());
-    QCOMPARE(m_tools->actions().last()->statusTip(), QStringLiteral("Customizes gestures"));
-    m_tools->actions().last()->trigger();
+    QCOMPARE(m_tools->actions().constLast()->statusTip(), QStringLiteral("Customizes gestures"));
+    m_tools->actions().constLast()->trigger();
     QCOMPARE(m_run, QStringList(QStringLiteral("^C^C_GESTURE")));
 }
 
@@ -376,16 +376,16 @@ void UiManagerTest::anEntryIsInOnePlace()
     QCOMPARE(m_tools->actions().size(), 2);
     menu("ID_MnDraw")->GetSubItems()->Append(entry);
     QCOMPARE(m_tools->actions().size(), 1);
-    QCOMPARE(captions(*m_window->draw).last(), QStringLiteral("Gestures..."));
+    QCOMPARE(captions(*m_window->draw).constLast(), QStringLiteral("Gestures..."));
     menu("ID_MnTools")->GetSubItems()->Remove(entry); // no effect: it is not there
-    QCOMPARE(captions(*m_window->draw).last(), QStringLiteral("Gestures..."));
+    QCOMPARE(captions(*m_window->draw).constLast(), QStringLiteral("Gestures..."));
     m_tools->clear(); // the entry does not come back
     m_manager->Refresh(false);
     QVERIFY(m_tools->actions().isEmpty());
     menus()->Append(entry);
-    QCOMPARE(captions(*m_window->menuBar()).last(), QStringLiteral("Gestures..."));
+    QCOMPARE(captions(*m_window->menuBar()).constLast(), QStringLiteral("Gestures..."));
     QCOMPARE(menus()->GetItem(menus()->GetCount() - 1), entry);
-    m_window->menuBar()->actions().last()->trigger();
+    m_window->menuBar()->actions().constLast()->trigger();
     QCOMPARE(m_run.size(), 1);
 }
 
@@ -482,7 +482,7 @@ void UiManagerTest::commandItemsAreRemoved()
     QVERIFY(!m_manager->Contains(command));
     QCOMPARE(entry->GetCommandItem(), nullptr);
     QCOMPARE(m_manager->FindCommandItem("Default", "_CONFIG"), nullptr);
-    m_tools->actions().last()->trigger();
+    m_tools->actions().constLast()->trigger();
     QVERIFY(m_run.isEmpty());
     m_manager->RemoveCommandItem(command); // again: no effect
     m_manager->RemoveCommandItem(nullptr);
@@ -496,7 +496,7 @@ void UiManagerTest::aClearedMenuGetsItsEntryBack()
     QVERIFY(m_tools->actions().isEmpty());
     QTRY_COMPARE(captions(*m_tools), QStringList(QStringLiteral("Gestures...")));
     QCOMPARE(menu("ID_MnTools")->GetSubItems()->GetItem(0), entry);
-    m_tools->actions().last()->trigger();
+    m_tools->actions().constLast()->trigger();
     QCOMPARE(m_run.size(), 1);
 }
 
@@ -534,7 +534,7 @@ void UiManagerTest::aReplacedToolsMenuGetsTheEntry()
                  QStringList({QStringLiteral("&New options"), QStringLiteral("Gestures...")}));
     QCOMPARE(menu("ID_MnTools")->GetSubItems()->GetItem(1), entry);
     m_tools->addAction(QStringLiteral("Later"));
-    QTRY_COMPARE(captions(*m_tools).last(), QStringLiteral("Gestures..."));
+    QTRY_COMPARE(captions(*m_tools).constLast(), QStringLiteral("Gestures..."));
     QCOMPARE(m_tools->actions().size(), 3);
 }
 
@@ -568,7 +568,7 @@ void UiManagerTest::twoWhoWantToBeLastDoNotFight()
         }
         void beLast()
         {
-            if (m_menu->actions().last() == &action)
+            if (m_menu->actions().constLast() == &action)
                 return;
             m_menu->removeAction(&action);
             m_menu->addAction(&action);
@@ -599,7 +599,7 @@ void UiManagerTest::twoWhoWantToBeLastDoNotFight()
 void UiManagerTest::theEntryIsNoCommandOfTheProgram()
 {
     enter();
-    QCOMPARE(m_catalogue->itemOf(m_tools->actions().last()), nullptr);
+    QCOMPARE(m_catalogue->itemOf(m_tools->actions().constLast()), nullptr);
     QCOMPARE(m_catalogue->find(QStringLiteral("Tools/Gestures...")), nullptr);
     QCOMPARE(m_manager->moduleCommands().size(), std::size_t(1));
     QCOMPARE(text(m_manager->moduleCommands().front()->GetIdentifier()), QStringLiteral("_CONFIG"));
@@ -696,7 +696,7 @@ void UiManagerTest::aWalkOutlivesTheMenusItWalks()
 
 void UiManagerTest::changedMenusAreReadBeforeSomebodyAsks()
 {
-    m_manager->NewMenuIterator(); // the first reading
+    static_cast<void>(m_manager->NewMenuIterator()); // the first reading
     const std::size_t before = m_manager->mirror().size();
     QMenu *more = m_window->addMenu("&More", "moreMenu");
     for (const char *name : {"one", "two", "three"})

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
+// clazy:excludeall=non-pod-global-static (nothing here runs before main())
+
 #include "host/services/ProfileStore.h"
 #include "tests/host/support/Files.h"
 #include "tests/host/support/StandardErrorCapture.h"
@@ -465,8 +467,8 @@ void ProfileStoreTest::aDamagedCopyIsNotUsed()
     ProfileStore store(m_path);
     QVERIFY(!store.Exists(kSection, "81"));
     QCOMPARE(errors.lines().size(), 1);
-    QVERIFY2(errors.lines().first().contains(QStringLiteral("no good copy")),
-             qPrintable(errors.lines().first()));
+    QVERIFY2(errors.lines().constFirst().contains(QStringLiteral("no good copy")),
+             qPrintable(errors.lines().constFirst()));
 }
 
 void ProfileStoreTest::theCopyFollowsAGoodFile()

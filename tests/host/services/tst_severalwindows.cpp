@@ -201,7 +201,7 @@ void SeveralWindowsTest::theEntryIsInEveryToolsMenu()
     CHxUIMenuItem *entry = addEntry();
     QCOMPARE(m_first->captions(), QStringList{QStringLiteral("Gestures...")});
     QCOMPARE(m_second->captions(), QStringList{QStringLiteral("Gestures...")});
-    QVERIFY(m_first->tools->actions().first() != m_second->tools->actions().first());
+    QVERIFY(m_first->tools->actions().constFirst() != m_second->tools->actions().constFirst());
     // The module sees its one entry in each window.
     QCOMPARE(toolsOfCurrent()->GetItem(0), entry);
     windows().makeCurrent(m_second.get());
@@ -226,8 +226,8 @@ void SeveralWindowsTest::aWindowThatComesLaterGetsTheEntry()
     addSecond();
     QCOMPARE(m_second->captions(),
              QStringList({QStringLiteral("Options"), QStringLiteral("Gestures...")}));
-    const QAction *action = m_second->tools->actions().last();
-    QCOMPARE(action->statusTip(), m_first->tools->actions().last()->statusTip());
+    const QAction *action = m_second->tools->actions().constLast();
+    QCOMPARE(action->statusTip(), m_first->tools->actions().constLast()->statusTip());
 }
 
 void SeveralWindowsTest::aToolsMenuIsMadeForEachWindow()
@@ -262,7 +262,7 @@ void SeveralWindowsTest::theEntryComesBackInEveryWindow()
     addEntry();
     for (const CountingWindow *window : {m_first.get(), m_second.get()}) {
         windows().makeCurrent(m_second.get());
-        m_services->GetUICommandManager()->NewGroupIterator(); // reads its menus
+        static_cast<void>(m_services->GetUICommandManager()->NewGroupIterator()); // reads its menus
         window->tools->clear();
         window->tools->addAction(QStringLiteral("New"));
         QTRY_COMPARE(window->captions(),
@@ -276,10 +276,10 @@ void SeveralWindowsTest::theEntryRunsWhereItWasChosen()
     addEntry();
     QWidget *ranIn = nullptr;
     m_command->body = [&] { ranIn = windows().current(); };
-    m_second->tools->actions().first()->trigger();
+    m_second->tools->actions().constFirst()->trigger();
     QTRY_COMPARE(m_command->runs, 1);
     QCOMPARE(ranIn, m_second.get());
-    m_first->tools->actions().first()->trigger();
+    m_first->tools->actions().constFirst()->trigger();
     QTRY_COMPARE(m_command->runs, 2);
     QCOMPARE(ranIn, m_first.get());
 }
@@ -292,7 +292,7 @@ void SeveralWindowsTest::anEntryOutlivesAWindow()
     QCOMPARE(windows().current(), m_second.get());
     QCOMPARE(m_second->captions(), QStringList{QStringLiteral("Gestures...")});
     QCOMPARE(toolsOfCurrent()->GetItem(0), entry);
-    m_second->tools->actions().first()->trigger();
+    m_second->tools->actions().constFirst()->trigger();
     QTRY_COMPARE(m_command->runs, 1);
     m_services->GetUIManager()->DestroyMenuItem(entry);
     QCOMPARE(m_second->captions(), QStringList());
@@ -431,7 +431,7 @@ void SeveralWindowsTest::windowsGoInAnyOrder()
     addSecond();
     CHxUIMenuItem *entry = addEntry();
     windows().makeCurrent(isSecondCurrent ? m_second.get() : m_first.get());
-    m_services->GetUICommandManager()->NewGroupIterator();
+    static_cast<void>(m_services->GetUICommandManager()->NewGroupIterator());
     std::unique_ptr<CountingWindow> &goes = isFirst ? m_first : m_second;
     std::unique_ptr<CountingWindow> &stays = isFirst ? m_second : m_first;
     goes.reset();

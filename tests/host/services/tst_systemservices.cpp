@@ -105,7 +105,7 @@ private:
     // Calls `how` with the next message box that opens.
     static void answer(const std::function<void(QMessageBox *)> &how)
     {
-        QTimer::singleShot(0, [how] {
+        QTimer::singleShot(0, qApp, [how] {
             auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
             QVERIFY(box);
             how(box);
@@ -175,7 +175,7 @@ void SystemServicesTest::commandsRunFromEverywhere()
     CHxUIMenuItemCollection *menus = workspaces->Current()->GetMenuItems();
     QCOMPARE(menus->GetItem(1)->GetIdentifier(), CHxString("ID_MnTools")); // as the profile says
     menus->GetItem(1)->GetSubItems()->Append(entry);
-    m_window->draw->actions().last()->trigger();
+    m_window->draw->actions().constLast()->trigger();
     QCOMPARE(command->runs, 1); // not in the middle of the menu
     QTRY_COMPARE(command->runs, 2);
 

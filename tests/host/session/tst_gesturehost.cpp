@@ -269,9 +269,8 @@ void GestureHostTest::enableFlagIsRead()
     window.resize(300, 300);
     auto *view = new QWidget;
     window.setCentralWidget(view);
-    int menus = 0;
     view->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(view, &QWidget::customContextMenuRequested, this, [&menus] { ++menus; });
+    QSignalSpy menus(view, &QWidget::customContextMenuRequested);
     gesturewidget::GestureHost host(&window, m_options);
     host.addView(view);
     QVERIFY(host.start());
@@ -280,9 +279,9 @@ void GestureHostTest::enableFlagIsRead()
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     const auto menusOpenedByThePress = [&] {
-        menus = 0;
+        menus.clear();
         QTest::mousePress(window.windowHandle(), Qt::RightButton, {}, QPoint(150, 150));
-        const int opened = menus;
+        const auto opened = menus.count();
         QTest::mouseRelease(window.windowHandle(), Qt::RightButton, {}, QPoint(150, 150));
         return opened;
     };
@@ -292,12 +291,12 @@ void GestureHostTest::enableFlagIsRead()
         store->Set("GestureWidget", "EnableMouseGesture", buffer.get());
     };
     QCOMPARE(menusOpenedByThePress(), 0);
-    QCOMPARE(menus, 1);
+    QCOMPARE(menus.count(), 1);
     set("0");
     QCOMPARE(menusOpenedByThePress(), 1);
     set("1");
     QCOMPARE(menusOpenedByThePress(), 0);
-    QCOMPARE(menus, 1);
+    QCOMPARE(menus.count(), 1);
 }
 
 namespace {

@@ -71,11 +71,10 @@ void MainWindowsTest::theFirstIsCurrent()
 {
     QCOMPARE(m_all->current(), window(0));
     QCOMPARE(m_all->all().size(), 3);
-    int added = 0;
-    connect(m_all.get(), &MainWindows::added, this, [&added] { ++added; });
+    const QSignalSpy added(m_all.get(), &MainWindows::added);
     m_all->add(m_windows[1].get());
     m_all->add(nullptr);
-    QCOMPARE(added, 0);
+    QCOMPARE(added.count(), 0);
     QVERIFY(!m_all->contains(nullptr));
     const MainWindows none(nullptr);
     QVERIFY(none.isEmpty());
@@ -186,7 +185,8 @@ void MainWindowsTest::theLastOneTakesThePlaceOfTheCurrent()
     m_all->makeCurrent(window(1));
     QSignalSpy removed(m_all.get(), &MainWindows::removed);
     QWidget *currentAtRemoval = nullptr;
-    connect(m_all.get(), &MainWindows::removed, this, [&] { currentAtRemoval = m_all->current(); });
+    const auto look = [this, &currentAtRemoval] { currentAtRemoval = m_all->current(); };
+    connect(m_all.get(), &MainWindows::removed, this, look);
     if (isLater)
         m_windows[1].release()->deleteLater();
     else
@@ -226,7 +226,8 @@ void MainWindowsTest::theLastToGoIsAnnounced()
     m_windows[1].reset();
     QCOMPARE(last.count(), 0);
     QWidget *current = nullptr;
-    connect(m_all.get(), &MainWindows::lastLeaves, this, [&] { current = m_all->current(); });
+    const auto look = [this, &current] { current = m_all->current(); };
+    connect(m_all.get(), &MainWindows::lastLeaves, this, look);
     QWidget *const expected = window(2);
     if (isComplete)
         m_windows[2].release()->deleteLater();

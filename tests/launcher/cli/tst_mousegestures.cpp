@@ -269,7 +269,7 @@ private:
 
     QString makeFile(const char *name, const QByteArray &text)
     {
-        const QString path = m_prefix.filePath(QLatin1String(name));
+        QString path = m_prefix.filePath(QLatin1String(name));
         QFile::remove(path);
         QFile file(path);
         if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size()

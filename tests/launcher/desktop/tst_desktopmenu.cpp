@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
+// clazy:excludeall=non-pod-global-static (nothing here runs before main())
+
 // Starting a program with gestures from the desktop's menus, in folders of the test.
 
 #include "launcher/desktop/DesktopMenu.h"

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
+// clazy:excludeall=non-pod-global-static (nothing here runs before main())
+
 // The command of a desktop entry: how it is split, and how the launcher is put into it.
 
 #include "launcher/desktop/ExecLine.h"

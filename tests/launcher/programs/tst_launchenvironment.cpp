@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
+// clazy:excludeall=non-pod-global-static (nothing here runs before main())
+
 #include "launcher/programs/LaunchEnvironment.h"
 #include "tests/support/FatalWarnings.h"
 

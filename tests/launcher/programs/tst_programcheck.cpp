@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
+// clazy:excludeall=non-pod-global-static (nothing here runs before main())
+
 // Which programs can be started with gestures, and with which plug-in.
 
 #include "launcher/programs/ProgramCheck.h"

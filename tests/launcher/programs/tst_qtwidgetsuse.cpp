@@ -99,7 +99,8 @@ QByteArray elfOf(const Dynamic &dynamic,
     typename Bits::Segment whole = {};
     whole.p_type = PT_LOAD;
     whole.p_vaddr = kAddress;
-    whole.p_filesz = static_cast<decltype(whole.p_filesz)>(stringsAt + strings.size());
+    whole.p_filesz = static_cast<decltype(whole.p_filesz)>(stringsAt)
+                   + static_cast<decltype(whole.p_filesz)>(strings.size());
     typename Bits::Segment table = {};
     table.p_type = PT_DYNAMIC;
     table.p_offset = kDynamicAt;

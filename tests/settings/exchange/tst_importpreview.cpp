@@ -91,7 +91,8 @@ private Q_SLOTS:
         const ImportPreview preview(editor, editor.bindings(), {}, text("kept.json"), nullptr);
         QCOMPARE(preview.changes(), 0);
         const auto *buttons = preview.findChild<QDialogButtonBox *>();
-        for (QAbstractButton *button : buttons->buttons())
+        const auto all = buttons->buttons();
+        for (QAbstractButton *button : all)
             QCOMPARE(button->isEnabled(), buttons->buttonRole(button) != QDialogButtonBox::AcceptRole);
     }
 
@@ -206,7 +207,8 @@ private Q_SLOTS:
             const auto *question = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
             QVERIFY(question);
             QVERIFY2(question->text().contains(text("Draw")), qPrintable(question->text()));
-            for (QAbstractButton *button : question->buttons()) {
+            const auto buttons = question->buttons();
+            for (QAbstractButton *button : buttons) {
                 if ((question->buttonRole(button) == QMessageBox::AcceptRole) == isAccepted)
                     button->click();
             }

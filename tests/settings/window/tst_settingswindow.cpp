@@ -233,7 +233,7 @@ private Q_SLOTS:
                                  "command_search", "put_button", "command_view"})
             QVERIFY2(reached.contains(text(name)),
                      qPrintable(text(name) + text(" is not in ")
-                                + QStringList(reached.values()).join(QLatin1Char(' '))));
+                                + QStringList(reached.cbegin(), reached.cend()).join(QLatin1Char(' '))));
     }
 
     void everyControlHasANameAndARole()

@@ -122,7 +122,7 @@ void HostingTest::speaksTheDesktopsLanguageAndLeavesNothing()
         QVERIFY2(gestures.start(&error), qPrintable(error));
         window.show();
         QTRY_COMPARE(window.tools->actions().size(), 2);
-        QCOMPARE(window.tools->actions().last()->text(), QStringLiteral("Mausgesten..."));
+        QCOMPARE(window.tools->actions().constLast()->text(), QStringLiteral("Mausgesten..."));
         QCOMPARE(others(), QStringLiteral("Sonstige"));
     }
     qunsetenv("LANGUAGE");
