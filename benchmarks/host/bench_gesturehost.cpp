@@ -34,7 +34,7 @@ namespace {
 
 constexpr int kMenus = 8;
 // Milliseconds, with a good margin.
-constexpr int kTimeToSettle = 4000;
+constexpr int kTimeToSettle = 3000;
 constexpr int kTimeToBePlaced = 500;
 
 constexpr int kPatience = 60000; // milliseconds
@@ -151,8 +151,15 @@ void moveInView(benchmark::State &state)
 
 } // namespace
 
-BENCHMARK(pointerMoves)->ArgName("gestures")->Arg(0)->Arg(1)->UseManualTime();
-BENCHMARK(moveInView)->ArgName("gestures")->Arg(0)->Arg(1);
+// A fixed number of rounds, because each run starts with seconds of waiting.
+BENCHMARK(pointerMoves)
+    ->ArgName("gestures")
+    ->Arg(0)
+    ->Arg(1)
+    ->UseManualTime()
+    ->Iterations(4000)
+    ->Repetitions(9);
+BENCHMARK(moveInView)->ArgName("gestures")->Arg(0)->Arg(1)->Iterations(300000)->Repetitions(9);
 
 int main(int argc, char **argv)
 {

@@ -171,8 +171,8 @@ bool isOfAPart(const QMenuBar *bar)
     return up && !up->isWindow();
 }
 
-// The menu's place in a menu bar, of a submenu that of the menu that it is in; -1 if none.
-// The first menu of a part of the window is not the first of all.
+// The place of a menu in its menu bar. A submenu has the place of the menu that it is in. -1 if it is
+// in no menu bar. The first menu of a part of the window is not the first of all.
 int placeInBar(const QMenu *menu)
 {
     constexpr int kDeepest = 16; // menus may contain each other

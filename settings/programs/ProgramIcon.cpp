@@ -19,7 +19,7 @@ QString fileOutsideOfThemes(const QString &name)
         return {};
     for (const char *folder : {"icons/", "pixmaps/"}) {
         for (const char *ending : {"", ".svg", ".png", ".xpm"}) {
-            const QString file =
+            QString file =
                 QStandardPaths::locate(QStandardPaths::GenericDataLocation,
                                        QLatin1String(folder) + name + QLatin1String(ending));
             if (!file.isEmpty())

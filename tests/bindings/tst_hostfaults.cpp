@@ -208,14 +208,15 @@ private Q_SLOTS:
     void aWriteThatFailsKeepsNoOtherFromBeingMade()
     {
         tests::OpenContainer container;
-        for (const QString &key : tests::allKeys()) {
+        const QStringList keys = tests::allKeys();
+        for (const QString &key : keys) {
             host->store.values = stored;
             container.init();
             host->log.throwOn = text("store.set ") + key;
             container.update({}, true, DonutScheme::Eight);
             host->log.throwOn.clear();
             QMap<QString, QString> expected;
-            for (const QString &other : tests::allKeys())
+            for (const QString &other : keys)
                 expected.insert(other, QString());
             expected.insert(text("EnableMouseGesture"), text("1"));
             expected.insert(text("ActiveScheme"), text("8"));
