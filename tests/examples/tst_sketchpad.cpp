@@ -148,10 +148,12 @@ private Q_SLOTS:
     {
         QStringList menus;
         int commands = 0;
-        for (const QAction *entry : m_window->menuBar()->actions()) {
+        const auto entries = m_window->menuBar()->actions();
+        for (const QAction *entry : entries) {
             menus += entry->text().remove(QLatin1Char('&'));
             QCOMPARE(entry->menu()->objectName(), menus.last().toLower() + QStringLiteral("Menu"));
-            for (const QAction *command : entry->menu()->actions()) {
+            const auto allCommands = entry->menu()->actions();
+            for (const QAction *command : allCommands) {
                 ++commands;
                 QVERIFY(command->objectName().startsWith(menus.last().toLower()));
                 QVERIFY(!command->toolTip().isEmpty());
@@ -404,7 +406,8 @@ private Q_SLOTS:
     {
         const auto shown = [this] {
             QStringList names;
-            for (const QWidget *bar : m_window->findChildren<QToolBar *>()) {
+            const auto bars = m_window->findChildren<QToolBar *>();
+            for (const QWidget *bar : bars) {
                 if (bar->isVisible())
                     names += bar->objectName();
             }
@@ -448,7 +451,8 @@ private Q_SLOTS:
             auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
             if (!menu)
                 return;
-            for (const QAction *entry : menu->actions())
+            const auto entries = menu->actions();
+            for (const QAction *entry : entries)
                 names += entry->objectName();
             QTest::keyClick(menu, Qt::Key_Escape);
         });

@@ -432,11 +432,13 @@ private Q_SLOTS:
         open(shown);
         find<settings::MessageBar>(shown, "message_bar")->complain(text("something is wrong"));
         QList<QWidget *> widgets;
-        for (QLabel *label : shown.findChildren<QLabel *>()) {
+        const auto labels = shown.findChildren<QLabel *>();
+        for (QLabel *label : labels) {
             if (!label->text().isEmpty())
                 widgets.append(label);
         }
-        for (QAbstractButton *button : shown.findChildren<QAbstractButton *>())
+        const auto buttons = shown.findChildren<QAbstractButton *>();
+        for (QAbstractButton *button : buttons)
             widgets.append(button);
         for (const char *name : {"trigger_field", "trigger_list", "program_list", "command_view"})
             widgets.append(find<QWidget>(shown, name));
