@@ -82,10 +82,11 @@ public:
         window.show();
     }
 
-    void addFilter()
+    void addFilter() { addFilter(tracker); }
+    void addFilter(CHxTracker &used)
     {
         document = documents.open(view);
-        document->inputPoints().AddTracker(&tracker, 0);
+        document->inputPoints().AddTracker(&used, 0);
         filter = std::make_unique<PointerFilter>(documents, trigger,
                                                  [this](const QWidget *) { return isEnabled; });
         qApp->installEventFilter(filter.get());
@@ -1172,9 +1173,7 @@ void PointerFilterTest::aPressAfterALostReleaseEndsAGestureWithoutOverlay()
         if (hit.IsMotion())
             hit.NotifyDrag();
     };
-    desk.addFilter();
-    desk.document->inputPoints().RemoveTracker(&desk.tracker);
-    desk.document->inputPoints().AddTracker(&tracker, 0);
+    desk.addFilter(tracker);
     desk.press(kPress);
     desk.move(kPress + QPoint(30, 0));
     QCOMPARE(desk.state(), PointerFilter::State::Gesturing);
@@ -1200,9 +1199,7 @@ void PointerFilterTest::anOverlayThatComesWithTheEndIsStopped()
         if (update == 4) // after the press, the drag, and the start of the gesture
             overlay.start();
     };
-    desk.addFilter();
-    desk.document->inputPoints().RemoveTracker(&desk.tracker);
-    desk.document->inputPoints().AddTracker(&slow, 0);
+    desk.addFilter(slow);
     desk.press(kPress);
     desk.move(kPress + QPoint(30, 0));
     QCOMPARE(desk.state(), PointerFilter::State::Gesturing);
@@ -1227,9 +1224,7 @@ void PointerFilterTest::anOverlayOfBeforeIsLeftAlone()
         if (update == 4) // after the press, the drag, and the start of the gesture
             overlay.start();
     };
-    desk.addFilter();
-    desk.document->inputPoints().RemoveTracker(&desk.tracker);
-    desk.document->inputPoints().AddTracker(&slow, 0);
+    desk.addFilter(slow);
     desk.view->setFocus();
     desk.press(kPress);
     desk.move(kPress + QPoint(30, 0));
@@ -1277,9 +1272,7 @@ void PointerFilterTest::aTrackerMayCancel()
         if (number == update)
             desk.filter->cancel();
     };
-    desk.addFilter();
-    desk.document->inputPoints().RemoveTracker(&desk.tracker);
-    desk.document->inputPoints().AddTracker(&tracker, 0);
+    desk.addFilter(tracker);
     desk.press(kPress);
     int moves = 0; // that the program's window gets
     const Observer observer(desk.window.windowHandle(), [&moves](QObject *, const QEvent *event) {
@@ -1683,9 +1676,7 @@ void PointerFilterTest::overlayThatComesDuringAnUpdateIsTheOverlay()
             overlay.start();
         }
     };
-    desk.addFilter();
-    desk.document->inputPoints().RemoveTracker(&desk.tracker);
-    desk.document->inputPoints().AddTracker(&tracker, 0);
+    desk.addFilter(tracker);
     desk.press(kPress);
     desk.move(kPress + QPoint(30, 0));
     QCOMPARE(desk.state(), PointerFilter::State::Gesturing);
