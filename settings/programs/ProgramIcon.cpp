@@ -19,9 +19,8 @@ QString fileOutsideOfThemes(const QString &name)
         return {};
     for (const char *folder : {"icons/", "pixmaps/"}) {
         for (const char *ending : {"", ".svg", ".png", ".xpm"}) {
-            QString file =
-                QStandardPaths::locate(QStandardPaths::GenericDataLocation,
-                                       QLatin1String(folder) + name + QLatin1String(ending));
+            QString file = QStandardPaths::locate(QStandardPaths::GenericDataLocation,
+                                                  QLatin1String(folder) + name + QLatin1String(ending));
             if (!file.isEmpty())
                 return file;
         }
