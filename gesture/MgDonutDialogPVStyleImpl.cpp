@@ -149,6 +149,7 @@ void MgDonutDialogPVStyleImpl::TryStart(const QPoint &)
     }
     gesturing = true;
     armed = false;
+    paintAtOnce();
     tellSector();
 }
 
@@ -306,10 +307,23 @@ void MgDonutDialogPVStyleImpl::bypassWindowManager()
     // no such switch for one window.
     const bool isForced = QCoreApplication::testAttribute(Qt::AA_ForceRasterWidgets);
     QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets);
+    const Qt::WindowFlags own = windowFlags();
+    overrideWindowFlags(own | Qt::BypassWindowManagerHint); // only tells create()
     // Makes the window. winId() would also make one for each widget of the main window.
     create();
+    overrideWindowFlags(own);
     QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets, isForced);
-    windowHandle()->setFlag(Qt::BypassWindowManagerHint);
+}
+
+void MgDonutDialogPVStyleImpl::paintAtOnce()
+{
+    // Qt paints a window when the server says that it is on the screen. That word lies behind all
+    // other events of the program, and handling those can take long. The server maps an unmanaged
+    // window at once, so there is nothing to wait for. Other platforms need Qt's order.
+    if (!isVisible() || QGuiApplication::platformName() != QLatin1String("xcb"))
+        return;
+    setAttribute(Qt::WA_Mapped); // as Qt does it then
+    repaint();
 }
 
 void MgDonutDialogPVStyleImpl::followWindowOf(const QWidget &view)

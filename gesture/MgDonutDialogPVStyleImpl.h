@@ -100,6 +100,8 @@ private:
     void tellNothing();
     // Makes the window one that the window manager leaves alone.
     void bypassWindowManager();
+    // Paints the first frame, if Qt would wait for the event loop with it.
+    void paintAtOnce();
     // Makes the native window belong to the window that shows the view.
     void followWindowOf(const QWidget &view);
     // Keeps what is on the screen where the ring will be, if nothing blends the ring with it.

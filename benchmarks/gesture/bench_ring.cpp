@@ -19,12 +19,14 @@
 
 #include <QApplication>
 #include <QCursor>
+#include <QEventLoop>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPixmap>
 #include <QProcess>
+#include <QTimer>
 #include <QWindow>
 
 #include <algorithm>
@@ -41,7 +43,11 @@ namespace {
 const QPoint kPress(400, 300); // in the view
 constexpr std::chrono::seconds kLongest(5); // for one frame
 constexpr std::chrono::milliseconds kUntilIdle(400); // after the start of a program
-constexpr char kTwice[] = "--open-twice"; // with this, the program is a part of ringOfNewProgram
+// More than a frame at 60 Hz: the compositor has shown what was painted.
+constexpr std::chrono::milliseconds kRest(25);
+// With one of these, this program is the new program that a benchmark starts.
+constexpr char kTwice[] = "--open-twice";
+constexpr char kWindow[] = "--open-window";
 constexpr int kDrag = 30; // pixels, more than opens the ring and less than accepts
 
 // Sees a window's paint events.
@@ -70,6 +76,15 @@ void settle()
         finishFrame();
         QCoreApplication::processEvents();
     }
+}
+
+// A person's movement finds the display at rest: nothing is left to be drawn.
+void rest(std::chrono::milliseconds time = kRest)
+{
+    settle();
+    QEventLoop loop;
+    QTimer::singleShot(time, &loop, &QEventLoop::quit);
+    loop.exec();
 }
 
 // Returns the seconds from calling `begin` until the frame that it causes is finished; 0 if there
@@ -231,7 +246,7 @@ void ringOpens(benchmark::State &state)
     for (auto _ : state) {
         program.press();
         program.pointTo(kPress + QPoint(0, kDrag));
-        settle();
+        rest();
         if (!stopwatch.time(program.ring(), [&program] { program.drag(); }))
             break;
         program.end();
@@ -245,10 +260,7 @@ int openTwice(int commands)
 {
     Program program(commands);
     program.pointTo(kPress + QPoint(0, kDrag));
-    // The window manager is at work for the new window until then.
-    const auto start = std::chrono::steady_clock::now();
-    while (std::chrono::steady_clock::now() - start < kUntilIdle)
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+    rest(kUntilIdle); // the window manager is at work for the new window
     for (int i = 0; i < 2; ++i) {
         const double seconds = secondsUntilPainted(program.ring(), [&program] { program.drag(); });
         std::printf("%.0f ", 1e6 * seconds);
@@ -257,9 +269,26 @@ int openTwice(int commands)
         program.end();
         program.press();
         program.pointTo(kPress + QPoint(0, kDrag));
-        settle();
+        rest();
     }
     return 0;
+}
+
+// A time that a new process of this program prints. `place` counts from 0 in its output. Returns
+// false, after telling the benchmark, if there is none.
+bool timeInNewProgram(benchmark::State &state, Stopwatch &stopwatch, const QStringList &arguments,
+                      int place)
+{
+    QProcess process;
+    process.start(QCoreApplication::applicationFilePath(), arguments);
+    process.waitForFinished();
+    const QList<QByteArray> times = process.readAllStandardOutput().simplified().split(' ');
+    if (process.exitCode() != 0 || times.size() <= place) {
+        state.SkipWithError("nothing was painted");
+        return false;
+    }
+    stopwatch.add(times.at(place).toDouble() * 1e-6);
+    return true;
 }
 
 // The first ring of a program or the second one, each time in a new process.
@@ -267,16 +296,9 @@ void ringOfNewProgram(benchmark::State &state)
 {
     Stopwatch stopwatch(state);
     for (auto _ : state) {
-        QProcess process;
-        process.start(QCoreApplication::applicationFilePath(),
-                      {QLatin1String(kTwice), QString::number(state.range(0))});
-        process.waitForFinished();
-        const QList<QByteArray> times = process.readAllStandardOutput().simplified().split(' ');
-        if (process.exitCode() != 0 || times.size() != 2) {
-            state.SkipWithError("nothing was painted");
+        if (!timeInNewProgram(state, stopwatch, {QLatin1String(kTwice), QString::number(state.range(0))},
+                              static_cast<int>(state.range(1)) - 1))
             break;
-        }
-        stopwatch.add(times.at(static_cast<int>(state.range(1)) - 1).toDouble() * 1e-6);
     }
 }
 
@@ -297,7 +319,7 @@ void ringFollows(benchmark::State &state)
         MgDonutDialogPVStyleImpl *ring = program.ring();
         ring->setActiveArc(-offset.x(), offset.y()); // the opposite sector
         ring->repaint();
-        settle();
+        rest();
         const bool isTimed = stopwatch.time(ring, [ring] {
             const QPoint middle = ring->rect().center();
             QMouseEvent move(QEvent::MouseMove, middle, ring->mapToGlobal(middle), Qt::NoButton,
@@ -348,7 +370,7 @@ void plainWindowOpens(benchmark::State &state)
             break;
         settle();
         window.hide();
-        settle();
+        rest();
     }
 }
 
@@ -359,8 +381,32 @@ void plainWindowFollows(benchmark::State &state)
     window.show();
     settle();
     for (auto _ : state) {
-        settle();
+        rest();
         if (!stopwatch.time(&window, [&window] { window.update(); }))
+            break;
+    }
+}
+
+// Makes and opens the first such window of a program that has just started. Prints the time in
+// microseconds and returns the exit status.
+int openWindow()
+{
+    const Program program(8);
+    rest(kUntilIdle);
+    std::unique_ptr<PlainWindow> window;
+    const double seconds = secondsUntilPainted(nullptr, [&window] {
+        window = std::make_unique<PlainWindow>(false);
+        window->show();
+    });
+    std::printf("%.0f ", 1e6 * seconds);
+    return seconds > 0.0 ? 0 : 1;
+}
+
+void plainWindowOfNewProgram(benchmark::State &state)
+{
+    Stopwatch stopwatch(state);
+    for (auto _ : state) {
+        if (!timeInNewProgram(state, stopwatch, {QLatin1String(kWindow)}, 0))
             break;
     }
 }
@@ -378,7 +424,7 @@ void menuOpens(benchmark::State &state)
             break;
         settle();
         menu.hide();
-        settle();
+        rest();
     }
 }
 
@@ -389,9 +435,9 @@ BENCHMARK(plainWindowOpens)
     ->Arg(0)
     ->Arg(1)
     ->UseManualTime()
-    ->Iterations(200)
+    ->Iterations(100)
     ->Unit(benchmark::kMicrosecond);
-BENCHMARK(menuOpens)->UseManualTime()->Iterations(200)->Unit(benchmark::kMicrosecond);
+BENCHMARK(menuOpens)->UseManualTime()->Iterations(100)->Unit(benchmark::kMicrosecond);
 BENCHMARK(ringOpens)
     ->ArgName("commands")
     ->Arg(8)
@@ -408,14 +454,15 @@ BENCHMARK(ringOfNewProgram)
     ->UseManualTime()
     ->Iterations(20)
     ->Unit(benchmark::kMicrosecond);
+BENCHMARK(plainWindowOfNewProgram)->UseManualTime()->Iterations(20)->Unit(benchmark::kMicrosecond);
 BENCHMARK(plainWindowFollows)
     ->ArgName("managed")
     ->Arg(0)
     ->Arg(1)
     ->UseManualTime()
-    ->Iterations(500)
+    ->Iterations(200)
     ->Unit(benchmark::kMicrosecond);
-BENCHMARK(ringFollows)->UseManualTime()->Iterations(500)->Unit(benchmark::kMicrosecond);
+BENCHMARK(ringFollows)->UseManualTime()->Iterations(200)->Unit(benchmark::kMicrosecond);
 
 int main(int argc, char **argv)
 {
@@ -426,6 +473,8 @@ int main(int argc, char **argv)
     }
     if (argc == 3 && std::strcmp(argv[1], kTwice) == 0)
         return openTwice(std::atoi(argv[2]));
+    if (argc == 2 && std::strcmp(argv[1], kWindow) == 0)
+        return openWindow();
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

@@ -33,6 +33,7 @@ private Q_SLOTS:
     void ringLiesOnThePressPoint_data();
     void ringLiesOnThePressPoint();
     void sizeIsRightAtTheFirstMap();
+    void firstFrameWaitsForNoEvent();
     void everyGestureRuns_data();
     void everyGestureRuns();
     void activeWindowAndFocusStay();
@@ -136,6 +137,20 @@ void RingWindowTest::sizeIsRightAtTheFirstMap()
     const MgDonutDialogPVStyleImpl ring(nullptr, Qt::WindowFlags());
     static_cast<void>(QCursor::pos()); // sends what Qt has asked the server
     QCOMPARE(m_bench->peer.sizeOf(ring.winId()), QSize(250, 250));
+}
+
+// The program's own events, such as the drawing after a press, can keep it busy for long.
+void RingWindowTest::firstFrameWaitsForNoEvent()
+{
+    tests::CountingDonut ring(m_bench->window.get());
+    for (int gesture = 0; gesture < 2; ++gesture) {
+        ring.paints = 0;
+        m_bench->bench.start(ring);
+        QCOMPARE(ring.paints, 1);
+        m_bench->settle(); // the server asks for a frame of its own
+        ring.StopGesturing(false);
+        m_bench->settle();
+    }
 }
 
 void RingWindowTest::everyGestureRuns_data()
