@@ -105,7 +105,7 @@ def measured(folder, program, quick):
             sys.exit(f"bench: {program}: {run['run_name']}: {run['error_message']}")
         if run["run_type"] != "iteration":
             continue
-        value = run.get("median_us")
+        value = run.get("median_us", run.get("quartile_us"))
         value = value * 1e3 if value is not None else run["real_time"] * SIZES[run["time_unit"]]
         name = re.sub(r"/(iterations:\d+|manual_time|real_time|min_time:[\d.]+|repeats:\d+)", "", run["run_name"])
         runs.setdefault(name, []).append(value)
