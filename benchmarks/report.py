@@ -48,6 +48,8 @@ ROWS = [
         "ringOpens/commands:1000", "a `QMenu` of eight entries", "menuOpens", None),
     Row("the pointer crosses into a sector: event to finished frame", "bench_ring",
         "ringFollows", "that window painted again", "plainWindowFollows/managed:0", 1.5),
+    Row("the pointer accepts a sector: event to the end of the gesture", "bench_ring", "ringFades",
+        "the quarter of a second that the last frame stays", "plainWait", 1.02),
     *(Row(f"the ring's data is gathered from the fake host, {count:,} commands", "bench_gather",
           f"gather/{count}", "one pass over the same commands", f"onePass/{count}", 2.5)
       for count in (300, 1000, 10000, 100000)),
@@ -83,6 +85,8 @@ ROWS = [
             "a `QTableView` over a `QStandardItemModel`", f"openPlainView/{count}", 2.0),
         Row(f"a key in the search field, {count:,} commands", "bench_dialog", f"typeInDialog/{count}",
             "a `QSortFilterProxyModel` with a fixed string", f"typeInPlainView/{count}", 1.5))),
+    Row("the list is printed into a PDF, 250 commands", "bench_dialog", "printList/250",
+        "the same cells in a `QTextTable`", "printPlainTable/250", None),
 ]
 
 # Figures are nanoseconds or bytes.

@@ -49,6 +49,8 @@ constexpr std::chrono::milliseconds kRest(25);
 constexpr char kTwice[] = "--open-twice";
 constexpr char kWindow[] = "--open-window";
 constexpr int kDrag = 30; // pixels, more than opens the ring and less than accepts
+constexpr int kFarOut = 80; // pixels, accepts
+constexpr std::chrono::milliseconds kFade(250); // the last frame stays so long
 
 // Sees a window's paint events.
 class PaintWatch : public QObject
@@ -332,6 +334,49 @@ void ringFollows(benchmark::State &state)
     program.end();
 }
 
+// From the movement that accepts a sector to the end of the gesture, with the last frame's quarter
+// of a second.
+void ringFades(benchmark::State &state)
+{
+    Stopwatch stopwatch(state);
+    Program program(8);
+    program.drag(); // opens the ring
+    settle();
+    program.end();
+    for (auto _ : state) {
+        program.press();
+        program.pointTo(kPress + QPoint(0, kDrag));
+        program.drag();
+        program.pointTo(kPress + QPoint(0, kFarOut));
+        rest();
+        MgDonutDialogPVStyleImpl *ring = program.ring();
+        const auto start = std::chrono::steady_clock::now();
+        const QPoint middle = ring->rect().center();
+        QMouseEvent move(QEvent::MouseMove, middle, ring->mapToGlobal(middle), Qt::NoButton,
+                         Qt::RightButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(ring, &move);
+        finishFrame();
+        stopwatch.add(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+        if (ring->gesturing || !ring->accepted) {
+            state.SkipWithError("no sector was accepted");
+            break;
+        }
+        program.end();
+    }
+}
+
+void plainWait(benchmark::State &state)
+{
+    Stopwatch stopwatch(state);
+    for (auto _ : state) {
+        const auto start = std::chrono::steady_clock::now();
+        auto now = start;
+        while (now - start < kFade)
+            now = std::chrono::steady_clock::now();
+        stopwatch.add(std::chrono::duration<double>(now - start).count());
+    }
+}
+
 // A window of the ring's size and kind that draws two prepared images.
 class PlainWindow : public QWidget
 {
@@ -463,6 +508,8 @@ BENCHMARK(plainWindowFollows)
     ->Iterations(200)
     ->Unit(benchmark::kMicrosecond);
 BENCHMARK(ringFollows)->UseManualTime()->Iterations(200)->Unit(benchmark::kMicrosecond);
+BENCHMARK(ringFades)->UseManualTime()->Iterations(10)->Unit(benchmark::kMicrosecond);
+BENCHMARK(plainWait)->UseManualTime()->Iterations(10)->Unit(benchmark::kMicrosecond);
 
 int main(int argc, char **argv)
 {
