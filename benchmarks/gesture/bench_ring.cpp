@@ -497,9 +497,9 @@ BENCHMARK(ringOfNewProgram)
     ->Args({1000, 1})
     ->Args({1000, 2})
     ->UseManualTime()
-    ->Iterations(20)
+    ->Iterations(10)
     ->Unit(benchmark::kMicrosecond);
-BENCHMARK(plainWindowOfNewProgram)->UseManualTime()->Iterations(20)->Unit(benchmark::kMicrosecond);
+BENCHMARK(plainWindowOfNewProgram)->UseManualTime()->Iterations(10)->Unit(benchmark::kMicrosecond);
 BENCHMARK(plainWindowFollows)
     ->ArgName("managed")
     ->Arg(0)
