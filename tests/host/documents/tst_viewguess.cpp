@@ -271,10 +271,13 @@ void ViewGuessTest::guesses_data()
         },
         true, "graphics view");
     row(
-        "graphics view in a large dock beside a small one",
+        "graphics view in a large dock beside a small part of another",
         [](QMainWindow &w) {
-            auto *small = new QGraphicsView;
+            auto *small = new QScrollArea;
             small->setMaximumWidth(99);
+            auto *large = new QGraphicsView;
+            large->resize(300, 300);
+            small->setWidget(large);
             return dockedBeside<QGraphicsView>(w, small, 300);
         },
         true, "graphics view");
@@ -519,9 +522,11 @@ void ViewGuessTest::guesses_data()
             auto *canvas = new Canvas;
             auto *frame = new ScrollingCanvas;
             auto *layout = new QHBoxLayout(frame);
+            layout->setContentsMargins(0, 0, 0, 0);
+            layout->addWidget(new QListWidget, 35);
             layout->addWidget(canvas, 30);
-            layout->addWidget(new QListWidget, 70);
-            w.setCentralWidget(frame);
+            layout->addWidget(new QListWidget, 35);
+            w.setCentralWidget(filledBy(new QWidget, frame));
             return static_cast<QWidget *>(canvas);
         },
         true, "where nothing else");

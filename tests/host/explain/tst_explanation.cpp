@@ -223,6 +223,9 @@ void ExplanationTest::severalViewsOfAClass()
 void ExplanationTest::aProgramWithoutAWindow()
 {
     QCOMPARE(lines().count(QLatin1String("\nwindow: ")), 1);
+    QWidget palette; // this is no main window
+    palette.resize(300, 300);
+    palette.show();
     m_window.reset();
     QCOMPARE(lines().count(QLatin1String("\nwindow: ")), 0);
     QVERIFY2(says("view: none, perhaps before a drawing is open"), qPrintable(lines()));
