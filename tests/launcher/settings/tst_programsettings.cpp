@@ -65,7 +65,7 @@ void ProgramSettingsTest::tasksAreTheEntriesBesideTheOneOfTheProfile()
 
 void ProgramSettingsTest::aTaskOfAToolBarTellsNothing()
 {
-    QCOMPARE(tasks({command("PartBench", "View", "", true), command("Zoom", "View", "", true)}),
+    QCOMPARE(tasks({command("PartBench", "View", "", true), command("Zoom", "View", "")}),
              (QStringList{text("PartBench"), text("StartBench")}));
 }
 
