@@ -342,7 +342,8 @@ void ViewGuessTest::guesses_data()
             auto *canvas = new Canvas;
             for (int i = 0; i < 6; ++i)
                 addButton(canvas, {300 + 20 * i, 200, 18, 18});
-            for (auto *button : canvas->findChildren<QPushButton *>())
+            const auto buttons = canvas->findChildren<QPushButton *>();
+            for (QPushButton *button : buttons)
                 button->hide();
             w.setCentralWidget(canvas);
             return static_cast<QWidget *>(canvas);

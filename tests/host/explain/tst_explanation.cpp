@@ -344,7 +344,7 @@ void ExplanationTest::toolsMenus()
 
 void ExplanationTest::aToolsMenuThatWasMade()
 {
-    m_services->GetUIManager()->NewWorkspaceIterator()->Current()->GetMenuItems();
+    QVERIFY(m_services->GetUIManager()->NewWorkspaceIterator()->Current()->GetMenuItems());
     QVERIFY(m_services->toolsMenu().made());
     QVERIFY2(says("Tools menu: one is made, since no menu of the menu bar is called Tools"),
              qPrintable(lines()));
