@@ -178,7 +178,7 @@ bool isGraphicsViewOrSurface(const QWidget *widget)
 // True if the middle of a main window shows no drawing or does not exist.
 bool hasNoViewInside(const QWidget *middle)
 {
-    if (!middle || !middle->isVisible() || isSmall(middle))
+    if (!middle || isSmall(middle))
         return true;
     if (ViewGuess::of(middle).isView)
         return false;

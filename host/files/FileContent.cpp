@@ -4,6 +4,7 @@
 #include "host/files/FileContent.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <cerrno>
 #include <cstring>
@@ -47,7 +48,7 @@ FileContent readResource(const QString &path, qint64 limit)
         return {};
     if (file.size() > limit)
         return {FileContent::State::TooLarge, {}, {}};
-    if (!file.open(QIODevice::ReadOnly))
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) // Qt opens a folder too
         return {FileContent::State::NotAFile, {}, {}};
     return {FileContent::State::Read, file.readAll(), {}};
 }

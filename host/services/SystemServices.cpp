@@ -23,7 +23,6 @@
 #include "host/window/TextOutput.h"
 
 #include <QApplication>
-#include <QFileInfo>
 #include <QMainWindow>
 #include <QTimer>
 
@@ -281,8 +280,7 @@ bool SystemServices::UsesLargeIcons() const
 
 CHxString SystemServices::GetApplicationName() const
 {
-    const QString name = QCoreApplication::applicationName();
-    return name.isEmpty() ? QFileInfo(QCoreApplication::applicationFilePath()).fileName() : name;
+    return QCoreApplication::applicationName(); // that of its file if it has set none
 }
 
 int SystemServices::ShowMessage(const CHxString &text, const CHxString &caption, int style)

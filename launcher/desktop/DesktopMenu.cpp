@@ -204,11 +204,12 @@ QString DesktopMenu::nameOf(const QByteArray &typed, const QByteArray &path) con
 
 bool DesktopMenu::isProgram(const QByteArray &named, const QByteArray &path) const
 {
-    const ProgramLookup lookup = ProgramLookup::find(named, m_places.searchPath);
-    if (path.isEmpty() || lookup.result != ProgramLookup::Result::Found)
+    const QString wanted = QFileInfo(QFile::decodeName(path)).canonicalFilePath();
+    if (wanted.isEmpty())
         return false;
-    const QString file = QFileInfo(QFile::decodeName(lookup.path)).canonicalFilePath();
-    return !file.isEmpty() && file == QFileInfo(QFile::decodeName(path)).canonicalFilePath();
+    const ProgramLookup lookup = ProgramLookup::find(named, m_places.searchPath);
+    return lookup.result == ProgramLookup::Result::Found
+        && QFileInfo(QFile::decodeName(lookup.path)).canonicalFilePath() == wanted;
 }
 
 QString DesktopMenu::installedFile(const QString &name) const

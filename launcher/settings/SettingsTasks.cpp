@@ -428,12 +428,11 @@ Outcome SettingsTasks::importFrom(const QString &path, SettingsChange *made)
 }
 
 Outcome SettingsTasks::readImport(const QString &path, Bindings &bindings,
-                                  QMap<QString, Bindings> *rings) const
+                                  QMap<QString, Bindings> &rings) const
 {
     QByteArray text;
     const Outcome reading = readText(path, text);
-    QMap<QString, Bindings> found;
-    return reading.isDone() ? parseImport(text, path, bindings, rings ? *rings : found) : reading;
+    return reading.isDone() ? parseImport(text, path, bindings, rings) : reading;
 }
 
 Outcome SettingsTasks::parseImport(const QByteArray &text, const QString &source, Bindings &bindings,

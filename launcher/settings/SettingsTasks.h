@@ -89,10 +89,10 @@ public:
     // The same with a text that came from elsewhere; `source` names it in complaints.
     [[nodiscard]] Outcome importText(const QByteArray &text, const QString &source,
                                      SettingsChange *made = nullptr);
-    // Reads the bindings that importFrom() would import, and the rings of tasks by their names, unless
-    // `rings` is null. Changes nothing.
+    // Reads the bindings that importFrom() would import, and the rings of tasks by their names. Changes
+    // nothing.
     [[nodiscard]] Outcome readImport(const QString &path, Bindings &bindings,
-                                     QMap<QString, Bindings> *rings = nullptr) const;
+                                     QMap<QString, Bindings> &rings) const;
     // The ring of a task; the shared one if it has none of its own.
     [[nodiscard]] Bindings ringOf(const QString &task) const;
     // Sets the trigger, see host/files/TriggerText.h; "default" is the profile's trigger. Refuses

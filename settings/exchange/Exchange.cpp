@@ -65,7 +65,7 @@ void Exchange::importFile(BindingsEditor &editor, const QString &path)
     editor.setRing({}); // the preview compares with the shared ring
     launcher::Bindings wanted;
     QMap<QString, launcher::Bindings> rings;
-    const launcher::Outcome outcome = editor.tasks().readImport(path, wanted, &rings);
+    const launcher::Outcome outcome = editor.tasks().readImport(path, wanted, rings);
     if (!outcome.isDone()) {
         Q_EMIT failed(outcome.complaint);
         return;

@@ -7,6 +7,7 @@
 
 #include <QIconEngine>
 #include <QPainter>
+#include <QProcess>
 #include <QTest>
 
 using gesturewidget::contrastIcon;
@@ -119,6 +120,7 @@ private Q_SLOTS:
     void outlinesStandOut_data();
     void outlinesStandOut();
     void onlyTheRingsSizeHasAHalo();
+    void onADenseScreen();
     void theHaloStaysInsideTheSquare();
     void softEdgesAreHardened_data();
     void softEdgesAreHardened();
@@ -236,6 +238,35 @@ void ContrastIconTest::onlyTheRingsSizeHasAHalo()
     QPainter expectedPainter(&expected);
     plain.paint(&expectedPainter, expected.rect());
     QCOMPARE(painted, expected);
+}
+
+// The scale of the screen is the same for a whole process, so this runs in one of its own.
+void ContrastIconTest::onADenseScreen()
+{
+    constexpr qreal kScale = 2;
+    if (!qFuzzyCompare(qApp->devicePixelRatio(), kScale)) {
+        const QString variable = QStringLiteral("QT_SCALE_FACTOR");
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        QVERIFY(environment.value(variable)
+                != QString::number(kScale)); // or it would start itself for ever
+        environment.insert(variable, QString::number(kScale));
+        QProcess process;
+        process.setProcessEnvironment(environment);
+        process.start(QCoreApplication::applicationFilePath(), {QStringLiteral("onADenseScreen")});
+        QVERIFY(process.waitForFinished());
+        const QByteArray said = process.readAllStandardOutput();
+        QVERIFY2(process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0,
+                 said.constData());
+        return;
+    }
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    const QIcon plain = strokes({QColor(0x2b, 0x2b, 0x2b)});
+    const QIcon icon = contrastIcon(plain);
+    const QImage shown = icon.pixmap(kRingIconSide).toImage();
+    QCOMPARE(shown.devicePixelRatio(), kScale);
+    QCOMPARE(shown, gesturewidget::withHalo(gesturewidget::ringShape(plain, kScale), kScale));
+    for (const int side : {16, 22, 32})
+        QCOMPARE(icon.pixmap(side).toImage(), plain.pixmap(side).toImage());
 }
 
 void ContrastIconTest::theHaloStaysInsideTheSquare()

@@ -263,6 +263,25 @@ void ViewGuessTest::guesses_data()
         },
         false, "not in the middle");
     row(
+        "graphics view in a large dock beside a hidden drawing",
+        [](QMainWindow &w) {
+            auto *hidden = new QGraphicsView;
+            hidden->hide();
+            return dockedBeside<QGraphicsView>(w, hidden, 300);
+        },
+        true, "graphics view");
+    row(
+        "graphics view in a large dock beside a small part of another",
+        [](QMainWindow &w) {
+            auto *small = new QScrollArea;
+            small->setMaximumWidth(99);
+            auto *large = new QGraphicsView;
+            large->resize(300, 300);
+            small->setWidget(large);
+            return dockedBeside<QGraphicsView>(w, small, 300);
+        },
+        true, "graphics view");
+    row(
         "graphics view in a floating dock",
         [](QMainWindow &w) {
             QWidget *view = dockedBeside<QGraphicsView>(w, new Editor, 300);
@@ -292,6 +311,40 @@ void ViewGuessTest::guesses_data()
             auto *canvas = new Canvas;
             for (int i = 0; i < 6; ++i)
                 addButton(canvas, {20 * i, 0, 18, 18});
+            w.setCentralWidget(canvas);
+            return static_cast<QWidget *>(canvas);
+        },
+        true, "paints itself");
+    row(
+        "canvas with buttons in its last corner",
+        [](QMainWindow &w) {
+            auto *canvas = new Canvas;
+            canvas->setFixedSize(400, 300);
+            for (int i = 0; i < 6; ++i)
+                addButton(canvas, {280 + 20 * i, 282, 18, 18});
+            w.setCentralWidget(canvas);
+            return static_cast<QWidget *>(canvas);
+        },
+        true, "paints itself");
+    row(
+        "buttons along an edge",
+        [](QMainWindow &w) {
+            auto *page = new Canvas;
+            for (int i = 0; i < 6; ++i)
+                addButton(page, {300 + 20 * i, 0, 18, 18});
+            w.setCentralWidget(page);
+            return static_cast<QWidget *>(page);
+        },
+        false, "page of controls");
+    row(
+        "canvas with hidden buttons",
+        [](QMainWindow &w) {
+            auto *canvas = new Canvas;
+            for (int i = 0; i < 6; ++i)
+                addButton(canvas, {300 + 20 * i, 200, 18, 18});
+            const auto buttons = canvas->findChildren<QPushButton *>();
+            for (QPushButton *button : buttons)
+                button->hide();
             w.setCentralWidget(canvas);
             return static_cast<QWidget *>(canvas);
         },
@@ -437,6 +490,48 @@ void ViewGuessTest::guesses_data()
         },
         true, "fills 100 %");
     row(
+        "canvas under a hidden page",
+        [](QMainWindow &w) {
+            auto *page = new Canvas;
+            QWidget *canvas = filledBy(new Canvas, page);
+            page->hide();
+            w.setCentralWidget(canvas);
+            return canvas;
+        },
+        true, "fills 100 %");
+    row(
+        "canvas with a dialog",
+        [](QMainWindow &w) {
+            QWidget *canvas = central<Canvas>(w);
+            auto *dialog = new QDialog(canvas);
+            dialog->resize(800, 600);
+            dialog->show();
+            return canvas;
+        },
+        true, "fills 100 %");
+    row(
+        "canvas that fills 30 %, with another in it",
+        [](QMainWindow &w) {
+            auto *canvas = new Canvas;
+            (new ScrollingCanvas(canvas))->setGeometry(20, 20, 120, 120);
+            return beside(w, 30, canvas, new QListWidget);
+        },
+        true, "where nothing else");
+    row(
+        "canvas that fills 30 %, in a frame of the program's own",
+        [](QMainWindow &w) {
+            auto *canvas = new Canvas;
+            auto *frame = new ScrollingCanvas;
+            auto *layout = new QHBoxLayout(frame);
+            layout->setContentsMargins(0, 0, 0, 0);
+            layout->addWidget(new QListWidget, 35);
+            layout->addWidget(canvas, 30);
+            layout->addWidget(new QListWidget, 35);
+            w.setCentralWidget(filledBy(new QWidget, frame));
+            return static_cast<QWidget *>(canvas);
+        },
+        true, "where nothing else");
+    row(
         "canvas under glass",
         [](QMainWindow &w) {
             auto *glass = new Canvas;
@@ -493,6 +588,14 @@ void ViewGuessTest::guesses_data()
             return static_cast<QWidget *>(button);
         },
         true, "form that is being designed");
+    row(
+        "hidden button on a form",
+        [](QMainWindow &w) {
+            auto *button = new QPushButton(QStringLiteral("x"), formIn<QDialog>(w));
+            button->hide();
+            return static_cast<QWidget *>(button);
+        },
+        false, "not visible");
     row("dialog that is an MDI child", mdiChild<QDialog>, false, "plain QDialog");
     row(
         "canvas in a dialog that is an MDI child",

@@ -10,6 +10,8 @@
 #include "host/files/ExplanationChannel.h"
 #include "host/menus/ToolsMenu.h"
 #include "host/services/SystemServices.h"
+#include "sdk/chx/CHxUIManager.h"
+#include "sdk/chx/CHxUIWorkspace.h"
 #include "tests/host/support/DraftWindow.h"
 #include "tests/host/support/StubDocuments.h"
 #include "tests/support/FatalWarnings.h"
@@ -18,6 +20,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QLabel>
+#include <QSplitter>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -30,6 +33,7 @@
 using gesturewidget::Explanation;
 using gesturewidget::Phrase;
 using gesturewidget::ProgramProfile;
+using gesturewidget::RememberedCommand;
 using gesturewidget::SystemServices;
 using tests::DraftWindow;
 
@@ -54,13 +58,17 @@ private Q_SLOTS:
 
     void viewsOfItsOwnClass();
     void viewsOfAClassOfQt();
+    void severalViewsOfAClass();
+    void aProgramWithoutAWindow();
     void viewsThatAProfileNames();
     void aViewThatInheritsANamedClass();
     void whatIsNoView();
     void aTriggerThatFollowsASetting();
     void onlyTheLargestAreTold();
     void toolsMenus();
+    void aToolsMenuThatWasMade();
     void commands();
+    void commandsOfAnEarlierStart();
     void anActionCalledLikeTheCommand();
     void commandsThatAProfileNames();
     void tellsOnceTheMenusAreComplete();
@@ -69,7 +77,8 @@ private Q_SLOTS:
     void anEndThatIsClosed();
 
 private:
-    void explain();
+    // Begins anew, with what the profile says now and with commands from an earlier start.
+    void explain(const QVector<RememberedCommand> &remembered = {});
     QWidget *show(QWidget *central);
     QString lines() const
     {
@@ -121,11 +130,12 @@ void ExplanationTest::cleanup()
     QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
 }
 
-void ExplanationTest::explain()
+void ExplanationTest::explain(const QVector<RememberedCommand> &remembered)
 {
     m_explanation.reset();
     m_services = std::make_unique<SystemServices>(m_window.get(), m_profile, &m_documents,
                                                   m_folder->filePath(QStringLiteral("drafter.ini")));
+    m_services->catalogue().remember(remembered);
     m_services->catalogue().guessWellKnown();
     m_explanation = std::make_unique<Explanation>(m_sockets[0], m_profile, *m_services);
 }
@@ -193,6 +203,33 @@ void ExplanationTest::viewsOfAClassOfQt()
     QVERIFY2(says("view classes: left to be guessed, a class of Qt's own says too little"),
              qPrintable(lines()));
     QCOMPARE(reported().viewClasses, QStringList());
+}
+
+void ExplanationTest::severalViewsOfAClass()
+{
+    auto *both = new QSplitter;
+    for (const char *name : {"left", "right"}) {
+        auto *canvas = new ExplainedCanvas;
+        canvas->setObjectName(QString::fromLatin1(name));
+        both->addWidget(canvas);
+    }
+    show(both);
+    for (int i = 0; i < both->count(); ++i)
+        m_explanation->addView(both->widget(i));
+    QCOMPARE(lines().count(QLatin1String("\nview: ExplainedCanvas")), 2);
+    QCOMPARE(reported().viewClasses, QStringList(QStringLiteral("ExplainedCanvas")));
+}
+
+void ExplanationTest::aProgramWithoutAWindow()
+{
+    QCOMPARE(lines().count(QLatin1String("\nwindow: ")), 1);
+    QWidget palette; // this is no main window
+    palette.resize(300, 300);
+    palette.show();
+    m_window.reset();
+    QCOMPARE(lines().count(QLatin1String("\nwindow: ")), 0);
+    QVERIFY2(says("view: none, perhaps before a drawing is open"), qPrintable(lines()));
+    QVERIFY2(!lines().contains(QLatin1String("\nno view: ")), qPrintable(lines()));
 }
 
 void ExplanationTest::viewsThatAProfileNames()
@@ -294,6 +331,24 @@ void ExplanationTest::toolsMenus()
     explain();
     QVERIFY2(says("Tools menu: drawMenu, since the profile names it"), qPrintable(lines()));
     QCOMPARE(reported().toolsMenu, QStringLiteral("drawMenu"));
+
+    m_profile.toolsMenu = QStringLiteral("Draw");
+    explain();
+    QVERIFY2(says("Tools menu: drawMenu, since the profile names it"), qPrintable(lines()));
+
+    // Nothing is called as the profile says.
+    m_profile.toolsMenu = QStringLiteral("Extras");
+    explain();
+    QVERIFY2(says("Tools menu: Tools, since its caption \"Tools\" says so"), qPrintable(lines()));
+}
+
+void ExplanationTest::aToolsMenuThatWasMade()
+{
+    QVERIFY(m_services->GetUIManager()->NewWorkspaceIterator()->Current()->GetMenuItems());
+    QVERIFY(m_services->toolsMenu().made());
+    QVERIFY2(says("Tools menu: one is made, since no menu of the menu bar is called Tools"),
+             qPrintable(lines()));
+    QCOMPARE(reported().toolsMenu, QString());
 }
 
 void ExplanationTest::commands()
@@ -309,6 +364,21 @@ void ExplanationTest::commands()
     QCOMPARE(found.size(), 2);
     QCOMPARE(found.value(QStringLiteral("ID_LINE")), QStringList(QStringLiteral("drawLine")));
     QCOMPARE(found.value(QStringLiteral("ID_OPEN")), QStringList(QStringLiteral("fileOpen")));
+}
+
+// A guess is made once, so its reason is found anew, if there still is one.
+void ExplanationTest::commandsOfAnEarlierStart()
+{
+    const auto known = [](const char *identifier, const char *key) {
+        RememberedCommand command;
+        command.identifier = QString::fromLatin1(identifier);
+        command.command = QString::fromLatin1(key);
+        return command;
+    };
+    explain({known("ID_LINE", "drawLine"), known("ID_TRIM", "drawCircle")});
+    QVERIFY2(says("ID_LINE: drawLine, since object name \"drawLine\", caption \"Line\""),
+             qPrintable(lines()));
+    QVERIFY2(says("ID_TRIM: drawCircle, since chosen at an earlier start"), qPrintable(lines()));
 }
 
 void ExplanationTest::anActionCalledLikeTheCommand()

@@ -4,11 +4,13 @@
 #include "host/files/CrashNote.h"
 #include "host/files/CrashPage.h"
 #include "tests/support/FolderTest.h"
+#include "tests/support/SystemFault.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTest>
 
+#include <cerrno>
 #include <csignal>
 #include <cstdlib>
 #include <functional>
@@ -25,6 +27,8 @@
 using gesturewidget::CrashNote;
 using gesturewidget::CrashPage;
 using tests::contentOf;
+using tests::SystemCall;
+using tests::SystemFault;
 using tests::text;
 
 namespace {
@@ -95,6 +99,9 @@ private Q_SLOTS:
     void withoutAFolderForThemPagesAreInTheCache();
     void withoutAnyFolderThereIsNoPage_data();
     void withoutAnyFolderThereIsNoPage();
+    void withoutHelpOfTheSystemThereIsNoPage_data();
+    void withoutHelpOfTheSystemThereIsNoPage();
+    void aPageThatCannotBeReadTellsNothing();
     void namesOfAllKinds();
     void theNoteStaysUntilItIsRemoved();
     void withoutSettingsTheNoteStaysInThePage();
@@ -372,6 +379,38 @@ void CrashPageTest::withoutAnyFolderThereIsNoPage()
     // A path that does not fit into a page.
     const CrashPage longPath(text("draw"), place(QString(kSize, QLatin1Char('x'))));
     QVERIFY(!longPath.mark());
+}
+
+void CrashPageTest::withoutHelpOfTheSystemThereIsNoPage_data()
+{
+    QTest::addColumn<SystemCall>("call");
+    QTest::addColumn<int>("error");
+    QTest::newRow("no locks") << SystemCall::Flock << ENOLCK;
+    QTest::newRow("no room") << SystemCall::Pwrite << ENOSPC;
+    QTest::newRow("no memory") << SystemCall::Mmap << ENOMEM;
+    QTest::newRow("no name") << SystemCall::Linkat << EPERM;
+}
+
+void CrashPageTest::withoutHelpOfTheSystemThereIsNoPage()
+{
+    QFETCH(SystemCall, call);
+    QFETCH(int, error);
+    const SystemFault fault(call, error);
+    const CrashPage page(text("draw"), m_settings);
+    QVERIFY(fault.hasFailed());
+    QVERIFY(!page.mark());
+    QCOMPARE(pages(), QStringList());
+}
+
+void CrashPageTest::aPageThatCannotBeReadTellsNothing()
+{
+    playCrash();
+    {
+        const SystemFault fault(SystemCall::Pread, EIO);
+        QVERIFY(!tells());
+        CrashPage::removeDead(text("draw"), m_settings);
+    }
+    QVERIFY(tells());
 }
 
 void CrashPageTest::namesOfAllKinds()

@@ -3,12 +3,15 @@
 
 #include "host/files/FileLock.h"
 
+#include "tests/support/SystemFault.h"
+
 #include <QDir>
 #include <QFile>
 #include <QStringList>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <cerrno>
 #include <memory>
 #include <thread>
 
@@ -17,6 +20,8 @@
 #include <unistd.h>
 
 using gesturewidget::FileLock;
+using tests::SystemCall;
+using tests::SystemFault;
 
 namespace {
 
@@ -49,6 +54,9 @@ private Q_SLOTS:
     void leavesNoFile();
     void theOneWhoWaitsIsNext();
     void aLeftoverBlocksNobody();
+    void withoutLocksNobodyWaits();
+    void triesAgain_data();
+    void triesAgain();
 
 private:
     [[nodiscard]] QStringList files() const { return QDir(m_folder->path()).entryList(QDir::Files); }
@@ -103,6 +111,38 @@ void FileLockTest::aLeftoverBlocksNobody()
         QVERIFY(leftover.open(QIODevice::WriteOnly));
     }
     QVERIFY(FileLock(m_path, 0).isHeld());
+    QCOMPARE(files(), QStringList());
+}
+
+void FileLockTest::withoutLocksNobodyWaits()
+{
+    constexpr int kForever = 600000;
+    for (const SystemCall call : {SystemCall::Flock, SystemCall::Fstat}) {
+        const SystemFault fault(call, ENOLCK);
+        QCOMPARE(FileLock(m_path, kForever).result(), FileLock::Result::Impossible);
+        QVERIFY(fault.hasFailed());
+    }
+}
+
+void FileLockTest::triesAgain_data()
+{
+    QTest::addColumn<SystemCall>("call");
+    QTest::addColumn<int>("error");
+    QTest::newRow("after a signal") << SystemCall::Flock << EINTR;
+    QTest::newRow("when its last owner has removed the file") << SystemCall::Lstat << ENOENT;
+}
+
+void FileLockTest::triesAgain()
+{
+    QFETCH(SystemCall, call);
+    QFETCH(int, error);
+    {
+        const SystemFault fault(call, error, 1);
+        const FileLock lock(m_path, 60000);
+        QVERIFY(lock.isHeld());
+        QVERIFY(fault.hasFailed());
+        QCOMPARE(FileLock(m_path, 0).result(), FileLock::Result::Busy);
+    }
     QCOMPARE(files(), QStringList());
 }
 

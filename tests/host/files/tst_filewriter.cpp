@@ -4,7 +4,9 @@
 #include "host/files/FileWriter.h"
 
 #include "host/files/FileContent.h"
+#include "tests/support/FileSizeLimit.h"
 #include "tests/support/FolderTest.h"
+#include "tests/support/SystemFault.h"
 
 #include <QDir>
 #include <QFile>
@@ -12,14 +14,19 @@
 #include <QProcess>
 #include <QTest>
 
-#include <csignal>
+#include <cerrno>
+#include <cstring>
 
-#include <sys/resource.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 using gesturewidget::FileContent;
 using gesturewidget::FileWriter;
 using tests::contentOf;
+using tests::SystemCall;
+using tests::SystemFault;
 using tests::text;
 using Readers = FileWriter::Readers;
 
@@ -30,25 +37,6 @@ int modeOf(const QString &path)
     struct stat status = {};
     return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 0777 : -1;
 }
-
-// While this object lives, no file may grow beyond `bytes`.
-class SmallFiles
-{
-public:
-    explicit SmallFiles(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        ::getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit some{bytes, m_before.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &some);
-    }
-    ~SmallFiles() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
-    SmallFiles(const SmallFiles &) = delete;
-    SmallFiles &operator=(const SmallFiles &) = delete;
-
-private:
-    rlimit m_before{};
-};
 
 } // namespace
 
@@ -61,11 +49,15 @@ private Q_SLOTS:
     void whoMayRead();
     void aFullDiskKeepsTheOldFile();
     void theOldFileUnderASecondName();
+    void aCopyIsKeptWhereThereAreNoLinks();
     void whatIsNoFileStays_data();
     void whatIsNoFileStays();
     void linksAreFollowed();
     void readsWhatIsThere();
     void readsNothingElse();
+    void readsAgainAfterASignal();
+    void saysWhyAFileCannotBeRead();
+    void readsResources();
 
 private:
     QStringList names() const
@@ -109,11 +101,11 @@ void FileWriterTest::aFullDiskKeepsTheOldFile()
     write("file", "old");
     write("kept", "older");
     const FileWriter writer(place("file"), Readers::Owner);
-    for (const rlim_t bytes : {0, 1, 3}) {
+    for (const qint64 bytes : {0, 1, 3}) {
         bool isWritten = true;
         bool isKept = true;
         {
-            const SmallFiles limit(bytes);
+            const tests::FileSizeLimit limit(bytes);
             isWritten = writer.write("newer");
             isKept = writer.write("newer", place("kept"));
         }
@@ -139,6 +131,24 @@ void FileWriterTest::theOldFileUnderASecondName()
         QCOMPARE(contentOf(place("kept")), before);
         QCOMPARE(names(), QStringList({text("file"), text("kept")}));
     }
+}
+
+void FileWriterTest::aCopyIsKeptWhereThereAreNoLinks()
+{
+    write("file", "old");
+    const FileWriter writer(place("file"), Readers::Usual);
+    const SystemFault noLinks(SystemCall::Link, EPERM);
+    QVERIFY(writer.write("new", place("kept")));
+    QVERIFY(noLinks.hasFailed());
+    QCOMPARE(contentOf(place("kept")), QByteArray("old"));
+    QCOMPARE(contentOf(place("file")), QByteArray("new"));
+    {
+        const SystemFault fault(SystemCall::Read, EIO);
+        QVERIFY(!writer.write("newer", place("kept"))); // what cannot be copied is not replaced
+    }
+    QCOMPARE(contentOf(place("kept")), QByteArray("old"));
+    QCOMPARE(contentOf(place("file")), QByteArray("new"));
+    QCOMPARE(names(), QStringList({text("file"), text("kept")}));
 }
 
 void FileWriterTest::whatIsNoFileStays_data()
@@ -207,6 +217,52 @@ void FileWriterTest::readsNothingElse()
     QVERIFY(stateOf(m_folder->path()) == State::NotAFile);
     QVERIFY(stateOf(text("/dev/zero")) == State::NotAFile);
     QVERIFY(stateOf(place("large")) == State::TooLarge);
+    sockaddr_un address = {};
+    address.sun_family = AF_UNIX;
+    const QByteArray socket = QFile::encodeName(place("socket"));
+    QVERIFY(socket.size() < int(sizeof address.sun_path));
+    std::memcpy(address.sun_path, socket.constData(), std::size_t(socket.size()));
+    const int listener = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    QCOMPARE(::bind(listener, reinterpret_cast<const sockaddr *>(&address), sizeof address), 0);
+    ::close(listener);
+    QVERIFY(stateOf(place("socket")) == State::NotAFile);
+}
+
+void FileWriterTest::readsAgainAfterASignal()
+{
+    write("file", "content");
+    const SystemFault signal(SystemCall::Read, EINTR, 1);
+    QCOMPARE(FileContent::read(place("file"), 100).bytes, QByteArray("content"));
+    QVERIFY(signal.hasFailed());
+}
+
+void FileWriterTest::saysWhyAFileCannotBeRead()
+{
+    write("file", "content");
+    const auto problemOf = [this](SystemCall call, int error) {
+        const SystemFault fault(call, error);
+        const FileContent content = FileContent::read(place("file"), 100);
+        return content.state == FileContent::State::Unreadable && content.bytes.isEmpty()
+                 ? content.problem
+                 : QString();
+    };
+    for (const SystemCall call : {SystemCall::Open, SystemCall::Read}) {
+        for (const int error : {EACCES, EIO})
+            QCOMPARE(problemOf(call, error), QString::fromLocal8Bit(std::strerror(error)));
+    }
+}
+
+void FileWriterTest::readsResources()
+{
+    using State = FileContent::State;
+    const QString folder = text(":/profiles");
+    const QString file = folder + text("/builtin.json");
+    const FileContent content = FileContent::read(file, 1000);
+    QVERIFY(content.isRead());
+    QVERIFY(!content.bytes.isEmpty());
+    QVERIFY(FileContent::read(file, content.bytes.size() - 1).state == State::TooLarge);
+    QVERIFY(FileContent::read(file + text("x"), 1000).state == State::Missing);
+    QVERIFY(FileContent::read(folder, 1000).state == State::NotAFile);
 }
 
 QTEST_GUILESS_MAIN(FileWriterTest)

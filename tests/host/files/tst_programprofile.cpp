@@ -153,25 +153,30 @@ void ProgramProfileTest::isWrittenAsItIsRead()
     profile.taskActions = QStringList{QStringLiteral("SketchBench"), QStringLiteral("PartBench")};
     profile.taskBindings[QStringLiteral("SketchBench")].insert(QStringLiteral("87"),
                                                                QStringLiteral("ID_LINE"));
-    for (const bool isEmpty : {false, true}) {
-        if (isEmpty) {
-            profile = ProgramProfile();
-            profile.program = QStringLiteral("drafter");
-        }
-        write("drafter.json", QJsonDocument(profile.toJson()).toJson());
+    profile.taskPrefixes.insert(QStringLiteral("SketchBench"), QStringLiteral("Sketch_"));
+    profile.changesMenus = true;
+    ProgramProfile byView = profile;
+    byView.taskActions.clear();
+    byView.isTaskOfView = true;
+    ProgramProfile empty;
+    empty.program = QStringLiteral("drafter");
+    for (const ProgramProfile &one : {profile, byView, empty}) {
+        write("drafter.json", QJsonDocument(one.toJson()).toJson());
         QString message;
         const ProgramProfile again = read(&message);
         QCOMPARE(message, QString());
-        QCOMPARE(again.toJson(), profile.toJson());
-        QCOMPARE(again.viewClasses, profile.viewClasses);
-        QCOMPARE(again.triggerButton, profile.triggerButton);
-        QCOMPARE(again.triggerModifiers, profile.triggerModifiers);
-        QCOMPARE(again.wellKnownCommands, profile.wellKnownCommands);
-        QCOMPARE(again.toolsMenu, profile.toolsMenu);
-        QCOMPARE(again.commandLineClass, profile.commandLineClass);
-        QCOMPARE(again.taskActions, profile.taskActions);
-        QCOMPARE(again.isTaskOfView, profile.isTaskOfView);
-        QCOMPARE(again.taskBindings, profile.taskBindings);
+        QCOMPARE(again.toJson(), one.toJson());
+        QCOMPARE(again.viewClasses, one.viewClasses);
+        QCOMPARE(again.triggerButton, one.triggerButton);
+        QCOMPARE(again.triggerModifiers, one.triggerModifiers);
+        QCOMPARE(again.wellKnownCommands, one.wellKnownCommands);
+        QCOMPARE(again.toolsMenu, one.toolsMenu);
+        QCOMPARE(again.commandLineClass, one.commandLineClass);
+        QCOMPARE(again.taskActions, one.taskActions);
+        QCOMPARE(again.isTaskOfView, one.isTaskOfView);
+        QCOMPARE(again.taskBindings, one.taskBindings);
+        QCOMPARE(again.taskPrefixes, one.taskPrefixes);
+        QCOMPARE(again.changesMenus, one.changesMenus);
     }
 }
 

@@ -4,12 +4,14 @@
 #include "host/files/FileWriter.h"
 #include "host/files/UnfinishedFile.h"
 #include "tests/support/FolderTest.h"
+#include "tests/support/SystemFault.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTest>
 
 #include <array>
+#include <cerrno>
 #include <csignal>
 
 #include <fcntl.h>
@@ -21,6 +23,8 @@
 using gesturewidget::FileWriter;
 using gesturewidget::UnfinishedFile;
 using tests::contentOf;
+using tests::SystemCall;
+using tests::SystemFault;
 using tests::text;
 using Start = UnfinishedFile::Start;
 
@@ -37,6 +41,12 @@ private Q_SLOTS:
     void onlyLeftoversAreRemoved();
     void aLinkOfTheFileIsNoLeftoverWhileItIsMade();
     void namesMayBeAsLongAsTheFileSystemAllows();
+    void aFailureChangesNothing_data();
+    void aFailureChangesNothing();
+    void someFailuresKeepNothingFromBeingWritten_data();
+    void someFailuresKeepNothingFromBeingWritten();
+    void aSecondNameThatCannotBeMade_data();
+    void aSecondNameThatCannotBeMade();
 
 private:
     QByteArray path(const char *name) const { return QFile::encodeName(place(name)); }
@@ -53,6 +63,11 @@ private:
         QTest::addColumn<bool>("hasName");
         QTest::newRow("without a name") << false;
         QTest::newRow("with a name") << true;
+    }
+    static void addFaults()
+    {
+        QTest::addColumn<SystemCall>("call");
+        QTest::addColumn<int>("error");
     }
     static Start start(bool hasName) { return hasName ? Start::WithName : Start::WithoutName; }
 };
@@ -184,6 +199,91 @@ void UnfinishedFileTest::namesMayBeAsLongAsTheFileSystemAllows()
         QVERIFY(file.finish());
         QCOMPARE(names(), QStringList(QString::fromLatin1(longest)));
     }
+}
+
+void UnfinishedFileTest::aFailureChangesNothing_data()
+{
+    addFaults();
+    QTest::newRow("nothing can be made") << SystemCall::Open << EACCES;
+    QTest::newRow("nothing can be written") << SystemCall::Write << EIO;
+    QTest::newRow("what is written is lost") << SystemCall::Write << SystemFault::kPretends;
+    QTest::newRow("no mode can be set") << SystemCall::Fchmod << EPERM;
+    QTest::newRow("nothing can be flushed") << SystemCall::Fsync << EIO;
+    QTest::newRow("nothing can be read back") << SystemCall::Pread << EIO;
+    QTest::newRow("something else is read back") << SystemCall::Pread << SystemFault::kPretends;
+    QTest::newRow("no random names") << SystemCall::Getrandom << EAGAIN;
+    QTest::newRow("no name can be given") << SystemCall::Linkat << EPERM;
+    QTest::newRow("all names are taken") << SystemCall::Linkat << EEXIST;
+    QTest::newRow("the name cannot be taken") << SystemCall::Rename << EIO;
+}
+
+void UnfinishedFileTest::aFailureChangesNothing()
+{
+    QFETCH(SystemCall, call);
+    QFETCH(int, error);
+    write("file", "old");
+    {
+        const SystemFault fault(call, error);
+        UnfinishedFile file(path("file"));
+        QVERIFY(!file.fill("new", 0600) || !file.finish());
+        QVERIFY(fault.hasFailed());
+    }
+    QCOMPARE(names(), QStringList(text("file")));
+    QCOMPARE(contentOf(place("file")), QByteArray("old"));
+}
+
+void UnfinishedFileTest::someFailuresKeepNothingFromBeingWritten_data()
+{
+    addFaults();
+    QTest::addColumn<int>("times");
+    QTest::newRow("no files without a name") << SystemCall::Open << EOPNOTSUPP << 1;
+    QTest::newRow("no /proc") << SystemCall::Access << ENOENT << SystemFault::kAlways;
+    QTest::newRow("a signal while it is written") << SystemCall::Write << EINTR << 1;
+    QTest::newRow("a signal while it is read back") << SystemCall::Pread << EINTR << 1;
+    QTest::newRow("there is nothing to flush") << SystemCall::Fsync << EINVAL << SystemFault::kAlways;
+    QTest::newRow("nothing can ever be flushed") << SystemCall::Fsync << ENOSYS << SystemFault::kAlways;
+    QTest::newRow("a name is taken") << SystemCall::Linkat << EEXIST << 1;
+}
+
+void UnfinishedFileTest::someFailuresKeepNothingFromBeingWritten()
+{
+    QFETCH(SystemCall, call);
+    QFETCH(int, error);
+    QFETCH(int, times);
+    write("file", "old");
+    {
+        const SystemFault fault(call, error, times);
+        UnfinishedFile file(path("file"));
+        QVERIFY(file.fill("new", 0600));
+        QVERIFY(file.finish());
+        QVERIFY(fault.hasFailed());
+    }
+    QCOMPARE(names(), QStringList(text("file")));
+    QCOMPARE(contentOf(place("file")), QByteArray("new"));
+}
+
+void UnfinishedFileTest::aSecondNameThatCannotBeMade_data()
+{
+    addFaults();
+    QTest::newRow("no links") << SystemCall::Link << EPERM;
+    QTest::newRow("no random names") << SystemCall::Getrandom << EAGAIN;
+    QTest::newRow("the name cannot be taken") << SystemCall::Rename << EIO;
+    QTest::newRow("the link is gone each time") << SystemCall::Rename << ENOENT;
+}
+
+void UnfinishedFileTest::aSecondNameThatCannotBeMade()
+{
+    QFETCH(SystemCall, call);
+    QFETCH(int, error);
+    write("file", "old");
+    write("kept", "older");
+    {
+        const SystemFault fault(call, error);
+        QVERIFY(!UnfinishedFile::linkAs(path("file"), path("kept")));
+        QVERIFY(fault.hasFailed());
+    }
+    QCOMPARE(names(), QStringList({text("file"), text("kept")}));
+    QCOMPARE(contentOf(place("kept")), QByteArray("older"));
 }
 
 QTEST_GUILESS_MAIN(UnfinishedFileTest)

@@ -23,6 +23,7 @@
 #include "tests/host/support/StubDocuments.h"
 #include "tests/support/FatalWarnings.h"
 
+#include <QDialog>
 #include <QFile>
 #include <QIcon>
 #include <QLineEdit>
@@ -83,6 +84,7 @@ private Q_SLOTS:
     void messagesAreAnswered();
     void aMessageMayLoseItsWindow();
     void aMessageIsPlainText();
+    void aMessageBelongsToTheDialogThatIsOpen();
     void helpOpensTheGuide_data();
     void helpOpensTheGuide();
     void missingHelpIsSaid();
@@ -242,6 +244,7 @@ void SystemServicesTest::namesOfTheProgram()
     QCOMPARE(m_services->GetApplicationName(), CHxString("drafter"));
     QCOMPARE(m_services->GetMessageCaption(), CHxString("Drafter 2"));
     QGuiApplication::setApplicationDisplayName(QString());
+    QCOMPARE(m_services->GetMessageCaption(), CHxString("drafter"));
     QCoreApplication::setApplicationName(QString());
     QCOMPARE(m_services->GetApplicationName(), CHxString("tst_systemservices")); // the file's name
     QCoreApplication::setApplicationName(QStringLiteral("drafter"));
@@ -304,6 +307,20 @@ void SystemServicesTest::aMessageIsPlainText()
         box->close();
     });
     QCOMPARE(m_services->ShowMessage("<b>Reset</b>?", "Caption", 49), 2);
+}
+
+void SystemServicesTest::aMessageBelongsToTheDialogThatIsOpen()
+{
+    QDialog dialog(m_window.get());
+    dialog.setModal(true);
+    dialog.show();
+    const QWidget *parent = nullptr;
+    answer([&parent](QMessageBox *box) {
+        parent = box->parentWidget();
+        box->close();
+    });
+    m_services->ShowMessage("Reset?", "Caption", 49);
+    QCOMPARE(parent, &dialog);
 }
 
 void SystemServicesTest::helpOpensTheGuide_data()

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
+#include "host/commands/CommandCatalogue.h"
 #include "host/commands/CommandStack.h"
 #include "host/files/ProgramProfile.h"
 #include "host/files/RingSettings.h"
@@ -86,6 +87,7 @@ private Q_SLOTS:
     void theDialogStaysWithItsRingAndNamesIt();
     void aProgramWithoutTasksSaysNothing();
     void commandsOfAllRingsAreOffered();
+    void aMistypedCommandOfTheTaskIsDropped();
 
 private:
     void start()
@@ -263,6 +265,27 @@ void TaskRingsTest::commandsOfAllRingsAreOffered()
     QVERIFY(m_services->RunCommand("Sketch_Arc", true));
     QVERIFY(m_window->statusBar()->currentMessage().contains(QStringLiteral("Sketch_Arc")));
     QVERIFY(m_window->statusBar()->currentMessage().contains(QStringLiteral("not available")));
+}
+
+// Once the menus of the task are complete. Those of other tasks are not here to compare with.
+void TaskRingsTest::aMistypedCommandOfTheTaskIsDropped()
+{
+    m_profile.changesMenus = true;
+    m_profile.taskPrefixes.insert(QStringLiteral("PartBench"), QStringLiteral("Part_"));
+    makeOwn(QStringLiteral("PartBench"), {{QStringLiteral("87"), QStringLiteral("Part_Boxx")}});
+    makeOwn(QStringLiteral("SketchBench"), {{QStringLiteral("87"), QStringLiteral("Sketch_Arcc")}});
+    start();
+    const auto isOffered = [this](const char *identifier) {
+        const auto *item = m_services->catalogue().find(QString::fromLatin1(identifier));
+        return item && !item->isLacking;
+    };
+    m_services->catalogue().endGuessing();
+    QVERIFY(isOffered("Part_Boxx")); // this program changes its menus
+    m_services->startRemembering();
+    QTRY_COMPARE(m_window->statusBar()->currentMessage(),
+                 QStringLiteral("The program has no command \"Part_Boxx\"; its direction is empty."));
+    QVERIFY(!isOffered("Part_Boxx"));
+    QVERIFY(isOffered("Sketch_Arcc"));
 }
 
 QTEST_MAIN(TaskRingsTest)

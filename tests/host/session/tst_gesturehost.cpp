@@ -23,6 +23,7 @@
 #include "tests/host/support/StubModules.h"
 #include "tests/support/FatalWarnings.h"
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QFrame>
@@ -87,6 +88,8 @@ private Q_SLOTS:
     void startAndStopOnce();
     void oneHostAtATime();
     void startWithoutWindow();
+    void afterACrashItSaysWhatSwitchesGesturesOn_data();
+    void afterACrashItSaysWhatSwitchesGesturesOn();
     void startWithBrokenModule_data();
     void startWithBrokenModule();
     void errorIsOptional();
@@ -186,6 +189,37 @@ void GestureHostTest::startWithoutWindow()
     gesturewidget::GestureHost late(window.get(), m_options);
     window.reset();
     QVERIFY(!late.start(&error));
+}
+
+// The launcher knows its own settings files only.
+void GestureHostTest::afterACrashItSaysWhatSwitchesGesturesOn_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("remedy");
+    QTest::newRow("a program's own settings")
+        << QStringLiteral("program.ini") << QStringLiteral("remove OffSinceCrash from %1");
+    QTest::newRow("the launcher's") << QStringLiteral("gesturewidget/program.ini")
+                                    << QStringLiteral("mouse-gestures --switch-on program");
+}
+
+void GestureHostTest::afterACrashItSaysWhatSwitchesGesturesOn()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, remedy);
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_folder->path()));
+    QVERIFY(QDir(m_folder->path()).mkpath(QStringLiteral("gesturewidget")));
+    m_options.settingsFile = m_folder->filePath(file);
+    tests::writeFile(m_options.settingsFile, "[Host]\nOffSinceCrash=1\n");
+    QMainWindow window;
+    gesturewidget::GestureHost host(&window, m_options);
+    QString error;
+    QVERIFY(!host.start(&error));
+    qunsetenv("XDG_CONFIG_HOME");
+    if (remedy.contains(QStringLiteral("%1")))
+        remedy = remedy.arg(m_options.settingsFile);
+    QCOMPARE(error, QStringLiteral("gestures are off, since program crashed in their code; to switch "
+                                   "them on: ")
+                        + remedy);
 }
 
 void GestureHostTest::startWithBrokenModule_data()

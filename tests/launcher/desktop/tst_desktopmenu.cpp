@@ -8,6 +8,7 @@
 #include "launcher/desktop/DesktopMenu.h"
 
 #include "launcher/desktop/DesktopFile.h"
+#include "tests/support/FileSizeLimit.h"
 #include "tests/support/FolderTest.h"
 
 #include <QDir>
@@ -106,6 +107,7 @@ private Q_SLOTS:
     void notFound_data();
     void notFound();
     void whatCannotBeWrittenIsSaid();
+    void aFullDiskKeepsTheOldCopy();
     void aProgramThatIsGone();
     void aProgramThatIsNotInstalled();
     void itsNameIsThatOfItsEntry();
@@ -464,6 +466,23 @@ void DesktopMenuTest::whatCannotBeWrittenIsSaid()
     const Outcome outcome = menu().enable("draw", draw());
     QCOMPARE(outcome.complaint,
              place("home/applications/draw.desktop") + QStringLiteral(" cannot be written"));
+}
+
+void DesktopMenuTest::aFullDiskKeepsTheOldCopy()
+{
+    write("usr/applications/draw.desktop", entryFor("draw --old"));
+    expectEnabled();
+    const QByteArray before = content("home/applications/draw.desktop");
+    write("usr/applications/draw.desktop", entryFor("draw --new"));
+    Outcome outcome;
+    {
+        const tests::FileSizeLimit fullDisk(10);
+        outcome = menu().enable("draw", draw());
+    }
+    QCOMPARE(outcome.complaint,
+             place("home/applications/draw.desktop") + QStringLiteral(" cannot be written"));
+    QCOMPARE(content("home/applications/draw.desktop"), before);
+    QCOMPARE(ownFiles(), QStringList(tests::text("draw.desktop")));
 }
 
 void DesktopMenuTest::aProgramThatIsGone()

@@ -145,6 +145,19 @@ private Q_SLOTS:
         copy("direct", "mouse-gestures-settings");
         entry("first/mouse-gestures.desktop", "Name=Mouse Gestures\nExec=mouse-gestures-settings\n");
         QCOMPARE(found(), QStringList());
+        // A program of somebody else may have such a name.
+        QDir().mkpath(place("games"));
+        QVERIFY(QFile::copy(place("bin/draw"), place("games/mouse-gestures-maze")));
+        const QByteArray maze = QFile::encodeName(place("games/mouse-gestures-maze"));
+        entry("first/maze.desktop", "Name=Maze\nExec=" + maze + '\n');
+        QCOMPARE(found(), QStringList(text("Maze ") + place("games/mouse-gestures-maze")));
+    }
+
+    void whatIsNoEntryIsPassedOver()
+    {
+        write("first/a.desktop", "Exec=draw\n");
+        entry("first/b.desktop", "Name=Draw\nExec=draw\n");
+        QCOMPARE(found(), QStringList{text("Draw draw")});
     }
 
     void namesAreInTheLanguage()

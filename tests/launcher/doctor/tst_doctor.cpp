@@ -95,6 +95,15 @@ private Q_SLOTS:
             [](Symptoms &symptoms, const QDir &) {
                 symptoms.environment.insert("WAYLAND_DISPLAY", "wayland-0");
             });
+        row("Wayland by its session", true, "\n  display:     Wayland; the program will use X11, :7",
+            [](Symptoms &symptoms, const QDir &) {
+                symptoms.environment.insert("XDG_SESSION_TYPE", "wayland");
+            });
+        row("plug-in for Qt 6", true, "/libmousegestures-qt6.so\n",
+            [](Symptoms &symptoms, const QDir &) {
+                symptoms.use = QtWidgetsUse::Qt6;
+                symptoms.plugins.append({"/plugins6", 6});
+            });
         row("Wayland without X11", false, "\n! display:     Wayland without X11",
             [](Symptoms &symptoms, const QDir &) {
                 symptoms.environment = {{"WAYLAND_DISPLAY", "wayland-0"}};
@@ -110,6 +119,12 @@ private Q_SLOTS:
                       R"({"version": 1, "program": "drafter"})");
             symptoms.profileFolders = QStringList{folder.path()};
         });
+        row("no folder for profiles of one's own", true, "/drafter.json\n",
+            [](Symptoms &symptoms, const QDir &folder) {
+                writeFile(folder.filePath(QStringLiteral("drafter.json")),
+                          R"({"version": 1, "program": "drafter"})");
+                symptoms.profileFolders = QStringList{QString(), folder.path()};
+            });
         row("views of the profile", true, "\n  views:       Canvas, Sheet, by the profile",
             [](Symptoms &symptoms, const QDir &folder) {
                 writeFile(folder.filePath(QStringLiteral("drafter.json")),

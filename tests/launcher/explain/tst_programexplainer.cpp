@@ -298,6 +298,7 @@ void ProgramExplainerTest::whatCannotBeExplained_data()
     row("no window", "exec '" GUEST "' without-window\n",
         "it has shown no main window with menus in 2 seconds; a dialog may be waiting");
     row("no plug-in", "exec sleep 1000\n", "it has not loaded the plug-in in 2 seconds");
+    row("gestures of its own", "exec '" SKETCHPAD "'\n", "it brings gestures of its own");
     row("no widgets", "exec '" GUEST "' without-widgets\n", "it has no widgets");
     row("a message without an end",
         "s=${GESTUREWIDGET_EXPLAIN%:*}; head -c 9000000 /dev/zero >&$s\nexit 4\n",

@@ -55,6 +55,7 @@ private Q_SLOTS:
     void exportsHoldAllRings();
     void aRingAloneIsExportedAndImported();
     void aRingIsReset();
+    void whatWasChangedSinceIsNotTakenBack();
     void otherProgramsValuesStay();
     void resetKeepsTheTrigger();
     void theAdministratorsSettings();
@@ -304,6 +305,13 @@ void SettingsTasksTest::aRingAloneIsExportedAndImported()
     QCOMPARE(kept().trigger, QString());
     QVERIFY(importing.takeBack(change).isDone());
     QCOMPARE(tasks().ringOf(other).eight.at(6), text("PartBench_Line"));
+    // Also if the file has rings of tasks.
+    QVERIFY(tasks().setRing(task, true, {{text("87"), text("Newer_Line")}}).isDone());
+    const QByteArray all = tasks().exported().output;
+    QVERIFY(own.bind(text("up"), text("Sketch_Arc")).isDone());
+    QVERIFY(importing.importText(all, text("it")).isDone());
+    QCOMPARE(tasks().ringOf(other).eight, Bindings::initial().eight);
+    QCOMPARE(tasks().ringOf(task).eight.at(0), text("Sketch_Arc"));
     // Nothing is imported into a ring that does not exist.
     const QByteArray before = contentOf(m_file);
     importing.setTask(text("NoBench"));
@@ -335,6 +343,43 @@ void SettingsTasksTest::aRingIsReset()
     QCOMPARE(tasks().ringOf(task).eight.at(0), text("xup"));
     own.setTask(text("NoBench"));
     QVERIFY(!own.reset().isDone());
+}
+
+void SettingsTasksTest::whatWasChangedSinceIsNotTakenBack()
+{
+    const QString elsewhere = text("this was changed elsewhere meanwhile, so it stays");
+    const auto bindTwo = [](Bindings &bindings) {
+        bindings.bind(0, text("Arc"));
+        bindings.bind(1, text("Circle"));
+        return QString();
+    };
+    launcher::SettingsChange change;
+    QVERIFY(tasks().edit(bindTwo, &change).isDone());
+    QVERIFY(tasks().bind(text("up"), text("Mine")).isDone());
+    QCOMPARE(tasks().takeBack(change).complaint, elsewhere);
+    QCOMPARE(kept().eight.mid(0, 2), (QStringList{text("Mine"), text("Circle")}));
+
+    // A task's ring that is in use no more, whatever the shared one has.
+    SettingsTasks own = tasks();
+    own.setTask(text("SketchBench"));
+    QVERIFY(tasks().setRing(own.task(), true, {}).isDone());
+    QVERIFY(own.edit(bindTwo, &change).isDone());
+    QVERIFY(tasks().edit(bindTwo).isDone());
+    QVERIFY(tasks().setRing(own.task(), false, {}).isDone());
+    QCOMPARE(own.takeBack(change).complaint, elsewhere);
+    QVERIFY(tasks().setRing(own.task(), true, {}).isDone());
+    QVERIFY(own.takeBack(change).isDone());
+    QCOMPARE(own.bindings().eight.at(0), text("Mine"));
+
+    // One of several imported rings.
+    QVERIFY(tasks().setRing(text("PartBench"), true, {}).isDone());
+    const QByteArray exported = tasks().exported().output;
+    for (const char *ring : {"PartBench", "SketchBench"})
+        QVERIFY(tasks().setRing(text(ring), false, {}).isDone());
+    QVERIFY(tasks().importText(exported, text("it"), &change).isDone());
+    QVERIFY(tasks().setRing(text("PartBench"), false, {}).isDone());
+    QCOMPARE(tasks().takeBack(change).complaint, elsewhere);
+    QCOMPARE(tasks().tasks(), QStringList(text("SketchBench")));
 }
 
 void SettingsTasksTest::otherProgramsValuesStay()
@@ -396,6 +441,9 @@ void SettingsTasksTest::theAdministratorsSettings()
     own = SettingsFile(m_file).read();
     for (const char *key : {"GestureWidget/41", "GestureWidget/ActiveScheme", "Host/Trigger"})
         QVERIFY2(!own.contains(text(key)), key);
+    QVERIFY(tasks.reset().isDone());
+    QCOMPARE(tasks.bindings().trigger, text("ctrl+right"));
+    QVERIFY(!SettingsFile(m_file).read().contains(text("Host/Trigger")));
     // A task's ring begins with the administrator's too.
     QVERIFY(tasks.setRing(text("Sketch"), true, {}).isDone());
     tasks.setTask(text("Sketch"));

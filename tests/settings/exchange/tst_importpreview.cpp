@@ -168,7 +168,7 @@ private Q_SLOTS:
         QCOMPARE(done.count(), 1);
         launcher::Bindings shared;
         QMap<QString, launcher::Bindings> rings;
-        QVERIFY(editor.tasks().readImport(place("kept.json"), shared, &rings).isDone());
+        QVERIFY(editor.tasks().readImport(place("kept.json"), shared, rings).isDone());
         QCOMPARE(shared.eight.at(6), text("ID_LINE"));
         QCOMPARE(rings.keys(), QStringList(text("Sketching")));
         QCOMPARE(rings.value(text("Sketching")).eight.at(6), QString());
