@@ -347,11 +347,11 @@ void SheetTest::theSchemeInUse()
     QCOMPARE(eight.commands.size(), 8);
     QCOMPARE(eight.trigger, text("middle"));
     QCOMPARE(eight.commands.at(0).direction, text("up"));
-    QCOMPARE(eight.commands.at(0).caption, text("Arc..."));
+    QCOMPARE(eight.commands.at(0).caption, text("Arc"));
     QCOMPARE(eight.commands.at(0).category, text("Draw"));
     QCOMPARE(eight.commands.at(0).icon, QByteArray("png"));
     QCOMPARE(eight.commands.at(1).caption, text("Zoom to Fit"));
-    QCOMPARE(eight.commands.at(2).caption, text("Print..."));
+    QCOMPARE(eight.commands.at(2).caption, text("Print"));
     QCOMPARE(eight.commands.at(3).caption, QString());
     QCOMPARE(eight.commands.at(4).caption, text("other"));
 
