@@ -24,7 +24,7 @@ QString withoutDots(const QString &caption)
     const auto isDot = [](QChar character) {
         return character == QLatin1Char('.') || character == QChar(0x2026);
     };
-    int length = text.size();
+    auto length = text.size();
     while (length > 0 && isDot(text.at(length - 1)))
         --length;
     const bool hasDots = text.size() - length > 1 || text.endsWith(QChar(0x2026));
