@@ -91,8 +91,7 @@ void KnownCommandsTest::resolves_data()
     row("view/grid", "viewGrid");
     row("Snap/Grid", "snapGrid");
     // The identifier of an action in a toolbar is the caption of an action in a menu.
-    row("Save", "",
-        "several commands are called \"Save\": fileSave (File > Save), Save (Main > Save)");
+    row("Save", "", "several commands are called \"Save\": fileSave (File > Save), Save (Main > Save)");
     row("file/save", "fileSave");
     row("Main/Save", "Save");
     row("fileSave", "fileSave");
