@@ -16,9 +16,24 @@ namespace {
 // The names are read by people and by nobody else.
 const QLatin1String kArrow(" > ");
 
+// Returns a caption without the dots by which menus announce a dialog: "Open..." becomes "Open". A
+// caption of dots alone stays.
+QString withoutDots(const QString &caption)
+{
+    const QString text = caption.simplified();
+    const auto isDot = [](QChar character) {
+        return character == QLatin1Char('.') || character == QChar(0x2026);
+    };
+    auto length = text.size();
+    while (length > 0 && isDot(text.at(length - 1)))
+        --length;
+    const bool hasDots = text.size() - length > 1 || text.endsWith(QChar(0x2026));
+    return hasDots && length > 0 ? text.left(length).trimmed() : text;
+}
+
 QString captionOf(const RememberedCommand &command)
 {
-    return command.caption.simplified();
+    return withoutDots(command.caption);
 }
 
 // "exports" and "export" are one word here.
@@ -40,7 +55,7 @@ QString joined(const QStringList &captions)
 {
     QStringList parts;
     for (const QString &caption : captions) {
-        if (const QString part = caption.simplified(); !part.isEmpty())
+        if (const QString part = withoutDots(caption); !part.isEmpty())
             parts.append(part);
     }
     return parts.join(kArrow);
@@ -131,7 +146,7 @@ QString captionFrom(const QString &identifier)
         return caption;
     const QLatin1String prefix("ID_");
     if (!identifier.startsWith(prefix))
-        return identifier.section(QLatin1Char('/'), -1);
+        return withoutDots(identifier.section(QLatin1Char('/'), -1));
     return capitalized(
         identifier.mid(prefix.size()).toLower().replace(QLatin1Char('_'), QLatin1Char(' ')));
 }
@@ -148,7 +163,7 @@ bool repeatsCaption(const QString &tip, const QString &caption)
 QString namedTip(const RememberedCommand &command, const QString &name)
 {
     if (repeatsCaption(command.tip, command.caption))
-        return name == captionOf(command) && !command.tip.isEmpty() ? command.tip : name;
+        return name == captionOf(command) && !command.tip.isEmpty() ? withoutDots(command.tip) : name;
     const bool isNamed = holdsAll(command.tip, command.way + QStringList(command.caption));
     return isNamed ? command.tip : QStringLiteral("%1: %2").arg(name, command.tip);
 }

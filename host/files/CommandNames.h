@@ -18,9 +18,13 @@ namespace gesturewidget {
 // of the way, as "Zoom In" in a menu "Zoom". Where several would still have the same name, the
 // top-level menu or the toolbar comes first, as in "Edit > Properties"; if that does not help
 // either, the second one is called "Properties (2)".
+//
+// Names have no dots at their ends: "Open" for the entry "Open...". The ring cuts long names, and dots
+// would take the place of letters.
 [[nodiscard]] QStringList commandNames(const QVector<RememberedCommand> &commands);
 
 // Returns the command's captions from the top-level menu or toolbar down: "Draw > Line > 2 Points".
+// They have no dots at their ends either.
 [[nodiscard]] QString fullWayOf(const RememberedCommand &command);
 
 // Returns a caption, in the person's language, for a command that no menu has shown yet: the usual

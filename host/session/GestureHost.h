@@ -63,8 +63,9 @@ public:
     };
 
     // Returns the options for the running program: its name; as profile folders those that the
-    // environment variable GESTUREWIDGET_PROFILES names, the user's and the installed ones; the
-    // default files; and guesses for the rest. Call this after creating the application object.
+    // environment variable GESTUREWIDGET_PROFILES names, the user's, the administrator's and the
+    // installed ones; the default files; and guesses for the rest. Call this after creating the
+    // application object.
     [[nodiscard]] static Options optionsForThisProgram();
 
     // Uses optionsForThisProgram(). Create the application object first. `window` is the main

@@ -13,6 +13,9 @@
 namespace sheet {
 namespace {
 
+// A whole name is at least this large, compared with its last part alone. Chosen by looking at rings.
+constexpr double kSmallestWholeName = 0.8;
+
 // Breaks between words only. A word that is wider than the line makes the line too wide.
 QStringList brokenUp(const QString &text, const QFont &font, double width)
 {
@@ -68,6 +71,18 @@ FittedText::FittedText(const QString &wanted, const QFont &wantedFont, const QSi
         line = metrics.elidedText(line, Qt::ElideRight, box.width());
     size = sizeOf(broken, metrics);
     text = broken.join(QLatin1Char('\n'));
+}
+
+FittedText FittedText::ofName(const QString &name, const QFont &font, const QSizeF &box, int largest,
+                              int smallest, int lines)
+{
+    FittedText whole(name, font, box, largest, smallest, lines);
+    const QString last = name.section(QLatin1String(" > "), -1);
+    if (last == name)
+        return whole;
+    FittedText part(last, font, box, largest, smallest, lines);
+    const bool isLarge = whole.font.pixelSize() >= kSmallestWholeName * part.font.pixelSize();
+    return isLarge && !whole.text.contains(QChar(0x2026)) ? whole : part;
 }
 
 void FittedText::paint(QPainter &painter, const QRectF &box, Qt::Alignment alignment) const

@@ -21,6 +21,11 @@ struct FittedText
     FittedText(const QString &text, const QFont &font, const QSizeF &box, int largest, int smallest,
                int lines = 1);
 
+    // Returns the text for a command's name, such as "Line > 2 Points". It is the last part, which says
+    // most, if the whole name would be cut off or much smaller than that part.
+    [[nodiscard]] static FittedText ofName(const QString &name, const QFont &font, const QSizeF &box,
+                                           int largest, int smallest, int lines);
+
     // Paints it in the vertical middle of `box`: in the horizontal middle with Qt::AlignHCenter, from
     // the left without.
     void paint(QPainter &painter, const QRectF &box, Qt::Alignment alignment) const;

@@ -153,8 +153,9 @@ void RingPicture::paintLabel(QPainter &painter, const QRectF &box,
     const QImage icon = QImage::fromData(command.icon, "PNG");
     const double iconSize = icon.isNull() ? 0.0 : kIconSize * unit;
     const QSizeF room(box.width(), box.height() - iconSize);
-    const FittedText text(command.caption, m_font, room, qRound(kLargestText * unit),
-                          qRound(kSmallestText * unit), 4);
+    // The table has the whole name.
+    const auto text = FittedText::ofName(command.caption, m_font, room, qRound(kLargestText * unit),
+                                         qRound(kSmallestText * unit), 4);
     // Icon and text together are centred.
     const double top = box.center().y() - (iconSize + text.size.height()) / 2.0;
     if (!icon.isNull()) {

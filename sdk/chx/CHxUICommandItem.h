@@ -21,7 +21,8 @@ public:
     // The string that runs the command, for CHxSystemServices::RunCommand(). For an item made by a
     // module, its macro. Empty for an item that cannot be run.
     [[nodiscard]] virtual CHxString GetCommandString() const = 0;
-    // The name that the user sees, without mnemonics.
+    // The name that the user sees, without mnemonics, and without the dots by which a menu announces
+    // a dialog: "Open".
     [[nodiscard]] virtual CHxString GetCaption() const = 0;
     // One line of text that says what the command does.
     [[nodiscard]] virtual CHxString GetTip() const = 0;

@@ -285,14 +285,10 @@ void RingView::paintLabel(QPainter &painter, int direction) const
     const double scale = side / draw::kRingSize;
     const QRectF box = ringart::labelBox(side, count, direction);
     const double icon = command.icon.isNull() ? 0.0 : kIconSize * scale;
-    const auto fitted = [&](const QString &caption) {
-        return sheet::FittedText(caption, font(), QSizeF(box.width(), box.height() - icon),
-                                 qRound(kLargestText * scale), qRound(kSmallestText * scale), 3);
-    };
-    sheet::FittedText text = fitted(command.caption);
-    // The last part of a way through the menus says most. The tool tip has all of it.
-    if (text.text.contains(QChar(0x2026)))
-        text = fitted(command.caption.section(QLatin1String(" > "), -1));
+    // The tool tip has the whole name.
+    const auto text =
+        sheet::FittedText::ofName(command.caption, font(), QSizeF(box.width(), box.height() - icon),
+                                  qRound(kLargestText * scale), qRound(kSmallestText * scale), 3);
     const double top = box.center().y() - (icon + text.size.height()) / 2.0;
     painter.setOpacity(direction == m_taken ? 0.3 : 1.0);
     if (icon > 0.0) {

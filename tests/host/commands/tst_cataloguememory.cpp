@@ -595,7 +595,7 @@ void CatalogueMemoryTest::anEntryThatIsBoundStays()
     start.catalogue.expect(picture, QStringLiteral("Expected"));
     QVERIFY(start.isOffered(picture));
     QCOMPARE(start.catalogue.find(picture)->GetCaption().toQString(),
-             QStringLiteral("Export > Picture..."));
+             QStringLiteral("Export > Picture"));
     DraftWindow::addAction(start.window.draw, "Spline", "drawSpline");
     QVERIFY(start.isWritten());
     QVERIFY(!inFile(picture).identifier.isEmpty());

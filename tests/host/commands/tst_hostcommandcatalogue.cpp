@@ -137,12 +137,12 @@ void HostCommandCatalogueTest::commandsHaveTextsAndIcons()
     const ActionItem *picture = catalogue.itemOf(m_window->exportPicture);
     QVERIFY(picture);
     QCOMPARE(text(picture->GetIdentifier()), QStringLiteral("File/Export/Picture..."));
-    QCOMPARE(text(picture->GetCaption()), QStringLiteral("Export > Picture..."));
-    QCOMPARE(text(picture->GetTip()), QStringLiteral("Export > Picture..."));
+    QCOMPARE(text(picture->GetCaption()), QStringLiteral("Export > Picture"));
+    QCOMPARE(text(picture->GetTip()), QStringLiteral("Export > Picture"));
     QVERIFY(circle->GetSmallIcon().isNull());
     const ActionItem *open = catalogue.find(QStringLiteral("fileOpen"));
     QVERIFY(open);
-    QCOMPARE(text(open->GetCaption()), QStringLiteral("Open..."));
+    QCOMPARE(text(open->GetCaption()), QStringLiteral("Open"));
     QCOMPARE(catalogue.itemOf(m_window->line), line);
     QCOMPARE(catalogue.itemOf(m_window->file->menuAction()), nullptr);
     QCOMPARE(catalogue.itemOf(nullptr), nullptr);

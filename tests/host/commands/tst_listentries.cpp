@@ -189,7 +189,7 @@ void ListEntriesTest::menus_data()
             layers->addAction(QStringLiteral("Background"))->setCheckable(true);
             layers->addAction(QStringLiteral("New Layer..."));
         },
-        "Close | Send to Layer > New Layer...");
+        "Close | Send to Layer > New Layer");
     row(
         "steps to undo",
         [](Program &p) {

@@ -73,13 +73,19 @@ void CommandNamesTest::names_data()
     row("in a submenu", {"Tools > Line > 2 Points"}, list("Line > 2 Points"));
     row("deeper", {"Draw > Circle > By points > Three"}, list("Circle > By points > Three"));
     row("the caption says it", {"View > Zoom > Zoom In"}, list("Zoom In"));
-    row("also in the plural", {"Layer > Groups > New Group..."}, list("New Group..."));
+    row("also in the plural", {"Layer > Groups > New Group..."}, list("New Group"));
     row("it says it twice", {"View > Zoom > Zoom In", "Map > Zoom > Zoom In"},
         list("View > Zoom > Zoom In|Map > Zoom > Zoom In"));
     row("submenus tell them apart", {"Tools > Line > 2 Points", "Tools > Circle > 2 Points"},
         list("Line > 2 Points|Circle > 2 Points"));
     row("menus tell them apart", {"File > Properties...", "Edit > Properties"},
-        list("File > Properties...|Edit > Properties"));
+        list("File > Properties|Edit > Properties"));
+    row("dots at the end", {"File > Open...", "File > Print …", "Tools > Export.... > Picture.."},
+        list("Open|Print|Export > Picture"));
+    row("dots that belong to the name", {"Help > Misc.", "Draw > ...", "Draw > 1...2"},
+        list("Misc.|...|1...2"));
+    row("the same but for the dots", {"File > Print", "File > Print..."},
+        list("File > Print|File > Print (2)"));
     row("a toolbar", {"[Main] > Save", "[Main] > Save a copy"}, list("Save|Save a copy"));
     row("a toolbar and a menu", {"File > Save", "[Main] > Save"}, list("File > Save|Main > Save"));
     row("twins", {"Draw > Line", "Draw > Line"}, list("Draw > Line|Draw > Line (2)"));
@@ -134,6 +140,8 @@ void CommandNamesTest::tips_data()
     row("Draw > Line", "", "Line");
     row("Draw > Line", "Line", "Line");
     row("Draw > Line", "Draws a line", "Draws a line");
+    row("File > Open...", "Open...", "Open");
+    row("File > Open...", "Open (Ctrl+O)", "Open (Ctrl+O)");
     row("File > Save", "Keeps the drawing", "Save: Keeps the drawing");
     row("Tools > Line > 2 Points", "2 Points", "Line > 2 Points");
     row("Tools > Line > 2 Points", "Draw lines", "Line > 2 Points: Draw lines");

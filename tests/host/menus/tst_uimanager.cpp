@@ -451,7 +451,7 @@ void UiManagerTest::theProgramsOwnItemsAreReadOnly()
     command->SetStatusText("Changed");
     QCOMPARE(text(own->GetText()), QStringLiteral("&Options..."));
     QCOMPARE(own->GetCommandItem(), command);
-    QCOMPARE(text(command->GetCaption()), QStringLiteral("Options..."));
+    QCOMPARE(text(command->GetCaption()), QStringLiteral("Options"));
     QCOMPARE(text(command->GetCommandString()), QStringLiteral("toolsOptions"));
     m_manager->RemoveCommandItem(command);
     QVERIFY(m_manager->Contains(command));

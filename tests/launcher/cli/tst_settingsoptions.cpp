@@ -321,10 +321,10 @@ private Q_SLOTS:
         gesturewidget::CatalogueFile file(
             place(text("gesturewidget/launcher_fixture_direct.commands.json")));
         QVERIFY(file.merge({{text("drawArc"), {}, text("Arc..."), {}, text("Draw"), {}, false}}));
-        expect({text("--list-commands"), kProgram}, "Others\n  drawArc  Arc...\n");
+        expect({text("--list-commands"), kProgram}, "Others\n  drawArc  Arc\n");
         expect({text("--list-commands"), kProgram, text("--json")}, "\"identifier\": \"drawArc\"");
         expect({text("--bind"), kProgram, text("up-left"), text("arc")}, "");
-        expect({text("--bindings"), kProgram}, "  up-left    drawArc         Arc...\n");
+        expect({text("--bindings"), kProgram}, "  up-left    drawArc         Arc\n");
         const Outcome never = run({text("--bind"), kProgram, text("up"), text("Circle")});
         QCOMPARE(never.status, 1);
         QCOMPARE(never.errors.count('\n'), 1);

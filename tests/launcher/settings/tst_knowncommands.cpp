@@ -91,8 +91,7 @@ void KnownCommandsTest::resolves_data()
     row("view/grid", "viewGrid");
     row("Snap/Grid", "snapGrid");
     // The identifier of an action in a toolbar is the caption of an action in a menu.
-    row("Save", "",
-        "several commands are called \"Save\": fileSave (File > Save...), Save (Main > Save)");
+    row("Save", "", "several commands are called \"Save\": fileSave (File > Save), Save (Main > Save)");
     row("file/save", "fileSave");
     row("Main/Save", "Save");
     row("fileSave", "fileSave");
@@ -134,7 +133,7 @@ void KnownCommandsTest::nothingShownYet()
 
 void KnownCommandsTest::captions()
 {
-    QCOMPARE(shown().captionOf(text("drawArc")), text("Arc..."));
+    QCOMPARE(shown().captionOf(text("drawArc")), text("Arc"));
     QCOMPARE(shown().captionOf(text("ID_TRIM")), QString());
     QCOMPARE(shown().captionOf(text("odd")), QString());
     QCOMPARE(shown().captionOf(QString()), QString());
@@ -145,10 +144,10 @@ void KnownCommandsTest::list()
     const Outcome outcome = shown().list(kProgram);
     QCOMPARE(outcome.output, QByteArray("Draw\n"
                                         "  ID_LINE                 Line\n"
-                                        "  drawArc                 Arc...\n"
+                                        "  drawArc                 Arc\n"
                                         "File\n"
-                                        "  File/Export/Picture...  Export > Picture...\n"
-                                        "  fileSave                File > Save...\n"
+                                        "  File/Export/Picture...  Export > Picture\n"
+                                        "  fileSave                File > Save\n"
                                         "Others\n"
                                         "  viewGrid                View > Grid\n"
                                         "  snapGrid                Snap > Grid\n"
@@ -182,7 +181,7 @@ void KnownCommandsTest::listAsJson()
     QCOMPARE(list.value(text("program")), QJsonValue(kProgram));
     const QJsonArray commands = list.value(text("commands")).toArray();
     QCOMPARE(commands.size(), 8);
-    const QJsonObject arc{{text("identifier"), text("drawArc")}, {text("name"), text("Arc...")},
+    const QJsonObject arc{{text("identifier"), text("drawArc")}, {text("name"), text("Arc")},
                           {text("caption"), text("Arc...")},     {text("tip"), text("Draws an arc")},
                           {text("category"), text("Draw")},      {text("toolbar"), false}};
     QCOMPARE(commands.at(1).toObject(), arc);

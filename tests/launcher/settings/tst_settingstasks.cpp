@@ -184,7 +184,7 @@ void SettingsTasksTest::aCommandByItsCaption()
     QVERIFY(named.bind(text("up-left"), text("Arc...")).isDone());
     const QByteArray output = named.showBindings().output;
     QVERIFY2(output.contains("  up         ID_LINE   Straight line\n"
-                             "  up-left    drawArc   Arc...\n"
+                             "  up-left    drawArc   Arc\n"
                              "  left       ID_OPEN\n"),
              output.constData());
 }

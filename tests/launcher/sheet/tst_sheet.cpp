@@ -61,6 +61,8 @@ private Q_SLOTS:
     void labelsLieInTheirSectors();
     void textsAreMadeToFit_data();
     void textsAreMadeToFit();
+    void namesOfCommands_data();
+    void namesOfCommands();
     void nothingLeavesThePage_data();
     void nothingLeavesThePage();
     void anEmptyDirectionIsBlank();
@@ -144,6 +146,34 @@ void SheetTest::textsAreMadeToFit()
     QVERIFY(fitted.font.pixelSize() <= 60 && fitted.font.pixelSize() >= 15);
     QCOMPARE(shown.join(QLatin1Char(' ')) == wanted, isWhole);
     QCOMPARE(fitted.text.contains(QChar(0x2026)), !isWhole);
+}
+
+// A name beside others is not much smaller than they are.
+void SheetTest::namesOfCommands_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<double>("width"); // in widths of the last part
+    QTest::addColumn<QString>("shown");
+    const QString name = text("Modify > Trim");
+    QTest::newRow("fits") << name << 4.0 << name;
+    QTest::newRow("on two lines") << text("Line > 2 Points") << 1.5 << text("Line > 2\nPoints");
+    QTest::newRow("a little smaller") << name << 3.1 << name;
+    QTest::newRow("much smaller") << name << 1.9 << text("Trim");
+    QTest::newRow("cut off") << name << 1.0 << text("Trim");
+    QTest::newRow("no menu") << text("Trim") << 0.7 << text("Trim");
+}
+
+void SheetTest::namesOfCommands()
+{
+    QFETCH(QString, name);
+    QFETCH(double, width);
+    QFont font;
+    font.setPixelSize(20);
+    const QFontMetricsF metrics(font);
+    const double unit = metrics.horizontalAdvance(name.section(text(" > "), -1));
+    const int lines = name.contains(text("Line")) ? 2 : 1;
+    const QSizeF box(width * unit, metrics.height() * lines);
+    QTEST(sheet::FittedText::ofName(name, font, box, 20, 10, lines).text, "shown");
 }
 
 void SheetTest::nothingLeavesThePage_data()
@@ -347,11 +377,11 @@ void SheetTest::theSchemeInUse()
     QCOMPARE(eight.commands.size(), 8);
     QCOMPARE(eight.trigger, text("middle"));
     QCOMPARE(eight.commands.at(0).direction, text("up"));
-    QCOMPARE(eight.commands.at(0).caption, text("Arc..."));
+    QCOMPARE(eight.commands.at(0).caption, text("Arc"));
     QCOMPARE(eight.commands.at(0).category, text("Draw"));
     QCOMPARE(eight.commands.at(0).icon, QByteArray("png"));
     QCOMPARE(eight.commands.at(1).caption, text("Zoom to Fit"));
-    QCOMPARE(eight.commands.at(2).caption, text("Print..."));
+    QCOMPARE(eight.commands.at(2).caption, text("Print"));
     QCOMPARE(eight.commands.at(3).caption, QString());
     QCOMPARE(eight.commands.at(4).caption, text("other"));
 
