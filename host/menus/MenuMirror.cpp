@@ -160,9 +160,6 @@ void MenuMirror::clean()
     m_collections.retireGone();
     m_menus.retireGone();
     m_barItems.retireGone();
-    if (!m_items.hasRetired() && !m_collections.hasRetired() && !m_menus.hasRetired()
-        && !m_barItems.hasRetired())
-        return;
     const auto destroyRetired = [this] {
         const OwnCode ours;
         m_items.destroyRetired();

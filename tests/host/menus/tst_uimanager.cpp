@@ -96,6 +96,7 @@ private Q_SLOTS:
     void theProgramsOwnItemsAreReadOnly();
     void commandItemsAreFound();
     void commandItemsAreRemoved();
+    void anEntryInItsPlaceIsNotMoved();
     void aClearedMenuGetsItsEntryBack();
     void anActionAddedLaterComesBeforeTheEntry();
     void aMenuFilledOnOpeningShowsTheEntryLast();
@@ -487,6 +488,28 @@ void UiManagerTest::commandItemsAreRemoved()
     m_manager->RemoveCommandItem(command); // again: no effect
     m_manager->RemoveCommandItem(nullptr);
     QVERIFY(!m_manager->Contains(command));
+}
+
+void UiManagerTest::anEntryInItsPlaceIsNotMoved()
+{
+    class Removals : public QObject
+    {
+    public:
+        bool eventFilter(QObject *, QEvent *event) override
+        {
+            count += event->type() == QEvent::ActionRemoved ? 1 : 0;
+            return false;
+        }
+        int count = 0;
+    };
+    enter("One");
+    enter("Two");
+    Removals removals;
+    m_tools->installEventFilter(&removals);
+    for (int i = 0; i < 20; ++i)
+        m_manager->Refresh(i % 2 == 0);
+    QCOMPARE(removals.count, 0);
+    QCOMPARE(captions(*m_tools).mid(1), words("One Two"));
 }
 
 void UiManagerTest::aClearedMenuGetsItsEntryBack()
