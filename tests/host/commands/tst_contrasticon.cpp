@@ -122,6 +122,8 @@ private Q_SLOTS:
     void theHaloStaysInsideTheSquare();
     void softEdgesAreHardened_data();
     void softEdgesAreHardened();
+    void softPixelsHaveAWholeHalo_data();
+    void softPixelsHaveAWholeHalo();
     void allSidesOfAShapeCount_data();
     void allSidesOfAShapeCount();
     void theHaloIsReadable_data();
@@ -284,6 +286,30 @@ void ContrastIconTest::softEdgesAreHardened()
     const QRgb seen = gesturewidget::withHalo(shape, 1).pixel(10, 10);
     QCOMPARE(qAlpha(seen), 255);
     QCOMPARE(qRed(seen), grey);
+}
+
+// The halo of a thin line must not be as faint as the line itself.
+void ContrastIconTest::softPixelsHaveAWholeHalo_data()
+{
+    QTest::addColumn<int>("alpha"); // of the pixel
+    QTest::addColumn<int>("halo"); // alpha beside it
+    QTest::newRow("nothing") << 0 << 0;
+    QTest::newRow("hardly there") << 1 << 4;
+    QTest::newRow("nearly a quarter") << 63 << 252;
+    QTest::newRow("a quarter") << 64 << 255;
+    QTest::newRow("opaque") << 255 << 255;
+}
+
+void ContrastIconTest::softPixelsHaveAWholeHalo()
+{
+    QFETCH(int, alpha);
+    QFETCH(int, halo);
+    QImage shape(20, 20, QImage::Format_ARGB32);
+    shape.fill(Qt::transparent);
+    shape.setPixel(10, 10, qRgba(0, 0, 0, alpha));
+    const QImage seen = gesturewidget::withHalo(shape, 1);
+    for (const QPoint &beside : {QPoint(9, 10), QPoint(11, 10), QPoint(10, 9), QPoint(10, 11)})
+        QCOMPARE(qAlpha(seen.pixel(beside)), halo);
 }
 
 // The halo of a long bar is chosen by its long sides: each pixel that has the outside on one side
