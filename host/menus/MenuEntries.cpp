@@ -104,8 +104,6 @@ void MenuEntries::restore()
 {
     const OwnCode ours;
     m_isScheduled = false;
-    if (m_isRestoring || m_placed.empty())
-        return;
     m_isRestoring = true;
     QHash<QWidget *, QVector<QAction *>> byPlace;
     for (Placed &placed : m_placed) {

@@ -103,6 +103,7 @@ private Q_SLOTS:
     void aReplacedToolsMenuGetsTheEntry();
     void aReplacedMenuBarGetsTheEntry();
     void twoWhoWantToBeLastDoNotFight();
+    void whoIsLastAtOnceStaysLast();
     void theEntryIsNoCommandOfTheProgram();
     void everythingIsTakenOutAtTheEnd();
     void withoutAMenuBarAllIsEmpty();
@@ -348,6 +349,8 @@ void UiManagerTest::anEntryIsPutLastAtOnce()
     QCOMPARE(captions(*m_tools).constLast(), QStringLiteral("Gestures..."));
     m_tools->actions().constLast()->trigger(); // the entry has no command
     QVERIFY(m_run.isEmpty());
+    m_tools->clear(); // it comes back although nobody asked for a refresh
+    QTRY_COMPARE(captions(*m_tools), words("Gestures..."));
 }
 
 void UiManagerTest::anEntryRunsItsCommandsMacro()
@@ -368,6 +371,10 @@ void UiManagerTest::entriesKeepTheirOrder()
     QTRY_COMPARE(captions(*m_tools), QStringList({QStringLiteral("&Options..."), QStringLiteral("Later"),
                                                   QStringLiteral("One"), QStringLiteral("Two")}));
     QCOMPARE(menu("ID_MnTools")->GetSubItems()->GetCount(), 4);
+    CHxUIMenuItemCollection *items = menu("ID_MnTools")->GetSubItems();
+    items->Remove(items->GetItem(3));
+    m_tools->addAction(QStringLiteral("Last"));
+    QTRY_COMPARE(captions(*m_tools).mid(1), words("Later Last One"));
 }
 
 void UiManagerTest::anEntryIsInOnePlace()
@@ -617,6 +624,52 @@ void UiManagerTest::twoWhoWantToBeLastDoNotFight()
     QVERIFY2(rival.moves <= 10, qPrintable(QString::number(rival.moves)));
     QVERIFY(captions(*m_tools).contains(QStringLiteral("Gestures...")));
     QCOMPARE(m_tools->actions().size(), 3);
+}
+
+// What a program does in answer to the host's own move is not answered.
+void UiManagerTest::whoIsLastAtOnceStaysLast()
+{
+    class Rival : public QObject
+    {
+    public:
+        explicit Rival(QMenu *menu)
+            : m_menu(menu)
+        {
+            m_menu->addAction(&action);
+            menu->installEventFilter(this);
+        }
+        bool eventFilter(QObject *, QEvent *event) override
+        {
+            if (event->type() == QEvent::ActionAdded
+                && static_cast<QActionEvent *>(event)->action() != &action) {
+                ++moves;
+                m_menu->removeAction(&action);
+                m_menu->addAction(&action);
+            }
+            return false;
+        }
+        QAction action{QStringLiteral("Rival")};
+        int moves = 0;
+
+    private:
+        QMenu *m_menu;
+    };
+    QCoreApplication::processEvents(); // the making of the window has posted some
+    Rival rival(m_tools);
+    const QStringList first{QStringLiteral("&Options...")};
+    enter("One");
+    CHxUIMenuItem *two = enter("Two");
+    const int moves = rival.moves;
+    QCoreApplication::processEvents();
+    QCOMPARE(rival.moves, moves);
+    QCOMPARE(captions(*m_tools), first + words("One Two Rival"));
+    menu("ID_MnTools")->GetSubItems()->Remove(two);
+    QCoreApplication::processEvents();
+    QCOMPARE(rival.moves, moves);
+    m_tools->addAction(QStringLiteral("Later"));
+    QTRY_COMPARE(captions(*m_tools), first + words("Later One Rival"));
+    QCoreApplication::processEvents();
+    QCOMPARE(rival.moves, moves + 2); // for the new action and for the entry
 }
 
 void UiManagerTest::theEntryIsNoCommandOfTheProgram()
