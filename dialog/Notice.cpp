@@ -12,7 +12,6 @@ Notice::Notice(QWidget *window)
     : QLabel(window)
 {
     hide();
-    setObjectName(QStringLiteral("notice"));
     setTextFormat(Qt::PlainText);
     setFrameShape(QFrame::Box);
     setFrameShadow(QFrame::Plain);
