@@ -14,12 +14,10 @@ Notice::Notice(QWidget *window)
     hide();
     setTextFormat(Qt::PlainText);
     setFrameShape(QFrame::Box);
-    setFrameShadow(QFrame::Plain);
     setMargin(2);
     setAutoFillBackground(true);
     setPalette(QToolTip::palette());
-    setForegroundRole(QPalette::ToolTipText);
-    setBackgroundRole(QPalette::ToolTipBase);
+    setBackgroundRole(QPalette::ToolTipBase); // the foreground follows
     // Clicks reach the widgets below.
     setAttribute(Qt::WA_TransparentForMouseEvents);
     m_end.setSingleShot(true);
