@@ -11,7 +11,9 @@
 #include <QElapsedTimer>
 #include <QTest>
 
+#include <array>
 #include <memory>
+#include <new>
 
 using gesturewidget::CommandCatalogue;
 using gesturewidget::UiManager;
@@ -100,6 +102,8 @@ private Q_SLOTS:
     void aClearedMenuGetsItsEntryBack();
     void anActionAddedLaterComesBeforeTheEntry();
     void aMenuFilledOnOpeningShowsTheEntryLast();
+    void aMenuIsWatchedOnce();
+    void aMenuAtTheAddressOfAGoneOneIsWatched();
     void aReplacedToolsMenuGetsTheEntry();
     void aReplacedMenuBarGetsTheEntry();
     void twoWhoWantToBeLastDoNotFight();
@@ -109,6 +113,7 @@ private Q_SLOTS:
     void withoutAMenuBarAllIsEmpty();
     void theWindowMayGoFirst();
     void objectsOfGoneMenusAreFreed();
+    void objectsOfGoneMenuBarsAreFreed();
     void aWalkOutlivesTheMenusItWalks();
     void changedMenusAreReadBeforeSomebodyAsks();
 
@@ -437,6 +442,7 @@ void UiManagerTest::strangersAreIgnored()
     for (CHxUIMenuItem *item :
          {static_cast<CHxUIMenuItem *>(nullptr), const_cast<CHxUIMenuItem *>(own), dead}) {
         items->Append(item);
+        QCOMPARE(items->GetCount(), 1);
         items->Remove(item);
         m_manager->DestroyMenuItem(item);
         m_manager->menuBars().Append(item);
@@ -551,6 +557,49 @@ void UiManagerTest::aMenuFilledOnOpeningShowsTheEntryLast()
     for (int i = 0; i < 20; ++i) { // also when a person opens it again and again
         Q_EMIT m_tools->aboutToShow();
         QCOMPARE(captions(*m_tools), words("Now Gestures..."));
+    }
+}
+
+void UiManagerTest::aMenuIsWatchedOnce()
+{
+    class Menu : public QMenu
+    {
+    public:
+        using QMenu::QMenu;
+        [[nodiscard]] int watchers() const { return receivers(SIGNAL(aboutToShow())); }
+    };
+    delete m_tools;
+    m_manager.reset();
+    Menu tools(QStringLiteral("&Tools"));
+    m_window->menuBar()->addMenu(&tools);
+    start();
+    const int before = tools.watchers();
+    enter();
+    QCOMPARE(tools.watchers(), before + 1);
+    for (int i = 0; i < 3; ++i)
+        m_manager->Refresh(true);
+    enter();
+    QCOMPARE(tools.watchers(), before + 1);
+    QCOMPARE(captions(tools), words("Gestures... Gestures..."));
+}
+
+void UiManagerTest::aMenuAtTheAddressOfAGoneOneIsWatched()
+{
+    delete m_tools;
+    alignas(QMenu) std::array<unsigned char, sizeof(QMenu)> memory;
+    for (int i = 0; i < 2; ++i) {
+        auto *tools = new (memory.data()) QMenu(QStringLiteral("&Tools"));
+        m_window->menuBar()->addMenu(tools);
+        connect(tools, &QMenu::aboutToShow, tools, [tools] {
+            tools->clear();
+            tools->addAction(QStringLiteral("Now"));
+        });
+        if (i == 0)
+            enter();
+        QTRY_COMPARE(captions(*tools), words("Gestures..."));
+        Q_EMIT tools->aboutToShow();
+        QCOMPARE(captions(*tools), words("Now Gestures..."));
+        tools->~QMenu();
     }
 }
 
@@ -738,21 +787,38 @@ void UiManagerTest::theWindowMayGoFirst()
 void UiManagerTest::objectsOfGoneMenusAreFreed()
 {
     enter();
-    const auto walkAll = [this] { walk(menus()); };
+    const CHxUIMenuItemCollection *kept = menus(); // a module need not ask for it again
     const auto rebuild = [this] {
         m_window->draw->clear();
         for (int i = 0; i < 20; ++i)
             DraftWindow::addAction(m_window->draw, "Command", qPrintable(QString::number(i)));
     };
     rebuild();
-    walkAll();
+    walk(kept);
     QCoreApplication::processEvents();
     const std::size_t before = m_manager->mirror().size();
     for (int i = 0; i < 50; ++i) {
         rebuild();
-        walkAll();
+        walk(kept);
         QCoreApplication::processEvents();
     }
+    QCOMPARE(m_manager->mirror().size(), before);
+}
+
+void UiManagerTest::objectsOfGoneMenuBarsAreFreed()
+{
+    const auto rebuild = [this] {
+        delete m_window->menuWidget();
+        DraftWindow::addAction(m_window->addMenu("&File", "fileMenu"), "&New", "fileNew");
+        static_cast<void>(m_manager->NewMenuIterator()->Current()->GetItems());
+        walk(m_manager->menuBars().GetItem(0)->GetSubItems());
+        QCoreApplication::processEvents();
+    };
+    rebuild();
+    rebuild();
+    const std::size_t before = m_manager->mirror().size();
+    for (int i = 0; i < 10; ++i)
+        rebuild();
     QCOMPARE(m_manager->mirror().size(), before);
 }
 
