@@ -110,6 +110,7 @@ private Q_SLOTS:
     void whoIsLastAtOnceStaysLast();
     void theEntryIsNoCommandOfTheProgram();
     void everythingIsTakenOutAtTheEnd();
+    void aWindowTakesOnlyItsOwnMenusAlong();
     void withoutAMenuBarAllIsEmpty();
     void theWindowMayGoFirst();
     void objectsOfGoneMenusAreFreed();
@@ -738,6 +739,35 @@ void UiManagerTest::everythingIsTakenOutAtTheEnd()
     m_tools->clear();
     QCoreApplication::processEvents();
     QVERIFY(m_tools->actions().isEmpty());
+}
+
+void UiManagerTest::aWindowTakesOnlyItsOwnMenusAlong()
+{
+    std::array<DraftWindow, 2> others;
+    std::array<QMenu *, 3> tools{m_tools};
+    for (std::size_t i = 0; i < others.size(); ++i) {
+        tools[i + 1] = others[i].addMenu("&Tools", "toolsMenu");
+        m_catalogue->addWindow(&others[i]);
+        m_manager->addWindow(&others[i]);
+    }
+    const auto entries = [&tools] {
+        QVector<int> found;
+        for (const QMenu *menu : tools)
+            found.append(captions(*menu).count(QStringLiteral("Gestures...")));
+        return found;
+    };
+    enter();
+    QCOMPARE(entries(), QVector<int>({1, 1, 1}));
+    m_catalogue->setCurrentWindow(&others[1]);
+    m_manager->setCurrentWindow(&others[1]);
+    m_manager->removeWindow(&others[0]);
+    QCoreApplication::processEvents();
+    QCOMPARE(entries(), QVector<int>({1, 0, 1}));
+    m_manager->removeWindow(&others[1]); // the current one stays
+    QCoreApplication::processEvents();
+    QCOMPARE(entries(), QVector<int>({1, 0, 1}));
+    m_manager.reset();
+    m_catalogue.reset();
 }
 
 void UiManagerTest::withoutAMenuBarAllIsEmpty()
