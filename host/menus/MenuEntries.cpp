@@ -135,7 +135,7 @@ void MenuEntries::prepare(QWidget *place)
     if (auto *menu = qobject_cast<QMenu *>(place)) {
         connect(menu, &QMenu::aboutToShow, this, [this, menu] {
             const OwnCode ours;
-            m_prepared[menu].count = 0;
+            m_prepared[menu] = {};
             restore();
         });
     }

@@ -136,6 +136,7 @@ private Q_SLOTS:
     void everyPageHasWholeRowsBelowTheHeader();
     void cellsOfARowAlign();
     void theNumberIsFivePointsBelowThePage();
+    void theTableFillsThePageInsideItsMargins();
     void chosenPagesOnly();
     void fileHasATitle();
     void iconsArePrintedAsTheyAreWhenOff();
@@ -606,6 +607,64 @@ void PrintingTest::theNumberIsFivePointsBelowThePage()
     QVERIFY2(found.hasMatch(), qPrintable(words));
     const qreal gap = found.captured(1).toDouble() - bottom;
     QVERIFY2(std::abs(gap - 5) < 0.5, qPrintable(QString::number(gap)));
+}
+
+void PrintingTest::theTableFillsThePageInsideItsMargins()
+{
+    open(8);
+    QRectF paper; // the printable part, in points
+    m_dialog->printDialog = [&](QPrinter &printer) {
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(m_file);
+        paper = printer.pageLayout().paintRect(QPageLayout::Point);
+        return static_cast<int>(QDialog::Accepted);
+    };
+    m_dialog->printList();
+    constexpr int kDpi = 300;
+    const QString base = m_folder.filePath(QStringLiteral("page"));
+    run(QStringLiteral("pdftoppm"), {QStringLiteral("-r"), QString::number(kDpi), QStringLiteral("-png"),
+                                     QStringLiteral("-singlefile"), m_file, base});
+    const QImage page(base + QLatin1String(".png"));
+    QVERIFY(!page.isNull());
+    const QColor dark(0xdf, 0xdf, 0xdf); // the header
+    const QColor grey(0xe1, 0xe1, 0xe1); // every other row
+
+    // In pixels of the picture.
+    const qreal point = kDpi / 72.0;
+    const qreal margin = 2 / 2.54 * kDpi;
+    const qreal spacing = 2 / 96.0 * kDpi;
+    const QRectF body =
+        QRectF(paper.topLeft() * point, paper.size() * point).adjusted(margin, margin, -margin, -margin);
+    const auto isNear = [](qreal place, qreal expected) { return std::abs(place - expected) < 1.5; };
+
+    const int inHeader = qRound(body.top()) + 3;
+    int left = 0;
+    while (left < page.width() && page.pixelColor(left, inHeader) != dark)
+        ++left;
+    int right = page.width();
+    while (right > left && page.pixelColor(right - 1, inHeader) != dark)
+        --right;
+    QVERIFY2(isNear(left, body.left() + spacing), qPrintable(QString::number(left)));
+    QVERIFY2(isNear(right, body.left() + 0.98 * body.width() - spacing), // the table has 98 %
+             qPrintable(QString::number(right)));
+
+    // Where the colours begin and end, down the left edge: header, second row, fourth row ...
+    QVector<int> edges;
+    for (int y = 1; y < page.height(); ++y) {
+        const auto isRow = [&](int line) {
+            const QColor colour = page.pixelColor(left + 2, line);
+            return colour == dark || colour == grey;
+        };
+        if (isRow(y) != isRow(y - 1))
+            edges.append(y);
+    }
+    QCOMPARE(edges.size(), 2 * (1 + m_dialog->proxy->rowCount() / 2));
+    QVERIFY2(isNear(edges.at(0), body.top()), qPrintable(QString::number(edges.at(0))));
+    const int height = edges.at(3) - edges.at(2);
+    for (int i = 2; i < edges.size(); i += 2) {
+        QVERIFY(isNear(edges.at(i + 1) - edges.at(i), height));
+        QVERIFY(isNear(edges.at(i) - edges.at(i - 1), height + 2 * spacing)); // a white row is between
+    }
 }
 
 void PrintingTest::chosenPagesOnly()

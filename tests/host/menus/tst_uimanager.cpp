@@ -524,6 +524,13 @@ void UiManagerTest::anEntryInItsPlaceIsNotMoved()
         m_manager->Refresh(i % 2 == 0);
     QCOMPARE(removals.count, 0);
     QCOMPARE(captions(*m_tools).mid(1), words("One Two"));
+
+    delete m_tools->actions().constFirst(); // the entries are alone now
+    removals.count = 0;
+    for (int i = 0; i < 20; ++i)
+        m_manager->Refresh(i % 2 == 0);
+    QCOMPARE(removals.count, 0);
+    QCOMPARE(captions(*m_tools), words("One Two"));
 }
 
 void UiManagerTest::aClearedMenuGetsItsEntryBack()
@@ -671,9 +678,20 @@ void UiManagerTest::twoWhoWantToBeLastDoNotFight()
         idle = moves == rival.moves ? idle + 1 : 0;
     }
     QCOMPARE(idle, 100);
-    QVERIFY2(rival.moves <= 10, qPrintable(QString::number(rival.moves)));
+    // The entry is moved back eight times in a second.
+    QVERIFY(rival.moves >= 8);
+    QVERIFY2(rival.moves <= 8 * (1 + timer.elapsed() / 1000), qPrintable(QString::number(rival.moves)));
     QVERIFY(captions(*m_tools).contains(QStringLiteral("Gestures...")));
     QCOMPARE(m_tools->actions().size(), 3);
+    // Later it is moved back again.
+    const auto isLastAgain = [this] {
+        m_tools->addAction(QStringLiteral("Later"));
+        QCoreApplication::processEvents();
+        return captions(*m_tools).constLast() == QLatin1String("Gestures...");
+    };
+    m_tools->removeEventFilter(&rival);
+    QVERIFY(!isLastAgain() || timer.elapsed() >= 1000);
+    QTRY_VERIFY(isLastAgain());
 }
 
 // What a program does in answer to the host's own move is not answered.
