@@ -484,9 +484,8 @@ void MgDonutDialogManager::radioButtonStateChanged(bool /*checked*/)
         count = 4;
     }
 
-    // Setting the items adds one more row: "None" and each direction.
+    // Setting the items adds the column and one more row: "None" and each direction.
     directionList.setRowCount(count);
-    directionList.setColumnCount(1);
     directionList.setItem(0, new QStandardItem(tr("None")));
     for (int row = 1; row <= count; ++row) {
         const auto direction = static_cast<unsigned char>(row);

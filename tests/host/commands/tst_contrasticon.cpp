@@ -218,6 +218,7 @@ void ContrastIconTest::onlyTheRingsSizeHasAHalo()
     const QSize ring(kRingIconSide, kRingIconSide);
     const QImage shown = icon.pixmap(ring).toImage();
     QCOMPARE(shown.size(), ring);
+    QCOMPARE(shown.devicePixelRatio(), 1.0);
     QCOMPARE(shown, gesturewidget::withHalo(gesturewidget::ringShape(plain, 1), 1));
     for (const int side : {16, 22, 24, 32, 48}) {
         const QSize size(side, side);
