@@ -15,6 +15,7 @@
 #include <QBoxLayout>
 #include <QHeaderView>
 #include <QItemDelegate>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QStyle>
 #include <QStyleOptionComboBox>
@@ -48,6 +49,7 @@ private Q_SLOTS:
     void widthCannotBeChanged();
     void growsWithTheFontAndClipsNothing_data();
     void growsWithTheFontAndClipsNothing();
+    void aLongNoneWidensItUntilItFits();
     void longMenuCaptionsDoNotWidenIt();
     void windowFlags();
     void helpTopic();
@@ -402,6 +404,25 @@ void DialogFormTest::growsWithTheFontAndClipsNothing()
         category = std::max(category, table->fontMetrics().horizontalAdvance(text) + 8);
     QVERIFY2(table->columnWidth(0) >= category,
              qPrintable(QStringLiteral("%1 of %2").arg(table->columnWidth(0)).arg(category)));
+}
+
+// "None" is the longest text of a direction's drop-down.
+void DialogFormTest::aLongNoneWidensItUntilItFits()
+{
+    tests::FakeTranslator translator;
+    translator.add("MgDonutDialogManager", "None", QString(30, QLatin1Char('W')));
+    TestDialog dialog;
+    QVERIFY(tests::showActive(dialog));
+    QVERIFY(dialog.ui.command_tableView->verticalScrollBar()->isVisible());
+    tests::click(dialog.ui.command_tableView, dialog.cell(0, tests::kDirection));
+    const QComboBox *editor = dialog.editor();
+    QVERIFY(editor);
+    QStyleOptionComboBox option;
+    option.initFrom(editor);
+    const QRect inside = editor->style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                                         QStyle::SC_ComboBoxEditField, editor);
+    const int none = editor->fontMetrics().horizontalAdvance(dialog.directionList.item(0)->text());
+    QCOMPARE(inside.width(), none + 1); // of its margin of two pixels, the grid takes one
 }
 
 void DialogFormTest::longMenuCaptionsDoNotWidenIt()

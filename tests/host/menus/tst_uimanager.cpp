@@ -92,6 +92,7 @@ private Q_SLOTS:
     void anEntryRunsItsCommandsMacro();
     void entriesKeepTheirOrder();
     void anEntryIsInOnePlace();
+    void aGoneMenuTakesNoEntry();
     void anEntryIsTakenOut();
     void anEntryCanBeFoundByItsText();
     void strangersAreIgnored();
@@ -309,7 +310,10 @@ void UiManagerTest::aToolsMenuIsMade()
     QCOMPARE(captions(*made->menu()), QStringList(QStringLiteral("Gestures...")));
     menu("ID_MnTools")->GetSubItems()->Remove(entry);
     QVERIFY(!made->isVisible());
+    menu("ID_MnTools")->GetSubItems()->Append(entry); // without a refresh
+    QVERIFY(made->isVisible());
     m_manager->DestroyMenuItem(entry);
+    QVERIFY(!made->isVisible());
     m_manager.reset();
     QCOMPARE(captions(*m_window->menuBar()), words("&File &Draw &Help"));
 }
@@ -401,6 +405,15 @@ void UiManagerTest::anEntryIsInOnePlace()
     QCOMPARE(menus()->GetItem(menus()->GetCount() - 1), entry);
     m_window->menuBar()->actions().constLast()->trigger();
     QCOMPARE(m_run.size(), 1);
+}
+
+void UiManagerTest::aGoneMenuTakesNoEntry()
+{
+    CHxUIMenuItem *entry = enter();
+    CHxUIMenuItemCollection *draw = menu("ID_MnDraw")->GetSubItems();
+    delete m_window->draw;
+    draw->Append(entry);
+    QCOMPARE(captions(*m_tools).constLast(), QStringLiteral("Gestures..."));
 }
 
 void UiManagerTest::anEntryIsTakenOut()
@@ -561,6 +574,11 @@ void UiManagerTest::aMenuFilledOnOpeningShowsTheEntryLast()
         m_tools->addAction(QStringLiteral("Now"));
     });
     start();
+    // Before anybody asks for a refresh.
+    menu("ID_MnTools")->GetSubItems()->Append(m_manager->CreateMenuItem(0, {}, "Entry", {}));
+    Q_EMIT m_tools->aboutToShow();
+    QCOMPARE(captions(*m_tools), words("Now Entry"));
+    m_manager->DestroyMenuItem(menu("ID_MnTools")->GetSubItems()->GetItem(1));
     enter();
     for (int i = 0; i < 20; ++i) { // also when a person opens it again and again
         Q_EMIT m_tools->aboutToShow();
