@@ -631,7 +631,7 @@ void UiManagerTest::aMenuAtTheAddressOfAGoneOneIsWatched()
 
 void UiManagerTest::aReplacedToolsMenuGetsTheEntry()
 {
-    const CHxUIMenuItem *entry = enter();
+    CHxUIMenuItem *entry = enter();
     delete m_tools;
     m_tools = m_window->addMenu("&Tools", "toolsMenu");
     DraftWindow::addAction(m_tools, "&New options", "newOptions");
@@ -641,6 +641,8 @@ void UiManagerTest::aReplacedToolsMenuGetsTheEntry()
     m_tools->addAction(QStringLiteral("Later"));
     QTRY_COMPARE(captions(*m_tools).constLast(), QStringLiteral("Gestures..."));
     QCOMPARE(m_tools->actions().size(), 3);
+    menu("ID_MnTools")->GetSubItems()->Remove(entry);
+    QCOMPARE(captions(*m_tools).constLast(), QStringLiteral("Later"));
 }
 
 void UiManagerTest::aReplacedMenuBarGetsTheEntry()
