@@ -153,7 +153,7 @@ void MenuMirror::clean()
 {
     m_catalogue.update(); // only what it has walked is watched for changes
     if (m_cleanGeneration == m_generation)
-        return;
+        return; // nothing has changed
     m_cleanGeneration = m_generation;
     m_menuBars = m_watcher.menuBars();
     m_items.retireGone();

@@ -225,6 +225,10 @@ void ContrastIconTest::onlyTheRingsSizeHasAHalo()
         QCOMPARE(icon.pixmap(size).toImage(), plain.pixmap(size).toImage());
         QCOMPARE(icon.actualSize(size), plain.actualSize(size));
     }
+    QPixmap small(8, 8);
+    small.fill(Qt::black);
+    QCOMPARE(contrastIcon(QIcon(small)).actualSize({24, 24}), small.size());
+    QCOMPARE(contrastIcon(QIcon(small)).actualSize(ring), ring);
     QImage ofRing(ring, shown.format());
     ofRing.fill(Qt::transparent);
     QPainter ringPainter(&ofRing);
@@ -391,6 +395,13 @@ void ContrastIconTest::theLastPictureIsKept()
     QVERIFY(!icon.pixmap(kRingIconSide).isNull());
     QVERIFY(!copy.pixmap(kRingIconSide).isNull());
     QCOMPARE(paints, 1);
+    const QSize ring(kRingIconSide, kRingIconSide);
+    QVERIFY(!icon.pixmap(ring, QIcon::Disabled).isNull());
+    QCOMPARE(paints, 2);
+    QVERIFY(!icon.pixmap(ring, QIcon::Disabled, QIcon::On).isNull());
+    QCOMPARE(paints, 3);
+    QVERIFY(!icon.pixmap(ring, QIcon::Disabled, QIcon::On).isNull());
+    QCOMPARE(paints, 3);
 }
 
 void ContrastIconTest::nothingIsNothing()
