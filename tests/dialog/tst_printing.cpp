@@ -30,6 +30,8 @@
 #include <cmath>
 #include <memory>
 
+#include <malloc.h>
+
 using tests::kCommand;
 using tests::kDirection;
 using tests::TestDialog;
@@ -126,6 +128,7 @@ private Q_SLOTS:
     void rolesOfTheModel();
     void blocksTakeTheModelsAlignment();
     void iconsAreThirtyTwoPixels();
+    void aSmallerIconIsCentred();
     void textIsNeverRendered_data();
     void textIsNeverRendered();
     void modelsWithoutATable();
@@ -422,6 +425,24 @@ void PrintingTest::iconsAreThirtyTwoPixels()
     const auto unbound = static_cast<int>(m_dialog->shownDirections().indexOf(0));
     QVERIFY(unbound >= 0);
     QCOMPARE(textOf(table->cellAt(unbound + 1, kDirection)), QString());
+}
+
+void PrintingTest::aSmallerIconIsCentred()
+{
+    QPixmap pixmap(16, 16);
+    pixmap.fill(Qt::red);
+    QStandardItemModel model(1, 1);
+    model.setItem(0, new QStandardItem(QIcon(pixmap), QStringLiteral("Line")));
+    mallopt(M_PERTURB, 0x55); // no memory is empty by chance
+    const auto document = documentOf(&model);
+    mallopt(M_PERTURB, 0);
+    const QString name =
+        fragmentOf(tableOf(*document)->cellAt(1, 0), 0).charFormat().toImageFormat().name();
+    const auto image = document->resource(QTextDocument::ImageResource, QUrl(name)).value<QImage>();
+    QImage expected(32, 32, image.format());
+    expected.fill(Qt::transparent);
+    QPainter(&expected).fillRect(8, 8, 16, 16, Qt::red);
+    QCOMPARE(image, expected);
 }
 
 void PrintingTest::textIsNeverRendered_data()
