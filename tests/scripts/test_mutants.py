@@ -164,6 +164,9 @@ class Killing(unittest.TestCase):
         self.assertTrue(self.bench("echo '1: PASS   : a()'")._passes("tst_quick", 60))
         self.assertFalse(self.bench("exit 8")._passes("tst_quick", 60))
 
+    def test_memory_holds_nonsense(self):
+        self.assertTrue(self.bench('test "$MALLOC_PERTURB_" = 85')._passes("tst_quick", 60))
+
     def test_the_first_failure_is_enough(self):
         begun = time.monotonic()
         self.assertFalse(self.bench("echo '1: FAIL!  : a()'; sleep 600")._passes("tst_quick", 600))

@@ -804,6 +804,8 @@ void UiManagerTest::aWindowTakesOnlyItsOwnMenusAlong()
     m_manager->removeWindow(&others[1]); // the current one stays
     QCoreApplication::processEvents();
     QCOMPARE(entries(), QVector<int>({1, 0, 1}));
+    enter();
+    QCOMPARE(entries(), QVector<int>({2, 0, 2}));
     m_manager.reset();
     m_catalogue.reset();
 }
