@@ -129,6 +129,8 @@ private Q_SLOTS:
     void theHaloIsReadable_data();
     void theHaloIsReadable();
     void aHaloOfTwoColoursFollowsTheNearest();
+    void nearPixelsCountMore_data();
+    void nearPixelsCountMore();
     void theLastPictureIsKept();
     void nothingIsNothing();
 };
@@ -384,6 +386,32 @@ void ContrastIconTest::aHaloOfTwoColoursFollowsTheNearest()
         QCOMPARE(picture.pixel(5, y), qRgb(255, 255, 255));
         QCOMPARE(picture.pixel(14, y), qRgb(0, 0, 0));
     }
+}
+
+// Beside a black pixel are white ones, further away.
+void ContrastIconTest::nearPixelsCountMore_data()
+{
+    QTest::addColumn<int>("distance"); // of the white ones
+    QTest::addColumn<int>("count");
+    QTest::addColumn<QColor>("halo");
+    QTest::newRow("two at twice the distance") << 2 << 2 << QColor(Qt::white);
+    QTest::newRow("three at twice the distance") << 2 << 3 << QColor(Qt::black);
+    QTest::newRow("four at three times the distance") << 3 << 4 << QColor(Qt::white);
+}
+
+void ContrastIconTest::nearPixelsCountMore()
+{
+    QFETCH(int, distance);
+    QFETCH(int, count);
+    QFETCH(QColor, halo);
+    const QPoint place(30, 30);
+    QImage shape(60, 60, QImage::Format_ARGB32);
+    shape.fill(Qt::transparent);
+    const QPoint around[] = {{distance, 0}, {0, distance}, {0, -distance}, {-distance, 0}};
+    for (int i = 0; i < count; ++i)
+        shape.setPixelColor(place + around[i], Qt::white);
+    shape.setPixelColor(place - QPoint(1, 0), Qt::black);
+    QCOMPARE(gesturewidget::withHalo(shape, 3).pixelColor(place), halo);
 }
 
 void ContrastIconTest::theLastPictureIsKept()
