@@ -189,7 +189,6 @@ void MgDonutDialogManager::fillCategories()
     ui.category_comboBox->addItem(m_allCommands);
     ui.category_comboBox->addItems(captions ? *captions : usedCategories(others));
     ui.category_comboBox->addItem(others);
-    ui.category_comboBox->setCurrentIndex(0);
 }
 
 // The images belong to the host. Without them the buttons look as the style draws them.

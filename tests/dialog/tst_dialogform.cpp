@@ -176,6 +176,13 @@ void DialogFormTest::textsAreTranslatedInTheirContexts()
     translator.add("MgDonutDialogManager", "Others", QStringLiteral("the dialog's own"));
     translator.add("QObject", "Others", QStringLiteral("others"));
     translator.add("MgCommandDSModel", "Category", QStringLiteral("column"));
+    const QVector<QDialogButtonBox::StandardButton> buttons{
+        QDialogButtonBox::Ok, QDialogButtonBox::Cancel, QDialogButtonBox::Help};
+    const QStringList buttonTexts{QStringLiteral("agreed"), QStringLiteral("never"),
+                                  QStringLiteral("what")};
+    translator.add("MgDonutDialogManager", "OK", buttonTexts.at(0));
+    translator.add("MgDonutDialogManager", "Cancel", buttonTexts.at(1));
+    translator.add("MgDonutDialogManager", "Help", buttonTexts.at(2));
     const TestDialog dialog;
     QCOMPARE(dialog.windowTitle(), other);
     QCOMPARE(dialog.ui.category_label->text(), other);
@@ -192,6 +199,8 @@ void DialogFormTest::textsAreTranslatedInTheirContexts()
     QCOMPARE(categories->itemText(categories->count() - 1), QStringLiteral("others"));
     QCOMPARE(dialog.directionList.item(0)->text(), QStringLiteral("none"));
     QCOMPARE(dialog.proxy->headerData(0, Qt::Horizontal).toString(), QStringLiteral("column"));
+    for (int i = 0; i < buttons.size(); ++i)
+        QCOMPARE(dialog.button(buttons.at(i))->text(), buttonTexts.at(i));
 }
 
 void DialogFormTest::layouts_data()
