@@ -414,6 +414,11 @@ void UiManagerTest::aGoneMenuTakesNoEntry()
     delete m_window->draw;
     draw->Append(entry);
     QCOMPARE(captions(*m_tools).constLast(), QStringLiteral("Gestures..."));
+    // Nor does it give one away, even if the entry's own menu has just gone.
+    delete m_tools;
+    draw->Remove(entry);
+    m_tools = m_window->addMenu("&Tools", "toolsMenu");
+    QTRY_COMPARE(captions(*m_tools), words("Gestures..."));
 }
 
 void UiManagerTest::anEntryIsTakenOut()
