@@ -114,6 +114,7 @@ private Q_SLOTS:
     void aWindowTakesOnlyItsOwnMenusAlong();
     void withoutAMenuBarAllIsEmpty();
     void theWindowMayGoFirst();
+    void everyPartOfTheMenusIsOneObject();
     void objectsOfGoneMenusAreFreed();
     void objectsOfGoneMenuBarsAreFreed();
     void aWalkOutlivesTheMenusItWalks();
@@ -857,6 +858,23 @@ void UiManagerTest::theWindowMayGoFirst()
     m_manager->RemoveCommandItem(entry->GetCommandItem());
     m_manager->DestroyMenuItem(entry);
     m_manager->Refresh(true);
+}
+
+void UiManagerTest::everyPartOfTheMenusIsOneObject()
+{
+    walk(menus());
+    const std::size_t before = m_manager->mirror().size();
+    walk(menus());
+    QCOMPARE(m_manager->mirror().size(), before);
+    static_cast<void>(m_manager->NewMenuIterator());
+    QCOMPARE(m_manager->mirror().size(), before + 1); // the bar as a menu
+    QVERIFY(m_manager->menuBars().GetItem(0));
+    QCOMPARE(m_manager->mirror().size(), before + 2); // the bar as an item
+    QMenu *more = m_window->addMenu("&More", "moreMenu");
+    for (const char *name : {"one", "two", "three"})
+        DraftWindow::addAction(more, name, name);
+    walk(menus());
+    QCOMPARE(m_manager->mirror().size(), before + 7); // three actions, the menu and its list
 }
 
 void UiManagerTest::objectsOfGoneMenusAreFreed()
