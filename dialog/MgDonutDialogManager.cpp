@@ -189,7 +189,6 @@ void MgDonutDialogManager::fillCategories()
     ui.category_comboBox->addItem(m_allCommands);
     ui.category_comboBox->addItems(captions ? *captions : usedCategories(others));
     ui.category_comboBox->addItem(others);
-    ui.category_comboBox->setCurrentIndex(0);
 }
 
 // The images belong to the host. Without them the buttons look as the style draws them.
@@ -484,9 +483,8 @@ void MgDonutDialogManager::radioButtonStateChanged(bool /*checked*/)
         count = 4;
     }
 
-    // Setting the items adds one more row: "None" and each direction.
+    // Setting the items adds the column and one more row: "None" and each direction.
     directionList.setRowCount(count);
-    directionList.setColumnCount(1);
     directionList.setItem(0, new QStandardItem(tr("None")));
     for (int row = 1; row <= count; ++row) {
         const auto direction = static_cast<unsigned char>(row);

@@ -12,15 +12,12 @@ Notice::Notice(QWidget *window)
     : QLabel(window)
 {
     hide();
-    setObjectName(QStringLiteral("notice"));
     setTextFormat(Qt::PlainText);
     setFrameShape(QFrame::Box);
-    setFrameShadow(QFrame::Plain);
     setMargin(2);
     setAutoFillBackground(true);
     setPalette(QToolTip::palette());
-    setForegroundRole(QPalette::ToolTipText);
-    setBackgroundRole(QPalette::ToolTipBase);
+    setBackgroundRole(QPalette::ToolTipBase); // the foreground follows
     // Clicks reach the widgets below.
     setAttribute(Qt::WA_TransparentForMouseEvents);
     m_end.setSingleShot(true);

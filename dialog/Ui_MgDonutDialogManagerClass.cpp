@@ -61,6 +61,7 @@ void Ui_MgDonutDialogManagerClass::setupUi(QDialog *dialog)
     verticalLayout_4 = newLayout<QVBoxLayout>("verticalLayout_4");
     verticalLayout_4->setSizeConstraint(QLayout::SetFixedSize);
     horizontalLayout_8 = newLayout<QHBoxLayout>("horizontalLayout_8");
+    // Tab goes from control to control in the order in which they are created.
     createFilters(dialog);
     createSwitches(dialog);
     verticalLayout_4->addLayout(horizontalLayout_8);
@@ -69,7 +70,6 @@ void Ui_MgDonutDialogManagerClass::setupUi(QDialog *dialog)
     createButtons(dialog);
 
     retranslateUi(dialog);
-    setTabOrder();
     QObject::connect(buttonBox, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
     QMetaObject::connectSlotsByName(dialog);
 }
@@ -179,19 +179,6 @@ void Ui_MgDonutDialogManagerClass::createButtons(QDialog *dialog)
                                   | QDialogButtonBox::Help);
     horizontalLayout_6->addWidget(buttonBox);
     verticalLayout_5->addLayout(horizontalLayout_6);
-}
-
-void Ui_MgDonutDialogManagerClass::setTabOrder()
-{
-    QWidget *const order[] = {
-        category_comboBox, filter_checkBox,  search_lineEdit,  enableGesture_checkBox, four_radioButton,
-        eight_radioButton, reset_pushButton, print_pushButton, command_tableView,      buttonBox};
-    QWidget *previous = nullptr;
-    for (QWidget *widget : order) {
-        if (previous)
-            QWidget::setTabOrder(previous, widget);
-        previous = widget;
-    }
 }
 
 void Ui_MgDonutDialogManagerClass::retranslateUi(QDialog *dialog)

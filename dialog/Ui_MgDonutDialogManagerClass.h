@@ -60,7 +60,6 @@ private:
     void createList(QDialog *dialog);
     void createDescription(QDialog *dialog);
     void createButtons(QDialog *dialog);
-    void setTabOrder();
 };
 
 namespace Ui {

@@ -115,11 +115,8 @@ QSet<const QAction *> ListEntries::among(const QList<QAction *> &actions, Kind k
         if (text.isEmpty())
             continue;
         const QString caption = lastingCaption(*action, plainCaption(text));
-        if (namesADocument(caption)) {
-            entries.insert(action);
-            continue;
-        }
-        if (!mayBeEntry(*action))
+        const bool isDocument = namesADocument(caption);
+        if (!isDocument && !mayBeEntry(*action))
             continue;
         bool isMarked = false;
         const int number = numberOf(text, &isMarked);
@@ -130,7 +127,7 @@ QSet<const QAction *> ListEntries::among(const QList<QAction *> &actions, Kind k
             ++next;
         const bool isNumbered =
             isNext && action->icon().isNull() && (isMarked || action->data().isValid());
-        if (kind == Kind::Documents || isNumbered
+        if (isDocument || kind == Kind::Documents || isNumbered
             || (kind == Kind::Layers && (action->isCheckable() || action->data().isValid()))
             || (action->icon().isNull() && isWindowTitle(caption)))
             entries.insert(action);

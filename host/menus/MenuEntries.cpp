@@ -104,8 +104,6 @@ void MenuEntries::restore()
 {
     const OwnCode ours;
     m_isScheduled = false;
-    if (m_isRestoring || m_placed.empty())
-        return;
     m_isRestoring = true;
     QHash<QWidget *, QVector<QAction *>> byPlace;
     for (Placed &placed : m_placed) {
@@ -137,7 +135,7 @@ void MenuEntries::prepare(QWidget *place)
     if (auto *menu = qobject_cast<QMenu *>(place)) {
         connect(menu, &QMenu::aboutToShow, this, [this, menu] {
             const OwnCode ours;
-            m_prepared[menu].count = 0;
+            m_prepared[menu] = {};
             restore();
         });
     }

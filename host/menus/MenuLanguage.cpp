@@ -29,13 +29,11 @@ MenuLanguage MenuLanguage::of(const QMenuBar &bar)
     for (const QAction *action : actions)
         captions.append(menuRole(plainCaption(action->text())));
 
-    MenuLanguage found{QStringLiteral("en"), 0, 0};
+    MenuLanguage found{QStringLiteral("en"), 0};
     for (const KnownCaptions &language : KnownCaptions::languages()) {
         const auto count = static_cast<int>(
             std::count_if(captions.begin(), captions.end(),
                           [&language](const QString &caption) { return knows(language, caption); }));
-        if (language.language == QLatin1String("en"))
-            found.english = count;
         if (count > found.count) {
             found.code = language.language;
             found.count = count;

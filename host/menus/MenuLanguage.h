@@ -16,7 +16,6 @@ struct MenuLanguage
 {
     QString code; // ISO 639-1, one of KnownCaptions::languages(); "en" if no menu is known
     int count = 0; // menus with a caption of that language
-    int english = 0; // menus with an English caption
 
     // Counts the captions that each language knows. If two languages know equally many, the one
     // that comes first in KnownCaptions::languages() wins.

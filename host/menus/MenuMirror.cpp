@@ -153,16 +153,13 @@ void MenuMirror::clean()
 {
     m_catalogue.update(); // only what it has walked is watched for changes
     if (m_cleanGeneration == m_generation)
-        return;
+        return; // nothing has changed
     m_cleanGeneration = m_generation;
     m_menuBars = m_watcher.menuBars();
     m_items.retireGone();
     m_collections.retireGone();
     m_menus.retireGone();
     m_barItems.retireGone();
-    if (!m_items.hasRetired() && !m_collections.hasRetired() && !m_menus.hasRetired()
-        && !m_barItems.hasRetired())
-        return;
     const auto destroyRetired = [this] {
         const OwnCode ours;
         m_items.destroyRetired();

@@ -40,7 +40,6 @@ public:
             it = m_items.erase(it);
         }
     }
-    [[nodiscard]] bool hasRetired() const { return !m_retired.empty(); }
     void destroyRetired() { m_retired.clear(); }
     [[nodiscard]] std::size_t size() const { return m_items.size() + m_retired.size(); }
 

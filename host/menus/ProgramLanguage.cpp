@@ -23,7 +23,8 @@ QString programLanguage(const QMainWindow *window, const QStringList &preferred,
     const QVector<QMenuBar *> bars = menuBarsOf(window);
     if (!bars.isEmpty()) {
         const MenuLanguage menus = MenuLanguage::of(*bars.first());
-        if (menus.count >= kClearCount && menus.count > menus.english && available.contains(menus.code))
+        const bool isClear = menus.count >= kClearCount && menus.code != QLatin1String("en");
+        if (isClear && available.contains(menus.code))
             return menus.code;
     }
     return chooseLanguage(preferred, available);

@@ -138,6 +138,26 @@ private Q_SLOTS:
         QCOMPARE(container.commands.at(0).category, text("Edit"));
     }
 
+    // A dialog may be open for hours before it saves its records.
+    void recordsOfAnEarlierReadingGetTheirNewCategory()
+    {
+        tests::FakeCommandItem *line =
+            host->commands.addCommand(text("ID_LINE"), text("line"), text("Line"));
+        tests::FakeMenuItem *draw = host->addTopLevelMenu(text("&Draw"));
+        tests::FakeMenuItem *edit = host->addTopLevelMenu(text("&Edit"));
+        tests::FakeMenuItem *entry =
+            host->ui.addItem(draw->subItems.get(), text("Line"), false, {}, line);
+        tests::OpenContainer container;
+        const std::vector<MgCommandDS> records = container.getCommandsDS();
+        draw->subItems->Remove(entry);
+        edit->subItems->Append(entry);
+        container.init();
+        container.update(records, true, DonutScheme::Eight);
+        QCOMPARE(container.commands.at(0).category, text("Draw"));
+        container.init();
+        QCOMPARE(container.commands.at(0).category, text("Edit"));
+    }
+
     void commandsOutsideTheMenusFollowTheLanguage()
     {
         host->commands.addCommand(text("ID_LINE"), text("line"), text("Line"));

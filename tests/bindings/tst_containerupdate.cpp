@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
+#include "bindings/SettingsKeys.h"
 #include "tests/bindings/OlderSettings.h"
 #include "tests/bindings/OpenContainer.h"
 #include "tests/bindings/StandardCommands.h"
@@ -10,6 +11,7 @@
 
 #include <QtTest>
 
+#include <algorithm>
 #include <memory>
 
 using tests::text;
@@ -197,6 +199,22 @@ private Q_SLOTS:
             QCOMPARE(next.commands[i].fourDirection, records[i].fourDirection);
             QCOMPARE(next.commands[i].eightDirection, records[i].eightDirection);
         }
+    }
+
+    // The places of commands in the list are remembered; they are others in another list.
+    void recordsOfAnotherListAreFound()
+    {
+        auto *group = static_cast<tests::FakeCommandGroup *>(host->commands.groups.front());
+        std::vector<MgCommandDS> records = container->getCommandsDS();
+        std::reverse(group->commands.begin(), group->commands.end());
+        container->init();
+        std::reverse(group->commands.begin(), group->commands.end());
+        container->update(records, true, DonutScheme::Eight);
+        container->init();
+        for (int direction = 0; direction < 8; ++direction)
+            QCOMPARE(container->commands[container->eightTable[direction]].id,
+                     settingskeys::initialValue(
+                         settingskeys::directionKey(DonutScheme::Eight, direction + 1)));
     }
 
     void takesItsOwnRecords()

@@ -11,6 +11,8 @@
 #include "tests/support/FatalWarnings.h"
 
 #include <QAbstractItemModelTester>
+#include <QLocale>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QSortFilterProxyModel>
 #include <QStandardItemModel>
@@ -832,14 +834,28 @@ void CommandTableModelTest::comparesTextsAsTheBaseClassDoes()
     }
 
     // With other settings the base class compares.
-    m_dialog->proxy->setSortCaseSensitivity(Qt::CaseInsensitive);
-    plainProxy.setSortCaseSensitivity(Qt::CaseInsensitive);
-    plainProxy.sort(-1);
-    plainProxy.sort(kCommand);
-    m_dialog->proxy->sort(kCommand);
-    for (int row = 0; row < plainProxy.rowCount(); ++row)
-        QCOMPARE(m_dialog->cell(row, kCommand).data().toString(),
-                 plainProxy.index(row, kCommand).data().toString());
+    const QLocale locale;
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    const auto restore = qScopeGuard([&locale] { QLocale::setDefault(locale); });
+    for (const bool isLocaleAware : {false, true}) {
+        const auto sensitivity = isLocaleAware ? Qt::CaseSensitive : Qt::CaseInsensitive;
+        for (QSortFilterProxyModel *proxy :
+             {static_cast<QSortFilterProxyModel *>(m_dialog->proxy), &plainProxy}) {
+            proxy->setSortLocaleAware(isLocaleAware);
+            proxy->setSortCaseSensitivity(sensitivity);
+        }
+        plainProxy.sort(-1);
+        plainProxy.sort(kCommand);
+        m_dialog->proxy->sort(kCommand);
+        for (int row = 0; row < plainProxy.rowCount(); ++row)
+            QCOMPARE(m_dialog->cell(row, kCommand).data().toString(),
+                     plainProxy.index(row, kCommand).data().toString());
+    }
+    m_dialog->proxy->setSortLocaleAware(false);
+    m_dialog->proxy->setSortRole(Qt::UserRole); // all are equal, and stay in the model's order
+    m_dialog->proxy->sort(kCommand, Qt::DescendingOrder);
+    for (int row = 0; row < m_dialog->proxy->rowCount(); ++row)
+        QCOMPARE(m_dialog->proxy->mapToSource(m_dialog->cell(row, kCommand)).row(), row);
 }
 
 void CommandTableModelTest::proxyAcceptsEveryRowOfAnotherModel()

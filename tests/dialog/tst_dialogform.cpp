@@ -15,6 +15,7 @@
 #include <QBoxLayout>
 #include <QHeaderView>
 #include <QItemDelegate>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QStyle>
 #include <QStyleOptionComboBox>
@@ -48,6 +49,7 @@ private Q_SLOTS:
     void widthCannotBeChanged();
     void growsWithTheFontAndClipsNothing_data();
     void growsWithTheFontAndClipsNothing();
+    void aLongNoneWidensItUntilItFits();
     void longMenuCaptionsDoNotWidenIt();
     void windowFlags();
     void helpTopic();
@@ -174,6 +176,13 @@ void DialogFormTest::textsAreTranslatedInTheirContexts()
     translator.add("MgDonutDialogManager", "Others", QStringLiteral("the dialog's own"));
     translator.add("QObject", "Others", QStringLiteral("others"));
     translator.add("MgCommandDSModel", "Category", QStringLiteral("column"));
+    const QVector<QDialogButtonBox::StandardButton> buttons{
+        QDialogButtonBox::Ok, QDialogButtonBox::Cancel, QDialogButtonBox::Help};
+    const QStringList buttonTexts{QStringLiteral("agreed"), QStringLiteral("never"),
+                                  QStringLiteral("what")};
+    translator.add("MgDonutDialogManager", "OK", buttonTexts.at(0));
+    translator.add("MgDonutDialogManager", "Cancel", buttonTexts.at(1));
+    translator.add("MgDonutDialogManager", "Help", buttonTexts.at(2));
     const TestDialog dialog;
     QCOMPARE(dialog.windowTitle(), other);
     QCOMPARE(dialog.ui.category_label->text(), other);
@@ -190,6 +199,8 @@ void DialogFormTest::textsAreTranslatedInTheirContexts()
     QCOMPARE(categories->itemText(categories->count() - 1), QStringLiteral("others"));
     QCOMPARE(dialog.directionList.item(0)->text(), QStringLiteral("none"));
     QCOMPARE(dialog.proxy->headerData(0, Qt::Horizontal).toString(), QStringLiteral("column"));
+    for (int i = 0; i < buttons.size(); ++i)
+        QCOMPARE(dialog.button(buttons.at(i))->text(), buttonTexts.at(i));
 }
 
 void DialogFormTest::layouts_data()
@@ -402,6 +413,25 @@ void DialogFormTest::growsWithTheFontAndClipsNothing()
         category = std::max(category, table->fontMetrics().horizontalAdvance(text) + 8);
     QVERIFY2(table->columnWidth(0) >= category,
              qPrintable(QStringLiteral("%1 of %2").arg(table->columnWidth(0)).arg(category)));
+}
+
+// "None" is the longest text of a direction's drop-down.
+void DialogFormTest::aLongNoneWidensItUntilItFits()
+{
+    tests::FakeTranslator translator;
+    translator.add("MgDonutDialogManager", "None", QString(30, QLatin1Char('W')));
+    TestDialog dialog;
+    QVERIFY(tests::showActive(dialog));
+    QVERIFY(dialog.ui.command_tableView->verticalScrollBar()->isVisible());
+    tests::click(dialog.ui.command_tableView, dialog.cell(0, tests::kDirection));
+    const QComboBox *editor = dialog.editor();
+    QVERIFY(editor);
+    QStyleOptionComboBox option;
+    option.initFrom(editor);
+    const QRect inside = editor->style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                                         QStyle::SC_ComboBoxEditField, editor);
+    const int none = editor->fontMetrics().horizontalAdvance(dialog.directionList.item(0)->text());
+    QCOMPARE(inside.width(), none + 1); // of its margin of two pixels, the grid takes one
 }
 
 void DialogFormTest::longMenuCaptionsDoNotWidenIt()

@@ -30,6 +30,8 @@
 #include <cmath>
 #include <memory>
 
+#include <malloc.h>
+
 using tests::kCommand;
 using tests::kDirection;
 using tests::TestDialog;
@@ -126,6 +128,7 @@ private Q_SLOTS:
     void rolesOfTheModel();
     void blocksTakeTheModelsAlignment();
     void iconsAreThirtyTwoPixels();
+    void aSmallerIconIsCentred();
     void textIsNeverRendered_data();
     void textIsNeverRendered();
     void modelsWithoutATable();
@@ -136,6 +139,7 @@ private Q_SLOTS:
     void everyPageHasWholeRowsBelowTheHeader();
     void cellsOfARowAlign();
     void theNumberIsFivePointsBelowThePage();
+    void theTableFillsThePageInsideItsMargins();
     void chosenPagesOnly();
     void fileHasATitle();
     void iconsArePrintedAsTheyAreWhenOff();
@@ -423,6 +427,24 @@ void PrintingTest::iconsAreThirtyTwoPixels()
     QCOMPARE(textOf(table->cellAt(unbound + 1, kDirection)), QString());
 }
 
+void PrintingTest::aSmallerIconIsCentred()
+{
+    QPixmap pixmap(16, 16);
+    pixmap.fill(Qt::red);
+    QStandardItemModel model(1, 1);
+    model.setItem(0, new QStandardItem(QIcon(pixmap), QStringLiteral("Line")));
+    mallopt(M_PERTURB, 0x55); // no memory is empty by chance
+    const auto document = documentOf(&model);
+    mallopt(M_PERTURB, 0);
+    const QString name =
+        fragmentOf(tableOf(*document)->cellAt(1, 0), 0).charFormat().toImageFormat().name();
+    const auto image = document->resource(QTextDocument::ImageResource, QUrl(name)).value<QImage>();
+    QImage expected(32, 32, image.format());
+    expected.fill(Qt::transparent);
+    QPainter(&expected).fillRect(8, 8, 16, 16, Qt::red);
+    QCOMPARE(image, expected);
+}
+
 void PrintingTest::textIsNeverRendered_data()
 {
     QTest::addColumn<QString>("text");
@@ -606,6 +628,64 @@ void PrintingTest::theNumberIsFivePointsBelowThePage()
     QVERIFY2(found.hasMatch(), qPrintable(words));
     const qreal gap = found.captured(1).toDouble() - bottom;
     QVERIFY2(std::abs(gap - 5) < 0.5, qPrintable(QString::number(gap)));
+}
+
+void PrintingTest::theTableFillsThePageInsideItsMargins()
+{
+    open(8);
+    QRectF paper; // the printable part, in points
+    m_dialog->printDialog = [&](QPrinter &printer) {
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(m_file);
+        paper = printer.pageLayout().paintRect(QPageLayout::Point);
+        return static_cast<int>(QDialog::Accepted);
+    };
+    m_dialog->printList();
+    constexpr int kDpi = 300;
+    const QString base = m_folder.filePath(QStringLiteral("page"));
+    run(QStringLiteral("pdftoppm"), {QStringLiteral("-r"), QString::number(kDpi), QStringLiteral("-png"),
+                                     QStringLiteral("-singlefile"), m_file, base});
+    const QImage page(base + QLatin1String(".png"));
+    QVERIFY(!page.isNull());
+    const QColor dark(0xdf, 0xdf, 0xdf); // the header
+    const QColor grey(0xe1, 0xe1, 0xe1); // every other row
+
+    // In pixels of the picture.
+    const qreal point = kDpi / 72.0;
+    const qreal margin = 2 / 2.54 * kDpi;
+    const qreal spacing = 2 / 96.0 * kDpi;
+    const QRectF body =
+        QRectF(paper.topLeft() * point, paper.size() * point).adjusted(margin, margin, -margin, -margin);
+    const auto isNear = [](qreal place, qreal expected) { return std::abs(place - expected) < 1.5; };
+
+    const int inHeader = qRound(body.top()) + 3;
+    int left = 0;
+    while (left < page.width() && page.pixelColor(left, inHeader) != dark)
+        ++left;
+    int right = page.width();
+    while (right > left && page.pixelColor(right - 1, inHeader) != dark)
+        --right;
+    QVERIFY2(isNear(left, body.left() + spacing), qPrintable(QString::number(left)));
+    QVERIFY2(isNear(right, body.left() + 0.98 * body.width() - spacing), // the table has 98 %
+             qPrintable(QString::number(right)));
+
+    // Where the colours begin and end, down the left edge: header, second row, fourth row ...
+    QVector<int> edges;
+    for (int y = 1; y < page.height(); ++y) {
+        const auto isRow = [&](int line) {
+            const QColor colour = page.pixelColor(left + 2, line);
+            return colour == dark || colour == grey;
+        };
+        if (isRow(y) != isRow(y - 1))
+            edges.append(y);
+    }
+    QCOMPARE(edges.size(), 2 * (1 + m_dialog->proxy->rowCount() / 2));
+    QVERIFY2(isNear(edges.at(0), body.top()), qPrintable(QString::number(edges.at(0))));
+    const int height = edges.at(3) - edges.at(2);
+    for (int i = 2; i < edges.size(); i += 2) {
+        QVERIFY(isNear(edges.at(i + 1) - edges.at(i), height));
+        QVERIFY(isNear(edges.at(i) - edges.at(i - 1), height + 2 * spacing)); // a white row is between
+    }
 }
 
 void PrintingTest::chosenPagesOnly()

@@ -14,6 +14,7 @@ import subprocess
 import tempfile
 import time
 import unittest
+from collections import Counter
 from pathlib import Path
 from unittest import mock
 
@@ -151,7 +152,10 @@ class Killing(unittest.TestCase):
         bench = module.Bench.__new__(module.Bench)
         bench.build = folder
         bench.binaries = folder
-        bench._seconds = {"tst_quick": 0.1, "tst_pointerfilter": 9.0, "tst_slow": 5.0}
+        bench._seconds = {"tst_quick": 0.1, "tst_pointerfilter": 9.0, "tst_slow": 5.0, "tst_input": 9.0}
+        bench._sources = dict.fromkeys(bench._seconds, "")
+        bench._sources["tst_input"] = '#include "host/input/PointerFilter.h"\n'
+        bench._kills = Counter()
         bench.compile = mock.Mock(return_value=True)
         self.mutant = module.Mutant("host/input/PointerFilter.cpp", 1, "return 0;", "return 1;")
         return bench
@@ -159,6 +163,9 @@ class Killing(unittest.TestCase):
     def test_a_test_passes_or_fails(self):
         self.assertTrue(self.bench("echo '1: PASS   : a()'")._passes("tst_quick", 60))
         self.assertFalse(self.bench("exit 8")._passes("tst_quick", 60))
+
+    def test_memory_holds_nonsense(self):
+        self.assertTrue(self.bench('test "$MALLOC_PERTURB_" = 85')._passes("tst_quick", 60))
 
     def test_the_first_failure_is_enough(self):
         begun = time.monotonic()
@@ -172,7 +179,16 @@ class Killing(unittest.TestCase):
         bench = self.bench("exit 0")
         self.assertIsNone(bench.killer(list(bench._seconds), self.mutant))
         self.assertEqual([call.args[0] for call in bench.compile.call_args_list],
-                         [["tst_pointerfilter"], ["tst_quick"], ["tst_slow"]])
+                         [["tst_pointerfilter"], ["tst_input"], ["tst_quick"], ["tst_slow"]])
+
+    def test_then_the_one_that_killed_most_mutants_of_the_file(self):
+        bench = self.bench("test $4 = '^tst_pointerfilter$' || test $4 = '^tst_quick$'")
+        self.assertEqual(bench.killer(list(bench._seconds), self.mutant), "tst_input")
+        bench._kills["host/input/PointerFilter.cpp", "tst_slow"] += 2
+        bench.compile.reset_mock()
+        self.assertEqual(bench.killer(list(bench._seconds), self.mutant), "tst_slow")
+        self.assertEqual([call.args[0] for call in bench.compile.call_args_list],
+                         [["tst_pointerfilter"], ["tst_slow"]])
 
     def test_what_does_not_compile_is_not_run(self):
         bench = self.bench("exit 8")

@@ -667,6 +667,8 @@ void CatalogueMemoryTest::iconsAreReadWhenPainted()
     QIcon changed = icon;
     changed.addPixmap(pixmap, QIcon::Selected); // detaches the copy
     QCOMPARE(painted(icon), painted(original));
+    // The file is read once.
+    QCOMPARE(icon.pixmap(QSize(20, 10)).cacheKey(), icon.pixmap(QSize(20, 10)).cacheKey());
 
     QVERIFY(gesturewidget::iconToPng(QIcon()).isEmpty());
     QVERIFY(gesturewidget::iconFromPng({}).isNull());

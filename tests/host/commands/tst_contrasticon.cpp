@@ -124,11 +124,15 @@ private Q_SLOTS:
     void theHaloStaysInsideTheSquare();
     void softEdgesAreHardened_data();
     void softEdgesAreHardened();
+    void softPixelsHaveAWholeHalo_data();
+    void softPixelsHaveAWholeHalo();
     void allSidesOfAShapeCount_data();
     void allSidesOfAShapeCount();
     void theHaloIsReadable_data();
     void theHaloIsReadable();
     void aHaloOfTwoColoursFollowsTheNearest();
+    void nearPixelsCountMore_data();
+    void nearPixelsCountMore();
     void theLastPictureIsKept();
     void nothingIsNothing();
 };
@@ -218,12 +222,17 @@ void ContrastIconTest::onlyTheRingsSizeHasAHalo()
     const QSize ring(kRingIconSide, kRingIconSide);
     const QImage shown = icon.pixmap(ring).toImage();
     QCOMPARE(shown.size(), ring);
+    QCOMPARE(shown.devicePixelRatio(), 1.0);
     QCOMPARE(shown, gesturewidget::withHalo(gesturewidget::ringShape(plain, 1), 1));
     for (const int side : {16, 22, 24, 32, 48}) {
         const QSize size(side, side);
         QCOMPARE(icon.pixmap(size).toImage(), plain.pixmap(size).toImage());
         QCOMPARE(icon.actualSize(size), plain.actualSize(size));
     }
+    QPixmap small(8, 8);
+    small.fill(Qt::black);
+    QCOMPARE(contrastIcon(QIcon(small)).actualSize({24, 24}), small.size());
+    QCOMPARE(contrastIcon(QIcon(small)).actualSize(ring), ring);
     QImage ofRing(ring, shown.format());
     ofRing.fill(Qt::transparent);
     QPainter ringPainter(&ofRing);
@@ -317,6 +326,30 @@ void ContrastIconTest::softEdgesAreHardened()
     QCOMPARE(qRed(seen), grey);
 }
 
+// The halo of a thin line must not be as faint as the line itself.
+void ContrastIconTest::softPixelsHaveAWholeHalo_data()
+{
+    QTest::addColumn<int>("alpha"); // of the pixel
+    QTest::addColumn<int>("halo"); // alpha beside it
+    QTest::newRow("nothing") << 0 << 0;
+    QTest::newRow("hardly there") << 1 << 4;
+    QTest::newRow("nearly a quarter") << 63 << 252;
+    QTest::newRow("a quarter") << 64 << 255;
+    QTest::newRow("opaque") << 255 << 255;
+}
+
+void ContrastIconTest::softPixelsHaveAWholeHalo()
+{
+    QFETCH(int, alpha);
+    QFETCH(int, halo);
+    QImage shape(20, 20, QImage::Format_ARGB32);
+    shape.fill(Qt::transparent);
+    shape.setPixel(10, 10, qRgba(0, 0, 0, alpha));
+    const QImage seen = gesturewidget::withHalo(shape, 1);
+    for (const QPoint &beside : {QPoint(9, 10), QPoint(11, 10), QPoint(10, 9), QPoint(10, 11)})
+        QCOMPARE(qAlpha(seen.pixel(beside)), halo);
+}
+
 // The halo of a long bar is chosen by its long sides: each pixel that has the outside on one side
 // counts.
 void ContrastIconTest::allSidesOfAShapeCount_data()
@@ -386,6 +419,32 @@ void ContrastIconTest::aHaloOfTwoColoursFollowsTheNearest()
     }
 }
 
+// Beside a black pixel are white ones, further away.
+void ContrastIconTest::nearPixelsCountMore_data()
+{
+    QTest::addColumn<int>("distance"); // of the white ones
+    QTest::addColumn<int>("count");
+    QTest::addColumn<QColor>("halo");
+    QTest::newRow("two at twice the distance") << 2 << 2 << QColor(Qt::white);
+    QTest::newRow("three at twice the distance") << 2 << 3 << QColor(Qt::black);
+    QTest::newRow("four at three times the distance") << 3 << 4 << QColor(Qt::white);
+}
+
+void ContrastIconTest::nearPixelsCountMore()
+{
+    QFETCH(int, distance);
+    QFETCH(int, count);
+    QFETCH(QColor, halo);
+    const QPoint place(30, 30);
+    QImage shape(60, 60, QImage::Format_ARGB32);
+    shape.fill(Qt::transparent);
+    const QPoint around[] = {{distance, 0}, {0, distance}, {0, -distance}, {-distance, 0}};
+    for (int i = 0; i < count; ++i)
+        shape.setPixelColor(place + around[i], Qt::white);
+    shape.setPixelColor(place - QPoint(1, 0), Qt::black);
+    QCOMPARE(gesturewidget::withHalo(shape, 3).pixelColor(place), halo);
+}
+
 void ContrastIconTest::theLastPictureIsKept()
 {
     int paints = 0;
@@ -395,6 +454,13 @@ void ContrastIconTest::theLastPictureIsKept()
     QVERIFY(!icon.pixmap(kRingIconSide).isNull());
     QVERIFY(!copy.pixmap(kRingIconSide).isNull());
     QCOMPARE(paints, 1);
+    const QSize ring(kRingIconSide, kRingIconSide);
+    QVERIFY(!icon.pixmap(ring, QIcon::Disabled).isNull());
+    QCOMPARE(paints, 2);
+    QVERIFY(!icon.pixmap(ring, QIcon::Disabled, QIcon::On).isNull());
+    QCOMPARE(paints, 3);
+    QVERIFY(!icon.pixmap(ring, QIcon::Disabled, QIcon::On).isNull());
+    QCOMPARE(paints, 3);
 }
 
 void ContrastIconTest::nothingIsNothing()

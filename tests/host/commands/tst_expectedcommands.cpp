@@ -74,6 +74,7 @@ private Q_SLOTS:
 
     void wellKnownAndBoundOnesAreExpected();
     void anExpectedCommandIsOffered();
+    void itTakesNoNameFromOthers();
     void itIsTakenUpByItsAction_data();
     void itIsTakenUpByItsAction();
     void whatIsThereIsNotExpected();
@@ -133,6 +134,16 @@ void ExpectedCommandsTest::anExpectedCommandIsOffered()
     catalogue.expect(QStringLiteral("drawHatch"), QStringLiteral("Hatch"));
     QVERIFY(catalogue.find(QStringLiteral("drawHatch")));
     QCOMPARE(catalogue.find(QString()), nullptr);
+}
+
+// Commands of one caption are told apart by their menus, but nobody knows the menu of this one.
+void ExpectedCommandsTest::itTakesNoNameFromOthers()
+{
+    CommandCatalogue catalogue(m_window.get(), {});
+    catalogue.expect(QStringLiteral("sketchLine"), QStringLiteral("Line"));
+    QVERIFY(isOffered(catalogue, QStringLiteral("sketchLine")));
+    QCOMPARE(caption(catalogue.find(QStringLiteral("drawLine"))), QStringLiteral("Line"));
+    QCOMPARE(caption(catalogue.find(QStringLiteral("sketchLine"))), QStringLiteral("Line"));
 }
 
 void ExpectedCommandsTest::itIsTakenUpByItsAction_data()

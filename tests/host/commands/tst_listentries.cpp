@@ -9,6 +9,7 @@
 #include "tests/support/FatalWarnings.h"
 
 #include <QActionGroup>
+#include <QDialog>
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -116,6 +117,13 @@ void ListEntriesTest::menus_data()
         },
         "Close");
     row(
+        "numbers among which are documents",
+        [](Program &p) {
+            p.menu->addAction(QStringLiteral("&1 plan.dxf"));
+            p.menu->addAction(QStringLiteral("&2 garden"));
+        },
+        "Close");
+    row(
         "numbers that are captions",
         [](Program &p) {
             p.menu->addAction(QStringLiteral("&2 Points"));
@@ -131,6 +139,23 @@ void ListEntriesTest::menus_data()
         },
         "Close | 1 Point | 2 Points");
     row("the title of the window", entry("plan - Draft"), "Close");
+    row(
+        "the title of a dialog",
+        [](Program &p) {
+            (new QDialog(&p.window))->setWindowTitle(QStringLiteral("Options"));
+            p.menu->addAction(QStringLiteral("Options"));
+        },
+        "Close | Options");
+    for (const bool isLongEnough : {true, false}) {
+        const QString title = isLongEnough ? QStringLiteral("Hut") : QStringLiteral("Up");
+        row(
+            isLongEnough ? "a title of three letters" : "a title of two letters",
+            [title](Program &p) {
+                p.area.addSubWindow(new QWidget)->setWindowTitle(title);
+                p.menu->addAction(title);
+            },
+            isLongEnough ? "Close" : "Close | Up");
+    }
     row(
         "a window inside that holds nothing",
         [](Program &p) {

@@ -97,7 +97,11 @@ void ToolsMenuTest::aMadeOneSpeaksTheProgramsLanguage()
     const MenuChanges watcher(&window);
     ToolsMenu menu(watcher, QString());
     QCOMPARE(menu.find(), nullptr);
-    QVERIFY(menu.findOrMake());
+    const QMenu *found = menu.findOrMake();
+    QVERIFY(found);
+    QVERIFY(!found->menuAction()->isVisible()); // it is empty
+    QCOMPARE(menu.find(), found);
+    QCOMPARE(menu.findOrMake(), found);
     QCOMPARE(captions(*window.menuBar()), QStringList({file, made, help}));
 }
 
