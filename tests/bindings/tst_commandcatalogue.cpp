@@ -41,6 +41,30 @@ public:
     CHxUIMenuItem *late = nullptr;
 };
 
+// A command in the menu "Draw" that another menu, "Edit", can get.
+class MovingLine
+{
+public:
+    explicit MovingLine(tests::FakeHost &host)
+        : m_draw(host.addTopLevelMenu(text("&Draw")))
+        , m_edit(host.addTopLevelMenu(text("&Edit")))
+        , m_entry(host.ui.addItem(m_draw->subItems.get(), text("Line"), false, {},
+                                  host.commands.addCommand(text("ID_LINE"), text("line"), text("Line"))))
+    {
+    }
+
+    void moveToEdit() const
+    {
+        m_draw->subItems->Remove(m_entry);
+        m_edit->subItems->Append(m_entry);
+    }
+
+private:
+    tests::FakeMenuItem *m_draw;
+    tests::FakeMenuItem *m_edit;
+    tests::FakeMenuItem *m_entry;
+};
+
 } // namespace
 
 class CommandCatalogueTest : public QObject
@@ -123,17 +147,11 @@ private Q_SLOTS:
 
     void aCommandMayMoveToAnotherMenu()
     {
-        tests::FakeCommandItem *line =
-            host->commands.addCommand(text("ID_LINE"), text("line"), text("Line"));
-        tests::FakeMenuItem *draw = host->addTopLevelMenu(text("&Draw"));
-        tests::FakeMenuItem *edit = host->addTopLevelMenu(text("&Edit"));
-        tests::FakeMenuItem *entry =
-            host->ui.addItem(draw->subItems.get(), text("Line"), false, {}, line);
+        const MovingLine line(*host);
         tests::OpenContainer container;
         container.init();
         QCOMPARE(container.commands.at(0).category, text("Draw"));
-        draw->subItems->Remove(entry);
-        edit->subItems->Append(entry);
+        line.moveToEdit();
         container.init();
         QCOMPARE(container.commands.at(0).category, text("Edit"));
     }
@@ -141,16 +159,10 @@ private Q_SLOTS:
     // A dialog may be open for hours before it saves its records.
     void recordsOfAnEarlierReadingGetTheirNewCategory()
     {
-        tests::FakeCommandItem *line =
-            host->commands.addCommand(text("ID_LINE"), text("line"), text("Line"));
-        tests::FakeMenuItem *draw = host->addTopLevelMenu(text("&Draw"));
-        tests::FakeMenuItem *edit = host->addTopLevelMenu(text("&Edit"));
-        tests::FakeMenuItem *entry =
-            host->ui.addItem(draw->subItems.get(), text("Line"), false, {}, line);
+        const MovingLine line(*host);
         tests::OpenContainer container;
         const std::vector<MgCommandDS> records = container.getCommandsDS();
-        draw->subItems->Remove(entry);
-        edit->subItems->Append(entry);
+        line.moveToEdit();
         container.init();
         container.update(records, true, DonutScheme::Eight);
         QCOMPARE(container.commands.at(0).category, text("Draw"));

@@ -26,6 +26,20 @@
 
 using tests::TestDialog;
 
+namespace {
+
+// The pixels that a drop-down has for its text.
+int widthForText(const QComboBox &box)
+{
+    QStyleOptionComboBox option;
+    option.initFrom(&box);
+    return box.style()
+        ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &box)
+        .width();
+}
+
+} // namespace
+
 // The dialog as it is built: its form, texts, sizes and owners.
 class DialogFormTest : public QObject
 {
@@ -399,13 +413,9 @@ void DialogFormTest::growsWithTheFontAndClipsNothing()
     tests::click(dialog.ui.command_tableView, dialog.cell(0, tests::kDirection));
     const QComboBox *editor = dialog.editor();
     QVERIFY(editor);
-    QStyleOptionComboBox option;
-    option.initFrom(editor);
-    const QRect inside = editor->style()->subControlRect(QStyle::CC_ComboBox, &option,
-                                                         QStyle::SC_ComboBoxEditField, editor);
+    const int inside = widthForText(*editor);
     const int none = editor->fontMetrics().horizontalAdvance(dialog.directionList.item(0)->text());
-    QVERIFY2(inside.width() >= none,
-             qPrintable(QStringLiteral("%1 of %2").arg(inside.width()).arg(none)));
+    QVERIFY2(inside >= none, qPrintable(QStringLiteral("%1 of %2").arg(inside).arg(none)));
     QVERIFY(editor->height() >= editor->fontMetrics().height());
     int category = 0;
     const QStringList shown = dialog.shown(0);
@@ -426,12 +436,9 @@ void DialogFormTest::aLongNoneWidensItUntilItFits()
     tests::click(dialog.ui.command_tableView, dialog.cell(0, tests::kDirection));
     const QComboBox *editor = dialog.editor();
     QVERIFY(editor);
-    QStyleOptionComboBox option;
-    option.initFrom(editor);
-    const QRect inside = editor->style()->subControlRect(QStyle::CC_ComboBox, &option,
-                                                         QStyle::SC_ComboBoxEditField, editor);
+    const int inside = widthForText(*editor);
     const int none = editor->fontMetrics().horizontalAdvance(dialog.directionList.item(0)->text());
-    QCOMPARE(inside.width(), none + 1); // of its margin of two pixels, the grid takes one
+    QCOMPARE(inside, none + 1); // of its margin of two pixels, the grid takes one
 }
 
 void DialogFormTest::longMenuCaptionsDoNotWidenIt()
