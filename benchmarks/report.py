@@ -46,6 +46,8 @@ ROWS = [
         "ringOfNewProgram/commands:1000/ring:2", None),
     Row("the ring opens, 1,000 commands", "bench_ring",
         "ringOpens/commands:1000", "a `QMenu` of eight entries", "menuOpens", None),
+    Row("LibreCAD opens the ring: from the X server's event to the picture", "popups.py",
+        "popup/ring", "its own context menu, without gestures", "popup/menu", None),
     Row("the pointer crosses into a sector: event to finished frame", "bench_ring",
         "ringFollows", "that window painted again", "plainWindowFollows/managed:0", 1.5),
     Row("the pointer accepts a sector: event to the end of the gesture", "bench_ring", "ringFades",

@@ -64,16 +64,21 @@ def wait_until_shown():
             raise AssertionError("the program did not show the drawing")
 
 
-def measure(program, command, folder):
+def begin(program, command, folder):
+    """Starts the program with a drawing and a home in the folder."""
     for name, text in program.configuration.items():
         path = folder / "config" / name
         path.parent.mkdir(parents=True, exist_ok=True)
         path.write_text(text, encoding="utf-8")
     environment = dict(os.environ, HOME=str(folder), XDG_CONFIG_HOME=str(folder / "config"),
                        XDG_DATA_HOME=str(folder / "data"), LANG="C.UTF-8")
+    return subprocess.Popen([*command, str(DRAWING)], env=environment, stdin=subprocess.DEVNULL,
+                            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+
+
+def measure(program, command, folder):
     start = time.monotonic()
-    process = subprocess.Popen([*command, str(DRAWING)], env=environment, stdin=subprocess.DEVNULL,
-                               stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    process = begin(program, command, folder)
     try:
         wait_until_shown()
         until_shown = (time.monotonic() - start) * 1000
@@ -84,14 +89,18 @@ def measure(program, command, folder):
         process.wait()
 
 
+def both_ways(program, build):
+    """The commands that start the program without gestures and with them."""
+    return ([program.executable], [str(build.resolve() / "bin/mouse-gestures"), program.executable])
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--build", type=Path, required=True)
     parser.add_argument("--rounds", type=int, default=20)
     options = parser.parse_args()
     program = PROGRAMS["librecad"]
-    commands = ([program.executable],
-                [str(options.build.resolve() / "bin/mouse-gestures"), program.executable])
+    commands = both_ways(program, options.build)
     figures = {}
     with tempfile.TemporaryDirectory() as base:
         for round_number in range(-1, options.rounds):  # the first one only warms up

@@ -28,6 +28,9 @@ test_packages=(
 # Only ./test --coverage needs it.
 coverage_packages=(gcovr)
 
+# Only ./bench and what reads its sources need these.
+bench_packages=(libbenchmark-dev libxdamage-dev)
+
 # docs/build and the package build need these.
 docs_packages=(python3-sphinx python3-myst-parser furo mandoc)
 
