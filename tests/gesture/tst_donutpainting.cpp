@@ -9,6 +9,7 @@
 #include "tests/gesture/GoldenImage.h"
 #include "tests/gesture/PaintRecorder.h"
 #include "tests/support/FatalWarnings.h"
+#include "tests/support/HighDpiPixmaps.h"
 
 #include <QApplication>
 #include <QFontDatabase>
@@ -573,13 +574,8 @@ void DonutPaintingTest::iconsAreOfTheDevicesRatio()
 {
     QFETCH(double, ratio);
     QFETCH(int, pixels);
-    // Programs decide this for Qt 5. Qt 6 knows the attribute and ignores it.
-    QT_WARNING_PUSH
-    QT_WARNING_DISABLE_DEPRECATED
-    const Qt::ApplicationAttribute useHighDpiPixmaps = Qt::AA_UseHighDpiPixmaps;
-    QT_WARNING_POP
     for (const bool programAsks : {false, true}) {
-        QCoreApplication::setAttribute(useHighDpiPixmaps, programAsks);
+        QCoreApplication::setAttribute(tests::kUseHighDpiPixmaps, programAsks);
         PaintedDonut donut(4, 0);
         donut.addIcon(makeIcon(10, 128));
         donut.addIcon(makeIcon(10, 128));
@@ -593,7 +589,7 @@ void DonutPaintingTest::iconsAreOfTheDevicesRatio()
             sizes.push_back(painted.image.size());
             corners.push_back(painted.at);
         }
-        QCoreApplication::setAttribute(useHighDpiPixmaps, false);
+        QCoreApplication::setAttribute(tests::kUseHighDpiPixmaps, false);
         const QSize whole(pixels, pixels);
         QCOMPARE(sizes, (std::vector<QSize>{whole, QSize(16, 16), whole, whole}));
         QCOMPARE(corners, (std::vector<QPointF>{{-10, -10}, {-8, -8}, {-10, -10}, {-10, -10}}));

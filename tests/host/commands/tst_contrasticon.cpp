@@ -4,6 +4,7 @@
 #include "examples/sketchpad/Icons.h"
 #include "host/commands/ContrastIcon.h"
 #include "tests/support/FatalWarnings.h"
+#include "tests/support/HighDpiPixmaps.h"
 
 #include <QIconEngine>
 #include <QPainter>
@@ -268,7 +269,7 @@ void ContrastIconTest::onADenseScreen()
                  said.constData());
         return;
     }
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QCoreApplication::setAttribute(tests::kUseHighDpiPixmaps);
     const QIcon plain = strokes({QColor(0x2b, 0x2b, 0x2b)});
     const QIcon icon = contrastIcon(plain);
     const QImage shown = icon.pixmap(kRingIconSide).toImage();

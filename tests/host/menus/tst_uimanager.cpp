@@ -797,7 +797,7 @@ void UiManagerTest::aWindowTakesOnlyItsOwnMenusAlong()
     const auto entries = [&tools] {
         QVector<int> found;
         for (const QMenu *menu : tools)
-            found.append(captions(*menu).count(QStringLiteral("Gestures...")));
+            found.append(static_cast<int>(captions(*menu).count(QStringLiteral("Gestures..."))));
         return found;
     };
     enter();

@@ -114,6 +114,15 @@ private:
         QCOMPARE(get(store, QStringLiteral("ActiveScheme")), QStringLiteral("8"));
     }
 
+    // What a program says once if others keep the lock for too long.
+    QByteArray busyLine() const
+    {
+        return QStringLiteral(
+                   "mouse gestures: %1 cannot be written, changes last until the program ends\n")
+            .arg(m_path)
+            .toLocal8Bit();
+    }
+
     std::unique_ptr<QTemporaryDir> m_folder;
     QString m_path;
 };
@@ -617,13 +626,8 @@ void ProfileStoreTest::twoCopiesPressingOkLeaveOneOfTheirChoices()
         while (!copy->waitForFinished(1) && copy->state() != QProcess::NotRunning)
             look();
         QCOMPARE(copy->exitCode(), 0);
-        // A copy that had to wait for too long says so once.
-        const QByteArray busy =
-            QStringLiteral("mouse gestures: %1 cannot be written, changes last until the program ends\n")
-                .arg(m_path)
-                .toLocal8Bit();
         const QByteArray said = copy->readAllStandardError();
-        QVERIFY2(said.isEmpty() || said == busy, said.constData());
+        QVERIFY2(said.isEmpty() || said == busyLine(), said.constData());
     }
     look();
     QVERIFY2(choices.size() > 2, qPrintable(QString::number(choices.size())));
@@ -673,7 +677,8 @@ void ProfileStoreTest::manyWritersLoseNothing()
     for (const auto &writer : writers) {
         QVERIFY(writer->waitForFinished());
         QCOMPARE(writer->exitCode(), 0);
-        QCOMPARE(writer->readAllStandardError(), QByteArray());
+        const QByteArray said = writer->readAllStandardError();
+        QVERIFY2(said.isEmpty() || said == busyLine(), said.constData());
     }
     ProfileStore store(m_path);
     for (int i = 0; i < kWriters; ++i) {
