@@ -8,14 +8,12 @@ Prints the same JSON as a Google Benchmark program: microseconds from the event 
 the first picture of the ring, or of the menu. Needs an X server.
 """
 
-import argparse
-import json
 import statistics
 import subprocess
-import sys
 import tempfile
 from pathlib import Path
 
+import figures
 from start import PROGRAMS, both_ways, begin, wait_until_shown, work_until_idle
 
 PLACE = ("700", "450")  # in the drawing; the program's configuration says where its window is
@@ -46,18 +44,12 @@ def measure(program, command, popup, options):
 
 
 def main():
-    parser = argparse.ArgumentParser(description=__doc__)
-    parser.add_argument("--build", type=Path, required=True)
-    parser.add_argument("--rounds", type=int, default=40)
-    options = parser.parse_args()
+    options = figures.options(__doc__, 40)
     program = PROGRAMS["librecad"]
     plain, with_gestures = both_ways(program, options.build)
-    figures = {"popup/menu": measure(program, plain, "menu", options),
-               "popup/ring": measure(program, with_gestures, "ring", options)}
-    print(json.dumps({"benchmarks": [
-        {"run_name": name, "run_type": "iteration", "real_time": value, "time_unit": "us"}
-        for name, value in figures.items()]}))
+    figures.show([("popup/menu", measure(program, plain, "menu", options), "us"),
+                  ("popup/ring", measure(program, with_gestures, "ring", options), "us")])
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    main()

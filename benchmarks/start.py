@@ -10,8 +10,6 @@ idle after that; "memory", kilobytes of proportional memory (PSS) then. Each is 
 the rounds: what else the machine does only adds to a figure. Needs an X server.
 """
 
-import argparse
-import json
 import os
 import statistics
 import subprocess
@@ -19,6 +17,8 @@ import sys
 import tempfile
 import time
 from pathlib import Path
+
+import figures
 
 ROOT = Path(__file__).resolve().parent.parent
 sys.path.insert(0, str(ROOT / "tests/e2e"))
@@ -95,24 +95,19 @@ def both_ways(program, build):
 
 
 def main():
-    parser = argparse.ArgumentParser(description=__doc__)
-    parser.add_argument("--build", type=Path, required=True)
-    parser.add_argument("--rounds", type=int, default=20)
-    options = parser.parse_args()
+    options = figures.options(__doc__, 20)
     program = PROGRAMS["librecad"]
     commands = both_ways(program, options.build)
-    figures = {}
+    found = {}
     with tempfile.TemporaryDirectory() as base:
         for round_number in range(-1, options.rounds):  # the first one only warms up
             for gestures, command in enumerate(commands):
-                found = measure(program, command, Path(base) / str(gestures))
+                taken = measure(program, command, Path(base) / str(gestures))
                 if round_number >= 0:
-                    for name, value in found.items():
-                        figures.setdefault((name, gestures), []).append(value)
-    runs = [{"run_name": f"{name}/gestures:{gestures}", "run_type": "iteration",
-             "real_time": statistics.quantiles(values, method="inclusive")[0], "time_unit": "kB" if name == "memory" else "ms"}
-            for (name, gestures), values in figures.items()]
-    print(json.dumps({"benchmarks": runs}))
+                    for name, value in taken.items():
+                        found.setdefault((name, gestures), []).append(value)
+    figures.show((f"{name}/gestures:{gestures}", statistics.quantiles(values, method="inclusive")[0],
+                  "kB" if name == "memory" else "ms") for (name, gestures), values in found.items())
 
 
 if __name__ == "__main__":

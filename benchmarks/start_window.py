@@ -8,11 +8,10 @@ Prints the same JSON as a Google Benchmark program: milliseconds from starting t
 window is on the screen. Needs an X server.
 """
 
-import argparse
-import json
 import subprocess
 import time
-from pathlib import Path
+
+import figures
 
 SEARCH = ["xdotool", "search", "--onlyvisible", "--name", "^Mouse Gestures$"]
 SECONDS = 30
@@ -41,19 +40,15 @@ def measure(program):
 
 
 def main():
-    parser = argparse.ArgumentParser(description=__doc__)
-    parser.add_argument("--build", type=Path, required=True)
-    parser.add_argument("--rounds", type=int, default=15)
-    options = parser.parse_args()
+    options = figures.options(__doc__, 15)
     programs = {"plain": "bench_plain_window", "settings": "mouse-gestures-settings"}
     runs = []
     for round_number in range(-1, options.rounds):  # the first one only warms up
         for name, program in programs.items():
             taken = measure(options.build.resolve() / "bin" / program)
             if round_number >= 0:
-                runs.append({"run_name": f"window/{name}", "run_type": "iteration",
-                             "real_time": taken, "time_unit": "ms"})
-    print(json.dumps({"benchmarks": runs}))
+                runs.append((f"window/{name}", taken, "ms"))
+    figures.show(runs)
 
 
 if __name__ == "__main__":

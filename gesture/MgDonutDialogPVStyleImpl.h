@@ -100,7 +100,7 @@ private:
     void tellNothing();
     // Makes the window one that the window manager leaves alone.
     void bypassWindowManager();
-    // Paints the first frame, if Qt would wait for the event loop with it.
+    // Paints the first frame now. Qt would do it later, in the event loop.
     void paintAtOnce();
     // Makes the native window belong to the window that shows the view.
     void followWindowOf(const QWidget &view);

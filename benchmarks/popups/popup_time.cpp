@@ -36,6 +36,7 @@ constexpr int kDrag = 30; // pixels; more than 20 open the ring
 constexpr milliseconds kRest(300); // until the program, its window manager and the compositor are idle
 constexpr milliseconds kBetween(50); // from a press to the movement or the release that is timed
 constexpr milliseconds kPatience(5000);
+constexpr int kPoll = 100; // milliseconds; then the patience is looked at
 
 // Windows may be gone when their events arrive.
 int ignoreError(Display * /*display*/, XErrorEvent * /*error*/)
@@ -72,14 +73,10 @@ public:
     void rest()
     {
         std::this_thread::sleep_for(kRest);
-        XSync(m_display, False);
-        while (XPending(m_display))
-            take();
+        takeAll();
         for (const auto &[window, damage] : m_damages)
             XDamageSubtract(m_display, damage, None, None);
-        XSync(m_display, False);
-        while (XPending(m_display))
-            take();
+        takeAll();
         m_painted.reset();
     }
 
@@ -102,6 +99,13 @@ private:
             || !attributes.override_redirect)
             return;
         m_damages[window] = XDamageCreate(m_display, window, XDamageReportNonEmpty);
+    }
+
+    void takeAll()
+    {
+        XSync(m_display, False);
+        while (XPending(m_display))
+            take();
     }
 
     void take()
@@ -134,7 +138,7 @@ private:
                 take();
             } else {
                 pollfd connection{ConnectionNumber(m_display), POLLIN, 0};
-                poll(&connection, 1, 100);
+                poll(&connection, 1, kPoll);
             }
             if (Clock::now() > end)
                 return false;
@@ -160,9 +164,10 @@ public:
     {
     }
 
-    void moveBy(int down)
+    // Moves the pointer to that many pixels below the place.
+    void moveTo(int below)
     {
-        XTestFakeMotionEvent(m_display, -1, m_x, m_y + down, CurrentTime);
+        XTestFakeMotionEvent(m_display, -1, m_x, m_y + below, CurrentTime);
         XFlush(m_display);
     }
     void button(bool isDown)
@@ -197,13 +202,13 @@ int main(int argc, char **argv)
     Hand hand(display, std::atoi(argv[2]), std::atoi(argv[3]));
     Popups popups(display);
     for (int round = std::atoi(argv[4]); round > 0; --round) {
-        hand.moveBy(0);
+        hand.moveTo(0);
         popups.rest();
         hand.button(true);
         std::this_thread::sleep_for(kBetween);
         const auto start = Clock::now();
         if (isRing)
-            hand.moveBy(kDrag);
+            hand.moveTo(kDrag);
         else
             hand.button(false);
         if (!popups.waitForPicture()) {

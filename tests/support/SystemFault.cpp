@@ -42,7 +42,7 @@ bool fails(SystemCall call)
     return true;
 }
 
-// What a call that fails says of `size` bytes.
+// Returns the result of a failed call for `size` bytes: all of them if it pretends, else -1.
 ssize_t answer(std::size_t size)
 {
     return errno == SystemFault::kPretends ? ssize_t(size) : -1;

@@ -720,7 +720,7 @@ void UiManagerTest::twoWhoWantToBeLastDoNotFight()
     QTRY_VERIFY(isLastAgain());
 }
 
-// What a program does in answer to the host's own move is not answered.
+// The host does not move its entry again when the program answers the host's own move.
 void UiManagerTest::whoIsLastAtOnceStaysLast()
 {
     class Rival : public QObject

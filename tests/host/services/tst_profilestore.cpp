@@ -114,7 +114,7 @@ private:
         QCOMPARE(get(store, QStringLiteral("ActiveScheme")), QStringLiteral("8"));
     }
 
-    // What a program says once if others keep the lock for too long.
+    // The line that a program prints once if others keep the lock for too long.
     QByteArray busyLine() const
     {
         return QStringLiteral(
