@@ -15,6 +15,18 @@ void MgCommandTableView::beginEditing(const QModelIndex &index)
     edit(index, AllEditTriggers, nullptr);
 }
 
+void MgCommandTableView::showEvent(QShowEvent *event)
+{
+    QTableView::showEvent(event);
+    updateGeometries();
+}
+
+void MgCommandTableView::updateGeometries()
+{
+    if (isVisible())
+        QTableView::updateGeometries();
+}
+
 void MgCommandTableView::commitData(QWidget *editor)
 {
     const auto *box = qobject_cast<DirectionBox *>(editor);
