@@ -1,0 +1,91 @@
+#!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 GestureWidget developers
+# SPDX-License-Identifier: MIT
+
+"""Tests scripts/flakes with a build folder of small tests."""
+
+import subprocess
+import tempfile
+import unittest
+from pathlib import Path
+
+SCRIPT = Path(__file__).resolve().parents[2] / "scripts" / "flakes"
+
+
+class Flakes(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.build = Path(folder.name)
+
+    def offer(self, **commands):
+        """Makes CTest know these tests: a shell command for each name."""
+        (self.build / "CTestTestfile.cmake").write_text(
+            "".join(f'add_test({name} "/bin/sh" "-c" "{command}")\n'
+                    f"set_tests_properties({name} PROPERTIES SKIP_RETURN_CODE 77)\n"
+                    for name, command in commands.items()), encoding="utf-8")
+
+    def flakes(self, *arguments):
+        """Returns the exit status and the lines that the script printed."""
+        result = subprocess.run([SCRIPT, "--build", self.build, "--times", "2", *arguments],
+                                stdout=subprocess.PIPE, check=False, text=True)
+        return result.returncode, result.stdout.splitlines()
+
+    def runs(self, name):
+        file = self.build / name
+        return len(file.read_text(encoding="utf-8").splitlines()) if file.exists() else 0
+
+    def test_runs_each_test_in_both_states(self):
+        self.offer(good=f"echo x >>{self.build}/good.runs", other=f"echo x >>{self.build}/other.runs")
+        status, lines = self.flakes("--jobs", "2")
+        self.assertEqual(status, 0)
+        self.assertEqual((self.runs("good.runs"), self.runs("other.runs")), (4, 4))
+        self.assertEqual(lines[-1], "2 of 2 tests 2 times quiet, 2 of them 2 times beside 4 busy loops: "
+                                    "0 of 8 runs failed")
+
+    def test_counts_failures_and_keeps_their_output(self):
+        self.offer(good="true", bad="echo reason; false")
+        status, lines = self.flakes()
+        self.assertEqual(status, 1)
+        self.assertTrue(lines[-1].startswith("2 of 2 tests 2 times quiet, 2 of them 2 times beside 4 "
+                                             "busy loops: 4 of 8 runs failed"), lines)
+        self.assertIn("reason", (self.build / "flakes" / "bad-busy-2.log").read_text(encoding="utf-8"))
+
+    def test_skipped_test_counts_as_failure(self):
+        self.offer(skipped="exit 77")
+        status, lines = self.flakes()
+        self.assertEqual(status, 1)
+        self.assertIn("4 of 4 runs failed", lines[-1])
+
+    def test_begins_no_run_after_the_time(self):
+        self.offer(good=f"echo x >>{self.build}/good.runs")
+        _, lines = self.flakes("--minutes", "0.000001")
+        self.assertEqual(lines[-1], "0 of 1 tests 2 times quiet, 0 of them 2 times beside 4 busy loops: "
+                                    "0 of 0 runs failed")
+        self.assertEqual(self.runs("good.runs"), 0)
+
+    def test_goes_on_with_what_is_missing(self):
+        self.offer(good=f"echo x >>{self.build}/good.runs", other=f"echo x >>{self.build}/other.runs")
+        self.flakes("good")
+        status, lines = self.flakes("--continue")
+        self.assertEqual(status, 0)
+        self.assertTrue(lines[-1].startswith("2 of 2 tests 2 times quiet, 2 of them"), lines)
+        self.assertEqual((self.runs("good.runs"), self.runs("other.runs")), (4, 4))
+
+    def test_figures_tell_of_all_tests(self):
+        self.offer(good="true")
+        self.flakes("good")
+        self.assertFalse((self.build / "figures").exists())
+        self.flakes("--without", "long|desk")
+        self.assertEqual((self.build / "figures" / "flakes.txt").read_text(encoding="utf-8"),
+                         "1 of 1 tests 2 times quiet, 1 of them 2 times beside 4 busy loops: "
+                         "0 of 4 runs failed (without those labelled long|desk)\n")
+
+    def test_no_such_test(self):
+        self.offer(good="true")
+        status, _ = self.flakes("bad")
+        self.assertEqual(status, 2)
+
+
+if __name__ == "__main__":
+    unittest.main()
