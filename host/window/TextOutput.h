@@ -5,15 +5,16 @@
 
 #include "sdk/chx/CHxTextOutput.h"
 
+#include <QDeadlineTimer>
 #include <QMainWindow>
 #include <QPointer>
-
-class QStatusBar;
-class QString;
+#include <QStatusBar>
+#include <QString>
 
 namespace gesturewidget {
 
-// Writes to the program's status bar, if there is one.
+// Writes to the program's status bar, if there is one. The program's own message there comes back when
+// the text is empty again, unless its time is over or the program has written another one since.
 class TextOutput : public CHxTextOutput
 {
 public:
@@ -22,7 +23,7 @@ public:
     ~TextOutput() override;
 
     // Writes to another main window from now on. Not owned; may be null.
-    void setWindow(QWidget *window) { m_window = window; }
+    void setWindow(QWidget *window);
 
     void SetText(const CHxString &text, bool immediate) override;
     // Shows a line for some seconds.
@@ -30,8 +31,16 @@ public:
 
 private:
     [[nodiscard]] QStatusBar *statusBar() const;
+    [[nodiscard]] bool isShown() const;
+    // Remembers the message of the program that the next text hides.
+    void keepMessageOf(QStatusBar &bar);
+    void giveMessageBack();
 
     QPointer<QWidget> m_window; // during its destruction it is no longer a QMainWindow
+    QPointer<QStatusBar> m_bar; // in which m_text was written
+    QString m_text;
+    QString m_hidden; // the program's message
+    QDeadlineTimer m_hiddenEnd;
 };
 
 } // namespace gesturewidget

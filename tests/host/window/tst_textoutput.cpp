@@ -22,6 +22,11 @@ private Q_SLOTS:
     void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
 
     void showsAndClears();
+    void bringsBackTheProgramsMessage();
+    void messageWithATimeComesBackForTheRest();
+    void messageThatIsOverStaysAway();
+    void newerMessageOfTheProgramStays();
+    void eachBarGetsItsOwnMessageBack();
     void paintsAtOnceWhenAsked();
     void aStatusBarIsNeverMade();
     void onlyTheWindowsOwnBarIsUsed();
@@ -41,6 +46,79 @@ void TextOutputTest::showsAndClears()
     QCOMPARE(bar->currentMessage(), QString());
     output.showForAWhile(QStringLiteral("For a while"));
     QCOMPARE(bar->currentMessage(), QStringLiteral("For a while"));
+}
+
+void TextOutputTest::bringsBackTheProgramsMessage()
+{
+    QMainWindow window;
+    QStatusBar *bar = window.statusBar();
+    bar->showMessage(QStringLiteral("Specify first point"));
+    TextOutput output(&window);
+    output.SetText("Line", false);
+    output.SetText("Circle", false);
+    QCOMPARE(bar->currentMessage(), QStringLiteral("Circle"));
+    output.SetText("", false);
+    QCOMPARE(bar->currentMessage(), QStringLiteral("Specify first point"));
+    output.SetText("", true); // nothing of ours is shown
+    QCOMPARE(bar->currentMessage(), QStringLiteral("Specify first point"));
+}
+
+void TextOutputTest::messageWithATimeComesBackForTheRest()
+{
+    QMainWindow window;
+    QStatusBar *bar = window.statusBar();
+    bar->showMessage(QStringLiteral("Saved"), 2000);
+    TextOutput output(&window);
+    output.SetText("Line", false);
+    output.SetText("", false);
+    QCOMPARE(bar->currentMessage(), QStringLiteral("Saved"));
+    QTRY_COMPARE(bar->currentMessage(), QString());
+}
+
+void TextOutputTest::messageThatIsOverStaysAway()
+{
+    QMainWindow window;
+    QStatusBar *bar = window.statusBar();
+    bar->showMessage(QStringLiteral("Saved"), 50);
+    TextOutput output(&window);
+    output.SetText("Line", false);
+    QElapsedTimer since;
+    since.start();
+    QTRY_VERIFY(since.elapsed() > 60);
+    QCOMPARE(bar->currentMessage(), QStringLiteral("Line"));
+    output.SetText("", false);
+    QCOMPARE(bar->currentMessage(), QString());
+}
+
+void TextOutputTest::newerMessageOfTheProgramStays()
+{
+    QMainWindow window;
+    QStatusBar *bar = window.statusBar();
+    bar->showMessage(QStringLiteral("Specify first point"));
+    TextOutput output(&window);
+    output.SetText("Line", false);
+    bar->showMessage(QStringLiteral("Specify second point"));
+    output.SetText("", false);
+    QCOMPARE(bar->currentMessage(), QStringLiteral("Specify second point"));
+    bar->clearMessage();
+    output.SetText("Line", false);
+    output.SetText("", false);
+    QCOMPARE(bar->currentMessage(), QString());
+}
+
+void TextOutputTest::eachBarGetsItsOwnMessageBack()
+{
+    QMainWindow first;
+    first.statusBar()->showMessage(QStringLiteral("Of the first"));
+    QMainWindow second;
+    second.statusBar()->showMessage(QStringLiteral("Of the second"));
+    TextOutput output(&first);
+    output.SetText("Line", false);
+    output.setWindow(&second);
+    QCOMPARE(first.statusBar()->currentMessage(), QStringLiteral("Of the first"));
+    output.SetText("Line", false);
+    output.SetText("", false);
+    QCOMPARE(second.statusBar()->currentMessage(), QStringLiteral("Of the second"));
 }
 
 void TextOutputTest::paintsAtOnceWhenAsked()
