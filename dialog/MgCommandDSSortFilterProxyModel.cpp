@@ -66,14 +66,12 @@ bool MgCommandDSSortFilterProxyModel::lessThan(const QModelIndex &left, const QM
 
     // Compares as the base class does with its default settings, but without wrapping every text
     // in a variant: thousands of commands are sorted when the dialog opens.
+    const bool isDefault = sortRole() == Qt::DisplayRole && sortCaseSensitivity() == Qt::CaseSensitive
+                        && !isSortLocaleAware();
+    if (!isDefault)
+        return QSortFilterProxyModel::lessThan(left, right);
     const MgCommandDS *first = commands->recordAt(left.row());
     const MgCommandDS *second = commands->recordAt(right.row());
-    if (first && second && sortRole() == Qt::DisplayRole && sortCaseSensitivity() == Qt::CaseSensitive
-        && !isSortLocaleAware()) {
-        if (left.column() == MgCommandDSModel::kCategoryColumn)
-            return first->category < second->category;
-        if (left.column() == MgCommandDSModel::kCommandColumn)
-            return first->displayName < second->displayName;
-    }
-    return QSortFilterProxyModel::lessThan(left, right);
+    return left.column() == MgCommandDSModel::kCategoryColumn ? first->category < second->category
+                                                              : first->displayName < second->displayName;
 }
