@@ -59,7 +59,7 @@ bool MgCommandDSSortFilterProxyModel::filterAcceptsRow(int sourceRow,
 bool MgCommandDSSortFilterProxyModel::lessThan(const QModelIndex &left, const QModelIndex &right) const
 {
     const auto *commands = qobject_cast<const MgCommandDSModel *>(sourceModel());
-    if (!commands || !left.isValid() || !right.isValid() || left.column() != right.column())
+    if (!commands || !left.isValid() || left.column() != right.column())
         return QSortFilterProxyModel::lessThan(left, right);
     if (left.column() == MgCommandDSModel::kDirectionColumn)
         return commands->getInvokerType(left.row()) < commands->getInvokerType(right.row());

@@ -345,7 +345,6 @@ void MgDonutDialogManager::goToFirstCommand()
     const QModelIndex first = proxy->index(0, MgCommandDSModel::kDirectionColumn);
     if (!first.isValid())
         return;
-    table->setFocus(Qt::TabFocusReason);
     table->selectionModel()->setCurrentIndex(first, QItemSelectionModel::ClearAndSelect
                                                         | QItemSelectionModel::Rows);
     showSelectedCommand();

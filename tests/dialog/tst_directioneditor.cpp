@@ -97,6 +97,8 @@ private Q_SLOTS:
     void currentCellHasALine();
     void onlyElidedTextsHaveTooltips();
     void helpElsewhereIsTheBaseClasses();
+    void focusRectangleIsTheStyles();
+    void otherEditorsShowWhatTheBaseClassShows();
 
     void styleIsPlastiqueWhereThereIsOne();
     void styleDrawsNoFocusRectangle();
@@ -859,6 +861,56 @@ void DirectionEditorTest::helpElsewhereIsTheBaseClasses()
                  isHandled(base, QEvent::QueryWhatsThis, place));
     QCOMPARE(isHandled(*delegate, QEvent::ToolTip, QModelIndex()),
              isHandled(base, QEvent::ToolTip, QModelIndex()));
+}
+
+// In a table whose style draws a focus rectangle, the delegate draws it too.
+void DirectionEditorTest::focusRectangleIsTheStyles()
+{
+    class Delegate : public MgCommandModelDelegate
+    {
+    public:
+        using MgCommandModelDelegate::drawFocus;
+        using MgCommandModelDelegate::MgCommandModelDelegate;
+    };
+    class Base : public QItemDelegate
+    {
+    public:
+        using QItemDelegate::drawFocus;
+    };
+    QStandardItemModel directions;
+    const Delegate delegate(&directions, nullptr);
+    const Base base;
+    QStyleOptionViewItem option;
+    option.rect = QRect(2, 2, 50, 20);
+    option.state = QStyle::State_Enabled | QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
+    const auto blank = [] {
+        QImage image(60, 30, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::white);
+        return image;
+    };
+    QImage drawn = blank();
+    QImage expected = blank();
+    QPainter drawnPainter(&drawn);
+    delegate.drawFocus(&drawnPainter, option, option.rect);
+    QPainter expectedPainter(&expected);
+    base.drawFocus(&expectedPainter, option, option.rect);
+    QVERIFY(expected != blank());
+    QCOMPARE(drawn, expected);
+}
+
+// A derived class may have editors of its own.
+void DirectionEditorTest::otherEditorsShowWhatTheBaseClassShows()
+{
+    open("8");
+    const QAbstractItemDelegate *delegate = m_dialog->ui.command_tableView->itemDelegate();
+    QLineEdit line;
+    delegate->setEditorData(&line, directionCell(QStringLiteral("A")));
+    QCOMPARE(line.text(), QStringLiteral("3"));
+    QComboBox box;
+    box.addItems({QStringLiteral("one"), QStringLiteral("two")});
+    box.setCurrentIndex(1);
+    delegate->setEditorData(&box, m_dialog->cell(0, kCommand));
+    QCOMPARE(box.currentIndex(), 1);
 }
 
 void DirectionEditorTest::styleIsPlastiqueWhereThereIsOne()
