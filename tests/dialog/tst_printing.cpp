@@ -142,6 +142,7 @@ private Q_SLOTS:
     void everyPageHasWholeRowsBelowTheHeader();
     void aRowIsAsHighAsItsHighestCell();
     void cellsOfARowAlign();
+    void iconsAreCentredOnTheirText();
     void theNumberIsFivePointsBelowThePage();
     void theTableFillsThePageInsideItsMargins();
     void chosenPagesOnly();
@@ -654,6 +655,31 @@ void PrintingTest::cellsOfARowAlign()
             nearest = std::min(nearest, std::abs(line - word.middle));
         QVERIFY2(nearest < 1, qPrintable(QStringLiteral("%1: %2 points").arg(word.text).arg(nearest)));
     }
+}
+
+// In the font of the text beside it.
+void PrintingTest::iconsAreCentredOnTheirText()
+{
+    QStandardItemModel model(1, 2);
+    model.setItem(0, 0, new QStandardItem(QStringLiteral("plain")));
+    model.setItem(0, 1, new QStandardItem(tests::squareIcon(Qt::red), QStringLiteral("beside")));
+    QFont font;
+    font.setPointSize(16);
+    for (int column = 0; column < 2; ++column)
+        model.setData(model.index(0, column), font, Qt::FontRole);
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(m_file);
+    printBindingList(*documentOf(&model), printer);
+    const QString page =
+        run(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), m_file, QStringLiteral("-")});
+    const auto top = [&page](const QString &word) {
+        const QRegularExpression place(QStringLiteral("yMin=\"([0-9.]+)\"[^>]*>%1</word>").arg(word));
+        return place.match(page).captured(1).toDouble();
+    };
+    QVERIFY(top(QStringLiteral("plain")) > 0);
+    const qreal apart = top(QStringLiteral("plain")) - top(QStringLiteral("beside"));
+    QVERIFY2(std::abs(apart) < 1, qPrintable(QString::number(apart)));
 }
 
 // As Qt prints the pages of a text.
