@@ -15,6 +15,7 @@
 #include <QBoxLayout>
 #include <QHeaderView>
 #include <QItemDelegate>
+#include <QProxyStyle>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QStyle>
@@ -39,6 +40,19 @@ int widthForText(const QComboBox &box)
 }
 
 } // namespace
+
+// Most styles happen to have the form's spacing.
+class SpaciousStyle : public QProxyStyle
+{
+public:
+    [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption *option,
+                                  const QWidget *widget) const override
+    {
+        return metric == PM_LayoutHorizontalSpacing || metric == PM_LayoutVerticalSpacing
+                 ? 17
+                 : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+};
 
 // A dialog with a slot that is named after a button of the form.
 class DialogWithANamedSlot : public QDialog
@@ -261,7 +275,9 @@ void DialogFormTest::layouts()
 {
     QFETCH(QString, className);
     QFETCH(QStringList, items);
-    const TestDialog dialog;
+    SpaciousStyle style;
+    TestDialog dialog;
+    dialog.setStyle(&style);
     const QString name = QLatin1String(QTest::currentDataTag());
     const auto *layout = dialog.findChild<QBoxLayout *>(name);
     QVERIFY(layout);
