@@ -29,7 +29,6 @@ constexpr qreal kPageNumberGap = 5 / 72.0; // inches, above a page number
 void centreIcons(QTextDocument &document, QPrinter &printer)
 {
     QTextCursor cursor(&document);
-    cursor.beginEditBlock();
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         for (auto part = block.begin(); !part.atEnd(); ++part) {
             const QTextFragment image = part.fragment();
@@ -50,7 +49,6 @@ void centreIcons(QTextDocument &document, QPrinter &printer)
             break; // a cell has one image, and the parts are others now
         }
     }
-    cursor.endEditBlock();
 }
 
 // A horizontal strip of the laid-out document, in pixels of the printer.
