@@ -41,16 +41,24 @@ int widthForText(const QComboBox &box)
 
 } // namespace
 
-// Most styles happen to have the form's spacing.
+// Most styles happen to have the form's spacing and margins.
 class SpaciousStyle : public QProxyStyle
 {
 public:
     [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption *option,
                                   const QWidget *widget) const override
     {
-        return metric == PM_LayoutHorizontalSpacing || metric == PM_LayoutVerticalSpacing
-                 ? 17
-                 : QProxyStyle::pixelMetric(metric, option, widget);
+        switch (metric) {
+        case PM_LayoutHorizontalSpacing:
+        case PM_LayoutVerticalSpacing:
+        case PM_LayoutLeftMargin:
+        case PM_LayoutTopMargin:
+        case PM_LayoutRightMargin:
+        case PM_LayoutBottomMargin:
+            return 17;
+        default:
+            return QProxyStyle::pixelMetric(metric, option, widget);
+        }
     }
 };
 
