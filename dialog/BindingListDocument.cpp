@@ -130,13 +130,12 @@ QTextTableFormat tableFormat()
 QTextDocument *createBindingListDocument(QAbstractItemModel *model)
 {
     auto document = std::make_unique<QTextDocument>();
-    const int rows = model ? std::max(model->rowCount(), 0) : 0;
     const int columns = model ? model->columnCount() : 0;
-    QTextCursor cursor(document.get());
-    QTextTable *table = columns > 0 ? cursor.insertTable(rows + 1, columns) : nullptr;
-    if (!table)
+    if (columns <= 0)
         return document.release();
 
+    const int rows = std::max(model->rowCount(), 0);
+    QTextTable *table = QTextCursor(document.get()).insertTable(rows + 1, columns);
     for (int column = 0; column < columns; ++column)
         fillHeader(*model, column, table->cellAt(0, column));
     for (int row = 0; row < rows; ++row) {

@@ -29,7 +29,6 @@ constexpr qreal kPageNumberGap = 5 / 72.0; // inches, above a page number
 void centreIcons(QTextDocument &document, QPrinter &printer)
 {
     QTextCursor cursor(&document);
-    cursor.beginEditBlock();
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         for (auto part = block.begin(); !part.atEnd(); ++part) {
             const QTextFragment image = part.fragment();
@@ -50,14 +49,13 @@ void centreIcons(QTextDocument &document, QPrinter &printer)
             break; // a cell has one image, and the parts are others now
         }
     }
-    cursor.endEditBlock();
 }
 
 // A horizontal strip of the laid-out document, in pixels of the printer.
 struct Strip
 {
-    qreal top;
-    qreal bottom;
+    qreal top{};
+    qreal bottom{};
     [[nodiscard]] qreal height() const { return bottom - top; }
 };
 
@@ -72,7 +70,7 @@ Strip stripOf(QTextTable &table, int row, qreal scale)
 {
     const QAbstractTextDocumentLayout *layout = table.document()->documentLayout();
     const qreal padding = table.format().cellPadding() * scale;
-    Strip strip{layout->frameBoundingRect(&table).bottom(), 0};
+    Strip strip{layout->frameBoundingRect(&table).bottom()};
     for (int column = 0; column < table.columns(); ++column) {
         const QTextTableCell cell = table.cellAt(row, column);
         // Margins of blocks take no room at the edges of a cell.
@@ -92,13 +90,13 @@ std::vector<Strip> pagesOf(QTextTable &table, qreal scale, qreal room)
         const Strip strip = stripOf(table, row, scale);
         if (pages.empty() || strip.bottom - pages.back().top > room)
             pages.push_back({strip.top, strip.top});
-        for (; strip.bottom - pages.back().top > room; pages.push_back({pages.back().bottom, 0}))
+        for (; strip.bottom - pages.back().top > room; pages.push_back({pages.back().bottom}))
             pages.back().bottom = pages.back().top + room;
         pages.back().bottom = strip.bottom;
     }
     // A header without rows is a page too.
     if (pages.empty())
-        pages.push_back({0, 0});
+        pages.push_back({});
     return pages;
 }
 
@@ -109,7 +107,6 @@ void draw(const QTextDocument &document, QPainter &painter, const Strip &strip, 
     // The clip is a little smaller. Otherwise the layout also writes the clipped text of the next rows,
     // and a search in the file would find it.
     context.clip = area.adjusted(0, kRounding, 0, -kRounding);
-    context.palette.setColor(QPalette::Text, Qt::black);
     painter.save();
     painter.translate(position.x(), position.y() - strip.top);
     painter.setClipRect(area);
@@ -117,10 +114,9 @@ void draw(const QTextDocument &document, QPainter &painter, const Strip &strip, 
     painter.restore();
 }
 
-void drawPageNumber(const QTextDocument &document, QPainter &painter, const QRectF &body, int number)
+void drawPageNumber(QPainter &painter, const QRectF &body, int number)
 {
-    painter.setFont(document.defaultFont());
-    const QFontMetrics metrics(document.defaultFont(), painter.device());
+    const QFontMetrics metrics = painter.fontMetrics();
     const QString text = QString::number(number);
     painter.drawText(
         QPointF(body.right() - metrics.horizontalAdvance(text),
@@ -141,8 +137,8 @@ void printBindingList(const QTextDocument &source, QPrinter &printer)
     const qreal scale = printer.logicalDpiY() / kDocumentDpi;
     const qreal across = kMargin * printer.logicalDpiX();
     const qreal down = kMargin * printer.logicalDpiY();
-    const QRectF body =
-        QRectF(0, 0, printer.width(), printer.height()).adjusted(across, down, -across, -down);
+    const QRectF body = QRectF(QPointF(), QSizeF(printer.width(), printer.height()))
+                            .adjusted(across, down, -across, -down);
     centreIcons(*document, printer);
     document->setDocumentMargin(0);
     document->documentLayout()->setPaintDevice(&printer);
@@ -163,6 +159,6 @@ void printBindingList(const QTextDocument &source, QPrinter &printer)
         const int page = backwards ? to - count : from + count;
         draw(*document, painter, header, body.topLeft());
         draw(*document, painter, pages[page - 1], QPointF(body.left(), rowsTop));
-        drawPageNumber(*document, painter, body, page);
+        drawPageNumber(painter, body, page);
     }
 }

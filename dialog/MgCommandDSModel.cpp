@@ -74,8 +74,7 @@ bool MgCommandDSModel::setData(const QModelIndex &index, const QVariant &value, 
     const auto direction = static_cast<unsigned char>(value.toInt());
     const bool changed = direction != getInvokerType(index.row());
     const bool four = manager->getScheme() == MgDonutDialogManager::Four;
-    const int holderRow = findHolder(four, direction);
-    MgCommandDS *holder = holderRow >= 0 ? &records[holderRow] : nullptr;
+    MgCommandDS *holder = findHolder(four, direction);
 
     std::vector<Bytes> before{bytesOf(record)};
     if (holder && holder != &record)
@@ -100,13 +99,13 @@ bool MgCommandDSModel::setData(const QModelIndex &index, const QVariant &value, 
     return true;
 }
 
-int MgCommandDSModel::findHolder(bool inFourScheme, unsigned char direction) const
+MgCommandDS *MgCommandDSModel::findHolder(bool inFourScheme, unsigned char direction)
 {
     const auto byte = inFourScheme ? &MgCommandDS::fourDirection : &MgCommandDS::eightDirection;
     const auto found = std::find_if(records.begin(), records.end(), [=](const MgCommandDS &record) {
         return record.*byte == direction;
     });
-    return found == records.end() ? -1 : static_cast<int>(found - records.begin());
+    return found == records.end() ? nullptr : &*found;
 }
 
 MgCommandDSModel::Bytes MgCommandDSModel::bytesOf(const MgCommandDS &record) const

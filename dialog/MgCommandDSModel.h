@@ -81,8 +81,8 @@ protected:
 private:
     // Null when the dialog is not one that this model can work for.
     [[nodiscard]] MgDonutDialogManager *dialogManager() const;
-    // The first row that has a direction in one scheme; -1 for none.
-    [[nodiscard]] int findHolder(bool inFourScheme, unsigned char direction) const;
+    // The first record that has a direction in one scheme; null for none.
+    [[nodiscard]] MgCommandDS *findHolder(bool inFourScheme, unsigned char direction);
     static void assignInFourScheme(MgCommandDS &record, MgCommandDS *holder, unsigned char direction);
     static void assignInEightScheme(MgCommandDS &record, MgCommandDS *holder, unsigned char direction);
 

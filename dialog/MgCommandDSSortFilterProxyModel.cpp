@@ -59,21 +59,19 @@ bool MgCommandDSSortFilterProxyModel::filterAcceptsRow(int sourceRow,
 bool MgCommandDSSortFilterProxyModel::lessThan(const QModelIndex &left, const QModelIndex &right) const
 {
     const auto *commands = qobject_cast<const MgCommandDSModel *>(sourceModel());
-    if (!commands || !left.isValid() || !right.isValid() || left.column() != right.column())
+    if (!commands || !left.isValid() || left.column() != right.column())
         return QSortFilterProxyModel::lessThan(left, right);
     if (left.column() == MgCommandDSModel::kDirectionColumn)
         return commands->getInvokerType(left.row()) < commands->getInvokerType(right.row());
 
     // Compares as the base class does with its default settings, but without wrapping every text
     // in a variant: thousands of commands are sorted when the dialog opens.
+    const bool isDefault = sortRole() == Qt::DisplayRole && sortCaseSensitivity() == Qt::CaseSensitive
+                        && !isSortLocaleAware();
+    if (!isDefault)
+        return QSortFilterProxyModel::lessThan(left, right);
     const MgCommandDS *first = commands->recordAt(left.row());
     const MgCommandDS *second = commands->recordAt(right.row());
-    if (first && second && sortRole() == Qt::DisplayRole && sortCaseSensitivity() == Qt::CaseSensitive
-        && !isSortLocaleAware()) {
-        if (left.column() == MgCommandDSModel::kCategoryColumn)
-            return first->category < second->category;
-        if (left.column() == MgCommandDSModel::kCommandColumn)
-            return first->displayName < second->displayName;
-    }
-    return QSortFilterProxyModel::lessThan(left, right);
+    return left.column() == MgCommandDSModel::kCategoryColumn ? first->category < second->category
+                                                              : first->displayName < second->displayName;
 }

@@ -117,9 +117,8 @@ bool MgCommandModelDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *vie
 {
     const gesturewidget::OwnCode ours;
     if (event->type() == QEvent::ToolTip && index.isValid()) {
-        QStyleOptionViewItem wide = option;
-        wide.rect.setWidth(QWIDGETSIZE_MAX);
-        const bool isElided = QItemDelegate::sizeHint(wide, index).width() > option.rect.width();
+        // The table wraps no texts, so the hint is the width of the whole text.
+        const bool isElided = QItemDelegate::sizeHint(option, index).width() > option.rect.width();
         if (index.column() == MgCommandDSModel::kDirectionColumn || !isElided) {
             QToolTip::hideText();
             return true;

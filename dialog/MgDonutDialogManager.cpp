@@ -141,9 +141,7 @@ MgDonutDialogManager::~MgDonutDialogManager() = default;
 // The description becomes wider with the dialog.
 void MgDonutDialogManager::setFixedDialogWidth(int newWidth)
 {
-    setMinimumWidth(newWidth);
-    setMaximumWidth(newWidth);
-    resize(newWidth, height());
+    setFixedWidth(newWidth);
     const QMargins margins = ui.verticalLayout_5->contentsMargins();
     QGroupBox *box = ui.description_groupBox;
     QLabel *label = ui.description_label;
@@ -300,8 +298,7 @@ void MgDonutDialogManager::widenForDirections()
                      + columns->sectionSize(MgCommandDSModel::kCategoryColumn)
                      + columns->sectionSize(MgCommandDSModel::kCommandColumn) + direction
                      + table->verticalScrollBar()->sizeHint().width();
-    if (needed > width())
-        setFixedDialogWidth(needed);
+    setFixedDialogWidth(std::max(needed, width()));
 }
 
 void MgDonutDialogManager::setUpKeys()
@@ -348,7 +345,6 @@ void MgDonutDialogManager::goToFirstCommand()
     const QModelIndex first = proxy->index(0, MgCommandDSModel::kDirectionColumn);
     if (!first.isValid())
         return;
-    table->setFocus(Qt::TabFocusReason);
     table->selectionModel()->setCurrentIndex(first, QItemSelectionModel::ClearAndSelect
                                                         | QItemSelectionModel::Rows);
     showSelectedCommand();
@@ -561,10 +557,8 @@ void MgDonutDialogManager::showSelectedCommand()
 
     const QModelIndex shown = rows.front();
     const std::vector<MgCommandDS> commands = model->getCommands();
-    const int row = proxy->mapToSource(shown).row();
-    if (row < 0 || row >= static_cast<int>(commands.size()))
-        return;
-    ui.description_label->setText(commands[row].tooltip.left(kLongestDescription));
+    const QString &description = commands[proxy->mapToSource(shown).row()].tooltip;
+    ui.description_label->setText(description.left(kLongestDescription));
     table->beginEditing(shown.sibling(shown.row(), MgCommandDSModel::kDirectionColumn));
 }
 

@@ -10,8 +10,10 @@
 
 void PrintTableView::printTable(QPainter *painter, const QRect &area)
 {
-    const int rows = model() ? model()->rowCount() : 0;
-    const int columns = model() ? model()->columnCount() : 0;
+    if (!model())
+        return;
+    const int rows = model()->rowCount();
+    const int columns = model()->columnCount();
     qreal totalWidth = 0;
     for (int column = 0; column < columns; ++column)
         totalWidth += columnWidth(column);

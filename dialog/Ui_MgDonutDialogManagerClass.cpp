@@ -25,10 +25,10 @@ namespace {
 constexpr int kSpacing = 6; // pixels, inside every box layout
 constexpr int kMargin = 11; // pixels, around the dialog's content
 
+// It takes the spacing of the layout that it is put into.
 template <class Layout> Layout *newLayout(const char *name)
 {
     auto *layout = new Layout;
-    layout->setSpacing(kSpacing);
     layout->setObjectName(QLatin1String(name));
     return layout;
 }

@@ -104,7 +104,9 @@ private Q_SLOTS:
     void sortingTextsIsCaseSensitiveAndStable();
     void theSameOrderAgainIsNoWork();
     void sortsAgainWhenTheFilterIsApplied();
+    void announcesAllDirectionsWhenTheFilterIsApplied();
     void comparesTextsAsTheBaseClassDoes();
+    void comparesOtherCellsAsTheBaseClassDoes();
     void proxyAcceptsEveryRowOfAnotherModel();
     void proxyReadsDirectionsOut();
 
@@ -801,6 +803,25 @@ void CommandTableModelTest::sortsAgainWhenTheFilterIsApplied()
     QCOMPARE(m_dialog->shownDirections(), QList<int>({5, 1, 0, 0, 0}));
 }
 
+// An open editor of any row follows the scheme.
+void CommandTableModelTest::announcesAllDirectionsWhenTheFilterIsApplied()
+{
+    open("8");
+    for (const int rows : {5, 1, 0}) {
+        m_dialog->ui.search_lineEdit->setText(QLatin1String(rows == 5   ? ""
+                                                            : rows == 1 ? "name b"
+                                                                        : "no such command"));
+        QCOMPARE(m_dialog->proxy->rowCount(), rows);
+        QSignalSpy changed(m_dialog->proxy, &QAbstractItemModel::dataChanged);
+        m_dialog->proxy->applyFilter();
+        QCOMPARE(changed.count(), rows > 0 ? 1 : 0);
+        if (rows > 0) {
+            QCOMPARE(changed.front().at(0).toModelIndex(), m_dialog->cell(0, kDirection));
+            QCOMPARE(changed.front().at(1).toModelIndex(), m_dialog->cell(rows - 1, kDirection));
+        }
+    }
+}
+
 // The result must equal that of the base class on a model with the same texts.
 void CommandTableModelTest::comparesTextsAsTheBaseClassDoes()
 {
@@ -856,6 +877,47 @@ void CommandTableModelTest::comparesTextsAsTheBaseClassDoes()
     m_dialog->proxy->sort(kCommand, Qt::DescendingOrder);
     for (int row = 0; row < m_dialog->proxy->rowCount(); ++row)
         QCOMPARE(m_dialog->proxy->mapToSource(m_dialog->cell(row, kCommand)).row(), row);
+}
+
+// Only two cells of the last column are compared by their directions.
+void CommandTableModelTest::comparesOtherCellsAsTheBaseClassDoes()
+{
+    class Proxy : public MgCommandDSSortFilterProxyModel
+    {
+    public:
+        using MgCommandDSSortFilterProxyModel::lessThan;
+        [[nodiscard]] bool baseLessThan(const QModelIndex &left, const QModelIndex &right) const
+        {
+            return QSortFilterProxyModel::lessThan(left, right);
+        }
+    };
+    open("8");
+    assign(QStringLiteral("A"), 2);
+    assign(QStringLiteral("B"), 1);
+    const MgCommandDSModel &model = *m_dialog->model;
+    Proxy proxy;
+    proxy.setSourceModel(m_dialog->model);
+    QVector<QModelIndex> cells{QModelIndex()};
+    for (const char *id : {"A", "B"}) {
+        for (int column = 0; column < 3; ++column)
+            cells.append(model.index(rowIn(QLatin1String(id)), column));
+    }
+    for (const QModelIndex &left : qAsConst(cells)) {
+        for (const QModelIndex &right : qAsConst(cells)) {
+            const bool areDirections = left.column() == kDirection && right.column() == kDirection;
+            const bool expected =
+                areDirections ? model.getInvokerType(left.row()) < model.getInvokerType(right.row())
+                              : proxy.baseLessThan(left, right);
+            QCOMPARE(proxy.lessThan(left, right), expected);
+        }
+    }
+    // Another model has no directions.
+    QStandardItemModel plain(2, 3);
+    plain.setData(plain.index(0, kDirection), QStringLiteral("a"));
+    plain.setData(plain.index(1, kDirection), QStringLiteral("b"));
+    proxy.setSourceModel(&plain);
+    QVERIFY(proxy.lessThan(plain.index(0, kDirection), plain.index(1, kDirection)));
+    QVERIFY(!proxy.lessThan(plain.index(1, kDirection), plain.index(0, kDirection)));
 }
 
 void CommandTableModelTest::proxyAcceptsEveryRowOfAnotherModel()

@@ -653,6 +653,7 @@ void ConfigurationDialogTest::resetConfirmed()
     QCOMPARE(int(m_dialog->record(QStringLiteral("ID_COPY")).eightDirection), 4);
     QVERIFY(m_dialog->isVisible());
     QVERIFY(!m_dialog->ui.reset_pushButton->isEnabled());
+    QCOMPARE(m_dialog->directionList.item(2)->toolTip(), QStringLiteral("Up left: Offset"));
     // The table still works.
     bind(QStringLiteral("Line"), 2);
     QVERIFY(m_dialog->ui.reset_pushButton->isEnabled());

@@ -15,6 +15,7 @@
 #include <QBoxLayout>
 #include <QHeaderView>
 #include <QItemDelegate>
+#include <QProxyStyle>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QStyle>
@@ -40,6 +41,39 @@ int widthForText(const QComboBox &box)
 
 } // namespace
 
+// Most styles happen to have the form's spacing and margins.
+class SpaciousStyle : public QProxyStyle
+{
+public:
+    [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption *option,
+                                  const QWidget *widget) const override
+    {
+        switch (metric) {
+        case PM_LayoutHorizontalSpacing:
+        case PM_LayoutVerticalSpacing:
+        case PM_LayoutLeftMargin:
+        case PM_LayoutTopMargin:
+        case PM_LayoutRightMargin:
+        case PM_LayoutBottomMargin:
+            return 17;
+        default:
+            return QProxyStyle::pixelMetric(metric, option, widget);
+        }
+    }
+};
+
+// A dialog with a slot that is named after a button of the form.
+class DialogWithANamedSlot : public QDialog
+{
+    Q_OBJECT
+
+public:
+    int clicks = 0;
+
+public Q_SLOTS:
+    void on_print_pushButton_clicked() { ++clicks; }
+};
+
 // The dialog as it is built: its form, texts, sizes and owners.
 class DialogFormTest : public QObject
 {
@@ -63,8 +97,12 @@ private Q_SLOTS:
     void widthCannotBeChanged();
     void growsWithTheFontAndClipsNothing_data();
     void growsWithTheFontAndClipsNothing();
+    void aLongTextWidensItUntilItFits_data();
+    void aLongTextWidensItUntilItFits();
     void aLongNoneWidensItUntilItFits();
     void longMenuCaptionsDoNotWidenIt();
+    void entriesOfTheDirectionListHaveRoom();
+    void slotsAreConnectedByTheirNames();
     void windowFlags();
     void helpTopic();
     void buttonIcons();
@@ -245,7 +283,9 @@ void DialogFormTest::layouts()
 {
     QFETCH(QString, className);
     QFETCH(QStringList, items);
-    const TestDialog dialog;
+    SpaciousStyle style;
+    TestDialog dialog;
+    dialog.setStyle(&style);
     const QString name = QLatin1String(QTest::currentDataTag());
     const auto *layout = dialog.findChild<QBoxLayout *>(name);
     QVERIFY(layout);
@@ -310,6 +350,8 @@ void DialogFormTest::sizePolicies()
     QVERIFY(dialog.ui.description_label->wordWrap());
     QCOMPARE(dialog.ui.description_label->alignment(), Qt::AlignLeft | Qt::AlignTop);
     QCOMPARE(dialog.ui.description_label->textFormat(), Qt::PlainText);
+    // The text begins below the frame of its box.
+    QCOMPARE(dialog.ui.description_label->contentsMargins(), QMargins(0, 4, 0, 0));
 }
 
 // Uses a font as small as the form was designed for.
@@ -395,8 +437,10 @@ void DialogFormTest::growsWithTheFontAndClipsNothing()
     QVERIFY(box->rect().contains(label->geometry()));
     // The label fills its box below the title and has room for three lines.
     QCOMPARE(box->width() - label->width(), 396 - 371);
-    QVERIFY(label->y() >= dialog.fontMetrics().height());
-    QVERIFY(label->height() >= 3 * dialog.fontMetrics().height());
+    const int line = dialog.fontMetrics().height();
+    QCOMPARE(label->y(), std::max(20, line + 2));
+    QCOMPARE(label->height(), std::max(61, 3 * line + 4));
+    QCOMPARE(box->minimumHeight(), label->geometry().bottom() + 11);
     // No header and no usual category is elided.
     for (int column = 0; column < 3; ++column) {
         const QString header = dialog.proxy->headerData(column, Qt::Horizontal).toString();
@@ -425,6 +469,42 @@ void DialogFormTest::growsWithTheFontAndClipsNothing()
              qPrintable(QStringLiteral("%1 of %2").arg(table->columnWidth(0)).arg(category)));
 }
 
+void DialogFormTest::aLongTextWidensItUntilItFits_data()
+{
+    QTest::addColumn<QString>("context");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("layout");
+    QTest::newRow("check box") << QStringLiteral("MgDonutDialogManagerClass")
+                               << QStringLiteral("Enable mouse gestures")
+                               << QStringLiteral("verticalLayout_4");
+    QTest::newRow("button") << QStringLiteral("MgDonutDialogManager") << QStringLiteral("Help")
+                            << QStringLiteral("horizontalLayout_6");
+}
+
+void DialogFormTest::aLongTextWidensItUntilItFits()
+{
+    QFETCH(QString, context);
+    QFETCH(QString, text);
+    QFETCH(QString, layout);
+    tests::FakeTranslator translator;
+    translator.add(qPrintable(context), qPrintable(text), QString(150, QLatin1Char('W')));
+    TestDialog dialog;
+    const int needed = dialog.findChild<QLayout *>(layout)->minimumSize().width();
+    QVERIFY(needed > 1000);
+    QCOMPARE(dialog.width(), needed + 2 * 11);
+    QCOMPARE(dialog.minimumWidth(), dialog.width());
+    QCOMPARE(dialog.maximumWidth(), dialog.width());
+    // The description and the columns grow with it.
+    QCOMPARE(dialog.ui.description_groupBox->minimumWidth(), needed);
+    QCOMPARE(dialog.ui.description_label->width(), needed - (396 - 371));
+    const QTableView plain;
+    QCOMPARE(dialog.ui.command_tableView->horizontalHeader()->defaultSectionSize(),
+             plain.horizontalHeader()->defaultSectionSize() * dialog.width() / 414);
+    // The label keeps its width, the box beside it takes the rest.
+    QVERIFY(tests::showActive(dialog));
+    QCOMPARE(dialog.ui.category_label->width(), dialog.ui.category_label->sizeHint().width());
+}
+
 // "None" is the longest text of a direction's drop-down.
 void DialogFormTest::aLongNoneWidensItUntilItFits()
 {
@@ -451,6 +531,25 @@ void DialogFormTest::longMenuCaptionsDoNotWidenIt()
     QVERIFY(dialog.ui.enableGesture_checkBox->width()
             >= dialog.ui.enableGesture_checkBox->minimumSizeHint().width());
     QCOMPARE(dialog.ui.category_comboBox->itemText(6).size(), 5000);
+}
+
+// Arrows alone would touch each other.
+void DialogFormTest::entriesOfTheDirectionListHaveRoom()
+{
+    TestDialog dialog;
+    const int height = dialog.fontMetrics().height() + 4;
+    QVERIFY(!dialog.directionList.item(0)->sizeHint().isValid()); // a text has room
+    for (int row = 1; row <= 8; ++row)
+        QCOMPARE(dialog.directionList.item(row)->sizeHint(), QSize(height, height));
+}
+
+void DialogFormTest::slotsAreConnectedByTheirNames()
+{
+    DialogWithANamedSlot dialog;
+    Ui::MgDonutDialogManagerClass form;
+    form.setupUi(&dialog);
+    form.print_pushButton->click();
+    QCOMPARE(dialog.clicks, 1);
 }
 
 void DialogFormTest::windowFlags()
@@ -542,6 +641,10 @@ void DialogFormTest::columnsAndRows()
     QCOMPARE(view->columnWidth(2),
              view->viewport()->width() - view->columnWidth(0) - view->columnWidth(1));
     QVERIFY(view->columnWidth(2) > 10);
+    // By itself it would be as narrow as a column can be.
+    dialog.ui.command_tableView->horizontalHeader()->setStretchLastSection(false);
+    QVERIFY(header->minimumSectionSize() > 10);
+    QCOMPARE(view->columnWidth(2), header->minimumSectionSize());
     QCOMPARE(view->verticalHeader()->defaultSectionSize(), view->fontMetrics().height() + 8);
 }
 

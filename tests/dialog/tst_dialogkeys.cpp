@@ -98,6 +98,11 @@ void DialogKeysTest::controlFGoesToTheSearchField()
     QVERIFY(m_dialog->ui.search_lineEdit->hasFocus());
     // The text is selected, so typing replaces it.
     QCOMPARE(m_dialog->ui.search_lineEdit->selectedText(), QStringLiteral("line"));
+    // Also if the field has the focus already.
+    tests::type(m_dialog.get(), QStringLiteral("poly"));
+    QVERIFY(!m_dialog->ui.search_lineEdit->hasSelectedText());
+    tests::key(m_dialog.get(), Qt::Key_F, Qt::ControlModifier);
+    QCOMPARE(m_dialog->ui.search_lineEdit->selectedText(), QStringLiteral("poly"));
 }
 
 void DialogKeysTest::goesFromTheSearchFieldToTheFirstHit_data()
@@ -174,6 +179,9 @@ void DialogKeysTest::sortsByKeys()
             QCOMPARE(header->sortIndicatorOrder(), order);
         }
     }
+    // There is no fourth column.
+    tests::key(m_dialog.get(), Qt::Key_4, Qt::ControlModifier);
+    QCOMPARE(m_dialog->proxy->sortColumn(), 2);
     QCOMPARE(m_dialog->shownDirections().front(), 8);
 }
 

@@ -92,9 +92,13 @@ private Q_SLOTS:
 
     void entriesSayWhoHasTheDirection();
     void robbedCommandIsNamedAtTheCell();
+    void hiddenRowsHaveNoNotes();
     void undoTakesTheLastChoiceBack();
     void currentCellHasALine();
     void onlyElidedTextsHaveTooltips();
+    void helpElsewhereIsTheBaseClasses();
+    void focusRectangleIsTheStyles();
+    void otherEditorsShowWhatTheBaseClassShows();
 
     void styleIsPlastiqueWhereThereIsOne();
     void styleDrawsNoFocusRectangle();
@@ -697,7 +701,11 @@ void DirectionEditorTest::entriesSayWhoHasTheDirection()
             && editor()->itemData(row, Qt::ToolTipRole).toString() == text;
     };
     QVERIFY(says(3, QStringLiteral("Left: A")));
+    QVERIFY(says(1, QStringLiteral("Up")));
     QVERIFY(says(5, QStringLiteral("Down")));
+    // "None" says all itself.
+    QVERIFY(!editor()->itemData(0, Qt::AccessibleTextRole).isValid());
+    QVERIFY(!editor()->itemData(0, Qt::ToolTipRole).isValid());
     // The texts of the rows stay as they are.
     QCOMPARE(editor()->itemText(3), QString());
     QCOMPARE(editor()->itemText(0), QStringLiteral("None"));
@@ -741,6 +749,25 @@ void DirectionEditorTest::robbedCommandIsNamedAtTheCell()
     // The note takes no focus and goes away by itself.
     QVERIFY(editor()->hasFocus());
     QTRY_VERIFY_WITH_TIMEOUT(!notice->isVisible(), 2 * Notice::kDuration);
+    // The next choice hides it at once.
+    openEditor(QStringLiteral("A"));
+    choose(3);
+    QCOMPARE(notice->text(), QStringLiteral("Taken from: B"));
+    QVERIFY(notice->isVisible());
+    choose(2);
+    QVERIFY(!notice->isVisible());
+}
+
+// Where the row is not shown, there is no place for a note.
+void DirectionEditorTest::hiddenRowsHaveNoNotes()
+{
+    open("8");
+    const QModelIndex hidden = m_dialog->proxy->mapToSource(directionCell(QStringLiteral("B")));
+    m_dialog->ui.search_lineEdit->setText(QStringLiteral("C"));
+    QCOMPARE(m_dialog->proxy->rowCount(), 1);
+    QVERIFY(m_dialog->model->setData(hidden, 3));
+    QCOMPARE(int(m_dialog->record(QStringLiteral("A")).eightDirection), 0);
+    QVERIFY(!m_dialog->findChild<Notice *>()->isVisible());
 }
 
 void DirectionEditorTest::undoTakesTheLastChoiceBack()
@@ -805,6 +832,85 @@ void DirectionEditorTest::onlyElidedTextsHaveTooltips()
     QCOMPARE(pointAt(m_dialog->cell(m_dialog->rowOf(longName), kCommand)), longName);
     QTRY_COMPARE(pointAt(directionCell(longName)), QString());
     QTRY_COMPARE(pointAt(m_dialog->cell(0, kCommand)), QString());
+    // A text that just fits has none. The grid takes a pixel of the column.
+    const QModelIndex cell = m_dialog->cell(m_dialog->rowOf(longName), kCommand);
+    const int width = table->sizeHintForIndex(cell).width();
+    table->setColumnWidth(kCommand, width + 1);
+    QTRY_COMPARE(pointAt(cell), QString());
+    table->setColumnWidth(kCommand, width);
+    QCOMPARE(pointAt(cell), longName);
+}
+
+void DirectionEditorTest::helpElsewhereIsTheBaseClasses()
+{
+    open("8");
+    MgCommandTableView *table = m_dialog->ui.command_tableView;
+    QAbstractItemDelegate *delegate = table->itemDelegate();
+    QItemDelegate base;
+    const auto isHandled = [table](QAbstractItemDelegate &handler, QEvent::Type type,
+                                   const QModelIndex &cell) {
+        QHelpEvent help(type, QPoint(5, 5), table->viewport()->mapToGlobal(QPoint(5, 5)));
+        QStyleOptionViewItem option;
+        option.rect = table->visualRect(cell);
+        return handler.helpEvent(&help, table, option, cell);
+    };
+    const QModelIndex cell = m_dialog->cell(0, kCommand);
+    QVERIFY(isHandled(*delegate, QEvent::ToolTip, cell)); // there is nothing to show
+    for (const QModelIndex &place : {cell, QModelIndex()})
+        QCOMPARE(isHandled(*delegate, QEvent::QueryWhatsThis, place),
+                 isHandled(base, QEvent::QueryWhatsThis, place));
+    QCOMPARE(isHandled(*delegate, QEvent::ToolTip, QModelIndex()),
+             isHandled(base, QEvent::ToolTip, QModelIndex()));
+}
+
+// In a table whose style draws a focus rectangle, the delegate draws it too.
+void DirectionEditorTest::focusRectangleIsTheStyles()
+{
+    class Delegate : public MgCommandModelDelegate
+    {
+    public:
+        using MgCommandModelDelegate::drawFocus;
+        using MgCommandModelDelegate::MgCommandModelDelegate;
+    };
+    class Base : public QItemDelegate
+    {
+    public:
+        using QItemDelegate::drawFocus;
+    };
+    QStandardItemModel directions;
+    const Delegate delegate(&directions, nullptr);
+    const Base base;
+    QStyleOptionViewItem option;
+    option.rect = QRect(2, 2, 50, 20);
+    option.state = QStyle::State_Enabled | QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
+    const auto blank = [] {
+        QImage image(60, 30, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::white);
+        return image;
+    };
+    QImage drawn = blank();
+    QImage expected = blank();
+    QPainter drawnPainter(&drawn);
+    delegate.drawFocus(&drawnPainter, option, option.rect);
+    QPainter expectedPainter(&expected);
+    base.drawFocus(&expectedPainter, option, option.rect);
+    QVERIFY(expected != blank());
+    QCOMPARE(drawn, expected);
+}
+
+// A derived class may have editors of its own.
+void DirectionEditorTest::otherEditorsShowWhatTheBaseClassShows()
+{
+    open("8");
+    const QAbstractItemDelegate *delegate = m_dialog->ui.command_tableView->itemDelegate();
+    QLineEdit line;
+    delegate->setEditorData(&line, directionCell(QStringLiteral("A")));
+    QCOMPARE(line.text(), QStringLiteral("3"));
+    QComboBox box;
+    box.addItems({QStringLiteral("one"), QStringLiteral("two")});
+    box.setCurrentIndex(1);
+    delegate->setEditorData(&box, m_dialog->cell(0, kCommand));
+    QCOMPARE(box.currentIndex(), 1);
 }
 
 void DirectionEditorTest::styleIsPlastiqueWhereThereIsOne()

@@ -3,6 +3,7 @@
 
 #include "bindings/MgDonutDataContainer.h"
 #include "dialog/BindingListDocument.h"
+#include "dialog/BindingListPrinter.h"
 #include "dialog/PrintTableView.h"
 #include "tests/dialog/DraftingCommands.h"
 #include "tests/dialog/Input.h"
@@ -17,6 +18,7 @@
 #include <QPrinter>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QStandardItemModel>
 #include <QTemporaryDir>
 #include <QTest>
@@ -133,14 +135,19 @@ private Q_SLOTS:
     void textIsNeverRendered();
     void modelsWithoutATable();
     void belongsToTheCaller();
+    void aDocumentWithoutATablePrintsNothing();
 
     void printsWhatTheTableShows();
     void everyPageHasWholeRowsBelowTheHeader_data();
     void everyPageHasWholeRowsBelowTheHeader();
+    void aRowIsAsHighAsItsHighestCell();
     void cellsOfARowAlign();
+    void iconsAreCentredOnTheirText();
     void theNumberIsFivePointsBelowThePage();
     void theTableFillsThePageInsideItsMargins();
     void chosenPagesOnly();
+    void lastPageFirst();
+    void textIsBlackInADarkProgram();
     void fileHasATitle();
     void iconsArePrintedAsTheyAreWhenOff();
     void printedPagesLook();
@@ -501,6 +508,15 @@ void PrintingTest::belongsToTheCaller()
     QVERIFY(!document);
 }
 
+void PrintingTest::aDocumentWithoutATablePrintsNothing()
+{
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(m_file);
+    printBindingList(QTextDocument(QStringLiteral("text")), printer);
+    QCOMPARE(wordsOf(m_file), QStringList(QString()));
+}
+
 void PrintingTest::printsWhatTheTableShows()
 {
     open(60);
@@ -564,6 +580,39 @@ void PrintingTest::everyPageHasWholeRowsBelowTheHeader()
     QCOMPARE(row, m_dialog->proxy->rowCount());
 }
 
+// In any column. Each page has the header and whole rows only.
+void PrintingTest::aRowIsAsHighAsItsHighestCell()
+{
+    constexpr int kRows = 60;
+    for (const int highest : {0, 1}) {
+        QStandardItemModel model(kRows, 2);
+        const auto text = [](const QString &name) {
+            return QStringList{name + QLatin1Char('a'), name + QLatin1Char('b'), name + QLatin1Char('c'),
+                               name + QLatin1Char('d')};
+        };
+        QStringList expected;
+        model.setHorizontalHeaderLabels({QStringLiteral("left"), QStringLiteral("right")});
+        model.setHeaderData(highest, Qt::Horizontal, text(QStringLiteral("h")).join(QLatin1Char('\n')));
+        for (int row = 0; row < kRows; ++row) {
+            const QStringList lines = text(QStringLiteral("r%1").arg(row));
+            expected += lines;
+            model.setData(model.index(row, highest), lines.join(QLatin1Char('\n')));
+            model.setData(model.index(row, 1 - highest), QStringLiteral("x"));
+        }
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(m_file);
+        printBindingList(*documentOf(&model), printer);
+        const int pages = pagesOf(m_file);
+        QVERIFY(pages > 1);
+        QStringList words = wordsOf(m_file);
+        for (const QString &line : text(QStringLiteral("h")))
+            QCOMPARE(words.count(line), pages);
+        words = words.filter(QRegularExpression(QStringLiteral("^r\\d+[a-d]$")));
+        QCOMPARE(words, expected);
+    }
+}
+
 // Beside an icon, a line is as high as the icon.
 void PrintingTest::cellsOfARowAlign()
 {
@@ -608,26 +657,57 @@ void PrintingTest::cellsOfARowAlign()
     }
 }
 
+// In the font of the text beside it.
+void PrintingTest::iconsAreCentredOnTheirText()
+{
+    QStandardItemModel model(1, 2);
+    model.setItem(0, 0, new QStandardItem(QStringLiteral("plain")));
+    model.setItem(0, 1, new QStandardItem(tests::squareIcon(Qt::red), QStringLiteral("beside")));
+    QFont font;
+    font.setPointSize(16);
+    for (int column = 0; column < 2; ++column)
+        model.setData(model.index(0, column), font, Qt::FontRole);
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(m_file);
+    printBindingList(*documentOf(&model), printer);
+    const QString page =
+        run(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), m_file, QStringLiteral("-")});
+    const auto top = [&page](const QString &word) {
+        const QRegularExpression place(QStringLiteral("yMin=\"([0-9.]+)\"[^>]*>%1</word>").arg(word));
+        return place.match(page).captured(1).toDouble();
+    };
+    QVERIFY(top(QStringLiteral("plain")) > 0);
+    const qreal apart = top(QStringLiteral("plain")) - top(QStringLiteral("beside"));
+    QVERIFY2(std::abs(apart) < 1, qPrintable(QString::number(apart)));
+}
+
 // As Qt prints the pages of a text.
 void PrintingTest::theNumberIsFivePointsBelowThePage()
 {
     open(8);
     qreal bottom = 0; // of the text's area, in points
+    qreal right = 0;
     m_dialog->printDialog = [&](QPrinter &printer) {
         printer.setOutputFormat(QPrinter::PdfFormat);
         printer.setOutputFileName(m_file);
         const qreal margin = 2 / 2.54 * 72;
-        bottom = printer.pageLayout().paintRect(QPageLayout::Point).bottom() - margin;
+        const QRectF paper = printer.pageLayout().paintRect(QPageLayout::Point);
+        bottom = paper.bottom() - margin;
+        right = paper.right() - margin;
         return static_cast<int>(QDialog::Accepted);
     };
     m_dialog->printList();
     const QString words =
         run(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), m_file, QStringLiteral("-")});
-    const QRegularExpression number(QStringLiteral("yMin=\"([0-9.]+)\"[^>]*>1</word>"));
+    const QRegularExpression number(
+        QStringLiteral("yMin=\"([0-9.]+)\" xMax=\"([0-9.]+)\"[^>]*>1</word>"));
     const QRegularExpressionMatch found = number.match(words);
     QVERIFY2(found.hasMatch(), qPrintable(words));
     const qreal gap = found.captured(1).toDouble() - bottom;
     QVERIFY2(std::abs(gap - 5) < 0.5, qPrintable(QString::number(gap)));
+    const qreal beside = right - found.captured(2).toDouble();
+    QVERIFY2(std::abs(beside) < 0.5, qPrintable(QString::number(beside)));
 }
 
 void PrintingTest::theTableFillsThePageInsideItsMargins()
@@ -703,6 +783,66 @@ void PrintingTest::chosenPagesOnly()
     printToFile();
     QCOMPARE(pagesOf(m_file), 2);
     QCOMPARE(wordsOf(m_file).constLast(), QStringLiteral("3"));
+    m_dialog->printDialog = [this](QPrinter &printer) {
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(m_file);
+        printer.setFromTo(1, 1);
+        return static_cast<int>(QDialog::Accepted);
+    };
+    printToFile();
+    QCOMPARE(pagesOf(m_file), 1);
+    QCOMPARE(wordsOf(m_file).constLast(), QStringLiteral("1"));
+}
+
+void PrintingTest::lastPageFirst()
+{
+    open(100);
+    m_dialog->printDialog = [this](QPrinter &printer) {
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(m_file);
+        printer.setPageOrder(QPrinter::LastPageFirst);
+        return static_cast<int>(QDialog::Accepted);
+    };
+    printToFile();
+    const int pages = pagesOf(m_file);
+    QVERIFY(pages > 2);
+    for (int page = 1; page <= pages; ++page) {
+        const QString number = QString::number(page);
+        const QString text = run(QStringLiteral("pdftotext"),
+                                 {QStringLiteral("-raw"), QStringLiteral("-f"), number,
+                                  QStringLiteral("-l"), number, m_file, QStringLiteral("-")});
+        QCOMPARE(text.simplified().split(QLatin1Char(' ')).constLast(),
+                 QString::number(pages + 1 - page));
+    }
+}
+
+// A program in light letters on dark ground still prints dark ones.
+void PrintingTest::textIsBlackInADarkProgram()
+{
+    const QPalette before = QApplication::palette();
+    QPalette dark;
+    dark.setColor(QPalette::Text, Qt::white);
+    dark.setColor(QPalette::WindowText, Qt::white);
+    QApplication::setPalette(dark);
+    const auto restore = qScopeGuard([&before] { QApplication::setPalette(before); });
+    QStandardItemModel model(1, 1);
+    model.setHorizontalHeaderLabels({QStringLiteral(" ")});
+    model.setData(model.index(0, 0), QString(8, QChar(0x2588))); // full blocks
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(m_file);
+    printBindingList(*documentOf(&model), printer);
+    const QString base = m_folder.filePath(QStringLiteral("dark"));
+    run(QStringLiteral("pdftoppm"), {QStringLiteral("-r"), QStringLiteral("96"), QStringLiteral("-png"),
+                                     QStringLiteral("-singlefile"), m_file, base});
+    const QImage page(base + QLatin1String(".png"));
+    QVERIFY(!page.isNull());
+    int black = 0;
+    for (int y = 0; y < page.height() / 2; ++y) {
+        for (int x = 0; x < page.width(); ++x)
+            black += page.pixelColor(x, y) == QColor(Qt::black) ? 1 : 0;
+    }
+    QVERIFY2(black > 100, qPrintable(QString::number(black)));
 }
 
 void PrintingTest::fileHasATitle()

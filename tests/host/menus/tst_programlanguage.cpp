@@ -50,6 +50,7 @@ void ProgramLanguageTest::language_data()
     row("program set to French", "&Fichier|&Édition|&Affichage|&Outils|&Aide", "de-DE", "fr");
     row("Japanese mnemonics", "ファイル(&F)|編集(&E)|表示(&V)|ツール(&T)|ヘルプ(&H)", "C", "ja");
     row("one German word", "&Foo|&Bar|&Ansicht", "en", "en");
+    row("two German words", "&Foo|&Datei|&Ansicht", "en", "de");
     row("unknown words", "&Foo|&Bar", "pl", "pl");
 }
 

@@ -3,6 +3,7 @@
 
 #include "host/menus/ToolsMenu.h"
 #include "host/window/MenuChanges.h"
+#include "tests/support/FakeTranslator.h"
 #include "tests/support/FatalWarnings.h"
 
 #include <QMainWindow>
@@ -39,6 +40,8 @@ private Q_SLOTS:
     void everyLanguageHasOne();
     void aMadeOneSpeaksTheProgramsLanguage_data() { everyLanguageHasOne_data(); }
     void aMadeOneSpeaksTheProgramsLanguage();
+    void aMadeOneInUnknownWordsSpeaksTheHostsLanguage();
+    void aMadeOneIsLastWithoutAHelpMenu();
     void toolsBesideExtras();
 };
 
@@ -103,6 +106,38 @@ void ToolsMenuTest::aMadeOneSpeaksTheProgramsLanguage()
     QCOMPARE(menu.find(), found);
     QCOMPARE(menu.findOrMake(), found);
     QCOMPARE(captions(*window.menuBar()), QStringList({file, made, help}));
+}
+
+void ToolsMenuTest::aMadeOneInUnknownWordsSpeaksTheHostsLanguage()
+{
+    tests::FakeTranslator translator;
+    translator.add("host", "&Tools", QStringLiteral("&Gereedschap"));
+    const auto made = [](const QStringList &captions) {
+        QMainWindow window;
+        for (const QString &caption : captions)
+            window.menuBar()->addMenu(caption);
+        const MenuChanges watcher(&window);
+        ToolsMenu menu(watcher, QString());
+        return menu.findOrMake()->title();
+    };
+    QCOMPARE(made({QStringLiteral("&Foo"), QStringLiteral("&Bar")}), QStringLiteral("&Gereedschap"));
+    // One word is enough to know the program's language.
+    QCOMPARE(made({QStringLiteral("&Foo"), QStringLiteral("&Datei")}), QStringLiteral("Extras"));
+    QCOMPARE(made({QStringLiteral("&Foo"), QStringLiteral("&File")}), QStringLiteral("&Tools"));
+}
+
+void ToolsMenuTest::aMadeOneIsLastWithoutAHelpMenu()
+{
+    QMainWindow window;
+    window.menuBar()->addMenu(QStringLiteral("&File"));
+    window.menuBar()->addAction(QStringLiteral("Quit")); // without a menu
+    window.menuBar()->addMenu(QStringLiteral("&Draw"));
+    const MenuChanges watcher(&window);
+    ToolsMenu menu(watcher, QString());
+    QVERIFY(menu.findOrMake());
+    QCOMPARE(captions(*window.menuBar()),
+             QStringList({QStringLiteral("&File"), QStringLiteral("Quit"), QStringLiteral("&Draw"),
+                          QStringLiteral("&Tools")}));
 }
 
 // A word of the program's own language wins over a word of another language.

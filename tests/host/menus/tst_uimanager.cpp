@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "host/commands/CommandCatalogue.h"
+#include "host/menus/UiCommandItemCollection.h"
 #include "host/menus/UiManager.h"
 #include "sdk/chx/CHxUIMenu.h"
 #include "tests/host/support/DraftWindow.h"
@@ -99,6 +100,8 @@ private Q_SLOTS:
     void theProgramsOwnItemsAreReadOnly();
     void commandItemsAreFound();
     void commandItemsAreRemoved();
+    void theWorkspaceListsItsCommands();
+    void anEntrysOwnTipIsShown();
     void anEntryInItsPlaceIsNotMoved();
     void aClearedMenuGetsItsEntryBack();
     void anActionAddedLaterComesBeforeTheEntry();
@@ -523,6 +526,42 @@ void UiManagerTest::commandItemsAreRemoved()
     QVERIFY(!m_manager->Contains(command));
 }
 
+void UiManagerTest::theWorkspaceListsItsCommands()
+{
+    const auto *items =
+        static_cast<gesturewidget::UiCommandItemCollection *>(workspace()->GetCommandItems());
+    CHxUICommandItem *one = m_manager->CreateCommandItem("_ONE", 0);
+    CHxUICommandItem *two = m_manager->CreateCommandItem("_TWO", 0);
+    for (CHxUICommandItem *item : {one, two, one, static_cast<CHxUICommandItem *>(nullptr)})
+        workspace()->GetCommandItems()->Add(item);
+    QCOMPARE(items->items(), std::vector<CHxUICommandItem *>({one, two}));
+    m_manager->RemoveCommandItem(one);
+    QCOMPARE(items->items(), std::vector<CHxUICommandItem *>({two}));
+}
+
+// An entry without a tip shows that of its command.
+void UiManagerTest::anEntrysOwnTipIsShown()
+{
+    CHxUICommandItem *command = m_manager->CreateCommandItem("_CONFIG", 0);
+    command->SetStatusText("The command's tip");
+    CHxUIMenuItem *entry = m_manager->CreateMenuItem(0, {}, "Entry", "The entry's tip");
+    CHxUIMenuItem *plain = m_manager->CreateMenuItem(0, {}, "Plain", {});
+    for (CHxUIMenuItem *item : {entry, plain}) {
+        item->SetCommandItem(command);
+        menu("ID_MnTools")->GetSubItems()->Append(item);
+    }
+    const auto tips = [this] {
+        QStringList found;
+        for (const QAction *action : m_tools->actions().mid(1))
+            found.append(action->statusTip());
+        return found;
+    };
+    QCOMPARE(tips(),
+             QStringList({QStringLiteral("The entry's tip"), QStringLiteral("The command's tip")}));
+    plain->SetCommandItem(nullptr);
+    QCOMPARE(tips(), QStringList({QStringLiteral("The entry's tip"), QString()}));
+}
+
 void UiManagerTest::anEntryInItsPlaceIsNotMoved()
 {
     class Removals : public QObject
@@ -807,6 +846,17 @@ void UiManagerTest::aWindowTakesOnlyItsOwnMenusAlong()
     m_manager->removeWindow(&others[0]);
     QCoreApplication::processEvents();
     QCOMPARE(entries(), QVector<int>({1, 0, 1}));
+    // An entry that is destroyed does not come to a window that opens later.
+    CHxUIMenuItem *gone = enter("Gone");
+    m_manager->DestroyMenuItem(gone);
+    DraftWindow later;
+    const QMenu *laterTools = later.addMenu("&Tools", "toolsMenu");
+    m_catalogue->addWindow(&later);
+    m_manager->addWindow(&later);
+    QCOMPARE(captions(*laterTools), words("Gestures..."));
+    m_manager->removeWindow(&later);
+    QCoreApplication::processEvents();
+    QVERIFY(laterTools->actions().isEmpty());
     m_manager->removeWindow(&others[1]); // the current one stays
     QCoreApplication::processEvents();
     QCOMPARE(entries(), QVector<int>({1, 0, 1}));
@@ -836,6 +886,11 @@ void UiManagerTest::withoutAMenuBarAllIsEmpty()
     manager.Refresh(true);
     QCOMPARE(manager.menuBars().GetCount(), 0);
     QVERIFY(bare.findChildren<QMenuBar *>().isEmpty());
+    // What was put nowhere is nowhere, also when there are menus.
+    items->Append(entry);
+    const QMenu *tools = bare.menuBar()->addMenu(QStringLiteral("&Tools"));
+    manager.Refresh(true);
+    QVERIFY(tools->actions().isEmpty());
     manager.DestroyMenuItem(entry);
 }
 
@@ -937,6 +992,7 @@ void UiManagerTest::changedMenusAreReadBeforeSomebodyAsks()
     for (const char *name : {"one", "two", "three"})
         DraftWindow::addAction(more, name, name);
     more->addMenu(m_window->file); // menus may contain each other
+    m_window->file->addMenu(more);
     QTRY_VERIFY(m_manager->mirror().size() >= before + 4);
 }
 
