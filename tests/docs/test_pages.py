@@ -146,7 +146,7 @@ def make_home(home):
     (home / "share/applications").mkdir(parents=True)
     (home / ".config").mkdir()
     home.chmod(0o700)
-    for program in ("librecad", "freecad", "ipe"):
+    for program in ("librecad", "freecad", "ipe", "plate"):
         shutil.copy(options.build / "tests/docs/docs-stand-in", home / "bin" / program)
         (home / f"share/applications/{program}.desktop").write_text(
             f"[Desktop Entry]\nType=Application\nName={program}\nExec={program} %F\n")
