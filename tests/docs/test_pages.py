@@ -154,7 +154,8 @@ def make_home(home):
         (home / "bin" / name).symlink_to(options.build / "bin" / name)
     for name in ("drawing.dxf", "figure.ipe"):
         (home / name).write_text("")
-    shutil.copy(ROOT / "docs/examples/ipe.json", home)
+    for profile in (ROOT / "docs/examples").glob("*.json"):
+        shutil.copy(profile, home)
     shutil.copytree(ROOT / "host/profiles", home / "host/profiles")
     (home / "build").mkdir()
     (home / "build/qt5").symlink_to(options.build)
