@@ -17,7 +17,7 @@ namespace gesturewidget {
 
 // Finds the well-known commands, such as "ID_LINE", among the actions of a program that
 // nobody has described. The signs are, in this order of trust, the standard shortcut, the name
-// of the theme icon, the object name and the caption in any of ten languages; of equals the
+// of the theme icon, the object name and the caption in any known language; of equals the
 // action in the menu where such commands are.
 //
 // A wrong command is worse than none. So a shortcut or an icon needs a caption or an object

@@ -146,7 +146,7 @@ def make_home(home):
     (home / "share/applications").mkdir(parents=True)
     (home / ".config").mkdir()
     home.chmod(0o700)
-    for program in ("librecad", "freecad", "ipe"):
+    for program in ("librecad", "freecad", "ipe", "plate"):
         shutil.copy(options.build / "tests/docs/docs-stand-in", home / "bin" / program)
         (home / f"share/applications/{program}.desktop").write_text(
             f"[Desktop Entry]\nType=Application\nName={program}\nExec={program} %F\n")
@@ -154,7 +154,8 @@ def make_home(home):
         (home / "bin" / name).symlink_to(options.build / "bin" / name)
     for name in ("drawing.dxf", "figure.ipe"):
         (home / name).write_text("")
-    shutil.copy(ROOT / "docs/examples/ipe.json", home)
+    for profile in (ROOT / "docs/examples").glob("*.json"):
+        shutil.copy(profile, home)
     shutil.copytree(ROOT / "host/profiles", home / "host/profiles")
     (home / "build").mkdir()
     (home / "build/qt5").symlink_to(options.build)

@@ -33,7 +33,7 @@ def main():
         for member in ('"trigger": {"button": "%s"}', '"usedTriggers": ["ctrl+%s"]'):
             if not is_valid(validator, '{"version": 1, "program": "drafter", %s}' % member % button):
                 wrong.append(f"{button}: should be taken in {member % button}")
-    profiles = sorted((ROOT / "host/profiles").glob("*.json")) + [ROOT / "docs/examples/ipe.json"]
+    profiles = sorted((ROOT / "host/profiles").glob("*.json")) + sorted((ROOT / "docs/examples").glob("*.json"))
     assert len(profiles) > 5
     for path in profiles:
         profile = json.loads(path.read_text(encoding="utf-8"))

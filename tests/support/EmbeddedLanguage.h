@@ -7,10 +7,30 @@
 #include <QString>
 #include <QTranslator>
 
+#include <algorithm>
+#include <iterator>
+
 namespace tests {
 
 // The languages that have translations, English first.
 inline constexpr const char *kLanguages[] = {"en", "de", "fr", "es", "it", "pt", "pl", "ru", "ja", "zh"};
+
+// A text that is rightly the same in a language as in English.
+struct SharedText
+{
+    const char *language;
+    const char *text;
+};
+inline constexpr SharedText kSharedTexts[] = {{"fr", "Direction"}};
+
+// True if a language has the same text as English: in English itself, and for the texts above.
+inline bool isAsInEnglish(const QString &language, const QString &text)
+{
+    return language == QLatin1String("en")
+        || std::any_of(std::begin(kSharedTexts), std::end(kSharedTexts), [&](const SharedText &shared) {
+               return language == QLatin1String(shared.language) && text == QLatin1String(shared.text);
+           });
+}
 
 // Makes the program speak a language, with the embedded texts of one part such as "module", from
 // construction to destruction.
