@@ -15,12 +15,6 @@ void MgCommandTableView::beginEditing(const QModelIndex &index)
     edit(index, AllEditTriggers, nullptr);
 }
 
-void MgCommandTableView::showEvent(QShowEvent *event)
-{
-    QTableView::showEvent(event);
-    updateGeometries();
-}
-
 void MgCommandTableView::updateGeometries()
 {
     if (isVisible())

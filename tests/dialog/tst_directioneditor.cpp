@@ -12,6 +12,7 @@
 #include "tests/fakehost/FakeHost.h"
 #include "tests/support/FatalWarnings.h"
 
+#include <QHeaderView>
 #include <QHelpEvent>
 #include <QLineEdit>
 #include <QPainter>
@@ -105,6 +106,7 @@ private Q_SLOTS:
     void styleDrawsEverythingElse_data();
     void styleDrawsEverythingElse();
     void tableShowsNoFocusRectangle();
+    void tableFollowsWhatChangedWhileHidden();
 
 private:
     void open(const char *scheme);
@@ -985,6 +987,20 @@ void DirectionEditorTest::tableShowsNoFocusRectangle()
     makeCurrent(true);
     QVERIFY(cellPicture() != basePlain);
     m_dialog.reset();
+}
+
+void DirectionEditorTest::tableFollowsWhatChangedWhileHidden()
+{
+    QStandardItemModel rows(3, 3);
+    MgCommandTableView table(nullptr);
+    table.setModel(&rows);
+    table.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&table));
+    QCOMPARE(table.viewport()->x(), table.frameWidth() + table.verticalHeader()->width());
+    table.hide();
+    table.verticalHeader()->hide();
+    table.show();
+    QCOMPARE(table.viewport()->x(), table.frameWidth());
 }
 
 QTEST_MAIN(DirectionEditorTest)
