@@ -19,9 +19,9 @@ public:
     void beginEditing(const QModelIndex &index);
 
 protected Q_SLOTS:
-    // Does nothing while the table is hidden; Qt calls it again when the table is shown. Qt lays out the
-    // headers at every change of a row, a column, a style or a font, which took a third of the time until
-    // the dialog was open.
+    // Does nothing while the table is hidden; Qt calls it again when the table is shown. Qt lays out
+    // the headers at every change of a row, a column, a style or a font, which took a third of the
+    // time until the dialog was open.
     void updateGeometries() override;
     // Writes nothing for a drop-down in which nothing was chosen. Qt also commits when the
     // focus or the current cell moves on, and writing a direction always clears another record.
