@@ -6,8 +6,8 @@
 #include "HostExport.h"
 
 // Sets where the hosts of this process report what they find in the program, for
-// `mouse-gestures --explain`. The plug-in sets it before any host starts, so it also works in a
-// program that hosts gestures itself. Not installed, because programs do not need it.
+// `mouse-gestures --explain`. The plug-in sets it before it starts its host. Not installed, because
+// programs do not need it.
 namespace gesturewidget {
 
 // `socket`: see host/files/ExplanationChannel.h. The caller keeps the ownership. -1, the initial
