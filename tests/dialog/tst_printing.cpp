@@ -606,7 +606,8 @@ void PrintingTest::aRowIsAsHighAsItsHighestCell()
         const int pages = pagesOf(m_file);
         QVERIFY(pages > 1);
         QStringList words = wordsOf(m_file);
-        for (const QString &line : text(QStringLiteral("h")))
+        const QStringList header = text(QStringLiteral("h"));
+        for (const QString &line : header)
             QCOMPARE(words.count(line), pages);
         words = words.filter(QRegularExpression(QStringLiteral("^r\\d+[a-d]$")));
         QCOMPARE(words, expected);

@@ -552,7 +552,8 @@ void UiManagerTest::anEntrysOwnTipIsShown()
     }
     const auto tips = [this] {
         QStringList found;
-        for (const QAction *action : m_tools->actions().mid(1))
+        const QList<QAction *> entries = m_tools->actions().mid(1);
+        for (const QAction *action : entries)
             found.append(action->statusTip());
         return found;
     };
