@@ -4,12 +4,13 @@
 
 """Kills programs with SIGKILL at random moments of a save, and looks at what is left.
 
-    test_saves.py --build build/qt5 [--rounds 200]
+    test_saves.py --build build/qt5 [--rounds 200] [--keep]
 
 Three kinds of programs save: mouse-gestures once in each round, a program that imports two files of
 bindings in turn, and a program with gestures in which somebody changes the dialog and presses OK.
 After each kill the settings must be the old ones or the new ones, whole. Another program must be able
-to save at once, and leave no unfinished file behind. Prints the figures. Exits 1 if something was
+to save at once, and leave no unfinished file behind. Prints the figures, with --keep also into
+BUILD/figures. Exits 1 if something was
 lost or left.
 """
 
@@ -187,13 +188,13 @@ def main():
     parser.add_argument("--build", type=Path, required=True, help="the build folder")
     parser.add_argument("--rounds", type=int, default=200, help="for each kind (default: 200)")
     parser.add_argument("--seed", type=int, default=1, help="chooses the moments (default: 1)")
+    parser.add_argument("--keep", action="store_true", help="keep the figures for scripts/figures")
     options = parser.parse_args()
     build = options.build.resolve()
     options.launcher = build / "bin" / "mouse-gestures"
     options.tasks = build / "bin" / "save_settings"
     options.guest = build / "tests" / "host" / "inject" / "guest" / "guest"
     options.plugins = build / "plugins"
-    (build / "figures").mkdir(exist_ok=True)
     figures = []
     failed = False
     for kind in KINDS:
@@ -226,7 +227,9 @@ def main():
         if counts["killed"] == 0:
             failed = True
             print(f"{kind}: no save was cut off", file=sys.stderr)
-    (build / "figures" / "saves.txt").write_text("".join(line + "\n" for line in figures))
+    if options.keep:
+        (build / "figures").mkdir(exist_ok=True)
+        (build / "figures" / "saves.txt").write_text("".join(line + "\n" for line in figures))
     return 1 if failed else 0
 
 
