@@ -10,8 +10,7 @@ Three kinds of programs save: mouse-gestures once in each round, a program that 
 bindings in turn, and a program with gestures in which somebody changes the dialog and presses OK.
 After each kill the settings must be the old ones or the new ones, whole. Another program must be able
 to save at once, and leave no unfinished file behind. Prints the figures, with --keep also into
-BUILD/figures. Exits 1 if something was
-lost or left.
+BUILD/figures. Exits 1 if something was lost or left.
 """
 
 import argparse
