@@ -17,6 +17,7 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QCursor>
 #include <QLineEdit>
 #include <QPrinter>
 #include <QSortFilterProxyModel>
@@ -26,6 +27,7 @@
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextTable>
+#include <QWindow>
 
 #include <memory>
 
@@ -61,12 +63,13 @@ std::unique_ptr<QStandardItemModel> plainModel()
     return model;
 }
 
-// Returns when the window has painted itself.
+// Returns when the window is on the screen: Qt paints it as soon as the X server says so.
 void showAndPaint(QWidget &window)
 {
     window.show();
-    QCoreApplication::processEvents();
-    QCoreApplication::sendPostedEvents();
+    while (!window.windowHandle()->isExposed())
+        QCoreApplication::processEvents();
+    static_cast<void>(QCursor::pos()); // a round trip: the server has drawn all of it
 }
 
 // The texts in the filter while a person types "Polyline" and deletes it again.
