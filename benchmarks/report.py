@@ -43,7 +43,7 @@ ROWS = [
         "ringOpens/commands:10000", "the same", "plainWindowOpens/managed:0", 8 / 0.7),
     Row("the first ring of a program, 1,000 commands", "bench_ring",
         "ringOfNewProgram/commands:1000/ring:1", "the first empty window of its kind",
-        "plainWindowOfNewProgram", 2.0),
+        "plainWindowOfNewProgram", 1.25),
     Row("the first ring of a program, 1,000 commands", "bench_ring",
         "ringOfNewProgram/commands:1000/ring:1", "its second one",
         "ringOfNewProgram/commands:1000/ring:2", None),
@@ -87,7 +87,7 @@ ROWS = [
         "window/settings", "a bare Qt window", "window/plain", 2.0),
     *(row for count in (250, 10000) for row in (
         Row(f"the dialog opens, {count:,} commands", "bench_dialog", f"openDialog/{count}",
-            "a `QTableView` over a `QStandardItemModel`", f"openPlainView/{count}", 2.0),
+            "a `QTableView` over a `QStandardItemModel`", f"openPlainView/{count}", 1.75),
         Row(f"a key in the search field, {count:,} commands", "bench_dialog", f"typeInDialog/{count}",
             "a `QSortFilterProxyModel` with a fixed string", f"typeInPlainView/{count}", 1.5))),
     Row("the list is printed into a PDF, 250 commands", "bench_dialog", "printList/250",

@@ -44,6 +44,19 @@ constexpr int kBlock = 4096; // bytes of a file system's block
 // system is only the stand-in of fixtures/fulldisk.cpp.
 bool canMount = false;
 
+// Gives this process the right to mount where only it sees the result. In a container, root may have
+// no other way either. Without a group there, a mounted file system takes no files.
+bool becomeRootOfItsOwn()
+{
+    const auto rootIs = [](uint id) { return "0 " + QByteArray::number(id) + " 1"; };
+    const QByteArray user = rootIs(::geteuid());
+    const QByteArray group = rootIs(::getegid());
+    return ::unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0
+        && tests::writeFile(text("/proc/self/uid_map"), user)
+        && tests::writeFile(text("/proc/self/setgroups"), "deny")
+        && tests::writeFile(text("/proc/self/gid_map"), group);
+}
+
 struct Ended
 {
     int status = -1;
@@ -398,11 +411,7 @@ void WritingTest::whatAPersonWorksOnIsTheirsAlone()
 int main(int argc, char *argv[])
 {
     // This works only before the process has a second thread.
-    const QByteArray user = "0 " + QByteArray::number(::geteuid()) + " 1";
-    // Root may have no right to mount, in a container for example, and still get it this way.
-    canMount = (::unshare(CLONE_NEWNS) == 0
-                || (::unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0
-                    && tests::writeFile(text("/proc/self/uid_map"), user)))
+    canMount = (::unshare(CLONE_NEWNS) == 0 || becomeRootOfItsOwn())
             && ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
     QCoreApplication app(argc, argv);
     WritingTest test;
