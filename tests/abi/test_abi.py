@@ -115,23 +115,23 @@ def record(library, names):
 def main():
     parser = argparse.ArgumentParser(description=__doc__,
                                      formatter_class=argparse.RawDescriptionHelpFormatter)
-    parser.add_argument("library", type=Path)
-    parser.add_argument("classes", type=re.compile)
-    parser.add_argument("record", type=Path)
+    parser.add_argument("built", metavar="LIBRARY", type=Path)
+    parser.add_argument("classes", metavar="CLASSES", type=re.compile)
+    parser.add_argument("record", metavar="RECORD", type=Path)
     parser.add_argument("--write", action="store_true", help="write the record")
     options = parser.parse_args()
 
-    found = record(options.library, options.classes)
+    found = record(options.built, options.classes)
     if options.write:
         options.record.write_text("".join(found), encoding="utf-8")
         return 0
     expected = options.record.read_text(encoding="utf-8").splitlines(keepends=True)
     differences = list(difflib.unified_diff(expected, found, options.record.name,
-                                            options.library.name, n=0))
+                                            options.built.name, n=0))
     if not differences:
         return 0
     sys.stdout.writelines(differences)
-    print(f"{options.library.name} offers something else than {options.record.name} says: "
+    print(f"{options.built.name} offers something else than {options.record.name} says: "
           "programs that were built with it would crash.\nIf that is meant, see "
           f"`test_abi.py --help` and run:\n{shlex.join([*sys.argv, '--write'])}")
     return 1
