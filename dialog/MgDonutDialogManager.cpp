@@ -556,9 +556,8 @@ void MgDonutDialogManager::showSelectedCommand()
     }
 
     const QModelIndex shown = rows.front();
-    const std::vector<MgCommandDS> commands = model->getCommands();
-    const QString &description = commands[proxy->mapToSource(shown).row()].tooltip;
-    ui.description_label->setText(description.left(kLongestDescription));
+    const MgCommandDS *command = model->recordAt(proxy->mapToSource(shown).row());
+    ui.description_label->setText(command->tooltip.left(kLongestDescription));
     table->beginEditing(shown.sibling(shown.row(), MgCommandDSModel::kDirectionColumn));
 }
 

@@ -44,6 +44,8 @@ def functions(root):
 
 
 class Types:
+    """The types in a description, and their names in C++."""
+
     def __init__(self, root):
         self._parents = {child: parent for parent in root.iter() for child in parent}
         self._by_id = {element.get("id"): element for element in root.iter() if element.get("id")}

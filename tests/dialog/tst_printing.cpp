@@ -775,21 +775,19 @@ void PrintingTest::chosenPagesOnly()
     printToFile();
     const int pages = pagesOf(m_file);
     QVERIFY(pages > 3);
-    m_dialog->printDialog = [this](QPrinter &printer) {
-        printer.setOutputFormat(QPrinter::PdfFormat);
-        printer.setOutputFileName(m_file);
-        printer.setFromTo(2, 3);
-        return static_cast<int>(QDialog::Accepted);
+    const auto choose = [this](int first, int last) {
+        m_dialog->printDialog = [this, first, last](QPrinter &printer) {
+            printer.setOutputFormat(QPrinter::PdfFormat);
+            printer.setOutputFileName(m_file);
+            printer.setFromTo(first, last);
+            return static_cast<int>(QDialog::Accepted);
+        };
     };
+    choose(2, 3);
     printToFile();
     QCOMPARE(pagesOf(m_file), 2);
     QCOMPARE(wordsOf(m_file).constLast(), QStringLiteral("3"));
-    m_dialog->printDialog = [this](QPrinter &printer) {
-        printer.setOutputFormat(QPrinter::PdfFormat);
-        printer.setOutputFileName(m_file);
-        printer.setFromTo(1, 1);
-        return static_cast<int>(QDialog::Accepted);
-    };
+    choose(1, 1);
     printToFile();
     QCOMPARE(pagesOf(m_file), 1);
     QCOMPARE(wordsOf(m_file).constLast(), QStringLiteral("1"));

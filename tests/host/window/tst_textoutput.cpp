@@ -5,12 +5,28 @@
 #include "sdk/chx/CHxString.h"
 #include "tests/support/FatalWarnings.h"
 
+#include <QElapsedTimer>
 #include <QStatusBar>
 #include <QTest>
+#include <QTimer>
 
 #include <memory>
 
 using gesturewidget::TextOutput;
+
+namespace {
+
+// A program's window, and the host's output to its status bar.
+struct Program
+{
+    QMainWindow window;
+    QStatusBar *bar = window.statusBar();
+    TextOutput output{&window};
+
+    [[nodiscard]] QString shown() const { return bar->currentMessage(); }
+};
+
+} // namespace
 
 class TextOutputTest : public QObject
 {
@@ -35,90 +51,84 @@ private Q_SLOTS:
 
 void TextOutputTest::showsAndClears()
 {
-    QMainWindow window;
-    const QStatusBar *bar = window.statusBar();
-    TextOutput output(&window);
-    output.SetText("Draws a line", false);
-    QCOMPARE(bar->currentMessage(), QStringLiteral("Draws a line"));
-    output.SetText("Two\nlines", true);
-    QCOMPARE(bar->currentMessage(), QStringLiteral("Two lines"));
-    output.SetText("", true);
-    QCOMPARE(bar->currentMessage(), QString());
-    output.showForAWhile(QStringLiteral("For a while"));
-    QCOMPARE(bar->currentMessage(), QStringLiteral("For a while"));
+    Program program;
+    program.output.SetText("Draws a line", false);
+    QCOMPARE(program.shown(), QStringLiteral("Draws a line"));
+    program.output.SetText("Two\nlines", true);
+    QCOMPARE(program.shown(), QStringLiteral("Two lines"));
+    program.output.SetText("", true);
+    QCOMPARE(program.shown(), QString());
+    program.output.showForAWhile(QStringLiteral("For a while"));
+    QCOMPARE(program.shown(), QStringLiteral("For a while"));
 }
 
 void TextOutputTest::bringsBackTheProgramsMessage()
 {
-    QMainWindow window;
-    QStatusBar *bar = window.statusBar();
-    bar->showMessage(QStringLiteral("Specify first point"));
-    TextOutput output(&window);
-    output.SetText("Line", false);
-    output.SetText("Circle", false);
-    QCOMPARE(bar->currentMessage(), QStringLiteral("Circle"));
-    output.SetText("", false);
-    QCOMPARE(bar->currentMessage(), QStringLiteral("Specify first point"));
-    output.SetText("", true); // nothing of ours is shown
-    QCOMPARE(bar->currentMessage(), QStringLiteral("Specify first point"));
+    Program program;
+    program.bar->showMessage(QStringLiteral("Specify first point"));
+    program.output.SetText("Line", false);
+    program.output.SetText("Circle", false);
+    QCOMPARE(program.shown(), QStringLiteral("Circle"));
+    program.output.SetText("", false);
+    QCOMPARE(program.shown(), QStringLiteral("Specify first point"));
+    program.output.SetText("", true); // nothing of ours is shown
+    QCOMPARE(program.shown(), QStringLiteral("Specify first point"));
 }
 
 void TextOutputTest::messageWithATimeComesBackForTheRest()
 {
-    QMainWindow window;
-    QStatusBar *bar = window.statusBar();
-    bar->showMessage(QStringLiteral("Saved"), 2000);
-    TextOutput output(&window);
-    output.SetText("Line", false);
-    output.SetText("", false);
-    QCOMPARE(bar->currentMessage(), QStringLiteral("Saved"));
-    QTRY_COMPARE(bar->currentMessage(), QString());
+    constexpr int kTime = 2000; // milliseconds
+    Program program;
+    program.bar->showMessage(QStringLiteral("Saved"), kTime);
+    QElapsedTimer since;
+    since.start();
+    program.output.SetText("Line", false);
+    QTRY_VERIFY(since.elapsed() > 60);
+    program.output.SetText("", false);
+    QCOMPARE(program.shown(), QStringLiteral("Saved"));
+    QVERIFY(program.bar->findChild<QTimer *>()->interval() < kTime);
+    QTRY_COMPARE(program.shown(), QString());
 }
 
 void TextOutputTest::messageThatIsOverStaysAway()
 {
-    QMainWindow window;
-    QStatusBar *bar = window.statusBar();
-    bar->showMessage(QStringLiteral("Saved"), 50);
-    TextOutput output(&window);
-    output.SetText("Line", false);
+    Program program;
+    program.bar->showMessage(QStringLiteral("Saved"), 50);
+    program.output.SetText("Line", false);
     QElapsedTimer since;
     since.start();
     QTRY_VERIFY(since.elapsed() > 60);
-    QCOMPARE(bar->currentMessage(), QStringLiteral("Line"));
-    output.SetText("", false);
-    QCOMPARE(bar->currentMessage(), QString());
+    QCOMPARE(program.shown(), QStringLiteral("Line"));
+    program.output.SetText("", false);
+    QCOMPARE(program.shown(), QString());
 }
 
 void TextOutputTest::newerMessageOfTheProgramStays()
 {
-    QMainWindow window;
-    QStatusBar *bar = window.statusBar();
-    bar->showMessage(QStringLiteral("Specify first point"));
-    TextOutput output(&window);
-    output.SetText("Line", false);
-    bar->showMessage(QStringLiteral("Specify second point"));
-    output.SetText("", false);
-    QCOMPARE(bar->currentMessage(), QStringLiteral("Specify second point"));
-    bar->clearMessage();
-    output.SetText("Line", false);
-    output.SetText("", false);
-    QCOMPARE(bar->currentMessage(), QString());
+    Program program;
+    program.bar->showMessage(QStringLiteral("Specify first point"));
+    program.output.SetText("Line", false);
+    program.bar->showMessage(QStringLiteral("Specify second point"));
+    program.output.SetText("", false);
+    QCOMPARE(program.shown(), QStringLiteral("Specify second point"));
+    program.bar->clearMessage();
+    program.output.SetText("Line", false);
+    program.output.SetText("", false);
+    QCOMPARE(program.shown(), QString());
 }
 
 void TextOutputTest::eachBarGetsItsOwnMessageBack()
 {
-    QMainWindow first;
-    first.statusBar()->showMessage(QStringLiteral("Of the first"));
-    QMainWindow second;
-    second.statusBar()->showMessage(QStringLiteral("Of the second"));
-    TextOutput output(&first);
-    output.SetText("Line", false);
-    output.setWindow(&second);
-    QCOMPARE(first.statusBar()->currentMessage(), QStringLiteral("Of the first"));
-    output.SetText("Line", false);
-    output.SetText("", false);
-    QCOMPARE(second.statusBar()->currentMessage(), QStringLiteral("Of the second"));
+    Program first;
+    first.bar->showMessage(QStringLiteral("Of the first"));
+    Program second;
+    second.bar->showMessage(QStringLiteral("Of the second"));
+    first.output.SetText("Line", false);
+    first.output.setWindow(&second.window);
+    QCOMPARE(first.shown(), QStringLiteral("Of the first"));
+    first.output.SetText("Line", false);
+    first.output.SetText("", false);
+    QCOMPARE(second.shown(), QStringLiteral("Of the second"));
 }
 
 void TextOutputTest::paintsAtOnceWhenAsked()
