@@ -19,6 +19,8 @@
 #include <QToolBar>
 
 #include <algorithm>
+#include <iterator>
+#include <vector>
 
 namespace gesturewidget {
 namespace {
@@ -87,20 +89,42 @@ QStringList wordsOfName(QString name)
 // The role of menus with "Zoom to Fit".
 constexpr const char *kViewRole = "view";
 
-struct Signs
+// What is known of a command in every language.
+struct WellKnownCommand
 {
     const char *identifier;
     QKeySequence::StandardKey shortcut;
-    QStringList icons;
+    const char *icons; // separated by bars
     const char *menuRoles; // of the menus where such commands are, separated by spaces
+};
+
+constexpr WellKnownCommand kWellKnownCommands[] = {
+    {"ID_COPY", QKeySequence::Copy, "edit-copy", "edit"},
+    {"ID_DTEXT", QKeySequence::UnknownKey, "draw-text|insert-text|tool-text", "draw"},
+    {"ID_LINE", QKeySequence::UnknownKey, "draw-line|tool-line", "draw"},
+    {"ID_OFFSET", QKeySequence::UnknownKey, "object-offset|offset", "edit draft draw"},
+    {"ID_OPEN", QKeySequence::Open, "document-open", "file"},
+    {"ID_SAVE", QKeySequence::Save, "document-save", "file"},
+    {"ID_TRIM", QKeySequence::UnknownKey, "trim", "edit draft draw"},
+    {"ID_ZOOM_BOUNDS", QKeySequence::UnknownKey, "zoom-fit-best|zoom-fit|zoom-fit-page", kViewRole},
+};
+
+struct Signs
+{
+    explicit Signs(const WellKnownCommand &command);
+
+    QString identifier;
+    QKeySequence::StandardKey shortcut;
+    QStringList icons;
+    bool isZoom;
     // In lower case, words separated by one space. An object name is compared with them
     // once its words that name no deed are gone, see noise().
-    Words words = {};
-    Words menus = {}; // captions, likewise
+    Words words;
+    Words menus; // captions, likewise
     // Words that say too little but in one of these menus.
-    Words wordsInMenus = {};
+    Words wordsInMenus;
     // Single words among both: "Open Image" mentions "open".
-    Words mentions = {};
+    Words mentions;
 };
 
 Words plainWordsOf(const QStringList &captions)
@@ -111,45 +135,32 @@ Words plainWordsOf(const QStringList &captions)
     return words;
 }
 
-QVector<Signs> makeSigns()
+Signs::Signs(const WellKnownCommand &command)
+    : identifier(QLatin1String(command.identifier))
+    , shortcut(command.shortcut)
+    , icons(QString::fromLatin1(command.icons).split(QLatin1Char('|')))
+    , isZoom(command.menuRoles == kViewRole)
 {
-    const auto list = [](const char *text) {
-        return QString::fromLatin1(text).split(QLatin1Char('|'), Qt::SkipEmptyParts);
-    };
-    QVector<Signs> signs{
-        {"ID_COPY", QKeySequence::Copy, list("edit-copy"), "edit"},
-        {"ID_DTEXT", QKeySequence::UnknownKey, list("draw-text|insert-text|tool-text"), "draw"},
-        {"ID_LINE", QKeySequence::UnknownKey, list("draw-line|tool-line"), "draw"},
-        {"ID_OFFSET", QKeySequence::UnknownKey, list("object-offset|offset"), "edit draft draw"},
-        {"ID_OPEN", QKeySequence::Open, list("document-open"), "file"},
-        {"ID_SAVE", QKeySequence::Save, list("document-save"), "file"},
-        {"ID_TRIM", QKeySequence::UnknownKey, list("trim"), "edit draft draw"},
-        {"ID_ZOOM_BOUNDS", QKeySequence::UnknownKey, list("zoom-fit-best|zoom-fit|zoom-fit-page"),
-         kViewRole},
-    };
-    for (Signs &sign : signs) {
-        const QString identifier = QLatin1String(sign.identifier);
-        for (const KnownCaptions &captions : KnownCaptions::languages()) {
-            sign.words |= plainWordsOf(captions.commands.value(identifier));
-            sign.wordsInMenus |= plainWordsOf(captions.commandsInTheirMenus.value(identifier));
-        }
-        const QStringList roles = QString::fromLatin1(sign.menuRoles).split(QLatin1Char(' '));
-        for (const QString &role : roles)
-            sign.menus |= plainWordsOf(KnownCaptions::menusOf(role));
-        const Words all = Words(sign.words) | sign.wordsInMenus;
-        for (const QString &words : all) {
-            if (!words.contains(QLatin1Char(' ')))
-                sign.mentions.insert(words);
-        }
-        if (sign.menuRoles == kViewRole)
-            sign.mentions.insert(QStringLiteral("zoom"));
+    for (const KnownCaptions &captions : KnownCaptions::languages()) {
+        words |= plainWordsOf(captions.commands.value(identifier));
+        wordsInMenus |= plainWordsOf(captions.commandsInTheirMenus.value(identifier));
     }
-    return signs;
+    const QStringList roles = QString::fromLatin1(command.menuRoles).split(QLatin1Char(' '));
+    for (const QString &role : roles)
+        menus |= plainWordsOf(KnownCaptions::menusOf(role));
+    const Words all = Words(words) | wordsInMenus;
+    for (const QString &text : all) {
+        if (!text.contains(QLatin1Char(' ')))
+            mentions.insert(text);
+    }
+    if (isZoom)
+        mentions.insert(QStringLiteral("zoom"));
 }
 
-const QVector<Signs> &allSigns()
+// Takes milliseconds the first time, so only what compares actions asks for it.
+const std::vector<Signs> &allSigns()
 {
-    static const QVector<Signs> signs = makeSigns();
+    static const std::vector<Signs> signs(std::begin(kWellKnownCommands), std::end(kWellKnownCommands));
     return signs;
 }
 
@@ -331,12 +342,11 @@ bool isConvincing(const Signs &signs, const Signals &has, const Look &look)
     const bool isTool = signs.shortcut == QKeySequence::UnknownKey;
     const bool isSaid = has.hasName || has.hasCaption;
     // A checkable action is a mode. Among well-known commands only tools and "keep it fitted" are.
-    const bool isZoom = signs.menuRoles == kViewRole;
-    if (look.isCheckable && (!isTool || (isZoom && !(has.hasIcon && isSaid))))
+    if (look.isCheckable && (!isTool || (signs.isZoom && !(has.hasIcon && isSaid))))
         return false;
     if (!has.shortcut.isEmpty() && (has.hasCaption || !has.isDoubtful) && (isSaid || has.isMentioned))
         return true;
-    if (has.isElsewhere && !isZoom)
+    if (has.isElsewhere && !signs.isZoom)
         return false;
     // A button outside the menus that says "Save" may save anything. The command itself comes later.
     if (look.isButtonOnly && !isTool && !has.hasName && !has.hasIcon)
@@ -347,7 +357,7 @@ bool isConvincing(const Signs &signs, const Signals &has, const Look &look)
 WellKnownGuess judge(const Signs &signs, const Look &look)
 {
     WellKnownGuess guess;
-    guess.identifier = QLatin1String(signs.identifier);
+    guess.identifier = signs.identifier;
     const Signals has(signs, look);
     if (!isConvincing(signs, has, look))
         return guess;
@@ -377,8 +387,8 @@ WellKnownGuess judge(const Signs &signs, const Look &look)
 QStringList WellKnownGuess::identifiers()
 {
     QStringList names;
-    for (const Signs &signs : allSigns())
-        names.append(QLatin1String(signs.identifier));
+    for (const WellKnownCommand &command : kWellKnownCommands)
+        names.append(QLatin1String(command.identifier));
     return names;
 }
 
@@ -391,7 +401,7 @@ QVector<WellKnownGuess> WellKnownGuess::among(const QVector<QAction *> &actions,
             continue;
         const Look look(*action);
         for (const Signs &signs : allSigns()) {
-            if (!wanted.contains(QLatin1String(signs.identifier)))
+            if (!wanted.contains(signs.identifier))
                 continue;
             WellKnownGuess guess = judge(signs, look);
             guess.action = action;

@@ -267,8 +267,9 @@ CatalogueFile::Content CatalogueFile::parsed(const QByteArray &text)
         const RememberedCommand command = fromJson(value.toObject());
         const bool hasPrivateTip =
             command.tip.isEmpty() && !value.toObject().value(kTipKey).toString().isEmpty();
-        content.isPrivate |= hasPrivateTip || isPrivate(command);
-        if (isPrivate(command) || !isAcceptable(command) || known.contains(command.identifier))
+        const bool isLeftOut = isPrivate(command);
+        content.isPrivate |= hasPrivateTip || isLeftOut;
+        if (isLeftOut || !isAcceptable(command) || known.contains(command.identifier))
             continue;
         if (content.commands.size() == kMaximalCount)
             break;

@@ -13,11 +13,11 @@
 #include "host/files/ProgramProfile.h"
 #include "host/menus/CommandManager.h"
 #include "host/menus/UiManager.h"
+#include "host/services/ButtonImages.h"
 #include "host/services/CurrentTask.h"
 #include "host/services/HostEditor.h"
 #include "host/services/MessageBox.h"
 #include "host/services/ProfileStore.h"
-#include "host/services/SharedButtons.h"
 #include "host/services/TaskRings.h"
 #include "host/window/MainWindows.h"
 #include "host/window/TextOutput.h"
@@ -168,7 +168,7 @@ SystemServices::SystemServices(QMainWindow *window, const ProgramProfile &profil
                                const HelpGuide &guide)
     : m_d(std::make_unique<Private>(window, profile, documents, settingsFile, guide))
 {
-    provideSharedButtons();
+    provideButtonImages();
 }
 
 SystemServices::~SystemServices() = default;

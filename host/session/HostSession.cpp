@@ -10,7 +10,7 @@
 #include "host/files/Text.h"
 #include "host/menus/ProgramLanguage.h"
 #include "host/services/HostEditor.h"
-#include "host/services/StoredText.h"
+#include "host/services/StoredSettings.h"
 #include "host/services/SystemServices.h"
 #include "host/session/ExplainedProgram.h"
 #include "host/session/LastRun.h"

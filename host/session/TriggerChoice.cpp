@@ -7,7 +7,7 @@
 #include "host/files/ProgramProfile.h"
 #include "host/files/SettingsNames.h"
 #include "host/files/TriggerText.h"
-#include "host/services/StoredText.h"
+#include "host/services/StoredSettings.h"
 #include "sdk/chx/CHxProfileStore.h"
 
 #include <QCoreApplication>

@@ -42,6 +42,15 @@ QString canonical(const QByteArray &path)
     return QFileInfo(QFile::decodeName(path)).canonicalFilePath();
 }
 
+// Several copies of our programs may be installed.
+bool isOurs(const QString &executable)
+{
+    static const QStringList names{QStringLiteral("mouse-gestures"),
+                                   QStringLiteral("mouse-gestures-settings"),
+                                   QStringLiteral("mouse-gestures-sheet")};
+    return names.contains(QFileInfo(executable).fileName());
+}
+
 bool isShown(const DesktopFile &file)
 {
     return file.isApplication() && file.value("NoDisplay") != "true" && file.value("Terminal") != "true";
@@ -62,8 +71,6 @@ void MenuPrograms::find(const std::function<void(const MenuProgram &)> &found,
                         const std::function<bool(int, int)> &progress) const
 {
     const QList<QByteArray> libraryFolders = systemLibraryFolders("/etc/ld.so.conf");
-    const QString ownFolder =
-        canonical(QFile::encodeName(QFileInfo(QFile::decodeName(m_places.launcher)).path()));
     const QList<Entry> entries = allEntries(m_places);
     QSet<QString> seenEntries;
     QSet<QString> seenPrograms;
@@ -92,9 +99,7 @@ void MenuPrograms::find(const std::function<void(const MenuProgram &)> &found,
         const QString executable = canonical(program.path);
         const QString typedName = QFileInfo(QFile::decodeName(program.typed)).fileName();
         const QString key = executable + QLatin1Char('\n') + typedName;
-        const bool isOwn = QFileInfo(executable).path() == ownFolder
-                        && QFileInfo(executable).fileName().startsWith(QLatin1String("mouse-gestures"));
-        if (isOwn || seenPrograms.contains(key))
+        if (isOurs(executable) || seenPrograms.contains(key))
             continue;
         seenPrograms.insert(key);
         if (canHaveGestures(program, file.value("Categories"), libraryFolders))

@@ -18,9 +18,14 @@ class Flakes(unittest.TestCase):
         self.addCleanup(folder.cleanup)
         self.build = Path(folder.name)
 
-    def offer(self, **commands):
-        """Makes CTest know these tests: a shell command for each name."""
-        (self.build / "CTestTestfile.cmake").write_text(
+    def offer(self, room="", **commands):
+        """Makes CTest know these tests, of a room or of none: a shell command for each name."""
+        folder = self.build / "tests" / room if room else self.build
+        folder.mkdir(parents=True, exist_ok=True)
+        if room:
+            with open(self.build / "CTestTestfile.cmake", "a", encoding="utf-8") as file:
+                file.write(f'subdirs("tests/{room}")\n')
+        (folder / "CTestTestfile.cmake").write_text(
             "".join(f'add_test({name} "/bin/sh" "-c" "{command}")\n'
                     f"set_tests_properties({name} PROPERTIES SKIP_RETURN_CODE 77)\n"
                     for name, command in commands.items()), encoding="utf-8")
@@ -40,27 +45,28 @@ class Flakes(unittest.TestCase):
         status, lines = self.flakes("--jobs", "2")
         self.assertEqual(status, 0)
         self.assertEqual((self.runs("good.runs"), self.runs("other.runs")), (4, 4))
-        self.assertEqual(lines[-1], "2 of 2 tests 2 times quiet, 2 of them 2 times beside 4 busy loops: "
+        self.assertEqual(lines[-1], "others: 2 of 2 tests 2 times quiet, 2 of them 2 times beside 4 busy loops: "
                                     "0 of 8 runs failed")
 
     def test_counts_failures_and_keeps_their_output(self):
         self.offer(good="true", bad="echo reason; false")
         status, lines = self.flakes()
         self.assertEqual(status, 1)
-        self.assertTrue(lines[-1].startswith("2 of 2 tests 2 times quiet, 2 of them 2 times beside 4 "
-                                             "busy loops: 4 of 8 runs failed"), lines)
+        self.assertEqual(lines[-2], "others: 2 of 2 tests 2 times quiet, 2 of them 2 times beside 4 busy "
+                                    "loops: 4 of 8 runs failed")
+        self.assertEqual(lines[-1], f"see {self.build / 'flakes'}")
         self.assertIn("reason", (self.build / "flakes" / "bad-busy-2.log").read_text(encoding="utf-8"))
 
     def test_skipped_test_counts_as_failure(self):
         self.offer(skipped="exit 77")
         status, lines = self.flakes()
         self.assertEqual(status, 1)
-        self.assertIn("4 of 4 runs failed", lines[-1])
+        self.assertIn("4 of 4 runs failed", lines[-2])
 
     def test_begins_no_run_after_the_time(self):
         self.offer(good=f"echo x >>{self.build}/good.runs")
         _, lines = self.flakes("--minutes", "0.000001")
-        self.assertEqual(lines[-1], "0 of 1 tests 2 times quiet, 0 of them 2 times beside 4 busy loops: "
+        self.assertEqual(lines[-1], "others: 0 of 1 tests 2 times quiet, 0 of them 2 times beside 4 busy loops: "
                                     "0 of 0 runs failed")
         self.assertEqual(self.runs("good.runs"), 0)
 
@@ -69,22 +75,45 @@ class Flakes(unittest.TestCase):
         self.flakes("good")
         status, lines = self.flakes("--continue")
         self.assertEqual(status, 0)
-        self.assertTrue(lines[-1].startswith("2 of 2 tests 2 times quiet, 2 of them"), lines)
+        self.assertTrue(lines[-1].startswith("others: 2 of 2 tests 2 times quiet, 2 of them"), lines)
         self.assertEqual((self.runs("good.runs"), self.runs("other.runs")), (4, 4))
 
-    def test_figures_tell_of_all_tests(self):
-        self.offer(good="true")
+    def test_figures_tell_of_whole_rooms(self):
+        self.offer("dialog", good="true")
+        self.offer("host/menus", bad="false")
         self.flakes("good")
         self.assertFalse((self.build / "figures").exists())
-        self.flakes("--without", "long|desk")
-        self.assertEqual((self.build / "figures" / "flakes.txt").read_text(encoding="utf-8"),
-                         "1 of 1 tests 2 times quiet, 1 of them 2 times beside 4 busy loops: "
-                         "0 of 4 runs failed (without those labelled long|desk)\n")
+        _, lines = self.flakes("--without", "long|desk")
+        dialog = ("dialog: 1 of 1 tests 2 times quiet, 1 of them 2 times beside 4 busy loops: "
+                  "0 of 4 runs failed (without those labelled long|desk)")
+        menus = ("host/menus: 1 of 1 tests 2 times quiet, 1 of them 2 times beside 4 busy loops: "
+                 "4 of 4 runs failed (without those labelled long|desk)")
+        self.assertEqual(lines[-3:-1], [dialog, menus])
+        self.assertEqual({file.name: file.read_text(encoding="utf-8")
+                          for file in (self.build / "figures").iterdir()},
+                         {"flakes-dialog.txt": dialog + "\n", "flakes-host-menus.txt": menus + "\n"})
+
+    def test_runs_the_tests_of_a_room(self):
+        self.offer("dialog", good=f"echo x >>{self.build}/good.runs")
+        self.offer("dialog/parts", other=f"echo x >>{self.build}/other.runs")
+        status, _ = self.flakes("--room", "dialog")
+        self.assertEqual(status, 0)
+        self.assertEqual((self.runs("good.runs"), self.runs("other.runs")), (4, 0))
+        self.assertEqual([file.name for file in (self.build / "figures").iterdir()],
+                         ["flakes-dialog.txt"])
+
+    def test_a_room_keeps_the_results_of_others(self):
+        self.offer("dialog", good=f"echo x >>{self.build}/good.runs")
+        self.offer("gesture", other=f"echo x >>{self.build}/other.runs")
+        self.flakes("--room", "dialog")
+        self.flakes("--room", "gesture")
+        self.flakes("--continue")
+        self.assertEqual((self.runs("good.runs"), self.runs("other.runs")), (4, 4))
 
     def test_no_such_test(self):
         self.offer(good="true")
-        status, _ = self.flakes("bad")
-        self.assertEqual(status, 2)
+        self.assertEqual(self.flakes("bad")[0], 2)
+        self.assertEqual(self.flakes("--room", "dialog")[0], 2)
 
 
 if __name__ == "__main__":

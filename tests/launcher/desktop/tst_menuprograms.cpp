@@ -145,6 +145,12 @@ private Q_SLOTS:
         copy("direct", "mouse-gestures-settings");
         entry("first/mouse-gestures.desktop", "Name=Mouse Gestures\nExec=mouse-gestures-settings\n");
         QCOMPARE(found(), QStringList());
+        // Another copy of it is installed, too.
+        QDir().mkpath(place("other"));
+        QVERIFY(QFile::copy(place("bin/draw"), place("other/mouse-gestures-settings")));
+        entry("first/other.desktop",
+              "Name=Other\nExec=" + QFile::encodeName(place("other/mouse-gestures-settings")) + '\n');
+        QCOMPARE(found(), QStringList());
         // A program of somebody else may have such a name.
         QDir().mkpath(place("games"));
         QVERIFY(QFile::copy(place("bin/draw"), place("games/mouse-gestures-maze")));

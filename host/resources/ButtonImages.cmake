@@ -5,7 +5,7 @@
 # gesturewidget_hostcode embeds the images.
 #
 # The images are in a separate resource file, and the library embeds that file as a whole. So the
-# images appear only when the host registers the file, see SharedButtons.cpp.
+# images appear only when the host registers the file, see ButtonImages.cpp.
 add_executable(gesturewidget_drawbuttons resources/DrawButtons.cpp)
 gesturewidget_defaults(gesturewidget_drawbuttons WITHOUT_WIDGETS)
 target_link_libraries(gesturewidget_drawbuttons PRIVATE Qt${GESTUREWIDGET_QT}::Gui)

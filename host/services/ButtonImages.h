@@ -8,6 +8,6 @@ namespace gesturewidget {
 // Offers the images for dialog buttons that modules expect from a host: ok.png, cancel.png and
 // help.png in ":/images/shared/". If the program has one of them, its own is used. A second call
 // has no effect.
-void provideSharedButtons();
+void provideButtonImages();
 
 } // namespace gesturewidget

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
-#include "host/services/StoredText.h"
+#include "host/services/StoredSettings.h"
 
 #include "host/files/SettingsNames.h"
 #include "sdk/chx/CHxProfileStore.h"

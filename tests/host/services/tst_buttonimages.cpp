@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
-#include "host/services/SharedButtons.h"
+#include "host/services/ButtonImages.h"
 #include "tests/support/FatalWarnings.h"
 
 #include <QDir>
@@ -9,7 +9,7 @@
 #include <QTest>
 
 // This test program has its own help.png, see fixtures/sharedbuttons.qrc.
-class SharedButtonsTest : public QObject
+class ButtonImagesTest : public QObject
 {
     Q_OBJECT
 
@@ -20,7 +20,7 @@ private Q_SLOTS:
     void theProgramKeepsItsOwn();
 };
 
-void SharedButtonsTest::theProgramKeepsItsOwn()
+void ButtonImagesTest::theProgramKeepsItsOwn()
 {
     const auto content = [](const char *name) {
         QFile file(QStringLiteral(":/images/shared/") + QLatin1String(name));
@@ -28,12 +28,12 @@ void SharedButtonsTest::theProgramKeepsItsOwn()
     };
     QCOMPARE(QDir(QStringLiteral(":/images/shared")).entryList(),
              QStringList(QStringLiteral("help.png")));
-    gesturewidget::provideSharedButtons();
-    gesturewidget::provideSharedButtons();
+    gesturewidget::provideButtonImages();
+    gesturewidget::provideButtonImages();
     QCOMPARE(content("help.png").trimmed(), QByteArray("the program's own"));
     QVERIFY(content("ok.png").startsWith("\x89PNG"));
     QVERIFY(content("cancel.png").startsWith("\x89PNG"));
 }
 
-QTEST_GUILESS_MAIN(SharedButtonsTest)
-#include "tst_sharedbuttons.moc"
+QTEST_GUILESS_MAIN(ButtonImagesTest)
+#include "tst_buttonimages.moc"

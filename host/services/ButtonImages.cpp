@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
-#include "host/services/SharedButtons.h"
+#include "host/services/ButtonImages.h"
 
 #include <QResource>
 
@@ -26,7 +26,7 @@ private:
 
 } // namespace
 
-void provideSharedButtons()
+void provideButtonImages()
 {
     // The images are a resource file inside a resource file, so they are not offered before this
     // call. If two files have the same name, Qt returns the one that was registered first, which
