@@ -102,6 +102,12 @@ class Flakes(unittest.TestCase):
         self.assertEqual([file.name for file in (self.build / "figures").iterdir()],
                          ["flakes-dialog.txt"])
 
+    def test_each_real_program_is_a_room(self):
+        self.offer("e2e", e2e_librecad_flick="true", e2e_librecad_quit="true", desk_openbox="true")
+        _, lines = self.flakes()
+        self.assertEqual([line.split()[:2] for line in lines[-2:]],
+                         [["e2e/desk:", "1"], ["e2e/librecad:", "2"]])
+
     def test_a_room_keeps_the_results_of_others(self):
         self.offer("dialog", good=f"echo x >>{self.build}/good.runs")
         self.offer("gesture", other=f"echo x >>{self.build}/other.runs")
