@@ -13,7 +13,8 @@
 
 #include <cstdlib>
 
-// Replaces the C library's allocation functions in this program, also for Qt, and counts calls.
+// Replaces the C library's allocation functions in this program and counts calls. They are exported, so
+// that Qt calls them, too.
 namespace {
 bool isCounting = false;
 int allocations = 0;
@@ -26,17 +27,17 @@ void *__libc_calloc(std::size_t count, std::size_t size);
 void *__libc_realloc(void *memory, std::size_t size);
 // NOLINTEND(bugprone-reserved-identifier)
 
-void *malloc(std::size_t size)
+Q_DECL_EXPORT void *malloc(std::size_t size)
 {
     allocations += isCounting;
     return __libc_malloc(size);
 }
-void *calloc(std::size_t count, std::size_t size)
+Q_DECL_EXPORT void *calloc(std::size_t count, std::size_t size)
 {
     allocations += isCounting;
     return __libc_calloc(count, size);
 }
-void *realloc(void *memory, std::size_t size)
+Q_DECL_EXPORT void *realloc(void *memory, std::size_t size)
 {
     allocations += isCounting;
     return __libc_realloc(memory, size);
