@@ -78,6 +78,12 @@ class Flakes(unittest.TestCase):
         self.assertTrue(lines[-1].startswith("others: 2 of 2 tests 2 times quiet, 2 of them"), lines)
         self.assertEqual((self.runs("good.runs"), self.runs("other.runs")), (4, 4))
 
+    def test_goes_on_in_the_middle_of_a_test(self):
+        self.offer(good=f"echo x >>{self.build}/good.runs")
+        self.flakes("--times", "1")
+        self.flakes("--continue", "--times", "3")
+        self.assertEqual(self.runs("good.runs"), 6)
+
     def test_figures_tell_of_whole_rooms(self):
         self.offer("dialog", good="true")
         self.offer("host/menus", bad="false")
