@@ -84,8 +84,8 @@ if(GESTUREWIDGET_PRECOMPILE)
   gesturewidget_precompile(gesturewidget_precompiled HEADERS ${headers} LIBRARIES Widgets)
   if(GESTUREWIDGET_TESTS)
     gesturewidget_precompile(gesturewidget_precompiled_tests
-      HEADERS ${headers} <QProcess> <QTableView> <QTemporaryDir>
-      LIBRARIES Widgets OPTIONS -O0)
+      HEADERS ${headers} <QProcess> <QTableView> <QTemporaryDir> <QtTest>
+      LIBRARIES Test Widgets OPTIONS -O0)
   endif()
 endif()
 

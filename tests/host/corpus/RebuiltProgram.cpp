@@ -60,8 +60,8 @@ template <class Bar> QMenu *menuIn(Bar &bar, const QString &title)
     return bar.addMenu(title);
 }
 
-// A class of the program's own. Each of them needs a C++ type of its own, hence the number.
-template <class Base, std::size_t Number> class StandIn : public Base
+// A class of the program's own.
+template <class Base> class StandIn : public Base
 {
 public:
     explicit StandIn(const QJsonObject &record)
@@ -90,6 +90,12 @@ private:
     bool m_takesText;
 };
 
+// Each class of the program's needs a C++ type of its own.
+template <class Base, std::size_t Number> class NumberedStandIn : public StandIn<Base>
+{
+    using StandIn<Base>::StandIn;
+};
+
 // The program's classes in one tree, each with a number.
 class Types
 {
@@ -109,7 +115,7 @@ private:
 
 template <class Base, std::size_t Number> QWidget *makeOne(const QJsonObject &record)
 {
-    return new StandIn<Base, Number>(record);
+    return new NumberedStandIn<Base, Number>(record);
 }
 
 template <class Base, std::size_t... Numbers>
