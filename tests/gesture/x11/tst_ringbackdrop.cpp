@@ -87,18 +87,24 @@ private Q_SLOTS:
     void lastFrameToo();
     void backdropIsTakenAnew();
     void compositorComesAndGoes();
+    void compositorGoesUnderAnOpenRing();
+    void compositorComesUnderAnOpenRing();
 
 private:
     // Opens the ring with the left sector lit. Returns the screen at the ring's place from
     // before.
     QImage open();
     void end();
+    void startCompositor();
+    void stopCompositor();
+    [[nodiscard]] bool isSeenThrough(const QColor &color);
     [[nodiscard]] QRect place() const;
     // The number of pixels where the screen is not what a compositor would show. Leaves out the
     // lit sector and the lines between sectors.
     [[nodiscard]] int wrongPixels(const QImage &before, double opacity);
 
     std::unique_ptr<X11Bench> m_bench;
+    QProcess m_compositor;
     Drawing *m_drawing = nullptr;
     const QPoint m_centre{200, 200};
 };
@@ -125,6 +131,8 @@ void RingBackdropTest::init()
 void RingBackdropTest::cleanup()
 {
     m_bench.reset();
+    m_compositor.kill(); // a test that failed leaves it
+    m_compositor.waitForFinished();
     QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
 }
 
@@ -208,31 +216,75 @@ void RingBackdropTest::backdropIsTakenAnew()
     }
 }
 
+void RingBackdropTest::startCompositor()
+{
+    m_compositor.start(QStringLiteral("picom"),
+                       {QStringLiteral("--backend"), QStringLiteral("xrender"),
+                        QStringLiteral("--config"), QStringLiteral("/dev/null")});
+    QVERIFY(m_compositor.waitForStarted());
+    QTRY_VERIFY(m_bench->peer.hasCompositor());
+}
+
+void RingBackdropTest::stopCompositor()
+{
+    m_compositor.terminate();
+    QVERIFY(m_compositor.waitForFinished());
+    QTRY_VERIFY(!m_bench->peer.hasCompositor());
+    m_bench->settle();
+}
+
+// What is on the screen under an open ring changes, and shows through.
+bool RingBackdropTest::isSeenThrough(const QColor &color)
+{
+    const QPoint place = m_centre + QPoint(40, 33);
+    m_drawing->setColor(color);
+    const QColor changed = m_drawing->grab().toImage().pixelColor(place);
+    return QTest::qWaitFor([&] { return m_bench->peer.colorAt(m_bench->global(place)) == changed; });
+}
+
 void RingBackdropTest::compositorComesAndGoes()
 {
-    for (int round = 0; round < 2; ++round) {
-        QProcess compositor;
-        compositor.start(QStringLiteral("picom"),
-                         {QStringLiteral("--backend"), QStringLiteral("xrender"),
-                          QStringLiteral("--config"), QStringLiteral("/dev/null")});
-        QVERIFY(compositor.waitForStarted());
-        QTRY_VERIFY(m_bench->peer.hasCompositor());
+    for (const QColor &color : {QColor(Qt::darkBlue), QColor(Qt::darkRed)}) {
+        startCompositor();
         QVERIFY(!open().isNull());
-        // The ring is really seen through: the drawing changes while it is open.
-        m_drawing->setColor(round == 0 ? Qt::darkBlue : Qt::darkRed);
-        const QColor changed = m_drawing->grab().toImage().pixelColor(m_centre + QPoint(40, 33));
-        QTRY_COMPARE(m_bench->peer.colorAt(m_bench->global(m_centre + QPoint(40, 33))), changed);
+        QVERIFY(isSeenThrough(color));
         end();
 
-        compositor.terminate();
-        QVERIFY(compositor.waitForFinished());
-        QTRY_VERIFY(!m_bench->peer.hasCompositor());
-        m_bench->settle();
+        stopCompositor();
         const QImage before = open();
         QVERIFY(!before.isNull());
         QTRY_COMPARE(wrongPixels(before, kRingOpacity), 0);
         end();
     }
+}
+
+void RingBackdropTest::compositorGoesUnderAnOpenRing()
+{
+    startCompositor();
+    const QImage before = open();
+    QVERIFY(!before.isNull());
+    stopCompositor();
+    QVERIFY(m_bench->isRingUp());
+    end();
+    QTRY_COMPARE(m_bench->peer.screenAt(place()), before);
+    QVERIFY(!open().isNull());
+    QTRY_COMPARE(wrongPixels(before, kRingOpacity), 0);
+    end();
+    QTRY_COMPARE(m_bench->peer.screenAt(place()), before);
+}
+
+void RingBackdropTest::compositorComesUnderAnOpenRing()
+{
+    const QImage before = open();
+    QVERIFY(!before.isNull());
+    startCompositor();
+    QVERIFY(m_bench->isRingUp());
+    end();
+    QTRY_COMPARE(m_bench->peer.screenAt(place()), before);
+    QVERIFY(!open().isNull());
+    QVERIFY(isSeenThrough(Qt::darkGreen));
+    end();
+    stopCompositor();
 }
 
 QTEST_MAIN(RingBackdropTest)
