@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QLocalServer>
 #include <QLocalSocket>
 #include <QUrl>
 
@@ -19,8 +20,9 @@ constexpr char kAnswer = '1';
 OneWindow::OneWindow(const QString &place, QObject *parent)
     : QObject(parent)
     , m_place(place)
+    , m_server(std::make_unique<QLocalServer>())
 {
-    connect(&m_server, &QLocalServer::newConnection, this, &OneWindow::answer);
+    connect(m_server.get(), &QLocalServer::newConnection, this, &OneWindow::answer);
     if (place.isEmpty())
         return;
     m_lock.emplace(place + QLatin1String(".lock"));
@@ -28,9 +30,11 @@ OneWindow::OneWindow(const QString &place, QObject *parent)
     if (!m_lock->tryLock(0))
         return;
     // With this option Qt moves the socket to its place, over one that a killed process left behind.
-    m_server.setSocketOptions(QLocalServer::UserAccessOption);
-    m_server.listen(place);
+    m_server->setSocketOptions(QLocalServer::UserAccessOption);
+    m_server->listen(place);
 }
+
+OneWindow::~OneWindow() = default;
 
 QString OneWindow::usualPlace()
 {
@@ -54,7 +58,7 @@ bool OneWindow::isShownByAnother()
 
 void OneWindow::answer()
 {
-    while (QLocalSocket *socket = m_server.nextPendingConnection()) {
+    while (QLocalSocket *socket = m_server->nextPendingConnection()) {
         connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
         socket->write(&kAnswer, 1);
         socket->disconnectFromServer();

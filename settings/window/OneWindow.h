@@ -3,12 +3,14 @@
 
 #pragma once
 
-#include <QLocalServer>
 #include <QLockFile>
 #include <QObject>
 #include <QString>
 
+#include <memory>
 #include <optional>
+
+class QLocalServer;
 
 namespace settings {
 
@@ -29,6 +31,7 @@ class OneWindow : public QObject
 public:
     // `place` is the path of a socket, at most 107 bytes long; empty for none.
     explicit OneWindow(const QString &place, QObject *parent = nullptr);
+    ~OneWindow() override;
 
     // A socket in the person's folder for running programs, with the display in its name. Empty if
     // there is no such folder.
@@ -49,7 +52,7 @@ private:
 
     QString m_place;
     std::optional<QLockFile> m_lock; // held by the first process
-    QLocalServer m_server;
+    std::unique_ptr<QLocalServer> m_server;
 };
 
 } // namespace settings
