@@ -83,6 +83,7 @@ if(GESTUREWIDGET_PRECOMPILE)
     <algorithm> <cmath> <functional> <memory> <optional> <utility> <vector>)
   gesturewidget_precompile(gesturewidget_precompiled HEADERS ${headers} LIBRARIES Widgets)
   if(GESTUREWIDGET_TESTS)
+    # Nearly each test includes QtTest.
     gesturewidget_precompile(gesturewidget_precompiled_tests
       HEADERS ${headers} <QProcess> <QTableView> <QTemporaryDir> <QtTest>
       LIBRARIES Test Widgets OPTIONS -O0)
