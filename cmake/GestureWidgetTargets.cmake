@@ -23,7 +23,8 @@ endif()
 
 # gesturewidget_defaults(TARGET [WITHOUT_WIDGETS] [TEST]): language, warnings, Qt's generators and the
 # rules for this project's sources. Sources include a file by its path from the project's root. Targets
-# that do not link Qt Widgets say so. A TEST is compiled without optimisation.
+# that do not link Qt Widgets say so. A TEST is compiled without optimisation, and each of its sources
+# alone.
 function(gesturewidget_defaults target)
   cmake_parse_arguments(arg "WITHOUT_WIDGETS;TEST" "" "" ${ARGN})
   set_target_properties(${target} PROPERTIES
@@ -49,6 +50,7 @@ function(gesturewidget_defaults target)
   set(headers gesturewidget_precompiled)
   if(arg_TEST)
     target_compile_options(${target} PRIVATE -O0)
+    set_target_properties(${target} PROPERTIES UNITY_BUILD OFF)
     set(headers gesturewidget_precompiled_tests)
   endif()
   if(GESTUREWIDGET_PRECOMPILE AND NOT arg_WITHOUT_WIDGETS)

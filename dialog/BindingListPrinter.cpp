@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr qreal kMargin = 2 / 2.54; // inches, around the page: 2 cm
+constexpr qreal kPageMargin = 2 / 2.54; // inches, around the page: 2 cm
 constexpr qreal kDocumentDpi = 96; // the unit of lengths in formats
 constexpr qreal kRounding = 4; // pixels of the printer, far less than a row
 constexpr qreal kPageNumberGap = 5 / 72.0; // inches, above a page number
@@ -135,8 +135,8 @@ void printBindingList(const QTextDocument &source, QPrinter &printer)
         return;
 
     const qreal scale = printer.logicalDpiY() / kDocumentDpi;
-    const qreal across = kMargin * printer.logicalDpiX();
-    const qreal down = kMargin * printer.logicalDpiY();
+    const qreal across = kPageMargin * printer.logicalDpiX();
+    const qreal down = kPageMargin * printer.logicalDpiY();
     const QRectF body = QRectF(QPointF(), QSizeF(printer.width(), printer.height()))
                             .adjusted(across, down, -across, -down);
     centreIcons(*document, printer);

@@ -23,7 +23,7 @@ namespace {
 // From the window's edge to the circle of the labels' centres, in pixels.
 constexpr double kLabelInset = 32.0;
 // A full turn in radians. Pi is 22/7, as in MgDonutDialog.
-constexpr double kFullTurn = 6.285714285714286;
+constexpr double kFullTurnInRadians = 6.285714285714286;
 // The background's opacity. Highlight and labels are opaque.
 constexpr double kRingOpacity = 120.0 / 255.0;
 
@@ -193,7 +193,7 @@ double MgDonutDialogPVStyleImpl::setPainterOrigin(QPainter *painter, int sectorC
     const int sectorWidth = sectorCount == 8 ? 45 : 90;
     const int degrees = index * sectorWidth + 90;
     // Subtracted from a full turn, because the screen's y axis points down.
-    const double angle = kFullTurn - (degrees * 22.0) / 1260.0;
+    const double angle = kFullTurnInRadians - (degrees * 22.0) / 1260.0;
     painter->translate(std::cos(angle) * radius, std::sin(angle) * radius);
 
     // Texts run along the ring and are never upside down.

@@ -22,7 +22,7 @@
 namespace gesturewidget {
 namespace {
 
-constexpr int kVersion = 1;
+constexpr int kCatalogueVersion = 1;
 
 // Milliseconds. Others hold the lock for as long as it takes to write the file. If that is too
 // long, the next change of the menus tries again.
@@ -105,7 +105,7 @@ QJsonObject toJson(const RememberedCommand &command)
 // One line for each command, so that people can read the file.
 QByteArray textOf(const QVector<RememberedCommand> &commands)
 {
-    QByteArray text = "{\n\"version\": " + QByteArray::number(kVersion) + ",\n\"commands\": [";
+    QByteArray text = "{\n\"version\": " + QByteArray::number(kCatalogueVersion) + ",\n\"commands\": [";
     const char *separator = "\n";
     for (const RememberedCommand &command : commands) {
         text += separator + QJsonDocument(toJson(command)).toJson(QJsonDocument::Compact);
@@ -252,7 +252,7 @@ CatalogueFile::Content CatalogueFile::parsed(const QByteArray &text)
         return {State::Damaged, {}, false, {}};
     const QJsonObject object = document.object();
     const int version = object.value(kVersionKey).toInt();
-    if (version > kVersion)
+    if (version > kCatalogueVersion)
         return {State::Foreign,
                 {},
                 false,

@@ -12,8 +12,6 @@
 namespace gesturewidget {
 namespace {
 
-constexpr qint64 kMaximalSize = qint64(4) * 1024 * 1024; // bytes, as SettingsFile
-
 QString noteName()
 {
     return SettingsFile::nameOf(settingsnames::hostSection(), settingsnames::offSinceCrashKey());
@@ -30,7 +28,7 @@ CrashNote::CrashNote(const QString &program, const QString &settings)
 bool CrashNote::isInSettings() const
 {
     // Not by SettingsFile, which complains about damage: those who use the settings do that.
-    const FileContent content = FileContent::read(m_settings, kMaximalSize);
+    const FileContent content = FileContent::read(m_settings, SettingsFile::kMaximalSize);
     return IniText(content.bytes).values().value(noteName()) == QLatin1String("1");
 }
 

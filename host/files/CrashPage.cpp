@@ -43,11 +43,6 @@ constexpr char kMagic[8] = {'G', 'W', 'p', 'a', 'g', 'e', '1', '\n'};
 constexpr off_t kSize = 4096; // bytes
 constexpr qint64 kMaximalBootName = 63; // bytes
 
-QByteArray encoded(const QString &path)
-{
-    return QFile::encodeName(path);
-}
-
 // A program's name as part of a file's name.
 QByteArray namePart(const QString &program)
 {
@@ -56,7 +51,7 @@ QByteArray namePart(const QString &program)
 
 QByteArray settingsPath(const QString &settings)
 {
-    return encoded(QFileInfo(settings).absoluteFilePath());
+    return QFile::encodeName(QFileInfo(settings).absoluteFilePath());
 }
 
 bool isNumber(const QByteArray &text)
@@ -86,7 +81,7 @@ QByteArray runtimeFolder()
 
 QByteArray cacheFolder()
 {
-    return encoded(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation))
+    return QFile::encodeName(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation))
          + "/gesturewidget";
 }
 

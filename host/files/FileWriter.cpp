@@ -17,13 +17,6 @@
 namespace gesturewidget {
 namespace {
 
-constexpr mode_t kOwnerOnly = 0600;
-
-QByteArray encoded(const QString &path)
-{
-    return QFile::encodeName(path);
-}
-
 // Returns the end of a chain of links, also if nothing is there yet. The kernel follows 40 links.
 QString withoutLinks(QString path)
 {
@@ -61,12 +54,13 @@ FileWriter::FileWriter(const QString &path, Readers readers)
 
 bool FileWriter::keepAs(const QString &second) const
 {
-    const QByteArray path = encoded(m_path);
-    const QByteArray name = encoded(second);
+    const QByteArray path = QFile::encodeName(m_path);
+    const QByteArray name = QFile::encodeName(second);
     if (!isReplaceable(name))
         return false;
     if (m_readers == Readers::Owner)
-        static_cast<void>(::chmod(path.constData(), kOwnerOnly)); // fails on somebody else's file
+        // Fails on somebody else's file.
+        static_cast<void>(::chmod(path.constData(), UnfinishedFile::kOwnerOnly));
     if (UnfinishedFile::linkAs(path, name))
         return true;
     const FileContent content = FileContent::read(m_path, std::numeric_limits<int>::max() / 2);
@@ -85,12 +79,12 @@ bool FileWriter::write(const QByteArray &content, const QString &second) const
 
 bool FileWriter::write(const QByteArray &content, const QString *second) const
 {
-    const QByteArray path = encoded(m_path);
+    const QByteArray path = QFile::encodeName(m_path);
     if (m_path.isEmpty() || !isReplaceable(path))
         return false;
     UnfinishedFile::removeLeftovers(path); // first, since they take space
     UnfinishedFile file(path);
-    return file.fill(content, m_readers == Readers::Owner ? kOwnerOnly : usualMode(path))
+    return file.fill(content, m_readers == Readers::Owner ? UnfinishedFile::kOwnerOnly : usualMode(path))
         && (!second || keepAs(*second)) && file.finish();
 }
 

@@ -20,8 +20,8 @@ namespace gesturewidget {
 namespace {
 
 // Far more than any profile needs; keeps a wrong file from filling the memory.
-constexpr qint64 kMaximalSize = qint64(1024) * 1024;
-constexpr int kVersion = 1;
+constexpr qint64 kMaximalProfileSize = qint64(1024) * 1024;
+constexpr int kProfileVersion = 1;
 
 // Reads one object member by member and remembers the first thing that is wrong.
 class Reader
@@ -290,7 +290,7 @@ QString fill(ProgramProfile &profile, const QByteArray &text)
     const QJsonValue version = reader.value(QStringLiteral("version"));
     if (!version.isDouble())
         reader.fail(Text::tr("\"version\" is missing or not a number"));
-    else if (version.toDouble() != kVersion)
+    else if (version.toDouble() != kProfileVersion)
         reader.fail(Text::tr("version %1 is not known").arg(version.toDouble()));
     const QString program = reader.string(QStringLiteral("program"));
     if (program != profile.program)
@@ -348,7 +348,7 @@ QJsonObject ProgramProfile::toJson() const
                                                     : QJsonValue(QJsonArray::fromStringList(names)));
     }
 
-    QJsonObject profile{{QStringLiteral("version"), kVersion},
+    QJsonObject profile{{QStringLiteral("version"), kProfileVersion},
                         {QStringLiteral("program"), program},
                         {QStringLiteral("viewClasses"), QJsonArray::fromStringList(viewClasses)},
                         {QStringLiteral("trigger"), trigger},
@@ -408,7 +408,7 @@ ProgramProfile ProgramProfile::forProgram(const QString &program, const QStringL
         if (folder.isEmpty() || !QFileInfo::exists(path))
             continue;
         ProgramProfile profile = defaults;
-        const QString problem = fill(profile, FileContent::read(path, kMaximalSize));
+        const QString problem = fill(profile, FileContent::read(path, kMaximalProfileSize));
         if (problem.isEmpty())
             return profile;
         if (message) {

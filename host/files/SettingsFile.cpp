@@ -19,9 +19,6 @@
 namespace gesturewidget {
 namespace {
 
-// Bytes. Far more than all bindings need; a longer file is some other file.
-constexpr qint64 kMaximalSize = qint64(4) * 1024 * 1024;
-
 bool isDamaged(const QByteArray &content, const QByteArray &backup)
 {
     const bool isCutOff = content.size() < backup.size() && backup.startsWith(content);
@@ -35,7 +32,7 @@ bool store(const QString &path, const QByteArray &content)
 
 FileContent contentOf(const QString &path)
 {
-    return FileContent::read(path, kMaximalSize);
+    return FileContent::read(path, SettingsFile::kMaximalSize);
 }
 
 } // namespace

@@ -48,6 +48,8 @@ public:
     [[nodiscard]] QString notice() const { return m_notice; }
 
     static constexpr int kLockPatience = 1000; // milliseconds
+    // Bytes. Far more than all bindings need; a longer file is some other file.
+    static constexpr qint64 kMaximalSize = qint64(4) * 1024 * 1024;
 
     // The name of a value, see IniText::nameOf().
     [[nodiscard]] static QString nameOf(const QString &section, const QString &key);

@@ -16,7 +16,7 @@ namespace gesturewidget {
 namespace {
 
 // Bytes. Far more than all bindings need.
-constexpr qint64 kMaximalSize = qint64(1024) * 1024;
+constexpr qint64 kMaximalSiteSettingsSize = qint64(1024) * 1024;
 
 } // namespace
 
@@ -28,7 +28,7 @@ SiteSettings::SiteSettings(const QString &own)
     const QStringList folders = siteFolders();
     for (const QString &folder : folders) {
         const QString path = QDir(folder).filePath(file.fileName());
-        const FileContent content = FileContent::read(path, kMaximalSize);
+        const FileContent content = FileContent::read(path, kMaximalSiteSettingsSize);
         if (!content.isRead())
             continue;
         const SettingsFile::Values found = IniText(content.bytes).values();

@@ -24,7 +24,6 @@ constexpr char kMark[] = ".saving-";
 constexpr int kLetters = 6; // 32 different ones, so two writers hardly ever choose the same
 constexpr char kAlphabet[] = "abcdefghijklmnopqrstuvwxyz234567";
 constexpr int kAttempts = 100;
-constexpr mode_t kOwnerOnly = 0600;
 
 QByteArray folderOf(const QByteArray &path)
 {

@@ -20,6 +20,9 @@ namespace gesturewidget {
 class UnfinishedFile
 {
 public:
+    // The mode that a new file has until fill() sets another.
+    static constexpr mode_t kOwnerOnly = 0600;
+
     enum class Start {
         WithoutName, // where the file system can
         WithName

@@ -6,18 +6,18 @@
 namespace gesturewidget {
 namespace {
 
-int listener = -1;
+int whoAsked = -1;
 
 } // namespace
 
 void explainTo(int socket)
 {
-    listener = socket;
+    whoAsked = socket;
 }
 
 int explanationListener()
 {
-    return listener;
+    return whoAsked;
 }
 
 } // namespace gesturewidget

@@ -27,11 +27,6 @@ using gesturewidget::FileWriter;
 // Milliseconds. Usually it takes a few.
 constexpr int kLongestRefresh = 5000;
 
-QByteArray fileName(const QByteArray &path)
-{
-    return path.mid(path.lastIndexOf('/') + 1);
-}
-
 // Returns whether something has that name, if only a link that leads nowhere.
 bool isThere(const QString &path)
 {
@@ -224,6 +219,7 @@ QString DesktopMenu::installedFile(const QString &name) const
 
 QStringList DesktopMenu::entriesOf(const QByteArray &typed, const QByteArray &path) const
 {
+    const QByteArray wanted = ExecLine::fileName(typed);
     QStringList named; // these start it by the name that was typed
     QStringList others; // these start the same file by another name
     QStringList seen;
@@ -238,14 +234,14 @@ QStringList DesktopMenu::entriesOf(const QByteArray &typed, const QByteArray &pa
                 continue;
             const ExecLine line = file.exec();
             if (line.isValid && isProgram(line.program, path))
-                (fileName(line.program) == fileName(typed) ? named : others).append(name);
+                (ExecLine::fileName(line.program) == wanted ? named : others).append(name);
         }
     }
     if (!named.isEmpty() || !others.isEmpty())
         return named.isEmpty() ? others : named;
 
     // The entry may start a script that in turn starts the program.
-    const QString name = QFile::decodeName(fileName(typed)) + QLatin1String(".desktop");
+    const QString name = QFile::decodeName(wanted) + QLatin1String(".desktop");
     DesktopFile file;
     if (!file.read(installedFile(name)) || !file.isApplication() || !file.exec().isValid)
         return {};
@@ -260,14 +256,14 @@ QStringList DesktopMenu::copiesFor(const QByteArray &typed, const QByteArray &pa
 {
     QStringList named; // as in entriesOf()
     QStringList others;
-    const QString usual = QFile::decodeName(fileName(typed)) + QLatin1String(".desktop");
+    const QString usual = QFile::decodeName(ExecLine::fileName(typed)) + QLatin1String(".desktop");
     const QStringList own = namesIn(m_places.own);
     for (const QString &name : own) {
         DesktopFile file;
         if (!file.read(QDir(m_places.own).filePath(name)) || !file.isOurs())
             continue;
         const QByteArray started = file.exec().startedProgram();
-        const bool isNamed = fileName(started) == fileName(typed);
+        const bool isNamed = ExecLine::fileName(started) == ExecLine::fileName(typed);
         const bool isIt = path.isEmpty() ? isNamed : isProgram(started, path);
         if (name == usual || (isIt && isNamed))
             named.append(name);

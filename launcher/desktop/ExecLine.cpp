@@ -99,15 +99,10 @@ bool split(const std::vector<Letter> &letters, std::vector<Word> &words)
     return quote == '\0';
 }
 
-QByteArray fileName(const QByteArray &path)
-{
-    return path.mid(path.lastIndexOf('/') + 1);
-}
-
 // The index of the word that is the program; the number of words when there is none.
 std::size_t programAmong(const std::vector<Word> &words)
 {
-    if (words.empty() || fileName(words.front().text) != "env")
+    if (words.empty() || ExecLine::fileName(words.front().text) != "env")
         return 0;
     std::size_t i = 1;
     for (; i < words.size(); ++i) {
@@ -166,6 +161,11 @@ QByteArray ExecLine::unescaped(const QByteArray &value)
     for (const Letter &letter : letters)
         text += letter.value;
     return text;
+}
+
+QByteArray ExecLine::fileName(const QByteArray &program)
+{
+    return program.mid(program.lastIndexOf('/') + 1);
 }
 
 QByteArray ExecLine::escaped(QByteArray text)

@@ -24,6 +24,9 @@ struct ExecLine
     // The other way round: the text of a value as the file has it.
     [[nodiscard]] static QByteArray unescaped(const QByteArray &value);
 
+    // The last part of a program's path.
+    [[nodiscard]] static QByteArray fileName(const QByteArray &program);
+
     // The value with `launcher`, a path, put before the program; everything else stays as it was,
     // to the byte. If the launcher is removed later, the command starts the program alone.
     [[nodiscard]] QByteArray startedBy(const QByteArray &launcher) const;

@@ -30,7 +30,7 @@ using gesturewidget::Phrase;
 
 constexpr int kSlice = 50; // milliseconds between two looks at the program
 // Bytes. More than any report has. After more, no further message is read.
-constexpr int kMaximalSize = 8 * 1024 * 1024;
+constexpr int kMaximalReportSize = 8 * 1024 * 1024;
 constexpr int kCaught[] = {SIGINT, SIGTERM, SIGHUP};
 
 volatile std::sig_atomic_t caughtSignal = 0;
@@ -178,7 +178,7 @@ void ProgramExplainer::listen(ProgramExplanation &explanation)
             if (!hadReport && !explanation.profile.isEmpty())
                 all.start();
             m_hasNews = false;
-            if (text.size() > kMaximalSize)
+            if (text.size() > kMaximalReportSize)
                 isOpen = false;
             continue;
         }

@@ -16,7 +16,7 @@
 namespace launcher {
 namespace {
 
-QByteArray contentOf(const QString &path)
+QByteArray kernelText(const QString &path)
 {
     QFile file(path); // of the kernel, which says nothing of its size
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
@@ -28,7 +28,8 @@ bool runs(const QString &process, const QString &program)
     if (QFileInfo(process + QLatin1String("/exe")).symLinkTarget() == program)
         return true;
     // The words that may be a script's path: the interpreter, perhaps an option, the script.
-    const QList<QByteArray> words = contentOf(process + QLatin1String("/cmdline")).split('\0').mid(1, 2);
+    const QList<QByteArray> words =
+        kernelText(process + QLatin1String("/cmdline")).split('\0').mid(1, 2);
     return std::any_of(words.begin(), words.end(), [&program](const QByteArray &word) {
         return word.startsWith('/') && QFileInfo(QFile::decodeName(word)).canonicalFilePath() == program;
     });
@@ -36,7 +37,7 @@ bool runs(const QString &process, const QString &program)
 
 bool hasPlugin(const QString &process)
 {
-    return contentOf(process + QLatin1String("/maps")).contains(gesturewidget::kPluginFilePrefix);
+    return kernelText(process + QLatin1String("/maps")).contains(gesturewidget::kPluginFilePrefix);
 }
 
 } // namespace

@@ -16,7 +16,7 @@
 namespace launcher {
 namespace {
 
-constexpr int kVersion = 1;
+constexpr int kFormatVersion = 1;
 
 QByteArray quoted(const QString &text)
 {
@@ -249,7 +249,7 @@ QByteArray bindingsToJson(const Bindings &bindings, const QString &program,
                           const QMap<QString, Bindings> &rings)
 {
     QByteArray text = "{\n";
-    text += "    \"version\": " + QByteArray::number(kVersion) + ",\n";
+    text += "    \"version\": " + QByteArray::number(kFormatVersion) + ",\n";
     text += "    \"program\": " + quoted(program) + ",\n";
     text += QByteArray("    \"enabled\": ") + (bindings.enabled ? "true" : "false") + ",\n";
     text += "    \"trigger\": " + quoted(bindings.trigger) + ",\n";
@@ -296,8 +296,8 @@ bool bindingsFromJson(const QByteArray &text, const QString &program, Bindings &
                  {name("version"), name("program"), name("enabled"), name("trigger"), name("scheme"),
                   name("four"), name("eight")},
                  {}, name("rings"));
-    if (reader.value(name("version")) != QJsonValue(kVersion))
-        reader.fail(name("version"), Text::tr("is not %1").arg(kVersion));
+    if (reader.value(name("version")) != QJsonValue(kFormatVersion))
+        reader.fail(name("version"), Text::tr("is not %1").arg(kFormatVersion));
     if (reader.value(name("program")) != QJsonValue(program))
         reader.fail(name("program"), Text::tr("is not \"%1\"").arg(program));
     if (!reader.value(name("enabled")).isBool())

@@ -19,7 +19,7 @@ namespace {
 using gesturewidget::foldedCaption;
 using gesturewidget::RememberedCommand;
 
-constexpr int kVersion = 1;
+constexpr int kListVersion = 1;
 // Characters. A longer name does not move the captions of the others.
 constexpr int kWidest = 40;
 
@@ -194,7 +194,7 @@ Outcome KnownCommands::listAsJson(const QString &program) const
                                     {QStringLiteral("tip"), command.tip},
                                     {QStringLiteral("category"), command.group},
                                     {QStringLiteral("toolbar"), command.isInToolBar}});
-    const QJsonObject list{{QStringLiteral("version"), kVersion},
+    const QJsonObject list{{QStringLiteral("version"), kListVersion},
                            {QStringLiteral("program"), program},
                            {QStringLiteral("commands"), commands}};
     return {QJsonDocument(list).toJson(), {}};

@@ -14,7 +14,7 @@
 namespace sheet {
 namespace {
 
-constexpr double kMargin = 16.0; // millimetres
+constexpr double kPageMargin = 16.0; // millimetres
 constexpr double kMillimetresPerInch = 25.4;
 
 } // namespace
@@ -23,7 +23,8 @@ bool setUpPage(QPagedPaintDevice &device)
 {
     const bool isAmerican = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
     return device.setPageSize(QPageSize(isAmerican ? QPageSize::Letter : QPageSize::A4))
-        && device.setPageMargins(QMarginsF(kMargin, kMargin, kMargin, kMargin), QPageLayout::Millimeter);
+        && device.setPageMargins(QMarginsF(kPageMargin, kPageMargin, kPageMargin, kPageMargin),
+                                 QPageLayout::Millimeter);
 }
 
 bool drawPage(const launcher::SheetContent &content, QPagedPaintDevice &device, int resolution)

@@ -27,7 +27,7 @@ constexpr double kGap = 6.0;
 constexpr double kRowHeight = 9.0;
 constexpr double kCellMargin = 2.5;
 constexpr double kCellAir = 0.6; // above and below
-constexpr double kIconSize = 6.0;
+constexpr double kRowIconSize = 6.0;
 constexpr double kTextSize = 3.7;
 constexpr double kSmallestTextSize = 2.4;
 
@@ -140,7 +140,7 @@ void SheetPainter::paintRow(QPainter &painter, const QRectF &row,
                             const launcher::SheetContent::Command &command, double mm) const
 {
     const double margin = kCellMargin * mm;
-    const double icon = kIconSize * mm;
+    const double icon = kRowIconSize * mm;
     const auto column = [&](double from, double width) {
         return QRectF(row.left() + from * row.width(), row.top(), width * row.width(), row.height())
             .adjusted(margin, kCellAir * mm, -margin, -kCellAir * mm);

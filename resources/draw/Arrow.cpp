@@ -13,7 +13,7 @@ namespace draw {
 namespace {
 
 // A dark rim around a light filling shows on light, dark and coloured rows.
-constexpr double kRimWidth = 2.0;
+constexpr double kArrowRimWidth = 2.0;
 
 // The middle of the rim. Edges along the pixels have odd coordinates. The rim's own edges are
 // then even and stay sharp when the image is shown at half its size. The heads are
@@ -41,7 +41,8 @@ QImage arrow(int index, int ratio)
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(palette::kArrowRim, kRimWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.setPen(
+        QPen(palette::kArrowRim, kArrowRimWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.setBrush(palette::kHighlightEdge);
     // Each pair of directions is the pair before it, turned a quarter counter-clockwise.
     painter.translate(kArrowSize / 2.0, kArrowSize / 2.0);

@@ -18,7 +18,7 @@
 namespace settings {
 namespace {
 
-constexpr int kIconSize = 32; // pixels
+constexpr int kProgramIconSize = 32; // pixels
 constexpr int kMargin = 8; // pixels
 
 } // namespace
@@ -34,8 +34,8 @@ QRect ProgramDelegate::switchRect(const QStyleOptionViewItem &option)
 QSize ProgramDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     const int lines = 2 * option.fontMetrics.height() + 2 * kMargin;
-    return {QStyledItemDelegate::sizeHint(option, index).width() + kIconSize,
-            qMax(lines, kIconSize + 2 * kMargin)};
+    return {QStyledItemDelegate::sizeHint(option, index).width() + kProgramIconSize,
+            qMax(lines, kProgramIconSize + 2 * kMargin)};
 }
 
 void ProgramDelegate::paint(QPainter *painter, const QStyleOptionViewItem &given,
@@ -55,8 +55,10 @@ void ProgramDelegate::paint(QPainter *painter, const QStyleOptionViewItem &given
         return QStyle::visualRect(option.direction, option.rect, rect);
     };
     const QRect row = option.rect;
-    const QRect icon(row.left() + kMargin, row.center().y() - kIconSize / 2, kIconSize, kIconSize);
-    const QPixmap pixmap = programPixmap(option.icon, kIconSize, painter->device()->devicePixelRatioF());
+    const QRect icon(row.left() + kMargin, row.center().y() - kProgramIconSize / 2, kProgramIconSize,
+                     kProgramIconSize);
+    const QPixmap pixmap =
+        programPixmap(option.icon, kProgramIconSize, painter->device()->devicePixelRatioF());
     style->drawItemPixmap(painter, visual(icon), Qt::AlignCenter, pixmap);
 
     const int left = icon.right() + 1 + kMargin;

@@ -15,16 +15,16 @@
 namespace settings {
 namespace {
 
-constexpr int kIconSize = 20; // pixels
+constexpr int kTagIconSize = 20; // pixels
 constexpr QPoint kBesidePointer{12, 10}; // pixels
 
 // The icon and the caption, as the tag shows them.
 QPixmap tagPicture(const ShownCommand &command, const QWidget &page)
 {
     const QFontMetrics metrics = page.fontMetrics();
-    const int icon = command.icon.isNull() ? 0 : kIconSize + 6;
+    const int icon = command.icon.isNull() ? 0 : kTagIconSize + 6;
     const QSize size(metrics.horizontalAdvance(command.caption) + icon + 20,
-                     qMax(metrics.height(), kIconSize) + 10);
+                     qMax(metrics.height(), kTagIconSize) + 10);
     const qreal ratio = page.devicePixelRatioF();
     QPixmap picture((QSizeF(size) * ratio).toSize());
     picture.setDevicePixelRatio(ratio);
@@ -36,7 +36,7 @@ QPixmap tagPicture(const ShownCommand &command, const QWidget &page)
     painter.setBrush(page.palette().color(QPalette::Base));
     painter.drawRoundedRect(box, 5.0, 5.0);
     if (icon > 0)
-        painter.drawPixmap(QRect(10, (size.height() - kIconSize) / 2, kIconSize, kIconSize),
+        painter.drawPixmap(QRect(10, (size.height() - kTagIconSize) / 2, kTagIconSize, kTagIconSize),
                            command.icon);
     painter.setFont(page.font());
     painter.setPen(page.palette().color(QPalette::Text));

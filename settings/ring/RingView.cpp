@@ -19,7 +19,7 @@ namespace settings {
 namespace {
 
 // Pixels at the ring's own size of draw::kRingSize.
-constexpr double kIconSize = 15.0;
+constexpr double kRingIconSize = 15.0;
 constexpr double kLargestText = 7.4;
 constexpr double kSmallestText = 5.4;
 constexpr double kOutline = 2.2;
@@ -284,7 +284,7 @@ void RingView::paintLabel(QPainter &painter, int direction) const
     const double side = square().width();
     const double scale = side / draw::kRingSize;
     const QRectF box = ringart::labelBox(side, count, direction);
-    const double icon = command.icon.isNull() ? 0.0 : kIconSize * scale;
+    const double icon = command.icon.isNull() ? 0.0 : kRingIconSize * scale;
     // The tool tip has the whole name.
     const auto text =
         sheet::FittedText::ofName(command.caption, font(), QSizeF(box.width(), box.height() - icon),

@@ -12,7 +12,7 @@
 namespace settings {
 namespace {
 
-constexpr int kMargin = 8; // pixels
+constexpr int kFieldMargin = 8; // pixels
 
 } // namespace
 
@@ -29,8 +29,8 @@ TriggerField::TriggerField(QWidget *parent)
 
 QSize TriggerField::sizeHint() const
 {
-    return {fontMetrics().horizontalAdvance(tr("or press it here")) + 4 * kMargin,
-            fontMetrics().height() + 2 * kMargin};
+    return {fontMetrics().horizontalAdvance(tr("or press it here")) + 4 * kFieldMargin,
+            fontMetrics().height() + 2 * kFieldMargin};
 }
 
 void TriggerField::paintEvent(QPaintEvent * /*event*/)

@@ -26,8 +26,8 @@
 namespace settings {
 namespace {
 
-constexpr int kIconSize = 48; // pixels
-constexpr int kBetween = 14; // pixels
+constexpr int kTitleIconSize = 48; // pixels
+constexpr int kHandleWidth = 14; // pixels
 constexpr int kCommandsWidth = 14; // heights of a line of text
 constexpr double kTitleGrowth = 1.5;
 
@@ -40,7 +40,7 @@ ProgramPage::ProgramPage(QWidget *parent)
     layout->addWidget(createHeader());
     auto *middle = new QSplitter(this);
     middle->setChildrenCollapsible(false);
-    middle->setHandleWidth(kBetween);
+    middle->setHandleWidth(kHandleWidth);
     middle->addWidget(createRing());
     middle->addWidget(createCommands());
     // Of the whole; the ring needs a little more.
@@ -224,7 +224,7 @@ void ProgramPage::showProgram(BindingsEditor *editor, const QIcon &icon, bool is
     });
     connect(editor, &BindingsEditor::commandsChanged, this, &ProgramPage::showCommands);
     m_commands->clearSearch();
-    m_icon->setPixmap(programPixmap(icon, kIconSize, devicePixelRatioF()));
+    m_icon->setPixmap(programPixmap(icon, kTitleIconSize, devicePixelRatioF()));
     m_title->setText(editor->title());
     m_isOn = isOn;
     m_switch->setChecked(isOn);

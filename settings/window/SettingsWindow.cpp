@@ -38,7 +38,7 @@ constexpr QSize kSize(75, 48);
 constexpr int kProgramsWidth = 17;
 // The most that a window's frame takes, in pixels.
 constexpr QSize kFrame(16, 48);
-constexpr int kSettle = 300; // milliseconds; an installation writes many entries
+constexpr int kInstallationSettle = 300; // milliseconds; an installation writes many entries
 
 launcher::DesktopMenu::Places placesOfMenus()
 {
@@ -101,7 +101,7 @@ SettingsWindow::SettingsWindow()
     connect(&m_finder, &ProgramFinder::finished, this, &SettingsWindow::endSearch);
 
     m_searchAgain.setSingleShot(true);
-    m_searchAgain.setInterval(kSettle);
+    m_searchAgain.setInterval(kInstallationSettle);
     connect(&m_searchAgain, &QTimer::timeout, this, &SettingsWindow::search);
     connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, [this](const QString &folder) {
         // The own folder changes with each switch, here or in another window.

@@ -272,13 +272,16 @@ def copy_sources(folder):
 
 def build_packages(folder):
     """Runs dpkg-buildpackage on a copy of the sources. The copy is always in the same place, and
-    debhelper's build gets the cache that compiled files are in outside of it. It compiles with less
-    optimisation than Debian does, to save time. The checks of the hardening need some."""
+    debhelper's build gets the cache that compiled files are in outside of it. To save time, it
+    compiles several sources as one, with less optimisation than Debian does. The checks of the
+    hardening need some."""
     for old in folder.glob("gesturewidget*_*"):
         old.unlink()
     copy_sources(folder / "source")
     environment = dict(os.environ, DEB_BUILD_OPTIONS=f"parallel={os.cpu_count()} noautodbgsym",
-                       DEB_CXXFLAGS_APPEND="-g0 -O1", GESTUREWIDGET_PRECOMPILE="ON")
+                       DEB_CXXFLAGS_APPEND="-g0 -O1",
+                       GESTUREWIDGET_CMAKE_OPTIONS="-DGESTUREWIDGET_PRECOMPILE=ON "
+                                                   "-DCMAKE_UNITY_BUILD=ON")
     if shutil.which("ccache"):
         environment["CCACHE_DIR"] = run("ccache", "--get-config", "cache_dir").strip()
     run("dpkg-buildpackage", "-us", "-uc", "-b", directory=folder / "source", environment=environment)
