@@ -75,7 +75,9 @@ std::vector<unsigned long> identifiers(Display *display, ::Window window, const 
 {
     const QByteArray bytes = property(display, window, name, type);
     std::vector<unsigned long> result(static_cast<std::size_t>(bytes.size()) / sizeof(unsigned long));
-    std::memcpy(result.data(), bytes.constData(), result.size() * sizeof(unsigned long));
+    // memcpy() takes no null, which the data of an empty vector is.
+    if (!result.empty())
+        std::memcpy(result.data(), bytes.constData(), result.size() * sizeof(unsigned long));
     return result;
 }
 
