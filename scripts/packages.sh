@@ -25,7 +25,7 @@ test_packages=(
   qt6-base-dev qtbase5-private-dev qt6-base-private-dev
   librapidcheck-dev poppler-utils binutils abigail-tools file fonts-wine python3-jsonschema
   breeze-icon-theme libqt5svg5 libqt6svg6 qpwgraph
-  git build-essential dpkg-dev debhelper lintian appstream desktop-file-utils pkg-config
+  git build-essential dpkg-dev debhelper fakeroot lintian appstream desktop-file-utils pkg-config
 )
 
 # Only ./test --coverage needs it.

@@ -74,6 +74,10 @@ bool FakeUIManager::Contains(const CHxUICommandItem *item) const
 void FakeUIManager::RemoveCommandItem(CHxUICommandItem *item)
 {
     m_log->add(QStringLiteral("ui.removeCommandItem ") + item->GetIdentifier().toQString());
+    for (const auto &workspace : m_workspaces) {
+        std::vector<CHxUICommandItem *> &shown = workspace->commandItems;
+        shown.erase(std::remove(shown.begin(), shown.end(), item), shown.end());
+    }
     commandItems.erase(std::remove_if(commandItems.begin(), commandItems.end(),
                                       [item](const auto &held) { return held.get() == item; }),
                        commandItems.end());

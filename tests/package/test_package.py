@@ -16,6 +16,7 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parents[2]
 CONSUMER = ROOT / "tests" / "consumer"
 ENTRY = "Mouse Gestures..."
+EARLIER = "0.0.9"
 
 options = None
 
@@ -354,6 +355,82 @@ def check_dependencies(packages):
     assert f"gesturewidget-dev (= {version()})" in depends("gesturewidget-qt6-dev")
 
 
+def earlier(package, folder):
+    """The package as an earlier version would be: it also has a file that the later one has not."""
+    files = folder / package.stem
+    run("dpkg-deb", "-R", package, files)
+    control = files / "DEBIAN/control"
+    control.write_text(control.read_text().replace(version(), EARLIER))
+    (files / f"usr/share/doc/{package.name.split('_')[0]}/earlier").write_text("only then\n")
+    result = folder / f"earlier_{package.name}"
+    run("fakeroot", "dpkg-deb", "-b", files, result)
+    return result
+
+
+def switched_on(launcher, folder):
+    """Switches a program on that writes down its words. Returns a function that starts it from the
+    person's menu and gives these words."""
+    program = folder / "drafting"
+    program.write_text(f"#!/bin/sh\necho \"$@\" >>{folder}/words\n")
+    program.chmod(0o755)
+    entries = folder / "installed/applications"
+    entries.mkdir(parents=True)
+    (entries / "drafting.desktop").write_text(
+        f"[Desktop Entry]\nType=Application\nName=Drafting\nExec={program} --new %F\n")
+    environment = dict(clean_environment(folder), XDG_DATA_HOME=str(folder / "data"),
+                       XDG_DATA_DIRS=str(folder / "installed"), PATH=f"{folder}:{os.environ['PATH']}")
+    run(launcher, "--enable", "drafting", environment=environment)
+    entry = (folder / "data/applications/drafting.desktop").read_text()
+    assert str(launcher) in entry, entry
+
+    def start():
+        (folder / "words").unlink(missing_ok=True)
+        # A value of the file is escaped, and what it then says is quoted as for a shell.
+        command = re.search(r"^Exec=(.*)$", entry, re.MULTILINE)[1].replace("\\\\", "\\")
+        run("sh", "-c", command.replace("%F", "a.dxf"), environment=environment)
+        return (folder / "words").read_text()
+    return start
+
+
+def check_lifecycle(packages, folder):
+    """Installs an earlier version into an empty root, then the packages over it, removes and purges
+    them. Nothing is left behind, and a program that was switched on still starts."""
+    folder.mkdir()
+    root = folder / "root"
+    for name in ("info", "updates"):
+        (root / "var/lib/dpkg" / name).mkdir(parents=True)
+    (root / "var/lib/dpkg/status").touch()
+
+    def dpkg(*words):
+        # Nothing that they depend on is in the root.
+        run("fakeroot", "dpkg", f"--root={root}", "--force-depends", "--force-not-root",
+            "--force-script-chrootless", f"--log={folder / 'log'}", *words)
+
+    def files():
+        return {name for name in files_below(root) if not name.startswith("var/lib/dpkg/")}
+
+    def versions():
+        return run("dpkg-query", f"--root={root}", "-W", "-f", "${Package} ${Version}\n").split()
+
+    before = files()
+    dpkg("-i", *(earlier(package, folder) for package in packages.values()))
+    same("earlier versions", set(versions()[1::2]), {EARLIER})
+    start = switched_on(root / "usr/bin/mouse-gestures", folder)
+    assert start() == "--new a.dxf\n", start()
+
+    dpkg("-i", *packages.values())
+    same("versions", set(versions()[1::2]), {version()})
+    same("upgraded", files(), set().union(*package_files().values()))
+    assert start() == "--new a.dxf\n", start()
+
+    dpkg("-r", *packages)
+    same("removed", files(), before)
+    assert start() == "--new a.dxf\n", start()
+    dpkg("-P", *packages)
+    same("purged", versions(), [])
+    same("purged files", files(), before)
+
+
 def debian_packages(folder):
     """Builds the four packages of both Qt versions, and uses them from a folder of their own."""
     place = options.build / "debian"
@@ -369,6 +446,7 @@ def debian_packages(folder):
     check_dependencies(packages)
     check_lintian(place, architecture)
     check_hardening(place, filter(is_elf, root.rglob("*")))
+    check_lifecycle(packages, folder / "lifecycle")
 
     prefix = root / "usr"
     run("desktop-file-validate", *(prefix / "share/applications").iterdir())
