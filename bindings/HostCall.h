@@ -18,3 +18,10 @@ template <class Call> bool hostCall(Call &&call) noexcept
         return false;
     }
 }
+
+// The same for a call that gives a value: `otherwise` if it threw.
+template <class Value, class Call> Value hostValue(Value otherwise, Call &&call) noexcept
+{
+    hostCall([&] { otherwise = call(); });
+    return otherwise;
+}

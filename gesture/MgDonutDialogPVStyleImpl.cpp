@@ -4,10 +4,11 @@
 #include "gesture/MgDonutDialogPVStyleImpl.h"
 
 #include "bindings/DonutHelperData.h"
+#include "bindings/HostCall.h"
 #include "bindings/MgDonutDataContainer.h"
+#include "gesture/HostView.h"
 #include "gesture/MgRingAccessible.h"
 #include "sdk/chx/CHxApplication.h"
-#include "sdk/chx/CHxDocument.h"
 #include "sdk/chx/CHxSystemServices.h"
 #include "sdk/chx/CHxTextOutput.h"
 #include "sdk/OwnCode.h"
@@ -33,18 +34,24 @@ constexpr int kFadeTime = 250;
 // The host's mode while a gesture is armed or on.
 constexpr qint16 kFollowsPointer = 1;
 
-CHxApplication *hostApplication()
+// Gives the host's application to `call`, if there is one. Returns false if the host threw.
+template <class Call> bool withApplication(Call call)
 {
-    CHxSystemServices *services = GetHxSystemServices();
-    return services ? services->GetApplication() : nullptr;
+    return hostCall([&call] {
+        CHxSystemServices *services = GetHxSystemServices();
+        if (CHxApplication *application = services ? services->GetApplication() : nullptr)
+            call(*application);
+    });
 }
 
 // Shows a line of text in the host's status bar, if it has one.
 void showText(const QString &text, bool immediate)
 {
-    CHxSystemServices *services = GetHxSystemServices();
-    if (CHxTextOutput *output = services ? services->GetTextOutput() : nullptr)
-        output->SetText(CHxString(text), immediate);
+    hostCall([&text, immediate] {
+        CHxSystemServices *services = GetHxSystemServices();
+        if (CHxTextOutput *output = services ? services->GetTextOutput() : nullptr)
+            output->SetText(CHxString(text), immediate);
+    });
 }
 
 // True if a command's tip says its name at the beginning, so that both together would say it twice.
@@ -52,13 +59,6 @@ bool beginsWithName(const QString &tip, const QString &name)
 {
     return tip.startsWith(name, Qt::CaseInsensitive)
         && (tip.size() == name.size() || !tip.at(name.size()).isLetterOrNumber());
-}
-
-// Pointer positions are measured in this view; null if no drawing is open.
-QWidget *activeView()
-{
-    CHxDocument *active = ACTIVE_DOCUMENT();
-    return active ? active->GetViewWidget() : nullptr;
 }
 
 } // namespace
@@ -93,10 +93,9 @@ void MgDonutDialogPVStyleImpl::WindUp(CHxDocument *doc)
     windUpPos = QCursor::pos();
     document = doc;
     m_holdsHost = true;
-    if (CHxApplication *application = hostApplication()) {
-        savedHostMode = application->GetMode();
-        application->SetMode(kFollowsPointer);
-    }
+    m_knowsHostMode = withApplication([this](CHxApplication &host) { savedHostMode = host.GetMode(); });
+    if (m_knowsHostMode)
+        withApplication([](CHxApplication &host) { host.SetMode(kFollowsPointer); });
     if (QWidget *view = documentView()) {
         savedCursor = view->cursor();
         view->setCursor(QCursor(Qt::ArrowCursor));
@@ -350,7 +349,7 @@ void MgDonutDialogPVStyleImpl::takeBackdrop()
 
 QWidget *MgDonutDialogPVStyleImpl::documentView() const
 {
-    return document ? document->GetViewWidget() : nullptr;
+    return viewOf(document);
 }
 
 void MgDonutDialogPVStyleImpl::giveBackHost()
@@ -358,8 +357,8 @@ void MgDonutDialogPVStyleImpl::giveBackHost()
     if (!m_holdsHost)
         return;
     m_holdsHost = false;
-    if (CHxApplication *application = hostApplication())
-        application->SetMode(savedHostMode);
+    if (m_knowsHostMode)
+        withApplication([this](CHxApplication &host) { host.SetMode(savedHostMode); });
     if (QWidget *view = documentView())
         view->setCursor(savedCursor);
 }

@@ -128,4 +128,6 @@ private:
     QPixmap m_backdrop;
     // WindUp() has set the host's mode and the view's cursor, and they are not restored yet.
     bool m_holdsHost = false;
+    // False if the host threw when it was asked for its mode. Then its mode stays as it is.
+    bool m_knowsHostMode = false;
 };

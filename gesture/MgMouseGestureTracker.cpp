@@ -3,9 +3,10 @@
 
 #include "gesture/MgMouseGestureTracker.h"
 
+#include "bindings/HostCall.h"
 #include "bindings/MgDonutDataContainer.h"
+#include "gesture/HostView.h"
 #include "gesture/MgDonutDialogPVStyleImpl.h"
-#include "sdk/chx/CHxDocument.h"
 #include "sdk/chx/CHxHitTestInfo.h"
 #include "sdk/chx/CHxMainFrame.h"
 #include "sdk/chx/CHxSystemServices.h"
@@ -18,20 +19,30 @@ namespace {
 // A drag is longer than this, in pixels across plus down.
 constexpr int kDragThreshold = 20;
 
-// Asks in this order and stops at the first that is true.
+// Asks in this order and stops at the first that is true. A host that cannot answer wants no gesture.
 bool isSuppressed(const CHxHitTestInfo &hit)
 {
-    return hit.IsModalWindowOpen() || hit.IsPopupOpen() || hit.IsMouseGrabbed()
-        || hit.IsOtherButtonDown() || hit.IsModifierMismatch() || hit.IsOverControl()
-        || hit.IsViewBlocked();
+    return hostValue(true, [&hit] {
+        return hit.IsModalWindowOpen() || hit.IsPopupOpen() || hit.IsMouseGrabbed()
+            || hit.IsOtherButtonDown() || hit.IsModifierMismatch() || hit.IsOverControl()
+            || hit.IsViewBlocked();
+    });
+}
+
+bool isButtonHeld(const CHxHitTestInfo &hit)
+{
+    return hostValue(false, [&hit] { return hit.IsButtonHeld(); });
 }
 
 // The main window, or the desktop if there is none.
 QWidget *overlayParent()
 {
-    CHxSystemServices *services = GetHxSystemServices();
-    const CHxMainFrame *frame = services ? services->GetMainFrame() : nullptr;
-    QWidget *window = frame ? frame->GetMainWindow() : nullptr;
+    QWidget *window = nullptr;
+    hostCall([&window] {
+        CHxSystemServices *services = GetHxSystemServices();
+        const CHxMainFrame *frame = services ? services->GetMainFrame() : nullptr;
+        window = frame ? frame->GetMainWindow() : nullptr;
+    });
     return window ? window : qtbridge::desktopWidget();
 }
 
@@ -48,8 +59,10 @@ bool MgMouseGestureTracker::IsEager(const CHxHitTestInfo *) const
 
 bool MgMouseGestureTracker::DoAction(const CHxHitTestInfo *)
 {
-    if (CHxSystemServices *services = GetHxSystemServices())
-        services->RunCommand(pendingCommand, false);
+    hostCall([this] {
+        if (CHxSystemServices *services = GetHxSystemServices())
+            services->RunCommand(pendingCommand, false);
+    });
     pendingCommand = CHxString();
     return true;
 }
@@ -61,19 +74,20 @@ void MgMouseGestureTracker::Update(CHxTrackerContext *, CHxHitTestInfo *hit)
     if (!hit || isSuppressed(*hit))
         return;
 
-    if (hit->IsPress()) {
-        pressPoint = hit->GetPosition();
+    if (hostValue(false, [hit] { return hit->IsPress(); })) {
+        pressPoint = hostValue(pressPoint, [hit] { return hit->GetPosition(); });
         pressGlobalPoint = QCursor::pos();
         tracking = true;
     } else if (!tracking) {
         return;
     }
 
-    const QPoint delta = hit->GetPosition() - pressPoint;
-    if (hit->IsMotion() && hit->IsButtonHeld() && delta.manhattanLength() > kDragThreshold) {
+    const QPoint delta = hostValue(pressPoint, [hit] { return hit->GetPosition(); }) - pressPoint;
+    if (hostValue(false, [hit] { return hit->IsMotion(); }) && isButtonHeld(*hit)
+        && delta.manhattanLength() > kDragThreshold) {
         if (!donut)
             createOverlay();
-        hit->NotifyDrag();
+        hostCall([hit] { hit->NotifyDrag(); });
         if (!donut)
             return;
         if (!overlay()->armed && !overlay()->justStopped) {
@@ -91,8 +105,8 @@ void MgMouseGestureTracker::Update(CHxTrackerContext *, CHxHitTestInfo *hit)
     const bool accepted = overlay()->accepted;
     const qint16 sector = overlay()->getActiveArc();
     tracking = false;
-    if (hit->IsButtonHeld())
-        hit->NotifyEnd();
+    if (isButtonHeld(*hit))
+        hostCall([hit] { hit->NotifyEnd(); });
     if (!accepted || sector < 0)
         return;
     pendingCommand = CHxString(MgDonutDataContainer::instance()->getCommandNameFromIndex(sector));
@@ -117,12 +131,11 @@ void MgMouseGestureTracker::windUpOverlay(const CHxHitTestInfo &hit)
 {
     MgDonutDialogPVStyleImpl *ring = overlay();
     ring->origin = pressPoint;
-    CHxDocument *document = hit.GetDocument();
+    CHxDocument *document = hostValue<CHxDocument *>(nullptr, [&hit] { return hit.GetDocument(); });
     const QPoint corner(pressPoint.x() - ring->getSize().width() / 2,
                         pressPoint.y() - ring->getSize().height() / 2);
     // The active document's view is meant, although another document may be handed on.
-    CHxDocument *active = ACTIVE_DOCUMENT();
-    const QWidget *view = active ? active->GetViewWidget() : nullptr;
+    const QWidget *view = activeView();
     // Without a view there is no place to open at. A later drag may find one.
     if (!view)
         return;

@@ -5,6 +5,7 @@
 
 #include "bindings/MgDonutDataContainer.h"
 #include "gesture/MgMouseGestureTracker.h"
+#include "tests/fakehost/FakeFault.h"
 #include "tests/fakehost/FakeHitTest.h"
 #include "tests/gesture/GestureBench.h"
 #include "tests/support/FatalWarnings.h"
@@ -101,6 +102,8 @@ private Q_SLOTS:
     void withoutActiveView();
     void withoutDocument();
     void withoutHitTest();
+    void hostThrowsAtEachCall_data();
+    void hostThrowsAtEachCall();
 
 private:
     // One update for each kind of event. The hit test's log then holds its queries.
@@ -108,6 +111,8 @@ private:
     void drag(const QPoint &position);
     void look(const QPoint &position);
     void update();
+    // A gesture from the press to its command, as far as it comes.
+    void perform(const QPoint &end);
     // Starts a gesture and opens the ring.
     void open(const QPoint &position = QPoint(200, 200));
 
@@ -175,6 +180,23 @@ void TrackerTest::open(const QPoint &position)
     drag(position + QPoint(21, 0));
     drag(position + QPoint(22, 0));
     QVERIFY(m_tracker->ring() && m_tracker->ring()->gesturing);
+}
+
+void TrackerTest::perform(const QPoint &end)
+{
+    const QPoint middle(200, 200);
+    m_bench->pointTo(middle);
+    m_bench->press(middle);
+    press(middle);
+    m_bench->pointTo(middle + QPoint(21, 0));
+    drag(middle + QPoint(21, 0));
+    drag(middle + QPoint(22, 0));
+    m_bench->pointTo(middle + end);
+    look(middle + end);
+    m_bench->release(middle + end);
+    look(middle + end);
+    if (m_tracker->IsEager(m_hit.get()))
+        m_tracker->DoAction(m_hit.get());
 }
 
 void TrackerTest::startsEmptyAndAsksNothing()
@@ -796,6 +818,43 @@ void TrackerTest::withoutHitTest()
 {
     m_tracker->Update(nullptr, nullptr);
     QVERIFY(!m_tracker->tracking);
+}
+
+void TrackerTest::hostThrowsAtEachCall_data()
+{
+    QTest::addColumn<QPoint>("end");
+    QTest::addColumn<int>("first");
+    QTest::addColumn<int>("calls"); // that the host gets in such a gesture
+    QTest::newRow("cancelled") << QPoint(-40, 0) << 0 << 249;
+    // Only its end is different, and it fades for a quarter of a second.
+    QTest::newRow("accepted") << QPoint(-80, 0) << 220 << 248;
+}
+
+void TrackerTest::hostThrowsAtEachCall()
+{
+    QFETCH(const QPoint, end);
+    QFETCH(const int, first);
+    QFETCH(const int, calls);
+    int reached = first;
+    for (bool isReached = true; isReached; ++reached) {
+        {
+            const tests::FakeFault fault(reached);
+            perform(end);
+            isReached = fault.wasReached();
+        }
+        const QString place = QStringLiteral("after call %1").arg(reached);
+        QVERIFY2(!QWidget::mouseGrabber() && !QWidget::keyboardGrabber(), qPrintable(place));
+        QVERIFY2(!m_tracker->ring() || !m_tracker->ring()->isVisible(), qPrintable(place));
+        // The next gesture is as if nothing had been. Before it, the host moves the pointer.
+        look(QPoint(200, 200));
+        open();
+        QVERIFY2(!QTest::currentTestFailed(), qPrintable(place));
+        m_bench->release(QPoint(222, 200));
+        look(QPoint(222, 200));
+        cleanup();
+        init();
+    }
+    QCOMPARE(reached - 1, calls);
 }
 
 QTEST_MAIN(TrackerTest)
