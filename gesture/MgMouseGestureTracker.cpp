@@ -19,7 +19,7 @@ namespace {
 // A drag is longer than this, in pixels across plus down.
 constexpr int kDragThreshold = 20;
 
-// Asks in this order and stops at the first that is true. A host that cannot answer wants no gesture.
+// Asks in this order and stops at the first that is true. If the host throws, there is no gesture.
 bool isSuppressed(const CHxHitTestInfo &hit)
 {
     return hostValue(true, [&hit] {

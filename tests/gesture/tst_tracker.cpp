@@ -111,7 +111,10 @@ private:
     void drag(const QPoint &position);
     void look(const QPoint &position);
     void update();
-    // A gesture from the press to its command, as far as it comes.
+    // A press, and enough of a drag to open the ring.
+    void pressAndDrag(const QPoint &position);
+    // A whole gesture that is released at `end`, in pixels from the press. Runs its command if the
+    // tracker has one.
     void perform(const QPoint &end);
     // Starts a gesture and opens the ring.
     void open(const QPoint &position = QPoint(200, 200));
@@ -171,7 +174,7 @@ void TrackerTest::look(const QPoint &position)
     update();
 }
 
-void TrackerTest::open(const QPoint &position)
+void TrackerTest::pressAndDrag(const QPoint &position)
 {
     m_bench->pointTo(position);
     m_bench->press(position);
@@ -179,18 +182,18 @@ void TrackerTest::open(const QPoint &position)
     m_bench->pointTo(position + QPoint(21, 0));
     drag(position + QPoint(21, 0));
     drag(position + QPoint(22, 0));
+}
+
+void TrackerTest::open(const QPoint &position)
+{
+    pressAndDrag(position);
     QVERIFY(m_tracker->ring() && m_tracker->ring()->gesturing);
 }
 
 void TrackerTest::perform(const QPoint &end)
 {
     const QPoint middle(200, 200);
-    m_bench->pointTo(middle);
-    m_bench->press(middle);
-    press(middle);
-    m_bench->pointTo(middle + QPoint(21, 0));
-    drag(middle + QPoint(21, 0));
-    drag(middle + QPoint(22, 0));
+    pressAndDrag(middle);
     m_bench->pointTo(middle + end);
     look(middle + end);
     m_bench->release(middle + end);
@@ -823,7 +826,7 @@ void TrackerTest::withoutHitTest()
 void TrackerTest::hostThrowsAtEachCall_data()
 {
     QTest::addColumn<QPoint>("end");
-    QTest::addColumn<int>("first");
+    QTest::addColumn<int>("first"); // of the calls that throw
     QTest::addColumn<int>("calls"); // that the host gets in such a gesture
     QTest::newRow("cancelled") << QPoint(-40, 0) << 0 << 249;
     // Only its end is different, and it fades for a quarter of a second.

@@ -10,6 +10,7 @@
 #include "sdk/od/OdAlloc.h"
 #include "sdk/od/OdRxModule.h"
 #include "tests/fakehost/FakeHost.h"
+#include "tests/module/FailingNew.h"
 #include "tests/support/FatalWarnings.h"
 
 #include <QtTest>
@@ -27,9 +28,6 @@ std::vector<void *> allocated;
 std::vector<void *> freed;
 std::size_t lastSize = 0;
 
-// Every operator new counts this down and fails at 0. Nothing fails while it is negative.
-int newsUntilFailure = -1;
-
 } // namespace
 
 void *odrxAlloc(std::size_t bytes)
@@ -45,25 +43,6 @@ void *odrxAlloc(std::size_t bytes)
 void odrxFree(void *memory)
 {
     freed.push_back(memory);
-    std::free(memory);
-}
-
-void *operator new(std::size_t bytes)
-{
-    if (newsUntilFailure >= 0 && newsUntilFailure-- == 0)
-        throw std::bad_alloc();
-    if (void *memory = std::malloc(bytes))
-        return memory;
-    throw std::bad_alloc();
-}
-
-void operator delete(void *memory) noexcept
-{
-    std::free(memory);
-}
-
-void operator delete(void *memory, std::size_t) noexcept
-{
     std::free(memory);
 }
 
@@ -174,14 +153,14 @@ void EntryPointsTest::shortMemoryThrowsAndIsTriedAgain()
 void EntryPointsTest::constructorFailureFreesAndLetsThrough()
 {
     bool thrown = false;
-    newsUntilFailure = 0; // the first allocation of the tracker's base
+    tests::newsUntilFailure = 0; // the first allocation of the tracker's base
     try {
         static_cast<void>(odrxCreateModuleObject(nullptr, L"gestures"));
     } catch (const std::bad_alloc &) {
         thrown = true;
     }
-    const bool failed = newsUntilFailure < 0;
-    newsUntilFailure = -1;
+    const bool failed = tests::newsUntilFailure < 0;
+    tests::newsUntilFailure = -1;
 
     QVERIFY(failed);
     QVERIFY(thrown);

@@ -4,12 +4,10 @@
 // The module as hosts use it: load the file, look up its entry points, use it, close it.
 
 #include "sdk/chx/CHxEditorReactor.h"
-#include "sdk/chx/CHxTracker.h"
-#include "sdk/od/OdRxModule.h"
 #include "sdk/QtBridge.h"
 #include "tests/bindings/OlderSettings.h"
-#include "tests/fakehost/FakeHitTest.h"
 #include "tests/fakehost/FakeHost.h"
+#include "tests/module/ModuleLibrary.h"
 #include "tests/support/FatalWarnings.h"
 
 #include <QDialog>
@@ -21,12 +19,12 @@
 
 #include <memory>
 
-#include <dlfcn.h>
 #include <link.h>
 
 namespace {
 
 using tests::FakeHost;
+using tests::ModuleLibrary;
 
 const QString kFile = QStringLiteral(MODULE_FILE);
 
@@ -40,52 +38,6 @@ int addSegments(dl_phdr_info *info, std::size_t, void *sum)
             *static_cast<std::size_t *>(sum) += info->dlpi_phdr[i].p_memsz;
     }
     return 1;
-}
-
-class Library
-{
-public:
-    Library()
-        : m_handle(dlopen(MODULE_FILE, RTLD_NOW | RTLD_LOCAL))
-    {
-    }
-    ~Library() { close(); }
-    Q_DISABLE_COPY_MOVE(Library)
-
-    void close()
-    {
-        if (m_handle)
-            dlclose(m_handle);
-        m_handle = nullptr;
-    }
-    [[nodiscard]] bool isOpen() const { return m_handle != nullptr; }
-    template <class Function> [[nodiscard]] Function resolve(const char *name) const
-    {
-        return reinterpret_cast<Function>(dlsym(m_handle, name));
-    }
-    [[nodiscard]] OdRxModule *create(const wchar_t *name = L"gestures") const
-    {
-        return resolve<OdCreateModuleObject>("odrxCreateModuleObject")(nullptr, name);
-    }
-
-private:
-    void *m_handle;
-};
-
-// Press and drag in a document, the way a host reports it.
-void drag(tests::FakeDocument &document)
-{
-    tests::FakeHitTest hit;
-    hit.document = &document;
-    hit.press = true;
-    hit.buttonHeld = true;
-    for (CHxTracker *tracker : document.input.trackers)
-        tracker->Update(nullptr, &hit);
-    hit.press = false;
-    hit.motion = true;
-    hit.position = QPoint(30, 0);
-    for (CHxTracker *tracker : document.input.trackers)
-        tracker->Update(nullptr, &hit);
 }
 
 } // namespace
@@ -144,7 +96,7 @@ void ModuleFileTest::exportsExactlyTheEntryPoints()
 
 void ModuleFileTest::declaresItsVersion()
 {
-    Library library;
+    ModuleLibrary library;
     QVERIFY2(library.isOpen(), dlerror());
     const auto version = library.resolve<OdGetApiVersion>("odrxGetAPIVersion");
     QVERIFY(version);
@@ -167,7 +119,7 @@ void ModuleFileTest::livesAWholeLife()
     tests::FakeDocument *document = host.documents.open();
     QWidget window;
     host.mainWindow = &window;
-    Library library;
+    ModuleLibrary library;
     QVERIFY2(library.isOpen(), dlerror());
 
     OdRxModule *module = library.create();
@@ -197,7 +149,7 @@ void ModuleFileTest::ringOutlivesTheClosedFile()
     auto window = std::make_unique<QWidget>();
     host.mainWindow = window.get();
     {
-        Library library;
+        ModuleLibrary library;
         QVERIFY2(library.isOpen(), dlerror());
         OdRxModule *module = library.create();
         module->initApp();
@@ -219,7 +171,7 @@ void ModuleFileTest::secondLoadStartsAnew()
 {
     FakeHost host;
     for (int round = 0; round < 3; ++round) {
-        Library library;
+        ModuleLibrary library;
         QVERIFY2(library.isOpen(), dlerror());
         OdRxModule *module = library.create();
         QCOMPARE(module->numRefs(), 0L);
@@ -233,7 +185,7 @@ void ModuleFileTest::secondLoadStartsAnew()
 
 void ModuleFileTest::carriesItsImages()
 {
-    Library library;
+    ModuleLibrary library;
     QVERIFY2(library.isOpen(), dlerror());
     QCOMPARE(QImage(QStringLiteral(":/gesturewidgetimages/Resources/gesture_widget.png")).size(),
              QSize(250, 250));
@@ -241,7 +193,7 @@ void ModuleFileTest::carriesItsImages()
 
 void ModuleFileTest::sizeIsModest()
 {
-    Library library;
+    ModuleLibrary library;
     QVERIFY2(library.isOpen(), dlerror());
     std::size_t bytes = 0;
     dl_iterate_phdr(addSegments, &bytes);

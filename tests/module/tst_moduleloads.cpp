@@ -1,26 +1,20 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
-// clazy:excludeall=non-pod-global-static (nothing here runs before main())
-
 // A host may load and unload the module's file as often as it likes: nothing wears out.
-// This program stands in for operator new.
 
 #include "sdk/chx/CHxEditorReactor.h"
-#include "sdk/chx/CHxTracker.h"
-#include "sdk/od/OdRxModule.h"
 #include "tests/bindings/OlderSettings.h"
-#include "tests/fakehost/FakeHitTest.h"
 #include "tests/fakehost/FakeHost.h"
+#include "tests/module/FailingNew.h"
+#include "tests/module/ModuleLibrary.h"
 #include "tests/support/FatalWarnings.h"
 
 #include <QtTest>
 
-#include <cstdlib>
 #include <memory>
 #include <new>
 
-#include <dlfcn.h>
 #include <malloc.h>
 
 namespace {
@@ -31,29 +25,7 @@ constexpr int kFirst = 100;
 // Bytes that a round may keep on average. A forgotten pointer has eight.
 constexpr double kMostKept = 1;
 
-// Every operator new counts this down and fails at 0. Nothing fails while it is negative.
-int newsUntilFailure = -1;
-
 } // namespace
-
-void *operator new(std::size_t bytes)
-{
-    if (newsUntilFailure >= 0 && newsUntilFailure-- == 0)
-        throw std::bad_alloc();
-    if (void *memory = std::malloc(bytes))
-        return memory;
-    throw std::bad_alloc();
-}
-
-void operator delete(void *memory) noexcept
-{
-    std::free(memory);
-}
-
-void operator delete(void *memory, std::size_t) noexcept
-{
-    std::free(memory);
-}
 
 class ModuleLoadsTest : public QObject
 {
@@ -88,7 +60,7 @@ void ModuleLoadsTest::init()
     m_document = m_host->documents.open();
 }
 
-// What a host does from a module object's creation to its deletion, with a gesture in between.
+// Plays the host for one module object: starts it, performs a gesture, stops it and deletes it.
 void ModuleLoadsTest::live(OdRxModule *module)
 {
     QWidget window;
@@ -99,17 +71,7 @@ void ModuleLoadsTest::live(OdRxModule *module)
     reactor->mainFrameCreated(&window);
     QCOMPARE(m_tools->subItems->GetCount(), 1);
 
-    tests::FakeHitTest hit;
-    hit.document = m_document;
-    hit.press = true;
-    hit.buttonHeld = true;
-    for (CHxTracker *tracker : m_document->input.trackers)
-        tracker->Update(nullptr, &hit);
-    hit.press = false;
-    hit.motion = true;
-    hit.position = QPoint(30, 0);
-    for (CHxTracker *tracker : m_document->input.trackers)
-        tracker->Update(nullptr, &hit);
+    tests::drag(*m_document);
     QCOMPARE(window.findChildren<QDialog *>().size(), 1);
 
     reactor->mainFrameDestroyed(&window);
@@ -120,25 +82,23 @@ void ModuleLoadsTest::live(OdRxModule *module)
     m_host->log.calls.clear();
 }
 
-// Loads the file, lets that many objects live one after the other, and closes it.
+// Loads the file, creates and deletes `lives` objects one after the other, and closes the file. With
+// `failsFirst`, the first construction fails.
 void ModuleLoadsTest::load(int lives, bool failsFirst)
 {
-    void *library = dlopen(MODULE_FILE, RTLD_NOW | RTLD_LOCAL);
-    QVERIFY2(library, dlerror());
-    const auto create = reinterpret_cast<OdCreateModuleObject>(dlsym(library, "odrxCreateModuleObject"));
-    QVERIFY(create);
+    const tests::ModuleLibrary library;
+    QVERIFY2(library.isOpen(), dlerror());
     if (failsFirst) {
-        newsUntilFailure = 0;
-        QVERIFY_EXCEPTION_THROWN(static_cast<void>(create(nullptr, L"gestures")), std::bad_alloc);
-        QVERIFY(newsUntilFailure < 0);
-        newsUntilFailure = -1;
+        tests::newsUntilFailure = 0;
+        QVERIFY_EXCEPTION_THROWN(static_cast<void>(library.create()), std::bad_alloc);
+        QVERIFY(tests::newsUntilFailure < 0);
+        tests::newsUntilFailure = -1;
     }
     for (int i = 0; i < lives; ++i) {
-        OdRxModule *module = create(nullptr, L"gestures");
-        QCOMPARE(create(nullptr, L"again"), module); // one at a time
+        OdRxModule *module = library.create();
+        QCOMPARE(library.create(L"again"), module); // one at a time
         live(module);
     }
-    dlclose(library);
 }
 
 QString ModuleLoadsTest::leftOver() const

@@ -16,7 +16,7 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parents[2]
 CONSUMER = ROOT / "tests" / "consumer"
 ENTRY = "Mouse Gestures..."
-EARLIER = "0.0.9"
+EARLIER = "0.0.9"  # any version below the present one
 
 options = None
 
@@ -356,7 +356,7 @@ def check_dependencies(packages):
 
 
 def earlier(package, folder):
-    """The package as an earlier version would be: it also has a file that the later one has not."""
+    """Makes an earlier version of a package, with one more file. Returns its path."""
     files = folder / package.stem
     run("dpkg-deb", "-R", package, files)
     control = files / "DEBIAN/control"
@@ -368,10 +368,10 @@ def earlier(package, folder):
 
 
 def switched_on(launcher, folder):
-    """Switches a program on that writes down its words. Returns a function that starts it from the
-    person's menu and gives these words."""
+    """Switches on a program that records its arguments. Returns a function that starts it by its
+    entry in the menu and returns these arguments."""
     program = folder / "drafting"
-    program.write_text(f"#!/bin/sh\necho \"$@\" >>{folder}/words\n")
+    program.write_text(f"#!/bin/sh\necho \"$@\" >>{folder}/arguments\n")
     program.chmod(0o755)
     entries = folder / "installed/applications"
     entries.mkdir(parents=True)
@@ -384,17 +384,17 @@ def switched_on(launcher, folder):
     assert str(launcher) in entry, entry
 
     def start():
-        (folder / "words").unlink(missing_ok=True)
+        (folder / "arguments").unlink(missing_ok=True)
         # A value of the file is escaped, and what it then says is quoted as for a shell.
         command = re.search(r"^Exec=(.*)$", entry, re.MULTILINE)[1].replace("\\\\", "\\")
         run("sh", "-c", command.replace("%F", "a.dxf"), environment=environment)
-        return (folder / "words").read_text()
+        return (folder / "arguments").read_text()
     return start
 
 
 def check_lifecycle(packages, folder):
-    """Installs an earlier version into an empty root, then the packages over it, removes and purges
-    them. Nothing is left behind, and a program that was switched on still starts."""
+    """Installs an earlier version into an empty root, upgrades it, and removes and purges the
+    packages. Nothing is left behind, and a program that was switched on starts at every step."""
     folder.mkdir()
     root = folder / "root"
     for name in ("info", "updates"):
@@ -402,7 +402,7 @@ def check_lifecycle(packages, folder):
     (root / "var/lib/dpkg/status").touch()
 
     def dpkg(*words):
-        # Nothing that they depend on is in the root.
+        # The root has none of the packages that ours depend on.
         run("fakeroot", "dpkg", f"--root={root}", "--force-depends", "--force-not-root",
             "--force-script-chrootless", f"--log={folder / 'log'}", *words)
 

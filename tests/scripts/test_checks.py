@@ -2,7 +2,8 @@
 # SPDX-FileCopyrightText: 2026 GestureWidget developers
 # SPDX-License-Identifier: MIT
 
-"""Tests that each check of the sources finds its fault, in small trees with one fault each."""
+"""Tests that each check of the sources finds its fault, in small trees with one fault each; and that
+tests cannot be left out unnoticed."""
 
 import shutil
 import subprocess
@@ -160,6 +161,29 @@ class TranslationsTest(unittest.TestCase):
                                    "translations/host_de.ts": complete,
                                    "translations/module_fr.ts": texts(language="fr_FR")}) as tree:
             self.assertIn("translations/host_fr.ts is missing", tree.run("--check")[1])
+
+
+class Presets(unittest.TestCase):
+    """The presets, in a project without tests."""
+
+    def test_tests_come_back_and_an_empty_run_fails(self):
+        with tempfile.TemporaryDirectory() as folder:
+            shutil.copy(ROOT / "CMakePresets.json", folder)
+            (Path(folder) / "CMakeLists.txt").write_text(
+                "cmake_minimum_required(VERSION 3.25)\nproject(Empty LANGUAGES NONE)\n"
+                "enable_testing()\n", encoding="utf-8")
+
+            def status(*command):
+                return subprocess.run(command, cwd=folder, capture_output=True, check=False).returncode
+
+            # As ./run does it on a desktop, and ./test after it.
+            self.assertEqual(status("cmake", "--preset", "qt5", "-DGESTUREWIDGET_TESTS=OFF"), 0)
+            self.assertEqual(status("cmake", "--preset", "qt5"), 0)
+            cache = (Path(folder) / "build/qt5/CMakeCache.txt").read_text(encoding="utf-8")
+            self.assertRegex(cache, "GESTUREWIDGET_TESTS:[A-Z]+=ON")
+            for preset in ("qt5", "qt6", "asan", "coverage"):
+                self.assertEqual(status("cmake", "--preset", preset), 0, preset)
+                self.assertNotEqual(status("ctest", "--preset", preset), 0, preset)
 
 
 if __name__ == "__main__":
