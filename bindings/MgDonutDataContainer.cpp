@@ -101,6 +101,16 @@ DonutHelperData MgDonutDataContainer::getDonutHelperData()
 
 void MgDonutDataContainer::init()
 {
+    // A host that handles events when it is asked may come here again. What is half read is not read.
+    if (m_isReading)
+        return;
+    m_isReading = true;
+    read();
+    m_isReading = false;
+}
+
+void MgDonutDataContainer::read()
+{
     std::vector<MgCommandDS> last = std::exchange(commands, {});
     const auto lastCategories = std::exchange(categoryMap, {});
     const auto lastState = std::make_tuple(fourTable, eightTable, gestureEnabled, scheme, largeIcons);
@@ -192,7 +202,7 @@ void MgDonutDataContainer::readCommands(const std::vector<MgCommandDS> &last,
         for (MgCommandDS &record : found)
             record.fourDirection = record.eightDirection = 0;
     };
-    const auto read = [&](const CHxUICommandItem &item) {
+    const auto readItem = [&](const CHxUICommandItem &item) {
         const CHxString commandString = item.GetCommandString();
         const QString &command = commandString.toQString();
         if (command.isEmpty())
@@ -226,7 +236,7 @@ void MgDonutDataContainer::readCommands(const std::vector<MgCommandDS> &last,
         const auto command = current->NewCommandIterator();
         for (; command && !command->Done(); command->Next()) {
             if (const CHxUICommandItem *item = command->Current())
-                read(*item);
+                readItem(*item);
         }
     }
     if (holding < last.size())

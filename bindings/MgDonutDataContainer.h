@@ -52,7 +52,7 @@ public:
 
     // Reads the host's commands and all settings again. When the host throws in the middle, or
     // does not hand out a value that it has, the reading has failed: everything stays as it was
-    // read last, and nothing is written until a reading succeeds.
+    // read last, and nothing is written until a reading succeeds. Does nothing inside another init().
     void init();
     // True if the last reading failed; see init().
     [[nodiscard]] bool hasReadingFailed() const { return m_readingFailed; }
@@ -106,6 +106,8 @@ protected:
     static MgDonutDataContainer *_pinstance;
 
 private:
+    // What init() does.
+    void read();
     // Makes host calls as a part of a reading; none after the first that failed.
     template <class Call> void attempt(Call &&call)
     {
@@ -127,6 +129,7 @@ private:
     [[nodiscard]] const MgCommandDS *recordAt(int place) const;
 
     bool m_readingFailed = false;
+    bool m_isReading = false;
     CategoryWalk m_categoryWalk;
     bool m_isWalking = false; // through all menus, by fillCommandCategoryMap()
     // True if the records have the categories of the last walk, with this word for "Others".

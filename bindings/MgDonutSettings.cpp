@@ -32,7 +32,7 @@ class OlderSettings
 {
 public:
     explicit OlderSettings(CHxSystemServices &services)
-        : m_settings(QStringLiteral("Orlanto"), services.GetApplicationName().toQString())
+        : m_settings(QStringLiteral("Orlanto"), fileName(services.GetApplicationName().toQString()))
     {
         m_settings.beginGroup(QStringLiteral("Gesture"));
     }
@@ -43,6 +43,8 @@ public:
     void clear() { m_settings.remove(QString()); }
 
 private:
+    // No file can have a null character in its name.
+    static QString fileName(QString name) { return name.remove(QChar::Null); }
     // A backslash, because a slash would open a subgroup. On this system it is a plain character of the
     // entry's name, written to the file as "%5C".
     static QString entry(const QString &key) { return QLatin1String("Settings\\") + key; }

@@ -18,10 +18,13 @@
 #include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QScreen>
 #include <QWindow>
 
 #include <cmath>
+#include <optional>
+#include <utility>
 
 namespace {
 
@@ -33,6 +36,9 @@ constexpr int kLeastMove = 21;
 constexpr int kFadeTime = 250;
 // The host's mode while a gesture is armed or on.
 constexpr qint16 kFollowsPointer = 1;
+
+// Any call into the host may handle events, and may destroy the main window and the ring with it. What
+// comes after such a call looks at a QPointer first.
 
 // Gives the host's application to `call`, if there is one. Returns false if the host threw.
 template <class Call> bool withApplication(Call call)
@@ -86,20 +92,24 @@ MgDonutDialogPVStyleImpl::~MgDonutDialogPVStyleImpl()
 
 void MgDonutDialogPVStyleImpl::WindUp(CHxDocument *doc)
 {
-    if (!doc || armed || gesturing)
+    if (!doc || armed || gesturing || m_isWindingUp)
         return;
 
     m_compositor.ask(); // the answer is here when the ring needs it
     windUpPos = QCursor::pos();
     document = doc;
-    m_holdsHost = true;
-    m_knowsHostMode = withApplication([this](CHxApplication &host) { savedHostMode = host.GetMode(); });
-    if (m_knowsHostMode)
-        withApplication([](CHxApplication &host) { host.SetMode(kFollowsPointer); });
-    if (QWidget *view = documentView()) {
+    m_isWindingUp = true;
+    const QPointer<MgDonutDialogPVStyleImpl> self = this;
+    takeMode();
+    QWidget *view = self ? documentView() : nullptr;
+    if (!self)
+        return;
+    if (view) {
         savedCursor = view->cursor();
+        m_holdsCursor = true;
         view->setCursor(QCursor(Qt::ArrowCursor));
     }
+    m_isWindingUp = false;
     armed = true;
 }
 
@@ -107,17 +117,28 @@ void MgDonutDialogPVStyleImpl::TryStart(const QPoint &)
 {
     if (!armed || gesturing)
         return;
-    const QWidget *view = activeView();
-    if (!view)
+    const QPointer<MgDonutDialogPVStyleImpl> self = this;
+    const QPointer<QWidget> view = activeView();
+    if (!self)
         return;
+    if (!view) {
+        giveUp();
+        return;
+    }
 
+    const QPoint pointer = view->mapFromGlobal(QCursor::pos());
+    const DonutHelperData shown = MgDonutDataContainer::instance()->getDonutHelperData();
+    // This asks the host a lot. If the host handled events meanwhile, they may have started it.
+    if (!self || !armed || gesturing)
+        return;
+    if (!view) {
+        giveUp();
+        return;
+    }
     sectorVisuals.clear();
     sectorTooltips.clear();
     m_sectorNames.clear();
     activeArc = -1;
-    const QPoint pointer = view->mapFromGlobal(QCursor::pos());
-
-    const DonutHelperData shown = MgDonutDataContainer::instance()->getDonutHelperData();
     arcCount = static_cast<quint16>(shown.sectorCount);
     if (arcCount == 4)
         keepSpan = 130.0;
@@ -158,7 +179,10 @@ void MgDonutDialogPVStyleImpl::StopGesturing(bool sectorChosen)
     justStopped = true;
     fading = false;
     accepted = sectorChosen;
+    const QPointer<MgDonutDialogPVStyleImpl> self = this;
     giveBackHost();
+    if (!self)
+        return;
     releaseMouse();
     releaseKeyboard();
     setVisible(false);
@@ -187,8 +211,12 @@ void MgDonutDialogPVStyleImpl::mousePositionChanged(double x, double y)
 {
     setActiveArc(x, y);
     distance = std::sqrt(x * x + y * y);
-    if (gesturing)
+    if (gesturing) {
+        const QPointer<MgDonutDialogPVStyleImpl> self = this;
         tellSector();
+        if (!self || !gesturing)
+            return;
+    }
     if (distance > kAcceptDistance)
         doFading();
     else
@@ -199,15 +227,16 @@ void MgDonutDialogPVStyleImpl::mouseMoveEvent(QMouseEvent *)
 {
     // Moves can arrive after the end of the gesture. They must not end it again, or the command
     // would run twice.
+    const QPointer<MgDonutDialogPVStyleImpl> self = this;
     const QWidget *view = activeView();
-    if (!gesturing || !view)
+    if (!self || !gesturing || !view)
         return;
 
     const QPoint offset = view->mapFromGlobal(QCursor::pos()) - origin;
     if (offset.manhattanLength() < kLeastMove)
         return;
     mousePositionChanged(offset.x(), -offset.y());
-    if (fading)
+    if (self && fading)
         StopGesturing(true);
 }
 
@@ -225,8 +254,10 @@ void MgDonutDialogPVStyleImpl::mouseReleaseEvent(QMouseEvent *event)
     }
     // StopGesturing() clears it again. Has no effect and is kept.
     fading = true;
+    const QPointer<MgDonutDialogPVStyleImpl> self = this;
     StopGesturing(false);
-    postMoveToView(*event);
+    if (self)
+        postMoveToView(*event);
 }
 
 void MgDonutDialogPVStyleImpl::mousePressEvent(QMouseEvent *) { }
@@ -253,9 +284,10 @@ bool MgDonutDialogPVStyleImpl::event(QEvent *event)
     const gesturewidget::OwnCode ours;
     // A blocked ring would never see the release, and its grab would keep the mouse from the
     // modal window.
+    const QPointer<MgDonutDialogPVStyleImpl> self = this;
     if (event->type() == QEvent::WindowBlocked && gesturing)
         StopGesturing(false);
-    return MgDonutDialog::event(event);
+    return self ? MgDonutDialog::event(event) : true;
 }
 
 void MgDonutDialogPVStyleImpl::hideEvent(QHideEvent *event)
@@ -281,8 +313,7 @@ void MgDonutDialogPVStyleImpl::tellSector()
         else if (!tip.isEmpty())
             text = tr("%1: %2", "name of a command, what it does").arg(text, tip);
     }
-    showText(text, false);
-    setAccessibleDescription(text); // sends the accessibility event
+    tell(text);
 }
 
 void MgDonutDialogPVStyleImpl::tellNothing()
@@ -290,8 +321,15 @@ void MgDonutDialogPVStyleImpl::tellNothing()
     if (m_toldArc == -1)
         return;
     m_toldArc = -1;
-    showText(QString(), false);
-    setAccessibleDescription(QString());
+    tell(QString());
+}
+
+void MgDonutDialogPVStyleImpl::tell(const QString &text)
+{
+    const QPointer<MgDonutDialogPVStyleImpl> self = this;
+    showText(text, false);
+    if (self)
+        setAccessibleDescription(text); // sends the accessibility event
 }
 
 void MgDonutDialogPVStyleImpl::bypassWindowManager()
@@ -352,15 +390,50 @@ QWidget *MgDonutDialogPVStyleImpl::documentView() const
     return viewOf(document);
 }
 
+void MgDonutDialogPVStyleImpl::takeMode()
+{
+    const QPointer<MgDonutDialogPVStyleImpl> self = this;
+    std::optional<qint16> mode;
+    // If the last gesture could not give it back, it is still the one to give back.
+    if (m_holdsMode)
+        mode = savedHostMode;
+    else
+        withApplication([&mode](CHxApplication &host) { mode = host.GetMode(); });
+    if (!self || !mode)
+        return;
+    savedHostMode = *mode;
+    withApplication([this, &self](CHxApplication &host) {
+        if (!self)
+            return;
+        m_holdsMode = true;
+        host.SetMode(kFollowsPointer);
+    });
+}
+
+void MgDonutDialogPVStyleImpl::giveUp()
+{
+    // A ring that waited for a view would open at some later movement, with no button down.
+    armed = false;
+    giveBackHost();
+}
+
 void MgDonutDialogPVStyleImpl::giveBackHost()
 {
-    if (!m_holdsHost)
+    const QPointer<MgDonutDialogPVStyleImpl> self = this;
+    if (m_holdsMode) {
+        bool isGivenBack = false;
+        withApplication([&isGivenBack, mode = savedHostMode](CHxApplication &host) {
+            host.SetMode(mode);
+            isGivenBack = true;
+        });
+        if (self)
+            m_holdsMode = !isGivenBack;
+    }
+    if (!self || !std::exchange(m_holdsCursor, false))
         return;
-    m_holdsHost = false;
-    if (m_knowsHostMode)
-        withApplication([this](CHxApplication &host) { host.SetMode(savedHostMode); });
+    const QCursor cursor = savedCursor;
     if (QWidget *view = documentView())
-        view->setCursor(savedCursor);
+        view->setCursor(cursor);
 }
 
 void MgDonutDialogPVStyleImpl::postMoveToView(const QMouseEvent &release)

@@ -38,8 +38,8 @@ public:
 
     // Arms the ring for a document. Does nothing for null, while armed and while gesturing.
     void WindUp(CHxDocument *doc);
-    // Starts an armed gesture. Does nothing in any other state, and while no drawing has a view
-    // to measure in. Reads the system's pointer; `point` is not used.
+    // Starts an armed gesture. Does nothing in any other state. If no drawing has a view to measure
+    // in, the ring is idle again. Reads the system's pointer; `point` is not used.
     void TryStart(const QPoint &point);
     // Ends the gesture. `accepted` is true if the active sector was chosen.
     void StopGesturing(bool accepted);
@@ -98,6 +98,7 @@ private:
     void tellSector();
     // Takes back what was told.
     void tellNothing();
+    void tell(const QString &text);
     // Makes the window one that the window manager leaves alone.
     void bypassWindowManager();
     // Paints the first frame now. Qt would do it later, in the event loop.
@@ -108,7 +109,12 @@ private:
     void takeBackdrop();
     // The document's view; null when there is no document or no view.
     [[nodiscard]] QWidget *documentView() const;
-    // Restores the host's mode and the view's cursor, once for each WindUp().
+    // Keeps the host's mode and sets the one of a gesture. If the host cannot say its mode, it keeps it.
+    void takeMode();
+    // Ends the armed state without a gesture.
+    void giveUp();
+    // Restores the host's mode and the view's cursor, once for each WindUp(). If the host fails to take
+    // its mode back, the end of the next gesture tries again.
     void giveBackHost();
     void postMoveToView(const QMouseEvent &release);
 
@@ -126,8 +132,8 @@ private:
     MgCompositorProbe m_compositor;
     // The picture of the screen under the ring; null while a compositor runs.
     QPixmap m_backdrop;
-    // WindUp() has set the host's mode and the view's cursor, and they are not restored yet.
-    bool m_holdsHost = false;
-    // False if the host threw when it was asked for its mode. Then its mode stays as it is.
-    bool m_knowsHostMode = false;
+    // WindUp() has set the host's mode, or the view's cursor, and it is not restored yet.
+    bool m_holdsMode = false;
+    bool m_holdsCursor = false;
+    bool m_isWindingUp = false;
 };

@@ -14,6 +14,8 @@
 
 #include <QCursor>
 
+#include <algorithm>
+
 namespace {
 
 // A drag is longer than this, in pixels across plus down.
@@ -32,6 +34,16 @@ bool isSuppressed(const CHxHitTestInfo &hit)
 bool isButtonHeld(const CHxHitTestInfo &hit)
 {
     return hostValue(false, [&hit] { return hit.IsButtonHeld(); });
+}
+
+// Where the pointer is, in pixels of the view; `otherwise` if the host cannot say. Within bounds that
+// no screen has, so that sums of coordinates do not overflow, whatever the host says.
+QPoint positionOf(const CHxHitTestInfo &hit, const QPoint &otherwise)
+{
+    constexpr int kFarthest = 1 << 24;
+    const QPoint position = hostValue(otherwise, [&hit] { return hit.GetPosition(); });
+    return {std::clamp(position.x(), -kFarthest, kFarthest),
+            std::clamp(position.y(), -kFarthest, kFarthest)};
 }
 
 // The main window, or the desktop if there is none.
@@ -75,14 +87,14 @@ void MgMouseGestureTracker::Update(CHxTrackerContext *, CHxHitTestInfo *hit)
         return;
 
     if (hostValue(false, [hit] { return hit->IsPress(); })) {
-        pressPoint = hostValue(pressPoint, [hit] { return hit->GetPosition(); });
+        pressPoint = positionOf(*hit, pressPoint);
         pressGlobalPoint = QCursor::pos();
         tracking = true;
     } else if (!tracking) {
         return;
     }
 
-    const QPoint delta = hostValue(pressPoint, [hit] { return hit->GetPosition(); }) - pressPoint;
+    const QPoint delta = positionOf(*hit, pressPoint) - pressPoint;
     if (hostValue(false, [hit] { return hit->IsMotion(); }) && isButtonHeld(*hit)
         && delta.manhattanLength() > kDragThreshold) {
         if (!donut)
@@ -99,7 +111,7 @@ void MgMouseGestureTracker::Update(CHxTrackerContext *, CHxHitTestInfo *hit)
         return;
 
     overlay()->TryStart(pressGlobalPoint);
-    if (!overlay()->JustStopped())
+    if (!donut || !overlay()->JustStopped())
         return;
     // Read before the host learns of the end, because it may destroy the ring then.
     const bool accepted = overlay()->accepted;
@@ -123,22 +135,26 @@ MgDonutDialogPVStyleImpl *MgMouseGestureTracker::overlay() const
 
 void MgMouseGestureTracker::createOverlay()
 {
-    donut = new MgDonutDialogPVStyleImpl(overlayParent(), Qt::WindowFlags());
+    QWidget *parent = overlayParent();
+    if (donut) // if the host handled events when it was asked, another update made it
+        return;
+    donut = new MgDonutDialogPVStyleImpl(parent, Qt::WindowFlags());
     donut->setVisible(false);
 }
 
 void MgMouseGestureTracker::windUpOverlay(const CHxHitTestInfo &hit)
 {
-    MgDonutDialogPVStyleImpl *ring = overlay();
-    ring->origin = pressPoint;
+    overlay()->origin = pressPoint;
     CHxDocument *document = hostValue<CHxDocument *>(nullptr, [&hit] { return hit.GetDocument(); });
-    const QPoint corner(pressPoint.x() - ring->getSize().width() / 2,
-                        pressPoint.y() - ring->getSize().height() / 2);
     // The active document's view is meant, although another document may be handed on.
     const QWidget *view = activeView();
-    // Without a view there is no place to open at. A later drag may find one.
-    if (!view)
+    // Without a view there is no place to open at. A later drag may find one. The host may also have
+    // destroyed the ring.
+    MgDonutDialogPVStyleImpl *ring = overlay();
+    if (!view || !ring)
         return;
+    const QPoint corner(pressPoint.x() - ring->getSize().width() / 2,
+                        pressPoint.y() - ring->getSize().height() / 2);
     ring->move(view->mapToGlobal(corner));
     ring->WindUp(document);
 }

@@ -29,7 +29,7 @@ template <class Visit> void forEachDocument(CHxDocumentManager &manager, Visit v
 {
     const CHxDocumentIteratorPtr documents = manager.NewIterator();
     for (; documents && !documents->done(); documents->next())
-        visit(documents->object());
+        visit(hostValue<CHxDocument *>(nullptr, [&documents] { return documents->object(); }));
 }
 
 } // namespace

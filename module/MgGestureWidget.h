@@ -63,6 +63,9 @@ protected:
 private:
     void addTracker(CHxDocument *document);
     void removeTracker(CHxDocument *document);
+    template <class Change> void changeMenu(Change change);
     void addMenuEntry();
     void removeMenuEntry();
+
+    bool m_isChangingMenu = false;
 };

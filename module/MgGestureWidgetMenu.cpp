@@ -17,12 +17,15 @@
 #include <QLatin1String>
 #include <QObject>
 
+#include <algorithm>
 #include <memory>
 
 namespace {
 
 const wchar_t *const kToolsMenu = L"ID_MnTools";
 const char *const kCommandItem = "_PV_MOUSE_GESTURE_CONFIG";
+// Of one menu. A host that has more counts wrongly, and nobody wants to wait for that.
+constexpr int kMostEntries = 100'000;
 
 [[nodiscard]] CHxUIManager *userInterface()
 {
@@ -47,7 +50,7 @@ const char *const kCommandItem = "_PV_MOUSE_GESTURE_CONFIG";
 [[nodiscard]] CHxUIMenuItem *menuOf(CHxUIWorkspace &workspace, const CHxString &id)
 {
     const CHxUIMenuItemCollection *menus = workspace.GetMenuItems();
-    const int count = menus ? menus->GetCount() : 0;
+    const int count = menus ? std::min(menus->GetCount(), kMostEntries) : 0;
     for (int i = 0; i < count; ++i) {
         CHxUIMenuItem *item = menus->GetItem(i);
         const CHxString identifier = item ? item->GetIdentifier() : CHxString();
@@ -70,7 +73,7 @@ const char *const kCommandItem = "_PV_MOUSE_GESTURE_CONFIG";
 // The entry of that text, letter case ignored; null when there is none.
 [[nodiscard]] CHxUIMenuItem *entryIn(const CHxUIMenuItemCollection &entries, const CHxString &text)
 {
-    const int count = entries.GetCount();
+    const int count = std::min(entries.GetCount(), kMostEntries);
     for (int i = 0; i < count; ++i) {
         CHxUIMenuItem *entry = entries.GetItem(i);
         if (entry && entry->GetText().CompareNoCase(text) == 0)
@@ -79,38 +82,69 @@ const char *const kCommandItem = "_PV_MOUSE_GESTURE_CONFIG";
     return nullptr;
 }
 
-// The command item that the entry runs, made if the workspace has none.
-[[nodiscard]] CHxUICommandItem *commandItem(CHxUIManager &manager, const CHxString &workspaceName,
-                                            const OdString &commandName)
+// An entry in the making. If the host fails in the middle, what was made of it is taken back.
+class NewEntry
 {
-    const CHxString identifier(kCommandItem);
-    if (CHxUICommandItem *item = manager.FindCommandItem(workspaceName, identifier))
-        return item;
-    CHxUICommandItem *item = manager.CreateCommandItem(identifier, 0);
-    if (item) {
-        item->SetName(CHxString("Mouse Gestures"));
-        item->SetMacro(CHxString("^C^C_GESTURE"));
-        item->SetStatusText(statusText(commandName));
+public:
+    NewEntry(CHxUIManager &manager, CHxUIMenuItemCollection &entries)
+        : m_manager(manager)
+        , m_entries(entries)
+    {
     }
-    return item;
-}
+    ~NewEntry()
+    {
+        if (m_isComplete)
+            return;
+        if (m_entry) {
+            hostCall([this] { m_entries.Remove(m_entry); }); // it may be in the menu all the same
+            hostCall([this] { m_manager.DestroyMenuItem(m_entry); });
+        }
+        if (m_newItem)
+            hostCall([this] { m_manager.RemoveCommandItem(m_newItem); });
+    }
+    NewEntry(const NewEntry &) = delete;
+    NewEntry &operator=(const NewEntry &) = delete;
 
-void appendEntry(CHxUIMenuItemCollection &entries, CHxUIManager &manager, CHxUIWorkspace &workspace,
-                 const OdString &commandName)
-{
-    CHxUICommandItem *item = commandItem(manager, workspace.GetName(), commandName);
-    if (!item)
-        return;
-    // This is done for an item that existed before, too.
-    if (CHxUICommandItemCollection *items = workspace.GetCommandItems())
-        items->Add(item);
-    CHxUIMenuItem *entry = manager.CreateMenuItem(0, CHxString(), CHxString(), CHxString());
-    if (!entry)
-        return;
-    entry->SetCommandItem(item);
-    entry->SetText(entryText());
-    entries.Append(entry);
-}
+    void append(CHxUIWorkspace &workspace, const OdString &commandName)
+    {
+        CHxUICommandItem *item = commandItem(workspace.GetName(), commandName);
+        if (!item)
+            return;
+        // This is done for an item that existed before, too.
+        if (CHxUICommandItemCollection *items = workspace.GetCommandItems())
+            items->Add(item);
+        m_entry = m_manager.CreateMenuItem(0, CHxString(), CHxString(), CHxString());
+        if (!m_entry)
+            return;
+        m_entry->SetCommandItem(item);
+        m_entry->SetText(entryText());
+        m_entries.Append(m_entry);
+        m_isComplete = true;
+    }
+
+private:
+    // The command item that the entry runs, made if the workspace has none.
+    [[nodiscard]] CHxUICommandItem *commandItem(const CHxString &workspaceName,
+                                                const OdString &commandName)
+    {
+        const CHxString identifier(kCommandItem);
+        if (CHxUICommandItem *item = m_manager.FindCommandItem(workspaceName, identifier))
+            return item;
+        m_newItem = m_manager.CreateCommandItem(identifier, 0);
+        if (m_newItem) {
+            m_newItem->SetName(CHxString("Mouse Gestures"));
+            m_newItem->SetMacro(CHxString("^C^C_GESTURE"));
+            m_newItem->SetStatusText(statusText(commandName));
+        }
+        return m_newItem;
+    }
+
+    CHxUIManager &m_manager;
+    CHxUIMenuItemCollection &m_entries;
+    CHxUICommandItem *m_newItem = nullptr; // one that existed before is not taken back
+    CHxUIMenuItem *m_entry = nullptr;
+    bool m_isComplete = false;
+};
 
 } // namespace
 
@@ -132,12 +166,22 @@ CHxUIMenuItem *MgGestureWidget::GetMenuItem(const CHxString &id)
 
 void MgGestureWidget::LoadMenu()
 {
-    hostCall([this] { addMenuEntry(); });
+    changeMenu([this] { addMenuEntry(); });
 }
 
 void MgGestureWidget::UnLoadMenu()
 {
-    hostCall([this] { removeMenuEntry(); });
+    changeMenu([this] { removeMenuEntry(); });
+}
+
+template <class Change> void MgGestureWidget::changeMenu(Change change)
+{
+    // A host that handles events when it is asked may come here again. What is half made is left alone.
+    if (m_isChangingMenu)
+        return;
+    m_isChangingMenu = true;
+    hostCall(change);
+    m_isChangingMenu = false;
 }
 
 void MgGestureWidget::addMenuEntry()
@@ -147,10 +191,12 @@ void MgGestureWidget::addMenuEntry()
     if (!workspace)
         return;
 
-    CHxUIMenuItem *tools = GetMenuItem(CHxString(kToolsMenu));
-    if (CHxUIMenuItemCollection *entries = tools ? tools->GetSubItems() : nullptr)
-        appendEntry(*entries, *manager, *workspace, command.localName());
-    manager->Refresh(false);
+    hostCall([&] {
+        CHxUIMenuItem *tools = GetMenuItem(CHxString(kToolsMenu));
+        if (CHxUIMenuItemCollection *entries = tools ? tools->GetSubItems() : nullptr)
+            NewEntry(*manager, *entries).append(*workspace, command.localName());
+    });
+    hostCall([manager] { manager->Refresh(false); });
 
     // The container reads the host's menus when it is created. So create it here, where they are
     // complete and hold the new entry.

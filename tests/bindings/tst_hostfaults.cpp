@@ -35,6 +35,8 @@ public:
 
 } // namespace
 
+Q_DECLARE_METATYPE(tests::Misdeed)
+
 // The host throws in any of its operations or withholds a value. No binding is lost, and no exception
 // leaves the container.
 class HostFaultsTest : public QObject
@@ -120,6 +122,56 @@ private Q_SLOTS:
             group->commands = commands;
             container.init();
             QCOMPARE(container.fourTable, four);
+        }
+        QVERIFY2(calls > 100, qPrintable(QString::number(calls)));
+    }
+
+    // Any value may be wrong, and the host may come back in the middle. The container is whole all the
+    // same, and a reading in a host that is right again makes it right.
+    void oddAnswersLeaveItWhole_data()
+    {
+        QTest::addColumn<tests::Misdeed>("misdeed");
+        QTest::newRow("nothing") << tests::Misdeed::GivesNothing;
+        QTest::newRow("too little") << tests::Misdeed::GivesTooLittle;
+        QTest::newRow("too much") << tests::Misdeed::GivesTooMuch;
+        QTest::newRow("reads again") << tests::Misdeed::Acts;
+    }
+
+    void oddAnswersLeaveItWhole()
+    {
+        QFETCH(const tests::Misdeed, misdeed);
+        tests::OpenContainer container;
+        const Table four = container.fourTable;
+        const Table eight = container.eightTable;
+        const auto faultOf = [&](int call) {
+            if (misdeed != tests::Misdeed::Acts)
+                return std::make_unique<tests::FakeFault>(call, misdeed);
+            return std::make_unique<tests::FakeFault>(call, [&container] {
+                container.init();
+                static_cast<void>(container.getDonutHelperData());
+                static_cast<void>(container.getCommandNameFromIndex(0));
+            });
+        };
+        const auto isWhole = [&container] {
+            const auto holds = [&container](int place) {
+                return place >= -1 && place < static_cast<int>(container.commands.size());
+            };
+            return container.fourTable.size() == 4 && container.eightTable.size() == 8
+                && std::all_of(container.fourTable.begin(), container.fourTable.end(), holds)
+                && std::all_of(container.eightTable.begin(), container.eightTable.end(), holds);
+        };
+        int calls = 0;
+        for (bool reached = true; reached; ++calls) {
+            const std::unique_ptr<tests::FakeFault> fault = faultOf(calls);
+            container.init();
+            reached = fault->wasReached();
+            QVERIFY2(isWhole(), qPrintable(QString::number(calls)));
+            QVERIFY(!container.isBehindSettings() || misdeed != tests::Misdeed::Acts);
+            host->store.values = stored;
+            container.init();
+            QCOMPARE(container.fourTable, four);
+            QCOMPARE(container.eightTable, eight);
+            QCOMPARE(container.commands.size(), std::size_t(8));
         }
         QVERIFY2(calls > 100, qPrintable(QString::number(calls)));
     }

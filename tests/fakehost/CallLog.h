@@ -11,27 +11,25 @@
 
 namespace tests {
 
-// The module's calls to the fake host, in order. A call named in `throwOn` throws
-// std::runtime_error after it has been noted.
+// The module's calls to the fake host, in order. Adding one returns what is wrong with it. A call named
+// in `throwOn` throws std::runtime_error after it has been noted.
 class CallLog
 {
 public:
-    void add(const QString &call)
+    Misdeed add(const QString &call)
     {
-        FakeFault::pass();
+        const Misdeed misdeed = FakeFault::pass();
         if (isOn)
             calls.append(call);
         if (!throwOn.isEmpty() && call.startsWith(throwOn))
             throw std::runtime_error("the fake host was told to throw");
+        return misdeed;
     }
     // The same for a text that takes time to make: `make` returns it, and runs only if it is needed.
     // Otherwise measuring would measure the notes.
-    template <class Make> void addMade(Make make)
+    template <class Make> Misdeed addMade(Make make)
     {
-        if (isOn || !throwOn.isEmpty())
-            add(make());
-        else
-            FakeFault::pass();
+        return isOn || !throwOn.isEmpty() ? add(make()) : FakeFault::pass();
     }
     void clear() { calls.clear(); }
     // The noted calls that begin with `prefix`.

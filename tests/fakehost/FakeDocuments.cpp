@@ -27,9 +27,16 @@ public:
     }
     [[nodiscard]] long numRefs() const override { return m_references; }
 
-    [[nodiscard]] bool done() const override { return m_index >= m_documents.size(); }
-    void next() override { ++m_index; }
-    [[nodiscard]] CHxDocument *object() const override { return m_documents.at(m_index); }
+    [[nodiscard]] bool done() const override { return passed(m_index >= m_documents.size()); }
+    void next() override
+    {
+        FakeFault::pass();
+        ++m_index;
+    }
+    [[nodiscard]] CHxDocument *object() const override
+    {
+        return passed(static_cast<CHxDocument *>(m_documents.at(m_index)));
+    }
 
 private:
     std::vector<FakeDocument *> m_documents;
@@ -88,7 +95,8 @@ void FakeDocumentManager::RemoveReactor(CHxDocumentManagerReactor *reactor)
 
 CHxDocumentIteratorPtr FakeDocumentManager::NewIterator()
 {
-    m_log->add(QStringLiteral("documents.iterate"));
+    if (!altered(m_log->add(QStringLiteral("documents.iterate")), true))
+        return {};
     return CHxDocumentIteratorPtr(new FakeDocumentIterator(openDocuments, &iteratorsAlive), kOdRxAttach);
 }
 

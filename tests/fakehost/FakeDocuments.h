@@ -47,9 +47,9 @@ public:
 
     [[nodiscard]] CHxInputPointManager *GetInputPointManager() override
     {
-        return hasInputPointManager ? &input : nullptr;
+        return passed(hasInputPointManager) ? &input : nullptr;
     }
-    [[nodiscard]] QWidget *GetViewWidget() override { return view; }
+    [[nodiscard]] QWidget *GetViewWidget() override { return passed(view); }
 
     bool hasInputPointManager = true;
     FakeInputPointManager input;
@@ -70,7 +70,7 @@ public:
     void AddReactor(CHxDocumentManagerReactor *reactor) override;
     void RemoveReactor(CHxDocumentManagerReactor *reactor) override;
     [[nodiscard]] CHxDocumentIteratorPtr NewIterator() override;
-    [[nodiscard]] CHxDocument *GetActiveDocument() override { return active; }
+    [[nodiscard]] CHxDocument *GetActiveDocument() override { return passed(active); }
 
     // A new open document "document0", "document1", ...; the first one becomes active.
     FakeDocument *open();

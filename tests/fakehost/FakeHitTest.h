@@ -13,27 +13,39 @@ namespace tests {
 class FakeHitTest : public CHxHitTestInfo
 {
 public:
-    [[nodiscard]] QPoint GetPosition() const override { return note("Position"), position; }
-    [[nodiscard]] CHxDocument *GetDocument() const override { return note("Document"), document; }
+    [[nodiscard]] QPoint GetPosition() const override { return altered(note("Position"), position); }
+    [[nodiscard]] CHxDocument *GetDocument() const override
+    {
+        return altered(note("Document"), document);
+    }
     [[nodiscard]] bool IsModalWindowOpen() const override
     {
-        return note("ModalWindowOpen"), suppressed[0];
+        return altered(note("ModalWindowOpen"), suppressed[0]);
     }
-    [[nodiscard]] bool IsPopupOpen() const override { return note("PopupOpen"), suppressed[1]; }
-    [[nodiscard]] bool IsMouseGrabbed() const override { return note("MouseGrabbed"), suppressed[2]; }
+    [[nodiscard]] bool IsPopupOpen() const override { return altered(note("PopupOpen"), suppressed[1]); }
+    [[nodiscard]] bool IsMouseGrabbed() const override
+    {
+        return altered(note("MouseGrabbed"), suppressed[2]);
+    }
     [[nodiscard]] bool IsOtherButtonDown() const override
     {
-        return note("OtherButtonDown"), suppressed[3];
+        return altered(note("OtherButtonDown"), suppressed[3]);
     }
     [[nodiscard]] bool IsModifierMismatch() const override
     {
-        return note("ModifierMismatch"), suppressed[4];
+        return altered(note("ModifierMismatch"), suppressed[4]);
     }
-    [[nodiscard]] bool IsOverControl() const override { return note("OverControl"), suppressed[5]; }
-    [[nodiscard]] bool IsViewBlocked() const override { return note("ViewBlocked"), suppressed[6]; }
-    [[nodiscard]] bool IsPress() const override { return note("Press"), press; }
-    [[nodiscard]] bool IsMotion() const override { return note("Motion"), motion; }
-    [[nodiscard]] bool IsButtonHeld() const override { return note("ButtonHeld"), buttonHeld; }
+    [[nodiscard]] bool IsOverControl() const override
+    {
+        return altered(note("OverControl"), suppressed[5]);
+    }
+    [[nodiscard]] bool IsViewBlocked() const override
+    {
+        return altered(note("ViewBlocked"), suppressed[6]);
+    }
+    [[nodiscard]] bool IsPress() const override { return altered(note("Press"), press); }
+    [[nodiscard]] bool IsMotion() const override { return altered(note("Motion"), motion); }
+    [[nodiscard]] bool IsButtonHeld() const override { return altered(note("ButtonHeld"), buttonHeld); }
     void NotifyDrag() override { note("NotifyDrag"); }
     void NotifyEnd() override { note("NotifyEnd"); }
 
@@ -47,7 +59,7 @@ public:
     mutable CallLog log;
 
 private:
-    void note(const char *call) const { log.add(QString::fromLatin1(call)); }
+    Misdeed note(const char *call) const { return log.add(QString::fromLatin1(call)); }
 };
 
 } // namespace tests

@@ -95,8 +95,8 @@ CHxUIMenuItemCollection *FakeHost::GetMenuItems()
 
 CHxCommandResultPtr FakeHost::RunCommand(const CHxString &command, bool wait)
 {
-    log.add(QStringLiteral("run %1 %2").arg(command.toQString(), flag(wait)));
-    if (!hasCommandResult)
+    const Misdeed misdeed = log.add(QStringLiteral("run %1 %2").arg(command.toQString(), flag(wait)));
+    if (!altered(misdeed, hasCommandResult))
         return {};
     return CHxCommandResultPtr(new FakeCommandResult(&resultsAlive), kOdRxAttach);
 }
@@ -105,8 +105,8 @@ int FakeHost::ShowMessage(const CHxString &message, const CHxString &caption, in
 {
     messageText = message.toQString();
     lastMessageCaption = caption.toQString();
-    log.add(QStringLiteral("message %1").arg(style));
-    return messageAnswer;
+    const Misdeed misdeed = log.add(QStringLiteral("message %1").arg(style));
+    return altered(misdeed, messageAnswer);
 }
 
 void FakeHost::ShowHelp(int topic)

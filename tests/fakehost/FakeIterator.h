@@ -22,13 +22,13 @@ public:
     }
     ~FakeIterator() override { --*m_alive; }
 
-    [[nodiscard]] bool Done() const override { return passed(m_index) >= m_items.size(); }
+    [[nodiscard]] bool Done() const override { return passed(m_index >= m_items.size()); }
     void Next() override
     {
         FakeFault::pass();
         ++m_index;
     }
-    [[nodiscard]] T *Current() const override { return passed(m_items).at(m_index); }
+    [[nodiscard]] T *Current() const override { return passed(m_items.at(m_index)); }
 
 private:
     std::vector<T *> m_items;

@@ -16,17 +16,19 @@ QString FakeProfileStore::nameOf(const CHxString &section, const CHxString &key)
 bool FakeProfileStore::Exists(const CHxString &section, const CHxString &key)
 {
     const QString name = nameOf(section, key);
-    m_log->addMade([&]() -> QString { return QStringLiteral("store.exists ") + name; });
-    return values.contains(name);
+    const Misdeed misdeed =
+        m_log->addMade([&]() -> QString { return QStringLiteral("store.exists ") + name; });
+    return altered(misdeed, values.contains(name));
 }
 
 OdResBufPtr FakeProfileStore::Get(const CHxString &section, const CHxString &key, int source)
 {
     const QString name = nameOf(section, key);
-    m_log->addMade([&] { return QStringLiteral("store.get %1 %2").arg(name).arg(source); });
-    if (getFails || !values.contains(name))
+    const Misdeed misdeed =
+        m_log->addMade([&] { return QStringLiteral("store.get %1 %2").arg(name).arg(source); });
+    if (getFails || !values.contains(name) || misdeed == Misdeed::GivesNothing)
         return {};
-    return OdResBuf::newString(OdString(values.value(name)));
+    return OdResBuf::newString(OdString(altered(misdeed, values.value(name))));
 }
 
 bool FakeProfileStore::Set(const CHxString &section, const CHxString &key, const OdResBuf *value)
@@ -34,8 +36,9 @@ bool FakeProfileStore::Set(const CHxString &section, const CHxString &key, const
     const QString name = nameOf(section, key);
     const QString text = value->getString().toQString();
     lastType = value->restype();
-    m_log->addMade([&] { return QStringLiteral("store.set %1=%2").arg(name, text); });
-    if (setFails)
+    const Misdeed misdeed =
+        m_log->addMade([&] { return QStringLiteral("store.set %1=%2").arg(name, text); });
+    if (altered(misdeed, setFails))
         return false;
     values.insert(name, text);
     return true;

@@ -11,14 +11,15 @@ namespace tests {
 
 CHxUIMenuItem *FakeMenuItemCollection::GetItem(int index) const
 {
-    FakeFault::pass();
+    const Misdeed misdeed = FakeFault::pass();
     if (index < 0 || index >= static_cast<int>(items.size()))
         return nullptr;
-    return items[static_cast<std::size_t>(index)];
+    return altered(misdeed, items[static_cast<std::size_t>(index)]);
 }
 
 void FakeMenuItemCollection::Remove(CHxUIMenuItem *item)
 {
+    FakeFault::pass();
     const auto found = std::find(items.begin(), items.end(), item);
     if (found != items.end())
         items.erase(found);
@@ -26,39 +27,41 @@ void FakeMenuItemCollection::Remove(CHxUIMenuItem *item)
 
 void FakeWorkspace::Add(CHxUICommandItem *item)
 {
-    m_log->add(QStringLiteral("workspace.addCommandItem ") + item->GetIdentifier().toQString());
+    m_log->add(QStringLiteral("workspace.addCommandItem ")
+               + static_cast<FakeCommandItem *>(item)->identifier);
     commandItems.push_back(item);
 }
 
 std::unique_ptr<CHxIterator<CHxUIWorkspace>> FakeUIManager::NewWorkspaceIterator()
 {
-    m_log->add(QStringLiteral("ui.workspaces"));
-    if (!hasWorkspaceIterator)
+    if (!altered(m_log->add(QStringLiteral("ui.workspaces")), hasWorkspaceIterator))
         return nullptr;
     return std::make_unique<FakeIterator<CHxUIWorkspace>>(workspaces, &iteratorsAlive);
 }
 
 std::unique_ptr<CHxIterator<CHxUIMenu>> FakeUIManager::NewMenuIterator()
 {
-    m_log->add(QStringLiteral("ui.menus"));
-    if (!hasMenuIterator)
+    if (!altered(m_log->add(QStringLiteral("ui.menus")), hasMenuIterator))
         return nullptr;
     return std::make_unique<FakeIterator<CHxUIMenu>>(menus, &iteratorsAlive);
 }
 
 CHxUICommandItem *FakeUIManager::FindCommandItem(const CHxString &workspace, const CHxString &identifier)
 {
-    m_log->add(QStringLiteral("ui.find %1 %2").arg(workspace.toQString(), identifier.toQString()));
-    for (const auto &item : commandItems) {
-        if (item->GetIdentifier() == identifier)
-            return item.get();
-    }
-    return nullptr;
+    const Misdeed misdeed =
+        m_log->add(QStringLiteral("ui.find %1 %2").arg(workspace.toQString(), identifier.toQString()));
+    const auto found = std::find_if(commandItems.begin(), commandItems.end(), [&](const auto &item) {
+        return item->identifier == identifier.toQString();
+    });
+    return found == commandItems.end() ? nullptr : altered(misdeed, found->get());
 }
 
 CHxUICommandItem *FakeUIManager::CreateCommandItem(const CHxString &identifier, int flags)
 {
-    m_log->add(QStringLiteral("ui.createCommandItem %1 %2").arg(identifier.toQString()).arg(flags));
+    const Misdeed misdeed =
+        m_log->add(QStringLiteral("ui.createCommandItem %1 %2").arg(identifier.toQString()).arg(flags));
+    if (!altered(misdeed, true))
+        return nullptr;
     commandItems.push_back(std::make_unique<FakeCommandItem>());
     commandItems.back()->identifier = identifier.toQString();
     return commandItems.back().get();
@@ -66,14 +69,14 @@ CHxUICommandItem *FakeUIManager::CreateCommandItem(const CHxString &identifier, 
 
 bool FakeUIManager::Contains(const CHxUICommandItem *item) const
 {
-    FakeFault::pass();
-    return std::any_of(commandItems.begin(), commandItems.end(),
-                       [item](const auto &held) { return held.get() == item; });
+    return passed(std::any_of(commandItems.begin(), commandItems.end(),
+                              [item](const auto &held) { return held.get() == item; }));
 }
 
 void FakeUIManager::RemoveCommandItem(CHxUICommandItem *item)
 {
-    m_log->add(QStringLiteral("ui.removeCommandItem ") + item->GetIdentifier().toQString());
+    m_log->add(QStringLiteral("ui.removeCommandItem ")
+               + static_cast<FakeCommandItem *>(item)->identifier);
     for (const auto &workspace : m_workspaces) {
         std::vector<CHxUICommandItem *> &shown = workspace->commandItems;
         shown.erase(std::remove(shown.begin(), shown.end(), item), shown.end());
@@ -86,14 +89,15 @@ void FakeUIManager::RemoveCommandItem(CHxUICommandItem *item)
 CHxUIMenuItem *FakeUIManager::CreateMenuItem(int flags, const CHxString &identifier,
                                              const CHxString &text, const CHxString &tip)
 {
-    m_log->add(QStringLiteral("ui.createMenuItem %1").arg(flags));
     Q_UNUSED(tip)
+    if (!altered(m_log->add(QStringLiteral("ui.createMenuItem %1").arg(flags)), true))
+        return nullptr;
     return addItem(nullptr, text.toQString(), false, identifier.toQString());
 }
 
 void FakeUIManager::DestroyMenuItem(CHxUIMenuItem *item)
 {
-    m_log->add(QStringLiteral("ui.destroyMenuItem ") + item->GetText().toQString());
+    m_log->add(QStringLiteral("ui.destroyMenuItem ") + static_cast<FakeMenuItem *>(item)->text);
     menuItems.erase(std::remove_if(menuItems.begin(), menuItems.end(),
                                    [item](const auto &held) { return held.get() == item; }),
                     menuItems.end());
@@ -138,16 +142,14 @@ FakeMenuItem *FakeUIManager::addItem(FakeMenuItemCollection *parent, const QStri
 
 std::unique_ptr<CHxIterator<CHxUICommandItem>> FakeCommandGroup::NewCommandIterator()
 {
-    FakeFault::pass();
-    if (!hasCommandIterator)
+    if (!passed(hasCommandIterator))
         return nullptr;
     return std::make_unique<FakeIterator<CHxUICommandItem>>(commands, m_iteratorsAlive);
 }
 
 std::unique_ptr<CHxIterator<CHxUICommandGroup>> FakeCommandManager::NewGroupIterator()
 {
-    FakeFault::pass();
-    if (!hasGroupIterator)
+    if (!passed(hasGroupIterator))
         return nullptr;
     return std::make_unique<FakeIterator<CHxUICommandGroup>>(groups, &iteratorsAlive);
 }

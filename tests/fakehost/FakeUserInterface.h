@@ -28,9 +28,21 @@ public:
     [[nodiscard]] CHxString GetTip() const override { return passed(tip); }
     [[nodiscard]] QIcon GetSmallIcon() const override { return passed(smallIcon); }
     [[nodiscard]] QIcon GetLargeIcon() const override { return passed(largeIcon); }
-    void SetName(const CHxString &name) override { caption = name.toQString(); }
-    void SetMacro(const CHxString &macro) override { command = macro.toQString(); }
-    void SetStatusText(const CHxString &text) override { tip = text.toQString(); }
+    void SetName(const CHxString &name) override
+    {
+        FakeFault::pass();
+        caption = name.toQString();
+    }
+    void SetMacro(const CHxString &macro) override
+    {
+        FakeFault::pass();
+        command = macro.toQString();
+    }
+    void SetStatusText(const CHxString &text) override
+    {
+        FakeFault::pass();
+        tip = text.toQString();
+    }
 
     QString identifier;
     QString command;
@@ -43,9 +55,13 @@ public:
 class FakeMenuItemCollection : public CHxUIMenuItemCollection
 {
 public:
-    [[nodiscard]] int GetCount() const override { return static_cast<int>(passed(items).size()); }
+    [[nodiscard]] int GetCount() const override { return passed(static_cast<int>(items.size())); }
     [[nodiscard]] CHxUIMenuItem *GetItem(int index) const override;
-    void Append(CHxUIMenuItem *item) override { items.push_back(item); }
+    void Append(CHxUIMenuItem *item) override
+    {
+        FakeFault::pass();
+        items.push_back(item);
+    }
     void Remove(CHxUIMenuItem *item) override;
 
     // May hold nulls.
@@ -57,12 +73,20 @@ class FakeMenuItem : public CHxUIMenuItem
 public:
     [[nodiscard]] CHxString GetIdentifier() const override { return passed(identifier); }
     [[nodiscard]] CHxString GetText() const override { return passed(text); }
-    void SetText(const CHxString &newText) override { text = newText.toQString(); }
+    void SetText(const CHxString &newText) override
+    {
+        FakeFault::pass();
+        text = newText.toQString();
+    }
     [[nodiscard]] CHxUICommandItem *GetCommandItem() const override { return passed(command); }
-    void SetCommandItem(CHxUICommandItem *item) override { command = item; }
+    void SetCommandItem(CHxUICommandItem *item) override
+    {
+        FakeFault::pass();
+        command = item;
+    }
     [[nodiscard]] CHxUIMenuItemCollection *GetSubItems() const override
     {
-        return passed(subItems).get();
+        return passed(subItems.get());
     }
 
     QString identifier;
@@ -95,8 +119,11 @@ public:
 
     [[nodiscard]] CHxString GetName() const override { return passed(name); }
     [[nodiscard]] bool IsCurrent() const override { return passed(current); }
-    [[nodiscard]] CHxUICommandItemCollection *GetCommandItems() override { return this; }
-    [[nodiscard]] CHxUIMenuItemCollection *GetMenuItems() override { return &menus; }
+    [[nodiscard]] CHxUICommandItemCollection *GetCommandItems() override
+    {
+        return passed(static_cast<CHxUICommandItemCollection *>(this));
+    }
+    [[nodiscard]] CHxUIMenuItemCollection *GetMenuItems() override { return passed(&menus); }
     void Add(CHxUICommandItem *item) override;
 
     QString name;

@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QCursor>
 #include <QTest>
+#include <QWindow>
 
 namespace tests {
 
@@ -45,14 +46,7 @@ GestureBench::GestureBench()
     }
     document = host.documents.open();
     delete document->view;
-    view = new NotingView;
-    // Views of programs have it on. Otherwise Qt drops moves without a button.
-    view->setMouseTracking(true);
-    document->view = view;
-    view->setGeometry(150, 150, 400, 400);
-    view->show();
-    if (!QTest::qWaitForWindowExposed(view))
-        qFatal("the view does not appear");
+    makeView();
     setScheme(4);
     setEnabled(true);
 }
@@ -60,8 +54,20 @@ GestureBench::GestureBench()
 GestureBench::~GestureBench()
 {
     // Qt counts pressed buttons across all tests.
-    if (m_pressed && view)
-        release(QPoint(200, 200));
+    releaseIfPressed();
+}
+
+void GestureBench::makeView()
+{
+    view = new NotingView;
+    // Views of programs have it on. Otherwise Qt drops moves without a button.
+    view->setMouseTracking(true);
+    document->view = view;
+    view->setGeometry(150, 150, 400, 400);
+    view->show();
+    QCoreApplication::processEvents();
+    if (!view->windowHandle()->isExposed() && !QTest::qWaitForWindowExposed(view))
+        qFatal("the view does not appear");
 }
 
 void GestureBench::setScheme(int sectors)
@@ -87,7 +93,7 @@ FakeDocument *GestureBench::openDocument()
 
 void GestureBench::pointTo(const QPoint &viewPosition)
 {
-    QCursor::setPos(view->mapToGlobal(viewPosition));
+    QCursor::setPos(view ? view->mapToGlobal(viewPosition) : viewPosition);
     QCoreApplication::processEvents();
 }
 
@@ -96,16 +102,27 @@ void GestureBench::pointTo(const MgDonutDialogPVStyleImpl &donut, int x, int y)
     pointTo(donut.origin + QPoint(x, -y));
 }
 
+void GestureBench::releaseIfPressed()
+{
+    if (m_pressed)
+        release(QPoint(200, 200));
+}
+
 void GestureBench::press(const QPoint &viewPosition)
 {
     m_pressed = true;
-    QTest::mousePress(view->windowHandle(), Qt::RightButton, Qt::KeyboardModifiers(), viewPosition);
+    if (view)
+        QTest::mousePress(view->windowHandle(), Qt::RightButton, Qt::KeyboardModifiers(), viewPosition);
 }
 
 void GestureBench::release(const QPoint &viewPosition, Qt::KeyboardModifiers modifiers)
 {
     m_pressed = false;
-    QTest::mouseRelease(view->windowHandle(), Qt::RightButton, modifiers, viewPosition);
+    // The window system sends it to who holds the mouse, or to nobody's window.
+    QWindow nobody;
+    const QWidget *receiver = view ? view.data() : QWidget::mouseGrabber();
+    QTest::mouseRelease(receiver ? receiver->windowHandle() : &nobody, Qt::RightButton, modifiers,
+                        viewPosition);
 }
 
 void GestureBench::start(MgDonutDialogPVStyleImpl &donut, const QPoint &centre)

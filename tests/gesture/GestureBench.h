@@ -6,6 +6,7 @@
 #include "gesture/MgDonutDialogPVStyleImpl.h"
 #include "tests/fakehost/FakeHost.h"
 
+#include <QPointer>
 #include <QWidget>
 
 #include <memory>
@@ -76,12 +77,17 @@ public:
     void press(const QPoint &viewPosition);
     void release(const QPoint &viewPosition, Qt::KeyboardModifiers modifiers = {});
 
+    // Does nothing if the button is up.
+    void releaseIfPressed();
+    // Gives the document another view, after its view was destroyed.
+    void makeView();
+
     // Arms and starts a gesture with its centre and the pointer here.
     void start(MgDonutDialogPVStyleImpl &donut, const QPoint &centre = QPoint(200, 200));
 
     FakeHost host;
     FakeDocument *document = nullptr;
-    NotingView *view = nullptr;
+    QPointer<NotingView> view;
 
 private:
     bool m_pressed = false;

@@ -4,38 +4,16 @@
 // clazy:excludeall=non-pod-global-static (nothing here runs before main())
 
 #include "bindings/MgDonutDataContainer.h"
-#include "gesture/MgMouseGestureTracker.h"
-#include "tests/fakehost/FakeFault.h"
-#include "tests/fakehost/FakeHitTest.h"
-#include "tests/gesture/GestureBench.h"
+#include "tests/gesture/TrackerBench.h"
 #include "tests/support/FatalWarnings.h"
 
 #include <QPointer>
 #include <QTest>
 
-#include <memory>
-
 using tests::FakeHitTest;
-using tests::GestureBench;
+using tests::OpenTracker;
 
 namespace {
-
-// Makes the members of the tracker public.
-class OpenTracker : public MgMouseGestureTracker
-{
-public:
-    using MgMouseGestureTracker::donut;
-    using MgMouseGestureTracker::menu;
-    using MgMouseGestureTracker::pendingCommand;
-    using MgMouseGestureTracker::pressGlobalPoint;
-    using MgMouseGestureTracker::pressPoint;
-    using MgMouseGestureTracker::tracking;
-
-    [[nodiscard]] MgDonutDialogPVStyleImpl *ring() const
-    {
-        return qobject_cast<MgDonutDialogPVStyleImpl *>(donut.data());
-    }
-};
 
 const QStringList kSuppression{
     QStringLiteral("ModalWindowOpen"),  QStringLiteral("PopupOpen"),
@@ -46,7 +24,7 @@ const QStringList kSuppression{
 
 } // namespace
 
-class TrackerTest : public QObject
+class TrackerTest : public QObject, protected tests::TrackerBench
 {
     Q_OBJECT
 
@@ -102,104 +80,29 @@ private Q_SLOTS:
     void withoutActiveView();
     void withoutDocument();
     void withoutHitTest();
-    void hostThrowsAtEachCall_data();
-    void hostThrowsAtEachCall();
 
 private:
-    // One update for each kind of event. The hit test's log then holds its queries.
-    void press(const QPoint &position);
-    void drag(const QPoint &position);
-    void look(const QPoint &position);
-    void update();
-    // A press, and enough of a drag to open the ring.
-    void pressAndDrag(const QPoint &position);
-    // A whole gesture that is released at `end`, in pixels from the press. Runs its command if the
-    // tracker has one.
-    void perform(const QPoint &end);
     // Starts a gesture and opens the ring.
     void open(const QPoint &position = QPoint(200, 200));
-
-    std::unique_ptr<GestureBench> m_bench;
-    std::unique_ptr<OpenTracker> m_tracker;
-    std::unique_ptr<FakeHitTest> m_hit;
-    QPointer<QWidget> m_mainWindow;
 };
 
 void TrackerTest::init()
 {
     tests::resetWarnings();
-    m_bench = std::make_unique<GestureBench>();
-    m_mainWindow = new QWidget;
-    m_bench->host.mainWindow = m_mainWindow;
-    m_tracker = std::make_unique<OpenTracker>();
-    m_hit = std::make_unique<FakeHitTest>();
-    m_hit->document = m_bench->document;
+    setUp();
 }
 
 void TrackerTest::cleanup()
 {
-    m_tracker.reset();
-    delete m_mainWindow;
-    m_bench.reset();
+    tearDown();
     QCOMPARE(QWidget::mouseGrabber(), nullptr);
     QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
-}
-
-void TrackerTest::update()
-{
-    m_hit->log.clear();
-    m_tracker->Update(nullptr, m_hit.get());
-}
-
-void TrackerTest::press(const QPoint &position)
-{
-    m_hit->position = position;
-    m_hit->press = m_hit->buttonHeld = true;
-    m_hit->motion = false;
-    update();
-}
-
-void TrackerTest::drag(const QPoint &position)
-{
-    m_hit->position = position;
-    m_hit->motion = m_hit->buttonHeld = true;
-    m_hit->press = false;
-    update();
-}
-
-void TrackerTest::look(const QPoint &position)
-{
-    m_hit->position = position;
-    m_hit->motion = m_hit->buttonHeld = m_hit->press = false;
-    update();
-}
-
-void TrackerTest::pressAndDrag(const QPoint &position)
-{
-    m_bench->pointTo(position);
-    m_bench->press(position);
-    press(position);
-    m_bench->pointTo(position + QPoint(21, 0));
-    drag(position + QPoint(21, 0));
-    drag(position + QPoint(22, 0));
 }
 
 void TrackerTest::open(const QPoint &position)
 {
     pressAndDrag(position);
     QVERIFY(m_tracker->ring() && m_tracker->ring()->gesturing);
-}
-
-void TrackerTest::perform(const QPoint &end)
-{
-    const QPoint middle(200, 200);
-    pressAndDrag(middle);
-    m_bench->pointTo(middle + end);
-    look(middle + end);
-    m_bench->release(middle + end);
-    look(middle + end);
-    if (m_tracker->IsEager(m_hit.get()))
-        m_tracker->DoAction(m_hit.get());
 }
 
 void TrackerTest::startsEmptyAndAsksNothing()
@@ -821,46 +724,6 @@ void TrackerTest::withoutHitTest()
 {
     m_tracker->Update(nullptr, nullptr);
     QVERIFY(!m_tracker->tracking);
-}
-
-void TrackerTest::hostThrowsAtEachCall_data()
-{
-    QTest::addColumn<QPoint>("end");
-    QTest::addColumn<int>("first"); // of the calls that throw
-    QTest::addColumn<int>("calls"); // that the host gets in such a gesture
-    QTest::newRow("cancelled") << QPoint(-40, 0) << 0 << 249;
-    // Only its end is different, and it fades for a quarter of a second.
-    QTest::newRow("accepted") << QPoint(-80, 0) << 220 << 248;
-}
-
-void TrackerTest::hostThrowsAtEachCall()
-{
-    QFETCH(const QPoint, end);
-    QFETCH(const int, first);
-    QFETCH(const int, calls);
-    int reached = first;
-    for (bool isReached = true; isReached; ++reached) {
-        {
-            const tests::FakeFault fault(reached);
-            perform(end);
-            isReached = fault.wasReached();
-        }
-        const QString place = QStringLiteral("after call %1").arg(reached);
-        QVERIFY2(!QWidget::mouseGrabber() && !QWidget::keyboardGrabber(), qPrintable(place));
-        QVERIFY2(!m_tracker->ring() || !m_tracker->ring()->isVisible(), qPrintable(place));
-        // The next gesture is as if nothing had been. Before it, the host moves the pointer.
-        look(QPoint(200, 200));
-        open();
-        QVERIFY2(!QTest::currentTestFailed(), qPrintable(place));
-        m_bench->release(QPoint(222, 200));
-        look(QPoint(222, 200));
-        // The ring has no parent if the host could not name its main window.
-        if (!m_tracker->donut->parent())
-            delete m_tracker->donut;
-        cleanup();
-        init();
-    }
-    QCOMPARE(reached - 1, calls);
 }
 
 QTEST_MAIN(TrackerTest)

@@ -19,9 +19,10 @@ QtMessageHandler previousHandler = nullptr;
 
 void collect(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
-    // The offscreen platform says this about every window with a transient parent.
-    const bool known = text.startsWith(QLatin1String("This plugin does not support"));
-    if ((type == QtWarningMsg || type == QtCriticalMsg) && !known)
+    // The offscreen platform says this of every grab and of every window with a transient parent.
+    if (text.startsWith(QLatin1String("This plugin does not support")))
+        return;
+    if (type == QtWarningMsg || type == QtCriticalMsg)
         collected().append(text);
     if (previousHandler)
         previousHandler(type, context, text);

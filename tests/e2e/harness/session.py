@@ -361,8 +361,13 @@ class Session:
     def place_of(self, widget, mark):
         """The place of a widget in the dialog that opened after `mark`."""
         self.expect(mark, lambda line: line[:2] == ["widget", widget], f"the dialog's {widget}")
-        place = [line[2] for line in self.spy.since(mark, "widget") if line[1] == widget][-1]
-        return tuple(int(number) for number in place.split(","))
+        place = [line[3] for line in self.spy.since(mark, "widget") if line[1] == widget][-1]
+        x, y, width, height = (int(number) for number in place.split(","))
+        # The X server knows where the window is. For a moment after a window manager has framed it,
+        # Qt takes it to be in the corner of the screen.
+        answer = self.driver.ask("wait-window", self.program.dialog, ANSWER_SECONDS * 1000)
+        left, top = (int(number) for number in answer.split()[1:3])
+        return left + x, top + y, width, height
 
     def click_at(self, x, y):
         self.driver.ask("move", x, y)

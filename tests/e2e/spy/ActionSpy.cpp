@@ -277,7 +277,9 @@ void ActionSpy::reportPlaces()
     }
     for (const auto &place : named) {
         if (isNew(m_widgets, place))
-            write({QStringLiteral("widget"), place.first->objectName(), text(place.second)});
+            write({QStringLiteral("widget"), place.first->objectName(), text(place.second),
+                   text(QRect(place.first->mapTo(place.first->window(), QPoint(0, 0)),
+                              place.second.size()))});
     }
     m_views = std::move(views);
     m_widgets = std::move(named);

@@ -35,7 +35,8 @@ QT_END_NAMESPACE
 //     gone       CLASS                      a window or menu was closed
 //     exposed    CLASS                      a window is on screen, and the program knows it
 //     view       CLASS  X,Y,W,H             a view is visible; global pixels
-//     widget     OBJECTNAME  X,Y,W,H        a widget to look for is visible; global pixels
+//     widget     OBJECTNAME  X,Y,W,H  X,Y,W,H   a widget to look for is visible; global pixels, and
+//                                           pixels of its window
 //     ready                                 view and menu entry exist, see below
 //     hasentry   N                          how many menus have the entry
 //     where      OBJECTNAME  TITLE          the same action, and its window
