@@ -3,6 +3,7 @@
 
 #include "dialog/DirectionBox.h"
 
+#include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QWheelEvent>
 
@@ -38,6 +39,20 @@ void DirectionBox::keyPressEvent(QKeyEvent *event)
         showPopup();
     else
         event->ignore();
+}
+
+void DirectionBox::showPopup()
+{
+    view()->installEventFilter(this);
+    QComboBox::showPopup();
+}
+
+bool DirectionBox::eventFilter(QObject *object, QEvent *event)
+{
+    // Enter in the list chooses with this event already; the press itself comes after it.
+    if (event->type() == QEvent::ShortcutOverride && object == view())
+        m_enterTime = static_cast<QKeyEvent *>(event)->timestamp();
+    return QComboBox::eventFilter(object, event);
 }
 
 void DirectionBox::wheelEvent(QWheelEvent *event)

@@ -5,9 +5,21 @@
 
 #include "dialog/DirectionBox.h"
 
+#include <QKeyEvent>
+
 MgCommandTableView::MgCommandTableView(QWidget *parent)
     : QTableView(parent)
 {
+}
+
+void MgCommandTableView::keyPressEvent(QKeyEvent *event)
+{
+    // Where the list is not on the screen yet, the press of the Enter that chose in it comes here, and
+    // would go on to the dialog's OK.
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && m_enterTime && *m_enterTime == event->timestamp())
+        return;
+    QTableView::keyPressEvent(event);
 }
 
 void MgCommandTableView::beginEditing(const QModelIndex &index)
@@ -32,6 +44,8 @@ void MgCommandTableView::closeEditor(QWidget *editor, QAbstractItemDelegate::End
 {
     // Ask first: closing takes the focus away.
     const bool hadFocus = editor && editor->hasFocus();
+    if (const auto *box = qobject_cast<DirectionBox *>(editor))
+        m_enterTime = box->enterTime();
     QTableView::closeEditor(editor, hint);
     // This is deliberately the current cell, which may differ from the editor's cell. An editor
     // that closes because the user went elsewhere has no focus and does not come back.

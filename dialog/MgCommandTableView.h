@@ -5,6 +5,8 @@
 
 #include <QTableView>
 
+#include <optional>
+
 // The table of commands: an editor that closes while it has the focus is opened again at
 // once, so that the user can go on choosing without another click.
 class MgCommandTableView : public QTableView
@@ -18,6 +20,9 @@ public:
     // edited already; QAbstractItemView's own edit() writes a warning then.
     void beginEditing(const QModelIndex &index);
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 protected Q_SLOTS:
     // Does nothing while the table is hidden; Qt calls it again when the table is shown. Qt lays out
     // the headers at every change of a row, a column, a style or a font, which took a third of the
@@ -27,4 +32,8 @@ protected Q_SLOTS:
     // focus or the current cell moves on, and writing a direction always clears another record.
     void commitData(QWidget *editor) override;
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
+
+private:
+    // Of the last editor, see DirectionBox.
+    std::optional<quint64> m_enterTime;
 };

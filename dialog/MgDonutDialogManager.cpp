@@ -28,6 +28,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
@@ -96,6 +97,24 @@ QStringList menuCaptions(const CHxUIMenuItemCollection &menuBars)
     return captions;
 }
 
+// The menus of the host; none if it has none to say. Reads its commands and settings as well, if that
+// has to be done.
+std::optional<QStringList> askHost()
+{
+    // Try a failed reading again: the container saves nothing after it. Settings may also have
+    // changed since the last gesture, and OK would write the old ones over them.
+    MgDonutDataContainer *container = MgDonutDataContainer::instance();
+    if (container->hasReadingFailed() || container->isBehindSettings())
+        container->init();
+    std::optional<QStringList> captions;
+    hostCall([&captions] {
+        CHxSystemServices *services = GetHxSystemServices();
+        if (const CHxUIMenuItemCollection *menuBars = services ? services->GetMenuItems() : nullptr)
+            captions = menuCaptions(*menuBars);
+    });
+    return captions;
+}
+
 // Replaces the menus if the host returns none.
 QStringList usedCategories(const QString &others)
 {
@@ -107,21 +126,36 @@ QStringList usedCategories(const QString &others)
     return categories;
 }
 
+// Runs a dialog of the heap and destroys it. If its parent is destroyed meanwhile, it is destroyed with
+// the parent and counts as cancelled.
+int execGuarded(QDialog *dialog)
+{
+    const QPointer<QDialog> watched = dialog;
+    const int result = dialog->exec();
+    if (!watched)
+        return QDialog::Rejected;
+    delete watched;
+    return result;
+}
+
 } // namespace
 
+// The host is asked first, because it may destroy the main window meanwhile, and a dialog that is half
+// constructed with it.
 MgDonutDialogManager::MgDonutDialogManager(QWidget *parent, Qt::WindowFlags flags)
+    : MgDonutDialogManager{QPointer<QWidget>(parent), flags, askHost()}
+{
+}
+
+MgDonutDialogManager::MgDonutDialogManager(const QPointer<QWidget> &parent, Qt::WindowFlags flags,
+                                           const std::optional<QStringList> &menuCaptions)
     : CHxDialog(parent, flags != Qt::WindowFlags(), Qt::WindowTitleHint | Qt::WindowSystemMenuHint)
 {
-    // Try a failed reading again: the container saves nothing after it. Settings may also have
-    // changed since the last gesture, and OK would write the old ones over them.
-    MgDonutDataContainer *container = MgDonutDataContainer::instance();
-    if (container->hasReadingFailed() || container->isBehindSettings())
-        container->init();
     ui.setupUi(this);
     translateButtons();
     setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
     fixWidth();
-    fillCategories();
+    fillCategories(menuCaptions);
     setButtonIcons();
     connectControls();
     model = new MgCommandDSModel(this);
@@ -170,22 +204,15 @@ void MgDonutDialogManager::fixWidth()
     box->setMinimumHeight(label->geometry().bottom() + below);
 }
 
-void MgDonutDialogManager::fillCategories()
+void MgDonutDialogManager::fillCategories(const std::optional<QStringList> &menuCaptions)
 {
     // Keep the text for the filter, which must recognise the entry even if the language changes while
     // the dialog is open.
     m_allCommands = tr("All Commands");
     // The category of commands that are in no menu.
     const QString others = QObject::tr("Others");
-
-    std::optional<QStringList> captions;
-    hostCall([&captions] {
-        CHxSystemServices *services = GetHxSystemServices();
-        if (const CHxUIMenuItemCollection *menuBars = services ? services->GetMenuItems() : nullptr)
-            captions = menuCaptions(*menuBars);
-    });
     ui.category_comboBox->addItem(m_allCommands);
-    ui.category_comboBox->addItems(captions ? *captions : usedCategories(others));
+    ui.category_comboBox->addItems(menuCaptions ? *menuCaptions : usedCategories(others));
     ui.category_comboBox->addItem(others);
 }
 
@@ -514,9 +541,11 @@ void MgDonutDialogManager::applyFilter()
 void MgDonutDialogManager::okPressed()
 {
     const gesturewidget::OwnCode ours;
+    const QPointer<MgDonutDialogManager> self = this;
     MgDonutDataContainer::instance()->update(model->getCommands(),
                                              ui.enableGesture_checkBox->isChecked(), scheme);
-    accept();
+    if (self)
+        accept();
 }
 
 void MgDonutDialogManager::disableControls(bool enable)
@@ -573,16 +602,20 @@ bool MgDonutDialogManager::isResetConfirmed()
         });
         return answer == CHxSystemServices::kMessageOk;
     }
-    return QMessageBox::warning(this, windowTitle(), question, QMessageBox::Ok | QMessageBox::Cancel)
+    return execGuarded(new QMessageBox(QMessageBox::Warning, windowTitle(), question,
+                                       QMessageBox::Ok | QMessageBox::Cancel, this))
         == QMessageBox::Ok;
 }
 
 void MgDonutDialogManager::applyDefaultSettings()
 {
     const gesturewidget::OwnCode ours;
-    if (!isResetConfirmed())
+    const QPointer<MgDonutDialogManager> self = this;
+    if (!isResetConfirmed() || !self)
         return;
     MgDonutDataContainer::instance()->applyDefaultSettings();
+    if (!self)
+        return;
     model->resetToDefault();
     nameHolders();
     ui.eight_radioButton->setChecked(true);
@@ -591,8 +624,7 @@ void MgDonutDialogManager::applyDefaultSettings()
 
 int MgDonutDialogManager::runPrintDialog(QPrinter &printer)
 {
-    QPrintDialog dialog(&printer, this);
-    return dialog.exec();
+    return execGuarded(new QPrintDialog(&printer, this));
 }
 
 void MgDonutDialogManager::printList()
@@ -601,7 +633,8 @@ void MgDonutDialogManager::printList()
     QPrinter printer(QPrinter::HighResolution);
     // PDF files and print queues show this title.
     printer.setDocName(windowTitle());
-    if (runPrintDialog(printer) != QDialog::Accepted)
+    const QPointer<MgDonutDialogManager> self = this;
+    if (runPrintDialog(printer) != QDialog::Accepted || !self)
         return;
     const std::unique_ptr<QTextDocument> document(
         createBindingListDocument(ui.command_tableView->model()));

@@ -9,8 +9,12 @@
 #include "sdk/chx/CHxDialog.h"
 
 #include <QIcon>
+#include <QPointer>
 #include <QStandardItemModel>
 #include <QString>
+#include <QStringList>
+
+#include <optional>
 
 class MgCommandDSModel;
 class MgCommandDSSortFilterProxyModel;
@@ -94,10 +98,12 @@ protected:
     MgCommandDSSortFilterProxyModel *proxy = nullptr; // a child of the dialog
 
 private:
+    MgDonutDialogManager(const QPointer<QWidget> &parent, Qt::WindowFlags flags,
+                         const std::optional<QStringList> &menuCaptions);
     void fixWidth();
     void setFixedDialogWidth(int newWidth);
     void widenForDirections();
-    void fillCategories();
+    void fillCategories(const std::optional<QStringList> &menuCaptions);
     void setButtonIcons();
     void translateButtons();
     void connectControls();

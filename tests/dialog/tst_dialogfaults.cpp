@@ -8,14 +8,73 @@
 #include "tests/fakehost/FakeHost.h"
 #include "tests/support/FatalWarnings.h"
 
+#include <QMessageBox>
+#include <QPrintDialog>
 #include <QTest>
+#include <QTimer>
+
+#include <rapidcheck.h>
 
 #include <memory>
 #include <optional>
+#include <ostream>
+#include <utility>
 
+using tests::Misdeed;
 using tests::TestDialog;
 
-// The dialog in a host that throws in any of its operations.
+namespace {
+
+// What goes wrong.
+enum Fault {
+    Throws,
+    GivesNothing,
+    GivesTooLittle,
+    GivesTooMuch,
+    LosesTheMainWindow, // and the dialog with it
+    HandlesEvents,
+    ReadsTheBindingsAgain,
+};
+constexpr int kFaults = ReadsTheBindingsAgain + 1;
+
+// What somebody does with the dialog.
+enum Use { Opens, Saves, Resets, AsksForHelp };
+constexpr int kUses = AsksForHelp + 1;
+// Calls that the host gets, from before the dialog opens. A new one needs a look at what it does when it
+// goes wrong.
+constexpr int kCalls[kUses] = {342, 370, 644, 343};
+
+const char *nameOf(Fault fault)
+{
+    static const char *const names[kFaults] = {
+        "throws",           "gives nothing",  "gives too little",        "gives too much",
+        "loses the window", "handles events", "reads the bindings again"};
+    return names[fault];
+}
+
+const char *nameOf(Use use)
+{
+    static const char *const names[kUses] = {"opens", "saves", "resets", "asks for help"};
+    return names[use];
+}
+
+struct FaultAt
+{
+    Fault fault;
+    int call;
+};
+
+std::ostream &operator<<(std::ostream &out, const FaultAt &one)
+{
+    return out << "call " << one.call << ' ' << nameOf(one.fault);
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Fault)
+Q_DECLARE_METATYPE(Use)
+
+// The dialog in a host that throws in any of its operations, or does something else that no host should.
 class DialogFaultsTest : public QObject
 {
     Q_OBJECT
@@ -30,15 +89,39 @@ private Q_SLOTS:
     void throwsWhileItSaves();
     void throwsWhenAskedToConfirm();
     void throwsWhenAskedForHelp();
+    void anyCallMayGoWrong_data();
+    void anyCallMayGoWrong();
+    void anyTwoCallsMayGoWrong_data();
+    void anyTwoCallsMayGoWrong();
+    void theDialogMayGoBehindAQuestion();
+    void theDialogMayGoBehindThePrintDialog();
 
 private:
+    [[nodiscard]] std::unique_ptr<tests::FakeFault> faultOf(Fault fault, int call);
+    void act(Fault fault);
+    // Opens a dialog of the main window and does something in it. The dialog may be gone afterwards.
+    void use(Use use);
+    // What is wrong afterwards; empty if nothing is.
+    [[nodiscard]] QString complaint();
+    void startAnew();
+
     std::unique_ptr<tests::FakeHost> m_host;
     QMap<QString, QString> m_stored;
+    QPointer<QWidget> m_window; // the host's main window
+    QPointer<TestDialog> m_dialog;
 };
 
 void DialogFaultsTest::init()
 {
     tests::resetWarnings();
+    startAnew();
+}
+
+void DialogFaultsTest::startAnew()
+{
+    delete m_window;
+    m_window = new QWidget;
+    m_host.reset();
     m_host = std::make_unique<tests::FakeHost>();
     tests::addDraftingCommands(*m_host, 10, false);
     MgDonutDataContainer::instance()->init();
@@ -50,6 +133,7 @@ void DialogFaultsTest::init()
 
 void DialogFaultsTest::cleanup()
 {
+    delete m_window;
     m_host.reset();
     QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
 }
@@ -129,6 +213,163 @@ void DialogFaultsTest::throwsWhenAskedForHelp()
     m_host->log.throwOn.clear();
     QCOMPARE(m_host->log.startingWith(QStringLiteral("help")).size(), 1);
     QVERIFY(dialog.isVisible());
+}
+
+std::unique_ptr<tests::FakeFault> DialogFaultsTest::faultOf(Fault fault, int call)
+{
+    switch (fault) {
+    case Throws:
+        return std::make_unique<tests::FakeFault>(call, Misdeed::Throws);
+    case GivesNothing:
+        return std::make_unique<tests::FakeFault>(call, Misdeed::GivesNothing);
+    case GivesTooLittle:
+        return std::make_unique<tests::FakeFault>(call, Misdeed::GivesTooLittle);
+    case GivesTooMuch:
+        return std::make_unique<tests::FakeFault>(call, Misdeed::GivesTooMuch);
+    default:
+        return std::make_unique<tests::FakeFault>(call, [this, fault] { act(fault); });
+    }
+}
+
+void DialogFaultsTest::act(Fault fault)
+{
+    switch (fault) {
+    case LosesTheMainWindow:
+        delete std::exchange(m_window, nullptr).data();
+        return;
+    case HandlesEvents:
+        QCoreApplication::processEvents();
+        return;
+    case ReadsTheBindingsAgain:
+        MgDonutDataContainer::instance()->init();
+        return;
+    default:
+        return;
+    }
+}
+
+void DialogFaultsTest::use(Use use)
+{
+    // Settings that changed elsewhere, so that the dialog reads everything.
+    m_host->store.values.insert(QStringLiteral("84"), QStringLiteral("ID_OFFSET"));
+    m_dialog = new TestDialog(m_window);
+    switch (use) {
+    case Opens:
+        break;
+    case Saves:
+        m_dialog->okPressed();
+        break;
+    case Resets:
+        m_dialog->ui.reset_pushButton->setEnabled(true);
+        m_dialog->ui.reset_pushButton->click();
+        break;
+    case AsksForHelp:
+        m_dialog->button(QDialogButtonBox::Help)->click();
+        break;
+    }
+    delete m_dialog;
+}
+
+QString DialogFaultsTest::complaint()
+{
+    MgDonutDataContainer *container = MgDonutDataContainer::instance();
+    container->init();
+    if (container->hasReadingFailed())
+        return QStringLiteral("the next reading fails");
+    const std::size_t commands = container->getCommandsDS().size();
+    if (commands != 10)
+        return QStringLiteral("the next reading finds %1 commands").arg(commands);
+    return tests::warnings();
+}
+
+void DialogFaultsTest::anyCallMayGoWrong_data()
+{
+    QTest::addColumn<Use>("what");
+    QTest::addColumn<Fault>("fault");
+    for (int what = 0; what < kUses; ++what) {
+        for (int fault = 0; fault < kFaults; ++fault) {
+            QTest::addRow("%s, %s", nameOf(static_cast<Use>(what)), nameOf(static_cast<Fault>(fault)))
+                << static_cast<Use>(what) << static_cast<Fault>(fault);
+        }
+    }
+}
+
+void DialogFaultsTest::anyCallMayGoWrong()
+{
+    QFETCH(const Use, what);
+    QFETCH(const Fault, fault);
+    // All begin with opening it.
+    const int stride = tests::faultStride();
+    int call = (what == Opens ? 0 : kCalls[Opens]) + int(fault) % stride;
+    for (bool isReached = true; isReached; call += stride) {
+        {
+            const std::unique_ptr<tests::FakeFault> one = faultOf(fault, call);
+            use(what);
+            isReached = one->wasReached();
+        }
+        const QString wrong = complaint();
+        QVERIFY2(wrong.isEmpty(), qPrintable(QStringLiteral("after call %1: %2").arg(call).arg(wrong)));
+        startAnew();
+    }
+    if (stride == 1)
+        QCOMPARE(call - 1, kCalls[what]);
+}
+
+void DialogFaultsTest::anyTwoCallsMayGoWrong_data()
+{
+    QTest::addColumn<Use>("what");
+    for (int what = 0; what < kUses; ++what)
+        QTest::newRow(nameOf(static_cast<Use>(what))) << static_cast<Use>(what);
+}
+
+void DialogFaultsTest::anyTwoCallsMayGoWrong()
+{
+    QFETCH(const Use, what);
+    const bool holds = rc::check([&] {
+        const auto someFault = rc::gen::build<FaultAt>(
+            rc::gen::set(&FaultAt::fault, rc::gen::cast<Fault>(rc::gen::inRange(0, kFaults))),
+            rc::gen::set(&FaultAt::call, rc::gen::inRange(0, kCalls[what])));
+        const auto one = *someFault;
+        const auto other = *someFault;
+        startAnew();
+        {
+            const std::unique_ptr<tests::FakeFault> first = faultOf(one.fault, one.call);
+            const std::unique_ptr<tests::FakeFault> second = faultOf(other.fault, other.call);
+            use(what);
+        }
+        RC_ASSERT(complaint().toStdString() == std::string());
+    });
+    QVERIFY(holds);
+}
+
+// Without a host that could ask, the dialog asks itself.
+void DialogFaultsTest::theDialogMayGoBehindAQuestion()
+{
+    m_dialog = new TestDialog(m_window);
+    m_host->setPresent(false);
+    bool hasAsked = false;
+    QTimer::singleShot(0, this, [&] {
+        hasAsked = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        delete std::exchange(m_window, nullptr).data();
+    });
+    m_dialog->ui.reset_pushButton->setEnabled(true);
+    m_dialog->ui.reset_pushButton->click();
+    m_host->setPresent(true);
+    QVERIFY(hasAsked);
+    QVERIFY(!m_dialog);
+}
+
+void DialogFaultsTest::theDialogMayGoBehindThePrintDialog()
+{
+    m_dialog = new TestDialog(m_window);
+    bool hasAsked = false;
+    QTimer::singleShot(0, this, [&] {
+        hasAsked = qobject_cast<QPrintDialog *>(QApplication::activeModalWidget());
+        delete std::exchange(m_window, nullptr).data();
+    });
+    m_dialog->ui.print_pushButton->click();
+    QVERIFY(hasAsked);
+    QVERIFY(!m_dialog);
 }
 
 QTEST_MAIN(DialogFaultsTest)

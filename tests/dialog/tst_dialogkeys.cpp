@@ -34,6 +34,8 @@ private Q_SLOTS:
     void goesFromTheSearchFieldToTheFirstHit();
     void enterInTheSearchFieldPressesNothing();
     void bindsACommandWithoutTheMouse();
+    void enterChoosesAndPressesNothing_data();
+    void enterChoosesAndPressesNothing();
     void sortsByKeys();
     void headerTellsOfTheKeys();
 
@@ -161,6 +163,45 @@ void DialogKeysTest::bindsACommandWithoutTheMouse()
     tests::key(m_dialog.get(), Qt::Key_Return);
     QVERIFY(!m_dialog->isVisible());
     QCOMPARE(m_host->store.values.value(QStringLiteral("81")), QStringLiteral("ID_COPY"));
+}
+
+void DialogKeysTest::enterChoosesAndPressesNothing_data()
+{
+    QTest::addColumn<Qt::Key>("enter");
+    QTest::addColumn<bool>("isListOnScreen");
+    QTest::newRow("Return") << Qt::Key_Return << true;
+    QTest::newRow("Enter") << Qt::Key_Enter << true;
+    // A fast hand is ahead of the window system. The keys still go to the dialog's window then.
+    QTest::newRow("Return, list not on the screen yet") << Qt::Key_Return << false;
+    QTest::newRow("Enter, list not on the screen yet") << Qt::Key_Enter << false;
+}
+
+void DialogKeysTest::enterChoosesAndPressesNothing()
+{
+    QFETCH(const Qt::Key, enter);
+    QFETCH(const bool, isListOnScreen);
+    open();
+    tests::type(m_dialog.get(), QStringLiteral("copy"));
+    tests::key(m_dialog.get(), Qt::Key_Down);
+    const QModelIndex cell = m_dialog->cell(0, kDirection);
+    QWindow *dialogWindow = m_dialog->windowHandle();
+    QTest::keyClick(dialogWindow, Qt::Key_F4);
+    const QPointer<QWidget> list = QApplication::activePopupWidget();
+    QVERIFY(list);
+    QWindow *window = isListOnScreen ? list->windowHandle() : dialogWindow;
+    if (!isListOnScreen)
+        QApplication::setActiveWindow(nullptr);
+    QTest::keyClick(window, Qt::Key_Home);
+    QTest::keyClick(window, Qt::Key_Down);
+    QTest::keyPress(window, enter);
+    QVERIFY(!list || !list->isVisible());
+    QTest::keyRelease(dialogWindow, enter);
+    QVERIFY(m_dialog->isVisible());
+    QCOMPARE(cell.data(Qt::EditRole).toInt(), 1);
+    // The next one presses OK, as ever.
+    m_dialog->ui.command_tableView->setFocus();
+    QTest::keyClick(dialogWindow, enter);
+    QVERIFY(!m_dialog->isVisible());
 }
 
 void DialogKeysTest::sortsByKeys()

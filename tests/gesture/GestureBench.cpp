@@ -120,6 +120,7 @@ void GestureBench::release(const QPoint &viewPosition, Qt::KeyboardModifiers mod
     m_pressed = false;
     // The window system sends it to who holds the mouse, or to nobody's window.
     QWindow nobody;
+    nobody.resize(400, 400);
     const QWidget *receiver = view ? view.data() : QWidget::mouseGrabber();
     QTest::mouseRelease(receiver ? receiver->windowHandle() : &nobody, Qt::RightButton, modifiers,
                         viewPosition);

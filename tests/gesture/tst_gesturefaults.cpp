@@ -244,8 +244,9 @@ void GestureFaultsTest::oneAtATime()
     QFETCH(const Fault, fault);
     QFETCH(const int, first);
     QFETCH(const int, calls);
-    int call = first;
-    for (bool isReached = true; isReached && call <= calls; ++call) {
+    const int stride = tests::faultStride();
+    int call = first + int(fault) % stride;
+    for (bool isReached = true; isReached && call <= calls; call += stride) {
         {
             const std::unique_ptr<FakeFault> one = faultOf({fault, call});
             perform(end);
@@ -257,7 +258,8 @@ void GestureFaultsTest::oneAtATime()
         setUp();
     }
     // A call that is new needs a look at what it does when it goes wrong.
-    QCOMPARE(call - 1, calls);
+    if (stride == 1)
+        QCOMPARE(call - 1, calls);
 }
 
 void GestureFaultsTest::twoAtATime_data()
