@@ -7,6 +7,8 @@
 
 #include <QKeyEvent>
 
+#include <utility>
+
 MgCommandTableView::MgCommandTableView(QWidget *parent)
     : QTableView(parent)
 {
@@ -17,7 +19,8 @@ void MgCommandTableView::keyPressEvent(QKeyEvent *event)
     // Where the list is not on the screen yet, the press of the Enter that chose in it comes here, and
     // would go on to the dialog's OK.
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isEnter && m_enterTime && *m_enterTime == event->timestamp())
+    const std::optional<quint64> chosen = std::exchange(m_enterTime, std::nullopt);
+    if (isEnter && chosen && *chosen == event->timestamp())
         return;
     QTableView::keyPressEvent(event);
 }

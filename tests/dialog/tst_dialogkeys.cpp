@@ -198,7 +198,8 @@ void DialogKeysTest::enterChoosesAndPressesNothing()
     QTest::keyRelease(dialogWindow, enter);
     QVERIFY(m_dialog->isVisible());
     QCOMPARE(cell.data(Qt::EditRole).toInt(), 1);
-    // The next one presses OK, as ever.
+    // The next one presses OK, as ever. A hand needs a moment for it.
+    QTest::qWait(2);
     m_dialog->ui.command_tableView->setFocus();
     QTest::keyClick(dialogWindow, enter);
     QVERIFY(!m_dialog->isVisible());

@@ -785,10 +785,11 @@ void HostCommandCatalogueTest::thousandCommandsCostLittle()
     qInfo("first %.2f ms, unchanged %.2f ms, all toggled %.2f ms, menu changed %.2f ms",
           double(first) / 1e6, unchanged, toggled, changed);
     QVERIFY(length > 0);
-    // Far more than on a busy machine with sanitizers. Benchmarks hold the figures.
-    QVERIFY2(unchanged < 50, qPrintable(QString::number(unchanged)));
-    QVERIFY2(toggled < 100, qPrintable(QString::number(toggled)));
-    QVERIFY2(changed < 100, qPrintable(QString::number(changed)));
+    // Beside the first reading, so that a slow machine changes nothing. Benchmarks hold the figures.
+    const double whole = double(first) / 1e6;
+    QVERIFY2(unchanged < whole / 4, qPrintable(QString::number(unchanged)));
+    QVERIFY2(toggled < whole / 2, qPrintable(QString::number(toggled)));
+    QVERIFY2(changed < whole / 2, qPrintable(QString::number(changed)));
 }
 
 QTEST_MAIN(HostCommandCatalogueTest)
