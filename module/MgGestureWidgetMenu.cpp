@@ -95,10 +95,9 @@ public:
     {
         if (m_isComplete)
             return;
-        if (m_entry) {
-            hostCall([this] { m_entries.Remove(m_entry); }); // it may be in the menu all the same
+        // It may be in the menu all the same, and an entry that is in a menu must not be destroyed.
+        if (m_entry && hostCall([this] { m_entries.Remove(m_entry); }))
             hostCall([this] { m_manager.DestroyMenuItem(m_entry); });
-        }
         if (m_newItem)
             hostCall([this] { m_manager.RemoveCommandItem(m_newItem); });
     }

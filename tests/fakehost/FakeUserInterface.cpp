@@ -81,6 +81,10 @@ void FakeUIManager::RemoveCommandItem(CHxUICommandItem *item)
         std::vector<CHxUICommandItem *> &shown = workspace->commandItems;
         shown.erase(std::remove(shown.begin(), shown.end(), item), shown.end());
     }
+    for (const auto &entry : menuItems) {
+        if (entry->command == item)
+            entry->command = nullptr;
+    }
     commandItems.erase(std::remove_if(commandItems.begin(), commandItems.end(),
                                       [item](const auto &held) { return held.get() == item; }),
                        commandItems.end());
