@@ -145,8 +145,8 @@ void DrawingDesk::makeView()
     m_view->setCursor(GestureDesk::kOwnCursor);
     auto *control = new QLineEdit(m_view);
     control->setContextMenuPolicy(Qt::NoContextMenu);
-    // All keys are the view's. The offscreen platform leaves the window inactive after a ring, and a line
-    // edit in an inactive window passes keys on in another way.
+    // All keys are the view's. The offscreen platform leaves the window inactive after a ring, and a
+    // line edit in an inactive window passes keys on in another way.
     control->setFocusPolicy(Qt::NoFocus);
     control->setGeometry(controlArea());
     if (m_window.isVisible())

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
+#include "gesture/MgCompositorProbe.h"
 #include "gesture/MgDonutDialogPVStyleImpl.h"
 #include "tests/gesture/x11/X11Bench.h"
 #include "tests/support/FatalWarnings.h"
@@ -87,6 +88,7 @@ private Q_SLOTS:
     void lastFrameToo();
     void backdropIsTakenAnew();
     void compositorComesAndGoes();
+    void theProbeAsksItself();
     void compositorGoesUnderAnOpenRing();
     void compositorComesUnderAnOpenRing();
 
@@ -256,6 +258,13 @@ void RingBackdropTest::compositorComesAndGoes()
         QTRY_COMPARE(wrongPixels(before, kRingOpacity), 0);
         end();
     }
+}
+
+void RingBackdropTest::theProbeAsksItself()
+{
+    MgCompositorProbe probe;
+    QVERIFY(!probe.isCompositing());
+    QVERIFY(!probe.isCompositing());
 }
 
 void RingBackdropTest::compositorGoesUnderAnOpenRing()
