@@ -6,6 +6,7 @@
 #include "tests/bindings/OpenContainer.h"
 #include "tests/bindings/StandardCommands.h"
 #include "tests/fakehost/FakeHost.h"
+#include "tests/fakehost/Fault.h"
 #include "tests/support/FatalWarnings.h"
 #include "tests/support/Text.h"
 
@@ -15,6 +16,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <vector>
 
 using tests::text;
 
@@ -36,8 +38,6 @@ public:
 };
 
 } // namespace
-
-Q_DECLARE_METATYPE(tests::Misdeed)
 
 // The host throws in any of its operations or withholds a value. No binding is lost, and no exception
 // leaves the container.
@@ -72,6 +72,7 @@ private Q_SLOTS:
 
     void cleanup()
     {
+        subject.reset();
         QCOMPARE(host->commands.iteratorsAlive, 0);
         QCOMPARE(host->ui.iteratorsAlive, 0);
         host.reset();
@@ -132,46 +133,53 @@ private Q_SLOTS:
     // same, and a reading in a host that is right again makes it right.
     void oddAnswersLeaveItWhole_data()
     {
-        QTest::addColumn<tests::Misdeed>("misdeed");
-        QTest::newRow("nothing") << tests::Misdeed::GivesNothing;
-        QTest::newRow("too little") << tests::Misdeed::GivesTooLittle;
-        QTest::newRow("too much") << tests::Misdeed::GivesTooMuch;
-        QTest::newRow("reads again") << tests::Misdeed::Acts;
+        QTest::addColumn<int>("fault"); // place in the list
+        int place = 0;
+        for (const tests::Fault &fault : faults)
+            QTest::newRow(fault.name) << place++;
     }
 
     void oddAnswersLeaveItWhole()
     {
-        QFETCH(const tests::Misdeed, misdeed);
-        tests::OpenContainer container;
+        QFETCH(const int, fault);
+        subject = std::make_unique<tests::OpenContainer>();
         int calls = 0;
         for (bool reached = true; reached; ++calls) {
             {
-                const auto fault = faultOf(container, misdeed, calls);
-                container.init();
-                reached = fault->wasReached();
+                const auto one = faults[static_cast<std::size_t>(fault)].at(calls);
+                subject->init();
+                reached = one->wasReached();
             }
-            QVERIFY(!container.isBehindSettings() || misdeed != tests::Misdeed::Acts);
-            const QString wrong = complaint(container);
+            const QString wrong = complaint();
             QVERIFY2(wrong.isEmpty(),
                      qPrintable(QStringLiteral("after call %1: %2").arg(calls).arg(wrong)));
         }
         QCOMPARE(calls - 1, kCalls);
     }
 
+    void aReadingInsideAReadingIsNoChange()
+    {
+        subject = std::make_unique<tests::OpenContainer>();
+        for (int call = 0; call < kCalls; ++call) {
+            const auto one = faults.back().at(call);
+            subject->init();
+            QVERIFY(one->wasReached());
+            QVERIFY2(!subject->isBehindSettings(), qPrintable(QString::number(call)));
+        }
+    }
+
     void twoOddAnswersLeaveItWhole()
     {
-        tests::OpenContainer container;
-        const bool holds = rc::check([&] {
-            const auto someMisdeed = rc::gen::element(
-                tests::Misdeed::Throws, tests::Misdeed::GivesNothing, tests::Misdeed::GivesTooLittle,
-                tests::Misdeed::GivesTooMuch, tests::Misdeed::Acts);
-            const auto someCall = rc::gen::inRange(0, kCalls);
+        subject = std::make_unique<tests::OpenContainer>();
+        const bool holds = rc::check([this] {
+            const auto one = *tests::someFault(faults, kCalls);
+            const auto other = *tests::someFault(faults, kCalls);
             {
-                const auto one = faultOf(container, *someMisdeed, *someCall);
-                const auto other = faultOf(container, *someMisdeed, *someCall);
-                container.init();
+                const auto first = one.start();
+                const auto second = other.start();
+                subject->init();
             }
-            RC_ASSERT(complaint(container).toStdString() == std::string());
+            RC_ASSERT(complaint().toStdString() == std::string());
         });
         QVERIFY(holds);
     }
@@ -330,35 +338,31 @@ private:
     // Calls that the host gets in a reading. A new one needs a look at what it does when it goes wrong.
     static constexpr int kCalls = 191;
 
-    static std::unique_ptr<tests::FakeFault> faultOf(tests::OpenContainer &container,
-                                                     tests::Misdeed misdeed, int call)
-    {
-        if (misdeed != tests::Misdeed::Acts)
-            return std::make_unique<tests::FakeFault>(call, misdeed);
-        return std::make_unique<tests::FakeFault>(call, [&container] {
-            container.init();
-            static_cast<void>(container.getDonutHelperData());
-            static_cast<void>(container.getCommandNameFromIndex(0));
-        });
-    }
+    std::unique_ptr<tests::OpenContainer> subject; // the one that is read
+    const std::vector<tests::Fault> faults =
+        tests::faultsWith({{"reads again", [this] {
+                                subject->init();
+                                static_cast<void>(subject->getDonutHelperData());
+                                static_cast<void>(subject->getCommandNameFromIndex(0));
+                            }}});
 
     // What is wrong with a container after a reading; empty if nothing is.
-    QString complaint(tests::OpenContainer &container)
+    QString complaint()
     {
-        const auto isWhole = [&container](const Table &table) {
-            return std::all_of(table.begin(), table.end(), [&container](int place) {
-                return place >= -1 && place < static_cast<int>(container.commands.size());
+        const auto isWhole = [this](const Table &table) {
+            return std::all_of(table.begin(), table.end(), [this](int place) {
+                return place >= -1 && place < static_cast<int>(subject->commands.size());
             });
         };
-        if (container.fourTable.size() != 4 || container.eightTable.size() != 8
-            || !isWhole(container.fourTable) || !isWhole(container.eightTable))
+        if (subject->fourTable.size() != 4 || subject->eightTable.size() != 8
+            || !isWhole(subject->fourTable) || !isWhole(subject->eightTable))
             return text("a table is not whole");
         host->store.values = stored;
-        container.init();
-        if (container.hasReadingFailed() || container.commands.size() != 8)
+        subject->init();
+        if (subject->hasReadingFailed() || subject->commands.size() != 8)
             return text("the next reading fails");
-        const bool isRight = container.fourTable == Table{1, 2, -1, 4}
-                          && container.eightTable.size() == 8 && container.eightTable[5] == -1;
+        const bool isRight = subject->fourTable == Table{1, 2, -1, 4} && subject->eightTable.size() == 8
+                          && subject->eightTable[5] == -1;
         return isRight ? QString() : text("the next reading is wrong");
     }
 

@@ -6,6 +6,7 @@
 #include "tests/dialog/Input.h"
 #include "tests/dialog/TestDialog.h"
 #include "tests/fakehost/FakeHost.h"
+#include "tests/fakehost/Fault.h"
 #include "tests/support/FatalWarnings.h"
 
 #include <QMessageBox>
@@ -17,25 +18,12 @@
 
 #include <memory>
 #include <optional>
-#include <ostream>
 #include <utility>
+#include <vector>
 
-using tests::Misdeed;
 using tests::TestDialog;
 
 namespace {
-
-// What goes wrong.
-enum Fault {
-    Throws,
-    GivesNothing,
-    GivesTooLittle,
-    GivesTooMuch,
-    LosesTheMainWindow, // and the dialog with it
-    HandlesEvents,
-    ReadsTheBindingsAgain,
-};
-constexpr int kFaults = ReadsTheBindingsAgain + 1;
 
 // What somebody does with the dialog.
 enum Use { Opens, Saves, Resets, AsksForHelp };
@@ -44,34 +32,14 @@ constexpr int kUses = AsksForHelp + 1;
 // goes wrong.
 constexpr int kCalls[kUses] = {342, 370, 644, 343};
 
-const char *nameOf(Fault fault)
-{
-    static const char *const names[kFaults] = {
-        "throws",           "gives nothing",  "gives too little",        "gives too much",
-        "loses the window", "handles events", "reads the bindings again"};
-    return names[fault];
-}
-
 const char *nameOf(Use use)
 {
     static const char *const names[kUses] = {"opens", "saves", "resets", "asks for help"};
     return names[use];
 }
 
-struct FaultAt
-{
-    Fault fault;
-    int call;
-};
-
-std::ostream &operator<<(std::ostream &out, const FaultAt &one)
-{
-    return out << "call " << one.call << ' ' << nameOf(one.fault);
-}
-
 } // namespace
 
-Q_DECLARE_METATYPE(Fault)
 Q_DECLARE_METATYPE(Use)
 
 // The dialog in a host that throws in any of its operations, or does something else that no host should.
@@ -97,8 +65,6 @@ private Q_SLOTS:
     void theDialogMayGoBehindThePrintDialog();
 
 private:
-    [[nodiscard]] std::unique_ptr<tests::FakeFault> faultOf(Fault fault, int call);
-    void act(Fault fault);
     // Opens a dialog of the main window and does something in it. The dialog may be gone afterwards.
     void use(Use use);
     // What is wrong afterwards; empty if nothing is.
@@ -109,6 +75,11 @@ private:
     QMap<QString, QString> m_stored;
     QPointer<QWidget> m_window; // the host's main window
     QPointer<TestDialog> m_dialog;
+    const std::vector<tests::Fault> m_faults = tests::faultsWith(
+        {{"loses the main window", // and the dialog with it
+          [this] { delete std::exchange(m_window, nullptr).data(); }},
+         {"handles events", [] { QCoreApplication::processEvents(); }},
+         {"reads the bindings again", [] { MgDonutDataContainer::instance()->init(); }}});
 };
 
 void DialogFaultsTest::init()
@@ -215,39 +186,6 @@ void DialogFaultsTest::throwsWhenAskedForHelp()
     QVERIFY(dialog.isVisible());
 }
 
-std::unique_ptr<tests::FakeFault> DialogFaultsTest::faultOf(Fault fault, int call)
-{
-    switch (fault) {
-    case Throws:
-        return std::make_unique<tests::FakeFault>(call, Misdeed::Throws);
-    case GivesNothing:
-        return std::make_unique<tests::FakeFault>(call, Misdeed::GivesNothing);
-    case GivesTooLittle:
-        return std::make_unique<tests::FakeFault>(call, Misdeed::GivesTooLittle);
-    case GivesTooMuch:
-        return std::make_unique<tests::FakeFault>(call, Misdeed::GivesTooMuch);
-    default:
-        return std::make_unique<tests::FakeFault>(call, [this, fault] { act(fault); });
-    }
-}
-
-void DialogFaultsTest::act(Fault fault)
-{
-    switch (fault) {
-    case LosesTheMainWindow:
-        delete std::exchange(m_window, nullptr).data();
-        return;
-    case HandlesEvents:
-        QCoreApplication::processEvents();
-        return;
-    case ReadsTheBindingsAgain:
-        MgDonutDataContainer::instance()->init();
-        return;
-    default:
-        return;
-    }
-}
-
 void DialogFaultsTest::use(Use use)
 {
     // Settings that changed elsewhere, so that the dialog reads everything.
@@ -285,25 +223,25 @@ QString DialogFaultsTest::complaint()
 void DialogFaultsTest::anyCallMayGoWrong_data()
 {
     QTest::addColumn<Use>("what");
-    QTest::addColumn<Fault>("fault");
+    QTest::addColumn<int>("fault"); // place in the list
     for (int what = 0; what < kUses; ++what) {
-        for (int fault = 0; fault < kFaults; ++fault) {
-            QTest::addRow("%s, %s", nameOf(static_cast<Use>(what)), nameOf(static_cast<Fault>(fault)))
-                << static_cast<Use>(what) << static_cast<Fault>(fault);
-        }
+        int place = 0;
+        for (const tests::Fault &fault : m_faults)
+            QTest::addRow("%s, %s", nameOf(static_cast<Use>(what)), fault.name)
+                << static_cast<Use>(what) << place++;
     }
 }
 
 void DialogFaultsTest::anyCallMayGoWrong()
 {
     QFETCH(const Use, what);
-    QFETCH(const Fault, fault);
+    QFETCH(const int, fault);
     // All begin with opening it.
     const int stride = tests::faultStride();
-    int call = (what == Opens ? 0 : kCalls[Opens]) + int(fault) % stride;
+    int call = (what == Opens ? 0 : kCalls[Opens]) + fault % stride;
     for (bool isReached = true; isReached; call += stride) {
         {
-            const std::unique_ptr<tests::FakeFault> one = faultOf(fault, call);
+            const auto one = m_faults[static_cast<std::size_t>(fault)].at(call);
             use(what);
             isReached = one->wasReached();
         }
@@ -326,15 +264,12 @@ void DialogFaultsTest::anyTwoCallsMayGoWrong()
 {
     QFETCH(const Use, what);
     const bool holds = rc::check([&] {
-        const auto someFault = rc::gen::build<FaultAt>(
-            rc::gen::set(&FaultAt::fault, rc::gen::cast<Fault>(rc::gen::inRange(0, kFaults))),
-            rc::gen::set(&FaultAt::call, rc::gen::inRange(0, kCalls[what])));
-        const auto one = *someFault;
-        const auto other = *someFault;
+        const auto one = *tests::someFault(m_faults, kCalls[what]);
+        const auto other = *tests::someFault(m_faults, kCalls[what]);
         startAnew();
         {
-            const std::unique_ptr<tests::FakeFault> first = faultOf(one.fault, one.call);
-            const std::unique_ptr<tests::FakeFault> second = faultOf(other.fault, other.call);
+            const auto first = one.start();
+            const auto second = other.start();
             use(what);
         }
         RC_ASSERT(complaint().toStdString() == std::string());

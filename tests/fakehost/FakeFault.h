@@ -18,7 +18,7 @@
 
 namespace tests {
 
-// What a host may do wrong in a call.
+// The ways in which a host can get a call wrong.
 enum class Misdeed {
     None,
     Throws, // std::runtime_error

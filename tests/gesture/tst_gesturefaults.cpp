@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "bindings/MgDonutDataContainer.h"
-#include "tests/fakehost/FakeFault.h"
+#include "tests/fakehost/Fault.h"
 #include "tests/gesture/TrackerBench.h"
 #include "tests/support/FatalWarnings.h"
 #include "tests/support/HastyClock.h"
@@ -11,14 +11,8 @@
 
 #include <rapidcheck.h>
 
-#include <functional>
-#include <memory>
-#include <ostream>
 #include <utility>
 #include <vector>
-
-using tests::FakeFault;
-using tests::Misdeed;
 
 namespace {
 
@@ -31,54 +25,7 @@ const QPoint kAccepted(-80, 0);
 constexpr int kCallsOfCancelled = 258;
 constexpr int kCallsOfAccepted = 256;
 
-// What goes wrong.
-enum Fault {
-    Throws,
-    GivesNothing,
-    GivesTooLittle,
-    GivesTooMuch,
-    LosesTheMainWindow, // and the ring with it
-    LosesTheView,
-    LosesTheActiveDocument,
-    HandlesTheRelease, // in an event loop of its own
-    HandlesAMovement,
-    UpdatesAgain,
-    ReadsTheBindingsAgain,
-    StopsTheRing,
-};
-constexpr int kFaults = StopsTheRing + 1;
-
-const char *nameOf(Fault fault)
-{
-    static const char *const names[kFaults] = {"throws",
-                                               "gives nothing",
-                                               "gives too little",
-                                               "gives too much",
-                                               "loses the main window",
-                                               "loses the view",
-                                               "loses the active document",
-                                               "handles the release",
-                                               "handles a movement",
-                                               "updates again",
-                                               "reads the bindings again",
-                                               "stops the ring"};
-    return names[fault];
-}
-
-struct FaultAt
-{
-    Fault fault;
-    int call;
-};
-
-std::ostream &operator<<(std::ostream &out, const FaultAt &one)
-{
-    return out << "call " << one.call << ' ' << nameOf(one.fault);
-}
-
 } // namespace
-
-Q_DECLARE_METATYPE(Fault)
 
 // Each call into the host goes wrong in each way, alone and in pairs, in a gesture that is cancelled and
 // in one that is accepted. Afterwards nothing is grabbed, no ring is open, and the next gesture is as if
@@ -88,6 +35,7 @@ class GestureFaultsTest : public QObject, protected tests::TrackerBench
     Q_OBJECT
 
 public:
+    GestureFaultsTest();
     static void initMain() { tests::HastyClock::keepTestsRunning(); }
 
 private Q_SLOTS:
@@ -103,15 +51,39 @@ private Q_SLOTS:
 private:
     // A whole gesture. Runs its command if the tracker has one.
     void perform(const QPoint &end);
-    [[nodiscard]] std::unique_ptr<FakeFault> faultOf(const FaultAt &one);
-    void act(Fault fault);
     // What is wrong after the gesture; empty if nothing is.
     [[nodiscard]] QString complaint();
 
     tests::HastyClock m_clock;
+    const std::vector<tests::Fault> m_faults;
     bool m_isPair = false; // of faults
     bool m_hasLostTheRing = false;
 };
+
+GestureFaultsTest::GestureFaultsTest()
+    : m_faults(tests::faultsWith(
+        {{"loses the main window", // and the ring with it
+          [this] {
+              m_hasLostTheRing = m_isPair;
+              // Once: while it dies, the host is called as well.
+              delete std::exchange(m_mainWindow, nullptr).data();
+          }},
+         {"loses the view", [this] { delete m_bench->view; }},
+         {"loses the active document", [this] { m_bench->host.documents.active = nullptr; }},
+         {"handles the release", // in an event loop of its own
+          [this] {
+              m_bench->release(kMiddle);
+              QCoreApplication::processEvents();
+          }},
+         {"handles a movement", [this] { m_bench->pointTo(kMiddle + kAccepted); }},
+         {"updates again", [this] { m_tracker->Update(nullptr, m_hit.get()); }},
+         {"reads the bindings again", [] { MgDonutDataContainer::instance()->init(); }},
+         {"stops the ring", [this] {
+              if (m_tracker->ring())
+                  m_tracker->ring()->hide();
+          }}}))
+{
+}
 
 void GestureFaultsTest::init()
 {
@@ -134,58 +106,6 @@ void GestureFaultsTest::perform(const QPoint &end)
     look(kMiddle + end);
     if (m_tracker->IsEager(m_hit.get()))
         m_tracker->DoAction(m_hit.get());
-}
-
-std::unique_ptr<FakeFault> GestureFaultsTest::faultOf(const FaultAt &one)
-{
-    switch (one.fault) {
-    case Throws:
-        return std::make_unique<FakeFault>(one.call, Misdeed::Throws);
-    case GivesNothing:
-        return std::make_unique<FakeFault>(one.call, Misdeed::GivesNothing);
-    case GivesTooLittle:
-        return std::make_unique<FakeFault>(one.call, Misdeed::GivesTooLittle);
-    case GivesTooMuch:
-        return std::make_unique<FakeFault>(one.call, Misdeed::GivesTooMuch);
-    default:
-        return std::make_unique<FakeFault>(one.call, [this, one] { act(one.fault); });
-    }
-}
-
-void GestureFaultsTest::act(Fault fault)
-{
-    switch (fault) {
-    case LosesTheMainWindow:
-        m_hasLostTheRing = m_isPair;
-        // Once: while it dies, the host is called as well.
-        delete std::exchange(m_mainWindow, nullptr).data();
-        return;
-    case LosesTheView:
-        delete m_bench->view;
-        return;
-    case LosesTheActiveDocument:
-        m_bench->host.documents.active = nullptr;
-        return;
-    case HandlesTheRelease:
-        m_bench->release(kMiddle);
-        QCoreApplication::processEvents();
-        return;
-    case HandlesAMovement:
-        m_bench->pointTo(kMiddle + kAccepted);
-        return;
-    case UpdatesAgain:
-        m_tracker->Update(nullptr, m_hit.get());
-        return;
-    case ReadsTheBindingsAgain:
-        MgDonutDataContainer::instance()->init();
-        return;
-    case StopsTheRing:
-        if (m_tracker->ring())
-            m_tracker->ring()->hide();
-        return;
-    default:
-        return;
-    }
 }
 
 QString GestureFaultsTest::complaint()
@@ -227,28 +147,29 @@ QString GestureFaultsTest::complaint()
 void GestureFaultsTest::oneAtATime_data()
 {
     QTest::addColumn<QPoint>("end");
-    QTest::addColumn<Fault>("fault");
+    QTest::addColumn<int>("fault"); // place in the list
     QTest::addColumn<int>("first"); // of the calls that go wrong
     QTest::addColumn<int>("calls");
-    for (int number = 0; number < kFaults; ++number) {
-        const auto fault = static_cast<Fault>(number);
-        QTest::addRow("cancelled, %s", nameOf(fault)) << kCancelled << fault << 0 << kCallsOfCancelled;
+    int place = 0;
+    for (const tests::Fault &fault : m_faults) {
+        QTest::addRow("cancelled, %s", fault.name) << kCancelled << place << 0 << kCallsOfCancelled;
         // Only its end is different.
-        QTest::addRow("accepted, %s", nameOf(fault)) << kAccepted << fault << 220 << kCallsOfAccepted;
+        QTest::addRow("accepted, %s", fault.name) << kAccepted << place << 220 << kCallsOfAccepted;
+        ++place;
     }
 }
 
 void GestureFaultsTest::oneAtATime()
 {
     QFETCH(const QPoint, end);
-    QFETCH(const Fault, fault);
+    QFETCH(const int, fault);
     QFETCH(const int, first);
     QFETCH(const int, calls);
     const int stride = tests::faultStride();
-    int call = first + int(fault) % stride;
-    for (bool isReached = true; isReached && call <= calls; call += stride) {
+    int call = first + fault % stride;
+    for (bool isReached = true; isReached; call += stride) {
         {
-            const std::unique_ptr<FakeFault> one = faultOf({fault, call});
+            const auto one = m_faults[static_cast<std::size_t>(fault)].at(call);
             perform(end);
             isReached = one->wasReached();
         }
@@ -275,19 +196,16 @@ void GestureFaultsTest::twoAtATime()
     QFETCH(const QPoint, end);
     QFETCH(const int, calls);
     const bool holds = rc::check([&] {
-        const auto someFault = rc::gen::build<FaultAt>(
-            rc::gen::set(&FaultAt::fault, rc::gen::cast<Fault>(rc::gen::inRange(0, kFaults))),
-            rc::gen::set(&FaultAt::call, rc::gen::inRange(0, calls)));
-        const auto one = *someFault;
-        const auto other = *someFault;
+        const auto one = *tests::someFault(m_faults, calls);
+        const auto other = *tests::someFault(m_faults, calls);
         tearDown();
         tests::resetWarnings();
         setUp();
         m_isPair = true;
         m_hasLostTheRing = false;
         {
-            const std::unique_ptr<FakeFault> first = faultOf(one);
-            const std::unique_ptr<FakeFault> second = faultOf(other);
+            const auto first = one.start();
+            const auto second = other.start();
             perform(end);
         }
         RC_ASSERT(complaint().toStdString() == std::string());

@@ -4,6 +4,7 @@
 #include "bindings/MgDonutDataContainer.h"
 #include "tests/bindings/OlderSettings.h"
 #include "tests/fakehost/FakeHost.h"
+#include "tests/fakehost/Fault.h"
 #include "tests/module/OpenModule.h"
 #include "tests/support/FatalWarnings.h"
 
@@ -12,12 +13,11 @@
 #include <rapidcheck.h>
 
 #include <algorithm>
-#include <functional>
 #include <memory>
+#include <vector>
 
 using tests::FakeFault;
 using tests::FakeHost;
-using tests::Misdeed;
 using tests::OpenModule;
 
 namespace {
@@ -95,8 +95,6 @@ void live(OpenModule &module, FakeHost &host)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Misdeed)
-
 // Each call into the host goes wrong in each way while the module comes, stays and goes.
 class ModuleFaultsTest : public QObject
 {
@@ -105,7 +103,11 @@ class ModuleFaultsTest : public QObject
 private Q_SLOTS:
     void initTestCase() { tests::failOnWarnings(); }
     void init() { tests::resetWarnings(); }
-    void cleanup() { QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings())); }
+    void cleanup()
+    {
+        m_desk.reset();
+        QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
+    }
 
     void aThrowLeavesNoHalfOfAnEntry();
     void anEntryThatIsRefusedAfterAllIsTakenOut();
@@ -114,9 +116,19 @@ private Q_SLOTS:
     void twoAtATime();
 
 private:
-    [[nodiscard]] std::unique_ptr<FakeFault> faultOf(Desk &desk, Misdeed misdeed, int call) const;
+    // Of the desk that is there at the moment.
+    std::unique_ptr<Desk> m_desk;
+    const std::vector<tests::Fault> m_faults = tests::faultsWith(
+        {{"comes back", [this] {
+              m_desk->module.DocumentCreated(m_desk->host.documents.openDocuments.front());
+              m_desk->module.LoadMenu();
+              m_desk->module.UnLoadMenu();
+              m_desk->module.mainFrameDestroyed(nullptr);
+              MgDonutDataContainer::instance()->init();
+          }}});
+
     // What is wrong after the module's life; empty if nothing is.
-    [[nodiscard]] QString complaint(Desk &desk) const;
+    [[nodiscard]] QString complaint();
 
     tests::OlderSettings m_settings;
 };
@@ -163,21 +175,9 @@ void ModuleFaultsTest::anEntryThatIsRefusedAfterAllIsTakenOut()
     QVERIFY(desk.hasNoTrace());
 }
 
-std::unique_ptr<FakeFault> ModuleFaultsTest::faultOf(Desk &desk, Misdeed misdeed, int call) const
+QString ModuleFaultsTest::complaint()
 {
-    if (misdeed != Misdeed::Acts)
-        return std::make_unique<FakeFault>(call, misdeed);
-    return std::make_unique<FakeFault>(call, [&desk] {
-        desk.module.DocumentCreated(desk.host.documents.openDocuments.front());
-        desk.module.LoadMenu();
-        desk.module.UnLoadMenu();
-        desk.module.mainFrameDestroyed(nullptr);
-        MgDonutDataContainer::instance()->init();
-    });
-}
-
-QString ModuleFaultsTest::complaint(Desk &desk) const
-{
+    Desk &desk = *m_desk;
     // What the host did not let go of, it lets go of the next time.
     desk.module.mainFrameDestroyed(nullptr);
     if (!desk.isFree())
@@ -196,27 +196,26 @@ QString ModuleFaultsTest::complaint(Desk &desk) const
 
 void ModuleFaultsTest::nothingStaysRegistered_data()
 {
-    QTest::addColumn<Misdeed>("misdeed");
-    QTest::newRow("throws") << Misdeed::Throws;
-    QTest::newRow("nothing") << Misdeed::GivesNothing;
-    QTest::newRow("too little") << Misdeed::GivesTooLittle;
-    QTest::newRow("too much") << Misdeed::GivesTooMuch;
-    QTest::newRow("comes back") << Misdeed::Acts;
+    QTest::addColumn<int>("fault"); // place in the list
+    int place = 0;
+    for (const tests::Fault &fault : m_faults)
+        QTest::newRow(fault.name) << place++;
 }
 
 void ModuleFaultsTest::nothingStaysRegistered()
 {
-    QFETCH(const Misdeed, misdeed);
+    QFETCH(const int, fault);
     int call = 0;
     for (bool isReached = true; isReached; ++call) {
-        Desk desk;
+        m_desk = std::make_unique<Desk>();
         {
-            const std::unique_ptr<FakeFault> fault = faultOf(desk, misdeed, call);
-            live(desk.module, desk.host);
-            isReached = fault->wasReached();
+            const auto one = m_faults[static_cast<std::size_t>(fault)].at(call);
+            live(m_desk->module, m_desk->host);
+            isReached = one->wasReached();
         }
-        const QString wrong = complaint(desk);
+        const QString wrong = complaint();
         QVERIFY2(wrong.isEmpty(), qPrintable(QStringLiteral("after call %1: %2").arg(call).arg(wrong)));
+        m_desk.reset();
     }
     QCOMPARE(call - 1, kCalls);
 }
@@ -224,17 +223,16 @@ void ModuleFaultsTest::nothingStaysRegistered()
 void ModuleFaultsTest::twoAtATime()
 {
     const bool holds = rc::check([this] {
-        const auto someMisdeed =
-            rc::gen::element(Misdeed::Throws, Misdeed::GivesNothing, Misdeed::GivesTooLittle,
-                             Misdeed::GivesTooMuch, Misdeed::Acts);
-        const auto someCall = rc::gen::inRange(0, kCalls);
-        Desk desk;
+        const auto one = *tests::someFault(m_faults, kCalls);
+        const auto other = *tests::someFault(m_faults, kCalls);
+        m_desk.reset(); // it is the process's host while it lives
+        m_desk = std::make_unique<Desk>();
         {
-            const std::unique_ptr<FakeFault> one = faultOf(desk, *someMisdeed, *someCall);
-            const std::unique_ptr<FakeFault> other = faultOf(desk, *someMisdeed, *someCall);
-            live(desk.module, desk.host);
+            const auto first = one.start();
+            const auto second = other.start();
+            live(m_desk->module, m_desk->host);
         }
-        RC_ASSERT(complaint(desk).toStdString() == std::string());
+        RC_ASSERT(complaint().toStdString() == std::string());
     });
     QVERIFY(holds);
 }

@@ -70,20 +70,7 @@ class Blindfold : public QObject
 public:
     bool eventFilter(QObject *receiver, QEvent *event) override
     {
-        if (!receiver->isWindowType())
-            return false;
-        switch (event->type()) {
-        case QEvent::MouseMove:
-        case QEvent::MouseButtonPress:
-        case QEvent::MouseButtonRelease:
-        case QEvent::MouseButtonDblClick:
-        case QEvent::KeyPress:
-        case QEvent::KeyRelease:
-        case QEvent::Wheel:
-            return true;
-        default:
-            return false;
-        }
+        return receiver->isWindowType() && LoggingView::isInput(*event);
     }
 };
 
