@@ -47,6 +47,12 @@ bool SettingsFile::hasChanged() const
     return !m_wasRead || !(currentStamp() == m_stamp);
 }
 
+bool SettingsFile::isReadable() const
+{
+    const FileContent content = contentOf(m_path);
+    return content.isRead() || content.state == FileContent::State::Missing;
+}
+
 SettingsFile::Values SettingsFile::read()
 {
     m_wasRead = true;

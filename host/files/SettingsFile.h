@@ -30,6 +30,8 @@ public:
 
     // Returns whether the file differs from what was read last. Costs one look at the folder.
     [[nodiscard]] bool hasChanged() const;
+    // Returns false if there is such a file, and its content cannot be read.
+    [[nodiscard]] bool isReadable() const;
     // All values; empty when there is no file or it cannot be read. Writes one line to standard
     // error about a file that it had to restore or cannot use.
     [[nodiscard]] Values read();

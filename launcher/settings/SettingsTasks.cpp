@@ -286,7 +286,10 @@ Outcome SettingsTasks::showBindings() const
 
 Outcome SettingsTasks::exported() const
 {
-    const SettingsFile::Values all = m_site.under(SettingsFile(m_file).read());
+    SettingsFile file(m_file);
+    if (!file.isReadable())
+        return Outcome::failure(Text::tr("%1 cannot be read").arg(m_file));
+    const SettingsFile::Values all = m_site.under(file.read());
     if (const QString complaint = obstacle(all); !complaint.isEmpty())
         return Outcome::failure(complaint);
     QMap<QString, Bindings> rings;

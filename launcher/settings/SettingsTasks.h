@@ -78,7 +78,7 @@ public:
     // Switches gestures on: in the settings, and after the program has crashed in their code.
     [[nodiscard]] Outcome switchOn(SettingsChange *made = nullptr);
     // All bindings as JSON, with the rings of tasks; with a task, its ring alone, in the form of a
-    // shared one.
+    // shared one. Fails if the settings cannot be read, since what counts then is not the person's.
     [[nodiscard]] Outcome exported() const;
     // Writes that to a file, in one step.
     [[nodiscard]] Outcome exportTo(const QString &path) const;

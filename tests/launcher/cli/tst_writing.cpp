@@ -83,6 +83,8 @@ private Q_SLOTS:
     void twoAtOnceLoseNothing();
     void somethingElseHasTheName_data();
     void somethingElseHasTheName();
+    void whatIsSomebodyElses_data();
+    void whatIsSomebodyElses();
     void whatAPersonWorksOnIsTheirsAlone();
 
 private:
@@ -378,6 +380,52 @@ void WritingTest::somethingElseHasTheName()
         QVERIFY(contentOf(m_settings).contains("81=ID_TRIM\n"));
         QCOMPARE(files().keys(), before.keys());
         QCOMPARE(bound.errors.count('\n'), 1); // it says that no copy can be kept
+    }
+}
+
+void WritingTest::whatIsSomebodyElses_data()
+{
+    QTest::addColumn<bool>("isFolder");
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<bool>("isRefused");
+    QTest::addColumn<bool>("isRead");
+    QTest::newRow("settings that may be read") << false << 0444 << false << true;
+    QTest::newRow("settings that may not be read") << false << 0 << true << false;
+    QTest::newRow("a folder that may be read") << true << 0555 << true << true;
+}
+
+void WritingTest::whatIsSomebodyElses()
+{
+    QFETCH(bool, isFolder);
+    QFETCH(int, mode);
+    QFETCH(bool, isRefused);
+    QFETCH(bool, isRead);
+    write(m_settings, "[GestureWidget]\n81=ID_LINE\n");
+    write(m_export, "an old export\n");
+    const QByteArray taken =
+        QFile::encodeName(isFolder ? QFileInfo(m_settings).absolutePath() : m_settings);
+    // Only root can give files away, and would then be allowed everything. For others the mode does it.
+    QStringList wrapper;
+    if (::geteuid() == 0) {
+        static_cast<void>(::chown(taken.constData(), 1, 1));
+        wrapper = QStringList{text("setpriv"), text("--bounding-set=-dac_override,-dac_read_search")};
+    }
+    QCOMPARE(::chmod(taken.constData(), static_cast<mode_t>(mode)), 0);
+    if (isRefused)
+        expectRefused(option("--bind"), wrapper);
+    else
+        QCOMPARE(run(option("--bind"), wrapper).status, 0);
+    const Ended exported = run(option("--export"), wrapper);
+    QCOMPARE(::chmod(taken.constData(), isFolder ? 0755 : 0644), 0); // so that this test can read it
+    QVERIFY(contentOf(m_settings).contains(isRefused ? "81=ID_LINE\n" : "81=ID_TRIM\n"));
+    QCOMPARE(exported.status, isRead ? 0 : 1);
+    if (isRead) {
+        QVERIFY(contentOf(m_export).contains(isRefused ? "ID_LINE" : "ID_TRIM"));
+    } else {
+        // The bindings that count meanwhile are not the person's.
+        QCOMPARE(contentOf(m_export), QByteArray("an old export\n"));
+        QCOMPARE(QString::fromUtf8(exported.errors),
+                 text("mouse-gestures: %1 cannot be read\n").arg(m_settings));
     }
 }
 
