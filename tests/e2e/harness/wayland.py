@@ -260,7 +260,8 @@ class WaylandDriver(Driver):
         name, *values = words
         action = {"move": self._move, "press": self._press, "release": self._release,
                   "click": self._click, "drag": self._drag, "key": self._key,
-                  "remember": self._remember, "wait-steady": self._wait_steady}.get(name)
+                  "remember": self._remember, "wait-steady": self._wait_steady,
+                  "wait-pointer-in": self._wait_pointer_in}.get(name)
         if action is None:
             return super().ask(*words)
         action(*values)
@@ -294,6 +295,17 @@ class WaylandDriver(Driver):
         for step in range(1, steps + 1):
             time.sleep(max(0, begun + milliseconds / 1000 * step / steps - time.monotonic()))
             self._step(start[0] + x * step // steps, start[1] + y * step // steps)
+
+    def _wait_pointer_in(self, title, milliseconds):
+        # XWayland's pointer starts in the middle of the screen, where the window may already be. It
+        # follows when the compositor has put the window on screen; a press before that is lost.
+        end = time.monotonic() + milliseconds / 1000
+        while super().ask("pointer") != f"{self._at[0]} {self._at[1]}":
+            if time.monotonic() > end:
+                raise DriverError(f"wait-pointer-in {title}: timeout")
+            self._move(*self._at)
+            time.sleep(0.02)
+        super().ask("wait-pointer-in", title, milliseconds)
 
     # The X server does not see the screen here. So these compare the windows, not the picture.
 
