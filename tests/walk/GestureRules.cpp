@@ -126,6 +126,8 @@ bool GestureRules::isPossible(const Step &step) const
     const QPoint offset = step.position - m_pressPosition;
     switch (step.kind) {
     case Step::Move:
+        if (step.position == m_position) // then no program gets it
+            return false;
         if (m_state == State::Holding && m_areGesturesOn && offset.manhattanLength() >= kOpens)
             return isClear(offset, -1);
         if (m_state == State::Gesturing && offset.manhattanLength() >= kOpens)
