@@ -35,6 +35,12 @@ FileContent contentOf(const QString &path)
     return FileContent::read(path, SettingsFile::kMaximalSize);
 }
 
+// There is something, and nobody knows what it says.
+bool isUnreadable(const FileContent &content)
+{
+    return !content.isRead() && content.state != FileContent::State::Missing;
+}
+
 } // namespace
 
 SettingsFile::SettingsFile(const QString &path)
@@ -49,8 +55,7 @@ bool SettingsFile::hasChanged() const
 
 bool SettingsFile::isReadable() const
 {
-    const FileContent content = contentOf(m_path);
-    return content.isRead() || content.state == FileContent::State::Missing;
+    return !isUnreadable(contentOf(m_path));
 }
 
 SettingsFile::Values SettingsFile::read()
@@ -120,7 +125,7 @@ bool SettingsFile::change(const std::function<Values(const Values &)> &edit, con
     }
     const QByteArray backup = contentOf(backupPath()).bytes;
     const FileContent content = contentOf(m_path);
-    if (!content.isRead() && content.state != FileContent::State::Missing)
+    if (isUnreadable(content))
         return false;
     const bool isThere = content.isRead();
     IniText ini(isThere ? usable(content.bytes, backup, true) : QByteArray());

@@ -126,8 +126,6 @@ bool GestureRules::isPossible(const Step &step) const
     const QPoint offset = step.position - m_pressPosition;
     switch (step.kind) {
     case Step::Move:
-        if (step.position == m_position) // then no program gets it
-            return false;
         if (m_state == State::Holding && m_areGesturesOn && offset.manhattanLength() >= kOpens)
             return isClear(offset, -1);
         if (m_state == State::Gesturing && offset.manhattanLength() >= kOpens)
@@ -197,6 +195,8 @@ void GestureRules::noteFacts(const Step &step)
 
 void GestureRules::take(const Step &step)
 {
+    if (step.kind == Step::Move && step.position == m_position)
+        return; // Qt drops a movement to the same place, so nobody gets it
     noteFacts(step);
     switch (m_state) {
     case State::Idle:

@@ -51,9 +51,6 @@ class Program:
     # text. Empty for a program that opens the drawing itself. The file must put the drawing's
     # name into the main window's title.
     macro: tuple = ()
-    # KiB that it may keep for itself over 1000 gestures, with none of ours in it. The soak shows what it
-    # keeps without gestures.
-    keeps: int = 0
     # Class name of the widget in the view that gets the pointer, if it is not the view itself.
     viewport: str = ""
     # Commands for the driver: to end a command that Escape does not reach.
@@ -69,7 +66,7 @@ class Program:
 
 
 # The default bindings are commands of this workbench. There is no start page and no splash
-# screen.
+# screen. The Python console does not keep each command, so that the memory shows what gestures keep.
 FREECAD_SETTINGS = """<?xml version="1.0" encoding="UTF-8" standalone="no" ?>
 <FCParameters><FCParamGroup Name="Root"><FCParamGroup Name="BaseApp">
   <FCParamGroup Name="Preferences">
@@ -77,6 +74,9 @@ FREECAD_SETTINGS = """<?xml version="1.0" encoding="UTF-8" standalone="no" ?>
       <FCText Name="AutoloadModule">DraftWorkbench</FCText>
       <FCText Name="Language">English</FCText>
       <FCBool Name="ShowSplasher" Value="0"/>
+    </FCParamGroup>
+    <FCParamGroup Name="Macro">
+      <FCBool Name="ScriptToPyConsole" Value="0"/>
     </FCParamGroup>
     <FCParamGroup Name="Mod"><FCParamGroup Name="Start">
       <FCBool Name="ShowOnStartup" Value="0"/>
@@ -204,9 +204,6 @@ PROGRAMS = {
             context_menu=True,
             menu_on_release="Gui::MainWindow",
             macro=(".FCMacro", FREECAD_MACRO),
-            # Mesa's software renderer keeps some for the pictures, the Python console for the commands.
-            # Without gestures up to 4500 were seen; beside busy loops it is more.
-            keeps=8000,
             cancel=("key F12",),
             configuration={"FreeCAD/user.cfg": FREECAD_SETTINGS},
             # It scales with the screen's resolution, but the tests count in pixels.
