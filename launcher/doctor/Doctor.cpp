@@ -267,9 +267,10 @@ void reportSettings(const Symptoms &symptoms, const gesturewidget::ProgramProfil
                     Report &report)
 {
     const QFileInfo file(symptoms.settingsFile);
-    // The nearest existing folder. The ones below it are made when something is kept.
-    QString folder = file.absolutePath();
-    while (!QFileInfo::exists(folder) && folder != QFileInfo(folder).path())
+    // The nearest existing folder. The ones below it are made when something is kept. The folder that a
+    // link leads to is not.
+    QString folder = file.isSymLink() ? QFileInfo(file.symLinkTarget()).path() : file.absolutePath();
+    while (!file.isSymLink() && !QFileInfo::exists(folder) && folder != QFileInfo(folder).path())
         folder = QFileInfo(folder).path();
     const bool canWrite =
         QFileInfo(folder).isDir() && isWritable(folder, W_OK | X_OK)

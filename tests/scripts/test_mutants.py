@@ -103,21 +103,23 @@ class Mutants(unittest.TestCase):
 class Verdict(unittest.TestCase):
     """Runs the script with a stand-in for the building and testing."""
 
-    def run_with(self, *results):
+    def run_with(self, *results, report="", options=()):
         """The status and the last line printed, if the mutants of a folder end with these results."""
         with tempfile.TemporaryDirectory() as folder:
             root = Path(folder)
             (root / "scripts").mkdir()
             (root / "bindings").mkdir()
             shutil.copy(ROOT / "scripts" / "mutants", root / "scripts")
-            lines = "".join("    return 0;\n" for _ in results)  # a mutant each: 1
+            count = len(results) + len(report.splitlines())
+            lines = "".join("    return 0;\n" for _ in range(count))  # a mutant each: 1
             (root / "bindings" / "A.cpp").write_text(f"int f()\n{{\n{lines}}}\n")
             module = loaded(root / "scripts" / "mutants")
             bench = mock.Mock()
             bench.return_value.judge.side_effect = results
             printed = io.StringIO()
             (root / "build").mkdir()
-            arguments = ["mutants", "--build", str(root / "build"), "--count", "0", "bindings"]
+            (root / "build" / "report.txt").write_text(report)
+            arguments = ["mutants", "--build", str(root / "build"), "--count", "0", "bindings", *options]
             with mock.patch.object(module, "Bench", bench), mock.patch("sys.argv", arguments), \
                     contextlib.redirect_stdout(printed):
                 status = module.main()
@@ -139,6 +141,32 @@ class Verdict(unittest.TestCase):
         self.assertTrue(line.startswith("bindings: 1 of 1 killed, 100.0 % of at least 97 %; 9 do not"), line)
 
 
+    # The function of run_with() begins in line 3.
+    EARLIER = ("bindings/A.cpp:3: `return 0;` -> `return 1;`  killed by tst_a\n"
+               "bindings/A.cpp:4: `return 0;` -> `return 1;`  killed by tst_b\n")
+
+    def test_a_run_goes_on_where_the_last_one_ended(self):
+        status, line = self.run_with("survived", report=self.EARLIER, options=["--continue"])
+        self.assertEqual(status, 1)
+        self.assertTrue(line.startswith("bindings: 2 of 3 killed, 66.7 %"), line)
+
+    def test_a_new_run_forgets_the_last_one(self):
+        with self.assertRaisesRegex(RuntimeError, "StopIteration"):  # there are three mutants to judge
+            self.run_with("survived", report=self.EARLIER)
+
+    def test_what_was_not_tried_is_said_and_fails(self):
+        status, line = self.run_with(report=self.EARLIER + self.EARLIER.replace("A.cpp", "Gone.cpp"),
+                                     options=["--continue", "--minutes", "0.000001"])
+        self.assertEqual(status, 1)
+        self.assertTrue(line.startswith("bindings: 2 of 2 killed, 100.0 %"), line)
+        self.assertTrue(line.endswith("; 2 not tried yet"), line)
+
+    def test_mutants_side_by_side_all_count(self):
+        status, line = self.run_with(*["killed by tst_a"] * 97, *["survived"] * 3, options=["--jobs", "4"])
+        self.assertEqual(status, 0)
+        self.assertTrue(line.startswith("bindings: 97 of 100 killed, 97.0 %"), line)
+
+
 class Killing(unittest.TestCase):
     """Runs tests with a stand-in for CTest."""
 
@@ -155,7 +183,7 @@ class Killing(unittest.TestCase):
         bench._seconds = {"tst_quick": 0.1, "tst_pointerfilter": 9.0, "tst_slow": 5.0, "tst_input": 9.0}
         bench._sources = dict.fromkeys(bench._seconds, "")
         bench._sources["tst_input"] = '#include "host/input/PointerFilter.h"\n'
-        bench._kills = Counter()
+        bench._experience = module.Experience()
         bench.compile = mock.Mock(return_value=True)
         self.mutant = module.Mutant("host/input/PointerFilter.cpp", 1, "return 0;", "return 1;")
         return bench
@@ -179,16 +207,18 @@ class Killing(unittest.TestCase):
         bench = self.bench("exit 0")
         self.assertIsNone(bench.killer(list(bench._seconds), self.mutant))
         self.assertEqual([call.args[0] for call in bench.compile.call_args_list],
-                         [["tst_pointerfilter"], ["tst_input"], ["tst_quick"], ["tst_slow"]])
+                         [["tst_pointerfilter"], ["tst_quick"], ["tst_input"], ["tst_slow"]])
 
-    def test_then_the_one_that_killed_most_mutants_of_the_file(self):
+    def test_then_the_one_that_killed_most_mutants_of_the_file_for_its_time(self):
         bench = self.bench("test $4 = '^tst_pointerfilter$' || test $4 = '^tst_quick$'")
         self.assertEqual(bench.killer(list(bench._seconds), self.mutant), "tst_input")
-        bench._kills["host/input/PointerFilter.cpp", "tst_slow"] += 2
+        for _ in range(5):
+            bench._experience.add("host/input/PointerFilter.cpp", "tst_slow", 1, True)
+            bench._experience.add("host/input/PointerFilter.cpp", "tst_input", 20, True)
         bench.compile.reset_mock()
         self.assertEqual(bench.killer(list(bench._seconds), self.mutant), "tst_slow")
         self.assertEqual([call.args[0] for call in bench.compile.call_args_list],
-                         [["tst_pointerfilter"], ["tst_slow"]])
+                         [["tst_pointerfilter"], ["tst_quick"], ["tst_slow"]])
 
     def test_what_does_not_compile_is_not_run(self):
         bench = self.bench("exit 8")

@@ -201,6 +201,16 @@ private Q_SLOTS:
                 writeFile(folder.filePath(QStringLiteral("file")), "x");
                 symptoms.settingsFile = folder.filePath(QStringLiteral("file/drafter.ini"));
             });
+        row("a link into a folder that is not there", false, "cannot be written",
+            [](Symptoms &, const QDir &folder) {
+                QVERIFY(QFile::link(folder.filePath(QStringLiteral("none/drafter.ini")),
+                                    folder.filePath(QStringLiteral("drafter.ini"))));
+            });
+        row("a link to a file that is made when needed", true, "not there yet",
+            [](Symptoms &, const QDir &folder) {
+                QVERIFY(QFile::link(folder.filePath(QStringLiteral("other.ini")),
+                                    folder.filePath(QStringLiteral("drafter.ini"))));
+            });
         row("a folder that is made when needed", true, "not there yet",
             [](Symptoms &symptoms, const QDir &folder) {
                 symptoms.settingsFile = folder.filePath(QStringLiteral("a/b/drafter.ini"));
