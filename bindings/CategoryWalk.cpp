@@ -38,14 +38,6 @@ QMap<QString, QString> CategoryWalk::end()
     return m_map;
 }
 
-void CategoryWalk::forget()
-{
-    m_entries.clear();
-    m_next = 0;
-    m_isAsBefore = false;
-    m_map = {};
-}
-
 // This walk now differs from the last one: start a new map with what it has found so far.
 void CategoryWalk::leaveTheLastWalk()
 {

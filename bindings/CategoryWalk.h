@@ -26,8 +26,6 @@ public:
 
     // True if the last walk found the same as the walk before it.
     [[nodiscard]] bool isAsBefore() const { return m_isAsBefore; }
-    // Forgets a walk that did not come to its end.
-    void forget();
 
 private:
     struct Entry

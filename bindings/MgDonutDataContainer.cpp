@@ -149,7 +149,6 @@ void MgDonutDataContainer::read()
     }
     // The places belong to the old list.
     m_places.clear();
-    m_categoryWalk.forget();
     commands = std::move(last);
     categoryMap = lastCategories;
     std::tie(fourTable, eightTable, gestureEnabled, scheme, largeIcons) = lastState;

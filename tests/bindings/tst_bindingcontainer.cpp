@@ -11,6 +11,7 @@
 
 #include <QtTest>
 
+#include <map>
 #include <memory>
 
 using tests::text;
@@ -321,6 +322,20 @@ private Q_SLOTS:
         QCOMPARE(container.getCommandsDS()[8].icon.cacheKey(), arc->smallIcon.cacheKey());
     }
 
+    // The ring has to open at once, so a reading that finds what the last one found copies nothing.
+    void recordsThatHoldStayWhereTheyAre()
+    {
+        tests::OpenContainer container;
+        const MgCommandDS *records = container.commands.data();
+        container.init();
+        QCOMPARE(container.commands.data(), records);
+        // Saved records may be old; these are not.
+        container.update(container.getCommandsDS(), true, DonutScheme::Eight);
+        records = container.commands.data();
+        container.init();
+        QCOMPARE(container.commands.data(), records);
+    }
+
     void everyGroupIsAskedForItsName()
     {
         auto *first = static_cast<tests::FakeCommandGroup *>(host->commands.groups.front());
@@ -424,6 +439,9 @@ private Q_SLOTS:
         QCOMPARE(data.sectorTooltips.at(1), text("Tip of Line"));
         QCOMPARE(data.sectorTooltips.at(2), QString());
         QCOMPARE(data.sectorTooltips.at(3), text("Tip of Trim"));
+        QCOMPARE(data.sectorNames,
+                 (std::map<int, QString>{
+                     {0, QString()}, {1, text("Line")}, {2, QString()}, {3, text("Trim")}}));
     }
 
     void theDonutShowsEightSectors()

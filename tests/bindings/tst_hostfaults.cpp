@@ -107,6 +107,39 @@ private Q_SLOTS:
         QVERIFY(!container.hasReadingFailed());
     }
 
+    // Somebody else may change the settings, and the next reading fails.
+    void aFailedReadingTakesOverNothing()
+    {
+        tests::OpenContainer container;
+        const Table four = container.fourTable;
+        const Table eight = container.eightTable;
+        QMap<QString, QString> changed = stored;
+        changed.insert(text("EnableMouseGesture"), text("1"));
+        changed.insert(text("ActiveScheme"), text("8"));
+        changed.insert(text("41"), stored.value(text("42")));
+        changed.insert(text("81"), stored.value(text("82")));
+        for (int call = 0; call < kCalls; ++call) {
+            host->store.values = changed;
+            host->largeIcons = true;
+            {
+                const tests::FakeFault fault(call);
+                container.init();
+                QVERIFY(fault.wasReached());
+            }
+            QVERIFY(container.hasReadingFailed());
+            QCOMPARE(container.fourTable, four);
+            QCOMPARE(container.eightTable, eight);
+            QVERIFY(!container.getGestureEnabled());
+            QCOMPARE(container.getScheme(), DonutScheme::Four);
+            QVERIFY(!container.largeIcons);
+            QCOMPARE(host->store.values, changed);
+            host->store.values = stored;
+            host->largeIcons = false;
+            container.init();
+            QVERIFY(!container.hasReadingFailed());
+        }
+    }
+
     // A reading of another list may fail after it has looked up commands in that list.
     void aFailedReadingOfAnotherListIsForgotten()
     {
@@ -165,6 +198,21 @@ private Q_SLOTS:
             subject->init();
             QVERIFY(one->wasReached());
             QVERIFY2(!subject->isBehindSettings(), qPrintable(QString::number(call)));
+        }
+    }
+
+    void aReadingInsideAReadingAsksNothing()
+    {
+        subject = std::make_unique<tests::OpenContainer>();
+        for (int call = 0; call < kCalls; ++call) {
+            bool isAsked = false;
+            const tests::FakeFault inside(call, [this, &isAsked] {
+                const tests::FakeFault next(0, [&isAsked] { isAsked = true; });
+                subject->init();
+            });
+            subject->init();
+            QVERIFY(inside.wasReached());
+            QVERIFY2(!isAsked, qPrintable(QString::number(call)));
         }
     }
 

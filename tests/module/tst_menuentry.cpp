@@ -115,6 +115,7 @@ private Q_SLOTS:
     void subMenusAreNotSearched();
     void nullPlacesAreSkipped();
     void equalNullEndsItsWorkspaceOnly();
+    void noMenuIsSearchedForEver();
     void menuWithoutHost();
 
     void loadGoesInOrder();
@@ -235,6 +236,28 @@ void MenuEntryTest::equalNullEndsItsWorkspaceOnly()
     OpenModule module;
 
     QCOMPARE(module.GetMenuItem(CHxString()), other);
+}
+
+// 100,000 places of a menu are looked at.
+void MenuEntryTest::noMenuIsSearchedForEver()
+{
+    constexpr std::size_t kMost = 100'000;
+    FakeHost host;
+    FakeWorkspace *workspace = host.ui.addWorkspace(QStringLiteral("Default"), true);
+    FakeMenuItem *tools = host.ui.addItem(&workspace->menus, QStringLiteral("Tools"), true, kToolsMenu);
+    workspace->menus.items.insert(workspace->menus.items.begin(), kMost, nullptr);
+    OpenModule module;
+    QCOMPARE(module.GetMenuItem(CHxString(kToolsMenu)), nullptr);
+    workspace->menus.items.erase(workspace->menus.items.begin());
+    QCOMPARE(module.GetMenuItem(CHxString(kToolsMenu)), tools);
+
+    tools->subItems->items.assign(kMost, nullptr);
+    host.ui.addItem(tools->subItems.get(), kEntryText, false);
+    module.UnLoadMenu();
+    QCOMPARE(tools->subItems->items.size(), kMost + 1);
+    tools->subItems->items.erase(tools->subItems->items.begin());
+    module.UnLoadMenu();
+    QCOMPARE(tools->subItems->items.size(), kMost - 1);
 }
 
 void MenuEntryTest::menuWithoutHost()

@@ -68,6 +68,7 @@ class Mutants(unittest.TestCase):
         self.assertEqual(self.changed("return x2 + 1.5F * b;"), ["return x2 + 1.5F / b;",
                                                                  "return x2 - 1.5F * b;"])
         self.assertEqual(self.changed("return 0;"), ["return 1;"])
+        self.assertEqual(self.changed("return 10'000;"), ["return 10001;", "return 9999;"])
 
     def test_truth(self):
         self.assertEqual(self.changed("return true;"), ["return false;"])
@@ -86,6 +87,7 @@ class Mutants(unittest.TestCase):
 
     def test_what_is_no_expression_stays(self):
         for line in ("// if (a < b) return 1;", "/* a == 1 */", "Q_ASSERT(a == 1);", "QVector<int> list;",
+                     "A(const A &) = delete;",
                      'say = "a == 1";', "#define A 1"):
             self.assertEqual([new for new in self.changed(line) if new != ";"], [], line)
 
@@ -110,7 +112,7 @@ class Verdict(unittest.TestCase):
             (root / "scripts").mkdir()
             (root / "bindings").mkdir()
             shutil.copy(ROOT / "scripts" / "mutants", root / "scripts")
-            count = len(results) + len(report.splitlines())
+            count = len(results) + report.count("killed by")
             lines = "".join("    return 0;\n" for _ in range(count))  # a mutant each: 1
             (root / "bindings" / "A.cpp").write_text(f"int f()\n{{\n{lines}}}\n")
             module = loaded(root / "scripts" / "mutants")
@@ -149,6 +151,12 @@ class Verdict(unittest.TestCase):
         status, line = self.run_with("survived", report=self.EARLIER, options=["--continue"])
         self.assertEqual(status, 1)
         self.assertTrue(line.startswith("bindings: 2 of 3 killed, 66.7 %"), line)
+
+    def test_survivors_are_tried_again(self):
+        status, line = self.run_with("killed by tst_c", report=self.EARLIER.replace("killed by tst_b", "survived"),
+                                     options=["--continue"])
+        self.assertEqual(status, 0)
+        self.assertTrue(line.startswith("bindings: 2 of 2 killed, 100.0 %"), line)
 
     def test_a_new_run_forgets_the_last_one(self):
         with self.assertRaisesRegex(RuntimeError, "StopIteration"):  # there are three mutants to judge
