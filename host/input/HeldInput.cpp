@@ -6,7 +6,6 @@
 #include "sdk/OwnCode.h"
 
 #include <QApplication>
-#include <QtTest/qtestspontaneevent.h>
 
 #include <algorithm>
 #include <utility>
@@ -90,7 +89,6 @@ void HeldInput::sendRest()
         // Do not use sendEvent(), which marks the event as the program's own. Qt notes the pressed
         // buttons from window-system events, so events that the program must not get go to an
         // object that ignores them.
-        QSpontaneKeyEvent::setSpontaneous(event.get());
         QObject nobody;
         const bool isLost = !item.window || isBlockedByModal(item.window);
         const ProgramCode theirs;

@@ -335,7 +335,7 @@ bool PointerFilter::filterGesturing(QWindow *window, const QMouseEvent &event)
     else if (event.type() == QEvent::MouseButtonRelease)
         buttons |= event.button();
     endGesture(buttons);
-    return m_state == State::Idle ? filterWindow(window, event) : filterSwallowing(window, event);
+    return filterSwallowing(window, event);
 }
 
 void PointerFilter::endGestureIfStopped()

@@ -97,6 +97,11 @@ class Mutants(unittest.TestCase):
         self.assertEqual([new for old, new in made if old.startswith("if")],
                          ["if (a > b)", "if (!(a < b))"])
 
+    def test_of_equal_lines_the_one_before_tells(self):
+        block = "bindings/A.cpp\ncall(a);\nreturn 0;\n-> return 1;\nIt is the same.\n"
+        made = self.made_of("return 0;\ncall(a);\nreturn 0;\nother(a);\nreturn 0;", block)
+        self.assertEqual([new for old, new in made if old == "return 0;"], ["return 1;"] * 2)
+
     def test_an_equivalent_one_needs_a_reason(self):
         with self.assertRaises(subprocess.CalledProcessError):
             self.made_of("return 0;", "bindings/A.cpp\nreturn 0;\n-> return 1;\n")

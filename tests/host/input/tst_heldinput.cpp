@@ -6,10 +6,44 @@
 #include "tests/support/FatalWarnings.h"
 
 #include <QDialog>
+#include <QMenu>
 #include <QTest>
 #include <QWindow>
 
+#include <functional>
+#include <vector>
+
 using gesturewidget::HeldInput;
+
+namespace {
+
+// A window without widgets, such as one of a 3D view. Calls for each button event that it gets.
+class BareWindow : public QWindow
+{
+public:
+    std::function<void(const QEvent &event)> onButton;
+
+protected:
+    bool event(QEvent *event) override
+    {
+        const bool isButton =
+            event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonRelease;
+        if (isButton && onButton)
+            onButton(*event);
+        return QWindow::event(event);
+    }
+};
+
+void holdClick(HeldInput &held, QWindow *window)
+{
+    const QPointF at(50, 50);
+    held.hold(window, QMouseEvent(QEvent::MouseButtonPress, at, at, at, Qt::LeftButton, Qt::LeftButton,
+                                  Qt::NoModifier));
+    held.hold(window, QMouseEvent(QEvent::MouseButtonRelease, at, at, at, Qt::LeftButton, Qt::NoButton,
+                                  Qt::NoModifier));
+}
+
+} // namespace
 
 class HeldInputTest : public QObject
 {
@@ -24,6 +58,10 @@ private Q_SLOTS:
     void keepsTheNewestOfTooManyMovements();
     void aModalWindowKeepsInputFromOthers_data();
     void aModalWindowKeepsInputFromOthers();
+    void aModalWindowKeepsInputFromBareWindows_data();
+    void aModalWindowKeepsInputFromBareWindows();
+    void aPopupLetsInputPassAModalWindow();
+    void onlyTheEventThatIsSentIsSending();
     void aWindowThatIsGoneGetsNothing();
 };
 
@@ -97,15 +135,102 @@ void HeldInputTest::aModalWindowKeepsInputFromOthers()
     QCOMPARE(view->windowHandle() != nullptr, place == QStringLiteral("nested"));
     view->log.clear();
     HeldInput held;
-    const QPointF at(50, 50);
-    held.hold(target, QMouseEvent(QEvent::MouseButtonPress, at, at, at, Qt::LeftButton, Qt::LeftButton,
-                                  Qt::NoModifier));
-    held.hold(target, QMouseEvent(QEvent::MouseButtonRelease, at, at, at, Qt::LeftButton, Qt::NoButton,
-                                  Qt::NoModifier));
+    holdClick(held, target);
     held.replay();
     QCOMPARE(view->log.filter(QStringLiteral("MouseButton")).size(), isSeen ? 2 : 0);
     // Qt learns of the release in any case.
     QCOMPARE(QGuiApplication::mouseButtons(), Qt::MouseButtons(Qt::NoButton));
+}
+
+// Qt does not ask again for windows without widgets, as it does for widgets.
+void HeldInputTest::aModalWindowKeepsInputFromBareWindows_data()
+{
+    QTest::addColumn<int>("modality");
+    QTest::addColumn<QString>("parent"); // of the modal window
+    QTest::addColumn<QString>("place"); // where the input goes
+    QTest::addColumn<bool>("isSeen");
+    const auto row = [](const char *name, Qt::WindowModality modality, const char *parent,
+                        const char *place, bool isSeen) {
+        QTest::newRow(name) << int(modality) << QString::fromLatin1(parent) << QString::fromLatin1(place)
+                            << isSeen;
+    };
+    row("no modality", Qt::NonModal, "window", "window", true);
+    row("of the program", Qt::ApplicationModal, "other", "window", false);
+    row("of its window", Qt::WindowModal, "window", "window", false);
+    row("of its window, nested", Qt::WindowModal, "window", "nested", false);
+    row("of another window", Qt::WindowModal, "other", "window", true);
+    row("the modal window itself", Qt::ApplicationModal, "other", "modal", true);
+    row("a window of the modal one", Qt::ApplicationModal, "other", "child", true);
+}
+
+void HeldInputTest::aModalWindowKeepsInputFromBareWindows()
+{
+    QFETCH(int, modality);
+    QFETCH(QString, parent);
+    QFETCH(QString, place);
+    QFETCH(bool, isSeen);
+    BareWindow window;
+    BareWindow other;
+    BareWindow modal;
+    BareWindow child;
+    BareWindow nested;
+    nested.setParent(&window);
+    modal.setModality(static_cast<Qt::WindowModality>(modality));
+    modal.setTransientParent(parent == QStringLiteral("window") ? &window : &other);
+    child.setTransientParent(&modal);
+    for (BareWindow *one : {&window, &other, &nested, &modal, &child}) {
+        one->resize(200, 200);
+        one->show();
+    }
+    BareWindow *target = place == QStringLiteral("modal")  ? &modal
+                       : place == QStringLiteral("child")  ? &child
+                       : place == QStringLiteral("nested") ? &nested
+                                                           : &window;
+    int buttons = 0;
+    target->onButton = [&buttons](const QEvent &) { ++buttons; };
+    HeldInput held;
+    holdClick(held, target);
+    held.replay();
+    QCOMPARE(buttons, isSeen ? 2 : 0);
+    nested.setParent(nullptr);
+}
+
+void HeldInputTest::aPopupLetsInputPassAModalWindow()
+{
+    BareWindow window;
+    QDialog dialog;
+    dialog.setModal(true);
+    QMenu menu;
+    menu.addAction(QStringLiteral("first"));
+    window.show();
+    dialog.show();
+    menu.popup(QPoint(0, 0));
+    int buttons = 0;
+    window.onButton = [&buttons](const QEvent &) { ++buttons; };
+    HeldInput held;
+    holdClick(held, &window);
+    held.replay();
+    QCOMPARE(buttons, 2);
+}
+
+// Another event may get the address of one that was sent.
+void HeldInputTest::onlyTheEventThatIsSentIsSending()
+{
+    BareWindow window;
+    window.show();
+    HeldInput held;
+    std::vector<const QEvent *> sent;
+    bool isSending = true;
+    window.onButton = [&](const QEvent &event) {
+        sent.push_back(&event);
+        isSending = isSending && held.isSending(&event);
+    };
+    holdClick(held, &window);
+    held.replay();
+    QCOMPARE(sent.size(), std::size_t(2));
+    QVERIFY(isSending);
+    for (const QEvent *event : sent)
+        QVERIFY(!held.isSending(event));
 }
 
 void HeldInputTest::aWindowThatIsGoneGetsNothing()

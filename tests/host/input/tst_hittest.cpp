@@ -163,6 +163,7 @@ void HitTestTest::triggerWithModifiers()
     HitTest::Event press = seenAs(Kind::Press);
     press.modifiers = Qt::KeyboardModifiers(held);
     QCOMPARE(HitTest(m_document, m_trigger, press).IsModifierMismatch(), isMismatch);
+    QCOMPARE(HitTest(m_document, m_trigger, press).isSuppressed(), isMismatch);
     // Keys that are pressed or released later do not matter.
     HitTest::Event motion = seenAs(Kind::Motion);
     motion.modifiers = press.modifiers;
@@ -189,6 +190,7 @@ void HitTestTest::controls()
     control.show();
     const HitTest::Event press = seenAs(Kind::Press);
     QVERIFY(HitTest(m_document, m_trigger, press).IsOverControl());
+    QVERIFY(HitTest(m_document, m_trigger, press).isSuppressed());
     const HitTest::Event motion = seenAs(Kind::Motion);
     QVERIFY(!HitTest(m_document, m_trigger, motion).IsOverControl());
     control.move(100, 100);

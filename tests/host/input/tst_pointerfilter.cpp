@@ -211,6 +211,7 @@ private Q_SLOTS:
     void buttonsAreReportedAsHeldDuringTheReplay();
     void dialogOpenedByThePressBlocksTheRest();
     void aMovementComesAfterTheRest();
+    void aPressAfterTheRestIsHeldBack();
     void theProgramsOwnEventsPass();
 
     void pressIsHeldBack();
@@ -249,6 +250,7 @@ private Q_SLOTS:
 
     void dragGivenToTheProgramStaysThere();
     void pressOfAnotherButtonGivesBack();
+    void aMovementAfterALostReleaseGivesBack();
     void lostWindowGivesBack_data();
     void lostWindowGivesBack();
     void windowEventsEndIt_data();
@@ -279,6 +281,7 @@ private Q_SLOTS:
     void viewLearnsPositionsInItsOwnPixels();
     void nestedWindowOfAView();
     void aWindowWithoutAWidgetIsItsContainers();
+    void aWindowWithoutADrawingGetsItsPress();
     void pressActivatesTheDocument();
     void aScrollAreaGetsTheFocusOfItsView();
     void aDocumentThatClosesWhenItBecomesActive();
@@ -621,6 +624,26 @@ void PointerFilterTest::aMovementComesAfterTheRest()
 }
 
 // The filter looks at some events without keeping them.
+void PointerFilterTest::aPressAfterTheRestIsHeldBack()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.view->onPress = [&desk] {
+        desk.view->onPress = {};
+        desk.press(kPress);
+    };
+    desk.press(kPress);
+    desk.view->log.clear();
+    desk.release(kPress);
+    QCOMPARE(desk.state(), PointerFilter::State::Holding);
+    QCOMPARE(desk.view->log.filter(QStringLiteral("MouseButtonPress")).size(), 1);
+    QCOMPARE(desk.view->log.filter(QStringLiteral("MouseButtonRelease")).size(), 1);
+    desk.release(kPress);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    QCOMPARE(desk.view->log.filter(QStringLiteral("MouseButtonRelease")).size(), 2);
+}
+
 void PointerFilterTest::theProgramsOwnEventsPass()
 {
     QStringList log;
@@ -1099,8 +1122,13 @@ void PointerFilterTest::gestureWithoutOverlayEndsWithTheRelease()
     desk.move(kPress + QPoint(30, 0));
     desk.move(kPress + QPoint(60, 0));
     QCOMPARE(desk.state(), PointerFilter::State::Gesturing);
+    int releases = 0; // that the program's window gets
+    const Observer observer(desk.window.windowHandle(), [&releases](QObject *, const QEvent *event) {
+        releases += event->type() == QEvent::MouseButtonRelease ? 1 : 0;
+    });
     desk.release(kPress + QPoint(60, 0));
     QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    QCOMPARE(releases, 0);
     QCOMPARE(desk.view->log, QStringList());
 }
 
@@ -1318,6 +1346,19 @@ void PointerFilterTest::pressOfAnotherButtonGivesBack()
     desk.move(kPress + QPoint(60, 0));
     QCOMPARE(desk.tracker.drags, 0);
     desk.release(kPress, Qt::LeftButton);
+    desk.release(kPress);
+}
+
+void PointerFilterTest::aMovementAfterALostReleaseGivesBack()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.press(kPress);
+    desk.view->log.clear();
+    desk.penAsMouse(QEvent::MouseMove, kPress + QPoint(1, 0), Qt::NoButton, Qt::NoButton);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    QCOMPARE(desk.view->log.filter(QStringLiteral("MouseButtonPress")).size(), 1);
     desk.release(kPress);
 }
 
@@ -1701,6 +1742,7 @@ void PointerFilterTest::anOverlayThatStopsEndsTheGesture()
     desk.tracker.overlay->stop(true);
     QTRY_COMPARE(desk.tracker.stops, 1);
     QCOMPARE(desk.tracker.commands, 1);
+    QVERIFY(!desk.tracker.overlay->log.contains(QStringLiteral("release"))); // nobody stops it again
     desk.release(kPress + QPoint(30, 0));
     QCOMPARE(desk.state(), PointerFilter::State::Idle);
 }
@@ -1939,6 +1981,36 @@ void PointerFilterTest::nestedWindowOfAView()
 }
 
 // A program may draw in a window that no widget has, inside of one that has.
+// It may have no widget, or nothing on the screen, which then stays so.
+void PointerFilterTest::aWindowWithoutADrawingGetsItsPress()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    QWindow bare;
+    bare.resize(100, 100);
+    bare.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&bare));
+    QWindow unseen;
+    const QPointF place(10, 10);
+    for (QWindow *window : {&bare, &unseen}) {
+        int presses = 0;
+        const Observer observer(window, [&presses](QObject *, const QEvent *event) {
+            presses += event->type() == QEvent::MouseButtonPress ? 1 : 0;
+        });
+        for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            QMouseEvent event(type, place, place, place, Qt::RightButton,
+                              type == QEvent::MouseButtonPress ? Qt::RightButton : Qt::NoButton,
+                              Qt::NoModifier);
+            QSpontaneKeyEvent::setSpontaneous(&event);
+            qApp->notify(window, &event);
+        }
+        QCOMPARE(desk.state(), PointerFilter::State::Idle);
+        QCOMPARE(presses, 1);
+    }
+    QVERIFY(!unseen.handle());
+}
+
 void PointerFilterTest::aWindowWithoutAWidgetIsItsContainers()
 {
     Desk desk;
@@ -1963,6 +2035,7 @@ void PointerFilterTest::pressActivatesTheDocument()
     QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
     tests::LoggingView other(&desk.window);
     other.setGeometry(330, 20, 60, 60);
+    other.setFocusPolicy(Qt::NoFocus); // or the focus would activate it
     other.show();
     desk.addFilter();
     gesturewidget::Document *second = desk.documents.open(&other);
