@@ -149,10 +149,8 @@ void MenuEntries::restoreIn(QWidget *place, const QVector<QAction *> &entries)
                         && std::equal(entries.begin(), entries.end(), actions.end() - entries.size());
     if (isInOrder || !mayCorrect(place))
         return;
-    for (QAction *entry : entries) {
-        place->removeAction(entry);
-        place->addAction(entry);
-    }
+    for (QAction *entry : entries)
+        place->addAction(entry); // moves it
 }
 
 bool MenuEntries::mayCorrect(const QWidget *place)

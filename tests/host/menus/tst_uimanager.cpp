@@ -104,6 +104,7 @@ private Q_SLOTS:
     void anEntrysOwnTipIsShown();
     void anEntryInItsPlaceIsNotMoved();
     void aClearedMenuGetsItsEntryBack();
+    void aRefreshReadsWhatNobodyTold();
     void anActionAddedLaterComesBeforeTheEntry();
     void aMenuFilledOnOpeningShowsTheEntryLast();
     void aMenuIsWatchedOnce();
@@ -312,6 +313,8 @@ void UiManagerTest::aToolsMenuIsMade()
     CHxUIMenuItem *entry = enter();
     QVERIFY(made->isVisible());
     QCOMPARE(captions(*made->menu()), QStringList(QStringLiteral("Gestures...")));
+    made->menu()->clear();
+    QTRY_COMPARE(captions(*made->menu()), QStringList(QStringLiteral("Gestures...")));
     menu("ID_MnTools")->GetSubItems()->Remove(entry);
     QVERIFY(!made->isVisible());
     menu("ID_MnTools")->GetSubItems()->Append(entry); // without a refresh
@@ -601,6 +604,34 @@ void UiManagerTest::aClearedMenuGetsItsEntryBack()
     QCOMPARE(menu("ID_MnTools")->GetSubItems()->GetItem(0), entry);
     m_tools->actions().constLast()->trigger();
     QCOMPARE(m_run.size(), 1);
+}
+
+// Nobody can tell by events that this menu has changed.
+void UiManagerTest::aRefreshReadsWhatNobodyTold()
+{
+    class Silence : public QObject
+    {
+    public:
+        bool eventFilter(QObject *, QEvent *event) override
+        {
+            return event->type() == QEvent::ActionAdded || event->type() == QEvent::ActionRemoved;
+        }
+    };
+    enter();
+    const CHxUIMenuItemCollection *items = menu("ID_MnTools")->GetSubItems();
+    QCOMPARE(items->GetCount(), 2);
+    Silence silence;
+    m_tools->installEventFilter(&silence);
+    m_tools->clear();
+    DraftWindow::addAction(m_tools, "More", "more");
+    QCOMPARE(items->GetItem(1)->GetCommandItem(), m_manager->FindCommandItem("Default", "_CONFIG"));
+    m_manager->Refresh(false);
+    QCOMPARE(captions(*m_tools), words("More Gestures...")); // at once
+    QCOMPARE(items->GetCount(), 2);
+    QCOMPARE(text(items->GetItem(0)->GetText()), QStringLiteral("More"));
+    QCOMPARE(items->GetItem(0)->GetCommandItem(), nullptr);
+    m_manager->Refresh(true);
+    QVERIFY(items->GetItem(0)->GetCommandItem());
 }
 
 void UiManagerTest::anActionAddedLaterComesBeforeTheEntry()
@@ -988,13 +1019,25 @@ void UiManagerTest::aWalkOutlivesTheMenusItWalks()
 void UiManagerTest::changedMenusAreReadBeforeSomebodyAsks()
 {
     static_cast<void>(m_manager->NewMenuIterator()); // the first reading
+    const QSignalSpy prepared(m_catalogue.get(), &CommandCatalogue::prepared);
     const std::size_t before = m_manager->mirror().size();
     QMenu *more = m_window->addMenu("&More", "moreMenu");
     for (const char *name : {"one", "two", "three"})
         DraftWindow::addAction(more, name, name);
-    more->addMenu(m_window->file); // menus may contain each other
-    m_window->file->addMenu(more);
-    QTRY_VERIFY(m_manager->mirror().size() >= before + 4);
+    more->addMenu(m_window->draw); // menus may contain each other
+    m_window->draw->addMenu(more);
+    QTRY_VERIFY(!prepared.isEmpty());
+    const std::size_t after = m_manager->mirror().size();
+    QVERIFY(after >= before + 4);
+    // Nothing is left to read.
+    for (const char *name : {"File", "Draw", "Tools", "Help", "More"}) {
+        const CHxUIMenuItem *top = menu((QByteArray("ID_Mn") + name).constData());
+        for (int i = 0; i < top->GetSubItems()->GetCount(); ++i) {
+            if (CHxUIMenuItemCollection *items = top->GetSubItems()->GetItem(i)->GetSubItems())
+                static_cast<void>(items->GetCount());
+        }
+    }
+    QCOMPARE(m_manager->mirror().size(), after);
 }
 
 QTEST_MAIN(UiManagerTest)
