@@ -10,6 +10,7 @@
 #include "tests/support/FatalWarnings.h"
 
 #include <QElapsedTimer>
+#include <QSignalSpy>
 #include <QTest>
 
 #include <array>
