@@ -22,8 +22,7 @@ void MgCompositorProbe::ask()
         return;
     if (!m_connection)
         connectToServer();
-    if (xcb_connection_has_error(m_connection) || m_selection == 0)
-        return;
+    // On a connection with an error there is no request. No selection has no owner.
     m_request = xcb_get_selection_owner(m_connection, m_selection).sequence;
     xcb_flush(m_connection);
 }

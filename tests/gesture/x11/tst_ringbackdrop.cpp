@@ -89,6 +89,8 @@ private Q_SLOTS:
     void backdropIsTakenAnew();
     void compositorComesAndGoes();
     void theProbeAsksItself();
+    void theProbeAsksOnce();
+    void theProbeFindsNoServer();
     void compositorGoesUnderAnOpenRing();
     void compositorComesUnderAnOpenRing();
 
@@ -265,6 +267,29 @@ void RingBackdropTest::theProbeAsksItself()
     MgCompositorProbe probe;
     QVERIFY(!probe.isCompositing());
     QVERIFY(!probe.isCompositing());
+}
+
+void RingBackdropTest::theProbeAsksOnce()
+{
+    MgCompositorProbe probe;
+    probe.ask();
+    startCompositor();
+    probe.ask();
+    QVERIFY(!probe.isCompositing()); // when it asked first
+    QVERIFY(probe.isCompositing());
+    stopCompositor();
+}
+
+void RingBackdropTest::theProbeFindsNoServer()
+{
+    const QByteArray display = qgetenv("DISPLAY");
+    qputenv("DISPLAY", ":4711");
+    MgCompositorProbe probe;
+    probe.ask();
+    const bool isCompositing = probe.isCompositing();
+    qputenv("DISPLAY", display);
+    QVERIFY(isCompositing);
+    QVERIFY(probe.isCompositing()); // it does not look for another server
 }
 
 void RingBackdropTest::compositorGoesUnderAnOpenRing()
