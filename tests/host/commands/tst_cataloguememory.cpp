@@ -172,6 +172,8 @@ private Q_SLOTS:
 
     void theFirstStartIsWritten();
     void whatIsNewComesLater();
+    void commandsOfAnotherWindowComeWithIt();
+    void afterAFileThatCannotBeReadAllCommandsAreTrusted();
     void aStartWithNothingNewWritesNothing();
     void captionsThatChangeAllTheTimeAreNotWritten();
     void menusThatNeverRestAreWrittenLessAndLess();
@@ -272,6 +274,35 @@ void CatalogueMemoryTest::whatIsNewComesLater()
     QVERIFY(!inFile(QStringLiteral("sketchChamfer")).icon.isEmpty());
     QVERIFY(this->node() != node);
     QCOMPARE(start.settled.count(), 2);
+}
+
+// A program may have several main windows.
+void CatalogueMemoryTest::commandsOfAnotherWindowComeWithIt()
+{
+    Start start(m_path);
+    DraftWindow other;
+    DraftWindow::addAction(other.addMenu("Sketch", "sketchMenu"), "Fillet", "sketchFillet");
+    start.catalogue.addWindow(&other);
+    QVERIFY(start.isWritten());
+    QVERIFY(inFile(QStringLiteral("sketchFillet")).identifier.isEmpty());
+    start.catalogue.setCurrentWindow(&other);
+    QVERIFY(start.settled.wait());
+    QCOMPARE(inFile(QStringLiteral("sketchFillet")).group, QStringLiteral("Sketch"));
+}
+
+// What earlier starts have seen is then unknown, so that a command may be right that this one lacks.
+void CatalogueMemoryTest::afterAFileThatCannotBeReadAllCommandsAreTrusted()
+{
+    for (const bool isReadable : {true, false}) {
+        if (!isReadable)
+            tests::writeFile(m_path, "{");
+        tests::StandardErrorCapture errors;
+        Start start(m_path);
+        start.catalogue.expect(QStringLiteral("drawArcc"), QStringLiteral("drawArcc"));
+        start.catalogue.endGuessing();
+        QCOMPARE(start.isOffered(QStringLiteral("drawArcc")), !isReadable);
+        QCOMPARE(errors.lines().size(), isReadable ? 0 : 1);
+    }
 }
 
 void CatalogueMemoryTest::aStartWithNothingNewWritesNothing()
