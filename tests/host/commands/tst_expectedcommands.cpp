@@ -87,6 +87,8 @@ private Q_SLOTS:
     void guessesMayComeLate();
     void whatIsLackingIsOfferedOnceItComes();
     void whatNobodyGuessesIsNotLacking();
+    void theFirstActionThatTheProfileNamesIsExpected();
+    void twoThatAreRememberedWithOneActionAreOne();
     void whatNobodyHasEverSeenIsDropped();
     void whatATaskDoesNotHaveIsDropped();
     void whatHasJustComeIsNotDropped();
@@ -321,6 +323,29 @@ void ExpectedCommandsTest::whatNobodyGuessesIsNotLacking()
     unguessed.expect(kTrim, QStringLiteral("Trim"));
     unguessed.endGuessing();
     QVERIFY(isOffered(unguessed, kTrim));
+}
+
+void ExpectedCommandsTest::theFirstActionThatTheProfileNamesIsExpected()
+{
+    const QString trim = QStringLiteral("ID_TRIM");
+    CommandCatalogue catalogue(m_window.get(),
+                               {{trim, {QStringLiteral("modifyTrim"), QStringLiteral("editTrim")}}});
+    catalogue.expect(trim, trim);
+    QCOMPARE(catalogue.find(trim)->key(), QStringLiteral("modifyTrim"));
+}
+
+// Somebody may have edited the list.
+void ExpectedCommandsTest::twoThatAreRememberedWithOneActionAreOne()
+{
+    CommandCatalogue catalogue(m_window.get(), {});
+    RememberedCommand first;
+    first.identifier = QStringLiteral("first");
+    first.command = QStringLiteral("drawSpline");
+    RememberedCommand second = first;
+    second.identifier = QStringLiteral("second");
+    catalogue.remember({first, second});
+    QVERIFY(catalogue.find(QStringLiteral("first")));
+    QVERIFY(!catalogue.find(QStringLiteral("second")));
 }
 
 // Such as a typing error before the first start.

@@ -98,6 +98,7 @@ private Q_SLOTS:
     void otherWindowsAreLeftOut();
     void commandsThatAreGoneAreKept();
     void aCommandComesBackWithItsKey();
+    void aChangedActionMayBeReplaced();
     void aCommandComesBackThoughItsAddressIsTaken();
     void unnamedTwinsComeBack();
     void anActionOutOfTheMenusIsNotPresent();
@@ -182,6 +183,11 @@ void HostCommandCatalogueTest::namesFollowTheMenus()
     m_window->arc->setText(QStringLiteral("Arc"));
     catalogue.update();
     QCOMPARE(text(line->GetCaption()), QStringLiteral("Line"));
+    m_window->fileNew->setText(QStringLiteral("Line"));
+    catalogue.update();
+    QCOMPARE(text(line->GetCaption()), QStringLiteral("Draw > Line"));
+    QCOMPARE(text(catalogue.itemOf(m_window->fileNew)->GetCaption()), QStringLiteral("File > Line"));
+    m_window->fileNew->setText(QStringLiteral("New"));
     m_window->draw->removeAction(m_window->line);
     m_window->toolBar->removeAction(m_window->line);
     m_window->exports->addAction(m_window->line);
@@ -592,6 +598,19 @@ void HostCommandCatalogueTest::aCommandComesBackWithItsKey()
     QCOMPARE(catalogue.itemOf(again), line);
     QCOMPARE(text(line->GetCaption()), QStringLiteral("Straight line"));
     QCOMPARE(line->here.group, QStringLiteral("Help"));
+}
+
+// A program may change an action and then make a new one in its place.
+void HostCommandCatalogueTest::aChangedActionMayBeReplaced()
+{
+    CommandCatalogue catalogue(m_window.get(), {});
+    const ActionItem *line = catalogue.find(QStringLiteral("drawLine"));
+    QVERIFY(line);
+    m_window->line->setText(QStringLiteral("Segment"));
+    delete m_window->line;
+    DraftWindow::addAction(m_window->draw, "Ray", "drawLine");
+    QCOMPARE(catalogue.find(QStringLiteral("drawLine")), line);
+    QCOMPARE(text(line->GetCaption()), QStringLiteral("Ray"));
 }
 
 // A new action may get the address of a deleted one.
