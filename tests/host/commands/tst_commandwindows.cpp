@@ -6,6 +6,7 @@
 #include "tests/host/support/Texts.h"
 #include "tests/support/FatalWarnings.h"
 
+#include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -46,6 +47,8 @@ private Q_SLOTS:
     void textsAreThoseOfTheCurrentWindow();
     void whatAWindowLacksIsKept();
     void groupsFollowTheCurrentWindow();
+    void aRemovedWindowIsWatchedNoLonger();
+    void aWindowIsAddedOnce();
     void changesElsewhereAreSeenLater_data();
     void changesElsewhereAreSeenLater();
     void aSwitchReadsNothingTwice();
@@ -145,6 +148,37 @@ void CommandWindowsTest::groupsFollowTheCurrentWindow()
     m_catalogue->setCurrentWindow(m_first.get());
     QCOMPARE(groupOf("drawCircle"), QStringLiteral("Draw"));
     QVERIFY(!m_catalogue->isShown(QStringLiteral("Extra")));
+    // The lists of commands too, though both windows were read before.
+    const auto isListedIn = [this](const char *name) {
+        const auto &groups = m_catalogue->groups();
+        const auto group = std::find_if(groups.begin(), groups.end(), [name](const auto &known) {
+            return text(known->GetName()) == QLatin1String(name);
+        });
+        return group != groups.end()
+            && std::count((*group)->items.begin(), (*group)->items.end(), this->item("drawCircle")) == 1;
+    };
+    QVERIFY(isListedIn("Draw"));
+    m_catalogue->setCurrentWindow(m_second.get());
+    QVERIFY(isListedIn("Help"));
+    m_catalogue->setCurrentWindow(m_first.get());
+    QVERIFY(isListedIn("Draw"));
+}
+
+void CommandWindowsTest::aRemovedWindowIsWatchedNoLonger()
+{
+    const QPointer<gesturewidget::MenuChanges> watcher = &m_catalogue->watcherOf(m_second.get());
+    m_catalogue->removeWindow(m_second.get());
+    QVERIFY(watcher); // somebody may be inside one of its signals
+    QCoreApplication::processEvents();
+    QVERIFY(!watcher);
+}
+
+void CommandWindowsTest::aWindowIsAddedOnce()
+{
+    m_catalogue->addWindow(m_second.get());
+    m_catalogue->removeWindow(m_second.get());
+    m_catalogue->setCurrentWindow(m_second.get());
+    QCOMPARE(m_catalogue->currentWindow(), m_first.get());
 }
 
 void CommandWindowsTest::changesElsewhereAreSeenLater_data()

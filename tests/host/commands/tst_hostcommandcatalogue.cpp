@@ -75,6 +75,7 @@ private Q_SLOTS:
     void theTipIsTheTextThatSaysMost();
     void namesFollowTheMenus();
     void wellKnownIdentifiersComeFromTheProfile();
+    void anActionOfManyIdentifiersHasTheFirst();
     void aWellKnownIdentifierIsNotTakenByAnother();
     void twoWithOneNameAreTold();
     void whatIsNoCommandIsLeftOut();
@@ -211,6 +212,16 @@ void HostCommandCatalogueTest::wellKnownIdentifiersComeFromTheProfile()
     QCOMPARE(line->action(), m_window->line);
     QCOMPARE(catalogue.find(QStringLiteral("drawLine")), line);
     QCOMPARE(catalogue.find(QStringLiteral("ID_TRIM")), nullptr);
+}
+
+// In the order of the alphabet: the order of the profile's table changes from start to start.
+void HostCommandCatalogueTest::anActionOfManyIdentifiersHasTheFirst()
+{
+    QHash<QString, QStringList> wellKnown;
+    for (int i = 10; i < 60; ++i)
+        wellKnown.insert(QStringLiteral("ID_%1").arg(i), {QStringLiteral("drawLine")});
+    CommandCatalogue catalogue(m_window.get(), wellKnown);
+    QCOMPARE(text(catalogue.itemOf(m_window->line)->GetIdentifier()), QStringLiteral("ID_10"));
 }
 
 void HostCommandCatalogueTest::aWellKnownIdentifierIsNotTakenByAnother()
