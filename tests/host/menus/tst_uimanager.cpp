@@ -363,8 +363,10 @@ void UiManagerTest::anEntryIsPutLastAtOnce()
     QCOMPARE(items->GetItem(1), entry);
     QCOMPARE(captions(*m_tools).constLast(), QStringLiteral("&Text"));
     QCOMPARE(m_tools->actions().constLast()->statusTip(), QStringLiteral("Tip"));
+    const QSignalSpy changes(m_catalogue.get(), &CommandCatalogue::menusChanged);
     entry->SetText("Gestures...");
     QCOMPARE(captions(*m_tools).constLast(), QStringLiteral("Gestures..."));
+    QCOMPARE(changes.count(), 0); // nothing of the program's
     m_tools->actions().constLast()->trigger(); // the entry has no command
     QVERIFY(m_run.isEmpty());
     m_tools->clear(); // it comes back although nobody asked for a refresh
