@@ -174,6 +174,13 @@ class Verdict(unittest.TestCase):
         self.assertTrue(line.startswith("bindings: 2 of 2 killed, 100.0 %"), line)
         self.assertTrue(line.endswith("; 2 not tried yet"), line)
 
+    def test_a_survivor_that_is_not_tried_again_counts(self):
+        survivor = "bindings/A.cpp:3: `return 0;` -> `return 1;`  survived\n"
+        status, line = self.run_with(report=self.EARLIER + survivor,
+                                     options=["--continue", "--minutes", "0.000001"])
+        self.assertEqual(status, 1)
+        self.assertTrue(line.startswith("bindings: 1 of 2 killed, 50.0 %"), line)
+
     def test_mutants_side_by_side_all_count(self):
         status, line = self.run_with(*["killed by tst_a"] * 97, *["survived"] * 3, options=["--jobs", "4"])
         self.assertEqual(status, 0)
