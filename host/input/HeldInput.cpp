@@ -6,6 +6,7 @@
 #include "sdk/OwnCode.h"
 
 #include <QApplication>
+#include <QtTest/qtestspontaneevent.h>
 
 #include <algorithm>
 #include <utility>
@@ -88,7 +89,8 @@ void HeldInput::sendRest()
         const QEvent *outer = self ? std::exchange(self->m_sending, event.get()) : nullptr;
         // Do not use sendEvent(), which marks the event as the program's own. Qt notes the pressed
         // buttons from window-system events, so events that the program must not get go to an
-        // object that ignores them.
+        // object that ignores them. A copy does not have the mark on Qt 6.
+        QSpontaneKeyEvent::setSpontaneous(event.get());
         QObject nobody;
         const bool isLost = !item.window || isBlockedByModal(item.window);
         const ProgramCode theirs;
