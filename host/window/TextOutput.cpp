@@ -64,10 +64,12 @@ void TextOutput::keepMessageOf(QStatusBar &bar)
 {
     m_bar = &bar;
     m_hidden = bar.currentMessage();
-    // Nothing but this timer of the status bar's own tells how long a message stays.
+    // Nothing but this timer of the status bar's own tells how long a message stays. Qt may let it end
+    // late, so what remains can be more than the message's time.
     const auto *timer = bar.findChild<QTimer *>(QString(), Qt::FindDirectChildrenOnly);
-    m_hiddenEnd = timer && timer->isActive() ? QDeadlineTimer(timer->remainingTime())
-                                             : QDeadlineTimer(QDeadlineTimer::Forever);
+    m_hiddenEnd = timer && timer->isActive()
+                    ? QDeadlineTimer(std::min(timer->remainingTime(), timer->interval()))
+                    : QDeadlineTimer(QDeadlineTimer::Forever);
 }
 
 void TextOutput::giveMessageBack()

@@ -8,6 +8,7 @@
 #include <QElapsedTimer>
 #include <QStatusBar>
 #include <QTest>
+#include <QThread>
 #include <QTimer>
 
 #include <memory>
@@ -40,6 +41,7 @@ private Q_SLOTS:
     void showsAndClears();
     void bringsBackTheProgramsMessage();
     void messageWithATimeComesBackForTheRest();
+    void theRestIsNeverLongerThanTheTime();
     void messageThatIsOverStaysAway();
     void newerMessageOfTheProgramStays();
     void eachBarGetsItsOwnMessageBack();
@@ -88,6 +90,21 @@ void TextOutputTest::messageWithATimeComesBackForTheRest()
     QCOMPARE(program.shown(), QStringLiteral("Saved"));
     QVERIFY(program.bar->findChild<QTimer *>()->interval() < kTime);
     QTRY_COMPARE(program.shown(), QString());
+}
+
+// Qt lets a timer like the status bar's end up to a twentieth late, at a full second of its clock.
+void TextOutputTest::theRestIsNeverLongerThanTheTime()
+{
+    constexpr int kTime = 2000; // milliseconds
+    Program program;
+    while (QDeadlineTimer::current().deadline() % 1000 != 910)
+        QThread::yieldCurrentThread();
+    program.bar->showMessage(QStringLiteral("Saved"), kTime);
+    program.output.SetText("Line", false);
+    program.output.SetText("", false);
+    QCOMPARE(program.shown(), QStringLiteral("Saved"));
+    const int rest = program.bar->findChild<QTimer *>()->interval();
+    QVERIFY2(rest > kTime / 2 && rest <= kTime, qPrintable(QString::number(rest)));
 }
 
 void TextOutputTest::messageThatIsOverStaysAway()
