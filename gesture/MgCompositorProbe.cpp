@@ -22,7 +22,8 @@ void MgCompositorProbe::ask()
         return;
     if (!m_connection)
         connectToServer();
-    // On a connection with an error there is no request. No selection has no owner.
+    // A connection with an error makes no request, and without a selection the answer is an error.
+    // isCompositing() takes both for a compositor.
     m_request = xcb_get_selection_owner(m_connection, m_selection).sequence;
     xcb_flush(m_connection);
 }

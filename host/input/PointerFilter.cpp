@@ -335,7 +335,7 @@ bool PointerFilter::filterGesturing(QWindow *window, const QMouseEvent &event)
     else if (event.type() == QEvent::MouseButtonRelease)
         buttons |= event.button();
     endGesture(buttons);
-    return filterSwallowing(window, event);
+    return filterSwallowing(window, event); // lets through what begins anew
 }
 
 void PointerFilter::endGestureIfStopped()

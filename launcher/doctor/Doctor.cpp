@@ -263,15 +263,23 @@ void reportChoices(const QString &program, const Sources &sources,
         report.add(Matter::Trigger, Text::tr("%1; ctrl+right if OpenGL paints the drawing").arg(usual));
 }
 
+// Returns the folder that somebody must be allowed to write into before the file can be kept.
+QString folderToWriteInto(const QFileInfo &file)
+{
+    if (file.isSymLink())
+        return QFileInfo(file.symLinkTarget()).path(); // nobody makes it
+    // The nearest existing folder. The ones below it are made when something is kept.
+    QString folder = file.absolutePath();
+    while (!QFileInfo::exists(folder) && folder != QFileInfo(folder).path())
+        folder = QFileInfo(folder).path();
+    return folder;
+}
+
 void reportSettings(const Symptoms &symptoms, const gesturewidget::ProgramProfile &profile,
                     Report &report)
 {
     const QFileInfo file(symptoms.settingsFile);
-    // The nearest existing folder. The ones below it are made when something is kept. The folder that a
-    // link leads to is not.
-    QString folder = file.isSymLink() ? QFileInfo(file.symLinkTarget()).path() : file.absolutePath();
-    while (!file.isSymLink() && !QFileInfo::exists(folder) && folder != QFileInfo(folder).path())
-        folder = QFileInfo(folder).path();
+    const QString folder = folderToWriteInto(file);
     const bool canWrite =
         QFileInfo(folder).isDir() && isWritable(folder, W_OK | X_OK)
         && (!file.exists() || (file.isFile() && isWritable(file.filePath(), R_OK | W_OK)));

@@ -14,7 +14,6 @@ import subprocess
 import tempfile
 import time
 import unittest
-from collections import Counter
 from pathlib import Path
 from unittest import mock
 
@@ -110,15 +109,15 @@ class Mutants(unittest.TestCase):
 class Verdict(unittest.TestCase):
     """Runs the script with a stand-in for the building and testing."""
 
-    def run_with(self, *results, report="", options=()):
-        """The status and the last line printed, if the mutants of a folder end with these results."""
+    def run_with(self, *results, report="", more=0, options=()):
+        """The status and the last line printed, if the mutants of a folder end with these results. So many
+        more mutants are not judged."""
         with tempfile.TemporaryDirectory() as folder:
             root = Path(folder)
             (root / "scripts").mkdir()
             (root / "bindings").mkdir()
             shutil.copy(ROOT / "scripts" / "mutants", root / "scripts")
-            count = len(results) + report.count("killed by")
-            lines = "".join("    return 0;\n" for _ in range(count))  # a mutant each: 1
+            lines = "    return 0;\n" * (len(results) + more)  # a mutant each: 1
             (root / "bindings" / "A.cpp").write_text(f"int f()\n{{\n{lines}}}\n")
             module = loaded(root / "scripts" / "mutants")
             bench = mock.Mock()
@@ -147,37 +146,37 @@ class Verdict(unittest.TestCase):
         self.assertEqual(status, 0)
         self.assertTrue(line.startswith("bindings: 1 of 1 killed, 100.0 % of at least 97 %; 9 do not"), line)
 
-
     # The function of run_with() begins in line 3.
     EARLIER = ("bindings/A.cpp:3: `return 0;` -> `return 1;`  killed by tst_a\n"
                "bindings/A.cpp:4: `return 0;` -> `return 1;`  killed by tst_b\n")
 
     def test_a_run_goes_on_where_the_last_one_ended(self):
-        status, line = self.run_with("survived", report=self.EARLIER, options=["--continue"])
+        status, line = self.run_with("survived", report=self.EARLIER, more=2, options=["--continue"])
         self.assertEqual(status, 1)
         self.assertTrue(line.startswith("bindings: 2 of 3 killed, 66.7 %"), line)
 
     def test_survivors_are_tried_again(self):
-        status, line = self.run_with("killed by tst_c", report=self.EARLIER.replace("killed by tst_b", "survived"),
-                                     options=["--continue"])
+        report = self.EARLIER.replace("killed by tst_b", "survived")
+        status, line = self.run_with("killed by tst_c", report=report, more=1, options=["--continue"])
         self.assertEqual(status, 0)
         self.assertTrue(line.startswith("bindings: 2 of 2 killed, 100.0 %"), line)
 
     def test_a_new_run_forgets_the_last_one(self):
-        with self.assertRaisesRegex(RuntimeError, "StopIteration"):  # there are three mutants to judge
-            self.run_with("survived", report=self.EARLIER)
+        status, line = self.run_with("survived", "survived", report=self.EARLIER)
+        self.assertEqual(status, 1)
+        self.assertTrue(line.startswith("bindings: 0 of 2 killed, 0.0 %"), line)
 
     def test_what_was_not_tried_is_said_and_fails(self):
-        status, line = self.run_with(report=self.EARLIER + self.EARLIER.replace("A.cpp", "Gone.cpp"),
-                                     options=["--continue", "--minutes", "0.000001"])
+        report = self.EARLIER + self.EARLIER.replace("A.cpp", "Gone.cpp")
+        status, line = self.run_with(report=report, more=4, options=["--continue", "--minutes", "-1"])
         self.assertEqual(status, 1)
         self.assertTrue(line.startswith("bindings: 2 of 2 killed, 100.0 %"), line)
         self.assertTrue(line.endswith("; 2 not tried yet"), line)
 
     def test_a_survivor_that_is_not_tried_again_counts(self):
         survivor = "bindings/A.cpp:3: `return 0;` -> `return 1;`  survived\n"
-        status, line = self.run_with(report=self.EARLIER + survivor,
-                                     options=["--continue", "--minutes", "0.000001"])
+        status, line = self.run_with(report=self.EARLIER + survivor, more=2,
+                                     options=["--continue", "--minutes", "-1"])
         self.assertEqual(status, 1)
         self.assertTrue(line.startswith("bindings: 1 of 2 killed, 50.0 %"), line)
 

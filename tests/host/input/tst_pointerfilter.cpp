@@ -1117,17 +1117,23 @@ void PointerFilterTest::gestureWithoutOverlayEndsWithTheRelease()
     desk.move(kPress);
     desk.addFilter();
     desk.tracker.showsOverlay = false;
+    FreeTracker tracker;
+    bool isHeld = false;
+    tracker.onUpdate = [&isHeld](int, CHxHitTestInfo &hit) { isHeld = hit.IsButtonHeld(); };
+    desk.document->inputPoints().AddTracker(&tracker, 0);
     desk.view->log.clear();
     desk.press(kPress);
     desk.move(kPress + QPoint(30, 0));
     desk.move(kPress + QPoint(60, 0));
     QCOMPARE(desk.state(), PointerFilter::State::Gesturing);
+    isHeld = false;
     int releases = 0; // that the program's window gets
     const Observer observer(desk.window.windowHandle(), [&releases](QObject *, const QEvent *event) {
         releases += event->type() == QEvent::MouseButtonRelease ? 1 : 0;
     });
     desk.release(kPress + QPoint(60, 0));
     QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    QVERIFY(isHeld); // the release ends it
     QCOMPARE(releases, 0);
     QCOMPARE(desk.view->log, QStringList());
 }
