@@ -17,7 +17,9 @@
 #include <QTimer>
 #include <QWindow>
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 #include <memory>
 #include <vector>
 
@@ -789,18 +791,24 @@ void OverlayLifecycleTest::lateEventsChangeNothing()
     m_bench->pointTo(donut, 0, 80);
     QVERIFY(donut.accepted);
     QVERIFY(donut.justStopped);
-    m_bench->view->moves.clear();
 
     const QPoint global = m_bench->view->mapToGlobal(donut.origin + QPoint(0, -95));
     QMouseEvent move(QEvent::MouseMove, donut.mapFromGlobal(global), global, Qt::NoButton,
                      Qt::RightButton, Qt::NoModifier);
     QMouseEvent release(QEvent::MouseButtonRelease, donut.mapFromGlobal(global), global, Qt::RightButton,
                         Qt::NoButton, Qt::NoModifier);
-    QElapsedTimer timer;
-    timer.start();
-    QCoreApplication::sendEvent(&donut, &move);
-    QCoreApplication::sendEvent(&donut, &release);
-    QVERIFY(timer.elapsed() < 250);
+    // The fading would block for 250 ms each time; a busy machine delays one of the times.
+    qint64 fastest = std::numeric_limits<qint64>::max();
+    for (int times = 0; times < 4; ++times) {
+        QCoreApplication::sendPostedEvents(m_bench->view, QEvent::MouseMove);
+        m_bench->view->moves.clear();
+        QElapsedTimer timer;
+        timer.start();
+        QCoreApplication::sendEvent(&donut, &move);
+        QCoreApplication::sendEvent(&donut, &release);
+        fastest = std::min(fastest, timer.elapsed());
+    }
+    QVERIFY2(fastest < 250, qPrintable(QString::number(fastest)));
     QCOMPARE(stateOf(donut), kStopped);
     QVERIFY(donut.accepted);
     // The view learns where the button was released, and its tracker of the end.
