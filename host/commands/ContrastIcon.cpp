@@ -117,7 +117,11 @@ public:
     }
 
     [[nodiscard]] int stride() const { return m_stride; }
-    [[nodiscard]] const Influence *at(int x, int y) const { return m_influences.data() + placeOf(x, y); }
+    // `offset` is a Neighbour's.
+    [[nodiscard]] const Influence &near(int x, int y, int offset) const
+    {
+        return m_influences[static_cast<std::size_t>(placeOf(x, y) + offset)];
+    }
 
 private:
     [[nodiscard]] int placeOf(int x, int y) const { return (y + m_frame) * m_stride + x + m_frame; }
@@ -177,7 +181,9 @@ public:
 
     void paint(QPainter *painter, const QRect &place, QIcon::Mode mode, QIcon::State state) override
     {
-        const qreal ratio = painter->device() ? painter->device()->devicePixelRatioF() : 1;
+        if (!painter->isActive())
+            return;
+        const qreal ratio = painter->device()->devicePixelRatioF();
         if (place.size() == QSize(kRingIconSide, kRingIconSide))
             painter->drawPixmap(place, ringPixmap(ratio, mode, state));
         else
@@ -280,12 +286,11 @@ QImage withHalo(const QImage &shape, qreal ratio)
     for (int y = 0; y < source.height(); ++y) {
         auto *line = reinterpret_cast<QRgb *>(result.scanLine(y));
         for (int x = 0; x < source.width(); ++x) {
-            const Influence *here = map.at(x, y);
             float strength = 0;
             float forLight = 0;
             float forDark = 0;
             for (const Neighbour &place : around) {
-                const Influence &influence = here[place.offset];
+                const Influence &influence = map.near(x, y, place.offset);
                 strength = std::max(strength, place.weight * influence.alpha);
                 forLight += place.voice * influence.forLight;
                 forDark += place.voice * influence.forDark;

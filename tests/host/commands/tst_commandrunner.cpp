@@ -47,6 +47,20 @@ protected:
     }
 };
 
+// A dialog that counts how often it is raised.
+class Dialog : public QDialog
+{
+public:
+    int raises = 0;
+
+protected:
+    bool event(QEvent *event) override
+    {
+        raises += event->type() == QEvent::ZOrderChange ? 1 : 0;
+        return QDialog::event(event);
+    }
+};
+
 } // namespace
 
 class CommandRunnerTest : public QObject
@@ -111,6 +125,7 @@ private Q_SLOTS:
     void aCommandMayEndTheRunner();
     void anActionMayEndTheWindow();
     void aCommandThatRunsComesToTheFront();
+    void itsDialogComesAboveOtherWindows();
     void aCommandThatRunsWithoutADialogIsNotRunAgain();
     void aTypedCommandRunsFromTheEventLoop();
     void theResultBelongsToTheCaller();
@@ -421,6 +436,27 @@ void CommandRunnerTest::aCommandThatRunsComesToTheFront()
     m_command->body = nullptr;
     QVERIFY(run("^C^C_GESTURE"));
     QCOMPARE(m_command->runs, 2);
+}
+
+void CommandRunnerTest::itsDialogComesAboveOtherWindows()
+{
+    bool isAbove = false;
+    bool isActive = false;
+    m_command->body = [&] {
+        Dialog dialog;
+        dialog.setModal(true);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        dialog.raises = 0;
+        m_runner->run(QStringLiteral("^C^C_GESTURE"), true);
+        isAbove = dialog.raises == 1;
+        isActive = QTest::qWaitForWindowActive(&dialog);
+    };
+    QVERIFY(run("^C^C_GESTURE"));
+    QVERIFY(isAbove);
+    QVERIFY(isActive);
 }
 
 void CommandRunnerTest::aCommandThatRunsWithoutADialogIsNotRunAgain()

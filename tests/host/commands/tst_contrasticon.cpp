@@ -9,7 +9,11 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QProcess>
+#include <QRandomGenerator>
 #include <QTest>
+
+#include <algorithm>
+#include <cmath>
 
 using gesturewidget::contrastIcon;
 using gesturewidget::contrastOf;
@@ -71,6 +75,38 @@ int readablePart(const QImage &shape, const QImage &picture, const QColor &plate
     return outline == 0 ? 0 : 100 * readable / outline;
 }
 
+// One pixel of a halo of two colours.
+struct HaloPixel
+{
+    qreal alpha = 0; // 0 to 1
+    // How much speaks for either colour.
+    qreal forLight = 0;
+    qreal forDark = 0;
+};
+
+// The rule of the halo, straight from its description: each pixel of the shape gives a halo that falls
+// from 1 to 0 over the last pixel of its width, and those in the shape vote for the colour, with their
+// contrast up to 3:1 and less the further away they are.
+HaloPixel haloPixelAt(const QImage &shape, qreal ratio, int x, int y)
+{
+    HaloPixel result;
+    for (int j = 0; j < shape.height(); ++j) {
+        for (int i = 0; i < shape.width(); ++i) {
+            const qreal distance = std::hypot(x - i, y - j);
+            const qreal weight = qBound(0.0, gesturewidget::kHaloWidth * ratio + 0.5 - distance, 1.0);
+            const QRgb colour = shape.pixel(i, j);
+            result.alpha = std::max(result.alpha, weight * std::min(1.0, 4 * qAlpha(colour) / 255.0));
+            if (qAlpha(colour) < 128)
+                continue;
+            const qreal vote = weight / (1 + distance * distance);
+            const qreal own = luminanceOf(colour);
+            result.forLight += vote * std::min(3.0, contrastOf(own, 1));
+            result.forDark += vote * std::min(3.0, contrastOf(own, 0));
+        }
+    }
+    return result;
+}
+
 // An icon as a person draws it: one line for each colour.
 QIcon strokes(const QVector<QColor> &colours)
 {
@@ -87,6 +123,22 @@ QIcon strokes(const QVector<QColor> &colours)
     }
     return QIcon(pixmap);
 }
+
+// Draws a chessboard of small fields, scaled down.
+class ChessboardEngine : public QIconEngine
+{
+public:
+    void paint(QPainter *painter, const QRect &place, QIcon::Mode, QIcon::State) override
+    {
+        QImage board(64, 64, QImage::Format_RGB32);
+        for (int y = 0; y < board.height(); ++y) {
+            for (int x = 0; x < board.width(); ++x)
+                board.setPixelColor(x, y, (x + y) % 2 ? Qt::white : Qt::black);
+        }
+        painter->drawImage(place, board);
+    }
+    [[nodiscard]] QIconEngine *clone() const override { return new ChessboardEngine; }
+};
 
 // Counts how often it is drawn.
 class CountingEngine : public QIconEngine
@@ -127,14 +179,25 @@ private Q_SLOTS:
     void softEdgesAreHardened();
     void softPixelsHaveAWholeHalo_data();
     void softPixelsHaveAWholeHalo();
+    void theOutlineIsWhatHasTheOutsideBeside_data();
+    void theOutlineIsWhatHasTheOutsideBeside();
+    void oneColourIsForNearlyAll_data();
+    void oneColourIsForNearlyAll();
+    void pixelsAtTheBorderCount();
+    void eachPixelOfTheHaloIsAsTheRuleSays_data();
+    void eachPixelOfTheHaloIsAsTheRuleSays();
     void allSidesOfAShapeCount_data();
     void allSidesOfAShapeCount();
     void theHaloIsReadable_data();
     void theHaloIsReadable();
+    void contrastIsThatOfTheGuidelines_data();
+    void contrastIsThatOfTheGuidelines();
     void aHaloOfTwoColoursFollowsTheNearest();
     void nearPixelsCountMore_data();
     void nearPixelsCountMore();
+    void bigPicturesAreScaledSmoothly();
     void theLastPictureIsKept();
+    void aPainterWithoutAPictureGetsNothing();
     void nothingIsNothing();
 };
 
@@ -269,14 +332,21 @@ void ContrastIconTest::onADenseScreen()
                  said.constData());
         return;
     }
-    QCoreApplication::setAttribute(tests::kUseHighDpiPixmaps);
     const QIcon plain = strokes({QColor(0x2b, 0x2b, 0x2b)});
     const QIcon icon = contrastIcon(plain);
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    // Programs of Qt 5 ask for device pixels unless they set the attribute.
+    const int side = qRound(kScale * kRingIconSide);
+    QImage expected = gesturewidget::withHalo(gesturewidget::ringShape(plain, kScale), kScale);
+    expected.setDevicePixelRatio(1);
+    QCOMPARE(contrastIcon(plain).pixmap(side).toImage(), expected);
+#endif
+    QCoreApplication::setAttribute(tests::kUseHighDpiPixmaps);
     const QImage shown = icon.pixmap(kRingIconSide).toImage();
     QCOMPARE(shown.devicePixelRatio(), kScale);
     QCOMPARE(shown, gesturewidget::withHalo(gesturewidget::ringShape(plain, kScale), kScale));
-    for (const int side : {16, 22, 32})
-        QCOMPARE(icon.pixmap(side).toImage(), plain.pixmap(side).toImage());
+    for (const int other : {16, 22, 32})
+        QCOMPARE(icon.pixmap(other).toImage(), plain.pixmap(other).toImage());
 }
 
 void ContrastIconTest::theHaloStaysInsideTheSquare()
@@ -316,15 +386,15 @@ void ContrastIconTest::softEdgesAreHardened()
 {
     QFETCH(int, alpha);
     QFETCH(int, grey);
-    QImage shape(20, 20, QImage::Format_ARGB32);
-    shape.fill(Qt::transparent);
-    for (int y = 4; y < 16; ++y) {
-        for (int x = 4; x < 16; ++x)
-            shape.setPixel(x, y, qRgba(0, 0, 0, x == 10 && y == 10 ? alpha : 255));
+    constexpr int kEnd = kRingIconSide - 1;
+    for (const QPoint &place : {QPoint(10, 10), QPoint(0, 10), QPoint(10, 0), QPoint(kEnd, kEnd)}) {
+        QImage shape(kRingIconSide, kRingIconSide, QImage::Format_ARGB32);
+        shape.fill(Qt::black);
+        shape.setPixel(place, qRgba(0, 0, 0, alpha));
+        const QRgb seen = gesturewidget::withHalo(shape, 1).pixel(place);
+        QCOMPARE(qAlpha(seen), 255);
+        QCOMPARE(qRed(seen), grey);
     }
-    const QRgb seen = gesturewidget::withHalo(shape, 1).pixel(10, 10);
-    QCOMPARE(qAlpha(seen), 255);
-    QCOMPARE(qRed(seen), grey);
 }
 
 // The halo of a thin line must not be as faint as the line itself.
@@ -351,18 +421,161 @@ void ContrastIconTest::softPixelsHaveAWholeHalo()
         QCOMPARE(qAlpha(seen.pixel(beside)), halo);
 }
 
+// A white pixel inside a grey square, which suits both colours: if the pixel belongs to the outline, too
+// little of it suits a light halo.
+void ContrastIconTest::theOutlineIsWhatHasTheOutsideBeside_data()
+{
+    QTest::addColumn<QPoint>("side");
+    QTest::addColumn<int>("beside"); // alpha there
+    QTest::addColumn<int>("own"); // alpha of the white pixel
+    QTest::addColumn<bool>("isOutline");
+    const QPair<const char *, QPoint> sides[] = {
+        {"left", {-1, 0}}, {"right", {1, 0}}, {"above", {0, -1}}, {"below", {0, 1}}};
+    for (const auto &[name, side] : sides) {
+        const auto row = [&, side = side, name = name](const char *what, int beside, int own,
+                                                       bool isOutline) {
+            QTest::addRow("%s, %s", name, what) << side << beside << own << isOutline;
+        };
+        row("nothing", 0, 255, true);
+        row("the soft edge", 127, 255, true);
+        row("just the shape", 128, 255, false);
+        row("the shape", 255, 255, false);
+        row("itself just the shape", 0, 128, true);
+        row("itself the soft edge", 0, 127, false);
+    }
+}
+
+void ContrastIconTest::theOutlineIsWhatHasTheOutsideBeside()
+{
+    QFETCH(QPoint, side);
+    QFETCH(int, beside);
+    QFETCH(int, own);
+    QFETCH(bool, isOutline);
+    const QPoint middle(10, 10);
+    QImage shape(20, 20, QImage::Format_ARGB32);
+    shape.fill(Qt::transparent);
+    QPainter(&shape).fillRect(QRect(middle - QPoint(1, 1), QSize(3, 3)), QColor(0x80, 0x80, 0x80));
+    shape.setPixel(middle, qRgba(255, 255, 255, own));
+    shape.setPixel(middle + side, qRgba(0x80, 0x80, 0x80, beside));
+    const QRgb corner = gesturewidget::withHalo(shape, 1).pixel(middle - QPoint(2, 1));
+    QCOMPARE(qAlpha(corner), 255);
+    QCOMPARE(qRed(corner), isOutline ? 0 : 255);
+}
+
+// Some pixels of one colour, far from each other, and fewer of the other colour.
+void ContrastIconTest::oneColourIsForNearlyAll_data()
+{
+    QTest::addColumn<QColor>("colour"); // of the others
+    QTest::addColumn<int>("others"); // beside one pixel of the opposite colour
+    QTest::addColumn<bool>("isForAll");
+    QTest::newRow("black, 9 of 10") << QColor(Qt::black) << 9 << true;
+    QTest::newRow("black, 8 of 9") << QColor(Qt::black) << 8 << false;
+    QTest::newRow("white, 9 of 10") << QColor(Qt::white) << 9 << true;
+    QTest::newRow("white, 8 of 9") << QColor(Qt::white) << 8 << false;
+}
+
+void ContrastIconTest::oneColourIsForNearlyAll()
+{
+    QFETCH(QColor, colour);
+    QFETCH(int, others);
+    QFETCH(bool, isForAll);
+    constexpr int kApart = 10;
+    const QColor opposite = colour == Qt::black ? Qt::white : Qt::black;
+    QImage shape((others + 1) * kApart, kApart, QImage::Format_ARGB32);
+    shape.fill(Qt::transparent);
+    for (int i = 0; i <= others; ++i)
+        shape.setPixelColor(kApart * i + 5, 5, i == 0 ? opposite : colour);
+    const QImage seen = gesturewidget::withHalo(shape, 1);
+    QCOMPARE(seen.pixelColor(kApart + 4, 5), opposite);
+    QCOMPARE(seen.pixelColor(4, 5), isForAll ? opposite : colour);
+}
+
+// One of nine pixels is white, so each part gets its own colour.
+void ContrastIconTest::pixelsAtTheBorderCount()
+{
+    constexpr int kSide = 40;
+    constexpr int kEnd = kSide - 1;
+    for (const QPoint &place : {QPoint(0, 20), QPoint(20, 0), QPoint(kEnd, 20), QPoint(20, kEnd)}) {
+        QImage shape(kSide, kSide, QImage::Format_ARGB32);
+        shape.fill(Qt::transparent);
+        for (int i = 0; i < 8; ++i)
+            shape.setPixelColor(4 + 4 * i, 4 + 4 * i, Qt::black);
+        shape.setPixelColor(place, Qt::white);
+        const QPoint inwards(place.x() == 0      ? 1
+                             : place.x() == kEnd ? -1
+                                                 : 0,
+                             place.y() == 0      ? 1
+                             : place.y() == kEnd ? -1
+                                                 : 0);
+        QCOMPARE(gesturewidget::withHalo(shape, 1).pixelColor(place + inwards), QColor(Qt::black));
+    }
+}
+
+void ContrastIconTest::eachPixelOfTheHaloIsAsTheRuleSays_data()
+{
+    QTest::addColumn<qreal>("ratio");
+    for (const qreal ratio : {1.0, 1.25, 1.5, 2.0, 3.0})
+        QTest::addRow("%g", ratio) << ratio;
+}
+
+// Random shapes up to the border, half of them black and half white, so that each part gets its own
+// colour.
+void ContrastIconTest::eachPixelOfTheHaloIsAsTheRuleSays()
+{
+    QFETCH(qreal, ratio);
+    constexpr int kShapes = 100;
+    constexpr int kSide = 9;
+    constexpr qreal kAlike = 1e-4; // sums that choose neither colour
+    QRandomGenerator random(1);
+    int choices = 0;
+    for (int i = 0; i < kShapes; ++i) {
+        QImage shape(kSide, kSide, QImage::Format_ARGB32);
+        shape.fill(Qt::transparent);
+        for (int pixel = 0; pixel < 12; ++pixel) {
+            const int alpha = QVector<int>{1, 40, 127, 128, 255, 255}.at(random.bounded(6));
+            const int grey = pixel % 2 ? 255 : 0;
+            shape.setPixel(random.bounded(kSide), random.bounded(kSide), qRgba(grey, grey, grey, alpha));
+        }
+        // At least two of at most sixteen pixels have the other colour.
+        for (const QPoint &corner : {QPoint(0, 0), QPoint(kSide - 1, kSide - 1)}) {
+            shape.setPixelColor(corner, Qt::black);
+            shape.setPixelColor(corner.x(), kSide - 1 - corner.y(), Qt::white);
+        }
+        const QImage seen = gesturewidget::withHalo(shape, ratio);
+        for (int y = 0; y < kSide; ++y) {
+            for (int x = 0; x < kSide; ++x) {
+                const HaloPixel expected = haloPixelAt(shape, ratio, x, y);
+                if (qAlpha(shape.pixel(x, y)) > 51) // hidden by the shape
+                    continue;
+                const QColor pixel = seen.pixelColor(x, y);
+                QVERIFY(std::abs(pixel.alpha() - 255 * expected.alpha) <= 1);
+                if (pixel.alpha() < 8 || std::abs(expected.forLight - expected.forDark) < kAlike)
+                    continue;
+                ++choices;
+                QCOMPARE(pixel.red() > 128, expected.forLight > expected.forDark);
+            }
+        }
+    }
+    QVERIFY2(choices > 10 * kShapes, qPrintable(QString::number(choices)));
+}
+
 // The halo of a long bar is chosen by its long sides: each pixel that has the outside on one side
 // counts.
 void ContrastIconTest::allSidesOfAShapeCount_data()
 {
     QTest::addColumn<bool>("isUpright");
-    QTest::newRow("upright") << true;
-    QTest::newRow("lying") << false;
+    QTest::addColumn<QColor>("colour"); // of the long sides
+    QTest::newRow("upright, black") << true << QColor(Qt::black);
+    QTest::newRow("lying, black") << false << QColor(Qt::black);
+    QTest::newRow("upright, white") << true << QColor(Qt::white);
+    QTest::newRow("lying, white") << false << QColor(Qt::white);
 }
 
 void ContrastIconTest::allSidesOfAShapeCount()
 {
     QFETCH(bool, isUpright);
+    QFETCH(QColor, colour);
+    const QColor opposite = colour == Qt::black ? Qt::white : Qt::black;
     constexpr int kLong = 104;
     constexpr int kEnd = 2;
     QImage shape(10, kLong, QImage::Format_ARGB32);
@@ -370,18 +583,16 @@ void ContrastIconTest::allSidesOfAShapeCount()
     for (int y = kEnd; y < kLong - kEnd; ++y) {
         const bool isEnd = y == kEnd || y == kLong - kEnd - 1;
         for (int x = 2; x < 8; ++x)
-            shape.setPixel(x, y, isEnd ? qRgb(255, 255, 255) : qRgb(0, 0, 0));
+            shape.setPixelColor(x, y, isEnd ? opposite : colour);
     }
     if (!isUpright)
         shape = shape.transformed(QTransform().rotate(90));
     const QImage seen = gesturewidget::withHalo(shape, 1);
-    // Light all around, also beside the light ends.
+    // One colour all around, also beside the ends.
     const QPoint besideTheEnd = isUpright ? QPoint(5, kEnd - 1) : QPoint(kEnd - 1, 5);
     const QPoint besideTheMiddle = isUpright ? QPoint(1, kLong / 2) : QPoint(kLong / 2, 1);
-    for (const QPoint &place : {besideTheEnd, besideTheMiddle}) {
-        QCOMPARE(qAlpha(seen.pixel(place)), 255);
-        QCOMPARE(qRed(seen.pixel(place)), 255);
-    }
+    for (const QPoint &place : {besideTheEnd, besideTheMiddle})
+        QCOMPARE(seen.pixelColor(place), opposite);
 }
 
 void ContrastIconTest::theHaloIsReadable_data()
@@ -403,6 +614,31 @@ void ContrastIconTest::theHaloIsReadable()
     const QRgb beside = gesturewidget::withHalo(shape, 1).pixel(5, 10);
     QCOMPARE(qAlpha(beside), 255);
     QCOMPARE(qRed(beside), halo);
+}
+
+// Well-known contrasts with white.
+void ContrastIconTest::contrastIsThatOfTheGuidelines_data()
+{
+    QTest::addColumn<QColor>("colour");
+    QTest::addColumn<double>("contrast"); // rounded to hundredths
+    QTest::newRow("white") << QColor(Qt::white) << 1.00;
+    QTest::newRow("just enough for text") << QColor(0x76, 0x76, 0x76) << 4.54;
+    QTest::newRow("not quite") << QColor(0x77, 0x77, 0x77) << 4.48;
+    QTest::newRow("red") << QColor(255, 0, 0) << 4.00;
+    QTest::newRow("green") << QColor(0, 128, 0) << 5.14;
+    QTest::newRow("blue") << QColor(0, 0, 255) << 8.59;
+    QTest::newRow("nearly black") << QColor(10, 10, 10) << 19.80;
+    QTest::newRow("black") << QColor(Qt::black) << 21.00;
+}
+
+void ContrastIconTest::contrastIsThatOfTheGuidelines()
+{
+    QFETCH(QColor, colour);
+    QFETCH(double, contrast);
+    const qreal luminance = luminanceOf(colour.rgb());
+    QCOMPARE(std::round(100 * contrastOf(luminance, 1)) / 100, contrast);
+    QCOMPARE(contrastOf(1, luminance), contrastOf(luminance, 1));
+    QCOMPARE(luminanceOf(qRgb(255, 255, 255)), 1.0);
 }
 
 void ContrastIconTest::aHaloOfTwoColoursFollowsTheNearest()
@@ -446,6 +682,13 @@ void ContrastIconTest::nearPixelsCountMore()
     QCOMPARE(gesturewidget::withHalo(shape, 3).pixelColor(place), halo);
 }
 
+void ContrastIconTest::bigPicturesAreScaledSmoothly()
+{
+    const QImage shape = gesturewidget::ringShape(QIcon(new ChessboardEngine), 1);
+    for (int place = 6; place < 14; ++place)
+        QVERIFY(std::abs(qGray(shape.pixel(place, 10)) - 127) < 40);
+}
+
 void ContrastIconTest::theLastPictureIsKept()
 {
     int paints = 0;
@@ -462,11 +705,29 @@ void ContrastIconTest::theLastPictureIsKept()
     QCOMPARE(paints, 3);
     QVERIFY(!icon.pixmap(ring, QIcon::Disabled, QIcon::On).isNull());
     QCOMPARE(paints, 3);
+    for (const qreal ratio : {1.0, 2.0, 2.0}) { // as screens of different density ask
+        QImage screen(2 * ring, QImage::Format_ARGB32_Premultiplied);
+        screen.setDevicePixelRatio(ratio);
+        QPainter painter(&screen);
+        icon.paint(&painter, QRect(QPoint(), ring), Qt::AlignCenter, QIcon::Disabled, QIcon::On);
+    }
+    QCOMPARE(paints, 4);
+}
+
+void ContrastIconTest::aPainterWithoutAPictureGetsNothing()
+{
+    int paints = 0;
+    const QIcon icon = contrastIcon(QIcon(new CountingEngine(paints)));
+    QPainter painter;
+    for (const int side : {kRingIconSide, 32})
+        icon.paint(&painter, 0, 0, side, side);
+    QCOMPARE(paints, 0);
 }
 
 void ContrastIconTest::nothingIsNothing()
 {
     QVERIFY(contrastIcon(QIcon()).isNull());
+    QCOMPARE(contrastIcon(QIcon()).cacheKey(), QIcon().cacheKey()); // without a lookup
 }
 
 QTEST_MAIN(ContrastIconTest)

@@ -618,8 +618,8 @@ void HostCommandCatalogueTest::aChangedActionMayBeReplaced()
     const ActionItem *line = catalogue.find(QStringLiteral("drawLine"));
     QVERIFY(line);
     m_window->line->setText(QStringLiteral("Segment"));
+    DraftWindow::addAction(m_window->draw, "Ray", "drawLine"); // it must not get the same address
     delete m_window->line;
-    DraftWindow::addAction(m_window->draw, "Ray", "drawLine");
     QCOMPARE(catalogue.find(QStringLiteral("drawLine")), line);
     QCOMPARE(text(line->GetCaption()), QStringLiteral("Ray"));
 }
