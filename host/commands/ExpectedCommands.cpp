@@ -23,10 +23,9 @@ QMap<QString, QString> expectedCommands(const QHash<QString, QStringList> &wellK
 
 QStringList trustedCommands(const SettingsFile::Values &settings, const SettingsFile::Values &site)
 {
-    QStringList identifiers =
+    const QStringList identifiers =
         settings.value(SettingsFile::nameOf(settingsnames::hostSection(), settingsnames::importedKey()))
-            .split(QLatin1Char('\n'));
-    identifiers.removeAll(QString());
+            .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     return identifiers + QStringList(expectedCommands({}, site).keys());
 }
 

@@ -43,35 +43,27 @@ QString plainTitle(QString title)
     return foldedCaption(title);
 }
 
-// Returns the number of an entry such as "&1 drawing", "1&0 drawing" or "2: drawing"; -1 if it has
-// none. `isMarked`: the number has the mnemonic.
-int numberOf(const QString &text, bool *isMarked)
+struct Number
+{
+    int value; // -1 if there is none
+    bool isMarked; // by the mnemonic
+};
+
+// Returns the number of an entry such as "&1 drawing", "1&0 drawing" or "2: drawing".
+Number numberOf(const QString &text)
 {
     static const QRegularExpression marked(QStringLiteral(R"(^(&\d|\d&\d)[.:)]?\s+\S)"));
     static const QRegularExpression plain(QStringLiteral(R"(^(\d{1,2})[.:)]?\s+\S)"));
     QRegularExpressionMatch match = marked.match(text);
-    *isMarked = match.hasMatch();
-    if (!*isMarked)
+    const bool isMarked = match.hasMatch();
+    if (!isMarked)
         match = plain.match(text);
-    return match.hasMatch() ? match.captured(1).remove(QLatin1Char('&')).toInt() : -1;
+    return {match.hasMatch() ? match.captured(1).remove(QLatin1Char('&')).toInt() : -1, isMarked};
 }
 
 bool mayBeEntry(const QAction &action)
 {
     return action.objectName().isEmpty() && action.shortcut().isEmpty();
-}
-
-// Without the name of a document in quotation marks.
-QString withoutDocument(QString caption)
-{
-    static const QRegularExpression quoted(QStringLiteral(R"(\s*["'“”„«‘]([^"'“”»’]+)["'“”»’])"));
-    if (!namesADocument(caption))
-        return caption;
-    const QRegularExpressionMatch match = quoted.match(caption);
-    const bool isRest = match.hasMatch() && match.capturedLength() < caption.size();
-    if (isRest && namesADocument(match.captured(1)))
-        caption.remove(match.capturedStart(), match.capturedLength());
-    return caption.trimmed();
 }
 
 QString withoutStep(const QAction &action, const QString &caption)
@@ -83,10 +75,9 @@ QString withoutStep(const QAction &action, const QString &caption)
     const bool isIt = (!shortcut.isEmpty() && keys.contains(shortcut)) || action.inherits("QUndoAction");
     if (!isIt)
         return caption;
-    const QString plain = caption.simplified();
+    const QString plain = caption.simplified() + QLatin1Char(' ');
     for (const QString &word : words) {
-        const bool isFirst = plain.size() > word.size() && foldedCaption(plain).startsWith(word);
-        if (isFirst && !plain.at(word.size()).isLetterOrNumber())
+        if (foldedCaption(plain).startsWith(word) && !plain.at(word.size()).isLetterOrNumber())
             return plain.left(word.size());
     }
     return caption;
@@ -94,12 +85,10 @@ QString withoutStep(const QAction &action, const QString &caption)
 
 } // namespace
 
-ListEntries::Kind ListEntries::kindOf(const QString &menu, bool isTopLevel)
+ListEntries::Kind ListEntries::kindOf(const QString &menu)
 {
     static const QSet<QString> documents = captionsOf({"recent", "undo", "redo"});
     static const QSet<QString> layers = captionsOf({"layers"});
-    if (isTopLevel)
-        return Kind::Commands;
     const QString caption = foldedCaption(menu);
     return documents.contains(caption) ? Kind::Documents
          : layers.contains(caption)    ? Kind::Layers
@@ -109,7 +98,7 @@ ListEntries::Kind ListEntries::kindOf(const QString &menu, bool isTopLevel)
 QSet<const QAction *> ListEntries::among(const QList<QAction *> &actions, Kind kind)
 {
     QSet<const QAction *> entries;
-    int next = -1; // the number that continues the list
+    int next = 0; // the number that continues the list
     for (const QAction *action : actions) {
         const QString text = action->text();
         if (text.isEmpty())
@@ -118,26 +107,20 @@ QSet<const QAction *> ListEntries::among(const QList<QAction *> &actions, Kind k
         const bool isDocument = namesADocument(caption);
         if (!isDocument && !mayBeEntry(*action))
             continue;
-        bool isMarked = false;
-        const int number = numberOf(text, &isMarked);
-        if (number == 0 || (number == 1 && next != 1))
-            next = number;
-        const bool isNext = number >= 0 && number == next;
+        const Number number = numberOf(text);
+        if (number.value == 0 || number.value == 1)
+            next = number.value;
+        const bool isNext = number.value == next;
         if (isNext)
             ++next;
         const bool isNumbered =
-            isNext && action->icon().isNull() && (isMarked || action->data().isValid());
+            isNext && action->icon().isNull() && (number.isMarked || action->data().isValid());
         if (isDocument || kind == Kind::Documents || isNumbered
             || (kind == Kind::Layers && (action->isCheckable() || action->data().isValid()))
             || (action->icon().isNull() && isWindowTitle(caption)))
             entries.insert(action);
     }
     return entries;
-}
-
-bool ListEntries::isOfOneDocument(const QString &menu)
-{
-    return namesADocument(menu) || isWindowTitle(menu);
 }
 
 bool ListEntries::isWindowTitle(const QString &caption)

@@ -31,19 +31,18 @@ public:
         Layers
     };
 
-    // Returns the content of a menu with that caption. `isTopLevel`: it is in the menu bar.
-    [[nodiscard]] static Kind kindOf(const QString &menu, bool isTopLevel);
+    // Returns the content of a menu with that caption. Menus at the top level hold commands; pass an
+    // empty caption for them.
+    [[nodiscard]] static Kind kindOf(const QString &menu);
 
     // Returns the entries of lists among the actions of one menu or toolbar, in the order of the menu.
     // `kind` is its content.
     [[nodiscard]] QSet<const QAction *> among(const QList<QAction *> &actions, Kind kind);
-    // Returns whether a menu with that caption belongs to one document or window. Then its entries
-    // are no commands either.
-    [[nodiscard]] bool isOfOneDocument(const QString &menu);
-
-private:
+    // Returns whether a caption is the title of an open window. The entries of a menu for one window
+    // are no commands either, even if the menu has an icon or a name.
     [[nodiscard]] bool isWindowTitle(const QString &caption);
 
+private:
     QSet<QString> m_titles; // of open windows
     bool m_hasTitles = false;
 };

@@ -47,8 +47,7 @@ void MenuWalk::walk(QWidget *widget, const Place &place)
     m_paths.insert(place.path);
     m_watcher.watch(widget);
     const QList<QAction *> actions = widget->actions();
-    const bool isTopLevel = place.way.isEmpty() && !place.isInToolBar;
-    const auto kind = ListEntries::kindOf(place.way.value(place.way.size() - 1), isTopLevel);
+    const auto kind = ListEntries::kindOf(place.way.value(place.way.size() - 1));
     const QSet<const QAction *> entries =
         place.isOfList ? QSet<const QAction *>() : m_lists.among(actions, kind);
     for (QAction *action : actions) {
@@ -60,7 +59,7 @@ void MenuWalk::walk(QWidget *widget, const Place &place)
             const bool isTop = place.group.isEmpty();
             walk(menu, {isTop ? title : place.group, joined(place.path, title), place.isInToolBar,
                         isTop ? QStringList() : place.way + QStringList(title),
-                        isListEntry || (!isTop && m_lists.isOfOneDocument(title))});
+                        isListEntry || (!isTop && m_lists.isWindowTitle(title))});
         }
     }
 }

@@ -9,22 +9,52 @@
 
 namespace gesturewidget {
 
+namespace {
+
+// Most captions have none of these, and menus are read while people wait.
+bool mayNameADocument(const QString &caption)
+{
+    return std::any_of(caption.begin(), caption.end(), [](QChar letter) {
+        return letter == QLatin1Char('/') || letter == QLatin1Char('\\') || letter == QLatin1Char('.');
+    });
+}
+
+} // namespace
+
 bool namesADocument(const QString &caption)
 {
-    // Most captions have none of these, and menus are read while people wait.
-    const auto mayBePart = [](QChar letter) {
-        return letter == QLatin1Char('/') || letter == QLatin1Char('\\') || letter == QLatin1Char('.');
-    };
-    if (std::none_of(caption.begin(), caption.end(), mayBePart))
+    if (!mayNameADocument(caption))
         return false;
     // "/home/me/", "~/", "C:\", "file://" at the beginning of a word. Not "On / Off".
     static const QRegularExpression path(
-        QStringLiteral(R"((^|[\s"'(\[:=])(/[^/\s]+/|~/|[A-Za-z]:[\\/]|file:/))"));
-    // A word, a dot and an ending of 2 to 7 letters or digits. Behind it only a mark such as "*" or
-    // words in brackets. Not "Save as..." nor "Version 2.0".
+        QStringLiteral(R"((^|[\s"'“„«‘「『(\[:=])(/[^/\s]+/|~/|[A-Za-z]:[\\/]|file:/))"));
+    // A word, a dot and an ending of 2 to 7 letters or digits. Behind it only quotation marks, a mark
+    // such as "*" or words in brackets. Not "Save as..." nor "Version 2.0".
     static const QRegularExpression file(
-        QStringLiteral(R"(\w\.[A-Za-z][A-Za-z0-9]{1,6}"?'?\s*([*•]|\[.*\]|\(.*\))?\s*$)"));
+        QStringLiteral(R"(\w\.[A-Za-z][A-Za-z0-9]{1,6}\s*["'”“’»」』]*\s*([*•]|\[.*\]|\(.*\))?\s*$)"),
+        QRegularExpression::UseUnicodePropertiesOption);
     return path.match(caption).hasMatch() || file.match(caption).hasMatch();
+}
+
+QString withoutDocument(const QString &caption)
+{
+    if (!mayNameADocument(caption))
+        return caption;
+    // An apostrophe inside a word is no quotation mark.
+    static const QRegularExpression quoted(
+        QStringLiteral(R"(\s*(?:(?<!\w)['‘]|["“”„«「『])([^"'“”»’」』]+)["'“”»’」』])"),
+        QRegularExpression::UseUnicodePropertiesOption);
+    QRegularExpressionMatchIterator matches = quoted.globalMatch(caption);
+    while (matches.hasNext()) {
+        const QRegularExpressionMatch match = matches.next();
+        if (!namesADocument(match.captured(1).trimmed()))
+            continue;
+        QString rest = caption;
+        rest.remove(match.capturedStart(), match.capturedLength());
+        rest = rest.trimmed();
+        return rest.isEmpty() ? caption : rest;
+    }
+    return caption;
 }
 
 } // namespace gesturewidget

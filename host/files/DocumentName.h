@@ -12,4 +12,8 @@ namespace gesturewidget {
 // person works on is private, so such entries are not remembered.
 [[nodiscard]] bool namesADocument(const QString &caption);
 
+// Returns a caption without the document that it names in quotation marks: "Close" for
+// Close "house.dxf". Returns the whole caption if nothing else would be left of it.
+[[nodiscard]] QString withoutDocument(const QString &caption);
+
 } // namespace gesturewidget

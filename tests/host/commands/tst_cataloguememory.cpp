@@ -723,6 +723,7 @@ void CatalogueMemoryTest::whatIsNoPictureShowsNothing_data()
     QVERIFY(!gesturewidget::iconFromPng(png).pixmap(16, 16).isNull());
     QTest::newRow("text") << QByteArray("picture");
     QTest::newRow("cut off in the header") << png.left(30);
+    QTest::newRow("nothing but the header") << png.left(33);
     QTest::newRow("too wide") << saved({257, 256}, "PNG");
     QTest::newRow("too high") << saved({256, 257}, "PNG");
     QTest::newRow("other format") << saved({16, 16}, "BMP");

@@ -117,6 +117,36 @@ void ListEntriesTest::menus_data()
         },
         "Close");
     row(
+        "no number",
+        [](Program &p) {
+            p.menu->actions().constFirst()->setData(4);
+            p.menu->addAction(QStringLiteral("Tile"))->setData(5);
+        },
+        "Close | Tile");
+    row(
+        "two lists that begin with one",
+        [](Program &p) {
+            p.menu->addAction(QStringLiteral("&1 house"));
+            p.menu->addAction(QStringLiteral("&1 garden"));
+        },
+        "Close");
+    row(
+        "numbers that begin with nought",
+        [](Program &p) {
+            p.menu->addAction(QStringLiteral("&0 house"));
+            p.menu->addAction(QStringLiteral("&1 garden"));
+        },
+        "Close");
+    row(
+        "a title behind a number, and one that has a number",
+        [](Program &p) {
+            p.area.addSubWindow(new QWidget)->setWindowTitle(QStringLiteral("House"));
+            p.area.addSubWindow(new QWidget)->setWindowTitle(QStringLiteral("12 Garden"));
+            p.menu->addAction(QStringLiteral("11 House"));
+            p.menu->addAction(QStringLiteral("12 Garden"));
+        },
+        "Close");
+    row(
         "numbers among which are documents",
         [](Program &p) {
             p.menu->addAction(QStringLiteral("&1 plan.dxf"));
@@ -168,6 +198,7 @@ void ListEntriesTest::menus_data()
         [](Program &p) {
             p.window.setWindowTitle(QStringLiteral("**Untitled project"));
             p.menu->addAction(QStringLiteral("Untitled project"));
+            p.menu->addAction(QStringLiteral("*Untitled project*"));
             p.menu->addAction(QStringLiteral("*Untitled project**"));
         },
         "Close");
@@ -179,6 +210,29 @@ void ListEntriesTest::menus_data()
             clear->setObjectName(QStringLiteral("clearRecent"));
         },
         "Close | Open Recent > Clear");
+    row(
+        "a command with an icon alone and without a name",
+        [](Program &p) {
+            p.submenu("Open &Recent")->addAction(QString())->setToolTip(QStringLiteral("Clear"));
+        },
+        "Close | Open Recent > Clear");
+    row(
+        "a window inside with another title than its widget",
+        [](Program &p) {
+            auto *widget = new QWidget;
+            QMdiSubWindow *around = p.area.addSubWindow(widget);
+            widget->setWindowTitle(QStringLiteral("Untitled project"));
+            around->setWindowTitle(QStringLiteral("First window"));
+            p.menu->addAction(QStringLiteral("Untitled project"));
+        },
+        "Close");
+    row(
+        "numbers without a mnemonic",
+        [](Program &p) {
+            p.menu->addAction(QStringLiteral("1 house"))->setData(1);
+            p.menu->addAction(QStringLiteral("2 garden"))->setData(2);
+        },
+        "Close");
     row(
         "the title of a window inside",
         [](Program &p) {
@@ -196,6 +250,17 @@ void ListEntriesTest::menus_data()
     row(
         "a menu for one document",
         [](Program &p) { p.submenu("streets.osm")->addAction(QStringLiteral("Zoom")); }, "Close");
+    row(
+        "a menu with an icon for one window",
+        [](Program &p) {
+            p.area.addSubWindow(new QWidget)->setWindowTitle(QStringLiteral("Untitled"));
+            QMenu *menu = p.submenu("Untitled");
+            QPixmap icon(16, 16);
+            icon.fill(Qt::black);
+            menu->setIcon(QIcon(icon));
+            menu->addAction(QStringLiteral("Main window"));
+        },
+        "Close");
     row(
         "recent documents",
         [](Program &p) {
@@ -291,6 +356,22 @@ void ListEntriesTest::aCaptionLastsWithoutItsDocument_data()
     QTest::addColumn<QString>("lasting");
     QTest::newRow("a document") << "Close \"plan.dxf\""
                                 << "Close";
+    QTest::newRow("English marks") << QString::fromUtf8("Close “plan.dxf”") << "Close";
+    QTest::newRow("German marks") << QString::fromUtf8("„plan.dxf“ schließen")
+                                  << QString::fromUtf8("schließen");
+    QTest::newRow("German marks at the end")
+        << QString::fromUtf8("Schließen von „plan.dxf“") << QString::fromUtf8("Schließen von");
+    QTest::newRow("French marks") << QString::fromUtf8("Fermer « plan.dxf »") << "Fermer";
+    QTest::newRow("French marks with narrow spaces")
+        << QString::fromUtf8("Fermer «\u202fplan.dxf\u202f»") << "Fermer";
+    QTest::newRow("Japanese marks") << QString::fromUtf8("「plan.dxf」を閉じる")
+                                    << QString::fromUtf8("を閉じる");
+    QTest::newRow("in the middle") << "Save \"plan.dxf\" as template"
+                                   << "Save as template";
+    QTest::newRow("behind something else") << "Insert \"Title\" from \"frame.dxf\""
+                                           << "Insert \"Title\" from";
+    QTest::newRow("an apostrophe") << "Don't save 'plan.dxf'"
+                                   << "Don't save";
     QTest::newRow("nothing else") << "\"plan.dxf\""
                                   << "\"plan.dxf\"";
     QTest::newRow("something else") << "Insert \"Title\" from frame.dxf"
@@ -315,6 +396,8 @@ void ListEntriesTest::aStepIsKnownByItsShortcut()
     QCOMPARE(gesturewidget::lastingCaption(action, caption), caption);
     action.setShortcut(QKeySequence::Undo);
     QCOMPARE(gesturewidget::lastingCaption(action, caption), QStringLiteral("Undo"));
+    for (const char *other : {"Undo", "Undoing", "Back Two Steps", "B", ""})
+        QCOMPARE(gesturewidget::lastingCaption(action, QLatin1String(other)), QLatin1String(other));
 }
 
 QTEST_MAIN(ListEntriesTest)
