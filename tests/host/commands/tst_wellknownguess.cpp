@@ -62,6 +62,9 @@ private Q_SLOTS:
     void aButtonIsNoFileCommandByItsCaption();
     void aShortcutInALaterMenuIsDoubtful();
     void aPartOfTheWindowHasNoFileCommands();
+    void onlyFileCommandsAreAtHomeInTheFirstMenu();
+    void aDoubtfulShortcutCountsLittle();
+    void aWordOfOneCharacterIsMentioned();
     void theMenuAloneSaysNothing();
     void switchesOfBarsAreNone();
     void anActionStandsForOneOnly();
@@ -472,15 +475,56 @@ void WellKnownGuessTest::aShortcutInALaterMenuIsDoubtful()
 // A shortcut does not count in an editor that is a main window inside the main window.
 void WellKnownGuessTest::aPartOfTheWindowHasNoFileCommands()
 {
-    QMainWindow window;
-    auto *notes = new QMainWindow;
-    notes->setWindowFlags(Qt::Widget);
-    window.setCentralWidget(notes);
-    QAction *import = add(QString(), QStringLiteral("Import"), QString(), QKeySequence::Open);
-    notes->menuBar()->addMenu(QStringLiteral("Note"))->addAction(import);
-    QAction *opens = add(QString(), QStringLiteral("Open..."));
-    window.menuBar()->addMenu(QStringLiteral("Map"))->addAction(opens);
-    QCOMPARE(WellKnownGuess::among(actions()).value(0).action, opens);
+    for (const bool isFirst : {true, false}) {
+        m_actions.clear();
+        QMainWindow window;
+        auto *notes = new QMainWindow;
+        notes->setWindowFlags(Qt::Widget);
+        window.setCentralWidget(notes);
+        if (!isFirst)
+            notes->menuBar()->addMenu(QStringLiteral("Notebook"));
+        QAction *note = add(QString(), QStringLiteral("Open Note"), QString(), QKeySequence::Open);
+        notes->menuBar()->addMenu(QStringLiteral("Note"))->addAction(note);
+        QVERIFY(WellKnownGuess::among({note}).isEmpty());
+        QAction *opens = add(QString(), QStringLiteral("Open..."));
+        window.menuBar()->addMenu(QStringLiteral("Map"))->addAction(opens);
+        QCOMPARE(WellKnownGuess::among(actions()).value(0).action, opens);
+    }
+}
+
+// The shortcut of any other command counts in every menu.
+void WellKnownGuessTest::onlyFileCommandsAreAtHomeInTheFirstMenu()
+{
+    QMenuBar bar;
+    bar.addMenu(QStringLiteral("Map"));
+    QAction *copy =
+        add(QStringLiteral("copy"), QStringLiteral("Duplicate"), QString(), QKeySequence::Copy);
+    bar.addMenu(QStringLiteral("Model"))->addAction(copy);
+    QCOMPARE(WellKnownGuess::among(actions()).value(0).action, copy);
+    QAction *load = add(QStringLiteral("open"), QStringLiteral("Load"), QString(), QKeySequence::Open);
+    bar.actions().constLast()->menu()->addAction(load);
+    QVERIFY(WellKnownGuess::among({load}).isEmpty());
+    bar.actions().constFirst()->menu()->addAction(load);
+    QCOMPARE(WellKnownGuess::among({load}).size(), 1);
+}
+
+// It counts as much as the menu of such commands: then the first one is it.
+void WellKnownGuessTest::aDoubtfulShortcutCountsLittle()
+{
+    QMenuBar bar;
+    bar.addMenu(QStringLiteral("Map"));
+    QAction *file = add(QString(), QStringLiteral("&Open..."));
+    bar.addMenu(QStringLiteral("File"))->addAction(file);
+    QAction *patchbay = add(QString(), QStringLiteral("&Open..."), QString(), QKeySequence::Open);
+    bar.addMenu(QStringLiteral("Patchbay"))->addAction(patchbay);
+    QCOMPARE(WellKnownGuess::among({file, patchbay}).value(0).action, file);
+    QCOMPARE(WellKnownGuess::among({patchbay, file}).value(0).action, patchbay);
+}
+
+void WellKnownGuessTest::aWordOfOneCharacterIsMentioned()
+{
+    QAction *thin = add(QString(), QString::fromUtf8("細線"), QStringLiteral("draw-line"));
+    QCOMPARE(WellKnownGuess::among(actions()).value(0).action, thin);
 }
 
 void WellKnownGuessTest::theMenuAloneSaysNothing()
