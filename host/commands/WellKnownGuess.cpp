@@ -153,8 +153,6 @@ Signs::Signs(const WellKnownCommand &command)
         if (!text.contains(QLatin1Char(' ')))
             mentions.insert(text);
     }
-    if (isZoom)
-        mentions.insert(QStringLiteral("zoom"));
 }
 
 // Takes milliseconds the first time, so only what compares actions asks for it.

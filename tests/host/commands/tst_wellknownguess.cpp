@@ -62,6 +62,7 @@ private Q_SLOTS:
     void aButtonIsNoFileCommandByItsCaption();
     void aShortcutInALaterMenuIsDoubtful();
     void aPartOfTheWindowHasNoFileCommands();
+    void aBarInsideTheWindowIsNoPart();
     void onlyFileCommandsAreAtHomeInTheFirstMenu();
     void aDoubtfulShortcutCountsLittle();
     void aWordOfOneCharacterIsMentioned();
@@ -111,7 +112,8 @@ void WellKnownGuessTest::initTestCase()
                      "[16/actions]\nSize=16\nContext=Actions\nType=Fixed\n");
     QImage image(16, 16, QImage::Format_ARGB32);
     image.fill(Qt::red);
-    for (const char *name : {"document-open", "document-save", "edit-copy", "zoom-fit-best", "edit-cut"})
+    for (const char *name :
+         {"document-open", "document-save", "edit-copy", "zoom-fit-best", "edit-cut", "draw-line"})
         QVERIFY(image.save(
             folder.filePath(QStringLiteral("plain/16/actions/%1.png").arg(QLatin1String(name)))));
     QIcon::setThemeSearchPaths({m_themes.path()});
@@ -146,6 +148,8 @@ void WellKnownGuessTest::byOneSign_data()
     row("icon zoom", "", "Fit Drawing", "zoom-fit-best", {}, "ID_ZOOM_BOUNDS", "icon \"zoom-fit-best\"");
     row("name", "actionLine", "x", "", {}, "ID_LINE", "object name \"actionLine\"");
     row("name with noise", "m_drawOffsetAction", "x", "", {}, "ID_OFFSET", "object name");
+    row("icon zoom, another caption", "", "Zoom Drawing", "zoom-fit-best", {}, "ID_ZOOM_BOUNDS",
+        "icon \"zoom-fit-best\"");
     row("name of words", "action_zoom_to_fit", "x", "", {}, "ID_ZOOM_BOUNDS", "object name");
     row("name in lower case", "zoom-extents", "x", "", {}, "ID_ZOOM_BOUNDS", "object name");
     row("name trim", "ModifyTrim", "x", "", {}, "ID_TRIM", "object name");
@@ -490,6 +494,17 @@ void WellKnownGuessTest::aPartOfTheWindowHasNoFileCommands()
         window.menuBar()->addMenu(QStringLiteral("Map"))->addAction(opens);
         QCOMPARE(WellKnownGuess::among(actions()).value(0).action, opens);
     }
+}
+
+void WellKnownGuessTest::aBarInsideTheWindowIsNoPart()
+{
+    QMainWindow window;
+    auto *inside = new QWidget;
+    window.setCentralWidget(inside);
+    auto *bar = new QMenuBar(inside);
+    QAction *file = add(QString(), QStringLiteral("Open Map"), QString(), QKeySequence::Open);
+    bar->addMenu(QStringLiteral("Map"))->addAction(file);
+    QCOMPARE(WellKnownGuess::among(actions()).value(0).action, file);
 }
 
 // The shortcut of any other command counts in every menu.
