@@ -120,7 +120,8 @@ public:
     // `offset` is a Neighbour's.
     [[nodiscard]] const Influence &near(int x, int y, int offset) const
     {
-        return m_influences[static_cast<std::size_t>(placeOf(x, y) + offset)];
+        const int place = placeOf(x, y) + offset;
+        return m_influences[static_cast<std::size_t>(place)];
     }
 
 private:
