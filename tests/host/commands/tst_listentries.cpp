@@ -138,6 +138,13 @@ void ListEntriesTest::menus_data()
         },
         "Close");
     row(
+        "nought behind one",
+        [](Program &p) {
+            p.menu->addAction(QStringLiteral("&1 house"));
+            p.menu->addAction(QStringLiteral("&0 garden"));
+        },
+        "Close");
+    row(
         "a title behind a number, and one that has a number",
         [](Program &p) {
             p.area.addSubWindow(new QWidget)->setWindowTitle(QStringLiteral("House"));
