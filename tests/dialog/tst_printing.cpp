@@ -15,6 +15,7 @@
 #include <QHeaderView>
 #include <QPainter>
 #include <QPrintDialog>
+#include <QPrintEngine>
 #include <QPrinter>
 #include <QProcess>
 #include <QRegularExpression>
@@ -108,6 +109,40 @@ int pagesOf(const QString &file)
     return place < 0 ? 0 : words.value(place + 1).toInt();
 }
 
+// Has one page, and no other.
+class GivingUpPrinter : public QPrinter, public QPrintEngine
+{
+public:
+    explicit GivingUpPrinter(const QString &file)
+    {
+        m_paper.setOutputFormat(QPrinter::PdfFormat);
+        m_paper.setOutputFileName(file);
+        setEngines(this, m_paper.paintEngine());
+    }
+
+    int pagesAskedFor = 0;
+
+    bool newPage() override
+    {
+        ++pagesAskedFor;
+        return false;
+    }
+    void setProperty(PrintEnginePropertyKey key, const QVariant &value) override
+    {
+        m_paper.printEngine()->setProperty(key, value);
+    }
+    QVariant property(PrintEnginePropertyKey key) const override
+    {
+        return m_paper.printEngine()->property(key);
+    }
+    bool abort() override { return false; }
+    int metric(PaintDeviceMetric metric) const override { return m_paper.printEngine()->metric(metric); }
+    QPrinter::PrinterState printerState() const override { return QPrinter::Active; }
+
+private:
+    QPrinter m_paper;
+};
+
 } // namespace
 
 class PrintingTest : public QObject
@@ -151,6 +186,7 @@ private Q_SLOTS:
     void fileHasATitle();
     void iconsArePrintedAsTheyAreWhenOff();
     void printedPagesLook();
+    void aPrinterThatGivesUpIsAskedOnce();
     void cancelledPrintsNothing();
     void realPrintDialog_data();
     void realPrintDialog();
@@ -554,6 +590,7 @@ void PrintingTest::everyPageHasWholeRowsBelowTheHeader()
     const int pages = pagesOf(m_file);
     QCOMPARE(pages > 1, commands > 10);
     int row = 0;
+    int rowsOfTheFirst = 0;
     for (int page = 1; page <= pages; ++page) {
         const QString number = QString::number(page);
         QStringList words =
@@ -576,6 +613,10 @@ void PrintingTest::everyPageHasWholeRowsBelowTheHeader()
         }
         expected.sort();
         QCOMPARE(words, expected);
+        if (page == 1)
+            rowsOfTheFirst = row;
+        else if (longNames == 0 && page < pages)
+            QCOMPARE(row, page * rowsOfTheFirst); // no page has room for another row
     }
     QCOMPARE(row, m_dialog->proxy->rowCount());
 }
@@ -901,6 +942,15 @@ void PrintingTest::printedPagesLook()
     QVERIFY(colors.value(qRgb(0xff, 0xff, 0xff)) > 10000);
     QVERIFY(icon);
     QVERIFY(arrow);
+}
+
+// As when somebody removes the job, or the disk is full.
+void PrintingTest::aPrinterThatGivesUpIsAskedOnce()
+{
+    open(100);
+    GivingUpPrinter printer(m_file);
+    printBindingList(*documentOf(m_dialog->proxy), printer);
+    QCOMPARE(printer.pagesAskedFor, 1);
 }
 
 void PrintingTest::cancelledPrintsNothing()
