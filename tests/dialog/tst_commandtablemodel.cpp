@@ -378,8 +378,10 @@ void CommandTableModelTest::resetToDefaultReadsTheContainerAgain()
     assign(QStringLiteral("A"), 1);
     m_host->commands.addCommand(QStringLiteral("F"), QStringLiteral("f"), QStringLiteral("Name F"));
     MgDonutDataContainer::instance()->init();
+    QSignalSpy begin(m_dialog->model, &QAbstractItemModel::modelAboutToBeReset);
     QSignalSpy spy(m_dialog->model, &QAbstractItemModel::modelReset);
     m_dialog->model->resetToDefault();
+    QCOMPARE(begin.count(), 1);
     QCOMPARE(spy.count(), 1);
     QCOMPARE(m_dialog->model->rowCount(), 6);
     QCOMPARE(bytes(QStringLiteral("A")), Bytes(0, 0));
