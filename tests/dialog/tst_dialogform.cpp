@@ -519,6 +519,8 @@ void DialogFormTest::aLongNoneWidensItUntilItFits()
     const int inside = widthForText(*editor);
     const int none = editor->fontMetrics().horizontalAdvance(dialog.directionList.item(0)->text());
     QCOMPARE(inside, none + 1); // of its margin of two pixels, the grid takes one
+    QCOMPARE(dialog.ui.description_groupBox->minimumWidth(), dialog.width() - 2 * 11);
+    QCOMPARE(dialog.ui.description_label->width(), dialog.width() - 2 * 11 - (396 - 371));
 }
 
 void DialogFormTest::longMenuCaptionsDoNotWidenIt()
