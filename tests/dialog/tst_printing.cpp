@@ -1008,6 +1008,7 @@ void PrintingTest::realPrintDialog()
     driver.start(1);
     tests::click(m_dialog->ui.print_pushButton);
     QCOMPARE(seen, 1);
+    QVERIFY(!m_dialog->findChild<QDialog *>()); // none is left
     QCOMPARE(QFile::exists(m_file), printed);
     if (printed)
         QVERIFY(wordsOf(m_file).contains(QStringLiteral("Offset")));
