@@ -21,6 +21,7 @@
 #include <QRegularExpression>
 #include <QScopeGuard>
 #include <QStandardItemModel>
+#include <QStyledItemDelegate>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextCursor>
@@ -196,6 +197,7 @@ private Q_SLOTS:
 
     void tableViewFillsTheArea();
     void tableViewPaintsRowsThatAreScrolledAway();
+    void tableViewPaintsEachCellOnce();
     void tableViewWithoutRows();
     void tableViewWithoutModel();
 
@@ -1106,6 +1108,28 @@ void PrintingTest::tableViewPaintsRowsThatAreScrolledAway()
     painter.end();
     for (const int row : {0, 50, 99})
         QVERIFY(std::abs(image.pixelColor(25, row * 10 + 5).hue() - row * 3) <= 1);
+}
+
+void PrintingTest::tableViewPaintsEachCellOnce()
+{
+    class Delegate : public QStyledItemDelegate
+    {
+    public:
+        mutable QStringList cells;
+        void paint(QPainter *, const QStyleOptionViewItem &, const QModelIndex &index) const override
+        {
+            cells.append(QStringLiteral("%1,%2").arg(index.row()).arg(index.column()));
+        }
+    };
+    QStandardItemModel model(2, 2);
+    Delegate delegate;
+    PrintTableView view;
+    view.setModel(&model);
+    view.setItemDelegate(&delegate);
+    QImage image(100, 100, QImage::Format_RGB32);
+    QPainter painter(&image);
+    view.printTable(&painter, image.rect());
+    QCOMPARE(delegate.cells.join(QLatin1Char(' ')), QStringLiteral("0,0 0,1 1,0 1,1"));
 }
 
 // The vertical scale stays infinite.
