@@ -266,8 +266,8 @@ void CatalogueFileTest::documentNames_data()
          {"/home/me/house.dxf", "1 /home/me/house", "&2: ~/house", "Open \"/tmp/my house/plan\"",
           "C:\\Drawings\\house.dwg", "file:///home/x", "house.dxf", "1 my house.FCStd",
           "&3. house.dxf *", "house.dxf [read only]", "Größe.dxf (2)", "plan.v2.kicad_pcb.svg",
-          "“house.dxf”", "„house.dxf“ *", "Fermer « house.dxf »", "「house.dxf」",
-          "Öffne „/tmp/house/plan“"})
+          "план.dxf", "図面.dxf", "“house.dxf”", "„house.dxf“ *", "Fermer « house.dxf »",
+          "「house.dxf」", "Öffne „/tmp/house/plan“"})
         row(caption, true);
     for (const char *caption :
          {"Line", "Open...", "Save as…", "On / Off", "Line/Arc", "Draw/Line/2 Points", "Version 2.0",
