@@ -41,9 +41,8 @@ bool MgCompositorProbe::isCompositing()
 void MgCompositorProbe::connectToServer()
 {
     int screen = 0;
-    m_connection = xcb_connect(nullptr, &screen); // never null, it may hold an error instead
-    if (xcb_connection_has_error(m_connection))
-        return;
+    // Never null. It may hold an error instead; then every answer is null.
+    m_connection = xcb_connect(nullptr, &screen);
     const QByteArray name = "_NET_WM_CM_S" + QByteArray::number(screen);
     const QScopedPointer<xcb_intern_atom_reply_t, QScopedPointerPodDeleter> atom(xcb_intern_atom_reply(
         m_connection,

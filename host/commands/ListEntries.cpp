@@ -75,9 +75,10 @@ QString withoutStep(const QAction &action, const QString &caption)
     const bool isIt = (!shortcut.isEmpty() && keys.contains(shortcut)) || action.inherits("QUndoAction");
     if (!isIt)
         return caption;
-    const QString plain = caption.simplified() + QLatin1Char(' ');
+    const QString plain = caption.simplified() + QLatin1Char(' '); // so that something follows a word
+    const QString folded = foldedCaption(plain);
     for (const QString &word : words) {
-        if (foldedCaption(plain).startsWith(word) && !plain.at(word.size()).isLetterOrNumber())
+        if (folded.startsWith(word) && !plain.at(word.size()).isLetterOrNumber())
             return plain.left(word.size());
     }
     return caption;

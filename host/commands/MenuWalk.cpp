@@ -47,7 +47,7 @@ void MenuWalk::walk(QWidget *widget, const Place &place)
     m_paths.insert(place.path);
     m_watcher.watch(widget);
     const QList<QAction *> actions = widget->actions();
-    const auto kind = ListEntries::kindOf(place.way.value(place.way.size() - 1));
+    const auto kind = ListEntries::kindOf(place.way.isEmpty() ? QString() : place.way.last());
     const QSet<const QAction *> entries =
         place.isOfList ? QSet<const QAction *>() : m_lists.among(actions, kind);
     for (QAction *action : actions) {

@@ -11,6 +11,14 @@ namespace gesturewidget {
 
 namespace {
 
+// Quotation marks of all languages take the place of each %1. Some open in one language and close in
+// another.
+QRegularExpression withMarks(const QString &pattern)
+{
+    return QRegularExpression(pattern.arg(QStringLiteral(R"("'‘’“”„«»「」『』)")),
+                              QRegularExpression::UseUnicodePropertiesOption);
+}
+
 // Most captions have none of these, and menus are read while people wait.
 bool mayNameADocument(const QString &caption)
 {
@@ -26,13 +34,12 @@ bool namesADocument(const QString &caption)
     if (!mayNameADocument(caption))
         return false;
     // "/home/me/", "~/", "C:\", "file://" at the beginning of a word. Not "On / Off".
-    static const QRegularExpression path(
-        QStringLiteral(R"((^|[\s"'“„«‘「『(\[:=])(/[^/\s]+/|~/|[A-Za-z]:[\\/]|file:/))"));
+    static const QRegularExpression path =
+        withMarks(QStringLiteral(R"((^|[\s%1(\[:=])(/[^/\s]+/|~/|[A-Za-z]:[\\/]|file:/))"));
     // A word, a dot and an ending of 2 to 7 letters or digits. Behind it only quotation marks, a mark
     // such as "*" or words in brackets. Not "Save as..." nor "Version 2.0".
-    static const QRegularExpression file(
-        QStringLiteral(R"(\w\.[A-Za-z][A-Za-z0-9]{1,6}\s*["'”“’»」』]*\s*([*•]|\[.*\]|\(.*\))?\s*$)"),
-        QRegularExpression::UseUnicodePropertiesOption);
+    static const QRegularExpression file =
+        withMarks(QStringLiteral(R"(\w\.[A-Za-z][A-Za-z0-9]{1,6}\s*[%1]*\s*([*•]|\[.*\]|\(.*\))?\s*$)"));
     return path.match(caption).hasMatch() || file.match(caption).hasMatch();
 }
 
@@ -40,10 +47,9 @@ QString withoutDocument(const QString &caption)
 {
     if (!mayNameADocument(caption))
         return caption;
-    // An apostrophe inside a word is no quotation mark.
-    static const QRegularExpression quoted(
-        QStringLiteral(R"(\s*(?:(?<!\w)['‘]|["“”„«「『])([^"'“”»’」』]+)["'“”»’」』])"),
-        QRegularExpression::UseUnicodePropertiesOption);
+    // A mark between two letters is an apostrophe.
+    static const QRegularExpression quoted =
+        withMarks(QStringLiteral(R"(\s*(?!\b['’]\b)[%1]((?:[^%1]|\b['’]\b)+)[%1])"));
     QRegularExpressionMatchIterator matches = quoted.globalMatch(caption);
     while (matches.hasNext()) {
         const QRegularExpressionMatch match = matches.next();

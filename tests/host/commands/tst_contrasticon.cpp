@@ -13,6 +13,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 using gesturewidget::contrastIcon;
@@ -73,6 +74,13 @@ int readablePart(const QImage &shape, const QImage &picture, const QColor &plate
         }
     }
     return outline == 0 ? 0 : 100 * readable / outline;
+}
+
+QImage emptyShape(int width, int height)
+{
+    QImage shape(width, height, QImage::Format_ARGB32);
+    shape.fill(Qt::transparent);
+    return shape;
 }
 
 // One pixel of a halo of two colours.
@@ -413,8 +421,7 @@ void ContrastIconTest::softPixelsHaveAWholeHalo()
 {
     QFETCH(int, alpha);
     QFETCH(int, halo);
-    QImage shape(20, 20, QImage::Format_ARGB32);
-    shape.fill(Qt::transparent);
+    QImage shape = emptyShape(20, 20);
     shape.setPixel(10, 10, qRgba(0, 0, 0, alpha));
     const QImage seen = gesturewidget::withHalo(shape, 1);
     for (const QPoint &beside : {QPoint(9, 10), QPoint(11, 10), QPoint(10, 9), QPoint(10, 11)})
@@ -452,8 +459,7 @@ void ContrastIconTest::theOutlineIsWhatHasTheOutsideBeside()
     QFETCH(int, own);
     QFETCH(bool, isOutline);
     const QPoint middle(10, 10);
-    QImage shape(20, 20, QImage::Format_ARGB32);
-    shape.fill(Qt::transparent);
+    QImage shape = emptyShape(20, 20);
     QPainter(&shape).fillRect(QRect(middle - QPoint(1, 1), QSize(3, 3)), QColor(0x80, 0x80, 0x80));
     shape.setPixel(middle, qRgba(255, 255, 255, own));
     shape.setPixel(middle + side, qRgba(0x80, 0x80, 0x80, beside));
@@ -481,8 +487,7 @@ void ContrastIconTest::oneColourIsForNearlyAll()
     QFETCH(bool, isForAll);
     constexpr int kApart = 10;
     const QColor opposite = colour == Qt::black ? Qt::white : Qt::black;
-    QImage shape((others + 1) * kApart, kApart, QImage::Format_ARGB32);
-    shape.fill(Qt::transparent);
+    QImage shape = emptyShape((others + 1) * kApart, kApart);
     for (int i = 0; i <= others; ++i)
         shape.setPixelColor(kApart * i + 5, 5, i == 0 ? opposite : colour);
     const QImage seen = gesturewidget::withHalo(shape, 1);
@@ -496,8 +501,7 @@ void ContrastIconTest::pixelsAtTheBorderCount()
     constexpr int kSide = 40;
     constexpr int kEnd = kSide - 1;
     for (const QPoint &place : {QPoint(0, 20), QPoint(20, 0), QPoint(kEnd, 20), QPoint(20, kEnd)}) {
-        QImage shape(kSide, kSide, QImage::Format_ARGB32);
-        shape.fill(Qt::transparent);
+        QImage shape = emptyShape(kSide, kSide);
         for (int i = 0; i < 8; ++i)
             shape.setPixelColor(4 + 4 * i, 4 + 4 * i, Qt::black);
         shape.setPixelColor(place, Qt::white);
@@ -526,13 +530,13 @@ void ContrastIconTest::eachPixelOfTheHaloIsAsTheRuleSays()
     constexpr int kShapes = 100;
     constexpr int kSide = 9;
     constexpr qreal kAlike = 1e-4; // sums that choose neither colour
+    constexpr std::array<int, 6> kAlphas{1, 40, 127, 128, 255, 255};
     QRandomGenerator random(1);
     int choices = 0;
     for (int i = 0; i < kShapes; ++i) {
-        QImage shape(kSide, kSide, QImage::Format_ARGB32);
-        shape.fill(Qt::transparent);
+        QImage shape = emptyShape(kSide, kSide);
         for (int pixel = 0; pixel < 12; ++pixel) {
-            const int alpha = QVector<int>{1, 40, 127, 128, 255, 255}.at(random.bounded(6));
+            const int alpha = kAlphas.at(random.bounded(quint32(kAlphas.size())));
             const int grey = pixel % 2 ? 255 : 0;
             shape.setPixel(random.bounded(kSide), random.bounded(kSide), qRgba(grey, grey, grey, alpha));
         }
@@ -544,9 +548,9 @@ void ContrastIconTest::eachPixelOfTheHaloIsAsTheRuleSays()
         const QImage seen = gesturewidget::withHalo(shape, ratio);
         for (int y = 0; y < kSide; ++y) {
             for (int x = 0; x < kSide; ++x) {
-                const HaloPixel expected = haloPixelAt(shape, ratio, x, y);
-                if (qAlpha(shape.pixel(x, y)) > 51) // hidden by the shape
+                if (qAlpha(shape.pixel(x, y)) > 51) // the shape hides it
                     continue;
+                const HaloPixel expected = haloPixelAt(shape, ratio, x, y);
                 const QColor pixel = seen.pixelColor(x, y);
                 QVERIFY(std::abs(pixel.alpha() - 255 * expected.alpha) <= 1);
                 if (pixel.alpha() < 8 || std::abs(expected.forLight - expected.forDark) < kAlike)
@@ -578,8 +582,7 @@ void ContrastIconTest::allSidesOfAShapeCount()
     const QColor opposite = colour == Qt::black ? Qt::white : Qt::black;
     constexpr int kLong = 104;
     constexpr int kEnd = 2;
-    QImage shape(10, kLong, QImage::Format_ARGB32);
-    shape.fill(Qt::transparent);
+    QImage shape = emptyShape(10, kLong);
     for (int y = kEnd; y < kLong - kEnd; ++y) {
         const bool isEnd = y == kEnd || y == kLong - kEnd - 1;
         for (int x = 2; x < 8; ++x)
@@ -608,8 +611,7 @@ void ContrastIconTest::theHaloIsReadable()
 {
     QFETCH(int, grey);
     QFETCH(int, halo);
-    QImage shape(kRingIconSide, kRingIconSide, QImage::Format_ARGB32);
-    shape.fill(Qt::transparent);
+    QImage shape = emptyShape(kRingIconSide, kRingIconSide);
     QPainter(&shape).fillRect(6, 6, 8, 8, QColor(grey, grey, grey));
     const QRgb beside = gesturewidget::withHalo(shape, 1).pixel(5, 10);
     QCOMPARE(qAlpha(beside), 255);
@@ -643,8 +645,7 @@ void ContrastIconTest::contrastIsThatOfTheGuidelines()
 
 void ContrastIconTest::aHaloOfTwoColoursFollowsTheNearest()
 {
-    QImage shape(kRingIconSide, kRingIconSide, QImage::Format_ARGB32);
-    shape.fill(Qt::transparent);
+    QImage shape = emptyShape(kRingIconSide, kRingIconSide);
     QPainter painter(&shape);
     painter.fillRect(6, 6, 4, 8, QColor(0x4d, 0x4d, 0x4d)); // a little better with white than with black
     painter.fillRect(10, 6, 4, 8, QColor(0xe6, 0xe6, 0xe6));
@@ -673,8 +674,7 @@ void ContrastIconTest::nearPixelsCountMore()
     QFETCH(int, count);
     QFETCH(QColor, halo);
     const QPoint place(30, 30);
-    QImage shape(60, 60, QImage::Format_ARGB32);
-    shape.fill(Qt::transparent);
+    QImage shape = emptyShape(60, 60);
     const QPoint around[] = {{distance, 0}, {0, distance}, {0, -distance}, {-distance, 0}};
     for (int i = 0; i < count; ++i)
         shape.setPixelColor(place + around[i], Qt::white);

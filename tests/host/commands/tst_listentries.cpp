@@ -20,6 +20,7 @@
 #include <QUndoStack>
 
 #include <functional>
+#include <vector>
 
 using gesturewidget::ActionItem;
 using gesturewidget::CommandCatalogue;
@@ -97,25 +98,22 @@ void ListEntriesTest::menus_data()
     const auto row = [](const char *name, const Fill &fill, const char *commands) {
         QTest::newRow(name) << fill << QString::fromUtf8(commands);
     };
-    const auto entry = [](const char *caption) {
-        return [caption](Program &p) { p.menu->addAction(QString::fromUtf8(caption)); };
+    const auto entries = [](const std::vector<const char *> &captions) {
+        return [captions](Program &p) {
+            for (const char *caption : captions)
+                p.menu->addAction(QString::fromUtf8(caption));
+        };
     };
-    row("a command", entry("&Tile"), "Close | Tile");
-    row("a document", entry("plan.dxf"), "Close");
-    row("a path", entry("/home/anna/plan"), "Close");
+    row("a command", entries({"&Tile"}), "Close | Tile");
+    row("a document", entries({"plan.dxf"}), "Close");
+    row("a path", entries({"/home/anna/plan"}), "Close");
     row(
         "a document with a name of its own",
         [](Program &p) {
             p.menu->addAction(QStringLiteral("plan.dxf"))->setObjectName(QStringLiteral("recent1"));
         },
         "Close");
-    row(
-        "numbers that begin with one",
-        [](Program &p) {
-            p.menu->addAction(QStringLiteral("&1 house"));
-            p.menu->addAction(QStringLiteral("&2 garden"));
-        },
-        "Close");
+    row("numbers that begin with one", entries({"&1 house", "&2 garden"}), "Close");
     row(
         "no number",
         [](Program &p) {
@@ -123,27 +121,9 @@ void ListEntriesTest::menus_data()
             p.menu->addAction(QStringLiteral("Tile"))->setData(5);
         },
         "Close | Tile");
-    row(
-        "two lists that begin with one",
-        [](Program &p) {
-            p.menu->addAction(QStringLiteral("&1 house"));
-            p.menu->addAction(QStringLiteral("&1 garden"));
-        },
-        "Close");
-    row(
-        "numbers that begin with nought",
-        [](Program &p) {
-            p.menu->addAction(QStringLiteral("&0 house"));
-            p.menu->addAction(QStringLiteral("&1 garden"));
-        },
-        "Close");
-    row(
-        "nought behind one",
-        [](Program &p) {
-            p.menu->addAction(QStringLiteral("&1 house"));
-            p.menu->addAction(QStringLiteral("&0 garden"));
-        },
-        "Close");
+    row("two lists that begin with one", entries({"&1 house", "&1 garden"}), "Close");
+    row("numbers that begin with nought", entries({"&0 house", "&1 garden"}), "Close");
+    row("nought behind one", entries({"&1 house", "&0 garden"}), "Close");
     row(
         "a title behind a number, and one that has a number",
         [](Program &p) {
@@ -153,20 +133,8 @@ void ListEntriesTest::menus_data()
             p.menu->addAction(QStringLiteral("12 Garden"));
         },
         "Close");
-    row(
-        "numbers among which are documents",
-        [](Program &p) {
-            p.menu->addAction(QStringLiteral("&1 plan.dxf"));
-            p.menu->addAction(QStringLiteral("&2 garden"));
-        },
-        "Close");
-    row(
-        "numbers that are captions",
-        [](Program &p) {
-            p.menu->addAction(QStringLiteral("&2 Points"));
-            p.menu->addAction(QStringLiteral("&3 Points"));
-            p.menu->addAction(QStringLiteral("1 Stud"));
-        },
+    row("numbers among which are documents", entries({"&1 plan.dxf", "&2 garden"}), "Close");
+    row("numbers that are captions", entries({"&2 Points", "&3 Points", "1 Stud"}),
         "Close | 2 Points | 3 Points | 1 Stud");
     row(
         "numbers of named actions",
@@ -175,7 +143,7 @@ void ListEntriesTest::menus_data()
             p.menu->addAction(QStringLiteral("&2 Points"))->setObjectName(QStringLiteral("point2"));
         },
         "Close | 1 Point | 2 Points");
-    row("the title of the window", entry("plan - Draft"), "Close");
+    row("the title of the window", entries({"plan - Draft"}), "Close");
     row(
         "the title of a dialog",
         [](Program &p) {
@@ -368,6 +336,11 @@ void ListEntriesTest::aCaptionLastsWithoutItsDocument_data()
                                   << QString::fromUtf8("schließen");
     QTest::newRow("German marks at the end")
         << QString::fromUtf8("Schließen von „plan.dxf“") << QString::fromUtf8("Schließen von");
+    QTest::newRow("marks that point inwards")
+        << QString::fromUtf8("»plan.dxf« schließen") << QString::fromUtf8("schließen");
+    QTest::newRow("an apostrophe inside") << QString::fromUtf8("Close “Anna's plan.dxf”") << "Close";
+    QTest::newRow("a typographic apostrophe inside")
+        << QString::fromUtf8("Close ‘Anna’s plan.dxf’") << "Close";
     QTest::newRow("French marks") << QString::fromUtf8("Fermer « plan.dxf »") << "Fermer";
     QTest::newRow("French marks with narrow spaces")
         << QString::fromUtf8("Fermer «\u202fplan.dxf\u202f»") << "Fermer";
