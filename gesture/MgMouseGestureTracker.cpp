@@ -153,8 +153,9 @@ void MgMouseGestureTracker::windUpOverlay(const CHxHitTestInfo &hit)
     MgDonutDialogPVStyleImpl *ring = overlay();
     if (!view || !ring)
         return;
-    const QPoint corner(pressPoint.x() - ring->getSize().width() / 2,
-                        pressPoint.y() - ring->getSize().height() / 2);
-    ring->move(view->mapToGlobal(corner));
+    // Not the corner is mapped but the centre: the ring has the scale of the monitor under the press
+    // point, and the view may have that of another.
+    const QPoint half(ring->getSize().width() / 2, ring->getSize().height() / 2);
+    ring->move(view->mapToGlobal(pressPoint) - half);
     ring->WindUp(document);
 }

@@ -9,14 +9,14 @@ build_packages=(
   libdxflib-dev libx11-dev libxcb1-dev
 )
 desktop_packages=(
-  xvfb openbox picom kwin-x11 xfwm4 dbus-daemon libglib2.0-bin x11-utils x11-xserver-utils xdotool imagemagick python3
-  libxtst-dev
+  xvfb tigervnc-standalone-server openbox picom kwin-x11 xfwm4 dbus-daemon libglib2.0-bin
+  x11-utils x11-xserver-utils xdotool imagemagick python3 libxtst-dev
   fonts-dejavu-core fonts-droid-fallback qt5-style-plugins
 )
 # Only ./test --desks needs these: window managers, Wayland sessions and their input.
 desk_packages=(
   marco mate-desktop-common mate-settings-daemon-common mutter icewm i3-wm awesome fluxbox
-  tigervnc-standalone-server kwin-wayland sway xwayland x11-xkb-utils python3-dbus
+  kwin-wayland sway xwayland x11-xkb-utils python3-dbus
 )
 # Clang builds the tests with sanitizers and those on Qt 6; LLVM has what makes reports readable.
 # LLD links the large programs of the former ten times as fast as the linker that Clang takes otherwise.

@@ -14,6 +14,8 @@
 #
 # DESKTOP_SCREEN        size and depth of the screen (default: 1600x1000x24)
 # DESKTOP_SERVER        the X server: xvfb (default) or tigervnc
+# DESKTOP_MONITORS      places and sizes of monitors, such as "900x1000+0+0 700x800+900+150"; the
+#                       server is tigervnc then (default: one monitor)
 # DESKTOP_WM            the window manager: openbox (default), kwin, xfwm4, marco, mutter,
 #                       icewm, i3, awesome, fluxbox or none; or a Wayland session with
 #                       XWayland: kwin_wayland, mutter_wayland or sway
@@ -92,11 +94,13 @@ unset WAYLAND_DISPLAY XAUTHORITY DISPLAY
 
 # The server chooses a free display and writes its number once it takes connections.
 start_x_server() { # SIZExDEPTH
-    local server
+    local server monitors
+    read -ra monitors <<<"${DESKTOP_MONITORS-}"
+    [ ${#monitors[@]} -eq 0 ] || DESKTOP_SERVER=tigervnc
     case ${DESKTOP_SERVER:-xvfb} in
         xvfb) server=(Xvfb -screen 0 "$1") ;;
         tigervnc) server=(Xtigervnc -geometry "${1%x*}" -depth "${1##*x}" -SecurityTypes None
-            -rfbunixpath "$base/vnc") ;;
+            -rfbport -1 -rfbunixpath "$base/vnc") ;;
         *) fail "unknown X server $DESKTOP_SERVER" ;;
     esac
     setpriv --pdeathsig KILL "${server[@]}" -nolisten tcp -noreset -displayfd 3 \
@@ -105,6 +109,8 @@ start_x_server() { # SIZExDEPTH
     await "the X server" test -s "$base/display"
     DISPLAY=:$(tr -d '[:space:]' <"$base/display")
     export DISPLAY
+    [ ${#monitors[@]} -eq 0 ] || python3 -B "$here/monitors.py" "$base/vnc" "${monitors[@]}" ||
+        fail "the monitors did not come up"
 }
 
 # A window manager is up if the window that it names on the root names itself.

@@ -5,6 +5,8 @@
 
 #include <QCoreApplication>
 #include <QCursor>
+#include <QGuiApplication>
+#include <QScreen>
 #include <QWindow>
 
 namespace tests {
@@ -13,6 +15,7 @@ X11Bench::X11Bench()
     : window(std::make_unique<QMainWindow>())
 {
     bench.host.mainWindow = window.get();
+    bench.view->move(QGuiApplication::screens().constLast()->geometry().topLeft() + QPoint(150, 150));
     input = std::make_unique<ViewInput>(bench);
 }
 

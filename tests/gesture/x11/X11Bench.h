@@ -14,7 +14,7 @@
 namespace tests {
 
 // A GestureBench on a real X server: the view's pointer events go to a tracker, and another
-// client of the server moves the pointer, presses and looks.
+// client of the server moves the pointer, presses and looks. The view is on the last monitor.
 class X11Bench
 {
 public:

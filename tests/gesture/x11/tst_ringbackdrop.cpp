@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QPainter>
 #include <QProcess>
+#include <QScreen>
 #include <QTest>
 
 #include <algorithm>
@@ -88,6 +89,8 @@ private Q_SLOTS:
     void nothingIsBlack();
     void lastFrameToo();
     void backdropIsTakenAnew();
+    void atTheBorderOfTheMonitor_data();
+    void atTheBorderOfTheMonitor();
     void compositorComesAndGoes();
     void theProbeAsksItself();
     void theProbeAsksOnce();
@@ -103,7 +106,8 @@ private:
     void startCompositor();
     void stopCompositor();
     [[nodiscard]] bool isSeenThrough(const QColor &color);
-    [[nodiscard]] QRect place() const;
+    [[nodiscard]] QRect whole() const; // of the ring
+    [[nodiscard]] QRect place() const; // of the part on the screen
     // The number of pixels where the screen is not what a compositor would show. Leaves out the
     // lit sector and the lines between sectors.
     [[nodiscard]] int wrongPixels(const QImage &before, double opacity);
@@ -111,7 +115,7 @@ private:
     std::unique_ptr<X11Bench> m_bench;
     QProcess m_compositor;
     Drawing *m_drawing = nullptr;
-    const QPoint m_centre{200, 200};
+    QPoint m_centre;
 };
 
 void RingBackdropTest::initTestCase()
@@ -129,6 +133,7 @@ void RingBackdropTest::init()
     m_bench->bench.host.commands.groups.clear();
     m_bench->bench.setScheme(4);
     m_drawing = new Drawing(m_bench->bench.view);
+    m_centre = QPoint(200, 200);
     QTRY_VERIFY(m_bench->isViewInPlace());
     m_bench->settle();
 }
@@ -141,9 +146,14 @@ void RingBackdropTest::cleanup()
     QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
 }
 
-QRect RingBackdropTest::place() const
+QRect RingBackdropTest::whole() const
 {
     return {m_bench->global(m_centre) - QPoint(kSize / 2, kSize / 2), QSize(kSize, kSize)};
+}
+
+QRect RingBackdropTest::place() const
+{
+    return whole() & QGuiApplication::primaryScreen()->virtualGeometry();
 }
 
 QImage RingBackdropTest::open()
@@ -166,13 +176,14 @@ void RingBackdropTest::end()
 int RingBackdropTest::wrongPixels(const QImage &before, double opacity)
 {
     const QImage ring(QStringLiteral(":/gesturewidgetimages/Resources/gesture_widget.png"));
-    const QImage wanted = blended(before, ring, opacity);
+    const QPoint cut = place().topLeft() - whole().topLeft();
+    const QImage wanted = blended(before, ring.copy(QRect(cut, place().size())), opacity);
     const QImage found = m_bench->peer.screenAt(place());
     int wrong = 0;
-    for (int y = 0; y < kSize; ++y) {
-        for (int x = 0; x < kSize; ++x) {
-            const double dx = x + 0.5 - kSize / 2.0;
-            const double dy = y + 0.5 - kSize / 2.0;
+    for (int y = 0; y < found.height(); ++y) {
+        for (int x = 0; x < found.width(); ++x) {
+            const double dx = cut.x() + x + 0.5 - kSize / 2.0;
+            const double dy = cut.y() + y + 0.5 - kSize / 2.0;
             const bool inRing = std::hypot(dx, dy) > 60.0;
             // The left quarter with a margin, and the lines between the other quarters.
             const bool lit = inRing && dx < 0 && std::abs(dy) <= -dx + 3.0;
@@ -219,6 +230,32 @@ void RingBackdropTest::backdropIsTakenAnew()
         QTRY_COMPARE(wrongPixels(before, kRingOpacity), 0);
         end();
     }
+}
+
+void RingBackdropTest::atTheBorderOfTheMonitor_data()
+{
+    QTest::addColumn<int>("inside"); // pixels of the press from the border
+    QTest::newRow("inside") << 40;
+    if (QGuiApplication::screens().size() > 1)
+        QTest::newRow("on the monitor beside") << -40;
+}
+
+// One part of the ring is off the monitor, or on the one beside.
+void RingBackdropTest::atTheBorderOfTheMonitor()
+{
+    QFETCH(int, inside);
+    QWidget *view = m_bench->bench.view;
+    const QPoint corner = QGuiApplication::screens().constLast()->geometry().topLeft();
+    view->move(corner + QPoint(-200, 100));
+    QTRY_VERIFY(m_bench->isViewInPlace());
+    m_bench->settle();
+    m_centre = QPoint(view->mapFromGlobal(corner).x() + inside, 200);
+    QVERIFY(view->rect().contains(m_centre));
+    const QImage before = open();
+    QVERIFY(!before.isNull());
+    QTRY_COMPARE(wrongPixels(before, kRingOpacity), 0);
+    end();
+    QTRY_COMPARE(m_bench->peer.screenAt(place()), before);
 }
 
 void RingBackdropTest::startCompositor()
