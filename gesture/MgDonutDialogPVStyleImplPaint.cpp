@@ -54,8 +54,6 @@ QString imagePath(const QString &name)
 QString regionName(const QString &composedName)
 {
     const auto digits = composedName.indexOf(QLatin1Char('_')) + 1;
-    if (composedName.size() < digits + 2)
-        return {};
     const int scheme = composedName.at(digits).digitValue();
     const int index = composedName.at(digits + 1).digitValue();
     if (scheme == 4) {
@@ -112,9 +110,7 @@ void drawText(QPainter *painter, const QString &whole, double rotation, int cutL
 void drawIcon(QPainter *painter, const QIcon &icon)
 {
     const qreal ratio = deviceRatio(*painter);
-    const QPixmap pixmap = qtbridge::pixmapOf(icon, QSize(kIconSize, kIconSize), ratio);
-    if (pixmap.isNull())
-        return;
+    const QPixmap pixmap = qtbridge::pixmapOf(icon, QSize(kIconSize, kIconSize), ratio); // or null
     // An icon without an image of this density is enlarged; any other is painted pixel by pixel.
     if (pixmap.devicePixelRatio() < ratio)
         painter->setRenderHint(QPainter::SmoothPixmapTransform);

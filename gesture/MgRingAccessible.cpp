@@ -5,12 +5,12 @@
 
 #include "gesture/MgDonutDialogPVStyleImpl.h"
 
+#include <mutex>
+
 namespace {
 
-QAccessibleInterface *makeInterface(const QString &className, QObject *object)
+QAccessibleInterface *makeInterface(const QString &, QObject *object)
 {
-    if (className != QLatin1String(MgDonutDialogPVStyleImpl::staticMetaObject.className()))
-        return nullptr;
     auto *ring = qobject_cast<MgDonutDialogPVStyleImpl *>(object);
     return ring ? new MgRingAccessible(ring) : nullptr; // Qt deletes it
 }
@@ -24,9 +24,6 @@ MgRingAccessible::MgRingAccessible(MgDonutDialogPVStyleImpl *ring)
 
 void MgRingAccessible::install()
 {
-    static const bool isInstalled = [] {
-        QAccessible::installFactory(makeInterface);
-        return true;
-    }();
-    static_cast<void>(isInstalled);
+    static std::once_flag isInstalled;
+    std::call_once(isInstalled, QAccessible::installFactory, makeInterface);
 }

@@ -232,6 +232,7 @@ private Q_SLOTS:
     void sectorNumberConvention();
     void distancePlaysNoPart();
     void withoutSectorsNothingIsChosen();
+    void bordersOfTheRangeThatIsKept();
     void everyOffset_data();
     void everyOffset();
 };
@@ -464,6 +465,21 @@ void DonutGeometryTest::withoutSectorsNothingIsChosen()
     PlainDonut donut(0);
     QCOMPARE(donut.sectorAfter(-1, 10, 10), -1);
     QCOMPARE(donut.sectorAfter(2, 10, 10), 2);
+}
+
+// The sectors' own ranges have no border at 360 degrees; a wider one may.
+void DonutGeometryTest::bordersOfTheRangeThatIsKept()
+{
+    PlainDonut donut(4);
+    donut.keepSpan = 180.0;
+    QCOMPARE(donut.sectorAfter(2, -5, 0), 2); // 180 degrees, of 180 to 360
+    QCOMPARE(donut.sectorAfter(2, -5, 1), 1);
+
+    donut.setSectors(8);
+    donut.keepSpan = 130.0;
+    QCOMPARE(donut.getAngle(1e17, -1), 360.0);
+    QCOMPARE(donut.sectorAfter(7, 1e17, -1), 6); // of 340 to 360 and 0 to 110
+    QCOMPARE(donut.sectorAfter(7, 5, -1), 7);
 }
 
 void DonutGeometryTest::everyOffset_data()

@@ -187,9 +187,12 @@ private Q_SLOTS:
     void iconsShowTheirOffState();
     void iconsAreOfTheDevicesRatio_data();
     void iconsAreOfTheDevicesRatio();
+    void denseIconsArePaintedPixelByPixel();
     void imagesAreOfTheDevicesRatio_data();
     void imagesAreOfTheDevicesRatio();
     void imagesAreKeptReadyToPaint();
+    void scaledImagesArePremultipliedOnce();
+    void fiveLargeImagesAreKept();
     void imagesAreSharp_data();
     void imagesAreSharp();
     void wrongValuesDrawNothing();
@@ -596,6 +599,35 @@ void DonutPaintingTest::iconsAreOfTheDevicesRatio()
     }
 }
 
+void DonutPaintingTest::denseIconsArePaintedPixelByPixel()
+{
+    QImage checks(40, 40, QImage::Format_RGB32);
+    for (int y = 0; y < checks.height(); ++y) {
+        for (int x = 0; x < checks.width(); ++x)
+            checks.setPixel(x, y, (x + y) % 2 ? 0xff000000 : 0xffffffff);
+    }
+    PaintedDonut donut(8, 0);
+    for (int sector = 0; sector < 8; ++sector)
+        donut.addIcon(QIcon(QPixmap::fromImage(checks)));
+    std::vector<QPointF> places;
+    for (const Painted &painted : donut.record({}, 2.0)) {
+        if (painted.kind == Painted::Pixmap)
+            places.push_back(painted.transform.map(QPointF(0, 0)));
+    }
+    QCOMPARE(places.size(), std::size_t(8));
+    const QImage picture = donut.picture(2.0);
+    for (const QPointF &place : places) {
+        const QPoint middle = (place * 2).toPoint();
+        for (int y = -15; y < 15; ++y) {
+            for (int x = -15; x < 15; ++x) {
+                const QRgb pixel = picture.pixel(middle + QPoint(x, y));
+                QVERIFY2(pixel == 0xff000000 || pixel == 0xffffffff,
+                         qPrintable(QString::number(pixel, 16)));
+            }
+        }
+    }
+}
+
 void DonutPaintingTest::imagesAreOfTheDevicesRatio_data()
 {
     QTest::addColumn<double>("ratio");
@@ -637,6 +669,37 @@ void DonutPaintingTest::imagesAreKeptReadyToPaint()
     QCOMPARE(image.format(), QImage::Format_ARGB32_Premultiplied); // no other is painted as fast
     QCOMPARE(image, resource(QStringLiteral("gesture_widget")).convertToFormat(image.format()));
     QCOMPARE(images.image(path, 1.0).cacheKey(), image.cacheKey());
+}
+
+void DonutPaintingTest::scaledImagesArePremultipliedOnce()
+{
+    const QString path = QStringLiteral(":/gesturewidgetimages/Resources/gesture_widget.png");
+    const QImage image = MgRingImages().image(path, 1.5);
+    QImage wanted = resource(QStringLiteral("gesture_widget@2x"))
+                        .scaled(375, 375, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                        .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    wanted.setDevicePixelRatio(1.5);
+    QCOMPARE(image, wanted);
+}
+
+void DonutPaintingTest::fiveLargeImagesAreKept()
+{
+    const auto pathOf = [](const char *name) {
+        return QStringLiteral(":/gesturewidgetimages/Resources/%1.png").arg(QLatin1String(name));
+    };
+    MgRingImages images;
+    const auto ask = [&](const char *name) { return images.image(pathOf(name), 3.0).cacheKey(); };
+    const qint64 background = ask("gesture_widget");
+    for (const char *name : {"gestureregion1", "gestureregion2", "gestureregion3", "gestureregion4"})
+        ask(name);
+    QCOMPARE(ask("gesture_widget"), background);
+    // The one that was not needed for longest goes.
+    const qint64 first = ask("gestureregion1");
+    for (const char *name : {"gestureregion5", "gestureregion6", "gestureregion7"})
+        ask(name);
+    QCOMPARE(ask("gestureregion1"), first);
+    ask("gestureregion8");
+    QVERIFY(ask("gesture_widget") != background);
 }
 
 void DonutPaintingTest::imagesAreSharp_data()

@@ -106,6 +106,10 @@ private Q_SLOTS:
     void startChoosesFromWhereThePointerIs();
     void startForgetsTheLastGesture();
     void theNativeWindowBelongsToTheViewsWindow();
+    void aViewWithoutAWindowLeavesTheNativeOne();
+    void otherWindowsMayUseOpenGl_data();
+    void otherWindowsMayUseOpenGl();
+    void otherPlatformsPaintInTheirTime();
     void theProgramsWidgetsGetNoWindowsOfTheirOwn();
     void startFarOutFadesBeforeShowing();
     void releaseAfterAFarStartAccepts();
@@ -368,6 +372,50 @@ void OverlayLifecycleTest::theNativeWindowBelongsToTheViewsWindow()
     QVERIFY(donut.JustStopped());
     m_bench->start(donut);
     QCOMPARE(stateOf(donut), kGesturing);
+    donut.StopGesturing(false);
+}
+
+void OverlayLifecycleTest::aViewWithoutAWindowLeavesTheNativeOne()
+{
+    CountingDonut donut;
+    m_bench->start(donut);
+    donut.StopGesturing(false);
+    QVERIFY(donut.JustStopped());
+    tests::FakeDocument *other = m_bench->openDocument(); // whose view is not shown
+    other->view->setGeometry(m_bench->view->geometry());
+    QVERIFY(!other->view->windowHandle());
+    m_bench->host.documents.active = other;
+    m_bench->start(donut);
+    QCOMPARE(stateOf(donut), kGesturing);
+    QCOMPARE(donut.windowHandle()->transientParent(), m_bench->view->windowHandle());
+    donut.StopGesturing(false);
+}
+
+void OverlayLifecycleTest::otherWindowsMayUseOpenGl_data()
+{
+    QTest::addColumn<bool>("isForced");
+    QTest::newRow("no choice") << false;
+    QTest::newRow("the program paints without") << true;
+}
+
+void OverlayLifecycleTest::otherWindowsMayUseOpenGl()
+{
+    QFETCH(bool, isForced);
+    QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets, isForced);
+    const CountingDonut donut;
+    const bool isForcedNow = QCoreApplication::testAttribute(Qt::AA_ForceRasterWidgets);
+    QCoreApplication::setAttribute(Qt::AA_ForceRasterWidgets, false);
+    QCOMPARE(isForcedNow, isForced);
+}
+
+// Only the X server is known to map a window at once.
+void OverlayLifecycleTest::otherPlatformsPaintInTheirTime()
+{
+    QVERIFY(QGuiApplication::platformName() != QLatin1String("xcb"));
+    CountingDonut donut;
+    m_bench->start(donut);
+    QVERIFY(!donut.testAttribute(Qt::WA_Mapped));
+    QTRY_VERIFY(donut.testAttribute(Qt::WA_Mapped));
     donut.StopGesturing(false);
 }
 
@@ -771,7 +819,9 @@ void OverlayLifecycleTest::stoppingTwiceTouchesTheHostOnce()
     QVERIFY(donut.JustStopped());
     m_bench->host.mode = 9;
     m_bench->view->setCursor(Qt::WaitCursor);
+    m_bench->host.log.clear();
     donut.StopGesturing(false);
+    QCOMPARE(m_bench->host.log.calls, QStringList());
     QVERIFY(!donut.accepted);
     QCOMPARE(m_bench->host.mode, qint16(9));
     QCOMPARE(m_bench->view->cursor().shape(), Qt::WaitCursor);

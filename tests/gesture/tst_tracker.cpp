@@ -40,6 +40,8 @@ private Q_SLOTS:
     void disabledDoesNothing();
     void suppressionIsAskedInOrder_data();
     void suppressionIsAskedInOrder();
+    void aQueryThatThrowsStartsNothing_data();
+    void aQueryThatThrowsStartsNothing();
     void suppressedUpdateIsIgnored_data();
     void suppressedUpdateIsIgnored();
     void suppressedUpdateKeepsTheStop();
@@ -171,6 +173,34 @@ void TrackerTest::suppressionIsAskedInOrder()
     m_hit->suppressed[reason] = true;
     press(QPoint(10, 10));
     QCOMPARE(m_hit->log.calls, QStringList(kSuppression.mid(0, reason + 1)));
+}
+
+void TrackerTest::aQueryThatThrowsStartsNothing_data()
+{
+    QTest::addColumn<QString>("query");
+    for (const QString &query : kSuppression)
+        QTest::newRow(qPrintable(query)) << query;
+    for (const char *query : {"Press", "Motion", "ButtonHeld"})
+        QTest::newRow(query) << QString::fromLatin1(query);
+}
+
+void TrackerTest::aQueryThatThrowsStartsNothing()
+{
+    QFETCH(QString, query);
+    const bool isOfDrag = query == QLatin1String("Motion") || query == QLatin1String("ButtonHeld");
+    m_hit->log.throwOn = query;
+    press(QPoint(10, 10));
+    QCOMPARE(m_tracker->tracking, isOfDrag);
+    // Each would be a drag if the host could say so.
+    m_hit->log.throwOn.clear();
+    press(QPoint(10, 10));
+    m_hit->log.throwOn = query;
+    m_hit->position = QPoint(90, 90);
+    m_hit->press = false;
+    m_hit->motion = query != QLatin1String("Motion");
+    m_hit->buttonHeld = query != QLatin1String("ButtonHeld");
+    update();
+    QCOMPARE(!m_tracker->donut.isNull(), query == QLatin1String("Press"));
 }
 
 void TrackerTest::suppressedUpdateIsIgnored_data()

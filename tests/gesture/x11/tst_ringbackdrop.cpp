@@ -92,6 +92,7 @@ private Q_SLOTS:
     void atTheBorderOfTheMonitor_data();
     void atTheBorderOfTheMonitor();
     void compositorComesAndGoes();
+    void offEveryMonitor();
     void theProbeAsksItself();
     void theProbeAsksOnce();
     void theProbeFindsNoServer();
@@ -256,6 +257,17 @@ void RingBackdropTest::atTheBorderOfTheMonitor()
     QTRY_COMPARE(wrongPixels(before, kRingOpacity), 0);
     end();
     QTRY_COMPARE(m_bench->peer.screenAt(place()), before);
+}
+
+void RingBackdropTest::offEveryMonitor()
+{
+    tests::CountingDonut ring;
+    m_bench->bench.start(ring, QPoint(-3000, -3000));
+    QVERIFY(!QGuiApplication::screenAt(ring.geometry().center()));
+    QVERIFY(ring.gesturing);
+    ring.StopGesturing(false);
+    m_bench->bench.releaseIfPressed();
+    m_bench->settle();
 }
 
 void RingBackdropTest::startCompositor()
