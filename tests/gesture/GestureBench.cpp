@@ -45,7 +45,6 @@ GestureBench::GestureBench()
                                  QStringLiteral("Tip of ") + upper);
     }
     document = host.documents.open();
-    delete document->view;
     makeView();
     setScheme(4);
     setEnabled(true);
@@ -57,13 +56,14 @@ GestureBench::~GestureBench()
     releaseIfPressed();
 }
 
-void GestureBench::makeView()
+void GestureBench::makeView(const QPoint &corner)
 {
+    delete document->view;
     view = new NotingView;
     // Views of programs have it on. Otherwise Qt drops moves without a button.
     view->setMouseTracking(true);
     document->view = view;
-    view->setGeometry(150, 150, 400, 400);
+    view->setGeometry(QRect(corner, QSize(400, 400)));
     view->show();
     QCoreApplication::processEvents();
     if (!view->windowHandle()->isExposed() && !QTest::qWaitForWindowExposed(view))

@@ -79,8 +79,8 @@ public:
 
     // Does nothing if the button is up.
     void releaseIfPressed();
-    // Gives the document another view, after its view was destroyed.
-    void makeView();
+    // Gives the document another view, here on the screen, and destroys the one that it has.
+    void makeView(const QPoint &corner = QPoint(150, 150));
 
     // Arms and starts a gesture with its centre and the pointer here.
     void start(MgDonutDialogPVStyleImpl &donut, const QPoint &centre = QPoint(200, 200));

@@ -226,16 +226,21 @@ void HostInsideCallsTest::aRingThatDiesWhileBlockedHasSeenTheEvent()
 void HostInsideCallsTest::nothingIsWrittenIntoADestroyedRing_data()
 {
     QTest::addColumn<int>("steps"); // before the one in which it dies
-    QTest::newRow("arming") << 0;
-    QTest::newRow("starting") << 1;
-    QTest::newRow("moving") << 2;
-    QTest::newRow("choosing") << 3;
-    QTest::newRow("stopping") << 4;
+    QTest::addColumn<bool>("losesView"); // at the same time
+    for (const bool losesView : {false, true}) {
+        const char *how = losesView ? ", and the view is lost" : "";
+        QTest::addRow("arming%s", how) << 0 << losesView;
+        QTest::addRow("starting%s", how) << 1 << losesView;
+        QTest::addRow("moving%s", how) << 2 << losesView;
+        QTest::addRow("choosing%s", how) << 3 << losesView;
+        QTest::addRow("stopping%s", how) << 4 << losesView;
+    }
 }
 
 void HostInsideCallsTest::nothingIsWrittenIntoADestroyedRing()
 {
     QFETCH(int, steps);
+    QFETCH(bool, losesView);
     using Step = std::function<void(MgDonutDialogPVStyleImpl &)>;
     const std::array<Step, 5> all{
         [this](auto &donut) { arm(donut); },
@@ -250,7 +255,11 @@ void HostInsideCallsTest::nothingIsWrittenIntoADestroyedRing()
         for (int step = 0; step < steps; ++step)
             all.at(std::size_t(step))(*donut);
         {
-            const FakeFault death(calls, [&donut] { delete donut; });
+            const FakeFault death(calls, [&] {
+                delete donut;
+                if (losesView)
+                    delete m_bench->view;
+            });
             all.at(std::size_t(steps))(*donut);
             isReached = death.wasReached();
         }

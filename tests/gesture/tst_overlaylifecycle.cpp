@@ -918,6 +918,7 @@ void OverlayLifecycleTest::closingCancels()
 
     QVERIFY(donut.JustStopped());
     m_bench->start(donut);
+    QVERIFY(donut.windowHandle()->flags().testFlag(Qt::BypassWindowManagerHint));
     donut.reject();
     QCOMPARE(stateOf(donut), kStopped);
     QVERIFY(!donut.accepted);

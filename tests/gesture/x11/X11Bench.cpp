@@ -11,11 +11,16 @@
 
 namespace tests {
 
-X11Bench::X11Bench()
+QPoint onTheLastMonitor()
+{
+    return QGuiApplication::screens().constLast()->geometry().topLeft() + QPoint(150, 150);
+}
+
+X11Bench::X11Bench(const QPoint &corner)
     : window(std::make_unique<QMainWindow>())
 {
     bench.host.mainWindow = window.get();
-    bench.view->move(QGuiApplication::screens().constLast()->geometry().topLeft() + QPoint(150, 150));
+    bench.makeView(corner);
     input = std::make_unique<ViewInput>(bench);
 }
 

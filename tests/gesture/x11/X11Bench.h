@@ -13,12 +13,16 @@
 
 namespace tests {
 
+// The usual place of the view.
+[[nodiscard]] QPoint onTheLastMonitor();
+
 // A GestureBench on a real X server: the view's pointer events go to a tracker, and another
-// client of the server moves the pointer, presses and looks. The view is on the last monitor.
+// client of the server moves the pointer, presses and looks.
 class X11Bench
 {
 public:
-    X11Bench();
+    // The view is here, for Qt.
+    explicit X11Bench(const QPoint &corner = onTheLastMonitor());
     ~X11Bench();
 
     // Presses the right button at a place in the view. Positions are pixels of the view.

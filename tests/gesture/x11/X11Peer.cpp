@@ -85,6 +85,12 @@ QSize X11Peer::sizeOf(unsigned long window)
     return {attributes.width, attributes.height};
 }
 
+void X11Peer::moveWindow(unsigned long window, const QPoint &global)
+{
+    XMoveWindow(m_display, window, global.x(), global.y());
+    XFlush(m_display);
+}
+
 QColor X11Peer::colorAt(const QPoint &global)
 {
     const QImage image = screenAt(QRect(global, QSize(1, 1)));

@@ -35,6 +35,8 @@ public:
     [[nodiscard]] bool isPointerGrabbed();
     [[nodiscard]] bool isKeyboardGrabbed();
 
+    // Moves a window, as a person does who drags its title bar.
+    void moveWindow(unsigned long window, const QPoint &global);
     // The top left corner of a window, as the server has it.
     [[nodiscard]] QPoint originOf(unsigned long window);
     // The size of a window, as the server has it.

