@@ -158,7 +158,7 @@ void MgDonutDialogPVStyleImpl::TryStart(const QPoint &)
     // The pointer may already be anywhere. If it is far out, the fading runs here, before the ring
     // is visible, and the next move ends the gesture.
     mousePositionChanged(pointer.x() - origin.x(), origin.y() - pointer.y());
-    bypassWindowManager(); // Qt 6 makes a new window after somebody closed the ring
+    bypassWindowManager(); // somebody may have closed the window, and Qt makes a new one
     followWindowOf(*view);
     takeBackdrop();
     setVisible(true);
@@ -334,7 +334,7 @@ void MgDonutDialogPVStyleImpl::tell(const QString &text)
 
 void MgDonutDialogPVStyleImpl::bypassWindowManager()
 {
-    if (windowHandle() && windowHandle()->flags().testFlag(Qt::BypassWindowManagerHint))
+    if (internalWinId() && windowHandle()->flags().testFlag(Qt::BypassWindowManagerHint))
         return;
     // A window manager would give the ring the focus and a task-bar entry, push it away from
     // the edges of the screen or hide it as a tool of an inactive program. It learns of a

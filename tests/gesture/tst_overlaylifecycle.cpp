@@ -913,6 +913,7 @@ void OverlayLifecycleTest::closingCancels()
 
     QVERIFY(donut.JustStopped());
     m_bench->start(donut);
+    QVERIFY(donut.windowHandle()->flags().testFlag(Qt::BypassWindowManagerHint));
     donut.windowHandle()->close();
     QTRY_COMPARE(stateOf(donut), kStopped);
 

@@ -84,8 +84,8 @@ void RingScalesTest::ringLiesOnThePressPoint()
     QFETCH(QPoint, press);
     QFETCH(int, ringScale);
     // On the monitor that has most of the view later, so that Qt scales it once.
-    m_bench = std::make_unique<X11Bench>(QGuiApplication::screens()[viewScale - 1]->geometry().topLeft()
-                                         + QPoint(30, 40));
+    m_bench = std::make_unique<X11Bench>(
+        QGuiApplication::screens().at(viewScale - 1)->geometry().topLeft() + QPoint(30, 40));
     X11Peer &peer = m_bench->peer;
     const QWidget *view = m_bench->bench.view;
     QTRY_COMPARE(peer.sizeOf(view->winId()), QSize(400, 400) * viewScale);
