@@ -5,6 +5,7 @@
 """Tests scripts/flakes with a build folder of small tests."""
 
 import subprocess
+import sys
 import tempfile
 import unittest
 from pathlib import Path
@@ -83,6 +84,35 @@ class Flakes(unittest.TestCase):
         self.flakes("--times", "1")
         self.flakes("--continue", "--times", "3")
         self.assertEqual(self.runs("good.runs"), 6)
+
+    def test_a_test_that_changed_begins_anew(self):
+        script = self.build / "good.py"
+        runs = self.build / "good.runs"
+        results = self.build / "kept.json"
+        (self.build / "CTestTestfile.cmake").write_text(
+            f'add_test(good "{sys.executable}" "-B" "{script}")\n', encoding="utf-8")
+        source = f"with open({str(runs)!r}, 'a') as file:\n    print(file=file)\n"
+        for change, expected in (("", 4), ("", 4), ("# changed\n", 8), ("# changed\n", 8)):
+            script.write_text(source + change, encoding="utf-8")
+            _, lines = self.flakes("--continue", "--results", results)
+            self.assertEqual(self.runs("good.runs"), expected)
+            self.assertIn("1 of 1 tests 2 times quiet, 1 of them 2 times beside", lines[-1])
+        # What was counted of it before it changed does not count.
+        script.write_text(source, encoding="utf-8")
+        _, lines = self.flakes("--continue", "--results", results, "--minutes", "0.000001")
+        self.assertIn("0 of 0 runs failed", lines[-1])
+
+    def test_the_results_have_lines_of_their_own(self):
+        self.offer(good="true", bad="false")
+        results = self.build / "kept.json"
+        self.flakes("--results", results)
+        self.assertEqual(results.read_text(encoding="utf-8"), """{
+"bad busy": {"runs": 2, "failures": 2, "digest": ""},
+"bad quiet": {"runs": 2, "failures": 2, "digest": ""},
+"good busy": {"runs": 2, "failures": 0, "digest": ""},
+"good quiet": {"runs": 2, "failures": 0, "digest": ""}
+}
+""")
 
     def test_figures_tell_of_whole_rooms(self):
         self.offer("dialog", good="true")
