@@ -109,8 +109,9 @@ start_x_server() { # SIZExDEPTH
     await "the X server" test -s "$base/display"
     DISPLAY=:$(tr -d '[:space:]' <"$base/display")
     export DISPLAY
-    [ ${#monitors[@]} -eq 0 ] || python3 -B "$here/monitors.py" "$base/vnc" "${monitors[@]}" ||
-        fail "the monitors did not come up"
+    [ ${#monitors[@]} -ne 0 ] || return 0
+    export DESKTOP_VNC=$base/vnc
+    python3 -B "$here/monitors.py" "$DESKTOP_VNC" "${monitors[@]}" || fail "the monitors did not come up"
 }
 
 # A window manager is up if the window that it names on the root names itself.
