@@ -39,15 +39,34 @@ CatalogueMemory::CatalogueMemory(CommandCatalogue &catalogue, const QString &fil
     connect(&m_catalogue, &CommandCatalogue::menusChanged, this, lookLater);
     connect(&m_catalogue, &CommandCatalogue::currentWindowChanged, this, lookLater);
 
-    const QVector<RememberedCommand> commands = m_file.read();
-    for (const RememberedCommand &command : commands)
-        m_known.insert(command.identifier, command);
-    m_catalogue.remember(commands);
-    if (!m_file.isComplete())
-        m_catalogue.trustAll();
+    m_catalogue.remember(read());
 }
 
 CatalogueMemory::~CatalogueMemory() = default;
+
+QVector<RememberedCommand> CatalogueMemory::read()
+{
+    QVector<RememberedCommand> commands = m_file.read();
+    for (const RememberedCommand &command : std::as_const(commands))
+        m_known.insert(command.identifier, command);
+    if (!m_file.isComplete())
+        m_catalogue.trustAll();
+    return commands;
+}
+
+QStringList CatalogueMemory::recall(const QStringList &identifiers)
+{
+    QVector<RememberedCommand> commands = read();
+    const auto isOther = [&identifiers](const RememberedCommand &command) {
+        return !identifiers.contains(command.identifier);
+    };
+    commands.erase(std::remove_if(commands.begin(), commands.end(), isOther), commands.end());
+    m_catalogue.remember(commands);
+    QStringList recalled;
+    for (const RememberedCommand &command : std::as_const(commands))
+        recalled.append(command.identifier);
+    return recalled;
+}
 
 void CatalogueMemory::start()
 {

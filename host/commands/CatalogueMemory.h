@@ -33,6 +33,9 @@ public:
     CatalogueMemory(CommandCatalogue &catalogue, const QString &file);
     ~CatalogueMemory() override;
 
+    // Offers those of these commands that another copy of the program has shown since this one started.
+    // Returns the identifiers of those that are in the file.
+    QStringList recall(const QStringList &identifiers);
     // Call this when the program's menus are complete. Nothing is written before.
     void start();
     // Stops looking, and writes what was seen but not written yet, without icons that are not
@@ -56,13 +59,14 @@ private:
         QIcon icon;
     };
 
+    [[nodiscard]] QVector<RememberedCommand> read();
     void look();
     void draw();
     void write(const QStringList &outlived);
 
     CommandCatalogue &m_catalogue;
     CatalogueFile m_file;
-    QHash<QString, RememberedCommand> m_known; // as the file had them at the start, by identifier
+    QHash<QString, RememberedCommand> m_known; // as the file had them when it was read, by identifier
     QSet<QString> m_compared; // identifiers
     std::vector<News> m_news; // not in the file yet
     std::size_t m_drawn = 0; // of those

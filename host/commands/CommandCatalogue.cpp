@@ -166,14 +166,27 @@ void CommandCatalogue::guessWellKnown()
     }
 }
 
+bool CommandCatalogue::isExpected(const QString &identifier) const
+{
+    const ActionItem *item = m_byName.value(identifier);
+    return item && item->isExpected && !item->isLacking;
+}
+
 void CommandCatalogue::trust(const QStringList &identifiers)
 {
-    for (const QString &identifier : identifiers)
+    for (const QString &identifier : identifiers) {
         m_trusted.insert(identifier);
+        ActionItem *item = m_byName.value(identifier);
+        if (item && item->isLacking && !WellKnownGuess::identifiers().contains(identifier)) {
+            item->isLacking = false;
+            invalidate();
+        }
+    }
 }
 
 void CommandCatalogue::endGuessing()
 {
+    m_hasEndedGuessing = true;
     update();
     const QStringList wellKnown = WellKnownGuess::identifiers();
     QStringList unseen;

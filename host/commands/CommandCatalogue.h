@@ -75,13 +75,16 @@ public:
     // Offers a command from now on in every case, also without an action. `caption` is used if
     // nothing is known about the command.
     void expect(const QString &identifier, const QString &caption);
-    // Goes on offering such a command although nobody has seen it when the menus are complete.
+    // Returns whether expect() was called for that command, and it is still offered.
+    [[nodiscard]] bool isExpected(const QString &identifier) const;
+    // Goes on offering such a command although nobody has seen it when the menus are complete. One that
+    // was dropped for that is offered again.
     void trust(const QStringList &identifiers);
     // The same for every command that somebody has bound, because nobody knows all commands of the
     // program: it changes its menus, or what earlier starts have seen cannot be read.
     void trustAll() { m_trustsAll = true; }
-    // Offers the commands from an earlier start, with the identifiers that they had. Call this
-    // before anything else is known.
+    // Offers the commands from an earlier start, with the identifiers that they had. Those that are
+    // known already stay as they are, so call this before anything else is known.
     void remember(const QVector<RememberedCommand> &commands);
     // Starts guessing the actions of the well-known identifiers that the profile leaves out. Call
     // this before anything is read, because a command keeps its first identifier.
@@ -91,8 +94,10 @@ public:
     void guessWellKnown();
     // The menus are complete: guessed commands without an action are not offered until they have
     // one. The same goes for bound commands that no start has ever seen, because their identifiers
-    // are probably mistyped. Commands that the profile names or that are trusted stay.
+    // are probably mistyped. Commands that the profile names or that are trusted stay. Call it again
+    // when more commands are expected.
     void endGuessing();
+    [[nodiscard]] bool hasEndedGuessing() const { return m_hasEndedGuessing; }
     // The menus show all commands whose identifiers begin so. Bound ones of that kind that no start has
     // ever seen are no longer offered, even after trustAll(). Those that trust() names stay.
     void dropUnseen(const QString &prefix);
@@ -200,6 +205,7 @@ private:
     QSet<QString> m_trusted; // identifiers
     bool m_trustsAll = false;
     bool m_guesses = false;
+    bool m_hasEndedGuessing = false;
     bool m_namesAreStale = false;
     bool m_wasRead = false;
     QTimer m_preparation;

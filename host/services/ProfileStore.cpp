@@ -115,8 +115,10 @@ bool ProfileStore::flush()
 
 void ProfileStore::refresh()
 {
-    if (m_file.hasChanged())
-        m_values = m_file.read();
+    if (!m_file.hasChanged())
+        return;
+    m_values = m_file.read();
+    ++m_revision;
 }
 
 void ProfileStore::refreshUnlessReading()

@@ -41,6 +41,8 @@ public:
     // all the rest.
     void beginReading();
     [[nodiscard]] bool isReading() const { return m_isReading; }
+    // Returns a number. As long as it stays the same, the file has not been read again.
+    [[nodiscard]] int revision() const { return m_revision; }
     // Returns all values, the administrator's included.
     [[nodiscard]] SettingsFile::Values values();
     [[nodiscard]] const SiteSettings &site() const { return m_site; }
@@ -69,6 +71,7 @@ private:
     QString m_key;
     QString m_name; // that nameOf() has returned last
     bool m_isReading = false;
+    int m_revision = 0;
     int m_resetPlace = 0; // how many settings were set one after the other in the order of a reset
     bool m_isScheduled = false;
     bool m_hasComplained = false;

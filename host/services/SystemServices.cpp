@@ -87,15 +87,12 @@ public:
     void expectCommands(const ProgramProfile &profile, const QString &settingsFile)
     {
         memory = std::make_unique<CatalogueMemory>(catalogue, catalogueFileBeside(settingsFile));
-        const SettingsFile::Values settings = profileStore.site().chosenOf(profileStore.values());
-        const QMap<QString, QString> expected = expectedCommands(profile.wellKnownCommands, settings);
-        for (auto it = expected.begin(); it != expected.end(); ++it)
-            catalogue.expect(it.key(), it.value());
+        wellKnown = profile.wellKnownCommands;
+        expectBound({});
         if (profile.changesMenus)
             catalogue.trustAll();
         if (!profile.taskPrefixes.isEmpty())
             dropMistyped(profile.taskPrefixes);
-        catalogue.trust(trustedCommands(settings, profileStore.site().given()));
         QObject::connect(
             &catalogue, &CommandCatalogue::dropped, &catalogue, [this](const QStringList &identifiers) {
                 textOutput.showForAWhile(
@@ -103,6 +100,35 @@ public:
                         "host", "The program has no command \"%1\"; its direction is empty.")
                         .arg(identifiers.join(QStringLiteral("\", \""))));
             });
+    }
+
+    // `learn` gets those that were not expected yet, and does what must be done before they are.
+    void expectBound(const std::function<void(const QStringList &)> &learn)
+    {
+        const SettingsFile::Values settings = profileStore.site().chosenOf(profileStore.values());
+        revision = profileStore.revision();
+        const QMap<QString, QString> expected = expectedCommands(wellKnown, settings);
+        QStringList added;
+        for (auto it = expected.begin(); it != expected.end(); ++it) {
+            if (!catalogue.isExpected(it.key()))
+                added.append(it.key());
+        }
+        if (learn && !added.isEmpty())
+            learn(added);
+        for (const QString &identifier : std::as_const(added))
+            catalogue.expect(identifier, expected.value(identifier));
+        catalogue.trust(trustedCommands(settings, profileStore.site().given()));
+        if (catalogue.hasEndedGuessing() && !added.isEmpty())
+            catalogue.endGuessing();
+    }
+
+    // Somebody may have bound more commands while the program runs, or imported a file. A direction
+    // loses a command that is not offered.
+    void expectNewlyBound()
+    {
+        if (!memory || profileStore.revision() == revision)
+            return;
+        expectBound([this](const QStringList &added) { catalogue.trust(memory->recall(added)); });
     }
 
     // A task's menus are complete some time after the last change that follows a switch.
@@ -155,6 +181,8 @@ public:
     CurrentTask task;
     TaskRings rings;
     std::unique_ptr<CatalogueMemory> memory; // null without a window
+    QHash<QString, QStringList> wellKnown; // see ProgramProfile
+    int revision = 0; // of the settings whose bound commands are expected
     QTimer menusOfTask; // until the menus of a task are complete
     CommandRunner runner;
     UiManager uiManager;
@@ -259,6 +287,7 @@ CHxUICommandManager *SystemServices::GetUICommandManager()
 {
     // A module that walks all commands reads its settings next, some fifty values.
     m_d->rings.beginReading();
+    m_d->expectNewlyBound();
     return &m_d->commandManager;
 }
 
