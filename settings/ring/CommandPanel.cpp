@@ -64,6 +64,24 @@ public:
     }
 };
 
+// Finds commands by their names. A menu is shown for its commands, never for its own name.
+class CommandFilter : public QSortFilterProxyModel
+{
+public:
+    explicit CommandFilter(QObject *parent)
+        : QSortFilterProxyModel(parent)
+    {
+        setRecursiveFilteringEnabled(true);
+        setFilterCaseSensitivity(Qt::CaseInsensitive);
+    }
+
+protected:
+    [[nodiscard]] bool filterAcceptsRow(int row, const QModelIndex &menu) const override
+    {
+        return menu.isValid() && QSortFilterProxyModel::filterAcceptsRow(row, menu);
+    }
+};
+
 } // namespace
 
 void CommandView::startDrag(Qt::DropActions /*supportedActions*/)
@@ -87,7 +105,7 @@ void CommandView::keyPressEvent(QKeyEvent *event)
 CommandPanel::CommandPanel(QWidget *parent)
     : QWidget(parent)
     , m_model(new CommandModel(this))
-    , m_filter(new QSortFilterProxyModel(this))
+    , m_filter(new CommandFilter(this))
     , m_search(new QLineEdit(this))
     , m_view(new CommandView(this))
     , m_put(new QToolButton(this))
@@ -99,8 +117,6 @@ CommandPanel::CommandPanel(QWidget *parent)
     m_search->setClearButtonEnabled(true);
 
     m_filter->setSourceModel(m_model);
-    m_filter->setRecursiveFilteringEnabled(true);
-    m_filter->setFilterCaseSensitivity(Qt::CaseInsensitive);
     m_view->setObjectName(QStringLiteral("command_view"));
     m_view->setAccessibleName(tr("Commands"));
     m_view->setAccessibleDescription(

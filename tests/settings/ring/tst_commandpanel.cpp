@@ -11,11 +11,14 @@
 #include "tests/support/Fading.h"
 
 #include <QAbstractItemModelTester>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QSignalSpy>
 #include <QToolButton>
 #include <QtTest>
+
+#include <algorithm>
 
 using settings::BindingsEditor;
 using settings::CommandModel;
@@ -105,6 +108,44 @@ private Q_SLOTS:
         QCOMPARE(panel.chosenCommand().identifier, text("ID_OFFSET"));
         QTest::keyClicks(search, text("xyz"));
         QVERIFY(panel.chosenCommand().identifier.isEmpty());
+    }
+
+    void aMenuWhoseNameMatchesIsNoHit()
+    {
+        remember(text("draw"), {text("ZOOM_IN"), text("ZOOM_OUT")}, text("View"));
+        remember(text("draw"), {text("TILE"), text("NEW_VIEW")}, text("Window"));
+        const BindingsEditor editor(subject("draw"), text("Draw"));
+        CommandPanel panel;
+        panel.showCommands(editor);
+        panel.show();
+        auto *view = panel.findChild<CommandView *>();
+        auto *search = panel.findChild<QLineEdit *>(text("command_search"));
+        QTest::keyClicks(search, text("view"));
+        QCOMPARE(lines(*view->model()), QStringList(text("Window/The NEW_VIEW: ")));
+        QCOMPARE(view->model()->rowCount(), 1);
+        QCOMPARE(panel.chosenCommand().identifier, text("NEW_VIEW"));
+        QVERIFY(panel.findChild<QToolButton *>(text("put_button"))->isEnabled());
+        search->clear();
+        QCOMPARE(view->model()->rowCount(), 2);
+        QCOMPARE(lines(*view->model()).size(), 4);
+        QVERIFY(view->isExpanded(view->model()->index(0, 0)));
+    }
+
+    void aSearchThatOnlyAMenuHasSaysThatNothingIsFound()
+    {
+        remember(text("draw"), {text("LINE"), text("ARC")}, text("Geometry"));
+        const BindingsEditor editor(subject("draw"), text("Draw"));
+        CommandPanel panel;
+        panel.showCommands(editor);
+        panel.show();
+        QTest::keyClicks(panel.findChild<QLineEdit *>(text("command_search")), text("geom"));
+        QVERIFY(!panel.findChild<CommandView *>()->isVisible());
+        const QList<QLabel *> labels = panel.findChildren<QLabel *>();
+        const auto saysIt = [](const QLabel *label) {
+            return label->text() == text("No command has this in its name.") && label->isVisible();
+        };
+        QVERIFY(std::any_of(labels.begin(), labels.end(), saysIt));
+        QVERIFY(!panel.findChild<QToolButton *>(text("put_button"))->isEnabled());
     }
 
     void commandsThatComeLaterAreSearchedToo()
