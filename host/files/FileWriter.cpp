@@ -84,8 +84,10 @@ bool FileWriter::write(const QByteArray &content, const QString *second) const
         return false;
     UnfinishedFile::removeLeftovers(path); // first, since they take space
     UnfinishedFile file(path);
-    return file.fill(content, m_readers == Readers::Owner ? UnfinishedFile::kOwnerOnly : usualMode(path))
-        && (!second || keepAs(*second)) && file.finish();
+    const bool isFilled = m_readers == Readers::Owner
+                            ? file.fill(content, UnfinishedFile::kOwnerOnly)
+                            : file.fill(content, usualMode(path), UnfinishedFile::Mode::Wished);
+    return isFilled && (!second || keepAs(*second)) && file.finish();
 }
 
 } // namespace gesturewidget

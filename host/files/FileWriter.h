@@ -24,7 +24,9 @@ public:
     // The users who may read the file afterwards.
     enum class Readers {
         Owner, // mode 0600, also where the old file had another
-        Usual // the mode of the old file, or what the process's mask leaves of 0666
+        // The mode of the old file, or what the process's mask leaves of 0666. Where no mode can be set,
+        // the one that the file system has given.
+        Usual
     };
 
     // A link is followed: the file that it leads to is replaced.

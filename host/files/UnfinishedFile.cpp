@@ -140,10 +140,10 @@ void UnfinishedFile::openWithName()
     }
 }
 
-bool UnfinishedFile::fill(const QByteArray &content, mode_t mode)
+bool UnfinishedFile::fill(const QByteArray &content, mode_t mode, Mode need)
 {
-    return m_file >= 0 && writeAll(content) && ::fchmod(m_file, mode) == 0 && isOnDisk()
-        && holds(content);
+    return m_file >= 0 && writeAll(content) && (::fchmod(m_file, mode) == 0 || need == Mode::Wished)
+        && isOnDisk() && holds(content);
 }
 
 bool UnfinishedFile::giveName()

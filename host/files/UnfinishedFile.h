@@ -28,6 +28,10 @@ public:
         WithName
     };
 
+    // Whether a mode that cannot be set is a failure. On shares and sticks all files may belong to one
+    // other user; a person may write them there, but not change their modes.
+    enum class Mode { Required, Wished };
+
     explicit UnfinishedFile(const QByteArray &path, Start start = Start::WithoutName);
     ~UnfinishedFile();
     UnfinishedFile(const UnfinishedFile &) = delete;
@@ -35,7 +39,7 @@ public:
 
     // Writes the content, flushes it to the disk, reads it back and compares. Sets the file's mode.
     // Returns false on any error.
-    [[nodiscard]] bool fill(const QByteArray &content, mode_t mode);
+    [[nodiscard]] bool fill(const QByteArray &content, mode_t mode, Mode need = Mode::Required);
     // Gives it the name `path`, in place of the file that has it.
     [[nodiscard]] bool finish();
 

@@ -47,6 +47,7 @@ class FileWriterTest : public tests::FolderTest
 private Q_SLOTS:
     void writes();
     void whoMayRead();
+    void whereNoModeCanBeSet();
     void aFullDiskKeepsTheOldFile();
     void theOldFileUnderASecondName();
     void aCopyIsKeptWhereThereAreNoLinks();
@@ -94,6 +95,24 @@ void FileWriterTest::whoMayRead()
     QCOMPARE(modeOf(place("own")), 0600);
     QCOMPARE(modeOf(place("kept")), 0600);
     QCOMPARE(modeOf(place("usual")), 0664);
+}
+
+// Shares and sticks whose files all belong to one other user.
+void FileWriterTest::whereNoModeCanBeSet()
+{
+    write("usual", "old");
+    write("own", "old");
+    for (const char *name : {"usual", "own"})
+        QCOMPARE(::chmod(QFile::encodeName(place(name)).constData(), 0600), 0);
+    const SystemFault fault(SystemCall::Fchmod, EPERM);
+    QVERIFY(FileWriter(place("new.json"), Readers::Usual).write("x"));
+    QVERIFY(fault.hasFailed());
+    QCOMPARE(contentOf(place("new.json")), QByteArray("x"));
+    QVERIFY(FileWriter(place("usual"), Readers::Usual).write("y"));
+    QCOMPARE(contentOf(place("usual")), QByteArray("y"));
+    QVERIFY(!FileWriter(place("own"), Readers::Owner).write("y"));
+    QCOMPARE(contentOf(place("own")), QByteArray("old"));
+    QCOMPARE(names(), QStringList({text("new.json"), text("own"), text("usual")}));
 }
 
 void FileWriterTest::aFullDiskKeepsTheOldFile()
