@@ -138,6 +138,22 @@ public:
 } // namespace detail
 #endif
 
+// The same event at another local position, for a window or widget that it was not addressed to.
+[[nodiscard]] inline std::unique_ptr<QMouseEvent> atPosition(const QMouseEvent &event,
+                                                             const QPointF &position)
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    auto moved = std::make_unique<QMouseEvent>(event.type(), position, position, event.screenPos(),
+                                               event.button(), event.buttons(), event.modifiers(),
+                                               event.source());
+    moved->setTimestamp(event.timestamp());
+    return moved;
+#else
+    return std::make_unique<detail::MouseEvent>(event, position, position, event.globalPosition(),
+                                                event.pointingDevice());
+#endif
+}
+
 // A mouse event that is stored and sent later.
 class KeptMouseEvent
 {

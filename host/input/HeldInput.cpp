@@ -3,35 +3,15 @@
 
 #include "host/input/HeldInput.h"
 
+#include "host/input/WindowInput.h"
 #include "sdk/OwnCode.h"
 
-#include <QApplication>
-#include <QtTest/qtestspontaneevent.h>
+#include <QCoreApplication>
 
 #include <algorithm>
 #include <utility>
 
 namespace gesturewidget {
-namespace {
-
-// True if Qt would keep input from the window because of a modal one. Qt asks the same question
-// for mouse events from the window system.
-bool isBlockedByModal(const QWindow *window)
-{
-    const QWindow *modal = QGuiApplication::modalWindow();
-    if (!modal || modal == window || QApplication::activePopupWidget()
-        || modal->isAncestorOf(window, QWindow::IncludeTransients))
-        return false;
-    if (modal->modality() == Qt::ApplicationModal)
-        return true;
-    const QWindow *top = window;
-    while (top->parent())
-        top = top->parent();
-    return top->isAncestorOf(modal, QWindow::IncludeTransients);
-}
-
-} // namespace
-
 HeldInput::HeldInput() = default;
 HeldInput::~HeldInput() = default;
 
@@ -87,14 +67,7 @@ void HeldInput::sendRest()
         if (item.mouse)
             event = item.mouse->event();
         const QEvent *outer = self ? std::exchange(self->m_sending, event.get()) : nullptr;
-        // Do not use sendEvent(), which marks the event as the program's own. Qt notes the pressed
-        // buttons from window-system events, so events that the program must not get go to an
-        // object that ignores them. A copy does not have the mark on Qt 6.
-        QSpontaneKeyEvent::setSpontaneous(event.get());
-        QObject nobody;
-        const bool isLost = !item.window || isBlockedByModal(item.window);
-        const ProgramCode theirs;
-        qApp->notify(isLost ? &nobody : item.window.data(), event.get());
+        sendToWindow(item.window, *event);
         if (self)
             self->m_sending = outer;
     };

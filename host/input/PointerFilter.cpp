@@ -4,6 +4,8 @@
 #include "host/input/PointerFilter.h"
 
 #include "host/documents/DocumentManager.h"
+#include "host/input/ClickFocus.h"
+#include "host/input/WindowInput.h"
 #include "sdk/OwnCode.h"
 #include "sdk/QtBridge.h"
 
@@ -11,6 +13,7 @@
 #include <QApplication>
 #include <QCursor>
 #include <QMouseEvent>
+#include <QtTest/qtestspontaneevent.h>
 
 namespace gesturewidget {
 namespace {
@@ -69,8 +72,8 @@ bool PointerFilter::filter(QObject *receiver, QEvent *event)
         return receiver->isWindowType()
             && filterKey(static_cast<QWindow *>(receiver), *static_cast<QKeyEvent *>(event));
     case QEvent::Wheel:
-        return m_state == State::Holding && receiver->isWindowType()
-            && holdWheel(static_cast<QWindow *>(receiver), *static_cast<QWheelEvent *>(event));
+        return receiver->isWindowType()
+            && filterWheel(static_cast<QWindow *>(receiver), *static_cast<QWheelEvent *>(event));
     case QEvent::TabletPress:
         // A pen can act while a press is held. Replay the held press first, to keep the order.
         // This object may be gone afterwards.
@@ -113,6 +116,7 @@ bool PointerFilter::mayMatter(const QObject *receiver, QEvent::Type type) const
     case QEvent::ApplicationStateChange:
         return true;
     case QEvent::Wheel:
+        return m_state == State::Holding || receiver == m_overlayWindow;
     case QEvent::TabletPress:
     case QEvent::Show:
     case QEvent::Hide:
@@ -150,6 +154,14 @@ bool PointerFilter::filterWindow(QWindow *window, const QMouseEvent &event)
         if (!self)
             return false;
     }
+    if (isLateOverlay(window)) {
+        if (isPress(event) && event.buttons() == Qt::MouseButtons(event.button()))
+            m_nextWindow = windowAt(qtbridge::globalPosition(event));
+        if (m_nextWindow) {
+            readdress(event, m_nextWindow);
+            return true;
+        }
+    }
     switch (m_state) {
     case State::Idle:
         return isTriggerPress(event) && holdPress(window, event);
@@ -161,6 +173,14 @@ bool PointerFilter::filterWindow(QWindow *window, const QMouseEvent &event)
         break;
     }
     return filterSwallowing(window, event);
+}
+
+bool PointerFilter::isLateOverlay(const QWindow *window) const
+{
+    // An overlay may show for a while what was chosen. What the hand does meanwhile is the next
+    // thing, but the mouse and the keyboard are still the overlay's, and it gets this when it has
+    // gone.
+    return window == m_overlayWindow && !window->isVisible();
 }
 
 bool PointerFilter::isTriggerPress(const QMouseEvent &event) const
@@ -227,6 +247,7 @@ bool PointerFilter::holdPress(QWindow *window, const QMouseEvent &event)
     ++m_press;
     m_keysOfPress = m_keys;
     m_pressPosition = qtbridge::globalPosition(event);
+    m_pressWindow = window;
     m_held.hold(window, event);
     document->inputPoints().dispatch(hit);
     return true;
@@ -265,8 +286,16 @@ bool PointerFilter::filterKey(QWindow *window, const QKeyEvent &event)
     if (m_held.isSending(&event))
         return false;
     m_keys.note(event);
-    if (m_state != State::Holding)
+    if (m_state == State::Gesturing) {
+        tellRelease(event); // this object may be gone afterwards
         return false;
+    }
+    if (m_state != State::Holding) {
+        if (!isLateOverlay(window) || !m_pressWindow)
+            return false;
+        readdress(event, m_pressWindow);
+        return true;
+    }
     // The key must come after the press, for the program or for a menu that the press opens.
     m_held.hold(window, event);
     // A key that was down before the press does not end the holding: a fast typist may not have
@@ -277,8 +306,33 @@ bool PointerFilter::filterKey(QWindow *window, const QKeyEvent &event)
     return true;
 }
 
-bool PointerFilter::holdWheel(QWindow *window, const QWheelEvent &event)
+void PointerFilter::tellRelease(const QKeyEvent &event)
 {
+    // The program saw the key go down, and the overlay now has the keyboard. Without the release,
+    // a program that counts Ctrl would hold it for ever.
+    const bool isEnd = event.type() == QEvent::KeyRelease && !event.isAutoRepeat();
+    if (!isEnd || !m_keysOfPress.contains(event))
+        return;
+    m_keysOfPress.note(event);
+    const QWidget *grabber = QWidget::keyboardGrabber();
+    QWidget *view = m_document->view();
+    if (!grabber || grabber != m_overlay || !view)
+        return;
+    QWidget *focus = view->window()->focusWidget();
+    const std::unique_ptr<QKeyEvent> copy = qtbridge::copyOf(event);
+    QSpontaneKeyEvent::setSpontaneous(copy.get());
+    const ProgramCode theirs;
+    qApp->notify(focus ? focus : view, copy.get());
+}
+
+bool PointerFilter::filterWheel(QWindow *window, const QWheelEvent &event)
+{
+    if (m_state != State::Holding) {
+        QWindow *below = isLateOverlay(window) ? windowAt(event.globalPosition().toPoint()) : nullptr;
+        if (below)
+            readdress(event, below);
+        return below != nullptr;
+    }
     m_held.hold(window, event);
     giveBack();
     return true;
@@ -298,9 +352,15 @@ void PointerFilter::beginGesture(const HitTest::Event &motion)
     m_state = State::Gesturing;
     m_overlay.clear();
     m_overlayCame = false;
+    m_nextWindow.clear();
     const QPointer<PointerFilter> self = this;
     m_held.drop();
     m_held.sendRest(); // now: the overlay takes the keyboard
+    if (!self || m_state != State::Gesturing)
+        return;
+    // The program does not get the press, but the drawing becomes the one that commands act on.
+    if (QWidget *view = m_document->view())
+        giveClickFocus(*view);
     if (!self || m_state != State::Gesturing)
         return;
     // A tracker prepares its overlay on one update and starts it on the next. If the next update
@@ -317,12 +377,19 @@ void PointerFilter::updateGesture(const HitTest::Event &motion)
     // Nobody had grabbed the mouse, or no gesture would have begun.
     m_overlay = QWidget::mouseGrabber();
     m_overlayCame = !m_overlay.isNull();
+    m_overlayWindow = m_overlay ? m_overlay->windowHandle() : nullptr;
 }
 
 bool PointerFilter::filterGesturing(QWindow *window, const QMouseEvent &event)
 {
-    if (m_overlayCame && m_overlay && QWidget::mouseGrabber() == m_overlay)
-        return false; // Qt gives it to the overlay
+    if (m_overlayCame && m_overlay && QWidget::mouseGrabber() == m_overlay) {
+        // Qt gives it to the overlay, but not from a window that no widget has: such a window may
+        // still get what happened before the overlay took the mouse.
+        if (!m_overlayWindow || window == m_overlayWindow || window->inherits("QWidgetWindow"))
+            return false;
+        readdress(event, m_overlayWindow);
+        return true;
+    }
     const bool isDrag = event.type() == QEvent::MouseMove && (event.buttons() & m_trigger.button);
     if (!m_overlayCame && isDrag) {
         updateGesture(eventInView(event, HitTest::Role::Gesture));
@@ -447,6 +514,9 @@ void PointerFilter::noteWindowEvent(QObject *receiver, QEvent::Type type)
 
 void PointerFilter::noteFocus(const QObject *receiver)
 {
+    // The drawing under the press is the active one until the gesture ends.
+    if (m_state == State::Holding || m_state == State::Gesturing)
+        return;
     Document *document = m_documents.documentOf(receiver);
     if (!document) {
         // The viewport of a scroll area is the view, but the area gets the focus.

@@ -82,7 +82,11 @@ private:
     // Notes which keys are down, and holds keys back while Holding.
     bool filterKey(QWindow *window, const QKeyEvent &event);
     // Holds the wheel back while Holding.
-    bool holdWheel(QWindow *window, const QWheelEvent &event);
+    bool filterWheel(QWindow *window, const QWheelEvent &event);
+    // True for the window of an overlay that has gone, if input still comes to it.
+    [[nodiscard]] bool isLateOverlay(const QWindow *window) const;
+    // Tells the program that a key was released which it saw go down before the press.
+    void tellRelease(const QKeyEvent &event);
 
     // Starts a gesture with the drag.
     void beginGesture(const HitTest::Event &motion);
@@ -111,11 +115,14 @@ private:
     unsigned m_press = 0; // counts the presses that were held
     HeldInput m_held;
     HeldKeys m_keys; // down at the moment
-    HeldKeys m_keysOfPress; // down when the press was held
+    HeldKeys m_keysOfPress; // down when the press was held, and not released since the overlay came
     Document *m_document = nullptr; // of the press, while Holding and Gesturing
     QPoint m_pressPosition; // global
+    QPointer<QWindow> m_pressWindow;
     QPointer<QWidget> m_overlay; // what took the mouse when the gesture began
     bool m_overlayCame = false;
+    QPointer<QWindow> m_overlayWindow; // of the last overlay, also after the gesture
+    QPointer<QWindow> m_nextWindow; // gets what came to that window too late
 };
 
 } // namespace gesturewidget

@@ -163,7 +163,8 @@ void DrawingDesk::perform(const Step &step)
         QTest::keyPress(window, Qt::Key(step.key), step.modifiers);
         break;
     case Step::KeyRelease:
-        QTest::keyRelease(window, Qt::Key(step.key), step.modifiers);
+        // QTest would add the release of each modifier.
+        qt_handleKeyEvent(window, QEvent::KeyRelease, step.key, step.modifiers, QString(), false, 1);
         break;
     case Step::KeyRepeat: {
         QKeyEvent event(QEvent::KeyPress, step.key, step.modifiers, QString(), true);

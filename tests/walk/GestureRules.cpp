@@ -286,7 +286,9 @@ void GestureRules::light(const QPoint &offset)
 void GestureRules::takeGesturing(const Step &step)
 {
     const bool isOfHand = isMouse(step.kind) || isKey(step.kind) || step.kind == Step::Wheel;
-    note(step, !isOfHand);
+    // The program saw that key go down.
+    const bool endsAKeyOfBefore = step.kind == Step::KeyRelease && m_keysOfPress.erase(step.key) > 0;
+    note(step, !isOfHand || endsAKeyOfBefore);
     switch (step.kind) {
     case Step::Move:
         follow(m_position - m_pressPosition);

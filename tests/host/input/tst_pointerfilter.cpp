@@ -14,6 +14,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMap>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMenu>
 #include <QMetaEnum>
 #include <QScrollArea>
@@ -282,7 +284,18 @@ private Q_SLOTS:
     void nestedWindowOfAView();
     void aWindowWithoutAWidgetIsItsContainers();
     void aWindowWithoutADrawingGetsItsPress();
+    void anOverlayGetsWhatCameToAWindowWithoutAWidget();
+    void aWindowThatWasPressedDuringTheFading_data();
+    void aWindowThatWasPressedDuringTheFading();
+    void aWheelDuringTheFading();
+    void aKeyDuringTheFading();
+    void aKeyOfBeforeIsReleasedInTheProgram();
     void pressActivatesTheDocument();
+    void aGestureGivesTheFocusOfAClick_data();
+    void aGestureGivesTheFocusOfAClick();
+    void aGestureMakesItsDrawingCurrent();
+    void theFocusMayEndTheGesture();
+    void aFocusElsewhereLeavesTheGestureItsDrawing();
     void aScrollAreaGetsTheFocusOfItsView();
     void aDocumentThatClosesWhenItBecomesActive();
 };
@@ -969,6 +982,7 @@ void PointerFilterTest::gestureIsKeptFromTheProgram()
     QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
     desk.move(kPress);
     desk.addFilter();
+    desk.view->setFocus(); // or the gesture would give it the focus
     desk.view->log.clear();
     desk.press(kPress);
     desk.move(kPress + QPoint(30, 0));
@@ -1032,6 +1046,7 @@ void PointerFilterTest::restOfAnAcceptedDragIsSwallowed()
     QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
     desk.move(kPress);
     desk.addFilter();
+    desk.view->setFocus(); // or the gesture would give it the focus
     desk.view->log.clear();
     desk.chooseSector();
     QTRY_COMPARE(desk.state(), PointerFilter::State::Swallowing);
@@ -1050,6 +1065,7 @@ void PointerFilterTest::otherButtonsAreSwallowedUntilAllAreUp()
     QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
     desk.move(kPress);
     desk.addFilter();
+    desk.view->setFocus(); // or the gesture would give it the focus
     desk.view->log.clear();
     desk.chooseSector();
     QTRY_COMPARE(desk.state(), PointerFilter::State::Swallowing);
@@ -1121,6 +1137,7 @@ void PointerFilterTest::gestureWithoutOverlayEndsWithTheRelease()
     bool isHeld = false;
     tracker.onUpdate = [&isHeld](int, CHxHitTestInfo &hit) { isHeld = hit.IsButtonHeld(); };
     desk.document->inputPoints().AddTracker(&tracker, 0);
+    desk.view->setFocus(); // or the gesture would give it the focus
     desk.view->log.clear();
     desk.press(kPress);
     desk.move(kPress + QPoint(30, 0));
@@ -1160,6 +1177,7 @@ void PointerFilterTest::aDragWithoutOverlayIsSwallowed()
     desk.tracker.showsOverlay = false;
     desk.addFilter();
     desk.press(kPress);
+    desk.view->setFocus(); // or the gesture would give it the focus
     desk.view->log.clear();
     int moves = 0; // that the program's window gets
     const Observer observer(desk.window.windowHandle(), [&moves](QObject *, const QEvent *event) {
@@ -2033,6 +2051,305 @@ void PointerFilterTest::aWindowWithoutAWidgetIsItsContainers()
     QCOMPARE(desk.tracker.presses, 1);
     QTest::mouseRelease(bare, Qt::RightButton, {}, QPoint(10, 10));
     QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+// What was queued for the window when the overlay took the mouse still comes to the window.
+void PointerFilterTest::anOverlayGetsWhatCameToAWindowWithoutAWidget()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    auto *bare = new QWindow;
+    QWidget *container = QWidget::createWindowContainer(bare, &desk.window);
+    container->setGeometry(20, 20, 300, 300);
+    container->show();
+    QVERIFY(QTest::qWaitForWindowExposed(bare));
+    desk.addFilter();
+    desk.documents.open(container)->inputPoints().AddTracker(&desk.tracker, 0);
+    QTest::mousePress(bare, Qt::RightButton, {}, kPress);
+    QTest::mouseMove(bare, kPress + QPoint(30, 0));
+    QVERIFY(desk.tracker.overlay->isOn);
+    int others = 0;
+    const Observer observer(bare, [&others](QObject *, const QEvent *event) {
+        others += tests::LoggingView::isInput(*event) ? 1 : 0;
+    });
+    QTest::mouseMove(bare, kPress + QPoint(40, 0));
+    QTest::mouseRelease(bare, Qt::RightButton, {}, kPress + QPoint(40, 0));
+    QCOMPARE(desk.tracker.overlay->log,
+             QStringList({QStringLiteral("move"), QStringLiteral("release")}));
+    QVERIFY(!desk.tracker.overlay->isVisible());
+    QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
+    QCOMPARE(desk.tracker.stops, 1);
+    QCOMPARE(desk.tracker.commands, 0);
+    QCOMPARE(others, 0);
+}
+
+void PointerFilterTest::aWindowThatWasPressedDuringTheFading_data()
+{
+    QTest::addColumn<int>("button");
+    QTest::addColumn<bool>("isDrag");
+    QTest::newRow("click") << int(Qt::RightButton) << false;
+    QTest::newRow("click of another button") << int(Qt::LeftButton) << false;
+    QTest::newRow("gesture") << int(Qt::RightButton) << true;
+}
+
+// The window system has sent it to the overlay, which had the mouse until then.
+void PointerFilterTest::aWindowThatWasPressedDuringTheFading()
+{
+    QFETCH(const int, button);
+    QFETCH(const bool, isDrag);
+    const auto used = Qt::MouseButton(button);
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.chooseSector();
+    QWindow *gone = desk.tracker.overlay->windowHandle();
+    QVERIFY(gone && !gone->isVisible());
+    const auto late = [gone, &desk](QEvent::Type type, QPoint position, Qt::MouseButton pressed,
+                                    Qt::MouseButtons buttons) {
+        const QPoint global = desk.view->mapToGlobal(position);
+        QMouseEvent event(type, gone->mapFromGlobal(global), global, pressed, buttons, Qt::NoModifier);
+        QSpontaneKeyEvent::setSpontaneous(&event);
+        qApp->notify(gone, &event);
+    };
+    desk.view->log.clear();
+    late(QEvent::MouseButtonRelease, kPress + QPoint(110, 0), Qt::RightButton, Qt::NoButton);
+    late(QEvent::MouseButtonPress, kPress, used, used);
+    if (isDrag) {
+        QCOMPARE(desk.state(), PointerFilter::State::Holding);
+        late(QEvent::MouseMove, kPress + QPoint(30, 0), Qt::NoButton, used);
+        QCOMPARE(desk.tracker.starts, 2);
+        QVERIFY(desk.tracker.overlay->isOn);
+        desk.tracker.overlay->stop(false);
+        desk.move(kPress + QPoint(31, 0));
+        desk.release(kPress + QPoint(31, 0));
+    } else {
+        late(QEvent::MouseButtonRelease, kPress, used, Qt::NoButton);
+        const QStringList seen = desk.view->log.filter(QStringLiteral("MouseButton"));
+        QCOMPARE(seen.size(), 2);
+        QVERIFY2(seen.first().startsWith(QStringLiteral("MouseButtonPress spontaneous at 150,150")),
+                 qPrintable(seen.first()));
+        QVERIFY2(seen.last().startsWith(QStringLiteral("MouseButtonRelease spontaneous at 150,150")),
+                 qPrintable(seen.last()));
+    }
+    desk.release(kPress + QPoint(110, 0));
+    QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
+    QCOMPARE(desk.tracker.commands, 1);
+}
+
+void PointerFilterTest::aWheelDuringTheFading()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.chooseSector();
+    desk.release(kPress + QPoint(110, 0));
+    QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
+    QWindow *gone = desk.tracker.overlay->windowHandle();
+    QVERIFY(gone && !gone->isVisible());
+    desk.view->log.clear();
+    const QPoint global = desk.view->mapToGlobal(kPress);
+    QWheelEvent wheel(gone->mapFromGlobal(global), global, {}, QPoint(0, 120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QSpontaneKeyEvent::setSpontaneous(&wheel);
+    qApp->notify(gone, &wheel);
+    QCOMPARE(desk.view->log.filter(QStringLiteral("Wheel")),
+             QStringList(QStringLiteral("Wheel spontaneous at 150,150 by 120 buttons 0")));
+}
+
+void PointerFilterTest::aKeyDuringTheFading()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.view->setFocus();
+    desk.chooseSector();
+    desk.release(kPress + QPoint(110, 0));
+    QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
+    QWindow *gone = desk.tracker.overlay->windowHandle();
+    QVERIFY(gone && !gone->isVisible());
+    desk.view->log.clear();
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent key(type, Qt::Key_L, Qt::NoModifier, QStringLiteral("l"));
+        QSpontaneKeyEvent::setSpontaneous(&key);
+        qApp->notify(gone, &key);
+    }
+    QCOMPARE(desk.view->log.filter(QStringLiteral("Key")).size(), 2);
+}
+
+// A program that counts Ctrl by itself would hold it for ever.
+void PointerFilterTest::aKeyOfBeforeIsReleasedInTheProgram()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.view->setFocus();
+    QTest::keyPress(desk.window.windowHandle(), Qt::Key_A);
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    tests::FakeOverlay &overlay = *desk.tracker.overlay;
+    QVERIFY(overlay.isOn);
+    overlay.grabKeyboard();
+    desk.view->log.clear();
+    QTest::keyPress(overlay.windowHandle(), Qt::Key_B); // the overlay's
+    QTest::keyRelease(overlay.windowHandle(), Qt::Key_B);
+    QCOMPARE(desk.view->log, QStringList());
+    QTest::keyRelease(overlay.windowHandle(), Qt::Key_A);
+    QCOMPARE(desk.view->log,
+             QStringList(QStringLiteral("KeyRelease spontaneous key 65 text \"a\" modifiers 0")));
+    QTest::keyPress(overlay.windowHandle(), Qt::Key_A); // again: the overlay's
+    QTest::keyRelease(overlay.windowHandle(), Qt::Key_A);
+    QCOMPARE(desk.view->log.size(), 1);
+    overlay.releaseKeyboard();
+    desk.release(kPress + QPoint(30, 0));
+    QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+void PointerFilterTest::aGestureGivesTheFocusOfAClick_data()
+{
+    // What a click in the view does, the gesture does.
+    QTest::addColumn<int>("ofView");
+    QTest::addColumn<int>("ofFrame");
+    QTest::newRow("view") << int(Qt::ClickFocus) << int(Qt::NoFocus);
+    QTest::newRow("view by wheel too") << int(Qt::WheelFocus) << int(Qt::NoFocus);
+    QTest::newRow("what is around the view") << int(Qt::NoFocus) << int(Qt::StrongFocus);
+    QTest::newRow("not by the Tab key alone") << int(Qt::TabFocus) << int(Qt::StrongFocus);
+    QTest::newRow("none") << int(Qt::NoFocus) << int(Qt::NoFocus);
+}
+
+void PointerFilterTest::aGestureGivesTheFocusOfAClick()
+{
+    QFETCH(const int, ofView);
+    QFETCH(const int, ofFrame);
+    for (const bool hasProxy : {false, true}) {
+        Desk desk;
+        QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+        QWidget frame(&desk.window);
+        frame.setGeometry(desk.view->geometry());
+        desk.view->setParent(&frame);
+        desk.view->move(0, 0);
+        desk.view->setFocusPolicy(Qt::FocusPolicy(ofView));
+        frame.setFocusPolicy(Qt::FocusPolicy(ofFrame));
+        QLineEdit proxy(&frame);
+        proxy.setGeometry(200, 280, 50, 20);
+        proxy.setFocusPolicy(Qt::NoFocus); // which stops the widget that it stands for
+        if (hasProxy)
+            desk.view->setFocusProxy(&proxy);
+        QLineEdit other(&desk.window);
+        other.setGeometry(20, 340, 100, 20);
+        frame.show();
+        desk.view->show();
+        other.show();
+        desk.addFilter();
+        desk.window.activateWindow();
+        QTRY_VERIFY(desk.window.isActiveWindow());
+
+        other.setFocus();
+        desk.press(kPress, Qt::LeftButton);
+        desk.release(kPress, Qt::LeftButton);
+        const QWidget *byClick = desk.window.focusWidget();
+        other.setFocus();
+        desk.press(kPress);
+        desk.move(kPress + QPoint(30, 0));
+        QVERIFY(desk.tracker.overlay->isOn);
+        QCOMPARE(desk.window.focusWidget(), byClick);
+        desk.release(kPress + QPoint(30, 0));
+        QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
+        QCOMPARE(desk.window.focusWidget(), byClick);
+    }
+}
+
+// As in LibreCAD, where the view does not take the focus, but the window around it does.
+void PointerFilterTest::aGestureMakesItsDrawingCurrent()
+{
+    Desk desk;
+    QMdiArea area(&desk.window);
+    area.setGeometry(0, 0, 400, 400);
+    area.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    QList<QMdiSubWindow *> drawings;
+    for (int i = 0; i < 2; ++i) {
+        auto *view = new tests::LoggingView;
+        view->setFocusPolicy(Qt::NoFocus);
+        drawings << area.addSubWindow(view);
+        drawings.last()->setGeometry(200 * i, 0, 200, 400);
+        drawings.last()->show();
+        desk.documents.open(view)->inputPoints().AddTracker(&desk.tracker, 0);
+    }
+    QCOMPARE(area.activeSubWindow(), drawings.at(1));
+    QMdiSubWindow *atCommand = nullptr;
+    desk.tracker.onCommand = [&] { atCommand = area.activeSubWindow(); };
+    for (QMdiSubWindow *drawing : drawings) {
+        // The offscreen platform leaves the window inactive after an overlay.
+        desk.window.activateWindow();
+        QTRY_VERIFY(desk.window.isActiveWindow());
+        const QPoint place = drawing->mapTo(&desk.window, QPoint(50, 200));
+        QWindow *window = desk.window.windowHandle();
+        QTest::mousePress(window, Qt::RightButton, {}, place);
+        QTest::mouseMove(window, place + QPoint(30, 0));
+        QTest::mouseMove(window, place + QPoint(35, 0));
+        QTest::mouseMove(window, place + QPoint(110, 0));
+        QTest::mouseRelease(window, Qt::RightButton, {}, place + QPoint(110, 0));
+        QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
+        QCOMPARE(atCommand, drawing);
+    }
+    QCOMPARE(desk.tracker.commands, 2);
+}
+
+void PointerFilterTest::theFocusMayEndTheGesture()
+{
+    for (const bool destroys : {false, true}) {
+        Desk desk;
+        QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+        desk.addFilter();
+        desk.window.activateWindow();
+        QTRY_VERIFY(desk.window.isActiveWindow());
+        QLineEdit other(&desk.window);
+        other.show();
+        other.setFocus();
+        int calls = 0;
+        connect(qApp, &QApplication::focusChanged, &desk.window,
+                [&](const QWidget *, const QWidget *now) {
+                    if (now != desk.view)
+                        return;
+                    ++calls;
+                    if (destroys)
+                        desk.filter.reset();
+                    else
+                        desk.filter->cancel();
+                });
+        desk.press(kPress);
+        desk.move(kPress + QPoint(30, 0));
+        QCOMPARE(calls, 1);
+        QVERIFY(!desk.tracker.overlay->isVisible());
+        QVERIFY(!QWidget::mouseGrabber());
+        desk.release(kPress + QPoint(30, 0));
+        QVERIFY(destroys || desk.state() == PointerFilter::State::Idle);
+    }
+}
+
+// The ring would measure in the other drawing.
+void PointerFilterTest::aFocusElsewhereLeavesTheGestureItsDrawing()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    tests::LoggingView other(&desk.window);
+    other.setGeometry(330, 20, 60, 60);
+    other.show();
+    desk.addFilter();
+    gesturewidget::Document *second = desk.documents.open(&other);
+    desk.press(kPress);
+    QFocusEvent focus(QEvent::FocusIn);
+    QCoreApplication::sendEvent(&other, &focus); // late
+    QCOMPARE(desk.documents.GetActiveDocument(), static_cast<CHxDocument *>(desk.document));
+    desk.move(kPress + QPoint(30, 0));
+    QVERIFY(desk.tracker.overlay->isOn);
+    QCoreApplication::sendEvent(&other, &focus);
+    QCOMPARE(desk.documents.GetActiveDocument(), static_cast<CHxDocument *>(desk.document));
+    desk.release(kPress + QPoint(30, 0));
+    QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
+    QCoreApplication::sendEvent(&other, &focus);
+    QCOMPARE(desk.documents.GetActiveDocument(), static_cast<CHxDocument *>(second));
 }
 
 void PointerFilterTest::pressActivatesTheDocument()
