@@ -160,6 +160,7 @@ void MgDonutDialogPVStyleImpl::TryStart(const QPoint &)
     mousePositionChanged(pointer.x() - origin.x(), origin.y() - pointer.y());
     bypassWindowManager(); // somebody may have closed the window, and Qt makes a new one
     followWindowOf(*view);
+    setEnabled(true); // the main window of the first gesture may be disabled, and the ring with it
     takeBackdrop();
     setVisible(true);
     // The X server maps an unmanaged window at once, so it grants both grabs.
@@ -282,10 +283,11 @@ bool MgDonutDialogPVStyleImpl::eventFilter(QObject *watched, QEvent *event)
 bool MgDonutDialogPVStyleImpl::event(QEvent *event)
 {
     const gesturewidget::OwnCode ours;
-    // A blocked ring would never see the release, and its grab would keep the mouse from the
-    // modal window.
+    // A blocked or disabled ring would never see the release, and its grab would keep the mouse from
+    // the modal window.
     const QPointer<MgDonutDialogPVStyleImpl> self = this;
-    if (event->type() == QEvent::WindowBlocked && gesturing)
+    const bool isDisabled = event->type() == QEvent::EnabledChange && !isEnabled();
+    if (gesturing && (event->type() == QEvent::WindowBlocked || isDisabled))
         StopGesturing(false);
     return self ? MgDonutDialog::event(event) : true;
 }

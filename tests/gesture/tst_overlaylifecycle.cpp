@@ -142,6 +142,8 @@ private Q_SLOTS:
     void hidingCancels();
     void closingCancels();
     void modalWindowCancels();
+    void aDisabledMainWindowCancels();
+    void aDisabledMainWindowOfBeforeLeavesTheRing();
     void destroyedWhileGesturing();
     void destroyedWhileArmed();
     void destroyingClearsTheHostsText();
@@ -939,6 +941,37 @@ void OverlayLifecycleTest::modalWindowCancels()
     QCOMPARE(m_bench->host.mode, qint16(0));
     message.close();
     m_bench->release(donut.origin);
+}
+
+// Qt would keep the release from the ring.
+void OverlayLifecycleTest::aDisabledMainWindowCancels()
+{
+    QWidget main;
+    CountingDonut donut(&main);
+    m_bench->start(donut);
+    main.setEnabled(false);
+    QCOMPARE(stateOf(donut), kStopped);
+    QVERIFY(!donut.accepted);
+    QCOMPARE(QWidget::mouseGrabber(), nullptr);
+    QCOMPARE(QWidget::keyboardGrabber(), nullptr);
+    QCOMPARE(m_bench->host.mode, qint16(0));
+    m_bench->release(donut.origin);
+}
+
+// The ring belongs to the main window of the first gesture. Later ones may be in another window.
+void OverlayLifecycleTest::aDisabledMainWindowOfBeforeLeavesTheRing()
+{
+    QWidget main;
+    CountingDonut donut(&main);
+    main.setEnabled(false);
+    m_bench->start(donut);
+    QCOMPARE(stateOf(donut), kGesturing);
+    main.setEnabled(true); // which is no end either
+    QCOMPARE(stateOf(donut), kGesturing);
+    QVERIFY(donut.isEnabled());
+    m_bench->release(donut.origin);
+    QCOMPARE(stateOf(donut), kStopped);
+    QCOMPARE(QWidget::mouseGrabber(), nullptr);
 }
 
 void OverlayLifecycleTest::destroyedWhileGesturing()
