@@ -969,6 +969,7 @@ void OverlayLifecycleTest::aDisabledMainWindowOfBeforeLeavesTheRing()
     m_bench->release(donut.origin);
     QCOMPARE(stateOf(donut), kStopped);
     QCOMPARE(QWidget::mouseGrabber(), nullptr);
+    QVERIFY(donut.JustStopped());
     m_bench->start(donut);
     main.setEnabled(true); // is no end either
     QCOMPARE(stateOf(donut), kGesturing);
