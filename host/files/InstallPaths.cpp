@@ -12,6 +12,8 @@
 
 #include <dlfcn.h>
 
+#include <algorithm>
+
 namespace gesturewidget {
 namespace {
 
@@ -29,7 +31,7 @@ QDir libraryFolder()
 // the script.
 QString withoutEnding(const QString &name)
 {
-    for (const char *ending : {".bin", "-bin", ".real", ".py"}) {
+    for (const char *ending : {".bin", "-bin", ".real", ".py", ".sh"}) {
         if (name.endsWith(QLatin1String(ending)) && name.size() > int(qstrlen(ending)))
             return name.chopped(int(qstrlen(ending)));
     }
@@ -43,6 +45,24 @@ bool isInterpreter(const QString &name)
     return interpreter.match(name).hasMatch();
 }
 
+bool hasProfile(const QString &name, const QStringList &folders)
+{
+    return !name.isEmpty()
+        && std::any_of(folders.begin(), folders.end(), [&name](const QString &folder) {
+               return !folder.isEmpty()
+                   && QFileInfo::exists(QDir(folder).filePath(name + QLatin1String(".json")));
+           });
+}
+
+// Returns the first name that has a profile, or the last one if none has.
+QString firstWithProfile(const QStringList &names, const QStringList &folders)
+{
+    const auto found = std::find_if(names.begin(), names.end(), [&folders](const QString &name) {
+        return hasProfile(name, folders);
+    });
+    return found == names.end() ? names.last() : *found;
+}
+
 } // namespace
 
 QString chooseProgramName(const QString &typed, const QString &file, const QStringList &folders)
@@ -50,20 +70,32 @@ QString chooseProgramName(const QString &typed, const QString &file, const QStri
     QStringList names{QFileInfo(typed).fileName().toLower(), QFileInfo(file).fileName().toLower()};
     const bool isScript = isInterpreter(names.last()) && !names.first().isEmpty();
     names.append(withoutEnding(isScript ? names.first() : names.last()));
-    for (const QString &name : names) {
-        for (const QString &folder : folders) {
-            if (!name.isEmpty() && !folder.isEmpty()
-                && QFileInfo::exists(QDir(folder).filePath(name + QLatin1String(".json"))))
-                return name;
-        }
-    }
-    return names.last();
+    return firstWithProfile(names, folders);
+}
+
+QString chooseScriptName(const QString &typed, const QString &file, const QString &interpreter,
+                         const QStringList &folders)
+{
+    // The interpreter runs the program itself, under the name that was typed.
+    if (isInterpreter(interpreter))
+        return chooseProgramName(typed, interpreter, folders);
+    QStringList names{QFileInfo(typed).fileName().toLower(), QFileInfo(file).fileName().toLower()};
+    const bool isPlain = withoutEnding(names.last()) == names.last();
+    names.append(isPlain ? names.last() : withoutEnding(names.first()));
+    return firstWithProfile(names, folders);
 }
 
 QString programName()
 {
     return chooseProgramName(QCoreApplication::arguments().value(0),
                              QCoreApplication::applicationFilePath(), profileFolders());
+}
+
+QString profileName(const QString &given)
+{
+    const QStringList folders = profileFolders();
+    const QString own = programName();
+    return !hasProfile(given, folders) && hasProfile(own, folders) ? own : given;
 }
 
 QString moduleFile()

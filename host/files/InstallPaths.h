@@ -11,6 +11,10 @@
 // in a build tree and in an installation.
 namespace gesturewidget {
 
+// The environment variable in which the launcher tells a program that a script starts which name the
+// script has, see chooseScriptName(). Such a program cannot know it, and its settings have that name.
+inline constexpr char kNameVariable[] = "GESTUREWIDGET_NAME";
+
 // The running program's name in lower case, see chooseProgramName().
 [[nodiscard]] QString programName();
 // Chooses the name by which settings and profile of a program are found. People know a program by
@@ -20,6 +24,14 @@ namespace gesturewidget {
 // A program that an interpreter runs has the name of its script.
 [[nodiscard]] QString chooseProgramName(const QString &typed, const QString &file,
                                         const QStringList &folders);
+// The same for a script, before it runs. `interpreter` is the name of the file that the first line of
+// the script names. A script has the name of its file. If that has an ending such as ".sh", as "run.sh"
+// has, people know the link to it: the name is then `typed`, without such an ending.
+[[nodiscard]] QString chooseScriptName(const QString &typed, const QString &file,
+                                       const QString &interpreter, const QStringList &folders);
+// The name of the running program's profile if the launcher gives it the name `given`: that one, unless
+// only programName() has a profile.
+[[nodiscard]] QString profileName(const QString &given);
 // The module of this Qt version, beside this library.
 [[nodiscard]] QString moduleFile();
 // The user's own folder for settings.

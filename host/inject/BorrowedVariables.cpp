@@ -4,6 +4,7 @@
 #include "host/inject/BorrowedVariables.h"
 
 #include "host/files/ExplanationChannel.h"
+#include "host/files/InstallPaths.h"
 #include "host/inject/PluginEnvironment.h"
 
 namespace inject {
@@ -11,7 +12,8 @@ namespace inject {
 BorrowedVariables::BorrowedVariables()
     : m_variables{{{"QT_QPA_GENERIC_PLUGINS", {}, false, {}},
                    {"QT_PLUGIN_PATH", {}, false, {}},
-                   {gesturewidget::kExplanationVariable, {}, false, {}}}}
+                   {gesturewidget::kExplanationVariable, {}, false, {}},
+                   {gesturewidget::kNameVariable, {}, false, {}}}}
 {
     for (Variable &variable : m_variables) {
         variable.before = qgetenv(variable.name);
@@ -19,6 +21,7 @@ BorrowedVariables::BorrowedVariables()
     }
     cleanEnvironment();
     m_explanation = takeExplanationSocket();
+    m_name = takeName();
     for (Variable &variable : m_variables)
         variable.after = qgetenv(variable.name);
 }

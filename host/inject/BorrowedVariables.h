@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QString>
 #include <QtGlobal>
 
 #include <array>
@@ -26,6 +27,8 @@ public:
     // Returns the socket for explaining this program, see host/files/ExplanationChannel.h; -1 if
     // nobody asked.
     [[nodiscard]] int explanation() const { return m_explanation; }
+    // Returns the name that the launcher gives this program; empty if it gives none.
+    [[nodiscard]] const QString &name() const { return m_name; }
 
 private:
     struct Variable
@@ -36,8 +39,9 @@ private:
         QByteArray after;
     };
 
-    std::array<Variable, 3> m_variables;
+    std::array<Variable, 4> m_variables;
     int m_explanation;
+    QString m_name;
     bool m_isKept = false;
 };
 

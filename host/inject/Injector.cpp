@@ -5,6 +5,7 @@
 
 #include "host/files/Complaint.h"
 #include "host/files/ExplanationChannel.h"
+#include "host/files/InstallPaths.h"
 #include "host/files/Phrase.h"
 #include "host/session/ExplainedProgram.h"
 #include "host/session/GestureHost.h"
@@ -96,10 +97,22 @@ QMainWindow *Injector::findWindow() const
     return nullptr;
 }
 
+GestureHost::Options Injector::options() const
+{
+    GestureHost::Options options = GestureHost::optionsForThisProgram();
+    const QString &name = m_variables->name();
+    if (!name.isEmpty()) {
+        options.program = name;
+        options.profile = gesturewidget::profileName(name);
+        options.settingsFile = gesturewidget::settingsFile(name);
+    }
+    return options;
+}
+
 void Injector::startHost(QMainWindow *window)
 {
     try {
-        m_host = std::make_unique<GestureHost>(window, GestureHost::optionsForThisProgram());
+        m_host = std::make_unique<GestureHost>(window, options());
         QString error;
         if (m_host->start(&error)) {
             follow(window);

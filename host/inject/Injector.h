@@ -5,15 +5,12 @@
 
 #include "host/files/Phrase.h"
 #include "host/inject/BorrowedVariables.h"
+#include "host/session/GestureHost.h"
 
 #include <QObject>
 #include <QSocketNotifier>
 
 #include <memory>
-
-namespace gesturewidget {
-class GestureHost;
-}
 
 QT_BEGIN_NAMESPACE
 class QMainWindow;
@@ -43,6 +40,8 @@ private:
     void look();
     // Returns the main window for the host; null if there is none.
     [[nodiscard]] QMainWindow *findWindow() const;
+    // Returns how the host works, under the name that the launcher gives the program.
+    [[nodiscard]] gesturewidget::GestureHost::Options options() const;
     void startHost(QMainWindow *window);
     void follow(QMainWindow *window);
     void onWindowGone();

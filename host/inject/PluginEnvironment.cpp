@@ -4,9 +4,11 @@
 #include "host/inject/PluginEnvironment.h"
 
 #include "host/files/ExplanationChannel.h"
+#include "host/files/InstallPaths.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QList>
 #include <QStringList>
 
@@ -77,6 +79,13 @@ int takeExplanationSocket()
     const QByteArray value = qgetenv(gesturewidget::kExplanationVariable);
     qunsetenv(gesturewidget::kExplanationVariable);
     return gesturewidget::explanationSocket(value);
+}
+
+QString takeName()
+{
+    const QString value = QFile::decodeName(qgetenv(gesturewidget::kNameVariable));
+    qunsetenv(gesturewidget::kNameVariable);
+    return QFileInfo(value).fileName().toLower(); // never a path
 }
 
 } // namespace inject

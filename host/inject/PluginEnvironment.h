@@ -6,6 +6,7 @@
 #include "host/files/PluginNames.h"
 
 #include <QByteArray>
+#include <QString>
 
 // The environment variables that made Qt load the plug-in, and how to remove them, so that
 // programs started from this one do not load it too.
@@ -28,5 +29,9 @@ void cleanEnvironment();
 // Takes the socket for explaining this program out of the environment, see
 // host/files/ExplanationChannel.h. Returns -1 if there is none.
 [[nodiscard]] int takeExplanationSocket();
+
+// Takes the name that the launcher gives this program out of the environment, see
+// host/files/InstallPaths.h. Returns an empty one if there is none.
+[[nodiscard]] QString takeName();
 
 } // namespace inject

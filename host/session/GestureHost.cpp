@@ -13,6 +13,8 @@ GestureHost::Options completed(GestureHost::Options options)
 {
     if (options.program.isEmpty())
         options.program = programName();
+    if (options.profile.isEmpty())
+        options.profile = options.program;
     if (options.moduleFile.isEmpty())
         options.moduleFile = moduleFile();
     if (options.settingsFile.isEmpty())

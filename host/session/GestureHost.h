@@ -46,7 +46,7 @@ public:
         // The program's name in lower case; the host finds the profile and the settings by it.
         // Empty: the name of the running program's file.
         QString program;
-        // Folders in which the host looks for the profile "<program>.json"; the first match
+        // Folders in which the host looks for the profile "<profile>.json"; the first match
         // wins. Empty: the program has no profile.
         QStringList profileFolders;
         // True: the host guesses what no profile says, from how the program looks: which
@@ -60,6 +60,8 @@ public:
         // shown are kept beside it. Empty: "<program>.ini" in the folder "gesturewidget" of the
         // user's configuration folder.
         QString settingsFile;
+        // The name by which the host finds the profile. Empty: `program`.
+        QString profile;
     };
 
     // Returns the options for the running program: its name; as profile folders those that the

@@ -82,7 +82,7 @@ bool HostSession::start(QString *error)
     installTexts(); // for captions of expected commands, and for complaints
     QString message;
     const ProgramProfile profile =
-        ProgramProfile::forProgram(m_options.program, m_options.profileFolders, &message);
+        ProgramProfile::forProgram(m_options.profile, m_options.profileFolders, &message);
     if (!message.isEmpty())
         complain(message);
     makeServices(profile);

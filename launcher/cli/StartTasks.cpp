@@ -8,13 +8,17 @@
 #include "launcher/explain/ProgramExplainer.h"
 #include "launcher/programs/LaunchEnvironment.h"
 #include "launcher/programs/ProgramCheck.h"
+#include "launcher/programs/ProgramLookup.h"
+#include "launcher/programs/ProgramName.h"
 #include "launcher/programs/Subject.h"
 #include "launcher/Text.h"
 
+#include <QFile>
 #include <QJsonDocument>
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
@@ -38,7 +42,27 @@ struct Start
         if (status != 0)
             complain(check.complaint, status);
         else
-            environment = withGestures(own, check.plugins, ::geteuid() == 0);
+            environment = named(withGestures(own, check.plugins, ::geteuid() == 0));
+    }
+
+    // Tells a program that a script starts which name its settings have. A script that gets a
+    // program as its argument starts many programs, and each has its own name.
+    [[nodiscard]] Environment named(Environment environment) const
+    {
+        environment.remove(gesturewidget::kNameVariable);
+        const Subject subject = Subject::of(arguments.first());
+        if (subject.isScript && !startsAnother(subject))
+            environment.insert(gesturewidget::kNameVariable, QFile::encodeName(subject.name));
+        return environment;
+    }
+
+    [[nodiscard]] bool startsAnother(const Subject &script) const
+    {
+        const QByteArray searchPath = script.environment.value("PATH", kDefaultSearchPath);
+        return std::any_of(arguments.begin() + 1, arguments.end(), [&](const QByteArray &argument) {
+            const ProgramLookup lookup = ProgramLookup::find(argument, searchPath);
+            return lookup.result == ProgramLookup::Result::Found && isProgram(lookup.path);
+        });
     }
 
     // Prepares to start the program without gestures if it cannot have them. Returns false if there

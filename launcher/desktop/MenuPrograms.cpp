@@ -7,6 +7,7 @@
 #include "launcher/desktop/DesktopFile.h"
 #include "launcher/programs/ProgramCheck.h"
 #include "launcher/programs/ProgramLookup.h"
+#include "launcher/programs/ProgramName.h"
 #include "launcher/programs/QtWidgetsUse.h"
 #include "launcher/programs/Subject.h"
 
@@ -123,8 +124,7 @@ bool MenuPrograms::canHaveGestures(const MenuProgram &program, const QByteArray 
     const QList<QByteArray> words = categories.split(';');
     if (words.contains("Qt"))
         return true;
-    const QString name = gesturewidget::chooseProgramName(QFile::decodeName(program.typed),
-                                                          canonical(program.path), m_profileFolders);
+    const QString name = ProgramName::of(program.typed, program.path, m_profileFolders).name;
     return QFileInfo::exists(gesturewidget::settingsFile(name))
         || !profileFile(name, m_profileFolders).isEmpty();
 }

@@ -6,6 +6,7 @@
 #include "host/files/InstallPaths.h"
 #include "launcher/programs/ProgramCheck.h"
 #include "launcher/programs/ProgramLookup.h"
+#include "launcher/programs/ProgramName.h"
 
 #include <QDir>
 #include <QFile>
@@ -49,13 +50,13 @@ Subject Subject::of(const QByteArray &typed)
 
     const ProgramLookup lookup =
         ProgramLookup::find(typed, subject.environment.value("PATH", kDefaultSearchPath));
-    const QString name = QFile::decodeName(typed);
     if (lookup.result == ProgramLookup::Result::Found) {
         subject.path = lookup.path;
-        const QString file = QFileInfo(QFile::decodeName(lookup.path)).canonicalFilePath();
-        subject.name = gesturewidget::chooseProgramName(name, file, subject.profileFolders);
+        const ProgramName found = ProgramName::of(typed, lookup.path, subject.profileFolders);
+        subject.name = found.name;
+        subject.isScript = found.isOfScript;
     } else {
-        subject.name = QFileInfo(name).fileName().toLower();
+        subject.name = QFileInfo(QFile::decodeName(typed)).fileName().toLower();
     }
     return subject;
 }

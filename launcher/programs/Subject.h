@@ -34,6 +34,7 @@ struct Subject
     QByteArray typed;
     QByteArray path; // empty when there is no such program
     QString name; // by which its host finds its profile and its settings
+    bool isScript = false; // which starts the program, see ProgramName
     Environment environment; // of this process
     QStringList profileFolders;
     QList<PluginFolder> plugins; // that are installed, for either Qt

@@ -468,6 +468,7 @@ void ExpectedCommandsTest::theProgramsNameIsThatOfItsProfile_data()
     row("nothing but the ending", "start", "/opt/.bin", ".bin");
     row("a script", "/usr/bin/plotter", "/usr/bin/python3.11", "plotter");
     row("a script with its ending", "src/Plotter.py", "/usr/bin/python3", "plotter");
+    row("a script of the shell", "src/Plotter.sh", "/usr/bin/python3", "plotter");
     row("an interpreter alone", "", "/usr/bin/python3", "python3");
     row("nothing typed", "", "/opt/drafter", "drafter");
 }

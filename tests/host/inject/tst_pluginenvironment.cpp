@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 GestureWidget developers
 // SPDX-License-Identifier: MIT
 
+#include "host/files/InstallPaths.h"
 #include "host/inject/BorrowedVariables.h"
 #include "host/inject/PluginEnvironment.h"
 #include "tests/host/support/Files.h"
@@ -31,6 +32,8 @@ private Q_SLOTS:
     void otherEntriesStay();
     void whatIsBorrowedComesBack();
     void whatIsKeptStaysAway();
+    void theNameIsBorrowed_data();
+    void theNameIsBorrowed();
     void whatTheProgramSetsMeanwhileStays();
 
 private:
@@ -57,6 +60,7 @@ void PluginEnvironmentTest::cleanup()
 {
     qunsetenv("QT_QPA_GENERIC_PLUGINS");
     qunsetenv("QT_PLUGIN_PATH");
+    qunsetenv(gesturewidget::kNameVariable);
     QVERIFY2(tests::warnings().isEmpty(), qPrintable(tests::warnings()));
 }
 
@@ -163,6 +167,35 @@ void PluginEnvironmentTest::whatIsKeptStaysAway()
         variables.keep();
     }
     QVERIFY(!qEnvironmentVariableIsSet("QT_QPA_GENERIC_PLUGINS"));
+}
+
+void PluginEnvironmentTest::theNameIsBorrowed_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("a name") << QByteArray("draw") << QStringLiteral("draw");
+    QTest::newRow("capital letters") << QByteArray("Draw") << QStringLiteral("draw");
+    QTest::newRow("a path") << QByteArray("../../draw") << QStringLiteral("draw");
+    QTest::newRow("a folder") << QByteArray("draw/") << QString();
+    QTest::newRow("nothing") << QByteArray() << QString();
+}
+
+void PluginEnvironmentTest::theNameIsBorrowed()
+{
+    QFETCH(QByteArray, value);
+    QFETCH(QString, name);
+    qputenv(gesturewidget::kNameVariable, value);
+    {
+        const inject::BorrowedVariables variables;
+        QVERIFY(!qEnvironmentVariableIsSet(gesturewidget::kNameVariable));
+        QCOMPARE(variables.name(), name);
+    }
+    QCOMPARE(qgetenv(gesturewidget::kNameVariable), value);
+    {
+        inject::BorrowedVariables variables;
+        variables.keep();
+    }
+    QVERIFY(!qEnvironmentVariableIsSet(gesturewidget::kNameVariable));
 }
 
 void PluginEnvironmentTest::whatTheProgramSetsMeanwhileStays()
