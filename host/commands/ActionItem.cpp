@@ -9,8 +9,10 @@
 #include "host/files/CommandNames.h"
 #include "host/window/Captions.h"
 #include "host/window/EntryAction.h"
+#include "sdk/QtBridge.h"
 
 #include <QMenu>
+#include <QSet>
 #include <QWidgetAction>
 
 #include <algorithm>
@@ -51,6 +53,25 @@ bool bringsWidget(const QAction *action)
     return widgetAction
         && (widgetAction->defaultWidget()
             || !(widgetAction->*(&WidgetActionAccess::createdWidgets))().isEmpty());
+}
+
+// Returns whether a person can choose the action in some menu, toolbar or other widget, as Qt decides
+// it for shortcuts. Menus may contain each other; `seen` are those whose entry was asked about.
+bool hasEnabledPlace(const QAction &action, QSet<const QAction *> &seen)
+{
+    const QWidgetList widgets = qtbridge::widgetsOf(action);
+    return widgets.isEmpty() || std::any_of(widgets.begin(), widgets.end(), [&seen](QWidget *widget) {
+               if (!widget->isEnabled())
+                   return false;
+               const auto *menu = qobject_cast<const QMenu *>(widget);
+               if (!menu)
+                   return true;
+               const QAction *entry = menu->menuAction();
+               if (!entry->isVisible() || !entry->isEnabled() || seen.contains(entry))
+                   return false;
+               seen.insert(entry);
+               return hasEnabledPlace(*entry, seen);
+           });
 }
 
 } // namespace
@@ -127,6 +148,13 @@ void ActionItem::showIn(const QWidget *from, const QWidget *to)
     m_look = std::move(found->look);
     here = std::move(found->here);
     m_others.erase(found);
+}
+
+bool ActionItem::isUsable() const
+{
+    QSet<const QAction *> seen;
+    return here.isPresent && m_look.action && m_look.action->isEnabled()
+        && hasEnabledPlace(*m_look.action, seen);
 }
 
 bool ActionItem::isPresentIn(const QWidget *window) const

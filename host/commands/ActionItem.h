@@ -80,11 +80,10 @@ public:
         for (const Elsewhere &other : m_others)
             visit(other.look.address);
     }
-    // True if running the command would do something at the moment.
-    [[nodiscard]] bool isUsable() const
-    {
-        return here.isPresent && m_look.action && m_look.action->isEnabled();
-    }
+    // True if running the command would do something at the moment: as for a shortcut, the action is
+    // enabled, and so is a menu, toolbar or other widget that has it, up to the menu bar. An action
+    // that no widget has needs no place.
+    [[nodiscard]] bool isUsable() const;
     // Reads the texts and the icon again. Returns whether there are new texts. The name is then the
     // caption until setName().
     bool read();

@@ -175,7 +175,7 @@ void CommandRunner::trigger(const QString &name)
             QCoreApplication::translate("host", "There is no command \"%1\".").arg(name));
     } else if (!item->here.isPresent || !item->action()) {
         m_output.showForAWhile(absence(*item));
-    } else if (!item->action()->isEnabled()) {
+    } else if (!item->isUsable()) {
         m_output.showForAWhile(QCoreApplication::translate("host", "%1: cannot be used at the moment.")
                                    .arg(item->GetCaption().toQString()));
     } else {

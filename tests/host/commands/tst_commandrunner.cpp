@@ -18,6 +18,7 @@
 #include <QTest>
 
 #include <memory>
+#include <utility>
 
 using gesturewidget::CommandRunner;
 using tests::DraftWindow;
@@ -110,6 +111,9 @@ private Q_SLOTS:
     void anActionIsTriggered_data();
     void anActionIsTriggered();
     void aDisabledActionIsSaid();
+    void anActionInDisabledPlacesIsSaid_data();
+    void anActionInDisabledPlacesIsSaid();
+    void menusThatContainEachOtherAreNoTrap();
     void anActionThatIsGoneIsSaid();
     void aRememberedCommandSaysWhereItLives_data();
     void aRememberedCommandSaysWhereItLives();
@@ -239,6 +243,76 @@ void CommandRunnerTest::aDisabledActionIsSaid()
     QCOMPARE(triggered.count(), 0);
     QVERIFY2(said().contains(QStringLiteral("Line")), qPrintable(said()));
     QVERIFY2(said().contains(QStringLiteral("cannot be used")), qPrintable(said()));
+}
+
+void CommandRunnerTest::anActionInDisabledPlacesIsSaid_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<QStringList>("disabled");
+    QTest::addColumn<bool>("runs");
+    const auto row = [](const char *title, const char *command, const QStringList &disabled, bool runs) {
+        QTest::newRow(title) << QString::fromLatin1(command) << disabled << runs;
+    };
+    const QString menu = QStringLiteral("menu");
+    const QString entry = QStringLiteral("entry");
+    const QString outer = QStringLiteral("outer");
+    const QString bar = QStringLiteral("bar");
+    const QString toolBar = QStringLiteral("toolbar");
+    row("a menu", "drawCircle", {menu}, false);
+    row("the entry of a menu", "drawCircle", {entry}, false);
+    row("the menu around its menu", "exportPicture", {outer}, false);
+    row("the menu bar", "drawCircle", {bar}, false);
+    row("the menu bar of a menu in a menu", "exportPicture", {bar}, false);
+    row("the toolbar", "drawArc", {toolBar}, false);
+    row("one of two places", "ID_LINE", {menu}, true);
+    row("the other one", "ID_LINE", {toolBar}, true);
+    row("both places", "ID_LINE", {menu, toolBar}, false);
+    row("another menu", "drawCircle", {outer, toolBar}, true);
+}
+
+void CommandRunnerTest::anActionInDisabledPlacesIsSaid()
+{
+    QFETCH(QString, command);
+    QFETCH(QStringList, disabled);
+    QFETCH(bool, runs);
+    m_window->exportPicture->setObjectName(QStringLiteral("exportPicture"));
+    const auto *item = m_catalogue->find(command);
+    QVERIFY(item && item->action());
+    const QSignalSpy triggered(item->action(), &QAction::triggered);
+    const auto setEnabled = [&](bool isEnabled) {
+        for (const QString &place : std::as_const(disabled)) {
+            if (place == QLatin1String("menu"))
+                m_window->draw->setEnabled(isEnabled);
+            else if (place == QLatin1String("entry"))
+                m_window->draw->menuAction()->setEnabled(isEnabled);
+            else if (place == QLatin1String("outer"))
+                m_window->file->setEnabled(isEnabled);
+            else if (place == QLatin1String("bar"))
+                m_window->menuBar()->setEnabled(isEnabled);
+            else
+                m_window->toolBar->setEnabled(isEnabled);
+        }
+    };
+    setEnabled(false);
+    QCOMPARE(run(qPrintable(command)), runs);
+    QCOMPARE(triggered.count(), runs ? 1 : 0);
+    QCOMPARE(said().contains(QStringLiteral("cannot be used")), !runs);
+    setEnabled(true);
+    QVERIFY(run(qPrintable(command)));
+    QCOMPARE(triggered.count(), runs ? 2 : 1);
+}
+
+void CommandRunnerTest::menusThatContainEachOtherAreNoTrap()
+{
+    QVERIFY(m_catalogue->find(QStringLiteral("drawCircle")));
+    const QSignalSpy triggered(m_window->circle, &QAction::triggered);
+    m_window->draw->addMenu(m_window->file);
+    m_window->file->addMenu(m_window->draw);
+    m_window->menuBar()->setEnabled(false);
+    QVERIFY(!run("drawCircle"));
+    m_window->menuBar()->setEnabled(true);
+    QVERIFY(run("drawCircle"));
+    QCOMPARE(triggered.count(), 1);
 }
 
 void CommandRunnerTest::anActionThatIsGoneIsSaid()
