@@ -5,6 +5,7 @@
 
 #include "host/files/Complaint.h"
 #include "host/files/DocumentName.h"
+#include "host/files/DottedNames.h"
 #include "host/files/FileContent.h"
 #include "host/files/FileLock.h"
 #include "host/files/FileWriter.h"
@@ -18,6 +19,7 @@
 #include <QJsonObject>
 
 #include <algorithm>
+#include <utility>
 
 namespace gesturewidget {
 namespace {
@@ -47,13 +49,17 @@ bool isAcceptable(const RememberedCommand &command)
 }
 
 // An identifier may be a path of captions.
-bool isPrivate(const RememberedCommand &command)
+bool isPrivateName(const QString &name, const DottedNames &objectNames)
 {
-    const QStringList captions =
-        (command.identifier + QLatin1Char('/') + command.command).split(QLatin1Char('/'));
+    const QStringList captions = name.split(QLatin1Char('/'));
+    return std::any_of(captions.begin(), captions.end(), namesADocument) && !objectNames.contains(name);
+}
+
+bool isPrivate(const RememberedCommand &command, const DottedNames &objectNames)
+{
     return namesADocument(command.caption)
         || std::any_of(command.way.begin(), command.way.end(), namesADocument)
-        || std::any_of(captions.begin(), captions.end(), namesADocument);
+        || isPrivateName(command.identifier, objectNames) || isPrivateName(command.command, objectNames);
 }
 
 RememberedCommand bounded(const RememberedCommand &command)
@@ -146,9 +152,14 @@ bool apply(QVector<RememberedCommand> &commands, const QVector<RememberedCommand
         if (place >= 0)
             isGone[place] = true;
     }
+    DottedNames objectNames;
+    for (const QVector<RememberedCommand> *list : {&std::as_const(commands), &seen}) {
+        for (const RememberedCommand &command : *list)
+            objectNames.add(command);
+    }
     bool hasChanged = false;
     for (const RememberedCommand &command : seen) {
-        if (!isAcceptable(command) || isPrivate(command))
+        if (!isAcceptable(command) || isPrivate(command, objectNames))
             continue;
         const int place = places.value(command.identifier, -1);
         if (place >= 0) {
@@ -262,12 +273,19 @@ CatalogueFile::Content CatalogueFile::parsed(const QByteArray &text)
         return {State::Foreign, {}, false, Text::tr("%1 is not a list of commands and is left alone")};
     Content content{State::Good, {}, false, {}};
     QHash<QString, bool> known;
+    DottedNames objectNames;
     const QJsonArray commands = object.value(kCommandsKey).toArray();
+    QVector<RememberedCommand> stored;
+    stored.reserve(int(commands.size()));
     for (const QJsonValue &value : commands) {
-        const RememberedCommand command = fromJson(value.toObject());
+        stored.append(fromJson(value.toObject()));
+        objectNames.add(stored.last());
+    }
+    for (int i = 0; i < stored.size(); ++i) {
+        const RememberedCommand &command = stored.at(i);
         const bool hasPrivateTip =
-            command.tip.isEmpty() && !value.toObject().value(kTipKey).toString().isEmpty();
-        const bool isLeftOut = isPrivate(command);
+            command.tip.isEmpty() && !commands.at(i).toObject().value(kTipKey).toString().isEmpty();
+        const bool isLeftOut = isPrivate(command, objectNames);
         content.isPrivate |= hasPrivateTip || isLeftOut;
         if (isLeftOut || !isAcceptable(command) || known.contains(command.identifier))
             continue;

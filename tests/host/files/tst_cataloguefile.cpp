@@ -79,6 +79,9 @@ private Q_SLOTS:
     void documentNames_data();
     void documentNames();
     void whatIsPrivateIsNeverWritten();
+    void dottedObjectNamesAreRemembered();
+    void dottedNamesOfDocumentsAreNotRemembered_data();
+    void dottedNamesOfDocumentsAreNotRemembered();
     void anOldFileIsCleaned();
     void iconsGoBeforeCommands();
     void twoCopiesMerge();
@@ -296,6 +299,77 @@ void CatalogueFileTest::whatIsPrivateIsNeverWritten()
     QCOMPARE(read(), Commands{tip});
     for (const char *suffix : {"", ".bak"})
         QVERIFY2(!content(QLatin1String(suffix)).contains("secret"), suffix);
+}
+
+void CatalogueFileTest::dottedObjectNamesAreRemembered()
+{
+    const auto named = [](const char *name, const char *caption) {
+        return command(QLatin1String(name), QLatin1String(caption));
+    };
+    const Commands edit{named("edit.cut", "Ausschneiden"), named("edit.copy", "Kopieren"),
+                        named("edit.paste", "Einfügen")};
+    QVERIFY(merge(edit));
+    QCOMPARE(read(), edit);
+    // Those that are known count with those that are new.
+    const RememberedCommand redo = named("edit.redo", "Redo the Edit");
+    QVERIFY(merge({redo}));
+    QCOMPARE(read(), edit + Commands{redo});
+    const Commands deep{named("Draw.Arc.Centre", "By Centre"), named("Draw.Arc.Ends", "By Ends"),
+                        named("Draw.Arc.Points", "By Points")};
+    QVERIFY(merge(deep));
+    QCOMPARE(read(), edit + Commands{redo} + deep);
+    // A profile's identifier, with the object name as the key.
+    RememberedCommand wellKnown = named("ID_UNDO", "Undo");
+    wellKnown.command = QStringLiteral("edit.undo");
+    QVERIFY(merge({wellKnown}));
+    QCOMPARE(read(), edit + Commands{redo} + deep + Commands{wellKnown});
+}
+
+void CatalogueFileTest::dottedNamesOfDocumentsAreNotRemembered_data()
+{
+    QTest::addColumn<QStringList>("names");
+    QTest::addColumn<QString>("caption");
+    const auto row = [](const char *title, const QStringList &names, const char *caption) {
+        QTest::newRow(title) << names << QString::fromLatin1(caption);
+    };
+    row("one", {QStringLiteral("secret.dxf")}, "Close");
+    row("two of one drawing", {QStringLiteral("secret.dxf"), QStringLiteral("secret.svg")}, "Close");
+    row("two, one of them in capital letters",
+        {QStringLiteral("secret.dxf"), QStringLiteral("secret.svg"), QStringLiteral("secret.SVG")},
+        "Close");
+    row("three different ones",
+        {QStringLiteral("secret.dxf"), QStringLiteral("my_secret.dxf"), QStringLiteral("secret2.dxf")},
+        "Close");
+    row("named without the ending",
+        {QStringLiteral("secret.dxf"), QStringLiteral("secret.svg"), QStringLiteral("secret.pdf")},
+        "1 Secret");
+    row("below a menu",
+        {QStringLiteral("Window/secret.dxf"), QStringLiteral("Window/secret.svg"),
+         QStringLiteral("Window/secret.pdf")},
+        "Close");
+    row("with a space",
+        {QStringLiteral("my secret.dxf"), QStringLiteral("my secret.svg"),
+         QStringLiteral("my secret.pdf")},
+        "Close");
+    row("with a line end",
+        {QStringLiteral("secret.dxf\n"), QStringLiteral("secret.svg\n"), QStringLiteral("secret.pdf\n")},
+        "Close");
+    row("beginning with a digit",
+        {QStringLiteral("1secret.dxf"), QStringLiteral("1secret.svg"), QStringLiteral("1secret.pdf")},
+        "Close");
+}
+
+void CatalogueFileTest::dottedNamesOfDocumentsAreNotRemembered()
+{
+    QFETCH(QStringList, names);
+    QFETCH(QString, caption);
+    Commands documents;
+    for (const QString &name : std::as_const(names))
+        documents.append(command(name, caption));
+    const Commands line{command(QStringLiteral("drawLine"))};
+    QVERIFY(merge(line + documents));
+    QCOMPARE(read(), line);
+    QVERIFY(!content().contains("secret"));
 }
 
 void CatalogueFileTest::anOldFileIsCleaned()
