@@ -41,7 +41,8 @@ QString interpreterOf(const QByteArray &beginning)
     const QString first = QFileInfo(words.first()).fileName();
     if (first != QLatin1String("env"))
         return first;
-    for (const QString &word : words.mid(1)) {
+    const QStringList others = words.mid(1);
+    for (const QString &word : others) {
         // Of env: an option, or a variable for the interpreter.
         if (!word.startsWith(QLatin1Char('-')) && !word.contains(QLatin1Char('=')))
             return QFileInfo(word).fileName();
