@@ -5,6 +5,7 @@
 
 #include "host/commands/CommandCatalogue.h"
 #include "host/commands/CommandStack.h"
+#include "host/commands/FocusReturn.h"
 #include "host/window/MainWindows.h"
 #include "host/window/TextOutput.h"
 #include "sdk/chx/CHxDocument.h"
@@ -93,16 +94,13 @@ template <class Run> void CommandRunner::queue(Run run)
 {
     const QPointer<QWidget> window = m_windows ? m_windows->current() : nullptr;
     const bool hadWindow = !window.isNull();
-    QMetaObject::invokeMethod(
-        this,
-        [this, window, hadWindow, run] {
-            const OwnCode ours;
-            if (hadWindow && !m_windows->contains(window))
-                return;
-            const MainWindows::Turn turn(m_windows, window);
-            run();
-        },
-        Qt::QueuedConnection);
+    whenFocusIsBack(*this, [this, window, hadWindow, run] {
+        const OwnCode ours;
+        if (hadWindow && !m_windows->contains(window))
+            return;
+        const MainWindows::Turn turn(m_windows, window);
+        run();
+    });
 }
 
 CommandRunner::Macro CommandRunner::parsed(const QString &command)

@@ -182,6 +182,7 @@ class GesturesTest(ProgramTest):
             session.gesture_runs("left", self.program.eight["up"])
             ran = [line[1] for line in session.spy.since(start, "triggered")]
             self.assertEqual(ran, [*expected, self.program.eight["up"]])
+            session.check_active_window(start)
             self.assertEqual(session.spy.since(start, "press", "contextmenu", "menu"), [])
             self.end(session)
 

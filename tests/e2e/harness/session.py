@@ -243,6 +243,13 @@ class Session:
         ran = [line[1] for line in self.spy.since(mark, "triggered")]
         if ran != [action]:
             raise Failure(f"a gesture {direction} ran {ran}, not [{action!r}]")
+        self.check_active_window(mark)
+
+    def check_active_window(self, mark):
+        """Fails if an action since then found no active window, or a ring that had gone."""
+        active = [line[1] for line in self.spy.since(mark, "active")]
+        if any(name == "none" or "Donut" in name for name in active):
+            raise Failure(f"the active windows were {active}")
 
     def gesture_shows_a_ring(self, direction):
         """Performs a gesture and waits until its ring has come and gone. A busy program opens the ring

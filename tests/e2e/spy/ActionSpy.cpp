@@ -222,6 +222,9 @@ void ActionSpy::watchAction(QAction *action)
     connect(action, &QObject::destroyed, this, [this, action] { m_actions.remove(action); });
     connect(action, &QAction::triggered, this, [this, action] {
         write({QStringLiteral("triggered"), action->objectName(), plain(action->text())});
+        const QWidget *active = QApplication::activeWindow();
+        const char *name = active ? active->metaObject()->className() : "none";
+        write({QStringLiteral("active"), QString::fromLatin1(name)});
         if (const auto *owner = qobject_cast<QWidget *>(action->parent()))
             write({QStringLiteral("where"), action->objectName(), owner->window()->windowTitle()});
     });
