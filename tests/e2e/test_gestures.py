@@ -149,6 +149,30 @@ class GesturesTest(ProgramTest):
                              [self.program.eight["right"]])
             self.end(session)
 
+    def test_the_second_of_two_quick_gestures(self):
+        """The hand is at the next gesture, or clicks, while the ring shows the choice of the first."""
+        with self.session() as session:
+            mark = session.spy.mark()
+            session.move_to_middle()
+            for _ in range(2):  # in one direction, for a program that is slower than the hand
+                session.driver.ask("press", 3)
+                session.drag("up", 100, 30)
+                session.driver.ask("release", 3)
+            session.expect(mark, lambda _: len(session.spy.since(mark, "triggered")) == 2, "both commands")
+            session.ring_is_gone()
+            self.assertEqual([line[1] for line in session.spy.since(mark, "triggered")],
+                             [self.program.eight["up"]] * 2)
+            self.assertEqual(session.spy.since(mark, "press", "contextmenu", "menu"), [])
+            mark = session.spy.mark()
+            session.move_to_middle()
+            session.driver.ask("press", 3)
+            session.drag("up", 100, 30)
+            session.driver.ask("release", 3)
+            session.driver.ask("click", 1)
+            session.expect(mark, lambda line: line[:2] == ["release", "1"], "the click")
+            self.assertTrue(session.grabs_become("pointer free keyboard free"))
+            self.end(session)
+
     def test_ten_in_a_row(self):
         with self.session() as session:
             for _ in range(5):
