@@ -315,6 +315,10 @@ class GesturesTest(ProgramTest):
 
     def test_right_clicks_in_a_running_tool_are_unchanged(self):
         def act(session):
+            # Beside the drawn line. Whether a click on it chooses it depends on whether the program has
+            # had the time to light it up.
+            x, y = session.middle()
+            session.driver.ask("move", x + 60, y + 120)
             session.start_line()
             session.driver.ask("click", 1)
             session.driver.ask("drag", 40, 30, 50)
