@@ -154,6 +154,20 @@ void MgDonutDataContainer::read()
     std::tie(fourTable, eightTable, gestureEnabled, scheme, largeIcons) = lastState;
 }
 
+bool MgDonutDataContainer::wereSwitchedOn() const
+{
+    if (m_readingFailed)
+        return false;
+    const QString off = QStringLiteral("0");
+    return hostValue(off,
+                     [&off] {
+                         QString value = off; // stays if there is no store
+                         MgDonutSettings::instance()->read(settingskeys::enableMouseGesture(), value);
+                         return value;
+                     })
+        != off;
+}
+
 bool MgDonutDataContainer::isBehindSettings() const
 {
     const auto differs = [](const QString &key, const QString &known) {

@@ -37,7 +37,9 @@ public:
     // The one object, created on first use; never null.
     [[nodiscard]] static MgDonutDataContainer *instance();
 
-    [[nodiscard]] bool getGestureEnabled() const { return gestureEnabled; }
+    // Whether gestures are on. While they are off, looks at the settings each time: another program may
+    // have switched them on, and nobody else reads the settings again before a gesture starts.
+    [[nodiscard]] bool getGestureEnabled() const { return gestureEnabled || wereSwitchedOn(); }
     [[nodiscard]] DonutScheme getScheme() const { return scheme; }
     // A copy of all records, in the host's order.
     [[nodiscard]] std::vector<MgCommandDS> getCommandsDS() const { return commands; }
@@ -106,6 +108,8 @@ protected:
     static MgDonutDataContainer *_pinstance;
 
 private:
+    // True if the settings have gestures on since the last reading. False after a failed one.
+    [[nodiscard]] bool wereSwitchedOn() const;
     // What init() does.
     void read();
     // Makes host calls as a part of a reading; none after the first that failed.

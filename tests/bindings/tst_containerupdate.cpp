@@ -237,6 +237,28 @@ private Q_SLOTS:
         QCOMPARE(container->getCommandNameFromIndex(0), text("zoom_bounds"));
     }
 
+    // Another program may write to the store at any time. Nothing else is taken over before the next
+    // reading.
+    void switchedOnElsewhereItIsOnAtOnce()
+    {
+        container->update(unbound(), false, DonutScheme::Four);
+        QVERIFY(!container->getGestureEnabled());
+        host->store.values.insert(text("EnableMouseGesture"), text("1"));
+        host->store.values.insert(text("ActiveScheme"), text("8"));
+        QVERIFY(container->getGestureEnabled());
+        QCOMPARE(container->getScheme(), DonutScheme::Four);
+        host->store.values.insert(text("EnableMouseGesture"), text("0"));
+        QVERIFY(!container->getGestureEnabled());
+        host->store.values.insert(text("EnableMouseGesture"), text("1"));
+        host->log.throwOn = text("store.get EnableMouseGesture");
+        QVERIFY(!container->getGestureEnabled());
+        host->log.throwOn.clear();
+        host->store.getFails = true;
+        QVERIFY(!container->getGestureEnabled());
+        host->store.getFails = false;
+        QVERIFY(container->getGestureEnabled());
+    }
+
     void defaultsAreWrittenAndReadBack()
     {
         container->update(unbound(), false, DonutScheme::Four);

@@ -38,6 +38,8 @@ private Q_SLOTS:
     void drawsNothing();
 
     void disabledDoesNothing();
+    void switchedOnElsewhereItOpensTheRing_data();
+    void switchedOnElsewhereItOpensTheRing();
     void suppressionIsAskedInOrder_data();
     void suppressionIsAskedInOrder();
     void aQueryThatThrowsStartsNothing_data();
@@ -157,7 +159,53 @@ void TrackerTest::disabledDoesNothing()
     drag(QPoint(100, 100));
     QCOMPARE(m_hit->log.calls, QStringList());
     QVERIFY(m_tracker->donut.isNull());
-    QCOMPARE(m_bench->host.log.calls, QStringList());
+    // Each update only looks whether somebody else has switched gestures on.
+    const QStringList look{QStringLiteral("store.exists EnableMouseGesture"),
+                           QStringLiteral("store.get EnableMouseGesture 4")};
+    QCOMPARE(m_bench->host.log.calls, look + look);
+}
+
+void TrackerTest::switchedOnElsewhereItOpensTheRing_data()
+{
+    QTest::addColumn<QString>("stored");
+    QTest::newRow("switched on") << QStringLiteral("1");
+    QTest::newRow("malformed, which counts as on") << QStringLiteral("yes");
+    QTest::newRow("the key removed, which counts as on") << QString();
+}
+
+void TrackerTest::switchedOnElsewhereItOpensTheRing()
+{
+    QFETCH(QString, stored);
+    const QString key = QStringLiteral("EnableMouseGesture");
+    QMap<QString, QString> &values = m_bench->host.store.values;
+    m_bench->setEnabled(false);
+    press(QPoint(200, 200));
+    drag(QPoint(230, 200));
+    QVERIFY(m_tracker->donut.isNull());
+    // Another program writes to the store, and nobody reads the settings again before the press.
+    values.remove(key);
+    if (!stored.isNull())
+        values.insert(key, stored);
+    m_bench->pointTo(QPoint(200, 200));
+    m_bench->press(QPoint(200, 200));
+    press(QPoint(200, 200));
+    QVERIFY(m_tracker->tracking);
+    drag(QPoint(230, 200));
+    QVERIFY(!m_tracker->donut.isNull());
+    look(QPoint(230, 200));
+    QVERIFY(m_tracker->ring()->isVisible());
+    QCOMPARE(values.value(key), QStringLiteral("1"));
+    m_bench->release(QPoint(200, 200));
+    look(QPoint(200, 200));
+    QVERIFY(!m_tracker->tracking);
+    // The ring has read everything again, so another program can switch gestures off and on once more.
+    values.insert(key, QStringLiteral("0"));
+    MgDonutDataContainer::instance()->init();
+    press(QPoint(10, 10));
+    QVERIFY(!m_tracker->tracking);
+    values.insert(key, QStringLiteral("1"));
+    press(QPoint(10, 10));
+    QVERIFY(m_tracker->tracking);
 }
 
 void TrackerTest::suppressionIsAskedInOrder_data()

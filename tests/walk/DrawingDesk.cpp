@@ -255,7 +255,9 @@ void GestureDesk::readSettings()
     m_host.store.values.insert(QStringLiteral("EnableMouseGesture"),
                                QString::number(m_areGesturesOn ? 1 : 0));
     m_host.store.values.insert(QStringLiteral("ActiveScheme"), QString::number(m_sectors));
-    MgDonutDataContainer::instance()->init();
+    // Nobody tells the module that another program has switched gestures on.
+    if (!m_areGesturesOn)
+        MgDonutDataContainer::instance()->init();
 }
 
 void GestureDesk::viewWasReplaced()
