@@ -101,12 +101,17 @@ SettingsFile::Values movedTo(const SettingsFile::Values &changes, const QString 
 }
 
 SettingsFile::Values ownRing(const SettingsFile::Values &now, const QString &task,
-                             const QHash<QString, QString> &first, const SettingsFile::Values &shared)
+                             const QHash<QString, QString> &first, const SettingsFile::Values &shared,
+                             const SettingsFile::Values &site)
 {
+    SettingsFile::Values ring;
+    if (hasOwnRing(site, task)) { // it counts unless the person's file says otherwise
+        ring.insert(ownName(task), QString());
+        return ring;
+    }
     const auto nameOf = [&task](const QString &key) {
         return SettingsFile::nameOf(sectionOf(task), key);
     };
-    SettingsFile::Values ring;
     ring.insert(ownName(task), task);
     forEachKey(now, sectionOf(task),
                [&](const QString &name, const QString &) { ring.insert(name, now.value(name)); });
@@ -128,13 +133,18 @@ SettingsFile::Values ownRing(const SettingsFile::Values &now, const QString &tas
         }
         ring.insert(nameOf(key), command);
     });
+    for (auto it = site.cbegin(); it != site.cend(); ++it) {
+        if (ring.contains(it.key()) && ring.value(it.key()) == it.value())
+            ring.remove(it.key()); // counts anyway
+    }
     return ring;
 }
 
-SettingsFile::Values sharedRing(const QString &task)
+SettingsFile::Values sharedRing(const QString &task, const SettingsFile::Values &site)
 {
     SettingsFile::Values values;
-    values.insert(ownName(task), QString());
+    // A removed key would let the administrator's count.
+    values.insert(ownName(task), site.contains(ownName(task)) ? QString(QLatin1String("")) : QString());
     return values;
 }
 

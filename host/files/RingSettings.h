@@ -34,11 +34,15 @@ namespace gesturewidget::ringsettings {
 
 // Returns what to write to give a task a ring of its own. What it had before comes back; what it lacks
 // comes from `first`, then from `shared`, which holds a value for each of the ring's keys. A command
-// keeps only one direction of a scheme. `first` maps keys such as "87" to identifiers.
+// keeps only one direction of a scheme. `first` maps keys such as "87" to identifiers. `site` has the
+// administrator's values, which count where the person's file has none: they are left out.
 [[nodiscard]] SettingsFile::Values ownRing(const SettingsFile::Values &now, const QString &task,
                                            const QHash<QString, QString> &first,
-                                           const SettingsFile::Values &shared);
-// Returns what to write to let a task use the shared ring again. Its own one is kept for later.
-[[nodiscard]] SettingsFile::Values sharedRing(const QString &task);
+                                           const SettingsFile::Values &shared,
+                                           const SettingsFile::Values &site = {});
+// Returns what to write to let a task use the shared ring again, also where the administrator gives it
+// one. Its own one is kept for later.
+[[nodiscard]] SettingsFile::Values sharedRing(const QString &task,
+                                              const SettingsFile::Values &site = {});
 
 } // namespace gesturewidget::ringsettings

@@ -91,7 +91,11 @@ void addRing(const SettingsFile::Values &ring, const SettingsFile::Values &own,
         values.insert(value.key(), value.value());
         if (own.contains(value.key()) && own.value(value.key()) == value.value())
             continue;
-        change.ringsBefore.insert(value.key(), own.value(value.key()));
+        // An empty value is written again, and a null one is removed.
+        const QString before = own.value(value.key());
+        change.ringsBefore.insert(value.key(), own.contains(value.key()) && before.isNull()
+                                                   ? QString(QLatin1String(""))
+                                                   : before);
         change.ringsAfter.insert(value.key(), value.value());
     }
 }
@@ -345,8 +349,9 @@ Outcome SettingsTasks::setRing(const QString &task, bool isOwn, const QHash<QStr
     SettingsFile file(m_file);
     const bool isDone = file.change([&](const SettingsFile::Values &own) {
         const SettingsFile::Values now = m_site.under(own);
-        return isOwn ? ringsettings::ownRing(now, task, first, Bindings::fromSettings(now).toSettings())
-                     : ringsettings::sharedRing(task);
+        return isOwn ? ringsettings::ownRing(now, task, first, Bindings::fromSettings(now).toSettings(),
+                                             m_site.values())
+                     : ringsettings::sharedRing(task, m_site.values());
     });
     return outcomeOf(isDone, file);
 }

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void changesGoToTheTasksRing();
     void aNewRingTakesFirstBindingsAndThenTheSharedOnes();
     void anOldRingComesBack();
+    void theAdministratorsValuesAreLeftOut();
     void boundCommandsOfAllRings();
     void tasksWithOddNames_data();
     void tasksWithOddNames();
@@ -128,6 +129,37 @@ void RingSettingsTest::anOldRingComesBack()
                                         {{QStringLiteral("81"), QStringLiteral("ID_FIRST")}}, m_shared));
     QCOMPARE(ringsettings::seenIn(values, task).value(QStringLiteral("GestureWidget/81")),
              QStringLiteral("ID_MINE"));
+}
+
+void RingSettingsTest::theAdministratorsValuesAreLeftOut()
+{
+    const QString task = QStringLiteral("Sketcher");
+    const QString own = SettingsFile::nameOf(ringsettings::sectionOf(task), QStringLiteral("Own"));
+    const QString up = SettingsFile::nameOf(ringsettings::sectionOf(task), QStringLiteral("81"));
+    const QString left = SettingsFile::nameOf(ringsettings::sectionOf(task), QStringLiteral("83"));
+    // A ring that the administrator prepares, and tasks do not use at first.
+    SettingsFile::Values site{{up, QStringLiteral("ID_SITE")}, {left, QString()}};
+    SettingsFile::Values now = m_shared;
+    merge(now, site);
+    const SettingsFile::Values made = ringsettings::ownRing(now, task, {}, m_shared, site);
+    QCOMPARE(made.value(own), task);
+    QVERIFY(!made.contains(up) && !made.contains(left));
+    QVERIFY(ringsettings::sharedRing(task, site).value(own).isNull());
+    merge(now, made);
+    QCOMPARE(ringsettings::seenIn(now, task).value(QStringLiteral("GestureWidget/81")),
+             QStringLiteral("ID_SITE"));
+    QCOMPARE(ringsettings::seenIn(now, task).value(QStringLiteral("GestureWidget/82")),
+             QStringLiteral("ID_B"));
+
+    // One that the task uses at first.
+    site.insert(own, task);
+    const SettingsFile::Values toShare = ringsettings::sharedRing(task, site);
+    QVERIFY(toShare.contains(own) && !toShare.value(own).isNull());
+    merge(now, toShare);
+    QVERIFY(!ringsettings::hasOwnRing(now, task));
+    const SettingsFile::Values back = ringsettings::ownRing(now, task, {}, m_shared, site);
+    QCOMPARE(back.keys(), QStringList(own));
+    QVERIFY(back.value(own).isNull());
 }
 
 void RingSettingsTest::boundCommandsOfAllRings()

@@ -16,6 +16,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QtTest>
 
 using gesturewidget::SettingsFile;
@@ -59,6 +60,7 @@ private Q_SLOTS:
     void otherProgramsValuesStay();
     void resetKeepsTheTrigger();
     void theAdministratorsSettings();
+    void aTaskLeavesTheAdministratorsRingAndTakesItBack();
     void badInputChangesNothing_data();
     void badInputChangesNothing();
     void triggers_data();
@@ -449,6 +451,64 @@ void SettingsTasksTest::theAdministratorsSettings()
     tasks.setTask(text("Sketch"));
     QCOMPARE(tasks.bindings().four.first(), text("siteLine"));
     QCOMPARE(tasks.bindings().scheme, 4);
+}
+
+void SettingsTasksTest::aTaskLeavesTheAdministratorsRingAndTakesItBack()
+{
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(place("own")));
+    qputenv("XDG_CONFIG_DIRS", QFile::encodeName(place("site")));
+    m_file = gesturewidget::settingsFile(kProgram);
+    write(place("site/gesturewidget/drafter.ini"),
+          "[GestureWidget]\n81=siteShared\n[Ring%20Sketch]\nOwn=Sketch\n81=siteUp\n83=siteLeft\n");
+    SettingsTasks tasks(kProgram, m_file);
+    qunsetenv("XDG_CONFIG_HOME");
+    qunsetenv("XDG_CONFIG_DIRS");
+    const QString task = text("Sketch");
+    const QHash<QString, QString> first{{text("81"), text("Sketch_Line")}};
+    const auto written = [this] {
+        return SettingsFile(m_file).read().keys().filter(QRegularExpression(text("^Ring Sketch/")));
+    };
+    QCOMPARE(tasks.tasks(), QStringList(task));
+    QVERIFY(tasks.setRing(task, false, first).isDone());
+    QCOMPARE(tasks.tasks(), QStringList());
+    QVERIFY(!tasks.showBindings().output.contains("ring of"));
+    QCOMPARE(SettingsFile(m_file).read().value(text("Ring Sketch/Own"), text("none")), QString());
+    QCOMPARE(written(), QStringList(text("Ring Sketch/Own")));
+
+    // The administrator's ring comes back, and nothing is in the way of changes to it.
+    QVERIFY(tasks.setRing(task, true, first).isDone());
+    QCOMPARE(tasks.tasks(), QStringList(task));
+    QCOMPARE(written(), QStringList());
+    QCOMPARE(tasks.ringOf(task).eight.at(0), text("siteUp"));
+    QCOMPARE(tasks.ringOf(task).eight.at(2), text("siteLeft"));
+
+    // A choice of the person's own is kept meanwhile.
+    tasks.setTask(task);
+    QVERIFY(tasks.bind(text("left"), text("mine")).isDone());
+    QVERIFY(tasks.setRing(task, false, first).isDone());
+    QCOMPARE(tasks.tasks(), QStringList());
+    QVERIFY(tasks.setRing(task, true, first).isDone());
+    QCOMPARE(tasks.bindings().eight.at(0), text("siteUp"));
+    QCOMPARE(tasks.bindings().eight.at(2), text("mine"));
+    QCOMPARE(written(), QStringList(text("Ring Sketch/83")));
+
+    // An import brings a ring, and taking it back brings the choice back.
+    tasks.setTask({});
+    QVERIFY(tasks.exportTo(place("all.json")).isDone());
+    QVERIFY(tasks.setRing(task, false, first).isDone());
+    launcher::SettingsChange made;
+    QVERIFY(tasks.importFrom(place("all.json"), &made).isDone());
+    QCOMPARE(tasks.tasks(), QStringList(task));
+    QVERIFY(tasks.takeBack(made).isDone());
+    QCOMPARE(tasks.tasks(), QStringList());
+    QVERIFY(tasks.setRing(task, true, first).isDone());
+
+    // Other tasks have no key of the administrator's, so none is needed to use the shared ring.
+    QVERIFY(tasks.setRing(text("Part"), true, first).isDone());
+    QCOMPARE(tasks.ringOf(text("Part")).eight.at(0), text("Sketch_Line"));
+    QVERIFY(tasks.setRing(text("Part"), false, first).isDone());
+    QVERIFY(!SettingsFile(m_file).read().contains(text("Ring Part/Own")));
+    QCOMPARE(tasks.tasks(), QStringList(task));
 }
 
 void SettingsTasksTest::badInputChangesNothing_data()
