@@ -19,9 +19,15 @@
 namespace gesturewidget {
 namespace {
 
+constexpr int kBlock = 4096; // bytes that file systems write at once
+
 bool isDamaged(const QByteArray &content, const QByteArray &backup)
 {
-    const bool isCutOff = content.size() < backup.size() && backup.startsWith(content);
+    // A person's edit ends with a whole line. What is left of a file that was cut off ends with a block
+    // of the disk, or anywhere in a line.
+    const bool isOfWholeLines = content.endsWith('\n') && content.size() % kBlock != 0;
+    const bool isCutOff =
+        !isOfWholeLines && content.size() < backup.size() && backup.startsWith(content);
     return isCutOff || !IniText::isWellFormed(content);
 }
 

@@ -16,7 +16,8 @@ namespace gesturewidget {
 //
 // A copy of its last good state stands beside it, "<file>.bak". A file that a power failure cut
 // off or zeroed can still be read as INI, without any error. This class notices, keeps such a
-// file as "<file>.damaged" and restores the copy. A file that was deleted stays deleted.
+// file as "<file>.damaged" and restores the copy. A file that was deleted stays deleted, and so do its
+// last lines.
 //
 // Only the owner may read these files. Nothing here waits longer than kLockPatience, whatever
 // other programs do or have left behind.

@@ -4,6 +4,8 @@
 // clazy:excludeall=non-pod-global-static (nothing here runs before main())
 
 #include "host/services/ProfileStore.h"
+
+#include "host/files/SettingsNames.h"
 #include "tests/host/support/Files.h"
 #include "tests/host/support/StandardErrorCapture.h"
 #include "tests/support/FatalWarnings.h"
@@ -74,7 +76,10 @@ private Q_SLOTS:
     void theSecondOfTwoWritersCountsKeyByKey();
     void aFileWrittenByHandIsUnderstood();
     void aDeletedFileIsAReset();
-    void aFileCutOffAnywhereIsRestored();
+    void aFileCutOffInALineIsRestored();
+    void aFileCutOffAtABlockIsRestored();
+    void lastLinesDeletedByHandStayDeleted();
+    void whatWasOffSinceACrashIsOnOnceItsLineIsDeleted();
     void aZeroedFileIsRestored_data();
     void aZeroedFileIsRestored();
     void damageWhileRunningLosesNothing();
@@ -372,12 +377,15 @@ void ProfileStoreTest::aDeletedFileIsAReset()
     QCOMPARE(errors.lines(), QStringList());
 }
 
-void ProfileStoreTest::aFileCutOffAnywhereIsRestored()
+// Or it has nothing left.
+void ProfileStoreTest::aFileCutOffInALineIsRestored()
 {
     fill();
     const QByteArray whole = content();
     QVERIFY(whole.size() > 100);
     for (int length = 0; length < whole.size(); ++length) {
+        if (whole.left(length).endsWith('\n'))
+            continue;
         write(whole.left(length));
         tests::StandardErrorCapture errors;
         ProfileStore store(m_path);
@@ -389,6 +397,79 @@ void ProfileStoreTest::aFileCutOffAnywhereIsRestored()
         QVERIFY2(lines.first().contains(m_path), qPrintable(lines.first()));
         QVERIFY2(lines.first().contains(QStringLiteral("restored")), qPrintable(lines.first()));
     }
+}
+
+// There a line may end too.
+void ProfileStoreTest::aFileCutOffAtABlockIsRestored()
+{
+    const QByteArray first = "[GestureWidget]\n81=" + QByteArray(4096 - 16 - 4, 'x') + '\n';
+    QCOMPARE(first.size(), 4096);
+    const QByteArray whole = first + "82=ID_COMMAND_2\n";
+    for (const QByteArray &left : {first, QByteArray()}) {
+        write(whole);
+        static_cast<void>(ProfileStore(m_path).Exists(kSection, "82")); // makes the copy
+        QCOMPARE(content(QStringLiteral(".bak")), whole);
+        write(left);
+        tests::StandardErrorCapture errors;
+        ProfileStore store(m_path);
+        QCOMPARE(get(store, QStringLiteral("82")), QStringLiteral("ID_COMMAND_2"));
+        QCOMPARE(content(), whole);
+        QCOMPARE(errors.lines().size(), 1);
+    }
+}
+
+// A save of ours replaces the whole file, so it never ends earlier than it was meant to.
+void ProfileStoreTest::lastLinesDeletedByHandStayDeleted()
+{
+    fill();
+    const QByteArray whole = content();
+    const auto lines = whole.count('\n');
+    QVERIFY(lines > 9);
+    for (int deleted = 1; deleted < lines; ++deleted) {
+        write(whole);
+        ProfileStore running(m_path);
+        verifyFilled(running); // and makes the copy
+        QByteArray edited = whole;
+        for (int line = 0; line < deleted; ++line)
+            edited = edited.left(edited.lastIndexOf('\n', edited.size() - 2) + 1);
+        write(edited);
+        tests::StandardErrorCapture errors;
+        ProfileStore store(m_path);
+        for (ProfileStore *each : {&running, &store}) {
+            for (int i = 1; i <= 8; ++i) {
+                const QByteArray key = '8' + QByteArray::number(i);
+                QCOMPARE(each->Exists(kSection, key.constData()), edited.contains('\n' + key + '='));
+            }
+        }
+        QVERIFY(set(running, QStringLiteral("41"), QStringLiteral("ID_LINE")));
+        QVERIFY(running.flush());
+        QVERIFY(content().startsWith(edited));
+        QCOMPARE(content(QStringLiteral(".bak")), content());
+        QCOMPARE(errors.lines(), QStringList());
+        QVERIFY(!QFile::exists(m_path + QStringLiteral(".damaged")));
+    }
+}
+
+// Programs that cannot start with gestures since a crash say that this line is to be deleted.
+void ProfileStoreTest::whatWasOffSinceACrashIsOnOnceItsLineIsDeleted()
+{
+    namespace names = gesturewidget::settingsnames;
+    fill();
+    const CHxString host(names::hostSection());
+    {
+        ProfileStore store(m_path);
+        QVERIFY(set(store, names::offSinceCrashKey(), QStringLiteral("1"), host));
+        QVERIFY(store.flush());
+    }
+    const QByteArray line = "OffSinceCrash=1\n";
+    QVERIFY(content().endsWith(line));
+    write(content().chopped(line.size()));
+    tests::StandardErrorCapture errors;
+    ProfileStore store(m_path);
+    QVERIFY(!store.Exists(host, names::offSinceCrashKey()));
+    verifyFilled(store);
+    QVERIFY(!content().contains("OffSinceCrash"));
+    QCOMPARE(errors.lines(), QStringList());
 }
 
 void ProfileStoreTest::aZeroedFileIsRestored_data()
