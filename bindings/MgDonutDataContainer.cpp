@@ -154,18 +154,18 @@ void MgDonutDataContainer::read()
     std::tie(fourTable, eightTable, gestureEnabled, scheme, largeIcons) = lastState;
 }
 
-bool MgDonutDataContainer::wereSwitchedOn() const
+bool MgDonutDataContainer::noteSwitchedOn()
 {
-    if (m_readingFailed)
-        return false;
+    if (gestureEnabled || m_readingFailed)
+        return gestureEnabled;
     const QString off = QStringLiteral("0");
-    return hostValue(off,
-                     [&off] {
-                         QString value = off; // stays if there is no store
-                         MgDonutSettings::instance()->read(settingskeys::enableMouseGesture(), value);
-                         return value;
-                     })
-        != off;
+    const QString stored = hostValue(off, [&off] {
+        QString value = off; // stays if there is no store
+        MgDonutSettings::instance()->read(settingskeys::enableMouseGesture(), value);
+        return value;
+    });
+    gestureEnabled = stored != off;
+    return gestureEnabled;
 }
 
 bool MgDonutDataContainer::isBehindSettings() const

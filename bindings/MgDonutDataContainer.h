@@ -37,9 +37,10 @@ public:
     // The one object, created on first use; never null.
     [[nodiscard]] static MgDonutDataContainer *instance();
 
-    // Whether gestures are on. While they are off, looks at the settings each time: another program may
-    // have switched them on, and nobody else reads the settings again before a gesture starts.
-    [[nodiscard]] bool getGestureEnabled() const { return gestureEnabled || wereSwitchedOn(); }
+    [[nodiscard]] bool getGestureEnabled() const { return gestureEnabled; }
+    // Switches gestures on if the settings say so by now: another program may have done it there.
+    // Returns whether they are on. Looks at nothing after a reading that failed.
+    bool noteSwitchedOn();
     [[nodiscard]] DonutScheme getScheme() const { return scheme; }
     // A copy of all records, in the host's order.
     [[nodiscard]] std::vector<MgCommandDS> getCommandsDS() const { return commands; }
@@ -108,8 +109,6 @@ protected:
     static MgDonutDataContainer *_pinstance;
 
 private:
-    // True if the settings have gestures on since the last reading. False after a failed one.
-    [[nodiscard]] bool wereSwitchedOn() const;
     // What init() does.
     void read();
     // Makes host calls as a part of a reading; none after the first that failed.

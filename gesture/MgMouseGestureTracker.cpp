@@ -36,6 +36,14 @@ bool isButtonHeld(const CHxHitTestInfo &hit)
     return hostValue(false, [&hit] { return hit.IsButtonHeld(); });
 }
 
+// True if another program has switched gestures on. Nobody else reads the settings before the ring
+// starts. Looks at presses only, so that movements cost nothing.
+bool wereSwitchedOn(const CHxHitTestInfo *hit)
+{
+    return hit && hostValue(false, [hit] { return hit->IsPress(); })
+        && MgDonutDataContainer::instance()->noteSwitchedOn();
+}
+
 // Where the pointer is, in pixels of the view; `otherwise` if the host cannot say. Within bounds that
 // no screen has, so that sums of coordinates do not overflow, whatever the host says.
 QPoint positionOf(const CHxHitTestInfo &hit, const QPoint &otherwise)
@@ -81,7 +89,7 @@ bool MgMouseGestureTracker::DoAction(const CHxHitTestInfo *)
 
 void MgMouseGestureTracker::Update(CHxTrackerContext *, CHxHitTestInfo *hit)
 {
-    if (!MgDonutDataContainer::instance()->getGestureEnabled())
+    if (!MgDonutDataContainer::instance()->getGestureEnabled() && !wereSwitchedOn(hit))
         return;
     if (!hit || isSuppressed(*hit))
         return;

@@ -153,16 +153,15 @@ void TrackerTest::disabledDoesNothing()
 {
     m_bench->setEnabled(false);
     press(QPoint(10, 10));
-    QCOMPARE(m_hit->log.calls, QStringList());
     QVERIFY(!m_tracker->tracking);
     QCOMPARE(m_tracker->pressPoint, QPoint(0, 0));
+    // At a press it looks whether another program has switched gestures on.
+    QCOMPARE(m_bench->host.log.calls, (QStringList{QStringLiteral("store.exists EnableMouseGesture"),
+                                                   QStringLiteral("store.get EnableMouseGesture 4")}));
     drag(QPoint(100, 100));
-    QCOMPARE(m_hit->log.calls, QStringList());
     QVERIFY(m_tracker->donut.isNull());
-    // Each update only looks whether somebody else has switched gestures on.
-    const QStringList look{QStringLiteral("store.exists EnableMouseGesture"),
-                           QStringLiteral("store.get EnableMouseGesture 4")};
-    QCOMPARE(m_bench->host.log.calls, look + look);
+    QCOMPARE(m_bench->host.log.calls.size(), 2);
+    QCOMPARE(m_hit->log.calls, QStringList(QStringLiteral("Press")));
 }
 
 void TrackerTest::switchedOnElsewhereItOpensTheRing_data()
@@ -201,11 +200,16 @@ void TrackerTest::switchedOnElsewhereItOpensTheRing()
     // The ring has read everything again, so another program can switch gestures off and on once more.
     values.insert(key, QStringLiteral("0"));
     MgDonutDataContainer::instance()->init();
+    m_bench->press(QPoint(10, 10));
     press(QPoint(10, 10));
     QVERIFY(!m_tracker->tracking);
+    m_bench->release(QPoint(10, 10));
+    look(QPoint(10, 10));
     values.insert(key, QStringLiteral("1"));
+    m_bench->press(QPoint(10, 10));
     press(QPoint(10, 10));
     QVERIFY(m_tracker->tracking);
+    m_bench->release(QPoint(10, 10));
 }
 
 void TrackerTest::suppressionIsAskedInOrder_data()

@@ -233,7 +233,7 @@ GestureDesk::GestureDesk()
     readSettings();
     m_filter = std::make_unique<gesturewidget::PointerFilter>(
         m_host.openDocuments, m_trigger,
-        [](const QWidget *) { return MgDonutDataContainer::instance()->getGestureEnabled(); });
+        [this](const QWidget *) { return m_areGesturesOn; }); // from the store, as the host does it
     qApp->installEventFilter(m_filter.get());
     viewWasReplaced();
 }
@@ -255,8 +255,10 @@ void GestureDesk::readSettings()
     m_host.store.values.insert(QStringLiteral("EnableMouseGesture"),
                                QString::number(m_areGesturesOn ? 1 : 0));
     m_host.store.values.insert(QStringLiteral("ActiveScheme"), QString::number(m_sectors));
-    // Nobody tells the module that another program has switched gestures on.
-    if (!m_areGesturesOn)
+    // Nobody tells the module that another program has switched gestures on. It sees that at the next
+    // press, so not in the middle of a drag.
+    const bool isDragging = m_filter && m_filter->state() != gesturewidget::PointerFilter::State::Idle;
+    if (!m_areGesturesOn || isDragging)
         MgDonutDataContainer::instance()->init();
 }
 
