@@ -47,13 +47,13 @@ struct Start
 
     // Tells a program that a script starts which name its settings have. A script that gets a
     // program as its argument starts many programs, and each has its own name.
-    [[nodiscard]] Environment named(Environment environment) const
+    [[nodiscard]] Environment named(Environment variables) const
     {
-        environment.remove(gesturewidget::kNameVariable);
+        variables.remove(gesturewidget::kNameVariable);
         const Subject subject = Subject::of(arguments.first());
         if (subject.isScript && !startsAnother(subject))
-            environment.insert(gesturewidget::kNameVariable, QFile::encodeName(subject.name));
-        return environment;
+            variables.insert(gesturewidget::kNameVariable, QFile::encodeName(subject.name));
+        return variables;
     }
 
     [[nodiscard]] bool startsAnother(const Subject &script) const
