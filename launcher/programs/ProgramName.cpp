@@ -38,7 +38,7 @@ QString interpreterOf(const QByteArray &beginning)
     const QString line = QString::fromLocal8Bit(beginning.mid(2).split('\n').first());
     static const QRegularExpression spaces(QStringLiteral("\\s+"));
     const QStringList words = line.trimmed().split(spaces);
-    const QString first = QFileInfo(words.first()).fileName();
+    QString first = QFileInfo(words.first()).fileName();
     if (first != QLatin1String("env"))
         return first;
     const QStringList others = words.mid(1);

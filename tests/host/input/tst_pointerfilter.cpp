@@ -2279,7 +2279,7 @@ void PointerFilterTest::aGestureMakesItsDrawingCurrent()
     QCOMPARE(area.activeSubWindow(), drawings.at(1));
     QMdiSubWindow *atCommand = nullptr;
     desk.tracker.onCommand = [&] { atCommand = area.activeSubWindow(); };
-    for (QMdiSubWindow *drawing : drawings) {
+    for (QMdiSubWindow *drawing : qAsConst(drawings)) {
         // The offscreen platform leaves the window inactive after an overlay.
         desk.window.activateWindow();
         QTRY_VERIFY(desk.window.isActiveWindow());
