@@ -315,8 +315,10 @@ void PointerFilter::tellRelease(const QKeyEvent &event)
         return;
     m_keysOfPress.note(event);
     const QWidget *grabber = QWidget::keyboardGrabber();
+    if (!grabber || grabber != m_overlay)
+        return;
     QWidget *view = m_document->view();
-    if (!grabber || grabber != m_overlay || !view)
+    if (!view)
         return;
     QWidget *focus = view->window()->focusWidget();
     const std::unique_ptr<QKeyEvent> copy = qtbridge::copyOf(event);
@@ -352,7 +354,6 @@ void PointerFilter::beginGesture(const HitTest::Event &motion)
     m_state = State::Gesturing;
     m_overlay.clear();
     m_overlayCame = false;
-    m_nextWindow.clear();
     const QPointer<PointerFilter> self = this;
     m_held.drop();
     m_held.sendRest(); // now: the overlay takes the keyboard
@@ -385,7 +386,7 @@ bool PointerFilter::filterGesturing(QWindow *window, const QMouseEvent &event)
     if (m_overlayCame && m_overlay && QWidget::mouseGrabber() == m_overlay) {
         // Qt gives it to the overlay, but not from a window that no widget has: such a window may
         // still get what happened before the overlay took the mouse.
-        if (!m_overlayWindow || window == m_overlayWindow || window->inherits("QWidgetWindow"))
+        if (!m_overlayWindow || window->inherits("QWidgetWindow"))
             return false;
         readdress(event, m_overlayWindow);
         return true;

@@ -287,12 +287,16 @@ private Q_SLOTS:
     void anOverlayGetsWhatCameToAWindowWithoutAWidget();
     void aWindowThatWasPressedDuringTheFading_data();
     void aWindowThatWasPressedDuringTheFading();
+    void aSecondButtonDuringTheFading();
     void aWheelDuringTheFading();
     void aKeyDuringTheFading();
     void aKeyOfBeforeIsReleasedInTheProgram();
+    void aKeyThatIsNotTheOverlaysIsReleasedOnce();
     void pressActivatesTheDocument();
     void aGestureGivesTheFocusOfAClick_data();
     void aGestureGivesTheFocusOfAClick();
+    void aGestureLeavesTheFocusOfItsView();
+    void aGestureInAWindowOfItsOwnLeavesTheOther();
     void aGestureMakesItsDrawingCurrent();
     void theFocusMayEndTheGesture();
     void aFocusElsewhereLeavesTheGestureItsDrawing();
@@ -2112,7 +2116,11 @@ void PointerFilterTest::aWindowThatWasPressedDuringTheFading()
         qApp->notify(gone, &event);
     };
     desk.view->log.clear();
-    late(QEvent::MouseButtonRelease, kPress + QPoint(110, 0), Qt::RightButton, Qt::NoButton);
+    int missed = 0;
+    const Observer observer(gone, [&missed](QObject *, const QEvent *event) {
+        missed += tests::LoggingView::isInput(*event) ? 1 : 0;
+    });
+    desk.release(kPress + QPoint(110, 0));
     late(QEvent::MouseButtonPress, kPress, used, used);
     if (isDrag) {
         QCOMPARE(desk.state(), PointerFilter::State::Holding);
@@ -2131,9 +2139,61 @@ void PointerFilterTest::aWindowThatWasPressedDuringTheFading()
         QVERIFY2(seen.last().startsWith(QStringLiteral("MouseButtonRelease spontaneous at 150,150")),
                  qPrintable(seen.last()));
     }
-    desk.release(kPress + QPoint(110, 0));
     QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
     QCOMPARE(desk.tracker.commands, 1);
+    QCOMPARE(missed, 0);
+}
+
+// The window that got the press gets what follows, also over another one.
+void PointerFilterTest::aSecondButtonDuringTheFading()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    QWidget palette;
+    palette.setGeometry(desk.window.x() + 600, desk.window.y(), 100, 100);
+    palette.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&palette));
+    desk.addFilter();
+    desk.chooseSector();
+    desk.release(kPress + QPoint(110, 0));
+    QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
+    QWindow *gone = desk.tracker.overlay->windowHandle();
+    int others = 0;
+    const Observer observer(palette.windowHandle(), [&others](QObject *, const QEvent *event) {
+        others += tests::LoggingView::isInput(*event) ? 1 : 0;
+    });
+    const auto late = [gone](QEvent::Type type, QPoint global, Qt::MouseButton pressed,
+                             Qt::MouseButtons buttons) {
+        QMouseEvent event(type, gone->mapFromGlobal(global), global, pressed, buttons, Qt::NoModifier);
+        QSpontaneKeyEvent::setSpontaneous(&event);
+        qApp->notify(gone, &event);
+    };
+    const QPoint inView = desk.view->mapToGlobal(kPress);
+    const QPoint outside = palette.mapToGlobal(QPoint(50, 50));
+    desk.view->log.clear();
+    late(QEvent::MouseButtonPress, inView, Qt::LeftButton, Qt::LeftButton);
+    late(QEvent::MouseButtonPress, outside, Qt::MiddleButton, Qt::LeftButton | Qt::MiddleButton);
+    late(QEvent::MouseButtonRelease, outside, Qt::MiddleButton, Qt::LeftButton);
+    late(QEvent::MouseButtonRelease, outside, Qt::LeftButton, Qt::NoButton);
+    QCOMPARE(desk.view->log.filter(QStringLiteral("MouseButton")).size(), 4);
+    QCOMPARE(others, 0);
+
+    // A window that is no view gets its clicks, too, and another program's are nobody's here.
+    int clicks = 0;
+    const Observer onWindow(&desk.window, [&clicks](QObject *, const QEvent *event) {
+        clicks += event->type() == QEvent::MouseButtonPress ? 1 : 0;
+    });
+    const QPoint beside = desk.window.mapToGlobal(QPoint(390, 390));
+    late(QEvent::MouseButtonPress, beside, Qt::LeftButton, Qt::LeftButton);
+    late(QEvent::MouseButtonRelease, beside, Qt::LeftButton, Qt::NoButton);
+    QCOMPARE(clicks, 1);
+    const QPoint nowhere(-5000, -5000);
+    desk.view->log.clear();
+    late(QEvent::MouseButtonPress, nowhere, Qt::LeftButton, Qt::LeftButton);
+    late(QEvent::MouseButtonRelease, nowhere, Qt::LeftButton, Qt::NoButton);
+    QCOMPARE(clicks, 1);
+    QCOMPARE(others, 0);
+    QCOMPARE(desk.view->log.filter(QStringLiteral("MouseButton")), QStringList());
 }
 
 void PointerFilterTest::aWheelDuringTheFading()
@@ -2151,7 +2211,17 @@ void PointerFilterTest::aWheelDuringTheFading()
     QWheelEvent wheel(gone->mapFromGlobal(global), global, {}, QPoint(0, 120), Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
     QSpontaneKeyEvent::setSpontaneous(&wheel);
+    wheel.setTimestamp(1234);
+    ulong timestamp = 0;
+    const Observer atView(desk.view, [&timestamp](QObject *, const QEvent *event) {
+        if (event->type() == QEvent::Wheel)
+            timestamp = static_cast<const QWheelEvent *>(event)->timestamp();
+    });
+    int missed = 0;
+    const Observer observer(gone, [&missed](QObject *, const QEvent *) { ++missed; });
     qApp->notify(gone, &wheel);
+    QCOMPARE(missed, 0);
+    QCOMPARE(timestamp, ulong(1234));
     QCOMPARE(desk.view->log.filter(QStringLiteral("Wheel")),
              QStringList(QStringLiteral("Wheel spontaneous at 150,150 by 120 buttons 0")));
 }
@@ -2168,12 +2238,15 @@ void PointerFilterTest::aKeyDuringTheFading()
     QWindow *gone = desk.tracker.overlay->windowHandle();
     QVERIFY(gone && !gone->isVisible());
     desk.view->log.clear();
+    int missed = 0;
+    const Observer observer(gone, [&missed](QObject *, const QEvent *) { ++missed; });
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
         QKeyEvent key(type, Qt::Key_L, Qt::NoModifier, QStringLiteral("l"));
         QSpontaneKeyEvent::setSpontaneous(&key);
         qApp->notify(gone, &key);
     }
     QCOMPARE(desk.view->log.filter(QStringLiteral("Key")).size(), 2);
+    QCOMPARE(missed, 0);
 }
 
 // A program that counts Ctrl by itself would hold it for ever.
@@ -2190,6 +2263,10 @@ void PointerFilterTest::aKeyOfBeforeIsReleasedInTheProgram()
     QVERIFY(overlay.isOn);
     overlay.grabKeyboard();
     desk.view->log.clear();
+    int releases = 0; // that the overlay gets
+    const Observer observer(&overlay, [&releases](QObject *, const QEvent *event) {
+        releases += event->type() == QEvent::KeyRelease ? 1 : 0;
+    });
     QTest::keyPress(overlay.windowHandle(), Qt::Key_B); // the overlay's
     QTest::keyRelease(overlay.windowHandle(), Qt::Key_B);
     QCOMPARE(desk.view->log, QStringList());
@@ -2199,9 +2276,36 @@ void PointerFilterTest::aKeyOfBeforeIsReleasedInTheProgram()
     QTest::keyPress(overlay.windowHandle(), Qt::Key_A); // again: the overlay's
     QTest::keyRelease(overlay.windowHandle(), Qt::Key_A);
     QCOMPARE(desk.view->log.size(), 1);
+    QCOMPARE(releases, 3);
     overlay.releaseKeyboard();
     desk.release(kPress + QPoint(30, 0));
     QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+// Then Qt gives it to the program, or to whom the keyboard belongs.
+void PointerFilterTest::aKeyThatIsNotTheOverlaysIsReleasedOnce()
+{
+    for (const bool isGrabbed : {false, true}) {
+        Desk desk;
+        QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+        desk.tracker.showsOverlay = isGrabbed;
+        desk.addFilter();
+        desk.view->setFocus();
+        QTest::keyPress(desk.window.windowHandle(), Qt::Key_A);
+        desk.press(kPress);
+        desk.move(kPress + QPoint(30, 0));
+        QCOMPARE(desk.state(), PointerFilter::State::Gesturing);
+        tests::LoggingView other(&desk.window);
+        if (isGrabbed)
+            other.grabKeyboard();
+        desk.view->log.clear();
+        QTest::keyRelease(desk.window.windowHandle(), Qt::Key_A);
+        QCOMPARE(desk.view->log.filter(QStringLiteral("Key")).size(), isGrabbed ? 0 : 1);
+        QCOMPARE(other.log.filter(QStringLiteral("Key")).size(), isGrabbed ? 1 : 0);
+        other.releaseKeyboard();
+        desk.release(kPress + QPoint(30, 0));
+        QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
+    }
 }
 
 void PointerFilterTest::aGestureGivesTheFocusOfAClick_data()
@@ -2213,6 +2317,7 @@ void PointerFilterTest::aGestureGivesTheFocusOfAClick_data()
     QTest::newRow("view by wheel too") << int(Qt::WheelFocus) << int(Qt::NoFocus);
     QTest::newRow("what is around the view") << int(Qt::NoFocus) << int(Qt::StrongFocus);
     QTest::newRow("not by the Tab key alone") << int(Qt::TabFocus) << int(Qt::StrongFocus);
+    QTest::newRow("the view before what is around it") << int(Qt::ClickFocus) << int(Qt::StrongFocus);
     QTest::newRow("none") << int(Qt::NoFocus) << int(Qt::NoFocus);
 }
 
@@ -2256,6 +2361,48 @@ void PointerFilterTest::aGestureGivesTheFocusOfAClick()
         QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
         QCOMPARE(desk.window.focusWidget(), byClick);
     }
+}
+
+// Neither does a click take the focus from a widget that does not get it by clicks.
+void PointerFilterTest::aGestureLeavesTheFocusOfItsView()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.window.setFocusPolicy(Qt::StrongFocus);
+    desk.view->setFocusPolicy(Qt::NoFocus);
+    desk.window.activateWindow();
+    QTRY_VERIFY(desk.window.isActiveWindow());
+    desk.view->setFocus();
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    QVERIFY(desk.tracker.overlay->isOn);
+    QCOMPARE(desk.window.focusWidget(), desk.view);
+    desk.release(kPress + QPoint(30, 0));
+    QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+void PointerFilterTest::aGestureInAWindowOfItsOwnLeavesTheOther()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    QWidget main;
+    main.setFocusPolicy(Qt::StrongFocus);
+    desk.view->setFocusPolicy(Qt::NoFocus);
+    desk.window.setParent(&main, Qt::Tool);
+    desk.window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    QLineEdit other(&main);
+    other.setFocus();
+    QCOMPARE(main.focusWidget(), &other);
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    QVERIFY(desk.tracker.overlay->isOn);
+    QCOMPARE(main.focusWidget(), &other);
+    desk.release(kPress + QPoint(30, 0));
+    QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
+    desk.window.setParent(nullptr);
 }
 
 // As in LibreCAD, where the view does not take the focus, but the window around it does.
