@@ -18,30 +18,34 @@ namespace {
 constexpr int kLongest = 100;
 constexpr int kPause = 1;
 
-bool isOnItsWay()
-{
-    // Other platforms tell of the focus at once, or keep it with a window that has gone.
-    const QWindow *window = QGuiApplication::focusWindow();
-    return (!window || !window->isVisible()) && QGuiApplication::platformName() == QLatin1String("xcb");
-}
-
-void look(QObject &context, const std::function<void()> &run, QElapsedTimer since)
+void look(QObject &context, const std::function<void()> &run, const std::function<bool()> &isOnItsWay,
+          QElapsedTimer since)
 {
     const OwnCode ours;
-    if (!isOnItsWay() || since.elapsed() >= kLongest)
+    if (!isOnItsWay() || since.elapsed() >= kLongest) {
         run();
-    else
-        QTimer::singleShot(kPause, &context, [&context, run, since] { look(context, run, since); });
+        return;
+    }
+    QTimer::singleShot(kPause, &context,
+                       [&context, run, isOnItsWay, since] { look(context, run, isOnItsWay, since); });
 }
 
 } // namespace
 
-void whenFocusIsBack(QObject &context, const std::function<void()> &run)
+bool isFocusOnItsWay()
+{
+    const QWindow *window = QGuiApplication::focusWindow();
+    return (!window || !window->isVisible()) && QGuiApplication::platformName() == QLatin1String("xcb");
+}
+
+void whenFocusIsBack(QObject &context, const std::function<void()> &run,
+                     const std::function<bool()> &isOnItsWay)
 {
     QElapsedTimer since;
     since.start();
     QMetaObject::invokeMethod(
-        &context, [&context, run, since] { look(context, run, since); }, Qt::QueuedConnection);
+        &context, [&context, run, isOnItsWay, since] { look(context, run, isOnItsWay, since); },
+        Qt::QueuedConnection);
 }
 
 } // namespace gesturewidget
