@@ -286,8 +286,7 @@ bool MgDonutDialogPVStyleImpl::event(QEvent *event)
     // A blocked or disabled ring would never see the release, and its grab would keep the mouse from
     // the modal window.
     const QPointer<MgDonutDialogPVStyleImpl> self = this;
-    const bool isDisabled = event->type() == QEvent::EnabledChange && !isEnabled();
-    if (gesturing && (event->type() == QEvent::WindowBlocked || isDisabled))
+    if (gesturing && (event->type() == QEvent::WindowBlocked || !isEnabled()))
         StopGesturing(false);
     return self ? MgDonutDialog::event(event) : true;
 }
