@@ -6,7 +6,6 @@
 #include "sdk/OwnCode.h"
 
 #include <QElapsedTimer>
-#include <QGuiApplication>
 #include <QTimer>
 #include <QWindow>
 
@@ -32,10 +31,10 @@ void look(QObject &context, const std::function<void()> &run, const std::functio
 
 } // namespace
 
-bool isFocusOnItsWay()
+bool isFocusOnItsWay(const QString &platform)
 {
     const QWindow *window = QGuiApplication::focusWindow();
-    return (!window || !window->isVisible()) && QGuiApplication::platformName() == QLatin1String("xcb");
+    return (!window || !window->isVisible()) && platform == QLatin1String("xcb");
 }
 
 void whenFocusIsBack(QObject &context, const std::function<void()> &run,

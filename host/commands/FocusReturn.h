@@ -3,7 +3,8 @@
 
 #pragma once
 
-#include <QtGlobal>
+#include <QGuiApplication>
+#include <QString>
 
 #include <functional>
 
@@ -13,7 +14,7 @@ namespace gesturewidget {
 
 // True on X11 if no visible window has the focus. Other platforms tell of the focus at once, or keep it
 // with a window that has gone.
-[[nodiscard]] bool isFocusOnItsWay();
+[[nodiscard]] bool isFocusOnItsWay(const QString &platform = QGuiApplication::platformName());
 
 // Calls `run` from the event loop, unless `context` is gone by then.
 //
@@ -21,7 +22,8 @@ namespace gesturewidget {
 // X server's word comes that the focus is back. A command that runs before that finds the ring: a
 // dialog would belong to it, and "Copy" would find no text. So this waits until a visible window has the
 // focus, at most 100 ms: the focus may be another program's. `isOnItsWay` says whether to wait.
-void whenFocusIsBack(QObject &context, const std::function<void()> &run,
-                     const std::function<bool()> &isOnItsWay = isFocusOnItsWay);
+void whenFocusIsBack(
+    QObject &context, const std::function<void()> &run,
+    const std::function<bool()> &isOnItsWay = [] { return isFocusOnItsWay(); });
 
 } // namespace gesturewidget

@@ -5,6 +5,7 @@
 
 #include <QElapsedTimer>
 #include <QTest>
+#include <QWindow>
 
 #include <memory>
 
@@ -17,6 +18,7 @@ class FocusReturnTest : public QObject
 
 private Q_SLOTS:
     void onlyX11Waits();
+    void aWindowThatHasGoneHasNoFocus();
     void runsAtOnceWhenTheFocusIsThere();
     void waitsUntilTheFocusIsThere();
     void waitsNotForEver();
@@ -28,6 +30,19 @@ void FocusReturnTest::onlyX11Waits()
     QVERIFY(QGuiApplication::platformName() != QLatin1String("xcb"));
     QVERIFY(!QGuiApplication::focusWindow());
     QVERIFY(!isFocusOnItsWay());
+    QVERIFY(isFocusOnItsWay(QStringLiteral("xcb")));
+    QVERIFY(!isFocusOnItsWay(QStringLiteral("wayland")));
+}
+
+void FocusReturnTest::aWindowThatHasGoneHasNoFocus()
+{
+    QWindow window;
+    window.show();
+    window.requestActivate();
+    QTRY_COMPARE(QGuiApplication::focusWindow(), &window);
+    QVERIFY(!isFocusOnItsWay(QStringLiteral("xcb")));
+    window.hide();
+    QVERIFY(isFocusOnItsWay(QStringLiteral("xcb")));
 }
 
 void FocusReturnTest::runsAtOnceWhenTheFocusIsThere()
