@@ -12,6 +12,7 @@
 #include <utility>
 
 namespace gesturewidget {
+
 HeldInput::HeldInput() = default;
 HeldInput::~HeldInput() = default;
 

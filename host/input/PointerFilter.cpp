@@ -13,7 +13,6 @@
 #include <QApplication>
 #include <QCursor>
 #include <QMouseEvent>
-#include <QtTest/qtestspontaneevent.h>
 
 namespace gesturewidget {
 namespace {
@@ -21,6 +20,11 @@ namespace {
 bool isPress(const QMouseEvent &event)
 {
     return event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick;
+}
+
+bool isFirstPress(const QMouseEvent &event)
+{
+    return isPress(event) && event.buttons() == Qt::MouseButtons(event.button());
 }
 
 HitTest::Kind kindOf(const QMouseEvent &event)
@@ -155,7 +159,7 @@ bool PointerFilter::filterWindow(QWindow *window, const QMouseEvent &event)
             return false;
     }
     if (isLateOverlay(window)) {
-        if (isPress(event) && event.buttons() == Qt::MouseButtons(event.button()))
+        if (isFirstPress(event))
             m_nextWindow = windowAt(qtbridge::globalPosition(event));
         if (m_nextWindow) {
             readdress(event, m_nextWindow);
@@ -321,10 +325,7 @@ void PointerFilter::tellRelease(const QKeyEvent &event)
     if (!view)
         return;
     QWidget *focus = view->window()->focusWidget();
-    const std::unique_ptr<QKeyEvent> copy = qtbridge::copyOf(event);
-    QSpontaneKeyEvent::setSpontaneous(copy.get());
-    const ProgramCode theirs;
-    qApp->notify(focus ? focus : view, copy.get());
+    sendAsInput(focus ? *focus : *view, *qtbridge::copyOf(event));
 }
 
 bool PointerFilter::filterWheel(QWindow *window, const QWheelEvent &event)
@@ -468,9 +469,8 @@ void PointerFilter::stopOverlay()
 bool PointerFilter::filterSwallowing(QWindow *window, const QMouseEvent &event)
 {
     // The last release may have gone to another program. The first event afterwards shows it.
-    const bool isFirstPress = isPress(event) && event.buttons() == Qt::MouseButtons(event.button());
     const bool isHovering = event.type() == QEvent::MouseMove && event.buttons() == Qt::NoButton;
-    if (isFirstPress || isHovering) {
+    if (isFirstPress(event) || isHovering) {
         m_state = State::Idle;
         return filterWindow(window, event);
     }

@@ -79,9 +79,10 @@ private:
     bool filterHolding(QWindow *window, const QMouseEvent &event);
     bool filterGesturing(QWindow *window, const QMouseEvent &event);
     bool filterSwallowing(QWindow *window, const QMouseEvent &event);
-    // Notes which keys are down, and holds keys back while Holding.
+    // Notes which keys are down, holds keys back while Holding, and passes on those that come to an
+    // overlay that has gone.
     bool filterKey(QWindow *window, const QKeyEvent &event);
-    // Holds the wheel back while Holding.
+    // The same for the wheel.
     bool filterWheel(QWindow *window, const QWheelEvent &event);
     // True for the window of an overlay that has gone, if input still comes to it.
     [[nodiscard]] bool isLateOverlay(const QWindow *window) const;
@@ -118,7 +119,7 @@ private:
     HeldKeys m_keysOfPress; // down when the press was held, and not released since the overlay came
     Document *m_document = nullptr; // of the press, while Holding and Gesturing
     QPoint m_pressPosition; // global
-    QPointer<QWindow> m_pressWindow;
+    QPointer<QWindow> m_pressWindow; // of the last press that was held
     QPointer<QWidget> m_overlay; // what took the mouse when the gesture began
     bool m_overlayCame = false;
     QPointer<QWindow> m_overlayWindow; // of the last overlay, also after the gesture

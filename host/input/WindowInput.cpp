@@ -31,16 +31,22 @@ bool isBlockedByModal(const QWindow *window)
 
 } // namespace
 
+void sendAsInput(QObject &receiver, QInputEvent &event)
+{
+    // Do not use sendEvent(), which marks the event as the program's own. A copy does not have the
+    // window system's mark on Qt 6.
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    const ProgramCode theirs;
+    qApp->notify(&receiver, &event);
+}
+
 void sendToWindow(QWindow *window, QInputEvent &event)
 {
-    // Do not use sendEvent(), which marks the event as the program's own. Qt notes the pressed
-    // buttons from window-system events, so events that the program must not get go to an
-    // object that ignores them. A copy does not have the mark on Qt 6.
-    QSpontaneKeyEvent::setSpontaneous(&event);
+    // Qt notes the pressed buttons from window-system events, so events that the program must not
+    // get go to an object that ignores them.
     QObject nobody;
     const bool isLost = !window || isBlockedByModal(window);
-    const ProgramCode theirs;
-    qApp->notify(isLost ? &nobody : window, &event);
+    sendAsInput(isLost ? nobody : *window, event);
 }
 
 void readdress(const QMouseEvent &event, QWindow *window)

@@ -11,10 +11,13 @@
 
 namespace gesturewidget {
 
-// Sends input to windows as if it came from the window system just then.
+// Sends input as if it came from the window system just then. The program may run event loops meanwhile.
 
-// Sends `event` as it is. Like the window system's own, it does not arrive at a window that is blocked
-// by a modal one. The program may run event loops meanwhile.
+// Sends `event` as it is, to a window or a widget.
+void sendAsInput(QObject &receiver, QInputEvent &event);
+
+// The same for a window that may be null. Like the window system's own input, it does not arrive at a
+// window that is blocked by a modal one.
 void sendToWindow(QWindow *window, QInputEvent &event);
 
 // Sends a copy to a window that the event was not addressed to. `window` is not null. The copy goes

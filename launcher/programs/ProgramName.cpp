@@ -9,6 +9,8 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
+#include <elf.h>
+
 namespace launcher {
 namespace {
 
@@ -26,7 +28,7 @@ QByteArray beginningOf(const QString &path)
 
 bool isElf(const QByteArray &beginning)
 {
-    return beginning.startsWith("\x7f\x45LF"); // "ELF"; E alone would count as a hexadecimal digit
+    return beginning.startsWith(ELFMAG);
 }
 
 // Returns the name of the file that runs a script: "python3" for "#!/usr/bin/env python3". The shell

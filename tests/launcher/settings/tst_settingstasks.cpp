@@ -76,6 +76,18 @@ private Q_SLOTS:
 
 private:
     SettingsTasks tasks() const { return SettingsTasks(kProgram, m_file); }
+    // Where an administrator has this settings file.
+    SettingsTasks tasksUnder(const QByteArray &site)
+    {
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(place("own")));
+        qputenv("XDG_CONFIG_DIRS", QFile::encodeName(place("site")));
+        m_file = gesturewidget::settingsFile(kProgram);
+        write(place("site/gesturewidget/drafter.ini"), site);
+        SettingsTasks tasks(kProgram, m_file);
+        qunsetenv("XDG_CONFIG_HOME");
+        qunsetenv("XDG_CONFIG_DIRS");
+        return tasks;
+    }
     Bindings kept() const { return Bindings::fromSettings(SettingsFile(m_file).read()); }
     QString m_file;
     QString m_export;
@@ -411,14 +423,8 @@ void SettingsTasksTest::resetKeepsTheTrigger()
 
 void SettingsTasksTest::theAdministratorsSettings()
 {
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(place("own")));
-    qputenv("XDG_CONFIG_DIRS", QFile::encodeName(place("site")));
-    m_file = gesturewidget::settingsFile(kProgram);
-    write(place("site/gesturewidget/drafter.ini"),
-          "[GestureWidget]\nActiveScheme=4\n41=siteLine\n[Host]\nTrigger=ctrl+right\n");
-    SettingsTasks tasks(kProgram, m_file);
-    qunsetenv("XDG_CONFIG_HOME");
-    qunsetenv("XDG_CONFIG_DIRS");
+    SettingsTasks tasks =
+        tasksUnder("[GestureWidget]\nActiveScheme=4\n41=siteLine\n[Host]\nTrigger=ctrl+right\n");
     const QByteArray shown = tasks.showBindings().output;
     QVERIFY2(shown.contains("started with: ctrl+right\n4 gestures (in use)\n  up         siteLine\n"),
              shown.constData());
@@ -455,14 +461,8 @@ void SettingsTasksTest::theAdministratorsSettings()
 
 void SettingsTasksTest::aTaskLeavesTheAdministratorsRingAndTakesItBack()
 {
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(place("own")));
-    qputenv("XDG_CONFIG_DIRS", QFile::encodeName(place("site")));
-    m_file = gesturewidget::settingsFile(kProgram);
-    write(place("site/gesturewidget/drafter.ini"),
-          "[GestureWidget]\n81=siteShared\n[Ring%20Sketch]\nOwn=Sketch\n81=siteUp\n83=siteLeft\n");
-    SettingsTasks tasks(kProgram, m_file);
-    qunsetenv("XDG_CONFIG_HOME");
-    qunsetenv("XDG_CONFIG_DIRS");
+    SettingsTasks tasks = tasksUnder(
+        "[GestureWidget]\n81=siteShared\n[Ring%20Sketch]\nOwn=Sketch\n81=siteUp\n83=siteLeft\n");
     const QString task = text("Sketch");
     const QHash<QString, QString> first{{text("81"), text("Sketch_Line")}};
     const auto written = [this] {
