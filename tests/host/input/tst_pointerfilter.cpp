@@ -77,8 +77,11 @@ private:
     int m_count = 0;
 };
 
-const QList<QEvent::Type> kMouseEvents{QEvent::MouseMove, QEvent::MouseButtonPress,
-                                       QEvent::MouseButtonRelease, QEvent::MouseButtonDblClick};
+QList<QEvent::Type> mouseEvents()
+{
+    return {QEvent::MouseMove, QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
+            QEvent::MouseButtonDblClick};
+}
 
 // A tracker that a test may let do anything.
 class FreeTracker : public CHxTracker
@@ -2103,7 +2106,7 @@ void PointerFilterTest::anOverlayGetsWhatCameToAWindowWithoutAWidget()
     QTest::mousePress(bare, Qt::RightButton, {}, kPress);
     QTest::mouseMove(bare, kPress + QPoint(30, 0));
     QVERIFY(desk.tracker.overlay->isOn);
-    const Counter others(bare, kMouseEvents);
+    const Counter others(bare, mouseEvents());
     QTest::mouseMove(bare, kPress + QPoint(40, 0));
     QTest::mouseRelease(bare, Qt::RightButton, {}, kPress + QPoint(40, 0));
     QCOMPARE(desk.tracker.overlay->log,
@@ -2177,7 +2180,7 @@ void PointerFilterTest::aSecondButtonDuringTheFading()
     desk.chooseSector();
     desk.release(kPress + QPoint(110, 0));
     QTRY_COMPARE(desk.state(), PointerFilter::State::Idle);
-    const Counter others(palette.windowHandle(), kMouseEvents);
+    const Counter others(palette.windowHandle(), mouseEvents());
     const QPoint inView = desk.view->mapToGlobal(kPress);
     const QPoint outside = palette.mapToGlobal(QPoint(50, 50));
     desk.view->log.clear();
