@@ -102,6 +102,28 @@ class Flakes(unittest.TestCase):
         _, lines = self.flakes("--continue", "--results", results, "--minutes", "0.000001")
         self.assertIn("0 of 0 runs failed", lines[-1])
 
+    def test_other_tests_of_a_script_may_change(self):
+        script = self.build / "many.py"
+        results = self.build / "kept.json"
+        (self.build / "CTestTestfile.cmake").write_text("".join(
+            f'add_test({name} "{sys.executable}" "-B" "{script}" "{name}")\n'
+            for name in ("first", "second")), encoding="utf-8")
+        source = ("{shared}\n"
+                  "class Tests:\n"
+                  "    @staticmethod\n"
+                  "    def test_first():\n"
+                  "        print({first})\n"
+                  "\n"
+                  "    def test_second(self):\n"
+                  "        print({second})\n")
+        values = {"shared": "", "first": 1, "second": 2}
+        script.write_text(source.format(**values), encoding="utf-8")
+        self.flakes("--results", results)
+        for change, kept in (({"first": 3}, 1), ({"second": 4}, 1), ({"shared": "import sys"}, 0)):
+            script.write_text(source.format(**values | change), encoding="utf-8")
+            _, lines = self.flakes("--continue", "--results", results, "--minutes", "0.000001")
+            self.assertIn(f"{kept} of 2 tests 2 times quiet, {kept} of them 2 times beside", lines[-1])
+
     def test_the_results_have_lines_of_their_own(self):
         self.offer(good="true", bad="false")
         results = self.build / "kept.json"
