@@ -218,8 +218,14 @@ Outcome SettingsTasks::edit(const std::function<QString(Bindings &)> &edit, Sett
             return {};
         change = changeBetween(before, after);
         change.task = m_task;
-        const SettingsFile::Values changes = after.changesFrom(now);
-        return m_task.isEmpty() ? changes : ringsettings::movedTo(changes, m_task);
+        SettingsFile::Values changes = after.changesFrom(now);
+        if (!m_task.isEmpty())
+            changes = ringsettings::movedTo(changes, m_task);
+        for (auto it = changes.begin(); it != changes.end(); ++it) {
+            if (m_site.values().contains(it.key()) && m_site.values().value(it.key()) == it.value())
+                it.value() = QString(); // the administrator's counts, also when that changes
+        }
+        return changes;
     });
     if (!complaint.isEmpty())
         return Outcome::failure(complaint);
@@ -362,7 +368,9 @@ Outcome SettingsTasks::resetRing(const QHash<QString, QString> &first, SettingsC
         [&](Bindings &ring) -> QString {
             const SettingsFile::Values shared = ringOf({}).toSettings();
             // The section of a task is used to see what a new ring would have.
-            const SettingsFile::Values fresh = ringsettings::ownRing({}, m_task, first, shared);
+            const SettingsFile::Values fresh = ringsettings::hasOwnRing(m_site.values(), m_task)
+                                                 ? m_site.values()
+                                                 : ringsettings::ownRing({}, m_task, first, shared);
             const Bindings wanted = Bindings::fromSettings(ringsettings::seenIn(fresh, m_task));
             ring.scheme = wanted.scheme;
             ring.four = wanted.four;

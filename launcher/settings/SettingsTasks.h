@@ -72,7 +72,8 @@ public:
     [[nodiscard]] Outcome setRing(const QString &task, bool isOwn, const QHash<QString, QString> &first);
     // Brings back all fourteen initial values, which are the administrator's where there are some.
     // The trigger stays; the output says so. With a task, brings back the first bindings of its ring:
-    // `first`, see setRing(), and the shared ring's where those are missing.
+    // those of a ring that the administrator gave it, else `first`, see setRing(), and the shared ring's
+    // where those are missing.
     [[nodiscard]] Outcome reset(SettingsChange *made = nullptr,
                                 const QHash<QString, QString> &first = {});
     // Switches gestures on: in the settings, and after the program has crashed in their code.

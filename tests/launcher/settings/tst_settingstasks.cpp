@@ -60,6 +60,7 @@ private Q_SLOTS:
     void otherProgramsValuesStay();
     void resetKeepsTheTrigger();
     void theAdministratorsSettings();
+    void resettingATaskBringsTheAdministratorsRing();
     void aTaskLeavesTheAdministratorsRingAndTakesItBack();
     void badInputChangesNothing_data();
     void badInputChangesNothing();
@@ -457,6 +458,23 @@ void SettingsTasksTest::theAdministratorsSettings()
     tasks.setTask(text("Sketch"));
     QCOMPARE(tasks.bindings().four.first(), text("siteLine"));
     QCOMPARE(tasks.bindings().scheme, 4);
+}
+
+void SettingsTasksTest::resettingATaskBringsTheAdministratorsRing()
+{
+    SettingsTasks tasks = tasksUnder(
+        "[GestureWidget]\n81=siteShared\n[Ring%20Sketch]\nOwn=Sketch\n81=siteUp\n83=siteLeft\n");
+    tasks.setTask(text("Sketch"));
+    QVERIFY(tasks.bind(text("left"), text("mine")).isDone());
+    QVERIFY(tasks.bind(text("down"), text("other")).isDone());
+    QVERIFY(tasks.reset(nullptr, {{text("81"), text("Sketch_Line")}}).isDone());
+    QCOMPARE(tasks.bindings().eight.at(0), text("siteUp"));
+    QCOMPARE(tasks.bindings().eight.at(2), text("siteLeft"));
+
+    // What the administrator changes later counts, too.
+    const QStringList written = SettingsFile(m_file).read().keys();
+    QVERIFY2(!written.contains(text("Ring Sketch/81")), qPrintable(written.join(text(" "))));
+    QVERIFY2(!written.contains(text("Ring Sketch/83")), qPrintable(written.join(text(" "))));
 }
 
 void SettingsTasksTest::aTaskLeavesTheAdministratorsRingAndTakesItBack()
