@@ -81,7 +81,10 @@ CHxCommandResultPtr CommandRunner::run(const QString &command, bool wait)
     if (wait)
         execute(command);
     else
-        queue([this, command] { execute(command); });
+        queue([this, command, drops = m_drops] {
+            if (drops == m_drops)
+                execute(command);
+        });
     return result;
 }
 

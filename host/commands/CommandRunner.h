@@ -42,6 +42,9 @@ public:
     // was found.
     CHxCommandResultPtr run(const QString &command, bool wait);
 
+    // Forgets the commands of run() that wait for the event loop.
+    void dropWaiting() { ++m_drops; }
+
     // Runs a command of the command stack from the event loop.
     void runStackCommand(const QString &name);
 
@@ -69,6 +72,7 @@ private:
     TextOutput &m_output;
     CHxDocumentManager *m_documents;
     MainWindows *m_windows;
+    unsigned m_drops = 0; // of waiting commands
     std::vector<const OdEdCommand *> m_running; // commands of the stack that have not returned
 };
 

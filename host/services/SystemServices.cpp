@@ -301,6 +301,11 @@ CHxCommandResultPtr SystemServices::RunCommand(const CHxString &command, bool wa
     return m_d->runner.run(command.toQString(), wait);
 }
 
+void SystemServices::dropWaitingCommands()
+{
+    m_d->runner.dropWaiting();
+}
+
 bool SystemServices::UsesLargeIcons() const
 {
     const auto *window = qobject_cast<const QMainWindow *>(m_d->windows.current());

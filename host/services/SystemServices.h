@@ -67,6 +67,8 @@ public:
     [[nodiscard]] CHxUIMenuItemCollection *GetMenuItems() override;
 
     CHxCommandResultPtr RunCommand(const CHxString &command, bool wait) override;
+    // Forgets the commands of RunCommand() that wait for the event loop.
+    void dropWaitingCommands();
 
     // True if the current window's icons are 32 pixels high or more.
     [[nodiscard]] bool UsesLargeIcons() const override;

@@ -142,6 +142,12 @@ void HostSession::makeParts(const ProgramProfile &profile)
         m_documents, m_triggerChoice->trigger(), [this](const QWidget *view) {
             return hasItsCommands(view) && areGesturesOn(m_services->GetProfileStore());
         });
+    m_monitorChanges = std::make_unique<MonitorChanges>();
+    connect(m_monitorChanges.get(), &MonitorChanges::changed, this, [this] {
+        // The pointer's jump may have chosen a command that nobody meant.
+        m_pointerFilter->cancel();
+        m_services->dropWaitingCommands();
+    });
     m_viewFinder =
         std::make_unique<ViewFinder>(profile.viewClasses, m_options.guesses && m_addedViews.isEmpty());
     connect(m_viewFinder.get(), &ViewFinder::viewFound, this, &HostSession::openView);

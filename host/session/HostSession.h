@@ -15,6 +15,7 @@
 #include "host/session/TriggerChoice.h"
 #include "host/session/WindowFinder.h"
 #include "host/window/MenuReadiness.h"
+#include "host/window/MonitorChanges.h"
 
 #include <QMainWindow>
 #include <QObject>
@@ -102,6 +103,7 @@ private:
     ModuleLoader m_loader;
     std::unique_ptr<TriggerChoice> m_triggerChoice;
     std::unique_ptr<PointerFilter> m_pointerFilter;
+    std::unique_ptr<MonitorChanges> m_monitorChanges;
     std::unique_ptr<ViewFinder> m_viewFinder;
     std::unique_ptr<WindowFinder> m_windowFinder;
     std::unique_ptr<Explanation> m_explanation; // null unless somebody asked for it

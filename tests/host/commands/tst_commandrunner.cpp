@@ -121,6 +121,7 @@ private Q_SLOTS:
     void withoutWaitingItRunsFromTheEventLoop();
     void whatVanishesBeforeItRunsIsSaid();
     void aRunnerThatEndsRunsNothing();
+    void waitingCommandsMayBeDropped();
     void aQueuedCommandRunsInItsWindow();
     void aQueuedCommandGoesWithItsWindow();
     void cancellingMayEndTheView();
@@ -410,6 +411,21 @@ void CommandRunnerTest::aRunnerThatEndsRunsNothing()
     m_runner.reset();
     QCoreApplication::processEvents();
     QCOMPARE(m_command->runs, 0);
+}
+
+void CommandRunnerTest::waitingCommandsMayBeDropped()
+{
+    QVERIFY(run("^C^C_GESTURE", false));
+    m_runner->dropWaiting();
+    QCoreApplication::processEvents();
+    QCOMPARE(m_command->runs, 0);
+
+    QVERIFY(run("^C^C_GESTURE", false)); // a later one
+    QTRY_COMPARE(m_command->runs, 1);
+
+    m_runner->runStackCommand(QStringLiteral("GESTURE")); // a typed one is not dropped
+    m_runner->dropWaiting();
+    QTRY_COMPARE(m_command->runs, 2);
 }
 
 void CommandRunnerTest::aQueuedCommandRunsInItsWindow()
