@@ -491,6 +491,14 @@ void PointerFilter::cancel()
     }
 }
 
+void PointerFilter::pointerJumped()
+{
+    if (m_state == State::Holding)
+        queue(&PointerFilter::giveBack);
+    else
+        cancel();
+}
+
 void PointerFilter::noteWindowEvent(QObject *receiver, QEvent::Type type)
 {
     const auto *widget = static_cast<const QWidget *>(receiver);

@@ -54,6 +54,9 @@ public:
     // Ends the current state immediately: drops held events, sends an overlay the release that
     // stops it, and tells the trackers about the end.
     void cancel();
+    // Nobody has moved the pointer: ends a gesture. A press that is held goes to the program, from the
+    // event loop.
+    void pointerJumped();
 
     bool eventFilter(QObject *receiver, QEvent *event) override;
 

@@ -145,7 +145,7 @@ void HostSession::makeParts(const ProgramProfile &profile)
     m_monitorChanges = std::make_unique<MonitorChanges>();
     connect(m_monitorChanges.get(), &MonitorChanges::changed, this, [this] {
         // The pointer's jump may have chosen a command that nobody meant.
-        m_pointerFilter->cancel();
+        m_pointerFilter->pointerJumped();
         m_services->dropWaitingCommands();
     });
     m_viewFinder =

@@ -305,6 +305,8 @@ private Q_SLOTS:
     void windowHiddenDuringTheGesture();
     void dialogDuringTheGestureCancels();
     void cancelLeavesNothingGrabbed();
+    void aJumpOfThePointerEndsTheGesture();
+    void aJumpOfThePointerGivesBack();
     void cancelKeepsNoKeys();
     void overlayThatIgnoresTheReleaseIsForcedToLetGo();
     void overlayThatLosesTheMouseIsStopped();
@@ -1626,6 +1628,41 @@ void PointerFilterTest::cancelLeavesNothingGrabbed()
     QCOMPARE(desk.tracker.stops, 1);
     desk.release(kPress);
     QCOMPARE(desk.state(), PointerFilter::State::Idle);
+}
+
+void PointerFilterTest::aJumpOfThePointerEndsTheGesture()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.filter->pointerJumped();
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+
+    desk.view->log.clear();
+    desk.press(kPress);
+    desk.move(kPress + QPoint(30, 0));
+    desk.filter->pointerJumped();
+    QVERIFY(!QWidget::mouseGrabber());
+    QCOMPARE(desk.tracker.stops, 1);
+    desk.release(kPress);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    QCOMPARE(desk.view->log.filter(QStringLiteral("MouseButton")), QStringList());
+}
+
+void PointerFilterTest::aJumpOfThePointerGivesBack()
+{
+    Desk desk;
+    QVERIFY(QTest::qWaitForWindowExposed(&desk.window));
+    desk.addFilter();
+    desk.view->log.clear();
+    desk.press(kPress);
+    desk.filter->pointerJumped();
+    // Not during the call: the program may end the window.
+    QCOMPARE(desk.view->log.filter(QStringLiteral("MouseButton")), QStringList());
+    QTRY_COMPARE(desk.view->log.filter(QStringLiteral("MouseButtonPress")).size(), 1);
+    QCOMPARE(desk.state(), PointerFilter::State::Idle);
+    desk.release(kPress);
+    QCOMPARE(desk.view->log.filter(QStringLiteral("MouseButtonRelease")).size(), 1);
 }
 
 void PointerFilterTest::cancelKeepsNoKeys()
